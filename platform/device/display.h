@@ -1,0 +1,132 @@
+/**
+ * @file
+ * The desk's side of the emulated picture-layer service: making displays, looking at what they
+ * show, counting what the plugin does to them and letting calls fail. The plugin never sees it.
+ */
+#ifndef TORV_DISPLAY_H
+#define TORV_DISPLAY_H
+
+#include "torvsdk.h"
+
+#include <QImage>
+#include <QList>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+namespace Torv {
+
+/** The nine calls of the service, in the order of torvsdk.h. */
+enum Operation {
+    OpCreatePictureSession,
+    OpAddPictureSession,
+    OpPicAppendImageLayer,
+    OpGetPicImageLayerPtr,
+    OpSwapPicImageLayerPtr,
+    OpSetPicLayerBlend,
+    OpRemovePictureSession,
+    OpFreePictureSession,
+    OpGeteffectDuration,
+    OperationCount
+};
+
+/** The name of the SDK function. */
+const char* OperationName(Operation operation);
+
+/** What the service holds and what it has been asked wrongly; see Accounts(). */
+struct Accounting {
+    int liveSessions;        ///< created and not freed
+    int liveLayers;          ///< of all live sessions
+    qint64 liveBytes;        ///< of all live layers, both buffers
+    qint64 peakBytes;        ///< the most that liveBytes has been since ResetAccounts()
+    qint64 calls[OperationCount];
+    qint64 zeroHandle;       ///< calls with session 0
+    qint64 staleHandle;      ///< calls with a session that was freed or never made
+    qint64 wrongDisplay;     ///< calls with a display that the session is not on
+    qint64 badLayer;         ///< calls with a layer that the session does not have
+    qint64 badArgument;      ///< null records, sizes that do not fit together, unknown modes
+    qint64 injectedFaults;   ///< calls that failed on demand
+
+    /** The sum of the misuse counters; injected faults are none. */
+    qint64 Misuses() const
+    {
+        return zeroHandle + staleHandle + wrongDisplay + badLayer + badArgument;
+    }
+};
+
+Accounting Accounts();
+
+/** Zeroes every counter; live sessions, layers and bytes stay as they are. */
+void ResetAccounts();
+
+/** A few lines for a person: what is live, the calls, the misuses. */
+QString AccountsReport();
+
+/** Lets the @p nth call (1 is the next one) of @p operation fail once; 0 takes the fault back. */
+void FailCall(Operation operation, int nth);
+
+/** Lets every call of @p operation fail until told otherwise. */
+void FailAllCalls(Operation operation, bool fail);
+
+/** Takes back every fault that has been asked for. */
+void ClearFaults();
+
+/** Is told of every call, once it has been answered; @p jsonLine is one JSON object. */
+typedef void (*CallLog)(void* context, const QString& jsonLine);
+
+/** Sends every call to @p log (null: none). */
+void SetCallLog(CallLog log, void* context);
+
+/** The display's time in milliseconds. */
+typedef qint64 (*Clock)(void* context);
+
+/** Where sessions take the time at which their scrolling begins; null: it stands at 0. */
+void SetClock(Clock clock, void* context);
+
+/** One emulated display output. Not copyable; its sessions outlive it but are shown no more. */
+class Display
+{
+public:
+    /** @param size in pixels */
+    explicit Display(const QSize& size);
+    ~Display();
+
+    /** What a renderer is started with; never 0. */
+    PicDisplay Handle() const { return handle; }
+    QSize Size() const { return size; }
+
+    /** The sessions on this display, in the order in which they are stacked, lowest first. */
+    QList<PicSession> Sessions() const;
+
+    /**
+     * What the display shows at @p milliseconds of its clock: QImage::Format_ARGB32, transparent
+     * where nothing is shown. A pure function of the shown buffers and the time.
+     */
+    QImage Compose(qint64 milliseconds) const;
+
+private:
+    Display(const Display&);
+    Display& operator=(const Display&);
+
+    PicDisplay handle;
+    QSize size;
+};
+
+/** The area of a session on its display; empty for a session that is not live. */
+QRect SessionArea(PicSession session);
+
+/** The number of layers; 0 for a session that is not live. */
+int LayerCount(PicSession session);
+
+/** How often the layer has been swapped. */
+qint64 SwapCount(PicSession session, int layer);
+
+/**
+ * A deep copy of what the layer shows: QImage::Format_ARGB32 in sessions of type 3, Format_RGB888
+ * in those of type 5; null when there is no such layer.
+ */
+QImage FrontImage(PicSession session, int layer);
+
+} // namespace Torv
+
+#endif

@@ -1,0 +1,57 @@
+/**
+ * @file
+ * Integrators: replace with the host's own header; the plugin needs what is declared here, the
+ * virtual operations in this order.
+ */
+#ifndef LW_HNODE_H
+#define LW_HNODE_H
+
+#include "hdata.h"
+
+#include <QList>
+
+class QDomElement;
+
+namespace Lw {
+
+struct FileInfo;
+struct HSendFileInfo;
+
+/**
+ * A node of the host's tree: program, page, area and what plays in an area. A parent owns its
+ * children and deletes them with itself; a node that is deleted leaves its parent's list.
+ */
+class HNode : public HData
+{
+    Q_OBJECT
+
+public:
+    explicit HNode(QObject* parent = 0);
+    ~HNode() override;
+
+    virtual bool UpdateNode(QDomElement& element, QList<FileInfo>& files);
+    virtual HNode* Copy();
+    virtual void Delete();
+    virtual void Close(bool save);
+    virtual bool Generator(QString path, QList<HSendFileInfo>& files);
+    virtual bool Export(QString path);
+    virtual bool Import(QString path);
+    virtual void NodeAlready();
+    virtual void ControllerChange();
+    virtual void InitData();
+    virtual void SDKInitData(void* data);
+    virtual void ReloadAtrrbute(HNode* from);
+    /** Play time in milliseconds; here the sum of the children's, 0 without any. */
+    virtual int Duration();
+
+    /** Null at the root. */
+    HNode* ParentNode() const;
+    /** In the order in which they were added. */
+    QList<HNode*> ChildNodes() const;
+    /** Appends @p child and takes ownership of it. */
+    void AddChild(HNode* child);
+};
+
+} // namespace Lw
+
+#endif

@@ -1,0 +1,69 @@
+/**
+ * @file
+ * The scene file: what a display shows, as one JSON file beside its data files.
+ */
+#ifndef ANIMTEXT_SCENE_H
+#define ANIMTEXT_SCENE_H
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+namespace AnimText {
+
+/** One animated text and where it plays. */
+struct SceneNode {
+    QString type = QStringLiteral("LW_animationText_Plugin");
+    QPoint pos;         ///< pixels
+    QSize size;         ///< pixels
+    int hold = 0;       ///< units of 100 ms
+    int neonEffect = 0; ///< the neon style
+    QMap<QString, QVariant> attributes; ///< ints and strings
+    QMap<QString, QList<QHash<QString, QString>>> lists;
+    QMap<QString, QString> files; ///< as they stand in the scene file: relative to it, or absolute
+};
+
+struct SceneArea {
+    QList<SceneNode> nodes;
+};
+
+struct ScenePage {
+    QList<SceneArea> areas;
+};
+
+/** A program of pages, each of areas, each of nodes. */
+struct Scene {
+    QSize display; ///< pixels
+    bool alphaBlend = true;
+    QList<ScenePage> pages;
+
+    /** Every node, in the order of the file. */
+    QList<const SceneNode*> Nodes() const;
+};
+
+/**
+ * Reads @p path. On failure answers false and sets @p error to one line with the file, the place in
+ * it (line and column of a syntax error, else the JSON path) and what was expected there; the scene
+ * is then left as it was. Files that a node names must exist.
+ */
+bool ReadScene(const QString& path, Scene* scene, QString* error);
+
+/** What the tools do about a file that a scene names and that is not there. */
+enum class MissingFiles { AreErrors, AreAccepted };
+bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing);
+
+/** @p file as a full path, relative names being relative to the scene file at @p scenePath. */
+QString ResolveSceneFile(const QString& scenePath, const QString& file);
+
+/** The scene as the text of a scene file. */
+QByteArray SceneToJson(const Scene& scene);
+
+} // namespace AnimText
+
+#endif
