@@ -11,7 +11,8 @@
 namespace AnimText {
 
 /** One entrance effect, or one scroll direction. */
-struct Motion {
+struct Motion
+{
     int number;          ///< "AnimationEffect" or "ContinueStyle"
     const char* name;    ///< the engine's operation, e.g. "SwingEffect"
     const char* family;  ///< e.g. "oscillating"

@@ -18,27 +18,31 @@
 namespace AnimText {
 
 /** One animated text and where it plays. */
-struct SceneNode {
+struct SceneNode
+{
     QString type = QStringLiteral("LW_animationText_Plugin");
-    QPoint pos;         ///< pixels
-    QSize size;         ///< pixels
-    int hold = 0;       ///< units of 100 ms
-    int neonEffect = 0; ///< the neon style
+    QPoint pos;                         ///< pixels
+    QSize size;                         ///< pixels
+    int hold = 0;                       ///< units of 100 ms
+    int neonEffect = 0;                 ///< the neon style
     QMap<QString, QVariant> attributes; ///< ints and strings
     QMap<QString, QList<QHash<QString, QString>>> lists;
     QMap<QString, QString> files; ///< as they stand in the scene file: relative to it, or absolute
 };
 
-struct SceneArea {
+struct SceneArea
+{
     QList<SceneNode> nodes;
 };
 
-struct ScenePage {
+struct ScenePage
+{
     QList<SceneArea> areas;
 };
 
 /** A program of pages, each of areas, each of nodes. */
-struct Scene {
+struct Scene
+{
     QSize display; ///< pixels
     bool alphaBlend = true;
     QList<ScenePage> pages;

@@ -1,0 +1,96 @@
+#include "duplicatekeys.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+#include <QVector>
+
+namespace AnimText {
+
+namespace {
+
+/** An object or array that is open where the scan stands. */
+struct Level
+{
+    bool isObject = false;
+    int index = 0;
+    QString key;
+    QSet<QString> keys;
+};
+
+QString PathOf(const QVector<Level>& levels)
+{
+    QString path = QStringLiteral("$");
+    for (const Level& level : levels) {
+        if (level.isObject)
+            path += QLatin1Char('.') + level.key;
+        else
+            path += QStringLiteral("[%1]").arg(level.index);
+    }
+    return path;
+}
+
+/** The position of the quote that ends the string which begins at @p start. */
+int EndOfString(const QByteArray& json, int start)
+{
+    int i = start + 1;
+    while (i < json.size() && json.at(i) != '"')
+        i += json.at(i) == '\\' ? 2 : 1;
+    return i;
+}
+
+QString Unescaped(const QByteArray& quoted)
+{
+    if (!quoted.contains('\\'))
+        return QString::fromUtf8(quoted.mid(1, quoted.size() - 2));
+    return QJsonDocument::fromJson('[' + quoted + ']').array().at(0).toString();
+}
+
+} // namespace
+
+QString DuplicateKey(const QByteArray& json)
+{
+    QVector<Level> levels;
+    bool keyComes = false;
+    for (int i = 0; i < json.size(); ++i) {
+        switch (json.at(i)) {
+        case '{':
+        case '[': {
+            Level level;
+            level.isObject = json.at(i) == '{';
+            keyComes = level.isObject;
+            levels.append(level);
+            break;
+        }
+        case '}':
+        case ']':
+            if (!levels.isEmpty())
+                levels.removeLast();
+            keyComes = false;
+            break;
+        case ',':
+            if (levels.isEmpty())
+                break;
+            keyComes = levels.last().isObject;
+            ++levels.last().index;
+            break;
+        case '"': {
+            const int end = EndOfString(json, i);
+            if (keyComes) {
+                Level& object = levels.last();
+                object.key = Unescaped(json.mid(i, end - i + 1));
+                if (object.keys.contains(object.key))
+                    return PathOf(levels);
+                object.keys.insert(object.key);
+                keyComes = false;
+            }
+            i = end;
+            break;
+        }
+        default: break;
+        }
+    }
+    return QString();
+}
+
+} // namespace AnimText

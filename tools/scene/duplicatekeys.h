@@ -1,0 +1,21 @@
+/**
+ * @file
+ * Finds keys that stand twice in one JSON object, which Qt's reader lets pass.
+ */
+#ifndef ANIMTEXT_DUPLICATEKEYS_H
+#define ANIMTEXT_DUPLICATEKEYS_H
+
+#include <QByteArray>
+#include <QString>
+
+namespace AnimText {
+
+/**
+ * The JSON path of the first key that its object already has; empty when there is none.
+ * @param json text that Qt's reader has accepted
+ */
+QString DuplicateKey(const QByteArray& json);
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,28 @@
+#include "scene.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace AnimText {
+
+QList<const SceneNode*> Scene::Nodes() const
+{
+    QList<const SceneNode*> nodes;
+    for (const ScenePage& page : pages) {
+        for (const SceneArea& area : page.areas) {
+            for (const SceneNode& node : area.nodes)
+                nodes.append(&node);
+        }
+    }
+    return nodes;
+}
+
+QString ResolveSceneFile(const QString& scenePath, const QString& file)
+{
+    if (file.isEmpty())
+        return QString();
+    const QDir folder = QFileInfo(scenePath).absoluteDir();
+    return QDir::cleanPath(folder.absoluteFilePath(file));
+}
+
+} // namespace AnimText

@@ -1,0 +1,60 @@
+#include "suggest.h"
+
+#include <QVector>
+
+#include <algorithm>
+
+namespace AnimText {
+
+namespace {
+
+int EditDistance(const QString& from, const QString& to)
+{
+    QVector<int> beforeLast(to.size() + 1);
+    QVector<int> last(to.size() + 1);
+    QVector<int> row(to.size() + 1);
+    for (int column = 0; column <= to.size(); ++column)
+        row[column] = column;
+    for (int i = 1; i <= from.size(); ++i) {
+        beforeLast = last;
+        last = row;
+        row[0] = i;
+        for (int j = 1; j <= to.size(); ++j) {
+            const int change = from.at(i - 1) == to.at(j - 1) ? 0 : 1;
+            row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + change});
+            const bool swapped =
+                i > 1 && j > 1 && from.at(i - 1) == to.at(j - 2) && from.at(i - 2) == to.at(j - 1);
+            if (swapped)
+                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+        }
+    }
+    return row[to.size()];
+}
+
+} // namespace
+
+QString Closest(const QString& word, const QStringList& known)
+{
+    // Long words are no typing errors, and comparing them all would take for ever.
+    constexpr int longest = 64;
+    if (word.isEmpty() || word.size() > longest)
+        return QString();
+    QString best;
+    int bestDistance = std::max(1, word.size() / 3) + 1;
+    for (const QString& candidate : known) {
+        const int distance = EditDistance(word.toLower(), candidate.toLower());
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = candidate;
+        }
+    }
+    return best;
+}
+
+QString DidYouMean(const QString& word, const QStringList& known)
+{
+    const QString closest = Closest(word, known);
+    return closest.isEmpty() ? QString() : QStringLiteral("; did you mean %1?").arg(closest);
+}
+
+} // namespace AnimText

@@ -1,0 +1,24 @@
+/**
+ * @file
+ * "Did you mean": the known word that a mistyped one is nearest to.
+ */
+#ifndef ANIMTEXT_SUGGEST_H
+#define ANIMTEXT_SUGGEST_H
+
+#include <QString>
+#include <QStringList>
+
+namespace AnimText {
+
+/**
+ * The one of @p known that takes the fewest changed, added, dropped or swapped letters to come from
+ * @p word, upper and lower case alike; empty when even that one is too far away to be meant.
+ */
+QString Closest(const QString& word, const QStringList& known);
+
+/** "; did you mean X?" for the closest word, or nothing. */
+QString DidYouMean(const QString& word, const QStringList& known);
+
+} // namespace AnimText
+
+#endif
