@@ -1,0 +1,121 @@
+// Fly-in effects: the characters of a page come in one at a time, each in a straight line from an
+// edge to its slot. The names tell where a character comes to, not from: "from left" enters at the
+// right edge and moves left, "from top" rises from below, and so on.
+#include "effects/frame.h"
+
+#include <QPainter>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/** What is in textPath stands in its place; the character in flight is painted by itself. */
+void animationRealization::DrawFlight(int inFlight, double x, double y)
+{
+    painter->drawPath(textPath);
+    DrawGlyph(inFlight, x, y);
+    painter->end();
+}
+
+void animationRealization::FlyFromLeftEffect()
+{
+    if (BeginFrame()) {
+        for (int j = PageStart(); j < charIndex; ++j)
+            AddGlyph(j, RestX(j), RestY(j));
+        DrawFlight(charIndex, FrameWidth() - moveOffset, RestY(charIndex));
+    }
+    Advance(moveOffset, stepSize);
+    if (FrameWidth() - moveOffset >= RestX(charIndex))
+        return;
+
+    moveOffset = 0;
+    ++charIndex;
+    if (charIndex >= PageEnd() && HandOver(moveOffset))
+        charIndex = 0;
+}
+
+/** The page ends at the right edge: its last character's right side touches it. */
+int animationRealization::RightAlignedX(int j) const
+{
+    return FrameWidth() - pageOffsets.value(pageIndex - 1) - charWidths.value(PageStart()) +
+           charPositions.value(j);
+}
+
+void animationRealization::FlyFromRightEffect()
+{
+    // Pages are counted from the end of the text: PageStart() is the last character of the page,
+    // PageEnd() that of the next one. charCount - 1 is the character in flight.
+    const int inFlight = charCount - 1;
+    if (BeginFrame()) {
+        for (int j = PageStart(); j >= charCount; --j)
+            AddGlyph(j, RightAlignedX(j), RestY(j));
+        DrawFlight(inFlight, moveOffset, RestY(inFlight));
+    }
+    Advance(moveOffset, stepSize);
+    if (moveOffset <= RightAlignedX(inFlight))
+        return;
+
+    moveOffset = 0;
+    --charCount;
+    if (charCount - 1 > PageEnd() && charCount >= 1)
+        return;
+    stayPageIndex = pageIndex;
+    SwapPage();
+    // The text may be used up while pages remain; then the run is over all the same.
+    if (IsLastPageOver() || charCount < 1) {
+        EndRun();
+        charCount = text.size();
+    }
+}
+
+/**
+ * After the step of a vertical flight: takes the next character when this one has @p landed. It
+ * starts one step into its flight, so only the first character after Start begins at the edge.
+ */
+void animationRealization::LandVertically(bool landed)
+{
+    if (landed) {
+        ++charIndex;
+        moveOffset = 0;
+    }
+    Advance(moveOffset, stepSize);
+    if (charIndex < PageEnd())
+        return;
+
+    stayPageIndex = pageIndex;
+    SwapPage();
+    if (!IsLastPageOver() && charIndex < text.size())
+        return;
+    pageIndex = 1;
+    if (charIndex >= text.size()) {
+        EndRun();
+        charIndex = 0;
+    }
+}
+
+void animationRealization::FlyFromTopEffect()
+{
+    const int y = maxTextHeight - moveOffset - charDescents.value(charIndex) + FrameHeight();
+    // Landing is judged on exact halves, the picture shows truncated places: a character may be
+    // seen a step past its slot for one frame.
+    const bool landed = y < ExactY(charIndex);
+    if (BeginFrame()) {
+        for (int j = PageStart(); j < charIndex; ++j)
+            AddGlyph(j, RestX(j), RestY(j));
+        DrawFlight(charIndex, RestX(charIndex), y);
+    }
+    LandVertically(landed);
+}
+
+void animationRealization::FlyFromBottomEffect()
+{
+    const bool landed = moveOffset > ExactY(charIndex);
+    if (BeginFrame()) {
+        for (int j = PageStart(); j < charIndex; ++j)
+            AddGlyph(j, RestX(j), RestY(j));
+        DrawFlight(charIndex, RestX(charIndex), moveOffset);
+    }
+    LandVertically(landed);
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,123 @@
+#include "effects/frame.h"
+
+#include <QPainter>
+#include <qnumeric.h>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+// Counters stop here, far beyond any picture, so that sums of a few of them stay within an int.
+const int counterLimit = 1 << 29;
+
+bool IsFinite(const QTransform& t)
+{
+    return qIsFinite(t.m11()) && qIsFinite(t.m12()) && qIsFinite(t.m21()) && qIsFinite(t.m22()) &&
+           qIsFinite(t.dx()) && qIsFinite(t.dy());
+}
+
+} // namespace
+
+/** Clears the picture and sets brush and pen; false when there is nothing to paint on. */
+bool animationRealization::BeginFrame()
+{
+    DrawInit();
+    textPath = QPainterPath();
+    if (drawImage.isNull() || !painter->begin(&drawImage))
+        return false;
+    SetPainterBrush(0);
+    return true;
+}
+
+void animationRealization::EndFrame()
+{
+    painter->drawPath(textPath);
+    painter->end();
+}
+
+bool animationRealization::HasGlyph(int j) const
+{
+    return j >= 0 && j < charPaths.size();
+}
+
+void animationRealization::AddGlyph(int j, double x, double y)
+{
+    // Placed as float: the device's coordinates are floats.
+    const float left = float(x);
+    const float baseline = float(y);
+    if (HasGlyph(j) && qIsFinite(left) && qIsFinite(baseline))
+        textPath.addPath(charPaths.at(j).translated(left, baseline));
+}
+
+/** The glyph mapped through transform, about the left end of its baseline. */
+void animationRealization::AddShapedGlyph(int j, double x, double y)
+{
+    if (HasGlyph(j))
+        AddShapedGlyph(charPaths.at(j), x, y);
+}
+
+void animationRealization::AddShapedGlyph(const QPainterPath& glyph, double x, double y)
+{
+    const float left = float(x);
+    const float baseline = float(y);
+    if (qIsFinite(left) && qIsFinite(baseline) && IsFinite(transform))
+        textPath.addPath(transform.map(glyph).translated(left, baseline));
+}
+
+/** Paints the glyph by itself, with its own fill rule. */
+void animationRealization::DrawGlyph(int j, double x, double y)
+{
+    if (HasGlyph(j))
+        painter->drawPath(charPaths.at(j).translated(float(x), float(y)));
+}
+
+/** How far the k-th character of the page has come when each starts a step after the one before. */
+int animationRealization::Phase(int k) const
+{
+    const qint64 phase = moveOffset - qint64(stepSize) * k;
+    return static_cast<int>(qBound(qint64(-counterLimit), phase, qint64(counterLimit)));
+}
+
+/** Turns by @p degrees about a point, given relative to the glyph's origin. */
+void animationRealization::RotateAbout(double x, double y, double degrees)
+{
+    transform.translate(float(x), float(y));
+    transform.rotate(qreal(degrees), Qt::ZAxis);
+    transform.translate(float(-x), float(-y));
+}
+
+/** Ends a frame: the counter takes its step. */
+void animationRealization::Advance(int& counter, int step)
+{
+    counter = static_cast<int>(qMin(qint64(counter) + step, qint64(counterLimit)));
+    ++frameCount;
+}
+
+bool animationRealization::IsLastPageOver() const
+{
+    return pageIndex >= pageOffsets.size();
+}
+
+/** All pages have been shown: back to the first. */
+void animationRealization::EndRun()
+{
+    pageIndex = 1;
+    ++playCount;
+    runEnded = true;
+}
+
+/** The page has come in; true when it was the last one and the run has ended with it. */
+bool animationRealization::HandOver(int& counter)
+{
+    counter = 0;
+    stayPageIndex = pageIndex;
+    SwapPage();
+    if (!IsLastPageOver())
+        return false;
+    EndRun();
+    return true;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

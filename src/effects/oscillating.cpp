@@ -1,0 +1,86 @@
+// Oscillating effects: the whole page stands there at once and its characters swing for a while.
+// moveOffset is the phase.
+#include "effects/frame.h"
+
+#include <cmath>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void animationRealization::WavesEffect()
+{
+    const double h = FrameHeight();
+    DrawPage([&](int j) {
+        // Between the top edge and the bottom edge; each character lags its left neighbour by a
+        // step, so the crest travels to the right.
+        const double d = charDescents.value(j);
+        const double amplitude = 0.5 * (d - maxTextHeight + h);
+        const double middle = (maxTextHeight - d) + amplitude;
+        const int phase = Phase(j - PageStart());
+        AddGlyph(j, RestX(j), int(middle + std::sin(phase / 10.3) * amplitude));
+    });
+    Advance(moveOffset, stepSize);
+    // Over once the last character has completed more than ten radians.
+    if (Phase(PageLength()) / 10.3 > 10.0)
+        HandOver(moveOffset);
+}
+
+void animationRealization::SwingEffect()
+{
+    const double sway = std::sin(moveOffset / 20.0);
+    // The first character's width moves them all, on every page: the row sways as one.
+    const double shift = 0.5 * sway * charWidths.value(0);
+    DrawPage([&](int j) {
+        transform.translate(qreal(shift), 0);
+        transform.shear(qreal(sway), 0);
+        AddShapedGlyph(j, RestX(j), RestY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (moveOffset >= 361)
+        HandOver(moveOffset);
+}
+
+void animationRealization::BeforeAfterScalEffect()
+{
+    const double k = 1.0 + float(0.5 * std::fabs(std::sin(moveOffset / 57.3)));
+    DrawPage([&](int j) {
+        transform.scale(qreal(k), qreal(k));
+        AddShapedGlyph(j, RestX(j), RestY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (moveOffset >= 360)
+        HandOver(moveOffset);
+}
+
+void animationRealization::TrembleEffect()
+{
+    DrawPage([&](int j) {
+        // Four statements: the order of the draws is part of the picture, and within one expression
+        // the compiler would choose it.
+        const int xDistance = qrand() % 5;
+        const int xAngle = qrand() % 8;
+        const int yDistance = qrand() % 5;
+        const int yAngle = qrand() % 8;
+        AddGlyph(j, RestX(j) + xDistance * std::sin(double(xAngle)),
+                 RestY(j) + yDistance * std::sin(double(yAngle)));
+    });
+    Advance(moveOffset, 1);
+    if (moveOffset >= 61)
+        HandOver(moveOffset);
+}
+
+void animationRealization::EffectShake()
+{
+    const float degrees = float(std::sin(moveOffset / 30.0) * 45.0);
+    DrawPage([&](int j) {
+        // The pivot changes ends with the side to which the glyph leans.
+        RotateAbout(degrees > 0 ? charWidths.value(j) : 0, 0, degrees);
+        AddShapedGlyph(j, RestX(j), RestY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (moveOffset >= 361)
+        HandOver(moveOffset);
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,129 @@
+// Rotation and flip effects: the whole page turns, glyph by glyph or as a row.
+#include "effects/frame.h"
+
+#include <cmath>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void animationRealization::RotationEffect()
+{
+    DrawPage([&](int j) {
+        RotateAbout(charWidths.value(j) * 0.5, -maxTextHeight * 0.5, moveOffset);
+        AddShapedGlyph(j, RestX(j), ExactY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (moveOffset >= 361)
+        HandOver(moveOffset);
+}
+
+void animationRealization::RotationTrundleEffect()
+{
+    const int w = FrameWidth();
+    DrawPage([&](int j) {
+        // A character waits until its slot has rolled inside the frame.
+        if (RestX(j) - moveOffset >= 1)
+            return;
+        RotateAbout(charWidths.value(j) * 0.5, -charHeights.value(j) * 0.5, progressF);
+        AddShapedGlyph(j, RestX(j) - moveOffset + w, RestY(j));
+    });
+    Advance(moveOffset, stepSize);
+    // Two turns over the width, and from nought again after each.
+    if (w > 0)
+        progressF = float(progressF - (720.0 / w) * stepSize);
+    if (progressF < -360.0f)
+        progressF = 0;
+    if (moveOffset > w) {
+        progressF = 0;
+        HandOver(moveOffset);
+    }
+}
+
+void animationRealization::AngleRotationEffect()
+{
+    DrawPage([&](int j) {
+        RotateAbout(charWidths.value(j) * 0.5, 0, moveOffset2);
+        AddShapedGlyph(j, RestX(j), RestY(j));
+    });
+    Advance(moveOffset2, stepSize);
+    if (moveOffset2 >= 361)
+        HandOver(moveOffset2);
+}
+
+void animationRealization::EffectInTurnFlips()
+{
+    DrawPage([&](int j) {
+        const int k = j - PageStart();
+        if (k > moveOffset)
+            return;
+        // From upside down over nothing to upright; at speeds above one step a frame some wait
+        // mirrored, with a negative phase.
+        const int phase = Phase(k);
+        if (phase <= 179)
+            transform.scale(1, float(-std::cos(phase / 57.3)));
+        AddShapedGlyph(j, RestX(j), RestY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (Phase(PageLength()) >= 180)
+        HandOver(moveOffset);
+}
+
+void animationRealization::Effect3DHorizontalRotation()
+{
+    // Two half-turns about the page's vertical axis; in the second the glyphs change places, so
+    // that the page reads correctly in the end.
+    const int m = moveOffset;
+    const bool mirrored = m > 20;
+    const bool closing = m <= 10 || (m > 20 && m <= 30);
+    const int begin = m <= 10 ? 0 : m <= 20 ? 11 : m <= 30 ? 21 : 31;
+    const double stretch = ((mirrored ? 31 : 11) - m) * 0.1;
+    const double pw = PageWidth();
+    DrawPage([&](int j) {
+        const int k = j - PageStart();
+        const double q = k / pw; // a place in the row over its width in pixels: the slant
+        const double fall = (1 - q) / 10 * (m - begin);
+        transform.scale(1, float(closing ? 1 - fall : q + fall));
+        const int glyph = mirrored ? PageEnd() - 1 - k : j;
+        if (HasGlyph(glyph))
+            AddShapedGlyph(charPaths.at(glyph), GatherX(j, stretch), ExactY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (moveOffset >= 42)
+        HandOver(moveOffset);
+}
+
+void animationRealization::EffectFlipsInto()
+{
+    const int m = moveOffset;
+    const double stretch = 5.0 - (4 * m) / 360.0;
+    DrawPage([&](int j) {
+        // Squeezed to nothing and widened again, while the row gathers from five times its width.
+        if (m <= 180) {
+            transform.scale(float(1 - m / 180.0), 1);
+            transform.shear(0, 0.5);
+        } else {
+            const double widening = (m - 180) / 180.0;
+            transform.scale(float(widening), 1);
+            transform.shear(0, qreal((1 - widening) * 0.5));
+        }
+        AddShapedGlyph(j, GatherX(j, stretch), ExactY(j));
+    });
+    Advance(moveOffset, 3 * stepSize);
+    if (moveOffset >= 361)
+        HandOver(moveOffset);
+}
+
+void animationRealization::EffectRotateInto()
+{
+    const double stretch = 5.0 - (4 * moveOffset2) / 360.0;
+    DrawPage([&](int j) {
+        RotateAbout(charWidths.value(j) * 0.5, -charHeights.value(j) * 0.5, -moveOffset2);
+        AddShapedGlyph(j, GatherX(j, stretch), ExactY(j));
+    });
+    Advance(moveOffset2, stepSize);
+    if (moveOffset2 >= 361)
+        HandOver(moveOffset2);
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,51 @@
+// Text zoom: the page pulses about its centre, or swells together with its mirror image.
+#include "effects/frame.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void animationRealization::EffectTextZoom()
+{
+    if (BeginFrame()) {
+        const float s = float(std::fabs(std::sin(moveOffset / 30.0)));
+        const double centre = PageWidth() * 0.5;
+        painter->save();
+        painter->translate(float(centre), float(ExactY(PageStart())));
+        painter->scale(s, s);
+        for (int j = PageStart(); j < PageEnd(); ++j) {
+            // The painter scales once more: glyphs grow with the square, their spacing does not.
+            transform.reset();
+            transform.scale(s, s);
+            AddShapedGlyph(j, RestX(j) - centre, 0);
+        }
+        painter->drawPath(textPath);
+        painter->restore();
+        painter->end();
+    }
+    Advance(moveOffset, stepSize);
+    if (moveOffset > 240)
+        HandOver(moveOffset);
+}
+
+void animationRealization::EffectUpwardZoomWithReflection()
+{
+    DrawPage([&](int j) {
+        const float b = float(float(ExactY(j)) * 0.5 / maxTextHeight);
+        const float sy = float(b + b * std::sin(Phase(j - PageStart()) / 20.0));
+        transform.scale(1, sy);
+        AddShapedGlyph(j, RestX(j), RestY(j));
+        transform.reset();
+        transform.scale(1, -sy);
+        AddShapedGlyph(j, RestX(j), RestY(j));
+    });
+    Advance(moveOffset, stepSize);
+    if (moveOffset > 200 && HandOver(moveOffset))
+        charIndex = 0;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

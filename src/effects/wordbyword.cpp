@@ -1,0 +1,75 @@
+// Word-by-word effects: the page is revealed one character at a time, in reading order and in
+// place.
+#include "effects/frame.h"
+
+#include <cmath>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void animationRealization::WordForWordOutputEffect()
+{
+    if (BeginFrame()) {
+        for (int j = PageStart(); j < charIndex; ++j)
+            AddGlyph(j, RestX(j), RestY(j));
+        EndFrame();
+    }
+    if (charIndex >= PageEnd()) {
+        stayPageIndex = pageIndex;
+        SwapPage();
+        if (IsLastPageOver())
+            pageIndex = 1;
+    }
+    // The character advances in the frame that hands the page over, too: a run's first frame is
+    // empty, the first frame of its other pages is not.
+    Advance(charIndex, 1);
+    ++frameCount;
+    if (charIndex > text.size()) {
+        charIndex = 0;
+        EndRun();
+    }
+}
+
+void animationRealization::WordForWordAmplificationEffect()
+{
+    AmplificationNarrow(false);
+}
+
+void animationRealization::WordForWordNarrowEffect()
+{
+    AmplificationNarrow(true);
+}
+
+/** Each character grows out of nothing, or comes at double size and narrows. */
+void animationRealization::AmplificationNarrow(bool narrow)
+{
+    if (BeginFrame()) {
+        for (int j = PageStart(); j < charIndex; ++j)
+            AddGlyph(j, RestX(j), RestY(j));
+
+        // Up to 1.5 radians: the character is never quite at its size before it snaps to rest.
+        const double x = moveOffset / 30.0;
+        const float s = float(narrow ? std::fabs(std::cos(x)) + 1.0 : std::sin(x));
+        transform.reset();
+        transform.scale(s, s);
+        AddShapedGlyph(charIndex, RestX(charIndex), RestY(charIndex));
+        EndFrame();
+    }
+    Advance(moveOffset, stepSize);
+    if (moveOffset > 45) {
+        ++charIndex;
+        moveOffset = 0;
+    }
+    if (charIndex < PageEnd())
+        return;
+    stayPageIndex = pageIndex;
+    SwapPage();
+    if (IsLastPageOver()) {
+        EndRun();
+        charIndex = 0;
+        moveOffset = 0;
+    }
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,366 @@
+// The engine's state: what it takes from its node, and its beginning and end.
+#include "engine/animationrealization.h"
+
+#include "node/hanimationtextnode.h"
+#include "node/pagedivision.h"
+
+#include <drawneonbg.h>
+#include <happconfig.h>
+#include <hpluginmanager.h>
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+const int tickInterval = 66;                      // ms
+const qint64 maxCanvasBytes = qint64(256) << 20;  // of one picture
+const qint64 maxPicturePixels = 64 * 1000 * 1000; // of a fill picture, before it is decoded
+
+// Metrics come from files and attributes and can be anything. These bounds lie far beyond every
+// picture and keep the sums of the layout within an int.
+const int metricLimit = 1 << 20;
+const int positionLimit = 1 << 28;
+
+int Bounded(int value, int limit)
+{
+    return qBound(-limit, value, limit);
+}
+
+int Attribute(const HData& node, const char* key)
+{
+    return node.GetAttributeToInt(QString::fromLatin1(key));
+}
+
+} // namespace
+
+animationRealization::animationRealization(QObject* parent)
+    : QObject(parent)
+    , animationEffect(0)
+    , speed(0)
+    , painter(new QPainter)
+    , charIndex(0)
+    , charCount(0)
+    , moveOffset2(0)
+    , progressF(0)
+    , isDrawing(true)
+    , maxTextHeight(0)
+    , scrollOffset(0)
+    , playFinished(false)
+    , runEnded(false)
+    , playTimes(0)
+    , holdTime(0)
+    , initFive(0)
+    , paused(false)
+    , playCount(0)
+    , pageIndex(1)
+    , moveOffset(0)
+    , neonBg(new DrawNeonBg)
+    , totalTextWidth(0)
+    , frameCount(0)
+    , frameInterval(tickInterval)
+    , totalHeight(0)
+    , stayPageIndex(1)
+    , stayCounter(1)
+    , maxTextWidth(0)
+    , tickCounter(0)
+    , stepSize(0)
+    , effectType(0)
+    , continueStyle(0)
+    , neonBgEnabled(0)
+    , shadowEnabled(0)
+    , dazzleEnabled(0)
+    , gradientEnabled(0)
+    , gradientType(0)
+    , hollow(0)
+    , stroke(0)
+    , pictureFillEnabled(0)
+    , imageFormat(QImage::Format_ARGB32)
+    , stayImageReady(0)
+    , layerBuffer(0)
+    , pictureSession(0)
+    , sessionDisplay(0)
+    , sessionLayer(0)
+    , dazzleLayer(0)
+    , dazzleColorIndex(0)
+    , layerBytes(-1)
+{
+    // Once round the colour circle, ending on the colour it began with.
+    for (int i = 0; i < 30; ++i)
+        dazzleColors.append(QColor::fromHsv(12 * i, 207, 255, 255));
+    dazzleColors.append(QColor::fromHsv(0, 207, 255, 255));
+
+    // Here and not at each start, which would draw the background once more a tick each time.
+    connect(&dazzleTimer, SIGNAL(timeout()), this, SLOT(UpdateDazzleBackground()));
+}
+
+animationRealization::~animationRealization()
+{
+    delete painter;
+    painter = 0;
+    delete neonBg;
+    neonBg = 0;
+}
+
+int animationRealization::Init(HAnimationTextNode* newNode)
+{
+    if (!newNode)
+        return 0;
+    if (node != newNode)
+        node = newNode;
+
+    layerBuffer = 0;
+    maxTextWidth = Bounded(node->MaxTextWidth(), metricLimit);
+    totalTextWidth = node->GetTotalTextWith();
+    text = node->Text();
+    animationEffect = Attribute(*node, "AnimationEffect");
+    effectType = Attribute(*node, "EffectType");
+    areaSize = node->Size();
+    playTimes = Attribute(*node, "PlayTimes");
+    holdTime = node->GetHoldTime();
+    stayImageReady = 0;
+    continueStyle = Attribute(*node, "ContinueStyle");
+    neonBgEnabled = Attribute(*node, "CheckNeonBg");
+    shadowEnabled = Attribute(*node, "CheckShadowEffect");
+    dazzleEnabled = Attribute(*node, "CheckDazzle");
+    gradientEnabled = Attribute(*node, "CheckColorGradient");
+    gradientType = Attribute(*node, "ColorGradient");
+    stroke = Attribute(*node, "Stroke");
+    hollow = Attribute(*node, "Hollow");
+    pictureFillEnabled = Attribute(*node, "CheckPictureFills");
+    initFive = 5;
+
+    const int width = areaSize.width();
+    const int height = areaSize.height();
+    linearGradient = QLinearGradient(0, 0, width, 0);
+    radialGradient =
+        QRadialGradient(QPointF(width / 2, height / 2), width / 2, QPointF(width / 2, height / 2));
+    conicalGradient = QConicalGradient(QPointF(width / 2, height), 0);
+    strokePen = QPen(QBrush(HAppConfig::IntToColor(Attribute(*node, "StrokeColor"))), 1);
+    frameInterval = tickInterval;
+
+    charPaths = node->GetPainterPaths();
+    if (charPaths.size() > text.size())
+        charPaths.resize(text.size());
+    charDescents = node->GetDescentData();
+    for (int i = 0; i < charDescents.size(); ++i)
+        charDescents[i] = Bounded(charDescents.at(i), metricLimit);
+
+    if (pictureFillEnabled == 1)
+        LoadFillPicture();
+    if (neonBgEnabled == 1)
+        neonBg->InitNode(node);
+    return 1;
+}
+
+void animationRealization::LoadFillPicture()
+{
+    fillImageSize = QSize();
+    pictureBrush = QBrush();
+    const QString file = node->GetFirstFile(QString::fromLatin1("FillImage"));
+    if (!QFileInfo(file).isFile())
+        return;
+    QImageReader reader(file);
+    // A few bytes can decode to gigabytes, so the size is asked for first.
+    const QSize size = reader.size();
+    if (!size.isValid() || qint64(size.width()) * size.height() > maxPicturePixels) {
+        qDebug() << "Fill picture is no picture or too large, ignored:" << file << size;
+        return;
+    }
+    const QImage picture = reader.read();
+    fillImageSize = picture.size();
+    if (!picture.isNull())
+        pictureBrush = QBrush(picture);
+}
+
+/** A picture in the device's format; null when the size holds no pixel or too many. */
+QImage animationRealization::NewCanvas(const QSize& size) const
+{
+    if (size.width() <= 0 || size.height() <= 0)
+        return QImage();
+    const int bytesPerPixel = imageFormat == QImage::Format_RGB888 ? 3 : 4;
+    if (qint64(size.width()) * size.height() > maxCanvasBytes / bytesPerPixel) {
+        qDebug() << "Text picture is too large, nothing is painted:" << size;
+        return QImage();
+    }
+    return QImage(size, imageFormat);
+}
+
+void animationRealization::Start()
+{
+    if (!node)
+        return;
+    charIndex = 0;
+    pageIndex = 1;
+    stayPageIndex = 1;
+    stepSize = 1;
+    moveOffset = 0;
+    stayCounter = 1;
+    frameCount = 0;
+    tickCounter = 0;
+    progressF = 0;
+    charCount = text.size();
+    moveOffset2 = 0;
+    isDrawing = true;
+    playCount = 0;
+    scrollOffset = 0;
+    playFinished = false;
+
+    maxTextHeight = Bounded(node->MaxTextHeight(), metricLimit);
+    MeasureText(node->TextWidths());
+    switch (Attribute(*node, "EffectType")) {
+    case 0: speed = Attribute(*node, "AnimationSpeed"); break;
+    case 1: speed = Attribute(*node, "ContinueSpeed"); break;
+    default: speed = 5; break;
+    }
+    CountTotalHeight();
+    CountPageNum();
+
+    imageFormat = HPluginManager::instance()->SuportAlphaBlend(node) ? QImage::Format_ARGB32
+                                                                     : QImage::Format_RGB888;
+    drawImage = NewCanvas(CountSize(true));
+    stayImage = NewCanvas(areaSize);
+    if (!drawImage.isNull())
+        drawImage.fill(HAppConfig::IntToColor(66049));
+    if (!stayImage.isNull())
+        stayImage.fill(0);
+
+    StartBackgrounds();
+}
+
+void animationRealization::MeasureText(const LineWidths& line)
+{
+    const QVector<int> heights = node->TextHeights();
+    const int length = text.size();
+    charWidths.resize(length);
+    charHeights.resize(length);
+    charPositions.resize(length);
+    for (int i = 0; i < length; ++i) {
+        charWidths[i] = Bounded(line.Width(i), metricLimit);
+        charHeights[i] = Bounded(heights.value(i), metricLimit);
+        charPositions[i] = Bounded(line.CountWith(i), positionLimit);
+    }
+}
+
+void animationRealization::StartBackgrounds()
+{
+    if (neonBgEnabled != 0)
+        neonBg->StartTimerDraw(tickInterval);
+    StartDazzle();
+}
+
+void animationRealization::StartDazzle()
+{
+    // The frog effects draw the dazzle background themselves, with their frames.
+    if (node && Attribute(*node, "CheckDazzle") == 1 && !PlaysFrogs())
+        dazzleTimer.start(tickInterval);
+}
+
+void animationRealization::StopBackgrounds()
+{
+    neonBg->StopTimerDraw();
+    dazzleTimer.stop();
+}
+
+void animationRealization::Pause(bool pause)
+{
+    paused = pause;
+    if (paused) {
+        StopBackgrounds();
+        return;
+    }
+    neonBg->StartTimerDraw(tickInterval);
+    StartDazzle();
+}
+
+void animationRealization::Stop() {}
+
+QSize animationRealization::CountSize(bool forContent) const
+{
+    const bool horizontal = continueStyle == 0 || continueStyle == 1;
+    if (effectType == 1 && (neonBgEnabled != 1 || forContent) && horizontal)
+        return QSize(totalTextWidth, areaSize.height());
+    return areaSize;
+}
+
+void animationRealization::CountTotalHeight()
+{
+    qint64 sum = 0;
+    for (int i = 0; i < charHeights.size(); ++i)
+        sum += charHeights.at(i);
+    totalHeight = static_cast<int>(qBound(qint64(-positionLimit), sum, qint64(positionLimit)));
+}
+
+void animationRealization::CountPageNum()
+{
+    pageBreaks.clear();
+    pageOffsets.clear();
+    SelectPath(animationEffect == 1 ? 0 : 1); // the one effect whose pages fill from their end
+}
+
+void animationRealization::SelectPath(int forward)
+{
+    if (!node)
+        return;
+    const LineWidths line = node->TextWidths();
+    if (!forward) {
+        CutBackward(line, text.size(), areaSize.width(), pageBreaks, pageOffsets);
+    } else {
+        CutForward(line, text.size(), areaSize.width(), pageBreaks, pageOffsets);
+        if (pageBreaks.last() == text.size()) {
+            pageOffsets.last() = line.Total();
+        } else {
+            pageBreaks.append(text.size());
+            pageOffsets.append(line.Total());
+        }
+    }
+    for (int i = 0; i < pageOffsets.size(); ++i)
+        pageOffsets[i] = Bounded(pageOffsets.at(i), positionLimit);
+}
+
+void animationRealization::SwapPage()
+{
+    ++pageIndex;
+    isDrawing = holdTime <= 0;
+}
+
+void animationRealization::SetPictureSession(void* session, int a, int b)
+{
+    pictureSession = session;
+    sessionDisplay = a;
+    sessionLayer = b;
+    layerBytes = -1;
+}
+
+void animationRealization::SetDazzleLayer(int layer)
+{
+    dazzleLayer = layer;
+}
+
+/** The session is gone: nothing may paint into its layers any more. */
+void animationRealization::ForgetSession()
+{
+    if (pictureSession) {
+        layerBuffer = 0;
+        drawImage = QImage();
+        stayImage = QImage();
+    }
+    SetPictureSession(0, 0, 0);
+    SetDazzleLayer(0);
+    neonBg->pictureSession = 0;
+    neonBg->displayHandle = 0;
+    neonBg->layer = 0;
+}
+
+int animationRealization::GetDisplayTimes() const
+{
+    return isDrawing ? playCount : 0;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

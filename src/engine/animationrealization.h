@@ -1,0 +1,291 @@
+#ifndef ANIMATIONREALIZATION_H
+#define ANIMATIONREALIZATION_H
+
+#include <QBrush>
+#include <QColor>
+#include <QConicalGradient>
+#include <QImage>
+#include <QLinearGradient>
+#include <QList>
+#include <QObject>
+#include <QPainterPath>
+#include <QPen>
+#include <QPointer>
+#include <QRadialGradient>
+#include <QSize>
+#include <QString>
+#include <QTimer>
+#include <QTransform>
+#include <QVector>
+
+class QPainter;
+
+namespace Lw {
+
+class DrawNeonBg;
+
+namespace HNodeAnimationText {
+
+class HAnimationTextNode;
+class LineWidths;
+
+/**
+ * The animation of one text: paints it frame by frame, in the picture layer that it is given or
+ * else in an image of its own. Its renderer drives it with ticks of 66 ms.
+ *
+ * Distances are pixels of the area. A page is what stands in the area at once; pages are counted
+ * from 1. A run is one pass over all pages.
+ */
+class animationRealization : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit animationRealization(QObject* parent);
+    ~animationRealization() override;
+
+    /** Takes @p node, which the host owns, and its attributes. @return 1, or 0 without a node */
+    int Init(HAnimationTextNode* node);
+    /** Lays the text out and begins at the first character of the first page. */
+    void Start();
+    void Pause(bool pause);
+    void Stop();
+
+    /** One tick: paints a frame, holds a page, or lets the tick pass, as the speed demands. */
+    void PrepareImage();
+
+    /**
+     * @param forContent true: of the picture that is painted; false: of the layer beneath it.
+     * They differ for a line that scrolls over a neon background.
+     */
+    QSize CountSize(bool forContent) const;
+    void CountTotalHeight();
+    void CountPageNum();
+    void SelectPath(int forward);
+    /** Turns to the next page, which waits while a hold is due. */
+    void SwapPage();
+
+    /**
+     * Where frames go from now on.
+     * @param session the picture session as a number in a pointer; null: nowhere
+     * @param a the display's handle  @param b the layer of the text
+     */
+    void SetPictureSession(void* session, int a, int b);
+    /** @param layer of the dazzle background, above 0; 0: none */
+    void SetDazzleLayer(int layer);
+    /** Finished runs; 0 while a page is held. */
+    int GetDisplayTimes() const;
+
+    void DrawInit();
+    /** The same paint for every character, whatever @p index. */
+    void SetPainterBrush(int index = 0);
+    void DrawShadow(int index);
+    void DrawDazzleBackground();
+
+    // effects/flyin.cpp
+    void FlyFromLeftEffect();
+    void FlyFromRightEffect();
+    void FlyFromTopEffect();
+    void FlyFromBottomEffect();
+
+    // effects/wordbyword.cpp
+    void WordForWordOutputEffect();
+    void WordForWordAmplificationEffect();
+    void WordForWordNarrowEffect();
+    void AmplificationNarrow(bool narrow);
+
+    // effects/oscillating.cpp
+    void WavesEffect();
+    void SwingEffect();
+    void BeforeAfterScalEffect();
+    void TrembleEffect();
+    void EffectShake();
+
+    // effects/rotation.cpp
+    void RotationEffect();
+    void RotationTrundleEffect();
+    void AngleRotationEffect();
+    void EffectInTurnFlips();
+    void Effect3DHorizontalRotation();
+    void EffectFlipsInto();
+    void EffectRotateInto();
+
+    // effects/inturn.cpp
+    void EffectInTurnUpwardZoom();
+    void EffectInTurnDrop();
+    void Effect45DegreeAngleDrop();
+
+    // effects/stretchmove.cpp
+    void EffectZoomIn();
+    void EffectRightToEnlarge();
+    void EffectDiagonalMoves();
+    void EffectRepeatTheWhereabouts();
+    void EffectFromBothSidesInOrderToEnlarge();
+
+    // effects/textzoom.cpp
+    void EffectTextZoom();
+    /** No effect number selects it: for hosts that call it themselves. */
+    void EffectUpwardZoomWithReflection();
+
+    // effects/frogs.cpp
+    void EffectTopWithFrogAppearsVerbatim();
+    void EffectTopWithFrog();
+
+    // engine/scrolling.cpp
+    void ContinueEffectLeft();
+    void ContinueEffectRight();
+    void ContinueEffectUp();
+    void ContinueEffectDown();
+
+public slots:
+    /** One animation frame. */
+    void DrawAndUpdateImage();
+    /** One visit of a page that is held. */
+    void UpdateStayImage();
+    /** One tick of the dazzle background. */
+    void UpdateDazzleBackground();
+
+private:
+    Q_DISABLE_COPY(animationRealization)
+
+    // Set-up
+    QImage NewCanvas(const QSize& size) const;
+    void LoadFillPicture();
+    void MeasureText(const LineWidths& line);
+    void StartBackgrounds();
+    void StartDazzle();
+    void StopBackgrounds();
+    void ForgetSession();
+
+    // The frame loop
+    void WrapLayer();
+    void SwapLayer();
+    void DrawOrHold(qint64 ticksPerFrame, int counterAfterHold);
+    void Dispatch();
+    void AddHeldPage();
+    bool PlaysFrogs() const;
+
+    // The frame that effects share: effects/frame.h
+    bool BeginFrame();
+    void EndFrame();
+    template <typename Shape>
+    void DrawPage(const Shape& shape);
+    bool HasGlyph(int j) const;
+    void AddGlyph(int j, double x, double y);
+    void AddShapedGlyph(int j, double x, double y);
+    void AddShapedGlyph(const QPainterPath& glyph, double x, double y);
+    void DrawGlyph(int j, double x, double y);
+    int FrameWidth() const;
+    int FrameHeight() const;
+    int PageStart() const;
+    int PageEnd() const;
+    int PageLength() const;
+    double PageWidth() const;
+    int RestX(int j) const;
+    int RestY(int j) const;
+    double ExactY(int j) const;
+    int Phase(int k) const;
+    double GatherX(int j, double stretch) const;
+    void RotateAbout(double x, double y, double degrees);
+    void Advance(int& counter, int step);
+    bool IsLastPageOver() const;
+    void EndRun();
+    bool HandOver(int& counter);
+
+    // effects/flyin.cpp
+    int RightAlignedX(int j) const;
+    void DrawFlight(int inFlight, double x, double y);
+    void LandVertically(bool landed);
+    // effects/inturn.cpp
+    template <typename Shape>
+    void DrawInTurn(const Shape& shape);
+    // engine/scrolling.cpp
+    void DrawLine();
+    void DrawTails(int first);
+    void DrawTail(int first, int end);
+    bool ColumnGrows() const;
+    void AdvanceColumn();
+
+    QPointer<HAnimationTextNode> node;
+    QString text;
+    int animationEffect;
+    QSize areaSize;
+    int speed;
+    QPainter* painter;
+    int charIndex;
+    int charCount;
+    int moveOffset2;
+    float progressF;
+    bool isDrawing;
+    int maxTextHeight;
+    int scrollOffset;
+    bool playFinished;
+    bool runEnded;
+    int playTimes;
+    int holdTime; // units of 100 ms
+    int initFive;
+    bool paused;
+    QImage drawImage;
+    QImage stayImage;
+    int playCount;
+    int pageIndex;
+    int moveOffset;
+    DrawNeonBg* neonBg;
+    QVector<QPainterPath> charPaths;
+    QPainterPath textPath;
+    QPainterPath auxPath;
+    QVector<int> charDescents;
+    QVector<int> charWidths;
+    QVector<int> charHeights;
+    QVector<int> charPositions;
+    int totalTextWidth;
+    QVector<QColor> dazzleColors;
+    QList<int> pageBreaks;
+    QList<int> pageOffsets;
+    int frameCount;
+    QBrush pictureBrush;
+    QBrush auxBrush;
+    QPen picturePen;
+    QTransform transform;
+    QLinearGradient linearGradient;
+    QRadialGradient radialGradient;
+    QConicalGradient conicalGradient;
+    QPen strokePen;
+    int frameInterval; // ms
+    int totalHeight;
+    int stayPageIndex;
+    int stayCounter;
+    int maxTextWidth;
+    int tickCounter;
+    int stepSize;
+    int effectType;
+    int continueStyle;
+    int neonBgEnabled;
+    int shadowEnabled;
+    int dazzleEnabled;
+    int gradientEnabled;
+    int gradientType;
+    int hollow;
+    int stroke;
+    int pictureFillEnabled;
+    QSize fillImageSize;
+    QImage::Format imageFormat;
+    QTimer dazzleTimer;
+    int stayImageReady;
+    uchar* layerBuffer;
+    void* pictureSession;
+    int sessionDisplay;
+    int sessionLayer;
+    int dazzleLayer;
+    int dazzleColorIndex;
+
+    qint64 layerBytes; // what the text's layer holds; the host may change its mind about the format
+
+    friend class HAnimationTextRender;
+    friend class EngineProbe;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

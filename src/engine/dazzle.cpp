@@ -1,0 +1,9 @@
+#include "engine/animationrealization.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void animationRealization::DrawDazzleBackground() {}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,162 @@
+// Continuous scrolling. Sideways the whole line is painted once and the device moves it; up and
+// down a single column of characters is painted frame by frame.
+#include "effects/frame.h"
+
+#include <QDebug>
+#include <QPainter>
+
+#include <cstring>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+// The raster painter computes in 16 bits. What begins beyond is painted nearer and moved by bytes.
+const int lastPaintableX = 31999;
+
+} // namespace
+
+void animationRealization::ContinueEffectLeft()
+{
+    DrawLine();
+}
+
+void animationRealization::ContinueEffectRight()
+{
+    DrawLine(); // the direction lies in the device's scroll code alone
+}
+
+void animationRealization::DrawLine()
+{
+    auxPath = QPainterPath();
+    if (!BeginFrame())
+        return;
+    int firstBeyond = -1;
+    for (int k = 0; k < charPaths.size(); ++k) {
+        const int x = charPositions.value(k);
+        if (x <= lastPaintableX)
+            AddGlyph(k, x, RestY(k));
+        else if (firstBeyond < 0)
+            firstBeyond = k;
+    }
+    EndFrame();
+    if (firstBeyond >= 0)
+        DrawTails(firstBeyond);
+}
+
+/** The part of the line that begins at character @p first, in pieces that can be painted. */
+void animationRealization::DrawTails(int first)
+{
+    while (first < charPaths.size()) {
+        int end = first + 1;
+        while (end < charPaths.size() &&
+               charPositions.value(end) - charPositions.value(first) <= lastPaintableX)
+            ++end;
+        DrawTail(first, end);
+        first = end;
+    }
+}
+
+/** Paints characters @p first to @p end - 1 into a picture that ends where the line ends. */
+void animationRealization::DrawTail(int first, int end)
+{
+    const int start = charPositions.value(first);
+    QImage tail = NewCanvas(QSize(totalTextWidth - start, drawImage.height()));
+    if (tail.isNull() || tail.bytesPerLine() > drawImage.bytesPerLine())
+        return;
+    auxPath = QPainterPath();
+    for (int k = first; k < end; ++k) {
+        // What lies before the latched start stands in the line's first part.
+        if (charPositions.value(k) > lastPaintableX)
+            auxPath.addPath(
+                charPaths.at(k).translated(float(charPositions.value(k) - start), float(RestY(k))));
+    }
+    tail.fill(0);
+    QPainter tailPainter(&tail);
+    // White, not the text's colour: the tail has always been so.
+    tailPainter.setPen(QPen(QBrush(Qt::white), 0));
+    tailPainter.setBrush(QBrush(Qt::white, Qt::SolidPattern));
+    tailPainter.drawPath(auxPath);
+    tailPainter.end();
+
+    // Right-aligned by bytes: rows of 24 bits are padded, so this is not a distance in pixels.
+    const int offset = drawImage.bytesPerLine() - tail.bytesPerLine();
+    for (int y = 0; y < tail.height(); ++y)
+        std::memcpy(drawImage.scanLine(y) + offset, tail.constScanLine(y),
+                    static_cast<size_t>(tail.bytesPerLine()));
+}
+
+/** Whether a cycle through the column leads on; heights that add up to nothing would never end. */
+bool animationRealization::ColumnGrows() const
+{
+    qint64 cycle = 0;
+    for (int k = 0; k < charPaths.size(); ++k)
+        cycle += charHeights.value(k);
+    return cycle > 0;
+}
+
+void animationRealization::ContinueEffectUp()
+{
+    const int p = charIndex; // pixels that the column has risen
+    scrollOffset = 0;
+    if (BeginFrame()) {
+        const int h = FrameHeight();
+        const int n = charPaths.size();
+        const double x = FrameWidth() * 0.5 - maxTextWidth * 0.5;
+        const bool grows = ColumnGrows();
+        int k = 0;
+        int d = p; // how far character k's top has come up from the bottom edge
+        for (int visited = 0; n > 0 && d >= 0 && (grows || visited < n); ++visited) {
+            if (d <= h || d - charHeights.value(k) <= h)
+                AddGlyph(k, x, h + scrollOffset - p + charHeights.value(k) - charDescents.value(k));
+            k = k + 1 < n ? k + 1 : 0;
+            // By the height of the character to come, not of the one just placed: unequal
+            // neighbours overlap or gap by the difference.
+            scrollOffset += charHeights.value(k);
+            d = p - scrollOffset;
+        }
+        EndFrame();
+    }
+    AdvanceColumn();
+}
+
+void animationRealization::ContinueEffectDown()
+{
+    const int p = charIndex; // pixels that the column has come down
+    scrollOffset = 0;
+    if (BeginFrame()) {
+        const int h = FrameHeight();
+        const int n = charPaths.size();
+        const double x = FrameWidth() * 0.5 - maxTextWidth * 0.5;
+        const bool grows = ColumnGrows();
+        int k = n - 1;
+        int y = p; // the baseline; unlike the rising column's it counts neither height nor descent
+        for (int visited = 0; n > 0 && y >= 1 && (grows || visited < n); ++visited) {
+            if (y <= h || y - charHeights.value(k) < h)
+                AddGlyph(k, x, y);
+            k = k > 0 ? k - 1 : n - 1;
+            scrollOffset -= charHeights.value(k);
+            y = p + scrollOffset;
+        }
+        EndFrame();
+    }
+    AdvanceColumn();
+}
+
+void animationRealization::AdvanceColumn()
+{
+    Advance(charIndex, stepSize);
+    progressF = progressF + float(stepSize);
+    // Back to where the repeated text stands just as the first copy stood.
+    if (charIndex >= FrameHeight() + totalHeight)
+        charIndex = FrameHeight();
+    if (progressF >= float(totalHeight)) {
+        progressF = 0;
+        runEnded = true;
+        ++playCount;
+    }
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,39 @@
+// What text is filled and outlined with.
+#include "engine/animationrealization.h"
+
+#include "node/hanimationtextnode.h"
+
+#include <QPainter>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/** Clears the picture: transparent, or black where the device blends by colour key. */
+void animationRealization::DrawInit()
+{
+    if (!drawImage.isNull())
+        drawImage.fill(0);
+}
+
+void animationRealization::SetPainterBrush(int)
+{
+    // The first character's colour serves for all. Gradient, stroke and picture fill belong to the
+    // dazzle background; the text keeps its plain colour.
+    const QColor color = node ? node->GetTextColor(0) : QColor(255, 0, 0);
+    painter->setBrush(hollow == 1 ? QBrush(Qt::NoBrush) : QBrush(color, Qt::SolidPattern));
+    // Width 0 spelled out: a hair line at any scale, Qt 4's default but not Qt 5's.
+    painter->setPen(QPen(QBrush(color), 0));
+}
+
+/** Adds the character's shadow to auxPath. Text is painted without one; hosts may call it. */
+void animationRealization::DrawShadow(int index)
+{
+    if (!node || node->GetAttributeToInt(QString::fromLatin1("CheckShadowEffect")) != 1)
+        return;
+    const int distance = node->GetAttributeToInt(QString::fromLatin1("TextShadowBox"));
+    if (index >= 0 && index < charPaths.size())
+        auxPath.addPath(charPaths.at(index).translated(distance, distance));
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,213 @@
+// How long a node plays, by the model that the host schedules with: ticks of 66 ms of animation,
+// and each page's hold. A few effects run a frame or more longer than the model says; the schedules
+// that hosts have made depend on the model, so it stays.
+#include "node/hanimationtextnode.h"
+
+#include "node/wrapping.h"
+
+#include <torvsdk.h>
+
+#include <cmath>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+const int tick = 66;              // ms, the renderer's timer
+const int unknownDuration = 6000; // ms, static text and unknown modes
+const int scrollLeftCode = 26;
+
+// What the frame counts of the effects depend on.
+struct Play
+{
+    int speed;
+    int textLength;
+    int areaWidth;
+    int areaHeight;
+    int maxWidth;
+    int maxHeight;
+    QList<int> breaks;     // of the pages, one more than there are pages
+    QVector<int> descents; // per character
+
+    int Pages() const { return breaks.size() - 1; }
+    // Steps that a counter takes per frame, and ticks that a frame takes.
+    int Step() const { return speed >= 5 ? speed - 4 : 1; }
+    qint64 TicksPerFrame() const { return speed >= 5 ? 1 : qint64(6) - speed; }
+};
+
+// Integer division that rounds down, for a positive divisor.
+qint64 Floor(qint64 dividend, qint64 divisor)
+{
+    const qint64 quotient = dividend / divisor;
+    return dividend % divisor < 0 ? quotient - 1 : quotient;
+}
+
+// A cycle of `steps` counted in the speed's own way: 6 - v ticks a step, or v - 4 steps a tick.
+qint64 CycleTicks(const Play& play, qint64 steps)
+{
+    return play.speed < 5 ? steps * Wrapped(play.TicksPerFrame()) : steps / play.Step();
+}
+
+// Every character rises or falls to its place over twice the distance from its edge to its middle.
+qint64 VerticalFlyFrames(const Play& play, int descentFactor)
+{
+    qint64 frames = 0;
+    for (int i = 0; i < play.textLength; ++i) {
+        const qint64 travel = qint64(play.areaHeight) + play.maxHeight -
+                              qint64(descentFactor) * play.descents.value(i);
+        frames += qMax<qint64>(1, Floor(travel, qint64(2) * play.Step()) + 1);
+    }
+    return frames;
+}
+
+// The characters of a page start a step after one another and fall for `factor` times the height of
+// the last one's baseline.
+qint64 DropFrames(const Play& play, double factor)
+{
+    qint64 frames = 0;
+    for (int page = 0; page < play.Pages(); ++page) {
+        const int end = play.breaks.at(page + 1);
+        const int characters = end - play.breaks.at(page);
+        const qint64 baseline =
+            qint64(play.areaHeight / 2) + play.maxHeight / 2 - play.descents.value(end - 1);
+        const qint64 fall = static_cast<qint64>(std::floor(factor * double(baseline)));
+        frames += qMax<qint64>(1, characters + Floor(fall, play.Step()) + 1);
+    }
+    return frames;
+}
+
+qint64 SlantedZoomFrames(const Play& play)
+{
+    qint64 frames = 0;
+    for (int page = 0; page < play.Pages(); ++page) {
+        const qint64 characters = play.breaks.at(page + 1) - play.breaks.at(page);
+        frames += Floor(play.areaWidth + play.Step() * characters, qint64(3) * play.Step()) + 1;
+    }
+    return frames;
+}
+
+// Ticks of animation in one run over all pages, in effects 2 and above.
+qint64 AnimationTicks(const Play& play, int effect)
+{
+    const qint64 n = play.textLength;
+    const qint64 pages = play.Pages();
+    const qint64 step = play.Step();
+    const qint64 slow = Wrapped(qint64(10) - play.speed);
+    qint64 frames = 0;
+    switch (effect) {
+    case 2: frames = VerticalFlyFrames(play, 0); break;
+    case 3: frames = VerticalFlyFrames(play, 2); break;
+    case 4: return n * slow;
+    case 5: frames = n + pages * (103 / step + 1); break;
+    case 6:
+    case 7:
+    case 11:
+    case 13:
+    case 27:
+    case 29: return pages * CycleTicks(play, 360);
+    case 8: return 61 * pages * slow;
+    case 9:
+    case 10: return n * CycleTicks(play, 45);
+    case 12: return pages * Wrapped(CycleTicks(play, play.areaWidth));
+    case 14: frames = n + pages * (179 / step + 1); break;
+    case 15: frames = pages * (200 / step + 1); break;
+    case 16: frames = DropFrames(play, 1.0); break;
+    case 17: frames = DropFrames(play, 2.2); break;
+    case 18: frames = SlantedZoomFrames(play); break;
+    case 19:
+    case 20: return n * 5 * slow;
+    case 21: return pages * Wrapped(CycleTicks(play, play.maxWidth));
+    case 22: frames = n + pages * (Floor(play.areaWidth, step) + 1); break;
+    case 23: frames = pages * (100 / step + 1); break;
+    case 24: frames = 2 * (n + pages * (play.maxWidth / step + 1)); break;
+    case 25: frames = pages * (41 / step + 1); break;
+    case 26: frames = pages * (360 / (3 * step) + 1); break;
+    case 28: frames = pages * (240 / step + 1); break;
+    default: break;
+    }
+    return qint64(Wrapped(frames)) * Wrapped(play.TicksPerFrame());
+}
+
+// Effects 0 and 1, in milliseconds: character i flies over the width of the characters before it.
+int HorizontalFlyTime(const LineWidths& line, int length, int firstOffset, int speed)
+{
+    int time = 0;
+    for (int i = 0; i < length; ++i) {
+        const int distance = WrappingSum(line.CountWith(i), -firstOffset);
+        if (speed >= 5)
+            time = WrappingSum(time, WrappingProduct(distance / (speed - 4), tick));
+        else
+            time = Truncated(time + distance * 66.0 * (6.0 - speed));
+    }
+    return time;
+}
+
+} // namespace
+
+int HAnimationTextNode::Duration()
+{
+    pageBreaks.clear();
+    pageOffsets.clear();
+    InitPainterPath();
+    SelectPath(1);
+
+    switch (GetAttributeToInt(QString::fromLatin1("EffectType"))) {
+    case 0: return EffectDuration(GetAttributeToInt(QString::fromLatin1("AnimationEffect")));
+    case 1: return ScrollDuration(GetAttributeToInt(QString::fromLatin1("ContinueStyle")));
+    default: return unknownDuration;
+    }
+}
+
+int HAnimationTextNode::ScrollDuration(int style)
+{
+    if (style < 0 || style > 3)
+        return unknownDuration;
+
+    const int speed = GetAttributeToInt(QString::fromLatin1("ContinueSpeed"));
+    if (style < 2) {
+        const QSize area = Size();
+        const int speedIndex = WrappingSum(speed, -1);
+        const int acrossArea =
+            GeteffectDuration(area.width(), area.height(), scrollLeftCode, speedIndex);
+        const int acrossText =
+            GeteffectDuration(GetTotalTextWith(), area.height(), scrollLeftCode, speedIndex);
+        return WrappingProduct(WrappingSum(acrossArea, acrossText), PlayTimes());
+    }
+
+    const int height = CountTotalHeight();
+    if (speed < 5)
+        return WrappingProduct(
+            WrappingProduct(Wrapped(qint64(6) - speed), WrappingProduct(height, tick)),
+            PlayTimes());
+    return Truncated(double(height) / (speed - 4) * 66.0 * PlayTimes());
+}
+
+int HAnimationTextNode::EffectDuration(int effect)
+{
+    if (effect < 0 || effect > 29)
+        return unknownDuration;
+
+    const int length = Text().size();
+    const int pages = pageOffsets.size() - 1;
+    int animation = 0;
+    if (effect < 2) {
+        animation = HorizontalFlyTime(TextWidths(), length, pageOffsets.value(0), AnimationSpeed());
+    } else {
+        Play play;
+        play.speed = AnimationSpeed();
+        play.textLength = length;
+        play.areaWidth = Size().width();
+        play.areaHeight = Size().height();
+        play.maxWidth = MaxTextWidth();
+        play.maxHeight = MaxTextHeight();
+        play.breaks = pageBreaks;
+        play.descents = descentData;
+        animation = WrappingProduct(Wrapped(AnimationTicks(play, effect)), tick);
+    }
+    const int hold = WrappingProduct(pages, WrappingProduct(GetHoldTime(), 100));
+    return WrappingProduct(PlayTimes(), WrappingSum(animation, hold));
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

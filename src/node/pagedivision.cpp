@@ -1,0 +1,58 @@
+#include "node/pagedivision.h"
+
+#include "node/linewidths.h"
+#include "node/wrapping.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void CutForward(const LineWidths& line, int length, int areaWidth, QList<int>& breaks,
+                QList<int>& offsets)
+{
+    breaks.append(0);
+    offsets.append(0);
+    int lastCut = 0;
+    int sum = 0;
+    int count = 1;
+    while (count <= length) {
+        sum = WrappingSum(sum, line.Width(count - 1));
+        if (sum <= areaWidth) {
+            ++count;
+            continue;
+        }
+        // The character that overflows opens the next page, unless it stands alone on this one.
+        const bool alone = count - lastCut == 1;
+        lastCut = alone ? count : count - 1;
+        breaks.append(lastCut);
+        offsets.append(line.CountWith(lastCut));
+        sum = 0;
+        if (alone)
+            ++count;
+    }
+}
+
+void CutBackward(const LineWidths& line, int length, int areaWidth, QList<int>& breaks,
+                 QList<int>& offsets)
+{
+    breaks.append(length - 1);
+    offsets.append(line.CountWith(length - 1));
+    int sum = 0;
+    for (int i = length - 1; i >= 0; --i) {
+        sum = WrappingSum(sum, line.Width(i));
+        if (sum > areaWidth) {
+            breaks.append(i);
+            offsets.append(line.CountWith(i));
+            sum = line.Width(i);
+        }
+    }
+    breaks.append(-1);
+    offsets.append(0);
+    // An over-wide last character has cut a page off before itself.
+    if (breaks.size() >= 2 && breaks.at(0) == breaks.at(1)) {
+        breaks.removeFirst();
+        offsets.removeFirst();
+    }
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

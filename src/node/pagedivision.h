@@ -1,0 +1,30 @@
+#ifndef PAGEDIVISION_H
+#define PAGEDIVISION_H
+
+#include <QList>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+class LineWidths;
+
+/**
+ * Cuts a line of @p length characters from its start into pages no wider than @p areaWidth pixels:
+ * a page is the longest run of whole characters that fits, or a single character that does not.
+ * Appends 0 and every cut to @p breaks and the line's width up to there to @p offsets. The end of
+ * the line is appended only when the cut falls there by itself, after an over-wide last character.
+ */
+void CutForward(const LineWidths& line, int length, int areaWidth, QList<int>& breaks,
+                QList<int>& offsets);
+
+/**
+ * Cuts the line from its end: the last entry of a page comes first, each break being the last
+ * character of its page, and -1 ends the list.
+ */
+void CutBackward(const LineWidths& line, int length, int areaWidth, QList<int>& breaks,
+                 QList<int>& offsets);
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

@@ -1,0 +1,141 @@
+// The renderer's play operations and its tick.
+#include "render/hanimationtextrender.h"
+
+#include "engine/animationrealization.h"
+#include "node/hanimationtextnode.h"
+
+#include <hpluginmanager.h>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+const int tickInterval = 66; // ms
+
+enum State { Finished = 0, Playing = 1, NothingToPlay = 2 };
+
+} // namespace
+
+HAnimationTextRender::HAnimationTextRender(HAnimationTextNode* node)
+    : node(node)
+    , state(Playing)
+    , displayHandle(0)
+    , engine(new animationRealization(0))
+    , paused(false)
+    , playedTimes(0)
+    , session(0)
+    , firstTick(true)
+    , imageFormat(HPluginManager::instance()->SuportAlphaBlend(node) ? QImage::Format_ARGB32
+                                                                     : QImage::Format_RGB888)
+{
+    connect(&drawTimer, SIGNAL(timeout()), this, SLOT(UpdateDraw()));
+}
+
+HAnimationTextRender::~HAnimationTextRender()
+{
+    drawTimer.stop();
+    engine->Stop();
+    ReleaseSession();
+    delete engine;
+    engine = 0;
+}
+
+/** The node's number under @p key; 0 without a node. */
+int HAnimationTextRender::Attribute(const char* key) const
+{
+    return node ? node->GetAttributeToInt(QString::fromLatin1(key)) : 0;
+}
+
+/** Whether the device moves the text by itself. */
+bool HAnimationTextRender::ScrollsSideways() const
+{
+    if (Attribute("EffectType") != 1)
+        return false;
+    const int style = Attribute("ContinueStyle");
+    return style == 0 || style == 1;
+}
+
+void HAnimationTextRender::Start(unsigned int newDisplayHandle)
+{
+    if (!node || newDisplayHandle == 0) {
+        state = NothingToPlay;
+        return;
+    }
+    displayHandle = newDisplayHandle;
+    state = Playing;
+    playedTimes = 0;
+    firstTick = true;
+    startTime = QDateTime::currentDateTime();
+    Stop();
+
+    if (node->Text().trimmed().isEmpty()) {
+        state = NothingToPlay;
+        return;
+    }
+    engine->Init(node);
+    engine->Start();
+    UpdateDraw();
+    drawTimer.start(tickInterval);
+    // The device scrolls for as long as it is let; the host need not wait for it.
+    if (ScrollsSideways())
+        state = Finished;
+}
+
+void HAnimationTextRender::Pause()
+{
+    paused = !paused;
+    engine->Pause(paused);
+    if (paused)
+        drawTimer.stop();
+    else
+        drawTimer.start(tickInterval);
+}
+
+void HAnimationTextRender::Stop()
+{
+    drawTimer.stop();
+    ReleaseSession();
+}
+
+void HAnimationTextRender::Remove()
+{
+    Stop();
+}
+
+void HAnimationTextRender::PlayNext()
+{
+    if (!paused && node)
+        node->Text();
+}
+
+int HAnimationTextRender::renderState()
+{
+    return state;
+}
+
+void HAnimationTextRender::UpdateDraw()
+{
+    if (paused || !node || node->Text().isEmpty())
+        return;
+    if (firstTick) {
+        firstTick = false;
+        DrawFirstTick();
+        return;
+    }
+    const int mode = Attribute("EffectType");
+    const int style = Attribute("ContinueStyle");
+    const bool frameByFrame = mode == 0 || (mode == 1 && (style == 2 || style == 3));
+    if (!frameByFrame)
+        return;
+
+    engine->PrepareImage();
+    playedTimes = engine->GetDisplayTimes();
+    if (playedTimes >= Attribute("PlayTimes")) {
+        playedTimes = 0;
+        state = Finished;
+    }
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,253 @@
+// The renderer's picture session on the device: its layers, their stacking and its scrolling.
+#include "render/hanimationtextrender.h"
+
+#include "engine/animationrealization.h"
+#include "node/hanimationtextnode.h"
+#include "node/wrapping.h"
+
+#include <drawneonbg.h>
+#include <hpluginmanager.h>
+
+#include <cstring>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+const int sessionFlags = 16;
+const int writeMode = 5; // of GetPicImageLayerPtr
+const int scrollLeftCode = 26;
+const int scrollRightCode = 27;
+const int forEver = 1000000000;
+
+qint64 ByteCount(const QImage& image)
+{
+    return qint64(image.bytesPerLine()) * image.height();
+}
+
+void* Opaque(PicSession session)
+{
+    return reinterpret_cast<void*>(static_cast<quintptr>(session));
+}
+
+int ChildCount(const HNode* node)
+{
+    return node ? node->ChildNodes().size() : 0;
+}
+
+} // namespace
+
+unsigned int HAnimationTextRender::PixelWord() const
+{
+    return HPluginManager::instance()->SuportAlphaBlend(node) ? 0xFF010201u : 0x00010201u;
+}
+
+void HAnimationTextRender::SetSession(Effect* effect, QImage& image)
+{
+    if (!node)
+        return;
+    const QPoint pos = node->Pos();
+    const QSize area = node->Size();
+    const PicImage picture = {image.width(), image.height(), image.bytesPerLine(),
+                              image.constBits()};
+    const PicPlacement placement = {pos.x(), pos.y(), area.width(),  area.height(),
+                                    0,       0,       image.width(), image.height()};
+    const int type = HPluginManager::instance()->SuportAlphaBlend(node) ? 3 : 5;
+    session = CreatePictureSession(type, &picture, sessionFlags, effect, &placement, PixelWord());
+    AddPictureSession(displayHandle, session, 0);
+}
+
+int HAnimationTextRender::GetLayerNum(QSize size, int bytesPerLine)
+{
+    return PicAppendImageLayer(displayHandle, session, size.width(), size.height(), bytesPerLine,
+                               PixelWord());
+}
+
+/** Removes and frees the session, if any, once nothing paints into its layers any more. */
+void HAnimationTextRender::ReleaseSession()
+{
+    engine->StopBackgrounds();
+    engine->ForgetSession();
+    if (!session)
+        return;
+    RemovePictureSession(displayHandle, session);
+    FreePictureSession(session);
+    session = 0;
+}
+
+/** One pass of the line over the device, in milliseconds. */
+int HAnimationTextRender::LineDuration()
+{
+    const QSize line = engine->CountSize(true);
+    const int code = Attribute("ContinueStyle") == 1 ? scrollRightCode : scrollLeftCode;
+    return GeteffectDuration(line.width(), line.height(), code,
+                             WrappingSum(Attribute("ContinueSpeed"), -1));
+}
+
+/** How long the device shall scroll, which depends on what else the host plays. */
+int HAnimationTextRender::ScheduledDuration()
+{
+    HNode* const area = node->ParentNode();
+    HNode* const page = area ? area->ParentNode() : 0;
+    HNode* const program = page ? page->ParentNode() : 0;
+    const bool aloneInArea = ChildCount(area) == 1;
+
+    // Alone in everything: practically for ever. The product wraps, and the device takes it so.
+    if (aloneInArea && ChildCount(program) == 1)
+        return WrappingProduct(LineDuration(), forEver);
+
+    const int own = WrappingProduct(LineDuration(), Attribute("PlayTimes"));
+    if (!aloneInArea)
+        return own;
+    // As long as the longest of what shares the page.
+    int longest = 0;
+    const QList<HNode*> areas = page ? page->ChildNodes() : QList<HNode*>();
+    for (int i = 0; i < areas.size(); ++i)
+        longest = qMax(longest, areas.at(i)->Duration());
+    return qMax(own, longest);
+}
+
+void HAnimationTextRender::StartInit(QImage& image)
+{
+    // Stop() silences a play that is just beginning; what ran before it goes on.
+    const bool ticking = drawTimer.isActive();
+    Stop();
+    if (ticking)
+        drawTimer.start();
+    engine->StartBackgrounds();
+    if (!node)
+        return;
+
+    Effect effect = {0, 0, 0, 0, 0, 66};
+    if (ScrollsSideways()) {
+        const int code = Attribute("ContinueStyle") == 1 ? scrollRightCode : scrollLeftCode;
+        const QSize area = node->Size();
+        effect.effect1 = effect.effect2 = effect.effect3 = code;
+        effect.duration1 = GeteffectDuration(area.width(), area.height(), code,
+                                             WrappingSum(Attribute("ContinueSpeed"), -1));
+        effect.duration2 = ScheduledDuration();
+        effect.duration3 = 0;
+    }
+    SetSession(&effect, image);
+}
+
+void HAnimationTextRender::InitRenderSession(QImage& image)
+{
+    Stop();
+    if (!node)
+        return;
+    Effect still = {0, 0, 0, 0, 0, 66};
+    SetSession(&still, image);
+}
+
+/** Makes the session and its layers and shows the first frame. */
+void HAnimationTextRender::DrawFirstTick()
+{
+    if (ScrollsSideways())
+        ShowLine();
+    else
+        ShowFrames();
+    SetPicLayerProperty();
+}
+
+/** The whole line at once, in layer 0; the device moves it. */
+void HAnimationTextRender::ShowLine()
+{
+    engine->PrepareImage();
+    StartInit(engine->drawImage);
+    engine->SetPictureSession(Opaque(session), static_cast<int>(displayHandle), 0);
+    engine->layerBytes = ByteCount(engine->drawImage);
+    if (Attribute("CheckNeonBg") == 1) {
+        const QImage& neon = engine->neonBg->Image();
+        const int layer = GetLayerNum(neon.size(), neon.bytesPerLine());
+        if (layer >= 0)
+            GiveNeonLayer(layer, ByteCount(neon));
+    }
+    AppendDazzleLayer();
+}
+
+/** Frame by frame: neon takes the session's base layer when it is on, the text the next one. */
+void HAnimationTextRender::ShowFrames()
+{
+    QImage base(engine->CountSize(false), imageFormat);
+    if (!base.isNull())
+        base.fill(0);
+    StartInit(base);
+
+    if (Attribute("CheckNeonBg") == 1) {
+        const QImage& text = engine->drawImage;
+        const int layer = GetLayerNum(text.size(), text.bytesPerLine());
+        if (layer >= 0) {
+            engine->SetPictureSession(Opaque(session), static_cast<int>(displayHandle), layer);
+            engine->layerBytes = ByteCount(text);
+            GiveNeonLayer(0, ByteCount(base));
+        }
+    } else {
+        engine->SetPictureSession(Opaque(session), static_cast<int>(displayHandle), 0);
+        engine->layerBytes = ByteCount(base);
+    }
+    AppendDazzleLayer();
+    if (Attribute("CheckDazzle") == 1)
+        engine->DrawDazzleBackground();
+    engine->PrepareImage();
+}
+
+/** Lets the neon animator paint a layer, unless its pictures would not fit there. */
+void HAnimationTextRender::GiveNeonLayer(int layer, qint64 layerBytes)
+{
+    DrawNeonBg* const neon = engine->neonBg;
+    if (ByteCount(neon->Image()) > layerBytes)
+        return;
+    neon->pictureSession = Opaque(session);
+    neon->displayHandle = displayHandle;
+    neon->layer = layer;
+}
+
+void HAnimationTextRender::AppendDazzleLayer()
+{
+    if (Attribute("CheckDazzle") != 1)
+        return;
+    const QImage& dazzle = engine->stayImage;
+    const int layer = GetLayerNum(dazzle.size(), dazzle.bytesPerLine());
+    if (layer >= 0)
+        engine->SetDazzleLayer(layer);
+}
+
+void HAnimationTextRender::SetPicLayerProperty()
+{
+    // Layers with value 0 lie at the bottom, those with 2 above, those with 1 on top. A line that
+    // scrolls is the base layer with its backgrounds appended; otherwise neon is the base and the
+    // text comes after it.
+    static const int values[2][4][3] = {
+        {{0, -1, -1}, {0, 2, -1}, {1, 2, -1}, {0, 1, 2}}, // frames
+        {{2, -1, -1}, {2, 0, -1}, {1, 2, -1}, {1, 0, 2}}, // a line that scrolls
+    };
+    const int neon = Attribute("CheckNeonBg");
+    const int dazzle = Attribute("CheckDazzle");
+    const int row = neon == 0 && dazzle == 0   ? 0
+                    : neon == 1 && dazzle == 0 ? 1
+                    : neon == 0 && dazzle == 1 ? 2
+                                               : 3;
+    const int* const stack = values[ScrollsSideways() ? 1 : 0][row];
+    for (int layer = 0; layer < 3 && stack[layer] >= 0; ++layer)
+        SetPicLayerBlend(displayHandle, session, layer, stack[layer]);
+}
+
+void HAnimationTextRender::SwapImageData(char** buffer, QImage& image, int layer)
+{
+    if (!*buffer)
+        *buffer = GetPicImageLayerPtr(displayHandle, session, layer, writeMode);
+    if (!*buffer)
+        return;
+    const QImage::Format format = HPluginManager::instance()->SuportAlphaBlend(node)
+                                      ? QImage::Format_ARGB32
+                                      : QImage::Format_RGB888;
+    if (image.depth() != (format == QImage::Format_ARGB32 ? 32 : 24))
+        image = image.convertToFormat(format);
+    std::memcpy(*buffer, image.constBits(), static_cast<size_t>(ByteCount(image)));
+    *buffer = SwapPicImageLayerPtr(displayHandle, session, layer);
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw
