@@ -34,18 +34,20 @@ enum Operation {
 const char* OperationName(Operation operation);
 
 /** What the service holds and what it has been asked wrongly; see Accounts(). */
-struct Accounting {
-    int liveSessions;        ///< created and not freed
-    int liveLayers;          ///< of all live sessions
-    qint64 liveBytes;        ///< of all live layers, both buffers
-    qint64 peakBytes;        ///< the most that liveBytes has been since ResetAccounts()
+struct Accounting
+{
+    int liveSessions; ///< created and not freed
+    int liveLayers;   ///< of all live sessions
+    qint64 liveBytes; ///< of all live layers, both buffers
+    qint64 peakBytes; ///< the most that liveBytes has been since ResetAccounts()
     qint64 calls[OperationCount];
-    qint64 zeroHandle;       ///< calls with session 0
-    qint64 staleHandle;      ///< calls with a session that was freed or never made
-    qint64 wrongDisplay;     ///< calls with a display that the session is not on
-    qint64 badLayer;         ///< calls with a layer that the session does not have
-    qint64 badArgument;      ///< null records, sizes that do not fit together, unknown modes
-    qint64 injectedFaults;   ///< calls that failed on demand
+    qint64 zeroHandle;     ///< calls with session 0
+    qint64 staleHandle;    ///< calls with a session that was freed or never made
+    qint64 wrongDisplay;   ///< calls with a display that the session is not on
+    qint64 badLayer;       ///< calls with a layer that the session does not have
+    qint64 badArgument;    ///< null records, sizes that do not fit together, unknown modes
+    qint64 injectedFaults; ///< calls that failed on demand
+    qint64 refused;        ///< sessions and layers that were too many or too large
 
     /** The sum of the misuse counters; injected faults are none. */
     qint64 Misuses() const
@@ -62,7 +64,11 @@ void ResetAccounts();
 /** A few lines for a person: what is live, the calls, the misuses. */
 QString AccountsReport();
 
-/** Lets the @p nth call (1 is the next one) of @p operation fail once; 0 takes the fault back. */
+/**
+ * Lets the @p nth call (1 is the next one) of @p operation fail once; 0 takes the fault back.
+ * A call that fails on demand answers 0, -1 or null and has no effect, with one exception:
+ * FreePictureSession() frees the session all the same, since its caller has no second try.
+ */
 void FailCall(Operation operation, int nth);
 
 /** Lets every call of @p operation fail until told otherwise. */
@@ -71,7 +77,13 @@ void FailAllCalls(Operation operation, bool fail);
 /** Takes back every fault that has been asked for. */
 void ClearFaults();
 
-/** Is told of every call, once it has been answered; @p jsonLine is one JSON object. */
+/**
+ * Is told of every call, once it has been answered. @p jsonLine is one JSON object: "call", the
+ * arguments by their names in torvsdk.h, "result", and, when the call came to nothing, "problem":
+ * "fault" (on demand), "refused" (too large) or the counter of the misuse. The records are objects,
+ * "pixelWord" is text in hexadecimal, and a buffer is "buffer 0", "buffer 1" or null: the lines of
+ * two runs are the same.
+ */
 typedef void (*CallLog)(void* context, const QString& jsonLine);
 
 /** Sends every call to @p log (null: none). */
@@ -82,6 +94,15 @@ typedef qint64 (*Clock)(void* context);
 
 /** Where sessions take the time at which their scrolling begins; null: it stands at 0. */
 void SetClock(Clock clock, void* context);
+
+/** The time of that clock. */
+qint64 Now();
+
+/**
+ * From now on, a buffer that is shown after a swap can only be read: a painter that writes into
+ * the picture on the screen stops the process. Off until it is asked for.
+ */
+void GuardShownBuffers(bool guard);
 
 /** One emulated display output. Not copyable; its sessions outlive it but are shown no more. */
 class Display
@@ -118,12 +139,12 @@ QRect SessionArea(PicSession session);
 /** The number of layers; 0 for a session that is not live. */
 int LayerCount(PicSession session);
 
-/** How often the layer has been swapped. */
+/** How often the layer has been swapped; 0 when there is no such layer. */
 qint64 SwapCount(PicSession session, int layer);
 
 /**
  * A deep copy of what the layer shows: QImage::Format_ARGB32 in sessions of type 3, Format_RGB888
- * in those of type 5; null when there is no such layer.
+ * in those of type 5; null when there is no such layer or it is empty.
  */
 QImage FrontImage(PicSession session, int layer);
 

@@ -5,7 +5,11 @@
  * both with the vendor's; the plugin needs nothing but the nine functions and three records below.
  *
  * A picture session shows a stack of image layers in one rectangle of a display. Every layer has
- * two buffers: one is shown, the other is painted. All calls come from one thread.
+ * two buffers: one is shown, the other is painted. A layer that has never been swapped shows the
+ * buffer that is painted, so a background can be painted in place. All calls come from one thread.
+ *
+ * A picture without pixels makes an empty layer, whose buffers are null. A session whose picture is
+ * larger than 256 MiB, and a layer past the 16th, is refused.
  */
 #ifndef TORVSDK_H
 #define TORVSDK_H
@@ -21,7 +25,8 @@ typedef unsigned int PicDisplay;
 typedef unsigned int PicSession;
 
 /** What the device does to a session's base layer by itself: three pairs of code and duration. */
-typedef struct Effect {
+typedef struct Effect
+{
     int effect1;   /**< effect code: 0 none, 26 scroll to the left, 27 scroll to the right */
     int duration1; /**< milliseconds in which the picture moves by one area width */
     int effect2;
@@ -31,7 +36,8 @@ typedef struct Effect {
 } Effect;
 
 /** The picture that a session starts with; its bytes are copied. */
-typedef struct PicImage {
+typedef struct PicImage
+{
     int width;        /**< pixels */
     int height;       /**< pixels */
     int bytesPerLine; /**< bytes from one row to the next, a multiple of 4 */
@@ -39,7 +45,8 @@ typedef struct PicImage {
 } PicImage;
 
 /** Where a session stands on its display, in pixels. */
-typedef struct PicPlacement {
+typedef struct PicPlacement
+{
     int x;
     int y;
     int width;  /**< of the area that the session may paint */
@@ -95,7 +102,7 @@ int SetPicLayerBlend(PicDisplay display, PicSession session, int layer, int valu
 /** Takes @p session off @p display. @return 0, or -1 on failure */
 int RemovePictureSession(PicDisplay display, PicSession session);
 
-/** Ends a session and frees its layers. @return 0, or -1 on failure */
+/** Ends a session, on a display or not, and frees its layers. @return 0, or -1 on failure */
 int FreePictureSession(PicSession session);
 
 /**

@@ -42,11 +42,15 @@ public:
     void SetAttribute(QString key, QString value);
     void SetAttribute(QString key, int value);
     /** Replaces the list under @p key. */
-    void SetList(QString key, const QList<QHash<QString, QString> >& rows);
+    void SetList(QString key, const QList<QHash<QString, QString>>& rows);
     /** Replaces the files under @p key. @param paths full paths */
     void SetFiles(QString key, QStringList paths);
     /** Removes whatever stands under @p key. */
     void RemoveKey(QString key);
+
+protected:
+    /** Replaces everything by what @p from holds. */
+    void CopyData(const HData& from);
 
 private:
     Q_DISABLE_COPY(HData)

@@ -16,16 +16,16 @@ class HList
 {
 public:
     HList() {}
-    explicit HList(const QList<QHash<QString, QString> >& rows)
+    explicit HList(const QList<QHash<QString, QString>>& rows)
         : rows(rows)
     {
     }
 
     /** The rows, shared and not copied. */
-    QList<QHash<QString, QString> > items() const { return rows; }
+    QList<QHash<QString, QString>> items() const { return rows; }
 
 private:
-    QList<QHash<QString, QString> > rows;
+    QList<QHash<QString, QString>> rows;
 };
 
 } // namespace Lw

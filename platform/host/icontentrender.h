@@ -12,7 +12,7 @@ namespace Lw {
 class IContentRender
 {
 public:
-    virtual ~IContentRender() {}
+    virtual ~IContentRender();
     /** @param displayHandle the display output; 0 is none */
     virtual void Start(unsigned int displayHandle) = 0;
     /** Freezes the play, or lets it go on when it is frozen. */

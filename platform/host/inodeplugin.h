@@ -23,7 +23,7 @@ class IContentRender;
 class INodePlugin
 {
 public:
-    virtual ~INodePlugin() {}
+    virtual ~INodePlugin();
     virtual QString name() { return QString(); }
     virtual int level() { return 5; }
     virtual QString type() { return QString(); }

@@ -1,0 +1,40 @@
+/**
+ * @file
+ * The memory of one layer. A renderer that paints into a layer after it has been freed would go
+ * unnoticed on ordinary memory; here it stops at once, with the painter still on the stack.
+ */
+#ifndef TORV_LAYERMEMORY_H
+#define TORV_LAYERMEMORY_H
+
+#include <QtGlobal>
+
+namespace Torv {
+
+/** Two buffers of zero bytes, each on pages of its own. */
+class LayerMemory
+{
+public:
+    LayerMemory();
+    /** Makes the memory inaccessible and keeps its addresses out of use for a while. */
+    ~LayerMemory();
+
+    /** @param bytes of one buffer, above 0. @return false when there is no such memory */
+    bool Allocate(qint64 bytes);
+
+    /** @param index 0 or 1; null before Allocate() */
+    char* Buffer(int index) const;
+
+    /** Lets a buffer be read only, or be written again. */
+    void Protect(int index, bool readOnly) const;
+
+private:
+    LayerMemory(const LayerMemory&);
+    LayerMemory& operator=(const LayerMemory&);
+
+    char* start;
+    qint64 span; ///< of one buffer, whole pages
+};
+
+} // namespace Torv
+
+#endif

@@ -1,0 +1,26 @@
+/**
+ * @file
+ * Where the device's own scrolling has moved a picture.
+ */
+#ifndef TORV_SCROLL_H
+#define TORV_SCROLL_H
+
+#include "torvsdk.h"
+
+#include <QtGlobal>
+
+namespace Torv {
+
+enum ScrollCode { ScrollLeft = 26, ScrollRight = 27 };
+
+/**
+ * The x of the picture's left edge in its area: a picture that scrolls comes in at one edge, leaves
+ * at the other and comes in again, once every areaWidth + pictureWidth pixels.
+ * @param milliseconds since the session was shown
+ * @return 0 when the effect does not scroll
+ */
+qint64 ScrollPosition(const Effect& effect, int areaWidth, int pictureWidth, qint64 milliseconds);
+
+} // namespace Torv
+
+#endif

@@ -1,0 +1,134 @@
+#include "drawneonbg.h"
+
+#include "hcontentnode.h"
+#include "hneonnodebase.h"
+#include "hpluginmanager.h"
+#include "neonborder.h"
+#include "neonfilm.h"
+
+#include "torvsdk.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <cstring>
+#include <memory>
+
+namespace Lw {
+
+namespace {
+
+const int LastBorderStyle = 28; // above it the style is a film
+const int ForWriting = 5;
+const qint64 LargestImage = qint64(256) << 20; // bytes
+
+QImage BlankImage(QSize size, QImage::Format format)
+{
+    const int bytesPerPixel = format == QImage::Format_ARGB32 ? 4 : 3;
+    if (size.isEmpty() || qint64(size.width()) * size.height() > LargestImage / bytesPerPixel)
+        return QImage();
+    QImage image(size, format);
+    if (!image.isNull())
+        image.fill(0);
+    return image;
+}
+
+} // namespace
+
+class DrawNeonBg::Private
+{
+public:
+    Private()
+        : interval(66)
+        , tick(0)
+    {
+    }
+
+    QPointer<HNode> node;
+    QImage image;
+    QTimer timer;
+    int interval;
+    qint64 tick; ///< pictures painted since InitNode()
+    std::unique_ptr<NeonBorder> border;
+    std::unique_ptr<NeonFilm> film;
+};
+
+DrawNeonBg::DrawNeonBg(QObject* parent)
+    : QObject(parent)
+    , pictureSession(0)
+    , displayHandle(0)
+    , layer(0)
+    , d(new Private)
+{
+    connect(&d->timer, SIGNAL(timeout()), this, SLOT(DrawNext()));
+}
+
+DrawNeonBg::~DrawNeonBg()
+{
+    delete d;
+}
+
+void DrawNeonBg::InitNode(HNode* node)
+{
+    d->node = node;
+    d->tick = 0;
+    d->image = QImage();
+    d->border.reset();
+    d->film.reset();
+
+    HContentNode* const content = qobject_cast<HContentNode*>(node);
+    if (!content)
+        return;
+    // HNeonNodeBase has no meta-object, so qobject_cast cannot tell it from its base.
+    const HNeonNodeBase* const neon = dynamic_cast<HNeonNodeBase*>(node);
+    const int style = neon ? neon->GetNeonEffect() : 0;
+    d->image = BlankImage(content->Size(), HPluginManager::instance()->SuportAlphaBlend(node)
+                                               ? QImage::Format_ARGB32
+                                               : QImage::Format_RGB888);
+    if (d->image.isNull())
+        return;
+    if (style > LastBorderStyle)
+        d->film.reset(
+            new NeonFilm(content->GetFirstFile(QLatin1String("NeonGifPath")), d->image.size()));
+    else
+        d->border.reset(new NeonBorder(d->image.size(), style));
+}
+
+void DrawNeonBg::StartTimerDraw(int interval)
+{
+    if (!d->node)
+        return;
+    d->interval = qMax(1, interval);
+    d->timer.start(d->interval);
+}
+
+void DrawNeonBg::StopTimerDraw()
+{
+    d->timer.stop();
+}
+
+const QImage& DrawNeonBg::Image() const
+{
+    return d->image;
+}
+
+void DrawNeonBg::DrawNext()
+{
+    if (!d->node || d->image.isNull() || !pictureSession || displayHandle == 0 || layer < 0)
+        return;
+
+    if (d->border)
+        d->border->Paint(d->image, d->tick);
+    else if (!d->film || !d->film->Paint(d->image, d->tick * d->interval))
+        return;
+    ++d->tick;
+
+    const PicSession session = PicSession(reinterpret_cast<quintptr>(pictureSession));
+    char* const buffer = GetPicImageLayerPtr(displayHandle, session, layer, ForWriting);
+    if (!buffer)
+        return;
+    std::memcpy(buffer, d->image.constBits(), size_t(d->image.bytesPerLine()) * d->image.height());
+    SwapPicImageLayerPtr(displayHandle, session, layer);
+}
+
+} // namespace Lw

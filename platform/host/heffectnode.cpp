@@ -1,0 +1,23 @@
+#include "heffectnode.h"
+
+namespace Lw {
+
+HEffectNode::HEffectNode(QObject* parent)
+    : HContentNode(parent)
+    , holdTime(0)
+{
+}
+
+HEffectNode::~HEffectNode() {}
+
+int HEffectNode::GetHoldTime() const
+{
+    return holdTime;
+}
+
+void HEffectNode::SetHoldTime(int hold)
+{
+    holdTime = hold;
+}
+
+} // namespace Lw

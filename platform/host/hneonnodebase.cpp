@@ -1,0 +1,23 @@
+#include "hneonnodebase.h"
+
+namespace Lw {
+
+HNeonNodeBase::HNeonNodeBase(QObject* parent)
+    : HEffectNode(parent)
+    , neonEffect(0)
+{
+}
+
+HNeonNodeBase::~HNeonNodeBase() {}
+
+int HNeonNodeBase::GetNeonEffect() const
+{
+    return neonEffect;
+}
+
+void HNeonNodeBase::SetNeonEffect(int effect)
+{
+    neonEffect = effect;
+}
+
+} // namespace Lw

@@ -1,0 +1,97 @@
+#include "hnode.h"
+
+#include <climits>
+
+namespace Lw {
+
+HNode::HNode(QObject* parent)
+    : HData(parent)
+{
+}
+
+HNode::~HNode() {}
+
+bool HNode::UpdateNode(QDomElement&, QList<FileInfo>&)
+{
+    return false;
+}
+
+HNode* HNode::Copy()
+{
+    return 0;
+}
+
+void HNode::Delete()
+{
+    deleteLater();
+}
+
+void HNode::Close(bool) {}
+
+bool HNode::Generator(QString, QList<HSendFileInfo>&)
+{
+    return false;
+}
+
+bool HNode::Export(QString)
+{
+    return false;
+}
+
+bool HNode::Import(QString)
+{
+    return false;
+}
+
+void HNode::NodeAlready() {}
+
+void HNode::ControllerChange() {}
+
+void HNode::InitData() {}
+
+void HNode::SDKInitData(void*) {}
+
+void HNode::ReloadAtrrbute(HNode* from)
+{
+    if (from)
+        CopyData(*from);
+}
+
+int HNode::Duration()
+{
+    const QList<HNode*> nodes = ChildNodes();
+    qint64 sum = 0;
+    for (int i = 0; i < nodes.size(); ++i)
+        sum += nodes.at(i)->Duration();
+    return int(qBound(qint64(INT_MIN), sum, qint64(INT_MAX)));
+}
+
+HNode* HNode::ParentNode() const
+{
+    return qobject_cast<HNode*>(parent());
+}
+
+QList<HNode*> HNode::ChildNodes() const
+{
+    QList<HNode*> nodes;
+    const QObjectList& all = children();
+    for (int i = 0; i < all.size(); ++i) {
+        // A child that is being deleted is no node any more and answers null.
+        if (HNode* const node = qobject_cast<HNode*>(all.at(i)))
+            nodes.append(node);
+    }
+    return nodes;
+}
+
+void HNode::AddChild(HNode* child)
+{
+    // A tree has no rings: neither this node nor what it hangs from can become its child.
+    for (const QObject* above = this; above; above = above->parent()) {
+        if (above == child)
+            return;
+    }
+    if (child)
+        child->setParent(this);
+}
+
+} // namespace Lw

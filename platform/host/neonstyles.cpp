@@ -1,0 +1,404 @@
+#include "neonstyles.h"
+
+#include <cmath>
+
+namespace Lw {
+
+namespace {
+
+const double Pi = 3.14159265358979323846;
+
+NeonLight operator*(const NeonLight& light, double factor)
+{
+    const NeonLight scaled = {light.red * factor, light.green * factor, light.blue * factor};
+    return scaled;
+}
+
+NeonLight operator+(const NeonLight& a, const NeonLight& b)
+{
+    const NeonLight sum = {a.red + b.red, a.green + b.green, a.blue + b.blue};
+    return sum;
+}
+
+double Square(double x)
+{
+    return x * x;
+}
+
+/** The part of x beyond whole multiples of period; 0 <= result < period. */
+double Wrap(double x, double period)
+{
+    const double rest = std::fmod(x, period);
+    return rest < 0 ? rest + period : rest;
+}
+
+// --- Colours ------------------------------------------------------------------------------------
+
+/** Colours 0xRRGGBB that follow one another and begin again. */
+struct Palette
+{
+    int count;
+    unsigned int colours[6];
+};
+
+const Palette Spectrum = {6, {0xFF2040, 0xFF9A10, 0xE8FF20, 0x18FF70, 0x18A8FF, 0xA030FF}};
+const Palette Sunset = {4, {0xFF2D6F, 0xFF7A2F, 0xFFC53D, 0xFF4D8D}};
+const Palette PinkCyan = {2, {0xFF2BD6, 0x19E3FF}};
+const Palette Amber = {2, {0xFFB52E, 0xFF7A18}};
+const Palette Ice = {3, {0x38B6FF, 0xA6F0FF, 0x4F6DFF}};
+const Palette Fire = {3, {0xFFD23F, 0xFF5A1F, 0xFF1E3C}};
+const Palette Mint = {3, {0x1BFFB3, 0x2BD2FF, 0x7CFF5B}};
+const Palette Violet = {3, {0x8A3CFF, 0xFF3CC7, 0x4F5BFF}};
+const Palette Candy = {2, {0xFF2447, 0xFFE9E4}};
+const Palette Lagoon = {2, {0x12F0C0, 0x1268FF}};
+const Palette GoldRose = {2, {0xFFC44D, 0xFF4FA0}};
+
+NeonLight ToLight(unsigned int colour)
+{
+    const NeonLight light = {(colour >> 16 & 0xFF) / 255.0, (colour >> 8 & 0xFF) / 255.0,
+                             (colour & 0xFF) / 255.0};
+    return light;
+}
+
+/** @param place 0 the first colour, 1 the first one again; any number */
+NeonLight ColourAt(const Palette& palette, double place)
+{
+    const double position = Wrap(place, 1.0) * palette.count;
+    const int index = int(position) % palette.count;
+    const double mix = position - int(position);
+    return ToLight(palette.colours[index]) * (1 - mix) +
+           ToLight(palette.colours[(index + 1) % palette.count]) * mix;
+}
+
+NeonLight ColourOf(const Palette& palette, int index)
+{
+    return ToLight(palette.colours[index % palette.count]);
+}
+
+// --- Shapes -------------------------------------------------------------------------------------
+
+/** A glowing tube seen from the side: a core that is too bright and a soft rim. */
+double Tube(double across)
+{
+    return std::exp(-4.5 * Square(across)) + 0.5 * std::exp(-30 * Square(across));
+}
+
+/** A flat strip with soft edges. */
+double Strip(double across)
+{
+    return 1 - Square(Square(across));
+}
+
+/** 1 within the edges, 0 beyond them, with a soft step between. */
+double Window(double x, double from, double to, double softness)
+{
+    const double rise = qBound(0.0, (x - from) / softness + 0.5, 1.0);
+    const double fall = qBound(0.0, (to - x) / softness + 0.5, 1.0);
+    return rise * fall;
+}
+
+/** A fixed arbitrary number 0 .. 1 for every pair. */
+double Noise(int a, int b)
+{
+    unsigned int hash = unsigned(a) * 0x9E3779B1u ^ unsigned(b) * 0x85EBCA77u;
+    hash = (hash ^ hash >> 15) * 0x2C1B3C6Du;
+    hash = (hash ^ hash >> 12) * 0x297A2D39u;
+    hash ^= hash >> 15;
+    return (hash & 0xFFFF) / 65535.0;
+}
+
+/** What a pattern needs to know of the place, the time and the look. */
+struct Scene
+{
+    const NeonLoop& loop;
+    const NeonSpot& spot;
+    const Palette& palette;
+    double tick;
+    double unit; ///< pixels; patterns are as large as the band is thick
+
+    double Along() const { return spot.along; }
+    double Across() const { return spot.across; }
+    /** Of the way round, 0 .. 1. */
+    double Turn() const { return spot.along / loop.length; }
+    NeonLight Colour(double place) const { return ColourAt(palette, place); }
+
+    /** How many cells of about @p units fill the loop without a seam, a multiple of @p group. */
+    int Cells(double units, int group) const
+    {
+        return group * qMax(1, int(loop.length / (units * unit * group) + 0.5));
+    }
+};
+
+/** One of the equal parts that a pattern cuts the loop into. */
+struct Cell
+{
+    int index;
+    double place;  ///< in the cell, 0 .. 1
+    double length; ///< pixels
+};
+
+Cell CellAt(const Scene& scene, int count, double shift)
+{
+    const double length = scene.loop.length / count;
+    const double position = Wrap(scene.Along() - shift, scene.loop.length) / length;
+    const Cell cell = {qMin(int(position), count - 1), position - int(position), length};
+    return cell;
+}
+
+/** A round lamp in the middle of its cell. */
+double Lamp(const Scene& scene, const Cell& cell, double size)
+{
+    const double dx = (cell.place - 0.5) * cell.length / (scene.unit / 2);
+    return Tube(std::sqrt(Square(dx) + Square(scene.Across())) / size);
+}
+
+// --- Patterns -----------------------------------------------------------------------------------
+
+/** The whole palette runs round. */
+NeonLight Rainbow(const Scene& s)
+{
+    const double wave = 0.85 + 0.15 * std::sin(2 * Pi * (3 * s.Turn() - s.tick / 20));
+    return s.Colour(s.Turn() - s.tick / 90) * (Tube(s.Across()) * wave);
+}
+
+/** Lamps that stand still; every third one is lit in turn. */
+NeonLight ChasingDots(const Scene& s)
+{
+    const int count = s.Cells(1.7, 3);
+    const Cell cell = CellAt(s, count, 0);
+    const double turn = Wrap(cell.index - s.tick / 5, 3.0);
+    const double lit = std::exp(-Square(qMin(turn, 3 - turn) / 0.6));
+    return s.Colour(double(cell.index) / count) * (Lamp(s, cell, 0.9) * (0.13 + 0.95 * lit));
+}
+
+/** Blocks of alternating colour that march. */
+NeonLight MarqueeBlocks(const Scene& s)
+{
+    const Cell cell = CellAt(s, s.Cells(3.5, s.palette.count), s.tick * 0.3 * s.unit);
+    const double edge = 1.5 / cell.length;
+    const double block = Window(cell.place, 0.08, 0.92, edge) * Strip(s.Across());
+    const double sheen = 0.8 + 0.35 * std::exp(-Square((s.Across() + 0.35) / 0.3));
+    return ColourOf(s.palette, cell.index) * (block * sheen);
+}
+
+/** The light of a comet whose head is at @p head; behind it is where @p sense points away from. */
+NeonLight CometLight(const Scene& s, double head, double sense, double tailUnits, double place)
+{
+    const double behind = Wrap(sense * (head - s.Along()), s.loop.length);
+    const double ahead = s.loop.length - behind;
+    const double tail = std::exp(-behind / (tailUnits * s.unit));
+    const double nose = std::exp(-Square(qMin(behind, ahead) / (0.5 * s.unit)));
+    const double thin = s.Across() / (0.35 + 0.65 * tail); // the tail tapers
+    const NeonLight white = {1, 1, 1};
+    return s.Colour(place + 0.25 * (1 - tail)) * (Tube(thin) * tail) +
+           white * (0.8 * nose * Tube(s.Across()));
+}
+
+NeonLight Rail(const Scene& s, double brightness)
+{
+    return s.Colour(s.Turn()) * (brightness * Tube(1.6 * s.Across()));
+}
+
+/** Comets with long tails, all one way. */
+NeonLight Comets(const Scene& s)
+{
+    const int count = qBound(1, int(s.loop.length / (60 * s.unit)), 6);
+    NeonLight light = Rail(s, 0.07);
+    for (int i = 0; i < count; ++i) {
+        const double head = s.loop.length * i / count + s.tick * 0.7 * s.unit;
+        light = light + CometLight(s, head, 1, 9, double(i) / count);
+    }
+    return light;
+}
+
+/** Two comets that meet. */
+NeonLight TwinComets(const Scene& s)
+{
+    const double way = s.tick * 0.6 * s.unit;
+    return Rail(s, 0.07) + CometLight(s, way, 1, 12, 0) +
+           CometLight(s, s.loop.length / 2 - way, -1, 12, 0.5);
+}
+
+/** The whole tube breathes while its colour drifts. */
+NeonLight Breathing(const Scene& s)
+{
+    const double breath = 0.5 - 0.5 * std::cos(2 * Pi * (s.tick + 8) / 48);
+    const double width = 1.5 - 0.6 * breath; // it swells with its light
+    return s.Colour(s.tick / 144) * ((0.2 + 0.95 * breath) * Tube(width * s.Across()));
+}
+
+/** Dashes with a sharp front and a fading end flow round. */
+NeonLight DashedFlow(const Scene& s)
+{
+    const int count = s.Cells(5, 1);
+    const Cell cell = CellAt(s, count, s.tick * 0.4 * s.unit);
+    const double front = Window(cell.place, 0, 0.8, 1.5 / cell.length);
+    const double fade = Square(cell.place / 0.8);
+    return s.Colour(double(cell.index) / count) * (1.1 * front * fade * Tube(s.Across()));
+}
+
+/** A star that twinkles in every corner and sends a glint along both edges. */
+NeonLight CornerSparkles(const Scene& s)
+{
+    NeonLight light = Rail(s, 0.16);
+    for (int i = 0; i < 4; ++i) {
+        const double ahead = Wrap(s.Along() - s.loop.corners[i], s.loop.length);
+        const double distance = qMin(ahead, s.loop.length - ahead) / s.unit;
+        const double phase = Wrap(s.tick / 40 + 0.25 * Noise(i, 1) + 0.5 * (i % 2), 1.0);
+        const double twinkle = std::exp(-5 * phase) * (1 - std::exp(-30 * (phase + 0.02)));
+        const double glint = std::exp(-Square((distance - 14 * phase) / 1.2)) * Square(1 - phase);
+        const double star = 2.2 * twinkle * std::exp(-Square(distance / 2.2)) * Tube(s.Across()) +
+                            1.6 * twinkle * std::exp(-distance / 6) * Tube(3 * s.Across());
+        light = light + s.Colour(0.25 * i) * (star + 0.9 * glint * Tube(s.Across()));
+    }
+    return light;
+}
+
+/** Two strands wound round each other. */
+NeonLight Braid(const Scene& s)
+{
+    const double angle = 2 * Pi * (s.Cells(9, 1) * s.Turn() - s.tick / 22);
+    NeonLight light = {0, 0, 0};
+    for (int strand = 0; strand < 2; ++strand) {
+        const double place = angle + strand * Pi;
+        const double depth = 0.65 + 0.35 * std::cos(place); // the nearer strand is brighter
+        const double line = std::exp(-Square((s.Across() - 0.55 * std::sin(place)) / 0.3));
+        light = light + s.Colour(0.5 * strand) * (1.1 * depth * line);
+    }
+    return light;
+}
+
+/** Rings that run from the middle of the top and of the bottom to the sides, where they meet. */
+NeonLight Ripples(const Scene& s)
+{
+    const double half = s.loop.length / 2;
+    const double middle = (s.loop.corners[0] + s.loop.corners[3] - s.loop.length) / 2;
+    const double from = Wrap(s.Along() - middle, half);
+    const double distance = qMin(from, half - from);
+    const double phase = Wrap((s.tick * 0.45 * s.unit - distance) / (9 * s.unit), 1.0);
+    const double ring = std::exp(-4 * phase) * Window(phase, 0.02, 1, 0.04);
+    const double far = 1 - 0.6 * distance / (half / 2);
+    return s.Colour(2 * distance / half - s.tick / 120) * ((0.1 + ring * far) * Tube(s.Across()));
+}
+
+/** Lamps that light up here and there. */
+NeonLight Fireflies(const Scene& s)
+{
+    const int count = s.Cells(1.8, 1);
+    const Cell cell = CellAt(s, count, 0);
+    const double pace = 26 + 30 * Noise(cell.index, 1);
+    const double time = s.tick / pace + Noise(cell.index, 2);
+    const double glow = std::pow(0.5 - 0.5 * std::cos(2 * Pi * time), 5.0);
+    return s.Colour(Noise(cell.index, 3) + std::floor(time) * 0.38) *
+           ((0.06 + 1.2 * glow) * Lamp(s, cell, 0.95));
+}
+
+/** A line draws itself round the area and is taken back from where it began. */
+NeonLight SelfDrawing(const Scene& s)
+{
+    const double period = 64;
+    const double time = Wrap(s.tick, 2 * period) / period;
+    const double step = time - std::floor(time);
+    const double eased = step * step * (3 - 2 * step);
+    const double pen = eased * s.loop.length;
+    const bool isDrawing = time < 1;
+    const double soft = s.unit / 2;
+    const double line = isDrawing ? Window(s.Along(), -s.unit, pen, soft)
+                                  : Window(s.Along(), pen, s.loop.length + s.unit, soft);
+    const double spark = std::exp(-Square((s.Along() - pen) / s.unit));
+    const NeonLight white = {1, 1, 1};
+    return s.Colour(s.Turn() + s.tick / 256) * ((0.05 + 0.95 * line) * Tube(s.Across())) +
+           white * (0.9 * spark * Tube(s.Across()));
+}
+
+/** Slanted stripes turn like a barber's pole. */
+NeonLight BarberPole(const Scene& s)
+{
+    const int count = s.Cells(2, s.palette.count);
+    const double slant = 0.5 * s.unit * s.Across();
+    const Cell cell = CellAt(s, count, s.tick * 0.18 * s.unit - slant);
+    const double edge = 0.75 / cell.length;
+    const double own = Window(cell.place, 0, 2, 2 * edge) * Window(cell.place, -1, 1, 2 * edge);
+    const NeonLight before = ColourOf(s.palette, cell.index + s.palette.count - 1);
+    const NeonLight after = ColourOf(s.palette, cell.index + 1);
+    const NeonLight beside = cell.place < 0.5 ? before : after;
+    const double round = std::sqrt(qMax(0.0, 1 - Square(s.Across()))) * 0.85 + 0.1;
+    return (ColourOf(s.palette, cell.index) * own + beside * (1 - own)) * round;
+}
+
+/** Noise that flows between fixed arbitrary values, -1 .. 1. */
+double SmoothNoise(double x, int count, int seed)
+{
+    const int index = int(std::floor(x));
+    const double mix = x - index;
+    const double smooth = mix * mix * (3 - 2 * mix);
+    const double from = Noise(index % count, seed);
+    const double to = Noise((index + 1) % count, seed);
+    return 2 * (from + (to - from) * smooth) - 1;
+}
+
+/** An arc of lightning that leaps within the band. */
+NeonLight Lightning(const Scene& s)
+{
+    const int count = s.Cells(2.2, 1);
+    const int leap = int(Wrap(std::floor(s.tick / 2), 9973));
+    const double x = s.Turn() * count;
+    const double coarse = SmoothNoise(x, count, 2 * leap);
+    const double fine = SmoothNoise(3 * x, 3 * count, 2 * leap + 1);
+    const double distance = s.Across() - 0.5 * coarse - 0.25 * fine;
+    const double flicker = 0.75 + 0.25 * Noise(leap, 7);
+    const double surge = 0.7 + 0.3 * std::sin(2 * Pi * (2 * s.Turn() - s.tick / 30));
+    const double arc =
+        std::exp(-Square(distance / 0.16)) + 0.35 * std::exp(-Square(distance / 0.5));
+    const NeonLight white = {1, 1, 1};
+    return s.Colour(s.Turn() + s.tick / 200) * (1.1 * arc * flicker * surge) +
+           white * (0.5 * std::exp(-Square(distance / 0.09)) * flicker);
+}
+
+struct Look
+{
+    NeonLight (*pattern)(const Scene&);
+    const Palette& palette;
+};
+
+const Look Looks[NeonStyleCount] = {
+    {Rainbow, Spectrum},        // 1
+    {ChasingDots, Amber},       // 2
+    {MarqueeBlocks, PinkCyan},  // 3
+    {Comets, Ice},              // 4
+    {TwinComets, PinkCyan},     // 5
+    {Breathing, Violet},        // 6
+    {DashedFlow, Mint},         // 7
+    {CornerSparkles, GoldRose}, // 8
+    {Braid, PinkCyan},          // 9
+    {Ripples, Lagoon},          // 10
+    {Fireflies, Spectrum},      // 11
+    {SelfDrawing, Sunset},      // 12
+    {BarberPole, Candy},        // 13
+    {Lightning, Ice},           // 14
+    {Rainbow, Sunset},          // 15
+    {ChasingDots, Spectrum},    // 16
+    {MarqueeBlocks, Spectrum},  // 17
+    {Comets, Fire},             // 18
+    {TwinComets, GoldRose},     // 19
+    {Breathing, Spectrum},      // 20
+    {DashedFlow, Spectrum},     // 21
+    {CornerSparkles, Ice},      // 22
+    {Braid, Fire},              // 23
+    {Ripples, Violet},          // 24
+    {Fireflies, Amber},         // 25
+    {SelfDrawing, Mint},        // 26
+    {BarberPole, Spectrum},     // 27
+    {Lightning, Violet}         // 28
+};
+
+} // namespace
+
+NeonLight NeonLightAt(int style, const NeonLoop& loop, const NeonSpot& spot, qint64 tick)
+{
+    const Look& look = Looks[style >= 1 && style <= NeonStyleCount ? style - 1 : 0];
+    const Scene scene = {loop, spot, look.palette, double(tick), qMax(4.0, loop.thickness)};
+    return look.pattern(scene);
+}
+
+} // namespace Lw
