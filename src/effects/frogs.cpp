@@ -1,12 +1,116 @@
-// The frog effects.
+// Frog effects: a frog hops along the top edge and brings the characters one by one. Each takes
+// five frames, paced by the ticks between two frames.
 #include "effects/frame.h"
+
+#include "node/hanimationtextnode.h"
+
+#include <happconfig.h>
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
 
 namespace Lw {
 namespace HNodeAnimationText {
 
-void animationRealization::EffectTopWithFrogAppearsVerbatim() {}
+namespace {
 
-void animationRealization::EffectTopWithFrog() {}
+const int framesPerCharacter = 5;
+const qint64 maxFrogPixels = 4 * 1000 * 1000;
+
+QString FrogFile(int number)
+{
+    const QString file = QString::fromLatin1("/root/Box/image/Frog%1.png").arg(number);
+#ifdef LW_DEVICE_FILES
+    return HAppConfig::DeviceFile(file); // a desk has the device's files elsewhere
+#else
+    return file;
+#endif
+}
+
+QImage ReadFrog(int number)
+{
+    const QString file = FrogFile(number);
+    QImage frog;
+    if (QFileInfo(file).isFile()) {
+        QImageReader reader(file);
+        const QSize size = reader.size();
+        if (size.isValid() && qint64(size.width()) * size.height() <= maxFrogPixels)
+            frog = reader.read();
+    }
+    if (frog.isNull())
+        qDebug() << "Frog picture cannot be read, no frog is drawn:" << file;
+    return frog;
+}
+
+} // namespace
+
+/** The frog of one of the five frames, over the character that it brings. */
+void animationRealization::DrawFrog(int frame)
+{
+    if (frogPictures.isEmpty())
+        frogPictures.resize(framesPerCharacter);
+    Frog& frog = frogPictures[frame];
+    if (!frog.read) {
+        frog.picture = ReadFrog(frame + 1);
+        frog.read = true;
+    }
+    if (!frog.picture.isNull())
+        painter->drawImage(RestX(charIndex), 0, frog.picture);
+}
+
+/** The characters in place, the one in work as @p drawCharacter paints it, and the frog. */
+template <typename DrawCharacter>
+void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
+{
+    if (node && node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) == 1)
+        DrawDazzleBackground();
+    const int frame = qBound(0, moveOffset, framesPerCharacter - 1);
+    if (BeginFrame()) {
+        for (int j = PageStart(); j < charIndex; ++j)
+            AddGlyph(j, RestX(j), RestY(j));
+        painter->drawPath(textPath);
+        painter->save();
+        drawCharacter(frame + 1);
+        painter->restore();
+        DrawFrog(frame);
+        painter->end();
+    }
+    Advance(moveOffset, 1);
+    if (moveOffset < framesPerCharacter)
+        return;
+    moveOffset = 0;
+    ++charIndex;
+    if (charIndex >= PageEnd() && HandOver(moveOffset))
+        charIndex = 0;
+}
+
+void animationRealization::EffectTopWithFrogAppearsVerbatim()
+{
+    // A fifth of the character more in each frame, from its top downward.
+    DrawFrogFrame([&](int fifths) {
+        if (!HasGlyph(charIndex))
+            return;
+        const QRectF box = charPaths.at(charIndex).boundingRect();
+        if (fifths < framesPerCharacter) {
+            const qreal left = RestX(charIndex) + box.left();
+            const qreal top = RestY(charIndex) + box.top();
+            // A pixel more at the sides and above, for the outline's own width.
+            painter->setClipRect(QRectF(left - 1, top - 1, box.width() + 2,
+                                        box.height() * fifths / framesPerCharacter + 1));
+        }
+        DrawGlyph(charIndex, RestX(charIndex), RestY(charIndex));
+    });
+}
+
+void animationRealization::EffectTopWithFrog()
+{
+    // From the top edge to the slot in five equal falls.
+    DrawFrogFrame([&](int fifths) {
+        DrawGlyph(charIndex, RestX(charIndex), RestY(charIndex) * fifths / framesPerCharacter);
+    });
+}
 
 } // namespace HNodeAnimationText
 } // namespace Lw

@@ -89,6 +89,7 @@ animationRealization::animationRealization(QObject* parent)
     , dazzleLayer(0)
     , dazzleColorIndex(0)
     , layerBytes(-1)
+    , dazzleLayerWrapped(false)
 {
     // Once round the colour circle, ending on the colour it began with.
     for (int i = 0; i < 30; ++i)
@@ -340,6 +341,7 @@ void animationRealization::SetPictureSession(void* session, int a, int b)
 void animationRealization::SetDazzleLayer(int layer)
 {
     dazzleLayer = layer;
+    dazzleLayerWrapped = false;
 }
 
 /** The session is gone: nothing may paint into its layers any more. */

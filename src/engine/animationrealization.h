@@ -199,12 +199,30 @@ private:
     // effects/inturn.cpp
     template <typename Shape>
     void DrawInTurn(const Shape& shape);
+    // effects/frogs.cpp
+    void DrawFrog(int frame);
+    template <typename DrawCharacter>
+    void DrawFrogFrame(const DrawCharacter& drawCharacter);
+    // engine/dazzle.cpp
+    void WrapDazzleLayer();
+    int LeadingColor();
+    QBrush DazzleBrush(int leading);
     // engine/scrolling.cpp
     void DrawLine();
     void DrawTails(int first);
     void DrawTail(int first, int end);
     bool ColumnGrows() const;
     void AdvanceColumn();
+
+    struct Frog
+    {
+        Frog()
+            : read(false)
+        {
+        }
+        bool read; // or found missing
+        QImage picture;
+    };
 
     QPointer<HAnimationTextNode> node;
     QString text;
@@ -279,7 +297,10 @@ private:
     int dazzleLayer;
     int dazzleColorIndex;
 
-    qint64 layerBytes; // what the text's layer holds; the host may change its mind about the format
+    qint64 layerBytes; // what the text's layer holds, which the host may have made for another
+                       // format; -1 when it is not known
+    bool dazzleLayerWrapped;
+    QVector<Frog> frogPictures;
 
     friend class HAnimationTextRender;
     friend class EngineProbe;
