@@ -1,0 +1,80 @@
+#include "nodetree.h"
+
+#include <hneonnodebase.h>
+#include <inodeplugin.h>
+
+namespace AnimText {
+
+namespace {
+
+void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const QString& scenePath)
+{
+    node->SetPos(from.pos);
+    node->SetSize(from.size);
+    node->SetHoldTime(from.hold);
+    node->SetNeonEffect(from.neonEffect);
+    for (auto it = from.attributes.begin(); it != from.attributes.end(); ++it) {
+        if (it.value().type() == QVariant::String)
+            node->SetAttribute(it.key(), it.value().toString());
+        else
+            node->SetAttribute(it.key(), it.value().toInt());
+    }
+    for (auto it = from.lists.begin(); it != from.lists.end(); ++it)
+        node->SetList(it.key(), it.value());
+    for (auto it = from.files.begin(); it != from.files.end(); ++it)
+        node->SetFiles(it.key(), {ResolveSceneFile(scenePath, it.value())});
+}
+
+Lw::HNeonNodeBase* CreateNode(const SceneNode& from, const QString& place, Lw::INodePlugin* plugin,
+                              QString* error)
+{
+    if (from.type != plugin->type()) {
+        *error =
+            QStringLiteral("%1.type: expected %2, the type that the plugin plays, found \"%3\"")
+                .arg(place, plugin->type(), from.type);
+        return nullptr;
+    }
+    std::unique_ptr<Lw::HNode> node(plugin->Create());
+    auto* animated = dynamic_cast<Lw::HNeonNodeBase*>(node.get());
+    if (!animated) {
+        *error = QStringLiteral("%1: the plugin creates no node for it").arg(place);
+        return nullptr;
+    }
+    node.release();
+    return animated;
+}
+
+} // namespace
+
+bool BuildNodeTree(const Scene& scene, const QString& scenePath, Lw::INodePlugin* plugin,
+                   NodeTree* tree, QString* error)
+{
+    NodeTree built;
+    built.program = std::make_unique<Lw::HNode>();
+    for (int p = 0; p < scene.pages.size(); ++p) {
+        auto* page = new Lw::HNode;
+        built.program->AddChild(page);
+        const QList<SceneArea>& areas = scene.pages.at(p).areas;
+        for (int a = 0; a < areas.size(); ++a) {
+            auto* area = new Lw::HNode;
+            page->AddChild(area);
+            const QList<SceneNode>& nodes = areas.at(a).nodes;
+            for (int n = 0; n < nodes.size(); ++n) {
+                const QString place =
+                    QStringLiteral("$.pages[%1].areas[%2].nodes[%3]").arg(p).arg(a).arg(n);
+                Lw::HNeonNodeBase* node = CreateNode(nodes.at(n), place, plugin, error);
+                if (!node) {
+                    *error = scenePath + QStringLiteral(": ") + *error;
+                    return false;
+                }
+                area->AddChild(node);
+                Fill(node, nodes.at(n), scenePath);
+                built.nodes.append(node);
+            }
+        }
+    }
+    *tree = std::move(built);
+    return true;
+}
+
+} // namespace AnimText

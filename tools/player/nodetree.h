@@ -1,0 +1,40 @@
+/**
+ * @file
+ * The node tree that a host would have built: program, page, area and the nodes that play.
+ */
+#ifndef ANIMTEXT_NODETREE_H
+#define ANIMTEXT_NODETREE_H
+
+#include "scene.h"
+
+#include <QString>
+#include <QVector>
+
+#include <memory>
+
+namespace Lw {
+class HNeonNodeBase;
+class HNode;
+class INodePlugin;
+} // namespace Lw
+
+namespace AnimText {
+
+/** A program and the nodes in it that play, in the order of the file. */
+struct NodeTree
+{
+    std::unique_ptr<Lw::HNode> program; ///< owns every node
+    QVector<Lw::HNeonNodeBase*> nodes;
+};
+
+/**
+ * Builds the tree of @p scene with nodes that @p plugin creates. On failure answers false, sets
+ * @p error to one line with the place in the scene, and @p tree is left as it was.
+ * @param scenePath where relative file names start
+ */
+bool BuildNodeTree(const Scene& scene, const QString& scenePath, Lw::INodePlugin* plugin,
+                   NodeTree* tree, QString* error);
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,73 @@
+#include "player.h"
+
+namespace AnimText {
+
+Player::Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin)
+    : dispatcher(dispatcher)
+    , stage(plugin)
+{
+    Torv::SetClock(Clock, this);
+}
+
+Player::~Player()
+{
+    stage.Stop();
+    Torv::SetClock(nullptr, nullptr);
+}
+
+qint64 Player::Clock(void* player)
+{
+    const auto* self = static_cast<const Player*>(player);
+    return self->dispatcher->Now() - self->origin;
+}
+
+bool Player::Load(const Scene& scene, const QString& scenePath, QString* error)
+{
+    return stage.Build(scene, scenePath, error);
+}
+
+void Player::Start(uint seed)
+{
+    origin = dispatcher->Now();
+    tick = 0;
+    stage.Start(seed);
+    // What was made just now has not been shown before.
+    swaps = QVector<qint64>(NodeCount(), 0);
+    swapped = QVector<bool>(NodeCount(), false);
+    CountSwaps();
+    // A text that the device scrolls comes with its session.
+    for (int node = 0; node < NodeCount(); ++node) {
+        if (stage.ScrollsSideways(node) && stage.Session(node))
+            swapped[node] = true;
+    }
+}
+
+void Player::Advance()
+{
+    ++tick;
+    dispatcher->AdvanceTo(origin + Time());
+    CountSwaps();
+}
+
+qint64 Player::Swaps(int node) const
+{
+    const int layer = stage.TextLayer(node);
+    return layer < 0 ? 0 : Torv::SwapCount(stage.Session(node), layer);
+}
+
+void Player::CountSwaps()
+{
+    for (int node = 0; node < NodeCount(); ++node) {
+        const qint64 count = Swaps(node);
+        swapped[node] = count != swaps.at(node);
+        swaps[node] = count;
+    }
+}
+
+QImage Player::TextPicture(int node) const
+{
+    const int layer = stage.TextLayer(node);
+    return layer < 0 ? QImage() : Torv::FrontImage(stage.Session(node), layer);
+}
+
+} // namespace AnimText

@@ -1,0 +1,71 @@
+/**
+ * @file
+ * A scene played tick by tick on virtual time.
+ */
+#ifndef ANIMTEXT_PLAYER_H
+#define ANIMTEXT_PLAYER_H
+
+#include "stage.h"
+#include "virtualdispatcher.h"
+
+#include <QImage>
+#include <QVector>
+
+namespace AnimText {
+
+/** Milliseconds from one tick of the plugin's draw timer to the next. */
+constexpr int tickLength = 66;
+
+/** What random numbers start from unless told otherwise. */
+constexpr uint standardSeed = 1;
+
+/**
+ * Tick 0 is the start, tick i the moment i × 66 ms later, after everything that is due then. The
+ * display's clock counts from the start.
+ */
+class Player
+{
+public:
+    /** @param dispatcher the dispatcher of this thread */
+    Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin);
+    ~Player();
+
+    bool Load(const Scene& scene, const QString& scenePath, QString* error);
+
+    /** Tick 0: starts every node. */
+    void Start(uint seed = standardSeed);
+    /** Goes on to the next tick. */
+    void Advance();
+
+    int Tick() const { return tick; }
+    qint64 Time() const { return qint64(tick) * tickLength; }
+
+    Stage& Scenery() { return stage; }
+    int NodeCount() const { return stage.NodeCount(); }
+    /** 0 finished, 1 playing, 2 nothing to play. */
+    int State(int node) const { return stage.Render(node)->renderState(); }
+    /** Whether this tick handed a new picture of the text to the display. */
+    bool Swapped(int node) const { return swapped.at(node); }
+    /** A copy of the picture that the node's text layer shows; null without one. */
+    QImage TextPicture(int node) const;
+    /** What the display shows. */
+    QImage Picture() const { return stage.Compose(Time()); }
+
+private:
+    Q_DISABLE_COPY(Player)
+
+    static qint64 Clock(void* player);
+    qint64 Swaps(int node) const;
+    void CountSwaps();
+
+    VirtualDispatcher* dispatcher;
+    Stage stage;
+    qint64 origin = 0;
+    int tick = 0;
+    QVector<qint64> swaps;
+    QVector<bool> swapped;
+};
+
+} // namespace AnimText
+
+#endif

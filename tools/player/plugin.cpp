@@ -1,0 +1,46 @@
+#include "plugin.h"
+
+#include <inodeplugin.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPluginLoader>
+
+namespace AnimText {
+
+QString PluginPath(const QString& given)
+{
+    if (!given.isEmpty())
+        return given;
+    const QString named = qEnvironmentVariable("ANIMATIONTEXT_PLUGIN");
+    if (!named.isEmpty())
+        return named;
+    const QDir programs(QCoreApplication::applicationDirPath());
+    return QDir::cleanPath(programs.filePath(QStringLiteral("../lib/libanimationtext.so")));
+}
+
+Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
+{
+    const QFileInfo file(path);
+    if (!file.isFile()) {
+        *error = QStringLiteral("there is no plugin at %1: build the target animationtext, or name "
+                                "the library with --plugin or ANIMATIONTEXT_PLUGIN")
+                     .arg(path);
+        return nullptr;
+    }
+    QPluginLoader loader(file.absoluteFilePath());
+    QObject* object = loader.instance();
+    if (!object) {
+        // Linkers tell of missing symbols on lines of their own.
+        *error =
+            QStringLiteral("%1 cannot be loaded: %2").arg(path, loader.errorString().simplified());
+        return nullptr;
+    }
+    Lw::INodePlugin* plugin = qobject_cast<Lw::INodePlugin*>(object);
+    if (!plugin)
+        *error = QStringLiteral("%1 is a plugin, but it brings no node type").arg(path);
+    return plugin;
+}
+
+} // namespace AnimText

@@ -1,0 +1,133 @@
+#include "stage.h"
+
+#include <hneonnodebase.h>
+#include <hpluginmanager.h>
+#include <inodeplugin.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace AnimText {
+
+Stage::Stage(Lw::INodePlugin* plugin)
+    : plugin(plugin)
+{
+}
+
+Stage::~Stage()
+{
+    Stop();
+    parts.clear();
+    KeepCalls(false);
+}
+
+bool Stage::Build(const Scene& scene, const QString& scenePath, QString* error)
+{
+    Stop();
+    parts.clear();
+    tree = NodeTree();
+    NodeTree built;
+    if (!BuildNodeTree(scene, scenePath, plugin, &built, error))
+        return false;
+    if (built.nodes.isEmpty()) {
+        *error = scenePath + QStringLiteral(": $.pages: expected at least one node, found none");
+        return false;
+    }
+    // Renderers ask for the format when they are made.
+    Lw::HPluginManager::instance()->SetAlphaBlend(scene.alphaBlend);
+    for (Lw::HNeonNodeBase* node : built.nodes) {
+        Part part;
+        part.render.reset(plugin->CreateAreaRender(node));
+        if (!part.render) {
+            parts.clear();
+            *error = scenePath + QStringLiteral(": the plugin makes no renderer for its nodes");
+            return false;
+        }
+        parts.push_back(std::move(part));
+    }
+    tree = std::move(built);
+    display = std::make_unique<Torv::Display>(scene.display);
+    return true;
+}
+
+void Stage::Start(uint seed)
+{
+    for (int node = 0; node < NodeCount(); ++node)
+        StartNode(node, seed);
+}
+
+void Stage::StartNode(int node, uint seed)
+{
+    const QList<PicSession> before = display->Sessions();
+    const int firstCall = calls.size();
+    Torv::SetCallLog(Log, this);
+    qsrand(seed);
+    Render(node)->Start(display->Handle());
+    KeepCalls(keepCalls);
+
+    Part& part = parts.at(size_t(node));
+    part.session = 0;
+    for (PicSession session : display->Sessions()) {
+        if (!before.contains(session))
+            part.session = session;
+    }
+    part.textLayer = part.session ? FindTextLayer(node, calls.mid(firstCall)) : -1;
+    if (!keepCalls)
+        calls.clear();
+}
+
+bool Stage::ScrollsSideways(int node) const
+{
+    const int style = Node(node)->GetAttributeToInt(QStringLiteral("ContinueStyle"));
+    return Node(node)->GetAttributeToInt(QStringLiteral("EffectType")) == 1 &&
+           (style == 0 || style == 1);
+}
+
+/**
+ * The text has layer 0. Where it stands still and a neon picture lies behind it, neon takes layer 0
+ * and the text the one that was appended first; if that failed, the text is shown nowhere.
+ */
+int Stage::FindTextLayer(int node, const QStringList& startCalls) const
+{
+    const bool neon = Node(node)->GetAttributeToInt(QStringLiteral("CheckNeonBg")) == 1;
+    if (!neon || ScrollsSideways(node))
+        return 0;
+    for (const QString& line : startCalls) {
+        const QJsonObject call = QJsonDocument::fromJson(line.toUtf8()).object();
+        if (call.value(QLatin1String("call")) == QLatin1String("PicAppendImageLayer"))
+            return call.value(QLatin1String("result")).toInt(-1);
+    }
+    return -1;
+}
+
+void Stage::Stop()
+{
+    for (Part& part : parts) {
+        part.render->Remove();
+        part.session = 0;
+        part.textLayer = -1;
+    }
+}
+
+void Stage::KeepCalls(bool keep)
+{
+    keepCalls = keep;
+    if (keep)
+        Torv::SetCallLog(Log, this);
+    else
+        Torv::SetCallLog(nullptr, nullptr);
+}
+
+QStringList Stage::TakeCalls()
+{
+    QStringList taken;
+    taken.swap(calls);
+    return taken;
+}
+
+void Stage::Log(void* stage, const QString& line)
+{
+    static_cast<Stage*>(stage)->calls.append(line);
+}
+
+} // namespace AnimText

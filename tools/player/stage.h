@@ -1,0 +1,88 @@
+/**
+ * @file
+ * A scene on an emulated display: its nodes and the renderers that play them.
+ */
+#ifndef ANIMTEXT_STAGE_H
+#define ANIMTEXT_STAGE_H
+
+#include "nodetree.h"
+#include "scene.h"
+
+#include <display.h>
+#include <icontentrender.h>
+
+#include <QImage>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace AnimText {
+
+/**
+ * Plays a scene on the clock of whatever event dispatcher its thread has. One stage plays at a
+ * time: whether layers blend by alpha is a setting of the process.
+ */
+class Stage
+{
+public:
+    explicit Stage(Lw::INodePlugin* plugin);
+    /** Takes everything off the display first. */
+    ~Stage();
+
+    /** Sets the scene up. On failure answers false and sets @p error to one line. */
+    bool Build(const Scene& scene, const QString& scenePath, QString* error);
+
+    /**
+     * Starts every node, in the order of the file, each after the random numbers have been seeded
+     * with @p seed: every start draws the same ones.
+     */
+    void Start(uint seed);
+    /** Stops every node and takes it off the display. */
+    void Stop();
+
+    int NodeCount() const { return tree.nodes.size(); }
+    Lw::HNeonNodeBase* Node(int node) const { return tree.nodes.at(node); }
+    Lw::IContentRender* Render(int node) const { return parts.at(size_t(node)).render.get(); }
+    /** Whether the device moves the node's text by itself. */
+    bool ScrollsSideways(int node) const;
+
+    /** The session that the node's start has made; 0 without one. */
+    PicSession Session(int node) const { return parts.at(size_t(node)).session; }
+    /** The layer of that session that shows the text; negative without one. */
+    int TextLayer(int node) const { return parts.at(size_t(node)).textLayer; }
+
+    /** What the display shows at @p milliseconds of the display's clock. */
+    QImage Compose(qint64 milliseconds) const { return display->Compose(milliseconds); }
+
+    /** Whether the device's calls are kept for TakeCalls(). */
+    void KeepCalls(bool keep);
+    /** The calls since the last time, one JSON object each. */
+    QStringList TakeCalls();
+
+private:
+    Q_DISABLE_COPY(Stage)
+
+    struct Part
+    {
+        std::unique_ptr<Lw::IContentRender> render;
+        PicSession session = 0;
+        int textLayer = -1;
+    };
+
+    static void Log(void* stage, const QString& line);
+    void StartNode(int node, uint seed);
+    int FindTextLayer(int node, const QStringList& startCalls) const;
+
+    Lw::INodePlugin* plugin;
+    std::unique_ptr<Torv::Display> display;
+    NodeTree tree;
+    std::vector<Part> parts;
+    QStringList calls;
+    bool keepCalls = false;
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,211 @@
+#include "virtualdispatcher.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <limits>
+
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+// Qt's own; every dispatcher asks it.
+extern uint qGlobalPostedEventsCount();
+
+namespace AnimText {
+
+VirtualDispatcher::VirtualDispatcher(QObject* parent)
+    : QAbstractEventDispatcher(parent)
+    , wakeDescriptor(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
+{
+    if (wakeDescriptor < 0)
+        qFatal("animtext: the system has no descriptor left for the event loop");
+}
+
+VirtualDispatcher::~VirtualDispatcher()
+{
+    close(wakeDescriptor);
+}
+
+VirtualDispatcher* VirtualDispatcher::Current()
+{
+    return qobject_cast<VirtualDispatcher*>(QAbstractEventDispatcher::instance());
+}
+
+void VirtualDispatcher::registerTimer(int id, int interval, Qt::TimerType type, QObject* object)
+{
+    timers.push_back({id, interval, type, object, now + interval, nextOrder++, false});
+}
+
+bool VirtualDispatcher::unregisterTimer(int id)
+{
+    const auto found = std::find_if(timers.begin(), timers.end(),
+                                    [id](const Timer& timer) { return timer.id == id; });
+    if (found == timers.end())
+        return false;
+    timers.erase(found);
+    return true;
+}
+
+bool VirtualDispatcher::unregisterTimers(QObject* object)
+{
+    const auto gone = std::remove_if(timers.begin(), timers.end(), [object](const Timer& timer) {
+        return timer.object == object;
+    });
+    const bool any = gone != timers.end();
+    timers.erase(gone, timers.end());
+    return any;
+}
+
+QList<QAbstractEventDispatcher::TimerInfo>
+VirtualDispatcher::registeredTimers(QObject* object) const
+{
+    QList<TimerInfo> found;
+    for (const Timer& timer : timers) {
+        if (timer.object == object)
+            found.append(TimerInfo(timer.id, timer.interval, timer.type));
+    }
+    return found;
+}
+
+int VirtualDispatcher::remainingTime(int id)
+{
+    for (const Timer& timer : timers) {
+        if (timer.id == id)
+            return int(std::max<qint64>(0, timer.deadline - now));
+    }
+    return -1;
+}
+
+VirtualDispatcher::Timer* VirtualDispatcher::NextTimer()
+{
+    Timer* next = nullptr;
+    for (Timer& timer : timers) {
+        if (timer.firing)
+            continue;
+        if (!next || timer.deadline < next->deadline ||
+            (timer.deadline == next->deadline && timer.order < next->order))
+            next = &timer;
+    }
+    return next;
+}
+
+bool VirtualDispatcher::FireNext(qint64 limit)
+{
+    Timer* timer = NextTimer();
+    if (!timer || timer->deadline > limit)
+        return false;
+    now = std::max(now, timer->deadline);
+    timer->deadline = now + std::max(1, timer->interval);
+    timer->firing = true;
+
+    // The slot may stop the timer, start it anew or delete its object.
+    const quint64 order = timer->order;
+    QTimerEvent event(timer->id);
+    QCoreApplication::sendEvent(timer->object, &event);
+    for (Timer& any : timers) {
+        if (any.order == order)
+            any.firing = false;
+    }
+    return true;
+}
+
+void VirtualDispatcher::AdvanceTo(qint64 time)
+{
+    do {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ActivateSockets(0);
+    } while (FireNext(time));
+    now = std::max(now, time);
+}
+
+bool VirtualDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags)
+{
+    interrupted = false;
+    emit awake();
+    bool any = qGlobalPostedEventsCount() > 0;
+    QCoreApplication::sendPostedEvents();
+
+    const bool timersRun = !(flags & QEventLoop::X11ExcludeTimers);
+    const bool socketsRun = !(flags & QEventLoop::ExcludeSocketNotifiers);
+    if (socketsRun && !interrupted)
+        any = ActivateSockets(0) || any;
+    if (timersRun) {
+        while (!interrupted && FireNext(now))
+            any = true;
+    }
+    if (any || interrupted || !(flags & QEventLoop::WaitForMoreEvents))
+        return any;
+
+    if (timersRun && FireNext(std::numeric_limits<qint64>::max()))
+        return true;
+    emit aboutToBlock();
+    any = ActivateSockets(-1);
+    emit awake();
+    QCoreApplication::sendPostedEvents();
+    return any;
+}
+
+bool VirtualDispatcher::hasPendingEvents()
+{
+    return qGlobalPostedEventsCount() > 0;
+}
+
+void VirtualDispatcher::registerSocketNotifier(QSocketNotifier* notifier)
+{
+    notifiers.append(notifier);
+}
+
+void VirtualDispatcher::unregisterSocketNotifier(QSocketNotifier* notifier)
+{
+    notifiers.removeAll(notifier);
+}
+
+/** Tells the notifiers whose sockets are ready. @p timeout as for poll() */
+bool VirtualDispatcher::ActivateSockets(int timeout)
+{
+    if (notifiers.isEmpty() && timeout == 0)
+        return false;
+    std::vector<pollfd> descriptors{{wakeDescriptor, POLLIN, 0}};
+    const QList<QSocketNotifier*> asked = notifiers;
+    for (QSocketNotifier* notifier : asked) {
+        short events = POLLPRI;
+        if (notifier->type() == QSocketNotifier::Read)
+            events = POLLIN;
+        else if (notifier->type() == QSocketNotifier::Write)
+            events = POLLOUT;
+        descriptors.push_back({int(notifier->socket()), events, 0});
+    }
+    if (poll(descriptors.data(), nfds_t(descriptors.size()), timeout) <= 0)
+        return false;
+
+    eventfd_t count;
+    if (descriptors.front().revents)
+        eventfd_read(wakeDescriptor, &count);
+    bool any = false;
+    for (int i = 0; i < asked.size(); ++i) {
+        const bool ready = descriptors.at(size_t(i) + 1).revents != 0;
+        if (!ready || !notifiers.contains(asked.at(i)))
+            continue;
+        QEvent event(QEvent::SockAct);
+        QCoreApplication::sendEvent(asked.at(i), &event);
+        any = true;
+    }
+    return any;
+}
+
+void VirtualDispatcher::wakeUp()
+{
+    eventfd_write(wakeDescriptor, 1);
+}
+
+void VirtualDispatcher::interrupt()
+{
+    interrupted = true;
+    wakeUp();
+}
+
+} // namespace AnimText

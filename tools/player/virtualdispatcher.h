@@ -1,0 +1,89 @@
+/**
+ * @file
+ * An event dispatcher whose time is a number: an hour of timers takes as long as their slots.
+ */
+#ifndef ANIMTEXT_VIRTUALDISPATCHER_H
+#define ANIMTEXT_VIRTUALDISPATCHER_H
+
+#include <QAbstractEventDispatcher>
+#include <QList>
+
+#include <atomic>
+#include <vector>
+
+namespace AnimText {
+
+/**
+ * Runs the event loop of its thread on virtual time. Set it with
+ * QCoreApplication::setEventDispatcher() before the application is made; the application then owns
+ * it.
+ *
+ * Timers fire in the order of their deadlines, and those with the same deadline in the order in
+ * which they were started. While a timer's slot runs, Now() is the timer's deadline. A repeating
+ * timer of interval 0 fires once at the time at which it is started and then every millisecond, so
+ * that time always goes on.
+ *
+ * An event loop that waits, say QEventLoop::exec(), jumps to the next deadline instead of sleeping;
+ * only where there is nothing to come at all does it wait for other threads and for sockets.
+ */
+class VirtualDispatcher : public QAbstractEventDispatcher
+{
+    Q_OBJECT
+
+public:
+    explicit VirtualDispatcher(QObject* parent = nullptr);
+    ~VirtualDispatcher() override;
+
+    /** The dispatcher of the current thread; null when that is none of these. */
+    static VirtualDispatcher* Current();
+
+    /** Milliseconds since the dispatcher was made. */
+    qint64 Now() const { return now; }
+
+    /**
+     * Fires everything that is due up to and including @p time, with posted events and deferred
+     * deletions in between, and leaves Now() at @p time. Time never goes back: an earlier time runs
+     * what is due now.
+     */
+    void AdvanceTo(qint64 time);
+
+    bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
+    bool hasPendingEvents() override;
+    void registerSocketNotifier(QSocketNotifier* notifier) override;
+    void unregisterSocketNotifier(QSocketNotifier* notifier) override;
+    void registerTimer(int id, int interval, Qt::TimerType type, QObject* object) override;
+    bool unregisterTimer(int id) override;
+    bool unregisterTimers(QObject* object) override;
+    QList<TimerInfo> registeredTimers(QObject* object) const override;
+    int remainingTime(int id) override;
+    void wakeUp() override;
+    void interrupt() override;
+    void flush() override {}
+
+private:
+    struct Timer
+    {
+        int id;
+        int interval;
+        Qt::TimerType type;
+        QObject* object;
+        qint64 deadline;
+        quint64 order; // tells timers apart where ids are used again
+        bool firing;   // its slot runs, perhaps with a loop of its own inside
+    };
+
+    Timer* NextTimer();
+    bool FireNext(qint64 limit);
+    bool ActivateSockets(int timeout);
+
+    qint64 now = 0;
+    quint64 nextOrder = 0;
+    std::vector<Timer> timers;
+    QList<QSocketNotifier*> notifiers;
+    int wakeDescriptor;
+    std::atomic<bool> interrupted{false};
+};
+
+} // namespace AnimText
+
+#endif
