@@ -43,11 +43,8 @@ bool animationRealization::HasGlyph(int j) const
 
 void animationRealization::AddGlyph(int j, double x, double y)
 {
-    // Placed as float: the device's coordinates are floats.
-    const float left = float(x);
-    const float baseline = float(y);
-    if (HasGlyph(j) && qIsFinite(left) && qIsFinite(baseline))
-        textPath.addPath(charPaths.at(j).translated(left, baseline));
+    if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y))
+        textPath.addPath(charPaths.at(j).translated(qreal(x), qreal(y)));
 }
 
 /** The glyph mapped through transform, about the left end of its baseline. */
@@ -59,17 +56,15 @@ void animationRealization::AddShapedGlyph(int j, double x, double y)
 
 void animationRealization::AddShapedGlyph(const QPainterPath& glyph, double x, double y)
 {
-    const float left = float(x);
-    const float baseline = float(y);
-    if (qIsFinite(left) && qIsFinite(baseline) && IsFinite(transform))
-        textPath.addPath(transform.map(glyph).translated(left, baseline));
+    if (qIsFinite(x) && qIsFinite(y) && IsFinite(transform))
+        textPath.addPath(transform.map(glyph).translated(qreal(x), qreal(y)));
 }
 
 /** Paints the glyph by itself, with its own fill rule. */
 void animationRealization::DrawGlyph(int j, double x, double y)
 {
     if (HasGlyph(j))
-        painter->drawPath(charPaths.at(j).translated(float(x), float(y)));
+        painter->drawPath(charPaths.at(j).translated(qreal(x), qreal(y)));
 }
 
 /** How far the k-th character of the page has come when each starts a step after the one before. */

@@ -61,8 +61,8 @@ void animationRealization::TrembleEffect()
         const int xAngle = qrand() % 8;
         const int yDistance = qrand() % 5;
         const int yAngle = qrand() % 8;
-        AddGlyph(j, RestX(j) + xDistance * std::sin(double(xAngle)),
-                 RestY(j) + yDistance * std::sin(double(yAngle)));
+        AddGlyph(j, float(RestX(j) + xDistance * std::sin(double(xAngle))),
+                 float(RestY(j) + yDistance * std::sin(double(yAngle))));
     });
     Advance(moveOffset, 1);
     if (moveOffset >= 61)

@@ -10,7 +10,7 @@ void animationRealization::RotationEffect()
 {
     DrawPage([&](int j) {
         RotateAbout(charWidths.value(j) * 0.5, -maxTextHeight * 0.5, moveOffset);
-        AddShapedGlyph(j, RestX(j), ExactY(j));
+        AddShapedGlyph(j, RestX(j), float(ExactY(j)));
     });
     Advance(moveOffset, stepSize);
     if (moveOffset >= 361)
@@ -85,7 +85,7 @@ void animationRealization::Effect3DHorizontalRotation()
         transform.scale(1, float(closing ? 1 - fall : q + fall));
         const int glyph = mirrored ? PageEnd() - 1 - k : j;
         if (HasGlyph(glyph))
-            AddShapedGlyph(charPaths.at(glyph), GatherX(j, stretch), ExactY(j));
+            AddShapedGlyph(charPaths.at(glyph), float(GatherX(j, stretch)), float(ExactY(j)));
     });
     Advance(moveOffset, stepSize);
     if (moveOffset >= 42)
@@ -106,7 +106,7 @@ void animationRealization::EffectFlipsInto()
             transform.scale(float(widening), 1);
             transform.shear(0, qreal((1 - widening) * 0.5));
         }
-        AddShapedGlyph(j, GatherX(j, stretch), ExactY(j));
+        AddShapedGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)));
     });
     Advance(moveOffset, 3 * stepSize);
     if (moveOffset >= 361)
@@ -118,7 +118,7 @@ void animationRealization::EffectRotateInto()
     const double stretch = 5.0 - (4 * moveOffset2) / 360.0;
     DrawPage([&](int j) {
         RotateAbout(charWidths.value(j) * 0.5, -charHeights.value(j) * 0.5, -moveOffset2);
-        AddShapedGlyph(j, GatherX(j, stretch), ExactY(j));
+        AddShapedGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)));
     });
     Advance(moveOffset2, stepSize);
     if (moveOffset2 >= 361)

@@ -70,7 +70,7 @@ void animationRealization::EffectRepeatTheWhereabouts()
         const int r = (moveOffset + j - PageStart()) % (n + 2);
         const int d = charDescents.value(j);
         const double rise = double(d - maxTextHeight + h) / (n + 1);
-        AddGlyph(j, RestX(j), (maxTextHeight - d) + rise * ((n + 1) - r));
+        AddGlyph(j, RestX(j), float((maxTextHeight - d) + rise * ((n + 1) - r)));
     });
     Advance(moveOffset, stepSize);
     if (moveOffset > 100)

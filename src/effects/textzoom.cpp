@@ -20,7 +20,7 @@ void animationRealization::EffectTextZoom()
             // The painter scales once more: glyphs grow with the square, their spacing does not.
             transform.reset();
             transform.scale(s, s);
-            AddShapedGlyph(j, RestX(j) - centre, 0);
+            AddShapedGlyph(j, float(RestX(j) - centre), 0);
         }
         painter->drawPath(textPath);
         painter->restore();
