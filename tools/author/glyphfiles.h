@@ -1,0 +1,25 @@
+/**
+ * @file
+ * The two data files of an animated text, as the node on the sign reads them.
+ */
+#ifndef ANIMTEXT_GLYPHFILES_H
+#define ANIMTEXT_GLYPHFILES_H
+
+#include <QByteArray>
+#include <QPainterPath>
+#include <QVector>
+
+namespace AnimText {
+
+/**
+ * The content of a "PathData" file: a serialised byte array of Base64 text, which decodes to the
+ * serialised list. Numbers are big-endian, in the stream format of the device's Qt (4.8).
+ */
+QByteArray PathFile(const QVector<QPainterPath>& outlines);
+
+/** The content of a "DescentVector" file, in the same two layers. */
+QByteArray DescentFile(const QVector<int>& descents);
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,246 @@
+#include "shaping.h"
+
+#include "seams.h"
+
+#include <QFontMetrics>
+#include <QGlyphRun>
+#include <QHash>
+#include <QRawFont>
+#include <QTextLayout>
+#include <QtMath>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+// Asking a line for the glyphs of one unit costs as much as the line is long. The layout is
+// therefore cut into short lines, which changes nothing in the shapes: they are made before.
+const int columnsPerLine = 100;
+
+QTextOption Option(QTextOption::WrapMode wrap)
+{
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(wrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    return option;
+}
+
+/** A cluster where the short lines have it. */
+struct PlacedCluster
+{
+    int line;
+    qreal leading;  // x of the edge at which reading begins
+    qreal trailing; // x of the edge at which reading ends
+
+    bool RightToLeft() const { return leading > trailing; }
+    qreal Left() const { return qMin(leading, trailing); }
+};
+
+class Shaper
+{
+public:
+    Shaper(const QString& text, const QFont& font)
+        : text(text)
+        , font(font)
+    {
+    }
+
+    ShapedLine Shape()
+    {
+        const QFontMetrics metrics(font);
+        result.ascent = metrics.ascent();
+        result.descent = metrics.descent();
+
+        QTextLayout layout(text, font);
+        layout.setTextOption(Option(QTextOption::WrapAnywhere));
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+            line.setNumColumns(columnsPerLine);
+        layout.endLayout();
+
+        for (int i = 0; i < layout.lineCount(); ++i)
+            AddLine(layout, layout.lineAt(i));
+        result.visualOrder = VisualOrder();
+        return result;
+    }
+
+private:
+    void AddLine(const QTextLayout& layout, const QTextLine& line)
+    {
+        result.ascent = qMax(result.ascent, qCeil(line.ascent()));
+        result.descent = qMax(result.descent, qCeil(line.descent()));
+        const int end = line.textStart() + line.textLength();
+        int first = line.textStart();
+        while (first < end) {
+            int next = first + 1;
+            while (next < end && Continues(layout, line, next))
+                ++next;
+            AddCluster(line, first, next - first);
+            first = next;
+        }
+    }
+
+    /** True when unit @p i shows nothing of its own: it shares the glyphs of the unit before. */
+    static bool Continues(const QTextLayout& layout, const QTextLine& line, int i)
+    {
+        if (!layout.isValidCursorPosition(i))
+            return true;
+        const QList<QGlyphRun> own = line.glyphRuns(i, 1);
+        const QList<QGlyphRun> before = line.glyphRuns(i - 1, 1);
+        if (own.isEmpty() || before.isEmpty())
+            return own.isEmpty();
+        return own.first().glyphIndexes().first() == before.first().glyphIndexes().first() &&
+               own.first().positions().first() == before.first().positions().first();
+    }
+
+    void AddCluster(const QTextLine& line, int first, int units)
+    {
+        const PlacedCluster place = {line.lineNumber(), line.cursorToX(first, QTextLine::Leading),
+                                     line.cursorToX(first + units - 1, QTextLine::Trailing)};
+        Cluster cluster;
+        cluster.first = first;
+        cluster.units = units;
+        cluster.advance = qAbs(place.trailing - place.leading);
+        const QPointF origin(place.Left(), line.y() + line.ascent());
+        cluster.shape.setFillRule(Qt::WindingFill);
+        QPainterPath single; // the one glyph of a cluster that has but one
+        int parts = 0;
+        for (const QGlyphRun& run : line.glyphRuns(first, units)) {
+            const QVector<quint32> glyphs = run.glyphIndexes();
+            const QVector<QPointF> positions = run.positions();
+            for (int i = 0; i < glyphs.size(); ++i) {
+                const Glyph& glyph = GlyphOf(run.rawFont(), glyphs[i]);
+                cluster.missing |= glyphs[i] == 0;
+                if (glyph.outline.isEmpty())
+                    continue;
+                ++parts;
+                cluster.shape.addPath(glyph.outline.translated(positions[i] - origin));
+                single = glyph.withoutOverlaps.translated(positions[i] - origin);
+            }
+        }
+        cluster.shape = parts > 1 ? WithoutOverlaps(cluster.shape) : single;
+        result.clusters.append(cluster);
+        places.append(place);
+    }
+
+    struct Glyph
+    {
+        QPainterPath outline;
+        QPainterPath withoutOverlaps;
+    };
+
+    const Glyph& GlyphOf(const QRawFont& font, quint32 glyph)
+    {
+        const QPair<QRawFont, quint32> key(font, glyph);
+        auto known = glyphs.constFind(key);
+        if (known == glyphs.constEnd()) {
+            QPainterPath path;
+            if (glyph != 0) // the font's mark for "unknown" would look like a letter
+                path = font.pathForGlyph(glyph);
+            path.setFillRule(Qt::WindingFill); // what outline fonts are drawn for
+            known = glyphs.insert(key, {path, WithoutOverlaps(path)});
+        }
+        return *known;
+    }
+
+    /** The clusters from left to right. */
+    QVector<int> VisualOrder() const
+    {
+        QVector<int> order;
+        order.reserve(places.size());
+        const bool mixed = std::any_of(places.begin(), places.end(),
+                                       [](const PlacedCluster& p) { return p.RightToLeft(); });
+        if (!mixed) {
+            for (int i = 0; i < places.size(); ++i)
+                order.append(i);
+            return order;
+        }
+
+        // Clusters that follow one another in the same direction keep together on any line that
+        // holds them all; only where such a sequence stands has to be asked of the whole line.
+        QTextLayout layout(text, font);
+        layout.setTextOption(Option(QTextOption::NoWrap));
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setLineWidth(1 << 24);
+        layout.endLayout();
+
+        struct Sequence
+        {
+            qreal left;
+            int begin;
+            int end;
+        };
+        QVector<Sequence> sequences;
+        for (int begin = 0, end; begin < places.size(); begin = end) {
+            qreal width = result.clusters[begin].advance;
+            for (end = begin + 1; end < places.size() && Follows(end); ++end)
+                width += result.clusters[end].advance;
+            const qreal leading = line.cursorToX(result.clusters[begin].first);
+            sequences.append({places[begin].RightToLeft() ? leading - width : leading, begin, end});
+        }
+        std::stable_sort(sequences.begin(), sequences.end(),
+                         [](const Sequence& a, const Sequence& b) { return a.left < b.left; });
+        for (const Sequence& s : sequences) {
+            for (int i = s.begin; i < s.end; ++i)
+                order.append(places[s.begin].RightToLeft() ? s.begin + s.end - 1 - i : i);
+        }
+        return order;
+    }
+
+    bool Follows(int i) const
+    {
+        const PlacedCluster& before = places[i - 1];
+        const PlacedCluster& own = places[i];
+        return before.line == own.line && before.RightToLeft() == own.RightToLeft() &&
+               qAbs(before.trailing - own.leading) < 0.02;
+    }
+
+    const QString text;
+    const QFont font;
+    ShapedLine result;
+    QVector<PlacedCluster> places;
+    QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
+};
+
+/** True for what is written to be seen: no space, no control, no mark that only steers the shaping.
+ */
+bool OughtToBeSeen(uint codePoint)
+{
+    switch (QChar::category(codePoint)) {
+    case QChar::Separator_Space:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+    case QChar::Other_Control:
+    case QChar::Other_Format: return false;
+    default: break;
+    }
+    const bool variationSelector = (codePoint >= 0xFE00 && codePoint <= 0xFE0F) ||
+                                   (codePoint >= 0xE0100 && codePoint <= 0xE01EF);
+    const bool filler = codePoint == 0x034F || codePoint == 0x115F || codePoint == 0x1160 ||
+                        codePoint == 0x2800 || codePoint == 0x3164 || codePoint == 0xFFA0;
+    return !variationSelector && !filler;
+}
+
+} // namespace
+
+ShapedLine ShapeLine(const QString& text, const QFont& font)
+{
+    return Shaper(text, font).Shape();
+}
+
+QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& line)
+{
+    QList<UnseenCharacter> unseen;
+    for (const Cluster& cluster : line.clusters) {
+        if (!cluster.missing && !cluster.shape.isEmpty())
+            continue;
+        const uint codePoint = text.mid(cluster.first, 2).toUcs4().value(0);
+        if (OughtToBeSeen(codePoint))
+            unseen.append({cluster.first, codePoint, cluster.missing});
+    }
+    return unseen;
+}
+
+} // namespace AnimText

@@ -1,0 +1,39 @@
+/**
+ * @file
+ * Looks into the data files of an animated text the way the sign will read them.
+ */
+#ifndef ANIMTEXT_DATAFILE_H
+#define ANIMTEXT_DATAFILE_H
+
+#include <QList>
+#include <QString>
+#include <QVector>
+
+namespace AnimText {
+
+/** An outline that the sign refuses: it shows nothing at that place and keeps the others. */
+struct BadOutline
+{
+    int index = 0;
+    QString fault;
+};
+
+/** What a data file holds. */
+struct DataFile
+{
+    QString fault;         ///< why the sign reads nothing from it; empty when it can be read
+    int entries = 0;       ///< how many outlines or descents
+    QVector<bool> isEmpty; ///< for outlines, by index: nothing to see
+    QVector<int> descents; ///< for descents
+    QList<BadOutline> badOutlines;
+};
+
+/** The "PathData" file at @p path. */
+DataFile LookIntoPathFile(const QString& path);
+
+/** The "DescentVector" file at @p path. */
+DataFile LookIntoDescentFile(const QString& path);
+
+} // namespace AnimText
+
+#endif

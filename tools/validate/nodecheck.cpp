@@ -1,0 +1,352 @@
+#include "nodecheck.h"
+
+#include "catalogue.h"
+#include "datafile.h"
+#include "pages.h"
+#include "playtime.h"
+#include "schema.h"
+
+#include <QFileInfo>
+#include <QRect>
+
+#include <algorithm>
+#include <numeric>
+
+namespace AnimText {
+namespace {
+
+const int longestLine = 31999;                  // pixels that the painter reaches
+const qint64 largestCanvas = qint64(256) << 20; // bytes that the engine paints into
+const int lastDrawnNeon = 28;                   // neon styles above show a picture
+const double longestTime = 2147483647.0;        // ms that the host can count
+
+QString Words(int count, const char* one, const char* many)
+{
+    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+}
+
+QString Size(qint64 width, int height)
+{
+    return QStringLiteral("%1 x %2 pixels").arg(width).arg(height);
+}
+
+QString AndMore(int others)
+{
+    return others == 0 ? QString() : QStringLiteral(" and %1 more like it").arg(others);
+}
+
+qint64 Sum(const QVector<int>& values)
+{
+    return std::accumulate(values.begin(), values.end(), qint64(0));
+}
+
+/** The first of the largest of @p values, or -1. */
+int LargestAt(const QVector<int>& values)
+{
+    return values.isEmpty() ? -1
+                            : int(std::max_element(values.begin(), values.end()) - values.begin());
+}
+
+} // namespace
+
+NodeCheck::NodeCheck(const QString& scenePath, const Scene& scene, const SceneNode& node,
+                     const QString& place)
+    : scenePath(scenePath)
+    , scene(scene)
+    , node(node)
+    , place(place)
+    , text(node.attributes.value(QStringLiteral("Text")).toString())
+    , mode(Number("EffectType"))
+    , motion(Number(mode == 1 ? "ContinueStyle" : "AnimationEffect"))
+{
+}
+
+QList<Finding> NodeCheck::Run()
+{
+    widths = Column("TextWidth", "text_width");
+    heights = Column("TextHeight", "text_height");
+    if (node.type != QLatin1String("LW_animationText_Plugin"))
+        Add("node-type", QStringLiteral("type"), QLatin1Char('"') + node.type + QLatin1Char('"'),
+            QStringLiteral("\"LW_animationText_Plugin\""));
+    CheckArea();
+    if (node.hold < 0)
+        Add("hold-range", QStringLiteral("hold"), QString::number(node.hold),
+            QStringLiteral("0 or more, in units of 100 ms"));
+    CheckMode();
+    CheckFlags();
+    CheckIgnored();
+    CheckLists();
+    CheckMeasures();
+    CheckFiles();
+    CheckDuration();
+    return findings;
+}
+
+void NodeCheck::CheckArea()
+{
+    const QString at = QStringLiteral("size");
+    if (node.size.isEmpty()) {
+        Add("area-empty", at, Size(node.size.width(), node.size.height()),
+            QStringLiteral("1 x 1 pixels or more"));
+        return;
+    }
+    if (!QRect(QPoint(0, 0), scene.display).contains(QRect(node.pos, node.size)))
+        Add("area-outside", QStringLiteral("pos"),
+            QStringLiteral("an area of %1 at %2, %3")
+                .arg(Size(node.size.width(), node.size.height()))
+                .arg(node.pos.x())
+                .arg(node.pos.y()),
+            QStringLiteral("a place within the display of %1")
+                .arg(Size(scene.display.width(), scene.display.height())));
+    const qint64 width = ScrollsSideways() ? Sum(widths) : node.size.width();
+    const qint64 bytes = width * node.size.height() * (scene.alphaBlend ? 4 : 3);
+    if (bytes > largestCanvas)
+        Add("canvas-large", at,
+            QStringLiteral("a picture of %1, %2 MiB")
+                .arg(Size(width, node.size.height()))
+                .arg(bytes >> 20),
+            QStringLiteral("at most %1 MiB").arg(largestCanvas >> 20));
+}
+
+void NodeCheck::CheckMode()
+{
+    if (text.isEmpty())
+        AddAttribute("text-empty", "Text", QStringLiteral("a text"));
+    const QString speeds = QStringLiteral("0 to 9");
+    if (mode == 0) {
+        if (motion < 0 || motion >= Effects().size())
+            AddAttribute("effect-unknown", "AnimationEffect",
+                         QStringLiteral("0 to %1").arg(Effects().size() - 1));
+        if (Number("AnimationSpeed") < 0 || Number("AnimationSpeed") > 9)
+            AddAttribute("speed-range", "AnimationSpeed", speeds);
+    } else if (mode == 1) {
+        if (motion < 0 || motion >= Scrolls().size())
+            AddAttribute("direction-unknown", "ContinueStyle",
+                         QStringLiteral("0 left, 1 right, 2 up or 3 down"));
+        if (Number("ContinueSpeed") < 0 || Number("ContinueSpeed") > 9)
+            AddAttribute("speed-range", "ContinueSpeed", speeds);
+    } else {
+        AddAttribute("mode-unknown", "EffectType",
+                     QStringLiteral("0 for an entrance effect or 1 for scrolling"));
+    }
+    if (Number("PlayTimes") < 1)
+        AddAttribute("plays-range", "PlayTimes", QStringLiteral("1 or more"));
+}
+
+void NodeCheck::CheckFlags()
+{
+    for (const char* flag : {"CheckColorGradient", "CheckDazzle", "CheckNeonBg",
+                             "CheckPictureFills", "CheckShadowEffect", "Hollow", "Stroke"}) {
+        if (Number(flag) != 0 && Number(flag) != 1)
+            AddAttribute("flag-value", flag, QStringLiteral("0 or 1"));
+    }
+}
+
+void NodeCheck::CheckIgnored()
+{
+    const QString withDazzle = QStringLiteral("0, or \"CheckDazzle\" 1 beside it");
+    if (Has("CheckColorGradient") && !Has("CheckDazzle"))
+        AddAttribute("gradient-ignored", "CheckColorGradient", withDazzle);
+    if (Has("CheckPictureFills") && !Has("CheckDazzle"))
+        AddAttribute("picture-ignored", "CheckPictureFills", withDazzle);
+    if (Has("CheckShadowEffect"))
+        AddAttribute("shadow-ignored", "CheckShadowEffect", QStringLiteral("0"));
+    if (Has("Stroke"))
+        AddAttribute("stroke-ignored", "Stroke", QStringLiteral("0"));
+}
+
+void NodeCheck::CheckLists()
+{
+    for (const QString& key : ListKeys()) {
+        const int rows = node.lists.value(key).size();
+        const QString at = QStringLiteral("lists.") + key;
+        const QString found =
+            node.lists.contains(key) ? Words(rows, "row", "rows") : QStringLiteral("no list");
+        const QString expected = QStringLiteral("a row for each of %1")
+                                     .arg(Words(text.size(), "character", "characters"));
+        if (rows < text.size())
+            Add("list-length", at, found, expected);
+        else if (rows > text.size())
+            Add("list-surplus", at, found, expected);
+        for (const QString& field : RowFields(key)) {
+            if (field != QLatin1String("fontName"))
+                CheckRows(key, field, key == QLatin1String("TextAttribute") ? -2147483647 : 0);
+        }
+    }
+
+    const auto styles = node.lists.value(QStringLiteral("TextAttribute"));
+    const QString color = QStringLiteral("Color");
+    for (int i = 1; i < styles.size(); ++i) {
+        if (styles[i].value(color) == styles[0].value(color))
+            continue;
+        Add("colors-ignored", QStringLiteral("lists.TextAttribute[%1].Color").arg(i),
+            QStringLiteral("\"%1\"").arg(styles[i].value(color)),
+            QStringLiteral("\"%1\" as in the first row").arg(styles[0].value(color)));
+        break;
+    }
+}
+
+/** A finding on the first row of @p list whose @p field is no number from @p least. */
+void NodeCheck::CheckRows(const QString& list, const QString& field, int least)
+{
+    const auto rows = node.lists.value(list);
+    int first = -1;
+    int others = 0;
+    for (int i = 0; i < rows.size(); ++i) {
+        bool isNumber = false;
+        const int value = rows[i].value(field).toInt(&isNumber);
+        if (isNumber && value >= least)
+            continue;
+        first < 0 ? void(first = i) : void(++others);
+    }
+    if (first < 0)
+        return;
+    const bool given = rows[first].contains(field);
+    Add("row-value", QStringLiteral("lists.%1[%2].%3").arg(list).arg(first).arg(field),
+        (given ? QStringLiteral("\"%1\"").arg(rows[first].value(field))
+               : QStringLiteral("nothing")) +
+            AndMore(others),
+        least == 0 ? QStringLiteral("a decimal number from 0")
+                   : QStringLiteral("a decimal number"));
+}
+
+void NodeCheck::CheckMeasures()
+{
+    const int widest = LargestAt(widths);
+    if (!ScrollsSideways() && widest >= 0 && widths[widest] > node.size.width())
+        Add("character-wide", QStringLiteral("lists.TextWidth[%1].text_width").arg(widest),
+            QStringLiteral("%1 pixels").arg(widths[widest]),
+            QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
+    const int highest = LargestAt(heights);
+    if (highest >= 0 && heights[highest] > node.size.height())
+        Add("text-high", QStringLiteral("lists.TextHeight[%1].text_height").arg(highest),
+            QStringLiteral("%1 pixels").arg(heights[highest]),
+            QStringLiteral("no more than the area's height, %1").arg(node.size.height()));
+    if (ScrollsSideways() && Sum(widths) > longestLine)
+        Add("line-long", QStringLiteral("lists.TextWidth"),
+            QStringLiteral("a line of %1 pixels").arg(Sum(widths)),
+            QStringLiteral("at most %1 pixels").arg(longestLine));
+}
+
+void NodeCheck::CheckFiles()
+{
+    for (const QString& key : FileKeys()) {
+        const QString at = QStringLiteral("files.") + key;
+        const bool isData =
+            key == QLatin1String("PathData") || key == QLatin1String("DescentVector");
+        if (node.files.contains(key)) {
+            const QString path = ResolveSceneFile(scenePath, node.files.value(key));
+            if (!QFileInfo::exists(path))
+                Add("file-missing", at, QStringLiteral("no file %1").arg(path),
+                    QStringLiteral("a file"));
+            else if (isData)
+                CheckData(key);
+        } else if (isData && !text.isEmpty()) {
+            Add("file-missing", at, QStringLiteral("nothing"),
+                QStringLiteral("the name of a data file"));
+        } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
+                   (key == QLatin1String("NeonGifPath") && Has("CheckNeonBg") &&
+                    node.neonEffect > lastDrawnNeon)) {
+            Add("picture-missing", at, QStringLiteral("nothing"),
+                QStringLiteral("the name of a picture file"));
+        }
+    }
+}
+
+void NodeCheck::CheckData(const QString& key)
+{
+    const bool holdsPaths = key == QLatin1String("PathData");
+    const QString at = QStringLiteral("files.") + key;
+    const QString path = ResolveSceneFile(scenePath, node.files.value(key));
+    const DataFile data = holdsPaths ? LookIntoPathFile(path) : LookIntoDescentFile(path);
+    if (!data.fault.isEmpty()) {
+        Add("data-malformed", at, QStringLiteral("%1: %2").arg(path, data.fault),
+            QStringLiteral("a serialised byte array of Base64 text with a serialised list in it"));
+        return;
+    }
+    const QString found = holdsPaths ? Words(data.entries, "outline", "outlines")
+                                     : Words(data.entries, "descent", "descents");
+    if (data.entries != text.size())
+        Add(data.entries < text.size() ? "data-length" : "data-surplus", at, found,
+            QStringLiteral("one for each of %1")
+                .arg(Words(text.size(), "character", "characters")));
+    if (!data.badOutlines.isEmpty()) {
+        const BadOutline& bad = data.badOutlines.first();
+        Add("outline-malformed", at,
+            QStringLiteral("outline %1: %2%3")
+                .arg(bad.index)
+                .arg(bad.fault, AndMore(data.badOutlines.size() - 1)),
+            QStringLiteral("moves, lines and curves within a million pixels"));
+    }
+    if (holdsPaths)
+        CheckOutlines(data.isEmpty);
+    else
+        descents = data.descents;
+}
+
+void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
+{
+    int first = -1;
+    int others = 0;
+    for (int i = 0; i < qMin(isEmpty.size(), text.size()); ++i) {
+        const QChar::Category category = text.at(i).category();
+        const bool unseen = text.at(i).isSpace() || category == QChar::Other_Format ||
+                            category == QChar::Other_Control || text.at(i).isLowSurrogate();
+        // Characters that share the outline of the one before them have no width.
+        if (!isEmpty[i] || unseen || widths.value(i) <= 0)
+            continue;
+        first < 0 ? void(first = i) : void(++others);
+    }
+    if (first >= 0)
+        Add("outline-empty", QStringLiteral("files.PathData"),
+            QStringLiteral("no outline for character %1 of the text%2")
+                .arg(first)
+                .arg(AndMore(others)),
+            QStringLiteral("an outline for all that is seen"));
+}
+
+void NodeCheck::CheckDuration()
+{
+    PlayTimeInput input;
+    input.mode = mode;
+    input.motion = motion;
+    input.speed = Number(mode == 1 ? "ContinueSpeed" : "AnimationSpeed");
+    input.hold = node.hold;
+    input.plays = Number("PlayTimes");
+    input.area = node.size;
+    input.widths = widths.mid(0, text.size());
+    input.heights = heights;
+    input.descents = descents;
+    input.pageStarts = PagesFromBeginning(input.widths, node.size.width());
+    const double time = PlayTime(input);
+    if (time > longestTime || time < -longestTime)
+        Add("duration-wraps", QString(),
+            QStringLiteral("a play time of %1 ms, %2 days")
+                .arg(time, 0, 'f', 0)
+                .arg(time / 86400000, 0, 'f', 1),
+            QStringLiteral("at most %1 ms").arg(longestTime, 0, 'f', 0));
+}
+
+QVector<int> NodeCheck::Column(const char* list, const char* field) const
+{
+    QVector<int> values;
+    for (const QHash<QString, QString>& row : node.lists.value(QLatin1String(list)))
+        values.append(row.value(QLatin1String(field)).toInt());
+    return values;
+}
+
+void NodeCheck::Add(const char* code, const QString& where, const QString& found,
+                    const QString& expected)
+{
+    findings.append({RuleFor(code), where.isEmpty() ? place : place + QLatin1Char('.') + where,
+                     found, expected});
+}
+
+void NodeCheck::AddAttribute(const char* code, const char* key, const QString& expected)
+{
+    const QVariant value = node.attributes.value(QLatin1String(key));
+    Add(code, QStringLiteral("attributes.") + QLatin1String(key),
+        value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
+}
+
+} // namespace AnimText

@@ -1,0 +1,61 @@
+/**
+ * @file
+ * The checks on one node of a scene.
+ */
+#ifndef ANIMTEXT_NODECHECK_H
+#define ANIMTEXT_NODECHECK_H
+
+#include "scene.h"
+#include "validate.h"
+
+#include <QVector>
+
+namespace AnimText {
+
+/** Looks through one node; the findings come in the order of the scene file. */
+class NodeCheck
+{
+public:
+    /** @param place the node's place in the scene file @p scenePath */
+    NodeCheck(const QString& scenePath, const Scene& scene, const SceneNode& node,
+              const QString& place);
+
+    QList<Finding> Run();
+
+private:
+    void CheckArea();
+    void CheckMode();
+    void CheckFlags();
+    void CheckIgnored();
+    void CheckLists();
+    void CheckRows(const QString& list, const QString& field, int least);
+    void CheckMeasures();
+    void CheckDuration();
+    void CheckFiles();
+    void CheckData(const QString& key);
+    void CheckOutlines(const QVector<bool>& isEmpty);
+
+    bool Has(const char* flag) const { return Number(flag) == 1; }
+    int Number(const char* key) const { return node.attributes.value(QLatin1String(key)).toInt(); }
+    QVector<int> Column(const char* list, const char* field) const;
+    bool ScrollsSideways() const { return mode == 1 && (motion == 0 || motion == 1); }
+
+    void Add(const char* code, const QString& where, const QString& found, const QString& expected);
+    void AddAttribute(const char* code, const char* key, const QString& expected);
+
+    const QString scenePath;
+    const Scene& scene;
+    const SceneNode& node;
+    const QString place;
+    const QString text;
+    const int mode;
+    const int motion; // number of the effect or of the scroll
+    QVector<int> widths;
+    QVector<int> heights;
+    QVector<int> descents;
+    QList<Finding> findings;
+};
+
+} // namespace AnimText
+
+#endif
