@@ -39,14 +39,15 @@ class DrawNeonBg::Private
 {
 public:
     Private()
-        : interval(66)
+        : timer(0)
+        , interval(66)
         , tick(0)
     {
     }
 
     QPointer<HNode> node;
     QImage image;
-    QTimer timer;
+    QTimer* timer; ///< the animator's child, so that whoever counts timers finds it
     int interval;
     qint64 tick; ///< pictures painted since InitNode()
     std::unique_ptr<NeonBorder> border;
@@ -60,7 +61,8 @@ DrawNeonBg::DrawNeonBg(QObject* parent)
     , layer(0)
     , d(new Private)
 {
-    connect(&d->timer, SIGNAL(timeout()), this, SLOT(DrawNext()));
+    d->timer = new QTimer(this);
+    connect(d->timer, SIGNAL(timeout()), this, SLOT(DrawNext()));
 }
 
 DrawNeonBg::~DrawNeonBg()
@@ -99,12 +101,12 @@ void DrawNeonBg::StartTimerDraw(int interval)
     if (!d->node)
         return;
     d->interval = qMax(1, interval);
-    d->timer.start(d->interval);
+    d->timer->start(d->interval);
 }
 
 void DrawNeonBg::StopTimerDraw()
 {
-    d->timer.stop();
+    d->timer->stop();
 }
 
 const QImage& DrawNeonBg::Image() const

@@ -145,11 +145,12 @@ Cell CellAt(const Scene& scene, int count, double shift)
     return cell;
 }
 
-/** A round lamp in the middle of its cell. */
-double Lamp(const Scene& scene, const Cell& cell, double size)
+/** A round lamp in the middle of its cell, as wide as the band. */
+double Lamp(const Scene& scene, const Cell& cell)
 {
     const double dx = (cell.place - 0.5) * cell.length / (scene.unit / 2);
-    return Tube(std::sqrt(Square(dx) + Square(scene.Across())) / size);
+    const double distance = Square(dx) + Square(scene.Across());
+    return std::exp(-Square(distance / 0.7)) + 0.35 * std::exp(-distance / 0.15);
 }
 
 // --- Patterns -----------------------------------------------------------------------------------
@@ -168,7 +169,7 @@ NeonLight ChasingDots(const Scene& s)
     const Cell cell = CellAt(s, count, 0);
     const double turn = Wrap(cell.index - s.tick / 5, 3.0);
     const double lit = std::exp(-Square(qMin(turn, 3 - turn) / 0.6));
-    return s.Colour(double(cell.index) / count) * (Lamp(s, cell, 0.9) * (0.13 + 0.95 * lit));
+    return s.Colour(double(cell.index) / count) * (Lamp(s, cell) * (0.16 + 0.95 * lit));
 }
 
 /** Blocks of alternating colour that march. */
@@ -186,6 +187,10 @@ NeonLight CometLight(const Scene& s, double head, double sense, double tailUnits
 {
     const double behind = Wrap(sense * (head - s.Along()), s.loop.length);
     const double ahead = s.loop.length - behind;
+    if (behind > 6 * tailUnits * s.unit && ahead > 2 * s.unit) {
+        const NeonLight dark = {0, 0, 0};
+        return dark;
+    }
     const double tail = std::exp(-behind / (tailUnits * s.unit));
     const double nose = std::exp(-Square(qMin(behind, ahead) / (0.5 * s.unit)));
     const double thin = s.Across() / (0.35 + 0.65 * tail); // the tail tapers
@@ -223,7 +228,7 @@ NeonLight TwinComets(const Scene& s)
 NeonLight Breathing(const Scene& s)
 {
     const double breath = 0.5 - 0.5 * std::cos(2 * Pi * (s.tick + 8) / 48);
-    const double width = 1.5 - 0.6 * breath; // it swells with its light
+    const double width = 1.5 - 0.7 * breath; // it swells with its light
     return s.Colour(s.tick / 144) * ((0.2 + 0.95 * breath) * Tube(width * s.Across()));
 }
 
@@ -234,7 +239,7 @@ NeonLight DashedFlow(const Scene& s)
     const Cell cell = CellAt(s, count, s.tick * 0.4 * s.unit);
     const double front = Window(cell.place, 0, 0.8, 1.5 / cell.length);
     const double fade = Square(cell.place / 0.8);
-    return s.Colour(double(cell.index) / count) * (1.1 * front * fade * Tube(s.Across()));
+    return s.Colour(double(cell.index) / count) * (1.25 * front * fade * Tube(s.Across()));
 }
 
 /** A star that twinkles in every corner and sends a glint along both edges. */
@@ -244,6 +249,8 @@ NeonLight CornerSparkles(const Scene& s)
     for (int i = 0; i < 4; ++i) {
         const double ahead = Wrap(s.Along() - s.loop.corners[i], s.loop.length);
         const double distance = qMin(ahead, s.loop.length - ahead) / s.unit;
+        if (distance > 30)
+            continue;
         const double phase = Wrap(s.tick / 40 + 0.25 * Noise(i, 1) + 0.5 * (i % 2), 1.0);
         const double twinkle = std::exp(-5 * phase) * (1 - std::exp(-30 * (phase + 0.02)));
         const double glint = std::exp(-Square((distance - 14 * phase) / 1.2)) * Square(1 - phase);
@@ -276,8 +283,8 @@ NeonLight Ripples(const Scene& s)
     const double from = Wrap(s.Along() - middle, half);
     const double distance = qMin(from, half - from);
     const double phase = Wrap((s.tick * 0.45 * s.unit - distance) / (9 * s.unit), 1.0);
-    const double ring = std::exp(-4 * phase) * Window(phase, 0.02, 1, 0.04);
-    const double far = 1 - 0.6 * distance / (half / 2);
+    const double ring = std::exp(-2.5 * phase) * Window(phase, 0.02, 1, 0.04);
+    const double far = 1 - 0.4 * distance / (half / 2);
     return s.Colour(2 * distance / half - s.tick / 120) * ((0.1 + ring * far) * Tube(s.Across()));
 }
 
@@ -290,7 +297,7 @@ NeonLight Fireflies(const Scene& s)
     const double time = s.tick / pace + Noise(cell.index, 2);
     const double glow = std::pow(0.5 - 0.5 * std::cos(2 * Pi * time), 5.0);
     return s.Colour(Noise(cell.index, 3) + std::floor(time) * 0.38) *
-           ((0.06 + 1.2 * glow) * Lamp(s, cell, 0.95));
+           ((0.06 + 1.2 * glow) * Lamp(s, cell));
 }
 
 /** A line draws itself round the area and is taken back from where it began. */
@@ -305,7 +312,8 @@ NeonLight SelfDrawing(const Scene& s)
     const double soft = s.unit / 2;
     const double line = isDrawing ? Window(s.Along(), -s.unit, pen, soft)
                                   : Window(s.Along(), pen, s.loop.length + s.unit, soft);
-    const double spark = std::exp(-Square((s.Along() - pen) / s.unit));
+    const double toPen = Wrap(s.Along() - pen, s.loop.length);
+    const double spark = std::exp(-Square(qMin(toPen, s.loop.length - toPen) / s.unit));
     const NeonLight white = {1, 1, 1};
     return s.Colour(s.Turn() + s.tick / 256) * ((0.05 + 0.95 * line) * Tube(s.Across())) +
            white * (0.9 * spark * Tube(s.Across()));
