@@ -1,0 +1,93 @@
+/**
+ * @file
+ * What tests read and set inside the plugin's classes; each field by its name.
+ */
+#ifndef TESTS_PROBES_H
+#define TESTS_PROBES_H
+
+#include "engine/animationrealization.h"
+#include "node/hanimationtextnode.h"
+#include "render/hanimationtextrender.h"
+
+#define PROBE(object, field)                                                                       \
+    decltype(auto) field() const                                                                   \
+    {                                                                                              \
+        return (object.field);                                                                     \
+    }
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+class EngineProbe
+{
+public:
+    explicit EngineProbe(animationRealization& engine)
+        : engine(engine)
+    {
+    }
+
+    PROBE(engine, charIndex)
+    PROBE(engine, charCount)
+    PROBE(engine, moveOffset)
+    PROBE(engine, moveOffset2)
+    PROBE(engine, progressF)
+    PROBE(engine, isDrawing)
+    PROBE(engine, playFinished)
+    PROBE(engine, runEnded)
+    PROBE(engine, playCount)
+    PROBE(engine, pageIndex)
+    PROBE(engine, pageBreaks)
+    PROBE(engine, pageOffsets)
+    PROBE(engine, charPaths)
+    PROBE(engine, charPositions)
+    PROBE(engine, textPath)
+    PROBE(engine, drawImage)
+    PROBE(engine, frameCount)
+    PROBE(engine, holdTime)
+    PROBE(engine, stayPageIndex)
+    PROBE(engine, stepSize)
+    PROBE(engine, dazzleTimer)
+    PROBE(engine, neonBg)
+
+private:
+    animationRealization& engine;
+};
+
+class NodeProbe
+{
+public:
+    explicit NodeProbe(HAnimationTextNode& node)
+        : node(node)
+    {
+    }
+
+    PROBE(node, pageBreaks)
+    PROBE(node, pageOffsets)
+
+private:
+    HAnimationTextNode& node;
+};
+
+class RenderProbe
+{
+public:
+    explicit RenderProbe(HAnimationTextRender& render)
+        : render(render)
+    {
+    }
+
+    EngineProbe Engine() const { return EngineProbe(*render.engine); }
+    PROBE(render, session)
+    PROBE(render, drawTimer)
+    PROBE(render, firstTick)
+
+private:
+    HAnimationTextRender& render;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#undef PROBE
+
+#endif

@@ -1,0 +1,114 @@
+/**
+ * @file
+ * Texts whose glyphs are rectangles, in real data files: where the corners of a glyph stand tells
+ * its place, its pivot and the order of its transforms.
+ */
+#ifndef TESTS_RECTANGLETEXT_H
+#define TESTS_RECTANGLETEXT_H
+
+#include "node/hanimationtextnode.h"
+
+#include <QDataStream>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using Lw::HNodeAnimationText::HAnimationTextNode;
+
+/** @p value as Qt 4.8 writes it into a stream. */
+template <typename T>
+QByteArray Serialised(const T& value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_8);
+    stream << value;
+    return bytes;
+}
+
+inline void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+/** A data file: a byte array that holds @p inner in Base64. */
+inline void WriteGlyphData(const QString& path, const QByteArray& inner)
+{
+    WriteFile(path, Serialised(inner.toBase64()));
+}
+
+/** Glyph outlines of @p widths and @p heights: of unlike margins on all four sides. */
+inline QVector<QPainterPath> RectangleGlyphs(const QVector<int>& widths,
+                                             const QVector<int>& heights)
+{
+    QVector<QPainterPath> glyphs(widths.size());
+    for (int i = 0; i < widths.size(); ++i) {
+        const int w = widths.at(i);
+        const int h = heights.value(i);
+        glyphs[i].addRect(2, 4 - h, w - 5, h - 6); // from (2, 4 - h) to (w - 3, -2)
+    }
+    return glyphs;
+}
+
+inline void SetList(HAnimationTextNode& node, const char* key, const char* field,
+                    const QVector<int>& numbers)
+{
+    QList<QHash<QString, QString>> rows;
+    for (int number : numbers)
+        rows.append({{field, QString::number(number)}});
+    node.SetList(key, rows);
+}
+
+/** @p count characters for a text. */
+inline QString Letters(int count)
+{
+    return QString(count, 'x');
+}
+
+/** A node with a text of rectangles; the first entry of each list belongs to character 0. */
+class RectangleText
+{
+public:
+    RectangleText(const QVector<int>& widths, const QVector<int>& heights,
+                  const QVector<int>& descents, QSize area)
+        : node(new HAnimationTextNode)
+    {
+        SetGlyphs(RectangleGlyphs(widths, heights));
+        WriteGlyphData(File("descents"), Serialised(descents));
+        node->SetFiles("PathData", {File("paths")});
+        node->SetFiles("DescentVector", {File("descents")});
+        SetList(*node, "TextWidth", "text_width", widths);
+        SetList(*node, "TextHeight", "text_height", heights);
+        node->SetAttribute("Text", Letters(widths.size()));
+        node->SetSize(area);
+        Set({{"AnimationSpeed", 5}, {"ContinueSpeed", 5}, {"PlayTimes", 1}});
+    }
+
+    /** The text of most tests: two pages of two characters and one, odd halves in all places. */
+    static RectangleText TwoPages()
+    {
+        return RectangleText({30, 20, 40}, {20, 25, 16}, {4, 5, 3}, QSize(60, 41));
+    }
+
+    void Set(std::initializer_list<std::pair<const char*, int>> attributes)
+    {
+        for (const auto& attribute : attributes)
+            node->SetAttribute(attribute.first, attribute.second);
+    }
+
+    void SetGlyphs(const QVector<QPainterPath>& glyphs)
+    {
+        WriteGlyphData(File("paths"), Serialised(glyphs));
+    }
+
+    QString File(const char* name) const { return directory->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> directory{new QTemporaryDir};
+    std::unique_ptr<HAnimationTextNode> node;
+};
+
+#endif
