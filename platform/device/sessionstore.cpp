@@ -73,17 +73,17 @@ SessionStore& SessionStore::Instance()
 Session* SessionStore::Create()
 {
     if (freeSlots.empty()) {
-        if (slots_.size() == SlotCount)
+        if (slotTable.size() == SlotCount)
             return 0;
         Slot fresh;
         fresh.generation = 0;
-        freeSlots.push_back(unsigned(slots_.size()));
-        slots_.push_back(std::move(fresh));
+        freeSlots.push_back(unsigned(slotTable.size()));
+        slotTable.push_back(std::move(fresh));
     }
     const unsigned int index = freeSlots.back();
     freeSlots.pop_back();
 
-    Slot& slot = slots_[index];
+    Slot& slot = slotTable[index];
     slot.generation = slot.generation == LastGeneration ? 1 : slot.generation + 1;
     slot.session.reset(new Session());
     slot.session->handle = slot.generation << SlotBits | index;
@@ -94,9 +94,9 @@ Session* SessionStore::Create()
 Session* SessionStore::Find(PicSession handle) const
 {
     const size_t index = handle % SlotCount;
-    if (index >= slots_.size())
+    if (index >= slotTable.size())
         return 0;
-    Session* const session = slots_[index].session.get();
+    Session* const session = slotTable[index].session.get();
     return session && session->handle == handle ? session : 0;
 }
 
@@ -120,7 +120,7 @@ void SessionStore::Free(Session* session)
         liveBytes -= 2 * session->layers[i]->BufferBytes();
     }
     const unsigned int index = session->handle % SlotCount;
-    slots_[index].session.reset();
+    slotTable[index].session.reset();
     freeSlots.push_back(index);
 }
 

@@ -98,7 +98,7 @@ private:
 
     SessionStore();
 
-    std::vector<Slot> slots_; // "slots" is one of Qt's words
+    std::vector<Slot> slotTable;
     std::vector<unsigned int> freeSlots;
     QList<Session*> shown;
     QList<PicDisplay> displays;

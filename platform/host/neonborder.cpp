@@ -20,7 +20,7 @@ int BandThickness(QSize area)
 
 int ToByte(double light)
 {
-    return int(qBound(0.0, light, 1.0) * 255 + 0.5);
+    return int(std::floor(qBound(0.0, light, 1.0) * 255 + 0.5));
 }
 
 /** Light beyond what a channel can show spills into the others, as in a tube too bright to look at.

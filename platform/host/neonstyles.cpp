@@ -125,7 +125,7 @@ struct Scene
     /** How many cells of about @p units fill the loop without a seam, a multiple of @p group. */
     int Cells(double units, int group) const
     {
-        return group * qMax(1, int(loop.length / (units * unit * group) + 0.5));
+        return group * qMax(1, int(std::floor(loop.length / (units * unit * group) + 0.5)));
     }
 };
 
