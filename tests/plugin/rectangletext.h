@@ -111,4 +111,30 @@ public:
     std::unique_ptr<HAnimationTextNode> node;
 };
 
+/** The messages of a scope, in order. */
+class Messages
+{
+public:
+    Messages()
+        : before(qInstallMessageHandler(Take))
+    {
+        Taken().clear();
+    }
+    ~Messages() { qInstallMessageHandler(before); }
+
+    static QStringList& Taken()
+    {
+        static QStringList messages;
+        return messages;
+    }
+
+private:
+    static void Take(QtMsgType, const QMessageLogContext&, const QString& message)
+    {
+        Taken().append(message);
+    }
+
+    QtMessageHandler before;
+};
+
 #endif
