@@ -18,9 +18,12 @@ namespace {
 // therefore cut into short lines, which changes nothing in the shapes: they are made before.
 const int columnsPerLine = 100;
 
+const qreal tolerance = 0.02; // pixels; the layout counts in 1/64
+
 QTextOption Option(QTextOption::WrapMode wrap)
 {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(Qt::LayoutDirectionAuto); // that of the first letter
     option.setWrapMode(wrap);
     option.setFlags(QTextOption::IncludeTrailingSpaces);
     return option;
@@ -32,6 +35,7 @@ struct PlacedCluster
     int line;
     qreal leading;  // x of the edge at which reading begins
     qreal trailing; // x of the edge at which reading ends
+    int groups;     // of units that share a glyph
 
     bool RightToLeft() const { return leading > trailing; }
     qreal Left() const { return qMin(leading, trailing); }
@@ -70,22 +74,35 @@ private:
     {
         result.ascent = qMax(result.ascent, qCeil(line.ascent()));
         result.descent = qMax(result.descent, qCeil(line.descent()));
+        const int begin = result.clusters.size();
         const int end = line.textStart() + line.textLength();
-        int first = line.textStart();
-        while (first < end) {
-            int next = first + 1;
-            while (next < end && Continues(layout, line, next))
-                ++next;
-            AddCluster(line, first, next - first);
-            first = next;
+        for (int i = line.textStart(); i < end; ++i) {
+            const bool sharesGlyph = i > line.textStart() && SharesGlyph(line, i);
+            const bool continues =
+                i > line.textStart() && (sharesGlyph || !layout.isValidCursorPosition(i));
+            if (continues) {
+                ++result.clusters.last().units;
+                places.last().groups += sharesGlyph ? 0 : 1;
+                continue;
+            }
+            Cluster cluster;
+            cluster.first = i;
+            cluster.units = 1;
+            result.clusters.append(cluster);
+            places.append({line.lineNumber(), line.cursorToX(i, QTextLine::Leading),
+                           line.cursorToX(i, QTextLine::Trailing), 1});
         }
+        for (int k = begin; k < result.clusters.size(); ++k) {
+            if (places[k].groups > 1)
+                places[k].trailing = EndOf(places[k], begin, line);
+        }
+        for (int k = begin; k < result.clusters.size(); ++k)
+            Outline(line, places[k], &result.clusters[k]);
     }
 
-    /** True when unit @p i shows nothing of its own: it shares the glyphs of the unit before. */
-    static bool Continues(const QTextLayout& layout, const QTextLine& line, int i)
+    /** True when the glyph of unit @p i is the one of the unit before. */
+    static bool SharesGlyph(const QTextLine& line, int i)
     {
-        if (!layout.isValidCursorPosition(i))
-            return true;
         const QList<QGlyphRun> own = line.glyphRuns(i, 1);
         const QList<QGlyphRun> before = line.glyphRuns(i - 1, 1);
         if (own.isEmpty() || before.isEmpty())
@@ -94,34 +111,50 @@ private:
                own.first().positions().first() == before.first().positions().first();
     }
 
-    void AddCluster(const QTextLine& line, int first, int units)
+    /**
+     * The edge at which the reading of @p place, a syllable of several glyphs, ends. The layout
+     * tells only the end of its first glyph; clusters lie side by side, so the syllable ends where
+     * the next one begins.
+     */
+    qreal EndOf(const PlacedCluster& place, int firstOfLine, const QTextLine& line) const
     {
-        const PlacedCluster place = {line.lineNumber(), line.cursorToX(first, QTextLine::Leading),
-                                     line.cursorToX(first + units - 1, QTextLine::Trailing)};
-        Cluster cluster;
-        cluster.first = first;
-        cluster.units = units;
-        cluster.advance = qAbs(place.trailing - place.leading);
+        const qreal sign = place.RightToLeft() ? -1 : 1;
+        const qreal least = sign * place.trailing - tolerance;
+        qreal end = place.RightToLeft() ? 0 : line.naturalTextWidth();
+        const auto consider = [&](qreal edge) {
+            if (sign * edge >= least && sign * edge < sign * end)
+                end = edge;
+        };
+        consider(line.cursorToX(line.textStart() + line.textLength()));
+        for (int k = firstOfLine; k < places.size(); ++k) {
+            consider(places[k].leading);
+            if (places[k].groups == 1)
+                consider(places[k].trailing);
+        }
+        return end;
+    }
+
+    void Outline(const QTextLine& line, const PlacedCluster& place, Cluster* cluster)
+    {
+        cluster->advance = qAbs(place.trailing - place.leading);
         const QPointF origin(place.Left(), line.y() + line.ascent());
-        cluster.shape.setFillRule(Qt::WindingFill);
+        cluster->shape.setFillRule(Qt::WindingFill);
         QPainterPath single; // the one glyph of a cluster that has but one
         int parts = 0;
-        for (const QGlyphRun& run : line.glyphRuns(first, units)) {
+        for (const QGlyphRun& run : line.glyphRuns(cluster->first, cluster->units)) {
             const QVector<quint32> glyphs = run.glyphIndexes();
             const QVector<QPointF> positions = run.positions();
             for (int i = 0; i < glyphs.size(); ++i) {
                 const Glyph& glyph = GlyphOf(run.rawFont(), glyphs[i]);
-                cluster.missing |= glyphs[i] == 0;
+                cluster->missing |= glyphs[i] == 0;
                 if (glyph.outline.isEmpty())
                     continue;
                 ++parts;
-                cluster.shape.addPath(glyph.outline.translated(positions[i] - origin));
+                cluster->shape.addPath(glyph.outline.translated(positions[i] - origin));
                 single = glyph.withoutOverlaps.translated(positions[i] - origin);
             }
         }
-        cluster.shape = parts > 1 ? WithoutOverlaps(cluster.shape) : single;
-        result.clusters.append(cluster);
-        places.append(place);
+        cluster->shape = parts > 1 ? WithoutOverlaps(cluster->shape) : single;
     }
 
     struct Glyph
@@ -194,7 +227,7 @@ private:
         const PlacedCluster& before = places[i - 1];
         const PlacedCluster& own = places[i];
         return before.line == own.line && before.RightToLeft() == own.RightToLeft() &&
-               qAbs(before.trailing - own.leading) < 0.02;
+               qAbs(before.trailing - own.leading) < tolerance;
     }
 
     const QString text;
@@ -204,43 +237,11 @@ private:
     QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
 };
 
-/** True for what is written to be seen: no space, no control, no mark that only steers the shaping.
- */
-bool OughtToBeSeen(uint codePoint)
-{
-    switch (QChar::category(codePoint)) {
-    case QChar::Separator_Space:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-    case QChar::Other_Control:
-    case QChar::Other_Format: return false;
-    default: break;
-    }
-    const bool variationSelector = (codePoint >= 0xFE00 && codePoint <= 0xFE0F) ||
-                                   (codePoint >= 0xE0100 && codePoint <= 0xE01EF);
-    const bool filler = codePoint == 0x034F || codePoint == 0x115F || codePoint == 0x1160 ||
-                        codePoint == 0x2800 || codePoint == 0x3164 || codePoint == 0xFFA0;
-    return !variationSelector && !filler;
-}
-
 } // namespace
 
 ShapedLine ShapeLine(const QString& text, const QFont& font)
 {
     return Shaper(text, font).Shape();
-}
-
-QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& line)
-{
-    QList<UnseenCharacter> unseen;
-    for (const Cluster& cluster : line.clusters) {
-        if (!cluster.missing && !cluster.shape.isEmpty())
-            continue;
-        const uint codePoint = text.mid(cluster.first, 2).toUcs4().value(0);
-        if (OughtToBeSeen(codePoint))
-            unseen.append({cluster.first, codePoint, cluster.missing});
-    }
-    return unseen;
 }
 
 } // namespace AnimText
