@@ -28,7 +28,7 @@ void Warn(const QString& message)
 bool Print(const QByteArray& text)
 {
     const size_t size = size_t(text.size());
-    return std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    return std::fwrite(text.constData(), 1, size, stdout) == size;
 }
 
 QString RightAligned(const QString& text, int width)

@@ -20,6 +20,22 @@ QString PluginPath(const QString& given)
     return QDir::cleanPath(programs.filePath(QStringLiteral("../lib/libanimationtext.so")));
 }
 
+namespace {
+
+/** Lets the plugin find the pictures that a device would have, in ../share beside the program. */
+void OfferPictures()
+{
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString shipped =
+        QDir::cleanPath(programs.filePath(QStringLiteral("../share/animationtext/pictures")));
+    const bool onDevice = QFileInfo::exists(QStringLiteral("/root/Box/image"));
+    if (!onDevice && !qEnvironmentVariableIsSet("ANIMATIONTEXT_PICTURES") &&
+        QFileInfo::exists(shipped))
+        qputenv("ANIMATIONTEXT_PICTURES", QFile::encodeName(shipped));
+}
+
+} // namespace
+
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
 {
     const QFileInfo file(path);
@@ -29,6 +45,7 @@ Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
                      .arg(path);
         return nullptr;
     }
+    OfferPictures();
     QPluginLoader loader(file.absoluteFilePath());
     QObject* object = loader.instance();
     if (!object) {

@@ -22,6 +22,9 @@ QString PluginPath(const QString& given = QString());
 /**
  * The plugin object of the library at @p path. It belongs to the library, which stays loaded until
  * the process ends. On failure null, and @p error is one line that says what to do.
+ *
+ * Where no ANIMATIONTEXT_PICTURES names the folder with the pictures that devices have, it becomes
+ * ../share/animationtext/pictures beside the program.
  */
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error);
 

@@ -58,8 +58,10 @@ const QList<Motion>& Effects()
          "characters come in turn from the top of the right edge on slanted paths, widening from "
          "nothing"},
         {19, "EffectTopWithFrogAppearsVerbatim", frogs,
-         "a frog at the top lets the text appear character by character"},
-        {20, "EffectTopWithFrog", frogs, "a frog at the top brings the text"},
+         "a frog hops along the top edge, and under it each character appears from its top "
+         "downward"},
+        {20, "EffectTopWithFrog", frogs,
+         "a frog hops along the top edge, and each character falls from there in five steps"},
         {21, "EffectRightToEnlarge", stretch,
          "every character widens to the right from nothing to its full width"},
         {22, "EffectDiagonalMoves", stretch,

@@ -9,6 +9,8 @@ namespace AnimText {
 
 namespace {
 
+constexpr int deepest = 1024; // levels; Qt's reader follows no further
+
 /** An object or array that is open where the scan stands. */
 struct Level
 {
@@ -60,6 +62,8 @@ QString DuplicateKey(const QByteArray& json)
             level.isObject = json.at(i) == '{';
             keyComes = level.isObject;
             levels.append(level);
+            if (levels.size() > deepest)
+                return QString();
             break;
         }
         case '}':

@@ -1,0 +1,18 @@
+/**
+ * @file
+ * The times of every entrance effect on one text, side by side.
+ */
+#ifndef ANIMTEXT_DURATIONTABLE_H
+#define ANIMTEXT_DURATIONTABLE_H
+
+#include "opening.h"
+
+namespace AnimText {
+
+/** Prints the table for the first node of @p scene. @return the exit status */
+int TellDurationTable(const Playing& playing, const Scene& scene, const QString& scenePath,
+                      bool json);
+
+} // namespace AnimText
+
+#endif
