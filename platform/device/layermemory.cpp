@@ -11,7 +11,6 @@ namespace {
 
 // Address space that freed layers may keep occupied; enough for the last few seconds of restarts.
 const qint64 QuarantineBytes = qint64(64) << 20;
-const size_t QuarantineRegions = 1024;
 
 struct Region
 {
@@ -39,7 +38,7 @@ public:
         }
         regions.push_back(region);
         bytes += region.bytes;
-        while (bytes > QuarantineBytes || regions.size() > QuarantineRegions) {
+        while (bytes > QuarantineBytes) {
             const Region oldest = regions.front();
             regions.pop_front();
             bytes -= oldest.bytes;

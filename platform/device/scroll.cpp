@@ -9,12 +9,11 @@ qint64 ScrollPosition(const Effect& effect, int areaWidth, int pictureWidth, qin
 
     const qint64 width = qMax(0, areaWidth);
     const qint64 period = width + pictureWidth;
-    const qint64 time = qMax(qint64(0), milliseconds);
     qint64 moved = 0;
     if (effect.duration1 > 0 && period > 0) {
-        // time * width / duration, taken apart so that no product leaves 64 bits.
-        const qint64 passes = time / effect.duration1 % period;
-        const qint64 rest = time % effect.duration1 * width / effect.duration1;
+        // milliseconds * width / duration, taken apart so that no product leaves 64 bits.
+        const qint64 passes = milliseconds / effect.duration1 % period;
+        const qint64 rest = milliseconds % effect.duration1 * width / effect.duration1;
         moved = (passes * width + rest) % period;
     }
     return effect.effect1 == ScrollLeft ? width - moved : moved - pictureWidth;

@@ -16,7 +16,7 @@ enum ScrollCode { ScrollLeft = 26, ScrollRight = 27 };
 /**
  * The x of the picture's left edge in its area: a picture that scrolls comes in at one edge, leaves
  * at the other and comes in again, once every areaWidth + pictureWidth pixels.
- * @param milliseconds since the session was shown
+ * @param milliseconds since the session was shown; below 0 the picture is out of sight
  * @return 0 when the effect does not scroll
  */
 qint64 ScrollPosition(const Effect& effect, int areaWidth, int pictureWidth, qint64 milliseconds);

@@ -240,7 +240,7 @@ private slots:
         for (int i = 0; i < 500; ++i) {
             const int width = int(upTo(200));
             const int length = int(upTo(200));
-            const int duration = int(upTo(i % 2 ? INT_MAX : 5000));
+            const int duration = int(upTo(i % 2 ? INT_MAX : 20));
             const qint64 time = upTo(qint64(1) << (i % 63));
             const int moved = int(__int128(time) * width / duration % (width + length));
             const int left = width - moved;

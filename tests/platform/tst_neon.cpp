@@ -64,7 +64,7 @@ class TestGif
 public:
     struct Picture
     {
-        int colour; ///< 0 black, 1 red, 2 green, 3 blue
+        int colour; ///< 0 transparent, 1 red, 2 green, 3 blue
         int delay;  ///< hundredths of a second
     };
 
@@ -73,7 +73,7 @@ public:
         QByteArray data = "GIF89a" + Word(width) + Word(height) + Bytes("810000");
         data += Bytes("000000ff000000ff000000ff");
         for (const Picture& picture : pictures) {
-            data += Bytes("21f90400") + Word(picture.delay) + Bytes("0000");
+            data += Bytes("21f90409") + Word(picture.delay) + Bytes("0000");
             data += Bytes("2c00000000") + Word(width) + Word(height) + Bytes("00");
             // One pixel: clear, the colour, end; three bits each.
             data += Bytes("0202") + Word(0x144 + 8 * picture.colour) + Bytes("00");
@@ -184,6 +184,15 @@ private slots:
         QVERIFY2(brightest > 200, qPrintable(QString::number(brightest)));
     }
 
+    void cornersAreRound()
+    {
+        const QImage glow = Stage(6, QSize(120, 60)).Ticks(17).last(); // one colour all round
+        QCOMPARE(glow.pixel(0, 0), 0u);
+        QVERIFY(qAlpha(glow.pixel(6, 6)) > 200); // further in than the band along the edges
+        QCOMPARE(glow.mirrored(true, false), glow);
+        QCOMPARE(glow.mirrored(false, true), glow);
+    }
+
     void motionCountsTicksOnly()
     {
         Stage steady(4);
@@ -291,8 +300,14 @@ private slots:
     {
         const TestGif gif({{1, 3}, {2, 3}, {3, 3}}); // 30 ms each: 0, 66, 132, 198 ms ...
         QCOMPARE(MiddleColours(Stage(30, QSize(8, 8), gif.Path()).Ticks(5)), QString("rbgrb"));
-        const TestGif hasty({{1, 0}, {2, 0}}); // no delay is 100 ms
+        const TestGif hasty({{1, 1}, {2, 0}}); // next to no delay is 100 ms
         QCOMPARE(MiddleColours(Stage(30, QSize(8, 8), hasty.Path()).Ticks(5)), QString("rrggr"));
+    }
+
+    void transparentPictureHidesTheOneBefore()
+    {
+        const TestGif gif({{1, 10}, {0, 10}});
+        QCOMPARE(MiddleColours(Stage(29, QSize(8, 8), gif.Path()).Ticks(5)), QString("rr--r"));
     }
 
     void stillPictureStays()
