@@ -12,7 +12,7 @@ namespace AnimText {
 
 /**
  * The JSON path of the first key that its object already has; empty when there is none.
- * @param json text that Qt's reader has accepted
+ * @param json any bytes; what is no JSON has the keys that it seems to have
  */
 QString DuplicateKey(const QByteArray& json);
 

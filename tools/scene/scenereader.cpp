@@ -270,6 +270,16 @@ Scene Reader::Read(const QJsonValue& root) const
     return scene;
 }
 
+/** Keys may hold anything, line breaks too. */
+QString OnOneLine(QString text)
+{
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control)
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
 QByteArray ReadBytes(const QString& path)
 {
     const QFileInfo info(path);
@@ -322,7 +332,7 @@ bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles m
         *scene = Reader(path, missing).Read(Parse(ReadBytes(path)));
         return true;
     } catch (const Fault& fault) {
-        *error = path + fault.text;
+        *error = path + OnOneLine(fault.text);
         return false;
     }
 }
