@@ -11,6 +11,7 @@ namespace {
 const QColor paper(22, 24, 29);
 const QColor screen(0, 0, 0);
 const QColor edge(52, 56, 66);
+const QColor numberInk(255, 176, 32);
 const QColor titleInk(240, 241, 244);
 const QColor remarkInk(150, 156, 168);
 
@@ -54,18 +55,20 @@ QSize ContactSheet::FrameSize() const
 void ContactSheet::DrawRow(QPainter* painter, const SheetRow& row, QPoint corner, QSize frame) const
 {
     const int width = row.frames.size() * (frame.width() + gap) - gap;
-    const QRect title(corner, QSize(width, titleHeight));
-    painter->setFont(Font(15, true));
-    painter->setPen(titleInk);
-    QRect used;
-    painter->drawText(title, Qt::AlignLeft | Qt::AlignVCenter, row.title, &used);
-
-    painter->setFont(Font(12, false));
-    painter->setPen(remarkInk);
-    const QRect remark = title.adjusted(used.width() + 14, 1, 0, 1);
-    painter->drawText(
-        remark, Qt::AlignLeft | Qt::AlignVCenter,
-        painter->fontMetrics().elidedText(row.remark, Qt::ElideRight, remark.width()));
+    QRect line(corner, QSize(width, titleHeight));
+    const auto write = [&](const QString& text, const QFont& font, const QColor& ink, int space) {
+        painter->setFont(font);
+        painter->setPen(ink);
+        const QFontMetrics metrics = painter->fontMetrics();
+        // Letters of all sizes stand on the same line.
+        painter->drawText(line.left(), line.bottom() - 7,
+                          metrics.elidedText(text, Qt::ElideRight, line.width()));
+        if (!text.isEmpty())
+            line.setLeft(line.left() + metrics.horizontalAdvance(text) + space);
+    };
+    write(row.number, Font(15, true), numberInk, 8);
+    write(row.title, Font(15, true), titleInk, 14);
+    write(row.remark, Font(12, false), remarkInk, 0);
 
     QPoint at = corner + QPoint(0, titleHeight);
     for (const SheetFrame& shot : row.frames) {

@@ -21,6 +21,7 @@ struct SheetFrame
 
 struct SheetRow
 {
+    QString number; ///< before the title; may be empty
     QString title;
     QString remark; ///< a line on what is seen; may be empty
     QVector<SheetFrame> frames;

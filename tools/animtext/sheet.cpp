@@ -27,12 +27,15 @@ const Motion* MotionOf(const Scene& scene)
     return mode == 1 && style >= 0 && style < Scrolls().size() ? &Scrolls().at(style) : nullptr;
 }
 
-/** @p count frames of @p frames, evenly spaced; the last is the film's last. */
-QVector<int> Spread(int frames, int count)
+/**
+ * @p count frames of @p frames, evenly spaced. A film that comes to an end shows it; the last frame
+ * of a scroll, like its first, is empty.
+ */
+QVector<int> Spread(int frames, int count, bool toTheEnd)
 {
     QVector<int> picked;
     for (int i = 1; i <= count; ++i)
-        picked.append(int(qint64(frames - 1) * i / count));
+        picked.append(int(qint64(frames - 1) * i / (toTheEnd ? count : count + 1)));
     return picked;
 }
 
@@ -52,13 +55,18 @@ Status AddRow(const Playing& playing, const Scene& scene, const QString& path, i
 
     SheetRow row;
     const Motion* motion = MotionOf(scene);
-    row.title = motion ? QString::fromLatin1(motion->name) : QFileInfo(path).completeBaseName();
-    row.remark = motion ? QString::fromLatin1(motion->summary) : QString();
+    const bool scrolls = motion && motion->family == Scrolls().first().family;
+    row.title = QFileInfo(path).completeBaseName();
+    if (motion) {
+        row.number = scrolls ? QString() : QString::number(motion->number);
+        row.title = QString::fromLatin1(motion->name);
+        row.remark = QString::fromLatin1(motion->summary);
+    }
     const auto take = [&](int frame, const QImage& picture) {
         row.frames.append({picture, qint64(frame) * tickLength});
         return !Interrupted();
     };
-    if (!film.Play(Spread(film.FrameCount(), columns), take, &error))
+    if (!film.Play(Spread(film.FrameCount(), columns, !scrolls), take, &error))
         return Status(Fail(FailedRun, Interrupted() ? QStringLiteral("interrupted") : error));
     sheet->Add(row);
     return Done;
