@@ -24,10 +24,17 @@ public:
     explicit DrawNeonBg(QObject* parent = 0);
     ~DrawNeonBg() override;
 
-    /** Takes area size, style and pictures from @p node, which must outlive the animation. */
+    /**
+     * Takes area size, style and pictures from @p node and begins with the first picture. An area
+     * that is empty or larger than 256 MiB has no image. Once the node is deleted nothing is
+     * painted.
+     */
     virtual void InitNode(HNode* node);
 
-    /** @param interval milliseconds from one picture to the next */
+    /**
+     * Goes on from the picture at which it stopped; does nothing without a node.
+     * @param interval milliseconds from one picture to the next
+     */
     void StartTimerDraw(int interval);
     void StopTimerDraw();
 

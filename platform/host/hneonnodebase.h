@@ -16,7 +16,8 @@ public:
     explicit HNeonNodeBase(QObject* parent = 0);
     ~HNeonNodeBase() override;
 
-    /** The neon style: up to 28 a border that is drawn, above 28 the pictures of "NeonGifPath". */
+    /** The neon style: 1 .. 28 a border that is drawn (0 the first one), above 28 the pictures of
+     * "NeonGifPath". */
     int GetNeonEffect() const;
     void SetNeonEffect(int effect);
 

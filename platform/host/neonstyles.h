@@ -5,32 +5,11 @@
 #ifndef LW_NEONSTYLES_H
 #define LW_NEONSTYLES_H
 
+#include "neonpatterns.h"
+
 #include <QtGlobal>
 
 namespace Lw {
-
-/** A border is a closed loop of light. */
-struct NeonLoop
-{
-    double length;     ///< pixels round the middle of the band
-    double thickness;  ///< pixels, of the band
-    double corners[4]; ///< where the corners are, pixels along the loop
-};
-
-/** A place in the band. */
-struct NeonSpot
-{
-    double along;  ///< pixels clockwise from the left end of the top edge
-    double across; ///< -1 at the outer edge, 0 in the middle, 1 at the inner edge
-};
-
-/** Light that adds up: 1 is full, more than that glows towards white. */
-struct NeonLight
-{
-    double red;
-    double green;
-    double blue;
-};
 
 const int NeonStyleCount = 28;
 
