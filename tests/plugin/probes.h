@@ -48,6 +48,9 @@ public:
     PROBE(engine, stepSize)
     PROBE(engine, dazzleTimer)
     PROBE(engine, neonBg)
+    PROBE(engine, pictureSession)
+    PROBE(engine, sessionLayer)
+    PROBE(engine, dazzleLayer)
 
 private:
     animationRealization& engine;
