@@ -116,7 +116,9 @@ int HAnimationTextRender::renderState()
 
 void HAnimationTextRender::UpdateDraw()
 {
-    if (paused || !node || node->Text().isEmpty())
+    // Without a start there is no display to show anything on, though Pause() may have set the
+    // timer going.
+    if (paused || displayHandle == 0 || !node || node->Text().isEmpty())
         return;
     if (firstTick) {
         firstTick = false;
