@@ -1,0 +1,73 @@
+#include "samples.h"
+
+#include "author.h"
+#include "catalogue.h"
+
+#include <QFile>
+
+using namespace AnimText;
+
+namespace {
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s cannot be written", qPrintable(path));
+}
+
+} // namespace
+
+QByteArray RowName(int motion, int background)
+{
+    const Motion& told =
+        motion < firstScroll ? Effects().at(motion) : Scrolls().at(motion - firstScroll);
+    QByteArray name = QByteArray::number(told.number) + ' ' + told.name;
+    if (background & WithNeon)
+        name += ", neon";
+    if (background & WithDazzle)
+        name += ", dazzle";
+    return name;
+}
+
+void SetMotion(SceneNode* node, int motion, int speed)
+{
+    const bool scrolls = motion >= firstScroll;
+    node->attributes[QStringLiteral("EffectType")] = scrolls ? 1 : 0;
+    node->attributes[QStringLiteral("AnimationEffect")] = scrolls ? 0 : motion;
+    node->attributes[QStringLiteral("ContinueStyle")] = scrolls ? motion - firstScroll : 0;
+    node->attributes[QStringLiteral("AnimationSpeed")] = speed;
+    node->attributes[QStringLiteral("ContinueSpeed")] = speed;
+}
+
+void SetBackground(SceneNode* node, int background)
+{
+    node->attributes[QStringLiteral("CheckNeonBg")] = background & WithNeon ? 1 : 0;
+    node->attributes[QStringLiteral("CheckDazzle")] = background & WithDazzle ? 1 : 0;
+}
+
+Sample::Sample(const QString& text, QSize area)
+{
+    AuthorOptions options;
+    options.text = text;
+    options.font = QFont(QStringLiteral("DejaVu Sans"));
+    options.area = area;
+    options.hold = 2;
+    AuthoredNode authored;
+    QString error;
+    if (!AuthorNode(options, &authored, &error))
+        qFatal("%s", qPrintable(error));
+    base = authored.node;
+    base.files[QStringLiteral("PathData")] = File(QStringLiteral("sample.path"));
+    base.files[QStringLiteral("DescentVector")] = File(QStringLiteral("sample.descent"));
+    WriteFile(File(QStringLiteral("sample.path")), authored.pathFile);
+    WriteFile(File(QStringLiteral("sample.descent")), authored.descentFile);
+}
+
+SceneNode Sample::Node(int motion, int background, int speed) const
+{
+    SceneNode node = base;
+    SetMotion(&node, motion, speed);
+    SetBackground(&node, background);
+    return node;
+}

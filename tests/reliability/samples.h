@@ -1,0 +1,44 @@
+/**
+ * @file
+ * Real texts to play: laid out by the author library, in every motion and before every background.
+ */
+#ifndef TESTS_SAMPLES_H
+#define TESTS_SAMPLES_H
+
+#include "scene.h"
+
+#include <QSize>
+#include <QString>
+#include <QTemporaryDir>
+
+/** Entrance effects 0 .. 29 and, after them, the scrolls left, right, up and down. */
+constexpr int motionCount = 34;
+constexpr int firstScroll = 30;
+constexpr int trembleEffect = 8; // the one motion with random numbers
+
+/** Bits. */
+enum Background { NoBackground = 0, WithNeon = 1, WithDazzle = 2, BackgroundCount = 4 };
+
+/** For the rows of a test, e.g. "11 RotationEffect, neon". */
+QByteArray RowName(int motion, int background);
+
+/** Sets the attributes that choose the motion, and its speed. */
+void SetMotion(AnimText::SceneNode* node, int motion, int speed);
+void SetBackground(AnimText::SceneNode* node, int background);
+
+/** A text with its data files, which last as long as the sample. */
+class Sample
+{
+public:
+    /** @param area in pixels; the letters are as high as fits */
+    Sample(const QString& text, QSize area);
+
+    AnimText::SceneNode Node(int motion, int background, int speed) const;
+    QString File(const QString& name) const { return folder.filePath(name); }
+
+private:
+    QTemporaryDir folder;
+    AnimText::SceneNode base;
+};
+
+#endif

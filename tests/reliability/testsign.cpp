@@ -1,0 +1,118 @@
+#include "testsign.h"
+
+#include "nodetree.h"
+#include "player.h"
+#include "plugin.h"
+
+#include <cstdio>
+
+namespace {
+
+QStringList complaints;
+
+void TakeMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    if (type == QtFatalMsg || type == QtCriticalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    static const QStringList readers{QStringLiteral("libpng"), QStringLiteral("QGif"),
+                                     QStringLiteral("QImageReader"),
+                                     QStringLiteral("qt.gui.image")};
+    if (type != QtWarningMsg)
+        return;
+    for (const QString& reader : readers) {
+        if (text.startsWith(reader))
+            return;
+    }
+    complaints.append(text);
+}
+
+} // namespace
+
+void CountingDispatcher::registerTimer(int id, int interval, Qt::TimerType type, QObject* object)
+{
+    ++liveTimers;
+    VirtualDispatcher::registerTimer(id, interval, type, object);
+}
+
+bool CountingDispatcher::unregisterTimer(int id)
+{
+    const bool found = VirtualDispatcher::unregisterTimer(id);
+    liveTimers -= found ? 1 : 0;
+    return found;
+}
+
+bool CountingDispatcher::unregisterTimers(QObject* object)
+{
+    liveTimers -= registeredTimers(object).size();
+    return VirtualDispatcher::unregisterTimers(object);
+}
+
+CountingDispatcher* TestSign::Dispatcher()
+{
+    return static_cast<CountingDispatcher*>(QAbstractEventDispatcher::instance());
+}
+
+Lw::INodePlugin* TestSign::Plugin()
+{
+    static Lw::INodePlugin* const plugin = [] {
+        QString error;
+        Lw::INodePlugin* const loaded = AnimText::LoadPlugin(AnimText::PluginPath(), &error);
+        if (!loaded)
+            qFatal("%s", qPrintable(error));
+        return loaded;
+    }();
+    return plugin;
+}
+
+void TestSign::Tick(int count)
+{
+    Dispatcher()->AdvanceTo(Dispatcher()->Now() + qint64(count) * AnimText::tickLength);
+}
+
+std::unique_ptr<Lw::HNeonNodeBase> TestSign::NewNode(const AnimText::SceneNode& from)
+{
+    AnimText::Scene scene;
+    scene.pages = {{{{{from}}}}};
+    AnimText::NodeTree tree;
+    QString error;
+    if (!AnimText::BuildNodeTree(scene, QString(), Plugin(), &tree, &error))
+        qFatal("%s", qPrintable(error));
+    Lw::HNeonNodeBase* const node = tree.nodes.first();
+    node->setParent(nullptr);
+    return std::unique_ptr<Lw::HNeonNodeBase>(node);
+}
+
+std::unique_ptr<Lw::IContentRender> TestSign::NewRender(Lw::HNode* node)
+{
+    return std::unique_ptr<Lw::IContentRender>(Plugin()->CreateAreaRender(node));
+}
+
+void TestSign::KeepComplaints()
+{
+    qInstallMessageHandler(TakeMessage);
+}
+
+QStringList TestSign::TakeComplaints()
+{
+    QStringList taken;
+    taken.swap(complaints);
+    return taken;
+}
+
+uint Shown(const Torv::Display& display)
+{
+    const QImage picture = display.Compose(TestSign::Dispatcher()->Now());
+    return qHashBits(picture.constBits(), size_t(picture.sizeInBytes()));
+}
+
+bool IsSanitized()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+    return true;
+#endif
+#endif
+    return false;
+}
