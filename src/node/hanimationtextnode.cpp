@@ -20,6 +20,19 @@ QString OutputDirectory()
            QString::fromLatin1("/outputpath/AnimationText/");
 }
 
+/** Opens the data file under @p key for reading; false when there is none to read. */
+bool OpenDataFile(const HData& node, const char* key, QFile& file)
+{
+    file.setFileName(node.GetFirstFile(QString::fromLatin1(key)));
+    if (!file.exists()) {
+        // Qt 4's debug stream ends every message with a space, Qt 5's with none.
+        qDebug().nospace() << ">>" << key << " File is not exist!!<<" << ' ';
+        return false;
+    }
+    // Opening a pipe would wait for a writer that may never come.
+    return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly);
+}
+
 } // namespace
 
 HAnimationTextNode::HAnimationTextNode()
@@ -62,27 +75,15 @@ void HAnimationTextNode::InitPainterPath()
     painterPaths = QVector<QPainterPath>();
     descentData = QVector<int>();
 
-    QFile pathFile(GetFirstFile(QString::fromLatin1("PathData")));
-    if (!pathFile.exists()) {
-        // Qt 4's debug stream ends every message with a space, Qt 5's with none.
-        qDebug().nospace() << ">>PathData File is not exist!!<<" << ' ';
-        return;
-    }
-    // Opening a pipe would wait for a writer that may never come.
-    if (!QFileInfo(pathFile).isFile() || !pathFile.open(QIODevice::ReadOnly))
+    QFile pathFile;
+    if (!OpenDataFile(*this, "PathData", pathFile))
         return;
     painterPaths = OutlinesFrom(ReadGlyphData(pathFile));
-    pathFile.close();
 
-    QFile descentFile(GetFirstFile(QString::fromLatin1("DescentVector")));
-    if (!descentFile.exists()) {
-        qDebug().nospace() << ">>DescentVector File is not exist!!<<" << ' ';
-        return;
-    }
-    if (!QFileInfo(descentFile).isFile() || !descentFile.open(QIODevice::ReadOnly))
+    QFile descentFile;
+    if (!OpenDataFile(*this, "DescentVector", descentFile))
         return;
     descentData = DescentsFrom(ReadGlyphData(descentFile));
-    descentFile.close();
 }
 
 QVector<int>& HAnimationTextNode::GetDescentData()
