@@ -78,9 +78,14 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setEventDispatcher(new VirtualDispatcher);
-    QGuiApplication application(argc, argv);
+    // The words are ours alone: Qt would take some of them, --plugin for one, for itself.
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    int ownName = 1;
+    QGuiApplication application(ownName, argv);
     QCoreApplication::setApplicationName(QStringLiteral("animtext"));
-    const int status = Run(QCoreApplication::arguments().mid(1));
+    const int status = Run(words);
     if (std::fflush(stdout) != 0 && status == Done)
         return Fail(FailedRun, QStringLiteral("the output cannot be written"));
     return status;

@@ -114,12 +114,13 @@ bool VirtualDispatcher::FireNext(qint64 limit)
 
 void VirtualDispatcher::AdvanceTo(qint64 time)
 {
+    const qint64 limit = std::max(time, now);
     do {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         ActivateSockets(0);
-    } while (FireNext(time));
-    now = std::max(now, time);
+    } while (FireNext(limit));
+    now = std::max(now, limit);
 }
 
 bool VirtualDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags)
