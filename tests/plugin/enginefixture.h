@@ -69,17 +69,6 @@ public:
     bool withReflection = false;
 };
 
-/** The pixels that are not transparent; null when there are none. */
-inline QRect PaintedBox(const QImage& image)
-{
-    QRect box;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (qAlpha(image.pixel(x, y)) != 0)
-                box |= QRect(x, y, 1, 1);
-    return box;
-}
-
 /** For each rectangle in @p path its first corner and the one opposite, "x,y x,y; x,y x,y". */
 inline QString Corners(const QPainterPath& path)
 {

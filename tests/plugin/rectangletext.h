@@ -10,6 +10,7 @@
 
 #include <QDataStream>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -110,6 +111,17 @@ public:
     std::unique_ptr<QTemporaryDir> directory{new QTemporaryDir};
     std::unique_ptr<HAnimationTextNode> node;
 };
+
+/** The pixels that are neither transparent nor black; null when there are none. */
+inline QRect PaintedBox(const QImage& image)
+{
+    QRect box;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != 0 && image.pixel(x, y) != qRgb(0, 0, 0))
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
 
 /** The messages of a scope, in order. */
 class Messages

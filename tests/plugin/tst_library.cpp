@@ -212,4 +212,4 @@ void LibraryTest::pastesArrivePlain()
 }
 
 QTEST_MAIN(LibraryTest)
-#include "library_test.moc"
+#include "tst_library.moc"

@@ -415,4 +415,4 @@ void EffectsTest::emptyAreasPaintNothing()
 }
 
 QTEST_GUILESS_MAIN(EffectsTest)
-#include "effects_test.moc"
+#include "tst_effects.moc"

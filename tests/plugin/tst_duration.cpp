@@ -153,4 +153,4 @@ void DurationTest::openRowsAreWhatIsRun()
 }
 
 QTEST_MAIN(DurationTest)
-#include "duration_test.moc"
+#include "tst_duration.moc"

@@ -329,4 +329,4 @@ void EngineTest::theNodeMayGo()
 }
 
 QTEST_MAIN(EngineTest)
-#include "engine_test.moc"
+#include "tst_engine.moc"

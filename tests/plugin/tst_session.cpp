@@ -17,8 +17,6 @@ private slots:
     void picturesAreSwappedIn_data();
     void picturesAreSwappedIn();
     void stillSessionsForOthers();
-    void failingCallsDoNoHarm_data();
-    void failingCallsDoNoHarm();
 };
 
 void SessionTest::firstTicks_data()
@@ -331,35 +329,5 @@ void SessionTest::stillSessionsForOthers()
     QVERIFY(!play.Probe().Engine().pictureSession());
 }
 
-void SessionTest::failingCallsDoNoHarm_data()
-{
-    QTest::addColumn<int>("operation");
-    QTest::addColumn<int>("mode");
-    for (int operation = 0; operation < Torv::OperationCount; ++operation)
-        for (int mode : {0, 1})
-            QTest::addRow("%s, mode %d", Torv::OperationName(Torv::Operation(operation)), mode)
-                << operation << mode;
-}
-
-void SessionTest::failingCallsDoNoHarm()
-{
-    QFETCH(int, operation);
-    QFETCH(int, mode);
-    const Torv::Operation failing = Torv::Operation(operation);
-    for (int nth = 0; nth <= 4; ++nth) { // 0: every one
-        RenderFixture play;
-        Torv::FailAllCalls(failing, nth == 0);
-        Torv::FailCall(failing, nth);
-        play.Start({{"EffectType", mode}, {"CheckNeonBg", 1}, {"CheckDazzle", 1}});
-        PassTicks(10);
-        const bool counts = mode == 1 || play.Probe().Engine().frameCount() == 11;
-        QVERIFY(counts); // the motion goes on, seen or not
-        play.render->Start(play.display.Handle());
-        PassTicks(3);
-        play.render.reset();
-        QCOMPARE(Torv::Accounts().liveSessions, 0);
-    }
-}
-
 TEST_MAIN_ON_VIRTUAL_TIME(SessionTest)
-#include "session_test.moc"
+#include "tst_session.moc"

@@ -259,4 +259,4 @@ void ScrollingTest::linesBeyondMemoryAreLeftOut()
 }
 
 QTEST_MAIN(ScrollingTest)
-#include "scrolling_test.moc"
+#include "tst_scrolling.moc"

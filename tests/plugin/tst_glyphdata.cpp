@@ -281,4 +281,4 @@ void GlyphDataTest::everyReadIsFresh()
 }
 
 QTEST_MAIN(GlyphDataTest)
-#include "glyphdata_test.moc"
+#include "tst_glyphdata.moc"

@@ -294,4 +294,4 @@ void MetricsTest::theNodeIsItsTypes()
 }
 
 QTEST_MAIN(MetricsTest)
-#include "metrics_test.moc"
+#include "tst_metrics.moc"

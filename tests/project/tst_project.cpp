@@ -1,0 +1,208 @@
+// Rules of the project that no compiler knows: who includes whom, what Qt 4.8 does not have, and
+// the build that integrators use.
+#include <QDirIterator>
+#include <QtTest>
+
+namespace {
+
+const QString root = PROJECT_ROOT;
+
+struct Source
+{
+    QString path; // from the project's root
+    QString text;
+};
+
+QVector<Source> Sources(const QStringList& folders)
+{
+    QVector<Source> sources;
+    for (const QString& folder : folders) {
+        QDirIterator files(root + "/" + folder, {"*.h", "*.cpp"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            if (!file.open(QIODevice::ReadOnly))
+                qFatal("cannot read %s", qPrintable(file.fileName()));
+            sources.append({QDir(root).relativeFilePath(file.fileName()), file.readAll()});
+        }
+    }
+    return sources;
+}
+
+QString Place(const Source& source, int offset)
+{
+    return source.path + ":" + QString::number(source.text.left(offset).count('\n') + 1);
+}
+
+// Comments and texts left out, lines kept.
+QString CodeOf(const QString& text)
+{
+    static const QRegularExpression noCode("//[^\\n]*|/\\*.*?\\*/|\"(?:[^\"\\\\\\n]|\\\\.)*\"",
+                                           QRegularExpression::DotMatchesEverythingOption);
+    QString code;
+    int end = 0;
+    for (auto it = noCode.globalMatch(text); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        code += text.mid(end, match.capturedStart() - end) +
+                QString(match.captured().count('\n'), '\n');
+        end = match.capturedEnd();
+    }
+    return code + text.mid(end);
+}
+
+// The file of this project that an include names; empty when it is none.
+QString Included(const QString& from, const QString& name)
+{
+    QStringList folders = {QFileInfo(from).path(), "src", "platform/host", "platform/device"};
+    for (const QString& tool : QDir(root + "/tools").entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        folders.append("tools/" + tool);
+    for (const QString& folder : folders) {
+        const QString path = QDir::cleanPath(root + "/" + folder + "/" + name);
+        if (QFile::exists(path))
+            return QDir(root).relativeFilePath(path);
+    }
+    return QString();
+}
+
+} // namespace
+
+class ProjectTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void includesFollowTheRule_data();
+    void includesFollowTheRule();
+    void nothingIsNewerThanQt4_data();
+    void nothingIsNewerThanQt4();
+    void everySourceIsListed();
+    void qmakeBuildsThePlugin();
+};
+
+void ProjectTest::includesFollowTheRule_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("own");   // files of the project that may be included
+    QTest::addColumn<QString>("other"); // anything else that may be
+    const QString any = ".*";
+    // The standard's headers and Qt's: no others are at hand where the plugin is built.
+    const QString standardAndQt =
+        "[a-z_]+|c?[a-z]+(\\.h)?|Q[A-Za-z0-9]+|Qt[A-Z][A-Za-z]+/[A-Za-z]+";
+    QTest::newRow("src") << "src"
+                         << "src/.*|platform/host/.*|platform/device/torvsdk\\.h" << standardAndQt;
+    QTest::newRow("platform") << "platform"
+                              << "platform/.*" << any;
+    QTest::newRow("platform/device") << "platform/device"
+                                     << "platform/device/.*" << any;
+    QTest::newRow("tools") << "tools"
+                           << "(tools|platform)/.*|src/edit/animationtextedit\\.h" << any;
+}
+
+void ProjectTest::includesFollowTheRule()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, own);
+    QFETCH(QString, other);
+    const QRegularExpression include("^[ \\t]*#[ \\t]*include[ \\t]*[\"<]([^\">]+)[\">]",
+                                     QRegularExpression::MultilineOption);
+    const QVector<Source> sources = Sources({folder});
+    int seen = 0;
+    QStringList wrong;
+    for (const Source& source : sources) {
+        for (auto it = include.globalMatch(source.text); it.hasNext(); ++seen) {
+            const QRegularExpressionMatch match = it.next();
+            const QString name = match.captured(1);
+            const QString file = Included(source.path, name);
+            const QString allowed =
+                QRegularExpression::anchoredPattern(file.isEmpty() ? other : own);
+            if (!QRegularExpression(allowed).match(file.isEmpty() ? name : file).hasMatch())
+                wrong.append(Place(source, match.capturedStart()) + " includes " + name);
+        }
+    }
+    QVERIFY(seen > sources.size());
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+}
+
+void ProjectTest::nothingIsNewerThanQt4_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::newRow("literals") << "\\bQ(String|ByteArray)Literal\\b";
+    QTest::newRow("macros") << "\\bQ_(DECL_OVERRIDE|DECL_FINAL|NULLPTR|FALLTHROUGH|GADGET|"
+                               "NAMESPACE|ENUM|ENUM_NS|REVISION|UNLIKELY_BRANCH)\\b";
+    QTest::newRow("overloads") << "\\bq(Overload|ConstOverload|AsConst|InfoOnly|Info|Exchange)\\b";
+    QTest::newRow("classes") << "\\bQ(SignalBlocker|CommandLineParser|JsonDocument|JsonObject|"
+                                "JsonArray|JsonValue|MimeDatabase|RegularExpression|StandardPaths|"
+                                "LoggingCategory|Collator|TimeZone|SaveFile|TemporaryDir|LockFile|"
+                                "StringView|RandomGenerator|OperatingSystemVersion|Window|Screen|"
+                                "Guiapplication|GuiApplication|FontDatabaseV|UrlQuery|Version"
+                                "Number|DeadlineTimer|ScopeGuard|ScopedValueRollback)\\b";
+    QTest::newRow("connections to functions") << "connect\\s*\\([^;]*&\\s*[A-Za-z_]+\\s*::";
+    QTest::newRow("connections to lambdas") << "connect\\s*\\([^;{]*,\\s*\\[[^;]*\\]\\s*[({]";
+    QTest::newRow("headers of Qt 5's modules")
+        << "#include\\s*<QtWidgets|#include\\s*<QtConcurrent/";
+    QTest::newRow("message handler") << "\\bqInstallMessageHandler\\b|\\bQMessageLogContext\\b";
+    QTest::newRow("loops and maps") << "\\bQt::SkipEmptyParts\\b|\\.(keyValueBegin|constKeyValue"
+                                       "Begin)\\(|\\.(takeFirstOr|chopped|toStdVector|isSharedWith"
+                                       "V)\\(";
+}
+
+void ProjectTest::nothingIsNewerThanQt4()
+{
+    QFETCH(QString, pattern);
+    const QRegularExpression word(pattern, QRegularExpression::DotMatchesEverythingOption);
+    QVERIFY(word.isValid());
+    QStringList wrong;
+    for (Source source : Sources({"src", "platform"})) {
+        source.text = CodeOf(source.text);
+        for (auto it = word.globalMatch(source.text); it.hasNext();) {
+            const QRegularExpressionMatch match = it.next();
+            wrong.append(Place(source, match.capturedStart()) + ": " + match.captured());
+        }
+    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+}
+
+void ProjectTest::everySourceIsListed()
+{
+    QFile file(root + "/src/sources.pri");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString(file.readAll()).split('\n');
+    QStringList listed, present;
+    for (const QString& line : lines)
+        if (line.contains("$$PWD/"))
+            listed.append("src/" + line.section("$$PWD/", 1).section(' ', 0, 0));
+    for (const Source& source : Sources({"src"}))
+        present.append(source.path);
+    listed.sort();
+    present.sort();
+    QCOMPARE(listed, present);
+}
+
+// The plugin alone, as an embedded toolchain builds it.
+void ProjectTest::qmakeBuildsThePlugin()
+{
+    QTemporaryDir folder;
+    const auto run = [&folder](const QString& program, const QStringList& arguments) {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(program, arguments);
+        if (!process.waitForStarted())
+            return qMakePair(-1, program + " cannot be started");
+        process.waitForFinished(-1);
+        return qMakePair(process.exitCode(), QString(process.readAll()));
+    };
+    auto answer = run(QMAKE_PROGRAM, {root + "/src/animationtext.pro"});
+    QVERIFY2(answer.first == 0, qPrintable(answer.second));
+    answer = run("make", {"-j2"});
+    QVERIFY2(answer.first == 0, qPrintable(answer.second));
+    QVERIFY2(!answer.second.contains("warning:"), qPrintable(answer.second));
+
+    answer = run("nm", {"-D", "--defined-only", "libanimationtext.so"});
+    QVERIFY2(answer.first == 0, qPrintable(answer.second));
+    for (const char* entry : {"qt_plugin_instance", "qt_plugin_query_verification_data"})
+        QVERIFY2(answer.second.contains(entry), qPrintable(answer.second));
+}
+
+QTEST_GUILESS_MAIN(ProjectTest)
+#include "tst_project.moc"
