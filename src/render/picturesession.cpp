@@ -101,9 +101,9 @@ int HAnimationTextRender::ScheduledDuration()
     if (!aloneInArea)
         return own;
     // As long as the longest of what shares the page.
-    int longest = 0;
     const QList<HNode*> areas = page ? page->ChildNodes() : QList<HNode*>();
-    for (int i = 0; i < areas.size(); ++i)
+    int longest = areas.isEmpty() ? 0 : areas.first()->Duration();
+    for (int i = 1; i < areas.size(); ++i)
         longest = qMax(longest, areas.at(i)->Duration());
     return qMax(own, longest);
 }
@@ -240,11 +240,11 @@ void HAnimationTextRender::SwapImageData(char** buffer, QImage& image, int layer
         *buffer = GetPicImageLayerPtr(displayHandle, session, layer, writeMode);
     if (!*buffer)
         return;
-    const QImage::Format format = HPluginManager::instance()->SuportAlphaBlend(node)
-                                      ? QImage::Format_ARGB32
-                                      : QImage::Format_RGB888;
-    if (image.depth() != (format == QImage::Format_ARGB32 ? 32 : 24))
-        image = image.convertToFormat(format);
+    const bool blend = HPluginManager::instance()->SuportAlphaBlend(node);
+    if (blend && image.depth() != 32)
+        image = image.convertToFormat(QImage::Format_ARGB32);
+    else if (!blend && image.format() != QImage::Format_RGB888)
+        image = image.convertToFormat(QImage::Format_RGB888);
     std::memcpy(*buffer, image.constBits(), static_cast<size_t>(ByteCount(image)));
     *buffer = SwapPicImageLayerPtr(displayHandle, session, layer);
 }
