@@ -179,17 +179,14 @@ void animationRealization::LoadFillPicture()
         pictureBrush = QBrush(picture);
 }
 
-/** A picture in the device's format; null when the size holds no pixel or too many. */
-QImage animationRealization::NewCanvas(const QSize& size) const
+/** A picture; null when the size holds no pixel or too many. */
+QImage animationRealization::NewCanvas(const QSize& size, QImage::Format format)
 {
-    if (size.width() <= 0 || size.height() <= 0)
+    const int bytesPerPixel = format == QImage::Format_RGB888 ? 3 : 4;
+    if (size.width() <= 0 || size.height() <= 0 ||
+        qint64(size.width()) * size.height() > maxCanvasBytes / bytesPerPixel)
         return QImage();
-    const int bytesPerPixel = imageFormat == QImage::Format_RGB888 ? 3 : 4;
-    if (qint64(size.width()) * size.height() > maxCanvasBytes / bytesPerPixel) {
-        qDebug() << "Text picture is too large, nothing is painted:" << size;
-        return QImage();
-    }
-    return QImage(size, imageFormat);
+    return QImage(size, format);
 }
 
 void animationRealization::Start()
@@ -224,10 +221,12 @@ void animationRealization::Start()
 
     imageFormat = HPluginManager::instance()->SuportAlphaBlend(node) ? QImage::Format_ARGB32
                                                                      : QImage::Format_RGB888;
-    drawImage = NewCanvas(CountSize(true));
-    stayImage = NewCanvas(areaSize);
+    drawImage = NewCanvas(CountSize(true), imageFormat);
+    stayImage = NewCanvas(areaSize, imageFormat);
     if (!drawImage.isNull())
         drawImage.fill(HAppConfig::IntToColor(66049));
+    else if (!CountSize(true).isEmpty())
+        qDebug() << "Text picture is too large, nothing is painted:" << CountSize(true);
     if (!stayImage.isNull())
         stayImage.fill(0);
 

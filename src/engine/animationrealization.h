@@ -149,7 +149,7 @@ private:
     Q_DISABLE_COPY(animationRealization)
 
     // Set-up
-    QImage NewCanvas(const QSize& size) const;
+    static QImage NewCanvas(const QSize& size, QImage::Format format);
     void LoadFillPicture();
     void MeasureText(const LineWidths& line);
     void StartBackgrounds();

@@ -109,7 +109,7 @@ void animationRealization::WrapLayer()
     const qint64 bytes = qint64(layer.bytesPerLine()) * layer.height();
     if (layer.isNull() || (layerBytes >= 0 && bytes > layerBytes)) {
         // The device has no buffer for this frame. The motion goes on as if it had one.
-        drawImage = NewCanvas(size);
+        drawImage = NewCanvas(size, imageFormat);
         return;
     }
     drawImage = layer;

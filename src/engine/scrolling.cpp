@@ -62,7 +62,7 @@ void animationRealization::DrawTails(int first)
 void animationRealization::DrawTail(int first, int end)
 {
     const int start = charPositions.value(first);
-    QImage tail = NewCanvas(QSize(totalTextWidth - start, drawImage.height()));
+    QImage tail = NewCanvas(QSize(totalTextWidth - start, drawImage.height()), imageFormat);
     if (tail.isNull() || tail.bytesPerLine() > drawImage.bytesPerLine())
         return;
     auxPath = QPainterPath();

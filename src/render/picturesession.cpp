@@ -170,7 +170,7 @@ void HAnimationTextRender::ShowLine()
 /** Frame by frame: neon takes the session's base layer when it is on, the text the next one. */
 void HAnimationTextRender::ShowFrames()
 {
-    QImage base(engine->CountSize(false), imageFormat);
+    QImage base = animationRealization::NewCanvas(engine->CountSize(false), imageFormat);
     if (!base.isNull())
         base.fill(0);
     StartInit(base);
