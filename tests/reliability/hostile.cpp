@@ -1,0 +1,203 @@
+#include "hostile.h"
+
+#include "samples.h"
+#include "schema.h"
+
+#include <functional>
+#include <limits>
+#include <random>
+
+using AnimText::SceneNode;
+
+namespace {
+
+constexpr int least = std::numeric_limits<int>::min();
+constexpr int most = std::numeric_limits<int>::max();
+
+using Row = QHash<QString, QString>;
+
+struct Bend
+{
+    QByteArray name;
+    std::function<void(HostileScene*)> apply;
+};
+
+QList<Bend> bends;
+
+void Add(const QByteArray& name, const std::function<void(HostileScene*)>& apply)
+{
+    bends.append({name, apply});
+}
+
+void AddAttributes()
+{
+    const QVector<int> numbers{least, -2147483640, -1, 2, 10, 65536, 2000000000, most};
+    for (const QString& key : AnimText::NumberAttributeKeys()) {
+        const QByteArray name = key.toLatin1();
+        for (int number : numbers)
+            Add(name + ' ' + QByteArray::number(number),
+                [=](HostileScene* scene) { scene->node.attributes[key] = number; });
+        Add(name + " missing", [=](HostileScene* scene) { scene->node.attributes.remove(key); });
+        Add(name + " no number",
+            [=](HostileScene* scene) { scene->node.attributes[key] = QStringLiteral("five"); });
+        Add(name + " beyond the integers", [=](HostileScene* scene) {
+            scene->node.attributes[key] = QStringLiteral("99999999999999");
+        });
+    }
+}
+
+void AddTexts()
+{
+    const QPair<QByteArray, QString> texts[] = {
+        {"empty", QString()},
+        {"blanks", QStringLiteral("   \t ")},
+        {"one character", QStringLiteral("x")},
+        {"half a character", QString(QChar(0xD83D))},
+        {"with nulls", QString(8, QChar(0))},
+        {"line breaks", QStringLiteral("a\n\r\nb")},
+        {"20,000 characters", QString(20000, QLatin1Char('m'))}};
+    for (const auto& text : texts)
+        Add("text " + text.first, [=](HostileScene* scene) {
+            scene->node.attributes[QStringLiteral("Text")] = text.second;
+        });
+    Add("text missing",
+        [](HostileScene* scene) { scene->node.attributes.remove(QStringLiteral("Text")); });
+}
+
+/** Puts @p values, over and over, into a field of all rows. */
+void AddField(const QString& list, const QString& field, const char* name,
+              const QStringList& values)
+{
+    Add(field.toLatin1() + ' ' + name, [=](HostileScene* scene) {
+        QList<Row>& rows = scene->node.lists[list];
+        for (int i = 0; i < rows.size(); ++i)
+            rows[i][field] = values.at(i % values.size());
+    });
+}
+
+void AddLists()
+{
+    for (const QString& list : AnimText::ListKeys()) {
+        const QByteArray name = list.toLatin1();
+        Add(name + " missing", [=](HostileScene* scene) { scene->node.lists.remove(list); });
+        Add(name + " empty", [=](HostileScene* scene) { scene->node.lists[list].clear(); });
+        Add(name + " of one row", [=](HostileScene* scene) {
+            scene->node.lists[list] = scene->node.lists[list].mid(0, 1);
+        });
+        Add(name + " one row short",
+            [=](HostileScene* scene) { scene->node.lists[list].removeLast(); });
+        Add(name + " of 10,000 rows", [=](HostileScene* scene) {
+            const Row row = scene->node.lists[list].value(0);
+            while (scene->node.lists[list].size() < 10000)
+                scene->node.lists[list].append(row);
+        });
+        Add(name + " of empty rows", [=](HostileScene* scene) {
+            for (Row& row : scene->node.lists[list])
+                row.clear();
+        });
+        for (const QString& field : AnimText::RowFields(list)) {
+            AddField(list, field, "no number", {QStringLiteral("wide"), QString()});
+            AddField(list, field, "0", {QStringLiteral("0")});
+            AddField(list, field, "negative", {QStringLiteral("-7")});
+            AddField(list, field, "least", {QString::number(least)});
+            AddField(list, field, "most", {QString::number(most)});
+            AddField(list, field, "of all kinds",
+                     {QString::number(most), QString::number(least), QStringLiteral("1"),
+                      QStringLiteral("99999999999"), QStringLiteral("-1"),
+                      QStringLiteral("40000")});
+        }
+    }
+}
+
+void AddPlaces()
+{
+    const QSize sizes[] = {{0, 0},     {0, 20},    {64, 0},          {1, 1},
+                           {-1, -1},   {-64, 20},  {least, least},   {most, most},
+                           {most, 1},  {1, most},  {100000, 100000}, {32768, 3},
+                           {2, 33000}, {70000, 2}, {20000, 13000}};
+    for (const QSize& size : sizes)
+        Add("area " + QByteArray::number(size.width()) + " x " + QByteArray::number(size.height()),
+            [=](HostileScene* scene) {
+                scene->node.size = size;
+                // A border of light all along such an area is the host's to paint, and slow.
+                scene->node.attributes[QStringLiteral("CheckNeonBg")] = 0;
+            });
+    for (int far : {least, -40000, 40000, most})
+        Add("place " + QByteArray::number(far),
+            [=](HostileScene* scene) { scene->node.pos = QPoint(far, far); });
+    for (int hold : {least, -1, 0, 1, 1000000, most})
+        Add("hold " + QByteArray::number(hold),
+            [=](HostileScene* scene) { scene->node.hold = hold; });
+    for (int style : {least, -1, 0, 28, most})
+        Add("neon style " + QByteArray::number(style), [=](HostileScene* scene) {
+            scene->node.attributes[QStringLiteral("CheckNeonBg")] = 1;
+            scene->node.neonEffect = style;
+        });
+}
+
+void AddFiles(const QDir& folder)
+{
+    const auto add = [](const QString& key, const QList<HostileFile>& files) {
+        for (const HostileFile& file : files)
+            Add(key.toLatin1() + ' ' + file.name, [=](HostileScene* scene) {
+                scene->node.files[key] = file.path;
+                scene->heavy = scene->heavy || file.heavy;
+            });
+        Add(key.toLatin1() + " not named",
+            [=](HostileScene* scene) { scene->node.files.remove(key); });
+    };
+    add(QStringLiteral("PathData"), HostilePathFiles(folder));
+    add(QStringLiteral("DescentVector"), HostileDescentFiles(folder));
+    for (const HostileFile& picture : HostilePictures(folder)) {
+        Add("FillImage " + picture.name, [=](HostileScene* scene) {
+            scene->node.files[QStringLiteral("FillImage")] = picture.path;
+            scene->node.attributes[QStringLiteral("CheckPictureFills")] = 1;
+            scene->node.attributes[QStringLiteral("CheckDazzle")] = 1;
+        });
+        Add("NeonGifPath " + picture.name, [=](HostileScene* scene) {
+            scene->node.files[QStringLiteral("NeonGifPath")] = picture.path;
+            scene->node.attributes[QStringLiteral("CheckNeonBg")] = 1;
+            scene->node.neonEffect = 29;
+        });
+        const QString frogs = picture.path + QStringLiteral("-frogs");
+        folder.mkpath(frogs);
+        for (int number = 1; number <= 5 && !picture.path.isEmpty(); ++number)
+            QFile::link(picture.path, QStringLiteral("%1/Frog%2.png").arg(frogs).arg(number));
+        Add("frogs " + picture.name, [=](HostileScene* scene) {
+            scene->frogs = frogs;
+            SetMotion(&scene->node, 19 + picture.name.size() % 2, 9);
+        });
+    }
+}
+
+} // namespace
+
+QVector<HostileScene> HostileScenes(const QDir& folder)
+{
+    static const Sample usual(QStringLiteral("Hostile signs"), QSize(64, 20));
+    static const Sample large(QStringLiteral("Ab"), QSize(90, 36));
+    AddAttributes();
+    AddTexts();
+    AddLists();
+    AddPlaces();
+    AddFiles(folder);
+
+    std::mt19937 random(20);
+    const auto below = [&](int bound) { return int(random() % unsigned(bound)); };
+    QVector<HostileScene> scenes;
+    for (int i = 0; i < 2 * bends.size(); ++i) {
+        const Sample& sample = i % 5 == 4 ? large : usual;
+        HostileScene scene;
+        scene.node = sample.Node(i % motionCount, below(BackgroundCount), below(10));
+        scene.alphaBlend = below(2) == 0;
+        QList<Bend> all{bends.at(i % bends.size())};
+        if (i >= bends.size())
+            all += {bends.at(below(bends.size())), bends.at(below(bends.size()))};
+        for (const Bend& bend : all) {
+            scene.name += (scene.name.isEmpty() ? "" : ", ") + bend.name;
+            bend.apply(&scene);
+        }
+        scenes.append(scene);
+    }
+    return scenes;
+}

@@ -1,0 +1,43 @@
+/**
+ * @file
+ * Scenes that nobody in his right mind would put on a sign.
+ */
+#ifndef TESTS_HOSTILE_H
+#define TESTS_HOSTILE_H
+
+#include "scene.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QList>
+#include <QVector>
+
+struct HostileScene
+{
+    QByteArray name; ///< what is wrong with it
+    AnimText::SceneNode node;
+    bool alphaBlend = true;
+    QString frogs;      ///< folder of the frogs' pictures; empty: none
+    bool heavy = false; ///< takes long on purpose
+};
+
+/** A file under the name that tells what is wrong with it. */
+struct HostileFile
+{
+    QByteArray name;
+    QString path;
+    bool heavy = false;
+};
+
+/** Each writes its files into @p folder. */
+QList<HostileFile> HostilePathFiles(const QDir& folder);
+QList<HostileFile> HostileDescentFiles(const QDir& folder);
+QList<HostileFile> HostilePictures(const QDir& folder);
+
+/**
+ * Every single thing that can be wrong, each in a scene of its own, and once more together with
+ * two others; always the same ones.
+ */
+QVector<HostileScene> HostileScenes(const QDir& folder);
+
+#endif

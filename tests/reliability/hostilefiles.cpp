@@ -1,0 +1,242 @@
+#include "hostile.h"
+
+#include "glyphfiles.h"
+
+#include <QDataStream>
+#include <QFile>
+#include <QImage>
+
+#include <cmath>
+#include <limits>
+
+#include <sys/stat.h>
+
+namespace {
+
+template <typename... Values>
+QByteArray Bytes(Values... values)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_8);
+    (stream << ... << values);
+    return bytes;
+}
+
+QByteArray Element(qint32 type, double x, double y)
+{
+    return Bytes(type, x, y);
+}
+
+/** An outline whose parts are said to be @p size. */
+QByteArray Outline(qint32 size, const QByteArray& elements, qint32 start = 0, qint32 rule = 0)
+{
+    return Bytes(size) + elements + Bytes(start, rule);
+}
+
+/** A triangle that reaches as far as @p x, as a data file would have it. */
+QByteArray Triangle(double x)
+{
+    return Outline(3, Element(0, 0, 0) + Element(1, x, 0) + Element(1, x, -9));
+}
+
+/** Lines to and fro. */
+QByteArray Zigzag(int size, double reach)
+{
+    QByteArray elements = Element(0, 0, 0);
+    for (int i = 1; i < size; ++i)
+        elements += Element(1, i % 2 ? reach : -reach, i % 7 - 20);
+    return Outline(size, elements);
+}
+
+QByteArray File(const QByteArray& inner)
+{
+    return Bytes(inner.toBase64());
+}
+
+class Folder
+{
+public:
+    Folder(const QDir& folder, const char* kind)
+        : folder(folder)
+        , kind(QLatin1String(kind))
+    {
+    }
+
+    void Add(const char* name, const QByteArray& content, bool heavy = false)
+    {
+        const QString path = NextPath();
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("%s cannot be written", qPrintable(path));
+        files.append({name, path, heavy});
+    }
+
+    /** A file of @p size that begins with @p head and has holes behind it. */
+    void AddSparse(const char* name, const QByteArray& head, qint64 size)
+    {
+        Add(name, head);
+        QFile(files.last().path).resize(size);
+    }
+
+    void AddPath(const char* name, const QString& path) { files.append({name, path, false}); }
+
+    /** What is there and is no file that could be read. */
+    void AddImpossible()
+    {
+        AddPath("missing", folder.filePath(QStringLiteral("none")));
+        AddPath("no name", QString());
+        AddPath("a folder", folder.path());
+        AddPath("endless zeros", QStringLiteral("/dev/zero"));
+        AddPath("the null device", QStringLiteral("/dev/null"));
+        AddPath("a very long name", QString(5000, QLatin1Char('x')));
+        AddPath("a pipe", NextPath());
+        mkfifo(QFile::encodeName(files.last().path).constData(), 0600);
+        AddPath("a link to itself", NextPath());
+        QFile::link(files.last().path, files.last().path);
+        Add("empty", QByteArray());
+    }
+
+    QList<HostileFile> files;
+
+private:
+    QString NextPath() { return folder.filePath(kind + QString::number(files.size())); }
+
+    QDir folder;
+    QString kind;
+};
+
+/** What can be wrong about the outer layer of either data file, around @p inner. */
+void AddOuterLayers(Folder* folder, const QByteArray& inner)
+{
+    const QByteArray sound = File(inner);
+    folder->AddImpossible();
+    folder->Add("three bytes", "abc");
+    folder->Add("null array", Bytes(quint32(0xFFFFFFFF)) + "text");
+    folder->Add("length without bytes", Bytes(qint32(0x7FFFFFF0)) + "QUJD");
+    folder->Add("length past the end by one", Bytes(quint32(sound.size() - 3)) + sound.mid(4));
+    folder->Add("cut in half", sound.left(sound.size() / 2));
+    folder->Add("not Base64", Bytes(QByteArray("\x80\xFF !\"#$%&'()*,-.\n\0\t", 20)));
+    folder->Add("with bytes behind", sound + QByteArray(1000, '\0'));
+    folder->AddSparse("too large a file", Bytes(quint32(300 << 20)), 300LL << 20);
+    folder->AddSparse("24 MiB of nothing", Bytes(quint32((24 << 20) - 4)), 24LL << 20);
+    for (int cut : {0, 3, 4, 7, 8, 9, inner.size() - 1})
+        folder->Add(("inner bytes cut at " + QByteArray::number(cut)).constData(),
+                    File(inner.left(cut)));
+    folder->Add("inner count negative", File(Bytes(qint32(-1)) + inner.mid(4)));
+    folder->Add("inner count huge", File(Bytes(qint32(0x10000000)) + inner.mid(4)));
+    folder->Add("inner count 2^30 and no bytes", File(Bytes(qint32(1 << 30))));
+}
+
+quint32 Crc(const QByteArray& bytes)
+{
+    quint32 crc = 0xFFFFFFFF;
+    for (char byte : bytes) {
+        crc ^= uchar(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = crc & 1 ? crc >> 1 ^ 0xEDB88320u : crc >> 1;
+    }
+    return ~crc;
+}
+
+QByteArray Chunk(const QByteArray& type, const QByteArray& data)
+{
+    return Bytes(quint32(data.size())) + type + data + Bytes(Crc(type + data));
+}
+
+/** A PNG that claims a size and has no pixels to show for it. */
+QByteArray PngClaiming(quint32 width, quint32 height)
+{
+    return QByteArray("\x89PNG\r\n\x1A\n") +
+           Chunk("IHDR", Bytes(width, height) + QByteArray("\x08\x06\0\0\0", 5)) +
+           Chunk("IDAT", QByteArray::fromHex("789c63000000010001")) + Chunk("IEND", "");
+}
+
+/** A GIF of two pictures of one pixel in black and white that claims a size. */
+QByteArray Gif(const QByteArray& size)
+{
+    const QByteArray picture = QByteArray::fromHex("21f904000000000000"
+                                                   "2c000000000100010000"
+                                                   "0202440100");
+    return "GIF89a" + size + QByteArray::fromHex("800000000000ffffff") + picture + picture + ';';
+}
+
+} // namespace
+
+QList<HostileFile> HostilePathFiles(const QDir& where)
+{
+    Folder folder(where, "path");
+    const auto add = [&](const char* name, const QByteArray& outline, bool heavy = false) {
+        // Between two sound ones, which keep their places.
+        folder.Add(name, File(Bytes(qint32(3)) + Triangle(9) + outline + Triangle(7)), heavy);
+    };
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinite = std::numeric_limits<double>::infinity();
+    const QByteArray move = Element(0, 1, 1);
+
+    AddOuterLayers(&folder, Bytes(qint32(2)) + Triangle(9) + Triangle(8));
+    folder.Add("descents instead", AnimText::DescentFile({1, 2, 3, 4, 5, 6}));
+    folder.Add("one outline", File(Bytes(qint32(1)) + Triangle(5)));
+    folder.Add("100,000 outlines without a line",
+               File(Bytes(qint32(100000)) + QByteArray(400000, '\0')));
+    folder.Add("more outlines than characters",
+               File(Bytes(qint32(500)) + Triangle(5).repeated(500)));
+    add("outline size negative", Outline(-1, move));
+    add("outline size huge", Outline(0x7FFFFFFF, move));
+    add("outline size past the end", Outline(40, move));
+    add("unknown element", Outline(2, move + Element(7, 1, 2)));
+    add("negative element", Outline(2, move + Element(-1, 1, 2)));
+    add("begins with a line", Outline(2, Element(1, 1, 2) + Element(1, 3, 4)));
+    add("begins in a curve", Outline(2, Element(3, 1, 2) + Element(3, 3, 4)));
+    add("curve without its end", Outline(3, move + Element(2, 1, 2) + Element(3, 3, 4)));
+    add("curve broken off", Outline(4, move + Element(2, 1, 2) + Element(1, 3, 4) + move));
+    add("curve data too much", Outline(5, move + Element(2, 1, 2) + Element(3, 3, 4) +
+                                              Element(3, 5, 6) + Element(3, 7, 8)));
+    add("start before the outline", Outline(1, move, -5));
+    add("start behind the outline", Outline(1, move, 1));
+    add("start far off", Outline(1, move, 0x7FFFFFFF));
+    add("unknown fill rule", Outline(1, move, 0, 2));
+    add("negative fill rule", Outline(1, move, 0, -1));
+    add("only a move", Outline(1, move));
+    for (double x : {nan, infinite, -infinite, 1e300, -1e300, 1.001e6, 5e-324})
+        add(("coordinate " + QByteArray::number(x)).constData(), Triangle(x));
+    add("as far as may be", Triangle(1e6));
+    add("as far as may be, to the left", Triangle(-1e6));
+    add("one element too many", Zigzag(65537, 9));
+    add("as many elements as may be", Zigzag(65536, 30), true);
+    add("many elements, and far", Zigzag(16384, 1e6), true);
+    return folder.files;
+}
+
+QList<HostileFile> HostileDescentFiles(const QDir& where)
+{
+    Folder folder(where, "descent");
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    AddOuterLayers(&folder, Bytes(qint32(3), qint32(4), qint32(5), qint32(6)));
+    folder.Add("least", AnimText::DescentFile(QVector<int>(20, least)));
+    folder.Add("most", AnimText::DescentFile(QVector<int>(20, most)));
+    folder.Add("least and most", AnimText::DescentFile({least, most, 0, -1, least, most, 1, 0}));
+    folder.Add("only one", AnimText::DescentFile({3}));
+    folder.Add("100,000 of them", AnimText::DescentFile(QVector<int>(100000, 3)));
+    return folder.files;
+}
+
+QList<HostileFile> HostilePictures(const QDir& where)
+{
+    Folder folder(where, "picture");
+    folder.AddImpossible();
+    folder.Add("text", "This is no picture.\n");
+    folder.Add("60,000 x 60,000 pixels", PngClaiming(60000, 60000));
+    folder.Add("2^31 - 1 pixels wide", PngClaiming(0x7FFFFFFF, 1));
+    folder.Add("no pixels", PngClaiming(0, 0));
+    folder.Add("pixels missing", PngClaiming(300, 200));
+    folder.Add("a film of 65,535 x 65,535 pixels", Gif("\xFF\xFF\xFF\xFF"));
+    folder.Add("a film without delays", Gif(QByteArray("\x01\x00\x01\x00", 4)));
+    folder.Add("a film cut off", Gif(QByteArray("\x01\x00\x01\x00", 4)).left(40));
+    QImage large(5000, 4000, QImage::Format_Grayscale8);
+    large.fill(90);
+    folder.AddPath("20 megapixels", where.filePath(QStringLiteral("large.png")));
+    large.save(folder.files.last().path);
+    return folder.files;
+}
