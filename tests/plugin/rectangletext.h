@@ -48,8 +48,8 @@ inline QVector<QPainterPath> RectangleGlyphs(const QVector<int>& widths,
 {
     QVector<QPainterPath> glyphs(widths.size());
     for (int i = 0; i < widths.size(); ++i) {
-        const int w = widths.at(i);
-        const int h = heights.value(i);
+        const qreal w = widths.at(i); // any int at all
+        const qreal h = heights.value(i);
         glyphs[i].addRect(2, 4 - h, w - 5, h - 6); // from (2, 4 - h) to (w - 3, -2)
     }
     return glyphs;
