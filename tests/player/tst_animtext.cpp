@@ -411,7 +411,7 @@ void TestAnimtext::leavesNothingWhenTheEncoderFails()
     const QStringList before = Listing();
     const Outcome outcome =
         Run(QCoreApplication::applicationDirPath() + QStringLiteral("/animtext"),
-            {"render", twoPages, "-o", files.Path(QStringLiteral("old.gif")), "--seconds", "60",
+            {"render", twoPages, "-o", files.Path(QStringLiteral("old.gif")), "--seconds", "15",
              "--scale", "4"},
             environment);
     QCOMPARE(outcome.status, 1);

@@ -34,13 +34,12 @@ Lw::HNeonNodeBase* CreateNode(const SceneNode& from, const QString& place, Lw::I
                 .arg(place, plugin->type(), from.type);
         return nullptr;
     }
-    std::unique_ptr<Lw::HNode> node(plugin->Create());
-    auto* animated = dynamic_cast<Lw::HNeonNodeBase*>(node.get());
+    Lw::HNode* node = plugin->Create();
+    auto* animated = dynamic_cast<Lw::HNeonNodeBase*>(node);
     if (!animated) {
+        delete node;
         *error = QStringLiteral("%1: the plugin creates no node for it").arg(place);
-        return nullptr;
     }
-    node.release();
     return animated;
 }
 
