@@ -27,6 +27,7 @@ const Command commands[] = {
     {"trace", RunTrace, "prints what every tick gives the display, one JSON line each"},
     {"duration", RunDuration, "tells how long the host thinks a scene plays, and how long it does"},
     {"validate", RunValidate, "looks for mistakes in a scene"},
+    {"soak", RunSoak, "plays scenes for hours of virtual time and tells what is left of it"},
     {"effects", RunEffects, "lists the entrance effects and scrolls"},
 };
 

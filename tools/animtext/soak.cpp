@@ -1,0 +1,229 @@
+#include "commands.h"
+#include "opening.h"
+#include "progress.h"
+#include "soakmix.h"
+
+#include <display.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+#include <unistd.h>
+
+namespace AnimText {
+
+namespace {
+
+constexpr double ticksPerHour = 3600.0 * 1000 / tickLength;
+constexpr int turnTicks = 455; // half a minute: then the next scene
+constexpr int pauseTicks = 20; // once in a turn
+constexpr double mostHours = 24 * 366;
+
+/** What to play in turn. */
+struct Turn
+{
+    Scene scene;
+    QString path;
+};
+
+/** Memory of this process that is not paged out, in KiB. */
+qint64 ResidentMemory()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+QByteArray Mebibytes(qint64 kibibytes)
+{
+    return QByteArray::number(double(kibibytes) / 1024, 'f', 2) + " MiB";
+}
+
+class Soak
+{
+public:
+    Soak(const QVector<Turn>& turns, double hours, const Playing& playing)
+        : turns(turns)
+        , ticksWanted(qint64(std::ceil(hours * ticksPerHour)))
+        , playing(playing)
+    {
+    }
+
+    /** @return what failed; Done also when it was broken off */
+    Status Run();
+    QByteArray Table(double mostGrowth) const;
+    bool IsSound(double mostGrowth) const;
+
+private:
+    void PlayTurn(Player* player);
+    void Advance(Player* player, int count);
+
+    bool IsGrowthKnown() const { return memoryAtHour >= 0 && double(ticks) > ticksPerHour; }
+    qint64 Growth() const { return memoryAtEnd - memoryAtHour; }
+
+    QVector<Turn> turns;
+    qint64 ticksWanted;
+    Playing playing;
+
+    qint64 turnsPlayed = 0;
+    qint64 ticks = 0;
+    int mostLayers = 0;
+    int sessionsLeft = 0; // live after a turn that stopped them all
+    int layersLeft = 0;
+    qint64 memoryAtHour = -1; // KiB
+    qint64 memoryAtEnd = 0;
+    Torv::Accounting accounts = {};
+};
+
+void Soak::Advance(Player* player, int count)
+{
+    for (int i = 0; i < count; ++i)
+        player->Advance();
+    ticks += count;
+}
+
+/** As hosts do: a start, a look at the state now and then, a pause, a second start, a stop. */
+void Soak::PlayTurn(Player* player)
+{
+    player->Start(playing.seed);
+    Advance(player, turnTicks / 2);
+    for (int pausing = 0; pausing < 2; ++pausing) {
+        for (int node = 0; node < player->NodeCount(); ++node)
+            player->Scenery().Render(node)->Pause();
+        Advance(player, pauseTicks);
+    }
+    player->Picture();
+    mostLayers = qMax(mostLayers, Torv::Accounts().liveLayers);
+    player->Start(playing.seed);
+    Advance(player, turnTicks - turnTicks / 2 - 2 * pauseTicks);
+    player->Scenery().Stop();
+}
+
+Status Soak::Run()
+{
+    Torv::ResetAccounts();
+    Progress progress(QStringLiteral("soaking, minutes"), ticksWanted * tickLength / 60000);
+    WatchForInterruption();
+    while (ticks < ticksWanted && !Interrupted()) {
+        const Turn& turn = turns.at(int(turnsPlayed % turns.size()));
+        {
+            const std::unique_ptr<Player> player = playing.Load(turn.scene, turn.path);
+            if (!player)
+                return BadInput;
+            PlayTurn(player.get());
+        }
+        ++turnsPlayed;
+        accounts = Torv::Accounts();
+        sessionsLeft = qMax(sessionsLeft, accounts.liveSessions);
+        layersLeft = qMax(layersLeft, accounts.liveLayers);
+        memoryAtEnd = ResidentMemory();
+        if (memoryAtHour < 0 && double(ticks) >= ticksPerHour)
+            memoryAtHour = memoryAtEnd;
+        progress.Show(ticks * tickLength / 60000);
+    }
+    return Done;
+}
+
+QByteArray Soak::Table(double mostGrowth) const
+{
+    QByteArray table;
+    const auto add = [&](const char* name, const QByteArray& value) {
+        table += QByteArray(name).leftJustified(20) + value.rightJustified(16) + '\n';
+    };
+    const auto number = [](qint64 value) { return QByteArray::number(value); };
+    add("simulated hours", QByteArray::number(double(ticks) / ticksPerHour, 'f', 2));
+    add("scenes", number(turns.size()));
+    add("turns", number(turnsPlayed));
+    add("ticks", number(ticks));
+    add("pictures shown", number(accounts.calls[Torv::OpSwapPicImageLayerPtr]));
+    add("sessions made", number(accounts.calls[Torv::OpCreatePictureSession]));
+    add("most layers at once", number(mostLayers));
+    add("live sessions", number(sessionsLeft));
+    add("live layers", number(layersLeft));
+    add("wrong calls", number(accounts.Misuses()));
+    add("refused, too large", number(accounts.refused));
+    add("memory at hour 1", memoryAtHour < 0 ? "not reached" : Mebibytes(memoryAtHour));
+    add("memory at the end", Mebibytes(memoryAtEnd));
+    add("growth", IsGrowthKnown() ? Mebibytes(Growth()) : "not known");
+    if (mostGrowth > 0)
+        add("growth allowed", QByteArray::number(mostGrowth, 'f', 2) + " MiB");
+    return table;
+}
+
+bool Soak::IsSound(double mostGrowth) const
+{
+    const bool grows = mostGrowth > 0 && IsGrowthKnown() && double(Growth()) >= mostGrowth * 1024;
+    return ticks >= ticksWanted && sessionsLeft == 0 && layersLeft == 0 &&
+           accounts.Misuses() == 0 && !grows;
+}
+
+/** A number with a fraction; false, and the error told, when it is none up to @p most. */
+bool Fraction(CommandLine* line, const QString& option, double most, double* number)
+{
+    bool isNumber = false;
+    *number = line->Value(option).toDouble(&isNumber);
+    if (isNumber && *number >= 0 && *number <= most)
+        return true;
+    line->Misused(QStringLiteral("--%1 takes a number from 0 to %2, not \"%3\"")
+                      .arg(option)
+                      .arg(most)
+                      .arg(line->Value(option)));
+    return false;
+}
+
+} // namespace
+
+int RunSoak(const QStringList& words)
+{
+    CommandLine line(
+        QStringLiteral("soak"), QStringLiteral("[SCENE.json...]"),
+        QStringLiteral(
+            "Plays scenes in turn for hours of virtual time, half a minute each, and tells what "
+            "is left of it: sessions, layers and memory. Without a scene it plays every motion "
+            "before every background. The exit status is 1 when something is left, when a call "
+            "of the device was wrong, or when memory grows after the first hour."));
+    line.AddOption({QStringLiteral("hours")}, QStringLiteral("How long, in hours of virtual time."),
+                   QStringLiteral("H"), QStringLiteral("24"));
+    line.AddOption({QStringLiteral("growth")},
+                   QStringLiteral("How much memory may grow after the first hour; 0: not judged."),
+                   QStringLiteral("MIB"), QStringLiteral("1"));
+    AddPlayOptions(&line);
+    if (!line.Parse(words, 0, 10000))
+        return line.ExitStatus();
+    double hours = 0;
+    double mostGrowth = 0;
+    if (!Fraction(&line, QStringLiteral("hours"), mostHours, &hours) ||
+        !Fraction(&line, QStringLiteral("growth"), 1e6, &mostGrowth))
+        return BadInput;
+
+    QVector<Turn> turns;
+    for (const QString& path : line.Arguments()) {
+        Scene scene;
+        if (const Status status = OpenScene(line, path, &scene))
+            return status;
+        turns.append({scene, path});
+    }
+    const QTemporaryDir folder;
+    if (turns.isEmpty()) {
+        QString error;
+        for (const Scene& scene : SoakMix(QDir(folder.path()), &error))
+            turns.append({scene, folder.filePath(QStringLiteral("soak.json"))});
+        if (turns.isEmpty())
+            return Fail(FailedRun, error);
+    }
+    Playing playing;
+    if (const Status status = OpenPlugin(&line, &playing))
+        return status;
+
+    Soak soak(turns, hours, playing);
+    if (const Status status = soak.Run())
+        return status;
+    if (!Print(soak.Table(mostGrowth)))
+        return Fail(FailedRun, QStringLiteral("the output cannot be written"));
+    return soak.IsSound(mostGrowth) ? Done : Fail(FailedRun, QStringLiteral("the soak failed"));
+}
+
+} // namespace AnimText
