@@ -148,9 +148,7 @@ int RunDuration(const QStringList& words)
     Scene scene;
     Playing playing;
     const QString path = line.Arguments().first();
-    if (const Status status = OpenScene(line, path, &scene))
-        return status;
-    if (const Status status = OpenPlugin(&line, &playing))
+    if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
         return status;
     if (line.IsSet(QStringLiteral("table")))
         return TellDurationTable(playing, scene, path, line.IsSet(QStringLiteral("json")));

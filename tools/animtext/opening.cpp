@@ -43,6 +43,12 @@ Status OpenPlugin(CommandLine* line, Playing* playing)
     return Done;
 }
 
+Status OpenSceneAndPlugin(CommandLine* line, Scene* scene, Playing* playing)
+{
+    const Status status = OpenScene(*line, line->Arguments().first(), scene);
+    return status == Done ? OpenPlugin(line, playing) : status;
+}
+
 std::unique_ptr<Player> Playing::Load(const Scene& scene, const QString& scenePath) const
 {
     auto player = std::make_unique<Player>(dispatcher, plugin);

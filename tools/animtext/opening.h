@@ -33,6 +33,9 @@ struct Playing
 /** Loads the plugin. On failure tells the error and answers the exit status. */
 Status OpenPlugin(CommandLine* line, Playing* playing);
 
+/** Both of these, for the scene that the command's first word names. */
+Status OpenSceneAndPlugin(CommandLine* line, Scene* scene, Playing* playing);
+
 } // namespace AnimText
 
 #endif

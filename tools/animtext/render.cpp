@@ -152,9 +152,7 @@ int RunRender(const QStringList& words)
 
     Scene scene;
     Playing playing;
-    if (const Status status = OpenScene(line, job.scenePath, &scene))
-        return status;
-    if (const Status status = OpenPlugin(&line, &playing))
+    if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
         return status;
     job.settings.seed = playing.seed;
     const std::unique_ptr<Player> player = playing.Load(scene, job.scenePath);

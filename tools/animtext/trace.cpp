@@ -97,9 +97,7 @@ int RunTrace(const QStringList& words)
     Scene scene;
     Playing playing;
     const QString path = line.Arguments().first();
-    if (const Status status = OpenScene(line, path, &scene))
-        return status;
-    if (const Status status = OpenPlugin(&line, &playing))
+    if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
         return status;
     const std::unique_ptr<Player> player = playing.Load(scene, path);
     if (!player)
