@@ -8,6 +8,7 @@ HEADERS += \
     $$PWD/node/linewidths.h \
     $$PWD/node/pagedivision.h \
     $$PWD/node/wrapping.h \
+    $$PWD/plugin/export.h \
     $$PWD/plugin/hnodeanimationtext.h \
     $$PWD/render/hanimationtextrender.h
 

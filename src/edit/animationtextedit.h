@@ -1,6 +1,8 @@
 #ifndef ANIMATIONTEXTEDIT_H
 #define ANIMATIONTEXTEDIT_H
 
+#include "plugin/export.h"
+
 #include <QTextEdit>
 
 class QMimeData;
@@ -12,7 +14,7 @@ namespace HNodeAnimationText {
  * The editor in which a person types a node's text. What is pasted or dropped arrives as plain text
  * in the editor's own font, current family and current background, never with foreign styling.
  */
-class Q_DECL_EXPORT AnimationTextEdit : public QTextEdit
+class ANIMATIONTEXT_EXPORT AnimationTextEdit : public QTextEdit
 {
 public:
     explicit AnimationTextEdit(QWidget* parent);

@@ -1,16 +1,11 @@
 // The symbols that Qt 4's plugin loader looks up. Qt 5's moc makes qt_plugin_instance() itself,
 // from the class's plugin metadata, with the same guarded pointer.
+#include "plugin/export.h"
 #include "plugin/hnodeanimationtext.h"
 
 #include <QPointer>
 
-#if defined(__GNUC__)
-#define ANIMATIONTEXT_ENTRY extern "C" __attribute__((visibility("default")))
-#else
-#define ANIMATIONTEXT_ENTRY extern "C" Q_DECL_EXPORT
-#endif
-
-ANIMATIONTEXT_ENTRY const char* qt_plugin_query_verification_data();
+extern "C" ANIMATIONTEXT_EXPORT const char* qt_plugin_query_verification_data();
 
 const char* qt_plugin_query_verification_data()
 {
@@ -23,7 +18,7 @@ const char* qt_plugin_query_verification_data()
 }
 
 #if QT_VERSION < 0x050000
-ANIMATIONTEXT_ENTRY QObject* qt_plugin_instance();
+extern "C" ANIMATIONTEXT_EXPORT QObject* qt_plugin_instance();
 
 QObject* qt_plugin_instance()
 {
