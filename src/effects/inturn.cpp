@@ -14,11 +14,16 @@ namespace HNodeAnimationText {
 template <typename Shape>
 void animationRealization::DrawInTurn(const Shape& shape)
 {
-    DrawPage([&](int j) {
-        const int k = j - PageStart();
-        if (k <= moveOffset)
-            shape(j, Phase(k));
-    });
+    // Not by DrawPage(): GCC 4.7 may break off at a lambda that calls members within a template.
+    if (!BeginFrame())
+        return;
+    const int start = PageStart();
+    const int end = qMin(PageEnd(), start + moveOffset + 1);
+    for (int j = start; j < end; ++j) {
+        transform.reset();
+        shape(j, Phase(j - start));
+    }
+    EndFrame();
 }
 
 void animationRealization::EffectInTurnUpwardZoom()

@@ -7,6 +7,8 @@
 
 #include <happconfig.h>
 
+#include <QHash>
+
 namespace Lw {
 namespace HNodeAnimationText {
 
