@@ -9,63 +9,62 @@
 
 #include <QImage>
 
-const unsigned int AlphaWord = 0xFF010201;
 const unsigned int KeyWord = 0x00010201;
+const Effect NoEffect = {0, 0, 0, 0, 0, 66};
 
-inline unsigned int PixelWord(int type)
+inline QImage SolidImage(int type, QSize size, QRgb colour)
 {
-    return type == 3 ? AlphaWord : KeyWord;
-}
-
-inline QImage SolidImage(int type, int width, int height, QRgb colour)
-{
-    QImage image(width, height, type == 3 ? QImage::Format_ARGB32 : QImage::Format_RGB888);
+    QImage image(size, type == 3 ? QImage::Format_ARGB32 : QImage::Format_RGB888);
     image.fill(QColor::fromRgba(colour));
     return image;
 }
 
 /** Makes a session that shows @p image in @p area; it is on no display yet. */
 inline PicSession Create(int type, const QImage& image, const QRect& area,
-                         const Effect& effect = {0, 0, 0, 0, 0, 66})
+                         const Effect& effect = NoEffect)
 {
-    const PicImage picture = {image.width(), image.height(), image.bytesPerLine(),
-                              image.constBits()};
-    const PicPlacement placement = {area.x(), area.y(), area.width(),  area.height(),
-                                    0,        0,        image.width(), image.height()};
-    return CreatePictureSession(type, &picture, 16, &effect, &placement, PixelWord(type));
+    const QSize size = image.size();
+    const PicImage picture = {size.width(), size.height(), image.bytesPerLine(), image.constBits()};
+    const PicPlacement placement = {area.x(), area.y(), area.width(), area.height(),
+                                    0,        0,        size.width(), size.height()};
+    return CreatePictureSession(type, &picture, 16, &effect, &placement, KeyWord);
 }
 
-/** A display with one session whose base layer is filled with one colour. */
+/** A display with one session. */
 struct TestSession
 {
+    /** The session fills its display with one colour. */
     explicit TestSession(int type = 3, QSize size = QSize(8, 4), QRgb colour = 0xFF102030)
-        : display(size)
-        , session(Create(type, SolidImage(type, size.width(), size.height(), colour),
-                         QRect(QPoint(0, 0), size)))
-        , image(SolidImage(type, size.width(), size.height(), colour))
+        : TestSession(size, type, SolidImage(type, size, colour), QRect(QPoint(0, 0), size))
     {
-        AddPictureSession(display.Handle(), session, 0);
+    }
+    TestSession(QSize displaySize, int type, const QImage& image, const QRect& area,
+                const Effect& effect = NoEffect)
+        : display(displaySize)
+        , on(display.Handle())
+        , session(Create(type, image, area, effect))
+        , image(image)
+    {
+        AddPictureSession(on, session, 0);
     }
     ~TestSession() { FreePictureSession(session); }
 
     int Append(int width, int height)
     {
-        const int bytes = image.format() == QImage::Format_ARGB32 ? 4 : 3;
-        return PicAppendImageLayer(display.Handle(), session, width, height,
-                                   (width * bytes + 3) / 4 * 4, AlphaWord);
+        const int row = QImage(width, 1, image.format()).bytesPerLine();
+        return PicAppendImageLayer(on, session, width, height, row, KeyWord);
     }
     int Append() { return Append(image.width(), image.height()); }
-    char* Back(int layer) { return GetPicImageLayerPtr(display.Handle(), session, layer, 5); }
-    char* Swap(int layer) { return SwapPicImageLayerPtr(display.Handle(), session, layer); }
-
-    /** Fills the layer's back buffer and shows it. */
-    void Show(int layer, const QImage& picture)
+    char* Back(int layer) { return GetPicImageLayerPtr(on, session, layer, 5); }
+    char* Swap(int layer) { return SwapPicImageLayerPtr(on, session, layer); }
+    QImage Front(int layer) const { return Torv::FrontImage(session, layer); }
+    void Paint(int layer, const QImage& picture)
     {
         memcpy(Back(layer), picture.constBits(), size_t(picture.sizeInBytes()));
-        Swap(layer);
     }
 
     Torv::Display display;
+    PicDisplay on;
     PicSession session;
     QImage image;
 };

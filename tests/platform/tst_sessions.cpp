@@ -1,4 +1,4 @@
-// Handles, layers and their buffers, and what happens to memory that has been freed.
+// The device's calls: handles, layers and their buffers; mistakes, faults on demand and the log.
 
 #include "testsession.h"
 
@@ -6,20 +6,21 @@
 
 #include <csignal>
 #include <cstring>
-#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
-/** Whether @p action is stopped by the memory that it touches; it runs in a process of its own. */
-bool IsCaught(const std::function<void()>& action)
+const QRect Area(0, 0, 8, 4);
+const QImage Grey = SolidImage(3, Area.size(), 0xFF808080);
+
+/** Whether a write is stopped by the memory; it is tried in a process of its own. */
+bool IsGuarded(char* buffer)
 {
     const pid_t child = fork();
     if (child == 0) {
         signal(SIGSEGV, SIG_DFL);
-        signal(SIGBUS, SIG_DFL);
-        action();
+        *buffer = 1;
         _exit(0);
     }
     int status = 0;
@@ -27,18 +28,21 @@ bool IsCaught(const std::function<void()>& action)
     return WIFSIGNALED(status);
 }
 
-/** Bytes that the process has mapped. */
-qint64 AddressSpace()
+/** Whether the device does as it is told by @p operation. */
+bool Succeeds(int operation, PicDisplay display, PicSession session, int layer = 0)
 {
-    QFile statm("/proc/self/statm");
-    if (!statm.open(QIODevice::ReadOnly))
-        qFatal("no /proc");
-    return statm.readLine().split(' ').first().toLongLong() * sysconf(_SC_PAGESIZE);
-}
-
-qint64 LiveSessions()
-{
-    return Torv::Accounts().liveSessions;
+    switch (operation) {
+    case Torv::OpCreatePictureSession: return FreePictureSession(Create(3, Grey, Area)) == 0;
+    case Torv::OpAddPictureSession: return AddPictureSession(display, session, 0) == 0;
+    case Torv::OpPicAppendImageLayer:
+        return PicAppendImageLayer(display, session, 8, 4, 32, KeyWord) > 0;
+    case Torv::OpGetPicImageLayerPtr: return GetPicImageLayerPtr(display, session, layer, 5);
+    case Torv::OpSwapPicImageLayerPtr: return SwapPicImageLayerPtr(display, session, layer);
+    case Torv::OpSetPicLayerBlend: return SetPicLayerBlend(display, session, layer, 1) == 0;
+    case Torv::OpRemovePictureSession: return RemovePictureSession(display, session) == 0;
+    case Torv::OpFreePictureSession: return FreePictureSession(session) == 0;
+    default: return GeteffectDuration(8, 4, 26, 4) > 0;
+    }
 }
 
 } // namespace
@@ -48,67 +52,35 @@ class tst_sessions : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { Torv::ResetAccounts(); }
+
     void cleanup()
     {
+        Torv::ClearFaults();
+        Torv::SetCallLog(nullptr, nullptr);
         Torv::GuardShownBuffers(false);
-        QCOMPARE(LiveSessions(), 0);
+        QCOMPARE(Torv::Accounts().liveSessions, 0);
+        QCOMPARE(Torv::Accounts().liveLayers, 0);
         QCOMPARE(Torv::Accounts().liveBytes, 0);
-    }
-
-    void staleHandleOfReusedSlotFindsNothing()
-    {
-        const QImage image = SolidImage(3, 2, 2, 0xFFFFFFFF);
-        const PicSession first = Create(3, image, QRect(0, 0, 2, 2));
-        QVERIFY(first != 0);
-        QCOMPARE(FreePictureSession(first), 0);
-        const PicSession second = Create(3, image, QRect(0, 0, 2, 2));
-        QVERIFY(second != first);
-        QCOMPARE(FreePictureSession(first), -1);
-        QCOMPARE(Torv::LayerCount(first), 0);
-        QCOMPARE(Torv::LayerCount(second), 1);
-        QCOMPARE(FreePictureSession(second), 0);
-    }
-
-    void manySessionsKeepApart()
-    {
-        QList<PicSession> sessions;
-        for (int i = 0; i < 300; ++i)
-            sessions << Create(3, SolidImage(3, 4, 4, 0xFF000000 | unsigned(i)), QRect(0, 0, 4, 4));
-        for (int i = 0; i < sessions.size(); ++i)
-            QCOMPARE(Torv::FrontImage(sessions[i], 0).pixel(3, 3), 0xFF000000 | unsigned(i));
-        QCOMPARE(QSet<PicSession>(sessions.begin(), sessions.end()).size(), 300);
-        for (const PicSession session : sessions)
-            FreePictureSession(session);
-    }
-
-    void buffers_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::newRow("alpha") << 3;
-        QTest::newRow("colour key") << 5;
     }
 
     void buffers()
     {
-        QFETCH(int, type);
-        TestSession test(type, QSize(5, 3)); // rows of 15 bytes need padding
-        QCOMPARE(test.image.bytesPerLine(), type == 3 ? 20 : 16);
-        QCOMPARE(Torv::FrontImage(test.session, 0), test.image);
-
-        char* const first = test.Back(0);
-        QVERIFY(first);
-        QCOMPARE(test.Back(0), first);
-        QVERIFY(memcmp(first, test.image.constBits(), size_t(test.image.sizeInBytes())) == 0);
-        char* const second = test.Swap(0);
-        QVERIFY(second && second != first);
-        QVERIFY(memcmp(second, test.image.constBits(), size_t(test.image.sizeInBytes())) == 0);
-
-        const QImage red = SolidImage(type, 5, 3, 0xFFFF0000);
-        memcpy(second, red.constBits(), size_t(red.sizeInBytes()));
-        QCOMPARE(Torv::FrontImage(test.session, 0), test.image);
-        QCOMPARE(test.Swap(0), first);
-        QCOMPARE(Torv::FrontImage(test.session, 0), red);
-        QCOMPARE(Torv::SwapCount(test.session, 0), 2);
+        for (const int type : {3, 5}) {
+            TestSession test(type, QSize(5, 3)); // rows of 15 bytes need padding
+            const QImage red = SolidImage(type, QSize(5, 3), 0xFFFF0000);
+            const size_t bytes = size_t(red.sizeInBytes());
+            char* const first = test.Back(0);
+            QVERIFY(memcmp(first, test.image.constBits(), bytes) == 0);
+            char* const second = test.Swap(0);
+            QVERIFY(second != first && memcmp(second, test.image.constBits(), bytes) == 0);
+            test.Paint(0, red);
+            QCOMPARE(test.Back(0), second);
+            QCOMPARE(test.Front(0), test.image);
+            QCOMPARE(test.Swap(0), first);
+            QCOMPARE(test.Front(0), red);
+            QCOMPARE(Torv::SwapCount(test.session, 0), 2);
+        }
     }
 
     void appendedLayerIsZeroAndShownAsItIsPainted()
@@ -116,111 +88,45 @@ private slots:
         TestSession test;
         QCOMPARE(test.Append(3, 2), 1);
         QCOMPARE(test.Append(4, 2), 2);
-        QCOMPARE(Torv::LayerCount(test.session), 3);
-        QCOMPARE(Torv::FrontImage(test.session, 1), SolidImage(3, 3, 2, 0));
-
-        const QImage green = SolidImage(3, 3, 2, 0xFF00FF00);
-        memcpy(test.Back(1), green.constBits(), size_t(green.sizeInBytes()));
-        QCOMPARE(Torv::FrontImage(test.session, 1), green);
-        QCOMPARE(Torv::FrontImage(test.session, 2), SolidImage(3, 4, 2, 0));
+        const QImage green = SolidImage(3, QSize(3, 2), 0xFF00FF00);
+        test.Paint(1, green);
+        QCOMPARE(test.Front(1), green);
+        QCOMPARE(test.Front(2), SolidImage(3, QSize(4, 2), 0));
         test.Swap(1);
-        QCOMPARE(Torv::FrontImage(test.session, 1), green);
+        QCOMPARE(test.Front(1), green);
+        QCOMPARE(Torv::Accounts().liveBytes, 2 * 4 * (8 * 4 + 3 * 2 + 4 * 2));
     }
 
     void pictureWithoutPixelsMakesEmptyLayer()
     {
-        const Torv::Display display(QSize(4, 4));
-        const Effect effect = {0, 0, 0, 0, 0, 66};
-        const PicImage images[] = {{0, 0, 0, nullptr}, {7, 0, 28, nullptr}, {2, 2, 8, nullptr}};
-        for (const PicImage& image : images) {
-            const PicPlacement placement = {0, 0, -3, 4, 0, 0, image.width, image.height};
-            const PicSession session =
-                CreatePictureSession(3, &image, 16, &effect, &placement, AlphaWord);
-            QVERIFY(session != 0);
-            QCOMPARE(AddPictureSession(display.Handle(), session, 0), 0);
-            QVERIFY(!GetPicImageLayerPtr(display.Handle(), session, 0, 5));
-            QVERIFY(!SwapPicImageLayerPtr(display.Handle(), session, 0));
-            QVERIFY(Torv::FrontImage(session, 0).isNull());
-            QCOMPARE(PicAppendImageLayer(display.Handle(), session, 0, 0, 0, AlphaWord), 1);
-            QCOMPARE(display.Compose(0), SolidImage(3, 4, 4, 0));
-            QCOMPARE(FreePictureSession(session), 0);
-        }
+        TestSession test(QSize(4, 4), 3, QImage(), {0, 0, -3, 4});
+        QVERIFY(!test.Back(0) && !test.Swap(0) && test.Front(0).isNull());
+        QCOMPARE(test.Append(0, 0), 1);
+        QCOMPARE(test.display.Compose(0), SolidImage(3, QSize(4, 4), 0));
     }
 
     void tooMuchIsRefused()
     {
-        Torv::ResetAccounts();
         TestSession test;
-        QCOMPARE(PicAppendImageLayer(test.display.Handle(), test.session, 1 << 20, 65, 4 << 20,
-                                     AlphaWord),
-                 -1);
-        QCOMPARE(Torv::LayerCount(test.session), 1);
+        QCOMPARE(test.Append(1 << 20, 65), -1);
         while (test.Append() > 0) {
         }
         QCOMPARE(Torv::LayerCount(test.session), 16);
-
-        const char pixel[4] = {0, 0, 0, 0};
-        const PicImage huge = {1 << 20, 65, 4 << 20, pixel};
-        const PicPlacement placement = {0, 0, 8, 4, 0, 0, 1 << 20, 65};
-        const Effect effect = {0, 0, 0, 0, 0, 66};
-        QCOMPARE(CreatePictureSession(3, &huge, 16, &effect, &placement, AlphaWord), 0u);
-        QCOMPARE(Torv::Accounts().refused, 3);
+        QCOMPARE(Torv::Accounts().refused, 2);
         QCOMPARE(Torv::Accounts().Misuses(), 0);
-    }
-
-    void sessionLeavesWhateverDisplayItIsOn()
-    {
-        const Torv::Display other(QSize(8, 4));
-        Torv::Display display(QSize(8, 4));
-        const PicSession session = Create(3, SolidImage(3, 8, 4, 0xFFFFFFFF), QRect(0, 0, 8, 4));
-        QCOMPARE(AddPictureSession(display.Handle(), session, 0), 0);
-        QCOMPARE(display.Sessions(), QList<PicSession>() << session);
-        QCOMPARE(AddPictureSession(other.Handle(), session, 0), -1);
-        QCOMPARE(RemovePictureSession(other.Handle(), session), -1);
-        QCOMPARE(display.Sessions(), QList<PicSession>() << session);
-        QCOMPARE(FreePictureSession(session), 0);
-        QVERIFY(display.Sessions().isEmpty());
-        QCOMPARE(display.Compose(0), SolidImage(3, 8, 4, 0));
-    }
-
-    void sessionOutlivesItsDisplay()
-    {
-        auto display = std::make_unique<Torv::Display>(QSize(8, 4));
-        const PicDisplay handle = display->Handle();
-        const PicSession session = Create(3, SolidImage(3, 8, 4, 0xFFFFFFFF), QRect(0, 0, 8, 4));
-        QCOMPARE(AddPictureSession(handle, session, 0), 0);
-        display.reset();
-        QVERIFY(SwapPicImageLayerPtr(handle, session, 0));
-        QCOMPARE(RemovePictureSession(handle, session), 0);
-        QCOMPARE(AddPictureSession(handle, session, 0), -1);
-        QCOMPARE(FreePictureSession(session), 0);
     }
 
     void freedLayersCannotBeTouched()
     {
-        std::unique_ptr<TestSession> test(new TestSession);
+        auto test = std::make_unique<TestSession>();
         test->Append();
         char* const buffers[] = {test->Back(0), test->Swap(0), test->Back(1), test->Swap(1)};
         for (char* const buffer : buffers)
-            QVERIFY(!IsCaught([buffer] { *buffer = 1; }));
+            QVERIFY(!IsGuarded(buffer));
         test.reset();
+        const TestSession next; // must not take the place of the freed one
         for (char* const buffer : buffers)
-            QVERIFY(IsCaught([buffer] { *buffer = 1; }));
-        // A session made next must not take the place of the freed one.
-        TestSession next;
-        for (char* const buffer : buffers)
-            QVERIFY(IsCaught([buffer] { *buffer = 1; }));
-    }
-
-    void addressesOfFreedLayersAreGivenBack()
-    {
-        const QImage large = SolidImage(3, 1024, 1024, 0);
-        const qint64 before = AddressSpace();
-        for (int i = 0; i < 20; ++i)
-            QCOMPARE(FreePictureSession(Create(3, large, QRect(0, 0, 1, 1))), 0);
-        for (int i = 0; i < 40000; ++i)
-            QCOMPARE(FreePictureSession(Create(3, SolidImage(3, 1, 1, 0), QRect(0, 0, 1, 1))), 0);
-        QVERIFY(AddressSpace() - before < qint64(80) << 20);
+            QVERIFY(IsGuarded(buffer));
     }
 
     void shownBufferCanBeGuarded()
@@ -228,11 +134,97 @@ private slots:
         TestSession test;
         char* const painted = test.Back(0);
         Torv::GuardShownBuffers(true);
-        char* const next = test.Swap(0);
-        QVERIFY(IsCaught([painted] { *painted = 1; }));
-        QVERIFY(!IsCaught([next] { *next = 1; }));
+        QVERIFY(!IsGuarded(test.Swap(0)) && IsGuarded(painted));
         test.Swap(0);
-        QVERIFY(!IsCaught([painted] { *painted = 1; }));
+        QVERIFY(!IsGuarded(painted));
+    }
+
+    void operations_data()
+    {
+        QTest::addColumn<int>("operation");
+        for (int operation = 0; operation < Torv::OperationCount; ++operation)
+            QTest::newRow(Torv::OperationName(Torv::Operation(operation))) << operation;
+    }
+
+    /** Every wrong handle, display and layer goes into the one right counter; failures on demand
+     * change nothing, but what is to be freed is gone. */
+    void operations()
+    {
+        QFETCH(int, operation);
+        const bool frees = operation == Torv::OpFreePictureSession;
+        const bool takesSession =
+            operation != Torv::OpCreatePictureSession && operation != Torv::OpGeteffectDuration;
+        const bool takesDisplay = takesSession && !frees;
+        const bool takesLayer =
+            operation >= Torv::OpGetPicImageLayerPtr && operation <= Torv::OpSetPicLayerBlend;
+        const TestSession test;
+        const Torv::Display other(QSize(8, 4));
+        const PicDisplay gone = Torv::Display(QSize(8, 4)).Handle();
+        const PicSession freed = Create(3, Grey, Area);
+        FreePictureSession(freed);
+        const TestSession next;                               // takes the place of the freed one
+        for (const PicSession session : {0u, freed, test.on}) // a display's handle is no session's
+            QVERIFY(!takesSession || !Succeeds(operation, test.on, session));
+        for (const PicDisplay display : {0u, gone, other.Handle()})
+            QVERIFY(!takesDisplay || !Succeeds(operation, display, test.session));
+        for (const int layer : {1, -1})
+            QVERIFY(!takesLayer || !Succeeds(operation, test.on, test.session, layer));
+        QCOMPARE(Torv::Accounts().zeroHandle, takesSession ? 1 : 0);
+        QCOMPARE(Torv::Accounts().staleHandle, takesSession ? 2 : 0);
+        QCOMPARE(Torv::Accounts().wrongDisplay, takesDisplay ? 3 : 0);
+        QCOMPARE(Torv::Accounts().badLayer, takesLayer ? 2 : 0);
+        QCOMPARE(Torv::Accounts().badArgument, 0);
+
+        if (operation == Torv::OpAddPictureSession) {
+            RemovePictureSession(test.on, test.session);
+            QVERIFY(!Succeeds(operation, gone, test.session));
+        }
+        Torv::FailCall(Torv::Operation(operation), 1);
+        QVERIFY(!Succeeds(operation, test.on, test.session));
+        QCOMPARE(Torv::LayerCount(test.session), frees ? 0 : 1);
+        QCOMPARE(Torv::SwapCount(test.session, 0), 0);
+        QCOMPARE(Succeeds(operation, test.on, test.session), !frees);
+        QCOMPARE(Torv::Accounts().injectedFaults, 1);
+    }
+
+    void badArguments()
+    {
+        TestSession test;
+        const struct
+        {
+            int type, flags, width, bytesPerLine, imageWidth;
+        } cases[] = {{4, 16, 8, 32, 8}, {3, 15, 8, 32, 8}, {3, 16, 8, 32, 9},
+                     {3, 16, 8, 28, 8}, {3, 16, 8, 33, 8}, {3, 16, -8, 32, -8}};
+        for (const auto& c : cases) {
+            const PicImage image = {c.width, 4, c.bytesPerLine, test.Back(0)};
+            const PicPlacement placement = {0, 0, 8, 4, 0, 0, c.imageWidth, 4};
+            QCOMPARE(CreatePictureSession(c.type, &image, c.flags, &NoEffect, &placement, KeyWord),
+                     0u);
+        }
+        QCOMPARE(PicAppendImageLayer(test.on, test.session, 8, 4, 28, KeyWord), -1);
+        QVERIFY(!GetPicImageLayerPtr(test.on, test.session, 0, 4));
+        QCOMPARE(SetPicLayerBlend(test.on, test.session, 0, 3), -1);
+        QCOMPARE(Torv::Accounts().badArgument, 9);
+    }
+
+    void log()
+    {
+        TestSession test;
+        QStringList lines;
+        const auto collect = [](void* context, const QString& line) {
+            static_cast<QStringList*>(context)->append(line);
+        };
+        Torv::SetCallLog(collect, &lines);
+        test.Back(0);
+        CreatePictureSession(3, nullptr, 16, nullptr, nullptr, 0x10201);
+        const QStringList expected = {
+            QString(R"({"call":"GetPicImageLayerPtr","display":%1,"session":%2,"layer":0,"mode":5,)"
+                    R"("result":"buffer 1"})")
+                .arg(test.on)
+                .arg(test.session),
+            R"({"call":"CreatePictureSession","type":3,"image":null,"flags":16,"effect":null,)"
+            R"("placement":null,"pixelWord":"0x00010201","result":0,"problem":"badArgument"})"};
+        QCOMPARE(lines, expected);
     }
 };
 
