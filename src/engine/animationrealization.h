@@ -211,7 +211,7 @@ private:
     void DrawLine();
     void DrawTails(int first);
     void DrawTail(int first, int end);
-    bool ColumnGrows() const;
+    int ColumnLength() const;
     void AdvanceColumn();
 
     struct Frog

@@ -87,13 +87,19 @@ void animationRealization::DrawTail(int first, int end)
                     static_cast<size_t>(tail.bytesPerLine()));
 }
 
-/** Whether a cycle through the column leads on; heights that add up to nothing would never end. */
-bool animationRealization::ColumnGrows() const
+/**
+ * How many characters of the column a frame looks at. Heights that add up to nothing would never
+ * end, so that is once all of them; and heights that add up to next to nothing would take very
+ * long. Columns of characters that are a pixel high, taken together, are not cut short.
+ */
+int animationRealization::ColumnLength() const
 {
+    const int slack = 1024;
+    const int n = charPaths.size();
     qint64 cycle = 0;
-    for (int k = 0; k < charPaths.size(); ++k)
+    for (int k = 0; k < n; ++k)
         cycle += charHeights.value(k);
-    return cycle > 0;
+    return cycle > 0 ? n + FrameHeight() + slack : n;
 }
 
 void animationRealization::ContinueEffectUp()
@@ -104,10 +110,10 @@ void animationRealization::ContinueEffectUp()
         const int h = FrameHeight();
         const int n = charPaths.size();
         const double x = FrameWidth() * 0.5 - maxTextWidth * 0.5;
-        const bool grows = ColumnGrows();
+        const int length = ColumnLength();
         int k = 0;
         int d = p; // how far character k's top has come up from the bottom edge
-        for (int visited = 0; n > 0 && d >= 0 && (grows || visited < n); ++visited) {
+        for (int visited = 0; d >= 0 && visited < length; ++visited) {
             if (d <= h || d - charHeights.value(k) <= h)
                 AddGlyph(k, x, h + scrollOffset - p + charHeights.value(k) - charDescents.value(k));
             k = k + 1 < n ? k + 1 : 0;
@@ -129,10 +135,10 @@ void animationRealization::ContinueEffectDown()
         const int h = FrameHeight();
         const int n = charPaths.size();
         const double x = FrameWidth() * 0.5 - maxTextWidth * 0.5;
-        const bool grows = ColumnGrows();
+        const int length = ColumnLength();
         int k = n - 1;
         int y = p; // the baseline; unlike the rising column's it counts neither height nor descent
-        for (int visited = 0; n > 0 && y >= 1 && (grows || visited < n); ++visited) {
+        for (int visited = 0; y >= 1 && visited < length; ++visited) {
             if (y <= h || y - charHeights.value(k) < h)
                 AddGlyph(k, x, y);
             k = k > 0 ? k - 1 : n - 1;
