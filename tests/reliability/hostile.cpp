@@ -109,6 +109,23 @@ void AddLists()
     }
 }
 
+/** Columns that hardly grow from one character to the next: many lie on top of each other. */
+void AddColumns()
+{
+    static const Sample lengthy(QString(QStringLiteral("column")).repeated(60), QSize(64, 20));
+    static const Sample usual(QStringLiteral("Hostile column"), QSize(64, 48));
+    for (const Sample* sample : {&lengthy, &usual}) {
+        for (int motion : {firstScroll + 2, firstScroll + 3}) {
+            Add("a column that grows by a pixel", [=](HostileScene* scene) {
+                scene->node = sample->Node(motion, NoBackground, 9);
+                QList<Row>& rows = scene->node.lists[QStringLiteral("TextHeight")];
+                for (int i = 0; i < rows.size(); ++i)
+                    rows[i][QStringLiteral("text_height")] = QString::number(i == 0 ? 1 : 0);
+            });
+        }
+    }
+}
+
 void AddPlaces()
 {
     const QSize sizes[] = {{0, 0},     {0, 20},    {64, 0},          {1, 1},
@@ -179,6 +196,7 @@ QVector<HostileScene> HostileScenes(const QDir& folder)
     AddAttributes();
     AddTexts();
     AddLists();
+    AddColumns();
     AddPlaces();
     AddFiles(folder);
 

@@ -4,6 +4,8 @@
 #include "player.h"
 #include "plugin.h"
 
+#include <QTimer>
+
 #include <cstdio>
 
 namespace {
@@ -30,20 +32,21 @@ void TakeMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 
 void CountingDispatcher::registerTimer(int id, int interval, Qt::TimerType type, QObject* object)
 {
-    ++liveTimers;
+    if (qobject_cast<QTimer*>(object))
+        live.insert(id);
     VirtualDispatcher::registerTimer(id, interval, type, object);
 }
 
 bool CountingDispatcher::unregisterTimer(int id)
 {
-    const bool found = VirtualDispatcher::unregisterTimer(id);
-    liveTimers -= found ? 1 : 0;
-    return found;
+    live.remove(id);
+    return VirtualDispatcher::unregisterTimer(id);
 }
 
 bool CountingDispatcher::unregisterTimers(QObject* object)
 {
-    liveTimers -= registeredTimers(object).size();
+    for (const TimerInfo& timer : registeredTimers(object))
+        live.remove(timer.timerId);
     return VirtualDispatcher::unregisterTimers(object);
 }
 
