@@ -26,6 +26,7 @@ public:
     {
     }
 
+    PROBE(engine, painter)
     PROBE(engine, charIndex)
     PROBE(engine, charCount)
     PROBE(engine, moveOffset)
@@ -38,12 +39,10 @@ public:
     PROBE(engine, pageIndex)
     PROBE(engine, pageBreaks)
     PROBE(engine, pageOffsets)
-    PROBE(engine, charPaths)
     PROBE(engine, charPositions)
     PROBE(engine, textPath)
     PROBE(engine, drawImage)
     PROBE(engine, frameCount)
-    PROBE(engine, holdTime)
     PROBE(engine, stayPageIndex)
     PROBE(engine, stepSize)
     PROBE(engine, dazzleTimer)
@@ -82,7 +81,6 @@ public:
     EngineProbe Engine() const { return EngineProbe(*render.engine); }
     PROBE(render, session)
     PROBE(render, drawTimer)
-    PROBE(render, firstTick)
 
 private:
     HAnimationTextRender& render;

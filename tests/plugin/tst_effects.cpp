@@ -137,6 +137,7 @@ void EffectsTest::pagesTakeTheirFrames()
         }
         QCOMPARE(play.stayPageIndex(), page);
         QCOMPARE(play.runEnded(), page == 2);
+        QCOMPARE(play.playFinished() || effect == reflection, i >= 1 || effect == reflection);
     }
     QCOMPARE(play.pageIndex(), 1);
     QCOMPARE(play.playCount(), 2);
@@ -216,6 +217,8 @@ void EffectsTest::glyphsStandInTheirPlaces_data()
         {17, 100, 1, 0, "-9.9,-12.73 17.68,-20.51", QRect()},
         {17, 100, 1, 35, "-9.9,8.27 17.68,0.49; 16.56,3.74 40.61,6.56; 42.93,15.1 74.75,-2.58",
          QRect()},
+        {17, 100, 1, 44, "-9.9,-0.73 17.68,-8.51; 16.56,-5.26 40.61,-2.44; 42.93,6.1 74.75,-11.58",
+         QRect()},
         {17, 100, 1, 50, "2,0.4 27,14.4; 32,-4.4 47,14.6; 52,1.2 87,11.2", QRect()},
         {17, 100, 1, 64, "2,12 27,26; 32,6 47,25; 52,15.2 87,25.2", QRect()},
         {18, 100, 1, 0, "100,5 100,19", QRect()},
@@ -238,7 +241,8 @@ void EffectsTest::glyphsStandInTheirPlaces_data()
          QRect()},
         {24, 100, 1, 42, "2,12 27,26; 32,6 47,25; 52,17 87,27", QRect()},
         {24, 100, 1, 50, "0.3,25.6 4.05,27.7; 30.25,24.38 32.13,26.75; 50.25,27.5 54.63,28.75",
-         QRect()}, // the second time
+         QRect()},                                                              // the second time
+        {24, 60, 1, 51, "0.4,24.8 5.4,27.6; 30.35,23.32 32.98,26.65", QRect()}, // no third one
         {25, 60, 1, 5, "12,21 37,28; 30,17.29 45,26.98", QRect()},
         {25, 60, 1, 11, "27,29 52,29; 27,27.58 42,27.96", QRect()},
         {25, 60, 1, 25, "12,16.4 27,27.8; 30,18.27 55,26.78", QRect()},
