@@ -137,7 +137,8 @@ void EffectsTest::pagesTakeTheirFrames()
         }
         QCOMPARE(play.stayPageIndex(), page);
         QCOMPARE(play.runEnded(), page == 2);
-        QCOMPARE(play.playFinished() || effect == reflection, i >= 1 || effect == reflection);
+        if (effect != reflection)
+            QCOMPARE(play.playFinished(), i >= 1); // one play is asked for
     }
     QCOMPARE(play.pageIndex(), 1);
     QCOMPARE(play.playCount(), 2);

@@ -175,6 +175,8 @@ void RendererTest::pausesFreezeAndResume()
     QVERIFY(play.ShortCalls().contains("swap0")); // the neon background, too
     QVERIFY(engine.dazzleTimer().isActive());
     QCOMPARE(play.render->renderState(), 1);
+    play.render->Stop();
+    QVERIFY(!engine.dazzleTimer().isActive());
 }
 
 void RendererTest::aStartWhilePausedWaits()
