@@ -1,214 +1,220 @@
-#include "author.h"
+// A line of text on its way to a node: its units, their outlines and their places.
 
-#include <QFontMetrics>
+#include "author.h"
+#include "pages.h"
+#include "placement.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
 #include <QtTest>
+
+#include <numeric>
 
 using namespace AnimText;
 
-Q_DECLARE_METATYPE(AnimText::AuthorOptions)
-
 namespace {
 
-AuthorOptions Options(const QString& text = QStringLiteral("Hello"))
+const QString arabic = "السلام عليكم ورحمة الله وبركاته";
+const QString mixed = "Hello שלום עולם, 12 ابجد (xyz)!";
+
+QFont Font(int pixels)
 {
-    AuthorOptions options;
-    options.text = text;
-    options.font = QFont(QStringLiteral("DejaVu Sans"));
-    return options;
+    QFont font("DejaVu Sans");
+    font.setPixelSize(pixels);
+    return font;
 }
 
-int Sum(const SceneNode& node, const char* list, const char* field)
+int Sum(const QVector<int>& values)
 {
-    int sum = 0;
-    for (const auto& row : node.lists.value(QLatin1String(list)))
-        sum += row.value(QLatin1String(field)).toInt();
-    return sum;
+    return std::accumulate(values.begin(), values.end(), 0);
 }
 
-using Attributes = QMap<QString, QVariant>;
+/** The units from @p begin to @p end at rest on a page, in one path as the engine collects them. */
+QPainterPath AtRest(const PlacedText& text, int begin, int end)
+{
+    QPainterPath all;
+    int x = 0;
+    for (int i = begin; i < end; ++i) {
+        all.addPath(text.outlines[i].translated(x, 0));
+        x += text.widths[i];
+    }
+    return all;
+}
+
+/** The line as the toolkit itself sets it; the baseline at 0. */
+QPainterPath ByToolkit(const QString& text, const QFont& font)
+{
+    QPainterPath all;
+    all.setFillRule(Qt::WindingFill);
+    all.addText(0, 0, font, text);
+    return all;
+}
+
+/** The pixels that the path covers, and those within @p reach pixels of it. */
+QImage Painted(const QPainterPath& path, int width, int reach = 0)
+{
+    QImage image(width + 40, 300, QImage::Format_Grayscale8);
+    image.fill(0);
+    QPainter painter(&image);
+    painter.translate(20, 150);
+    painter.fillPath(path, Qt::white);
+    if (reach > 0)
+        painter.strokePath(path, QPen(Qt::white, 2 * reach));
+    return image;
+}
+
+/** Painted pixels of @p a that are not painted in @p b. */
+int Strays(const QImage& a, const QImage& b)
+{
+    int strays = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            strays += a.constScanLine(y)[x] != 0 && b.constScanLine(y)[x] == 0;
+    }
+    return strays;
+}
 
 } // namespace
 
-class AuthorTest : public QObject
+class tst_author : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void oneLine_data();
-    void oneLine();
-    void attributes_data();
-    void attributes();
-    void rows();
-    void sizes();
-    void refusals_data();
-    void refusals();
+    void oneLine()
+    {
+        // The line and the number of notes on it; 0 and nothing when it is refused.
+        const auto line = [](QString text) {
+            QStringList notes;
+            QString error;
+            const bool accepted = ToOneLine(&text, &notes, &error);
+            return accepted == error.isEmpty()
+                       ? (accepted ? text : "") + QString::number(notes.size())
+                       : QString("contradiction");
+        };
+        QCOMPARE(line(" a  b "), QString(" a  b 0"));
+        QCOMPARE(line("a\r\n"), QString("a0"));
+        QCOMPARE(line("a\r\nb\nc\u2028d\n"), QString("a b c d1"));
+        QCOMPARE(line("a\tb\nc"), QString("a b c2"));
+        QCOMPARE(line("😀"), QString("😀0"));
+        const QString halves[] = {QString(QChar(0xD83D)) + "a", "a" + QString(QChar(0xDE00))};
+        for (const QString& refused :
+             {QString(), QString(" \n "), QString("a\u0007"), halves[0], halves[1]})
+            QCOMPARE(line(refused), QString("0"));
+    }
+
+    void clusters()
+    {
+        const QVector<QPair<QString, QVector<int>>> cases = {{"ab c", {0, 1, 2, 3}},
+                                                             {"afix", {0, 1, 3}}, // a ligature
+                                                             {"e\u0301q\u0323\u0302x", {0, 2, 5}},
+                                                             {"a😀b", {0, 1, 3}},
+                                                             {"سلام", {0, 1, 3}},
+                                                             {"بَبِ", {0, 2}},
+                                                             {"a\u200Db", {0, 2}}};
+        for (const auto& [text, firsts] : cases) {
+            const PlacedText placed =
+                PlaceText(ShapeLine(text, Font(40)), Arrangement::Line, 0, Bar());
+            QCOMPARE(placed.descents.size(), text.size());
+            for (int i = 0; i < text.size(); ++i) {
+                const bool isFirst = firsts.contains(i);
+                QCOMPARE(placed.widths[i] > 0, isFirst);
+                QCOMPARE(placed.heights[i] > 0, isFirst);
+                QCOMPARE(!placed.outlines[i].isEmpty(), isFirst && !text.at(i).isSpace());
+            }
+        }
+    }
+
+    void line_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("pixels");
+        for (int pixels : {13, 31, 100}) {
+            const auto row = [pixels](const char* name, const QString& text) {
+                QTest::addRow("%s at %d", name, pixels) << text << pixels;
+            };
+            row("kerning", "AVATAR To. Ty");
+            row("ligatures", "fit flow");
+            row("accents", "Ångström e\u0301");
+            row("joined", arabic);
+            row("both directions", mixed);
+            row("from the right", "ابجد abc 123 هوز");
+            row("struck through", "H\u0337x\u0336o\u0338");
+        }
+        // Glyphs are asked for in short pieces; the pieces must not show.
+        const QString part = "office fjord AVATAR " + mixed + " " + arabic;
+        QTest::newRow("long") << part.repeated(700 / part.size() + 1) << 20;
+    }
+
+    // The line looks as the toolkit sets it, give or take the half pixel to a whole place, and
+    // nothing of it is lost where outlines overlap.
+    void line()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, pixels);
+        const QFont font = Font(pixels);
+        const PlacedText placed = PlaceText(ShapeLine(text, font), Arrangement::Line, 0, Bar());
+        const int width = Sum(placed.widths);
+        QCOMPARE(width, qRound(QFontMetricsF(font).horizontalAdvance(text)));
+
+        QPainterPath rest = AtRest(placed, 0, text.size());
+        const QPainterPath wanted = ByToolkit(text, font);
+        const QImage shown = Painted(rest, width);
+        QCOMPARE(Strays(shown, Painted(wanted, width, 1)), 0);
+        QCOMPARE(Strays(Painted(wanted, width), Painted(rest, width, 1)), 0);
+        rest.setFillRule(Qt::WindingFill);
+        const int holes = Strays(Painted(rest, width), shown);
+        QVERIFY2(holes <= text.size(), qPrintable(QString::number(holes)));
+    }
+
+    void pagesReadFromRightToLeft()
+    {
+        const ShapedLine line = ShapeLine(arabic, Font(40));
+        for (Arrangement arrangement : {Arrangement::Pages, Arrangement::PagesFromEnd}) {
+            const PlacedText placed = PlaceText(line, arrangement, 260, Bar());
+            const QVector<int> starts = arrangement == Arrangement::Pages
+                                            ? PagesFromBeginning(placed.widths, 260)
+                                            : PagesFromEnd(placed.widths, 260);
+            QVERIFY(starts.size() > 2);
+            for (const Cluster& cluster : line.clusters) {
+                // Each next letter stands to the left of all that were read before it.
+                const int i = cluster.first;
+                const int p =
+                    int(std::upper_bound(starts.begin(), starts.end(), i) - starts.begin());
+                const int left = Sum(placed.widths.mid(i + 1, starts[p] - i - 1));
+                const int at = Sum(placed.widths.mid(starts[p - 1], i - starts[p - 1]));
+                QVERIFY(at + placed.widths[i] + left <= 260);
+                const QRectF wanted = cluster.shape.boundingRect().translated(left - at, 0);
+                const QRectF seen = placed.outlines[i].boundingRect();
+                if (!seen.isEmpty())
+                    QVERIFY(qAbs(seen.center().x() - wanted.center().x()) < 3);
+            }
+        }
+    }
+
+    void columnStandsInItsOwnPlaces()
+    {
+        const ShapedLine line = ShapeLine("fi " + arabic, Font(40));
+        const PlacedText placed = PlaceText(line, Arrangement::Column, 100, Bar());
+        for (const Cluster& cluster : line.clusters)
+            QCOMPARE(placed.outlines[cluster.first], cluster.shape);
+        QCOMPARE(Sum(placed.heights), line.clusters.size() * (line.ascent + line.descent));
+    }
+
+    void underlineHasNoGap()
+    {
+        const QString text = "gy fi " + arabic;
+        const PlacedText placed =
+            PlaceText(ShapeLine(text, Font(60)), Arrangement::Line, 0, Bar{5, 3});
+        const int width = Sum(placed.widths);
+        const QImage shown = Painted(AtRest(placed, 0, text.size()), width);
+        for (int y : {155, 156, 157}) {
+            for (int x = 0; x < width; ++x)
+                QVERIFY2(shown.constScanLine(y)[20 + x] != 0, qPrintable(QString::number(x)));
+        }
+    }
 };
 
-void AuthorTest::oneLine_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("line"); // null: refused
-    QTest::addColumn<int>("notes");
-
-    const auto row = [](const char* name, const QString& text, const QString& line, int notes) {
-        QTest::newRow(name) << text << line << notes;
-    };
-    row("plain", QStringLiteral(" a  b "), QStringLiteral(" a  b "), 0);
-    row("last line break", QStringLiteral("a\n"), QStringLiteral("a"), 0);
-    row("last Windows line break", QStringLiteral("a\r\n"), QStringLiteral("a"), 0);
-    row("line breaks", QStringLiteral("a\r\nb\nc\u2028d\n"), QStringLiteral("a b c d"), 1);
-    row("tab and line break", QStringLiteral("a\tb\nc"), QStringLiteral("a b c"), 2);
-    row("surrogates", QStringLiteral("😀"), QStringLiteral("😀"), 0);
-    row("nothing", QString(), QString(), 0);
-    row("only blanks", QStringLiteral(" \n "), QString(), 0);
-    row("control character", QStringLiteral("a\u0007"), QString(), 0);
-    row("half a surrogate pair", QString(QChar(0xD83D)) + QLatin1Char('a'), QString(), 0);
-    row("the other half", QLatin1Char('a') + QString(QChar(0xDE00)), QString(), 0);
-}
-
-void AuthorTest::oneLine()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, line);
-    QFETCH(int, notes);
-    QStringList said;
-    QString error;
-    const bool accepted = ToOneLine(&text, &said, &error);
-    QCOMPARE(accepted, !line.isNull());
-    QCOMPARE(error.isEmpty(), accepted);
-    if (accepted) {
-        QCOMPARE(text, line);
-        QCOMPARE(said.size(), notes);
-    }
-}
-
-void AuthorTest::attributes_data()
-{
-    QTest::addColumn<AuthorOptions>("options");
-    QTest::addColumn<Attributes>("expected"); // besides "Text" and "PlayTimes"
-
-    const auto key = [](const char* name) { return QString::fromLatin1(name); };
-    const Attributes entrance = {
-        {key("EffectType"), 0}, {key("AnimationEffect"), 4}, {key("AnimationSpeed"), 5}};
-    const auto with = [](Attributes attributes, const Attributes& more) {
-        for (auto it = more.begin(); it != more.end(); ++it)
-            attributes[it.key()] = it.value();
-        return attributes;
-    };
-    QTest::newRow("entrance") << Options() << entrance;
-
-    AuthorOptions options = Options();
-    options.mode = Mode::Scroll;
-    options.motion = 3;
-    options.speed = 9;
-    QTest::newRow("scroll") << options
-                            << Attributes{{key("EffectType"), 1},
-                                          {key("ContinueStyle"), 3},
-                                          {key("ContinueSpeed"), 9}};
-    options = Options();
-    options.hollow = true;
-    options.neon = 7;
-    QTest::newRow("hollow over neon")
-        << options << with(entrance, {{key("Hollow"), 1}, {key("CheckNeonBg"), 1}});
-    options = Options();
-    options.dazzle = Dazzle::Plain;
-    QTest::newRow("dazzle") << options << with(entrance, {{key("CheckDazzle"), 1}});
-    options.dazzle = Dazzle::Conical;
-    options.picture = QStringLiteral("p.png");
-    QTest::newRow("conical dazzle with a picture")
-        << options
-        << with(entrance, {{key("CheckDazzle"), 1},
-                           {key("CheckColorGradient"), 1},
-                           {key("ColorGradient"), 2},
-                           {key("CheckPictureFills"), 1}});
-}
-
-void AuthorTest::attributes()
-{
-    QFETCH(AuthorOptions, options);
-    QFETCH(Attributes, expected);
-    AuthoredNode authored;
-    QString error;
-    QVERIFY2(AuthorNode(options, &authored, &error), qPrintable(error));
-    Attributes found = authored.node.attributes;
-    QCOMPARE(found.take(QStringLiteral("Text")).toString(), options.text);
-    QCOMPARE(found.take(QStringLiteral("PlayTimes")).toInt(), 1);
-    QCOMPARE(found, expected);
-    QCOMPARE(authored.node.neonEffect, qMax(0, options.neon));
-    QCOMPARE(authored.node.files.value(QStringLiteral("FillImage")), options.picture);
-}
-
-void AuthorTest::rows()
-{
-    AuthorOptions options = Options(QStringLiteral("fi 😀"));
-    options.font.setPixelSize(32);
-    options.font.setBold(true);
-    options.color = QColor(1, 2, 3);
-    AuthoredNode authored;
-    QString error;
-    QVERIFY(AuthorNode(options, &authored, &error));
-    for (const auto& rows : authored.node.lists)
-        QCOMPARE(rows.size(), 5);
-    const QHash<QString, QString> expected = {
-        {QStringLiteral("fontName"), QStringLiteral("DejaVu Sans")},
-        {QStringLiteral("fontSize"), QStringLiteral("24")},
-        {QStringLiteral("bold"), QStringLiteral("1")},
-        {QStringLiteral("italic"), QStringLiteral("0")},
-        {QStringLiteral("underline"), QStringLiteral("0")},
-        {QStringLiteral("Color"), QString::number(0x010203)}};
-    QCOMPARE(authored.node.lists.value(QStringLiteral("TextAttribute")).last(), expected);
-    QCOMPARE(Sum(authored.node, "TextWidth", "text_width"), authored.textSize.width());
-    const QFontMetrics metrics(options.font);
-    QCOMPARE(authored.textSize.height(), metrics.ascent() + metrics.descent());
-    QCOMPARE(Sum(authored.node, "TextHeight", "text_height"), 3 * authored.textSize.height());
-}
-
-void AuthorTest::sizes()
-{
-    AuthoredNode authored;
-    QString error;
-    AuthorOptions options = Options();
-    QVERIFY(AuthorNode(options, &authored, &error));
-    QVERIFY(authored.node.size.height() >= authored.textSize.height());
-    QCOMPARE(authored.pages, 1);
-
-    options.area = QSize(60, 40); // the letters become as large as fits
-    QVERIFY(AuthorNode(options, &authored, &error));
-    QCOMPARE(authored.node.size, options.area);
-    QVERIFY(authored.textSize.height() <= 40 && authored.textSize.height() > 36);
-    QVERIFY(authored.pages > 1);
-
-    options = Options();
-    options.mode = Mode::Scroll;
-    options.motion = 2; // a column, shown several characters at a time
-    QVERIFY(AuthorNode(options, &authored, &error));
-    QVERIFY(authored.node.size.height() > authored.node.size.width());
-}
-
-void AuthorTest::refusals_data()
-{
-    QTest::addColumn<AuthorOptions>("options");
-
-    AuthorOptions options = Options();
-    options.area = QSize(16384, 16384);
-    options.font.setPixelSize(40);
-    QTest::newRow("area of 1 GiB") << options;
-    options = Options(QString(2000, QLatin1Char('W')));
-    options.mode = Mode::Scroll;
-    options.motion = 0;
-    options.font.setPixelSize(400);
-    options.area = QSize(500, 500);
-    QTest::newRow("line of 2 GiB") << options;
-}
-
-void AuthorTest::refusals()
-{
-    QFETCH(AuthorOptions, options);
-    AuthoredNode authored;
-    QString error;
-    QVERIFY(!AuthorNode(options, &authored, &error));
-    QVERIFY(error.contains(QLatin1String("MiB")) && !error.contains(QLatin1Char('\n')));
-}
-
-QTEST_MAIN(AuthorTest)
+QTEST_MAIN(tst_author)
 #include "tst_author.moc"

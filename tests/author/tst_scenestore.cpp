@@ -1,10 +1,7 @@
-#include "datafile.h"
-#include "glyphfiles.h"
+#include "testfolder.h"
+
 #include "scenestore.h"
 
-#include <QPainterPath>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
@@ -16,24 +13,20 @@ using namespace AnimText;
 
 namespace {
 
-/** A scene of @p count characters, with its data files; other counts have other files. */
+/** A scene with two data files; other texts have other files. */
 struct Sample
 {
-    Sample(const QString& path, int count)
+    Sample(const QString& path, const QString& text)
     {
-        QVector<QPainterPath> outlines(count);
-        for (QPainterPath& outline : outlines)
-            outline.addRect(0, -10, 1 + count, 10);
-        const QByteArray paths = PathFile(outlines);
-        const QByteArray descents = DescentFile(QVector<int>(count, count));
         SceneNode node;
         node.size = QSize(100, 20);
-        node.attributes[QStringLiteral("Text")] = QString(count, QLatin1Char('x'));
-        node.files[QStringLiteral("PathData")] = DataFileName(path, paths, QStringLiteral("path"));
-        node.files[QStringLiteral("DescentVector")] =
-            DataFileName(path, descents, QStringLiteral("descent"));
-        files[node.files[QStringLiteral("PathData")]] = paths;
-        files[node.files[QStringLiteral("DescentVector")]] = descents;
+        node.attributes["Text"] = text;
+        for (const QString suffix : {"path", "descent"}) {
+            const QByteArray content = (suffix + " of " + text).toUtf8();
+            const QString name = DataFileName(path, content, suffix);
+            node.files[suffix == "path" ? "PathData" : "DescentVector"] = name;
+            files[name] = content;
+        }
         scene.display = node.size;
         scene.pages = {ScenePage{{SceneArea{{node}}}}};
     }
@@ -41,27 +34,6 @@ struct Sample
     Scene scene;
     QMap<QString, QByteArray> files;
 };
-
-/** Empty when the scene at @p path and its data files fit together, else what is wrong. */
-QString FaultOf(const QString& path)
-{
-    Scene scene;
-    QString error;
-    if (!ReadScene(path, &scene, &error))
-        return error;
-    const SceneNode& node = *scene.Nodes().value(0);
-    const int count = node.attributes.value(QStringLiteral("Text")).toString().size();
-    const auto file = [&](const char* key) {
-        return ResolveSceneFile(path, node.files.value(QLatin1String(key)));
-    };
-    const DataFile paths = LookIntoPathFile(file("PathData"));
-    const DataFile descents = LookIntoDescentFile(file("DescentVector"));
-    if (!paths.fault.isEmpty() || !descents.fault.isEmpty())
-        return paths.fault + descents.fault;
-    if (paths.entries != count || descents.descents != QVector<int>(count, count))
-        return QStringLiteral("the files belong to another text");
-    return QString();
-}
 
 /** Runs @p work in a process of its own and kills it right before its system call @p calls. */
 enum class Ending { Killed, Finished, Untraceable };
@@ -91,143 +63,100 @@ Ending RunAndKill(int calls, Work work)
 
 } // namespace
 
-class SceneStoreTest : public QObject
+class tst_scenestore : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void replacedFilesGo();
-    void sharedAndForeignFilesStay();
-    void damagedFileIsWrittenAnew();
-    void failuresLeaveNothing_data();
-    void failuresLeaveNothing();
-    void killedBeforeEachSystemCall();
-    void killedAtRandom();
-
-private:
-    bool Save(const Sample& sample) { return SaveScene(path, sample.scene, sample.files, &error); }
-    QStringList Listing() const
+    void init()
     {
-        return QDir(folder->path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+        folder.reset(new TestFolder);
+        path = folder->Path("sign.json");
     }
 
-    QScopedPointer<QTemporaryDir> folder;
+    void replacedFilesGo()
+    {
+        const Sample second(path, "second");
+        QVERIFY(Save(Sample(path, "first")) && Save(second));
+        QVERIFY(Holds("sign.json", second));
+        QCOMPARE(folder->Listing(), second.files.keys() + QStringList("sign.json"));
+    }
+
+    void sharedAndForeignFilesStay()
+    {
+        Sample first(path, "first");
+        QVERIFY(Save(first) && QFile::copy(path, folder->Path("copy.json")));
+        QVERIFY(Save(Sample(path, "second")));
+        QVERIFY(Holds("copy.json", first));
+
+        // A file that the author named and made is not ours to remove.
+        first.scene.pages[0].areas[0].nodes[0].files["PathData"] = "mine.path";
+        first.files["mine.path"] = "mine";
+        QVERIFY(Save(first) && Save(Sample(path, "third")));
+        QVERIFY(folder->Listing().contains("mine.path"));
+    }
+
+    void damagedFileIsWrittenAnew()
+    {
+        const Sample sample(path, "text");
+        QVERIFY(Save(sample));
+        folder->Write(sample.files.firstKey(), QByteArray(sample.files.first().size(), 'A'));
+        QVERIFY(Save(sample) && Holds("sign.json", sample));
+    }
+
+    void failuresLeaveNothing()
+    {
+        QStringList obstacles = Sample("sign.json", "a").files.keys();
+        obstacles << "sign.json"
+                  << "";
+        for (const QString& obstacle : obstacles) {
+            init();
+            if (obstacle.isEmpty()) // a folder that is not there
+                path = folder->Path("none/sign.json");
+            else // a folder where a file should be
+                QVERIFY(QDir().mkdir(folder->Path(obstacle)));
+            QVERIFY(!Save(Sample(path, "a")));
+            QVERIFY2(error.startsWith(folder->Path("")) && !error.contains('\n'),
+                     qPrintable(error));
+            QCOMPARE(folder->Listing(), QStringList());
+        }
+    }
+
+    void killedBeforeEachSystemCall()
+    {
+        const Sample before(path, "before");
+        const Sample after(path, "after");
+        Ending ending = Ending::Killed;
+        int calls = 0;
+        for (; ending == Ending::Killed && calls < 10000; ++calls) {
+            for (const QString& file : folder->Listing())
+                QFile::remove(folder->Path(file));
+            QVERIFY(Save(before));
+            ending = RunAndKill(calls, [&] { Save(after); });
+            if (ending == Ending::Untraceable)
+                QSKIP("processes cannot be traced here");
+            QVERIFY(Holds("sign.json", after) ||
+                    (ending == Ending::Killed && Holds("sign.json", before)));
+        }
+        QCOMPARE(ending, Ending::Finished);
+        QVERIFY2(calls > 20, qPrintable(QString::number(calls))); // or nothing was written at all
+    }
+
+private:
+    /** Whether the scene file is that of @p sample and its data files are whole. */
+    bool Holds(const QString& name, const Sample& sample) const
+    {
+        bool holds = folder->Read(name) == SceneToJson(sample.scene);
+        for (auto file = sample.files.begin(); file != sample.files.end(); ++file)
+            holds = holds && folder->Read(file.key()) == file.value();
+        return holds;
+    }
+    bool Save(const Sample& sample) { return SaveScene(path, sample.scene, sample.files, &error); }
+
+    QScopedPointer<TestFolder> folder;
     QString path;
     QString error;
 };
 
-void SceneStoreTest::init()
-{
-    folder.reset(new QTemporaryDir);
-    path = folder->filePath(QStringLiteral("sign.json"));
-    error.clear();
-}
-
-void SceneStoreTest::replacedFilesGo()
-{
-    const Sample first(path, 3);
-    const Sample second(path, 4);
-    QVERIFY2(Save(first), qPrintable(error));
-    QVERIFY2(Save(second), qPrintable(error));
-    QCOMPARE(Listing(), second.files.keys() + QStringList(QStringLiteral("sign.json")));
-    QCOMPARE(FaultOf(path), QString());
-}
-
-void SceneStoreTest::sharedAndForeignFilesStay()
-{
-    const QString copy = folder->filePath(QStringLiteral("copy.json"));
-    Sample first(path, 3);
-    QVERIFY(Save(first) && QFile::copy(path, copy));
-    QVERIFY(Save(Sample(path, 4)));
-    QCOMPARE(FaultOf(copy), QString());
-
-    // A file that the author named and made is not ours to remove.
-    SceneNode& node = first.scene.pages[0].areas[0].nodes[0];
-    node.files[QStringLiteral("PathData")] = QStringLiteral("mine.path");
-    first.files[QStringLiteral("mine.path")] = "mine";
-    QVERIFY(Save(first) && Save(Sample(path, 5)));
-    QVERIFY(Listing().contains(QStringLiteral("mine.path")));
-}
-
-void SceneStoreTest::damagedFileIsWrittenAnew()
-{
-    const Sample sample(path, 3);
-    QVERIFY(Save(sample));
-    QFile file(folder->filePath(sample.files.firstKey()));
-    QVERIFY(file.resize(7));
-    QVERIFY(!FaultOf(path).isEmpty());
-    QVERIFY(Save(sample));
-    QCOMPARE(FaultOf(path), QString());
-}
-
-void SceneStoreTest::failuresLeaveNothing_data()
-{
-    QTest::addColumn<QString>("obstacle"); // a folder where a file should be, or nothing
-    QTest::addColumn<QString>("scene");
-
-    const QString sign = QStringLiteral("sign.json");
-    QTest::newRow("a folder has the scene's name") << sign << sign;
-    QTest::newRow("no such folder") << QString() << QStringLiteral("none/sign.json");
-    for (const QString& file : Sample(sign, 3).files.keys())
-        QTest::addRow("a folder has the name %s", qPrintable(file)) << file << sign;
-}
-
-void SceneStoreTest::failuresLeaveNothing()
-{
-    QFETCH(QString, obstacle);
-    QFETCH(QString, scene);
-    if (!obstacle.isEmpty())
-        QVERIFY(QDir(folder->path()).mkdir(obstacle));
-    path = folder->filePath(scene);
-    QVERIFY(!Save(Sample(path, 3)));
-    QVERIFY2(error.startsWith(folder->path()) && !error.contains(QLatin1Char('\n')),
-             qPrintable(error));
-    QCOMPARE(Listing(), QStringList());
-}
-
-void SceneStoreTest::killedBeforeEachSystemCall()
-{
-    const Sample before(path, 3);
-    const Sample after(path, 4);
-    QVERIFY(Save(before));
-    Ending ending = Ending::Killed;
-    int calls = 0;
-    for (; ending == Ending::Killed && calls < 10000; ++calls) {
-        ending = RunAndKill(calls, [&] { Save(after); });
-        if (ending == Ending::Untraceable)
-            QSKIP("processes cannot be traced here");
-        QVERIFY2(FaultOf(path).isEmpty(), qPrintable(FaultOf(path)));
-        for (const QString& file : Listing())
-            QFile::remove(folder->filePath(file));
-        QVERIFY(Save(before));
-    }
-    QCOMPARE(ending, Ending::Finished);
-    QVERIFY2(calls > 20, qPrintable(QString::number(calls))); // or nothing was written at all
-}
-
-// ANIMTEXT_KILLS=500 kills that often.
-void SceneStoreTest::killedAtRandom()
-{
-    const int kills = qMax(50, qEnvironmentVariableIntValue("ANIMTEXT_KILLS"));
-    QRandomGenerator random(4711);
-    QVector<Sample> samples;
-    for (int count = 1; count <= 5; ++count)
-        samples.append(Sample(path, count * count * count));
-    QVERIFY(Save(samples[0]));
-    for (int round = 0; round < kills; ++round) {
-        const int seed = int(random.bounded(1 << 30));
-        const Ending ending = RunAndKill(random.bounded(1200), [&] {
-            QRandomGenerator choice(static_cast<quint32>(seed));
-            for (;;)
-                Save(samples[choice.bounded(samples.size())]);
-        });
-        if (ending == Ending::Untraceable)
-            QSKIP("processes cannot be traced here");
-        QCOMPARE(ending, Ending::Killed);
-        QVERIFY2(FaultOf(path).isEmpty(), qPrintable(FaultOf(path)));
-    }
-}
-
-QTEST_GUILESS_MAIN(SceneStoreTest)
+QTEST_GUILESS_MAIN(tst_scenestore)
 #include "tst_scenestore.moc"
