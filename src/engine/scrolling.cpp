@@ -15,6 +15,9 @@ namespace {
 // The raster painter computes in 16 bits. What begins beyond is painted nearer and moved by bytes.
 const int lastPaintableX = 31999;
 
+// Negative heights lead a column away; from here on it does not come back into the picture.
+const int columnEnd = 1 << 29;
+
 } // namespace
 
 void animationRealization::ContinueEffectLeft()
@@ -113,7 +116,7 @@ void animationRealization::ContinueEffectUp()
         const int length = ColumnLength();
         int k = 0;
         int d = p; // how far character k's top has come up from the bottom edge
-        for (int visited = 0; d >= 0 && visited < length; ++visited) {
+        for (int visited = 0; d >= 0 && d < columnEnd && visited < length; ++visited) {
             if (d <= h || d - charHeights.value(k) <= h)
                 AddGlyph(k, x, h + scrollOffset - p + charHeights.value(k) - charDescents.value(k));
             k = k + 1 < n ? k + 1 : 0;
@@ -138,7 +141,7 @@ void animationRealization::ContinueEffectDown()
         const int length = ColumnLength();
         int k = n - 1;
         int y = p; // the baseline; unlike the rising column's it counts neither height nor descent
-        for (int visited = 0; y >= 1 && visited < length; ++visited) {
+        for (int visited = 0; y >= 1 && y < columnEnd && visited < length; ++visited) {
             if (y <= h || y - charHeights.value(k) < h)
                 AddGlyph(k, x, y);
             k = k > 0 ? k - 1 : n - 1;
