@@ -20,13 +20,15 @@ struct Bend
 {
     QByteArray name;
     std::function<void(HostileScene*)> apply;
+    Weight weight;
 };
 
 QList<Bend> bends;
 
-void Add(const QByteArray& name, const std::function<void(HostileScene*)>& apply)
+void Add(const QByteArray& name, const std::function<void(HostileScene*)>& apply,
+         Weight weight = Weight::Light)
 {
-    bends.append({name, apply});
+    bends.append({name, apply, weight});
 }
 
 void AddAttributes()
@@ -109,21 +111,31 @@ void AddLists()
     }
 }
 
-/** Columns that hardly grow from one character to the next: many lie on top of each other. */
+/**
+ * Columns that hardly grow from one character to the next, so that many lie on top of each other,
+ * and columns that lead away beyond all numbers.
+ */
 void AddColumns()
 {
-    static const Sample lengthy(QString(QStringLiteral("column")).repeated(60), QSize(64, 20));
-    static const Sample usual(QStringLiteral("Hostile column"), QSize(64, 48));
-    for (const Sample* sample : {&lengthy, &usual}) {
-        for (int motion : {firstScroll + 2, firstScroll + 3}) {
-            Add("a column that grows by a pixel", [=](HostileScene* scene) {
-                scene->node = sample->Node(motion, NoBackground, 9);
-                QList<Row>& rows = scene->node.lists[QStringLiteral("TextHeight")];
-                for (int i = 0; i < rows.size(); ++i)
-                    rows[i][QStringLiteral("text_height")] = QString::number(i == 0 ? 1 : 0);
-            });
-        }
-    }
+    static const Sample endless(QString(2500, QLatin1Char('|')), QSize(64, 20));
+    static const Sample lengthy(QString(360, QLatin1Char('|')), QSize(64, 20));
+    static const Sample usual(QStringLiteral("Hostile column"), QSize(64, 30));
+    const auto add = [](const char* name, const Sample& sample, int first, int others) {
+        for (int motion : {firstScroll + 2, firstScroll + 3})
+            Add(
+                name,
+                [=, &sample](HostileScene* scene) {
+                    scene->node = sample.Node(motion, NoBackground, 9);
+                    QList<Row>& rows = scene->node.lists[QStringLiteral("TextHeight")];
+                    for (int i = 0; i < rows.size(); ++i)
+                        rows[i][QStringLiteral("text_height")] =
+                            QString::number(i ? others : first);
+                },
+                Weight::Slow);
+    };
+    add("a column that grows by a pixel", usual, 1, 0);
+    add("a long column that grows by a pixel", lengthy, 1, 0);
+    add("a long column that leads away", endless, least, least);
 }
 
 void AddPlaces()
@@ -156,34 +168,42 @@ void AddFiles(const QDir& folder)
 {
     const auto add = [](const QString& key, const QList<HostileFile>& files) {
         for (const HostileFile& file : files)
-            Add(key.toLatin1() + ' ' + file.name, [=](HostileScene* scene) {
-                scene->node.files[key] = file.path;
-                scene->heavy = scene->heavy || file.heavy;
-            });
+            Add(
+                key.toLatin1() + ' ' + file.name,
+                [=](HostileScene* scene) { scene->node.files[key] = file.path; }, file.weight);
         Add(key.toLatin1() + " not named",
             [=](HostileScene* scene) { scene->node.files.remove(key); });
     };
     add(QStringLiteral("PathData"), HostilePathFiles(folder));
     add(QStringLiteral("DescentVector"), HostileDescentFiles(folder));
     for (const HostileFile& picture : HostilePictures(folder)) {
-        Add("FillImage " + picture.name, [=](HostileScene* scene) {
-            scene->node.files[QStringLiteral("FillImage")] = picture.path;
-            scene->node.attributes[QStringLiteral("CheckPictureFills")] = 1;
-            scene->node.attributes[QStringLiteral("CheckDazzle")] = 1;
-        });
-        Add("NeonGifPath " + picture.name, [=](HostileScene* scene) {
-            scene->node.files[QStringLiteral("NeonGifPath")] = picture.path;
-            scene->node.attributes[QStringLiteral("CheckNeonBg")] = 1;
-            scene->node.neonEffect = 29;
-        });
+        Add(
+            "FillImage " + picture.name,
+            [=](HostileScene* scene) {
+                scene->node.files[QStringLiteral("FillImage")] = picture.path;
+                scene->node.attributes[QStringLiteral("CheckPictureFills")] = 1;
+                scene->node.attributes[QStringLiteral("CheckDazzle")] = 1;
+            },
+            picture.weight);
+        Add(
+            "NeonGifPath " + picture.name,
+            [=](HostileScene* scene) {
+                scene->node.files[QStringLiteral("NeonGifPath")] = picture.path;
+                scene->node.attributes[QStringLiteral("CheckNeonBg")] = 1;
+                scene->node.neonEffect = 29;
+            },
+            picture.weight);
         const QString frogs = picture.path + QStringLiteral("-frogs");
         folder.mkpath(frogs);
         for (int number = 1; number <= 5 && !picture.path.isEmpty(); ++number)
             QFile::link(picture.path, QStringLiteral("%1/Frog%2.png").arg(frogs).arg(number));
-        Add("frogs " + picture.name, [=](HostileScene* scene) {
-            scene->frogs = frogs;
-            SetMotion(&scene->node, 19 + picture.name.size() % 2, 9);
-        });
+        Add(
+            "frogs " + picture.name,
+            [=](HostileScene* scene) {
+                scene->frogs = frogs;
+                SetMotion(&scene->node, 19 + picture.name.size() % 2, 9);
+            },
+            picture.weight);
     }
 }
 
@@ -203,19 +223,25 @@ QVector<HostileScene> HostileScenes(const QDir& folder)
     std::mt19937 random(20);
     const auto below = [&](int bound) { return int(random() % unsigned(bound)); };
     QVector<HostileScene> scenes;
-    for (int i = 0; i < 2 * bends.size(); ++i) {
-        const Sample& sample = i % 5 == 4 ? large : usual;
+    const auto add = [&](const QList<Bend>& together) {
+        const Sample& sample = scenes.size() % 5 == 4 ? large : usual;
         HostileScene scene;
-        scene.node = sample.Node(i % motionCount, below(BackgroundCount), below(10));
+        scene.node = sample.Node(scenes.size() % motionCount, below(BackgroundCount), below(10));
         scene.alphaBlend = below(2) == 0;
-        QList<Bend> all{bends.at(i % bends.size())};
-        if (i >= bends.size())
-            all += {bends.at(below(bends.size())), bends.at(below(bends.size()))};
-        for (const Bend& bend : all) {
+        for (const Bend& bend : together) {
             scene.name += (scene.name.isEmpty() ? "" : ", ") + bend.name;
+            scene.weight = qMax(scene.weight, bend.weight);
             bend.apply(&scene);
         }
         scenes.append(scene);
+    };
+    QList<Bend> light;
+    for (const Bend& bend : bends) {
+        add({bend});
+        if (bend.weight == Weight::Light)
+            light.append(bend);
     }
+    for (const Bend& bend : light)
+        add({bend, light.at(below(light.size())), light.at(below(light.size()))});
     return scenes;
 }

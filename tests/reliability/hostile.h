@@ -12,13 +12,16 @@
 #include <QList>
 #include <QVector>
 
+/** What a scene costs: slow ones are played only once, heavy ones may take long. */
+enum class Weight { Light, Slow, Heavy };
+
 struct HostileScene
 {
     QByteArray name; ///< what is wrong with it
     AnimText::SceneNode node;
     bool alphaBlend = true;
-    QString frogs;      ///< folder of the frogs' pictures; empty: none
-    bool heavy = false; ///< takes long on purpose
+    QString frogs; ///< folder of the frogs' pictures; empty: none
+    Weight weight = Weight::Light;
 };
 
 /** A file under the name that tells what is wrong with it. */
@@ -26,7 +29,7 @@ struct HostileFile
 {
     QByteArray name;
     QString path;
-    bool heavy = false;
+    Weight weight = Weight::Light;
 };
 
 /** Each writes its files into @p folder. */
@@ -35,8 +38,8 @@ QList<HostileFile> HostileDescentFiles(const QDir& folder);
 QList<HostileFile> HostilePictures(const QDir& folder);
 
 /**
- * Every single thing that can be wrong, each in a scene of its own, and once more together with
- * two others; always the same ones.
+ * Every single thing that can be wrong, each in a scene of its own, and, where that is not slow,
+ * once more together with two others; always the same ones.
  */
 QVector<HostileScene> HostileScenes(const QDir& folder);
 

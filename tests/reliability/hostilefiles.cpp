@@ -63,23 +63,26 @@ public:
     {
     }
 
-    void Add(const char* name, const QByteArray& content, bool heavy = false)
+    void Add(const char* name, const QByteArray& content, Weight weight = Weight::Light)
     {
         const QString path = NextPath();
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
             qFatal("%s cannot be written", qPrintable(path));
-        files.append({name, path, heavy});
+        files.append({name, path, weight});
     }
 
     /** A file of @p size that begins with @p head and has holes behind it. */
     void AddSparse(const char* name, const QByteArray& head, qint64 size)
     {
-        Add(name, head);
+        Add(name, head, Weight::Slow);
         QFile(files.last().path).resize(size);
     }
 
-    void AddPath(const char* name, const QString& path) { files.append({name, path, false}); }
+    void AddPath(const char* name, const QString& path, Weight weight = Weight::Light)
+    {
+        files.append({name, path, weight});
+    }
 
     /** What is there and is no file that could be read. */
     void AddImpossible()
@@ -166,9 +169,10 @@ QByteArray Gif(const QByteArray& size)
 QList<HostileFile> HostilePathFiles(const QDir& where)
 {
     Folder folder(where, "path");
-    const auto add = [&](const char* name, const QByteArray& outline, bool heavy = false) {
+    const auto add = [&](const char* name, const QByteArray& outline,
+                         Weight weight = Weight::Light) {
         // Between two sound ones, which keep their places.
-        folder.Add(name, File(Bytes(qint32(3)) + Triangle(9) + outline + Triangle(7)), heavy);
+        folder.Add(name, File(Bytes(qint32(3)) + Triangle(9) + outline + Triangle(7)), weight);
     };
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
@@ -203,8 +207,8 @@ QList<HostileFile> HostilePathFiles(const QDir& where)
     add("as far as may be", Triangle(1e6));
     add("as far as may be, to the left", Triangle(-1e6));
     add("one element too many", Zigzag(65537, 9));
-    add("as many elements as may be", Zigzag(65536, 30), true);
-    add("many elements, and far", Zigzag(16384, 1e6), true);
+    add("as many elements as may be", Zigzag(65536, 30), Weight::Heavy);
+    add("many elements, and far", Zigzag(16384, 1e6), Weight::Heavy);
     return folder.files;
 }
 
@@ -236,7 +240,7 @@ QList<HostileFile> HostilePictures(const QDir& where)
     folder.Add("a film cut off", Gif(QByteArray("\x01\x00\x01\x00", 4)).left(40));
     QImage large(5000, 4000, QImage::Format_Grayscale8);
     large.fill(90);
-    folder.AddPath("20 megapixels", where.filePath(QStringLiteral("large.png")));
+    folder.AddPath("20 megapixels", where.filePath(QStringLiteral("large.png")), Weight::Slow);
     large.save(folder.files.last().path);
     return folder.files;
 }

@@ -111,7 +111,7 @@ void TestHostile::PlaysOn()
     QCOMPARE(Torv::Accounts().liveSessions, 0);
     QCOMPARE(Torv::Accounts().liveLayers, 0);
     QCOMPARE(TestSign::Dispatcher()->LiveTimers(), 0);
-    QVERIFY2(seconds < (scene.heavy ? mostHeavySeconds : mostSeconds),
+    QVERIFY2(seconds < (scene.weight == Weight::Heavy ? mostHeavySeconds : mostSeconds),
              qPrintable(QString::number(seconds)));
     QVERIFY2(IsSanitized() || growth <= mostMemory, qPrintable(QString::number(growth)));
     if (qEnvironmentVariableIsSet("ANIMATIONTEXT_MEASURES"))
