@@ -209,8 +209,8 @@ private slots:
 
     void log()
     {
-        TestSession test;
         QStringList lines;
+        TestSession test;
         const auto collect = [](void* context, const QString& line) {
             static_cast<QStringList*>(context)->append(line);
         };
