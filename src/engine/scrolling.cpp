@@ -15,6 +15,12 @@ namespace {
 // The raster painter computes in 16 bits. What begins beyond is painted nearer and moved by bytes.
 const int lastPaintableX = 31999;
 
+// A column repeats as often as the area is high. Where its heights add up to next to nothing, a
+// frame would take very long: so many characters beyond the text are looked at, and so many
+// painted.
+const int mostRepeated = 1 << 20;
+const int mostRepainted = 4096;
+
 // Negative heights lead a column away; from here on it does not come back into the picture.
 const int columnEnd = 1 << 29;
 
@@ -91,18 +97,15 @@ void animationRealization::DrawTail(int first, int end)
 }
 
 /**
- * How many characters of the column a frame looks at. Heights that add up to nothing would never
- * end, so that is once all of them; and heights that add up to next to nothing would take very
- * long. Columns of characters that are a pixel high, taken together, are not cut short.
+ * How many characters of the column a frame may look at. Heights that add up to nothing would never
+ * end, so that is once all of them.
  */
 int animationRealization::ColumnLength() const
 {
-    const int slack = 1024;
-    const int n = charPaths.size();
     qint64 cycle = 0;
-    for (int k = 0; k < n; ++k)
+    for (int k = 0; k < charPaths.size(); ++k)
         cycle += charHeights.value(k);
-    return cycle > 0 ? n + FrameHeight() + slack : n;
+    return cycle > 0 ? charPaths.size() + mostRepeated : charPaths.size();
 }
 
 void animationRealization::ContinueEffectUp()
@@ -116,9 +119,12 @@ void animationRealization::ContinueEffectUp()
         const int length = ColumnLength();
         int k = 0;
         int d = p; // how far character k's top has come up from the bottom edge
-        for (int visited = 0; d >= 0 && d < columnEnd && visited < length; ++visited) {
-            if (d <= h || d - charHeights.value(k) <= h)
+        int room = n + h + mostRepainted;
+        for (int visited = 0; d >= 0 && d < columnEnd && visited < length && room > 0; ++visited) {
+            if (d <= h || d - charHeights.value(k) <= h) {
                 AddGlyph(k, x, h + scrollOffset - p + charHeights.value(k) - charDescents.value(k));
+                --room;
+            }
             k = k + 1 < n ? k + 1 : 0;
             // By the height of the character to come, not of the one just placed: unequal
             // neighbours overlap or gap by the difference.
@@ -141,9 +147,12 @@ void animationRealization::ContinueEffectDown()
         const int length = ColumnLength();
         int k = n - 1;
         int y = p; // the baseline; unlike the rising column's it counts neither height nor descent
-        for (int visited = 0; y >= 1 && y < columnEnd && visited < length; ++visited) {
-            if (y <= h || y - charHeights.value(k) < h)
+        int room = n + h + mostRepainted;
+        for (int visited = 0; y >= 1 && y < columnEnd && visited < length && room > 0; ++visited) {
+            if (y <= h || y - charHeights.value(k) < h) {
                 AddGlyph(k, x, y);
+                --room;
+            }
             k = k > 0 ? k - 1 : n - 1;
             scrollOffset -= charHeights.value(k);
             y = p + scrollOffset;
