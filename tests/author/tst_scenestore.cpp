@@ -2,8 +2,10 @@
 
 #include "scenestore.h"
 
+#include <QRandomGenerator>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 #include <sys/ptrace.h>
 #include <sys/wait.h>
@@ -140,6 +142,28 @@ private slots:
         }
         QCOMPARE(ending, Ending::Finished);
         QVERIFY2(calls > 20, qPrintable(QString::number(calls))); // or nothing was written at all
+    }
+
+    // ANIMTEXT_KILLS=500 kills that often.
+    void killedAtRandom()
+    {
+        const QList<Sample> samples{Sample(path, "one"), Sample(path, "two"),
+                                    Sample(path, "three")};
+        QVERIFY(Save(samples.first()));
+        QRandomGenerator random(4711);
+        const int kills = qMax(20, qEnvironmentVariableIntValue("ANIMTEXT_KILLS"));
+        for (int kill = 0; kill < kills; ++kill) {
+            int next = random.bounded(samples.size());
+            const Ending ending = RunAndKill(random.bounded(600), [&] {
+                for (;;)
+                    Save(samples.at(next++ % samples.size()));
+            });
+            if (ending == Ending::Untraceable)
+                QSKIP("processes cannot be traced here");
+            QVERIFY(std::any_of(samples.begin(), samples.end(), [this](const Sample& sample) {
+                return Holds("sign.json", sample);
+            }));
+        }
     }
 
 private:
