@@ -50,6 +50,8 @@ public:
     PROBE(engine, pictureSession)
     PROBE(engine, sessionLayer)
     PROBE(engine, dazzleLayer)
+    PROBE(engine, dazzleColorIndex)
+    PROBE(engine, stayImage)
 
 private:
     animationRealization& engine;
