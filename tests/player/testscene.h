@@ -16,7 +16,7 @@ namespace AnimText {
 /** What a test wants to be different from one text to the next. */
 struct TextWishes
 {
-    QString text = QStringLiteral("abc");
+    QString text = "abc";
     int effect = 4;
     int speed = 9;
     int hold = 0;
@@ -34,35 +34,32 @@ class TestScenes
 public:
     QString Path(const QString& name) const { return folder.filePath(name); }
     QString Folder() const { return folder.path(); }
-    bool IsValid() const { return folder.isValid(); }
 
-    SceneNode Node(const TextWishes& wishes)
+    /** A node of these wishes, with @p more attributes. */
+    SceneNode Node(const TextWishes& wishes, const QMap<QString, QVariant>& more = {})
     {
         const int count = wishes.text.size();
         QPainterPath glyph;
         glyph.addRect(2, testDescent - testHeight + 2, wishes.width - 4, testHeight - 4);
-        const QString base = QStringLiteral("node%1").arg(nodes++);
-        Write(base + QStringLiteral(".path"), PathFile(QVector<QPainterPath>(count, glyph)));
-        Write(base + QStringLiteral(".descent"), DescentFile(QVector<int>(count, testDescent)));
+        const QString base = QString("node%1").arg(nodes++);
+        Write(base + ".path", PathFile(QVector<QPainterPath>(count, glyph)));
+        Write(base + ".descent", DescentFile(QVector<int>(count, testDescent)));
 
         SceneNode node;
         node.size = wishes.area;
         node.hold = wishes.hold;
-        node.attributes = {{QStringLiteral("Text"), wishes.text},
-                           {QStringLiteral("AnimationEffect"), wishes.effect},
-                           {QStringLiteral("AnimationSpeed"), wishes.speed},
-                           {QStringLiteral("ContinueSpeed"), wishes.speed},
-                           {QStringLiteral("PlayTimes"), wishes.plays}};
+        node.attributes = {{"Text", wishes.text},
+                           {"AnimationEffect", wishes.effect},
+                           {"AnimationSpeed", wishes.speed},
+                           {"ContinueSpeed", wishes.speed},
+                           {"PlayTimes", wishes.plays}};
+        node.attributes.insert(more);
         for (int i = 0; i < count; ++i) {
-            node.lists[QStringLiteral("TextWidth")].append(
-                {{QStringLiteral("text_width"), QString::number(wishes.width)}});
-            node.lists[QStringLiteral("TextHeight")].append(
-                {{QStringLiteral("text_height"), QString::number(testHeight)}});
-            node.lists[QStringLiteral("TextAttribute")].append(
-                {{QStringLiteral("Color"), QString::number(0xFFA040)}});
+            node.lists["TextWidth"].append({{"text_width", QString::number(wishes.width)}});
+            node.lists["TextHeight"].append({{"text_height", QString::number(testHeight)}});
+            node.lists["TextAttribute"].append({{"Color", QString::number(0xFFA040)}});
         }
-        node.files = {{QStringLiteral("PathData"), base + QStringLiteral(".path")},
-                      {QStringLiteral("DescentVector"), base + QStringLiteral(".descent")}};
+        node.files = {{"PathData", base + ".path"}, {"DescentVector", base + ".descent"}};
         return node;
     }
 
@@ -78,7 +75,7 @@ public:
     }
 
     /** Writes the scene. @return its path */
-    QString Save(const Scene& scene, const QString& name = QStringLiteral("scene.json"))
+    QString Save(const Scene& scene, const QString& name = "scene.json")
     {
         Write(name, SceneToJson(scene));
         return Path(name);
