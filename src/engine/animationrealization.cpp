@@ -13,6 +13,8 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include <cstring>
+
 namespace Lw {
 namespace HNodeAnimationText {
 
@@ -179,14 +181,19 @@ void animationRealization::LoadFillPicture()
         pictureBrush = QBrush(picture);
 }
 
-/** A picture; null when the size holds no pixel or too many. */
+/** A picture of zero bytes; null when the size holds no pixel or too many. */
 QImage animationRealization::NewCanvas(const QSize& size, QImage::Format format)
 {
     const int bytesPerPixel = format == QImage::Format_RGB888 ? 3 : 4;
     if (size.width() <= 0 || size.height() <= 0 ||
         qint64(size.width()) * size.height() > maxCanvasBytes / bytesPerPixel)
         return QImage();
-    return QImage(size, format);
+    QImage canvas(size, format);
+    // With what pads the rows, which fill() leaves as it is: the tail of a long line is copied by
+    // rows of bytes, and its padding may come to stand in the picture.
+    if (!canvas.isNull())
+        std::memset(canvas.bits(), 0, size_t(canvas.bytesPerLine()) * size_t(canvas.height()));
+    return canvas;
 }
 
 void animationRealization::Start()

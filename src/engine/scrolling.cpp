@@ -81,7 +81,6 @@ void animationRealization::DrawTail(int first, int end)
             auxPath.addPath(
                 charPaths.at(k).translated(float(charPositions.value(k) - start), float(RestY(k))));
     }
-    tail.fill(0);
     QPainter tailPainter(&tail);
     // White, not the text's colour: the tail has always been so.
     tailPainter.setPen(QPen(QBrush(Qt::white), 0));
