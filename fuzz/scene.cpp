@@ -1,5 +1,5 @@
 // A scene file. One that can be read must come back the same when it is written and read again.
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QByteArray>
 #include <QString>

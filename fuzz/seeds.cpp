@@ -1,7 +1,7 @@
 // fuzz-seeds FOLDER: writes what the fuzzers start from, a folder for each, and a dictionary of the
 // words of the scene file. Everything comes from the author library, as real scenes do.
-#include "author.h"
-#include "schema.h"
+#include "author/author.h"
+#include "scene/schema.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 // A line of text on its way to a node: its units, their outlines and their places.
 
-#include "author.h"
-#include "pages.h"
-#include "placement.h"
+#include "author/author.h"
+#include "author/placement.h"
+#include "scene/pages.h"
 
 #include <QFontMetricsF>
 #include <QImage>

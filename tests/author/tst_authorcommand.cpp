@@ -1,6 +1,6 @@
 #include "testfolder.h"
 
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,7 +1,7 @@
 #include "testfolder.h"
 
-#include "datafile.h"
-#include "glyphfiles.h"
+#include "author/glyphfiles.h"
+#include "validate/datafile.h"
 
 #include <QPainterPath>
 #include <QtTest>

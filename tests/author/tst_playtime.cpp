@@ -2,10 +2,10 @@
 
 #include "testfolder.h"
 
-#include "glyphfiles.h"
+#include "author/glyphfiles.h"
 #include "node/hanimationtextnode.h"
-#include "pages.h"
-#include "playtime.h"
+#include "scene/pages.h"
+#include "validate/playtime.h"
 
 #include <QPainterPath>
 #include <QRandomGenerator>

@@ -1,6 +1,6 @@
 #include "testfolder.h"
 
-#include "scenestore.h"
+#include "author/scenestore.h"
 
 #include <QRandomGenerator>
 #include <QtTest>

@@ -1,9 +1,9 @@
 #include "testfolder.h"
 
-#include "glyphfiles.h"
-#include "validate.h"
+#include "author/glyphfiles.h"
+#include "validate/validate.h"
 
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QPainterPath>
 #include <QtTest>

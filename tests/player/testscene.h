@@ -5,8 +5,8 @@
 #ifndef TESTSCENE_H
 #define TESTSCENE_H
 
-#include "glyphfiles.h"
-#include "scene.h"
+#include "author/glyphfiles.h"
+#include "scene/scene.h"
 
 #include <QFile>
 #include <QTemporaryDir>

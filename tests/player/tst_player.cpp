@@ -1,6 +1,6 @@
-#include "film.h"
-#include "plugin.h"
-#include "simulation.h"
+#include "player/film.h"
+#include "player/plugin.h"
+#include "player/simulation.h"
 #include "testscene.h"
 
 #include <hneonnodebase.h>

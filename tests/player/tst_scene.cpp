@@ -1,6 +1,6 @@
 #include "testscene.h"
 
-#include "catalogue.h"
+#include "scene/catalogue.h"
 
 #include <QtTest>
 

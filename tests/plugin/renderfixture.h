@@ -9,10 +9,10 @@
 #include "probes.h"
 #include "rectangletext.h"
 
+#include "player/virtualdispatcher.h"
 #include <display.h>
 #include <drawneonbg.h>
 #include <hpluginmanager.h>
-#include <virtualdispatcher.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>

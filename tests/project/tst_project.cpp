@@ -53,10 +53,8 @@ QString CodeOf(const QString& text)
 // The file of this project that an include names; empty when it is none.
 QString Included(const QString& from, const QString& name)
 {
-    QStringList folders = {QFileInfo(from).path(), "src", "platform/host", "platform/device"};
-    for (const QString& tool : QDir(root + "/tools").entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        folders.append("tools/" + tool);
-    for (const QString& folder : folders) {
+    for (const QString& folder : {QFileInfo(from).path(), QString("src"), QString("platform/host"),
+                                  QString("platform/device"), QString("tools")}) {
         const QString path = QDir::cleanPath(root + "/" + folder + "/" + name);
         if (QFile::exists(path))
             return QDir(root).relativeFilePath(path);

@@ -1,7 +1,7 @@
 #include "hostile.h"
 
 #include "samples.h"
-#include "schema.h"
+#include "scene/schema.h"
 
 #include <functional>
 #include <limits>

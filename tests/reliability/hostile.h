@@ -5,7 +5,7 @@
 #ifndef TESTS_HOSTILE_H
 #define TESTS_HOSTILE_H
 
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QByteArray>
 #include <QDir>

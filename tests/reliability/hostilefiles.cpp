@@ -1,6 +1,6 @@
 #include "hostile.h"
 
-#include "glyphfiles.h"
+#include "author/glyphfiles.h"
 
 #include <QDataStream>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "samples.h"
 
-#include "author.h"
-#include "catalogue.h"
+#include "author/author.h"
+#include "scene/catalogue.h"
 
 #include <QFile>
 

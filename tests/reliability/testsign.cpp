@@ -1,8 +1,8 @@
 #include "testsign.h"
 
-#include "nodetree.h"
-#include "player.h"
-#include "plugin.h"
+#include "player/nodetree.h"
+#include "player/player.h"
+#include "player/plugin.h"
 
 #include <QTimer>
 

@@ -5,8 +5,8 @@
 #ifndef TESTS_TESTSIGN_H
 #define TESTS_TESTSIGN_H
 
-#include "scene.h"
-#include "virtualdispatcher.h"
+#include "player/virtualdispatcher.h"
+#include "scene/scene.h"
 
 #include <display.h>
 #include <hneonnodebase.h>

@@ -1,5 +1,5 @@
 // Three hundred texts on one display: each shows what it shows when it is alone.
-#include "player.h"
+#include "player/player.h"
 #include "samples.h"
 #include "testsign.h"
 

@@ -1,9 +1,9 @@
-#include "author.h"
+#include "author/author.h"
 
-#include "authorwords.h"
-#include "catalogue.h"
-#include "commands.h"
-#include "validate.h"
+#include "animtext/authorwords.h"
+#include "animtext/commands.h"
+#include "scene/catalogue.h"
+#include "validate/validate.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
-#include "authorwords.h"
+#include "animtext/authorwords.h"
 
-#include "catalogue.h"
-#include "suggest.h"
+#include "scene/catalogue.h"
+#include "scene/suggest.h"
 
 #include <QDir>
 #include <QFile>

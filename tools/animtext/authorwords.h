@@ -5,8 +5,8 @@
 #ifndef ANIMTEXT_AUTHORWORDS_H
 #define ANIMTEXT_AUTHORWORDS_H
 
-#include "author.h"
-#include "commandline.h"
+#include "animtext/commandline.h"
+#include "author/author.h"
 
 #include <QSize>
 #include <QString>

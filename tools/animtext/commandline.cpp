@@ -1,4 +1,4 @@
-#include "commandline.h"
+#include "animtext/commandline.h"
 
 #include <cstdio>
 

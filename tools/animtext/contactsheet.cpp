@@ -1,4 +1,4 @@
-#include "contactsheet.h"
+#include "animtext/contactsheet.h"
 
 #include <QPainter>
 

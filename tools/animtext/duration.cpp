@@ -1,8 +1,8 @@
-#include "commands.h"
-#include "durationtable.h"
-#include "opening.h"
-#include "progress.h"
-#include "simulation.h"
+#include "animtext/commands.h"
+#include "animtext/durationtable.h"
+#include "animtext/opening.h"
+#include "animtext/progress.h"
+#include "player/simulation.h"
 
 #include <hneonnodebase.h>
 

@@ -1,9 +1,9 @@
-#include "durationtable.h"
+#include "animtext/durationtable.h"
 
-#include "catalogue.h"
-#include "messages.h"
-#include "progress.h"
-#include "simulation.h"
+#include "animtext/messages.h"
+#include "animtext/progress.h"
+#include "player/simulation.h"
+#include "scene/catalogue.h"
 
 #include <hneonnodebase.h>
 

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_DURATIONTABLE_H
 #define ANIMTEXT_DURATIONTABLE_H
 
-#include "opening.h"
+#include "animtext/opening.h"
 
 namespace AnimText {
 

@@ -1,11 +1,11 @@
-#include "commands.h"
-#include "messages.h"
-#include "opening.h"
+#include "animtext/commands.h"
+#include "animtext/messages.h"
+#include "animtext/opening.h"
 
-#include "catalogue.h"
-#include "glyphfiles.h"
-#include "playlength.h"
-#include "plugin.h"
+#include "author/glyphfiles.h"
+#include "player/playlength.h"
+#include "player/plugin.h"
+#include "scene/catalogue.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,8 +1,8 @@
-#include "commandline.h"
-#include "commands.h"
-#include "messages.h"
-#include "suggest.h"
-#include "virtualdispatcher.h"
+#include "animtext/commandline.h"
+#include "animtext/commands.h"
+#include "animtext/messages.h"
+#include "player/virtualdispatcher.h"
+#include "scene/suggest.h"
 
 #include <QGuiApplication>
 #include <QTextCodec>

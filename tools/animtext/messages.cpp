@@ -1,4 +1,4 @@
-#include "messages.h"
+#include "animtext/messages.h"
 
 #include <QSet>
 #include <QString>

@@ -1,6 +1,6 @@
-#include "opening.h"
+#include "animtext/opening.h"
 
-#include "plugin.h"
+#include "player/plugin.h"
 
 #include <limits>
 

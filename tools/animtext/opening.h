@@ -5,9 +5,9 @@
 #ifndef ANIMTEXT_OPENING_H
 #define ANIMTEXT_OPENING_H
 
-#include "commandline.h"
-#include "player.h"
-#include "scene.h"
+#include "animtext/commandline.h"
+#include "player/player.h"
+#include "scene/scene.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "progress.h"
+#include "animtext/progress.h"
 
 #include <QByteArray>
 

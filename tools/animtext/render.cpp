@@ -1,8 +1,8 @@
-#include "commands.h"
-#include "film.h"
-#include "filmfile.h"
-#include "opening.h"
-#include "progress.h"
+#include "animtext/commands.h"
+#include "animtext/opening.h"
+#include "animtext/progress.h"
+#include "player/film.h"
+#include "player/filmfile.h"
 
 #include <QDir>
 #include <QFileInfo>

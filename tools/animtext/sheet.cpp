@@ -1,10 +1,10 @@
-#include "commands.h"
-#include "contactsheet.h"
-#include "film.h"
-#include "opening.h"
-#include "progress.h"
+#include "animtext/commands.h"
+#include "animtext/contactsheet.h"
+#include "animtext/opening.h"
+#include "animtext/progress.h"
+#include "player/film.h"
 
-#include "catalogue.h"
+#include "scene/catalogue.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

@@ -1,7 +1,7 @@
-#include "commands.h"
-#include "opening.h"
-#include "progress.h"
-#include "soakmix.h"
+#include "animtext/commands.h"
+#include "animtext/opening.h"
+#include "animtext/progress.h"
+#include "animtext/soakmix.h"
 
 #include <display.h>
 

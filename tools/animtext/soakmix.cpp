@@ -1,7 +1,7 @@
-#include "soakmix.h"
+#include "animtext/soakmix.h"
 
-#include "author.h"
-#include "catalogue.h"
+#include "author/author.h"
+#include "scene/catalogue.h"
 
 #include <QSaveFile>
 

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_SOAKMIX_H
 #define ANIMTEXT_SOAKMIX_H
 
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QDir>
 #include <QVector>

@@ -1,5 +1,5 @@
-#include "commands.h"
-#include "opening.h"
+#include "animtext/commands.h"
+#include "animtext/opening.h"
 
 #include <QCryptographicHash>
 

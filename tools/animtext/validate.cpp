@@ -1,7 +1,7 @@
-#include "validate.h"
+#include "validate/validate.h"
 
-#include "commandline.h"
-#include "commands.h"
+#include "animtext/commandline.h"
+#include "animtext/commands.h"
 
 namespace AnimText {
 

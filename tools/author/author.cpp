@@ -1,9 +1,9 @@
-#include "author.h"
+#include "author/author.h"
 
-#include "glyphfiles.h"
-#include "pages.h"
-#include "placement.h"
-#include "scenestore.h"
+#include "author/glyphfiles.h"
+#include "author/placement.h"
+#include "author/scenestore.h"
+#include "scene/pages.h"
 
 #include <QFontMetrics>
 #include <QtMath>

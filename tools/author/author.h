@@ -5,8 +5,8 @@
 #ifndef ANIMTEXT_AUTHOR_H
 #define ANIMTEXT_AUTHOR_H
 
-#include "scene.h"
-#include "shaping.h"
+#include "author/shaping.h"
+#include "scene/scene.h"
 
 #include <QColor>
 #include <QFont>

@@ -1,4 +1,4 @@
-#include "glyphfiles.h"
+#include "author/glyphfiles.h"
 
 #include <QDataStream>
 

@@ -1,4 +1,4 @@
-#include "author.h"
+#include "author/author.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
-#include "placement.h"
+#include "author/placement.h"
 
-#include "pages.h"
-#include "seams.h"
+#include "author/seams.h"
+#include "scene/pages.h"
 
 #include <algorithm>
 

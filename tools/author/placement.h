@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_PLACEMENT_H
 #define ANIMTEXT_PLACEMENT_H
 
-#include "shaping.h"
+#include "author/shaping.h"
 
 namespace AnimText {
 

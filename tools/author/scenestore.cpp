@@ -1,4 +1,4 @@
-#include "scenestore.h"
+#include "author/scenestore.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_SCENESTORE_H
 #define ANIMTEXT_SCENESTORE_H
 
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QByteArray>
 #include <QMap>

@@ -1,4 +1,4 @@
-#include "seams.h"
+#include "author/seams.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,6 +1,6 @@
-#include "shaping.h"
+#include "author/shaping.h"
 
-#include "seams.h"
+#include "author/seams.h"
 
 #include <QFontMetrics>
 #include <QGlyphRun>

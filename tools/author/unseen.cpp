@@ -1,4 +1,4 @@
-#include "shaping.h"
+#include "author/shaping.h"
 
 #include <QVector>
 

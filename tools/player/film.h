@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_FILM_H
 #define ANIMTEXT_FILM_H
 
-#include "playlength.h"
+#include "player/playlength.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,7 +1,7 @@
-#include "filmfile.h"
+#include "player/filmfile.h"
 
-#include "pngfolder.h"
-#include "videofile.h"
+#include "player/pngfolder.h"
+#include "player/videofile.h"
 
 #include <QFileInfo>
 

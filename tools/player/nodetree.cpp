@@ -1,4 +1,4 @@
-#include "nodetree.h"
+#include "player/nodetree.h"
 
 #include <hneonnodebase.h>
 #include <inodeplugin.h>

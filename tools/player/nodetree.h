@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_NODETREE_H
 #define ANIMTEXT_NODETREE_H
 
-#include "scene.h"
+#include "scene/scene.h"
 
 #include <QString>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "player.h"
+#include "player/player.h"
 
 namespace AnimText {
 

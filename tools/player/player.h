@@ -5,8 +5,8 @@
 #ifndef ANIMTEXT_PLAYER_H
 #define ANIMTEXT_PLAYER_H
 
-#include "stage.h"
-#include "virtualdispatcher.h"
+#include "player/stage.h"
+#include "player/virtualdispatcher.h"
 
 #include <QImage>
 #include <QVector>

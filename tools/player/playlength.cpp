@@ -1,4 +1,4 @@
-#include "playlength.h"
+#include "player/playlength.h"
 
 #include <hneonnodebase.h>
 #include <torvsdk.h>

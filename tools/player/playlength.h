@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_PLAYLENGTH_H
 #define ANIMTEXT_PLAYLENGTH_H
 
-#include "player.h"
+#include "player/player.h"
 
 #include <QString>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "plugin.h"
+#include "player/plugin.h"
 
 #include <inodeplugin.h>
 

@@ -1,4 +1,4 @@
-#include "pngfolder.h"
+#include "player/pngfolder.h"
 
 #include <QDir>
 #include <QFileInfo>

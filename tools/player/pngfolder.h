@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_PNGFOLDER_H
 #define ANIMTEXT_PNGFOLDER_H
 
-#include "filmfile.h"
+#include "player/filmfile.h"
 
 #include <QTemporaryDir>
 

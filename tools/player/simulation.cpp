@@ -1,4 +1,4 @@
-#include "simulation.h"
+#include "player/simulation.h"
 
 #include <hneonnodebase.h>
 

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_SIMULATION_H
 #define ANIMTEXT_SIMULATION_H
 
-#include "playlength.h"
+#include "player/playlength.h"
 
 #include <QString>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "stage.h"
+#include "player/stage.h"
 
 #include <hneonnodebase.h>
 #include <hpluginmanager.h>

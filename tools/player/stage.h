@@ -5,8 +5,8 @@
 #ifndef ANIMTEXT_STAGE_H
 #define ANIMTEXT_STAGE_H
 
-#include "nodetree.h"
-#include "scene.h"
+#include "player/nodetree.h"
+#include "scene/scene.h"
 
 #include <display.h>
 #include <icontentrender.h>

@@ -1,4 +1,4 @@
-#include "videofile.h"
+#include "player/videofile.h"
 
 #include <QDir>
 #include <QFileInfo>

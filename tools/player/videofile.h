@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_VIDEOFILE_H
 #define ANIMTEXT_VIDEOFILE_H
 
-#include "filmfile.h"
+#include "player/filmfile.h"
 
 #include <QProcess>
 #include <QTemporaryFile>

@@ -1,4 +1,4 @@
-#include "virtualdispatcher.h"
+#include "player/virtualdispatcher.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -1,4 +1,4 @@
-#include "catalogue.h"
+#include "scene/catalogue.h"
 
 namespace AnimText {
 

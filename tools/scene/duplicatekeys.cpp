@@ -1,4 +1,4 @@
-#include "duplicatekeys.h"
+#include "scene/duplicatekeys.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "pages.h"
+#include "scene/pages.h"
 
 namespace AnimText {
 

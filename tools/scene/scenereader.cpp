@@ -1,7 +1,7 @@
-#include "duplicatekeys.h"
-#include "scene.h"
-#include "schema.h"
-#include "suggest.h"
+#include "scene/duplicatekeys.h"
+#include "scene/scene.h"
+#include "scene/schema.h"
+#include "scene/suggest.h"
 
 #include <QFile>
 #include <QFileInfo>

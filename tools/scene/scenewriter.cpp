@@ -1,5 +1,5 @@
-#include "scene.h"
-#include "schema.h"
+#include "scene/scene.h"
+#include "scene/schema.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "schema.h"
+#include "scene/schema.h"
 
 namespace AnimText {
 

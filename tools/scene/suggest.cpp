@@ -1,4 +1,4 @@
-#include "suggest.h"
+#include "scene/suggest.h"
 
 #include <QVector>
 

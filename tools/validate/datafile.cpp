@@ -1,4 +1,4 @@
-#include "datafile.h"
+#include "validate/datafile.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -1,10 +1,10 @@
-#include "nodecheck.h"
+#include "validate/nodecheck.h"
 
-#include "catalogue.h"
-#include "datafile.h"
-#include "pages.h"
-#include "playtime.h"
-#include "schema.h"
+#include "scene/catalogue.h"
+#include "scene/pages.h"
+#include "scene/schema.h"
+#include "validate/datafile.h"
+#include "validate/playtime.h"
 
 #include <QFileInfo>
 #include <QRect>

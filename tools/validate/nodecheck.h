@@ -5,8 +5,8 @@
 #ifndef ANIMTEXT_NODECHECK_H
 #define ANIMTEXT_NODECHECK_H
 
-#include "scene.h"
-#include "validate.h"
+#include "scene/scene.h"
+#include "validate/validate.h"
 
 #include <QVector>
 

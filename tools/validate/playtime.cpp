@@ -1,4 +1,4 @@
-#include "playtime.h"
+#include "validate/playtime.h"
 
 #include <algorithm>
 #include <cmath>

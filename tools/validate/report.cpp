@@ -1,4 +1,4 @@
-#include "validate.h"
+#include "validate/validate.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
-#include "validate.h"
+#include "validate/validate.h"
 
-#include "nodecheck.h"
+#include "validate/nodecheck.h"
 
 namespace AnimText {
 
