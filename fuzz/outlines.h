@@ -5,7 +5,7 @@
 #ifndef FUZZ_OUTLINES_H
 #define FUZZ_OUTLINES_H
 
-#include "node/glyphdata.h"
+#include "text/glyphdata.h"
 
 #include <QBuffer>
 #include <QDataStream>

@@ -1,7 +1,7 @@
 // Fly-in effects: the characters of a page come in one at a time, each in a straight line from an
 // edge to its slot. The names tell where a character comes to, not from: "from left" enters at the
 // right edge and moves left, "from top" rises from below, and so on.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 // Frog effects: a frog hops along the top edge and brings the characters one by one. Each takes
 // five frames, paced by the ticks between two frames.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include "node/hanimationtextnode.h"
 

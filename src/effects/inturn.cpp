@@ -1,6 +1,6 @@
 // In-turn effects: the characters of a page come in one after another, each a step behind its left
 // neighbour.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 // Oscillating effects: the whole page stands there at once and its characters swing for a while.
 // moveOffset is the phase.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // Rotation and flip effects: the whole page turns, glyph by glyph or as a row.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <cmath>
 

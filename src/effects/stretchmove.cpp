@@ -1,5 +1,5 @@
 // Stretch and move effects: the characters of a page widen, grow, slide or climb into place.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 namespace Lw {
 namespace HNodeAnimationText {

@@ -1,5 +1,5 @@
 // Text zoom: the page pulses about its centre, or swells together with its mirror image.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 // Word-by-word effects: the page is revealed one character at a time, in reading order and in
 // place.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 #include "engine/animationrealization.h"
 
 #include "node/hanimationtextnode.h"
-#include "node/pagedivision.h"
+#include "text/pagedivision.h"
 
 #include <drawneonbg.h>
 #include <happconfig.h>

@@ -165,7 +165,7 @@ private:
     void AddHeldPage();
     bool PlaysFrogs() const;
 
-    // The frame that effects share: effects/frame.h
+    // The frame that effects share: engine/frame.h
     bool BeginFrame();
     void EndFrame();
     template <typename Shape>

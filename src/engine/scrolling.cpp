@@ -1,6 +1,6 @@
 // Continuous scrolling. Sideways the whole line is painted once and the device moves it; up and
 // down a single column of characters is painted frame by frame.
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <QDebug>
 #include <QPainter>

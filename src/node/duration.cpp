@@ -3,7 +3,7 @@
 // that hosts have made depend on the model, so it stays.
 #include "node/hanimationtextnode.h"
 
-#include "node/wrapping.h"
+#include "text/wrapping.h"
 
 #include <torvsdk.h>
 

@@ -1,6 +1,6 @@
 #include "node/hanimationtextnode.h"
 
-#include "node/glyphdata.h"
+#include "text/glyphdata.h"
 
 #include <QCoreApplication>
 #include <QDebug>

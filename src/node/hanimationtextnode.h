@@ -1,7 +1,7 @@
 #ifndef HANIMATIONTEXTNODE_H
 #define HANIMATIONTEXTNODE_H
 
-#include "node/linewidths.h"
+#include "text/linewidths.h"
 
 #include <hneonnodebase.h>
 

@@ -2,8 +2,8 @@
 // authoring side has measured everything; single reads read the host's store afresh.
 #include "node/hanimationtextnode.h"
 
-#include "node/pagedivision.h"
-#include "node/wrapping.h"
+#include "text/pagedivision.h"
+#include "text/wrapping.h"
 
 #include <happconfig.h>
 

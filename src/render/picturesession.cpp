@@ -3,7 +3,7 @@
 
 #include "engine/animationrealization.h"
 #include "node/hanimationtextnode.h"
-#include "node/wrapping.h"
+#include "text/wrapping.h"
 
 #include <drawneonbg.h>
 #include <hpluginmanager.h>

@@ -88,12 +88,23 @@ void ProjectTest::includesFollowTheRule_data()
         "[a-z_]+|c?[a-z]+(\\.h)?|Q[A-Za-z0-9]+|Qt[A-Z][A-Za-z]+/[A-Za-z]+";
     QTest::newRow("src") << "src"
                          << "src/.*|platform/host/.*|platform/device/torvsdk\\.h" << standardAndQt;
+    // Rooms of the plugin that know nothing of those above them.
+    for (const char* room : {"text"})
+        QTest::newRow(room) << QString("src/%1").arg(room) << QString("src/%1/.*").arg(room)
+                            << standardAndQt;
+    QTest::newRow("node") << "src/node"
+                          << "src/(node|text)/.*|platform/.*" << standardAndQt;
+    QTest::newRow("engine") << "src/engine"
+                            << "src/(engine|node|paint|text)/.*|platform/.*" << standardAndQt;
+    QTest::newRow("effects") << "src/effects"
+                             << "src/(effects|engine|node|paint)/.*|platform/.*" << standardAndQt;
     QTest::newRow("platform") << "platform"
                               << "platform/.*" << any;
     QTest::newRow("platform/device") << "platform/device"
                                      << "platform/device/.*" << any;
     QTest::newRow("tools") << "tools"
-                           << "(tools|platform)/.*|src/edit/animationtextedit\\.h" << any;
+                           << "(tools|platform)/.*|src/text/.*|src/edit/animationtextedit\\.h"
+                           << any;
 }
 
 void ProjectTest::includesFollowTheRule()
@@ -117,7 +128,7 @@ void ProjectTest::includesFollowTheRule()
                 wrong.append(Place(source, match.capturedStart()) + " includes " + name);
         }
     }
-    QVERIFY(seen > sources.size());
+    QVERIFY(seen > 0);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
 }
 

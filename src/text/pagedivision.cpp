@@ -1,7 +1,7 @@
-#include "node/pagedivision.h"
+#include "text/pagedivision.h"
 
-#include "node/linewidths.h"
-#include "node/wrapping.h"
+#include "text/linewidths.h"
+#include "text/wrapping.h"
 
 namespace Lw {
 namespace HNodeAnimationText {

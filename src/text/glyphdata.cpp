@@ -1,4 +1,4 @@
-#include "node/glyphdata.h"
+#include "text/glyphdata.h"
 
 #include <QDataStream>
 #include <QIODevice>

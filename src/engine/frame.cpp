@@ -1,4 +1,4 @@
-#include "effects/frame.h"
+#include "engine/frame.h"
 
 #include <QPainter>
 #include <qnumeric.h>

@@ -1,6 +1,6 @@
-#include "node/linewidths.h"
+#include "text/linewidths.h"
 
-#include "node/wrapping.h"
+#include "text/wrapping.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
