@@ -4,6 +4,7 @@ HEADERS += \
     $$PWD/engine/animationrealization.h \
     $$PWD/engine/frame.h \
     $$PWD/node/hanimationtextnode.h \
+    $$PWD/node/motions.h \
     $$PWD/plugin/export.h \
     $$PWD/plugin/hnodeanimationtext.h \
     $$PWD/render/hanimationtextrender.h \

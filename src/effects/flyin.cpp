@@ -19,8 +19,7 @@ void animationRealization::DrawFlight(int inFlight, double x, double y)
 void animationRealization::FlyFromLeftEffect()
 {
     if (BeginFrame()) {
-        for (int j = PageStart(); j < charIndex; ++j)
-            AddGlyph(j, RestX(j), RestY(j));
+        AddStanding();
         DrawFlight(charIndex, FrameWidth() - moveOffset, RestY(charIndex));
     }
     Advance(moveOffset, stepSize);
@@ -58,8 +57,7 @@ void animationRealization::FlyFromRightEffect()
     --charCount;
     if (charCount - 1 > PageEnd() && charCount >= 1)
         return;
-    stayPageIndex = pageIndex;
-    SwapPage();
+    LeavePage();
     // The text may be used up while pages remain; then the run is over all the same.
     if (IsLastPageOver() || charCount < 1) {
         EndRun();
@@ -81,8 +79,7 @@ void animationRealization::LandVertically(bool landed)
     if (charIndex < PageEnd())
         return;
 
-    stayPageIndex = pageIndex;
-    SwapPage();
+    LeavePage();
     if (!IsLastPageOver() && charIndex < text.size())
         return;
     pageIndex = 1;
@@ -99,8 +96,7 @@ void animationRealization::FlyFromTopEffect()
     // seen a step past its slot for one frame.
     const bool landed = y < ExactY(charIndex);
     if (BeginFrame()) {
-        for (int j = PageStart(); j < charIndex; ++j)
-            AddGlyph(j, RestX(j), RestY(j));
+        AddStanding();
         DrawFlight(charIndex, RestX(charIndex), y);
     }
     LandVertically(landed);
@@ -110,8 +106,7 @@ void animationRealization::FlyFromBottomEffect()
 {
     const bool landed = moveOffset > ExactY(charIndex);
     if (BeginFrame()) {
-        for (int j = PageStart(); j < charIndex; ++j)
-            AddGlyph(j, RestX(j), RestY(j));
+        AddStanding();
         DrawFlight(charIndex, RestX(charIndex), moveOffset);
     }
     LandVertically(landed);

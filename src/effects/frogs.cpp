@@ -68,8 +68,7 @@ void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
         DrawDazzleBackground();
     const int frame = qBound(0, moveOffset, framesPerCharacter - 1);
     if (BeginFrame()) {
-        for (int j = PageStart(); j < charIndex; ++j)
-            AddGlyph(j, RestX(j), RestY(j));
+        AddStanding();
         painter->drawPath(textPath);
         painter->save();
         drawCharacter(frame + 1);

@@ -7,27 +7,16 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-/**
- * The page's characters whose turn has come, with their phases. The turn goes by position whatever
- * the step, so with larger steps some join before their phase is positive.
- */
-template <typename Shape>
-void animationRealization::DrawInTurn(const Shape& shape)
-{
-    // Not by DrawPage(): GCC 4.7 may break off at a lambda that calls members within a template.
-    if (!BeginFrame())
-        return;
-    const int start = PageStart();
-    const int end = qMin(PageEnd(), start + moveOffset + 1);
-    for (int j = start; j < end; ++j) {
-        transform.reset();
-        shape(j, Phase(j - start));
-    }
-    EndFrame();
-}
-
 void animationRealization::EffectInTurnUpwardZoom()
 {
+    // On its baseline every character swells until it reaches the top edge and sinks to nothing, a
+    // little after its left neighbour: a wave through grass.
+    //
+    //     height  2b |   .-.
+    //              b | .'   '.       .'
+    //              0 |        '._.'
+    //                0   31  63   94  126   phase
+    //
     DrawInTurn([&](int j, int phase) {
         const float b = float(float(ExactY(j)) * 0.5 / maxTextHeight);
         const double sy = b + b * std::sin(phase / 20.0);
@@ -41,6 +30,11 @@ void animationRealization::EffectInTurnUpwardZoom()
 
 void animationRealization::EffectInTurnDrop()
 {
+    //     top edge        D      the phase is the way fallen, until the baseline stops it
+    //                   C
+    //                 B
+    //     baseline  A
+    //
     DrawInTurn([&](int j, int phase) { AddGlyph(j, RestX(j), qMin(phase, RestY(j))); });
     Advance(moveOffset, stepSize);
     if (Phase(PageLength()) > RestY(PageEnd() - 1))
@@ -49,6 +43,16 @@ void animationRealization::EffectInTurnDrop()
 
 void animationRealization::Effect45DegreeAngleDrop()
 {
+    // The baseline lies b below the top edge. A character falls tilted, bounces up tilted to 0.4 b
+    // and falls upright once more:
+    //
+    //     y     0 | .
+    //             |  .
+    //       0.4 b |   .    .  .
+    //             |    .  .    .
+    //           b |     ..      ....... at rest
+    //             0    b  1.6b 2.2b   phase
+    //
     DrawInTurn([&](int j, int phase) {
         const float b = float(RestY(j));
         const float t = float(phase);

@@ -52,13 +52,15 @@ void animationRealization::AngleRotationEffect()
 
 void animationRealization::EffectInTurnFlips()
 {
-    DrawPage([&](int j) {
-        const int k = j - PageStart();
-        if (k > moveOffset)
-            return;
-        // From upside down over nothing to upright; at speeds above one step a frame some wait
-        // mirrored, with a negative phase.
-        const int phase = Phase(k);
+    // A character stands on its head, shrinks to its baseline and rises again:
+    //
+    //     phase   0      60     90     120    180
+    //                                   A      A
+    //     base  -----  -----  -----  -----  -----
+    //             V      v
+    //
+    // At more than one step a frame some join with a negative phase, a little smaller than full.
+    DrawInTurn([&](int j, int phase) {
         if (phase <= 179)
             transform.scale(1, float(-std::cos(phase / 57.3)));
         AddShapedGlyph(j, RestX(j), RestY(j));
@@ -70,8 +72,14 @@ void animationRealization::EffectInTurnFlips()
 
 void animationRealization::Effect3DHorizontalRotation()
 {
-    // Two half-turns about the page's vertical axis; in the second the glyphs change places, so
-    // that the page reads correctly in the end.
+    // Two half-turns about the page's vertical axis. Characters keep their width: the row closes
+    // over its middle and opens again on the other side. In the second turn the glyphs change
+    // places, so that the page reads correctly in the end.
+    //
+    //     m       0        10        20        30        41
+    //          A B C D    AB CD    D C B A    DC BA    A B C D
+    //     row    wide      shut     wide      shut      wide      stretch +1 .. -1, +1 .. -1
+    //
     const int m = moveOffset;
     const bool mirrored = m > 20;
     const bool closing = m <= 10 || (m > 20 && m <= 30);
@@ -97,7 +105,12 @@ void animationRealization::EffectFlipsInto()
     const int m = moveOffset;
     const double stretch = 5.0 - (4 * m) / 360.0;
     DrawPage([&](int j) {
-        // Squeezed to nothing and widened again, while the row gathers from five times its width.
+        // The row gathers from five times its width, while each glyph narrows to nothing, slanted,
+        // and widens again, upright in the end:
+        //
+        //     m     0                180               360
+        //        A      B      C     |   |   |      A B C
+        //
         if (m <= 180) {
             transform.scale(float(1 - m / 180.0), 1);
             transform.shear(0, 0.5);

@@ -10,13 +10,11 @@ namespace HNodeAnimationText {
 void animationRealization::WordForWordOutputEffect()
 {
     if (BeginFrame()) {
-        for (int j = PageStart(); j < charIndex; ++j)
-            AddGlyph(j, RestX(j), RestY(j));
+        AddStanding();
         EndFrame();
     }
     if (charIndex >= PageEnd()) {
-        stayPageIndex = pageIndex;
-        SwapPage();
+        LeavePage();
         if (IsLastPageOver())
             pageIndex = 1;
     }
@@ -44,9 +42,7 @@ void animationRealization::WordForWordNarrowEffect()
 void animationRealization::AmplificationNarrow(bool narrow)
 {
     if (BeginFrame()) {
-        for (int j = PageStart(); j < charIndex; ++j)
-            AddGlyph(j, RestX(j), RestY(j));
-
+        AddStanding();
         // Up to 1.5 radians: the character is never quite at its size before it snaps to rest.
         const double x = moveOffset / 30.0;
         const float s = float(narrow ? std::fabs(std::cos(x)) + 1.0 : std::sin(x));
@@ -62,8 +58,7 @@ void animationRealization::AmplificationNarrow(bool narrow)
     }
     if (charIndex < PageEnd())
         return;
-    stayPageIndex = pageIndex;
-    SwapPage();
+    LeavePage();
     if (IsLastPageOver()) {
         EndRun();
         charIndex = 0;

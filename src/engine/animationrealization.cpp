@@ -2,6 +2,7 @@
 #include "engine/animationrealization.h"
 
 #include "node/hanimationtextnode.h"
+#include "node/motions.h"
 #include "text/pagedivision.h"
 
 #include <drawneonbg.h>
@@ -219,8 +220,8 @@ void animationRealization::Start()
     maxTextHeight = Bounded(node->MaxTextHeight(), metricLimit);
     MeasureText(node->TextWidths());
     switch (Attribute(*node, "EffectType")) {
-    case 0: speed = Attribute(*node, "AnimationSpeed"); break;
-    case 1: speed = Attribute(*node, "ContinueSpeed"); break;
+    case Mode::Entrance: speed = Attribute(*node, "AnimationSpeed"); break;
+    case Mode::Scroll: speed = Attribute(*node, "ContinueSpeed"); break;
     default: speed = 5; break;
     }
     CountTotalHeight();
@@ -264,7 +265,7 @@ void animationRealization::StartBackgrounds()
 void animationRealization::StartDazzle()
 {
     // The frog effects draw the dazzle background themselves, with their frames.
-    if (node && Attribute(*node, "CheckDazzle") == 1 && !PlaysFrogs())
+    if (node && Attribute(*node, "CheckDazzle") == 1 && !PlaysFrogs(effectType, animationEffect))
         dazzleTimer.start(tickInterval);
 }
 
@@ -289,8 +290,7 @@ void animationRealization::Stop() {}
 
 QSize animationRealization::CountSize(bool forContent) const
 {
-    const bool horizontal = continueStyle == 0 || continueStyle == 1;
-    if (effectType == 1 && (neonBgEnabled != 1 || forContent) && horizontal)
+    if (IsScrolledByDevice(effectType, continueStyle) && (neonBgEnabled != 1 || forContent))
         return QSize(totalTextWidth, areaSize.height());
     return areaSize;
 }
@@ -307,7 +307,8 @@ void animationRealization::CountPageNum()
 {
     pageBreaks.clear();
     pageOffsets.clear();
-    SelectPath(animationEffect == 1 ? 0 : 1); // the one effect whose pages fill from their end
+    // The one effect whose pages fill from their end.
+    SelectPath(animationEffect == Entrance::FlyFromRight ? 0 : 1);
 }
 
 void animationRealization::SelectPath(int forward)

@@ -163,15 +163,17 @@ private:
     void DrawOrHold(qint64 ticksPerFrame, int counterAfterHold);
     void Dispatch();
     void AddHeldPage();
-    bool PlaysFrogs() const;
 
     // The frame that effects share: engine/frame.h
     bool BeginFrame();
     void EndFrame();
     template <typename Shape>
     void DrawPage(const Shape& shape);
+    template <typename Shape>
+    void DrawInTurn(const Shape& shape);
     bool HasGlyph(int j) const;
     void AddGlyph(int j, double x, double y);
+    void AddStanding();
     void AddShapedGlyph(int j, double x, double y);
     void AddShapedGlyph(const QPainterPath& glyph, double x, double y);
     void DrawGlyph(int j, double x, double y);
@@ -189,6 +191,7 @@ private:
     void RotateAbout(double x, double y, double degrees);
     void Advance(int& counter, int step);
     bool IsLastPageOver() const;
+    void LeavePage();
     void EndRun();
     bool HandOver(int& counter);
 
@@ -196,9 +199,6 @@ private:
     int RightAlignedX(int j) const;
     void DrawFlight(int inFlight, double x, double y);
     void LandVertically(bool landed);
-    // effects/inturn.cpp
-    template <typename Shape>
-    void DrawInTurn(const Shape& shape);
     // effects/frogs.cpp
     void DrawFrog(int frame);
     template <typename DrawCharacter>

@@ -3,6 +3,7 @@
 #include "engine/animationrealization.h"
 
 #include "node/hanimationtextnode.h"
+#include "node/motions.h"
 
 #include <torvsdk.h>
 
@@ -57,7 +58,7 @@ void animationRealization::WrapDazzleLayer()
 int animationRealization::LeadingColor()
 {
     // A line that scrolls sideways is painted only once and counts no frames.
-    if (effectType == 1 && (continueStyle == 0 || continueStyle == 1)) {
+    if (IsScrolledByDevice(effectType, continueStyle)) {
         const int index = dazzleColorIndex;
         dazzleColorIndex = (dazzleColorIndex + 1) % colorCycle;
         return index;

@@ -47,6 +47,13 @@ void animationRealization::AddGlyph(int j, double x, double y)
         textPath.addPath(charPaths.at(j).translated(qreal(x), qreal(y)));
 }
 
+/** The characters of the page that have come to rest: those before charIndex. */
+void animationRealization::AddStanding()
+{
+    for (int j = PageStart(); j < charIndex; ++j)
+        AddGlyph(j, RestX(j), RestY(j));
+}
+
 /** The glyph mapped through transform, about the left end of its baseline. */
 void animationRealization::AddShapedGlyph(int j, double x, double y)
 {
@@ -94,6 +101,13 @@ bool animationRealization::IsLastPageOver() const
     return pageIndex >= pageOffsets.size();
 }
 
+/** The page has come in: it is what a hold shows, and the next one waits. */
+void animationRealization::LeavePage()
+{
+    stayPageIndex = pageIndex;
+    SwapPage();
+}
+
 /** All pages have been shown: back to the first. */
 void animationRealization::EndRun()
 {
@@ -106,8 +120,7 @@ void animationRealization::EndRun()
 bool animationRealization::HandOver(int& counter)
 {
     counter = 0;
-    stayPageIndex = pageIndex;
-    SwapPage();
+    LeavePage();
     if (!IsLastPageOver())
         return false;
     EndRun();

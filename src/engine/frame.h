@@ -39,6 +39,26 @@ void animationRealization::DrawPage(const Shape& shape)
     EndFrame();
 }
 
+/**
+ * The page's characters whose turn has come, each a step behind its left neighbour: calls @p shape
+ * with the character and its phase. The turn goes by position whatever the step, so with larger
+ * steps some join before their phase is positive.
+ */
+template <typename Shape>
+void animationRealization::DrawInTurn(const Shape& shape)
+{
+    // Not by DrawPage(): GCC 4.7 may break off at a lambda that calls members within a template.
+    if (!BeginFrame())
+        return;
+    const int start = PageStart();
+    const int end = qMin(PageEnd(), start + moveOffset + 1);
+    for (int j = start; j < end; ++j) {
+        transform.reset();
+        shape(j, Phase(j - start));
+    }
+    EndFrame();
+}
+
 inline int animationRealization::FrameWidth() const
 {
     return drawImage.width();

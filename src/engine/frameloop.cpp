@@ -2,6 +2,7 @@
 #include "engine/animationrealization.h"
 
 #include "node/hanimationtextnode.h"
+#include "node/motions.h"
 
 #include <torvsdk.h>
 
@@ -35,10 +36,7 @@ void animationRealization::PrepareImage()
     if (text.isEmpty() || paused)
         return;
 
-    // Characters that appear or shake at once are paced by the ticks between two frames.
-    const bool slowFamily = effectType == 0 && (animationEffect == 4 || animationEffect == 8 ||
-                                                animationEffect == 19 || animationEffect == 20);
-    if (slowFamily) {
+    if (IsPacedByTicks(effectType, animationEffect)) {
         const qint64 ticks = qBound(qint64(1), qint64(10) - speed, maxTicksPerFrame);
         if (tickCounter % ticks == 0) {
             stepSize = static_cast<int>(ticks);
@@ -55,8 +53,7 @@ void animationRealization::PrepareImage()
     }
 
     const qint64 ticks = qMin(qint64(6) - speed, maxTicksPerFrame);
-    const bool everyTick = effectType == 1 && (continueStyle == 0 || continueStyle == 1);
-    if (tickCounter % ticks == 0 || everyTick) {
+    if (tickCounter % ticks == 0 || IsScrolledByDevice(effectType, continueStyle)) {
         stepSize = 1;
         // From 2, not 1: at these speeds every hold after the first is one visit shorter.
         DrawOrHold(ticks, 2);
@@ -126,49 +123,49 @@ void animationRealization::SwapLayer()
 
 void animationRealization::Dispatch()
 {
-    if (effectType == 1) {
+    if (effectType == Mode::Scroll) {
         switch (continueStyle) {
-        case 0: ContinueEffectLeft(); break;
-        case 1: ContinueEffectRight(); break;
-        case 2: ContinueEffectUp(); break;
-        case 3: ContinueEffectDown(); break;
+        case Scroll::Left: ContinueEffectLeft(); break;
+        case Scroll::Right: ContinueEffectRight(); break;
+        case Scroll::Up: ContinueEffectUp(); break;
+        case Scroll::Down: ContinueEffectDown(); break;
         default: break;
         }
         return;
     }
-    if (effectType != 0)
+    if (effectType != Mode::Entrance)
         return;
     switch (animationEffect) {
-    case 0: FlyFromLeftEffect(); break;
-    case 1: FlyFromRightEffect(); break;
-    case 2: FlyFromTopEffect(); break;
-    case 3: FlyFromBottomEffect(); break;
-    case 4: WordForWordOutputEffect(); break;
-    case 5: WavesEffect(); break;
-    case 6: SwingEffect(); break;
-    case 7: BeforeAfterScalEffect(); break;
-    case 8: TrembleEffect(); break;
-    case 9: WordForWordAmplificationEffect(); break;
-    case 10: WordForWordNarrowEffect(); break;
-    case 11: RotationEffect(); break;
-    case 12: RotationTrundleEffect(); break;
-    case 13: AngleRotationEffect(); break;
-    case 14: EffectInTurnFlips(); break;
-    case 15: EffectInTurnUpwardZoom(); break;
-    case 16: EffectInTurnDrop(); break;
-    case 17: Effect45DegreeAngleDrop(); break;
-    case 18: EffectZoomIn(); break;
-    case 19: EffectTopWithFrogAppearsVerbatim(); break;
-    case 20: EffectTopWithFrog(); break;
-    case 21: EffectRightToEnlarge(); break;
-    case 22: EffectDiagonalMoves(); break;
-    case 23: EffectRepeatTheWhereabouts(); break;
-    case 24: EffectFromBothSidesInOrderToEnlarge(); break;
-    case 25: Effect3DHorizontalRotation(); break;
-    case 26: EffectFlipsInto(); break;
-    case 27: EffectRotateInto(); break;
-    case 28: EffectTextZoom(); break;
-    case 29: EffectShake(); break;
+    case Entrance::FlyFromLeft: FlyFromLeftEffect(); break;
+    case Entrance::FlyFromRight: FlyFromRightEffect(); break;
+    case Entrance::FlyFromTop: FlyFromTopEffect(); break;
+    case Entrance::FlyFromBottom: FlyFromBottomEffect(); break;
+    case Entrance::WordForWordOutput: WordForWordOutputEffect(); break;
+    case Entrance::Waves: WavesEffect(); break;
+    case Entrance::Swing: SwingEffect(); break;
+    case Entrance::BeforeAfterScal: BeforeAfterScalEffect(); break;
+    case Entrance::Tremble: TrembleEffect(); break;
+    case Entrance::WordForWordAmplification: WordForWordAmplificationEffect(); break;
+    case Entrance::WordForWordNarrow: WordForWordNarrowEffect(); break;
+    case Entrance::Rotation: RotationEffect(); break;
+    case Entrance::RotationTrundle: RotationTrundleEffect(); break;
+    case Entrance::AngleRotation: AngleRotationEffect(); break;
+    case Entrance::InTurnFlips: EffectInTurnFlips(); break;
+    case Entrance::InTurnUpwardZoom: EffectInTurnUpwardZoom(); break;
+    case Entrance::InTurnDrop: EffectInTurnDrop(); break;
+    case Entrance::AngleDrop45Degree: Effect45DegreeAngleDrop(); break;
+    case Entrance::ZoomIn: EffectZoomIn(); break;
+    case Entrance::TopWithFrogAppearsVerbatim: EffectTopWithFrogAppearsVerbatim(); break;
+    case Entrance::TopWithFrog: EffectTopWithFrog(); break;
+    case Entrance::RightToEnlarge: EffectRightToEnlarge(); break;
+    case Entrance::DiagonalMoves: EffectDiagonalMoves(); break;
+    case Entrance::RepeatTheWhereabouts: EffectRepeatTheWhereabouts(); break;
+    case Entrance::FromBothSidesInOrderToEnlarge: EffectFromBothSidesInOrderToEnlarge(); break;
+    case Entrance::HorizontalRotation3D: Effect3DHorizontalRotation(); break;
+    case Entrance::FlipsInto: EffectFlipsInto(); break;
+    case Entrance::RotateInto: EffectRotateInto(); break;
+    case Entrance::TextZoom: EffectTextZoom(); break;
+    case Entrance::Shake: EffectShake(); break;
     default: break;
     }
 }
@@ -184,7 +181,8 @@ void animationRealization::UpdateStayImage()
         }
         SwapLayer();
     }
-    if (node && node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) == 1 && PlaysFrogs())
+    if (node && node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) == 1 &&
+        PlaysFrogs(effectType, animationEffect))
         DrawDazzleBackground();
     ++frameCount;
 }
@@ -197,7 +195,7 @@ void animationRealization::AddHeldPage()
     const int offset = pageOffsets.value(stayPageIndex - 1);
     const int middle = maxTextHeight / 2;
     const int half = drawImage.height() / 2;
-    if (animationEffect != 1) {
+    if (animationEffect != Entrance::FlyFromRight) {
         for (int k = first; k < bound && k < charPaths.size(); ++k)
             AddGlyph(k, charPositions.value(k) - offset, middle - charDescents.value(k) + half);
         return;
@@ -208,17 +206,11 @@ void animationRealization::AddHeldPage()
         AddGlyph(k, right + charPositions.value(k), middle - charDescents.value(k) + half);
 }
 
-/** The effects that draw the dazzle background with their own frames. */
-bool animationRealization::PlaysFrogs() const
-{
-    return effectType == 0 && (animationEffect == 19 || animationEffect == 20);
-}
-
 void animationRealization::UpdateDazzleBackground()
 {
     if (!node || node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) != 1)
         return;
-    if (PlaysFrogs()) {
+    if (PlaysFrogs(effectType, animationEffect)) {
         dazzleTimer.stop();
         return;
     }

@@ -3,6 +3,7 @@
 // that hosts have made depend on the model, so it stays.
 #include "node/hanimationtextnode.h"
 
+#include "node/motions.h"
 #include "text/wrapping.h"
 
 #include <torvsdk.h>
@@ -87,7 +88,7 @@ qint64 SlantedZoomFrames(const Play& play)
     return frames;
 }
 
-// Ticks of animation in one run over all pages, in effects 2 and above.
+// Ticks of animation in one run over all pages, but for the sideways fly-ins.
 qint64 AnimationTicks(const Play& play, int effect)
 {
     const qint64 n = play.textLength;
@@ -96,40 +97,43 @@ qint64 AnimationTicks(const Play& play, int effect)
     const qint64 slow = Wrapped(qint64(10) - play.speed);
     qint64 frames = 0;
     switch (effect) {
-    case 2: frames = VerticalFlyFrames(play, 0); break;
-    case 3: frames = VerticalFlyFrames(play, 2); break;
-    case 4: return n * slow;
-    case 5: frames = n + pages * (103 / step + 1); break;
-    case 6:
-    case 7:
-    case 11:
-    case 13:
-    case 27:
-    case 29: return pages * CycleTicks(play, 360);
-    case 8: return 61 * pages * slow;
-    case 9:
-    case 10: return n * CycleTicks(play, 45);
-    case 12: return pages * Wrapped(CycleTicks(play, play.areaWidth));
-    case 14: frames = n + pages * (179 / step + 1); break;
-    case 15: frames = pages * (200 / step + 1); break;
-    case 16: frames = DropFrames(play, 1.0); break;
-    case 17: frames = DropFrames(play, 2.2); break;
-    case 18: frames = SlantedZoomFrames(play); break;
-    case 19:
-    case 20: return n * 5 * slow;
-    case 21: return pages * Wrapped(CycleTicks(play, play.maxWidth));
-    case 22: frames = n + pages * (Floor(play.areaWidth, step) + 1); break;
-    case 23: frames = pages * (100 / step + 1); break;
-    case 24: frames = 2 * (n + pages * (play.maxWidth / step + 1)); break;
-    case 25: frames = pages * (41 / step + 1); break;
-    case 26: frames = pages * (360 / (3 * step) + 1); break;
-    case 28: frames = pages * (240 / step + 1); break;
+    case Entrance::FlyFromTop: frames = VerticalFlyFrames(play, 0); break;
+    case Entrance::FlyFromBottom: frames = VerticalFlyFrames(play, 2); break;
+    case Entrance::WordForWordOutput: return n * slow;
+    case Entrance::Waves: frames = n + pages * (103 / step + 1); break;
+    case Entrance::Swing:
+    case Entrance::BeforeAfterScal:
+    case Entrance::Rotation:
+    case Entrance::AngleRotation:
+    case Entrance::RotateInto:
+    case Entrance::Shake: return pages * CycleTicks(play, 360);
+    case Entrance::Tremble: return 61 * pages * slow;
+    case Entrance::WordForWordAmplification:
+    case Entrance::WordForWordNarrow: return n * CycleTicks(play, 45);
+    case Entrance::RotationTrundle: return pages * Wrapped(CycleTicks(play, play.areaWidth));
+    case Entrance::InTurnFlips: frames = n + pages * (179 / step + 1); break;
+    case Entrance::InTurnUpwardZoom: frames = pages * (200 / step + 1); break;
+    case Entrance::InTurnDrop: frames = DropFrames(play, 1.0); break;
+    case Entrance::AngleDrop45Degree: frames = DropFrames(play, 2.2); break;
+    case Entrance::ZoomIn: frames = SlantedZoomFrames(play); break;
+    case Entrance::TopWithFrogAppearsVerbatim:
+    case Entrance::TopWithFrog: return n * 5 * slow;
+    case Entrance::RightToEnlarge: return pages * Wrapped(CycleTicks(play, play.maxWidth));
+    case Entrance::DiagonalMoves: frames = n + pages * (Floor(play.areaWidth, step) + 1); break;
+    case Entrance::RepeatTheWhereabouts: frames = pages * (100 / step + 1); break;
+    case Entrance::FromBothSidesInOrderToEnlarge:
+        frames = 2 * (n + pages * (play.maxWidth / step + 1));
+        break;
+    case Entrance::HorizontalRotation3D: frames = pages * (41 / step + 1); break;
+    case Entrance::FlipsInto: frames = pages * (360 / (3 * step) + 1); break;
+    case Entrance::TextZoom: frames = pages * (240 / step + 1); break;
     default: break;
     }
     return qint64(Wrapped(frames)) * Wrapped(play.TicksPerFrame());
 }
 
-// Effects 0 and 1, in milliseconds: character i flies over the width of the characters before it.
+// The sideways fly-ins, in milliseconds: character i flies over the width of the characters before
+// it.
 int HorizontalFlyTime(const LineWidths& line, int length, int firstOffset, int speed)
 {
     int time = 0;
@@ -153,19 +157,21 @@ int HAnimationTextNode::Duration()
     SelectPath(1);
 
     switch (GetAttributeToInt(QString::fromLatin1("EffectType"))) {
-    case 0: return EffectDuration(GetAttributeToInt(QString::fromLatin1("AnimationEffect")));
-    case 1: return ScrollDuration(GetAttributeToInt(QString::fromLatin1("ContinueStyle")));
+    case Mode::Entrance:
+        return EffectDuration(GetAttributeToInt(QString::fromLatin1("AnimationEffect")));
+    case Mode::Scroll:
+        return ScrollDuration(GetAttributeToInt(QString::fromLatin1("ContinueStyle")));
     default: return unknownDuration;
     }
 }
 
 int HAnimationTextNode::ScrollDuration(int style)
 {
-    if (style < 0 || style > 3)
+    if (style < Scroll::Left || style > Scroll::Down)
         return unknownDuration;
 
     const int speed = GetAttributeToInt(QString::fromLatin1("ContinueSpeed"));
-    if (style < 2) {
+    if (style == Scroll::Left || style == Scroll::Right) {
         const QSize area = Size();
         const int speedIndex = WrappingSum(speed, -1);
         const int acrossArea =
@@ -185,13 +191,13 @@ int HAnimationTextNode::ScrollDuration(int style)
 
 int HAnimationTextNode::EffectDuration(int effect)
 {
-    if (effect < 0 || effect > 29)
+    if (effect < 0 || effect > Entrance::Last)
         return unknownDuration;
 
     const int length = Text().size();
     const int pages = pageOffsets.size() - 1;
     int animation = 0;
-    if (effect < 2) {
+    if (effect == Entrance::FlyFromLeft || effect == Entrance::FlyFromRight) {
         animation = HorizontalFlyTime(TextWidths(), length, pageOffsets.value(0), AnimationSpeed());
     } else {
         Play play;

@@ -3,6 +3,7 @@
 
 #include "engine/animationrealization.h"
 #include "node/hanimationtextnode.h"
+#include "node/motions.h"
 
 #include <hpluginmanager.h>
 
@@ -50,10 +51,7 @@ int HAnimationTextRender::Attribute(const char* key) const
 /** Whether the device moves the text by itself. */
 bool HAnimationTextRender::ScrollsSideways() const
 {
-    if (Attribute("EffectType") != 1)
-        return false;
-    const int style = Attribute("ContinueStyle");
-    return style == 0 || style == 1;
+    return IsScrolledByDevice(Attribute("EffectType"), Attribute("ContinueStyle"));
 }
 
 void HAnimationTextRender::Start(unsigned int newDisplayHandle)
@@ -127,7 +125,9 @@ void HAnimationTextRender::UpdateDraw()
     }
     const int mode = Attribute("EffectType");
     const int style = Attribute("ContinueStyle");
-    const bool frameByFrame = mode == 0 || (mode == 1 && (style == 2 || style == 3));
+    const bool frameByFrame =
+        mode == Mode::Entrance ||
+        (mode == Mode::Scroll && (style == Scroll::Up || style == Scroll::Down));
     if (!frameByFrame)
         return;
 
