@@ -1,8 +1,10 @@
 # The plugin's sources, for qmake and CMake alike: src/CMakeLists.txt reads the names from here.
 HEADERS += \
+    $$PWD/device/device.h \
     $$PWD/edit/animationtextedit.h \
     $$PWD/engine/animationrealization.h \
     $$PWD/engine/frame.h \
+    $$PWD/node/attribute.h \
     $$PWD/node/hanimationtextnode.h \
     $$PWD/node/motions.h \
     $$PWD/plugin/export.h \

@@ -2,6 +2,7 @@
 // five frames, paced by the ticks between two frames.
 #include "engine/frame.h"
 
+#include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 
 #include <happconfig.h>
@@ -64,7 +65,7 @@ void animationRealization::DrawFrog(int frame)
 template <typename DrawCharacter>
 void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
 {
-    if (node && node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) == 1)
+    if (Attribute(node, "CheckDazzle") == 1)
         DrawDazzleBackground();
     const int frame = qBound(0, moveOffset, framesPerCharacter - 1);
     if (BeginFrame()) {

@@ -1,6 +1,8 @@
 // The engine's state: what it takes from its node, and its beginning and end.
 #include "engine/animationrealization.h"
 
+#include "device/device.h"
+#include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
 #include "text/pagedivision.h"
@@ -21,7 +23,6 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const int tickInterval = 66;                      // ms
 const qint64 maxCanvasBytes = qint64(256) << 20;  // of one picture
 const qint64 maxPicturePixels = 64 * 1000 * 1000; // of a fill picture, before it is decoded
 
@@ -33,11 +34,6 @@ const int positionLimit = 1 << 28;
 int Bounded(int value, int limit)
 {
     return qBound(-limit, value, limit);
-}
-
-int Attribute(const HData& node, const char* key)
-{
-    return node.GetAttributeToInt(QString::fromLatin1(key));
 }
 
 } // namespace
@@ -122,21 +118,21 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     maxTextWidth = Bounded(node->MaxTextWidth(), metricLimit);
     totalTextWidth = node->GetTotalTextWith();
     text = node->Text();
-    animationEffect = Attribute(*node, "AnimationEffect");
-    effectType = Attribute(*node, "EffectType");
+    animationEffect = Attribute(node, "AnimationEffect");
+    effectType = Attribute(node, "EffectType");
     areaSize = node->Size();
-    playTimes = Attribute(*node, "PlayTimes");
+    playTimes = Attribute(node, "PlayTimes");
     holdTime = node->GetHoldTime();
     stayImageReady = 0;
-    continueStyle = Attribute(*node, "ContinueStyle");
-    neonBgEnabled = Attribute(*node, "CheckNeonBg");
-    shadowEnabled = Attribute(*node, "CheckShadowEffect");
-    dazzleEnabled = Attribute(*node, "CheckDazzle");
-    gradientEnabled = Attribute(*node, "CheckColorGradient");
-    gradientType = Attribute(*node, "ColorGradient");
-    stroke = Attribute(*node, "Stroke");
-    hollow = Attribute(*node, "Hollow");
-    pictureFillEnabled = Attribute(*node, "CheckPictureFills");
+    continueStyle = Attribute(node, "ContinueStyle");
+    neonBgEnabled = Attribute(node, "CheckNeonBg");
+    shadowEnabled = Attribute(node, "CheckShadowEffect");
+    dazzleEnabled = Attribute(node, "CheckDazzle");
+    gradientEnabled = Attribute(node, "CheckColorGradient");
+    gradientType = Attribute(node, "ColorGradient");
+    stroke = Attribute(node, "Stroke");
+    hollow = Attribute(node, "Hollow");
+    pictureFillEnabled = Attribute(node, "CheckPictureFills");
     initFive = 5;
 
     const int width = areaSize.width();
@@ -145,7 +141,7 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     radialGradient =
         QRadialGradient(QPointF(width / 2, height / 2), width / 2, QPointF(width / 2, height / 2));
     conicalGradient = QConicalGradient(QPointF(width / 2, height), 0);
-    strokePen = QPen(QBrush(HAppConfig::IntToColor(Attribute(*node, "StrokeColor"))), 1);
+    strokePen = QPen(QBrush(HAppConfig::IntToColor(Attribute(node, "StrokeColor"))), 1);
     frameInterval = tickInterval;
 
     charPaths = node->GetPainterPaths();
@@ -219,9 +215,9 @@ void animationRealization::Start()
 
     maxTextHeight = Bounded(node->MaxTextHeight(), metricLimit);
     MeasureText(node->TextWidths());
-    switch (Attribute(*node, "EffectType")) {
-    case Mode::Entrance: speed = Attribute(*node, "AnimationSpeed"); break;
-    case Mode::Scroll: speed = Attribute(*node, "ContinueSpeed"); break;
+    switch (Attribute(node, "EffectType")) {
+    case Mode::Entrance: speed = Attribute(node, "AnimationSpeed"); break;
+    case Mode::Scroll: speed = Attribute(node, "ContinueSpeed"); break;
     default: speed = 5; break;
     }
     CountTotalHeight();
@@ -232,7 +228,7 @@ void animationRealization::Start()
     drawImage = NewCanvas(CountSize(true), imageFormat);
     stayImage = NewCanvas(areaSize, imageFormat);
     if (!drawImage.isNull())
-        drawImage.fill(HAppConfig::IntToColor(66049));
+        drawImage.fill(HAppConfig::IntToColor(colourKey));
     else if (!CountSize(true).isEmpty())
         qDebug() << "Text picture is too large, nothing is painted:" << CountSize(true);
     if (!stayImage.isNull())
@@ -265,7 +261,7 @@ void animationRealization::StartBackgrounds()
 void animationRealization::StartDazzle()
 {
     // The frog effects draw the dazzle background themselves, with their frames.
-    if (node && Attribute(*node, "CheckDazzle") == 1 && !PlaysFrogs(effectType, animationEffect))
+    if (Attribute(node, "CheckDazzle") == 1 && !PlaysFrogs(effectType, animationEffect))
         dazzleTimer.start(tickInterval);
 }
 

@@ -2,10 +2,9 @@
 // nothing with the text's frame but the count of frames.
 #include "engine/animationrealization.h"
 
+#include "device/device.h"
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
-
-#include <torvsdk.h>
 
 #include <QPainter>
 
@@ -14,7 +13,6 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const int writeMode = 5;      // of GetPicImageLayerPtr
 const int colorCycle = 30;    // the 31st of the dazzle colours is the first again
 const int linearStops = 40;   // at i / 40
 const int circularStops = 30; // at i / 30
@@ -44,10 +42,8 @@ void animationRealization::WrapDazzleLayer()
     if (!pictureSession || dazzleLayer <= 0 || dazzleLayerWrapped)
         return;
     const QSize size = areaSize;
-    char* const buffer =
-        GetPicImageLayerPtr(static_cast<PicDisplay>(sessionDisplay),
-                            static_cast<PicSession>(reinterpret_cast<quintptr>(pictureSession)),
-                            dazzleLayer, writeMode);
+    char* const buffer = GetPicImageLayerPtr(static_cast<PicDisplay>(sessionDisplay),
+                                             SessionHandle(pictureSession), dazzleLayer, writeMode);
     if (!buffer || size.width() <= 0 || size.height() <= 0)
         return;
     stayImage = QImage(reinterpret_cast<uchar*>(buffer), size.width(), size.height(), imageFormat);

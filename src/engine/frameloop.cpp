@@ -1,10 +1,10 @@
 // What a tick does: lets it pass, paints the next frame of the effect, or holds the finished page.
 #include "engine/animationrealization.h"
 
+#include "device/device.h"
+#include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
-
-#include <torvsdk.h>
 
 #include <QPainter>
 
@@ -13,16 +13,9 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const int writeMode = 5; // of GetPicImageLayerPtr
-
 // Speeds are 0 .. 9. What lies outside slows down or hurries up, within what counters can hold.
 const qint64 maxTicksPerFrame = 1 << 24;
 const qint64 maxStep = 1 << 16;
-
-PicSession SessionHandle(void* session)
-{
-    return static_cast<PicSession>(reinterpret_cast<quintptr>(session));
-}
 
 int Successor(int counter)
 {
@@ -181,8 +174,7 @@ void animationRealization::UpdateStayImage()
         }
         SwapLayer();
     }
-    if (node && node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) == 1 &&
-        PlaysFrogs(effectType, animationEffect))
+    if (Attribute(node, "CheckDazzle") == 1 && PlaysFrogs(effectType, animationEffect))
         DrawDazzleBackground();
     ++frameCount;
 }
@@ -208,7 +200,7 @@ void animationRealization::AddHeldPage()
 
 void animationRealization::UpdateDazzleBackground()
 {
-    if (!node || node->GetAttributeToInt(QString::fromLatin1("CheckDazzle")) != 1)
+    if (Attribute(node, "CheckDazzle") != 1)
         return;
     if (PlaysFrogs(effectType, animationEffect)) {
         dazzleTimer.stop();

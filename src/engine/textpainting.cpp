@@ -1,6 +1,7 @@
 // What text is filled and outlined with.
 #include "engine/animationrealization.h"
 
+#include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 
 #include <QPainter>
@@ -28,9 +29,9 @@ void animationRealization::SetPainterBrush(int)
 /** Adds the character's shadow to auxPath. Text is painted without one; hosts may call it. */
 void animationRealization::DrawShadow(int index)
 {
-    if (!node || node->GetAttributeToInt(QString::fromLatin1("CheckShadowEffect")) != 1)
+    if (Attribute(node, "CheckShadowEffect") != 1)
         return;
-    const int distance = node->GetAttributeToInt(QString::fromLatin1("TextShadowBox"));
+    const int distance = Attribute(node, "TextShadowBox");
     if (index >= 0 && index < charPaths.size())
         auxPath.addPath(charPaths.at(index).translated(distance, distance));
 }

@@ -3,10 +3,10 @@
 // that hosts have made depend on the model, so it stays.
 #include "node/hanimationtextnode.h"
 
+#include "device/device.h"
+#include "node/attribute.h"
 #include "node/motions.h"
 #include "text/wrapping.h"
-
-#include <torvsdk.h>
 
 #include <cmath>
 
@@ -15,9 +15,7 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const int tick = 66;              // ms, the renderer's timer
 const int unknownDuration = 6000; // ms, static text and unknown modes
-const int scrollLeftCode = 26;
 
 // What the frame counts of the effects depend on.
 struct Play
@@ -140,9 +138,9 @@ int HorizontalFlyTime(const LineWidths& line, int length, int firstOffset, int s
     for (int i = 0; i < length; ++i) {
         const int distance = WrappingSum(line.CountWith(i), -firstOffset);
         if (speed >= 5)
-            time = WrappingSum(time, WrappingProduct(distance / (speed - 4), tick));
+            time = WrappingSum(time, WrappingProduct(distance / (speed - 4), tickInterval));
         else
-            time = Truncated(time + distance * 66.0 * (6.0 - speed));
+            time = Truncated(time + distance * double(tickInterval) * (6.0 - speed));
     }
     return time;
 }
@@ -156,11 +154,9 @@ int HAnimationTextNode::Duration()
     InitPainterPath();
     SelectPath(1);
 
-    switch (GetAttributeToInt(QString::fromLatin1("EffectType"))) {
-    case Mode::Entrance:
-        return EffectDuration(GetAttributeToInt(QString::fromLatin1("AnimationEffect")));
-    case Mode::Scroll:
-        return ScrollDuration(GetAttributeToInt(QString::fromLatin1("ContinueStyle")));
+    switch (Attribute(this, "EffectType")) {
+    case Mode::Entrance: return EffectDuration(Attribute(this, "AnimationEffect"));
+    case Mode::Scroll: return ScrollDuration(Attribute(this, "ContinueStyle"));
     default: return unknownDuration;
     }
 }
@@ -170,23 +166,23 @@ int HAnimationTextNode::ScrollDuration(int style)
     if (style < Scroll::Left || style > Scroll::Down)
         return unknownDuration;
 
-    const int speed = GetAttributeToInt(QString::fromLatin1("ContinueSpeed"));
+    const int speed = Attribute(this, "ContinueSpeed");
     if (style == Scroll::Left || style == Scroll::Right) {
         const QSize area = Size();
         const int speedIndex = WrappingSum(speed, -1);
         const int acrossArea =
-            GeteffectDuration(area.width(), area.height(), scrollLeftCode, speedIndex);
+            GeteffectDuration(area.width(), area.height(), scrollsLeft, speedIndex);
         const int acrossText =
-            GeteffectDuration(GetTotalTextWith(), area.height(), scrollLeftCode, speedIndex);
+            GeteffectDuration(GetTotalTextWith(), area.height(), scrollsLeft, speedIndex);
         return WrappingProduct(WrappingSum(acrossArea, acrossText), PlayTimes());
     }
 
     const int height = CountTotalHeight();
     if (speed < 5)
         return WrappingProduct(
-            WrappingProduct(Wrapped(qint64(6) - speed), WrappingProduct(height, tick)),
+            WrappingProduct(Wrapped(qint64(6) - speed), WrappingProduct(height, tickInterval)),
             PlayTimes());
-    return Truncated(double(height) / (speed - 4) * 66.0 * PlayTimes());
+    return Truncated(double(height) / (speed - 4) * double(tickInterval) * PlayTimes());
 }
 
 int HAnimationTextNode::EffectDuration(int effect)
@@ -209,7 +205,7 @@ int HAnimationTextNode::EffectDuration(int effect)
         play.maxHeight = MaxTextHeight();
         play.breaks = pageBreaks;
         play.descents = descentData;
-        animation = WrappingProduct(Wrapped(AnimationTicks(play, effect)), tick);
+        animation = WrappingProduct(Wrapped(AnimationTicks(play, effect)), tickInterval);
     }
     const int hold = WrappingProduct(pages, WrappingProduct(GetHoldTime(), 100));
     return WrappingProduct(PlayTimes(), WrappingSum(animation, hold));

@@ -1,5 +1,6 @@
 #include "node/hanimationtextnode.h"
 
+#include "node/attribute.h"
 #include "text/glyphdata.h"
 
 #include <QCoreApplication>
@@ -62,12 +63,12 @@ QString HAnimationTextNode::Text() const
 
 int HAnimationTextNode::PlayTimes() const
 {
-    return GetAttributeToInt(QString::fromLatin1("PlayTimes"));
+    return Attribute(this, "PlayTimes");
 }
 
 int HAnimationTextNode::AnimationSpeed() const
 {
-    return GetAttributeToInt(QString::fromLatin1("AnimationSpeed"));
+    return Attribute(this, "AnimationSpeed");
 }
 
 void HAnimationTextNode::InitPainterPath()

@@ -1,7 +1,9 @@
 // The renderer's play operations and its tick.
 #include "render/hanimationtextrender.h"
 
+#include "device/device.h"
 #include "engine/animationrealization.h"
+#include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
 
@@ -11,8 +13,6 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 namespace {
-
-const int tickInterval = 66; // ms
 
 enum State { Finished = 0, Playing = 1, NothingToPlay = 2 };
 
@@ -42,16 +42,10 @@ HAnimationTextRender::~HAnimationTextRender()
     engine = 0;
 }
 
-/** The node's number under @p key; 0 without a node. */
-int HAnimationTextRender::Attribute(const char* key) const
-{
-    return node ? node->GetAttributeToInt(QString::fromLatin1(key)) : 0;
-}
-
 /** Whether the device moves the text by itself. */
 bool HAnimationTextRender::ScrollsSideways() const
 {
-    return IsScrolledByDevice(Attribute("EffectType"), Attribute("ContinueStyle"));
+    return IsScrolledByDevice(Attribute(node, "EffectType"), Attribute(node, "ContinueStyle"));
 }
 
 void HAnimationTextRender::Start(unsigned int newDisplayHandle)
@@ -123,8 +117,8 @@ void HAnimationTextRender::UpdateDraw()
         DrawFirstTick();
         return;
     }
-    const int mode = Attribute("EffectType");
-    const int style = Attribute("ContinueStyle");
+    const int mode = Attribute(node, "EffectType");
+    const int style = Attribute(node, "ContinueStyle");
     const bool frameByFrame =
         mode == Mode::Entrance ||
         (mode == Mode::Scroll && (style == Scroll::Up || style == Scroll::Down));
@@ -133,7 +127,7 @@ void HAnimationTextRender::UpdateDraw()
 
     engine->PrepareImage();
     playedTimes = engine->GetDisplayTimes();
-    if (playedTimes >= Attribute("PlayTimes")) {
+    if (playedTimes >= Attribute(node, "PlayTimes")) {
         playedTimes = 0;
         state = Finished;
     }

@@ -74,7 +74,6 @@ public slots:
 private:
     Q_DISABLE_COPY(HAnimationTextRender)
 
-    int Attribute(const char* key) const;
     bool ScrollsSideways() const;
     void ReleaseSession();
     void DrawFirstTick();

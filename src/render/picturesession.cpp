@@ -1,7 +1,9 @@
 // The renderer's picture session on the device: its layers, their stacking and its scrolling.
 #include "render/hanimationtextrender.h"
 
+#include "device/device.h"
 #include "engine/animationrealization.h"
+#include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 #include "text/wrapping.h"
 
@@ -15,20 +17,11 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const int sessionFlags = 16;
-const int writeMode = 5; // of GetPicImageLayerPtr
-const int scrollLeftCode = 26;
-const int scrollRightCode = 27;
 const int forEver = 1000000000;
 
 qint64 ByteCount(const QImage& image)
 {
     return qint64(image.bytesPerLine()) * image.height();
-}
-
-void* Opaque(PicSession session)
-{
-    return reinterpret_cast<void*>(static_cast<quintptr>(session));
 }
 
 int ChildCount(const HNode* node)
@@ -40,7 +33,7 @@ int ChildCount(const HNode* node)
 
 unsigned int HAnimationTextRender::PixelWord() const
 {
-    return HPluginManager::instance()->SuportAlphaBlend(node) ? 0xFF010201u : 0x00010201u;
+    return colourKey | (HPluginManager::instance()->SuportAlphaBlend(node) ? opaqueWord : 0u);
 }
 
 void HAnimationTextRender::SetSession(Effect* effect, QImage& image)
@@ -53,7 +46,7 @@ void HAnimationTextRender::SetSession(Effect* effect, QImage& image)
                               image.constBits()};
     const PicPlacement placement = {pos.x(), pos.y(), area.width(),  area.height(),
                                     0,       0,       image.width(), image.height()};
-    const int type = HPluginManager::instance()->SuportAlphaBlend(node) ? 3 : 5;
+    const int type = HPluginManager::instance()->SuportAlphaBlend(node) ? alphaSession : keySession;
     session = CreatePictureSession(type, &picture, sessionFlags, effect, &placement, PixelWord());
     AddPictureSession(displayHandle, session, 0);
 }
@@ -80,9 +73,9 @@ void HAnimationTextRender::ReleaseSession()
 int HAnimationTextRender::LineDuration()
 {
     const QSize line = engine->CountSize(true);
-    const int code = Attribute("ContinueStyle") == 1 ? scrollRightCode : scrollLeftCode;
+    const int code = ScrollCode(Attribute(node, "ContinueStyle"));
     return GeteffectDuration(line.width(), line.height(), code,
-                             WrappingSum(Attribute("ContinueSpeed"), -1));
+                             WrappingSum(Attribute(node, "ContinueSpeed"), -1));
 }
 
 /** How long the device shall scroll, which depends on what else the host plays. */
@@ -97,7 +90,7 @@ int HAnimationTextRender::ScheduledDuration()
     if (aloneInArea && ChildCount(program) == 1)
         return WrappingProduct(LineDuration(), forEver);
 
-    const int own = WrappingProduct(LineDuration(), Attribute("PlayTimes"));
+    const int own = WrappingProduct(LineDuration(), Attribute(node, "PlayTimes"));
     if (!aloneInArea)
         return own;
     // As long as the longest of what shares the page.
@@ -119,13 +112,13 @@ void HAnimationTextRender::StartInit(QImage& image)
     if (!node)
         return;
 
-    Effect effect = {0, 0, 0, 0, 0, 66};
+    Effect effect = {0, 0, 0, 0, 0, tickInterval};
     if (ScrollsSideways()) {
-        const int code = Attribute("ContinueStyle") == 1 ? scrollRightCode : scrollLeftCode;
+        const int code = ScrollCode(Attribute(node, "ContinueStyle"));
         const QSize area = node->Size();
         effect.effect1 = effect.effect2 = effect.effect3 = code;
         effect.duration1 = GeteffectDuration(area.width(), area.height(), code,
-                                             WrappingSum(Attribute("ContinueSpeed"), -1));
+                                             WrappingSum(Attribute(node, "ContinueSpeed"), -1));
         effect.duration2 = ScheduledDuration();
         effect.duration3 = 0;
     }
@@ -137,7 +130,7 @@ void HAnimationTextRender::InitRenderSession(QImage& image)
     Stop();
     if (!node)
         return;
-    Effect still = {0, 0, 0, 0, 0, 66};
+    Effect still = {0, 0, 0, 0, 0, tickInterval};
     SetSession(&still, image);
 }
 
@@ -158,7 +151,7 @@ void HAnimationTextRender::ShowLine()
     StartInit(engine->drawImage);
     engine->SetPictureSession(Opaque(session), static_cast<int>(displayHandle), 0);
     engine->layerBytes = ByteCount(engine->drawImage);
-    if (Attribute("CheckNeonBg") == 1) {
+    if (Attribute(node, "CheckNeonBg") == 1) {
         const QImage& neon = engine->neonBg->Image();
         const int layer = GetLayerNum(neon.size(), neon.bytesPerLine());
         if (layer >= 0)
@@ -175,7 +168,7 @@ void HAnimationTextRender::ShowFrames()
         base.fill(0);
     StartInit(base);
 
-    if (Attribute("CheckNeonBg") == 1) {
+    if (Attribute(node, "CheckNeonBg") == 1) {
         const QImage& text = engine->drawImage;
         const int layer = GetLayerNum(text.size(), text.bytesPerLine());
         if (layer >= 0) {
@@ -188,7 +181,7 @@ void HAnimationTextRender::ShowFrames()
         engine->layerBytes = ByteCount(base);
     }
     AppendDazzleLayer();
-    if (Attribute("CheckDazzle") == 1)
+    if (Attribute(node, "CheckDazzle") == 1)
         engine->DrawDazzleBackground();
     engine->PrepareImage();
 }
@@ -206,7 +199,7 @@ void HAnimationTextRender::GiveNeonLayer(int layer, qint64 layerBytes)
 
 void HAnimationTextRender::AppendDazzleLayer()
 {
-    if (Attribute("CheckDazzle") != 1)
+    if (Attribute(node, "CheckDazzle") != 1)
         return;
     const QImage& dazzle = engine->stayImage;
     const int layer = GetLayerNum(dazzle.size(), dazzle.bytesPerLine());
@@ -223,8 +216,8 @@ void HAnimationTextRender::SetPicLayerProperty()
         {{0, -1, -1}, {0, 2, -1}, {1, 2, -1}, {0, 1, 2}}, // frames
         {{2, -1, -1}, {2, 0, -1}, {1, 2, -1}, {1, 0, 2}}, // a line that scrolls
     };
-    const int neon = Attribute("CheckNeonBg");
-    const int dazzle = Attribute("CheckDazzle");
+    const int neon = Attribute(node, "CheckNeonBg");
+    const int dazzle = Attribute(node, "CheckDazzle");
     const int row = neon == 0 && dazzle == 0   ? 0
                     : neon == 1 && dazzle == 0 ? 1
                     : neon == 0 && dazzle == 1 ? 2

@@ -92,10 +92,13 @@ void ProjectTest::includesFollowTheRule_data()
     for (const char* room : {"text"})
         QTest::newRow(room) << QString("src/%1").arg(room) << QString("src/%1/.*").arg(room)
                             << standardAndQt;
+    QTest::newRow("device") << "src/device"
+                            << "src/device/.*|platform/device/torvsdk\\.h" << standardAndQt;
     QTest::newRow("node") << "src/node"
-                          << "src/(node|text)/.*|platform/.*" << standardAndQt;
+                          << "src/(device|node|text)/.*|platform/.*" << standardAndQt;
     QTest::newRow("engine") << "src/engine"
-                            << "src/(engine|node|paint|text)/.*|platform/.*" << standardAndQt;
+                            << "src/(device|engine|node|paint|text)/.*|platform/.*"
+                            << standardAndQt;
     QTest::newRow("effects") << "src/effects"
                              << "src/(effects|engine|node|paint)/.*|platform/.*" << standardAndQt;
     QTest::newRow("platform") << "platform"

@@ -1,0 +1,18 @@
+#ifndef ATTRIBUTE_H
+#define ATTRIBUTE_H
+
+#include <hdata.h>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/** The number under @p key in the host's store, read afresh; 0 without a node. */
+inline int Attribute(const HData* node, const char* key)
+{
+    return node ? node->GetAttributeToInt(QString::fromLatin1(key)) : 0;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif
