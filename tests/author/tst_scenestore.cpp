@@ -29,6 +29,7 @@ struct Sample
             node.files[suffix == "path" ? "PathData" : "DescentVector"] = name;
             files[name] = content;
         }
+        scene.path = path;
         scene.display = node.size;
         scene.pages = {ScenePage{{SceneArea{{node}}}}};
     }
@@ -175,7 +176,7 @@ private:
             holds = holds && folder->Read(file.key()) == file.value();
         return holds;
     }
-    bool Save(const Sample& sample) { return SaveScene(path, sample.scene, sample.files, &error); }
+    bool Save(const Sample& sample) { return SaveScene(sample.scene, sample.files, &error); }
 
     QScopedPointer<TestFolder> folder;
     QString path;

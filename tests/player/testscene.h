@@ -64,9 +64,10 @@ public:
     }
 
     /** A scene of @p list in one area. */
-    static Scene Of(const QList<SceneNode>& list)
+    Scene Of(const QList<SceneNode>& list) const
     {
         Scene scene;
+        scene.path = Path("scene.json");
         scene.display = QSize(1, 1);
         for (const SceneNode& node : list)
             scene.display = scene.display.expandedTo(node.size);

@@ -74,9 +74,9 @@ class TestAnimtext : public QObject
 private slots:
     void initTestCase()
     {
-        onePage = files.Save(TestScenes::Of({files.Node({})}), "one.json");
-        twoPages = files.Save(TestScenes::Of({files.Node({"abcdef", 9, 9, 3})}), "two.json");
-        files.Save(TestScenes::Of({files.Node({"abc", 4, 9, 0, 1000000})}), "endless.json");
+        onePage = files.Save(files.Of({files.Node({})}), "one.json");
+        twoPages = files.Save(files.Of({files.Node({"abcdef", 9, 9, 3})}), "two.json");
+        files.Save(files.Of({files.Node({"abc", 4, 9, 0, 1000000})}), "endless.json");
         files.Write("bad.json",
                     R"({"scene": 1, "display": {"width": 8, "height": 8}, "pages": 1})");
         files.Write("old.gif", "the old film");
@@ -85,7 +85,7 @@ private slots:
     /** The first picture is empty: 64 × 32 pixels of four zero bytes. */
     void tracesLinesAsFixed()
     {
-        const QString path = files.Save(TestScenes::Of({files.Node({}), files.Node({" "})}));
+        const QString path = files.Save(files.Of({files.Node({}), files.Node({" "})}));
         const QByteArray empty =
             QCryptographicHash::hash(QByteArray(64 * 32 * 4, '\0'), QCryptographicHash::Sha1);
         QCOMPARE(Animtext({"trace", path, "--ticks", "0"}).out,
@@ -130,7 +130,7 @@ private slots:
                                                                     {"CheckDazzle", 1}});
         node.lists["TextWidth"] = node.lists["TextWidth"].mid(0, 3);
         node.files.remove("DescentVector");
-        Scene scene = TestScenes::Of({node});
+        Scene scene = files.Of({node});
         scene.alphaBlend = motion % 2 == 0;
         const QStringList words{"trace", files.Save(scene), "--ticks", "60", "--calls"};
         const Outcome first = Animtext(words);
@@ -286,7 +286,7 @@ private slots:
     /** Three characters at a picture every tick, and one hold of 300 ms. */
     void tellsDurations()
     {
-        const QString path = files.Save(TestScenes::Of({files.Node({"abc", 4, 9, 3})}));
+        const QString path = files.Save(files.Of({files.Node({"abc", 4, 9, 3})}));
         QCOMPARE(Animtext({"duration", path, "--json", "--simulate"}).out,
                  QByteArray("{\"duration\":498,\"simulated\":{\"animationTicks\":4,\"holdTicks\":5,"
                             "\"finishedMs\":528}}\n"));

@@ -86,15 +86,15 @@ private slots:
     void playsTickByTick()
     {
         QFETCH(Play, play);
-        const Scene scene = TestScenes::Of({files.Node(
-            {"abc", 4, play.speed, play.hold, play.plays}, {{"EffectType", play.effectType}})});
+        const Scene scene = files.Of({files.Node({"abc", 4, play.speed, play.hold, play.plays},
+                                                 {{"EffectType", play.effectType}})});
         Load(scene);
-        const auto simulation = Simulate(player.get(), scene, path, 1, Watch(), &error).value(0);
+        const auto simulation = Simulate(player.get(), scene, 1, Watch(), &error).value(0);
         QCOMPARE(simulation.animationTicks, play.animationTicks);
         QCOMPARE(simulation.holdTicks, play.holdTicks);
         QCOMPARE(int(simulation.finishedMs), play.finished < 0 ? -1 : play.finished * 66);
 
-        Film film(player.get(), scene, path, FilmSettings());
+        Film film(player.get(), scene, FilmSettings());
         QVERIFY2(film.Plan(FilmWatch(), &error), qPrintable(error));
         QCOMPARE(film.FrameCount(), play.frames);
 
@@ -127,10 +127,10 @@ private slots:
     void findsTheTextLayer()
     {
         QFETCH(Layers, layers);
-        Load(TestScenes::Of({files.Node({"abcde"}, {{"EffectType", layers.effectType},
-                                                    {"ContinueStyle", layers.style},
-                                                    {"CheckNeonBg", int(layers.neon)},
-                                                    {"CheckDazzle", int(layers.dazzle)}})}));
+        Load(files.Of({files.Node({"abcde"}, {{"EffectType", layers.effectType},
+                                              {"ContinueStyle", layers.style},
+                                              {"CheckNeonBg", int(layers.neon)},
+                                              {"CheckDazzle", int(layers.dazzle)}})}));
         Torv::FailCall(Torv::OpPicAppendImageLayer, layers.failingAppend);
         player->Start();
         QCOMPARE(player->Scenery().TextLayer(0), layers.layer);
@@ -142,7 +142,7 @@ private slots:
     {
         SceneNode small = files.Node({"ab", 4, 9, 7, 1, QSize(48, 24)});
         small.pos = QPoint(64, 0);
-        Scene scene = TestScenes::Of({files.Node({}), files.Node({"  "}), small});
+        Scene scene = files.Of({files.Node({}), files.Node({"  "}), small});
         scene.display = QSize(112, 32);
         Load(scene)->Start();
         player->Advance();
@@ -166,7 +166,7 @@ private slots:
     /** Each start is seeded anew, so the first pictures of two nodes are the same. */
     void seedsEveryStart()
     {
-        const Scene scene = TestScenes::Of({files.Node({"abcd", 8}), files.Node({"abcd", 8})});
+        const Scene scene = files.Of({files.Node({"abcd", 8}), files.Node({"abcd", 8})});
         QList<QImage> pictures;
         for (uint seed : {1, 1, 2}) {
             Load(scene)->Start(seed);
@@ -184,12 +184,13 @@ private slots:
         clock.type = "clock";
         const QMap<QString, Scene> faults{
             {"$.pages[0].areas[0].nodes[1].type: expected LW_animationText_Plugin",
-             TestScenes::Of({files.Node({}), clock})},
-            {"$.pages: expected at least one node", TestScenes::Of({})}};
+             files.Of({files.Node({}), clock})},
+            {"$.pages: expected at least one node", files.Of({})}};
         for (const QString& expected : faults.keys()) {
-            Load(TestScenes::Of({files.Node({})}))->Start();
-            QVERIFY(!player->Load(faults.value(expected), "bad.json", &error));
-            QVERIFY2(error.startsWith("bad.json: " + expected), qPrintable(error));
+            Load(files.Of({files.Node({})}))->Start();
+            const Scene bad = faults.value(expected);
+            QVERIFY(!player->Load(bad, &error));
+            QVERIFY2(error.startsWith(bad.path + ": " + expected), qPrintable(error));
             QCOMPARE(Torv::Accounts().liveSessions, 0);
             QCOMPARE(player->NodeCount(), 0);
         }
@@ -197,11 +198,11 @@ private slots:
 
     void filmRestsOnTheLastPage()
     {
-        const Scene scene = TestScenes::Of({files.Node({"abc", 4, 9, 2})});
+        const Scene scene = files.Of({files.Node({"abc", 4, 9, 2})});
         FilmSettings settings;
         settings.scale = 2;
         settings.background = QColor(1, 2, 3);
-        Film film(Load(scene), scene, path, settings);
+        Film film(Load(scene), scene, settings);
         QVERIFY(film.Plan(FilmWatch(), &error));
         QList<QImage> pictures;
         const auto take = [&](int, const QImage& picture) {
@@ -221,13 +222,12 @@ private:
     Player* Load(const Scene& scene)
     {
         player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
-        if (!player->Load(scene, path, &error))
+        if (!player->Load(scene, &error))
             qFatal("%s", qPrintable(error));
         return player.get();
     }
 
     TestScenes files;
-    const QString path = files.Path("scene.json");
     QString error;
     Lw::INodePlugin* plugin = nullptr;
     std::unique_ptr<Player> player;

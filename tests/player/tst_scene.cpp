@@ -50,7 +50,7 @@ private slots:
         QCOMPARE(node.attributes,
                  (QMap<QString, QVariant>{{"Text", "Hello"}, {"AnimationEffect", 5}}));
         QCOMPARE(node.lists.value("TextWidth").at(1).value("text_width"), QString("9"));
-        QCOMPARE(ResolveSceneFile(path, node.files.value("PathData")), files.Path("paths"));
+        QCOMPARE(scene.FullName(node.files.value("PathData")), files.Path("paths"));
     }
 
     /** Each row changes one thing of a good scene; a place that starts with "." is in its node. A '
@@ -151,7 +151,7 @@ private slots:
         SceneNode node = files.Node({"a\"b\\c\n\tŻ𝄞", 8, 3, -1, 2});
         node.pos = QPoint(-3, 5);
         node.neonEffect = 30;
-        Scene scene = TestScenes::Of({node, files.Node({})});
+        Scene scene = files.Of({node, files.Node({})});
         scene.alphaBlend = false;
         scene.pages.append(ScenePage());
         scene.pages.append(ScenePage{{SceneArea(), SceneArea{{files.Node({})}}}});

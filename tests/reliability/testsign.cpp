@@ -78,7 +78,7 @@ std::unique_ptr<Lw::HNeonNodeBase> TestSign::NewNode(const AnimText::SceneNode& 
     scene.pages = {{{{{from}}}}};
     AnimText::NodeTree tree;
     QString error;
-    if (!AnimText::BuildNodeTree(scene, QString(), Plugin(), &tree, &error))
+    if (!AnimText::BuildNodeTree(scene, Plugin(), &tree, &error))
         qFatal("%s", qPrintable(error));
     Lw::HNeonNodeBase* const node = tree.nodes.first();
     node->setParent(nullptr);

@@ -53,7 +53,7 @@ void TestMany::TheSameAsAlone()
 
     AnimText::Player player(TestSign::Dispatcher(), TestSign::Plugin());
     QString error;
-    QVERIFY2(player.Load(together, QString(), &error), qPrintable(error));
+    QVERIFY2(player.Load(together, &error), qPrintable(error));
     Torv::ResetAccounts();
     player.Start();
     std::vector<QVector<uint>> seen(nodes);
@@ -83,7 +83,7 @@ void TestMany::TheSameAsAlone()
     for (int node = 0; node < nodes; ++node) {
         AnimText::Scene alone = together;
         alone.pages = {together.pages.at(node)};
-        QVERIFY2(player.Load(alone, QString(), &error), qPrintable(error));
+        QVERIFY2(player.Load(alone, &error), qPrintable(error));
         player.Start();
         for (int tick = 0; tick <= ticks; ++tick) {
             QVERIFY2(look(player, 0) == seen.at(size_t(node)).at(tick),

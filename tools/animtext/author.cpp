@@ -72,6 +72,7 @@ int Author(const AuthorWords& words)
 
     QString error;
     Scene base;
+    base.path = path;
     if (words.Appends() && QFileInfo::exists(path) && !ReadScene(path, &base, &error))
         return Fail(BadInput, error);
     if (words.WithoutAlpha())
@@ -79,7 +80,7 @@ int Author(const AuthorWords& words)
     AuthoredNode authored;
     if (!AuthorNode(options, &authored, &error))
         return Fail(BadInput, error);
-    if (!SaveAuthored(path, authored, base, display, &error))
+    if (!SaveAuthored(authored, base, display, &error))
         return Fail(FailedRun, error);
     TellUnseen(authored.unseen, options.text);
     TellFindings(path);

@@ -91,9 +91,9 @@ QByteArray ToText(int node, int nodes, qint64 model, const Simulation* simulatio
     return text.toUtf8();
 }
 
-int Tell(const CommandLine& line, const Playing& playing, const Scene& scene, const QString& path)
+int Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
 {
-    const std::unique_ptr<Player> player = playing.Load(scene, path);
+    const std::unique_ptr<Player> player = playing.Load(scene);
     if (!player)
         return BadInput;
     const int nodes = player->NodeCount();
@@ -110,7 +110,7 @@ int Tell(const CommandLine& line, const Playing& playing, const Scene& scene, co
             return !Interrupted();
         };
         WatchForInterruption();
-        simulations = Simulate(player.get(), scene, path, playing.seed, watch, &error);
+        simulations = Simulate(player.get(), scene, playing.seed, watch, &error);
         if (Interrupted())
             return Fail(FailedRun, QStringLiteral("interrupted"));
         if (simulations.isEmpty())
@@ -147,12 +147,11 @@ int RunDuration(const QStringList& words)
 
     Scene scene;
     Playing playing;
-    const QString path = line.Arguments().first();
     if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
         return status;
     if (line.IsSet(QStringLiteral("table")))
-        return TellDurationTable(playing, scene, path, line.IsSet(QStringLiteral("json")));
-    return Tell(line, playing, scene, path);
+        return TellDurationTable(playing, scene, line.IsSet(QStringLiteral("json")));
+    return Tell(line, playing, scene);
 }
 
 } // namespace AnimText

@@ -27,19 +27,18 @@ Scene OnlyFirst(const Scene& scene)
     return only;
 }
 
-bool Measure(const Playing& playing, Scene scene, const QString& path, int effect, int speed,
-             Times* times)
+bool Measure(const Playing& playing, Scene scene, int effect, int speed, Times* times)
 {
     SceneNode& node = scene.pages.first().areas.first().nodes.first();
     node.attributes[QStringLiteral("AnimationEffect")] = effect;
     node.attributes[QStringLiteral("AnimationSpeed")] = speed;
-    const std::unique_ptr<Player> player = playing.Load(scene, path);
+    const std::unique_ptr<Player> player = playing.Load(scene);
     if (!player)
         return false;
     times->model = player->Scenery().Node(0)->Duration();
     QString error;
     const QVector<Simulation> simulations = Simulate(
-        player.get(), scene, path, playing.seed, [](int) { return !Interrupted(); }, &error);
+        player.get(), scene, playing.seed, [](int) { return !Interrupted(); }, &error);
     times->real = simulations.value(0);
     return !simulations.isEmpty() && !Interrupted();
 }
@@ -90,11 +89,10 @@ QByteArray Heading()
 
 } // namespace
 
-int TellDurationTable(const Playing& playing, const Scene& scene, const QString& scenePath,
-                      bool json)
+int TellDurationTable(const Playing& playing, const Scene& scene, bool json)
 {
     if (scene.Nodes().isEmpty())
-        return Fail(BadInput, scenePath + QStringLiteral(": $.pages: expected at least one node"));
+        return Fail(BadInput, scene.path + QStringLiteral(": $.pages: expected at least one node"));
     const Silence silence;
     const Scene only = OnlyFirst(scene);
     QByteArray text = json ? QByteArray()
@@ -110,7 +108,7 @@ int TellDurationTable(const Playing& playing, const Scene& scene, const QString&
                     QByteArray(effect.name).leftJustified(34);
         for (int speed : speeds) {
             Times times;
-            if (!Measure(playing, only, scenePath, effect.number, speed, &times))
+            if (!Measure(playing, only, effect.number, speed, &times))
                 return Interrupted() ? Fail(FailedRun, QStringLiteral("interrupted")) : BadInput;
             text += json ? ToJson(effect, speed, times) : Cell(times);
             progress.Show(++done);

@@ -10,8 +10,7 @@
 namespace AnimText {
 
 /** Prints the table for the first node of @p scene. @return the exit status */
-int TellDurationTable(const Playing& playing, const Scene& scene, const QString& scenePath,
-                      bool json);
+int TellDurationTable(const Playing& playing, const Scene& scene, bool json);
 
 } // namespace AnimText
 

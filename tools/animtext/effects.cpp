@@ -59,20 +59,20 @@ bool MeasuredScene(const QTemporaryDir& folder, Scene* scene)
         {QStringLiteral("TextHeight"), rows(QStringLiteral("text_height"), characterHeight)}};
     node.files = {{QStringLiteral("PathData"), QStringLiteral("paths")},
                   {QStringLiteral("DescentVector"), QStringLiteral("descents")}};
+    scene->path = folder.filePath(QStringLiteral("measured.json"));
     scene->display = area;
     scene->pages = {ScenePage{{SceneArea{{node}}}}};
     return true;
 }
 
 /** Ticks of one run of one page; negative where the play is not the plugin's or has no end. */
-int TicksPerPage(const Playing& playing, Scene scene, const QString& path, int mode,
-                 const Motion& motion)
+int TicksPerPage(const Playing& playing, Scene scene, int mode, const Motion& motion)
 {
     SceneNode& node = scene.pages.first().areas.first().nodes.first();
     node.attributes[QStringLiteral("EffectType")] = mode;
     node.attributes[QStringLiteral("AnimationEffect")] = motion.number;
     node.attributes[QStringLiteral("ContinueStyle")] = motion.number;
-    const std::unique_ptr<Player> player = playing.Load(scene, path);
+    const std::unique_ptr<Player> player = playing.Load(scene);
     if (!player)
         return -1;
     const NodePlay play = PlayToEnd(player.get(), LongestPlay(scene), playing.seed).value(0);
@@ -96,9 +96,7 @@ QList<Measured> Measure(const Playing& playing, const QList<Motion>& motions, in
     const bool measurable = playing.plugin && folder.isValid() && MeasuredScene(folder, &scene);
     QList<Measured> measured;
     for (const Motion& motion : motions) {
-        const QString path = folder.filePath(QStringLiteral("measured.json"));
-        measured.append(
-            {motion, measurable ? TicksPerPage(playing, scene, path, mode, motion) : -1});
+        measured.append({motion, measurable ? TicksPerPage(playing, scene, mode, motion) : -1});
     }
     return measured;
 }

@@ -49,11 +49,11 @@ Status OpenSceneAndPlugin(CommandLine* line, Scene* scene, Playing* playing)
     return status == Done ? OpenPlugin(line, playing) : status;
 }
 
-std::unique_ptr<Player> Playing::Load(const Scene& scene, const QString& scenePath) const
+std::unique_ptr<Player> Playing::Load(const Scene& scene) const
 {
     auto player = std::make_unique<Player>(dispatcher, plugin);
     QString error;
-    if (player->Load(scene, scenePath, &error))
+    if (player->Load(scene, &error))
         return player;
     Fail(BadInput, error);
     return nullptr;

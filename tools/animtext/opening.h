@@ -27,7 +27,7 @@ struct Playing
     uint seed = standardSeed;
 
     /** A player with @p scene loaded; null, and the error told, when that fails. */
-    std::unique_ptr<Player> Load(const Scene& scene, const QString& scenePath) const;
+    std::unique_ptr<Player> Load(const Scene& scene) const;
 };
 
 /** Loads the plugin. On failure tells the error and answers the exit status. */

@@ -33,7 +33,6 @@ bool ReadRange(const QString& text, Range* range)
 /** What the words ask for. */
 struct Job
 {
-    QString scenePath;
     QString output;
     FilmSettings settings;
     Range range;
@@ -41,7 +40,6 @@ struct Job
 
 bool ReadJob(CommandLine* line, Job* job)
 {
-    job->scenePath = line->Arguments().first();
     job->output = line->Value(QStringLiteral("output"));
     if (job->output.isEmpty()) {
         line->Misused(QStringLiteral("expected -o and the name of the film"));
@@ -155,12 +153,12 @@ int RunRender(const QStringList& words)
     if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
         return status;
     job.settings.seed = playing.seed;
-    const std::unique_ptr<Player> player = playing.Load(scene, job.scenePath);
+    const std::unique_ptr<Player> player = playing.Load(scene);
     if (!player)
         return BadInput;
 
     WatchForInterruption();
-    Film film(player.get(), scene, job.scenePath, job.settings);
+    Film film(player.get(), scene, job.settings);
     {
         QString error;
         Progress progress(QStringLiteral("finding the end"), 0);

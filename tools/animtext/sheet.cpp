@@ -39,16 +39,15 @@ QVector<int> Spread(int frames, int count, bool toTheEnd)
     return picked;
 }
 
-Status AddRow(const Playing& playing, const Scene& scene, const QString& path, int columns,
-              ContactSheet* sheet)
+Status AddRow(const Playing& playing, const Scene& scene, int columns, ContactSheet* sheet)
 {
-    const std::unique_ptr<Player> player = playing.Load(scene, path);
+    const std::unique_ptr<Player> player = playing.Load(scene);
     if (!player)
         return BadInput;
     FilmSettings settings;
     settings.seed = playing.seed;
     settings.restAtEnd = false;
-    Film film(player.get(), scene, path, settings);
+    Film film(player.get(), scene, settings);
     QString error;
     if (!film.Plan([](qint64, qint64) { return !Interrupted(); }, &error))
         return Status(Fail(Interrupted() ? FailedRun : BadInput, error));
@@ -56,7 +55,7 @@ Status AddRow(const Playing& playing, const Scene& scene, const QString& path, i
     SheetRow row;
     const Motion* motion = MotionOf(scene);
     const bool scrolls = motion && motion->family == Scrolls().first().family;
-    row.title = QFileInfo(path).completeBaseName();
+    row.title = QFileInfo(scene.path).completeBaseName();
     if (motion) {
         row.number = scrolls ? QString() : QString::number(motion->number);
         row.title = QString::fromLatin1(motion->name);
@@ -119,7 +118,7 @@ int RunSheet(const QStringList& words)
     {
         Progress progress(QStringLiteral("playing scene"), paths.size());
         for (int i = 0; i < paths.size(); ++i) {
-            if (const Status status = AddRow(playing, scenes.at(i), paths.at(i), columns, &sheet))
+            if (const Status status = AddRow(playing, scenes.at(i), columns, &sheet))
                 return status;
             progress.Show(i + 1);
         }

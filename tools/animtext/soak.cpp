@@ -21,13 +21,6 @@ constexpr int turnTicks = 455; // half a minute: then the next scene
 constexpr int pauseTicks = 20; // once in a turn
 constexpr double mostHours = 24 * 366;
 
-/** What to play in turn. */
-struct Turn
-{
-    Scene scene;
-    QString path;
-};
-
 /** Memory of this process that is not paged out, in KiB. */
 qint64 ResidentMemory()
 {
@@ -45,8 +38,8 @@ QByteArray Mebibytes(qint64 kibibytes)
 class Soak
 {
 public:
-    Soak(const QVector<Turn>& turns, double hours, const Playing& playing)
-        : turns(turns)
+    Soak(const QVector<Scene>& scenes, double hours, const Playing& playing)
+        : scenes(scenes)
         , ticksWanted(qint64(std::ceil(hours * ticksPerHour)))
         , playing(playing)
     {
@@ -64,7 +57,7 @@ private:
     bool IsGrowthKnown() const { return memoryAtHour >= 0 && double(ticks) > ticksPerHour; }
     qint64 Growth() const { return memoryAtEnd - memoryAtHour; }
 
-    QVector<Turn> turns;
+    QVector<Scene> scenes;
     qint64 ticksWanted;
     Playing playing;
 
@@ -108,9 +101,9 @@ Status Soak::Run()
     Progress progress(QStringLiteral("soaking, minutes"), ticksWanted * tickLength / 60000);
     WatchForInterruption();
     while (ticks < ticksWanted && !Interrupted()) {
-        const Turn& turn = turns.at(int(turnsPlayed % turns.size()));
         {
-            const std::unique_ptr<Player> player = playing.Load(turn.scene, turn.path);
+            const Scene& scene = scenes.at(int(turnsPlayed % scenes.size()));
+            const std::unique_ptr<Player> player = playing.Load(scene);
             if (!player)
                 return BadInput;
             PlayTurn(player.get());
@@ -135,7 +128,7 @@ QByteArray Soak::Table(double mostGrowth) const
     };
     const auto number = [](qint64 value) { return QByteArray::number(value); };
     add("simulated hours", QByteArray::number(double(ticks) / ticksPerHour, 'f', 2));
-    add("scenes", number(turns.size()));
+    add("scenes", number(scenes.size()));
     add("turns", number(turnsPlayed));
     add("ticks", number(ticks));
     add("pictures shown", number(accounts.calls[Torv::OpSwapPicImageLayerPtr]));
@@ -199,26 +192,25 @@ int RunSoak(const QStringList& words)
         !Fraction(&line, QStringLiteral("growth"), 1e6, &mostGrowth))
         return BadInput;
 
-    QVector<Turn> turns;
+    QVector<Scene> scenes;
     for (const QString& path : line.Arguments()) {
         Scene scene;
         if (const Status status = OpenScene(line, path, &scene))
             return status;
-        turns.append({scene, path});
+        scenes.append(scene);
     }
     const QTemporaryDir folder;
-    if (turns.isEmpty()) {
+    if (scenes.isEmpty()) {
         QString error;
-        for (const Scene& scene : SoakMix(QDir(folder.path()), &error))
-            turns.append({scene, folder.filePath(QStringLiteral("soak.json"))});
-        if (turns.isEmpty())
+        scenes = SoakMix(QDir(folder.path()), &error);
+        if (scenes.isEmpty())
             return Fail(FailedRun, error);
     }
     Playing playing;
     if (const Status status = OpenPlugin(&line, &playing))
         return status;
 
-    Soak soak(turns, hours, playing);
+    Soak soak(scenes, hours, playing);
     if (const Status status = soak.Run())
         return status;
     if (!Print(soak.Table(mostGrowth)))

@@ -60,6 +60,7 @@ QVector<Scene> SoakMix(const QDir& folder, QString* error)
                    error))
             return QVector<Scene>();
         Scene scene;
+        scene.path = folder.filePath(QStringLiteral("soak.json"));
         scene.display = area;
         scene.alphaBlend = i % 2 == 0;
         scene.pages = {ScenePage{{SceneArea{{node}}}}};

@@ -96,10 +96,9 @@ int RunTrace(const QStringList& words)
 
     Scene scene;
     Playing playing;
-    const QString path = line.Arguments().first();
     if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
         return status;
-    const std::unique_ptr<Player> player = playing.Load(scene, path);
+    const std::unique_ptr<Player> player = playing.Load(scene);
     if (!player)
         return BadInput;
 

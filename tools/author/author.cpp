@@ -203,12 +203,12 @@ bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* e
     return true;
 }
 
-bool SaveAuthored(const QString& path, const AuthoredNode& authored, const Scene& base,
-                  QSize display, QString* error)
+bool SaveAuthored(const AuthoredNode& authored, const Scene& base, QSize display, QString* error)
 {
     SceneNode node = authored.node;
-    const QString paths = DataFileName(path, authored.pathFile, QStringLiteral("path"));
-    const QString descents = DataFileName(path, authored.descentFile, QStringLiteral("descent"));
+    const QString paths = DataFileName(base.path, authored.pathFile, QStringLiteral("path"));
+    const QString descents =
+        DataFileName(base.path, authored.descentFile, QStringLiteral("descent"));
     node.files[QStringLiteral("PathData")] = paths;
     node.files[QStringLiteral("DescentVector")] = descents;
 
@@ -222,8 +222,7 @@ bool SaveAuthored(const QString& path, const AuthoredNode& authored, const Scene
         scene.display = scene.display.expandedTo(
             QSize(node.pos.x() + node.size.width(), node.pos.y() + node.size.height()));
     }
-    return SaveScene(path, scene, {{paths, authored.pathFile}, {descents, authored.descentFile}},
-                     error);
+    return SaveScene(scene, {{paths, authored.pathFile}, {descents, authored.descentFile}}, error);
 }
 
 } // namespace AnimText

@@ -70,12 +70,11 @@ bool ToOneLine(QString* text, QStringList* notes, QString* error);
 bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* error);
 
 /**
- * Adds @p authored to the nodes of @p base, which is an empty scene or one that was read from
- * @p path, and writes the whole to @p path. The display becomes @p display or, when that is empty,
+ * Adds @p authored to the nodes of @p base, which may be empty, and writes the whole to the path of
+ * @p base. The display becomes @p display or, when that is empty,
  * grows to hold the node's area. @sa SaveScene()
  */
-bool SaveAuthored(const QString& path, const AuthoredNode& authored, const Scene& base,
-                  QSize display, QString* error);
+bool SaveAuthored(const AuthoredNode& authored, const Scene& base, QSize display, QString* error);
 
 } // namespace AnimText
 

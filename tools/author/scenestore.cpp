@@ -105,9 +105,9 @@ QString DataFileName(const QString& scenePath, const QByteArray& content, const 
            QString::fromLatin1(digest.left(digestLength)) + QLatin1Char('.') + suffix;
 }
 
-bool SaveScene(const QString& path, const Scene& scene, const QMap<QString, QByteArray>& dataFiles,
-               QString* error)
+bool SaveScene(const Scene& scene, const QMap<QString, QByteArray>& dataFiles, QString* error)
 {
+    const QString& path = scene.path;
     const QFileInfo info(path);
     const QDir folder = info.dir();
     if (info.isDir() || !folder.exists()) {

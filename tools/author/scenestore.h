@@ -21,14 +21,13 @@ namespace AnimText {
 QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix);
 
 /**
- * Writes @p scene to @p path and @p dataFiles (content by name) beside it. The data files come
- * first, the scene last and at once: killed at any moment, what stands at @p path is the old scene
+ * Writes @p scene to its path and @p dataFiles (content by name) beside it. The data files come
+ * first, the scene last and at once: killed at any moment, what stands there is the old scene
  * or the new one, and its files are there. Data files made by DataFileName() that the replaced
  * scene named and that no scene in the folder names any more are removed. On failure answers false
  * with one line in @p error and leaves nothing new behind.
  */
-bool SaveScene(const QString& path, const Scene& scene, const QMap<QString, QByteArray>& dataFiles,
-               QString* error);
+bool SaveScene(const Scene& scene, const QMap<QString, QByteArray>& dataFiles, QString* error);
 
 } // namespace AnimText
 

@@ -26,11 +26,9 @@ int RoundedUpToEven(int number)
 
 } // namespace
 
-Film::Film(Player* player, const Scene& scene, const QString& scenePath,
-           const FilmSettings& settings)
+Film::Film(Player* player, const Scene& scene, const FilmSettings& settings)
     : player(player)
     , scene(scene)
-    , scenePath(scenePath)
     , settings(settings)
 {
 }
@@ -94,7 +92,7 @@ bool Film::Plan(const FilmWatch& watch, QString* error)
     if (frameCount > ticksOfAnHour) {
         *error = QStringLiteral("%1: does not come to an end within an hour; say how much of it to "
                                 "play, for instance --seconds 60")
-                     .arg(scenePath);
+                     .arg(scene.path);
         return false;
     }
     return true;
@@ -119,7 +117,7 @@ bool Film::Play(const QVector<int>& wanted,
                 const std::function<bool(int frame, const QImage&)>& take, QString* error)
 {
     // Some of what a play changes outlives a restart, the dazzling colours for one.
-    if (!player->Load(scene, scenePath, error))
+    if (!player->Load(scene, error))
         return false;
     player->Start(settings.seed);
     for (int frame : wanted) {

@@ -36,8 +36,7 @@ using FilmWatch = std::function<bool(qint64 done, qint64 total)>;
 class Film
 {
 public:
-    Film(Player* player, const Scene& scene, const QString& scenePath,
-         const FilmSettings& settings);
+    Film(Player* player, const Scene& scene, const FilmSettings& settings);
 
     /**
      * Finds the length by playing the scene, unless it is given.
@@ -67,7 +66,6 @@ private:
 
     Player* player;
     Scene scene;
-    QString scenePath;
     FilmSettings settings;
     int frameCount = 0;
     int restTick = -1;         // from here on, what has played stands still; negative: never

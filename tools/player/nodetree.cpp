@@ -7,7 +7,7 @@ namespace AnimText {
 
 namespace {
 
-void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const QString& scenePath)
+void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const Scene& scene)
 {
     node->SetPos(from.pos);
     node->SetSize(from.size);
@@ -22,7 +22,7 @@ void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const QString& scenePa
     for (auto it = from.lists.begin(); it != from.lists.end(); ++it)
         node->SetList(it.key(), it.value());
     for (auto it = from.files.begin(); it != from.files.end(); ++it)
-        node->SetFiles(it.key(), {ResolveSceneFile(scenePath, it.value())});
+        node->SetFiles(it.key(), {scene.FullName(it.value())});
 }
 
 Lw::HNeonNodeBase* CreateNode(const SceneNode& from, const QString& place, Lw::INodePlugin* plugin,
@@ -45,8 +45,7 @@ Lw::HNeonNodeBase* CreateNode(const SceneNode& from, const QString& place, Lw::I
 
 } // namespace
 
-bool BuildNodeTree(const Scene& scene, const QString& scenePath, Lw::INodePlugin* plugin,
-                   NodeTree* tree, QString* error)
+bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, QString* error)
 {
     NodeTree built;
     built.program = std::make_unique<Lw::HNode>();
@@ -63,11 +62,11 @@ bool BuildNodeTree(const Scene& scene, const QString& scenePath, Lw::INodePlugin
                     QStringLiteral("$.pages[%1].areas[%2].nodes[%3]").arg(p).arg(a).arg(n);
                 Lw::HNeonNodeBase* node = CreateNode(nodes.at(n), place, plugin, error);
                 if (!node) {
-                    *error = scenePath + QStringLiteral(": ") + *error;
+                    *error = scene.path + QStringLiteral(": ") + *error;
                     return false;
                 }
                 area->AddChild(node);
-                Fill(node, nodes.at(n), scenePath);
+                Fill(node, nodes.at(n), scene);
                 built.nodes.append(node);
             }
         }

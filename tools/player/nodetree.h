@@ -30,10 +30,8 @@ struct NodeTree
 /**
  * Builds the tree of @p scene with nodes that @p plugin creates. On failure answers false, sets
  * @p error to one line with the place in the scene, and @p tree is left as it was.
- * @param scenePath where relative file names start
  */
-bool BuildNodeTree(const Scene& scene, const QString& scenePath, Lw::INodePlugin* plugin,
-                   NodeTree* tree, QString* error);
+bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, QString* error);
 
 } // namespace AnimText
 

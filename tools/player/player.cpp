@@ -21,9 +21,9 @@ qint64 Player::Clock(void* player)
     return self->dispatcher->Now() - self->origin;
 }
 
-bool Player::Load(const Scene& scene, const QString& scenePath, QString* error)
+bool Player::Load(const Scene& scene, QString* error)
 {
-    return stage.Build(scene, scenePath, error);
+    return stage.Build(scene, error);
 }
 
 void Player::Start(uint seed)

@@ -30,7 +30,7 @@ public:
     Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin);
     ~Player();
 
-    bool Load(const Scene& scene, const QString& scenePath, QString* error);
+    bool Load(const Scene& scene, QString* error);
 
     /** Tick 0: starts every node. */
     void Start(uint seed = standardSeed);

@@ -28,16 +28,16 @@ bool HasHolds(const Scene& scene)
 
 } // namespace
 
-QVector<Simulation> Simulate(Player* player, const Scene& scene, const QString& scenePath,
-                             uint seed, const Watch& watch, QString* error)
+QVector<Simulation> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
+                             QString* error)
 {
     const Scene holdless = WithoutHolds(scene);
-    if (!player->Load(holdless, scenePath, error))
+    if (!player->Load(holdless, error))
         return {};
     const QVector<NodePlay> moving = PlayToEnd(player, LongestPlay(scene), seed, watch);
     QVector<NodePlay> whole = moving;
     if (HasHolds(scene)) {
-        if (!player->Load(scene, scenePath, error))
+        if (!player->Load(scene, error))
             return {};
         whole = PlayToEnd(player, LongestPlay(scene), seed, watch);
     }

@@ -26,8 +26,8 @@ struct Simulation
  * @param player any scene that it has is replaced
  * @return one entry a node; empty, with one line in @p error, when the scene cannot be played
  */
-QVector<Simulation> Simulate(Player* player, const Scene& scene, const QString& scenePath,
-                             uint seed, const Watch& watch, QString* error);
+QVector<Simulation> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
+                             QString* error);
 
 } // namespace AnimText
 

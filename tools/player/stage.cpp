@@ -21,16 +21,16 @@ Stage::~Stage()
     KeepCalls(false);
 }
 
-bool Stage::Build(const Scene& scene, const QString& scenePath, QString* error)
+bool Stage::Build(const Scene& scene, QString* error)
 {
     Stop();
     parts.clear();
     tree = NodeTree();
     NodeTree built;
-    if (!BuildNodeTree(scene, scenePath, plugin, &built, error))
+    if (!BuildNodeTree(scene, plugin, &built, error))
         return false;
     if (built.nodes.isEmpty()) {
-        *error = scenePath + QStringLiteral(": $.pages: expected at least one node, found none");
+        *error = scene.path + QStringLiteral(": $.pages: expected at least one node, found none");
         return false;
     }
     // Renderers ask for the format when they are made.
@@ -40,7 +40,7 @@ bool Stage::Build(const Scene& scene, const QString& scenePath, QString* error)
         part.render.reset(plugin->CreateAreaRender(node));
         if (!part.render) {
             parts.clear();
-            *error = scenePath + QStringLiteral(": the plugin makes no renderer for its nodes");
+            *error = scene.path + QStringLiteral(": the plugin makes no renderer for its nodes");
             return false;
         }
         parts.push_back(std::move(part));

@@ -32,7 +32,7 @@ public:
     ~Stage();
 
     /** Sets the scene up. On failure answers false and sets @p error to one line. */
-    bool Build(const Scene& scene, const QString& scenePath, QString* error);
+    bool Build(const Scene& scene, QString* error);
 
     /**
      * Starts every node, in the order of the file, each after the random numbers have been seeded

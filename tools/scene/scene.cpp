@@ -17,11 +17,11 @@ QList<const SceneNode*> Scene::Nodes() const
     return nodes;
 }
 
-QString ResolveSceneFile(const QString& scenePath, const QString& file)
+QString Scene::FullName(const QString& file) const
 {
     if (file.isEmpty())
         return QString();
-    const QDir folder = QFileInfo(scenePath).absoluteDir();
+    const QDir folder = QFileInfo(path).absoluteDir();
     return QDir::cleanPath(folder.absoluteFilePath(file));
 }
 

@@ -43,12 +43,15 @@ struct ScenePage
 /** A program of pages, each of areas, each of nodes. */
 struct Scene
 {
+    QString path;  ///< the file that it was read from, or that it is for
     QSize display; ///< pixels
     bool alphaBlend = true;
     QList<ScenePage> pages;
 
     /** Every node, in the order of the file. */
     QList<const SceneNode*> Nodes() const;
+    /** @p file as a full path, relative names being relative to the scene's folder. */
+    QString FullName(const QString& file) const;
 };
 
 /**
@@ -61,9 +64,6 @@ bool ReadScene(const QString& path, Scene* scene, QString* error);
 /** What the tools do about a file that a scene names and that is not there. */
 enum class MissingFiles { AreErrors, AreAccepted };
 bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing);
-
-/** @p file as a full path, relative names being relative to the scene file at @p scenePath. */
-QString ResolveSceneFile(const QString& scenePath, const QString& file);
 
 /** The scene as the text of a scene file. */
 QByteArray SceneToJson(const Scene& scene);

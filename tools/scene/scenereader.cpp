@@ -146,25 +146,25 @@ class Reader
 {
 public:
     Reader(const QString& path, MissingFiles missing)
-        : path(path)
-        , missing(missing)
+        : missing(missing)
     {
+        scene.path = path;
     }
 
-    Scene Read(const QJsonValue& root) const;
+    Scene Read(const QJsonValue& root);
 
 private:
     SceneNode ReadNode(const QJsonValue& value, const QString& place) const;
     QString ReadFileName(const QJsonValue& value, const QString& place) const;
 
-    QString path;
+    Scene scene;
     MissingFiles missing;
 };
 
 QString Reader::ReadFileName(const QJsonValue& value, const QString& place) const
 {
     const QString name = ToText(value, place);
-    const QString full = ResolveSceneFile(path, name);
+    const QString full = scene.FullName(name);
     if (missing == MissingFiles::AreErrors && !QFileInfo::exists(full))
         Fail(place, name.isEmpty() ? QStringLiteral("expected the name of a file, found none")
                                    : QStringLiteral("expected a file, there is no %1").arg(full));
@@ -215,7 +215,7 @@ SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place) const
     return node;
 }
 
-Scene Reader::Read(const QJsonValue& root) const
+Scene Reader::Read(const QJsonValue& root)
 {
     const QString top = QStringLiteral("$");
     const QJsonObject object = ToObject(root, top,
@@ -223,7 +223,6 @@ Scene Reader::Read(const QJsonValue& root) const
                                          QStringLiteral("alphaBlend"), QStringLiteral("pages")});
     ToInt(object.value(QLatin1String("scene")), QStringLiteral("$.scene"), 1, 1);
 
-    Scene scene;
     const QString displayPlace = QStringLiteral("$.display");
     const QJsonObject display = ToObject(object.value(QLatin1String("display")), displayPlace,
                                          {QStringLiteral("width"), QStringLiteral("height")});

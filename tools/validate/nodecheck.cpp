@@ -49,10 +49,8 @@ int LargestAt(const QVector<int>& values)
 
 } // namespace
 
-NodeCheck::NodeCheck(const QString& scenePath, const Scene& scene, const SceneNode& node,
-                     const QString& place)
-    : scenePath(scenePath)
-    , scene(scene)
+NodeCheck::NodeCheck(const Scene& scene, const SceneNode& node, const QString& place)
+    : scene(scene)
     , node(node)
     , place(place)
     , text(node.attributes.value(QStringLiteral("Text")).toString())
@@ -235,7 +233,7 @@ void NodeCheck::CheckFiles()
         const bool isData =
             key == QLatin1String("PathData") || key == QLatin1String("DescentVector");
         if (node.files.contains(key)) {
-            const QString path = ResolveSceneFile(scenePath, node.files.value(key));
+            const QString path = scene.FullName(node.files.value(key));
             if (!QFileInfo::exists(path))
                 Add("file-missing", at, QStringLiteral("no file %1").arg(path),
                     QStringLiteral("a file"));
@@ -257,7 +255,7 @@ void NodeCheck::CheckData(const QString& key)
 {
     const bool holdsPaths = key == QLatin1String("PathData");
     const QString at = QStringLiteral("files.") + key;
-    const QString path = ResolveSceneFile(scenePath, node.files.value(key));
+    const QString path = scene.FullName(node.files.value(key));
     const DataFile data = holdsPaths ? LookIntoPathFile(path) : LookIntoDescentFile(path);
     if (!data.fault.isEmpty()) {
         Add("data-malformed", at, QStringLiteral("%1: %2").arg(path, data.fault),

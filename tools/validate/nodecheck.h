@@ -16,9 +16,8 @@ namespace AnimText {
 class NodeCheck
 {
 public:
-    /** @param place the node's place in the scene file @p scenePath */
-    NodeCheck(const QString& scenePath, const Scene& scene, const SceneNode& node,
-              const QString& place);
+    /** @param place the node's place in the scene file */
+    NodeCheck(const Scene& scene, const SceneNode& node, const QString& place);
 
     QList<Finding> Run();
 
@@ -43,7 +42,6 @@ private:
     void Add(const char* code, const QString& where, const QString& found, const QString& expected);
     void AddAttribute(const char* code, const char* key, const QString& expected);
 
-    const QString scenePath;
     const Scene& scene;
     const SceneNode& node;
     const QString place;

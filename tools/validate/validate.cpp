@@ -21,7 +21,7 @@ QList<Finding> ValidateScene(const QString& path)
             for (int n = 0; n < nodes.size(); ++n) {
                 const QString place =
                     QStringLiteral("$.pages[%1].areas[%2].nodes[%3]").arg(p).arg(a).arg(n);
-                findings += NodeCheck(path, scene, nodes[n], place).Run();
+                findings += NodeCheck(scene, nodes[n], place).Run();
             }
         }
     }
