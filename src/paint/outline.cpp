@@ -1,0 +1,98 @@
+#include "paint/outline.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void Outline::Add(float x, float y, Type type)
+{
+    const Element element = {x, y, type};
+    elements.push_back(element);
+}
+
+void Outline::CurveTo(float x1, float y1, float x2, float y2, float x, float y)
+{
+    Add(x1, y1, Curve);
+    Add(x2, y2, CurveData);
+    Add(x, y, CurveData);
+}
+
+void Outline::Append(const Outline& other, float dx, float dy)
+{
+    if (other.IsEmpty())
+        return;
+    if (!elements.empty() && elements.back().type == Move)
+        elements.pop_back();
+    size_t i = elements.size();
+    elements.insert(elements.end(), other.elements.begin(), other.elements.end());
+    if (dx == 0 && dy == 0)
+        return;
+    for (; i < elements.size(); ++i) {
+        elements[i].x += dx;
+        elements[i].y += dy;
+    }
+}
+
+Outline Outline::Translated(float dx, float dy) const
+{
+    Outline moved(*this);
+    for (size_t i = 0; i < moved.elements.size(); ++i) {
+        moved.elements[i].x += dx;
+        moved.elements[i].y += dy;
+    }
+    return moved;
+}
+
+bool Outline::IsEmpty() const
+{
+    return elements.empty() || (elements.size() == 1 && elements.front().type == Move);
+}
+
+bool Outline::IsWellFormed() const
+{
+    if (!elements.empty() && elements.front().type != Move)
+        return false;
+    for (size_t i = 0; i < elements.size(); ++i) {
+        if (elements[i].type == CurveData)
+            return false;
+        if (elements[i].type != Curve)
+            continue;
+        if (elements.size() - i < 3 || elements[i + 1].type != CurveData ||
+            elements[i + 2].type != CurveData)
+            return false;
+        i += 2;
+    }
+    return true;
+}
+
+bool Outline::IsFinite() const
+{
+    // A sum of zeros unless one of them is infinite or no number.
+    float sum = 0;
+    for (size_t i = 0; i < elements.size(); ++i)
+        sum += elements[i].x * 0 + elements[i].y * 0;
+    return sum == 0;
+}
+
+void Outline::Clear()
+{
+    elements.clear();
+    fillRule = OddEven;
+}
+
+bool Outline::StartsWith(const Outline& other) const
+{
+    return other.elements.size() <= elements.size() &&
+           (other.elements.empty() || std::memcmp(&elements[0], &other.elements[0],
+                                                  other.elements.size() * sizeof(Element)) == 0);
+}
+
+bool NearlyEqual(const Outline::Element& a, const Outline::Element& b)
+{
+    return std::fabs(a.x - b.x) <= 0.00001f && std::fabs(a.y - b.y) <= 0.00001f;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

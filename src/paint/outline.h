@@ -1,0 +1,69 @@
+#ifndef OUTLINE_H
+#define OUTLINE_H
+
+#include <cstddef>
+#include <vector>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/**
+ * A path of lines and cubic curves in pixels, computed in float as on the device. It is what
+ * QPainterPath is there: the same elements, the same answer to an empty path or a trailing move.
+ */
+class Outline
+{
+public:
+    enum Type { Move, Line, Curve, CurveData };
+    enum FillRule { OddEven, Winding };
+
+    /** A curve is a Curve, its first control point, and two CurveData, the second and the end. */
+    struct Element
+    {
+        float x;
+        float y;
+        Type type;
+    };
+
+    Outline()
+        : fillRule(OddEven)
+    {
+    }
+
+    void MoveTo(float x, float y) { Add(x, y, Move); }
+    void LineTo(float x, float y) { Add(x, y, Line); }
+    void CurveTo(float x1, float y1, float x2, float y2, float x, float y);
+
+    /** Takes over @p other, moved by (@p dx, @p dy); the fill rule stays. Itself is no @p other. */
+    void Append(const Outline& other, float dx = 0, float dy = 0);
+    Outline Translated(float dx, float dy) const;
+
+    /** Nothing in it but at most a move. */
+    bool IsEmpty() const;
+    /** The elements begin with a move and curves are whole: what may be painted. */
+    bool IsWellFormed() const;
+    /** No coordinate is infinite or no number. */
+    bool IsFinite() const;
+    void Clear();
+
+    size_t Size() const { return elements.size(); }
+    const Element& At(size_t i) const { return elements[i]; }
+    Element& At(size_t i) { return elements[i]; }
+    void Add(float x, float y, Type type);
+    void RemoveLast() { elements.pop_back(); }
+    /** Whether the first elements are those of @p other, bit for bit. */
+    bool StartsWith(const Outline& other) const;
+
+    FillRule fillRule;
+
+private:
+    std::vector<Element> elements;
+};
+
+/** Points that the device takes for one: each coordinate within 1e-5. */
+bool NearlyEqual(const Outline::Element& a, const Outline::Element& b);
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

@@ -1,0 +1,69 @@
+#ifndef PLANE_H
+#define PLANE_H
+
+#include <cstddef>
+#include <stdint.h>
+#include <vector>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/**
+ * A picture of one bit a pixel. The leftmost pixel of a word is its lowest bit; a row has room for
+ * one bit beyond the picture, where runs that reach the right border end.
+ */
+class Plane
+{
+public:
+    typedef uint64_t Word;
+    static const int wordBits = 64;
+
+    Plane()
+        : width(0)
+        , height(0)
+        , stride(0)
+        , inkTop(0)
+        , inkBottom(0)
+    {
+    }
+
+    /** Forgets what was painted. */
+    void SetSize(int w, int h);
+    void Clear();
+
+    int Width() const { return width; }
+    int Height() const { return height; }
+    /** Words a row. */
+    size_t Stride() const { return stride; }
+    Word* Row(int y) { return &words[static_cast<size_t>(y) * stride]; }
+    const Word* Row(int y) const { return &words[static_cast<size_t>(y) * stride]; }
+
+    void Set(int x, int y) { Row(y)[x / wordBits] |= Word(1) << (x % wordBits); }
+    bool Has(int x, int y) const { return Row(y)[x / wordBits] >> (x % wordBits) & 1; }
+    /** Columns @p begin up to but without @p end. */
+    void SetRun(int y, int begin, int end);
+    /** All that @p other has, too. Both have the same size. */
+    void Unite(const Plane& other);
+
+    /** Whoever sets bits says in which rows: @p top up to but without @p bottom. */
+    void MarkRows(int top, int bottom);
+    /** Rows without ink lie before this one ... */
+    int InkTop() const { return inkTop; }
+    /** ... and from this one on. */
+    int InkBottom() const { return inkBottom; }
+
+    size_t Bytes() const { return words.capacity() * sizeof(Word); }
+
+private:
+    int width;
+    int height;
+    size_t stride;
+    int inkTop;
+    int inkBottom;
+    std::vector<Word> words;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

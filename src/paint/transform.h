@@ -1,0 +1,55 @@
+#ifndef TRANSFORM_H
+#define TRANSFORM_H
+
+#include "paint/outline.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/**
+ * A transform of the plane, computed in float: every operation gives what the device's QTransform
+ * gives. Its operations have the names they have there and apply before what was there already.
+ */
+class Transform
+{
+public:
+    Transform() { reset(); }
+
+    void reset();
+    void translate(float dx, float dy);
+    void scale(float sx, float sy);
+    void shear(float sh, float sv);
+    /** By @p degrees about the origin, clockwise on a picture. */
+    void rotate(float degrees);
+
+    /** In place. */
+    void map(float& x, float& y) const;
+    Outline map(const Outline& outline) const;
+
+    /** No element is infinite or no number. */
+    bool IsFinite() const;
+
+    float m11() const { return a11; }
+    float m12() const { return a12; }
+    float m21() const { return a21; }
+    float m22() const { return a22; }
+    float dx() const { return tx; }
+    float dy() const { return ty; }
+
+private:
+    // What a transform does at most. The device computes by this kind, and works it out again only
+    // after an operation that may have raised it.
+    enum Kind { None, Translating, Scaling, Rotating, Shearing };
+    Kind kind() const;
+    Kind KindFrom(Kind highest) const;
+    void Touch(Kind atLeast);
+
+    float a11, a12, a21, a22, tx, ty;
+    mutable Kind known;
+    mutable Kind touched;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif
