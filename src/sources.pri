@@ -7,6 +7,16 @@ HEADERS += \
     $$PWD/node/attribute.h \
     $$PWD/node/hanimationtextnode.h \
     $$PWD/node/motions.h \
+    $$PWD/paint/curves.h \
+    $$PWD/paint/farcutting.h \
+    $$PWD/paint/fill.h \
+    $$PWD/paint/fixedpoint.h \
+    $$PWD/paint/hairline.h \
+    $$PWD/paint/outline.h \
+    $$PWD/paint/picturewriter.h \
+    $$PWD/paint/plane.h \
+    $$PWD/paint/textcanvas.h \
+    $$PWD/paint/transform.h \
     $$PWD/plugin/export.h \
     $$PWD/plugin/hnodeanimationtext.h \
     $$PWD/render/hanimationtextrender.h \
@@ -34,6 +44,14 @@ SOURCES += \
     $$PWD/node/duration.cpp \
     $$PWD/node/hanimationtextnode.cpp \
     $$PWD/node/textmetrics.cpp \
+    $$PWD/paint/farcutting.cpp \
+    $$PWD/paint/fill.cpp \
+    $$PWD/paint/hairline.cpp \
+    $$PWD/paint/outline.cpp \
+    $$PWD/paint/picturewriter.cpp \
+    $$PWD/paint/plane.cpp \
+    $$PWD/paint/textcanvas.cpp \
+    $$PWD/paint/transform.cpp \
     $$PWD/plugin/entrypoints.cpp \
     $$PWD/plugin/hnodeanimationtext.cpp \
     $$PWD/render/hanimationtextrender.cpp \

@@ -47,6 +47,7 @@ public:
     void Clear();
 
     size_t Size() const { return elements.size(); }
+    size_t Bytes() const { return elements.capacity() * sizeof(Element); }
     const Element& At(size_t i) const { return elements[i]; }
     Element& At(size_t i) { return elements[i]; }
     void Add(float x, float y, Type type);

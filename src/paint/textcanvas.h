@@ -4,6 +4,7 @@
 #include "paint/fill.h"
 #include "paint/hairline.h"
 #include "paint/outline.h"
+#include "paint/picturewriter.h"
 #include "paint/plane.h"
 #include "paint/transform.h"
 
@@ -19,17 +20,21 @@ namespace HNodeAnimationText {
  *     canvas.Clear();                      // for each frame
  *     canvas.DrawPath(page);               // one after the other, as with QPainter
  *     canvas.DrawPath(glyphInFlight);
- *     canvas.WriteArgb32(bits, bytesPerLine, colour);
+ *     canvas.Write(PictureWriter::Argb32, colour, bits, bytesPerLine);
  *
- * The first path of a frame is kept: where the next frame's begins with it, only what was added is
- * painted, and where it is the same, nothing. So characters that stand cost little.
+ * The first path of a frame is kept: where that of the next frame begins with it, only what was
+ * added is painted, and where it is the same, nothing. So characters that stand cost little. What
+ * is painted is the same.
  */
 class TextCanvas
 {
 public:
     TextCanvas();
 
-    /** In pixels. As on the device nothing is painted beyond 32767; a size <= 0 has no pixels. */
+    /**
+     * In pixels; a size <= 0 has none. As on the device nothing is painted beyond 32767. Begins a
+     * frame; the same size again costs nothing.
+     */
     void SetSize(int width, int height);
     /** Begins a frame: no ink, no clip. */
     void Clear();
@@ -44,32 +49,43 @@ public:
     /** The same under a painter's transform: points are mapped, the pen stays a hairline. */
     void DrawPath(const Outline& path, const Transform& painterTransform);
 
-    /** All pixels of the frame, those without ink 0; padding at the end of rows is not touched. */
-    void WriteArgb32(unsigned char* bits, int bytesPerLine, uint32_t argb) const;
-    /** The same in 3 bytes a pixel: red, green, blue, from 0xAARRGGBB. */
-    void WriteRgb888(unsigned char* bits, int bytesPerLine, uint32_t argb) const;
+    /**
+     * All pixels of the frame, from 0xAARRGGBB, those without ink 0. Rows begin every
+     * @p bytesPerLine bytes; what lies between their last pixel and the next row stays as it is.
+     */
+    void Write(PictureWriter::Format format, uint32_t argb, unsigned char* bits,
+               size_t bytesPerLine);
 
+    /** The frame's pixels with ink. */
     const Plane& Ink() const { return ink; }
-    /** What the canvas holds, in bytes. */
+    /** What the canvas holds, in bytes: by the size of the picture and of the longest path. */
     size_t Bytes() const;
 
 private:
-    void DrawKept(const Outline& path);
     void DrawPlain(const Outline& path, const Transform* painterTransform);
-    bool CanContinue(const Outline& path) const;
+    bool GoOnFromKept(const Outline& path);
+    void ForgetKept();
 
-    // The path that is kept, as far as it is painted: odd-even fill and outline by themselves, and
-    // the direction in which the outline goes on.
+    // The first path of the frame before, and its fill and outline by themselves.
     struct Kept
     {
         Outline path;
+        bool isHollow;
+        Bounds bounds;
         Plane fill;
         Plane outline;
-        Direction direction;
-        bool filled;
-        bool continuable;
+        Direction direction; // in which the outline goes on
+
+        Kept()
+            : isHollow(false)
+            , bounds(Outline::Element())
+            , direction(Rightward)
+        {
+        }
     };
 
+    int pictureWidth; // as told; what is painted may be less
+    int pictureHeight;
     Box picture;
     Box clip;
     bool isHollow;
@@ -78,6 +94,7 @@ private:
     Fill fill;
     Hairline hairline;
     Kept kept;
+    PictureWriter writer;
 };
 
 } // namespace HNodeAnimationText

@@ -86,9 +86,7 @@ void Transform::scale(float sx, float sy)
         a22 = sy;
         break;
     case Rotating:
-    case Shearing:
-        a12 *= sx;
-        a21 *= sy; // fallthrough
+    case Shearing: a12 *= sx; a21 *= sy; // fallthrough
     case Scaling:
         a11 *= sx;
         a22 *= sy;
@@ -141,8 +139,8 @@ void Transform::rotate(float degrees)
         cosine = -1;
     } else {
         const float radians = radiansPerDegree * degrees;
-        sine = float(std::sin(double(radians)));
-        cosine = float(std::cos(double(radians)));
+        sine = std::sin(radians);
+        cosine = std::cos(radians);
     }
     switch (kind()) {
     case None:
@@ -184,8 +182,7 @@ void Transform::map(float& x, float& y) const
     const float fromX = x;
     const float fromY = y;
     switch (kind()) {
-    case None:
-        break;
+    case None: break;
     case Translating:
         x = fromX + tx;
         y = fromY + ty;

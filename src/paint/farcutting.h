@@ -1,0 +1,34 @@
+#ifndef FARCUTTING_H
+#define FARCUTTING_H
+
+#include "paint/fixedpoint.h"
+#include "paint/outline.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/** Of points, control points included. Starts with none: grows with the first. */
+struct Bounds
+{
+    float left;
+    float top;
+    float right;
+    float bottom;
+
+    explicit Bounds(const Outline::Element& first);
+    void Add(const Outline::Element& point);
+    void Unite(const Bounds& other);
+    /** Beyond what the device's fill computes with: it cuts the outline to the picture first. */
+    bool AreFar() const;
+};
+
+/**
+ * The outline cut to the picture, as the device cuts it. @p closed is finite and its subpaths are
+ * closed. What comes back may be open, empty, or a little outside.
+ */
+Outline CutToPicture(const Outline& closed, const Box& picture);
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

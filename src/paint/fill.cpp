@@ -1,0 +1,425 @@
+// Rows are sampled at whole coordinates. An edge is a run of rows with a column that grows by a
+// fixed step in 16.16; a pixel is inside when the edges to its left say so.
+#include "paint/fill.h"
+
+#include <algorithm>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+typedef Plane::Word Word;
+
+const int unitsPerPixel = 64;
+const int halvings = 32;
+
+/** Rows top to bottom, both included; x is the column in the first one. */
+struct Run
+{
+    int32_t x;
+    int32_t step;
+    int top;
+    int bottom;
+    int winding;
+};
+
+/** Makes runs of edges, within a clip, for a sink. */
+template <typename Sink>
+class Edges
+{
+public:
+    Edges(const Box& box, Sink& to)
+        : clip(box)
+        , left(ShiftedLeft(box.left, 16))
+        , right(ShiftedLeft(box.right, 16))
+        , sink(to)
+    {
+    }
+
+    void Line(Place a, Place b);
+    void Curve(const Place& a, const Place& b, const Place& c, const Place& d);
+
+private:
+    static bool IsFlat(const Place* p);
+    void AddBorder(int32_t border, int top, int bottom, int winding);
+    bool CutAtBorder(int32_t border, bool isRight, Run& run);
+
+    Box clip;
+    int32_t left;
+    int32_t right;
+    Sink& sink;
+};
+
+template <typename Sink>
+void Edges<Sink>::Line(Place a, Place b)
+{
+    int winding = 1;
+    if (a.y > b.y) {
+        std::swap(a, b);
+        winding = -1;
+    }
+    const int top = std::max(clip.top, Sum(a.y, unitsPerPixel - 1) >> 6);
+    const int bottom = std::min(clip.bottom - 1, Difference(b.y, 1) >> 6);
+    if (top > bottom)
+        return;
+    const int32_t start = Sum(ShiftedLeft(a.x, 10), 65535);
+    if (a.x == b.x) {
+        AddBorder(std::max(left, std::min(start, right)), top, bottom, winding);
+        return;
+    }
+    const float slope = float(Difference(b.x, a.x)) / float(Difference(b.y, a.y));
+    const int32_t step = ToInt(slope * 65536.0f);
+    const int32_t below = Difference(ShiftedLeft(top, 16), ShiftedLeft(a.y, 10));
+    const int32_t moved = static_cast<int32_t>((int64_t(step) * below) >> 16);
+    Run run = {Sum(start, moved), step, top, bottom, winding};
+    if (CutAtBorder(left, false, run) && CutAtBorder(right, true, run))
+        sink.Add(run);
+}
+
+template <typename Sink>
+void Edges<Sink>::AddBorder(int32_t border, int top, int bottom, int winding)
+{
+    const Run run = {border, 0, top, bottom, winding};
+    sink.Add(run);
+}
+
+/** What of the run lies outside moves onto the border; false when that is all of it. */
+template <typename Sink>
+bool Edges<Sink>::CutAtBorder(int32_t border, bool isRight, Run& run)
+{
+    const int rows = run.bottom - run.top;
+    const int32_t last = Sum(run.x, Product(run.step, rows));
+    const bool startsOutside = (run.x < border) != isRight;
+    const bool endsOutside = (last < border) != isRight;
+    // On the border at an end it is inside when the rest of it is.
+    bool allOutside = startsOutside && endsOutside;
+    bool allInside = !startsOutside && !endsOutside;
+    if (run.x == border) {
+        allInside = (run.step > 0) != isRight;
+        allOutside = !allInside;
+    } else if (last == border) {
+        allInside = (run.step < 0) != isRight;
+        allOutside = !allInside;
+    }
+    if (allInside)
+        return true;
+    if (allOutside) {
+        AddBorder(border, run.top, run.bottom, run.winding);
+        return false;
+    }
+    const float perRow = float(run.step) / 65536.0f;
+    const int32_t crossing = ToInt(float(Difference(border, run.x)) / perRow);
+    const int inFirstPart =
+        std::max(0, std::min((startsOutside ? Sum(crossing, 1) : crossing) >> 16, rows));
+    const int middle = run.top + inFirstPart;
+    if (startsOutside) {
+        AddBorder(border, run.top, middle, run.winding);
+        run.x = Sum(run.x, Product(run.step, inFirstPart + 1));
+        run.top = middle + 1;
+        return run.top <= run.bottom;
+    }
+    if (middle != run.bottom)
+        AddBorder(border, middle + 1, run.bottom, run.winding);
+    run.bottom = middle;
+    return true;
+}
+
+template <typename Sink>
+bool Edges<Sink>::IsFlat(const Place* p)
+{
+    const int32_t flatness = 16;
+    const int32_t chordX = Difference(p[3].x, p[0].x);
+    const int32_t chordY = Difference(p[3].y, p[0].y);
+    const int32_t length = Sum(Magnitude(chordX), Magnitude(chordY));
+    const int32_t x1 = Difference(p[1].x, p[0].x);
+    const int32_t y1 = Difference(p[1].y, p[0].y);
+    const int32_t x2 = Difference(p[2].x, p[0].x);
+    const int32_t y2 = Difference(p[2].y, p[0].y);
+    if (length <= unitsPerPixel)
+        return Sum(Sum(Magnitude(x1), Magnitude(y1)), Sum(Magnitude(x2), Magnitude(y2))) <=
+               flatness;
+    const int64_t cross1 = int64_t(x1) * chordY - int64_t(y1) * chordX;
+    const int64_t cross2 = int64_t(x2) * chordY - int64_t(y2) * chordX;
+    const int64_t distance = (cross1 < 0 ? -cross1 : cross1) + (cross2 < 0 ? -cross2 : cross2);
+    return distance <= int64_t(flatness) * length;
+}
+
+template <typename Sink>
+void Edges<Sink>::Curve(const Place& a, const Place& b, const Place& c, const Place& d)
+{
+    // A stack of halves; the second half lies on top.
+    Place points[4 + 3 * halvings];
+    Place* p = points;
+    p[0] = a;
+    p[1] = b;
+    p[2] = c;
+    p[3] = d;
+    while (p >= points) {
+        if (IsFlat(p) || p == points + 3 * halvings) {
+            Line(p[0], p[3]);
+            p -= 3;
+        } else {
+            Halve(p);
+            p += 3;
+        }
+    }
+}
+
+void ExclusiveOr(Word& word, Word& inside)
+{
+    // The bits of a word from each set one to the next, by a running exclusive or.
+    Word bits = word;
+    bits ^= bits << 1;
+    bits ^= bits << 2;
+    bits ^= bits << 4;
+    bits ^= bits << 8;
+    bits ^= bits << 16;
+    bits ^= bits << 32;
+    bits ^= inside;
+    inside = bits >> (Plane::wordBits - 1) ? ~Word(0) : Word(0);
+    word = bits;
+}
+
+} // namespace
+
+/** Quick way for odd-even outlines without gaps: every row has an even number of crossings. */
+class Fill::Flips
+{
+public:
+    Flips(const Box& box, Plane& scratch)
+        : clip(box)
+        , flips(scratch)
+        , first(box.right / Plane::wordBits)
+        , last(box.left / Plane::wordBits)
+        , top(box.bottom)
+        , bottom(box.top)
+    {
+    }
+
+    void Add(const Run& run);
+    /** Sets (or inverts) what lies between flips, and takes these away. */
+    void PourInto(Plane& plane, bool invert);
+
+private:
+    void Flip(Word* row, int column)
+    {
+        row[column / Plane::wordBits] ^= Word(1) << (column % Plane::wordBits);
+    }
+
+    Box clip;
+    Plane& flips;
+    int first; // words
+    int last;
+    int top;
+    int bottom;
+};
+
+void Fill::Flips::Add(const Run& run)
+{
+    const int64_t end = run.x + int64_t(run.step) * (run.bottom - run.top);
+    int low = run.x >> 16;
+    int high = static_cast<int>(std::max<int64_t>(-1, std::min<int64_t>(end >> 16, 1 << 16)));
+    if (low > high)
+        std::swap(low, high);
+    const bool mayLeave = low < clip.left || high > clip.right;
+    low = std::max(low, clip.left);
+    high = std::min(high, clip.right);
+    first = std::min(first, mayLeave ? clip.left / Plane::wordBits : low / Plane::wordBits);
+    last = std::max(last, mayLeave ? clip.right / Plane::wordBits : high / Plane::wordBits);
+    top = std::min(top, run.top);
+    bottom = std::max(bottom, run.bottom + 1);
+
+    Word* row = flips.Row(run.top);
+    int32_t x = run.x;
+    for (int y = run.top; y <= run.bottom; ++y, row += flips.Stride()) {
+        const int column = x >> 16;
+        Flip(row, mayLeave ? std::max(clip.left, std::min(column, clip.right)) : column);
+        x = Sum(x, run.step);
+    }
+}
+
+void Fill::Flips::PourInto(Plane& plane, bool invert)
+{
+    for (int y = top; y < bottom; ++y) {
+        Word* from = flips.Row(y);
+        Word* to = plane.Row(y);
+        Word inside = 0;
+        for (int i = first; i <= last; ++i) {
+            Word bits = from[i];
+            from[i] = 0;
+            ExclusiveOr(bits, inside);
+            to[i] = invert ? to[i] ^ bits : to[i] | bits;
+        }
+    }
+    plane.MarkRows(top, bottom);
+}
+
+/** For all others: the crossings themselves. */
+class Fill::Crossings
+{
+public:
+    Crossings(const Box& box, std::vector<Crossing>& list)
+        : clip(box)
+        , crossings(list)
+    {
+    }
+
+    void Add(const Run& run)
+    {
+        int32_t x = run.x;
+        for (int y = run.top; y <= run.bottom; ++y) {
+            const Crossing crossing = {y, std::max(clip.left, std::min(x >> 16, clip.right)),
+                                       run.winding};
+            crossings.push_back(crossing);
+            x = Sum(x, run.step);
+        }
+    }
+
+private:
+    Box clip;
+    std::vector<Crossing>& crossings;
+};
+
+Fill::Fill()
+    : picture()
+    , bounds(Outline::Element())
+    , hasGaps(false)
+{
+}
+
+void Fill::SetSize(int width, int height)
+{
+    const Box box = {0, 0, width, height};
+    picture = box;
+    flips.SetSize(width, height);
+}
+
+void Fill::Close(const Outline& outline, size_t from)
+{
+    closed.Clear();
+    closed.fillRule = outline.fillRule;
+    size_t start = 0;
+    for (size_t i = from; i <= outline.Size(); ++i) {
+        const bool atEnd = i == outline.Size();
+        if (i > from && (atEnd || outline.At(i).type == Outline::Move)) {
+            // Small gaps stay open.
+            const Outline::Element first = closed.At(start);
+            if (!NearlyEqual(closed.At(closed.Size() - 1), first))
+                closed.LineTo(first.x, first.y);
+            start = closed.Size();
+        }
+        if (atEnd || (i + 1 == outline.Size() && outline.At(i).type == Outline::Move && i > from))
+            break;
+        closed.Add(outline.At(i).x, outline.At(i).y, outline.At(i).type);
+    }
+}
+
+void Fill::Take(const Outline& outline, size_t first, const Transform* transform)
+{
+    Close(outline, first);
+    if (transform)
+        for (size_t i = 0; i < closed.Size(); ++i)
+            transform->map(closed.At(i).x, closed.At(i).y);
+    bounds = Bounds(closed.At(0));
+    for (size_t i = 1; i < closed.Size(); ++i)
+        bounds.Add(closed.At(i));
+}
+
+void Fill::CutFar()
+{
+    const Outline cut = CutToPicture(closed, picture);
+    closed.Clear();
+    if (!cut.IsEmpty())
+        Close(cut, 0);
+}
+
+void Fill::Convert()
+{
+    places.resize(closed.Size());
+    hasGaps = false;
+    size_t start = 0;
+    for (size_t i = 0; i < places.size(); ++i) {
+        const Place place = {ToInt(closed.At(i).x * 64), ToInt(closed.At(i).y * 64)};
+        places[i] = place;
+        if (closed.At(i).type == Outline::Move)
+            start = i;
+        if (i + 1 == places.size() || closed.At(i + 1).type == Outline::Move)
+            hasGaps = hasGaps || place.x != places[start].x || place.y != places[start].y;
+    }
+}
+
+template <typename Sink>
+void Fill::AddEdges(const Box& clip, Sink& sink) const
+{
+    Edges<Sink> edges(clip, sink);
+    for (size_t i = 1; i < places.size(); ++i) {
+        const Place* p = &places[i - 1];
+        switch (closed.At(i).type) {
+        case Outline::Line: edges.Line(p[0], p[1]); break;
+        case Outline::Curve:
+            edges.Curve(p[0], p[1], p[2], p[3]);
+            i += 2;
+            break;
+        default: break;
+        }
+    }
+}
+
+void Fill::Paint(const Box& clip, Plane& ink)
+{
+    if (bounds.AreFar())
+        CutFar();
+    Convert();
+    if (clip.IsEmpty() || places.size() < 3)
+        return;
+    if (closed.fillRule == Outline::OddEven && !hasGaps) {
+        Flips quick(clip, flips);
+        AddEdges(clip, quick);
+        quick.PourInto(ink, false);
+        return;
+    }
+    crossings.clear();
+    Crossings sorted(clip, crossings);
+    AddEdges(clip, sorted);
+    PaintCrossings(ink);
+}
+
+bool Fill::Invert(Plane& plane)
+{
+    if (bounds.AreFar())
+        return false;
+    Convert();
+    if (hasGaps)
+        return false;
+    Flips quick(picture, flips);
+    AddEdges(picture, quick);
+    quick.PourInto(plane, true);
+    return true;
+}
+
+void Fill::PaintCrossings(Plane& ink)
+{
+    const int inside = closed.fillRule == Outline::Winding ? ~0 : 1;
+    std::sort(crossings.begin(), crossings.end());
+    int winding = 0;
+    for (size_t i = 0; i < crossings.size(); ++i) {
+        const Crossing& c = crossings[i];
+        if (i == 0 || crossings[i - 1].row != c.row)
+            winding = 0; // the last of a row paints nothing after it
+        else if (winding & inside)
+            ink.SetRun(c.row, crossings[i - 1].column, c.column);
+        winding += c.winding;
+    }
+    if (!crossings.empty())
+        ink.MarkRows(crossings.front().row, crossings.back().row + 1);
+}
+
+size_t Fill::Bytes() const
+{
+    return flips.Bytes() + places.capacity() * sizeof(Place) +
+           crossings.capacity() * sizeof(Crossing) + closed.Bytes();
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

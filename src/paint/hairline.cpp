@@ -1,0 +1,329 @@
+// A line is painted pixel by pixel along its long axis. What makes it more than that is where lines
+// meet: a pixel painted twice is left out and one that is missing is added, by looking at the pixel
+// that the line before ended with.
+#include "paint/hairline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+enum Cap { NoCap = 0, CapBegin = 1, CapEnd = 2 };
+
+const int curveHalvings = 6;
+
+bool AreOpposite(Direction a, Direction b)
+{
+    return (a ^ b) == 1; // neighbours in the enumeration
+}
+
+unsigned SwappedCaps(unsigned caps)
+{
+    return ((caps & CapBegin) << 1) | ((caps & CapEnd) >> 1);
+}
+
+int32_t Fixed(float v)
+{
+    return ToInt(double(v) * 64.) + 31;
+}
+
+Point Mapped(const Outline::Element& e, const Transform* transform)
+{
+    Point p = {e.x, e.y};
+    if (transform)
+        transform->map(p.x, p.y);
+    return p;
+}
+
+} // namespace
+
+/** A line in pixels: along its long axis from begin to end (outside), across in 16.16. */
+struct Hairline::Trace
+{
+    bool steep;
+    bool swapped; // ascends along, was drawn the other way
+    bool aligned;
+    Direction direction;
+    int32_t a1; // along, in 1/64 pixel
+    int32_t a2;
+    int32_t begin;
+    int32_t end;
+    int32_t across;
+    int32_t step;
+
+    /** False when the line has no length. */
+    bool Take(const Point& from, const Point& to);
+    void AddCaps(unsigned caps);
+    /** False when there is no pixel. */
+    bool FindPixels();
+
+    Pixel At(int32_t along, int32_t at) const
+    {
+        const Pixel p = {steep ? at >> 16 : along, steep ? along : at >> 16};
+        return p;
+    }
+    Pixel Low() const { return At(begin, across); }
+    Pixel High() const { return At(end - 1, Sum(across, Product(end - begin - 1, step))); }
+    Pixel First() const { return swapped ? High() : Low(); }
+    Pixel Last() const { return swapped ? Low() : High(); }
+
+    /** At the end where it was begun. */
+    void DropFirst();
+    void AddBeforeFirst();
+};
+
+bool Hairline::Trace::Take(const Point& from, const Point& to)
+{
+    int32_t x1 = Fixed(from.x);
+    int32_t y1 = Fixed(from.y);
+    int32_t x2 = Fixed(to.x);
+    int32_t y2 = Fixed(to.y);
+    steep = Magnitude(x2 - x1) < Magnitude(y2 - y1);
+    if (!steep && x1 == x2)
+        return false;
+    swapped = steep ? y1 > y2 : x1 > x2;
+    if (swapped) {
+        std::swap(x1, x2);
+        std::swap(y1, y2);
+    }
+    direction = steep ? (swapped ? Upward : Downward) : (swapped ? Leftward : Rightward);
+    a1 = steep ? y1 : x1;
+    a2 = steep ? y2 : x2;
+    const int32_t c1 = steep ? x1 : y1;
+    const int32_t c2 = steep ? x2 : y2;
+    step = static_cast<int32_t>(int64_t(c2 - c1) * 65536 / (a2 - a1));
+    across = ShiftedLeft(c1, 10);
+    aligned = Magnitude(step) < (1 << 14);
+    return true;
+}
+
+void Hairline::Trace::AddCaps(unsigned caps)
+{
+    if (caps & CapBegin) {
+        a1 -= 32;
+        across = Difference(across, step >> 1);
+    }
+    if (caps & CapEnd)
+        a2 += 32;
+}
+
+bool Hairline::Trace::FindPixels()
+{
+    begin = (a1 + 32) >> 6;
+    end = (a2 + 32) >> 6;
+    across = Sum(across, Product((begin << 6) + 32 - a1, step) >> 6);
+    return begin != end;
+}
+
+void Hairline::Trace::DropFirst()
+{
+    if (swapped) {
+        --end;
+    } else {
+        ++begin;
+        across = Sum(across, step);
+    }
+}
+
+void Hairline::Trace::AddBeforeFirst()
+{
+    if (swapped) {
+        ++end;
+    } else {
+        --begin;
+        across = Difference(across, step);
+    }
+}
+
+Hairline::Hairline()
+    : clip()
+    , ink(0)
+    , left(0)
+    , top(0)
+    , right(0)
+    , bottom(0)
+    , last()
+    , direction(Rightward)
+    , isAligned(false)
+{
+}
+
+void Hairline::Begin(const Box& box, Plane& plane)
+{
+    clip = box;
+    ink = &plane;
+    left = float(box.left - 1);
+    top = float(box.top - 1);
+    right = float(box.right + 1);
+    bottom = float(box.bottom + 1);
+    direction = Rightward;
+}
+
+void Hairline::Draw(const Outline& outline, size_t first, const Transform* transform)
+{
+    if (clip.IsEmpty())
+        return;
+    while (first < outline.Size())
+        first = DrawSubpath(outline, first, transform);
+    ink->MarkRows(clip.top, clip.bottom);
+}
+
+/** Gives where the next one begins. */
+size_t Hairline::DrawSubpath(const Outline& outline, size_t begin, const Transform* transform)
+{
+    size_t end = begin + 1;
+    while (end < outline.Size() && outline.At(end).type != Outline::Move)
+        ++end;
+    ForgetLast();
+    const Outline::Element& first = outline.At(begin);
+    const bool isClosed = first.x == outline.At(end - 1).x && first.y == outline.At(end - 1).y;
+    // Of a move alone this is the way there from the subpath before, on the device too.
+    if (isClosed && end > 1)
+        FollowClosing(Mapped(outline.At(end - 2), transform),
+                      Mapped(outline.At(end - 1), transform));
+    unsigned caps = isClosed ? NoCap : CapBegin;
+    Point p[4] = {Mapped(first, transform), Point(), Point(), Point()};
+    for (size_t i = begin + 1; i < end; ++i) {
+        const bool isCurve = outline.At(i).type == Outline::Curve;
+        const size_t points = isCurve ? 3 : 1;
+        for (size_t k = 0; k < points; ++k)
+            p[k + 1] = Mapped(outline.At(i + k), transform);
+        if (!isClosed && i + points == end)
+            caps |= CapEnd;
+        if (isCurve)
+            DrawCurve(p, curveHalvings, caps);
+        else
+            DrawLine(p[0], p[1], caps);
+        i += points - 1;
+        p[0] = p[points];
+        caps = NoCap;
+    }
+    return end;
+}
+
+/** The last line of a closed subpath, unpainted: what the first line goes on from. */
+void Hairline::FollowClosing(const Point& from, const Point& to)
+{
+    Point a = from;
+    Point b = to;
+    if (Clip(a, b))
+        return;
+    ForgetLast();
+    Trace trace;
+    if (!trace.Take(a, b) || !trace.FindPixels())
+        return;
+    last = trace.Last();
+    direction = trace.direction;
+    isAligned = trace.aligned;
+}
+
+void Hairline::DrawCurve(const Point* p, int level, unsigned caps)
+{
+    if (level > 0) {
+        const float dx = p[0].x - p[3].x;
+        const float dy = p[0].y - p[3].y;
+        const float limit = 0.25f * (std::fabs(dx) + std::fabs(dy));
+        if (std::fabs(dx * (p[3].y - p[1].y) - dy * (p[3].x - p[1].x)) >= limit ||
+            std::fabs(dx * (p[3].y - p[2].y) - dy * (p[3].x - p[2].x)) >= limit) {
+            Point halves[7] = {p[0], p[1], p[2], p[3], Point(), Point(), Point()};
+            Halve(halves);
+            DrawCurve(halves, level - 1, caps & CapBegin);
+            DrawCurve(halves + 3, level - 1, caps & CapEnd);
+            return;
+        }
+    }
+    DrawLine(p[0], p[3], caps);
+}
+
+/** Cuts along one axis: a is the coordinate that is cut. True when nothing is left. */
+bool Hairline::ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, float high)
+{
+    if (a1 < low) {
+        if (a2 <= low)
+            return true;
+        c1 += (c2 - c1) / (a2 - a1) * (low - a1);
+        a1 = low;
+    } else if (a1 > high) {
+        if (a2 >= high)
+            return true;
+        c1 += (c2 - c1) / (a2 - a1) * (high - a1);
+        a1 = high;
+    }
+    if (a2 < low) {
+        ForgetLast();
+        c2 += (c2 - c1) / (a2 - a1) * (low - a2);
+        a2 = low;
+    } else if (a2 > high) {
+        ForgetLast();
+        c2 += (c2 - c1) / (a2 - a1) * (high - a2);
+        a2 = high;
+    }
+    return false;
+}
+
+/** In float, so that numbers stay small. True when nothing is left. */
+bool Hairline::Clip(Point& a, Point& b)
+{
+    if (ClipAxis(a.x, a.y, b.x, b.y, left, right) || ClipAxis(a.y, a.x, b.y, b.x, top, bottom)) {
+        ForgetLast();
+        return true;
+    }
+    return false;
+}
+
+void Hairline::DrawLine(Point a, Point b, unsigned caps)
+{
+    if (Clip(a, b))
+        return;
+    Trace trace;
+    if (!trace.Take(a, b))
+        return;
+    if (trace.swapped)
+        caps = SwappedCaps(caps);
+    if (AreOpposite(direction, trace.direction))
+        caps |= trace.swapped ? CapEnd : CapBegin;
+    trace.AddCaps(caps);
+    if (!trace.FindPixels())
+        return;
+    const Pixel endsWith = trace.Last(); // does not know of pixels dropped or added
+    DropOut(trace);
+    direction = trace.direction;
+    isAligned = trace.aligned;
+    Paint(trace);
+    last = endsWith;
+}
+
+void Hairline::DropOut(Trace& trace) const
+{
+    if (!HasLast())
+        return;
+    const Pixel first = trace.First();
+    const int gapX = Magnitude(Difference(last.x, first.x));
+    const int gapY = Magnitude(Difference(last.y, first.y));
+    if (gapX == 0 && gapY == 0) {
+        trace.DropFirst();
+    } else if (direction != trace.direction &&
+               ((trace.aligned && isAligned && gapX != 0 && gapY != 0) || gapX > 1 || gapY > 1)) {
+        trace.AddBeforeFirst();
+    }
+}
+
+void Hairline::Paint(const Trace& trace)
+{
+    // A line that lost its only pixel paints one all the same: the device paints before it asks.
+    const int32_t end = std::max(trace.end, trace.begin + 1);
+    int32_t across = trace.across;
+    for (int32_t along = trace.begin; along < end; ++along) {
+        const Pixel p = trace.At(along, across);
+        if (p.x >= clip.left && p.x < clip.right && p.y >= clip.top && p.y < clip.bottom) {
+            ink->Set(p.x, p.y);
+        }
+        across = Sum(across, trace.step);
+    }
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,68 @@
+#ifndef HAIRLINE_H
+#define HAIRLINE_H
+
+#include "paint/curves.h"
+#include "paint/outline.h"
+#include "paint/plane.h"
+#include "paint/transform.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/** Where a line goes along its long axis. */
+enum Direction { Downward, Upward, Rightward, Leftward };
+
+/** The outline of outlines: the device's pen of width 0, with its caps and its drop-out control. */
+class Hairline
+{
+public:
+    Hairline();
+
+    /** Pixels within @p clip are set in @p ink, which is no smaller. */
+    void Begin(const Box& clip, Plane& ink);
+    /** The direction that a path starts with, Rightward unless it goes on from another one. */
+    void SetDirection(Direction d) { direction = d; }
+    Direction LastDirection() const { return direction; }
+
+    /**
+     * The well formed outline from its element @p first on, a move. Points are mapped through
+     * @p transform when there is one.
+     */
+    void Draw(const Outline& outline, size_t first, const Transform* transform);
+
+private:
+    struct Pixel
+    {
+        int x;
+        int y;
+    };
+    struct Trace;
+
+    size_t DrawSubpath(const Outline& outline, size_t begin, const Transform* transform);
+    void FollowClosing(const Point& from, const Point& to);
+    void DrawLine(Point a, Point b, unsigned caps);
+    void DrawCurve(const Point* p, int level, unsigned caps);
+    bool Clip(Point& a, Point& b);
+    bool ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, float high);
+    void DropOut(Trace& trace) const;
+    void Paint(const Trace& trace);
+    bool HasLast() const { return last.x >= 0; }
+    void ForgetLast() { last.x = -1; }
+
+    Box clip;
+    Plane* ink;
+    // In clipped coordinates a pixel more at each side.
+    float left;
+    float top;
+    float right;
+    float bottom;
+
+    Pixel last; // of the line before, without it x is -1
+    Direction direction;
+    bool isAligned;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

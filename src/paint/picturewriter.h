@@ -1,0 +1,50 @@
+#ifndef PICTUREWRITER_H
+#define PICTUREWRITER_H
+
+#include "paint/plane.h"
+
+#include <cstddef>
+#include <stdint.h>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/**
+ * Writes planes to pictures: ink in a colour, everything else 0. The tables of one colour are made
+ * when it is first used and kept.
+ */
+class PictureWriter
+{
+public:
+    enum Format {
+        Argb32, // words 0xAARRGGBB in the processor's byte order
+        Rgb888  // bytes red, green, blue
+    };
+
+    PictureWriter();
+
+    /**
+     * @p width x @p height pixels, of which those beyond the plane are 0. Bytes from the end of a
+     * row's pixels to the next row stay as they are.
+     */
+    void Write(const Plane& ink, Format format, uint32_t argb, unsigned char* bits,
+               size_t bytesPerLine, int width, int height);
+
+private:
+    static const int pixelsAtOnce = 8;
+    static const int mostBytes = 4 * pixelsAtOnce;
+
+    void SetColour(Format format, uint32_t argb);
+    template <int bytesPerPixel>
+    void WriteRow(const Plane& ink, int y, unsigned char* row, int width) const;
+
+    Format tableFormat;
+    uint32_t tableColour;
+    bool hasTable;
+    unsigned char table[256 * mostBytes]; // of every row of eight pixels
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif
