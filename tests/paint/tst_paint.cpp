@@ -1,0 +1,335 @@
+// The text painter against what the device's Qt paints: outlines.txt and transforms.txt were made
+// there. Set ANIMATIONTEXT_OUTLINES to another file of that form to compare all of it; a table by
+// family is printed.
+#include "paint/textcanvas.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace Lw::HNodeAnimationText;
+
+namespace {
+
+struct Sample
+{
+    QString name;
+    QString family;
+    int width;
+    int height;
+    Outline outline;
+    QStringList fill; // rows
+    QStringList pen;
+};
+
+// "." or hexadecimal digits of four pixels, the leftmost in the highest bit.
+QStringList Rows(const Plane& plane)
+{
+    QStringList rows;
+    for (int y = 0; y < plane.Height(); ++y) {
+        QString row;
+        bool any = false;
+        for (int x = 0; x < plane.Width(); x += 4) {
+            int digit = 0;
+            for (int i = 0; i < 4 && x + i < plane.Width(); ++i)
+                digit |= plane.Has(x + i, y) ? 8 >> i : 0;
+            row += QChar("0123456789abcdef"[digit]);
+            any = any || digit;
+        }
+        rows.append(any ? row : ".");
+    }
+    return rows;
+}
+
+QVector<QStringList> Words(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    QVector<QStringList> lines;
+    while (!file.atEnd())
+        lines.append(QString(file.readLine()).simplified().split(' '));
+    return lines;
+}
+
+QVector<Sample> Read(const QString& path)
+{
+    const QVector<QStringList> lines = Words(path);
+    QVector<Sample> samples;
+    for (int i = 0; i + 2 < lines.size(); i += 3) {
+        const QStringList& words = lines[i];
+        Sample sample{words[1] + " " + words[2], words[2],  words[3].toInt(),
+                      words[4].toInt(),          Outline(), lines[i + 1].mid(1),
+                      lines[i + 2].mid(1)};
+        sample.outline.fillRule = words[5] == "winding" ? Outline::Winding : Outline::OddEven;
+        for (int k = 6; k + 2 < words.size(); k += 3)
+            sample.outline.Add(words[k + 1].toFloat(), words[k + 2].toFloat(),
+                               Outline::Type(QString("MLCc").indexOf(words[k])));
+        samples.append(sample);
+    }
+    return samples;
+}
+
+QVector<Sample> Samples()
+{
+    static const QVector<Sample> samples = Read(PAINT_DATA "/outlines.txt");
+    return samples;
+}
+
+QStringList FillRows(const Sample& sample)
+{
+    Fill fill;
+    fill.SetSize(sample.width, sample.height);
+    Plane plane;
+    plane.SetSize(sample.width, sample.height);
+    fill.Take(sample.outline, 0, nullptr);
+    fill.Paint({0, 0, sample.width, sample.height}, plane);
+    return Rows(plane);
+}
+
+QStringList CanvasRows(int width, int height, const QVector<Outline>& paths, bool hollow = false)
+{
+    TextCanvas canvas;
+    canvas.SetSize(width, height);
+    canvas.SetHollow(hollow);
+    for (const Outline& path : paths)
+        canvas.DrawPath(path);
+    return Rows(canvas.Ink());
+}
+
+#define EQUAL(what, got, expected)                                                                 \
+    do {                                                                                           \
+        const QString difference = Difference(what, got, expected);                                \
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));                                    \
+    } while (false)
+
+// Empty when equal.
+QString Difference(const QString& what, const QStringList& got, const QStringList& expected)
+{
+    for (int y = 0; y < qMax(got.size(), expected.size()); ++y)
+        if (got.value(y) != expected.value(y))
+            return QString("%1 row %2\n  is        %3\n  should be %4")
+                .arg(what, QString::number(y), got.value(y), expected.value(y));
+    return QString();
+}
+
+} // namespace
+
+class PaintTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void outlinesAreTheDevices();
+    void transformsAreTheDevices();
+    void keptPathsArePaintedTheSame();
+    void clipIsThePictureInside();
+    void transformOfThePainterMapsPoints();
+    void picturesHoldTheInk_data();
+    void picturesHoldTheInk();
+    void whatCannotBePaintedIsNot();
+};
+
+void PaintTest::outlinesAreTheDevices()
+{
+    const QString other = qEnvironmentVariable("ANIMATIONTEXT_OUTLINES");
+    QMap<QString, QVector<int>> table;
+    QStringList differences;
+    for (const Sample& sample : other.isEmpty() ? Samples() : Read(other)) {
+        const QString fill = Difference(sample.name + " fill", FillRows(sample), sample.fill);
+        const QStringList hollow = CanvasRows(sample.width, sample.height, {sample.outline}, true);
+        const QString pen = Difference(sample.name + " pen", hollow, sample.pen);
+        QVector<int>& row = table[sample.family];
+        row.resize(3);
+        ++row[0];
+        row[1] += fill.isEmpty();
+        row[2] += pen.isEmpty();
+        differences += QStringList{fill, pen};
+    }
+    if (!other.isEmpty())
+        for (auto it = table.cbegin(); it != table.cend(); ++it)
+            qInfo("%-12s %5d outlines %5d fills equal %5d hairlines equal", qPrintable(it.key()),
+                  it.value()[0], it.value()[1], it.value()[2]);
+    differences.removeAll(QString());
+    QVERIFY2(differences.isEmpty(), qPrintable(differences.mid(0, 9).join('\n')));
+    QVERIFY(!table.isEmpty());
+}
+
+void PaintTest::transformsAreTheDevices()
+{
+    for (const QStringList& words : Words(PAINT_DATA "/transforms.txt")) {
+        Transform t;
+        int i = 1;
+        const auto number = [&] { return words[i++].toFloat(); };
+        while (words[i] != "matrix") {
+            const QString operation = words[i++];
+            const float x = number();
+            if (operation == "rotate") {
+                t.rotate(x);
+                continue;
+            }
+            const float y = number();
+            operation == "translate" ? t.translate(x, y)
+            : operation == "scale"   ? t.scale(x, y)
+                                     : t.shear(x, y);
+        }
+        const auto isNext = [&](const QVector<float>& values) {
+            ++i;
+            return std::all_of(values.begin(), values.end(),
+                               [&](float value) { return value == number(); });
+        };
+        const QString line = words.join(' ');
+        QVERIFY2(isNext({t.m11(), t.m12(), t.m21(), t.m22(), t.dx(), t.dy()}), qPrintable(line));
+        Outline points;
+        for (++i; points.Size() < 2;) {
+            const float x = number();
+            points.Add(x, number(), Outline::Move);
+        }
+        Outline mapped = t.map(points);
+        QVERIFY2(isNext({mapped.At(0).x, mapped.At(0).y, mapped.At(1).x, mapped.At(1).y}),
+                 qPrintable(line));
+        ++i;
+        const float dx = number();
+        mapped = mapped.Translated(dx, number());
+        QVERIFY2(isNext({mapped.At(0).x, mapped.At(0).y, mapped.At(1).x, mapped.At(1).y}),
+                 qPrintable(line));
+    }
+}
+
+// Pages that grow glyph by glyph, stand, change, become hollow, with open and far glyphs in them.
+void PaintTest::keptPathsArePaintedTheSame()
+{
+    const QVector<Sample> samples = Samples();
+    const int width = 97, height = 61;
+    TextCanvas canvas;
+    Outline page;
+    for (int i = 0; i < samples.size(); ++i) {
+        const Sample& sample = samples[i * 7 % samples.size()];
+        if (i % 6 == 0)
+            page.Clear();
+        page.Append(sample.outline, i % 3 == 0 ? 0 : float(i % 41), float(i % 13));
+        const bool hollow = i % 11 >= 8;
+        for (int frame = 0; frame < 2; ++frame) {
+            canvas.SetSize(width, height);
+            canvas.SetHollow(hollow);
+            canvas.DrawPath(page);
+            canvas.DrawPath(sample.outline);
+            TextCanvas plain;
+            plain.SetSize(width, height);
+            plain.SetHollow(hollow);
+            plain.SetClip({0, 0, width, height}); // keeps nothing
+            plain.DrawPath(page);
+            plain.DrawPath(sample.outline);
+            EQUAL(sample.name, Rows(canvas.Ink()), Rows(plain.Ink()));
+        }
+    }
+    QVERIFY(canvas.Bytes() < 1000000);
+}
+
+void PaintTest::clipIsThePictureInside()
+{
+    for (const Sample& sample : Samples()) {
+        if (sample.family != "lines")
+            continue;
+        const int left = 70, top = 5, w = sample.width, h = sample.height;
+        TextCanvas canvas, inside;
+        canvas.SetSize(left + w + 9, top + h + 3);
+        canvas.SetClip({left, top, left + w, top + h});
+        canvas.DrawPath(sample.outline.Translated(left, top));
+        inside.SetSize(w, h);
+        inside.DrawPath(sample.outline);
+        Plane moved;
+        moved.SetSize(canvas.Ink().Width(), canvas.Ink().Height());
+        for (int i = 0; i < w * h; ++i)
+            if (inside.Ink().Has(i % w, i / w))
+                moved.Set(i % w + left, i / w + top);
+        EQUAL(sample.name, Rows(canvas.Ink()), Rows(moved));
+    }
+}
+
+void PaintTest::transformOfThePainterMapsPoints()
+{
+    Transform zoom;
+    zoom.translate(20.25f, 10);
+    zoom.scale(0.75f, -1.5f);
+    for (const Sample& sample : Samples()) {
+        TextCanvas canvas;
+        canvas.SetSize(sample.width, sample.height);
+        canvas.DrawPath(sample.outline, zoom);
+        EQUAL(sample.name, Rows(canvas.Ink()),
+              CanvasRows(sample.width, sample.height, {zoom.map(sample.outline)}));
+    }
+}
+
+void PaintTest::picturesHoldTheInk_data()
+{
+    QTest::addColumn<int>("width");
+    for (const int width : {1, 7, 8, 63, 64, 65, 128, 203})
+        QTest::addRow("%d", width) << width;
+    QTest::newRow("wider than the device paints") << 32800;
+}
+
+void PaintTest::picturesHoldTheInk()
+{
+    QFETCH(int, width);
+    const int height = 5;
+    Outline shape; // rows of all kinds: empty, full, edges anywhere
+    for (int i = 0; i < 40; ++i) {
+        const float x = float(i * i % (width + 3)) - 1;
+        shape.MoveTo(x, 1);
+        shape.LineTo(x + float(i), 3);
+        shape.LineTo(x + 3, 4);
+    }
+    TextCanvas canvas;
+    for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_RGB888}) {
+        const bool words = format == QImage::Format_ARGB32;
+        for (const QRgb colour : {qRgb(1, 2, 3), qRgb(250, 0, 128)}) {
+            canvas.SetSize(width, height);
+            canvas.DrawPath(shape);
+            const int bytes = width * (words ? 4 : 3);
+            QByteArray row(bytes + 6, 'p');
+            QByteArray bits = row.repeated(height);
+            canvas.Write(words ? PictureWriter::Argb32 : PictureWriter::Rgb888, colour,
+                         reinterpret_cast<uchar*>(bits.data()), size_t(row.size()));
+            for (int y = 0; y < height; ++y) {
+                QImage expected(width, 1, format);
+                expected.fill(0);
+                for (int x = 0; x < canvas.Ink().Width(); ++x)
+                    if (canvas.Ink().Has(x, y))
+                        expected.setPixel(x, 0, colour);
+                row.replace(0, bytes, reinterpret_cast<char*>(expected.bits()), bytes);
+                QVERIFY(bits.mid(y * row.size(), row.size()) == row);
+            }
+        }
+    }
+}
+
+void PaintTest::whatCannotBePaintedIsNot()
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float infinite = std::numeric_limits<float>::infinity();
+    for (const float bad : {nan, infinite, -infinite}) {
+        Outline outline;
+        outline.MoveTo(1, 1);
+        outline.LineTo(9, 1);
+        outline.LineTo(5, 9);
+        QVERIFY(CanvasRows(10, 10, {outline}).count(".") < 9);
+        outline.LineTo(bad, 3);
+        QCOMPARE(CanvasRows(10, 10, {outline}).count("."), 10);
+        QCOMPARE(CanvasRows(-1, 10, {outline}).count("."), 10);
+    }
+    Outline broken;
+    broken.LineTo(9, 9);
+    QVERIFY(!broken.IsWellFormed());
+    broken.Clear();
+    broken.CurveTo(9, 0, 0, 9, 9, 9);
+    QVERIFY(!broken.IsWellFormed());
+    broken.RemoveLast();
+    broken.At(0).type = Outline::Move;
+    QVERIFY(!broken.IsWellFormed());
+    QCOMPARE(CanvasRows(10, 10, {broken}).count("."), 10);
+}
+
+QTEST_GUILESS_MAIN(PaintTest)
+#include "tst_paint.moc"
