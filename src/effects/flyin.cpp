@@ -3,17 +3,15 @@
 // right edge and moves left, "from top" rises from below, and so on.
 #include "engine/frame.h"
 
-#include <QPainter>
-
 namespace Lw {
 namespace HNodeAnimationText {
 
 /** What is in textPath stands in its place; the character in flight is painted by itself. */
 void animationRealization::DrawFlight(int inFlight, double x, double y)
 {
-    painter->drawPath(textPath);
+    canvas.DrawPath(textPath);
     DrawGlyph(inFlight, x, y);
-    painter->end();
+    ShowFrame();
 }
 
 void animationRealization::FlyFromLeftEffect()

@@ -45,6 +45,20 @@ QImage ReadFrog(int number)
     return frog;
 }
 
+// Of an outline that has elements, control points included.
+QRectF BoxOf(const Outline& outline)
+{
+    float left = outline.At(0).x, right = left;
+    float top = outline.At(0).y, bottom = top;
+    for (size_t i = 1; i < outline.Size(); ++i) {
+        left = qMin(left, outline.At(i).x);
+        right = qMax(right, outline.At(i).x);
+        top = qMin(top, outline.At(i).y);
+        bottom = qMax(bottom, outline.At(i).y);
+    }
+    return QRectF(QPointF(left, top), QPointF(right, bottom));
+}
+
 } // namespace
 
 /** The frog of one of the five frames, over the character that it brings. */
@@ -57,8 +71,10 @@ void animationRealization::DrawFrog(int frame)
         frog.picture = ReadFrog(frame + 1);
         frog.read = true;
     }
-    if (!frog.picture.isNull())
-        painter->drawImage(RestX(charIndex), 0, frog.picture);
+    if (frog.picture.isNull() || !painter->begin(&drawImage))
+        return;
+    painter->drawImage(RestX(charIndex), 0, frog.picture);
+    painter->end();
 }
 
 /** The characters in place, the one in work as @p drawCharacter paints it, and the frog. */
@@ -70,12 +86,10 @@ void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
     const int frame = qBound(0, moveOffset, framesPerCharacter - 1);
     if (BeginFrame()) {
         AddStanding();
-        painter->drawPath(textPath);
-        painter->save();
+        canvas.DrawPath(textPath);
         drawCharacter(frame + 1);
-        painter->restore();
+        ShowFrame();
         DrawFrog(frame);
-        painter->end();
     }
     Advance(moveOffset, 1);
     if (moveOffset < framesPerCharacter)
@@ -90,15 +104,17 @@ void animationRealization::EffectTopWithFrogAppearsVerbatim()
 {
     // A fifth of the character more in each frame, from its top downward.
     DrawFrogFrame([&](int fifths) {
-        if (!HasGlyph(charIndex))
+        if (!HasGlyph(charIndex) || charPaths.at(charIndex).IsEmpty())
             return;
-        const QRectF box = charPaths.at(charIndex).boundingRect();
         if (fifths < framesPerCharacter) {
-            const qreal left = RestX(charIndex) + box.left();
-            const qreal top = RestY(charIndex) + box.top();
             // A pixel more at the sides and above, for the outline's own width.
-            painter->setClipRect(QRectF(left - 1, top - 1, box.width() + 2,
-                                        box.height() * fifths / framesPerCharacter + 1));
+            const Outline& glyph = charPaths.at(charIndex);
+            const QRectF box = BoxOf(glyph).translated(RestX(charIndex), RestY(charIndex));
+            const QRectF shown(box.left() - 1, box.top() - 1, box.width() + 2,
+                               box.height() * fifths / framesPerCharacter + 1);
+            const QRect pixels = shown.toAlignedRect();
+            const Box clip = {pixels.left(), pixels.top(), pixels.right() + 1, pixels.bottom() + 1};
+            canvas.SetClip(clip);
         }
         DrawGlyph(charIndex, RestX(charIndex), RestY(charIndex));
     });

@@ -31,8 +31,8 @@ void animationRealization::SwingEffect()
     // The first character's width moves them all, on every page: the row sways as one.
     const double shift = 0.5 * sway * charWidths.value(0);
     DrawPage([&](int j) {
-        transform.translate(qreal(shift), 0);
-        transform.shear(qreal(sway), 0);
+        transform.translate(float(shift), 0);
+        transform.shear(float(sway), 0);
         AddShapedGlyph(j, RestX(j), RestY(j));
     });
     Advance(moveOffset, stepSize);
@@ -44,7 +44,7 @@ void animationRealization::BeforeAfterScalEffect()
 {
     const double k = 1.0 + float(0.5 * std::fabs(std::sin(moveOffset / 57.3)));
     DrawPage([&](int j) {
-        transform.scale(qreal(k), qreal(k));
+        transform.scale(float(k), float(k));
         AddShapedGlyph(j, RestX(j), RestY(j));
     });
     Advance(moveOffset, stepSize);

@@ -117,7 +117,7 @@ void animationRealization::EffectFlipsInto()
         } else {
             const double widening = (m - 180) / 180.0;
             transform.scale(float(widening), 1);
-            transform.shear(0, qreal((1 - widening) * 0.5));
+            transform.shear(0, float((1 - widening) * 0.5));
         }
         AddShapedGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)));
     });

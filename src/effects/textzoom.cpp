@@ -1,8 +1,6 @@
 // Text zoom: the page pulses about its centre, or swells together with its mirror image.
 #include "engine/frame.h"
 
-#include <QPainter>
-
 #include <cmath>
 
 namespace Lw {
@@ -13,18 +11,17 @@ void animationRealization::EffectTextZoom()
     if (BeginFrame()) {
         const float s = float(std::fabs(std::sin(moveOffset / 30.0)));
         const double centre = PageWidth() * 0.5;
-        painter->save();
-        painter->translate(float(centre), float(ExactY(PageStart())));
-        painter->scale(s, s);
+        Transform zoom;
+        zoom.translate(float(centre), float(ExactY(PageStart())));
+        zoom.scale(s, s);
         for (int j = PageStart(); j < PageEnd(); ++j) {
-            // The painter scales once more: glyphs grow with the square, their spacing does not.
+            // The frame is scaled once more: glyphs grow with the square, their spacing does not.
             transform.reset();
             transform.scale(s, s);
             AddShapedGlyph(j, float(RestX(j) - centre), 0);
         }
-        painter->drawPath(textPath);
-        painter->restore();
-        painter->end();
+        canvas.DrawPath(textPath, zoom);
+        ShowFrame();
     }
     Advance(moveOffset, stepSize);
     if (moveOffset > 240)

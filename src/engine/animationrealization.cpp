@@ -15,6 +15,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <cstring>
 
@@ -89,6 +90,7 @@ animationRealization::animationRealization(QObject* parent)
     , dazzleColorIndex(0)
     , layerBytes(-1)
     , dazzleLayerWrapped(false)
+    , textColor(0)
 {
     // Once round the colour circle, ending on the colour it began with.
     for (int i = 0; i < 30; ++i)
@@ -144,9 +146,7 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     strokePen = QPen(QBrush(HAppConfig::IntToColor(Attribute(node, "StrokeColor"))), 1);
     frameInterval = tickInterval;
 
-    charPaths = node->GetPainterPaths();
-    if (charPaths.size() > text.size())
-        charPaths.resize(text.size());
+    TakeOutlines(node->GetPainterPaths());
     charDescents = node->GetDescentData();
     for (int i = 0; i < charDescents.size(); ++i)
         charDescents[i] = Bounded(charDescents.at(i), metricLimit);
@@ -156,6 +156,22 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     if (neonBgEnabled == 1)
         neonBg->InitNode(node);
     return 1;
+}
+
+/** One for each character; what the files have more is nobody's. */
+void animationRealization::TakeOutlines(const QVector<QPainterPath>& paths)
+{
+    charPaths.clear();
+    charPaths.resize(qMin(paths.size(), text.size()));
+    for (int i = 0; i < charPaths.size(); ++i) {
+        const QPainterPath& path = paths.at(i);
+        Outline& outline = charPaths[i];
+        outline.fillRule = path.fillRule() == Qt::WindingFill ? Outline::Winding : Outline::OddEven;
+        for (int k = 0; k < path.elementCount(); ++k) {
+            const QPainterPath::Element& element = path.elementAt(k);
+            outline.Add(float(element.x), float(element.y), Outline::Type(element.type));
+        }
+    }
 }
 
 void animationRealization::LoadFillPicture()

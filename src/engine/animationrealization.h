@@ -1,6 +1,8 @@
 #ifndef ANIMATIONREALIZATION_H
 #define ANIMATIONREALIZATION_H
 
+#include "paint/textcanvas.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QConicalGradient>
@@ -8,17 +10,16 @@
 #include <QLinearGradient>
 #include <QList>
 #include <QObject>
-#include <QPainterPath>
 #include <QPen>
 #include <QPointer>
 #include <QRadialGradient>
 #include <QSize>
 #include <QString>
 #include <QTimer>
-#include <QTransform>
 #include <QVector>
 
 class QPainter;
+class QPainterPath;
 
 namespace Lw {
 
@@ -150,6 +151,7 @@ private:
 
     // Set-up
     static QImage NewCanvas(const QSize& size, QImage::Format format);
+    void TakeOutlines(const QVector<QPainterPath>& paths);
     void LoadFillPicture();
     void MeasureText(const LineWidths& line);
     void StartBackgrounds();
@@ -167,6 +169,8 @@ private:
     // The frame that effects share: engine/frame.h
     bool BeginFrame();
     void EndFrame();
+    void ShowFrame();
+    static void WritePicture(TextCanvas& from, QRgb color, QImage& picture);
     template <typename Shape>
     void DrawPage(const Shape& shape);
     template <typename Shape>
@@ -175,7 +179,7 @@ private:
     void AddGlyph(int j, double x, double y);
     void AddStanding();
     void AddShapedGlyph(int j, double x, double y);
-    void AddShapedGlyph(const QPainterPath& glyph, double x, double y);
+    void AddShapedGlyph(const Outline& glyph, double x, double y);
     void DrawGlyph(int j, double x, double y);
     int FrameWidth() const;
     int FrameHeight() const;
@@ -249,9 +253,9 @@ private:
     int pageIndex;
     int moveOffset;
     DrawNeonBg* neonBg;
-    QVector<QPainterPath> charPaths;
-    QPainterPath textPath;
-    QPainterPath auxPath;
+    QVector<Outline> charPaths;
+    Outline textPath;
+    Outline auxPath;
     QVector<int> charDescents;
     QVector<int> charWidths;
     QVector<int> charHeights;
@@ -264,7 +268,7 @@ private:
     QBrush pictureBrush;
     QBrush auxBrush;
     QPen picturePen;
-    QTransform transform;
+    Transform transform;
     QLinearGradient linearGradient;
     QRadialGradient radialGradient;
     QConicalGradient conicalGradient;
@@ -300,6 +304,8 @@ private:
     qint64 layerBytes; // what the text's layer holds, which the host may have made for another
                        // format; -1 when it is not known
     bool dazzleLayerWrapped;
+    TextCanvas canvas;
+    QRgb textColor;
     QVector<Frog> frogPictures;
 
     friend class HAnimationTextRender;

@@ -1,6 +1,5 @@
 #include "engine/frame.h"
 
-#include <QPainter>
 #include <qnumeric.h>
 
 namespace Lw {
@@ -11,29 +10,36 @@ namespace {
 // Counters stop here, far beyond any picture, so that sums of a few of them stay within an int.
 const int counterLimit = 1 << 29;
 
-bool IsFinite(const QTransform& t)
-{
-    return qIsFinite(t.m11()) && qIsFinite(t.m12()) && qIsFinite(t.m21()) && qIsFinite(t.m22()) &&
-           qIsFinite(t.dx()) && qIsFinite(t.dy());
-}
-
 } // namespace
 
-/** Clears the picture and sets brush and pen; false when there is nothing to paint on. */
+/** Begins a frame without ink, in the text's paint; false when there is nothing to paint on. */
 bool animationRealization::BeginFrame()
 {
-    DrawInit();
-    textPath = QPainterPath();
-    if (drawImage.isNull() || !painter->begin(&drawImage))
+    textPath.Clear();
+    if (drawImage.isNull())
         return false;
+    canvas.SetSize(drawImage.width(), drawImage.height());
     SetPainterBrush(0);
     return true;
 }
 
 void animationRealization::EndFrame()
 {
-    painter->drawPath(textPath);
-    painter->end();
+    canvas.DrawPath(textPath);
+    ShowFrame();
+}
+
+/** What the canvas holds becomes the picture: every pixel of it, so nothing is cleared before. */
+void animationRealization::ShowFrame()
+{
+    WritePicture(canvas, textColor, drawImage);
+}
+
+void animationRealization::WritePicture(TextCanvas& from, QRgb color, QImage& picture)
+{
+    const PictureWriter::Format format =
+        picture.depth() == 32 ? PictureWriter::Argb32 : PictureWriter::Rgb888;
+    from.Write(format, color, picture.bits(), size_t(picture.bytesPerLine()));
 }
 
 bool animationRealization::HasGlyph(int j) const
@@ -44,7 +50,7 @@ bool animationRealization::HasGlyph(int j) const
 void animationRealization::AddGlyph(int j, double x, double y)
 {
     if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y))
-        textPath.addPath(charPaths.at(j).translated(qreal(x), qreal(y)));
+        textPath.Append(charPaths.at(j), float(x), float(y));
 }
 
 /** The characters of the page that have come to rest: those before charIndex. */
@@ -61,17 +67,17 @@ void animationRealization::AddShapedGlyph(int j, double x, double y)
         AddShapedGlyph(charPaths.at(j), x, y);
 }
 
-void animationRealization::AddShapedGlyph(const QPainterPath& glyph, double x, double y)
+void animationRealization::AddShapedGlyph(const Outline& glyph, double x, double y)
 {
-    if (qIsFinite(x) && qIsFinite(y) && IsFinite(transform))
-        textPath.addPath(transform.map(glyph).translated(qreal(x), qreal(y)));
+    if (qIsFinite(x) && qIsFinite(y) && transform.IsFinite())
+        textPath.Append(transform.map(glyph), float(x), float(y));
 }
 
 /** Paints the glyph by itself, with its own fill rule. */
 void animationRealization::DrawGlyph(int j, double x, double y)
 {
     if (HasGlyph(j))
-        painter->drawPath(charPaths.at(j).translated(qreal(x), qreal(y)));
+        canvas.DrawPath(charPaths.at(j).Translated(float(x), float(y)));
 }
 
 /** How far the k-th character of the page has come when each starts a step after the one before. */
@@ -85,7 +91,7 @@ int animationRealization::Phase(int k) const
 void animationRealization::RotateAbout(double x, double y, double degrees)
 {
     transform.translate(float(x), float(y));
-    transform.rotate(qreal(degrees), Qt::ZAxis);
+    transform.rotate(float(degrees));
     transform.translate(float(-x), float(-y));
 }
 

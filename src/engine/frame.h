@@ -9,8 +9,8 @@ namespace HNodeAnimationText {
 /*
  * The frame that all effects share, as members of the engine.
  *
- * A frame clears the picture, collects the glyphs of the page in textPath, paints them in one go
- * and advances a counter; at the end of its movement the page is handed over. An effect is its
+ * A frame collects the glyphs of the page in textPath, paints them in one go, writes the picture
+ * once and advances a counter; at the end of its movement the page is handed over. An effect is its
  * formula:
  *
  *     DrawPage([&](int j) {                 // for every character of the page

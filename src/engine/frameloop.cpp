@@ -6,8 +6,6 @@
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
 
-#include <QPainter>
-
 namespace Lw {
 namespace HNodeAnimationText {
 

@@ -3,7 +3,6 @@
 #include "engine/frame.h"
 
 #include <QDebug>
-#include <QPainter>
 
 #include <cstring>
 
@@ -38,7 +37,7 @@ void animationRealization::ContinueEffectRight()
 
 void animationRealization::DrawLine()
 {
-    auxPath = QPainterPath();
+    auxPath.Clear();
     if (!BeginFrame())
         return;
     int firstBeyond = -1;
@@ -74,19 +73,17 @@ void animationRealization::DrawTail(int first, int end)
     QImage tail = NewCanvas(QSize(totalTextWidth - start, drawImage.height()), imageFormat);
     if (tail.isNull() || tail.bytesPerLine() > drawImage.bytesPerLine())
         return;
-    auxPath = QPainterPath();
+    auxPath.Clear();
     for (int k = first; k < end; ++k) {
         // What lies before the latched start stands in the line's first part.
         if (charPositions.value(k) > lastPaintableX)
-            auxPath.addPath(
-                charPaths.at(k).translated(float(charPositions.value(k) - start), float(RestY(k))));
+            auxPath.Append(charPaths.at(k), float(charPositions.value(k) - start), float(RestY(k)));
     }
-    QPainter tailPainter(&tail);
-    // White, not the text's colour: the tail has always been so.
-    tailPainter.setPen(QPen(QBrush(Qt::white), 0));
-    tailPainter.setBrush(QBrush(Qt::white, Qt::SolidPattern));
-    tailPainter.drawPath(auxPath);
-    tailPainter.end();
+    TextCanvas tailCanvas;
+    tailCanvas.SetSize(tail.width(), tail.height());
+    tailCanvas.DrawPath(auxPath);
+    // White and filled, whatever the text is: the tail has always been so.
+    WritePicture(tailCanvas, qRgb(255, 255, 255), tail);
 
     // Right-aligned by bytes: rows of 24 bits are padded, so this is not a distance in pixels.
     const int offset = drawImage.bytesPerLine() - tail.bytesPerLine();

@@ -4,7 +4,7 @@
 #include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 
-#include <QPainter>
+#include <QColor>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -20,10 +20,8 @@ void animationRealization::SetPainterBrush(int)
 {
     // The first character's colour serves for all. Gradient, stroke and picture fill belong to the
     // dazzle background; the text keeps its plain colour.
-    const QColor color = node ? node->GetTextColor(0) : QColor(255, 0, 0);
-    painter->setBrush(hollow == 1 ? QBrush(Qt::NoBrush) : QBrush(color, Qt::SolidPattern));
-    // Width 0 spelled out: a hair line at any scale, Qt 4's default but not Qt 5's.
-    painter->setPen(QPen(QBrush(color), 0));
+    textColor = (node ? node->GetTextColor(0) : QColor(255, 0, 0)).rgb();
+    canvas.SetHollow(hollow == 1);
 }
 
 /** Adds the character's shadow to auxPath. Text is painted without one; hosts may call it. */
@@ -33,7 +31,7 @@ void animationRealization::DrawShadow(int index)
         return;
     const int distance = Attribute(node, "TextShadowBox");
     if (index >= 0 && index < charPaths.size())
-        auxPath.addPath(charPaths.at(index).translated(distance, distance));
+        auxPath.Append(charPaths.at(index), float(distance), float(distance));
 }
 
 } // namespace HNodeAnimationText

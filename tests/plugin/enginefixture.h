@@ -70,11 +70,11 @@ public:
 };
 
 /** For each rectangle in @p path its first corner and the one opposite, "x,y x,y; x,y x,y". */
-inline QString Corners(const QPainterPath& path)
+inline QString Corners(const Lw::HNodeAnimationText::Outline& path)
 {
     const int elementsEach = 5; // around and back to the first corner
     const auto corner = [&path](int element) {
-        const QPointF at = path.elementAt(element);
+        const QPointF at(path.At(size_t(element)).x, path.At(size_t(element)).y);
         // No negative zero; hundredths, which is finer than a picture shows.
         const auto number = [](qreal value) {
             return QString::number(qRound64(value * 100) / 100.0 + 0.0, 'g', 8);
@@ -82,7 +82,7 @@ inline QString Corners(const QPainterPath& path)
         return number(at.x()) + "," + number(at.y());
     };
     QStringList glyphs;
-    for (int i = 0; i + elementsEach <= path.elementCount(); i += elementsEach)
+    for (int i = 0; i + elementsEach <= int(path.Size()); i += elementsEach)
         glyphs.append(corner(i) + " " + corner(i + 2));
     return glyphs.join("; ");
 }

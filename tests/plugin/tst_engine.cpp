@@ -248,16 +248,6 @@ void EngineTest::hollowTextIsAnOutline()
         QCOMPARE(picture.pixelColor(15, 20), hollow == 1 ? QColor(0, 0, 0, 0) : QColor(255, 0, 0));
         QCOMPARE(picture.pixelColor(3, 13), picture.pixelColor(15, 20)); // a pen of one pixel
         QCOMPARE(picture.pixelColor(28, 20), QColor(0, 0, 0, 0));
-
-        // Scaled up, the outline stays a hair line.
-        QImage scaled(60, 60, QImage::Format_ARGB32);
-        scaled.fill(0);
-        play.painter()->begin(&scaled);
-        play.painter()->scale(8, 8);
-        play.engine.SetPainterBrush();
-        play.painter()->drawRect(1, 1, 3, 3);
-        play.painter()->end();
-        QCOMPARE(PaintedBox(scaled), QRect(8, 8, 25, 25));
     }
 }
 

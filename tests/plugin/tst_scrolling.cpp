@@ -126,7 +126,7 @@ void ScrollingTest::columnsWrapAndCount()
         QCOMPARE(play.charIndex(), position);
         QCOMPARE(play.runEnded(), ended);
         QCOMPARE(play.engine.GetDisplayTimes(), runs); // there are no holds
-        QVERIFY(outlines > 0 || play.textPath().isEmpty());
+        QVERIFY(outlines > 0 || play.textPath().IsEmpty());
     }
     QCOMPARE(play.frameCount(), 400);
 }
@@ -150,7 +150,7 @@ void ScrollingTest::columnsOfNothingEnd()
         for (int i = 1; i <= 50; ++i) {
             play.Tick();
             QCOMPARE(play.playCount(), i);
-            QVERIFY(play.textPath().elementCount() <= 2 * 5);
+            QVERIFY(int(play.textPath().Size()) <= 2 * 5);
         }
     }
 }
