@@ -62,6 +62,9 @@ DrawNeonBg::DrawNeonBg(QObject* parent)
     , d(new Private)
 {
     d->timer = new QTimer(this);
+#if QT_VERSION >= 0x050000
+    d->timer->setTimerType(Qt::PreciseTimer); // a coarse one would fire every 64 ms instead of 66
+#endif
     connect(d->timer, SIGNAL(timeout()), this, SLOT(DrawNext()));
 }
 

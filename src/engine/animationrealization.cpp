@@ -97,6 +97,7 @@ animationRealization::animationRealization(QObject* parent)
         dazzleColors.append(QColor::fromHsv(12 * i, 207, 255, 255));
     dazzleColors.append(QColor::fromHsv(0, 207, 255, 255));
 
+    KeepTime(dazzleTimer);
     // Here and not at each start, which would draw the background once more a tick each time.
     connect(&dazzleTimer, SIGNAL(timeout()), this, SLOT(UpdateDazzleBackground()));
 }

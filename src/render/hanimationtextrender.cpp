@@ -30,6 +30,7 @@ HAnimationTextRender::HAnimationTextRender(HAnimationTextNode* node)
     , imageFormat(HPluginManager::instance()->SuportAlphaBlend(node) ? QImage::Format_ARGB32
                                                                      : QImage::Format_RGB888)
 {
+    KeepTime(drawTimer);
     connect(&drawTimer, SIGNAL(timeout()), this, SLOT(UpdateDraw()));
 }
 
