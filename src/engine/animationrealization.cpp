@@ -12,6 +12,7 @@
 #include <hpluginmanager.h>
 
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
@@ -26,6 +27,7 @@ namespace {
 
 const qint64 maxCanvasBytes = qint64(256) << 20;  // of one picture
 const qint64 maxPicturePixels = 64 * 1000 * 1000; // of a fill picture, before it is decoded
+const int lastNeonBorder = 28;                    // neon effects above it show pictures
 
 // Metrics come from files and attributes and can be anything. These bounds lie far beyond every
 // picture and keep the sums of the layout within an int.
@@ -252,6 +254,10 @@ void animationRealization::Start()
         stayImage.fill(0);
 
     StartBackgrounds();
+    // The host's store may fetch a file when it is looked up. Whether it is there changes nothing
+    // here: the animator copes with one that is missing.
+    if (neonBgEnabled != 0 && node->GetNeonEffect() > lastNeonBorder)
+        QFile::exists(node->GetFirstFile(QString::fromLatin1("NeonGifPath")));
 }
 
 void animationRealization::MeasureText(const LineWidths& line)
