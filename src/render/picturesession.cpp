@@ -10,6 +10,8 @@
 #include <drawneonbg.h>
 #include <hpluginmanager.h>
 
+#include <QDebug>
+
 #include <cstring>
 
 namespace Lw {
@@ -190,8 +192,11 @@ void HAnimationTextRender::ShowFrames()
 void HAnimationTextRender::GiveNeonLayer(int layer, qint64 layerBytes)
 {
     DrawNeonBg* const neon = engine->neonBg;
-    if (ByteCount(neon->Image()) > layerBytes)
+    if (ByteCount(neon->Image()) > layerBytes) {
+        qDebug() << "Neon picture does not fit its layer, no neon is shown:"
+                 << neon->Image().size();
         return;
+    }
     neon->pictureSession = Opaque(session);
     neon->displayHandle = displayHandle;
     neon->layer = layer;
