@@ -107,7 +107,8 @@ QFont HAnimationTextNode::GetTextFont(int index) const
     QFont font(row.value(QString::fromLatin1("fontName")), Number(row, "fontSize"), -1, false);
     font.setWeight(Number(row, "bold") ? QFont::Bold : QFont::Normal);
     font.setStyle(Number(row, "italic") ? QFont::StyleItalic : QFont::StyleNormal);
-    font.setUnderline(Number(row, "underline") != 0);
+    if (Number(row, "underline"))
+        font.setUnderline(true); // else unset, so that it can be inherited
     font.setStyleStrategy(QFont::NoAntialias);
     return font;
 }
