@@ -27,23 +27,20 @@ public:
     virtual QString name() { return QString(); }
     virtual int level() { return 5; }
     virtual QString type() { return QString(); }
-    virtual QIcon& icon()
-    {
-        static QIcon none;
-        return none;
-    }
+    /** The icon of all plugins without one of their own. */
+    virtual QIcon& icon();
     /** A new node, owned by the caller. */
     virtual HNode* Create() { return 0; }
     virtual void* GetClient() { return 0; }
     /** A new renderer for a node that this plugin created, owned by the caller. */
     virtual IContentRender* CreateAreaRender(HNode*) { return 0; }
     virtual IContentRender* CreateFrameRender(HNode*) { return 0; }
-    virtual HNode* AddFile(HModel*, QModelIndex&, int) { return 0; }
+    virtual bool AddFile(HModel*, QModelIndex&, int) { return false; }
     virtual bool OverrideNewFile() { return false; }
-    virtual HNode* NewFile(HModel*, QModelIndex&, int) { return 0; }
+    virtual bool NewFile(HModel*, QModelIndex&, int) { return false; }
     virtual void AppQuit() {}
-    virtual HNode* AddFileBasisSuffix(QString, HModel*, QModelIndex&, int) { return 0; }
-    virtual HNode* AddFileBasisSupport(QString, HModel*, QModelIndex&, int) { return 0; }
+    virtual bool AddFileBasisSuffix(QString, HModel*, QModelIndex&, int) { return false; }
+    virtual bool AddFileBasisSupport(QString, HModel*, QModelIndex&, int) { return false; }
     virtual QString SupportSuffix() { return QString(); }
     virtual bool SuportController(QString&) { return true; }
     virtual bool ConvertVersion(HNode*, HVersion&) { return true; }

@@ -93,7 +93,14 @@ void LibraryTest::itAnswersItsOwnAndTheDefaults()
     QCOMPARE(plugin->type(), QString("LW_animationText_Plugin"));
     QCOMPARE(plugin->name(), QString());
     QVERIFY(plugin->icon().isNull());
+    Lw::INodePlugin another;
+    QCOMPARE(&plugin->icon(), &another.icon()); // one for all libraries
+    QModelIndex index;
     QVERIFY(!plugin->GetClient() && !plugin->CreateFrameRender(nullptr));
+    const bool added = plugin->AddFile(nullptr, index, 0) || plugin->NewFile(nullptr, index, 0) ||
+                       plugin->AddFileBasisSuffix("", nullptr, index, 0) ||
+                       plugin->AddFileBasisSupport("", nullptr, index, 0);
+    QVERIFY(!added && !plugin->OverrideNewFile());
 }
 
 void LibraryTest::itMakesNodesAndRenderers()
