@@ -3,8 +3,8 @@
 #include "hcontentnode.h"
 #include "hneonnodebase.h"
 #include "hpluginmanager.h"
-#include "neonborder.h"
-#include "neonfilm.h"
+#include "neon/neonborder.h"
+#include "neon/neonfilm.h"
 
 #include "torvsdk.h"
 

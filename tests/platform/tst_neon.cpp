@@ -105,7 +105,7 @@ private slots:
         // The band is 6 pixels thick; its corners are round and reach further in.
         const QRect wide(6, 18, 109, 24);
         const QRect high(18, 6, 85, 48);
-        if (style == 6) // one colour all round
+        if (style == 5) // one colour all round
             QVERIFY(qAlpha(alpha[16].pixel(6, 6)) > 200);
         QByteArray play;
         int changes = 0;

@@ -58,13 +58,8 @@ NeonBorder::NeonBorder(QSize area, int style)
     straightHeight = height - 2 * radius;
 
     const double arc = Pi / 2 * radius;
-    loop.thickness = thickness;
     // A loop has some length even where the area is a single pixel.
-    loop.length = std::max(1.0, 2 * (straightWidth + straightHeight) + 4 * arc);
-    loop.corners[0] = straightWidth + arc / 2;
-    loop.corners[1] = loop.corners[0] + arc + straightHeight;
-    loop.corners[2] = loop.corners[1] + arc + straightWidth;
-    loop.corners[3] = loop.corners[2] + arc + straightHeight;
+    length = std::max(1.0, 2 * (straightWidth + straightHeight) + 4 * arc);
 }
 
 void NeonBorder::Paint(QImage& image, qint64 tick) const
@@ -80,7 +75,7 @@ void NeonBorder::Paint(QImage& image, qint64 tick) const
             const NeonSpot spot = SpotAt(x, y);
             if (std::fabs(spot.across) > 1)
                 continue;
-            const NeonLight light = Exposed(NeonLightAt(style, loop, spot, tick));
+            const NeonLight light = Exposed(NeonLightAt(style, length, thickness, spot, tick));
             if (hasAlpha) {
                 reinterpret_cast<QRgb*>(row)[x] = ToPixel(light);
             } else {
@@ -128,7 +123,7 @@ NeonSpot NeonBorder::SpotAt(int x, int y) const
         spot.along = 2 * straightWidth + 2 * arc + straightHeight + radius * std::atan2(-dx, dy) +
                      straightHeight - nearY;
     else
-        spot.along = dx < 0 ? loop.length - arc + radius * std::atan2(-dy, -dx) : nearX;
+        spot.along = dx < 0 ? length - arc + radius * std::atan2(-dy, -dx) : nearX;
     spot.across = (radius - std::sqrt(dx * dx + dy * dy)) / std::max(thickness, ThinnestGlow) * 2;
     return spot;
 }

@@ -5,7 +5,7 @@
 #ifndef LW_NEONBORDER_H
 #define LW_NEONBORDER_H
 
-#include "neonstyles.h"
+#include "neonpatterns.h"
 
 #include <QImage>
 #include <QSize>
@@ -37,7 +37,7 @@ private:
     double radius;        ///< of the middle of the band in the corners
     double straightWidth; ///< of the edges between the corners
     double straightHeight;
-    NeonLoop loop;
+    double length; ///< round the middle of the band
 };
 
 } // namespace Lw
