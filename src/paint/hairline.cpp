@@ -114,7 +114,7 @@ bool Hairline::Trace::FindPixels()
 {
     begin = (a1 + 32) >> 6;
     end = (a2 + 32) >> 6;
-    across = Sum(across, Product((begin << 6) + 32 - a1, step) >> 6);
+    across = Sum(across, Product(ShiftedLeft(begin, 6) + 32 - a1, step) >> 6);
     return begin != end;
 }
 
