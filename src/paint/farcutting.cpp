@@ -496,20 +496,29 @@ Outline PathAround(const Rectangle& r)
 
 } // namespace
 
-Bounds::Bounds(const Outline::Element& first)
-    : left(first.x)
-    , top(first.y)
-    , right(first.x)
-    , bottom(first.y)
+Bounds::Bounds(const Outline& outline)
+    : left(0)
+    , top(0)
+    , right(0)
+    , bottom(0)
 {
-}
-
-void Bounds::Add(const Outline::Element& point)
-{
-    left = std::min(left, point.x);
-    right = std::max(right, point.x);
-    top = std::min(top, point.y);
-    bottom = std::max(bottom, point.y);
+    if (outline.Size() == 0)
+        return;
+    float x0 = outline.At(0).x;
+    float x1 = x0;
+    float y0 = outline.At(0).y;
+    float y1 = y0;
+    for (size_t i = 1; i < outline.Size(); ++i) {
+        const Element& e = outline.At(i);
+        x0 = std::min(x0, e.x);
+        x1 = std::max(x1, e.x);
+        y0 = std::min(y0, e.y);
+        y1 = std::max(y1, e.y);
+    }
+    left = x0;
+    top = y0;
+    right = x1;
+    bottom = y1;
 }
 
 void Bounds::Unite(const Bounds& other)

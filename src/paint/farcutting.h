@@ -7,7 +7,7 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-/** Of points, control points included. Starts with none: grows with the first. */
+/** Of an outline's points, control points included. */
 struct Bounds
 {
     float left;
@@ -15,8 +15,7 @@ struct Bounds
     float right;
     float bottom;
 
-    explicit Bounds(const Outline::Element& first);
-    void Add(const Outline::Element& point);
+    explicit Bounds(const Outline& outline);
     void Unite(const Bounds& other);
     /** Beyond what the device's fill computes with: it cuts the outline to the picture first. */
     bool AreFar() const;

@@ -73,7 +73,9 @@ void Edges<Sink>::Line(Place a, Place b)
     const int32_t below = Difference(ShiftedLeft(top, 16), ShiftedLeft(a.y, 10));
     const int32_t moved = static_cast<int32_t>((int64_t(step) * below) >> 16);
     Run run = {Sum(start, moved), step, top, bottom, winding};
-    if (CutAtBorder(left, false, run) && CutAtBorder(right, true, run))
+    const int32_t last = Sum(run.x, Product(step, bottom - top));
+    const bool isInside = run.x > left && run.x < right && last > left && last < right; // most are
+    if (isInside || (CutAtBorder(left, false, run) && CutAtBorder(right, true, run)))
         sink.Add(run);
 }
 
@@ -204,7 +206,8 @@ public:
 private:
     void Flip(Word* row, int column)
     {
-        row[column / Plane::wordBits] ^= Word(1) << (column % Plane::wordBits);
+        const unsigned x = static_cast<unsigned>(column);
+        row[x / Plane::wordBits] ^= Word(1) << x % Plane::wordBits;
     }
 
     Box clip;
@@ -283,7 +286,7 @@ private:
 
 Fill::Fill()
     : picture()
-    , bounds(Outline::Element())
+    , bounds(Outline())
     , hasGaps(false)
 {
 }
@@ -321,9 +324,7 @@ void Fill::Take(const Outline& outline, size_t first, const Transform* transform
     if (transform)
         for (size_t i = 0; i < closed.Size(); ++i)
             transform->map(closed.At(i).x, closed.At(i).y);
-    bounds = Bounds(closed.At(0));
-    for (size_t i = 1; i < closed.Size(); ++i)
-        bounds.Add(closed.At(i));
+    bounds = Bounds(closed);
 }
 
 void Fill::CutFar()

@@ -75,7 +75,7 @@ struct Hairline::Trace
     void AddBeforeFirst();
 };
 
-bool Hairline::Trace::Take(const Point& from, const Point& to)
+inline bool Hairline::Trace::Take(const Point& from, const Point& to)
 {
     int32_t x1 = Fixed(from.x);
     int32_t y1 = Fixed(from.y);
@@ -94,13 +94,18 @@ bool Hairline::Trace::Take(const Point& from, const Point& to)
     a2 = steep ? y2 : x2;
     const int32_t c1 = steep ? x1 : y1;
     const int32_t c2 = steep ? x2 : y2;
-    step = static_cast<int32_t>(int64_t(c2 - c1) * 65536 / (a2 - a1));
+    const int32_t rise = c2 - c1;
+    // A short division where it will do.
+    if (Magnitude(rise) <= 0x7fff)
+        step = rise * 65536 / (a2 - a1);
+    else
+        step = static_cast<int32_t>(int64_t(rise) * 65536 / (a2 - a1));
     across = ShiftedLeft(c1, 10);
     aligned = Magnitude(step) < (1 << 14);
     return true;
 }
 
-void Hairline::Trace::AddCaps(unsigned caps)
+inline void Hairline::Trace::AddCaps(unsigned caps)
 {
     if (caps & CapBegin) {
         a1 -= 32;
@@ -110,7 +115,7 @@ void Hairline::Trace::AddCaps(unsigned caps)
         a2 += 32;
 }
 
-bool Hairline::Trace::FindPixels()
+inline bool Hairline::Trace::FindPixels()
 {
     begin = (a1 + 32) >> 6;
     end = (a2 + 32) >> 6;
@@ -267,6 +272,9 @@ bool Hairline::ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, f
 /** In float, so that numbers stay small. True when nothing is left. */
 bool Hairline::Clip(Point& a, Point& b)
 {
+    // Most lines are inside as they are.
+    if (IsInside(a) && IsInside(b))
+        return false;
     if (ClipAxis(a.x, a.y, b.x, b.y, left, right) || ClipAxis(a.y, a.x, b.y, b.x, top, bottom)) {
         ForgetLast();
         return true;
@@ -315,13 +323,28 @@ void Hairline::Paint(const Trace& trace)
 {
     // A line that lost its only pixel paints one all the same: the device paints before it asks.
     const int32_t end = std::max(trace.end, trace.begin + 1);
+    const Pixel low = trace.Low();
+    const Pixel high =
+        trace.At(end - 1, Sum(trace.across, Product(end - 1 - trace.begin, trace.step)));
     int32_t across = trace.across;
-    for (int32_t along = trace.begin; along < end; ++along) {
-        const Pixel p = trace.At(along, across);
-        if (p.x >= clip.left && p.x < clip.right && p.y >= clip.top && p.y < clip.bottom) {
-            ink->Set(p.x, p.y);
+    if (!IsInClip(low) || !IsInClip(high)) {
+        for (int32_t along = trace.begin; along < end; ++along) {
+            const Pixel p = trace.At(along, across);
+            if (IsInClip(p))
+                ink->Set(p.x, p.y);
+            across = Sum(across, trace.step);
         }
-        across = Sum(across, trace.step);
+    } else if (trace.steep) {
+        Plane::Word* row = ink->Row(trace.begin);
+        for (int32_t y = trace.begin; y < end; ++y, row += ink->Stride()) {
+            Plane::SetIn(row, across >> 16);
+            across = Sum(across, trace.step);
+        }
+    } else {
+        for (int32_t x = trace.begin; x < end; ++x) {
+            ink->Set(x, across >> 16);
+            across = Sum(across, trace.step);
+        }
     }
 }
 

@@ -46,6 +46,14 @@ private:
     bool ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, float high);
     void DropOut(Trace& trace) const;
     void Paint(const Trace& trace);
+    bool IsInClip(const Pixel& p) const
+    {
+        return p.x >= clip.left && p.x < clip.right && p.y >= clip.top && p.y < clip.bottom;
+    }
+    bool IsInside(const Point& p) const
+    {
+        return p.x >= left && p.x <= right && p.y >= top && p.y <= bottom;
+    }
     bool HasLast() const { return last.x >= 0; }
     void ForgetLast() { last.x = -1; }
 

@@ -69,11 +69,14 @@ bool Outline::IsWellFormed() const
 
 bool Outline::IsFinite() const
 {
-    // A sum of zeros unless one of them is infinite or no number.
-    float sum = 0;
-    for (size_t i = 0; i < elements.size(); ++i)
-        sum += elements[i].x * 0 + elements[i].y * 0;
-    return sum == 0;
+    // Sums of zeros unless a coordinate is infinite or no number.
+    float x = 0;
+    float y = 0;
+    for (size_t i = 0; i < elements.size(); ++i) {
+        x += elements[i].x * 0;
+        y += elements[i].y * 0;
+    }
+    return x == 0 && y == 0;
 }
 
 void Outline::Clear()

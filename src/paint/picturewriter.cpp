@@ -27,7 +27,7 @@ void PictureWriter::SetColour(Format format, uint32_t argb)
     if (format == Argb32)
         std::memcpy(pixel, &argb, sizeof argb);
     std::memset(table, 0, sizeof table);
-    unsigned char* to = table;
+    unsigned char* to = reinterpret_cast<unsigned char*>(table);
     for (unsigned row = 0; row < 256; ++row)
         for (int i = 0; i < pixelsAtOnce; ++i, to += bytes)
             if (row >> i & 1)
@@ -38,24 +38,25 @@ template <int bytesPerPixel>
 void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int width) const
 {
     const int atOnce = bytesPerPixel * pixelsAtOnce;
-    const int pixels = std::min(width, ink.Width());
+    const unsigned char* const eights = reinterpret_cast<const unsigned char*>(table);
     const Plane::Word* words = ink.Row(y);
-    unsigned char* to = row;
-    for (int x = 0; x < pixels; x += Plane::wordBits) {
+    for (int x = 0; x < width; x += Plane::wordBits) {
         Plane::Word word = *words++;
-        const int count = std::min(+Plane::wordBits, pixels - x);
-        if (word == 0) {
-            std::memset(to, 0, static_cast<size_t>(count * bytesPerPixel));
-            to += count * bytesPerPixel;
-            continue;
+        unsigned char* to = row + x * bytesPerPixel;
+        const int whole = (width - x) / pixelsAtOnce;
+        while (word != 0) {
+            // The next eight pixels with ink.
+            const int i = __builtin_ctzll(word) / pixelsAtOnce;
+            const unsigned char* from = eights + (word >> i * pixelsAtOnce & 255) * atOnce;
+            if (i >= whole) {
+                std::memcpy(to + i * atOnce, from,
+                            static_cast<size_t>((width - x) % pixelsAtOnce * bytesPerPixel));
+                break;
+            }
+            std::memcpy(to + i * atOnce, from, atOnce);
+            word &= ~(Plane::Word(255) << i * pixelsAtOnce);
         }
-        for (int i = count / pixelsAtOnce; i > 0; --i, to += atOnce, word >>= pixelsAtOnce)
-            std::memcpy(to, table + (word & 255) * atOnce, atOnce);
-        const int rest = count % pixelsAtOnce * bytesPerPixel;
-        std::memcpy(to, table + (word & 255) * atOnce, static_cast<size_t>(rest));
-        to += rest;
     }
-    std::memset(to, 0, static_cast<size_t>((width - pixels) * bytesPerPixel));
 }
 
 void PictureWriter::Write(const Plane& ink, Format format, uint32_t argb, unsigned char* bits,
@@ -64,12 +65,13 @@ void PictureWriter::Write(const Plane& ink, Format format, uint32_t argb, unsign
     SetColour(format, argb);
     const size_t bytes = static_cast<size_t>(width) * (format == Argb32 ? 4 : 3);
     for (int y = 0; y < height; ++y, bits += bytesPerLine) {
+        std::memset(bits, 0, bytes);
         if (y < ink.InkTop() || y >= ink.InkBottom())
-            std::memset(bits, 0, bytes);
-        else if (format == Argb32)
-            WriteRow<4>(ink, y, bits, width);
+            continue;
+        if (format == Argb32)
+            WriteRow<4>(ink, y, bits, std::min(width, ink.Width()));
         else
-            WriteRow<3>(ink, y, bits, width);
+            WriteRow<3>(ink, y, bits, std::min(width, ink.Width()));
     }
 }
 

@@ -41,7 +41,7 @@ private:
     Format tableFormat;
     uint32_t tableColour;
     bool hasTable;
-    unsigned char table[256 * mostBytes]; // of every row of eight pixels
+    uint64_t table[256 * mostBytes / sizeof(uint64_t)]; // bytes of every row of eight pixels
 };
 
 } // namespace HNodeAnimationText

@@ -38,7 +38,12 @@ public:
     Word* Row(int y) { return &words[static_cast<size_t>(y) * stride]; }
     const Word* Row(int y) const { return &words[static_cast<size_t>(y) * stride]; }
 
-    void Set(int x, int y) { Row(y)[x / wordBits] |= Word(1) << (x % wordBits); }
+    static void SetIn(Word* row, int x)
+    {
+        const unsigned column = static_cast<unsigned>(x);
+        row[column / wordBits] |= Word(1) << column % wordBits;
+    }
+    void Set(int x, int y) { SetIn(Row(y), x); }
     bool Has(int x, int y) const { return Row(y)[x / wordBits] >> (x % wordBits) & 1; }
     /** Columns @p begin up to but without @p end. */
     void SetRun(int y, int begin, int end);

@@ -78,7 +78,7 @@ private:
 
         Kept()
             : isHollow(false)
-            , bounds(Outline::Element())
+            , bounds(Outline())
             , direction(Rightward)
         {
         }
