@@ -82,8 +82,6 @@ inline bool Hairline::Trace::Take(const Point& from, const Point& to)
     int32_t x2 = Fixed(to.x);
     int32_t y2 = Fixed(to.y);
     steep = Magnitude(x2 - x1) < Magnitude(y2 - y1);
-    if (!steep && x1 == x2)
-        return false;
     swapped = steep ? y1 > y2 : x1 > x2;
     if (swapped) {
         std::swap(x1, x2);
@@ -92,14 +90,17 @@ inline bool Hairline::Trace::Take(const Point& from, const Point& to)
     direction = steep ? (swapped ? Upward : Downward) : (swapped ? Leftward : Rightward);
     a1 = steep ? y1 : x1;
     a2 = steep ? y2 : x2;
+    const int32_t length = a2 - a1;
+    if (length == 0)
+        return false;
     const int32_t c1 = steep ? x1 : y1;
     const int32_t c2 = steep ? x2 : y2;
     const int32_t rise = c2 - c1;
     // A short division where it will do.
     if (Magnitude(rise) <= 0x7fff)
-        step = rise * 65536 / (a2 - a1);
+        step = rise * 65536 / length;
     else
-        step = static_cast<int32_t>(int64_t(rise) * 65536 / (a2 - a1));
+        step = static_cast<int32_t>(int64_t(rise) * 65536 / length);
     across = ShiftedLeft(c1, 10);
     aligned = Magnitude(step) < (1 << 14);
     return true;
