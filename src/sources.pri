@@ -21,6 +21,7 @@ HEADERS += \
     $$PWD/plugin/hnodeanimationtext.h \
     $$PWD/render/hanimationtextrender.h \
     $$PWD/text/glyphdata.h \
+    $$PWD/text/limits.h \
     $$PWD/text/linewidths.h \
     $$PWD/text/pagedivision.h \
     $$PWD/text/wrapping.h

@@ -5,6 +5,7 @@
 #include "node/attribute.h"
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
+#include "text/limits.h"
 #include "text/pagedivision.h"
 
 #include <drawneonbg.h>
@@ -25,9 +26,7 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const qint64 maxCanvasBytes = qint64(256) << 20;  // of one picture
-const qint64 maxPicturePixels = 64 * 1000 * 1000; // of a fill picture, before it is decoded
-const int lastNeonBorder = 28;                    // neon effects above it show pictures
+const int lastNeonBorder = 28; // neon effects above it show pictures
 
 // Metrics come from files and attributes and can be anything. These bounds lie far beyond every
 // picture and keep the sums of the layout within an int.

@@ -2,6 +2,8 @@
 // down a single column of characters is painted frame by frame.
 #include "engine/frame.h"
 
+#include "text/limits.h"
+
 #include <QDebug>
 
 #include <cstring>
@@ -10,9 +12,6 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 namespace {
-
-// The raster painter computes in 16 bits. What begins beyond is painted nearer and moved by bytes.
-const int lastPaintableX = 31999;
 
 // A column repeats as often as the area is high. Where its heights add up to next to nothing, a
 // frame would take very long: so many characters beyond the text are looked at, and so many

@@ -1,5 +1,7 @@
 #include "text/glyphdata.h"
 
+#include "text/limits.h"
+
 #include <QDataStream>
 #include <QIODevice>
 #include <QtEndian>
@@ -11,8 +13,9 @@ namespace HNodeAnimationText {
 
 namespace {
 
-// A stream of big-endian bytes, read without copying. Reading past the end answers 0 and is
-// remembered.
+typedef GlyphDataFault Fault;
+
+// A stream of big-endian numbers, read without copying; whoever reads has looked at Left().
 class Bytes
 {
 public:
@@ -24,34 +27,29 @@ public:
 
     qint64 Left() const { return left; }
 
+    void Skip(qint64 count)
+    {
+        at += count;
+        left -= count;
+    }
+
     qint32 Int()
     {
-        const uchar* const value = Take(4);
-        return value ? qFromBigEndian<qint32>(value) : 0;
+        const qint32 number = qFromBigEndian<qint32>(at);
+        Skip(4);
+        return number;
     }
 
     double Double()
     {
-        const uchar* const value = Take(8);
-        const quint64 bits = value ? qFromBigEndian<quint64>(value) : 0;
+        const quint64 bits = qFromBigEndian<quint64>(at);
+        Skip(8);
         double number;
         std::memcpy(&number, &bits, sizeof number);
         return number;
     }
 
 private:
-    const uchar* Take(int count)
-    {
-        if (left < count) {
-            left = 0;
-            return 0;
-        }
-        const uchar* const taken = at;
-        at += count;
-        left -= count;
-        return taken;
-    }
-
     const uchar* at;
     qint64 left;
 };
@@ -59,58 +57,92 @@ private:
 const int elementBytes = 4 + 8 + 8; // type, x, y
 const int outlineTailBytes = 4 + 4; // start of the open subpath, fill rule
 
-enum Framing { Sound, Malformed, Broken };
-
 bool IsDrawable(double coordinate)
 {
     return coordinate >= -maxOutlineCoordinate && coordinate <= maxOutlineCoordinate;
 }
 
-// Looks one outline over. Broken: where it ends cannot be known.
-Framing LookOver(Bytes& bytes)
+// Looks over what follows the size of an outline.
+Fault FaultOfElements(Bytes bytes, qint32 size)
 {
-    if (bytes.Left() < 4)
-        return Broken;
-    const qint32 size = bytes.Int();
-    if (size == 0)
-        return Sound;
-    if (size < 0 || size > (bytes.Left() - outlineTailBytes) / elementBytes)
-        return Broken;
-
-    bool sound = size <= maxOutlineElements;
     int curveDataDue = 0;
     for (qint32 i = 0; i < size; ++i) {
         const qint32 type = bytes.Int();
         const double x = bytes.Double();
         const double y = bytes.Double();
-        const bool isCurveData = type == QPainterPath::CurveToDataElement;
-        sound = sound && type >= QPainterPath::MoveToElement &&
-                type <= QPainterPath::CurveToDataElement &&
-                (i > 0 || type == QPainterPath::MoveToElement) &&
-                isCurveData == (curveDataDue > 0) && IsDrawable(x) && IsDrawable(y);
+        if (type < QPainterPath::MoveToElement || type > QPainterPath::CurveToDataElement)
+            return Fault(Fault::UnknownElement, i, type);
+        if (i == 0 && type != QPainterPath::MoveToElement)
+            return Fault(Fault::NoMoveFirst, i, type);
+        if ((type == QPainterPath::CurveToDataElement) != (curveDataDue > 0))
+            return Fault(Fault::BrokenCurve, i);
+        if (!IsDrawable(x) || !IsDrawable(y)) {
+            Fault fault(Fault::FarOut, i);
+            fault.x = x;
+            fault.y = y;
+            return fault;
+        }
         if (type == QPainterPath::CurveToElement)
             curveDataDue = 2;
         else if (curveDataDue > 0)
             --curveDataDue;
     }
+    if (curveDataDue > 0)
+        return Fault(Fault::BrokenCurve, size);
     const qint32 start = bytes.Int();
+    if (start < 0 || start >= size)
+        return Fault(Fault::StartOutside, 0, start, size);
     const qint32 fillRule = bytes.Int();
-    sound = sound && curveDataDue == 0 && start >= 0 && start < size &&
-            fillRule >= Qt::OddEvenFill && fillRule <= Qt::WindingFill;
-    return sound ? Sound : Malformed;
+    if (fillRule < Qt::OddEvenFill || fillRule > Qt::WindingFill)
+        return Fault(Fault::UnknownFillRule, 0, fillRule);
+    return Fault();
 }
 
-// The worst of all outlines in `bytes`, and how many there are.
-Framing LookOverAll(Bytes bytes, qint64* count)
+// Looks one outline over and goes on behind it, where that can be known.
+Fault LookOver(Bytes& bytes)
 {
     if (bytes.Left() < 4)
-        return Broken;
+        return Fault(Fault::CutOff);
+    const qint32 size = bytes.Int();
+    if (size == 0)
+        return Fault();
+    if (size < 0 || size > (bytes.Left() - outlineTailBytes) / elementBytes)
+        return Fault(Fault::CutOff);
+    const Bytes elements = bytes;
+    bytes.Skip(qint64(size) * elementBytes + outlineTailBytes);
+    if (size > maxOutlineElements)
+        return Fault(Fault::TooManyElements, 0, size, maxOutlineElements);
+    return FaultOfElements(elements, size);
+}
+
+// Reads the number of entries, of at least four bytes each.
+Fault ReadCount(Bytes& bytes, qint64* count)
+{
+    if (bytes.Left() < 4)
+        return Fault(Fault::NoCount);
     *count = static_cast<quint32>(bytes.Int());
-    if (*count > bytes.Left() / 4)
-        return Broken;
-    Framing worst = Sound;
-    for (qint64 i = 0; i < *count && worst != Broken; ++i)
-        worst = qMax(worst, LookOver(bytes));
+    const qint64 room = bytes.Left() / 4;
+    return *count > room ? Fault(Fault::CountTooLarge, 0, *count, room) : Fault();
+}
+
+// The worst of all outlines in `bytes`, and how many there are. Every fault goes to `faults`, if
+// anybody wants them.
+Fault::Kind LookOverAll(Bytes bytes, qint64* count, QVector<Fault>* faults)
+{
+    Fault fault = ReadCount(bytes, count);
+    Fault::Kind worst = fault.kind;
+    if (faults && fault.kind != Fault::Sound)
+        faults->append(fault);
+    for (qint64 i = 0; i < *count && !fault.LeavesNothing(); ++i) {
+        fault = LookOver(bytes);
+        worst = qMax(worst, fault.kind);
+        if (faults && fault.kind != Fault::Sound) {
+            fault.outline = static_cast<int>(i);
+            if (fault.kind == Fault::CutOff)
+                fault.limit = *count;
+            faults->append(fault);
+        }
+    }
     return worst;
 }
 
@@ -122,7 +154,7 @@ QVector<QPainterPath> SoundOutlines(const QByteArray& bytes, int count)
     rest.Int();
     for (int i = 0; i < count; ++i) {
         const int begin = bytes.size() - static_cast<int>(rest.Left());
-        if (LookOver(rest) != Sound)
+        if (LookOver(rest).kind != Fault::Sound)
             continue;
         const int end = bytes.size() - static_cast<int>(rest.Left());
         QDataStream stream(QByteArray::fromRawData(bytes.constData() + begin, end - begin));
@@ -149,32 +181,41 @@ QVector<QPainterPath> OutlinesFrom(const QByteArray& bytes)
 {
     QVector<QPainterPath> outlines;
     qint64 count = 0;
-    switch (LookOverAll(Bytes(bytes), &count)) {
-    case Sound: {
+    const Fault::Kind worst = LookOverAll(Bytes(bytes), &count, 0);
+    if (worst == Fault::Sound) {
         QDataStream stream(bytes);
         stream.setVersion(QDataStream::Qt_4_8);
         stream >> outlines;
-        break;
-    }
-    case Malformed: outlines = SoundOutlines(bytes, static_cast<int>(count)); break;
-    case Broken: break;
+    } else if (!Fault(worst).LeavesNothing()) {
+        outlines = SoundOutlines(bytes, static_cast<int>(count));
     }
     return outlines;
+}
+
+QVector<Fault> OutlineFaults(const QByteArray& bytes)
+{
+    QVector<Fault> faults;
+    qint64 count = 0;
+    LookOverAll(Bytes(bytes), &count, &faults);
+    return faults;
 }
 
 QVector<int> DescentsFrom(const QByteArray& bytes)
 {
     QVector<int> descents;
-    Bytes rest(bytes);
-    if (rest.Left() < 4)
-        return descents;
-    const qint64 count = static_cast<quint32>(rest.Int());
-    if (count > rest.Left() / 4)
+    if (DescentFault(bytes).kind != Fault::Sound)
         return descents;
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_4_8);
     stream >> descents;
     return descents;
+}
+
+Fault DescentFault(const QByteArray& bytes)
+{
+    Bytes rest(bytes);
+    qint64 count = 0;
+    return ReadCount(rest, &count);
 }
 
 } // namespace HNodeAnimationText

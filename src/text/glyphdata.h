@@ -18,12 +18,45 @@ namespace HNodeAnimationText {
  * operators untouched.
  */
 
-/** The largest data file that is read, in bytes. */
-const qint64 maxDataFileSize = qint64(256) << 20;
+/** What is wrong in the bytes of a data file, and where. */
+struct GlyphDataFault
+{
+    enum Kind {
+        Sound,
+        // The outline is malformed in itself: it stays empty and the others keep their places.
+        TooManyElements, ///< number elements, at most limit
+        UnknownElement,  ///< the element has the type number
+        NoMoveFirst,     ///< the outline begins with the type number
+        BrokenCurve,     ///< before the element a curve lacks points, or it is a point without one
+        FarOut,          ///< the element is at (x, y)
+        StartOutside,    ///< the last contour begins at element number of limit elements
+        UnknownFillRule, ///< number
+        // Where things end cannot be known: nothing is read.
+        CutOff,       ///< the bytes end in or before the outline, one of limit
+        NoCount,      ///< the bytes end within the number of entries
+        CountTooLarge ///< number entries are announced, for limit there are bytes
+    };
 
-/** Most elements of one outline, and the largest coordinate in pixels, that are painted. */
-const int maxOutlineElements = 65536;
-const double maxOutlineCoordinate = 1e6;
+    explicit GlyphDataFault(Kind kind = Sound, int element = 0, qint64 number = 0, qint64 limit = 0)
+        : kind(kind)
+        , outline(0)
+        , element(element)
+        , number(number)
+        , limit(limit)
+        , x(0)
+        , y(0)
+    {
+    }
+
+    bool LeavesNothing() const { return kind >= CutOff; }
+
+    Kind kind;
+    int outline; ///< index
+    int element; ///< index in the outline
+    qint64 number;
+    qint64 limit;
+    double x, y; ///< pixels
+};
 
 /** The decoded bytes of an open data file; empty when they cannot be had. */
 QByteArray ReadGlyphData(QIODevice& file);
@@ -34,8 +67,14 @@ QByteArray ReadGlyphData(QIODevice& file);
  */
 QVector<QPainterPath> OutlinesFrom(const QByteArray& bytes);
 
+/** Why OutlinesFrom() leaves outlines out, in their order; empty for sound bytes. */
+QVector<GlyphDataFault> OutlineFaults(const QByteArray& bytes);
+
 /** The descents in @p bytes, in pixels; empty when the count contradicts the bytes. */
 QVector<int> DescentsFrom(const QByteArray& bytes);
+
+/** Why DescentsFrom() answers nothing; Sound when the count suits the bytes. */
+GlyphDataFault DescentFault(const QByteArray& bytes);
 
 } // namespace HNodeAnimationText
 } // namespace Lw

@@ -54,5 +54,24 @@ void CutBackward(const LineWidths& line, int length, int areaWidth, QList<int>& 
     }
 }
 
+QVector<int> PageStartsForward(const QVector<int>& widths, int areaWidth)
+{
+    QList<int> breaks, offsets;
+    CutForward(LineWidths(widths), widths.size(), areaWidth, breaks, offsets);
+    if (breaks.last() != widths.size())
+        breaks.append(widths.size());
+    return breaks.toVector();
+}
+
+QVector<int> PageStartsBackward(const QVector<int>& widths, int areaWidth)
+{
+    QList<int> breaks, offsets;
+    CutBackward(LineWidths(widths), widths.size(), areaWidth, breaks, offsets);
+    QVector<int> starts;
+    for (int i = breaks.size() - 1; i >= 0; --i)
+        starts.append(breaks.at(i) + 1);
+    return starts;
+}
+
 } // namespace HNodeAnimationText
 } // namespace Lw

@@ -2,6 +2,7 @@
 #define PAGEDIVISION_H
 
 #include <QList>
+#include <QVector>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -23,6 +24,13 @@ void CutForward(const LineWidths& line, int length, int areaWidth, QList<int>& b
  */
 void CutBackward(const LineWidths& line, int length, int areaWidth, QList<int>& breaks,
                  QList<int>& offsets);
+
+/**
+ * The same cuts by themselves: the first character of each page and, at last, the number of
+ * characters, of a line of characters of these @p widths. Forward and backward there are as many.
+ */
+QVector<int> PageStartsForward(const QVector<int>& widths, int areaWidth);
+QVector<int> PageStartsBackward(const QVector<int>& widths, int areaWidth);
 
 } // namespace HNodeAnimationText
 } // namespace Lw

@@ -2,7 +2,7 @@
 
 #include "author/author.h"
 #include "author/placement.h"
-#include "scene/pages.h"
+#include "text/pagedivision.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -174,8 +174,8 @@ private slots:
         for (Arrangement arrangement : {Arrangement::Pages, Arrangement::PagesFromEnd}) {
             const PlacedText placed = PlaceText(line, arrangement, 260, Bar());
             const QVector<int> starts = arrangement == Arrangement::Pages
-                                            ? PagesFromBeginning(placed.widths, 260)
-                                            : PagesFromEnd(placed.widths, 260);
+                                            ? Lw::HNodeAnimationText::PageStartsForward(placed.widths, 260)
+                                            : Lw::HNodeAnimationText::PageStartsBackward(placed.widths, 260);
             QVERIFY(starts.size() > 2);
             for (const Cluster& cluster : line.clusters) {
                 // Each next letter stands to the left of all that were read before it.

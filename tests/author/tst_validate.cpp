@@ -143,10 +143,6 @@ private slots:
         row("PathData=far.path", "outline-malformed", ".files.PathData");
         row("PathData=gap.path", "outline-empty", ".files.PathData");
         row("PathData=gap.path text_width=20,0", "", "");
-        // A play takes 2 x 66 ms at speed 9 and 2 s of hold; one scroll up 40 x 66 ms.
-        row("PlayTimes=1000000000 AnimationSpeed=9", "duration-wraps", "");
-        row("EffectType=1 ContinueSpeed=5 ContinueStyle=2 PlayTimes=900000", "duration-wraps", "");
-        row("EffectType=1 ContinueSpeed=5 ContinueStyle=2 PlayTimes=800000", "", "");
     }
 
     void findingsOnANode()

@@ -3,7 +3,8 @@
 #include "author/glyphfiles.h"
 #include "author/placement.h"
 #include "author/scenestore.h"
-#include "scene/pages.h"
+#include "text/limits.h"
+#include "text/pagedivision.h"
 
 #include <QFontMetrics>
 #include <QtMath>
@@ -11,17 +12,16 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Lw::HNodeAnimationText;
+
 namespace AnimText {
 namespace {
 
-const int standardSize = 48;     // pixels
-const int standardWidth = 512;   // pixels
-const int standardRows = 5;      // characters that an upright area shows
-const int smallestSize = 4;      // pixels: nothing smaller can be read
-const int largestSide = 16384;   // pixels of an area, either way
-const int largestPath = 65536;   // elements of one outline that the node accepts
-const qreal farthestPoint = 1e6; // pixels from a character's place that the node accepts
-const qint64 largestCanvas = qint64(256) << 20; // bytes that the engine paints into
+const int standardSize = 48;   // pixels
+const int standardWidth = 512; // pixels
+const int standardRows = 5;    // characters that an upright area shows
+const int smallestSize = 4;    // pixels: nothing smaller can be read
+const int largestSide = 16384; // pixels of an area, either way
 
 Arrangement ArrangementFor(const AuthorOptions& options)
 {
@@ -74,7 +74,7 @@ bool Showable(const PlacedText& text, QString* error)
         const QRectF box = outline.controlPointRect();
         const qreal reach = qMax(qMax(qAbs(box.left()), qAbs(box.right())),
                                  qMax(qAbs(box.top()), qAbs(box.bottom())));
-        if (outline.elementCount() > largestPath || !(reach <= farthestPoint)) {
+        if (outline.elementCount() > maxOutlineElements || !(reach <= maxOutlineCoordinate)) {
             *error = QStringLiteral("character %1 is too large for the sign: its outline has %2 "
                                     "points and reaches %3 pixels; a smaller --size helps")
                          .arg(i + 1)
@@ -89,14 +89,14 @@ bool Showable(const PlacedText& text, QString* error)
 bool CanvasFits(const QSize& canvas, QString* error)
 {
     const qint64 bytes = qint64(canvas.width()) * canvas.height() * 4;
-    if (bytes <= largestCanvas)
+    if (bytes <= maxCanvasBytes)
         return true;
     *error = QStringLiteral("the sign would need a picture of %1 x %2 pixels, %3 MiB; it has room "
                             "for %4 MiB")
                  .arg(canvas.width())
                  .arg(canvas.height())
                  .arg(bytes >> 20)
-                 .arg(largestCanvas >> 20);
+                 .arg(maxCanvasBytes >> 20);
     return false;
 }
 
@@ -198,7 +198,7 @@ bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* e
     authored->descentFile = DescentFile(text.descents);
     authored->textSize = QSize(width, lineHeight);
     if (options.mode == Mode::Entrance)
-        authored->pages = PagesFromBeginning(text.widths, area.width()).size() - 1;
+        authored->pages = PageStartsForward(text.widths, area.width()).size() - 1;
     authored->unseen = UnseenCharacters(options.text, line);
     return true;
 }

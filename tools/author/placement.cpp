@@ -1,7 +1,7 @@
 #include "author/placement.h"
 
 #include "author/seams.h"
-#include "scene/pages.h"
+#include "text/pagedivision.h"
 
 #include <algorithm>
 
@@ -55,8 +55,9 @@ void SetPage(const QVector<int>& members, const QVector<Cluster>& clusters,
 QVector<int> PageStarts(const QVector<int>& widths, Arrangement arrangement, int areaWidth)
 {
     switch (arrangement) {
-    case Arrangement::Pages: return PagesFromBeginning(widths, areaWidth);
-    case Arrangement::PagesFromEnd: return PagesFromEnd(widths, areaWidth);
+    case Arrangement::Pages: return Lw::HNodeAnimationText::PageStartsForward(widths, areaWidth);
+    case Arrangement::PagesFromEnd:
+        return Lw::HNodeAnimationText::PageStartsBackward(widths, areaWidth);
     case Arrangement::Line:
     case Arrangement::Column: break;
     }

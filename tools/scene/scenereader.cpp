@@ -2,6 +2,7 @@
 #include "scene/scene.h"
 #include "scene/schema.h"
 #include "scene/suggest.h"
+#include "text/limits.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -17,7 +18,7 @@ namespace AnimText {
 namespace {
 
 constexpr int largestSide = 16384;         // what video and picture formats can hold
-constexpr qint64 largestDisplay = 1 << 26; // pixels; a frame of 256 MiB
+constexpr qint64 largestDisplay = Lw::HNodeAnimationText::maxCanvasBytes / 4; // pixels
 constexpr int farthestPlace = 1000000;
 constexpr qint64 largestFile = 256 << 20;
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * Looks into the data files of an animated text the way the sign will read them.
+ * Looks into the data files of an animated text by the sign's own reading, and says what is wrong.
  */
 #ifndef ANIMTEXT_DATAFILE_H
 #define ANIMTEXT_DATAFILE_H
@@ -23,8 +23,7 @@ struct DataFile
 {
     QString fault;         ///< why the sign reads nothing from it; empty when it can be read
     int entries = 0;       ///< how many outlines or descents
-    QVector<bool> isEmpty; ///< for outlines, by index: nothing to see
-    QVector<int> descents; ///< for descents
+    QVector<bool> isEmpty; ///< for outlines, by index: sound, and nothing to see
     QList<BadOutline> badOutlines;
 };
 

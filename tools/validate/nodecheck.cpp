@@ -1,10 +1,9 @@
 #include "validate/nodecheck.h"
 
 #include "scene/catalogue.h"
-#include "scene/pages.h"
 #include "scene/schema.h"
+#include "text/limits.h"
 #include "validate/datafile.h"
-#include "validate/playtime.h"
 
 #include <QFileInfo>
 #include <QRect>
@@ -12,13 +11,12 @@
 #include <algorithm>
 #include <numeric>
 
+using namespace Lw::HNodeAnimationText;
+
 namespace AnimText {
 namespace {
 
-const int longestLine = 31999;                  // pixels that the painter reaches
-const qint64 largestCanvas = qint64(256) << 20; // bytes that the engine paints into
-const int lastDrawnNeon = 28;                   // neon styles above show a picture
-const double longestTime = 2147483647.0;        // ms that the host can count
+const int lastDrawnNeon = 28; // neon styles above show a picture
 
 QString Words(int count, const char* one, const char* many)
 {
@@ -76,7 +74,6 @@ QList<Finding> NodeCheck::Run()
     CheckLists();
     CheckMeasures();
     CheckFiles();
-    CheckDuration();
     return findings;
 }
 
@@ -98,12 +95,12 @@ void NodeCheck::CheckArea()
                 .arg(Size(scene.display.width(), scene.display.height())));
     const qint64 width = ScrollsSideways() ? Sum(widths) : node.size.width();
     const qint64 bytes = width * node.size.height() * (scene.alphaBlend ? 4 : 3);
-    if (bytes > largestCanvas)
+    if (bytes > maxCanvasBytes)
         Add("canvas-large", at,
             QStringLiteral("a picture of %1, %2 MiB")
                 .arg(Size(width, node.size.height()))
                 .arg(bytes >> 20),
-            QStringLiteral("at most %1 MiB").arg(largestCanvas >> 20));
+            QStringLiteral("at most %1 MiB").arg(maxCanvasBytes >> 20));
 }
 
 void NodeCheck::CheckMode()
@@ -220,10 +217,10 @@ void NodeCheck::CheckMeasures()
         Add("text-high", QStringLiteral("lists.TextHeight[%1].text_height").arg(highest),
             QStringLiteral("%1 pixels").arg(heights[highest]),
             QStringLiteral("no more than the area's height, %1").arg(node.size.height()));
-    if (ScrollsSideways() && Sum(widths) > longestLine)
+    if (ScrollsSideways() && Sum(widths) > lastPaintableX)
         Add("line-long", QStringLiteral("lists.TextWidth"),
             QStringLiteral("a line of %1 pixels").arg(Sum(widths)),
-            QStringLiteral("at most %1 pixels").arg(longestLine));
+            QStringLiteral("at most %1 pixels").arg(lastPaintableX));
 }
 
 void NodeCheck::CheckFiles()
@@ -278,8 +275,6 @@ void NodeCheck::CheckData(const QString& key)
     }
     if (holdsPaths)
         CheckOutlines(data.isEmpty);
-    else
-        descents = data.descents;
 }
 
 void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
@@ -301,28 +296,6 @@ void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
                 .arg(first)
                 .arg(AndMore(others)),
             QStringLiteral("an outline for all that is seen"));
-}
-
-void NodeCheck::CheckDuration()
-{
-    PlayTimeInput input;
-    input.mode = mode;
-    input.motion = motion;
-    input.speed = Number(mode == 1 ? "ContinueSpeed" : "AnimationSpeed");
-    input.hold = node.hold;
-    input.plays = Number("PlayTimes");
-    input.area = node.size;
-    input.widths = widths.mid(0, text.size());
-    input.heights = heights;
-    input.descents = descents;
-    input.pageStarts = PagesFromBeginning(input.widths, node.size.width());
-    const double time = PlayTime(input);
-    if (time > longestTime || time < -longestTime)
-        Add("duration-wraps", QString(),
-            QStringLiteral("a play time of %1 ms, %2 days")
-                .arg(time, 0, 'f', 0)
-                .arg(time / 86400000, 0, 'f', 1),
-            QStringLiteral("at most %1 ms").arg(longestTime, 0, 'f', 0));
 }
 
 QVector<int> NodeCheck::Column(const char* list, const char* field) const

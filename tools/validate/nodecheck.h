@@ -29,7 +29,6 @@ private:
     void CheckLists();
     void CheckRows(const QString& list, const QString& field, int least);
     void CheckMeasures();
-    void CheckDuration();
     void CheckFiles();
     void CheckData(const QString& key);
     void CheckOutlines(const QVector<bool>& isEmpty);
@@ -50,7 +49,6 @@ private:
     const int motion; // number of the effect or of the scroll
     QVector<int> widths;
     QVector<int> heights;
-    QVector<int> descents;
     QList<Finding> findings;
 };
 

@@ -47,8 +47,6 @@ const QList<Rule>& Rules()
         {"stroke-ignored", warning, "Text is outlined in its own colour."},
         {"shadow-ignored", warning, "Text is painted without shadows."},
         {"colors-ignored", warning, "The whole text has the colour of its first character."},
-        {"duration-wraps", warning,
-         "The host counts milliseconds in 32 bits and is told a wrong time, or a negative one."},
     };
     return rules;
 }
