@@ -1,7 +1,9 @@
 #include "author/author.h"
 
-#include "animtext/authorwords.h"
 #include "animtext/commands.h"
+#include "animtext/filenames.h"
+#include "animtext/interruption.h"
+#include "animtext/wishes.h"
 #include "scene/catalogue.h"
 #include "validate/validate.h"
 
@@ -61,46 +63,64 @@ QByteArray Summary(const QString& path, const AuthorOptions& options, const Auth
         .toUtf8();
 }
 
-int Author(const AuthorWords& words)
+/** The scene that the text is added to. */
+Scene BaseScene(const CommandLine& line)
+{
+    Scene base;
+    base.path = line.Value("output");
+    if (!base.path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
+        throw Misuse{QStringLiteral("%1: expected a name that ends with .json").arg(base.path)};
+    if (!IsUtf8(base.path))
+        throw Misuse{QStringLiteral("%1: expected UTF-8, for the scene names its data files after "
+                                    "itself")
+                         .arg(base.path)};
+    QString error;
+    Scene existing;
+    const bool exists = QFileInfo(base.path).isFile();
+    if (exists && !ReadScene(base.path, &existing, &error, MissingFiles::AreAccepted))
+        throw Failure{BadInput, QStringLiteral("%1; it is left as it is").arg(error)};
+    if (exists && line.IsSet("append"))
+        base = existing;
+    if (line.IsSet("no-alpha"))
+        base.alphaBlend = false;
+    return base;
+}
+
+int WriteScene(const CommandLine& line)
 {
     QStringList notes;
-    const QString path = words.ScenePath();
-    const AuthorOptions options = words.Options(&notes);
-    const QSize display = words.Display();
+    const Scene base = BaseScene(line);
+    const AuthorOptions options = ReadWishes(line, &notes);
     for (const QString& note : notes)
         Warn(note);
 
     QString error;
-    Scene base;
-    base.path = path;
-    if (words.Appends() && QFileInfo::exists(path) && !ReadScene(path, &base, &error))
-        return Fail(BadInput, error);
-    if (words.WithoutAlpha())
-        base.alphaBlend = false;
     AuthoredNode authored;
     if (!AuthorNode(options, &authored, &error))
-        return Fail(BadInput, error);
+        throw Failure{BadInput, error};
+    WatchForInterruption();
+    const QSize display = line.IsSet("display") ? line.Size("display") : QSize();
     if (!SaveAuthored(authored, base, display, &error))
-        return Fail(FailedRun, error);
+        throw Failure{FailedRun, error};
     TellUnseen(authored.unseen, options.text);
-    TellFindings(path);
-    return Print(Summary(path, options, authored))
-               ? Done
-               : Fail(FailedRun, QStringLiteral("standard output takes nothing"));
+    TellFindings(base.path);
+    Print(Summary(base.path, options, authored));
+    return Done;
 }
 
 } // namespace
 
-int RunAuthor(const QStringList& arguments)
+Command AuthorCommand()
 {
-    AuthorWords words;
-    if (!words.Parse(arguments))
-        return words.ExitStatus();
-    try {
-        return Author(words);
-    } catch (const Misuse& misuse) {
-        return words.Misused(misuse);
-    }
+    return {"author",
+            "lays a text out and writes the scene that shows it",
+            "",
+            0,
+            0,
+            "Lays a text out and writes the scene that shows it, with its data files beside it. "
+            "The text is --text TEXT or --text-file FILE.",
+            WishOptions(),
+            WriteScene};
 }
 
 } // namespace AnimText

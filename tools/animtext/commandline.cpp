@@ -1,111 +1,170 @@
 #include "animtext/commandline.h"
 
-#include <cstdio>
+#include "animtext/values.h"
+#include "scene/suggest.h"
 
 namespace AnimText {
 
 namespace {
 
-void Complain(const QString& message)
+/** The option of that name; null for none. */
+const Option* FindOption(const Command& command, const QString& name)
 {
-    const QByteArray line = "animtext: " + message.toUtf8() + '\n';
-    std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
+    for (const Option& option : command.options) {
+        if (name == QLatin1String(option.name))
+            return &option;
+    }
+    return name == QLatin1String(HelpOption().name) ? &HelpOption() : nullptr;
+}
+
+QStringList LongNames(const Command& command)
+{
+    QStringList names{QStringLiteral("--help")};
+    for (const Option& option : command.options)
+        names.append(QStringLiteral("--") + QLatin1String(option.name));
+    return names;
 }
 
 } // namespace
 
-int Fail(Status status, const QString& message)
+const Option& HelpOption()
 {
-    Complain(message);
-    return status;
+    static const Option help = Option::Flag("help", "Shows this help.").Letter('h');
+    return help;
 }
 
-void Warn(const QString& message)
-{
-    Complain(message);
-}
-
-bool Print(const QByteArray& text)
-{
-    const size_t size = size_t(text.size());
-    return std::fwrite(text.constData(), 1, size, stdout) == size;
-}
-
-QString RightAligned(const QString& text, int width)
-{
-    return text.rightJustified(width, QLatin1Char(' '));
-}
-
-CommandLine::CommandLine(const QString& command, const QString& arguments,
-                         const QString& description)
+CommandLine::CommandLine(const Command& command, const QStringList& words)
     : command(command)
-    , arguments(arguments)
 {
-    parser.setApplicationDescription(description);
-    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    parser.addOption(
-        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
-}
-
-void CommandLine::AddOption(const QStringList& names, const QString& description,
-                            const QString& value, const QString& standard)
-{
-    QCommandLineOption option(names, description);
-    option.setValueName(value);
-    if (!standard.isEmpty())
-        option.setDefaultValue(standard);
-    parser.addOption(option);
-}
-
-QString CommandLine::HelpText() const
-{
-    // Qt's text begins with a usage line that knows no commands.
-    const QString text = parser.helpText();
-    return QStringLiteral("Usage: animtext %1 [options] %2").arg(command, arguments).trimmed() +
-           text.mid(text.indexOf(QLatin1Char('\n')));
-}
-
-bool CommandLine::Parse(const QStringList& words, int least, int most)
-{
-    if (!parser.parse(QStringList(command) + words)) {
-        status = BadInput;
-        Misused(parser.errorText());
-        return false;
+    QStringList rest = words;
+    bool optionsMayCome = true;
+    while (!rest.isEmpty() && !IsSet("help")) {
+        const QString word = rest.takeFirst();
+        if (optionsMayCome && word == QLatin1String("--"))
+            optionsMayCome = false;
+        else if (optionsMayCome && word.startsWith(QLatin1String("--")))
+            ReadLong(word, &rest);
+        else if (optionsMayCome && word.startsWith(QLatin1Char('-')) && word.size() > 1)
+            ReadShort(word, &rest);
+        else
+            arguments.append(word);
     }
-    if (parser.isSet(QStringLiteral("help"))) {
-        status = Print(HelpText().toUtf8()) ? Done : FailedRun;
-        return false;
-    }
-    const int given = Arguments().size();
-    if (given >= least && given <= most)
-        return true;
-    status = BadInput;
-    if (given < least)
-        Misused(QStringLiteral("expected %1").arg(arguments));
-    else
-        Misused(QStringLiteral("\"%1\" is one word too many").arg(Arguments().at(most)));
-    return false;
+    if (!IsSet("help"))
+        Require();
 }
 
-bool CommandLine::Number(const QString& option, int least, int most, int* number)
+void CommandLine::ReadLong(const QString& word, QStringList* rest)
 {
-    bool isNumber = false;
-    const int value = Value(option).toInt(&isNumber);
-    if (!isNumber || value < least || value > most) {
-        Misused(QStringLiteral("--%1 takes a whole number from %2 to %3, not \"%4\"")
-                    .arg(option)
-                    .arg(least)
-                    .arg(most)
-                    .arg(Value(option)));
-        return false;
-    }
-    *number = value;
-    return true;
+    const int sign = word.indexOf(QLatin1Char('='));
+    const QString name = word.mid(2, sign < 0 ? -1 : sign - 2);
+    const Option* option = FindOption(command, name);
+    if (!option)
+        throw Misuse{QStringLiteral("unknown option --%1%2")
+                         .arg(name, DidYouMean(QStringLiteral("--") + name, LongNames(command)))};
+    Take(*option, sign >= 0, word.mid(sign + 1), rest);
 }
 
-int CommandLine::Misused(const QString& message)
+void CommandLine::ReadShort(const QString& word, QStringList* rest)
 {
-    return Fail(BadInput, QStringLiteral("%1 (see animtext %2 --help)").arg(message, command));
+    const bool isLongName = word.size() > 2 && FindOption(command, word.mid(1));
+    for (const Option& option : command.options + QVector<Option>{HelpOption()}) {
+        if (option.letter && word.at(1) == QLatin1Char(option.letter) && !isLongName) {
+            Take(option, word.size() > 2, word.mid(2), rest);
+            return;
+        }
+    }
+    throw Misuse{QStringLiteral("unknown option %1%2")
+                     .arg(word, DidYouMean(QLatin1Char('-') + word, LongNames(command)))};
+}
+
+void CommandLine::Take(const Option& option, bool hasValue, const QString& value, QStringList* rest)
+{
+    const QString name = QLatin1String(option.name);
+    if (option.kind == Kind::Flag) {
+        if (hasValue)
+            throw Misuse{QStringLiteral("--%1 takes no value, not \"%2\"").arg(name, value)};
+        given.insert(name, QString());
+        return;
+    }
+    const bool follows =
+        !rest->isEmpty() && !(option.alone && rest->first().startsWith(QLatin1Char('-')));
+    QString taken = value;
+    if (!hasValue && follows)
+        taken = rest->takeFirst();
+    else if (!hasValue && option.alone)
+        taken = QLatin1String(option.alone);
+    else if (!hasValue)
+        throw Misuse{QStringLiteral("--%1 takes %2, which is missing")
+                         .arg(name, QLatin1String(option.value))};
+    CheckValue(option, taken);
+    given.insert(name, taken);
+}
+
+void CommandLine::Require() const
+{
+    const QString shown = QLatin1String(command.arguments);
+    if (arguments.size() > command.most)
+        throw Misuse{QStringLiteral("\"%1\" is one word too many").arg(arguments.at(command.most))};
+    if (arguments.size() < command.least)
+        throw Misuse{QStringLiteral("expected %1").arg(shown)};
+    for (const Option& option : command.options) {
+        if (option.isRequired && !IsSet(option.name))
+            throw Misuse{QStringLiteral("expected %1 %2")
+                             .arg(ShortestName(option), QLatin1String(option.value))};
+    }
+}
+
+const Option& CommandLine::Find(const QString& name) const
+{
+    const Option* option = FindOption(command, name);
+    Q_ASSERT_X(option, "CommandLine", qPrintable(name));
+    return *option;
+}
+
+QString CommandLine::Value(const char* option) const
+{
+    const QString name = QLatin1String(option);
+    return given.contains(name) ? given.value(name) : QString::fromUtf8(Find(name).standard);
+}
+
+int CommandLine::Number(const char* option) const
+{
+    return ToNumber(Find(QLatin1String(option)), Value(option));
+}
+
+double CommandLine::Fraction(const char* option) const
+{
+    return ToFraction(Find(QLatin1String(option)), Value(option));
+}
+
+double CommandLine::Time(const char* option) const
+{
+    return ToMilliseconds(Find(QLatin1String(option)), Value(option));
+}
+
+QSize CommandLine::Size(const char* option) const
+{
+    return ToSize(Find(QLatin1String(option)), Value(option));
+}
+
+QPoint CommandLine::Point(const char* option) const
+{
+    return ToPoint(Find(QLatin1String(option)), Value(option));
+}
+
+QColor CommandLine::Color(const char* option) const
+{
+    return ToColor(Find(QLatin1String(option)), Value(option));
+}
+
+QPair<int, int> CommandLine::Range(const char* option) const
+{
+    return ToRange(Find(QLatin1String(option)), Value(option));
+}
+
+int CommandLine::Choice(const char* option) const
+{
+    return ToChoice(Find(QLatin1String(option)), Value(option));
 }
 
 } // namespace AnimText

@@ -1,79 +1,67 @@
 /**
  * @file
- * What every command shares: options, help, errors and the way to the plugin.
+ * The words of a command, read as its table of options says.
  */
 #ifndef ANIMTEXT_COMMANDLINE_H
 #define ANIMTEXT_COMMANDLINE_H
 
-#include <QByteArray>
-#include <QCommandLineParser>
+#include "animtext/option.h"
+#include "animtext/output.h"
+
+#include <QColor>
+#include <QMap>
+#include <QPoint>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
 namespace AnimText {
 
-/** Exit statuses. */
-enum Status { Done = 0, FailedRun = 1, BadInput = 2 };
-
-/** Says "animtext: @p message" on standard error. @return @p status */
-int Fail(Status status, const QString& message);
-
-/** Says "animtext: @p message" on standard error. */
-void Warn(const QString& message);
-
-/** Writes to standard output. @return false when it cannot take it, say because a disk is full */
-bool Print(const QByteArray& text);
-
-/** A number among others on a terminal: @p text filled with blanks from the left to @p width. */
-QString RightAligned(const QString& text, int width);
-
-/** The options of one command. */
+/**
+ * The options that were given, checked, and the command's arguments. Names of options are those of
+ * the table; where an option was not given, its standard counts. An option that has none must be
+ * asked for with IsSet() first.
+ */
 class CommandLine
 {
 public:
     /**
-     * @param command the command's name
-     * @param arguments how its other words are shown in the usage, e.g. "SCENE.json"
-     * @param description what it does, for --help
+     * Reads the words that follow the command's name. Throws Misuse unless they are what the table
+     * says; after --help, which is an option of every command, the others are not looked at.
      */
-    CommandLine(const QString& command, const QString& arguments, const QString& description);
+    CommandLine(const Command& command, const QStringList& words);
 
-    /** An option with a value, shown as @p value in the help, or without one when that is empty. */
-    void AddOption(const QStringList& names, const QString& description,
-                   const QString& value = QString(), const QString& standard = QString());
-
-    /**
-     * Reads the words that follow the command.
-     * @param least, most how many words that belong to no option there may be
-     * @return false when the command ends here, with Status() as its exit status: help was asked
-     *         for and shown, or the words are wrong and the error was told
-     */
-    bool Parse(const QStringList& words, int least, int most);
-    Status ExitStatus() const { return status; }
-
-    bool IsSet(const QString& option) const { return parser.isSet(option); }
-    QString Value(const QString& option) const { return parser.value(option); }
-    QStringList Values(const QString& option) const { return parser.values(option); }
+    bool IsSet(const char* option) const { return given.contains(QLatin1String(option)); }
+    QString Value(const char* option) const;
     /** The words that belong to no option. */
-    QStringList Arguments() const { return parser.positionalArguments(); }
+    QStringList Arguments() const { return arguments; }
 
-    /**
-     * The whole number that @p option was given, or its standard.
-     * @return false when it is none from @p least to @p most; the error was told
-     */
-    bool Number(const QString& option, int least, int most, int* number);
-
-    /** Tells what is wrong with the words and where to read more. @return BadInput */
-    int Misused(const QString& message);
+    int Number(const char* option) const;
+    double Fraction(const char* option) const;
+    /** In milliseconds. */
+    double Time(const char* option) const;
+    QSize Size(const char* option) const;
+    QPoint Point(const char* option) const;
+    QColor Color(const char* option) const;
+    /** The first and the last. */
+    QPair<int, int> Range(const char* option) const;
+    /** The index of the word among the option's choices. */
+    int Choice(const char* option) const;
 
 private:
-    QString HelpText() const;
+    const Option& Find(const QString& name) const;
+    void ReadLong(const QString& word, QStringList* rest);
+    void ReadShort(const QString& word, QStringList* rest);
+    void Take(const Option& option, bool hasValue, const QString& value, QStringList* rest);
+    void Require() const;
 
-    QCommandLineParser parser;
-    QString command;
-    QString arguments;
-    Status status = Done;
+    const Command& command;
+    QMap<QString, QString> given; // by the option's name
+    QStringList arguments;
 };
+
+/** --help, which every command has. */
+const Option& HelpOption();
 
 } // namespace AnimText
 

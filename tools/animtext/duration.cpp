@@ -1,5 +1,6 @@
 #include "animtext/commands.h"
 #include "animtext/durationtable.h"
+#include "animtext/interruption.h"
 #include "animtext/opening.h"
 #include "animtext/progress.h"
 #include "player/simulation.h"
@@ -91,67 +92,68 @@ QByteArray ToText(int node, int nodes, qint64 model, const Simulation* simulatio
     return text.toUtf8();
 }
 
-int Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
+QVector<Simulation> SimulateAll(Player* player, const Scene& scene, uint seed)
+{
+    Progress progress(QStringLiteral("simulating, tick"), 0);
+    const auto watch = [&](int tick) {
+        progress.Show(tick);
+        return !Interrupted();
+    };
+    WatchForInterruption();
+    QString error;
+    const QVector<Simulation> simulations = Simulate(player, scene, seed, watch, &error);
+    StopIfInterrupted();
+    if (simulations.isEmpty())
+        throw Failure{BadInput, error};
+    return simulations;
+}
+
+void Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
 {
     const std::unique_ptr<Player> player = playing.Load(scene);
-    if (!player)
-        return BadInput;
     const int nodes = player->NodeCount();
     QVector<qint64> models;
     for (int node = 0; node < nodes; ++node)
         models.append(player->Scenery().Node(node)->Duration());
 
     QVector<Simulation> simulations;
-    if (line.IsSet(QStringLiteral("simulate"))) {
-        QString error;
-        Progress progress(QStringLiteral("simulating, tick"), 0);
-        const auto watch = [&](int tick) {
-            progress.Show(tick);
-            return !Interrupted();
-        };
-        WatchForInterruption();
-        simulations = Simulate(player.get(), scene, playing.seed, watch, &error);
-        if (Interrupted())
-            return Fail(FailedRun, QStringLiteral("interrupted"));
-        if (simulations.isEmpty())
-            return Fail(BadInput, error);
-    }
-    QByteArray text;
-    const bool json = line.IsSet(QStringLiteral("json"));
+    if (line.IsSet("simulate"))
+        simulations = SimulateAll(player.get(), scene, playing.Seed());
     for (int node = 0; node < nodes; ++node) {
         const Simulation* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
-        text += json ? ToJson(node, nodes, models.at(node), simulation)
-                     : ToText(node, nodes, models.at(node), simulation);
+        Print(line.IsSet("json") ? ToJson(node, nodes, models.at(node), simulation)
+                                 : ToText(node, nodes, models.at(node), simulation));
     }
-    return Print(text) ? Done : FailedRun;
+}
+
+int TellDuration(const CommandLine& line)
+{
+    const Scene scene = OpenScene(line, line.Arguments().first());
+    const Playing playing(line);
+    if (line.IsSet("table"))
+        TellDurationTable(playing, scene, line.IsSet("json"));
+    else
+        Tell(line, playing, scene);
+    return Done;
 }
 
 } // namespace
 
-int RunDuration(const QStringList& words)
+Command DurationCommand()
 {
-    CommandLine line(
-        QStringLiteral("duration"), QStringLiteral("SCENE.json"),
-        QStringLiteral("Tells the play time that the host is told before a scene plays and, "
-                       "simulated, the time that the play really takes."));
-    line.AddOption({QStringLiteral("simulate")},
-                   QStringLiteral("Plays the scene too, and tells the difference."));
-    line.AddOption({QStringLiteral("table")},
-                   QStringLiteral("Tells both times of the scene's first text for every entrance "
-                                  "effect at speeds 0, 4, 5 and 9."));
-    line.AddOption({QStringLiteral("json")},
-                   QStringLiteral("Writes a line of JSON for each text."));
-    AddPlayOptions(&line);
-    if (!line.Parse(words, 1, 1))
-        return line.ExitStatus();
-
-    Scene scene;
-    Playing playing;
-    if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
-        return status;
-    if (line.IsSet(QStringLiteral("table")))
-        return TellDurationTable(playing, scene, line.IsSet(QStringLiteral("json")));
-    return Tell(line, playing, scene);
+    return {"duration",
+            "tells how long the host thinks a scene plays, and how long it does",
+            "SCENE.json",
+            1,
+            1,
+            "Tells the play time that the host is told before a scene plays and, simulated, the "
+            "time that the play really takes.",
+            WithPlayOptions(
+                {Option::Flag("simulate", "Plays the scene too, and tells the difference."),
+                 Option::Flag("table", "Tells both times of the scene's first text for every "
+                                       "entrance effect at speeds 0, 4, 5 and 9."),
+                 Option::Flag("json", "Prints a line of JSON for each text.")}),
+            TellDuration};
 }
 
 } // namespace AnimText

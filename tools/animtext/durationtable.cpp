@@ -1,5 +1,6 @@
 #include "animtext/durationtable.h"
 
+#include "animtext/interruption.h"
 #include "animtext/messages.h"
 #include "animtext/progress.h"
 #include "player/simulation.h"
@@ -27,20 +28,21 @@ Scene OnlyFirst(const Scene& scene)
     return only;
 }
 
-bool Measure(const Playing& playing, Scene scene, int effect, int speed, Times* times)
+Times Measure(const Playing& playing, Scene scene, int effect, int speed)
 {
     SceneNode& node = scene.pages.first().areas.first().nodes.first();
     node.attributes[QStringLiteral("AnimationEffect")] = effect;
     node.attributes[QStringLiteral("AnimationSpeed")] = speed;
     const std::unique_ptr<Player> player = playing.Load(scene);
-    if (!player)
-        return false;
-    times->model = player->Scenery().Node(0)->Duration();
+    Times times;
+    times.model = player->Scenery().Node(0)->Duration();
     QString error;
-    const QVector<Simulation> simulations = Simulate(
-        player.get(), scene, playing.seed, [](int) { return !Interrupted(); }, &error);
-    times->real = simulations.value(0);
-    return !simulations.isEmpty() && !Interrupted();
+    const auto goOn = [](int) { return !Interrupted(); };
+    times.real = Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
+    StopIfInterrupted();
+    if (!error.isEmpty())
+        throw Failure{BadInput, error};
+    return times;
 }
 
 QByteArray ToJson(const Motion& effect, int speed, const Times& times)
@@ -89,10 +91,11 @@ QByteArray Heading()
 
 } // namespace
 
-int TellDurationTable(const Playing& playing, const Scene& scene, bool json)
+void TellDurationTable(const Playing& playing, const Scene& scene, bool json)
 {
     if (scene.Nodes().isEmpty())
-        return Fail(BadInput, scene.path + QStringLiteral(": $.pages: expected at least one node"));
+        throw Failure{BadInput,
+                      scene.path + QStringLiteral(": $.pages: expected at least one node")};
     const Silence silence;
     const Scene only = OnlyFirst(scene);
     QByteArray text = json ? QByteArray()
@@ -107,16 +110,14 @@ int TellDurationTable(const Playing& playing, const Scene& scene, bool json)
             text += QByteArray::number(effect.number).rightJustified(3) + "  " +
                     QByteArray(effect.name).leftJustified(34);
         for (int speed : speeds) {
-            Times times;
-            if (!Measure(playing, only, effect.number, speed, &times))
-                return Interrupted() ? Fail(FailedRun, QStringLiteral("interrupted")) : BadInput;
+            const Times times = Measure(playing, only, effect.number, speed);
             text += json ? ToJson(effect, speed, times) : Cell(times);
             progress.Show(++done);
         }
         if (!json)
             text += '\n';
     }
-    return Print(text) ? Done : FailedRun;
+    Print(text);
 }
 
 } // namespace AnimText

@@ -9,8 +9,8 @@
 
 namespace AnimText {
 
-/** Prints the table for the first node of @p scene. @return the exit status */
-int TellDurationTable(const Playing& playing, const Scene& scene, bool json);
+/** Prints the table for the first node of @p scene, or throws Failure. */
+void TellDurationTable(const Playing& playing, const Scene& scene, bool json);
 
 } // namespace AnimText
 

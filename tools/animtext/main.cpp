@@ -1,72 +1,131 @@
 #include "animtext/commandline.h"
 #include "animtext/commands.h"
+#include "animtext/filenames.h"
+#include "animtext/help.h"
+#include "animtext/interruption.h"
 #include "animtext/messages.h"
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
 
 #include <QGuiApplication>
-#include <QTextCodec>
-
-#include <cstdio>
 
 namespace {
 
 using namespace AnimText;
 
-struct Command
-{
-    const char* name;
-    int (*run)(const QStringList& words);
-    const char* summary;
-};
-
-const Command commands[] = {
-    {"author", RunAuthor, "lays a text out and writes the scene that shows it"},
-    {"render", RunRender, "plays a scene and writes it as GIF, APNG, WebP, MP4, WebM or PNGs"},
-    {"sheet", RunSheet, "draws a contact sheet, a row of frames for each scene"},
-    {"trace", RunTrace, "prints what every tick gives the display, one JSON line each"},
-    {"duration", RunDuration, "tells how long the host thinks a scene plays, and how long it does"},
-    {"validate", RunValidate, "looks for mistakes in a scene"},
-    {"soak", RunSoak, "plays scenes for hours of virtual time and tells what is left of it"},
-    {"effects", RunEffects, "lists the entrance effects and scrolls"},
-};
-
-QByteArray Usage()
-{
-    QByteArray text =
-        "Animated text: authors, plays and looks into scenes on an emulated display.\n"
-        "\nUsage: animtext COMMAND [options]\n\nCommands:\n";
-    for (const Command& command : commands)
-        text += "  " + QByteArray(command.name).leftJustified(10) + command.summary + '\n';
-    return text + "\nanimtext COMMAND --help tells the options of a command.\n"
-                  "The plugin is taken from --plugin, else from the environment variable\n"
-                  "ANIMATIONTEXT_PLUGIN, else from ../lib beside this program.\n";
-}
+const QVector<Command>& Commands();
 
 QStringList CommandNames()
 {
     QStringList names;
-    for (const Command& command : commands)
-        names.append(QString::fromLatin1(command.name));
+    for (const Command& command : Commands())
+        names.append(QLatin1String(command.name));
     return names;
 }
 
-int Run(const QStringList& words)
+const Command& FindCommand(const QString& name)
 {
-    const QString name = words.value(0);
-    if (name.isEmpty())
-        return Fail(BadInput, QStringLiteral("expected a command (see animtext --help)"));
-    if (name == QLatin1String("--help") || name == QLatin1String("-h") ||
-        name == QLatin1String("help"))
-        return Print(Usage()) ? Done : FailedRun;
-    if (name == QLatin1String("--version"))
-        return Print("animtext " ANIMTEXT_VERSION "\n") ? Done : FailedRun;
-    for (const Command& command : commands) {
+    for (const Command& command : Commands()) {
         if (name == QLatin1String(command.name))
-            return command.run(words.mid(1));
+            return command;
     }
-    return Fail(BadInput, QStringLiteral("there is no command \"%1\"%2 (see animtext --help)")
-                              .arg(name, DidYouMean(name, CommandNames())));
+    throw Misuse{
+        QStringLiteral("there is no command \"%1\"%2").arg(name, DidYouMean(name, CommandNames()))};
+}
+
+int Help(const CommandLine& line)
+{
+    const QString name = line.Arguments().value(0);
+    Print(name.isEmpty() ? Overview(Commands()) : HelpText(FindCommand(name)));
+    return Done;
+}
+
+int Complete(const CommandLine& line)
+{
+    const QString shell = line.Arguments().first();
+    if (shell == QLatin1String("bash"))
+        Print(CompletionForBash(Commands()));
+    else if (shell == QLatin1String("zsh"))
+        Print(CompletionForZsh(Commands()));
+    else if (shell == QLatin1String("fish"))
+        Print(CompletionForFish(Commands()));
+    else
+        throw Misuse{QStringLiteral("expected bash, zsh or fish, not \"%1\"").arg(shell)};
+    return Done;
+}
+
+const QVector<Command>& Commands()
+{
+    static QVector<Command> commands;
+    if (commands.isEmpty()) {
+        const Command completion{
+            "completion",
+            "prints the script with which a shell completes these words",
+            "bash|zsh|fish",
+            1,
+            1,
+            "Prints a script for the shell that is named; its first line tells where it goes.",
+            {},
+            Complete,
+            {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
+        commands = {AuthorCommand(), RenderCommand(),   SheetCommand(),
+                    TraceCommand(),  DurationCommand(), ValidateCommand(),
+                    SoakCommand(),   EffectsCommand(),  completion};
+        Command help{"help",
+                     "tells of a command",
+                     "[COMMAND]",
+                     0,
+                     1,
+                     "Tells what a command does and which options it has.",
+                     {},
+                     Help,
+                     CommandNames()};
+        commands.append(help);
+    }
+    return commands;
+}
+
+int RunCommand(const Command& command, const QStringList& words)
+{
+    const CommandLine line(command, words);
+    if (!line.IsSet("help"))
+        return command.run(line);
+    Print(HelpText(command));
+    return Done;
+}
+
+int Run(QString name, const QStringList& words)
+{
+    if (name.isEmpty())
+        throw Misuse{QStringLiteral("expected a command")};
+    if (name == QLatin1String("--version")) {
+        Print("animtext " ANIMTEXT_VERSION "\n");
+        return Done;
+    }
+    if (name == QLatin1String("--help") || name == QLatin1String("-h"))
+        name = QStringLiteral("help");
+    const Command& command = FindCommand(name);
+    try {
+        return RunCommand(command, words);
+    } catch (const Misuse& misuse) {
+        throw Failure{BadInput, QStringLiteral("%1 (see animtext help %2)")
+                                    .arg(misuse.message, QLatin1String(command.name))};
+    }
+}
+
+int RunAndTell(const QStringList& words)
+{
+    try {
+        const int status = Run(words.value(0), words.mid(1));
+        FlushOutput();
+        return status;
+    } catch (const Misuse& misuse) {
+        Warn(misuse.message + QStringLiteral(" (see animtext help)"));
+        return BadInput;
+    } catch (const Failure& failure) {
+        Warn(failure.message);
+        return Interrupted() ? InterruptionStatus() : failure.status;
+    }
 }
 
 } // namespace
@@ -74,10 +133,12 @@ int Run(const QStringList& words)
 int main(int argc, char** argv)
 {
     InstallMessages();
-    // Texts and file names come as UTF-8, also where no locale is set, as in containers.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    EndAtInterruption();
+    KeepAllFileNames();
+    // No command shows a window, so none may fail for want of a display, nor look otherwise for
+    // the desktop that it is run on.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
     QCoreApplication::setEventDispatcher(new VirtualDispatcher);
     // The words are ours alone: Qt would take some of them, --plugin for one, for itself.
     QStringList words;
@@ -86,8 +147,5 @@ int main(int argc, char** argv)
     int ownName = 1;
     QGuiApplication application(ownName, argv);
     QCoreApplication::setApplicationName(QStringLiteral("animtext"));
-    const int status = Run(words);
-    if (std::fflush(stdout) != 0 && status == Done)
-        return Fail(FailedRun, QStringLiteral("the output cannot be written"));
-    return status;
+    return RunAndTell(words);
 }

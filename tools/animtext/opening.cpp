@@ -6,57 +6,46 @@
 
 namespace AnimText {
 
-void AddPlayOptions(CommandLine* line)
+QVector<Option> WithPlayOptions(QVector<Option> own)
 {
-    line->AddOption({QStringLiteral("plugin")},
-                    QStringLiteral("The plugin library, in place of the one beside this program."),
-                    QStringLiteral("FILE"));
-    line->AddOption({QStringLiteral("seed")},
-                    QStringLiteral("What the random numbers of the trembling start from."),
-                    QStringLiteral("N"), QString::number(standardSeed));
-    line->AddOption({QStringLiteral("allow-missing-files")},
-                    QStringLiteral("Plays on although a file that the scene names is missing."));
+    return own + QVector<Option>{
+                     Option::File("plugin", "FILE",
+                                  "The plugin library, in place of the one beside this program."),
+                     Option::Number("seed", 0, std::numeric_limits<int>::max(),
+                                    "What the random numbers of the trembling start from.")
+                         .Or("1"),
+                     Option::Flag("allow-missing-files",
+                                  "Plays on although a file that the scene names is missing.")};
 }
 
-Status OpenScene(const CommandLine& line, const QString& path, Scene* scene)
+Scene OpenScene(const CommandLine& line, const QString& path)
 {
-    const MissingFiles missing = line.IsSet(QStringLiteral("allow-missing-files"))
-                                     ? MissingFiles::AreAccepted
-                                     : MissingFiles::AreErrors;
+    const MissingFiles missing =
+        line.IsSet("allow-missing-files") ? MissingFiles::AreAccepted : MissingFiles::AreErrors;
+    Scene scene;
     QString error;
-    if (!ReadScene(path, scene, &error, missing))
-        return Status(Fail(BadInput, error));
-    return Done;
+    if (!ReadScene(path, &scene, &error, missing))
+        throw Failure{BadInput, error};
+    return scene;
 }
 
-Status OpenPlugin(CommandLine* line, Playing* playing)
+Playing::Playing(const CommandLine& line)
+    : seed(uint(line.Number("seed")))
 {
-    int seed = 0;
-    if (!line->Number(QStringLiteral("seed"), 0, std::numeric_limits<int>::max(), &seed))
-        return BadInput;
-    playing->seed = uint(seed);
+    const QString named = line.IsSet("plugin") ? line.Value("plugin") : QString();
     QString error;
-    playing->plugin = LoadPlugin(PluginPath(line->Value(QStringLiteral("plugin"))), &error);
-    if (!playing->plugin)
-        return Status(Fail(FailedRun, error));
-    playing->dispatcher = VirtualDispatcher::Current();
-    return Done;
-}
-
-Status OpenSceneAndPlugin(CommandLine* line, Scene* scene, Playing* playing)
-{
-    const Status status = OpenScene(*line, line->Arguments().first(), scene);
-    return status == Done ? OpenPlugin(line, playing) : status;
+    plugin = LoadPlugin(PluginPath(named), &error);
+    if (!plugin)
+        throw Failure{FailedRun, error};
 }
 
 std::unique_ptr<Player> Playing::Load(const Scene& scene) const
 {
-    auto player = std::make_unique<Player>(dispatcher, plugin);
+    auto player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
     QString error;
-    if (player->Load(scene, &error))
-        return player;
-    Fail(BadInput, error);
-    return nullptr;
+    if (!player->Load(scene, &error))
+        throw Failure{BadInput, error};
+    return player;
 }
 
 } // namespace AnimText

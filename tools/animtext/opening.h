@@ -13,28 +13,28 @@
 
 namespace AnimText {
 
-/** --plugin, --seed and --allow-missing-files. */
-void AddPlayOptions(CommandLine* line);
+/** @p own and --plugin, --seed and --allow-missing-files. */
+QVector<Option> WithPlayOptions(QVector<Option> own);
 
-/** Reads a scene as the options say. On failure tells the error and answers the exit status. */
-Status OpenScene(const CommandLine& line, const QString& path, Scene* scene);
+/** Reads a scene as the options say; throws Failure when it cannot be read. */
+Scene OpenScene(const CommandLine& line, const QString& path);
 
 /** What a command plays with. */
-struct Playing
+class Playing
 {
-    Lw::INodePlugin* plugin = nullptr;
-    VirtualDispatcher* dispatcher = nullptr;
-    uint seed = standardSeed;
+public:
+    /** Loads the plugin that the options name; throws Failure when it cannot be loaded. */
+    explicit Playing(const CommandLine& line);
 
-    /** A player with @p scene loaded; null, and the error told, when that fails. */
+    /** A player with @p scene loaded; throws Failure when that cannot be played. */
     std::unique_ptr<Player> Load(const Scene& scene) const;
+    /** What random numbers start from. */
+    uint Seed() const { return seed; }
+
+private:
+    Lw::INodePlugin* plugin;
+    uint seed;
 };
-
-/** Loads the plugin. On failure tells the error and answers the exit status. */
-Status OpenPlugin(CommandLine* line, Playing* playing);
-
-/** Both of these, for the scene that the command's first word names. */
-Status OpenSceneAndPlugin(CommandLine* line, Scene* scene, Playing* playing);
 
 } // namespace AnimText
 

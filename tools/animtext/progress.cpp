@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 
-#include <csignal>
 #include <cstdio>
 
 #include <unistd.h>
@@ -10,13 +9,6 @@
 namespace AnimText {
 
 namespace {
-
-volatile std::sig_atomic_t interrupted = 0;
-
-void Interrupt(int)
-{
-    interrupted = 1;
-}
 
 constexpr int barWidth = 30;
 constexpr int quietTime = 1000; // milliseconds before the bar appears
@@ -55,20 +47,6 @@ void Progress::Show(qint64 done)
     }
     std::fprintf(stderr, "\r\033[K%s", text.toUtf8().constData());
     std::fflush(stderr);
-}
-
-void WatchForInterruption()
-{
-    for (int signal : {SIGINT, SIGTERM, SIGHUP}) {
-        struct sigaction action = {};
-        action.sa_handler = Interrupt;
-        sigaction(signal, &action, nullptr);
-    }
-}
-
-bool Interrupted()
-{
-    return interrupted != 0;
 }
 
 } // namespace AnimText

@@ -1,6 +1,6 @@
 /**
  * @file
- * A bar on the terminal for work that takes a while, and the wish to break it off.
+ * A bar on the terminal for work that takes a while.
  */
 #ifndef ANIMTEXT_PROGRESS_H
 #define ANIMTEXT_PROGRESS_H
@@ -31,10 +31,6 @@ private:
     bool terminal;
     bool drawn = false;
 };
-
-/** From now on, an interruption (Ctrl+C, a termination) is a wish that Interrupted() tells. */
-void WatchForInterruption();
-bool Interrupted();
 
 } // namespace AnimText
 

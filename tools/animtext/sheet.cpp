@@ -1,11 +1,13 @@
 #include "animtext/commands.h"
 #include "animtext/contactsheet.h"
+#include "animtext/interruption.h"
 #include "animtext/opening.h"
 #include "animtext/progress.h"
 #include "player/film.h"
 
 #include "scene/catalogue.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -39,18 +41,18 @@ QVector<int> Spread(int frames, int count, bool toTheEnd)
     return picked;
 }
 
-Status AddRow(const Playing& playing, const Scene& scene, int columns, ContactSheet* sheet)
+void AddRow(const Playing& playing, const Scene& scene, int columns, ContactSheet* sheet)
 {
     const std::unique_ptr<Player> player = playing.Load(scene);
-    if (!player)
-        return BadInput;
     FilmSettings settings;
-    settings.seed = playing.seed;
+    settings.seed = playing.Seed();
     settings.restAtEnd = false;
     Film film(player.get(), scene, settings);
     QString error;
-    if (!film.Plan([](qint64, qint64) { return !Interrupted(); }, &error))
-        return Status(Fail(Interrupted() ? FailedRun : BadInput, error));
+    const bool planned = film.Plan([](qint64, qint64) { return !Interrupted(); }, &error);
+    StopIfInterrupted();
+    if (!planned)
+        throw Failure{BadInput, error};
 
     SheetRow row;
     const Motion* motion = MotionOf(scene);
@@ -65,65 +67,67 @@ Status AddRow(const Playing& playing, const Scene& scene, int columns, ContactSh
         row.frames.append({picture, qint64(frame) * tickLength});
         return !Interrupted();
     };
-    if (!film.Play(Spread(film.FrameCount(), columns, !scrolls), take, &error))
-        return Status(Fail(FailedRun, Interrupted() ? QStringLiteral("interrupted") : error));
+    const bool played = film.Play(Spread(film.FrameCount(), columns, !scrolls), take, &error);
+    StopIfInterrupted();
+    if (!played)
+        throw Failure{FailedRun, error};
     sheet->Add(row);
-    return Done;
 }
 
-Status Save(const QImage& picture, const QString& path)
+void Save(const QImage& picture, const QString& path)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit())
-        return Done;
-    return Status(
-        Fail(FailedRun, QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())));
-}
-
-} // namespace
-
-int RunSheet(const QStringList& words)
-{
-    CommandLine line(QStringLiteral("sheet"), QStringLiteral("SCENE.json... -o SHEET.png"),
-                     QStringLiteral("Draws a contact sheet: for each scene a row of frames, evenly "
-                                    "spaced over its play."));
-    line.AddOption({QStringLiteral("o"), QStringLiteral("output")},
-                   QStringLiteral("Where the sheet goes, a PNG."), QStringLiteral("SHEET.png"));
-    line.AddOption({QStringLiteral("columns")}, QStringLiteral("Frames in a row."),
-                   QStringLiteral("N"), QStringLiteral("6"));
-    AddPlayOptions(&line);
-    if (!line.Parse(words, 1, 1000))
-        return line.ExitStatus();
-    int columns = 0;
-    const QString output = line.Value(QStringLiteral("output"));
-    if (output.isEmpty())
-        return line.Misused(QStringLiteral("expected -o and the name of the sheet"));
-    if (!output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        return line.Misused(QStringLiteral("%1: expected a name that ends with .png").arg(output));
-    if (!line.Number(QStringLiteral("columns"), 1, 50, &columns))
-        return BadInput;
-
-    Playing playing;
-    const QStringList paths = line.Arguments();
-    QVector<Scene> scenes(paths.size());
-    for (int i = 0; i < paths.size(); ++i) {
-        if (const Status status = OpenScene(line, paths.at(i), &scenes[i]))
-            return status;
+    if (path == QLatin1String("-")) {
+        QBuffer png;
+        picture.save(&png, "PNG");
+        Print(png.data());
+        return;
     }
-    if (const Status status = OpenPlugin(&line, &playing))
-        return status;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "PNG") || !file.commit())
+        throw Failure{FailedRun,
+                      QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+}
+
+int DrawSheet(const CommandLine& line)
+{
+    const QString output = line.Value("output");
+    if (output != QLatin1String("-") &&
+        !output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
+        throw Misuse{QStringLiteral("%1: expected a name that ends with .png").arg(output)};
+    QVector<Scene> scenes;
+    for (const QString& path : line.Arguments())
+        scenes.append(OpenScene(line, path));
+    const Playing playing(line);
 
     WatchForInterruption();
     ContactSheet sheet;
     {
-        Progress progress(QStringLiteral("playing scene"), paths.size());
-        for (int i = 0; i < paths.size(); ++i) {
-            if (const Status status = AddRow(playing, scenes.at(i), columns, &sheet))
-                return status;
+        Progress progress(QStringLiteral("playing scene"), scenes.size());
+        for (int i = 0; i < scenes.size(); ++i) {
+            AddRow(playing, scenes.at(i), line.Number("columns"), &sheet);
             progress.Show(i + 1);
         }
     }
-    return Save(sheet.Draw(), output);
+    Save(sheet.Draw(), output);
+    return Done;
+}
+
+} // namespace
+
+Command SheetCommand()
+{
+    return {"sheet",
+            "draws a contact sheet, a row of frames for each scene",
+            "SCENE.json...",
+            1,
+            1000,
+            "Draws a contact sheet: for each scene a row of frames, evenly spaced over its play.",
+            WithPlayOptions({Option::File("output", "SHEET.png",
+                                          "Where the sheet goes, a PNG; - for standard output.")
+                                 .Letter('o')
+                                 .Required(),
+                             Option::Number("columns", 1, 50, "Frames in a row.").Or("6")}),
+            DrawSheet};
 }
 
 } // namespace AnimText

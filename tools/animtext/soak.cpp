@@ -1,4 +1,5 @@
 #include "animtext/commands.h"
+#include "animtext/interruption.h"
 #include "animtext/opening.h"
 #include "animtext/progress.h"
 #include "animtext/soakmix.h"
@@ -16,10 +17,10 @@ namespace AnimText {
 
 namespace {
 
-constexpr double ticksPerHour = 3600.0 * 1000 / tickLength;
+constexpr double millisecondsPerHour = 3600.0 * 1000;
+constexpr double ticksPerHour = millisecondsPerHour / tickLength;
 constexpr int turnTicks = 455; // half a minute: then the next scene
 constexpr int pauseTicks = 20; // once in a turn
-constexpr double mostHours = 24 * 366;
 
 /** Memory of this process that is not paged out, in KiB. */
 qint64 ResidentMemory()
@@ -45,8 +46,8 @@ public:
     {
     }
 
-    /** @return what failed; Done also when it was broken off */
-    Status Run();
+    /** Until the time is over or somebody breaks it off. */
+    void Run();
     QByteArray Table(double mostGrowth) const;
     bool IsSound(double mostGrowth) const;
 
@@ -81,7 +82,7 @@ void Soak::Advance(Player* player, int count)
 /** As hosts do: a start, a look at the state now and then, a pause, a second start, a stop. */
 void Soak::PlayTurn(Player* player)
 {
-    player->Start(playing.seed);
+    player->Start(playing.Seed());
     Advance(player, turnTicks / 2);
     for (int pausing = 0; pausing < 2; ++pausing) {
         for (int node = 0; node < player->NodeCount(); ++node)
@@ -90,12 +91,12 @@ void Soak::PlayTurn(Player* player)
     }
     player->Picture();
     mostLayers = qMax(mostLayers, Torv::Accounts().liveLayers);
-    player->Start(playing.seed);
+    player->Start(playing.Seed());
     Advance(player, turnTicks - turnTicks / 2 - 2 * pauseTicks);
     player->Scenery().Stop();
 }
 
-Status Soak::Run()
+void Soak::Run()
 {
     Torv::ResetAccounts();
     Progress progress(QStringLiteral("soaking, minutes"), ticksWanted * tickLength / 60000);
@@ -104,8 +105,6 @@ Status Soak::Run()
         {
             const Scene& scene = scenes.at(int(turnsPlayed % scenes.size()));
             const std::unique_ptr<Player> player = playing.Load(scene);
-            if (!player)
-                return BadInput;
             PlayTurn(player.get());
         }
         ++turnsPlayed;
@@ -117,7 +116,6 @@ Status Soak::Run()
             memoryAtHour = memoryAtEnd;
         progress.Show(ticks * tickLength / 60000);
     }
-    return Done;
 }
 
 QByteArray Soak::Table(double mostGrowth) const
@@ -153,69 +151,48 @@ bool Soak::IsSound(double mostGrowth) const
            accounts.Misuses() == 0 && !grows;
 }
 
-/** A number with a fraction; false, and the error told, when it is none up to @p most. */
-bool Fraction(CommandLine* line, const QString& option, double most, double* number)
+int SoakScenes(const CommandLine& line)
 {
-    bool isNumber = false;
-    *number = line->Value(option).toDouble(&isNumber);
-    if (isNumber && *number >= 0 && *number <= most)
-        return true;
-    line->Misused(QStringLiteral("--%1 takes a number from 0 to %2, not \"%3\"")
-                      .arg(option)
-                      .arg(most)
-                      .arg(line->Value(option)));
-    return false;
-}
-
-} // namespace
-
-int RunSoak(const QStringList& words)
-{
-    CommandLine line(
-        QStringLiteral("soak"), QStringLiteral("[SCENE.json...]"),
-        QStringLiteral(
-            "Plays scenes in turn for hours of virtual time, half a minute each, and tells what "
-            "is left of it: sessions, layers and memory. Without a scene it plays every motion "
-            "before every background. The exit status is 1 when something is left, when a call "
-            "of the device was wrong, or when memory grows after the first hour."));
-    line.AddOption({QStringLiteral("hours")}, QStringLiteral("How long, in hours of virtual time."),
-                   QStringLiteral("H"), QStringLiteral("24"));
-    line.AddOption({QStringLiteral("growth")},
-                   QStringLiteral("How much memory may grow after the first hour; 0: not judged."),
-                   QStringLiteral("MIB"), QStringLiteral("1"));
-    AddPlayOptions(&line);
-    if (!line.Parse(words, 0, 10000))
-        return line.ExitStatus();
-    double hours = 0;
-    double mostGrowth = 0;
-    if (!Fraction(&line, QStringLiteral("hours"), mostHours, &hours) ||
-        !Fraction(&line, QStringLiteral("growth"), 1e6, &mostGrowth))
-        return BadInput;
-
     QVector<Scene> scenes;
-    for (const QString& path : line.Arguments()) {
-        Scene scene;
-        if (const Status status = OpenScene(line, path, &scene))
-            return status;
-        scenes.append(scene);
-    }
+    for (const QString& path : line.Arguments())
+        scenes.append(OpenScene(line, path));
     const QTemporaryDir folder;
     if (scenes.isEmpty()) {
         QString error;
         scenes = SoakMix(QDir(folder.path()), &error);
         if (scenes.isEmpty())
-            return Fail(FailedRun, error);
+            throw Failure{FailedRun, error};
     }
-    Playing playing;
-    if (const Status status = OpenPlugin(&line, &playing))
-        return status;
+    Soak soak(scenes, line.Time("hours") / millisecondsPerHour, Playing(line));
+    soak.Run();
+    Print(soak.Table(line.Fraction("growth")));
+    StopIfInterrupted();
+    if (!soak.IsSound(line.Fraction("growth")))
+        throw Failure{FailedRun, QStringLiteral("the soak failed")};
+    return Done;
+}
 
-    Soak soak(scenes, hours, playing);
-    if (const Status status = soak.Run())
-        return status;
-    if (!Print(soak.Table(mostGrowth)))
-        return Fail(FailedRun, QStringLiteral("the output cannot be written"));
-    return soak.IsSound(mostGrowth) ? Done : Fail(FailedRun, QStringLiteral("the soak failed"));
+} // namespace
+
+Command SoakCommand()
+{
+    return {"soak",
+            "plays scenes for hours of virtual time and tells what is left of it",
+            "[SCENE.json...]",
+            0,
+            10000,
+            "Plays scenes in turn for hours of virtual time, half a minute each, and tells what "
+            "is left of it: sessions, layers and memory. Without a scene it plays every motion "
+            "before every background. The exit status is 1 when something is left, when a call "
+            "of the device was wrong, or when memory grows after the first hour.",
+            WithPlayOptions(
+                {Option::Time("hours", int(millisecondsPerHour), 0, 24 * 366, "H",
+                              "How long, in hours of virtual time or as in 90min.")
+                     .Or("24"),
+                 Option::Fraction("growth", 0, 1e6, "MIB",
+                                  "How much memory may grow after the first hour; 0: not judged.")
+                     .Or("1")}),
+            SoakScenes};
 }
 
 } // namespace AnimText

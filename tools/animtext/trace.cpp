@@ -72,46 +72,42 @@ QByteArray Trace::TickLines()
     return lines;
 }
 
-} // namespace
-
-int RunTrace(const QStringList& words)
+int TraceScene(const CommandLine& line)
 {
-    CommandLine line(
-        QStringLiteral("trace"), QStringLiteral("SCENE.json"),
-        QStringLiteral(
-            "Plays a scene on virtual time and prints a line of JSON for each tick of 66 ms and "
-            "each node, tick 0 being the start: whether a new picture of the text was handed to "
-            "the display, the layer that shows it, its size, the SHA-1 of its rows and the "
-            "renderer's state (0 finished, 1 playing, 2 nothing to play)."));
-    line.AddOption({QStringLiteral("n"), QStringLiteral("ticks")}, QStringLiteral("The last tick."),
-                   QStringLiteral("N"), QStringLiteral("100"));
-    line.AddOption({QStringLiteral("calls")},
-                   QStringLiteral("Prints every call of the device before the line of its tick."));
-    AddPlayOptions(&line);
-    int ticks = 0;
-    if (!line.Parse(words, 1, 1))
-        return line.ExitStatus();
-    if (!line.Number(QStringLiteral("ticks"), 0, 1000000000, &ticks))
-        return BadInput;
-
-    Scene scene;
-    Playing playing;
-    if (const Status status = OpenSceneAndPlugin(&line, &scene, &playing))
-        return status;
+    const int ticks = line.Number("ticks");
+    const Scene scene = OpenScene(line, line.Arguments().first());
+    const Playing playing(line);
     const std::unique_ptr<Player> player = playing.Load(scene);
-    if (!player)
-        return BadInput;
 
-    player->Scenery().KeepCalls(line.IsSet(QStringLiteral("calls")));
-    player->Start(playing.seed);
+    player->Scenery().KeepCalls(line.IsSet("calls"));
+    player->Start(playing.Seed());
     Trace trace(player.get());
     for (;;) {
-        if (!Print(trace.TickLines()))
-            return Fail(FailedRun, QStringLiteral("the output cannot be written"));
+        Print(trace.TickLines());
         if (player->Tick() == ticks)
             return Done;
         player->Advance();
     }
+}
+
+} // namespace
+
+Command TraceCommand()
+{
+    return {"trace",
+            "prints what every tick gives the display, one JSON line each",
+            "SCENE.json",
+            1,
+            1,
+            "Plays a scene on virtual time and prints a line of JSON for each tick of 66 ms and "
+            "each node, tick 0 being the start: whether a new picture of the text was handed to "
+            "the display, the layer that shows it, its size, the SHA-1 of its rows and the "
+            "renderer's state (0 finished, 1 playing, 2 nothing to play).",
+            WithPlayOptions(
+                {Option::Number("ticks", 0, 1000000000, "The last tick.").Letter('n').Or("100"),
+                 Option::Flag("calls",
+                              "Prints every call of the device before the line of its tick.")}),
+            TraceScene};
 }
 
 } // namespace AnimText

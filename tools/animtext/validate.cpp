@@ -5,25 +5,32 @@
 
 namespace AnimText {
 
-int RunValidate(const QStringList& words)
-{
-    CommandLine line(QStringLiteral("validate"), QStringLiteral("SCENE.json"),
-                     QStringLiteral("Looks for mistakes in a scene. The exit status is 0 without "
-                                    "errors, 2 with; warnings count with --strict, as 1."));
-    line.AddOption({QStringLiteral("json")}, QStringLiteral("Prints one JSON object."));
-    line.AddOption({QStringLiteral("strict")}, QStringLiteral("Warnings count as a failure."));
-    if (!line.Parse(words, 1, 1))
-        return line.ExitStatus();
+namespace {
 
+int Validate(const CommandLine& line)
+{
     const QString path = line.Arguments().first();
     const QList<Finding> findings = ValidateScene(path);
-    const bool printed = Print(line.IsSet(QStringLiteral("json")) ? FindingsAsJson(path, findings)
-                                                                  : FindingsAsText(path, findings));
-    if (!printed)
-        return Fail(FailedRun, QStringLiteral("the findings cannot be written"));
+    Print(line.IsSet("json") ? FindingsAsJson(path, findings) : FindingsAsText(path, findings));
     if (Count(findings, Severity::Error) > 0)
         return BadInput;
-    return line.IsSet(QStringLiteral("strict")) && !findings.isEmpty() ? FailedRun : Done;
+    return line.IsSet("strict") && !findings.isEmpty() ? FailedRun : Done;
+}
+
+} // namespace
+
+Command ValidateCommand()
+{
+    return {"validate",
+            "looks for mistakes in a scene",
+            "SCENE.json",
+            1,
+            1,
+            "Looks for mistakes in a scene. The exit status is 0 without errors, 2 with; warnings "
+            "count with --strict, as 1.",
+            {Option::Flag("json", "Prints one JSON object."),
+             Option::Flag("strict", "Warnings count as a failure.")},
+            Validate};
 }
 
 } // namespace AnimText

@@ -55,9 +55,10 @@ struct Scene
 };
 
 /**
- * Reads @p path. On failure answers false and sets @p error to one line with the file, the place in
- * it (line and column of a syntax error, else the JSON path) and what was expected there; the scene
- * is then left as it was. Files that a node names must exist.
+ * Reads @p path, or standard input for "-", whose data files lie in the current folder. On failure
+ * answers false and sets @p error to one line with the file, the place in it (line and column of a
+ * syntax error, else the JSON path) and what was expected there; the scene is then left as it was.
+ * Files that a node names must exist.
  */
 bool ReadScene(const QString& path, Scene* scene, QString* error);
 

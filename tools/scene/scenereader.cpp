@@ -11,6 +11,7 @@
 #include <QJsonObject>
 
 #include <cmath>
+#include <cstdio>
 #include <limits>
 
 namespace AnimText {
@@ -280,8 +281,20 @@ QString OnOneLine(QString text)
     return text;
 }
 
+QByteArray ReadStandardInput()
+{
+    QFile input;
+    input.open(stdin, QIODevice::ReadOnly);
+    const QByteArray bytes = input.read(largestFile + 1);
+    if (bytes.size() > largestFile)
+        throw Fault{QStringLiteral(": expected at most %1 bytes").arg(largestFile)};
+    return bytes;
+}
+
 QByteArray ReadBytes(const QString& path)
 {
+    if (path == QLatin1String("-"))
+        return ReadStandardInput();
     const QFileInfo info(path);
     if (!info.exists())
         throw Fault{QStringLiteral(": there is no such file")};

@@ -7,9 +7,7 @@
 
 #include "author/glyphfiles.h"
 #include "scene/scene.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "testfolder.h"
 
 namespace AnimText {
 
@@ -29,12 +27,9 @@ constexpr int testHeight = 20;
 constexpr int testDescent = 4;
 
 /** A folder with scenes. Every character is a rectangle 2 pixels inside its cell. */
-class TestScenes
+class TestScenes : public TestFolder
 {
 public:
-    QString Path(const QString& name) const { return folder.filePath(name); }
-    QString Folder() const { return folder.path(); }
-
     /** A node of these wishes, with @p more attributes. */
     SceneNode Node(const TextWishes& wishes, const QMap<QString, QVariant>& more = {})
     {
@@ -57,7 +52,12 @@ public:
         for (int i = 0; i < count; ++i) {
             node.lists["TextWidth"].append({{"text_width", QString::number(wishes.width)}});
             node.lists["TextHeight"].append({{"text_height", QString::number(testHeight)}});
-            node.lists["TextAttribute"].append({{"Color", QString::number(0xFFA040)}});
+            node.lists["TextAttribute"].append({{"fontName", "DejaVu Sans"},
+                                                {"fontSize", "12"},
+                                                {"bold", "0"},
+                                                {"italic", "0"},
+                                                {"underline", "0"},
+                                                {"Color", QString::number(0xFFA040)}});
         }
         node.files = {{"PathData", base + ".path"}, {"DescentVector", base + ".descent"}};
         return node;
@@ -78,19 +78,10 @@ public:
     /** Writes the scene. @return its path */
     QString Save(const Scene& scene, const QString& name = "scene.json")
     {
-        Write(name, SceneToJson(scene));
-        return Path(name);
-    }
-
-    void Write(const QString& name, const QByteArray& content)
-    {
-        QFile file(Path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("the test cannot write %s", qPrintable(file.fileName()));
+        return Write(name, SceneToJson(scene));
     }
 
 private:
-    QTemporaryDir folder;
     int nodes = 0;
 };
 

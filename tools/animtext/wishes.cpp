@@ -1,0 +1,236 @@
+#include "animtext/wishes.h"
+
+#include "animtext/values.h"
+#include "scene/catalogue.h"
+#include "scene/suggest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QTextCodec>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int smallestSize = 4; // pixels
+constexpr int largestSize = 2000;
+constexpr int largestSide = 16384;
+constexpr int most = 1000000;     // plays, holds and the like
+constexpr int holdUnit = 100;     // milliseconds
+constexpr int lastDrawnNeon = 28; // neon styles above show a picture
+
+/** "; did you mean X?" with the shortest that holds @p word, else with the closest, or nothing. */
+QString DidYouMeanOneOf(const QString& word, const QStringList& known)
+{
+    const QStringList holders = known.filter(word, Qt::CaseInsensitive);
+    const auto shortest =
+        std::min_element(holders.begin(), holders.end(),
+                         [](const QString& a, const QString& b) { return a.size() < b.size(); });
+    return shortest == holders.end() || word.isEmpty() ? DidYouMean(word, known)
+                                                       : DidYouMean(*shortest, known);
+}
+
+QString FamilyFromFile(const QString& file)
+{
+    const int id = QFontDatabase::addApplicationFont(file);
+    const QString family = QFontDatabase::applicationFontFamilies(id).value(0);
+    if (family.isEmpty())
+        throw Misuse{QStringLiteral("%1: no font can be read from it").arg(file)};
+    return family;
+}
+
+QString FontFamily(const QString& wish, bool isStandard)
+{
+    static const QStringList generic{QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
+                                     QStringLiteral("Serif"), QStringLiteral("Monospace")};
+    const QStringList families = QFontDatabase().families();
+    if (families.isEmpty())
+        throw Misuse{QStringLiteral("no fonts are installed; apt-get install fonts-dejavu-core")};
+    if (QFileInfo(wish).isFile())
+        return FamilyFromFile(wish);
+    if ((families + generic).contains(wish, Qt::CaseInsensitive))
+        return wish;
+    if (isStandard)
+        return QGuiApplication::font().family();
+    throw Misuse{QStringLiteral("there is no font family \"%1\"%2")
+                     .arg(wish, DidYouMeanOneOf(wish, families))};
+}
+
+QString ReadText(const CommandLine& line)
+{
+    if (line.IsSet("text") == line.IsSet("text-file"))
+        throw Misuse{line.IsSet("text")
+                         ? QStringLiteral("--text and --text-file exclude each other")
+                         : QStringLiteral("expected --text TEXT or --text-file FILE")};
+    if (line.IsSet("text"))
+        return line.Value("text");
+
+    const QString name = line.Value("text-file");
+    const bool isStandardInput = name == QLatin1String("-");
+    QFile file(name);
+    if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
+        throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
+    QTextCodec::ConverterState state;
+    const QByteArray bytes = file.readAll();
+    const QString text =
+        QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0)
+        throw Misuse{QStringLiteral("%1: expected UTF-8; the text has other bytes").arg(name)};
+    return text;
+}
+
+QFont ReadFont(const CommandLine& line)
+{
+    QFont font(FontFamily(line.Value("font"), !line.IsSet("font")));
+    if (line.IsSet("size"))
+        font.setPixelSize(line.Number("size"));
+    font.setBold(line.IsSet("bold"));
+    font.setItalic(line.IsSet("italic"));
+    font.setUnderline(line.IsSet("underline"));
+    return font;
+}
+
+QStringList EffectNames()
+{
+    QStringList names;
+    for (const Motion& effect : Effects())
+        names.append(QLatin1String(effect.name));
+    return names;
+}
+
+int ReadEffect(const QString& word)
+{
+    if (const Motion* effect = FindEffect(word))
+        return effect->number;
+    throw Misuse{QStringLiteral(
+                     "--effect takes a number from 0 to %1 or a name out of animtext effects, not "
+                     "\"%2\"%3")
+                     .arg(Effects().last().number)
+                     .arg(word, DidYouMeanOneOf(word, EffectNames()))};
+}
+
+void ReadMotion(const CommandLine& line, AuthorOptions* options)
+{
+    if (!line.IsSet("scroll")) {
+        options->motion = ReadEffect(line.Value("effect"));
+        return;
+    }
+    if (line.IsSet("effect"))
+        throw Misuse{QStringLiteral("--effect and --scroll exclude each other")};
+    options->mode = Mode::Scroll;
+    options->motion = line.Choice("scroll");
+}
+
+/** The file that @p option names, as the scene will name it: seen from the scene's folder. */
+QString FileForScene(const CommandLine& line, const char* option)
+{
+    const QString name = line.Value(option);
+    const QFileInfo file(name);
+    if (!file.isFile())
+        throw Misuse{QStringLiteral("--%1: there is no file %2").arg(QLatin1String(option), name)};
+    return QFileInfo(line.Value("output")).dir().relativeFilePath(file.absoluteFilePath());
+}
+
+void ReadBackground(const CommandLine& line, AuthorOptions* options)
+{
+    if (line.IsSet("dazzle"))
+        options->dazzle = Dazzle(int(Dazzle::Plain) + line.Choice("dazzle"));
+    if (line.IsSet("picture")) {
+        if (!line.IsSet("dazzle"))
+            throw Misuse{QStringLiteral("--picture is for the dazzle background; add --dazzle")};
+        options->picture = FileForScene(line, "picture");
+    }
+    if (line.IsSet("neon"))
+        options->neon = line.Number("neon");
+    if ((options->neon > lastDrawnNeon) != line.IsSet("neon-picture"))
+        throw Misuse{
+            QStringLiteral("--neon above %1 and --neon-picture go together").arg(lastDrawnNeon)};
+    if (line.IsSet("neon-picture"))
+        options->neonPicture = FileForScene(line, "neon-picture");
+}
+
+int ReadHold(const CommandLine& line)
+{
+    const double units = line.Time("hold") / holdUnit;
+    if (units != std::floor(units))
+        throw Misuse{QStringLiteral("--hold takes whole tenths of a second, not \"%1\"")
+                         .arg(line.Value("hold"))};
+    return int(units);
+}
+
+} // namespace
+
+QVector<Option> WishOptions()
+{
+    const QStringList directions{QStringLiteral("left"), QStringLiteral("right"),
+                                 QStringLiteral("up"), QStringLiteral("down")};
+    const QStringList dazzles{QStringLiteral("plain"), QStringLiteral("linear"),
+                              QStringLiteral("radial"), QStringLiteral("conical")};
+    return {
+        Option::File("output", "SCENE.json", "The scene file to write.").Letter('o').Required(),
+        Option::Text("text", "TEXT", "The text; one line."),
+        Option::File("text-file", "FILE",
+                     "Takes the text from a UTF-8 file, - for standard input."),
+        Option::Text("font", "FAMILY", "A font family or a font file.").Or("DejaVu Sans"),
+        Option::Number("size", smallestSize, largestSize,
+                       "The font's size in pixels; as large as fits the area, or 48."),
+        Option::Flag("bold", "Bold letters."),
+        Option::Flag("italic", "Slanted letters."),
+        Option::Flag("underline", "A bar under the text."),
+        Option::Color("color", "The text's color, a name or #rrggbb.").Or("#ffa000"),
+        Option::Flag("hollow", "Outlined letters."),
+        Option::Text("effect", "NAME|N", "The entrance effect (animtext effects lists them all).")
+            .Or("4")
+            .Offering(EffectNames()),
+        Option::Choice("scroll", "DIRECTION", directions,
+                       "Scrolls left, right, up or down in place of an entrance."),
+        Option::Number("speed", 0, 9, "0 slowest to 9 fastest.").Or("5"),
+        Option::Time("hold", holdUnit, 0, most, "TIME",
+                     "How long a page stands, as in 2s or 1500ms, or a number of 100 ms.")
+            .Or("2s"),
+        Option::Number("plays", 1, most, "How many times the text is shown.").Or("1"),
+        Option::Size("area", largestSide,
+                     "The area's size in pixels; 512 wide and as high as the text."),
+        Option::Point("pos", "Where the area lies on the display.").Or("0,0"),
+        Option::Size("display", largestSide, "The display's size in pixels; just what is needed."),
+        Option::Flag("no-alpha",
+                     "Layers of 24 bits with a color key, for devices without alpha blending."),
+        Option::Choice("dazzle", "KIND", dazzles,
+                       "A background of running colors: plain (also --dazzle alone), linear, "
+                       "radial or conical.")
+            .Alone("plain"),
+        Option::File("picture", "FILE", "A picture for the dazzle background."),
+        Option::Number("neon", 0, most, "A neon border; above 28 the pictures of --neon-picture."),
+        Option::File("neon-picture", "FILE", "An animated picture for the neon background."),
+        Option::Flag("append", "Adds the text to the scene that is there.")};
+}
+
+AuthorOptions ReadWishes(const CommandLine& line, QStringList* notes)
+{
+    AuthorOptions options;
+    QString error;
+    options.text = ReadText(line);
+    if (!ToOneLine(&options.text, notes, &error))
+        throw Misuse{error};
+    options.font = ReadFont(line);
+    options.color = line.Color("color");
+    ReadMotion(line, &options);
+    options.speed = line.Number("speed");
+    options.hold = ReadHold(line);
+    options.plays = line.Number("plays");
+    if (line.IsSet("area"))
+        options.area = line.Size("area");
+    options.pos = line.Point("pos");
+    options.hollow = line.IsSet("hollow");
+    ReadBackground(line, &options);
+    return options;
+}
+
+} // namespace AnimText

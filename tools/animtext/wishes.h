@@ -1,0 +1,26 @@
+/**
+ * @file
+ * What an author asks for on the command line.
+ */
+#ifndef ANIMTEXT_WISHES_H
+#define ANIMTEXT_WISHES_H
+
+#include "animtext/commandline.h"
+#include "author/author.h"
+
+#include <QStringList>
+
+namespace AnimText {
+
+/** The options of animtext author. */
+QVector<Option> WishOptions();
+
+/**
+ * Reads them; throws Misuse when they do not go together.
+ * @param notes takes a line on each change that the text needed
+ */
+AuthorOptions ReadWishes(const CommandLine& line, QStringList* notes);
+
+} // namespace AnimText
+
+#endif
