@@ -1,13 +1,14 @@
 #include "testfolder.h"
 
+#include "author/glyphfiles.h"
 #include "author/scenestore.h"
 
-#include <QRandomGenerator>
+#include <QPainterPath>
 #include <QtTest>
 
-#include <algorithm>
 #include <csignal>
 #include <sys/ptrace.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,27 +16,45 @@ using namespace AnimText;
 
 namespace {
 
-/** A scene with two data files; other texts have other files. */
+/** A sound scene with two data files; other texts have other files. */
 struct Sample
 {
     Sample(const QString& path, const QString& text)
     {
         SceneNode node;
         node.size = QSize(100, 20);
-        node.attributes["Text"] = text;
-        for (const QString suffix : {"path", "descent"}) {
-            const QByteArray content = (suffix + " of " + text).toUtf8();
-            const QString name = DataFileName(path, content, suffix);
-            node.files[suffix == "path" ? "PathData" : "DescentVector"] = name;
-            files[name] = content;
+        node.hold = 1;
+        node.attributes = {{"Text", text}, {"AnimationEffect", 4}, {"PlayTimes", 1}};
+        QPainterPath box;
+        box.addRect(0, -10, 8, 10);
+        QHash<QString, QString> style;
+        for (const char* field : {"fontSize", "bold", "italic", "underline", "Color"})
+            style.insert(field, "1");
+        for (int i = 0; i < text.size(); ++i) {
+            node.lists["TextWidth"].append({{"text_width", "9"}});
+            node.lists["TextHeight"].append({{"text_height", "12"}});
+            node.lists["TextAttribute"].append(style);
         }
+        Add(&node, path, "PathData", PathFile(QVector<QPainterPath>(text.size(), box)), "path");
+        Add(&node, path, "DescentVector", DescentFile(QVector<int>(text.size(), text[0].unicode())),
+            "descent");
         scene.path = path;
         scene.display = node.size;
         scene.pages = {ScenePage{{SceneArea{{node}}}}};
     }
 
+    SceneNode& Node() { return scene.pages[0].areas[0].nodes[0]; }
+
     Scene scene;
-    QMap<QString, QByteArray> files;
+    DataFiles files;
+
+private:
+    void Add(SceneNode* node, const QString& path, const char* key, const QByteArray& content,
+             const char* suffix)
+    {
+        node->files[key] = DataFileName(path, content, suffix);
+        files[node->files[key]] = content;
+    }
 };
 
 /** Runs @p work in a process of its own and kills it right before its system call @p calls. */
@@ -66,6 +85,22 @@ Ending RunAndKill(int calls, Work work)
 
 } // namespace
 
+/** Runs @p work in a process of its own, which ends with what it answers. */
+template <typename Work>
+pid_t Begin(Work work)
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(int(work()));
+    return child;
+}
+int End(pid_t child)
+{
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
 class tst_scenestore : public QObject
 {
     Q_OBJECT
@@ -80,7 +115,8 @@ private slots:
     void replacedFilesGo()
     {
         const Sample second(path, "second");
-        QVERIFY(Save(Sample(path, "first")) && Save(second));
+        QCOMPARE(Save(Sample(path, "first")), Storing::Saved);
+        QCOMPARE(Save(second), Storing::Saved);
         QVERIFY(Holds("sign.json", second));
         QCOMPARE(folder->Listing(), second.files.keys() + QStringList("sign.json"));
     }
@@ -88,41 +124,190 @@ private slots:
     void sharedAndForeignFilesStay()
     {
         Sample first(path, "first");
-        QVERIFY(Save(first) && QFile::copy(path, folder->Path("copy.json")));
-        QVERIFY(Save(Sample(path, "second")));
+        QVERIFY(Save(first) == Storing::Saved && QFile::copy(path, folder->Path("copy.json")));
+        QCOMPARE(Save(Sample(path, "second")), Storing::Saved);
         QVERIFY(Holds("copy.json", first));
 
         // A file that the author named and made is not ours to remove.
-        first.scene.pages[0].areas[0].nodes[0].files["PathData"] = "mine.path";
-        first.files["mine.path"] = "mine";
-        QVERIFY(Save(first) && Save(Sample(path, "third")));
+        first.files["mine.path"] = first.files[first.Node().files["PathData"]];
+        first.Node().files["PathData"] = "mine.path";
+        QVERIFY(Save(first) == Storing::Saved && Save(Sample(path, "third")) == Storing::Saved);
         QVERIFY(folder->Listing().contains("mine.path"));
     }
 
     void damagedFileIsWrittenAnew()
     {
         const Sample sample(path, "text");
-        QVERIFY(Save(sample));
+        QCOMPARE(Save(sample), Storing::Saved);
         folder->Write(sample.files.firstKey(), QByteArray(sample.files.first().size(), 'A'));
-        QVERIFY(Save(sample) && Holds("sign.json", sample));
+        QVERIFY(Save(sample) == Storing::Saved && Holds("sign.json", sample));
     }
 
-    void failuresLeaveNothing()
+    // Neither the data files nor the scene can be written; what was there is what is there.
+    void failuresLoseNothing()
     {
-        QStringList obstacles = Sample("sign.json", "a").files.keys();
-        obstacles << "sign.json"
-                  << "";
+        const Sample before(path, "before");
+        const Sample after(path, "after");
+        const QStringList obstacles = after.files.keys() + QStringList{"none/sign.json", "."};
         for (const QString& obstacle : obstacles) {
             init();
-            if (obstacle.isEmpty()) // a folder that is not there
-                path = folder->Path("none/sign.json");
-            else // a folder where a file should be
+            QCOMPARE(Save(before), Storing::Saved);
+            const QStringList listing = folder->Listing();
+            if (after.files.contains(obstacle)) // a folder where a file should be
                 QVERIFY(QDir().mkdir(folder->Path(obstacle)));
-            QVERIFY(!Save(Sample(path, "a")));
+            else
+                path = folder->Path(obstacle);
+            QVERIFY(Save(after) != Storing::Saved);
             QVERIFY2(error.startsWith(folder->Path("")) && !error.contains('\n'),
                      qPrintable(error));
-            QCOMPARE(folder->Listing(), QStringList());
+            QCOMPARE(folder->Listing(), listing);
+            QVERIFY(Holds("sign.json", before));
         }
+    }
+
+    // A disk that is full after so many bytes: before, within and after the data files.
+    void fullDiskLosesNothing()
+    {
+        const Sample before(path, "before");
+        Sample after(path, "after");
+        after.scene.pages += after.scene.pages + after.scene.pages;
+        QCOMPARE(Save(before), Storing::Saved);
+        const QStringList listing = folder->Listing();
+        const int outlines = qMax(after.files.first().size(), after.files.last().size());
+        const int largest = SceneToJson(after.scene).size();
+        QVERIFY(outlines < largest);
+        for (int room : {0, 1, outlines - 1, outlines, largest - 1}) {
+            const int storing = End(Begin([&] {
+                signal(SIGXFSZ, SIG_IGN);
+                const rlimit limit{rlim_t(room), rlim_t(room)};
+                setrlimit(RLIMIT_FSIZE, &limit);
+                return Save(after);
+            }));
+            QVERIFY2(storing == int(Storing::Failed), qPrintable(QString::number(room)));
+            QVERIFY(Holds("sign.json", before));
+            folder->Remove(".animtext.lock");
+            QCOMPARE(folder->Listing(), listing);
+        }
+    }
+
+    void whatCannotBeReadIsNotWritten_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("content"); // of the file before
+        QTest::addColumn<int>("width");          // of the display; 0 takes the last row's list
+        QTest::addColumn<QString>("complaint");
+        const auto row = [](const char* file, const char* content, int width,
+                            const char* complaint) {
+            QTest::addRow("%s %s %d", file, content, width)
+                << QString(file) << QByteArray(content) << width << QString(complaint);
+        };
+        row("film.gif", "", 100, "ends in .json");
+        row("film.gif", "GIF89a", 100, "ends in .json");
+        row("sign.json", "{", 100, "no valid JSON");
+        row("sign.json", "{\"a\": 1}", 100, "unknown key");
+        row("sign.json", "", 16385, "$.display.width: expected");
+        row("sign.json", "", 0, "lists.TextWidth: found 3 rows");
+    }
+
+    void whatCannotBeReadIsNotWritten()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, content);
+        QFETCH(int, width);
+        QFETCH(QString, complaint);
+        path = folder->Write(file, content);
+        Sample sample(path, "text");
+        if (width == 0)
+            sample.Node().lists["TextWidth"].removeLast();
+        else
+            sample.scene.display.setWidth(width);
+        QCOMPARE(Save(sample), Storing::Refused);
+        QVERIFY2(error.contains(complaint) && error.startsWith(path), qPrintable(error));
+        QCOMPARE(folder->Read(file), content);
+        QCOMPARE(folder->Listing(), QStringList(file));
+    }
+
+    // Mistakes that are there already do not keep others from being mended.
+    void oldMistakesMayStay()
+    {
+        const auto change = [this](const QString& key, int value) {
+            return ChangeScene(
+                path,
+                [&](Scene* scene, DataFiles*, QString*) {
+                    scene->pages[0].areas[0].nodes[0].attributes[key] = value;
+                    return true;
+                },
+                &error);
+        };
+        Sample sample(path, "text");
+        QCOMPARE(Save(sample), Storing::Saved);
+        sample.Node().attributes["AnimationSpeed"] = 12;
+        folder->Write("sign.json", SceneToJson(sample.scene));
+        QCOMPARE(change("PlayTimes", 3), Storing::Saved);
+        QCOMPARE(change("AnimationEffect", 30), Storing::Refused);
+        QVERIFY(folder->Read("sign.json").contains("\"PlayTimes\": 3"));
+    }
+
+    void linksAreFollowed()
+    {
+        QVERIFY(QDir().mkdir(folder->Path("real")) &&
+                QFile::link("real/sign.json", folder->Path("middle.json")) &&
+                QFile::link(folder->Path("middle.json"), folder->Path("link.json")));
+        const QString real = folder->Path("real/sign.json");
+        for (const char* text : {"dangling", "replaced"}) {
+            path = real;
+            const Sample sample(real, text);
+            path = folder->Path("link.json");
+            QCOMPARE(Save(sample), Storing::Saved);
+            Scene read;
+            QVERIFY2(ReadScene(path, &read, &error), qPrintable(error));
+            QVERIFY(Holds("real/sign.json", sample));
+            QCOMPARE(QDir(folder->Path("real")).entryList(QDir::Files | QDir::Hidden).size(), 3);
+        }
+        QVERIFY(QFileInfo(path).isSymLink());
+    }
+
+    void everyWriterIsHeard()
+    {
+        const int writers = 12;
+        QList<pid_t> children;
+        for (int i = 0; i < writers; ++i) {
+            children.append(Begin([&] {
+                Sample own(path, QString(QChar('a' + i)));
+                return ChangeScene(
+                    path,
+                    [&](Scene* scene, DataFiles* files, QString*) {
+                        scene->display = own.scene.display;
+                        scene->pages += own.scene.pages;
+                        *files = own.files;
+                        return true;
+                    },
+                    &error);
+            }));
+        }
+        for (pid_t child : children)
+            QCOMPARE(End(child), int(Storing::Saved));
+        Scene scene;
+        QVERIFY2(ReadScene(path, &scene, &error), qPrintable(error));
+        QStringList texts;
+        for (const SceneNode* node : scene.Nodes())
+            texts.append(node->attributes["Text"].toString());
+        texts.sort();
+        QCOMPARE(texts.join(""), QString("abcdefghijkl"));
+        QCOMPARE(folder->Listing().size(), 2 + writers); // they share their outlines
+    }
+
+    // A writer that was killed leaves its lock, or a lock that it has not written anything into.
+    void staleLocksAreTakenOver()
+    {
+        const pid_t dead = Begin([] { return 0; });
+        QCOMPARE(End(dead), 0);
+        const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
+        folder->Write(".animtext.lock", QByteArray::number(dead) + "\ntst\n" + host + '\n');
+        QCOMPARE(Save(Sample(path, "one")), Storing::Saved);
+        Age(folder->Write(".animtext.lock", ""));
+        QCOMPARE(Save(Sample(path, "two")), Storing::Saved);
+        QVERIFY(!folder->Listing().contains(".animtext.lock"));
     }
 
     void killedBeforeEachSystemCall()
@@ -133,8 +318,8 @@ private slots:
         int calls = 0;
         for (; ending == Ending::Killed && calls < 10000; ++calls) {
             for (const QString& file : folder->Listing())
-                QFile::remove(folder->Path(file));
-            QVERIFY(Save(before));
+                file.endsWith("lock") ? Age(folder->Path(file)) : folder->Remove(file);
+            QCOMPARE(Save(before), Storing::Saved);
             ending = RunAndKill(calls, [&] { Save(after); });
             if (ending == Ending::Untraceable)
                 QSKIP("processes cannot be traced here");
@@ -145,38 +330,33 @@ private slots:
         QVERIFY2(calls > 20, qPrintable(QString::number(calls))); // or nothing was written at all
     }
 
-    // ANIMTEXT_KILLS=500 kills that often.
-    void killedAtRandom()
-    {
-        const QList<Sample> samples{Sample(path, "one"), Sample(path, "two"),
-                                    Sample(path, "three")};
-        QVERIFY(Save(samples.first()));
-        QRandomGenerator random(4711);
-        const int kills = qMax(20, qEnvironmentVariableIntValue("ANIMTEXT_KILLS"));
-        for (int kill = 0; kill < kills; ++kill) {
-            int next = random.bounded(samples.size());
-            const Ending ending = RunAndKill(random.bounded(600), [&] {
-                for (;;)
-                    Save(samples.at(next++ % samples.size()));
-            });
-            if (ending == Ending::Untraceable)
-                QSKIP("processes cannot be traced here");
-            QVERIFY(std::any_of(samples.begin(), samples.end(), [this](const Sample& sample) {
-                return Holds("sign.json", sample);
-            }));
-        }
-    }
-
 private:
     /** Whether the scene file is that of @p sample and its data files are whole. */
     bool Holds(const QString& name, const Sample& sample) const
     {
+        const QString at = name.section('/', 0, -2, QString::SectionIncludeTrailingSep);
         bool holds = folder->Read(name) == SceneToJson(sample.scene);
         for (auto file = sample.files.begin(); file != sample.files.end(); ++file)
-            holds = holds && folder->Read(file.key()) == file.value();
+            holds = holds && folder->Read(at + file.key()) == file.value();
         return holds;
     }
-    bool Save(const Sample& sample) { return SaveScene(sample.scene, sample.files, &error); }
+    Storing Save(const Sample& sample)
+    {
+        const auto change = [&](Scene* scene, DataFiles* files, QString*) {
+            *scene = sample.scene;
+            *files = sample.files;
+            return true;
+        };
+        return ChangeScene(path, change, &error);
+    }
+    static void Age(const QString& file)
+    {
+        QFile old(file);
+        if (!old.open(QIODevice::ReadWrite) ||
+            !old.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                             QFileDevice::FileModificationTime))
+            qFatal("the test cannot make %s older", qPrintable(file));
+    }
 
     QScopedPointer<TestFolder> folder;
     QString path;

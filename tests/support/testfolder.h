@@ -36,6 +36,7 @@ public:
         QFile file(Path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
+    void Remove(const QString& name) const { QFile::remove(Path(name)); }
     /** The files, hidden ones too. */
     QStringList Listing() const { return Entries(QDir::Files); }
     /** The files and folders. */

@@ -1,4 +1,5 @@
 #include "author/author.h"
+#include "author/places.h"
 
 #include "animtext/commands.h"
 #include "animtext/filenames.h"
@@ -63,33 +64,29 @@ QByteArray Summary(const QString& path, const AuthorOptions& options, const Auth
         .toUtf8();
 }
 
-/** The scene that the text is added to. */
-Scene BaseScene(const CommandLine& line)
+/** The scene file to write. */
+QString ScenePath(const CommandLine& line)
 {
-    Scene base;
-    base.path = line.Value("output");
-    if (!base.path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
-        throw Misuse{QStringLiteral("%1: expected a name that ends with .json").arg(base.path)};
-    if (!IsUtf8(base.path))
+    const QString path = line.Value("output");
+    if (!IsUtf8(path))
         throw Misuse{QStringLiteral("%1: expected UTF-8, for the scene names its data files after "
                                     "itself")
-                         .arg(base.path)};
+                         .arg(path)};
+    return path;
+}
+
+void Store(const QString& path, const SceneChange& change)
+{
     QString error;
-    Scene existing;
-    const bool exists = QFileInfo(base.path).isFile();
-    if (exists && !ReadScene(base.path, &existing, &error, MissingFiles::AreAccepted))
-        throw Failure{BadInput, QStringLiteral("%1; it is left as it is").arg(error)};
-    if (exists && line.IsSet("append"))
-        base = existing;
-    if (line.IsSet("no-alpha"))
-        base.alphaBlend = false;
-    return base;
+    const Storing storing = ChangeScene(path, change, &error);
+    if (storing != Storing::Saved)
+        throw Failure{storing == Storing::Refused ? BadInput : FailedRun, error};
 }
 
 int WriteScene(const CommandLine& line)
 {
     QStringList notes;
-    const Scene base = BaseScene(line);
+    const QString path = ScenePath(line);
     const AuthorOptions options = ReadWishes(line, &notes);
     for (const QString& note : notes)
         Warn(note);
@@ -99,12 +96,23 @@ int WriteScene(const CommandLine& line)
     if (!AuthorNode(options, &authored, &error))
         throw Failure{BadInput, error};
     WatchForInterruption();
-    const QSize display = line.IsSet("display") ? line.Size("display") : QSize();
-    if (!SaveAuthored(authored, base, display, &error))
-        throw Failure{FailedRun, error};
+    Destination destination;
+    if (line.IsSet("display"))
+        destination.display = line.Size("display");
+    const auto change = [&](Scene* scene, DataFiles* dataFiles, QString* why) {
+        if (!line.IsSet("append")) {
+            scene->pages.clear();
+            scene->display = QSize();
+            scene->alphaBlend = true;
+        }
+        if (line.IsSet("no-alpha"))
+            scene->alphaBlend = false;
+        return PutAuthored(authored, destination, scene, dataFiles, why);
+    };
+    Store(path, change);
     TellUnseen(authored.unseen, options.text);
-    TellFindings(base.path);
-    Print(Summary(base.path, options, authored));
+    TellFindings(path);
+    Print(Summary(path, options, authored));
     return Done;
 }
 

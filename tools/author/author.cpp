@@ -2,7 +2,6 @@
 
 #include "author/glyphfiles.h"
 #include "author/placement.h"
-#include "author/scenestore.h"
 #include "text/limits.h"
 #include "text/pagedivision.h"
 
@@ -201,28 +200,6 @@ bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* e
         authored->pages = PageStartsForward(text.widths, area.width()).size() - 1;
     authored->unseen = UnseenCharacters(options.text, line);
     return true;
-}
-
-bool SaveAuthored(const AuthoredNode& authored, const Scene& base, QSize display, QString* error)
-{
-    SceneNode node = authored.node;
-    const QString paths = DataFileName(base.path, authored.pathFile, QStringLiteral("path"));
-    const QString descents =
-        DataFileName(base.path, authored.descentFile, QStringLiteral("descent"));
-    node.files[QStringLiteral("PathData")] = paths;
-    node.files[QStringLiteral("DescentVector")] = descents;
-
-    Scene scene = base;
-    if (scene.pages.isEmpty())
-        scene.pages.append(ScenePage());
-    scene.pages.first().areas.append(SceneArea{{node}});
-    if (!display.isEmpty()) {
-        scene.display = display;
-    } else {
-        scene.display = scene.display.expandedTo(
-            QSize(node.pos.x() + node.size.width(), node.pos.y() + node.size.height()));
-    }
-    return SaveScene(scene, {{paths, authored.pathFile}, {descents, authored.descentFile}}, error);
 }
 
 } // namespace AnimText

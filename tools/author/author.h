@@ -69,13 +69,6 @@ bool ToOneLine(QString* text, QStringList* notes, QString* error);
  */
 bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* error);
 
-/**
- * Adds @p authored to the nodes of @p base, which may be empty, and writes the whole to the path of
- * @p base. The display becomes @p display or, when that is empty,
- * grows to hold the node's area. @sa SaveScene()
- */
-bool SaveAuthored(const AuthoredNode& authored, const Scene& base, QSize display, QString* error);
-
 } // namespace AnimText
 
 #endif

@@ -1,5 +1,8 @@
 #include "author/scenestore.h"
 
+#include "author/folderlock.h"
+#include "validate/validate.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -8,47 +11,12 @@
 #include <QSaveFile>
 #include <QStringList>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
+#include <algorithm>
 
 namespace AnimText {
 namespace {
 
 const int digestLength = 16; // hexadecimal digits: no two texts of one folder will share them
-
-/**
- * The folder of a scene, held by one writer at a time. The lock goes with the process, so a killed
- * writer leaves none. Where a file system knows no locks, writers merely take their chances.
- */
-class FolderLock
-{
-public:
-    explicit FolderLock(const QString& folder)
-        : descriptor(
-              open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-    {
-        if (descriptor >= 0)
-            flock(descriptor, LOCK_EX);
-    }
-    ~FolderLock()
-    {
-        if (descriptor >= 0)
-            close(descriptor);
-    }
-
-    /** Names that were made, replaced or removed in the folder reach the disk. */
-    void Sync() const
-    {
-        if (descriptor >= 0)
-            fsync(descriptor);
-    }
-
-private:
-    Q_DISABLE_COPY(FolderLock)
-
-    const int descriptor;
-};
 
 bool Holds(const QString& path, const QByteArray& content)
 {
@@ -60,7 +28,9 @@ bool Holds(const QString& path, const QByteArray& content)
 bool Write(const QString& path, const QByteArray& content, QString* error)
 {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    // commit() alone does not notice that its last bytes found no room, and keeps the torso.
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
+        file.commit())
         return true;
     *error = QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
     return false;
@@ -81,13 +51,12 @@ QStringList NamedDataFiles(const QString& path)
     return names;
 }
 
-/** Removes the data files @p candidates that neither @p path nor another scene beside it names. */
-void RemoveUnnamed(const QString& path, const QStringList& candidates)
+/** Removes the data files @p candidates that no scene of @p folder names. */
+void RemoveUnnamed(const QDir& folder, const QStringList& candidates)
 {
     if (candidates.isEmpty())
         return;
-    const QDir folder = QFileInfo(path).dir();
-    QStringList named = NamedDataFiles(path);
+    QStringList named;
     for (const QString& scene : folder.entryList({QStringLiteral("*.json")}, QDir::Files))
         named += NamedDataFiles(folder.filePath(scene));
     for (const QString& name : candidates) {
@@ -95,6 +64,88 @@ void RemoveUnnamed(const QString& path, const QStringList& candidates)
             QFile::remove(folder.filePath(name));
     }
 }
+
+/** The first mistake among @p after that is an error and not among @p before, or nothing. */
+QString NewMistake(const QList<Finding>& before, const QList<Finding>& after)
+{
+    for (const Finding& finding : after) {
+        const bool known = std::any_of(before.begin(), before.end(), [&](const Finding& old) {
+            return old.rule == finding.rule && old.found == finding.found;
+        });
+        if (finding.rule->severity == Severity::Error && !known)
+            return QStringLiteral("%1: found %2, expected %3")
+                .arg(finding.place, finding.found, finding.expected);
+    }
+    return QString();
+}
+
+/** One change of one scene, under the lock of its folder. */
+class Store
+{
+public:
+    Store(const QString& path, const FolderLock& lock)
+        : path(path)
+        , folder(QFileInfo(path).dir())
+        , lock(lock)
+    {
+    }
+
+    Storing Change(const SceneChange& change, QString* error)
+    {
+        Scene scene;
+        scene.path = path;
+        // An empty file is where somebody made room for a scene.
+        const bool isThere = QFileInfo(path).size() > 0;
+        if (isThere && !ReadScene(path, &scene, error, MissingFiles::AreAccepted))
+            return Storing::Refused;
+        const QList<Finding> before = isThere ? ValidateScene(scene) : QList<Finding>();
+        const QStringList filesBefore = NamedDataFiles(path);
+        DataFiles dataFiles;
+        if (!change(&scene, &dataFiles, error))
+            return Storing::Refused;
+        const Storing storing = Write(scene, before, dataFiles, error);
+        if (storing == Storing::Saved) {
+            lock.Sync();
+            RemoveUnnamed(folder, filesBefore);
+        } else {
+            for (const QString& file : made)
+                QFile::remove(file);
+        }
+        return storing;
+    }
+
+private:
+    Storing Write(const Scene& scene, const QList<Finding>& before, const DataFiles& dataFiles,
+                  QString* error)
+    {
+        for (auto file = dataFiles.begin(); file != dataFiles.end(); ++file) {
+            const QString place = folder.filePath(file.key());
+            if (Holds(place, file.value()))
+                continue;
+            if (!QFileInfo::exists(place))
+                made.append(place);
+            if (!AnimText::Write(place, file.value(), error))
+                return Storing::Failed;
+        }
+        lock.Sync(); // the scene must not reach the disk before the files that it names
+
+        const QByteArray json = SceneToJson(scene);
+        Scene read;
+        if (!ReadSceneText(json, path, &read, error, MissingFiles::AreErrors))
+            return Storing::Refused;
+        const QString mistake = NewMistake(before, ValidateScene(read));
+        if (!mistake.isEmpty()) {
+            *error = QStringLiteral("%1: %2").arg(path, mistake);
+            return Storing::Refused;
+        }
+        return AnimText::Write(path, json, error) ? Storing::Saved : Storing::Failed;
+    }
+
+    const QString path;
+    const QDir folder;
+    const FolderLock& lock;
+    QStringList made; // files that were not there
+};
 
 } // namespace
 
@@ -105,39 +156,25 @@ QString DataFileName(const QString& scenePath, const QByteArray& content, const 
            QString::fromLatin1(digest.left(digestLength)) + QLatin1Char('.') + suffix;
 }
 
-bool SaveScene(const Scene& scene, const QMap<QString, QByteArray>& dataFiles, QString* error)
+Storing ChangeScene(const QString& path, const SceneChange& change, QString* error)
 {
-    const QString& path = scene.path;
-    const QFileInfo info(path);
+    const QString file = RealPath(path);
+    const QFileInfo info(file);
     const QDir folder = info.dir();
-    if (info.isDir() || !folder.exists()) {
-        *error = info.isDir()
-                     ? QStringLiteral("%1: is a folder; a file name was expected").arg(path)
-                     : QStringLiteral("%1: there is no folder %2").arg(path, folder.path());
-        return false;
-    }
-    const FolderLock lock(folder.absolutePath());
-    const QStringList before = NamedDataFiles(path);
-
-    QStringList made;
-    bool written = true;
-    for (auto file = dataFiles.begin(); written && file != dataFiles.end(); ++file) {
-        const QString place = folder.filePath(file.key());
-        if (Holds(place, file.value()))
-            continue;
-        if (!QFileInfo::exists(place))
-            made.append(place);
-        written = Write(place, file.value(), error);
-    }
-    lock.Sync(); // the scene must not reach the disk before the files that it names
-    if (!written || !Write(path, SceneToJson(scene), error)) {
-        for (const QString& place : made)
-            QFile::remove(place);
-        return false;
-    }
-    lock.Sync();
-    RemoveUnnamed(path, before);
-    return true;
+    const auto refuse = [&](const QString& why) {
+        *error = QStringLiteral("%1: %2").arg(path, why);
+        return Storing::Refused;
+    };
+    if (info.isDir())
+        return refuse(QStringLiteral("is a folder; a file name was expected"));
+    if (info.suffix().toLower() != QLatin1String("json"))
+        return refuse(QStringLiteral("expected a name that ends in .json"));
+    if (!folder.exists())
+        return refuse(QStringLiteral("there is no folder %1").arg(folder.path()));
+    FolderLock lock(folder.absolutePath());
+    if (!lock.Take(error))
+        return Storing::Failed;
+    return Store(file, lock).Change(change, error);
 }
 
 } // namespace AnimText

@@ -1,6 +1,6 @@
 /**
  * @file
- * Writing a scene with its data files so that nobody ever finds half of it.
+ * Changing a scene and its data files so that nobody ever finds half of it.
  */
 #ifndef ANIMTEXT_SCENESTORE_H
 #define ANIMTEXT_SCENESTORE_H
@@ -11,23 +11,43 @@
 #include <QMap>
 #include <QString>
 
+#include <functional>
+
 namespace AnimText {
 
 /**
  * The name for a data file of the scene at @p scenePath: the scene's own, a digest of @p content
- * and
- * @p suffix. Other content has another name, so that a scene never meets the data of another one.
+ * and @p suffix. Other content has another name, so that a scene never meets the data of another.
  */
 QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix);
 
+/** Content of new data files by name; they lie beside the scene. */
+using DataFiles = QMap<QString, QByteArray>;
+
 /**
- * Writes @p scene to its path and @p dataFiles (content by name) beside it. The data files come
- * first, the scene last and at once: killed at any moment, what stands there is the old scene
- * or the new one, and its files are there. Data files made by DataFileName() that the replaced
- * scene named and that no scene in the folder names any more are removed. On failure answers false
- * with one line in @p error and leaves nothing new behind.
+ * Changes a scene, which is empty and has no display when the file is not there yet. Answers false,
+ * with one line in the error, when it will not.
  */
-bool SaveScene(const Scene& scene, const QMap<QString, QByteArray>& dataFiles, QString* error);
+using SceneChange = std::function<bool(Scene* scene, DataFiles* dataFiles, QString* error)>;
+
+enum class Storing {
+    Saved,
+    Refused, ///< what was asked for cannot be, or what is there is no scene
+    Failed,  ///< the disk did not take it
+};
+
+/**
+ * Reads the scene at @p path, lets @p change work on it and writes it back, all in one step: other
+ * writers in the folder wait. A symbolic link is followed; data files lie beside the file itself.
+ *
+ * Nothing is written that no tool could read, nor anything with mistakes that were not there
+ * before. The name must end in ".json", and a file that is there and is no scene stays. The data
+ * files come first, the scene last and at once: killed at any moment, what stands there is the old
+ * scene or the new one, and its files are there. Data files made by DataFileName() that the
+ * replaced scene named and that no scene in the folder names any more are removed. Unless Saved,
+ * @p error has one line on it and nothing new is left behind.
+ */
+Storing ChangeScene(const QString& path, const SceneChange& change, QString* error);
 
 } // namespace AnimText
 

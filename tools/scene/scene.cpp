@@ -17,11 +17,20 @@ QList<const SceneNode*> Scene::Nodes() const
     return nodes;
 }
 
+QString RealPath(const QString& path)
+{
+    constexpr int mostLinks = 40; // as the kernel follows
+    QFileInfo file(path);
+    for (int links = 0; file.isSymLink() && links < mostLinks; ++links)
+        file.setFile(file.symLinkTarget());
+    return file.filePath();
+}
+
 QString Scene::FullName(const QString& file) const
 {
     if (file.isEmpty())
         return QString();
-    const QDir folder = QFileInfo(path).absoluteDir();
+    const QDir folder = QFileInfo(RealPath(path)).absoluteDir();
     return QDir::cleanPath(folder.absoluteFilePath(file));
 }
 

@@ -50,7 +50,8 @@ struct Scene
 
     /** Every node, in the order of the file. */
     QList<const SceneNode*> Nodes() const;
-    /** @p file as a full path, relative names being relative to the scene's folder. */
+    /** @p file as a full path, relative names being relative to the folder of the scene's file,
+        also where its path is a symbolic link to it. */
     QString FullName(const QString& file) const;
 };
 
@@ -65,6 +66,12 @@ bool ReadScene(const QString& path, Scene* scene, QString* error);
 /** What the tools do about a file that a scene names and that is not there. */
 enum class MissingFiles { AreErrors, AreAccepted };
 bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing);
+/** The same for @p text, which is or will be what the file holds. */
+bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
+                   MissingFiles missing);
+
+/** The file that @p path leads to where it is a symbolic link, else @p path itself. */
+QString RealPath(const QString& path);
 
 /** The scene as the text of a scene file. */
 QByteArray SceneToJson(const Scene& scene);

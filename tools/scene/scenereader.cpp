@@ -337,17 +337,31 @@ QJsonObject Parse(const QByteArray& text)
     return document.object();
 }
 
-} // namespace
-
-bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing)
+/** Reads what @p bytes answers. */
+template <typename Bytes>
+bool ReadFrom(const Bytes& bytes, const QString& path, Scene* scene, QString* error,
+              MissingFiles missing)
 {
     try {
-        *scene = Reader(path, missing).Read(Parse(ReadBytes(path)));
+        *scene = Reader(path, missing).Read(Parse(bytes()));
         return true;
     } catch (const Fault& fault) {
         *error = path + OnOneLine(fault.text);
         return false;
     }
+}
+
+} // namespace
+
+bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing)
+{
+    return ReadFrom([&] { return ReadBytes(path); }, path, scene, error, missing);
+}
+
+bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
+                   MissingFiles missing)
+{
+    return ReadFrom([&] { return text; }, path, scene, error, missing);
 }
 
 bool ReadScene(const QString& path, Scene* scene, QString* error)

@@ -10,10 +10,14 @@ QList<Finding> ValidateScene(const QString& path)
     QString error;
     if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
         return {{RuleFor("scene-unreadable"), QString(), error, QStringLiteral("a scene file")}};
+    return ValidateScene(scene);
+}
+
+QList<Finding> ValidateScene(const Scene& scene)
+{
     if (scene.Nodes().isEmpty())
         return {{RuleFor("scene-empty"), QStringLiteral("$.pages"), QStringLiteral("no nodes"),
                  QStringLiteral("one or more")}};
-
     QList<Finding> findings;
     for (int p = 0; p < scene.pages.size(); ++p) {
         for (int a = 0; a < scene.pages[p].areas.size(); ++a) {

@@ -5,6 +5,8 @@
 #ifndef ANIMTEXT_VALIDATE_H
 #define ANIMTEXT_VALIDATE_H
 
+#include "scene/scene.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -37,6 +39,8 @@ struct Finding
 
 /** The mistakes in the scene file @p path, in the order of the file. Clean scenes have none. */
 QList<Finding> ValidateScene(const QString& path);
+/** The same for a scene that is or will be in the file @c scene.path. */
+QList<Finding> ValidateScene(const Scene& scene);
 
 /** The findings on the scene @p path for people, a few lines each. */
 QByteArray FindingsAsText(const QString& path, const QList<Finding>& findings);

@@ -1,0 +1,136 @@
+#include "author/places.h"
+
+#include "scene/catalogue.h"
+#include "scene/schema.h"
+#include "scene/suggest.h"
+
+#include <QColor>
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace AnimText {
+namespace {
+
+/** What is wrong with a value. */
+struct Fault
+{
+    QString text;
+};
+
+/** The command line's names for what the scene file calls otherwise. */
+const QMap<QString, QString>& Aliases()
+{
+    static const QMap<QString, QString> aliases = {
+        {QStringLiteral("effect"), QStringLiteral("AnimationEffect")},
+        {QStringLiteral("scroll"), QStringLiteral("ContinueStyle")},
+        {QStringLiteral("plays"), QStringLiteral("PlayTimes")},
+        {QStringLiteral("hollow"), QStringLiteral("Hollow")},
+        {QStringLiteral("color"), QStringLiteral("Color")}};
+    return aliases;
+}
+
+int Number(const QString& key, const QString& value)
+{
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    if (!isNumber)
+        throw Fault{QStringLiteral("%1 takes a whole number, not \"%2\"").arg(key, value)};
+    return number;
+}
+
+bool Scrolls(const SceneNode& node)
+{
+    return node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
+}
+
+/** Motions of one kind set the text in the same way. */
+int Kind(bool scrolls, int motion)
+{
+    return scrolls ? 2 + motion / 2 : motion == 1 ? 1 : 0;
+}
+
+void SetMotion(SceneNode* node, const QString& key, const QString& value)
+{
+    const bool scroll = key == QLatin1String("ContinueStyle");
+    const Motion* motion = scroll ? FindScroll(value) : FindEffect(value);
+    for (const Motion& known : AnimText::Scrolls()) {
+        if (scroll && value == QString::number(known.number))
+            motion = &known;
+    }
+    if (!motion)
+        throw Fault{QStringLiteral("there is no %1 \"%2\"")
+                        .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value)};
+    const bool scrolls = Scrolls(*node);
+    const int old = node->attributes.value(scrolls ? QStringLiteral("ContinueStyle") : key).toInt();
+    if (scroll != scrolls || Kind(scroll, motion->number) != Kind(scrolls, old))
+        throw Fault{QStringLiteral("%1 sets the text in another way; lay it out anew with "
+                                   "animtext author --replace")
+                        .arg(QLatin1String(motion->name))};
+    node->attributes[key] = motion->number;
+}
+
+void SetColor(SceneNode* node, const QString& value)
+{
+    const QColor color(value);
+    if (!color.isValid() || color.alpha() != 255)
+        throw Fault{QStringLiteral("there is no colour \"%1\"; expected a name or #rrggbb%2")
+                        .arg(value, DidYouMean(value, QColor::colorNames()))};
+    for (auto& row : node->lists[QStringLiteral("TextAttribute")])
+        row[QStringLiteral("Color")] = QString::number(int(color.rgb() & 0xFFFFFF));
+}
+
+void SetPos(SceneNode* node, const QString& value)
+{
+    static const QRegularExpression pair(QStringLiteral("^(-?\\d{1,7}),(-?\\d{1,7})$"));
+    const QRegularExpressionMatch match = pair.match(value);
+    if (!match.hasMatch())
+        throw Fault{QStringLiteral("pos takes two whole numbers like 16,0, not \"%1\"").arg(value)};
+    node->pos = QPoint(match.captured(1).toInt(), match.captured(2).toInt());
+}
+
+QStringList Known()
+{
+    QStringList keys = NumberAttributeKeys() + Aliases().keys();
+    keys += {QStringLiteral("speed"), QStringLiteral("hold"), QStringLiteral("pos"),
+             QStringLiteral("neonEffect"), QStringLiteral("Color")};
+    keys.removeAll(QStringLiteral("EffectType"));
+    return keys;
+}
+
+void Set(SceneNode* node, const QString& word, const QString& value)
+{
+    const QString key = Aliases().value(word, word);
+    if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
+        SetMotion(node, key, value);
+    else if (key == QLatin1String("Color"))
+        SetColor(node, value);
+    else if (key == QLatin1String("pos"))
+        SetPos(node, value);
+    else if (key == QLatin1String("hold"))
+        node->hold = Number(word, value);
+    else if (key == QLatin1String("neonEffect"))
+        node->neonEffect = Number(word, value);
+    else if (key == QLatin1String("speed"))
+        node->attributes[Scrolls(*node) ? QStringLiteral("ContinueSpeed")
+                                        : QStringLiteral("AnimationSpeed")] = Number(word, value);
+    else if (Known().contains(key))
+        node->attributes[key] = Number(word, value);
+    else
+        throw Fault{QStringLiteral("%1 cannot be set; expected one of %2%3")
+                        .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()))};
+}
+
+} // namespace
+
+bool SetValue(SceneNode* node, const QString& key, const QString& value, QString* error)
+{
+    try {
+        Set(node, key, value);
+        return true;
+    } catch (const Fault& fault) {
+        *error = fault.text;
+        return false;
+    }
+}
+
+} // namespace AnimText
