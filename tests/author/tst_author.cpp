@@ -2,14 +2,19 @@
 
 #include "author/author.h"
 #include "author/placement.h"
+#include "text/glyphdata.h"
 #include "text/pagedivision.h"
 
+#include <QBuffer>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <numeric>
+
+Q_DECLARE_METATYPE(AnimText::Align)
 
 using namespace AnimText;
 
@@ -23,6 +28,35 @@ QFont Font(int pixels)
     QFont font("DejaVu Sans");
     font.setPixelSize(pixels);
     return font;
+}
+
+StyledText Plain(const QString& text, const QFont& font)
+{
+    StyledText plain;
+    plain.Append(text, {0, font, Qt::red});
+    return plain;
+}
+
+ShapedLine Shape(const QString& text, int pixels)
+{
+    return ShapeLine(Plain(text, Font(pixels)));
+}
+
+PlacedText Place(const QString& text, const ShapedLine& line, Arrangement arrangement,
+                 int width = 0)
+{
+    Setting setting;
+    setting.arrangement = arrangement;
+    setting.area = QSize(width, 100);
+    setting.keepsWords = false;
+    return PlaceText(text, line, setting);
+}
+
+/** First unit of each page, and the number of units, as the sign divides them. */
+QVector<int> SignsPages(const QVector<int>& widths, int area, bool fromEnd)
+{
+    return fromEnd ? Lw::HNodeAnimationText::PageStartsBackward(widths, area)
+                   : Lw::HNodeAnimationText::PageStartsForward(widths, area);
 }
 
 int Sum(const QVector<int>& values)
@@ -75,6 +109,61 @@ int Strays(const QImage& a, const QImage& b)
     return strays;
 }
 
+const QSize area(300, 90);
+
+struct Wish
+{
+    QString text;
+    QFont font;
+    int motion; // 30 for the first scroll
+    Align align;
+    VAlign valign;
+    int padding;
+    bool keepsWords = true;
+};
+
+/** An authored text as the sign will have it. */
+struct Authored : PlacedText
+{
+    QVector<int> starts; // of the pages, and the number of units
+    AuthoredNode all;
+};
+
+Authored Author(const Wish& wish)
+{
+    AuthorOptions options;
+    options.text = wish.text;
+    options.font = wish.font;
+    options.mode = wish.motion == 30 ? Mode::Scroll : Mode::Entrance;
+    options.motion = wish.motion % 30;
+    options.area = area;
+    options.align = wish.align;
+    options.valign = wish.valign;
+    options.padding = wish.padding;
+    options.keepsWords = wish.keepsWords;
+    Authored authored;
+    QString error;
+    if (!AuthorNode(options, &authored.all, &error))
+        qFatal("%s", qPrintable(error));
+    const SceneNode& node = authored.all.node;
+    authored.text = node.attributes["Text"].toString();
+    for (const auto& row : node.lists["TextWidth"])
+        authored.widths.append(row["text_width"].toInt());
+    for (const auto& row : node.lists["TextHeight"])
+        authored.heights.append(row["text_height"].toInt());
+    QBuffer paths(&authored.all.pathFile);
+    QBuffer descents(&authored.all.descentFile);
+    paths.open(QIODevice::ReadOnly);
+    descents.open(QIODevice::ReadOnly);
+    authored.outlines =
+        Lw::HNodeAnimationText::OutlinesFrom(Lw::HNodeAnimationText::ReadGlyphData(paths));
+    authored.descents =
+        Lw::HNodeAnimationText::DescentsFrom(Lw::HNodeAnimationText::ReadGlyphData(descents));
+    authored.tornWords = authored.all.tornWords;
+    authored.starts = SignsPages(authored.widths, area.width(), wish.motion == 1);
+    return authored;
+}
+
 } // namespace
 
 class tst_author : public QObject
@@ -85,12 +174,13 @@ private slots:
     void oneLine()
     {
         // The line and the number of notes on it; 0 and nothing when it is refused.
-        const auto line = [](QString text) {
+        const auto line = [](const QString& text) {
             QStringList notes;
             QString error;
-            const bool accepted = ToOneLine(&text, &notes, &error);
+            StyledText styled = Plain(text, Font(10));
+            const bool accepted = ToOneLine(&styled, &notes, &error);
             return accepted == error.isEmpty()
-                       ? (accepted ? text : "") + QString::number(notes.size())
+                       ? (accepted ? styled.text : "") + QString::number(notes.size())
                        : QString("contradiction");
         };
         QCOMPARE(line(" a  b "), QString(" a  b 0"));
@@ -114,8 +204,7 @@ private slots:
                                                              {"بَبِ", {0, 2}},
                                                              {"a\u200Db", {0, 2}}};
         for (const auto& [text, firsts] : cases) {
-            const PlacedText placed =
-                PlaceText(ShapeLine(text, Font(40)), Arrangement::Line, 0, Bar());
+            const PlacedText placed = Place(text, Shape(text, 40), Arrangement::Line);
             QCOMPARE(placed.descents.size(), text.size());
             for (int i = 0; i < text.size(); ++i) {
                 const bool isFirst = firsts.contains(i);
@@ -154,7 +243,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(int, pixels);
         const QFont font = Font(pixels);
-        const PlacedText placed = PlaceText(ShapeLine(text, font), Arrangement::Line, 0, Bar());
+        const PlacedText placed = Place(text, Shape(text, pixels), Arrangement::Line);
         const int width = Sum(placed.widths);
         QCOMPARE(width, qRound(QFontMetricsF(font).horizontalAdvance(text)));
 
@@ -168,35 +257,165 @@ private slots:
         QVERIFY2(holes <= text.size(), qPrintable(QString::number(holes)));
     }
 
-    void pagesReadFromRightToLeft()
+    void pages_data()
     {
-        const ShapedLine line = ShapeLine(arabic, Font(40));
-        for (Arrangement arrangement : {Arrangement::Pages, Arrangement::PagesFromEnd}) {
-            const PlacedText placed = PlaceText(line, arrangement, 260, Bar());
-            const QVector<int> starts = arrangement == Arrangement::Pages
-                                            ? Lw::HNodeAnimationText::PageStartsForward(placed.widths, 260)
-                                            : Lw::HNodeAnimationText::PageStartsBackward(placed.widths, 260);
-            QVERIFY(starts.size() > 2);
-            for (const Cluster& cluster : line.clusters) {
-                // Each next letter stands to the left of all that were read before it.
-                const int i = cluster.first;
-                const int p =
-                    int(std::upper_bound(starts.begin(), starts.end(), i) - starts.begin());
-                const int left = Sum(placed.widths.mid(i + 1, starts[p] - i - 1));
-                const int at = Sum(placed.widths.mid(starts[p - 1], i - starts[p - 1]));
-                QVERIFY(at + placed.widths[i] + left <= 260);
-                const QRectF wanted = cluster.shape.boundingRect().translated(left - at, 0);
-                const QRectF seen = placed.outlines[i].boundingRect();
-                if (!seen.isEmpty())
-                    QVERIFY(qAbs(seen.center().x() - wanted.center().x()) < 3);
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("motion");
+        QTest::addColumn<Align>("align");
+        QTest::addColumn<int>("padding");
+        const QPair<const char*, QString> texts[] = {
+            {"Latin", "Abfahrt nach Zürich HB  um 14:05 von Gleis 7, Halt in Aarau"},
+            {"hyphens", "Dampf-schiff-fahrts-gesell-schafts-kapitän"},
+            {"Arabic", arabic},
+            {"both", "Hello שלום עולם und ابجد هوز mehr Text שלום ab"}};
+        for (const auto& [name, text] : texts) {
+            for (int motion : {4, 1, 11, 24, 28}) {
+                const auto row = [&, name = name, text = text](const char* how, Align align,
+                                                               int padding) {
+                    QTest::addRow("%s %d %s %d", name, motion, how, padding)
+                        << text << motion << align << padding;
+                };
+                row("", Align::Natural, 0);
+                row("left", Align::Left, 7);
+                row("center", Align::Center, 0);
+                row("center", Align::Center, 30);
+                row("right", Align::Right, 5);
             }
         }
     }
 
+    // Cut as the sign cuts them, pages end where words end, are as full as can be, and show at rest
+    // what the toolkit makes of their words, in the right place.
+    void pages()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, motion);
+        QFETCH(Align, align);
+        QFETCH(int, padding);
+        const QFont font = Font(40);
+        const int room = area.width() - 2 * padding;
+        const Authored authored = Author({text, font, motion, align, VAlign::Middle, padding});
+        const bool fromEnd = motion == 1;
+        const bool rightToLeft = text.isRightToLeft();
+        QVERIFY(authored.tornWords.isEmpty());
+        QString all;
+        QString before;
+        for (int p = 0; p + 1 < authored.starts.size(); ++p) {
+            const int begin = authored.starts[p];
+            const int end = authored.starts[p + 1];
+            const QString page = authored.text.mid(begin, end - begin).trimmed();
+            const int pageWidth = Sum(authored.widths.mid(begin, end - begin));
+            QVERIFY(pageWidth <= area.width());
+            const auto advance = [&](const QString& words) {
+                return qRound(QFontMetricsF(font).horizontalAdvance(words));
+            };
+            QVERIFY(advance(page) <= room + 1);
+            if (p > 0) { // another word would not have fitted
+                const int next = fromEnd ? -1 : 0;
+                static const QRegularExpression gaps("(?<=[ -])(?=\\S)");
+                const QString word = (fromEnd ? before : page)
+                                         .split(gaps)
+                                         .at(next < 0 ? before.split(gaps).size() - 1 : 0)
+                                         .trimmed();
+                const QString full = fromEnd ? word + ' ' + page : before + ' ' + word;
+                QVERIFY2(advance(full) + 26 > room, qPrintable(full));
+            }
+            before = page;
+            all += page;
+
+            Align seen = align;
+            if (align == Align::Natural)
+                seen = fromEnd || rightToLeft ? Align::Right : Align::Left;
+            const int left = seen == Align::Left    ? padding
+                             : seen == Align::Right ? area.width() - padding - advance(page)
+                                                    : (area.width() - advance(page)) / 2;
+            const int first = fromEnd ? area.width() - pageWidth : 0;
+            const QImage shown =
+                Painted(AtRest(authored, begin, end).translated(first, 0), area.width());
+            const QPainterPath wanted =
+                ByToolkit(QChar(rightToLeft ? 0x200F : 0x200E) + page, font).translated(left, 0);
+            QCOMPARE(Strays(shown, Painted(wanted, area.width(), 2)), 0);
+            QCOMPARE(
+                Strays(Painted(wanted, area.width()),
+                       Painted(AtRest(authored, begin, end).translated(first, 0), area.width(), 2)),
+                0);
+        }
+        QCOMPARE(all.remove(' '), QString(text).remove(' '));
+    }
+
+    // What turns or stretches a character needs it in its own place, and paces that go by the
+    // widest character need no wider spaces.
+    void turningCharactersStandInTheirPlaces()
+    {
+        for (int motion = 0; motion < 30; ++motion) {
+            const bool turns =
+                QVector<int>{7, 9, 10, 11, 12, 13, 17, 18, 21, 24, 26, 27, 28, 29}.contains(motion);
+            for (const QString text : {"Hallo Welt, hier und dort", "漢字仮名交文は語間無し"}) {
+                const Authored authored =
+                    Author({text, Font(40), motion, Align::Center, VAlign::Middle, 0});
+                QVERIFY(authored.starts.size() > 2);
+                int odd = 0;
+                for (int i = 0; i < authored.text.size(); ++i) {
+                    const QRectF ink = authored.outlines[i].boundingRect();
+                    odd +=
+                        !ink.isEmpty() && (ink.left() < -3 || ink.right() > authored.widths[i] + 3)
+                            ? 1
+                            : 0;
+                    odd += !authored.text[i].isSpace() && authored.widths[i] > 50 ? 1 : 0;
+                }
+                QCOMPARE(odd == 0, turns);
+                QCOMPARE(authored.text != text, turns);
+                const bool even = motion == 21 || motion == 24;
+                const int widest =
+                    *std::max_element(authored.widths.begin(), authored.widths.end());
+                QVERIFY(!even || widest <= 50);
+            }
+        }
+    }
+
+    void placesFromTopToBottom()
+    {
+        for (int motion : {1, 4, 5, 11, 23, 30}) { // 30 stands for scrolling
+            for (VAlign valign : {VAlign::Top, VAlign::Middle, VAlign::Bottom}) {
+                const Authored authored =
+                    Author({"Hxg Ä", Font(30), motion, Align::Natural, valign, 6});
+                const int height =
+                    *std::max_element(authored.heights.begin(), authored.heights.end());
+                const int baseline = area.height() / 2 + height / 2 - authored.descents[0];
+                const LineSize line = MeasureLine(Plain("Hxg", Font(30)));
+                const int middle = (area.height() - line.ascent - line.descent) / 2;
+                const int top = valign == VAlign::Top ? 6
+                                : valign == VAlign::Middle
+                                    ? middle
+                                    : area.height() - 6 - line.ascent - line.descent;
+                QVERIFY(qAbs(baseline - line.ascent - top) <= 1);
+                if (valign == VAlign::Top && (motion == 5 || motion == 23)) // waves up to the top
+                    QCOMPARE(height - authored.descents[0], line.ascent);
+                if (motion == 11) // turns about the letters' middle
+                    QCOMPARE(height, line.ascent + line.descent);
+            }
+        }
+    }
+
+    void wideWordsAreTorn()
+    {
+        const Authored authored = Author({"in Donaudampfschifffahrtsgesellschaft an W", Font(40), 4,
+                                          Align::Natural, VAlign::Middle, 0});
+        QCOMPARE(authored.tornWords, QStringList("Donaudampfschifffahrtsgesellschaft"));
+        QCOMPARE(authored.text.mid(authored.starts[1]).left(5), QString("Donau"));
+        const Authored torn = Author({"aaaa bbbb cccc dddd eeee ffff", Font(40), 4, Align::Natural,
+                                      VAlign::Middle, 0, false});
+        QVERIFY(torn.tornWords.isEmpty());
+        QVERIFY(torn.text.at(torn.starts[1] - 1) != ' ' && torn.text.at(torn.starts[1]) != ' ');
+        QCOMPARE(torn.outlines, Author({"aaaa bbbb cccc dddd eeee ffff", Font(40), 4, Align::Left,
+                                        VAlign::Middle, 0, false})
+                                    .outlines);
+    }
+
     void columnStandsInItsOwnPlaces()
     {
-        const ShapedLine line = ShapeLine("fi " + arabic, Font(40));
-        const PlacedText placed = PlaceText(line, Arrangement::Column, 100, Bar());
+        const ShapedLine line = Shape("fi " + arabic, 40);
+        const PlacedText placed = Place("fi " + arabic, line, Arrangement::Column, 100);
         for (const Cluster& cluster : line.clusters)
             QCOMPARE(placed.outlines[cluster.first], cluster.shape);
         QCOMPARE(Sum(placed.heights), line.clusters.size() * (line.ascent + line.descent));
@@ -205,8 +424,10 @@ private slots:
     void underlineHasNoGap()
     {
         const QString text = "gy fi " + arabic;
-        const PlacedText placed =
-            PlaceText(ShapeLine(text, Font(60)), Arrangement::Line, 0, Bar{5, 3});
+        ShapedLine line = Shape(text, 60);
+        for (Cluster& cluster : line.clusters)
+            cluster.underline = Bar{5, 3};
+        const PlacedText placed = Place(text, line, Arrangement::Line);
         const int width = Sum(placed.widths);
         const QImage shown = Painted(AtRest(placed, 0, text.size()), width);
         for (int y : {155, 156, 157}) {

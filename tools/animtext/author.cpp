@@ -4,6 +4,7 @@
 #include "animtext/commands.h"
 #include "animtext/filenames.h"
 #include "animtext/interruption.h"
+#include "animtext/storing.h"
 #include "animtext/wishes.h"
 #include "scene/catalogue.h"
 #include "validate/validate.h"
@@ -14,12 +15,12 @@ namespace AnimText {
 
 namespace {
 
-constexpr int mostUnseen = 5; // characters that are told one by one
+constexpr int mostTold = 5; // characters, or words, that are told one by one
 
 /** Says which characters the sign will not show. */
 void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
 {
-    for (const UnseenCharacter& character : unseen.mid(0, mostUnseen)) {
+    for (const UnseenCharacter& character : unseen.mid(0, mostTold)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
         Warn(QStringLiteral("character %1, \"%2\" (U+%3), leaves a gap: %4")
                  .arg(text.leftRef(character.index).toUcs4().size() + 1)
@@ -28,15 +29,32 @@ void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
                       character.missing ? QStringLiteral("no installed font has it")
                                         : QStringLiteral("its font has a picture, no outline")));
     }
-    if (unseen.size() > mostUnseen)
-        Warn(QStringLiteral("%1 more characters leave gaps").arg(unseen.size() - mostUnseen));
+    if (unseen.size() > mostTold)
+        Warn(QStringLiteral("%1 more characters leave gaps").arg(unseen.size() - mostTold));
 }
 
-/** Says what validating would, but for the characters that leave gaps. */
+/** Says what of the letters will not be seen as it should. */
+void TellLosses(const AuthoredNode& authored)
+{
+    if (!authored.tornWords.isEmpty())
+        Warn(QStringLiteral("%1 wider than a page and torn: %2%3")
+                 .arg(authored.tornWords.size() == 1
+                          ? QStringLiteral("a word is")
+                          : QStringLiteral("%1 words are").arg(authored.tornWords.size()),
+                      authored.tornWords.mid(0, mostTold).join(QStringLiteral(", ")),
+                      authored.tornWords.size() > mostTold ? QStringLiteral(" ...") : QString()));
+    if (authored.cutAbove > 0 || authored.cutBelow > 0)
+        Warn(QStringLiteral("letters are cut off: %1 pixels above the area and %2 below; --fit "
+                            "height makes them fit")
+                 .arg(authored.cutAbove)
+                 .arg(authored.cutBelow));
+}
+
+/** Says what validating would, but for what was told by the letters themselves. */
 void TellFindings(const QString& path)
 {
     for (const Finding& finding : ValidateScene(path)) {
-        if (finding.rule != RuleFor("outline-empty"))
+        if (finding.rule != RuleFor("outline-empty") && finding.rule != RuleFor("text-high"))
             Warn(QStringLiteral("%1: found %2, expected %3. %4")
                      .arg(QLatin1String(finding.rule->code), finding.found, finding.expected,
                           QLatin1String(finding.rule->why)));
@@ -75,19 +93,44 @@ QString ScenePath(const CommandLine& line)
     return path;
 }
 
-void Store(const QString& path, const SceneChange& change)
+/** Where the text goes; its area is that of the text beside which it comes, unless one was given.
+ */
+Destination ReadDestination(const CommandLine& line, const QString& path, AuthorOptions* options)
 {
-    QString error;
-    const Storing storing = ChangeScene(path, change, &error);
-    if (storing != Storing::Saved)
-        throw Failure{storing == Storing::Refused ? BadInput : FailedRun, error};
+    Destination destination;
+    if (line.IsSet("display"))
+        destination.display = line.Size("display");
+    if (line.IsSet("page"))
+        destination.page = line.Number("page");
+    if (line.IsSet("in-area"))
+        destination.area = line.Number("in-area");
+    if (line.IsSet("replace"))
+        destination.instead = line.Value("replace");
+    if (!destination.instead.isEmpty() && (line.IsSet("page") || line.IsSet("in-area")))
+        throw Misuse{QStringLiteral("--replace excludes --page and --in-area")};
+    if (line.IsSet("in-area") && !line.IsSet("area")) {
+        Scene scene;
+        QString error;
+        if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
+            throw Failure{BadInput, error};
+        for (const Place& place : Places(scene)) {
+            if (place.page + 1 == destination.page && place.area + 1 == destination.area) {
+                options->area = NodeAt(&scene, place).size;
+                if (!line.IsSet("pos"))
+                    options->pos = NodeAt(&scene, place).pos;
+                break;
+            }
+        }
+    }
+    return destination;
 }
 
 int WriteScene(const CommandLine& line)
 {
     QStringList notes;
     const QString path = ScenePath(line);
-    const AuthorOptions options = ReadWishes(line, &notes);
+    AuthorOptions options = ReadWishes(line, &notes);
+    const Destination destination = ReadDestination(line, path, &options);
     for (const QString& note : notes)
         Warn(note);
 
@@ -96,11 +139,10 @@ int WriteScene(const CommandLine& line)
     if (!AuthorNode(options, &authored, &error))
         throw Failure{BadInput, error};
     WatchForInterruption();
-    Destination destination;
-    if (line.IsSet("display"))
-        destination.display = line.Size("display");
+    const bool adds = line.IsSet("append") || line.IsSet("page") || line.IsSet("in-area") ||
+                      line.IsSet("replace");
     const auto change = [&](Scene* scene, DataFiles* dataFiles, QString* why) {
-        if (!line.IsSet("append")) {
+        if (!adds) {
             scene->pages.clear();
             scene->display = QSize();
             scene->alphaBlend = true;
@@ -109,8 +151,9 @@ int WriteScene(const CommandLine& line)
             scene->alphaBlend = false;
         return PutAuthored(authored, destination, scene, dataFiles, why);
     };
-    Store(path, change);
+    StoreScene(path, change);
     TellUnseen(authored.unseen, options.text);
+    TellLosses(authored);
     TellFindings(path);
     Print(Summary(path, options, authored));
     return Done;

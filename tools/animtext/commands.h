@@ -12,7 +12,11 @@ namespace AnimText {
 Command AuthorCommand();
 Command DurationCommand();
 Command EffectsCommand();
+Command FontsCommand();
+Command ListCommand();
+Command RemoveCommand();
 Command RenderCommand();
+Command SetCommand();
 Command SheetCommand();
 Command SoakCommand();
 Command TraceCommand();

@@ -68,9 +68,10 @@ const QVector<Command>& Commands()
             {},
             Complete,
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
-        commands = {AuthorCommand(), RenderCommand(),   SheetCommand(),
-                    TraceCommand(),  DurationCommand(), ValidateCommand(),
-                    SoakCommand(),   EffectsCommand(),  completion};
+        commands = {AuthorCommand(),   ListCommand(),  SetCommand(),     RemoveCommand(),
+                    RenderCommand(),   SheetCommand(), TraceCommand(),   DurationCommand(),
+                    ValidateCommand(), SoakCommand(),  EffectsCommand(), FontsCommand(),
+                    completion};
         Command help{"help",
                      "tells of a command",
                      "[COMMAND]",

@@ -1,17 +1,16 @@
 #include "animtext/wishes.h"
 
 #include "animtext/values.h"
+#include "author/fonts.h"
+#include "author/styledtext.h"
 #include "scene/catalogue.h"
-#include "scene/suggest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QTextCodec>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -21,47 +20,11 @@ namespace {
 
 constexpr int smallestSize = 4; // pixels
 constexpr int largestSize = 2000;
+constexpr int standardSize = 48; // pixels, of marked text
 constexpr int largestSide = 16384;
 constexpr int most = 1000000;     // plays, holds and the like
 constexpr int holdUnit = 100;     // milliseconds
 constexpr int lastDrawnNeon = 28; // neon styles above show a picture
-
-/** "; did you mean X?" with the shortest that holds @p word, else with the closest, or nothing. */
-QString DidYouMeanOneOf(const QString& word, const QStringList& known)
-{
-    const QStringList holders = known.filter(word, Qt::CaseInsensitive);
-    const auto shortest =
-        std::min_element(holders.begin(), holders.end(),
-                         [](const QString& a, const QString& b) { return a.size() < b.size(); });
-    return shortest == holders.end() || word.isEmpty() ? DidYouMean(word, known)
-                                                       : DidYouMean(*shortest, known);
-}
-
-QString FamilyFromFile(const QString& file)
-{
-    const int id = QFontDatabase::addApplicationFont(file);
-    const QString family = QFontDatabase::applicationFontFamilies(id).value(0);
-    if (family.isEmpty())
-        throw Misuse{QStringLiteral("%1: no font can be read from it").arg(file)};
-    return family;
-}
-
-QString FontFamily(const QString& wish, bool isStandard)
-{
-    static const QStringList generic{QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
-                                     QStringLiteral("Serif"), QStringLiteral("Monospace")};
-    const QStringList families = QFontDatabase().families();
-    if (families.isEmpty())
-        throw Misuse{QStringLiteral("no fonts are installed; apt-get install fonts-dejavu-core")};
-    if (QFileInfo(wish).isFile())
-        return FamilyFromFile(wish);
-    if ((families + generic).contains(wish, Qt::CaseInsensitive))
-        return wish;
-    if (isStandard)
-        return QGuiApplication::font().family();
-    throw Misuse{QStringLiteral("there is no font family \"%1\"%2")
-                     .arg(wish, DidYouMeanOneOf(wish, families))};
-}
 
 QString ReadText(const CommandLine& line)
 {
@@ -88,13 +51,65 @@ QString ReadText(const CommandLine& line)
 
 QFont ReadFont(const CommandLine& line)
 {
-    QFont font(FontFamily(line.Value("font"), !line.IsSet("font")));
+    QString family;
+    QString error;
+    if (!FindFamily(line.Value("font"), &family, &error)) {
+        if (line.IsSet("font") || FontFamilies().isEmpty())
+            throw Misuse{error};
+        family = QGuiApplication::font().family(); // the standard one is not installed here
+    }
+    QFont font(family);
     if (line.IsSet("size"))
         font.setPixelSize(line.Number("size"));
     font.setBold(line.IsSet("bold"));
     font.setItalic(line.IsSet("italic"));
     font.setUnderline(line.IsSet("underline"));
     return font;
+}
+
+/** Reads the text, with its marks, after the font, the colour and the motion. */
+void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList* notes)
+{
+    const QString words = ReadText(line);
+    QString error;
+    StyledText text;
+    StyleRun base{0, options->font, options->color};
+    if (line.IsSet("markup")) {
+        if (!line.IsSet("size"))
+            base.font.setPixelSize(standardSize);
+        if (!ParseMarkup(words, base, &text, notes, &error))
+            throw Misuse{error};
+        const bool isColumn = options->mode == Mode::Scroll && options->motion >= 2;
+        if (!line.IsSet("size") && !text.sized && !isColumn)
+            options->fit = Fit::Height;
+    } else {
+        text.Append(words, base);
+    }
+    if (!ToOneLine(&text, notes, &error))
+        throw Misuse{error};
+    options->text = text.text;
+    options->styles = text.runs;
+}
+
+void ReadPlacing(const CommandLine& line, AuthorOptions* options)
+{
+    const bool isScroll = options->mode == Mode::Scroll;
+    if (line.IsSet("fit")) {
+        options->fit = line.Choice("fit") == 0 ? Fit::Height : Fit::Both;
+        if (line.IsSet("size") || !line.IsSet("area"))
+            throw Misuse{QStringLiteral("--fit needs --area and excludes --size")};
+        if (isScroll && options->fit == Fit::Both)
+            throw Misuse{QStringLiteral("--fit both is for texts that stand; --scroll moves them")};
+    }
+    if (line.IsSet("align")) {
+        options->align = Align(int(Align::Left) + line.Choice("align"));
+        if (isScroll && options->motion < 2)
+            throw Misuse{QStringLiteral("--align is for texts that stand; this one scrolls "
+                                        "sideways")};
+    }
+    options->valign = VAlign(line.Choice("valign"));
+    options->padding = line.Number("padding");
+    options->keepsWords = !line.IsSet("tear-words");
 }
 
 QStringList EffectNames()
@@ -135,7 +150,9 @@ QString FileForScene(const CommandLine& line, const char* option)
     const QFileInfo file(name);
     if (!file.isFile())
         throw Misuse{QStringLiteral("--%1: there is no file %2").arg(QLatin1String(option), name)};
-    return QFileInfo(line.Value("output")).dir().relativeFilePath(file.absoluteFilePath());
+    return QFileInfo(RealPath(line.Value("output")))
+        .dir()
+        .relativeFilePath(file.absoluteFilePath());
 }
 
 void ReadBackground(const CommandLine& line, AuthorOptions* options)
@@ -185,6 +202,9 @@ QVector<Option> WishOptions()
         Option::Flag("italic", "Slanted letters."),
         Option::Flag("underline", "A bar under the text."),
         Option::Color("color", "The text's color, a name or #rrggbb.").Or("#ffa000"),
+        Option::Flag("markup",
+                     "The text has tags: <b>, <i>, <u>, <font face= size= color=>; or it is HTML "
+                     "out of an editor."),
         Option::Flag("hollow", "Outlined letters."),
         Option::Text("effect", "NAME|N", "The entrance effect (animtext effects lists them all).")
             .Or("4")
@@ -199,6 +219,17 @@ QVector<Option> WishOptions()
         Option::Size("area", largestSide,
                      "The area's size in pixels; 512 wide and as high as the text."),
         Option::Point("pos", "Where the area lies on the display.").Or("0,0"),
+        Option::Choice("fit", "WHAT", {QStringLiteral("height"), QStringLiteral("both")},
+                       "As large as fits the area's height, or height and width on one page."),
+        Option::Choice("align", "WHERE",
+                       {QStringLiteral("left"), QStringLiteral("center"), QStringLiteral("right")},
+                       "Where each page's text stands; where its reading begins."),
+        Option::Choice("valign", "WHERE",
+                       {QStringLiteral("top"), QStringLiteral("middle"), QStringLiteral("bottom")},
+                       "Where the line stands between top and bottom.")
+            .Or("middle"),
+        Option::Number("padding", 0, largestSide, "Pixels that stay free at each side.").Or("0"),
+        Option::Flag("tear-words", "Pages end anywhere, not only where words end."),
         Option::Size("display", largestSide, "The display's size in pixels; just what is needed."),
         Option::Flag("no-alpha",
                      "Layers of 24 bits with a color key, for devices without alpha blending."),
@@ -209,19 +240,24 @@ QVector<Option> WishOptions()
         Option::File("picture", "FILE", "A picture for the dazzle background."),
         Option::Number("neon", 0, most, "A neon border; above 28 the pictures of --neon-picture."),
         Option::File("neon-picture", "FILE", "An animated picture for the neon background."),
-        Option::Flag("append", "Adds the text to the scene that is there.")};
+        Option::Flag("append", "Adds the text to the scene that is there."),
+        Option::Number("page", 1, most,
+                       "The page that it is added to; one more than there are makes a new one."),
+        Option::Number(
+            "in-area", 1, most,
+            "The area of that page that it is added to, and has its place and size from."),
+        Option::Text("replace", "PLACE",
+                     "Puts it in the place of another text (animtext list numbers them).")};
 }
 
 AuthorOptions ReadWishes(const CommandLine& line, QStringList* notes)
 {
     AuthorOptions options;
-    QString error;
-    options.text = ReadText(line);
-    if (!ToOneLine(&options.text, notes, &error))
-        throw Misuse{error};
     options.font = ReadFont(line);
     options.color = line.Color("color");
     ReadMotion(line, &options);
+    ReadStyledText(line, &options, notes);
+    ReadPlacing(line, &options);
     options.speed = line.Number("speed");
     options.hold = ReadHold(line);
     options.plays = line.Number("plays");

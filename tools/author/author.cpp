@@ -5,65 +5,81 @@
 #include "text/limits.h"
 #include "text/pagedivision.h"
 
-#include <QFontMetrics>
 #include <QtMath>
 
 #include <algorithm>
-#include <cmath>
+#include <climits>
+
+namespace AnimText {
 
 using namespace Lw::HNodeAnimationText;
 
-namespace AnimText {
 namespace {
 
 const int standardSize = 48;   // pixels
 const int standardWidth = 512; // pixels
 const int standardRows = 5;    // characters that an upright area shows
-const int smallestSize = 4;    // pixels: nothing smaller can be read
-const int largestSide = 16384; // pixels of an area, either way
 
-Arrangement ArrangementFor(const AuthorOptions& options)
-{
-    if (options.mode == Mode::Scroll)
-        return options.motion < 2 ? Arrangement::Line : Arrangement::Column;
-    return options.motion == 1 ? Arrangement::PagesFromEnd : Arrangement::Pages;
-}
+/** The effects by number, where the way in which they move decides how a text is set. */
+enum Effect {
+    FlyFromRight = 1,
+    FlyFromTop = 2,
+    Waves = 5,
+    BeforeAfterScale = 7,
+    Amplification = 9,
+    Narrow = 10,
+    Rotation = 11,
+    RotationTrundle = 12,
+    AngleRotation = 13,
+    AngleDrop = 17,
+    ZoomIn = 18,
+    RightToEnlarge = 21,
+    DiagonalMoves = 22,
+    RepeatTheWhereabouts = 23,
+    BothSidesToEnlarge = 24,
+    FlipsInto = 26,
+    RotateInto = 27,
+    TextZoom = 28,
+    Shake = 29,
+};
 
-int LineHeight(const QFont& font)
+Setting SettingFor(const AuthorOptions& options)
 {
-    const QFontMetrics metrics(font);
-    return metrics.ascent() + metrics.descent();
-}
-
-/** The largest size in which a line of the font is no higher than @p height. */
-int SizeThatFits(QFont font, int height)
-{
-    int size = qMax(smallestSize, height);
-    for (font.setPixelSize(size); size > smallestSize && LineHeight(font) > height;)
-        font.setPixelSize(--size);
-    return size;
-}
-
-int WidestOf(const QVector<int>& widths)
-{
-    return widths.isEmpty() ? 0 : *std::max_element(widths.begin(), widths.end());
+    // These turn or stretch a character sideways, about its own place or the page's middle.
+    static const QVector<int> turning = {
+        BeforeAfterScale, Amplification, Narrow,   Rotation,       RotationTrundle,
+        AngleRotation,    AngleDrop,     ZoomIn,   RightToEnlarge, BothSidesToEnlarge,
+        FlipsInto,        RotateInto,    TextZoom, Shake};
+    static const QVector<int> reaching = {FlyFromTop, Waves, ZoomIn, DiagonalMoves,
+                                          RepeatTheWhereabouts};
+    Setting setting;
+    setting.align = options.align;
+    setting.valign = options.valign;
+    setting.padding = options.padding;
+    setting.keepsWords = options.keepsWords;
+    if (options.mode == Mode::Scroll) {
+        setting.arrangement = options.motion < 2 ? Arrangement::Line : Arrangement::Column;
+        return setting;
+    }
+    setting.arrangement =
+        options.motion == FlyFromRight ? Arrangement::PagesFromEnd : Arrangement::Pages;
+    setting.needsPlaces = turning.contains(options.motion);
+    setting.needsEvenWidths =
+        options.motion == RightToEnlarge || options.motion == BothSidesToEnlarge;
+    setting.reachesTop = reaching.contains(options.motion);
+    return setting;
 }
 
 /** An area that suits the text when none was asked for. */
-QSize StandardArea(const PlacedText& text, int lineHeight, Arrangement arrangement)
+QSize StandardArea(const ShapedLine& line, Setting setting)
 {
-    if (arrangement == Arrangement::Column)
-        return QSize(2 * WidestOf(text.widths), standardRows * lineHeight);
-    return QSize(qMax(standardWidth, WidestOf(text.widths)), lineHeight + lineHeight % 2);
-}
-
-Bar UnderlineOf(const QFont& font)
-{
-    if (!font.underline())
-        return Bar();
-    const QFontMetricsF metrics(font);
-    const qreal height = qMax(1, qRound(metrics.lineWidth()));
-    return {qreal(qRound(metrics.underlinePos() - height / 2)), height};
+    const int height = line.ascent + line.descent + 2 * setting.padding;
+    int widest = 0;
+    for (const Cluster& cluster : line.clusters)
+        widest = qMax(widest, qCeil(cluster.advance));
+    if (setting.arrangement == Arrangement::Column)
+        return QSize(2 * widest + 2 * setting.padding, standardRows * height);
+    return QSize(qMax(standardWidth, widest + 2 * setting.padding), height + height % 2);
 }
 
 bool Showable(const PlacedText& text, QString* error)
@@ -83,6 +99,28 @@ bool Showable(const PlacedText& text, QString* error)
         }
     }
     return true;
+}
+
+/** The data file of the outlines must not be larger than the sign reads. */
+bool Readable(const PlacedText& text, QString* error)
+{
+    const qint64 most = (maxDataFileSize - 4) / 4 * 3; // bytes before Base64
+    qint64 bytes = 4;
+    int fitting = 0;
+    for (const QPainterPath& outline : text.outlines) {
+        const int elements = outline.elementCount();
+        bytes += 4 + (elements > 0 ? 20 * qint64(elements) + 8 : 0);
+        fitting += bytes <= most ? 1 : 0;
+    }
+    if (bytes <= most)
+        return true;
+    *error = QStringLiteral("the text is too long for the sign: its outlines take %1 MiB and the "
+                            "sign reads %2; its first %3 characters of %4 would fit")
+                 .arg((bytes / 3 * 4) >> 20)
+                 .arg(maxDataFileSize >> 20)
+                 .arg(fitting)
+                 .arg(text.outlines.size());
+    return false;
 }
 
 bool CanvasFits(const QSize& canvas, QString* error)
@@ -108,28 +146,33 @@ QList<QHash<QString, QString>> Rows(const QString& field, const QVector<int>& va
     return rows;
 }
 
-QList<QHash<QString, QString>> StyleRows(const QFont& font, const QColor& color, int count)
+QHash<QString, QString> StyleRow(const StyleRun& style)
 {
     const auto number = [](int value) { return QString::number(value); };
-    const int points = qMax(1, qRound(font.pixelSize() * 72 / 96.0));
-    const QHash<QString, QString> row = {
-        {QStringLiteral("fontName"), font.family()},
-        {QStringLiteral("fontSize"), number(points)},
-        {QStringLiteral("bold"), number(font.bold() ? 1 : 0)},
-        {QStringLiteral("italic"), number(font.italic() ? 1 : 0)},
-        {QStringLiteral("underline"), number(font.underline() ? 1 : 0)},
-        {QStringLiteral("Color"), number(int(color.rgb() & 0xFFFFFF))}};
+    const int points = qMax(1, qRound(style.font.pixelSize() * 72 / 96.0));
+    return {{QStringLiteral("fontName"), style.font.family()},
+            {QStringLiteral("fontSize"), number(points)},
+            {QStringLiteral("bold"), number(style.font.bold() ? 1 : 0)},
+            {QStringLiteral("italic"), number(style.font.italic() ? 1 : 0)},
+            {QStringLiteral("underline"), number(style.font.underline() ? 1 : 0)},
+            {QStringLiteral("Color"), number(int(style.color.rgb() & 0xFFFFFF))}};
+}
+
+QList<QHash<QString, QString>> StyleRows(const StyledText& text, const QVector<int>& units)
+{
+    QVector<QHash<QString, QString>> styles;
+    for (const StyleRun& run : text.runs)
+        styles.append(StyleRow(run));
     QList<QHash<QString, QString>> rows;
-    rows.reserve(count);
-    for (int i = 0; i < count; ++i)
-        rows.append(row);
+    rows.reserve(units.size());
+    for (int unit : units)
+        rows.append(styles[int(&text.At(unit) - text.runs.constData())]);
     return rows;
 }
 
 QMap<QString, QVariant> Attributes(const AuthorOptions& options)
 {
     QMap<QString, QVariant> attributes;
-    attributes[QStringLiteral("Text")] = options.text;
     attributes[QStringLiteral("EffectType")] = int(options.mode);
     attributes[QStringLiteral("PlayTimes")] = options.plays;
     const bool scrolls = options.mode == Mode::Scroll;
@@ -152,53 +195,97 @@ QMap<QString, QVariant> Attributes(const AuthorOptions& options)
     return attributes;
 }
 
+/** The text in its styles, at the sizes that were asked for. */
+StyledText Sized(const AuthorOptions& options, Arrangement arrangement)
+{
+    StyledText text;
+    text.text = options.text;
+    text.runs = options.styles;
+    if (text.runs.isEmpty())
+        text.runs = {{0, options.font, options.color}};
+    const bool isOpen = text.runs.first().font.pixelSize() <= 0;
+    for (StyleRun& run : text.runs) {
+        if (run.font.pixelSize() <= 0)
+            run.font.setPixelSize(standardSize);
+    }
+    if (options.area.isEmpty())
+        return text;
+    const bool fitsHeight = isOpen && arrangement != Arrangement::Column;
+    const QSize room = options.area - QSize(2 * options.padding, 2 * options.padding);
+    return Fitted(text,
+                  options.fit != Fit::None ? options.fit
+                  : fitsHeight             ? Fit::Height
+                                           : Fit::None,
+                  room);
+}
+
+/** By how much the outlines at rest reach out of an area of that height. */
+void MeasureCut(const PlacedText& text, int areaHeight, AuthoredNode* authored)
+{
+    const int highest = *std::max_element(text.heights.begin(), text.heights.end());
+    const int baseline = areaHeight / 2 + highest / 2 - text.descents.first();
+    for (const QPainterPath& outline : text.outlines) {
+        const QRectF ink = outline.boundingRect();
+        if (ink.isEmpty())
+            continue;
+        authored->cutAbove = qMax(authored->cutAbove, qCeil(-ink.top()) - baseline);
+        authored->cutBelow = qMax(authored->cutBelow, qCeil(ink.bottom()) + baseline - areaHeight);
+    }
+}
+
 } // namespace
 
 bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* error)
 {
-    QFont font = options.font;
-    const Arrangement arrangement = ArrangementFor(options);
-    const bool fits = font.pixelSize() > 0;
-    if (!fits && (options.area.isEmpty() || arrangement == Arrangement::Column))
-        font.setPixelSize(standardSize);
-    else if (!fits)
-        font.setPixelSize(SizeThatFits(font, options.area.height()));
+    Setting setting = SettingFor(options);
+    if (!options.area.isEmpty() &&
+        2 * options.padding >= qMin(options.area.width(), options.area.height())) {
+        *error = QStringLiteral("a padding of %1 pixels leaves nothing of an area of %2 x %3")
+                     .arg(options.padding)
+                     .arg(options.area.width())
+                     .arg(options.area.height());
+        return false;
+    }
+    const StyledText text = Sized(options, setting.arrangement);
+    const ShapedLine line = ShapeLine(text);
+    setting.area = options.area.isEmpty() ? StandardArea(line, setting) : options.area;
+    const PlacedText placed = PlaceText(text.text, line, setting);
 
-    const ShapedLine line = ShapeLine(options.text, font);
-    const int lineHeight = line.ascent + line.descent;
-    QSize area = options.area;
-    if (area.isEmpty())
-        area =
-            StandardArea(PlaceText(line, Arrangement::Column, 0, Bar()), lineHeight, arrangement);
-    const PlacedText text = PlaceText(line, arrangement, area.width(), UnderlineOf(font));
-
-    int width = 0;
-    for (int w : text.widths)
+    qint64 width = 0;
+    for (int w : placed.widths)
         width += w;
-    if (!CanvasFits(arrangement == Arrangement::Line ? QSize(width, area.height()) : area, error) ||
-        !Showable(text, error))
+    const bool isLine = setting.arrangement == Arrangement::Line;
+    const QSize canvas =
+        isLine ? QSize(int(qMin(width, qint64(INT_MAX))), setting.area.height()) : setting.area;
+    if (!CanvasFits(canvas, error) || !Showable(placed, error) || !Readable(placed, error))
         return false;
 
     SceneNode& node = authored->node;
     node.pos = options.pos;
-    node.size = area;
+    node.size = setting.area;
     node.hold = options.hold;
     node.neonEffect = qMax(0, options.neon);
     node.attributes = Attributes(options);
-    node.lists[QStringLiteral("TextWidth")] = Rows(QStringLiteral("text_width"), text.widths);
-    node.lists[QStringLiteral("TextHeight")] = Rows(QStringLiteral("text_height"), text.heights);
-    node.lists[QStringLiteral("TextAttribute")] =
-        StyleRows(font, options.color, options.text.size());
+    node.attributes[QStringLiteral("Text")] = placed.text;
+    node.lists[QStringLiteral("TextWidth")] = Rows(QStringLiteral("text_width"), placed.widths);
+    node.lists[QStringLiteral("TextHeight")] = Rows(QStringLiteral("text_height"), placed.heights);
+    node.lists[QStringLiteral("TextAttribute")] = StyleRows(text, placed.source);
     if (!options.picture.isEmpty())
         node.files[QStringLiteral("FillImage")] = options.picture;
     if (!options.neonPicture.isEmpty())
         node.files[QStringLiteral("NeonGifPath")] = options.neonPicture;
-    authored->pathFile = PathFile(text.outlines);
-    authored->descentFile = DescentFile(text.descents);
-    authored->textSize = QSize(width, lineHeight);
+    authored->pathFile = PathFile(placed.outlines);
+    authored->descentFile = DescentFile(placed.descents);
+    qreal advance = 0;
+    for (const Cluster& cluster : line.clusters)
+        advance += cluster.advance;
+    authored->textSize = QSize(qRound(advance), line.ascent + line.descent);
     if (options.mode == Mode::Entrance)
-        authored->pages = PageStartsForward(text.widths, area.width()).size() - 1;
-    authored->unseen = UnseenCharacters(options.text, line);
+        authored->pages = PageStartsForward(placed.widths, setting.area.width()).size() - 1;
+    if (setting.arrangement != Arrangement::Column)
+        MeasureCut(placed, setting.area.height(), authored);
+    authored->tornWords = placed.tornWords;
+    authored->unseen = UnseenCharacters(text.text, line);
     return true;
 }
 

@@ -5,7 +5,10 @@
 #ifndef ANIMTEXT_AUTHOR_H
 #define ANIMTEXT_AUTHOR_H
 
+#include "author/fit.h"
+#include "author/placement.h"
 #include "author/shaping.h"
+#include "author/styledtext.h"
 #include "scene/scene.h"
 
 #include <QColor>
@@ -29,8 +32,16 @@ enum class Dazzle { Off, Plain, Linear, Radial, Conical };
 struct AuthorOptions
 {
     QString text;
-    QFont font; ///< family, weight, slant and underline; the size in pixels, or -1 to fit the area
+    QFont font; ///< family, weight, slant and underline; the size in pixels, or -1 for 48, or to
+                ///< fit the height of the area where one is given
     QColor color = QColor(255, 160, 0);
+    QVector<StyleRun> styles; ///< of the characters; empty for all in font and color. The sign
+                              ///< paints all of them in the colour of the first one
+    Fit fit = Fit::None;      ///< other than None needs an area and changes the sizes
+    Align align = Align::Natural;
+    VAlign valign = VAlign::Middle;
+    int padding = 0;        ///< pixels that stay free at each side of the area
+    bool keepsWords = true; ///< pages end where words end
     Mode mode = Mode::Entrance;
     int motion = 4; ///< number of the entrance effect, or of the scroll
     int speed = 5;  ///< 0 slowest .. 9 fastest
@@ -54,14 +65,10 @@ struct AuthoredNode
     QSize textSize;         ///< of the laid-out line, pixels
     int pages = 1;          ///< pages that the sign cuts the text into
     QList<UnseenCharacter> unseen;
+    QStringList tornWords; ///< words that are wider than a page
+    int cutAbove = 0;      ///< pixels by which letters at rest reach out of the area
+    int cutBelow = 0;
 };
-
-/**
- * @p text as one line: line breaks and tabs become spaces, one line break at the end is dropped.
- * @param notes takes a line on each kind of change
- * @return false when it holds what cannot be shown, and then @p error has one line on it
- */
-bool ToOneLine(QString* text, QStringList* notes, QString* error);
 
 /**
  * Lays out what @p options ask for. Needs a QGuiApplication.

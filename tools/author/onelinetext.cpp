@@ -1,6 +1,4 @@
-#include "author/author.h"
-
-#include <QStringList>
+#include "author/styledtext.h"
 
 namespace AnimText {
 namespace {
@@ -21,32 +19,27 @@ bool IsLineBreak(QChar unit)
 
 } // namespace
 
-bool ToOneLine(QString* text, QStringList* notes, QString* error)
+bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
 {
-    text->replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    if (!text->isEmpty() && IsLineBreak(text->back()))
-        text->chop(1);
-    if (text->trimmed().isEmpty()) {
-        *error = QStringLiteral("expected a text, found %1")
-                     .arg(text->isEmpty() ? QStringLiteral("none") : QStringLiteral("only blanks"));
-        return false;
-    }
-
+    StyledText line;
+    line.sized = text->sized;
     int breaks = 0;
     int tabs = 0;
-    for (int i = 0; i < text->size(); ++i) {
-        const QChar unit = text->at(i);
-        const bool paired =
-            unit.isHighSurrogate() && i + 1 < text->size() && text->at(i + 1).isLowSurrogate();
-        if (IsLineBreak(unit)) {
-            ++breaks;
-            (*text)[i] = QLatin1Char(' ');
-        } else if (unit == QLatin1Char('\t')) {
-            ++tabs;
-            (*text)[i] = QLatin1Char(' ');
-        } else if (paired) {
-            ++i;
-        } else if (unit.isSurrogate() || unit.category() == QChar::Other_Control) {
+    const QString& units = text->text;
+    for (int i = 0; i < units.size(); ++i) {
+        const QChar unit = units.at(i);
+        const QChar next = i + 1 < units.size() ? units.at(i + 1) : QChar();
+        if (unit == QLatin1Char('\r') && next == QLatin1Char('\n'))
+            continue;
+        const bool paired = unit.isHighSurrogate() && next.isLowSurrogate();
+        const bool isBreak = IsLineBreak(unit);
+        const bool isTab = unit == QLatin1Char('\t');
+        if (isBreak && i + 1 == units.size())
+            break;
+        breaks += isBreak ? 1 : 0;
+        tabs += isTab ? 1 : 0;
+        if (!isBreak && !isTab && !paired &&
+            (unit.isSurrogate() || unit.category() == QChar::Other_Control)) {
             *error = QStringLiteral("character %1 of the text, U+%2, cannot be shown")
                          .arg(i + 1)
                          .arg(QString::number(unit.unicode(), 16)
@@ -54,7 +47,17 @@ bool ToOneLine(QString* text, QStringList* notes, QString* error)
                                   .rightJustified(4, QLatin1Char('0')));
             return false;
         }
+        line.Append(isBreak || isTab ? QStringLiteral(" ") : units.mid(i, paired ? 2 : 1),
+                    text->At(i));
+        i += paired ? 1 : 0;
     }
+    if (line.text.trimmed().isEmpty()) {
+        *error =
+            QStringLiteral("expected a text, found %1")
+                .arg(line.text.isEmpty() ? QStringLiteral("none") : QStringLiteral("only blanks"));
+        return false;
+    }
+    *text = line;
     if (breaks > 0)
         notes->append(breaks == 1 ? QStringLiteral("a line break became a space")
                                   : QStringLiteral("%1 line breaks became spaces").arg(breaks));

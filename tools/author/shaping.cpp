@@ -2,7 +2,7 @@
 
 #include "author/seams.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QHash>
 #include <QRawFont>
@@ -29,6 +29,32 @@ QTextOption Option(QTextOption::WrapMode wrap)
     return option;
 }
 
+/** The text with its styles, not laid out yet. */
+void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* layout)
+{
+    QVector<QTextLayout::FormatRange> formats;
+    for (int r = 0; r < text.runs.size(); ++r) {
+        const int begin = text.runs[r].begin;
+        const int end = r + 1 < text.runs.size() ? text.runs[r + 1].begin : text.text.size();
+        QTextCharFormat format;
+        format.setFont(text.runs[r].font);
+        formats.append({begin, end - begin, format});
+    }
+    layout->setText(text.text);
+    layout->setFont(text.runs.first().font);
+    layout->setFormats(formats);
+    layout->setTextOption(Option(wrap));
+}
+
+Bar UnderlineOf(const QFont& font)
+{
+    if (!font.underline())
+        return Bar();
+    const QFontMetricsF metrics(font);
+    const qreal height = qMax(1, qRound(metrics.lineWidth()));
+    return {qreal(qRound(metrics.underlinePos() - height / 2)), height};
+}
+
 /** A cluster where the short lines have it. */
 struct PlacedCluster
 {
@@ -44,20 +70,17 @@ struct PlacedCluster
 class Shaper
 {
 public:
-    Shaper(const QString& text, const QFont& font)
+    explicit Shaper(const StyledText& text)
         : text(text)
-        , font(font)
     {
+        for (const StyleRun& run : text.runs)
+            underlines.append(UnderlineOf(run.font));
     }
 
     ShapedLine Shape()
     {
-        const QFontMetrics metrics(font);
-        result.ascent = metrics.ascent();
-        result.descent = metrics.descent();
-
-        QTextLayout layout(text, font);
-        layout.setTextOption(Option(QTextOption::WrapAnywhere));
+        QTextLayout layout;
+        Prepare(text, QTextOption::WrapAnywhere, &layout);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
             line.setNumColumns(columnsPerLine);
@@ -66,6 +89,7 @@ public:
         for (int i = 0; i < layout.lineCount(); ++i)
             AddLine(layout, layout.lineAt(i));
         result.visualOrder = VisualOrder();
+        result.rightToLeft = text.text.isRightToLeft();
         return result;
     }
 
@@ -88,6 +112,7 @@ private:
             Cluster cluster;
             cluster.first = i;
             cluster.units = 1;
+            cluster.underline = underlines[int(&text.At(i) - text.runs.constData())];
             result.clusters.append(cluster);
             places.append({line.lineNumber(), line.cursorToX(i, QTextLine::Leading),
                            line.cursorToX(i, QTextLine::Trailing), 1});
@@ -192,8 +217,8 @@ private:
 
         // Clusters that follow one another in the same direction keep together on any line that
         // holds them all; only where such a sequence stands has to be asked of the whole line.
-        QTextLayout layout(text, font);
-        layout.setTextOption(Option(QTextOption::NoWrap));
+        QTextLayout layout;
+        Prepare(text, QTextOption::NoWrap, &layout);
         layout.beginLayout();
         QTextLine line = layout.createLine();
         line.setLineWidth(1 << 24);
@@ -230,8 +255,8 @@ private:
                qAbs(before.trailing - own.leading) < tolerance;
     }
 
-    const QString text;
-    const QFont font;
+    const StyledText& text;
+    QVector<Bar> underlines; // by run
     ShapedLine result;
     QVector<PlacedCluster> places;
     QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
@@ -239,9 +264,20 @@ private:
 
 } // namespace
 
-ShapedLine ShapeLine(const QString& text, const QFont& font)
+ShapedLine ShapeLine(const StyledText& text)
 {
-    return Shaper(text, font).Shape();
+    return Shaper(text).Shape();
+}
+
+LineSize MeasureLine(const StyledText& text)
+{
+    QTextLayout layout;
+    Prepare(text, QTextOption::NoWrap, &layout);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(1 << 24);
+    layout.endLayout();
+    return {qCeil(line.ascent()), qCeil(line.descent()), qCeil(line.naturalTextWidth())};
 }
 
 } // namespace AnimText

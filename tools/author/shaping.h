@@ -5,13 +5,20 @@
 #ifndef ANIMTEXT_SHAPING_H
 #define ANIMTEXT_SHAPING_H
 
-#include <QFont>
+#include "author/styledtext.h"
+
 #include <QList>
 #include <QPainterPath>
-#include <QString>
 #include <QVector>
 
 namespace AnimText {
+
+/** A bar under letters. */
+struct Bar
+{
+    qreal top = 0;    ///< pixels below the baseline
+    qreal height = 0; ///< pixels; 0 for no bar
+};
 
 /**
  * The units of a text that the font shows as one shape: a letter, a letter with its accents, a
@@ -23,6 +30,7 @@ struct Cluster
     int units = 0;      ///< how many units it has
     qreal advance = 0;  ///< pixels, as laid out, kerning included
     QPainterPath shape; ///< pixels; origin at the left end of the baseline, y downward
+    Bar underline;      ///< none unless its style has one
     bool missing =
         false; ///< the fonts have no glyph for some of it; that part of @c shape is empty
 };
@@ -34,15 +42,27 @@ struct ShapedLine
     QVector<int> visualOrder;  ///< indices into @c clusters, from the left of the line to its right
     int ascent = 0;            ///< pixels above the baseline, of all fonts used
     int descent = 0;           ///< pixels below the baseline, of all fonts used
+    bool rightToLeft = false;  ///< the direction of its first letter
 };
 
 /**
- * Lays @p text out as a whole, in one line: ligatures, joined letters, kerning and both directions
- * of writing as the toolkit's text layout makes them, with its own fallback for characters that
- * @p font lacks. The time is linear in the length of the text but for a line that mixes directions,
- * where it also grows with the square of the number of changes.
+ * Lays @p text out as a whole, in one line on one baseline: ligatures, joined letters, kerning and
+ * both directions of writing as the toolkit's text layout makes them, with its own fallback for
+ * characters that a font lacks. The time is linear in the length of the text but for a line that
+ * mixes directions, where it also grows with the square of the number of changes.
  */
-ShapedLine ShapeLine(const QString& text, const QFont& font);
+ShapedLine ShapeLine(const StyledText& text);
+
+/** The measures of a line, pixels. */
+struct LineSize
+{
+    int ascent = 0;  ///< above the baseline, of all fonts used
+    int descent = 0; ///< below the baseline
+    int width = 0;
+};
+
+/** What ShapeLine() would give, at a fraction of the time. */
+LineSize MeasureLine(const StyledText& text);
 
 /** A character of which nothing will be seen. */
 struct UnseenCharacter

@@ -1,0 +1,72 @@
+#include "author/html.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextList>
+
+namespace AnimText {
+namespace {
+
+StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base, bool* sized)
+{
+    StyleRun style = base;
+    style.font = format.font().resolve(base.font);
+    const QFont own = format.font();
+    const bool hasSize = format.hasProperty(QTextFormat::FontPointSize) ||
+                         format.hasProperty(QTextFormat::FontPixelSize) ||
+                         format.hasProperty(QTextFormat::FontSizeAdjustment);
+    if (!hasSize)
+        style.font.setPixelSize(base.font.pixelSize());
+    else if (own.pixelSize() <= 0)
+        style.font.setPixelSize(qMax(1, qRound(own.pointSizeF() * 96 / 72)));
+    *sized = *sized || hasSize;
+    if (format.hasProperty(QTextFormat::ForegroundBrush))
+        style.color = format.foreground().color();
+    style.color.setAlpha(255);
+    // Bars through and above the letters are no part of their outlines.
+    style.font.setStrikeOut(false);
+    style.font.setOverline(false);
+    return style;
+}
+
+/** What the sign shows nothing of. */
+void NoteLosses(const QTextBlock& block, const QTextCharFormat& format, QStringList* lost)
+{
+    const auto note = [lost](bool isThere, const char* what) {
+        if (isThere && !lost->contains(QLatin1String(what)))
+            lost->append(QLatin1String(what));
+    };
+    note(format.hasProperty(QTextFormat::BackgroundBrush), "backgrounds");
+    note(format.fontStrikeOut() || format.fontOverline(), "bars through or above letters");
+    note(format.verticalAlignment() != QTextCharFormat::AlignNormal, "raised or lowered letters");
+    note(format.isImageFormat(), "pictures");
+    note(block.textList() != nullptr, "list marks");
+}
+
+} // namespace
+
+StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* notes)
+{
+    QTextDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setHtml(html);
+    StyledText text;
+    QStringList lost;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block != document.begin())
+            text.Append(QStringLiteral("\n"), text.runs.isEmpty() ? base : text.runs.last());
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            NoteLosses(block, fragment.charFormat(), &lost);
+            QString part = fragment.text();
+            part.remove(QChar::ObjectReplacementCharacter);
+            text.Append(part, StyleOf(fragment.charFormat(), base, &text.sized));
+        }
+    }
+    if (!lost.isEmpty())
+        notes->append(QStringLiteral("left out, for no sign shows it: %1")
+                          .arg(lost.join(QStringLiteral(", "))));
+    return text;
+}
+
+} // namespace AnimText

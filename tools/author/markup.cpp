@@ -1,0 +1,143 @@
+#include "author/fonts.h"
+#include "author/html.h"
+#include "author/styledtext.h"
+#include "scene/suggest.h"
+
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+namespace AnimText {
+namespace {
+
+const int smallestSize = 1; // pixels
+const int largestSize = 2000;
+
+/** Reads the strict form. Faults go to the reader, which knows the line and the column. */
+class MarkupReader
+{
+public:
+    MarkupReader(const QString& markup, const StyleRun& base, StyledText* text)
+        : markup(markup)
+        , xml(opening + markup + QStringLiteral("</text>"))
+        , text(text)
+    {
+        styles.append(base);
+    }
+
+    bool Read(QString* error)
+    {
+        while (!xml.atEnd()) {
+            switch (xml.readNext()) {
+            case QXmlStreamReader::StartElement: Open(); break;
+            case QXmlStreamReader::EndElement: styles.removeLast(); break;
+            case QXmlStreamReader::Characters:
+                text->Append(xml.text().toString(), styles.last());
+                break;
+            case QXmlStreamReader::DTD:
+                xml.raiseError(QStringLiteral("unexpected <!DOCTYPE"));
+                break;
+            default: break;
+            }
+        }
+        if (!xml.hasError())
+            return true;
+        const qint64 own = xml.lineNumber() == 1 ? opening.size() : 0;
+        *error =
+            QStringLiteral("the markup at %1:%2: %3")
+                .arg(xml.lineNumber())
+                .arg(qBound(qint64(1), xml.columnNumber() + 1 - own, qint64(markup.size() + 1)))
+                .arg(xml.errorString().simplified());
+        return false;
+    }
+
+private:
+    void Open()
+    {
+        static const QStringList tags{QStringLiteral("b"), QStringLiteral("i"), QStringLiteral("u"),
+                                      QStringLiteral("font")};
+        StyleRun style = styles.last();
+        const bool isOuter = styles.size() == 1 && xml.name() == QLatin1String("text");
+        switch (isOuter ? -2 : tags.indexOf(xml.name().toString())) {
+        case -2: break;
+        case 0: style.font.setBold(true); break;
+        case 1: style.font.setItalic(true); break;
+        case 2: style.font.setUnderline(true); break;
+        case 3: break;
+        default:
+            xml.raiseError(QStringLiteral("there is no tag <%1>; expected <b>, <i>, <u> or <font>")
+                               .arg(xml.name().toString()));
+        }
+        for (const QXmlStreamAttribute& attribute : xml.attributes()) {
+            const QString fault =
+                xml.name() == QLatin1String("font")
+                    ? Apply(attribute.name().toString(), attribute.value().toString(), &style)
+                    : QStringLiteral("<%1> takes no attributes").arg(xml.name().toString());
+            if (!fault.isEmpty())
+                xml.raiseError(fault);
+        }
+        styles.append(style);
+    }
+
+    /** @return what is wrong with an attribute of <font>, or nothing */
+    QString Apply(const QString& name, const QString& value, StyleRun* style)
+    {
+        if (name == QLatin1String("face")) {
+            QString family;
+            QString fault;
+            if (FindFamily(value, &family, &fault))
+                style->font.setFamily(family);
+            return fault;
+        }
+        if (name == QLatin1String("size"))
+            return ApplySize(value, style);
+        if (name == QLatin1String("color")) {
+            style->color = QColor(value);
+            return style->color.isValid() && style->color.alpha() == 255
+                       ? QString()
+                       : QStringLiteral("there is no colour \"%1\"; expected a name or #rrggbb%2")
+                             .arg(value, DidYouMean(value, QColor::colorNames()));
+        }
+        return QStringLiteral("<font> takes face, size and color, not %1").arg(name);
+    }
+
+    QString ApplySize(const QString& value, StyleRun* style)
+    {
+        static const QRegularExpression form(QStringLiteral("^(\\d{1,6})(px|pt|%|)$"));
+        const QRegularExpressionMatch match = form.match(value);
+        const QString unit = match.captured(2);
+        const qreal number = match.captured(1).toInt();
+        const qreal size = unit == QLatin1String("pt")  ? number * 96 / 72
+                           : unit == QLatin1String("%") ? number * style->font.pixelSize() / 100
+                                                        : number;
+        if (!match.hasMatch() || qRound(size) < smallestSize || size > largestSize)
+            return QStringLiteral("size takes 32, 32px, 24pt or 150%, %1 to %2 pixels, not \"%3\"")
+                .arg(smallestSize)
+                .arg(largestSize)
+                .arg(value);
+        style->font.setPixelSize(qRound(size));
+        text->sized = text->sized || unit != QLatin1String("%");
+        return QString();
+    }
+
+    const QString opening = QStringLiteral("<text>");
+    const QString markup;
+    QXmlStreamReader xml;
+    QVector<StyleRun> styles; // the innermost last
+    StyledText* const text;
+};
+
+} // namespace
+
+bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, QStringList* notes,
+                 QString* error)
+{
+    const QString start = markup.trimmed().left(9).toLower();
+    if (start.startsWith(QLatin1String("<html")) || start == QLatin1String("<!doctype")) {
+        *text = FromHtml(markup, base, notes);
+        return true;
+    }
+    *text = StyledText();
+    return MarkupReader(markup, base, text).Read(error);
+}
+
+} // namespace AnimText
