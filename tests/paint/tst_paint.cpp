@@ -207,7 +207,9 @@ void PaintTest::keptPathsArePaintedTheSame()
         const Sample& sample = samples[i * 7 % samples.size()];
         if (i % 6 == 0)
             page.Clear();
-        page.Append(sample.outline, i % 3 == 0 ? 0 : float(i % 41), float(i % 13));
+        // Now and then so far apart that the page is cut as a whole.
+        const float x = i % 12 == 10 ? 20000 : i % 12 == 11 ? -20000 : float(i % 41);
+        page.Append(sample.outline, i % 3 ? x : 0, i % 3 ? float(i % 13) : 0);
         const bool hollow = i % 11 >= 8;
         for (int frame = 0; frame < 2; ++frame) {
             canvas.SetSize(width, height);
@@ -273,8 +275,8 @@ void PaintTest::picturesHoldTheInk()
             shape.LineTo(x + float(i), 3);
             shape.LineTo(x + 3, 4);
         }
-        for (const QRgb colour : {qRgb(1, 2, 3), qRgb(250, 0, 128)})
-            for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_RGB888}) {
+        for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_RGB888})
+            for (const QRgb colour : {qRgb(1, 2, 3), qRgb(250, 0, 128), qRgb(1, 2, 3)}) {
                 const bool words = format == QImage::Format_ARGB32;
                 canvas.SetSize(width, height);
                 canvas.DrawPath(shape);
@@ -310,6 +312,15 @@ void PaintTest::whatCannotBePaintedIsNot()
         QCOMPARE(CanvasRows(10, 10, {outline}).count("."), 10);
         QCOMPARE(CanvasRows(-1, 10, {outline}).count("."), 10);
     }
+    Outline joined; // a move at its end gives way, one alone is not taken over
+    joined.MoveTo(1, 1);
+    joined.Append(joined);
+    QCOMPARE(joined.Size(), size_t(1));
+    Outline line = joined;
+    line.LineTo(2, 2);
+    joined.Append(line, 1, 0);
+    QCOMPARE(joined.Size(), size_t(2));
+    QCOMPARE(joined.At(0).x, 2.0f);
     Outline broken;
     broken.LineTo(9, 9);
     QVERIFY(!broken.IsWellFormed());
