@@ -188,7 +188,7 @@ void ProjectTest::everySourceIsListed()
     QCOMPARE(listed, present);
 }
 
-// The plugin alone, as an embedded toolchain builds it.
+// The plugin alone, as an embedded toolchain builds it, from a folder with a difficult name.
 void ProjectTest::qmakeBuildsThePlugin()
 {
     QTemporaryDir folder;
@@ -202,7 +202,9 @@ void ProjectTest::qmakeBuildsThePlugin()
         process.waitForFinished(-1);
         return qMakePair(process.exitCode(), QString(process.readAll()));
     };
-    auto answer = run(QMAKE_PROGRAM, {root + "/src/animationtext.pro"});
+    const QString checkout = folder.filePath("it's a \"sign\" für $10");
+    QVERIFY(QFile::link(root, checkout));
+    auto answer = run(QMAKE_PROGRAM, {checkout + "/src/animationtext.pro"});
     QVERIFY2(answer.first == 0, qPrintable(answer.second));
     answer = run("make", {"-j2"});
     QVERIFY2(answer.first == 0, qPrintable(answer.second));
