@@ -71,6 +71,7 @@ class ProjectTest : public QObject
 private slots:
     void includesFollowTheRule_data();
     void includesFollowTheRule();
+    void meetingPlacesAreListed();
     void nothingIsNewerThanQt4_data();
     void nothingIsNewerThanQt4();
     void everySourceIsListed();
@@ -133,6 +134,34 @@ void ProjectTest::includesFollowTheRule()
     }
     QVERIFY(seen > 0);
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+}
+
+// Who ports the plugin reads the table and no more.
+void ProjectTest::meetingPlacesAreListed()
+{
+    const QRegularExpression meets("#include <(h[a-z]+|drawneonbg|i[a-z]+|torvsdk)\\.h>|"
+                                   "\\b(Create|Add|Remove|Free)PictureSession|"
+                                   "PicImageLayerPtr|GeteffectDuration|GetFirstFile");
+    QFile document(root + "/docs/architecture.md");
+    QVERIFY(document.open(QIODevice::ReadOnly));
+    const QString text = QString(document.readAll()).section("## Where the plugin meets", 1);
+    QStringList listed, meeting;
+    for (auto it = QRegularExpression("`([a-z]+/[a-z]+)\\.h`, `\\.cpp`|`([a-z]+/[a-z]+\\.(h|cpp))`")
+                       .globalMatch(text.section("\n## ", 0, 0));
+         it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        if (match.captured(1).isEmpty())
+            listed.append("src/" + match.captured(2));
+        else
+            listed << "src/" + match.captured(1) + ".h"
+                   << "src/" + match.captured(1) + ".cpp";
+    }
+    for (const Source& source : Sources({"src"}))
+        if (CodeOf(source.text).contains(meets))
+            meeting.append(source.path);
+    listed.sort();
+    meeting.sort();
+    QCOMPARE(listed, meeting);
 }
 
 void ProjectTest::nothingIsNewerThanQt4_data()
