@@ -149,6 +149,26 @@ private slots:
         QCOMPARE(stage.Tick(), play.last());
     }
 
+    void hostileAreas()
+    {
+        for (const QSize size : {QSize(1, 1), QSize(1, 60), QSize(61, 2), QSize(2, 3)}) {
+            for (const bool alpha : {true, false}) {
+                HPluginManager::instance()->SetAlphaBlend(alpha);
+                for (const int style : {-1, 1, 2, 3, 4, 5, 6, 7, 28})
+                    QCOMPARE(Stage(style, size).Ticks(3).last().size(), size);
+            }
+        }
+        HPluginManager::instance()->SetAlphaBlend(true);
+        Stage stage(1);
+        for (const QSize size : {QSize(0, 5), QSize(-1, 5), QSize(5, INT_MIN),
+                                 QSize(INT_MAX, INT_MAX), QSize(1 << 14, (1 << 12) + 1)}) {
+            stage.node->SetSize(size);
+            stage.neon.InitNode(stage.node.get());
+            QVERIFY(stage.neon.Image().isNull());
+            QCOMPARE(stage.Tick(), stage.test.image);
+        }
+    }
+
     void paintsOnlyWithSomewhereToPaint()
     {
         Stage stage(1);

@@ -123,25 +123,30 @@ private slots:
 
     void colorsTravel_data()
     {
-        QTest::addColumn<bool>("gradient");
-        QTest::addColumn<int>("kind");
-        QTest::newRow("plain") << false << 0;
-        QTest::newRow("linear") << true << 0;
-        QTest::newRow("radial") << true << 1;
+        // Two places, and how many stops of the gradient they lie from its first one.
+        QTest::addColumn<int>("gradient"); // -1: none
+        QTest::addColumn<QPoint>("first");
+        QTest::addColumn<double>("atFirst");
+        QTest::addColumn<QPoint>("later");
+        QTest::addColumn<double>("atLater");
+        QTest::newRow("plain") << -1 << QPoint(0, 0) << 0.0 << QPoint(30, 0) << 0.0;
+        // 40 stops from the left edge to the right one, 60 pixels.
+        QTest::newRow("linear") << 0 << QPoint(0, 0) << 0.33 << QPoint(30, 0) << 20.33;
+        // 30 from the middle at (30, 20) to 30 pixels from it.
+        QTest::newRow("radial") << 1 << QPoint(30, 20) << 0.71 << QPoint(44, 20) << 14.51;
+        // 30 round the middle of the lower edge, from the right by the left.
+        QTest::newRow("conical") << 2 << QPoint(59, 40) << 0.08 << QPoint(30, 0) << 7.44;
     }
 
     void colorsTravel()
     {
-        QFETCH(bool, gradient);
-        QFETCH(int, kind);
+        QFETCH(int, gradient);
+        QFETCH(QPoint, first);
+        QFETCH(double, atFirst);
+        QFETCH(QPoint, later);
+        QFETCH(double, atLater);
         EngineFixture play;
-        play.Start({{"CheckColorGradient", gradient}, {"ColorGradient", kind}});
-        // Two places and how many stops they lie from the first one: from the left edge 40 to the
-        // width of 60, from the middle at (30, 20) 30 to the radius of 30.
-        const QPoint first = kind == 0 ? QPoint(0, 0) : QPoint(30, 20);
-        const QPoint later = kind == 0 ? QPoint(30, 0) : QPoint(44, 20);
-        const double atFirst = !gradient ? 0 : kind == 0 ? 0.33 : 0.71;
-        const double atLater = !gradient ? 0 : kind == 0 ? 20.33 : 14.51;
+        play.Start({{"CheckColorGradient", gradient >= 0}, {"ColorGradient", gradient}});
         for (int frame : {0, 1, 7, 29, 30, 44}) {
             play.frameCount() = frame;
             play.engine.DrawDazzleBackground();
@@ -152,11 +157,94 @@ private slots:
         }
     }
 
-    void aLineThatScrollsStepsPerTick()
+    // Light text is read against dark colours, dark text against pale ones; the edges stay pure.
+    void colorsStepBackBehindTheText()
+    {
+        for (const int text : {0xFFFFFF, 0x606060, 0x5F5F5F, 0x000000}) {
+            EngineFixture play;
+            play.text.node->SetList("TextAttribute", {{{"Color", QString::number(text)}}});
+            play.Start({});
+            play.engine.DrawDazzleBackground();
+            const QColor edge = play.stayImage().pixelColor(30, 0);
+            const QColor middle = play.stayImage().pixelColor(30, 20);
+            QVERIFY(edge.value() > 235 && edge.saturation() > 180);
+            QCOMPARE(middle.value() < 110, text >= 0x606060);
+            QCOMPARE(middle.saturation() < 80, text < 0x606060);
+        }
+    }
+
+    // The rim is the neon's. Within it a frame of 3 pixels is cut from the fill picture, as long as
+    // there is one.
+    void dazzleKeepsToItsPlace()
+    {
+        EngineFixture play;
+        QImage fill(4, 4, QImage::Format_RGB32);
+        fill.fill(Qt::blue);
+        QVERIFY(fill.save(play.text.File("fill.png")));
+        for (const int neon : {0, 1}) {
+            for (const bool filled : {true, false}) {
+                play.text.node->SetFiles("FillImage", {play.text.File(filled ? "fill.png" : "no")});
+                play.Start({{"CheckNeonBg", neon}, {"CheckPictureFills", 1}});
+                play.engine.DrawDazzleBackground();
+                const QImage& picture = play.stayImage();
+                const int rim = 5 * neon; // an eighth of the height
+                const int right = 59 - rim;
+                const int bottom = 40 - rim;
+                QCOMPARE(PaintedBox(picture), QRect(QPoint(rim, rim), QPoint(right, bottom)));
+                for (const QPoint& at : {QPoint(rim, 20), QPoint(rim + 2, 20), QPoint(right, 20),
+                                         QPoint(30, rim), QPoint(30, bottom)})
+                    QCOMPARE(picture.pixelColor(at) == QColor(Qt::blue), filled);
+                QVERIFY(picture.pixelColor(rim + 3, rim + 3) != QColor(Qt::blue));
+            }
+        }
+    }
+
+    void withoutDazzleNothingIsPaintedBehind()
     {
         RenderFixture play;
+        play.Start({{"CheckDazzle", 0}});
+        PassTicks(3);
+        QCOMPARE(PaintedBox(play.Probe().Engine().stayImage()), QRect());
+    }
+
+    void everythingKeepsTheBeat()
+    {
+        RenderFixture play;
+        const EngineProbe engine = play.Probe().Engine();
+        const QList<const QTimer*> timers = {&play.Probe().drawTimer(), &engine.dazzleTimer(),
+                                             engine.neonBg()->findChild<QTimer*>()};
+        for (const QTimer* timer : timers)
+            QCOMPARE(timer->timerType(), Qt::PreciseTimer); // a coarse one fires every 64 ms
+    }
+
+    void aNeonPictureThatDoesNotFitIsRefusedAloud()
+    {
+        const Messages messages;
+        RenderFixture play;
+        play.render->Pause(); // before the first tick the animator is given a larger area
+        play.Start({{"CheckNeonBg", 1}});
+        Lw::HNeonNodeBase larger;
+        larger.SetSize(QSize(61, 41));
+        play.Probe().Engine().neonBg()->InitNode(&larger);
+        play.render->Pause();
+        PassTicks(3);
+        QCOMPARE(Messages::Taken().filter("Neon picture does not fit").size(), 1);
+        QCOMPARE(Torv::SwapCount(play.Probe().session(), 0), 0);
+    }
+
+    void aLineThatScrollsStepsPerTick_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::newRow("left") << 0;
+        QTest::newRow("right") << 1;
+    }
+
+    void aLineThatScrollsStepsPerTick()
+    {
+        QFETCH(int, style);
+        RenderFixture play;
         for (int starts = 0; starts < 3; ++starts)
-            play.Start({{"EffectType", 1}, {"CheckDazzle", 1}});
+            play.Start({{"EffectType", 1}, {"ContinueStyle", style}, {"CheckDazzle", 1}});
         const EngineProbe engine = play.Probe().Engine();
         QCOMPARE(engine.dazzleColorIndex(), 0);
         PassTicks(7);
@@ -208,9 +296,11 @@ private slots:
         QFETCH(int, effect);
         const FrogFolder none;
         HPluginManager::instance()->SetAlphaBlend(alpha);
-        RenderFixture plain;
-        HPluginManager::instance()->SetAlphaBlend(alpha);
-        RenderFixture decked;
+        const auto shape = [] { // rows of 24 bits need padding
+            return RectangleText({30, 20, 40}, {20, 25, 16}, {4, 5, 3}, QSize(61, 41));
+        };
+        RenderFixture plain(shape());
+        RenderFixture decked(shape());
         plain.Start({{"AnimationEffect", effect}});
         decked.Start({{"AnimationEffect", effect}, {"CheckDazzle", 1}, {"CheckNeonBg", 1}});
         for (int tick = 0; tick < 60; ++tick) {
