@@ -62,6 +62,13 @@ private slots:
         bend.cubicTo(1, 0, 1, 1, 0, 1);
         const QByteArray paths = PathFile({path, QPainterPath(), bend});
         QCOMPARE(paths, Wrapped(Count(3) + triangle + Count(0) + curve));
+        for (int count = 0; count <= 3; ++count) {
+            const QVector<QPainterPath> outlines =
+                QVector<QPainterPath>{path, {}, bend}.mid(0, count);
+            const int size = PathFile(outlines).size();
+            QCOMPARE(OutlinesThatFit({path, {}, bend}, size), count);
+            QCOMPARE(OutlinesThatFit(outlines, size - 4), qMax(0, count - 1));
+        }
         const QByteArray descents = DescentFile({8, -1, 0});
         QCOMPARE(descents, Wrapped(QByteArray::fromHex("0000000300000008ffffffff00000000")));
         QCOMPARE(PathFile({}), Wrapped(Count(0)));

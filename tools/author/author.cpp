@@ -101,22 +101,13 @@ bool Showable(const PlacedText& text, QString* error)
     return true;
 }
 
-/** The data file of the outlines must not be larger than the sign reads. */
 bool Readable(const PlacedText& text, QString* error)
 {
-    const qint64 most = (maxDataFileSize - 4) / 4 * 3; // bytes before Base64
-    qint64 bytes = 4;
-    int fitting = 0;
-    for (const QPainterPath& outline : text.outlines) {
-        const int elements = outline.elementCount();
-        bytes += 4 + (elements > 0 ? 20 * qint64(elements) + 8 : 0);
-        fitting += bytes <= most ? 1 : 0;
-    }
-    if (bytes <= most)
+    const int fitting = OutlinesThatFit(text.outlines, maxDataFileSize);
+    if (fitting == text.outlines.size())
         return true;
-    *error = QStringLiteral("the text is too long for the sign: its outlines take %1 MiB and the "
-                            "sign reads %2; its first %3 characters of %4 would fit")
-                 .arg((bytes / 3 * 4) >> 20)
+    *error = QStringLiteral("the text is too long: the sign reads %1 MiB of outlines, which are "
+                            "its first %2 characters of %3")
                  .arg(maxDataFileSize >> 20)
                  .arg(fitting)
                  .arg(text.outlines.size());

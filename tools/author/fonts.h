@@ -20,7 +20,10 @@ QStringList FontFamilies(const QString& filter = QString());
  */
 bool FindFamily(const QString& wish, QString* family, QString* error);
 
-/** "; did you mean X?" with the shortest that holds @p word, else with the closest, or nothing. */
+/**
+ * "; did you mean X?" with the shortest of @p known that holds @p word, else with the closest, be
+ * it only to its first words, or nothing.
+ */
 QString DidYouMeanOneOf(const QString& word, const QStringList& known);
 
 } // namespace AnimText

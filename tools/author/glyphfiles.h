@@ -17,6 +17,9 @@ namespace AnimText {
  */
 QByteArray PathFile(const QVector<QPainterPath>& outlines);
 
+/** How many of @p outlines, from the first, a "PathData" file of @p bytes has room for. */
+int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes);
+
 /** The content of a "DescentVector" file, in the same two layers. */
 QByteArray DescentFile(const QVector<int>& descents);
 

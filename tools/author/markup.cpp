@@ -43,10 +43,13 @@ public:
             return true;
         const qint64 own = xml.lineNumber() == 1 ? opening.size() : 0;
         *error =
-            QStringLiteral("the markup at %1:%2: %3")
+            QStringLiteral("the markup at %1:%2: %3%4")
                 .arg(xml.lineNumber())
                 .arg(qBound(qint64(1), xml.columnNumber() + 1 - own, qint64(markup.size() + 1)))
-                .arg(xml.errorString().simplified());
+                .arg(xml.errorString().simplified(),
+                     xml.error() == QXmlStreamReader::CustomError
+                         ? QString()
+                         : QStringLiteral(" Tags need their ends; &lt; stands for <, &amp; for &"));
         return false;
     }
 
