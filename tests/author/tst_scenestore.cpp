@@ -317,9 +317,10 @@ private slots:
         Ending ending = Ending::Killed;
         int calls = 0;
         for (; ending == Ending::Killed && calls < 10000; ++calls) {
-            for (const QString& file : folder->Listing())
-                file.endsWith("lock") ? Age(folder->Path(file)) : folder->Remove(file);
+            if (calls > 0 && folder->Listing().contains(".animtext.lock"))
+                Age(folder->Path(".animtext.lock"));
             QCOMPARE(Save(before), Storing::Saved);
+            QCOMPARE(folder->Listing(), before.files.keys() + QStringList("sign.json"));
             ending = RunAndKill(calls, [&] { Save(after); });
             if (ending == Ending::Untraceable)
                 QSKIP("processes cannot be traced here");

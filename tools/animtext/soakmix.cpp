@@ -2,8 +2,7 @@
 
 #include "author/author.h"
 #include "scene/catalogue.h"
-
-#include <QSaveFile>
+#include "scene/wholefile.h"
 
 namespace AnimText {
 
@@ -16,15 +15,6 @@ void SetBackground(SceneNode* node, int background)
 {
     node->attributes[QStringLiteral("CheckNeonBg")] = background & 1;
     node->attributes[QStringLiteral("CheckDazzle")] = background >> 1 & 1;
-}
-
-bool Write(const QDir& folder, const QString& name, const QByteArray& content, QString* error)
-{
-    QSaveFile file(folder.filePath(name));
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return true;
-    *error = QStringLiteral("%1 cannot be written: %2").arg(file.fileName(), file.errorString());
-    return false;
 }
 
 } // namespace
@@ -55,9 +45,10 @@ QVector<Scene> SoakMix(const QDir& folder, QString* error)
         node.neonEffect = i % 29;
         node.files[QStringLiteral("PathData")] = QStringLiteral("%1.path").arg(i);
         node.files[QStringLiteral("DescentVector")] = QStringLiteral("%1.descent").arg(i);
-        if (!Write(folder, node.files[QStringLiteral("PathData")], authored.pathFile, error) ||
-            !Write(folder, node.files[QStringLiteral("DescentVector")], authored.descentFile,
-                   error))
+        if (!WriteWhole(folder.filePath(node.files[QStringLiteral("PathData")]), authored.pathFile,
+                        error) ||
+            !WriteWhole(folder.filePath(node.files[QStringLiteral("DescentVector")]),
+                        authored.descentFile, error))
             return QVector<Scene>();
         Scene scene;
         scene.path = folder.filePath(QStringLiteral("soak.json"));

@@ -1,6 +1,7 @@
 #include "author/scenestore.h"
 
 #include "author/folderlock.h"
+#include "scene/wholefile.h"
 #include "validate/validate.h"
 
 #include <QCryptographicHash>
@@ -8,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStringList>
 
 #include <algorithm>
@@ -25,17 +25,6 @@ bool Holds(const QString& path, const QByteArray& content)
            file.readAll() == content;
 }
 
-bool Write(const QString& path, const QByteArray& content, QString* error)
-{
-    QSaveFile file(path);
-    // commit() alone does not notice that its last bytes found no room, and keeps the torso.
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-        file.commit())
-        return true;
-    *error = QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
-    return false;
-}
-
 /** The data files of our own making that the scene file at @p path names; they lie beside it. */
 QStringList NamedDataFiles(const QString& path)
 {
@@ -49,6 +38,20 @@ QStringList NamedDataFiles(const QString& path)
     while (match.hasNext())
         names.append(match.next().captured(1));
     return names;
+}
+
+/** The data files that were made for the scene at @p path, also by writers that were killed. */
+QStringList OwnDataFiles(const QString& path)
+{
+    static const QRegularExpression ours(
+        QStringLiteral("\\.[0-9a-f]{%1}\\.(path|descent)$").arg(digestLength));
+    const QString name = QFileInfo(path).completeBaseName();
+    return QFileInfo(path)
+        .dir()
+        .entryList(QDir::Files)
+        .filter(ours)
+        .filter(QRegularExpression(QLatin1Char('^') + QRegularExpression::escape(name) +
+                                   QStringLiteral("\\.[^.]+\\.[^.]+$")));
 }
 
 /** Removes the data files @p candidates that no scene of @p folder names. */
@@ -106,7 +109,7 @@ public:
         const Storing storing = Write(scene, before, dataFiles, error);
         if (storing == Storing::Saved) {
             lock.Sync();
-            RemoveUnnamed(folder, filesBefore);
+            RemoveUnnamed(folder, filesBefore + OwnDataFiles(path));
         } else {
             for (const QString& file : made)
                 QFile::remove(file);
@@ -124,7 +127,7 @@ private:
                 continue;
             if (!QFileInfo::exists(place))
                 made.append(place);
-            if (!AnimText::Write(place, file.value(), error))
+            if (!WriteWhole(place, file.value(), error))
                 return Storing::Failed;
         }
         lock.Sync(); // the scene must not reach the disk before the files that it names
@@ -138,7 +141,7 @@ private:
             *error = QStringLiteral("%1: %2").arg(path, mistake);
             return Storing::Refused;
         }
-        return AnimText::Write(path, json, error) ? Storing::Saved : Storing::Failed;
+        return WriteWhole(path, json, error) ? Storing::Saved : Storing::Failed;
     }
 
     const QString path;

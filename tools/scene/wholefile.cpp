@@ -1,0 +1,98 @@
+#include "scene/wholefile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSysInfo>
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace AnimText {
+
+namespace {
+
+/** What tells unfinished files of this machine from others; processes of others cannot be seen. */
+QString Mark()
+{
+    return QStringLiteral("@%1.unfinished").arg(QSysInfo::machineHostName());
+}
+
+bool IsRunning(qint64 process)
+{
+    return ::kill(pid_t(process), 0) == 0 || errno == EPERM;
+}
+
+void Sweep(const QDir& folder)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\.(\\d+)%1\\.\\w{6}$").arg(QRegularExpression::escape(Mark())));
+    const QStringList names =
+        folder.entryList({QStringLiteral(".*") + Mark() + QStringLiteral(".*")},
+                         QDir::Files | QDir::Dirs | QDir::Hidden);
+    for (const QString& name : names) {
+        const auto match = pattern.match(name);
+        if (!match.hasMatch() || IsRunning(match.captured(1).toLongLong()))
+            continue;
+        const QString path = folder.filePath(name);
+        if (!QFile::remove(path))
+            QDir(path).removeRecursively();
+    }
+}
+
+/** People's own files have the rights that were there, or those that the process gives. */
+void SetRights(const QByteArray& file, const QByteArray& replaced)
+{
+    struct stat before = {};
+    const mode_t mask = umask(0);
+    umask(mask);
+    const bool isThere = stat(replaced.constData(), &before) == 0;
+    chmod(file.constData(), isThere ? before.st_mode & 07777 : 0666 & ~mask);
+}
+
+} // namespace
+
+QString UnfinishedName(const QString& path)
+{
+    const QFileInfo info(path);
+    Sweep(info.absoluteDir());
+    return QStringLiteral("%1/.%2.%3%4.XXXXXX")
+        .arg(info.absolutePath(), info.fileName())
+        .arg(QCoreApplication::applicationPid())
+        .arg(Mark());
+}
+
+bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
+{
+    const QFileInfo info(path);
+    // A link stays, and what it leads to is replaced.
+    const QString target = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    QTemporaryFile file(UnfinishedName(target));
+    QString problem;
+    if (info.exists() && !info.isFile())
+        problem = QStringLiteral("it is no file");
+    else if (!file.open() || file.write(content) != content.size() || !file.flush() ||
+             fsync(file.handle()) != 0)
+        problem = file.errorString();
+    else {
+        const QByteArray from = QFile::encodeName(file.fileName());
+        const QByteArray to = QFile::encodeName(target);
+        SetRights(from, to);
+        if (std::rename(from.constData(), to.constData()) == 0) {
+            file.setAutoRemove(false);
+            return true;
+        }
+        problem = QString::fromLocal8Bit(std::strerror(errno));
+    }
+    *error = QStringLiteral("%1: cannot be written: %2").arg(path, problem);
+    return false;
+}
+
+} // namespace AnimText

@@ -1,0 +1,28 @@
+/**
+ * @file
+ * Files that appear whole or not at all. They are made under another name in the same folder, which
+ * a writer that is killed leaves behind; the next writer in that folder removes it.
+ */
+#ifndef ANIMTEXT_WHOLEFILE_H
+#define ANIMTEXT_WHOLEFILE_H
+
+#include <QByteArray>
+#include <QString>
+
+namespace AnimText {
+
+/**
+ * The name under which what will be @p path is made: a template for QTemporaryFile or
+ * QTemporaryDir. Removes what killed processes of this machine left in the folder.
+ */
+QString UnfinishedName(const QString& path);
+
+/**
+ * Writes @p content to @p path, and to the disk, before it takes the place of a file that may be
+ * there. On failure answers false with one line in @p error; what was there is then left.
+ */
+bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
+
+} // namespace AnimText
+
+#endif
