@@ -1,7 +1,5 @@
 #include "call.h"
 
-#include <QStringList>
-
 namespace Torv {
 
 namespace {
@@ -33,27 +31,6 @@ const char* NameOf(Misuse misuse)
     return "badArgument";
 }
 
-/** "name":value; the values that are logged need no escaping. */
-QString Member(const char* name, const QString& json)
-{
-    return QLatin1Char('"') + QLatin1String(name) + QLatin1String("\":") + json;
-}
-
-QString Member(const char* name, int value)
-{
-    return Member(name, QString::number(value));
-}
-
-QString Quoted(const char* text)
-{
-    return QLatin1Char('"') + QLatin1String(text) + QLatin1Char('"');
-}
-
-QString Object(const QStringList& members)
-{
-    return QLatin1Char('{') + members.join(QLatin1String(",")) + QLatin1Char('}');
-}
-
 } // namespace
 
 void SetCallLog(CallLog log, void* context)
@@ -63,9 +40,8 @@ void SetCallLog(CallLog log, void* context)
 }
 
 Call::Call(Operation operation)
-    : operation(operation)
+    : CallRecord(operation)
     , faulted(TakeFault(operation))
-    , problem(0)
 {
     ++Counters().calls[operation];
     if (faulted) {
@@ -74,62 +50,22 @@ Call::Call(Operation operation)
     }
 }
 
-Call& Call::With(const char* name, qint64 value)
+void Call::SetImage(const PicImage* given)
 {
-    if (callLog)
-        AddArgument(name, QString::number(value));
-    return *this;
+    hasImage = given;
+    image = given ? *given : PicImage();
 }
 
-Call& Call::WithPixelWord(unsigned int word)
+void Call::SetEffect(const Effect* given)
 {
-    if (callLog)
-        AddArgument("pixelWord",
-                    QString::fromLatin1("\"0x%1\"").arg(word, 8, 16, QLatin1Char('0')));
-    return *this;
+    hasEffect = given;
+    effect = given ? *given : Effect();
 }
 
-Call& Call::With(const Effect* effect)
+void Call::SetPlacement(const PicPlacement* given)
 {
-    if (!callLog)
-        return *this;
-    QStringList members;
-    if (effect) {
-        members << Member("effect1", effect->effect1) << Member("duration1", effect->duration1)
-                << Member("effect2", effect->effect2) << Member("duration2", effect->duration2)
-                << Member("effect3", effect->effect3) << Member("duration3", effect->duration3);
-    }
-    AddArgument("effect", effect ? Object(members) : QString::fromLatin1("null"));
-    return *this;
-}
-
-Call& Call::With(const PicImage* image)
-{
-    if (!callLog)
-        return *this;
-    QStringList members;
-    if (image) {
-        members << Member("width", image->width) << Member("height", image->height)
-                << Member("bytesPerLine", image->bytesPerLine)
-                << Member("bits", QLatin1String(image->bits ? "true" : "false"));
-    }
-    AddArgument("image", image ? Object(members) : QString::fromLatin1("null"));
-    return *this;
-}
-
-Call& Call::With(const PicPlacement* placement)
-{
-    if (!callLog)
-        return *this;
-    QStringList members;
-    if (placement) {
-        members << Member("x", placement->x) << Member("y", placement->y)
-                << Member("width", placement->width) << Member("height", placement->height)
-                << Member("imageWidth", placement->imageWidth)
-                << Member("imageHeight", placement->imageHeight);
-    }
-    AddArgument("placement", placement ? Object(members) : QString::fromLatin1("null"));
-    return *this;
+    hasPlacement = given;
+    placement = given ? *given : PicPlacement();
 }
 
 void Call::Reject(Misuse misuse)
@@ -144,39 +80,32 @@ void Call::Refuse()
     problem = "refused";
 }
 
-int Call::Answer(int result)
+int Call::Answer(int answer)
 {
-    Log(QString::number(result));
-    return result;
+    result = answer;
+    Log();
+    return answer;
 }
 
-PicSession Call::AnswerHandle(PicSession result)
+PicSession Call::AnswerHandle(PicSession answer)
 {
-    Log(QString::number(result));
-    return result;
+    result = answer;
+    Log();
+    return answer;
 }
 
 char* Call::AnswerBuffer(char* buffer, int index)
 {
     // Addresses differ from run to run; which buffer it is does not.
-    Log(buffer ? QString::fromLatin1("\"buffer %1\"").arg(index) : QString::fromLatin1("null"));
+    result = buffer ? index : -1;
+    Log();
     return buffer;
 }
 
-void Call::AddArgument(const char* name, const QString& json)
+void Call::Log() const
 {
-    arguments += QLatin1Char(',') + Member(name, json);
-}
-
-void Call::Log(const QString& result) const
-{
-    if (!callLog)
-        return;
-    QString line = QLatin1Char('{') + Member("call", Quoted(OperationName(operation))) + arguments +
-                   QLatin1Char(',') + Member("result", result);
-    if (problem)
-        line += QLatin1Char(',') + Member("problem", Quoted(problem));
-    callLog(callLogContext, line + QLatin1Char('}'));
+    if (callLog)
+        callLog(callLogContext, *this);
 }
 
 } // namespace Torv

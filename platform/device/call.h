@@ -13,18 +13,15 @@ namespace Torv {
 /** What a caller can do wrong; each has its counter. */
 enum Misuse { ZeroHandle, StaleHandle, WrongDisplay, BadLayer, BadArgument };
 
-class Call
+class Call : public CallRecord
 {
 public:
     explicit Call(Operation operation);
 
-    /** Adds an argument to the log line. */
-    Call& With(const char* name, qint64 value);
-    Call& WithPixelWord(unsigned int word);
-    /** Records; "null" is logged for none. */
-    Call& With(const Effect* effect);
-    Call& With(const PicImage* image);
-    Call& With(const PicPlacement* placement);
+    /** The records among the arguments; each may be null. */
+    void SetImage(const PicImage* given);
+    void SetEffect(const Effect* given);
+    void SetPlacement(const PicPlacement* given);
 
     /** The call shall fail for no fault of the caller's. */
     bool IsFaulted() const { return faulted; }
@@ -35,19 +32,15 @@ public:
     void Refuse();
 
     /** Each logs the call and answers its first argument. */
-    int Answer(int result);
-    PicSession AnswerHandle(PicSession result);
+    int Answer(int answer);
+    PicSession AnswerHandle(PicSession answer);
     /** @param index which of the layer's two buffers it is */
     char* AnswerBuffer(char* buffer, int index);
 
 private:
-    void AddArgument(const char* name, const QString& json);
-    void Log(const QString& result) const;
+    void Log() const;
 
-    Operation operation;
     bool faulted;
-    const char* problem; ///< why the call came to nothing; null while it did not
-    QString arguments;
 };
 
 /** The counters of calls and misuses; those of live sessions stay 0. */

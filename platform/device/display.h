@@ -77,14 +77,50 @@ void FailAllCalls(Operation operation, bool fail);
 /** Takes back every fault that has been asked for. */
 void ClearFaults();
 
-/**
- * Is told of every call, once it has been answered. @p jsonLine is one JSON object: "call", the
- * arguments by their names in torvsdk.h, "result", and, when the call came to nothing, "problem":
- * "fault" (on demand), "refused" (too large) or the counter of the misuse. The records are objects,
- * "pixelWord" is text in hexadecimal, and a buffer is "buffer 0", "buffer 1" or null: the lines of
- * two runs are the same.
- */
-typedef void (*CallLog)(void* context, const QString& jsonLine);
+/** One call of the service and what became of it. */
+struct CallRecord
+{
+    explicit CallRecord(Operation operation)
+        : operation(operation)
+    {
+    }
+
+    Operation operation;
+
+    // The arguments by their names in torvsdk.h; what the operation does not take is 0.
+    PicDisplay display = 0;
+    PicSession session = 0;
+    int reserved = 0;
+    int layer = 0;
+    int mode = 0;
+    int value = 0;
+    int type = 0;
+    int flags = 0;
+    int width = 0;
+    int height = 0;
+    int bytesPerLine = 0;
+    unsigned int pixelWord = 0;
+    int length = 0;
+    int areaHeight = 0;
+    int effectCode = 0;
+    int speedIndex = 0;
+    bool hasImage = false; ///< the records are copies, and there is none where null was given
+    bool hasEffect = false;
+    bool hasPlacement = false;
+    PicImage image = PicImage(); ///< its bits may be gone when the call has ended
+    Effect effect = Effect();
+    PicPlacement placement = PicPlacement();
+
+    qint64 result = 0; ///< what was answered; for a buffer 0 or 1, or -1 for null
+    /**
+     * Why the call came to nothing: "fault" (on demand), "refused" (too large) or the counter of
+     * the misuse; null when it did not.
+     */
+    const char* problem = 0;
+};
+
+/** Is told of every call, once it has been answered. */
+typedef void (*CallLog)(void* context, const CallRecord& call);
 
 /** Sends every call to @p log (null: none). */
 void SetCallLog(CallLog log, void* context);

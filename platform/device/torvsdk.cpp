@@ -91,8 +91,12 @@ PicSession CreatePictureSession(int type, const PicImage* image, int flags, cons
                                 const PicPlacement* placement, unsigned int pixelWord)
 {
     Call call(Torv::OpCreatePictureSession);
-    call.With("type", type).With(image).With("flags", flags).With(effect).With(placement);
-    call.WithPixelWord(pixelWord);
+    call.type = type;
+    call.SetImage(image);
+    call.flags = flags;
+    call.SetEffect(effect);
+    call.SetPlacement(placement);
+    call.pixelWord = pixelWord;
     if (call.IsFaulted())
         return call.AnswerHandle(0);
     if (!IsCreationSane(type, image, flags, effect, placement)) {
@@ -125,7 +129,9 @@ PicSession CreatePictureSession(int type, const PicImage* image, int flags, cons
 int AddPictureSession(PicDisplay display, PicSession session, int reserved)
 {
     Call call(Torv::OpAddPictureSession);
-    call.With("display", display).With("session", session).With("reserved", reserved);
+    call.display = display;
+    call.session = session;
+    call.reserved = reserved;
     Session* const found = FindSession(call, session);
     if (!found)
         return call.Answer(-1);
@@ -141,8 +147,12 @@ int PicAppendImageLayer(PicDisplay display, PicSession session, int width, int h
                         int bytesPerLine, unsigned int pixelWord)
 {
     Call call(Torv::OpPicAppendImageLayer);
-    call.With("display", display).With("session", session).With("width", width);
-    call.With("height", height).With("bytesPerLine", bytesPerLine).WithPixelWord(pixelWord);
+    call.display = display;
+    call.session = session;
+    call.width = width;
+    call.height = height;
+    call.bytesPerLine = bytesPerLine;
+    call.pixelWord = pixelWord;
     Session* const found = FindSession(call, display, session);
     if (!found)
         return call.Answer(-1);
@@ -159,8 +169,10 @@ int PicAppendImageLayer(PicDisplay display, PicSession session, int width, int h
 char* GetPicImageLayerPtr(PicDisplay display, PicSession session, int layer, int mode)
 {
     Call call(Torv::OpGetPicImageLayerPtr);
-    call.With("display", display).With("session", session).With("layer", layer);
-    call.With("mode", mode);
+    call.display = display;
+    call.session = session;
+    call.layer = layer;
+    call.mode = mode;
     const Layer* const found = FindLayer(call, display, session, layer);
     if (!found)
         return call.AnswerBuffer(0, 0);
@@ -174,7 +186,9 @@ char* GetPicImageLayerPtr(PicDisplay display, PicSession session, int layer, int
 char* SwapPicImageLayerPtr(PicDisplay display, PicSession session, int layer)
 {
     Call call(Torv::OpSwapPicImageLayerPtr);
-    call.With("display", display).With("session", session).With("layer", layer);
+    call.display = display;
+    call.session = session;
+    call.layer = layer;
     Layer* const found = FindLayer(call, display, session, layer);
     if (!found)
         return call.AnswerBuffer(0, 0);
@@ -185,8 +199,10 @@ char* SwapPicImageLayerPtr(PicDisplay display, PicSession session, int layer)
 int SetPicLayerBlend(PicDisplay display, PicSession session, int layer, int value)
 {
     Call call(Torv::OpSetPicLayerBlend);
-    call.With("display", display).With("session", session).With("layer", layer);
-    call.With("value", value);
+    call.display = display;
+    call.session = session;
+    call.layer = layer;
+    call.value = value;
     Layer* const found = FindLayer(call, display, session, layer);
     if (!found)
         return call.Answer(-1);
@@ -201,7 +217,8 @@ int SetPicLayerBlend(PicDisplay display, PicSession session, int layer, int valu
 int RemovePictureSession(PicDisplay display, PicSession session)
 {
     Call call(Torv::OpRemovePictureSession);
-    call.With("display", display).With("session", session);
+    call.display = display;
+    call.session = session;
     Session* const found = FindSession(call, display, session);
     if (!found)
         return call.Answer(-1);
@@ -212,7 +229,7 @@ int RemovePictureSession(PicDisplay display, PicSession session)
 int FreePictureSession(PicSession session)
 {
     Call call(Torv::OpFreePictureSession);
-    call.With("session", session);
+    call.session = session;
     if (call.IsFaulted()) {
         // The caller cannot free it again: whatever the answer, the session is gone.
         if (Session* const found = Store().Find(session))
@@ -229,8 +246,10 @@ int FreePictureSession(PicSession session)
 int GeteffectDuration(int length, int areaHeight, int effectCode, int speedIndex)
 {
     Call call(Torv::OpGeteffectDuration);
-    call.With("length", length).With("areaHeight", areaHeight).With("effectCode", effectCode);
-    call.With("speedIndex", speedIndex);
+    call.length = length;
+    call.areaHeight = areaHeight;
+    call.effectCode = effectCode;
+    call.speedIndex = speedIndex;
     const bool scrolls = effectCode == Torv::ScrollLeft || effectCode == Torv::ScrollRight;
     if (call.IsFaulted() || !scrolls)
         return call.Answer(0);

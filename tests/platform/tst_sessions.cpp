@@ -209,22 +209,27 @@ private slots:
 
     void log()
     {
-        QStringList lines;
+        QList<Torv::CallRecord> log;
         TestSession test;
-        const auto collect = [](void* context, const QString& line) {
-            static_cast<QStringList*>(context)->append(line);
+        const auto collect = [](void* context, const Torv::CallRecord& call) {
+            static_cast<QList<Torv::CallRecord>*>(context)->append(call);
         };
-        Torv::SetCallLog(collect, &lines);
+        Torv::SetCallLog(collect, &log);
         test.Back(0);
-        CreatePictureSession(3, nullptr, 16, nullptr, nullptr, 0x10201);
-        const QStringList expected = {
-            QString(R"({"call":"GetPicImageLayerPtr","display":%1,"session":%2,"layer":0,"mode":5,)"
-                    R"("result":"buffer 1"})")
-                .arg(test.on)
-                .arg(test.session),
-            R"({"call":"CreatePictureSession","type":3,"image":null,"flags":16,"effect":null,)"
-            R"("placement":null,"pixelWord":"0x00010201","result":0,"problem":"badArgument"})"};
-        QCOMPARE(lines, expected);
+        GetPicImageLayerPtr(test.on, test.session, 7, 5);
+        const PicImage image = {8, 4, 32, &image};
+        CreatePictureSession(3, &image, 16, nullptr, nullptr, 0x10201);
+        QCOMPARE(log.size(), 3);
+        QCOMPARE(log[0].operation, Torv::OpGetPicImageLayerPtr);
+        QCOMPARE(log[0].display, test.on);
+        QCOMPARE(log[0].session, test.session);
+        QVERIFY(log[0].layer == 0 && log[0].mode == 5 && log[0].result == 1 && !log[0].problem);
+        QVERIFY(log[1].layer == 7 && log[1].result == -1);
+        QCOMPARE(log[1].problem, "badLayer");
+        QVERIFY(log[2].type == 3 && log[2].flags == 16 && log[2].pixelWord == 0x10201);
+        QVERIFY(log[2].hasImage && log[2].image.bytesPerLine == 32 && log[2].image.bits == &image);
+        QVERIFY(!log[2].hasEffect && !log[2].hasPlacement && log[2].result == 0);
+        QCOMPARE(log[2].problem, "badArgument");
     }
 };
 

@@ -9,6 +9,7 @@
 #include "probes.h"
 #include "rectangletext.h"
 
+#include "player/callline.h"
 #include "player/virtualdispatcher.h"
 #include <display.h>
 #include <drawneonbg.h>
@@ -39,8 +40,8 @@ public:
         , render(new HAnimationTextRender(text.node.get()))
     {
         Torv::SetCallLog(
-            [](void* fixture, const QString& line) {
-                static_cast<RenderFixture*>(fixture)->log.append(line);
+            [](void* fixture, const Torv::CallRecord& call) {
+                static_cast<RenderFixture*>(fixture)->log.append(AnimText::CallLine(call));
             },
             this);
     }

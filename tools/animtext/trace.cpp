@@ -1,5 +1,6 @@
 #include "animtext/commands.h"
 #include "animtext/opening.h"
+#include "player/callline.h"
 
 #include <QCryptographicHash>
 
@@ -65,8 +66,8 @@ QByteArray Trace::Line(int node)
 QByteArray Trace::TickLines()
 {
     QByteArray lines;
-    for (const QString& call : player->Scenery().TakeCalls())
-        lines += call.toUtf8() + '\n';
+    for (const Torv::CallRecord& call : player->Scenery().TakeCalls())
+        lines += CallLine(call) + '\n';
     for (int node = 0; node < player->NodeCount(); ++node)
         lines += Line(node);
     return lines;

@@ -4,9 +4,6 @@
 #include <hpluginmanager.h>
 #include <inodeplugin.h>
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace AnimText {
 
 Stage::Stage(Lw::INodePlugin* plugin)
@@ -87,15 +84,14 @@ bool Stage::ScrollsSideways(int node) const
  * The text has layer 0. Where it stands still and a neon picture lies behind it, neon takes layer 0
  * and the text the one that was appended first; if that failed, the text is shown nowhere.
  */
-int Stage::FindTextLayer(int node, const QStringList& startCalls) const
+int Stage::FindTextLayer(int node, const QVector<Torv::CallRecord>& startCalls) const
 {
     const bool neon = Node(node)->GetAttributeToInt(QStringLiteral("CheckNeonBg")) == 1;
     if (!neon || ScrollsSideways(node))
         return 0;
-    for (const QString& line : startCalls) {
-        const QJsonObject call = QJsonDocument::fromJson(line.toUtf8()).object();
-        if (call.value(QLatin1String("call")) == QLatin1String("PicAppendImageLayer"))
-            return call.value(QLatin1String("result")).toInt(-1);
+    for (const Torv::CallRecord& call : startCalls) {
+        if (call.operation == Torv::OpPicAppendImageLayer)
+            return int(call.result);
     }
     return -1;
 }
@@ -118,16 +114,16 @@ void Stage::KeepCalls(bool keep)
         Torv::SetCallLog(nullptr, nullptr);
 }
 
-QStringList Stage::TakeCalls()
+QVector<Torv::CallRecord> Stage::TakeCalls()
 {
-    QStringList taken;
+    QVector<Torv::CallRecord> taken;
     taken.swap(calls);
     return taken;
 }
 
-void Stage::Log(void* stage, const QString& line)
+void Stage::Log(void* stage, const Torv::CallRecord& call)
 {
-    static_cast<Stage*>(stage)->calls.append(line);
+    static_cast<Stage*>(stage)->calls.append(call);
 }
 
 } // namespace AnimText

@@ -13,7 +13,7 @@
 
 #include <QImage>
 #include <QString>
-#include <QStringList>
+#include <QVector>
 
 #include <memory>
 #include <vector>
@@ -58,8 +58,8 @@ public:
 
     /** Whether the device's calls are kept for TakeCalls(). */
     void KeepCalls(bool keep);
-    /** The calls since the last time, one JSON object each. */
-    QStringList TakeCalls();
+    /** The calls since the last time. */
+    QVector<Torv::CallRecord> TakeCalls();
 
 private:
     Q_DISABLE_COPY(Stage)
@@ -71,15 +71,15 @@ private:
         int textLayer = -1;
     };
 
-    static void Log(void* stage, const QString& line);
+    static void Log(void* stage, const Torv::CallRecord& call);
     void StartNode(int node, uint seed);
-    int FindTextLayer(int node, const QStringList& startCalls) const;
+    int FindTextLayer(int node, const QVector<Torv::CallRecord>& startCalls) const;
 
     Lw::INodePlugin* plugin;
     std::unique_ptr<Torv::Display> display;
     NodeTree tree;
     std::vector<Part> parts;
-    QStringList calls;
+    QVector<Torv::CallRecord> calls;
     bool keepCalls = false;
 };
 

@@ -1,0 +1,23 @@
+/**
+ * @file
+ * A call of the device as a line of JSON.
+ */
+#ifndef ANIMTEXT_CALLLINE_H
+#define ANIMTEXT_CALLLINE_H
+
+#include <display.h>
+
+#include <QByteArray>
+
+namespace AnimText {
+
+/**
+ * One JSON object: "call", the arguments by their names in torvsdk.h, "result", and, when the call
+ * came to nothing, "problem". Records are objects, "pixelWord" is text in hexadecimal, and a buffer
+ * is "buffer 0", "buffer 1" or null: the lines of two runs are the same.
+ */
+QByteArray CallLine(const Torv::CallRecord& call);
+
+} // namespace AnimText
+
+#endif
