@@ -156,9 +156,10 @@ private slots:
         row("animtext author -o a.json --text $'\\xff'", 2, "--text takes UTF-8");
         row("animtext author -o $'\\xff.json' --text a", 2, "names its data files after itself");
         row("animtext author -o a.json --text $'\\a'", 2, "U+0007");
-        row("animtext author -o a.txt --text a", 2, "a name that ends with .json");
-        row("animtext author -o bad.json --text a", 2, "$.pages: expected a list, found 1; it is");
-        row("animtext author -o bad.json --text a --append", 2, "it is left as it is");
+        row("animtext author -o a.txt --text a", 2, "a name that ends in .json");
+        row("animtext author -o bad.json --text a", 2, "$.pages: expected a list, found 1");
+        row("animtext author -o bad.json --text a --append", 2,
+            "bad.json: $.pages: expected a list");
         row("animtext author -o a.json --text a --font DejaVuSans", 2, "did you mean DejaVu Sans?");
         row("animtext author -o a.json --text a --effect WavesEfect", 2, "mean WavesEffect?");
         row("animtext author -o a.json --text a --effect shake", 2, "did you mean EffectShake?");
@@ -324,7 +325,7 @@ private slots:
 
         errors =
             files->Shell("animtext author -o s.json --text abc --size 100 --area 50x60").errors;
-        QVERIFY(errors.contains("character-wide") && errors.contains("text-high"));
+        QVERIFY(errors.contains("character-wide") && errors.contains("letters are cut off"));
         files->Shell("animtext author -o s.json --text abc --area 60x40"); // as large as fits
         const auto rows = Read().Nodes().first()->lists["TextHeight"];
         const int height = rows.first()["text_height"].toInt();
@@ -333,15 +334,17 @@ private slots:
 
     void appends()
     {
-        QCOMPARE(files
-                     ->Shell("animtext author -o s.json --text one --append &&"
-                             "animtext author -o s.json --text two --append --pos 0,100 &&"
-                             "animtext validate s.json --strict")
-                     .status,
-                 0);
+        QCOMPARE(
+            files
+                ->Shell(
+                    "animtext author -o s.json --text one --append &&"
+                    "animtext author -o s.json --text two --append --pos 0,100 --display 512x200 &&"
+                    "animtext validate s.json --strict")
+                .status,
+            0);
         const Scene scene = Read();
         QCOMPARE(scene.Nodes().size(), 2);
-        QCOMPARE(scene.display.height(), 100 + scene.Nodes().last()->size.height());
+        QCOMPARE(scene.display, QSize(512, 200));
     }
 
     /** The first picture is empty: 64 × 32 pixels of four zero bytes. */
