@@ -57,6 +57,8 @@ private slots:
         row("animtext render one.json -o a/ --seconds 528ms && ls a | wc -l", "8\n");
         row("animtext render one.json -o a/ --frames 1-2 && ls a",
             "frame-0000.png\nframe-0001.png\n");
+        row("animtext author --text a --scroll ContinueEffectUp -o a.json",
+            "; ContinueEffectUp in");
         row("animtext soak --hours 6min one.json", "simulated hours                 0.10");
         row("animtext duration two.json --simulate", "finished after");
         row("animtext validate one.json", "no mistakes found");

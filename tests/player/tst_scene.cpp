@@ -53,8 +53,10 @@ private slots:
         QCOMPARE(scene.FullName(node.files.value("PathData")), files.Path("paths"));
     }
 
-    /** Each row changes one thing of a good scene; a place that starts with "." is in its node. A '
-     * is a ". */
+    /**
+     * Each row changes one thing of a good scene. A place that starts with "." is in its node, and
+     * for the sake of legibility ' stands for ".
+     */
     void tellsTheFault_data()
     {
         QTest::addColumn<QByteArray>("from");

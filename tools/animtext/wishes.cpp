@@ -67,7 +67,7 @@ QFont ReadFont(const CommandLine& line)
     return font;
 }
 
-/** Reads the text, with its marks, after the font, the colour and the motion. */
+/** Reads the text, with its marks, after the font, the color and the motion. */
 void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList* notes)
 {
     const QString words = ReadText(line);
@@ -131,6 +131,12 @@ int ReadEffect(const QString& word)
                      .arg(word, DidYouMeanOneOf(word, EffectNames()))};
 }
 
+QStringList Directions()
+{
+    return {QStringLiteral("left"), QStringLiteral("right"), QStringLiteral("up"),
+            QStringLiteral("down")};
+}
+
 void ReadMotion(const CommandLine& line, AuthorOptions* options)
 {
     if (!line.IsSet("scroll")) {
@@ -140,7 +146,13 @@ void ReadMotion(const CommandLine& line, AuthorOptions* options)
     if (line.IsSet("effect"))
         throw Misuse{QStringLiteral("--effect and --scroll exclude each other")};
     options->mode = Mode::Scroll;
-    options->motion = line.Choice("scroll");
+    const QString direction = line.Value("scroll");
+    const Motion* scroll = FindScroll(direction);
+    if (!scroll)
+        throw Misuse{
+            QStringLiteral("--scroll takes %1, not \"%2\"%3")
+                .arg(OneOf(Directions()), direction, DidYouMeanOneOf(direction, Directions()))};
+    options->motion = scroll->number;
 }
 
 /** The file that @p option names, as the scene will name it: seen from the scene's folder. */
@@ -186,8 +198,6 @@ int ReadHold(const CommandLine& line)
 
 QVector<Option> WishOptions()
 {
-    const QStringList directions{QStringLiteral("left"), QStringLiteral("right"),
-                                 QStringLiteral("up"), QStringLiteral("down")};
     const QStringList dazzles{QStringLiteral("plain"), QStringLiteral("linear"),
                               QStringLiteral("radial"), QStringLiteral("conical")};
     return {
@@ -209,8 +219,9 @@ QVector<Option> WishOptions()
         Option::Text("effect", "NAME|N", "The entrance effect (animtext effects lists them all).")
             .Or("4")
             .Offering(EffectNames()),
-        Option::Choice("scroll", "DIRECTION", directions,
-                       "Scrolls left, right, up or down in place of an entrance."),
+        Option::Text("scroll", "DIRECTION",
+                     "Scrolls left, right, up or down in place of an entrance.")
+            .Offering(Directions()),
         Option::Number("speed", 0, 9, "0 slowest to 9 fastest.").Or("5"),
         Option::Time("hold", holdUnit, 0, most, "TIME",
                      "How long a page stands, as in 2s or 1500ms, or a number of 100 ms.")

@@ -12,7 +12,7 @@ namespace AnimText {
 
 /** Attributes whose value is a text. */
 const QStringList& TextAttributeKeys();
-/** Attributes whose value is a whole number: settings, flags and colours. */
+/** Attributes whose value is a whole number: settings, flags and colors. */
 const QStringList& NumberAttributeKeys();
 /** Lists with a row for each character. */
 const QStringList& ListKeys();
