@@ -1,5 +1,7 @@
 #include "player/player.h"
 
+#include <hneonnodebase.h>
+
 namespace AnimText {
 
 Player::Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin)
@@ -26,11 +28,34 @@ bool Player::Load(const Scene& scene, QString* error)
     return stage.Build(scene, error);
 }
 
+QVector<qint64> Player::Durations() const
+{
+    QVector<qint64> durations;
+    for (int node = 0; node < NodeCount(); ++node)
+        durations.append(stage.Node(node)->Duration());
+    return durations;
+}
+
 void Player::Start(uint seed)
 {
     origin = dispatcher->Now();
-    tick = 0;
+    scheduled.reset();
     stage.Start(seed);
+    Begin();
+}
+
+void Player::Start(const Schedule& schedule, uint seed)
+{
+    origin = dispatcher->Now();
+    stage.Stop();
+    scheduled = std::make_unique<ScheduledPlay>(&stage, schedule, seed);
+    scheduled->Change(0);
+    Begin();
+}
+
+void Player::Begin()
+{
+    tick = 0;
     // What was made just now has not been shown before.
     swaps = QVector<qint64>(NodeCount(), 0);
     swapped = QVector<bool>(NodeCount(), false);
@@ -45,6 +70,11 @@ void Player::Start(uint seed)
 void Player::Advance()
 {
     ++tick;
+    while (scheduled && scheduled->NextChange() >= 0 && scheduled->NextChange() <= Time()) {
+        const qint64 change = scheduled->NextChange();
+        dispatcher->AdvanceTo(origin + change);
+        scheduled->Change(change);
+    }
     dispatcher->AdvanceTo(origin + Time());
     CountSwaps();
 }

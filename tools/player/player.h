@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_PLAYER_H
 #define ANIMTEXT_PLAYER_H
 
+#include "player/schedule.h"
 #include "player/stage.h"
 #include "player/virtualdispatcher.h"
 
@@ -34,11 +35,16 @@ public:
 
     /** Tick 0: starts every node. */
     void Start(uint seed = standardSeed);
+    /** Tick 0 of a showing in which the host starts and stops the nodes as @p schedule says. */
+    void Start(const Schedule& schedule, uint seed);
     /** Goes on to the next tick. */
     void Advance();
 
     int Tick() const { return tick; }
     qint64 Time() const { return qint64(tick) * tickLength; }
+
+    /** What the host is told that each node takes, milliseconds. */
+    QVector<qint64> Durations() const;
 
     Stage& Scenery() { return stage; }
     int NodeCount() const { return stage.NodeCount(); }
@@ -55,11 +61,13 @@ private:
     Q_DISABLE_COPY(Player)
 
     static qint64 Clock(void* player);
+    void Begin();
     qint64 Swaps(int node) const;
     void CountSwaps();
 
     VirtualDispatcher* dispatcher;
     Stage stage;
+    std::unique_ptr<ScheduledPlay> scheduled;
     qint64 origin = 0;
     int tick = 0;
     QVector<qint64> swaps;

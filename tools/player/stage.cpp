@@ -98,11 +98,16 @@ int Stage::FindTextLayer(int node, const QVector<Torv::CallRecord>& startCalls) 
 
 void Stage::Stop()
 {
-    for (Part& part : parts) {
-        part.render->Remove();
-        part.session = 0;
-        part.textLayer = -1;
-    }
+    for (int node = 0; node < int(parts.size()); ++node)
+        StopNode(node);
+}
+
+void Stage::StopNode(int node)
+{
+    Part& part = parts.at(size_t(node));
+    part.render->Remove();
+    part.session = 0;
+    part.textLayer = -1;
 }
 
 void Stage::KeepCalls(bool keep)

@@ -39,8 +39,10 @@ public:
      * with @p seed: every start draws the same ones.
      */
     void Start(uint seed);
+    void StartNode(int node, uint seed);
     /** Stops every node and takes it off the display. */
     void Stop();
+    void StopNode(int node);
 
     int NodeCount() const { return tree.nodes.size(); }
     Lw::HNeonNodeBase* Node(int node) const { return tree.nodes.at(node); }
@@ -72,7 +74,6 @@ private:
     };
 
     static void Log(void* stage, const Torv::CallRecord& call);
-    void StartNode(int node, uint seed);
     int FindTextLayer(int node, const QVector<Torv::CallRecord>& startCalls) const;
 
     Lw::INodePlugin* plugin;

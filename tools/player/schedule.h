@@ -1,0 +1,59 @@
+/**
+ * @file
+ * When the host plays what: by the times that it is told, not by those that the plays take.
+ */
+#ifndef ANIMTEXT_SCHEDULE_H
+#define ANIMTEXT_SCHEDULE_H
+
+#include "scene/scene.h"
+
+#include <QVector>
+
+namespace AnimText {
+
+/** A node's time on the display, in milliseconds from the start of the program. */
+struct Showing
+{
+    int node; ///< in the order of the file
+    int page;
+    qint64 from;
+    qint64 until;
+};
+
+/**
+ * One showing of a program: its pages follow one another, the areas of a page play side by side and
+ * the nodes of an area in turn, each for its Duration(). A page ends with its longest area; the
+ * last node of the others goes on until then. What is told to take no time is not shown.
+ */
+struct Schedule
+{
+    QVector<Showing> showings; ///< in the order of their beginnings
+    qint64 length = 0;         ///< milliseconds
+};
+
+/** @param durations what each node's Duration() answers, milliseconds, in the order of the file */
+Schedule HostSchedule(const Scene& scene, const QVector<qint64>& durations);
+
+class Stage;
+
+/** Starts and stops the nodes of a stage as a schedule says, on anybody's clock. */
+class ScheduledPlay
+{
+public:
+    ScheduledPlay(Stage* stage, const Schedule& schedule, uint seed);
+
+    /** When there is something to start or to stop, milliseconds; negative: never again. */
+    qint64 NextChange() const;
+    /** Does what is due at @p time: first what ends, then what begins. */
+    void Change(qint64 time);
+
+private:
+    Stage* stage;
+    QVector<Showing> coming;
+    QVector<Showing> shown;
+    uint seed;
+};
+
+} // namespace AnimText
+
+#endif
