@@ -3,6 +3,9 @@
 #include <hneonnodebase.h>
 #include <torvsdk.h>
 
+#include <QDataStream>
+#include <QPainterPath>
+
 #include <algorithm>
 
 namespace AnimText {
@@ -62,6 +65,34 @@ qint64 LongestPlay(const SceneNode& node)
 }
 
 } // namespace
+
+BlankScene::BlankScene(const Scene& from)
+    : scene(from)
+{
+    int longest = 0;
+    for (const SceneNode* node : scene.Nodes())
+        longest =
+            std::max(longest, node->attributes.value(QStringLiteral("Text")).toString().size());
+    QByteArray list;
+    QDataStream inner(&list, QIODevice::WriteOnly);
+    inner.setVersion(QDataStream::Qt_4_8);
+    inner << QVector<QPainterPath>(longest);
+    if (!outlines.open())
+        return;
+    QDataStream outer(&outlines);
+    outer << list.toBase64();
+    if (outer.status() != QDataStream::Ok || !outlines.flush())
+        return;
+    for (ScenePage& page : scene.pages) {
+        for (SceneArea& area : page.areas) {
+            for (SceneNode& node : area.nodes) {
+                const auto file = node.files.find(QStringLiteral("PathData"));
+                if (file != node.files.end())
+                    *file = outlines.fileName();
+            }
+        }
+    }
+}
 
 int LongestPlay(const Scene& scene)
 {

@@ -8,6 +8,7 @@
 #include "player/player.h"
 
 #include <QString>
+#include <QTemporaryFile>
 #include <QVector>
 
 #include <functional>
@@ -40,6 +41,22 @@ using Watch = std::function<bool(int tick)>;
  * @param longest the last tick to play
  */
 QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch& watch = Watch());
+
+/**
+ * A scene whose characters have empty outlines. Outlines are only painted, so that it plays as the
+ * scene that it is made from does, in a small part of the time.
+ */
+class BlankScene
+{
+public:
+    explicit BlankScene(const Scene& from);
+
+    const Scene& Get() const { return scene; }
+
+private:
+    Scene scene;
+    QTemporaryFile outlines; // of all its nodes; there as long as it plays
+};
 
 /** More ticks than any play of the scene can take, as far as that can be told from its settings. */
 int LongestPlay(const Scene& scene);

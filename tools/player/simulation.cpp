@@ -31,13 +31,14 @@ bool HasHolds(const Scene& scene)
 QVector<Simulation> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
                              QString* error)
 {
-    const Scene holdless = WithoutHolds(scene);
+    const BlankScene blank(scene);
+    const Scene holdless = WithoutHolds(blank.Get());
     if (!player->Load(holdless, error))
         return {};
     const QVector<NodePlay> moving = PlayToEnd(player, LongestPlay(scene), seed, watch);
     QVector<NodePlay> whole = moving;
     if (HasHolds(scene)) {
-        if (!player->Load(scene, error))
+        if (!player->Load(blank.Get(), error))
             return {};
         whole = PlayToEnd(player, LongestPlay(scene), seed, watch);
     }
