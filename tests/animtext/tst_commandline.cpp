@@ -56,7 +56,7 @@ private slots:
         row("animtext render one.json -o a/ --seconds 0.5s && ls a | wc -l", "8\n");
         row("animtext render one.json -o a/ --seconds 528ms && ls a | wc -l", "8\n");
         row("animtext render one.json -o a/ --frames 1-2 && ls a",
-            "frame-0000.png\nframe-0001.png\n");
+            "frame-0001.png\nframe-0002.png\n");
         row("animtext author --text a --scroll ContinueEffectUp -o a.json",
             "; ContinueEffectUp in");
         row("animtext soak --hours 6min one.json", "simulated hours                 0.10");
@@ -137,7 +137,16 @@ private slots:
         row("animtext render one.json -o a.gif --seconds 0", 2, "from 0.001 to 86400");
         row("animtext render one.json -o a.gif --frames 2-99", 2, "the pictures 0 to 3");
         row("animtext render one.json -o a.gif --frames 2-1", 2, "the first and the last");
-        row("animtext render one.json -o a.gif --frames 3", 2, "the first and the last");
+        row("animtext render one.json -o a.gif --frames 3-", 2, "one such as 5");
+        row("animtext render one.json -o a.gif --at 4t", 2, "it has no picture 4");
+        row("animtext render one.json -o a.gif --at 1t --frames 1", 2, "exclude each other");
+        row("animtext render one.json -o a.png", 2, "say which with --at or --frames");
+        row("animtext render one.json -o a.png --frames 0-1", 2, "say which with --at");
+        row("animtext render one.json -o a.mp4 --transparent", 2, "cannot be transparent");
+        row("animtext render one.json -o a.gif --lossless", 2, ".gif lose colors");
+        row("animtext render one.json -o a.webm --lossless --transparent", 2, "transparent films");
+        row("animtext render one.json -o a.gif --transparent --background red", 2, "exclude each");
+        row("animtext render one.json ./one.json -o a", 2, "would both become one.gif");
         row("animtext render one.json -o a.gif --background mud", 2, "a color or #rrggbb");
         // Of single commands.
         row("animtext render one.json", 2, "expected -o OUT");

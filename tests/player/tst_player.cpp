@@ -1,6 +1,7 @@
 #include "player/film.h"
 #include "player/plugin.h"
 #include "player/simulation.h"
+#include "player/videofile.h"
 #include "testscene.h"
 
 #include <hneonnodebase.h>
@@ -216,6 +217,80 @@ private slots:
         QCOMPARE(pictures.at(1).pixel(2 * 40, 2 * 16), qRgb(0xFF, 0xA0, 0x40));
         QCOMPARE(pictures.at(2), pictures.at(1));
         QCOMPARE(pictures.at(3), pictures.at(1));
+    }
+
+    /** Ends are looked for without outlines. */
+    void findsTheSameEndWithoutOutlines()
+    {
+        for (int effect = 0; effect < 30; ++effect) {
+            const Scene scene = files.Of({files.Node({"abcdef", effect, 9, 3})});
+            const int end = PlayToEnd(Load(scene), LongestPlay(scene), 1).value(0).finishedTick;
+            QVERIFY(end > 0);
+            QCOMPARE(Simulate(player.get(), scene, 1, Watch(), &error).value(0).finishedMs,
+                     qint64(end) * 66);
+        }
+    }
+
+    /** Two pages: areas of two nodes and of one, then one that is told no time. */
+    void playsByTheHostsSchedule()
+    {
+        Scene scene = files.Of({files.Node({"a"}), files.Node({"b", 4, 9, 3})});
+        scene.display = QSize(192, 32);
+        SceneNode right = files.Node({"a"});
+        right.pos = QPoint(64, 0);
+        scene.pages.first().areas.append(SceneArea{{right}});
+        SceneNode last = files.Node({"ab", 4, 9, 3});
+        last.pos = QPoint(128, 0);
+        scene.pages.append(ScenePage{{SceneArea{{last, files.Node({" "})}}}});
+        const Schedule schedule = HostSchedule(scene, {100, 300, 150, 200, 0});
+        QStringList showings;
+        for (const Showing& showing : schedule.showings)
+            showings.append(
+                QString("%1: %2-%3").arg(showing.node).arg(showing.from).arg(showing.until));
+        QCOMPARE(showings.join(", "), QString("0: 0-100, 2: 0-400, 1: 100-400, 3: 400-600"));
+        QCOMPARE(schedule.length, 600);
+
+        Load(scene)->Start(schedule, 1);
+        QStringList shown; // tick 2 is at 132 ms, 6 at 396, 7 at 462, 10 at 660
+        for (; player->Tick() <= 10; player->Advance()) {
+            QString nodes;
+            for (int node = 0; node < 5; ++node)
+                nodes += player->Scenery().Session(node) ? QString::number(node) : QString();
+            shown.append(nodes);
+        }
+        QCOMPARE(shown.join(' '), QString("02 02 12 12 12 12 12 3 3 3 "));
+
+        FilmSettings settings;
+        settings.schedule = true;
+        Film film(Load(scene), scene, settings);
+        QVERIFY(film.Plan(FilmWatch(), &error));
+        const Schedule told = HostSchedule(scene, player->Durations());
+        QCOMPARE(film.FrameCount(), int((told.length + 65) / 66));
+        QImage end;
+        QVERIFY(film.Play(
+            {int(told.showings.at(3).until / 66)},
+            [&](int, const QImage& picture) { return end = picture, true; }, &error));
+        QCOMPARE(end.pixel(128 + 8, 16), qRgb(0xFF, 0xA0, 0x40));
+        QCOMPARE(end.pixel(8, 16), qRgb(0, 0, 0));
+    }
+
+    void givesUpOnAnEncoderThatStandsStill()
+    {
+        const QTemporaryDir programs;
+        QFile script(programs.filePath("ffmpeg"));
+        QVERIFY(script.open(QIODevice::WriteOnly) && script.write("#!/bin/sh\nexec sleep 600\n"));
+        script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        script.close();
+        const QByteArray before = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(programs.path()) + ':' + before);
+        VideoFile film(
+            files.Path("still.gif"), "gif", [] { return true; }, 100);
+        QVERIFY(film.Open({QSize(8, 8), 0, 1, false, false}, &error));
+        QVERIFY(!film.Finish(&error));
+        QVERIFY2(error.endsWith("still.gif cannot be written: ffmpeg has stood still for 0.1 s and "
+                                "was ended"),
+                 qPrintable(error));
+        qputenv("PATH", before);
     }
 
 private:

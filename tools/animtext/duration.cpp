@@ -5,8 +5,6 @@
 #include "animtext/progress.h"
 #include "player/simulation.h"
 
-#include <hneonnodebase.h>
-
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -36,9 +34,8 @@ QString Difference(qint64 model, qint64 real)
                         100.0 * double(std::llabs(difference)) / double(model), 0, 'f', 1)
                   : QString();
     return difference > 0
-               ? QStringLiteral("The play takes %1%2 longer than the host is told, and a host that "
-                                "keeps to it cuts the end off.")
-                     .arg(Seconds(difference), part)
+               ? QStringLiteral("Told %1, really %2: the last %3%4 are cut off.")
+                     .arg(Seconds(model), Seconds(real), Seconds(difference), part)
                : QStringLiteral("The play ends %1%2 before the time that the host is told, and "
                                 "begins anew until then.")
                      .arg(Seconds(-difference), part);
@@ -112,9 +109,7 @@ void Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
 {
     const std::unique_ptr<Player> player = playing.Load(scene);
     const int nodes = player->NodeCount();
-    QVector<qint64> models;
-    for (int node = 0; node < nodes; ++node)
-        models.append(player->Scenery().Node(node)->Duration());
+    const QVector<qint64> models = player->Durations();
 
     QVector<Simulation> simulations;
     if (line.IsSet("simulate"))
@@ -128,7 +123,7 @@ void Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
 
 int TellDuration(const CommandLine& line)
 {
-    const Scene scene = OpenScene(line, line.Arguments().first());
+    const Scene scene = OpenPlayableScene(line, line.Arguments().first());
     const Playing playing(line);
     if (line.IsSet("table"))
         TellDurationTable(playing, scene, line.IsSet("json"));
@@ -148,7 +143,7 @@ Command DurationCommand()
             1,
             "Tells the play time that the host is told before a scene plays and, simulated, the "
             "time that the play really takes.",
-            WithPlayOptions(
+            WithShowOptions(
                 {Option::Flag("simulate", "Plays the scene too, and tells the difference."),
                  Option::Flag("table", "Tells both times of the scene's first text for every "
                                        "entrance effect at speeds 0, 4, 5 and 9."),

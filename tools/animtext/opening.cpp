@@ -1,6 +1,9 @@
 #include "animtext/opening.h"
 
 #include "player/plugin.h"
+#include "validate/validate.h"
+
+#include <QSet>
 
 #include <limits>
 
@@ -18,6 +21,13 @@ QVector<Option> WithPlayOptions(QVector<Option> own)
                                   "Plays on although a file that the scene names is missing.")};
 }
 
+QVector<Option> WithShowOptions(QVector<Option> own)
+{
+    return WithPlayOptions(own) +
+           QVector<Option>{Option::Flag(
+               "force", "Plays a scene although it has errors that leave nothing to show.")};
+}
+
 Scene OpenScene(const CommandLine& line, const QString& path)
 {
     const MissingFiles missing =
@@ -26,6 +36,28 @@ Scene OpenScene(const CommandLine& line, const QString& path)
     QString error;
     if (!ReadScene(path, &scene, &error, missing))
         throw Failure{BadInput, error};
+    return scene;
+}
+
+Scene OpenPlayableScene(const CommandLine& line, const QString& path)
+{
+    // With these the display stays dark, or what it shows is not the scene.
+    static const QSet<QByteArray> nothingToShow{
+        "node-type",      "area-empty",        "canvas-large", "mode-unknown",
+        "effect-unknown", "direction-unknown", "file-missing", "data-malformed"};
+    const Scene scene = OpenScene(line, path);
+    bool isPlayed = true;
+    for (const Finding& finding : ValidateScene(scene)) {
+        if (finding.rule->severity != Severity::Error)
+            continue;
+        Warn(QStringLiteral("%1: %2: found %3, expected %4. %5")
+                 .arg(path, finding.place, finding.found, finding.expected,
+                      QLatin1String(finding.rule->why)));
+        isPlayed = isPlayed && !nothingToShow.contains(finding.rule->code);
+    }
+    if (!isPlayed && !line.IsSet("force") && !line.IsSet("allow-missing-files"))
+        throw Failure{BadInput,
+                      QStringLiteral("%1 is not played; --force plays it all the same").arg(path)};
     return scene;
 }
 

@@ -16,8 +16,17 @@ namespace AnimText {
 /** @p own and --plugin, --seed and --allow-missing-files. */
 QVector<Option> WithPlayOptions(QVector<Option> own);
 
+/** The same and --force, for OpenPlayableScene(). */
+QVector<Option> WithShowOptions(QVector<Option> own);
+
 /** Reads a scene as the options say; throws Failure when it cannot be read. */
 Scene OpenScene(const CommandLine& line, const QString& path);
+
+/**
+ * The same, and tells the errors that validate finds. Throws Failure when one of them leaves
+ * nothing to show and neither --force nor --allow-missing-files says to go on.
+ */
+Scene OpenPlayableScene(const CommandLine& line, const QString& path);
 
 /** What a command plays with. */
 class Playing

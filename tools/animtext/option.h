@@ -39,7 +39,8 @@ struct Option
     static Option Number(const char* name, int least, int most, const char* help);
     static Option Fraction(const char* name, double least, double most, const char* value,
                            const char* help);
-    /** Times are told as 2s, 2.5s, 1500ms, 3min, 1h, or as a plain number of @p unit milliseconds.
+    /** Times are told as 2s, 2.5s, 1500ms, 3min, 1h, 40t (ticks), or as a plain number of @p unit
+     * milliseconds.
      */
     static Option Time(const char* name, int unit, double least, double most, const char* value,
                        const char* help);

@@ -1,33 +1,93 @@
+#include "animtext/batch.h"
 #include "animtext/commands.h"
 #include "animtext/interruption.h"
 #include "animtext/opening.h"
 #include "animtext/progress.h"
 #include "player/film.h"
 #include "player/filmfile.h"
+#include "player/plugin.h"
 
 #include <numeric>
+#include <thread>
 
 namespace AnimText {
 
 namespace {
 
-FilmSettings SettingsFor(const CommandLine& line, const QString& output, uint seed)
+const FilmKind& KindOf(const QString& output)
+{
+    if (const FilmKind* kind = FilmKindOf(output))
+        return *kind;
+    QStringList endings;
+    for (const FilmKind& kind : FilmKinds())
+        endings.append(QLatin1String(kind.ending));
+    endings.removeLast();
+    throw Misuse{
+        QStringLiteral("%1: expected a name that ends with %2, or with / for a folder of PNGs")
+            .arg(output, endings.join(QStringLiteral(", ")))};
+}
+
+/** Throws Misuse when films of that kind cannot be what the options ask for. */
+void CheckKind(const CommandLine& line, const FilmKind& kind)
+{
+    const auto refuse = [&](const char* what) {
+        throw Misuse{
+            QString::fromLatin1(what).replace(QStringLiteral("%1"), QLatin1String(kind.ending))};
+    };
+    const bool transparent = line.IsSet("transparent");
+    if (transparent && line.IsSet("background"))
+        refuse("--transparent and --background exclude each other");
+    if (transparent && !kind.transparent)
+        refuse("films that end with %1 cannot be transparent");
+    if (line.IsSet("lossless") && !kind.lossless)
+        refuse("films that end with %1 lose colors; take .apng, .webp or .mp4");
+    if (line.IsSet("lossless") && transparent && !kind.losslessTransparent)
+        refuse("transparent films that end with %1 lose colors; take .apng or .webp");
+    if (line.IsSet("at") && line.IsSet("frames"))
+        refuse("--at and --frames exclude each other");
+    const bool isOne =
+        line.IsSet("frames") && line.Range("frames").first == line.Range("frames").second;
+    if (kind.still && !isOne && !line.IsSet("at"))
+        refuse("a PNG is one picture: say which with --at or --frames");
+}
+
+FilmSettings SettingsFor(const CommandLine& line, const FilmKind& kind, uint seed)
 {
     FilmSettings settings;
-    settings.evenSize = IsOpaqueFilm(output);
+    settings.evenSize = kind.evenSides && !line.IsSet("lossless");
     settings.scale = line.Number("scale");
     settings.seed = seed;
+    settings.schedule = line.IsSet("schedule");
     if (line.IsSet("seconds"))
         settings.seconds = line.Time("seconds") / 1000;
     if (line.IsSet("background"))
         settings.background = line.Color("background");
-    else if (IsOpaqueFilm(output))
-        settings.background = Qt::black;
+    else if (line.IsSet("transparent"))
+        settings.background = QColor();
     return settings;
 }
 
-/** @param range the first and the last of the pictures that are wanted */
-void Write(Film* film, QPair<int, int> range, FilmFile* file)
+/** The first and the last of the pictures that are wanted, of @p frames that there are. */
+QPair<int, int> RangeFor(const CommandLine& line, int frames)
+{
+    QPair<int, int> range(0, frames - 1);
+    if (line.IsSet("frames"))
+        range = line.Range("frames");
+    if (line.IsSet("at")) {
+        // Times as people write them can lie a hair before their tick.
+        const int tick = int(line.Time("at") / tickLength + 1e-6);
+        range = {tick, tick};
+    }
+    if (range.second >= frames)
+        throw Misuse{QStringLiteral("the film has the pictures 0 to %1 and ends after %2 s; it has "
+                                    "no picture %3")
+                         .arg(frames - 1)
+                         .arg(double(frames) * tickLength / 1000)
+                         .arg(range.second)};
+    return range;
+}
+
+void Write(Film* film, QPair<int, int> range, bool lossless, const QString& output)
 {
     QString error;
     const int frames = range.second - range.first + 1;
@@ -36,36 +96,34 @@ void Write(Film* film, QPair<int, int> range, FilmFile* file)
         if (!succeeded)
             throw Failure{FailedRun, error};
     };
-    check(file->Open({film->FrameSize(), frames, film->IsTransparent()}, &error));
+    const std::unique_ptr<FilmFile> file = MakeFilmFile(output, [] { return !Interrupted(); });
+    check(file->Open({film->FrameSize(), range.first, frames, film->IsTransparent(), lossless},
+                     &error));
     {
         Progress progress(QStringLiteral("rendering"), frames);
         QVector<int> wanted(frames);
         std::iota(wanted.begin(), wanted.end(), range.first);
         const auto take = [&](int index, const QImage& picture) {
-            if (!file->Add(picture, &error))
+            if (!file->Add(index, picture, &error))
                 return false;
             progress.Show(index - range.first + 1);
             return !Interrupted();
         };
         check(film->Play(wanted, take, &error));
     }
-    check(file->Finish([] { return !Interrupted(); }, &error));
+    check(file->Finish(&error));
+    if (!file->Remark().isEmpty())
+        Warn(file->Remark());
 }
 
-int Render(const CommandLine& line)
+void RenderOne(const CommandLine& line, const QString& output)
 {
-    const QString output = line.Value("output");
-    const std::unique_ptr<FilmFile> file = MakeFilmFile(output);
-    if (!file)
-        throw Misuse{QStringLiteral("%1: expected a name that ends with %2, or with / for a folder "
-                                    "of PNGs")
-                         .arg(output, FilmEndings().join(QStringLiteral(", ")))};
-    const Scene scene = OpenScene(line, line.Arguments().first());
+    const FilmKind& kind = KindOf(output);
+    CheckKind(line, kind);
+    const Scene scene = OpenPlayableScene(line, line.Arguments().first());
     const Playing playing(line);
     const std::unique_ptr<Player> player = playing.Load(scene);
-
-    WatchForInterruption();
-    Film film(player.get(), scene, SettingsFor(line, output, playing.Seed()));
+    Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()));
     {
         QString error;
         Progress progress(QStringLiteral("finding the end"), 0);
@@ -76,15 +134,78 @@ int Render(const CommandLine& line)
         if (!film.Plan(watch, &error))
             throw Failure{BadInput, error};
     }
-    QPair<int, int> range(0, film.FrameCount() - 1);
-    if (line.IsSet("frames"))
-        range = line.Range("frames");
-    if (range.second >= film.FrameCount())
-        throw Misuse{QStringLiteral("the film has the pictures 0 to %1, not %2")
-                         .arg(film.FrameCount() - 1)
-                         .arg(line.Value("frames"))};
-    Write(&film, range, file.get());
+    Write(&film, RangeFor(line, film.FrameCount()), line.IsSet("lossless"), output);
+}
+
+void RenderMany(const CommandLine& line, const QString& folder)
+{
+    const QString kind = line.Value("as");
+    Batch batch;
+    batch.scenes = line.Arguments();
+    batch.folder = folder;
+    batch.ending = kind == QLatin1String("frames") ? QStringLiteral("/") : QLatin1Char('.') + kind;
+    batch.plugin = PluginPath(line.IsSet("plugin") ? line.Value("plugin") : QString());
+    batch.jobs = line.IsSet("jobs") ? line.Number("jobs")
+                                    : int(std::max(1U, std::thread::hardware_concurrency()));
+    batch.resume = line.IsSet("resume");
+    CheckKind(line, KindOf(batch.ending));
+    for (const Option& option : RenderCommand().options) {
+        const QString name = QLatin1String(option.name);
+        static const QStringList ours{QStringLiteral("output"), QStringLiteral("as"),
+                                      QStringLiteral("jobs"), QStringLiteral("resume")};
+        if (!line.IsSet(option.name) || ours.contains(name))
+            continue;
+        const QString value = QLatin1Char('=') + line.Value(option.name);
+        batch.options.append(QStringLiteral("--") + name +
+                             (option.kind == Kind::Flag ? QString() : value));
+    }
+    RenderAll(batch);
+}
+
+int Render(const CommandLine& line)
+{
+    const QString output = line.Value("output");
+    WatchForInterruption();
+    if (line.Arguments().size() > 1 || line.IsSet("as"))
+        RenderMany(line, output);
+    else
+        RenderOne(line, output);
     return Done;
+}
+
+QVector<Option> Options()
+{
+    return {
+        Option::File("output", "OUT",
+                     "Where the film goes; its ending (.gif, .apng, .webp, .mp4, .webm, .png "
+                     "or /) tells the format.")
+            .Letter('o')
+            .Required(),
+        Option::Time("seconds", 1000, 0.001, 86400, "S",
+                     "Plays that long; in seconds, or as in 1500ms or 2min."),
+        Option::Flag("schedule", "Plays as the host does: the pages, and the texts of an area, "
+                                 "one after another, each for the time that the host is told, "
+                                 "whether it is done then or not."),
+        Option::Range("frames", "Writes only these pictures, or one, the first one being 0."),
+        Option::Time("at", 1000, 0, 86400, "TIME",
+                     "Writes the picture of one moment: 2.5s, or 40t for tick 40."),
+        Option::Number("scale", 1, 16, "Makes each pixel a square of N by N.").Or("1"),
+        Option::Color("background", "Paints this color under the display in place of black."),
+        Option::Flag("transparent", "Lets through what lies behind the display. Not for MP4."),
+        Option::Flag("lossless",
+                     "Keeps every pixel of an MP4 or WebM. Not every program plays such films."),
+        Option::Choice("as", "KIND",
+                       {QStringLiteral("gif"), QStringLiteral("apng"), QStringLiteral("webp"),
+                        QStringLiteral("mp4"), QStringLiteral("webm"), QStringLiteral("png"),
+                        QStringLiteral("frames")},
+                       "Renders each scene into the folder OUT, under its own name and as this "
+                       "kind of film; frames is a folder of PNGs.")
+            .Or("gif"),
+        Option::Number("jobs", 1, 1000,
+                       "How many scenes are rendered at once; as many as there are processors "
+                       "unless told."),
+        Option::Flag("resume", "Leaves films that are there and newer than their scene, its "
+                               "data files, the plugin and this program.")};
 }
 
 } // namespace
@@ -92,28 +213,17 @@ int Render(const CommandLine& line)
 Command RenderCommand()
 {
     return {"render",
-            "plays a scene and writes it as GIF, APNG, WebP, MP4, WebM or PNGs",
-            "SCENE.json",
+            "plays scenes and writes them as GIF, APNG, WebP, MP4, WebM or PNGs",
+            "SCENE.json...",
             1,
-            1,
+            100000,
             "Plays a scene on virtual time, as fast as it can be painted, and writes what the "
             "display shows, a picture for each tick of 66 ms. Without --seconds it plays until "
             "every text has finished and stood for one hold more; a text that the device scrolls "
             "goes through its area once. A name that ends with a slash becomes a folder of PNGs; "
-            "all else needs the program ffmpeg. The output appears when it is whole.",
-            WithPlayOptions(
-                {Option::File("output", "OUT",
-                              "Where the film goes; its ending (.gif, .apng, "
-                              ".webp, .mp4, .webm or /) tells the format.")
-                     .Letter('o')
-                     .Required(),
-                 Option::Time("seconds", 1000, 0.001, 86400, "S",
-                              "Plays that long; in seconds, or as in 1500ms or 2min."),
-                 Option::Range("frames", "Writes only these pictures, the first one being 0."),
-                 Option::Number("scale", 1, 16, "Makes each pixel a square of N by N.").Or("1"),
-                 Option::Color("background",
-                               "Paints this color under the display. Without it the film is "
-                               "transparent, MP4 black.")}),
+            "all but PNGs needs the program ffmpeg. The output appears when it is whole. Several "
+            "scenes, or --as, render each scene into the folder OUT, side by side.",
+            WithShowOptions(Options()),
             Render};
 }
 

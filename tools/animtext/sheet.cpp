@@ -4,12 +4,11 @@
 #include "animtext/opening.h"
 #include "animtext/progress.h"
 #include "player/film.h"
+#include "player/stillfile.h"
 
 #include "scene/catalogue.h"
 
-#include <QBuffer>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace AnimText {
 
@@ -76,16 +75,12 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
 
 void Save(const QImage& picture, const QString& path)
 {
-    if (path == QLatin1String("-")) {
-        QBuffer png;
-        picture.save(&png, "PNG");
-        Print(png.data());
-        return;
-    }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "PNG") || !file.commit())
-        throw Failure{FailedRun,
-                      QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString())};
+    const QByteArray png = PngOf(picture, false);
+    QString error;
+    if (path == QLatin1String("-"))
+        Print(png);
+    else if (!WritePng(path, png, &error))
+        throw Failure{FailedRun, error};
 }
 
 int DrawSheet(const CommandLine& line)
@@ -96,7 +91,7 @@ int DrawSheet(const CommandLine& line)
         throw Misuse{QStringLiteral("%1: expected a name that ends with .png").arg(output)};
     QVector<Scene> scenes;
     for (const QString& path : line.Arguments())
-        scenes.append(OpenScene(line, path));
+        scenes.append(OpenPlayableScene(line, path));
     const Playing playing(line);
 
     WatchForInterruption();
@@ -122,7 +117,7 @@ Command SheetCommand()
             1,
             1000,
             "Draws a contact sheet: for each scene a row of frames, evenly spaced over its play.",
-            WithPlayOptions({Option::File("output", "SHEET.png",
+            WithShowOptions({Option::File("output", "SHEET.png",
                                           "Where the sheet goes, a PNG; - for standard output.")
                                  .Letter('o')
                                  .Required(),

@@ -2,6 +2,7 @@
 
 #include "animtext/filenames.h"
 #include "animtext/output.h"
+#include "player/player.h"
 #include "scene/suggest.h"
 
 #include <QRegularExpression>
@@ -75,7 +76,7 @@ double ToMilliseconds(const Option& option, const QString& text)
     {
         const char* name;
         double milliseconds;
-    } units[] = {{"ms", 1}, {"s", 1000}, {"min", 60000}, {"h", 3600000}};
+    } units[] = {{"ms", 1}, {"s", 1000}, {"min", 60000}, {"h", 3600000}, {"t", tickLength}};
     static const QRegularExpression pattern(QStringLiteral("^(-?[0-9.]+) ?([a-z]*)$"));
     const auto match = pattern.match(text);
     bool isNumber = false;
@@ -88,7 +89,8 @@ double ToMilliseconds(const Option& option, const QString& text)
     const double milliseconds = number * unit;
     if (!isNumber || unit == 0 || !IsWithin(option, milliseconds / option.unit))
         Takes(option,
-              QStringLiteral("a time such as 2.5s or 1500ms, or a number %1").arg(Limits(option)),
+              QStringLiteral("a time such as 2.5s, 1500ms or 40t (ticks), or a number %1")
+                  .arg(Limits(option)),
               text);
     return milliseconds;
 }
@@ -124,9 +126,12 @@ QColor ToColor(const Option& option, const QString& text)
 
 QPair<int, int> ToRange(const Option& option, const QString& text)
 {
+    const bool isOne = !text.contains(QLatin1Char('-'));
     QPoint ends;
-    if (!ReadPair(text, "(\\d+)-(\\d+)", &ends) || ends.x() > ends.y())
-        Takes(option, QStringLiteral("the first and the last, such as 0-99"), text);
+    if (!ReadPair(isOne ? text + QLatin1Char('-') + text : text, "(\\d+)-(\\d+)", &ends) ||
+        ends.x() > ends.y())
+        Takes(option, QStringLiteral("one such as 5, or the first and the last, such as 0-99"),
+              text);
     return {ends.x(), ends.y()};
 }
 

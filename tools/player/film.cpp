@@ -74,10 +74,31 @@ int Film::PlannedFrames(const QVector<NodePlay>& plays)
 
 bool Film::Plan(const FilmWatch& watch, QString* error)
 {
-    if (settings.seconds > 0) {
-        frameCount = std::max(1, int(std::lround(settings.seconds * 1000 / tickLength)));
-        return true;
+    const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / tickLength)));
+    if (settings.schedule) {
+        schedule = HostSchedule(scene, player->Durations());
+        frameCount = std::max(1, TicksOf(schedule.length));
+        if (settings.seconds > 0)
+            frameCount = std::min(frameCount, wanted);
+    } else if (settings.seconds > 0) {
+        frameCount = wanted;
+    } else if (!FindEnd(watch, error)) {
+        return false;
     }
+    if (frameCount > ticksOfAnHour && settings.seconds <= 0) {
+        *error = QStringLiteral("%1: does not come to an end within an hour; say how much of it to "
+                                "play, for instance --seconds 60")
+                     .arg(scene.path);
+        return false;
+    }
+    return true;
+}
+
+bool Film::FindEnd(const FilmWatch& watch, QString* error)
+{
+    const BlankScene blank(scene);
+    if (!player->Load(blank.Get(), error))
+        return false;
     bool brokenOff = false;
     const auto look = [&](int tick) {
         brokenOff = watch && !watch(tick, 0);
@@ -89,12 +110,6 @@ bool Film::Plan(const FilmWatch& watch, QString* error)
         *error = QStringLiteral("interrupted");
         return false;
     }
-    if (frameCount > ticksOfAnHour) {
-        *error = QStringLiteral("%1: does not come to an end within an hour; say how much of it to "
-                                "play, for instance --seconds 60")
-                     .arg(scene.path);
-        return false;
-    }
     return true;
 }
 
@@ -104,7 +119,7 @@ QImage Film::Picture() const
     const QSize size = FrameSize();
     if (shown.size() == size && IsTransparent())
         return shown;
-    QImage frame(size, QImage::Format_ARGB32);
+    QImage frame(size, IsTransparent() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     frame.fill(IsTransparent() ? QColor(Qt::transparent) : settings.background);
     QPainter painter(&frame);
     if (IsTransparent())
@@ -119,7 +134,10 @@ bool Film::Play(const QVector<int>& wanted,
     // Some of what a play changes outlives a restart, the dazzling colours for one.
     if (!player->Load(scene, error))
         return false;
-    player->Start(settings.seed);
+    if (settings.schedule)
+        player->Start(schedule, settings.seed);
+    else
+        player->Start(settings.seed);
     for (int frame : wanted) {
         while (player->Tick() < frame) {
             Rest();

@@ -1,13 +1,15 @@
 #include "player/pngfolder.h"
 
+#include "player/stillfile.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
-
-#include <sys/stat.h>
+#include <thread>
 
 namespace AnimText {
 
@@ -33,8 +35,9 @@ PngFolder::PngFolder(const QString& path)
 {
 }
 
-bool PngFolder::Open(const FilmFormat&, QString* error)
+bool PngFolder::Open(const FilmFormat& wanted, QString* error)
 {
+    format = wanted;
     const QFileInfo info(path);
     if (info.exists() && !info.isDir()) {
         *error = QStringLiteral("%1 is a file; give the folder another name").arg(path);
@@ -57,34 +60,52 @@ bool PngFolder::Open(const FilmFormat&, QString* error)
     return true;
 }
 
-bool PngFolder::Add(const QImage& picture, QString* error)
+bool PngFolder::Add(int frame, const QImage& picture, QString* error)
 {
-    const QString name =
-        folder->filePath(QStringLiteral("frame-%1.png").arg(frames, 4, 10, QLatin1Char('0')));
-    if (!picture.save(name, "PNG")) {
-        *error = QStringLiteral("%1 cannot be written").arg(name);
-        return false;
+    if (!lastPng.valid() || picture != last) {
+        last = picture;
+        lastPng = std::async(std::launch::async, PngOf, picture, format.transparent).share();
     }
-    ++frames;
-    return true;
+    waiting.push_back({frame, lastPng});
+    return waiting.size() <= std::max(1U, std::thread::hardware_concurrency()) || WriteNext(error);
 }
 
-bool PngFolder::Finish(const std::function<bool()>&, QString* error)
+bool PngFolder::WriteNext(QString* error)
 {
-    // A temporary folder is nobody else's; the one that people asked for is as theirs are.
-    const mode_t mask = umask(0);
-    umask(mask);
-    chmod(QFile::encodeName(folder->path()).constData(), 0777 & ~mask);
+    const Page page = waiting.front();
+    waiting.pop_front();
+    const QByteArray png = page.png.get();
+    const int digits = std::max(4, QString::number(format.firstFrame + format.frames - 1).size());
+    const QString name =
+        QStringLiteral("frame-%1.png").arg(page.frame, digits, 10, QLatin1Char('0'));
+    QFile file(folder->filePath(name));
+    const bool whole = !png.isEmpty() && file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                       file.write(png) == png.size();
+    if (!whole)
+        *error = QStringLiteral("%1/%2 cannot be written: %3").arg(path, name, file.errorString());
+    return whole;
+}
 
-    if (QFileInfo::exists(path) && !QDir(path).removeRecursively()) {
+bool PngFolder::Finish(QString* error)
+{
+    while (!waiting.empty()) {
+        if (!WriteNext(error))
+            return false;
+    }
+    const bool replaces = QFileInfo::exists(path);
+    const QString old = folder->path() + QStringLiteral(".old");
+    if (replaces && !QDir().rename(path, old)) {
         *error = QStringLiteral("%1 cannot be replaced").arg(path);
         return false;
     }
-    if (!QDir().rename(folder->path(), path)) {
-        *error = QStringLiteral("%1 cannot be made").arg(path);
+    if (!PutInPlace(folder->path(), path, 0777, error)) {
+        if (replaces)
+            QDir().rename(old, path);
         return false;
     }
     folder->setAutoRemove(false);
+    if (replaces)
+        QDir(old).removeRecursively();
     return true;
 }
 

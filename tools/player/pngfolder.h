@@ -9,11 +9,15 @@
 
 #include <QTemporaryDir>
 
+#include <deque>
+#include <future>
+
 namespace AnimText {
 
 /**
  * The pictures are written into a folder beside the one they are for, which takes its place in the
- * end. A folder that is there already is replaced if it holds nothing but such pictures.
+ * end. A folder that is there already is replaced if it holds nothing but such pictures. Each file
+ * has the number of its frame. They are compressed on all processors.
  */
 class PngFolder : public FilmFile
 {
@@ -21,13 +25,24 @@ public:
     explicit PngFolder(const QString& path);
 
     bool Open(const FilmFormat& format, QString* error) override;
-    bool Add(const QImage& picture, QString* error) override;
-    bool Finish(const std::function<bool()>& goOn, QString* error) override;
+    bool Add(int frame, const QImage& picture, QString* error) override;
+    bool Finish(QString* error) override;
 
 private:
+    struct Page
+    {
+        int frame;
+        std::shared_future<QByteArray> png;
+    };
+
+    bool WriteNext(QString* error);
+
     QString path;
+    FilmFormat format;
     std::unique_ptr<QTemporaryDir> folder;
-    int frames = 0;
+    std::deque<Page> waiting;
+    QImage last; // and what has become of it: pages that stand are compressed once
+    std::shared_future<QByteArray> lastPng;
 };
 
 } // namespace AnimText

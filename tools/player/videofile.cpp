@@ -1,172 +1,173 @@
 #include "player/videofile.h"
 
-#include <QDir>
+#include "player/filmcheck.h"
+
 #include <QFileInfo>
-#include <QStandardPaths>
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-
-#include <sys/stat.h>
+#include <algorithm>
 
 namespace AnimText {
 
 namespace {
 
-constexpr qint64 mostWaiting = 16 << 20; // bytes that ffmpeg has not taken yet
-constexpr qint64 mostHeld = 256 << 20;   // bytes of pictures that ffmpeg may hold for a palette
+constexpr qint64 mostHeld = 64 << 20; // bytes of pictures that ffmpeg may hold for a palette
+constexpr int samples = 256;          // pictures of a longer film that its palette is made from
 
-QStringList GifEncoding(const FilmFormat& format)
+QStringList Words(const char* words)
 {
-    // One palette for all is the steadiest, but it is known only when all have been seen. A film
-    // too long to be held that long gets a palette for each picture.
-    const qint64 bytes = qint64(format.size.width()) * format.size.height() * 4 * format.frames;
-    const bool one = bytes <= mostHeld;
-    const QString filter = QStringLiteral("split[a][b];[a]palettegen=reserve_transparent=%1%2[p];"
-                                          "[b][p]paletteuse=alpha_threshold=128%3")
-                               .arg(format.transparent ? 1 : 0)
-                               .arg(one ? QString() : QStringLiteral(":stats_mode=single"),
-                                    one ? QString() : QStringLiteral(":new=1"));
-    return {QStringLiteral("-filter_complex"), filter, QStringLiteral("-loop"),
-            QStringLiteral("0")};
+    return QString::fromLatin1(words).split(QLatin1Char(' '));
+}
+
+/** One palette for all, from what @p palette takes and @p pictures are painted with. */
+QStringList GifEncoding(const QString& palette, const QString& pictures, bool transparent)
+{
+    return {QStringLiteral("-filter_complex"),
+            QStringLiteral("%1palettegen=reserve_transparent=%2[p];%3[p]paletteuse="
+                           "alpha_threshold=128")
+                .arg(palette)
+                .arg(transparent ? 1 : 0)
+                .arg(pictures),
+            QStringLiteral("-loop"), QStringLiteral("0")};
+}
+
+bool HasColour(const QImage& picture)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        const bool grey = std::all_of(row, row + picture.width(), [](QRgb pixel) {
+            return ((pixel >> 8 ^ pixel) & 0xFFFF) == 0; // red is green and green is blue
+        });
+        if (!grey)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
 
-VideoFile::VideoFile(const QString& path, const QString& kind)
+VideoFile::VideoFile(const QString& path, const QString& kind, const GoOn& goOn, int patience)
     : path(QFileInfo(path).absoluteFilePath())
     , kind(kind)
+    , goOn(goOn)
+    , patience(patience)
+    , encoder(goOn, patience)
 {
 }
 
-VideoFile::~VideoFile()
+/** The palette of a GIF is known when all pictures have been seen: too many are not held. */
+bool VideoFile::IsSpooled() const
 {
-    if (encoder.state() == QProcess::NotRunning)
-        return;
-    encoder.kill();
-    encoder.waitForFinished(-1);
+    return kind == QLatin1String("gif") &&
+           qint64(format.size.width()) * format.size.height() * 4 * format.frames > mostHeld;
 }
 
-QStringList VideoFile::Encoding(const FilmFormat& format) const
+bool VideoFile::HalvesColours() const
 {
+    const bool video = kind == QLatin1String("mp4") || kind == QLatin1String("webm");
+    return video && !format.lossless;
+}
+
+QStringList VideoFile::Encoding() const
+{
+    if (IsSpooled())
+        return {QStringLiteral("-c:v"), QStringLiteral("qtrle"), QStringLiteral("-pix_fmt"),
+                format.transparent ? QStringLiteral("argb") : QStringLiteral("rgb24")};
     if (kind == QLatin1String("gif"))
-        return GifEncoding(format);
+        return GifEncoding(QStringLiteral("split[a][b];[a]"), QStringLiteral("[b]"),
+                           format.transparent);
     if (kind == QLatin1String("apng"))
-        return {QStringLiteral("-pix_fmt"),
-                format.transparent ? QStringLiteral("rgba") : QStringLiteral("rgb24"),
-                QStringLiteral("-plays"), QStringLiteral("0")};
+        return Words(format.transparent ? "-pix_fmt rgba -plays 0" : "-pix_fmt rgb24 -plays 0");
     if (kind == QLatin1String("webp"))
-        return {QStringLiteral("-c:v"),      QStringLiteral("libwebp_anim"),
-                QStringLiteral("-pix_fmt"),  QStringLiteral("bgra"),
-                QStringLiteral("-lossless"), QStringLiteral("1"),
-                QStringLiteral("-loop"),     QStringLiteral("0")};
+        return Words("-c:v libwebp_anim -pix_fmt bgra -lossless 1 -loop 0");
     if (kind == QLatin1String("mp4"))
-        return {QStringLiteral("-c:v"),      QStringLiteral("libx264"),
-                QStringLiteral("-pix_fmt"),  QStringLiteral("yuv420p"),
-                QStringLiteral("-crf"),      QStringLiteral("16"),
-                QStringLiteral("-tune"),     QStringLiteral("animation"),
-                QStringLiteral("-movflags"), QStringLiteral("+faststart")};
-    return {QStringLiteral("-c:v"),
-            QStringLiteral("libvpx-vp9"),
-            QStringLiteral("-pix_fmt"),
-            format.transparent ? QStringLiteral("yuva420p") : QStringLiteral("yuv420p"),
-            QStringLiteral("-crf"),
-            QStringLiteral("18"),
-            QStringLiteral("-b:v"),
-            QStringLiteral("0"),
-            QStringLiteral("-auto-alt-ref"), // its hidden pictures lose the transparency
-            QStringLiteral("0"),
-            QStringLiteral("-row-mt"),
-            QStringLiteral("1"),
-            QStringLiteral("-cpu-used"),
-            QStringLiteral("4")};
+        return Words(format.lossless
+                         ? "-c:v libx264rgb -pix_fmt rgb24 -crf 0 -movflags +faststart"
+                         : "-c:v libx264 -pix_fmt yuv420p -crf 16 -tune animation -movflags "
+                           "+faststart");
+    // The hidden pictures of alternate references lose the transparency.
+    QStringList words = Words("-c:v libvpx-vp9 -b:v 0 -auto-alt-ref 0 -row-mt 1 -cpu-used 4");
+    words += Words(format.lossless      ? "-pix_fmt gbrp -lossless 1"
+                   : format.transparent ? "-pix_fmt yuva420p -crf 18"
+                                        : "-pix_fmt yuv420p -crf 18");
+    return words;
 }
 
-bool VideoFile::Open(const FilmFormat& format, QString* error)
+/** Every error names the film. */
+bool VideoFile::Named(bool done, QString* error) const
 {
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
-    if (program.isEmpty()) {
-        *error = QStringLiteral("the program ffmpeg, which writes %1 files, is not installed: "
-                                "apt-get install ffmpeg, or name a folder for PNGs")
-                     .arg(kind.toUpper());
-        return false;
-    }
+    if (!done && *error != QLatin1String("interrupted") && !error->startsWith(path))
+        *error = QStringLiteral("%1 cannot be written: %2").arg(path, *error);
+    return done;
+}
+
+bool VideoFile::Start(FilmProgram* program, const QStringList& input, const QStringList& encoding,
+                      const QString& muxer, const QTemporaryFile& output, QString* error)
+{
+    QStringList words = Words("-nostdin -v error");
+    words += input + encoding;
+    words += {QStringLiteral("-f"), muxer, QStringLiteral("-y"), output.fileName()};
+    return program->Start(QStringLiteral("ffmpeg"), words, output.fileName(), error);
+}
+
+bool VideoFile::Open(const FilmFormat& wanted, QString* error)
+{
+    format = wanted;
     const QFileInfo info(path);
-    unfinished.setFileTemplate(info.absolutePath() + QStringLiteral("/.") + info.fileName() +
-                               QStringLiteral(".XXXXXX"));
-    if (!unfinished.open()) {
-        *error = QStringLiteral("%1 cannot be written: %2").arg(path, unfinished.errorString());
-        return false;
-    }
-    const QString size = QStringLiteral("%1x%2").arg(format.size.width()).arg(format.size.height());
-    QStringList words{
-        QStringLiteral("-nostdin"),   QStringLiteral("-v"),       QStringLiteral("error"),
-        QStringLiteral("-f"),         QStringLiteral("rawvideo"), QStringLiteral("-pix_fmt"),
-        QStringLiteral("bgra"),       QStringLiteral("-s"),       size,
-        QStringLiteral("-framerate"), QStringLiteral("500/33"),   QStringLiteral("-i"),
-        QStringLiteral("pipe:0")};
-    words += Encoding(format);
-    words += {QStringLiteral("-f"), kind, QStringLiteral("-y"), unfinished.fileName()};
-    encoder.setStandardOutputFile(QProcess::nullDevice());
-    encoder.start(program, words);
-    if (!encoder.waitForStarted(-1)) {
-        *error = QStringLiteral("ffmpeg does not start: %1").arg(encoder.errorString());
-        return false;
-    }
-    return true;
-}
-
-/** What ffmpeg says last, on one line. */
-QString VideoFile::Complaint()
-{
-    encoder.waitForFinished(-1);
-    const QString said = QString::fromLocal8Bit(encoder.readAllStandardError()).trimmed();
-    const QString last = said.mid(said.lastIndexOf(QLatin1Char('\n')) + 1).trimmed();
-    return QStringLiteral("ffmpeg failed: %1").arg(last.isEmpty() ? encoder.errorString() : last);
-}
-
-bool VideoFile::Add(const QImage& picture, QString* error)
-{
-    const int rowBytes = picture.width() * 4;
-    for (int y = 0; y < picture.height(); ++y)
-        encoder.write(reinterpret_cast<const char*>(picture.constScanLine(y)), rowBytes);
-    while (encoder.bytesToWrite() > mostWaiting && encoder.waitForBytesWritten(-1)) {
-    }
-    if (encoder.state() == QProcess::Running && encoder.bytesToWrite() <= mostWaiting)
-        return true;
-    *error = Complaint();
-    return false;
-}
-
-bool VideoFile::Finish(const std::function<bool()>& goOn, QString* error)
-{
-    while (encoder.bytesToWrite() > 0 && encoder.waitForBytesWritten(-1)) {
-    }
-    encoder.closeWriteChannel();
-    constexpr int glance = 200; // milliseconds
-    while (!encoder.waitForFinished(glance) && encoder.state() != QProcess::NotRunning) {
-        if (!goOn()) {
-            *error = QStringLiteral("interrupted");
-            return false;
+    const QString beside = info.absolutePath() + QStringLiteral("/.") + info.fileName();
+    for (QTemporaryFile* file : {&unfinished, &spool}) {
+        file->setFileTemplate(beside + QStringLiteral(".XXXXXX"));
+        if ((file == &unfinished || IsSpooled()) && !file->open()) {
+            *error = file->errorString();
+            return Named(false, error);
         }
     }
-    if (encoder.exitStatus() != QProcess::NormalExit || encoder.exitCode() != 0) {
-        *error = Complaint();
+    QStringList input = Words("-f rawvideo -framerate 500/33 -pix_fmt");
+    input +=
+        {format.transparent ? QStringLiteral("bgra") : QStringLiteral("bgr0"), QStringLiteral("-s"),
+         QStringLiteral("%1x%2").arg(format.size.width()).arg(format.size.height()),
+         QStringLiteral("-i"), QStringLiteral("pipe:0")};
+    return Named(Start(&encoder, input, Encoding(), IsSpooled() ? QStringLiteral("mov") : kind,
+                       IsSpooled() ? spool : unfinished, error),
+                 error);
+}
+
+bool VideoFile::Add(int, const QImage& picture, QString* error)
+{
+    coloured = coloured || (HalvesColours() && HasColour(picture));
+    return Named(encoder.Take(picture, error), error);
+}
+
+bool VideoFile::EncodeSpool(QString* error)
+{
+    FilmProgram second(goOn, patience);
+    const int every = (format.frames + samples - 1) / samples;
+    const QStringList input{QStringLiteral("-i"), spool.fileName(), QStringLiteral("-i"),
+                            spool.fileName()};
+    const QString sample = QStringLiteral("[0:v]select='not(mod(n\\,%1))',").arg(every);
+    return Start(&second, input, GifEncoding(sample, QStringLiteral("[1:v]"), format.transparent),
+                 kind, unfinished, error) &&
+           second.Finish(error);
+}
+
+bool VideoFile::Finish(QString* error)
+{
+    FilmFacts facts;
+    const bool whole = encoder.Finish(error) && (!IsSpooled() || EncodeSpool(error)) &&
+                       ReadFilmFacts(unfinished.fileName(), kind, goOn, &facts, error) &&
+                       HasWholeFilm(facts, format, error);
+    if (!Named(whole, error) || !PutInPlace(unfinished.fileName(), path, 0666, error))
         return false;
-    }
-    // A temporary file is nobody else's; the one that people asked for is as theirs are.
-    const mode_t mask = umask(0);
-    umask(mask);
-    const QByteArray from = QFile::encodeName(unfinished.fileName());
-    chmod(from.constData(), 0666 & ~mask);
-    if (std::rename(from.constData(), QFile::encodeName(path).constData()) != 0) {
-        *error = QStringLiteral("%1 cannot be written: %2")
-                     .arg(path, QString::fromLocal8Bit(std::strerror(errno)));
-        return false;
-    }
     unfinished.setAutoRemove(false);
     return true;
+}
+
+QString VideoFile::Remark() const
+{
+    if (!coloured)
+        return QString();
+    return QStringLiteral("%1: such a film halves the sharpness of colours (4:2:0), which blurs "
+                          "coloured text; --lossless keeps every pixel")
+        .arg(path);
 }
 
 } // namespace AnimText
