@@ -165,8 +165,8 @@ QString VideoFile::Remark() const
 {
     if (!coloured)
         return QString();
-    return QStringLiteral("%1: such a film halves the sharpness of colours (4:2:0), which blurs "
-                          "coloured text; --lossless keeps every pixel")
+    return QStringLiteral("%1: such a film halves the sharpness of colors (4:2:0), which blurs "
+                          "colored text; --lossless keeps every pixel")
         .arg(path);
 }
 
