@@ -16,12 +16,6 @@ const Layer* FindLayer(PicSession session, int layer)
     return found ? found->FindLayer(layer) : 0;
 }
 
-// Far beyond any display, and small enough for the edges of a QRect.
-int Bounded(int coordinate)
-{
-    return qBound(-(1 << 30), coordinate, 1 << 30);
-}
-
 } // namespace
 
 void SetClock(Clock newClock, void* context)
@@ -58,16 +52,6 @@ QList<PicSession> Display::Sessions() const
     for (int i = 0; i < sessions.size(); ++i)
         handles.append(sessions.at(i)->handle);
     return handles;
-}
-
-QRect SessionArea(PicSession session)
-{
-    const Session* const found = SessionStore::Instance().Find(session);
-    if (!found)
-        return QRect();
-    const PicPlacement& area = found->placement;
-    return QRect(Bounded(area.x), Bounded(area.y), qMax(0, Bounded(area.width)),
-                 qMax(0, Bounded(area.height)));
 }
 
 int LayerCount(PicSession session)

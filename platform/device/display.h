@@ -10,7 +10,6 @@
 
 #include <QImage>
 #include <QList>
-#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -168,9 +167,6 @@ private:
     PicDisplay handle;
     QSize size;
 };
-
-/** The area of a session on its display; empty for a session that is not live. */
-QRect SessionArea(PicSession session);
 
 /** The number of layers; 0 for a session that is not live. */
 int LayerCount(PicSession session);

@@ -69,185 +69,180 @@ class ProjectTest : public QObject
     Q_OBJECT
 
 private slots:
-    void includesFollowTheRule_data();
-    void includesFollowTheRule();
-    void meetingPlacesAreListed();
-    void nothingIsNewerThanQt4_data();
-    void nothingIsNewerThanQt4();
-    void everySourceIsListed();
-    void qmakeBuildsThePlugin();
+    void includesFollowTheRule_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("own");   // files of the project that may be included
+        QTest::addColumn<QString>("other"); // anything else that may be
+        const QString any = ".*";
+        // The standard's headers and Qt's: no others are at hand where the plugin is built.
+        const QString standardAndQt =
+            "[a-z_]+|c?[a-z]+(\\.h)?|Q[A-Za-z0-9]+|Qt[A-Z][A-Za-z]+/[A-Za-z]+";
+        QTest::newRow("src") << "src"
+                             << "src/.*|platform/host/.*|platform/device/torvsdk\\.h"
+                             << standardAndQt;
+        // Rooms of the plugin that know nothing of those above them.
+        for (const char* room : {"paint", "text"})
+            QTest::newRow(room) << QString("src/%1").arg(room) << QString("src/%1/.*").arg(room)
+                                << standardAndQt;
+        QTest::newRow("device") << "src/device"
+                                << "src/device/.*|platform/device/torvsdk\\.h" << standardAndQt;
+        QTest::newRow("node") << "src/node"
+                              << "src/(device|node|text)/.*|platform/.*" << standardAndQt;
+        QTest::newRow("engine") << "src/engine"
+                                << "src/(device|engine|node|paint|text)/.*|platform/.*"
+                                << standardAndQt;
+        QTest::newRow("effects") << "src/effects"
+                                 << "src/(effects|engine|node|paint)/.*|platform/.*"
+                                 << standardAndQt;
+        QTest::newRow("platform") << "platform"
+                                  << "platform/.*" << any;
+        QTest::newRow("platform/device") << "platform/device"
+                                         << "platform/device/.*" << any;
+        QTest::newRow("tools") << "tools"
+                               << "(tools|platform)/.*|src/text/.*|src/edit/animationtextedit\\.h"
+                               << any;
+    }
+
+    void includesFollowTheRule()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, own);
+        QFETCH(QString, other);
+        const QRegularExpression include("^[ \\t]*#[ \\t]*include[ \\t]*[\"<]([^\">]+)[\">]",
+                                         QRegularExpression::MultilineOption);
+        const QVector<Source> sources = Sources({folder});
+        int seen = 0;
+        QStringList wrong;
+        for (const Source& source : sources) {
+            for (auto it = include.globalMatch(source.text); it.hasNext(); ++seen) {
+                const QRegularExpressionMatch match = it.next();
+                const QString name = match.captured(1);
+                const QString file = Included(source.path, name);
+                const QString allowed =
+                    QRegularExpression::anchoredPattern(file.isEmpty() ? other : own);
+                if (!QRegularExpression(allowed).match(file.isEmpty() ? name : file).hasMatch())
+                    wrong.append(Place(source, match.capturedStart()) + " includes " + name);
+            }
+        }
+        QVERIFY(seen > 0);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+    }
+
+    // Who ports the plugin reads the table and no more.
+    void meetingPlacesAreListed()
+    {
+        const QRegularExpression meets("#include <(h[a-z]+|drawneonbg|i[a-z]+|torvsdk)\\.h>|"
+                                       "\\b(Create|Add|Remove|Free)PictureSession|"
+                                       "PicImageLayerPtr|GeteffectDuration|GetFirstFile");
+        QFile document(root + "/docs/architecture.md");
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        const QString text = QString(document.readAll()).section("## Where the plugin meets", 1);
+        QStringList listed, meeting;
+        for (auto it =
+                 QRegularExpression("`([a-z]+/[a-z]+)\\.h`, `\\.cpp`|`([a-z]+/[a-z]+\\.(h|cpp))`")
+                     .globalMatch(text.section("\n## ", 0, 0));
+             it.hasNext();) {
+            const QRegularExpressionMatch match = it.next();
+            if (match.captured(1).isEmpty())
+                listed.append("src/" + match.captured(2));
+            else
+                listed << "src/" + match.captured(1) + ".h"
+                       << "src/" + match.captured(1) + ".cpp";
+        }
+        for (const Source& source : Sources({"src"}))
+            if (CodeOf(source.text).contains(meets))
+                meeting.append(source.path);
+        listed.sort();
+        meeting.sort();
+        QCOMPARE(listed, meeting);
+    }
+
+    void nothingIsNewerThanQt4_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::newRow("literals") << "\\bQ(String|ByteArray)Literal\\b";
+        QTest::newRow("macros") << "\\bQ_(DECL_OVERRIDE|DECL_FINAL|NULLPTR|FALLTHROUGH|GADGET|ENUM|"
+                                   "NAMESPACE|REVISION)\\b";
+        QTest::newRow("functions") << "\\bq(Overload|ConstOverload|AsConst|Info|"
+                                      "InstallMessageHandler)\\b";
+        QTest::newRow("classes") << "\\bQ(SignalBlocker|CommandLineParser|Json[A-Z][a-z]+|"
+                                    "MimeDatabase|RegularExpression|StandardPaths|LoggingCategory|"
+                                    "MessageLogContext|Collator|TimeZone|SaveFile|TemporaryDir|"
+                                    "LockFile|StringView|RandomGenerator|Window|Screen|"
+                                    "GuiApplication|UrlQuery|VersionNumber|DeadlineTimer|"
+                                    "ScopeGuard)\\b";
+        QTest::newRow("connections to functions") << "connect\\s*\\([^;]*&\\s*[A-Za-z_]+\\s*::";
+        QTest::newRow("connections to lambdas") << "connect\\s*\\([^;{]*,\\s*\\[[^;]*\\]\\s*[({]";
+        QTest::newRow("headers") << "#include\\s*<QtWidgets|#include\\s*<QtConcurrent/";
+        QTest::newRow("members") << "\\bQt::SkipEmptyParts\\b|\\.(chopped|constKeyValueBegin|"
+                                    "keyValueBegin)\\(";
+    }
+
+    void nothingIsNewerThanQt4()
+    {
+        QFETCH(QString, pattern);
+        const QRegularExpression word(pattern, QRegularExpression::DotMatchesEverythingOption);
+        QVERIFY(word.isValid());
+        QStringList wrong;
+        for (Source source : Sources({"src", "platform"})) {
+            source.text = CodeOf(source.text);
+            for (auto it = word.globalMatch(source.text); it.hasNext();) {
+                const QRegularExpressionMatch match = it.next();
+                wrong.append(Place(source, match.capturedStart()) + ": " + match.captured());
+            }
+        }
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+    }
+
+    void everySourceIsListed()
+    {
+        QFile file(root + "/src/sources.pri");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList lines = QString(file.readAll()).split('\n');
+        QStringList listed, present;
+        for (const QString& line : lines)
+            if (line.contains("$$PWD/"))
+                listed.append("src/" + line.section("$$PWD/", 1).section(' ', 0, 0));
+        for (const Source& source : Sources({"src"}))
+            present.append(source.path);
+        listed.sort();
+        present.sort();
+        QCOMPARE(listed, present);
+    }
+
+    // The plugin alone, as an embedded toolchain builds it, in a checkout with a difficult name.
+    // From elsewhere qmake itself gets no further than blanks.
+    void qmakeBuildsThePlugin()
+    {
+        const QTemporaryDir folder;
+        const QString checkout = folder.filePath("it's a \"sign\" für uns");
+        const QString build = checkout + "/build plugin";
+        QVERIFY(QDir().mkpath(build));
+        const auto run = [&build](const QString& program, const QStringList& arguments) {
+            QProcess process;
+            process.setWorkingDirectory(build);
+            process.setProcessChannelMode(QProcess::MergedChannels);
+            process.start(program, arguments);
+            if (!process.waitForStarted())
+                return qMakePair(-1, program + " cannot be started");
+            process.waitForFinished(-1);
+            return qMakePair(process.exitCode(), QString(process.readAll()));
+        };
+        auto answer = run("cp", {"-R", root + "/src", root + "/platform", checkout});
+        QVERIFY2(answer.first == 0, qPrintable(answer.second));
+        answer = run(QMAKE_PROGRAM, {"../src/animationtext.pro"});
+        QVERIFY2(answer.first == 0, qPrintable(answer.second));
+        answer = run("make", {"-j2"});
+        QVERIFY2(answer.first == 0, qPrintable(answer.second));
+        QVERIFY2(!answer.second.contains("warning:"), qPrintable(answer.second));
+
+        answer = run("nm", {"-D", "--defined-only", "libanimationtext.so"});
+        QVERIFY2(answer.first == 0, qPrintable(answer.second));
+        for (const char* entry : {"qt_plugin_instance", "qt_plugin_query_verification_data"})
+            QVERIFY2(answer.second.contains(entry), qPrintable(answer.second));
+    }
 };
-
-void ProjectTest::includesFollowTheRule_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("own");   // files of the project that may be included
-    QTest::addColumn<QString>("other"); // anything else that may be
-    const QString any = ".*";
-    // The standard's headers and Qt's: no others are at hand where the plugin is built.
-    const QString standardAndQt =
-        "[a-z_]+|c?[a-z]+(\\.h)?|Q[A-Za-z0-9]+|Qt[A-Z][A-Za-z]+/[A-Za-z]+";
-    QTest::newRow("src") << "src"
-                         << "src/.*|platform/host/.*|platform/device/torvsdk\\.h" << standardAndQt;
-    // Rooms of the plugin that know nothing of those above them.
-    for (const char* room : {"paint", "text"})
-        QTest::newRow(room) << QString("src/%1").arg(room) << QString("src/%1/.*").arg(room)
-                            << standardAndQt;
-    QTest::newRow("device") << "src/device"
-                            << "src/device/.*|platform/device/torvsdk\\.h" << standardAndQt;
-    QTest::newRow("node") << "src/node"
-                          << "src/(device|node|text)/.*|platform/.*" << standardAndQt;
-    QTest::newRow("engine") << "src/engine"
-                            << "src/(device|engine|node|paint|text)/.*|platform/.*"
-                            << standardAndQt;
-    QTest::newRow("effects") << "src/effects"
-                             << "src/(effects|engine|node|paint)/.*|platform/.*" << standardAndQt;
-    QTest::newRow("platform") << "platform"
-                              << "platform/.*" << any;
-    QTest::newRow("platform/device") << "platform/device"
-                                     << "platform/device/.*" << any;
-    QTest::newRow("tools") << "tools"
-                           << "(tools|platform)/.*|src/text/.*|src/edit/animationtextedit\\.h"
-                           << any;
-}
-
-void ProjectTest::includesFollowTheRule()
-{
-    QFETCH(QString, folder);
-    QFETCH(QString, own);
-    QFETCH(QString, other);
-    const QRegularExpression include("^[ \\t]*#[ \\t]*include[ \\t]*[\"<]([^\">]+)[\">]",
-                                     QRegularExpression::MultilineOption);
-    const QVector<Source> sources = Sources({folder});
-    int seen = 0;
-    QStringList wrong;
-    for (const Source& source : sources) {
-        for (auto it = include.globalMatch(source.text); it.hasNext(); ++seen) {
-            const QRegularExpressionMatch match = it.next();
-            const QString name = match.captured(1);
-            const QString file = Included(source.path, name);
-            const QString allowed =
-                QRegularExpression::anchoredPattern(file.isEmpty() ? other : own);
-            if (!QRegularExpression(allowed).match(file.isEmpty() ? name : file).hasMatch())
-                wrong.append(Place(source, match.capturedStart()) + " includes " + name);
-        }
-    }
-    QVERIFY(seen > 0);
-    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
-}
-
-// Who ports the plugin reads the table and no more.
-void ProjectTest::meetingPlacesAreListed()
-{
-    const QRegularExpression meets("#include <(h[a-z]+|drawneonbg|i[a-z]+|torvsdk)\\.h>|"
-                                   "\\b(Create|Add|Remove|Free)PictureSession|"
-                                   "PicImageLayerPtr|GeteffectDuration|GetFirstFile");
-    QFile document(root + "/docs/architecture.md");
-    QVERIFY(document.open(QIODevice::ReadOnly));
-    const QString text = QString(document.readAll()).section("## Where the plugin meets", 1);
-    QStringList listed, meeting;
-    for (auto it = QRegularExpression("`([a-z]+/[a-z]+)\\.h`, `\\.cpp`|`([a-z]+/[a-z]+\\.(h|cpp))`")
-                       .globalMatch(text.section("\n## ", 0, 0));
-         it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        if (match.captured(1).isEmpty())
-            listed.append("src/" + match.captured(2));
-        else
-            listed << "src/" + match.captured(1) + ".h"
-                   << "src/" + match.captured(1) + ".cpp";
-    }
-    for (const Source& source : Sources({"src"}))
-        if (CodeOf(source.text).contains(meets))
-            meeting.append(source.path);
-    listed.sort();
-    meeting.sort();
-    QCOMPARE(listed, meeting);
-}
-
-void ProjectTest::nothingIsNewerThanQt4_data()
-{
-    QTest::addColumn<QString>("pattern");
-    QTest::newRow("literals") << "\\bQ(String|ByteArray)Literal\\b";
-    QTest::newRow("macros") << "\\bQ_(DECL_OVERRIDE|DECL_FINAL|NULLPTR|FALLTHROUGH|GADGET|ENUM|"
-                               "NAMESPACE|REVISION)\\b";
-    QTest::newRow("functions") << "\\bq(Overload|ConstOverload|AsConst|Info|"
-                                  "InstallMessageHandler)\\b";
-    QTest::newRow("classes") << "\\bQ(SignalBlocker|CommandLineParser|Json[A-Z][a-z]+|"
-                                "MimeDatabase|RegularExpression|StandardPaths|LoggingCategory|"
-                                "MessageLogContext|Collator|TimeZone|SaveFile|TemporaryDir|"
-                                "LockFile|StringView|RandomGenerator|Window|Screen|"
-                                "GuiApplication|UrlQuery|VersionNumber|DeadlineTimer|"
-                                "ScopeGuard)\\b";
-    QTest::newRow("connections to functions") << "connect\\s*\\([^;]*&\\s*[A-Za-z_]+\\s*::";
-    QTest::newRow("connections to lambdas") << "connect\\s*\\([^;{]*,\\s*\\[[^;]*\\]\\s*[({]";
-    QTest::newRow("headers") << "#include\\s*<QtWidgets|#include\\s*<QtConcurrent/";
-    QTest::newRow("members") << "\\bQt::SkipEmptyParts\\b|\\.(chopped|constKeyValueBegin|"
-                                "keyValueBegin)\\(";
-}
-
-void ProjectTest::nothingIsNewerThanQt4()
-{
-    QFETCH(QString, pattern);
-    const QRegularExpression word(pattern, QRegularExpression::DotMatchesEverythingOption);
-    QVERIFY(word.isValid());
-    QStringList wrong;
-    for (Source source : Sources({"src", "platform"})) {
-        source.text = CodeOf(source.text);
-        for (auto it = word.globalMatch(source.text); it.hasNext();) {
-            const QRegularExpressionMatch match = it.next();
-            wrong.append(Place(source, match.capturedStart()) + ": " + match.captured());
-        }
-    }
-    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
-}
-
-void ProjectTest::everySourceIsListed()
-{
-    QFile file(root + "/src/sources.pri");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString(file.readAll()).split('\n');
-    QStringList listed, present;
-    for (const QString& line : lines)
-        if (line.contains("$$PWD/"))
-            listed.append("src/" + line.section("$$PWD/", 1).section(' ', 0, 0));
-    for (const Source& source : Sources({"src"}))
-        present.append(source.path);
-    listed.sort();
-    present.sort();
-    QCOMPARE(listed, present);
-}
-
-// The plugin alone, as an embedded toolchain builds it, in a checkout with a difficult name. From
-// elsewhere qmake itself gets no further than blanks.
-void ProjectTest::qmakeBuildsThePlugin()
-{
-    const QTemporaryDir folder;
-    const QString checkout = folder.filePath("it's a \"sign\" für uns");
-    const QString build = checkout + "/build plugin";
-    QVERIFY(QDir().mkpath(build));
-    const auto run = [&build](const QString& program, const QStringList& arguments) {
-        QProcess process;
-        process.setWorkingDirectory(build);
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(program, arguments);
-        if (!process.waitForStarted())
-            return qMakePair(-1, program + " cannot be started");
-        process.waitForFinished(-1);
-        return qMakePair(process.exitCode(), QString(process.readAll()));
-    };
-    auto answer = run("cp", {"-R", root + "/src", root + "/platform", checkout});
-    QVERIFY2(answer.first == 0, qPrintable(answer.second));
-    answer = run(QMAKE_PROGRAM, {"../src/animationtext.pro"});
-    QVERIFY2(answer.first == 0, qPrintable(answer.second));
-    answer = run("make", {"-j2"});
-    QVERIFY2(answer.first == 0, qPrintable(answer.second));
-    QVERIFY2(!answer.second.contains("warning:"), qPrintable(answer.second));
-
-    answer = run("nm", {"-D", "--defined-only", "libanimationtext.so"});
-    QVERIFY2(answer.first == 0, qPrintable(answer.second));
-    for (const char* entry : {"qt_plugin_instance", "qt_plugin_query_verification_data"})
-        QVERIFY2(answer.second.contains(entry), qPrintable(answer.second));
-}
 
 QTEST_GUILESS_MAIN(ProjectTest)
 #include "tst_project.moc"
