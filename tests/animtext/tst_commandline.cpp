@@ -106,9 +106,9 @@ private slots:
         row("animtext trace one.json --ticks", 2, "--ticks takes N, which is missing");
         row("animtext trace one.json --calls=yes", 2, "--calls takes no value");
         row("animtext trace one.json --plugin ''", 2, "--plugin takes the name of a file");
-        row("animtext trace none.json", 2, "none.json: there is no such file");
+        row("animtext trace none.json", 2, "none.json: expected a scene file, found no such file");
         row("animtext trace bad.json", 2, "bad.json: $.pages: expected a list");
-        row("animtext trace - </dev/null", 2, "-:1:1: no valid JSON");
+        row("animtext trace - </dev/null", 2, "-:1:1: expected valid JSON");
         row("animtext trace one.json --plugin none.so", 1, "there is no plugin at");
         row("animtext trace one.json --plugin one.json", 1, "cannot be loaded");
         for (const char* line :
@@ -208,6 +208,9 @@ private slots:
         findings("12", "animtext validate --strict one.json", 2, "error speed-range at $.pages[0]");
         findings("12", "animtext validate one.json --strict --json", 2, "\"errors\": 1");
         findings(",", "animtext validate one.json --json", 2, "\"code\": \"scene-unreadable\"");
+        findings("12", "animtext validate - one.json <one.json", 2, "-: 1 error, 0 warnings\n");
+        findings("9", "animtext validate none - --strict <one.json", 2, "it.\n\n-: no mistakes");
+        findings("12", "animtext validate one.json two.json --json", 2, "[\n    {\n");
     }
 
     /** One line that says what is wrong, and nothing left behind. */

@@ -96,23 +96,23 @@ private slots:
 
     void findingsOnANode_data()
     {
-        QTest::addColumn<QString>("codes"); // all of them, sorted
+        QTest::addColumn<QString>("codes"); // all of them, sorted; those of errors with a !
         QTest::addColumn<QString>("place"); // of the first, behind the node's
         const auto row = [](const char* changes, const char* codes, const char* place) {
             QTest::newRow(changes) << QString(codes) << QString(place);
         };
         row("hold=20", "", "");
-        row("type=Clock", "node-type", ".type");
-        row("width=0", "area-empty character-wide", ".size");
+        row("type=Clock", "node-type!", ".type");
+        row("width=0", "area-empty! character-wide", ".size");
         row("x=1", "area-outside", ".pos");
-        row("EffectType=1 text_width=2000000,2000000", "canvas-large line-long", ".size");
+        row("EffectType=1 text_width=2000000,2000000", "canvas-large! line-long", ".size");
         row("hold=-1", "hold-range", ".hold");
         row("Text=", "data-surplus list-surplus text-empty", ".attributes.Text");
-        row("EffectType=2", "mode-unknown", ".attributes.EffectType");
-        row("AnimationEffect=30", "effect-unknown", ".attributes.AnimationEffect");
-        row("EffectType=1 ContinueStyle=4", "direction-unknown", ".attributes.ContinueStyle");
-        row("AnimationSpeed=10", "speed-range", ".attributes.AnimationSpeed");
-        row("EffectType=1 ContinueSpeed=-1", "speed-range", ".attributes.ContinueSpeed");
+        row("EffectType=2", "mode-unknown!", ".attributes.EffectType");
+        row("AnimationEffect=30", "effect-unknown!", ".attributes.AnimationEffect");
+        row("EffectType=1 ContinueStyle=4", "direction-unknown!", ".attributes.ContinueStyle");
+        row("AnimationSpeed=10", "speed-range!", ".attributes.AnimationSpeed");
+        row("EffectType=1 ContinueSpeed=-1", "speed-range!", ".attributes.ContinueSpeed");
         row("PlayTimes=0", "plays-range", ".attributes.PlayTimes");
         row("Hollow=2", "flag-value", ".attributes.Hollow");
         row("CheckColorGradient=1", "gradient-ignored", ".attributes.CheckColorGradient");
@@ -124,23 +124,23 @@ private slots:
         row("CheckNeonBg=1 neon=28", "", "");
         row("Stroke=1", "stroke-ignored", ".attributes.Stroke");
         row("CheckShadowEffect=1", "shadow-ignored", ".attributes.CheckShadowEffect");
-        row("text_width=10", "list-length", ".lists.TextWidth");
+        row("text_width=10", "list-length!", ".lists.TextWidth");
         row("text_width=10,10,10", "list-surplus", ".lists.TextWidth");
-        row("text_width=10,-1", "row-value", ".lists.TextWidth[1].text_width");
-        row("text_height=,20", "row-value", ".lists.TextHeight[0].text_height");
-        row("bold=yes", "row-value", ".lists.TextAttribute[1].bold");
+        row("text_width=10,-1", "row-value!", ".lists.TextWidth[1].text_width");
+        row("text_height=,20", "row-value!", ".lists.TextHeight[0].text_height");
+        row("bold=yes", "row-value!", ".lists.TextAttribute[1].bold");
         row("Color=-1", "colors-ignored", ".lists.TextAttribute[1].Color");
         row("text_width=10,101", "character-wide", ".lists.TextWidth[1].text_width");
         row("EffectType=1 text_width=10,101", "", "");
         row("text_height=20,21", "text-high", ".lists.TextHeight[1].text_height");
         row("EffectType=1 text_width=31998,1", "", "");
         row("EffectType=1 text_width=31999,1", "line-long", ".lists.TextWidth");
-        row("PathData=none", "file-missing", ".files.PathData");
-        row("DescentVector=", "file-missing", ".files.DescentVector");
-        row("PathData=torn", "data-malformed", ".files.PathData");
-        row("PathData=one.path", "data-length", ".files.PathData");
+        row("PathData=none", "file-missing!", ".files.PathData");
+        row("DescentVector=", "file-missing!", ".files.DescentVector");
+        row("PathData=torn", "data-malformed!", ".files.PathData");
+        row("PathData=one.path", "data-length!", ".files.PathData");
         row("PathData=three.path", "data-surplus", ".files.PathData");
-        row("PathData=far.path", "outline-malformed", ".files.PathData");
+        row("PathData=far.path", "outline-malformed!", ".files.PathData");
         row("PathData=gap.path", "outline-empty", ".files.PathData");
         row("PathData=gap.path text_width=20,0", "", "");
     }
@@ -156,23 +156,39 @@ private slots:
             QVERIFY(!finding.found.isEmpty() && !finding.expected.isEmpty());
         if (!findings.isEmpty())
             QCOMPARE(findings.first().place, "$.pages[0].areas[0].nodes[0]" + place);
+        scene.path = folder.Path("sign.json");
+        QCOMPARE(ErrorsOf(scene).size(), codes.count('!'));
     }
 
-    void unreadableAndEmpty()
+    void findingsOnScenesWithoutNodes()
     {
-        QCOMPARE(Codes("{\"scene\": 1,"), QStringList("scene-unreadable"));
-        QVERIFY(findings[0].found.startsWith(folder.Path("sign.json")));
+        QCOMPARE(Codes("{\"scene\": 1,"), QStringList("scene-unreadable!"));
+        QCOMPARE(findings[0].place, QString("1:13"));
         Scene empty;
         empty.display = QSize(10, 10);
         QCOMPARE(Codes(SceneToJson(empty)), QStringList("scene-empty"));
+    }
+
+    void faultsOfStructureAreAllFound()
+    {
+        const QByteArray rows =
+            "[{\"text_width\": 5}, {\"text_width\": \"5\"}, {\"text_width\": 6}]";
+        const QByteArray json = SceneToJson(Clean()).replace("\"hold\": 20", "\"hold\": []");
+        const int list = json.indexOf('[', json.indexOf("TextWidth"));
+        Codes(QByteArray(json).replace(list, json.indexOf(']', list) + 1 - list, rows));
+        QCOMPARE(findings.size(), 2);
+        QVERIFY(findings[0].Line().startsWith(
+            "scene-unreadable at $.pages[0].areas[0].nodes[0].hold: found "
+            "a list of 0, expected a whole number from "));
+        QCOMPARE(findings[1].found, QString("5 and 1 more like it"));
     }
 
     void everyCodeWasFound()
     {
         if (seen.isEmpty())
             QSKIP("the other tests did not run");
-        for (const Rule& rule : Rules())
-            QVERIFY2(seen.contains(rule.code), rule.code);
+        for (int i = 0; i < mistakeCount; ++i)
+            QVERIFY2(seen.contains(RuleFor(Mistake(i)).code), RuleFor(Mistake(i)).code);
     }
 
 private:
@@ -182,10 +198,12 @@ private:
         findings = ValidateScene(folder.Write("sign.json", scene));
         QStringList codes;
         for (const Finding& finding : findings)
-            codes.append(finding.rule->code);
+            codes.append(finding.GetRule().code +
+                         QString(finding.GetRule().severity == Severity::Error ? "!" : ""));
         codes.removeDuplicates();
         codes.sort();
-        seen += QSet<QString>(codes.begin(), codes.end());
+        for (const Finding& finding : findings)
+            seen.insert(finding.GetRule().code);
         return codes;
     }
 

@@ -69,9 +69,9 @@ private slots:
             QTest::newRow(name) << from.replace('\'', '"') << to.replace('\'', '"')
                                 << QString((place.startsWith('.') ? node : "") + place) << expected;
         };
-        row("syntax", "'scene': 1,", "'scene': 1;", ":2:1", "no valid JSON");
+        row("syntax", "'scene': 1,", "'scene': 1;", ":2:1", "expected valid JSON");
         row("no object", good, "[1, 2]", ": $:", "expected an object, found a list of 2");
-        row("empty", good, "", ":1:1:", "no valid JSON");
+        row("empty", good, "", ":1:1:", "expected valid JSON");
         row("other version", "'scene': 1", "'scene': 2", ": $.scene:", "found 2");
         row("no version", "'scene': 1,", "", ": $.scene:", "found nothing");
         row("unknown key", "'alphaBlend'", "'alphaBlond'",
@@ -110,7 +110,7 @@ private slots:
         row("field of another list", "'text_width': '9'", "'text_height': '9'",
             ".lists.TextWidth[1].text_height:", "expected one of text_width");
         row("missing file", "'PathData': 'paths'", "'PathData': 'none'",
-            ".files.PathData:", "expected a file, there is no ");
+            ".files.PathData:", "expected a file, found no file ");
         row("file without a name", "'PathData': 'paths'", "'PathData': ''",
             ".files.PathData:", "expected the name of a file");
     }
@@ -131,6 +131,39 @@ private slots:
         QVERIFY2(error.startsWith(path + place), qPrintable(error));
         QVERIFY2(error.contains(expected) && !error.contains('\n'), qPrintable(error));
         QCOMPARE(scene.display, QSize(7, 7)); // left as it was
+    }
+
+    void tellsAllFaultsAtOnce()
+    {
+        const QByteArray json = R"({"scene": 1, "display": {"width": 0}, "alphaBlend": null,
+            "pages": [{"areas": [7, {"nodes": [{"size": [1, 2.5], "attributes": {"Texd": 2, "Text": 1},
+            "lists": {"TextWidth": [{"text_width": 5}, {"text_width": "9"}, 8, {"text_width": 6}]}}, 5]}]}, 6]})";
+        Scene scene;
+        QStringList lines;
+        for (const SceneFault& fault : ReadSceneText(json, "s", &scene, MissingFiles::AreErrors))
+            lines.append(fault.Line("s").remove("pages[0].areas[1].nodes[0].").left(40));
+        QCOMPARE(lines.join('\n'), QString(R"(s: $.display.width: expected a whole num
+s: $.display.height: expected a whole nu
+s: $.alphaBlend: expected true or false,
+s: $.pages[0].areas[0]: expected an obje
+s: $.size[1]: expected a whole number fr
+s: $.attributes.Texd: expected one of Te
+s: $.attributes.Text: expected a text, f
+s: $.lists.TextWidth[0].text_width: expe
+s: $.lists.TextWidth[2]: expected an obj
+s: $.pages[0].areas[1].nodes[1]: expecte
+s: $.pages[1]: expected an object, found)"));
+
+        const char* const places[] = {"$.a", "$.b[1].c"};
+        const QByteArray twice = R"({"a": 1, "a": 2, "b": [0, {"c": 1, "d": 2, "c": 3}]})";
+        const QList<SceneFault> faults = ReadSceneText(twice, "s", &scene, MissingFiles::AreErrors);
+        QCOMPARE(faults.size(), 2);
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(faults[i].place, QString(places[i]));
+        // Of another version no more is known.
+        QCOMPARE(
+            ReadSceneText("{\"scene\": 2, \"x\": 1}", "s", &scene, MissingFiles::AreErrors).size(),
+            1);
     }
 
     void tellsOddFiles()

@@ -54,10 +54,8 @@ void TellLosses(const AuthoredNode& authored)
 void TellFindings(const QString& path)
 {
     for (const Finding& finding : ValidateScene(path)) {
-        if (finding.rule != RuleFor("outline-empty") && finding.rule != RuleFor("text-high"))
-            Warn(QStringLiteral("%1: found %2, expected %3. %4")
-                     .arg(QLatin1String(finding.rule->code), finding.found, finding.expected,
-                          QLatin1String(finding.rule->why)));
+        if (finding.mistake != Mistake::OutlineEmpty && finding.mistake != Mistake::TextHigh)
+            Warn(finding.Line());
     }
 }
 

@@ -9,28 +9,35 @@ namespace {
 
 int Validate(const CommandLine& line)
 {
-    const QString path = line.Arguments().first();
-    const QList<Finding> findings = ValidateScene(path);
-    Print(line.IsSet("json") ? FindingsAsJson(path, findings) : FindingsAsText(path, findings));
-    if (Count(findings, Severity::Error) > 0)
+    QList<Report> reports;
+    QList<Finding> all;
+    QByteArray text;
+    for (const QString& path : line.Arguments()) {
+        reports.append({path, ValidateScene(path)});
+        all += reports.last().findings;
+        text += (text.isEmpty() ? "" : "\n") + ReportAsText(reports.last());
+    }
+    Print(line.IsSet("json") ? ReportsAsJson(reports) : text);
+    if (Count(all, Severity::Error) > 0)
         return BadInput;
-    return line.IsSet("strict") && !findings.isEmpty() ? FailedRun : Done;
+    return line.IsSet("strict") && !all.isEmpty() ? FailedRun : Done;
 }
 
 } // namespace
 
 Command ValidateCommand()
 {
-    return {"validate",
-            "looks for mistakes in a scene",
-            "SCENE.json",
-            1,
-            1,
-            "Looks for mistakes in a scene. The exit status is 0 without errors, 2 with; warnings "
-            "count with --strict, as 1.",
-            {Option::Flag("json", "Prints one JSON object."),
-             Option::Flag("strict", "Warnings count as a failure.")},
-            Validate};
+    return {
+        "validate",
+        "looks for mistakes in scenes",
+        "SCENE.json...",
+        1,
+        100000,
+        "Looks for mistakes in scenes; - is standard input. The exit status is 0 without errors, "
+        "2 with; warnings count with --strict, as 1.",
+        {Option::Flag("json", "Prints a JSON object, or a list of them for several scenes."),
+         Option::Flag("strict", "Warnings count as a failure.")},
+        Validate};
 }
 
 } // namespace AnimText

@@ -73,9 +73,9 @@ QString NewMistake(const QList<Finding>& before, const QList<Finding>& after)
 {
     for (const Finding& finding : after) {
         const bool known = std::any_of(before.begin(), before.end(), [&](const Finding& old) {
-            return old.rule == finding.rule && old.found == finding.found;
+            return old.mistake == finding.mistake && old.found == finding.found;
         });
-        if (finding.rule->severity == Severity::Error && !known)
+        if (finding.GetRule().severity == Severity::Error && !known)
             return QStringLiteral("%1: found %2, expected %3")
                 .arg(finding.place, finding.found, finding.expected);
     }

@@ -10,6 +10,7 @@ namespace AnimText {
 namespace {
 
 constexpr int deepest = 1024; // levels; Qt's reader follows no further
+constexpr int most = 20;      // keys that are told; each comes with its whole path
 
 /** An object or array that is open where the scan stands. */
 struct Level
@@ -50,8 +51,9 @@ QString Unescaped(const QByteArray& quoted)
 
 } // namespace
 
-QString DuplicateKey(const QByteArray& json)
+QStringList DuplicateKeys(const QByteArray& json)
 {
+    QStringList twice;
     QVector<Level> levels;
     bool keyComes = false;
     for (int i = 0; i < json.size(); ++i) {
@@ -63,7 +65,7 @@ QString DuplicateKey(const QByteArray& json)
             keyComes = level.isObject;
             levels.append(level);
             if (levels.size() > deepest)
-                return QString();
+                return twice;
             break;
         }
         case '}':
@@ -83,8 +85,11 @@ QString DuplicateKey(const QByteArray& json)
             if (keyComes) {
                 Level& object = levels.last();
                 object.key = Unescaped(json.mid(i, end - i + 1));
-                if (object.keys.contains(object.key))
-                    return PathOf(levels);
+                if (object.keys.contains(object.key)) {
+                    twice.append(PathOf(levels));
+                    if (twice.size() == most)
+                        return twice;
+                }
                 object.keys.insert(object.key);
                 keyComes = false;
             }
@@ -94,7 +99,7 @@ QString DuplicateKey(const QByteArray& json)
         default: break;
         }
     }
-    return QString();
+    return twice;
 }
 
 } // namespace AnimText

@@ -6,15 +6,15 @@
 #define ANIMTEXT_DUPLICATEKEYS_H
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 namespace AnimText {
 
 /**
- * The JSON path of the first key that its object already has; empty when there is none.
+ * The JSON paths of keys that their object already has, at most 20 of them.
  * @param json any bytes; what is no JSON has the keys that it seems to have
  */
-QString DuplicateKey(const QByteArray& json);
+QStringList DuplicateKeys(const QByteArray& json);
 
 } // namespace AnimText
 

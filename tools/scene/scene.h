@@ -5,6 +5,8 @@
 #ifndef ANIMTEXT_SCENE_H
 #define ANIMTEXT_SCENE_H
 
+#include "scene/scenefault.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QList>
@@ -55,18 +57,22 @@ struct Scene
     QString FullName(const QString& file) const;
 };
 
-/**
- * Reads @p path, or standard input for "-", whose data files lie in the current folder. On failure
- * answers false and sets @p error to one line with the file, the place in it (line and column of a
- * syntax error, else the JSON path) and what was expected there; the scene is then left as it was.
- * Files that a node names must exist.
- */
-bool ReadScene(const QString& path, Scene* scene, QString* error);
-
 /** What the tools do about a file that a scene names and that is not there. */
 enum class MissingFiles { AreErrors, AreAccepted };
-bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing);
-/** The same for @p text, which is or will be what the file holds. */
+
+/**
+ * Reads @p path, or standard input for "-", whose data files lie in the current folder. @return
+ * everything that is wrong, in the order of reading; @p scene is then left as it was
+ */
+QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles missing);
+/** The same for @p text, which is or will be what the file @p path holds. */
+QList<SceneFault> ReadSceneText(const QByteArray& text, const QString& path, Scene* scene,
+                                MissingFiles missing);
+
+/** For who gives up at the first fault: answers false, and @p error is one line that tells of it.
+ */
+bool ReadScene(const QString& path, Scene* scene, QString* error,
+               MissingFiles missing = MissingFiles::AreErrors);
 bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
                    MissingFiles missing);
 

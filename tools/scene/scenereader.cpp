@@ -1,148 +1,23 @@
 #include "scene/duplicatekeys.h"
+#include "scene/jsonvalues.h"
 #include "scene/scene.h"
 #include "scene/schema.h"
-#include "scene/suggest.h"
 #include "text/limits.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
-#include <cmath>
 #include <cstdio>
-#include <limits>
 
 namespace AnimText {
 
 namespace {
 
-constexpr int largestSide = 16384;         // what video and picture formats can hold
+constexpr int largestSide = 16384; // what video and picture formats can hold
 constexpr qint64 largestDisplay = Lw::HNodeAnimationText::maxCanvasBytes / 4; // pixels
 constexpr int farthestPlace = 1000000;
-constexpr qint64 largestFile = 256 << 20;
-
-/** What is wrong with a scene file, without the file's name. */
-struct Fault
-{
-    QString text;
-};
-
-[[noreturn]] void Fail(const QString& place, const QString& what)
-{
-    throw Fault{QStringLiteral(": %1: %2").arg(place, what)};
-}
-
-QString Found(const QJsonValue& value)
-{
-    switch (value.type()) {
-    case QJsonValue::Null: return QStringLiteral("null");
-    case QJsonValue::Bool: return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
-    case QJsonValue::Double: return QString::number(value.toDouble(), 'g', 12);
-    case QJsonValue::String: return QStringLiteral("a text");
-    case QJsonValue::Array: return QStringLiteral("a list of %1").arg(value.toArray().size());
-    case QJsonValue::Object: return QStringLiteral("an object");
-    case QJsonValue::Undefined: break;
-    }
-    return QStringLiteral("nothing");
-}
-
-[[noreturn]] void Expected(const QString& place, const QString& what, const QJsonValue& found)
-{
-    Fail(place, QStringLiteral("expected %1, found %2").arg(what, Found(found)));
-}
-
-QString Member(const QString& place, const QString& key)
-{
-    return place + QLatin1Char('.') + key;
-}
-
-QString Item(const QString& place, int index)
-{
-    return QStringLiteral("%1[%2]").arg(place).arg(index);
-}
-
-QJsonObject ToObject(const QJsonValue& value, const QString& place)
-{
-    if (!value.isObject())
-        Expected(place, QStringLiteral("an object"), value);
-    return value.toObject();
-}
-
-QJsonObject ToObject(const QJsonValue& value, const QString& place, const QStringList& known)
-{
-    const QJsonObject object = ToObject(value, place);
-    for (auto it = object.begin(); it != object.end(); ++it) {
-        if (!known.contains(it.key()))
-            Fail(Member(place, it.key()),
-                 QStringLiteral("unknown key, expected one of %1%2")
-                     .arg(known.join(QStringLiteral(", ")), DidYouMean(it.key(), known)));
-    }
-    return object;
-}
-
-QJsonArray ToList(const QJsonValue& value, const QString& place)
-{
-    if (!value.isArray())
-        Expected(place, QStringLiteral("a list"), value);
-    return value.toArray();
-}
-
-QString ToText(const QJsonValue& value, const QString& place)
-{
-    if (!value.isString())
-        Expected(place, QStringLiteral("a text"), value);
-    return value.toString();
-}
-
-int ToInt(const QJsonValue& value, const QString& place,
-          int least = std::numeric_limits<int>::min(), int most = std::numeric_limits<int>::max())
-{
-    const double number = value.toDouble();
-    const bool whole = value.isDouble() && std::floor(number) == number;
-    if (!whole || number < least || number > most)
-        Expected(place, QStringLiteral("a whole number from %1 to %2").arg(least).arg(most), value);
-    return static_cast<int>(number);
-}
-
-int ToInt(const QJsonObject& object, const QString& key, const QString& place)
-{
-    return object.contains(key) ? ToInt(object.value(key), Member(place, key)) : 0;
-}
-
-QPoint ToPair(const QJsonValue& value, const QString& place, int least, int most)
-{
-    const QJsonArray pair = value.toArray();
-    if (!value.isArray() || pair.size() != 2)
-        Expected(place, QStringLiteral("a list of two whole numbers"), value);
-    return {ToInt(pair.at(0), Item(place, 0), least, most),
-            ToInt(pair.at(1), Item(place, 1), least, most)};
-}
-
-QVariant ToAttribute(const QString& key, const QJsonValue& value, const QString& place)
-{
-    if (TextAttributeKeys().contains(key))
-        return ToText(value, place);
-    return ToInt(value, place);
-}
-
-QList<QHash<QString, QString>> ToRows(const QString& key, const QJsonValue& value,
-                                      const QString& place)
-{
-    const QStringList known = RowFields(key);
-    QList<QHash<QString, QString>> rows;
-    const QJsonArray list = ToList(value, place);
-    for (int i = 0; i < list.size(); ++i) {
-        const QString rowPlace = Item(place, i);
-        const QJsonObject object = ToObject(list.at(i), rowPlace, known);
-        QHash<QString, QString> row;
-        for (auto it = object.begin(); it != object.end(); ++it)
-            row.insert(it.key(), ToText(it.value(), Member(rowPlace, it.key())));
-        rows.append(row);
-    }
-    return rows;
-}
+constexpr qint64 largestFile = qint64(256) << 20;
 
 class Reader
 {
@@ -154,160 +29,216 @@ public:
     }
 
     Scene Read(const QJsonValue& root);
+    const QList<SceneFault>& Faults() const { return json.Faults(); }
 
 private:
-    SceneNode ReadNode(const QJsonValue& value, const QString& place) const;
-    QString ReadFileName(const QJsonValue& value, const QString& place) const;
+    void ReadDisplay(const QJsonValue& value, const QString& place);
+    ScenePage ReadPage(const QJsonValue& value, const QString& place);
+    SceneArea ReadArea(const QJsonValue& value, const QString& place);
+    SceneNode ReadNode(const QJsonValue& value, const QString& place);
+    QVariant ReadAttribute(const QString& key, const QJsonValue& value, const QString& place);
+    QList<QHash<QString, QString>> ReadRows(const QString& key, const QJsonValue& value,
+                                            const QString& place);
+    QString ReadFileName(const QJsonValue& value, const QString& place);
 
     Scene scene;
     MissingFiles missing;
+    JsonValues json;
 };
 
-QString Reader::ReadFileName(const QJsonValue& value, const QString& place) const
+QVariant Reader::ReadAttribute(const QString& key, const QJsonValue& value, const QString& place)
 {
-    const QString name = ToText(value, place);
+    if (TextAttributeKeys().contains(key))
+        return json.Text(value, place);
+    return json.Int(value, place);
+}
+
+QList<QHash<QString, QString>> Reader::ReadRows(const QString& key, const QJsonValue& value,
+                                                const QString& place)
+{
+    const QStringList known = RowFields(key);
+    QList<QHash<QString, QString>> rows;
+    const QJsonArray list = json.List(value, place);
+    for (int i = 0; i < list.size(); ++i) {
+        const QString rowPlace = Item(place, i);
+        QJsonObject object;
+        json.Object(list.at(i), rowPlace, known, &object);
+        QHash<QString, QString> row;
+        for (const QString& field : known) {
+            if (object.contains(field))
+                row.insert(field, json.Text(object.value(field), Member(rowPlace, field)));
+        }
+        rows.append(row);
+    }
+    return rows;
+}
+
+QString Reader::ReadFileName(const QJsonValue& value, const QString& place)
+{
+    const QString name = json.Text(value, place);
     const QString full = scene.FullName(name);
-    if (missing == MissingFiles::AreErrors && !QFileInfo::exists(full))
-        Fail(place, name.isEmpty() ? QStringLiteral("expected the name of a file, found none")
-                                   : QStringLiteral("expected a file, there is no %1").arg(full));
+    if (value.isString() && missing == MissingFiles::AreErrors && !QFileInfo::exists(full)) {
+        if (name.isEmpty())
+            json.Add(place, QStringLiteral("the name of a file"), QStringLiteral("none"));
+        else
+            json.Add(place, QStringLiteral("a file"), QStringLiteral("no file %1").arg(full));
+    }
     return name;
 }
 
-SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place) const
+SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
 {
     static const QStringList known{QStringLiteral("type"),       QStringLiteral("pos"),
                                    QStringLiteral("size"),       QStringLiteral("hold"),
                                    QStringLiteral("neonEffect"), QStringLiteral("attributes"),
                                    QStringLiteral("lists"),      QStringLiteral("files")};
-    const QJsonObject object = ToObject(value, place, known);
-    const auto place_of = [&](const char* key) { return Member(place, QLatin1String(key)); };
-
     SceneNode node;
-    if (object.contains(QLatin1String("type")))
-        node.type = ToText(object.value(QLatin1String("type")), place_of("type"));
-    if (object.contains(QLatin1String("pos")))
-        node.pos = ToPair(object.value(QLatin1String("pos")), place_of("pos"), -farthestPlace,
-                          farthestPlace);
-    const QPoint size =
-        ToPair(object.value(QLatin1String("size")), place_of("size"), 0, largestSide);
-    node.size = QSize(size.x(), size.y());
-    node.hold = ToInt(object, QStringLiteral("hold"), place);
-    node.neonEffect = ToInt(object, QStringLiteral("neonEffect"), place);
+    QJsonObject object;
+    if (!json.Object(value, place, known, &object))
+        return node;
+    /** Reads the member @p key, if it is there. */
+    const auto optional = [&](const QString& key, const auto& read) {
+        if (object.contains(key))
+            read(object.value(key), Member(place, key));
+    };
+    /** Reads the members of the object @p key that are among @p keys. */
+    const auto members = [&](const QString& key, const QStringList& keys, const auto& read) {
+        optional(key, [&](const QJsonValue& map, const QString& at) {
+            QJsonObject items;
+            json.Object(map, at, keys, &items);
+            for (auto it = items.begin(); it != items.end(); ++it) {
+                if (keys.contains(it.key()))
+                    read(it.key(), it.value(), Member(at, it.key()));
+            }
+        });
+    };
 
-    if (object.contains(QLatin1String("attributes"))) {
-        const QString at = place_of("attributes");
-        const QJsonObject attributes = ToObject(object.value(QLatin1String("attributes")), at,
-                                                TextAttributeKeys() + NumberAttributeKeys());
-        for (auto it = attributes.begin(); it != attributes.end(); ++it)
-            node.attributes.insert(it.key(),
-                                   ToAttribute(it.key(), it.value(), Member(at, it.key())));
-    }
-    if (object.contains(QLatin1String("lists"))) {
-        const QString at = place_of("lists");
-        const QJsonObject lists = ToObject(object.value(QLatin1String("lists")), at, ListKeys());
-        for (auto it = lists.begin(); it != lists.end(); ++it)
-            node.lists.insert(it.key(), ToRows(it.key(), it.value(), Member(at, it.key())));
-    }
-    if (object.contains(QLatin1String("files"))) {
-        const QString at = place_of("files");
-        const QJsonObject files = ToObject(object.value(QLatin1String("files")), at, FileKeys());
-        for (auto it = files.begin(); it != files.end(); ++it)
-            node.files.insert(it.key(), ReadFileName(it.value(), Member(at, it.key())));
-    }
+    optional(QStringLiteral("type"),
+             [&](const QJsonValue& type, const QString& at) { node.type = json.Text(type, at); });
+    optional(QStringLiteral("pos"), [&](const QJsonValue& pos, const QString& at) {
+        node.pos = json.Pair(pos, at, -farthestPlace, farthestPlace);
+    });
+    const QPoint size = json.Pair(object.value(QStringLiteral("size")),
+                                  Member(place, QStringLiteral("size")), 0, largestSide);
+    node.size = QSize(size.x(), size.y());
+    optional(QStringLiteral("hold"),
+             [&](const QJsonValue& hold, const QString& at) { node.hold = json.Int(hold, at); });
+    optional(QStringLiteral("neonEffect"), [&](const QJsonValue& effect, const QString& at) {
+        node.neonEffect = json.Int(effect, at);
+    });
+    members(QStringLiteral("attributes"), TextAttributeKeys() + NumberAttributeKeys(),
+            [&](const QString& key, const QJsonValue& attribute, const QString& at) {
+                node.attributes.insert(key, ReadAttribute(key, attribute, at));
+            });
+    members(QStringLiteral("lists"), ListKeys(),
+            [&](const QString& key, const QJsonValue& rows, const QString& at) {
+                node.lists.insert(key, ReadRows(key, rows, at));
+            });
+    members(QStringLiteral("files"), FileKeys(),
+            [&](const QString& key, const QJsonValue& name, const QString& at) {
+                node.files.insert(key, ReadFileName(name, at));
+            });
     return node;
+}
+
+SceneArea Reader::ReadArea(const QJsonValue& value, const QString& place)
+{
+    SceneArea area;
+    const QString nodes = QStringLiteral("nodes");
+    QJsonObject object;
+    if (!json.Object(value, place, {nodes}, &object))
+        return area;
+    const QJsonArray list = json.List(object.value(nodes), Member(place, nodes));
+    for (int n = 0; n < list.size(); ++n)
+        area.nodes.append(ReadNode(list.at(n), Item(Member(place, nodes), n)));
+    return area;
+}
+
+ScenePage Reader::ReadPage(const QJsonValue& value, const QString& place)
+{
+    ScenePage page;
+    const QString areas = QStringLiteral("areas");
+    QJsonObject object;
+    if (!json.Object(value, place, {areas}, &object))
+        return page;
+    const QJsonArray list = json.List(object.value(areas), Member(place, areas));
+    for (int a = 0; a < list.size(); ++a)
+        page.areas.append(ReadArea(list.at(a), Item(Member(place, areas), a)));
+    return page;
+}
+
+void Reader::ReadDisplay(const QJsonValue& value, const QString& place)
+{
+    const QString width = QStringLiteral("width");
+    const QString height = QStringLiteral("height");
+    QJsonObject display;
+    if (!json.Object(value, place, {width, height}, &display))
+        return;
+    // One after the other: faults come in the order of reading.
+    scene.display.setWidth(json.Int(display.value(width), Member(place, width), 1, largestSide));
+    scene.display.setHeight(json.Int(display.value(height), Member(place, height), 1, largestSide));
+    if (qint64(scene.display.width()) * scene.display.height() > largestDisplay)
+        json.Add(place, QStringLiteral("at most %1 pixels").arg(largestDisplay),
+                 QStringLiteral("%1 × %2").arg(scene.display.width()).arg(scene.display.height()));
 }
 
 Scene Reader::Read(const QJsonValue& root)
 {
     const QString top = QStringLiteral("$");
-    const QJsonObject object = ToObject(root, top,
-                                        {QStringLiteral("scene"), QStringLiteral("display"),
-                                         QStringLiteral("alphaBlend"), QStringLiteral("pages")});
-    ToInt(object.value(QLatin1String("scene")), QStringLiteral("$.scene"), 1, 1);
+    const QString version = QStringLiteral("scene");
+    const QString display = QStringLiteral("display");
+    const QString alphaBlend = QStringLiteral("alphaBlend");
+    const QString pages = QStringLiteral("pages");
 
-    const QString displayPlace = QStringLiteral("$.display");
-    const QJsonObject display = ToObject(object.value(QLatin1String("display")), displayPlace,
-                                         {QStringLiteral("width"), QStringLiteral("height")});
-    scene.display = QSize(ToInt(display.value(QLatin1String("width")),
-                                QStringLiteral("$.display.width"), 1, largestSide),
-                          ToInt(display.value(QLatin1String("height")),
-                                QStringLiteral("$.display.height"), 1, largestSide));
-    if (qint64(scene.display.width()) * scene.display.height() > largestDisplay)
-        Fail(displayPlace, QStringLiteral("expected at most %1 pixels, found %2 × %3")
-                               .arg(largestDisplay)
-                               .arg(scene.display.width())
-                               .arg(scene.display.height()));
-
-    if (object.contains(QLatin1String("alphaBlend"))) {
-        const QJsonValue blend = object.value(QLatin1String("alphaBlend"));
-        if (!blend.isBool())
-            Expected(QStringLiteral("$.alphaBlend"), QStringLiteral("true or false"), blend);
-        scene.alphaBlend = blend.toBool();
+    const QJsonValue number = root.toObject().value(version);
+    if (number.isDouble() && number.toDouble() != 1) {
+        // Another version may mean anything by its keys.
+        json.Int(number, Member(top, version), 1, 1);
+        return scene;
     }
-
-    const QString pagesPlace = QStringLiteral("$.pages");
-    const QJsonArray pages = ToList(object.value(QLatin1String("pages")), pagesPlace);
-    for (int p = 0; p < pages.size(); ++p) {
-        ScenePage page;
-        const QString pagePlace = Item(pagesPlace, p);
-        const QString areasPlace = Member(pagePlace, QStringLiteral("areas"));
-        const QJsonArray areas = ToList(ToObject(pages.at(p), pagePlace, {QStringLiteral("areas")})
-                                            .value(QLatin1String("areas")),
-                                        areasPlace);
-        for (int a = 0; a < areas.size(); ++a) {
-            SceneArea area;
-            const QString areaPlace = Item(areasPlace, a);
-            const QString nodesPlace = Member(areaPlace, QStringLiteral("nodes"));
-            const QJsonArray nodes =
-                ToList(ToObject(areas.at(a), areaPlace, {QStringLiteral("nodes")})
-                           .value(QLatin1String("nodes")),
-                       nodesPlace);
-            for (int n = 0; n < nodes.size(); ++n)
-                area.nodes.append(ReadNode(nodes.at(n), Item(nodesPlace, n)));
-            page.areas.append(area);
-        }
-        scene.pages.append(page);
-    }
+    QJsonObject object;
+    if (!json.Object(root, top, {version, display, alphaBlend, pages}, &object))
+        return scene;
+    json.Int(number, Member(top, version), 1, 1);
+    ReadDisplay(object.value(display), Member(top, display));
+    if (object.contains(alphaBlend))
+        scene.alphaBlend = json.Truth(object.value(alphaBlend), Member(top, alphaBlend));
+    const QJsonArray list = json.List(object.value(pages), Member(top, pages));
+    for (int p = 0; p < list.size(); ++p)
+        scene.pages.append(ReadPage(list.at(p), Item(Member(top, pages), p)));
     return scene;
 }
 
-/** Keys may hold anything, line breaks too. */
-QString OnOneLine(QString text)
-{
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control)
-            character = QChar::ReplacementCharacter;
-    }
-    return text;
-}
-
-QByteArray ReadStandardInput()
+QByteArray ReadStandardInput(QList<SceneFault>* faults)
 {
     QFile input;
     input.open(stdin, QIODevice::ReadOnly);
     const QByteArray bytes = input.read(largestFile + 1);
     if (bytes.size() > largestFile)
-        throw Fault{QStringLiteral(": expected at most %1 bytes").arg(largestFile)};
+        faults->append({QString(), QStringLiteral("at most %1 bytes").arg(largestFile),
+                        QStringLiteral("more")});
     return bytes;
 }
 
-QByteArray ReadBytes(const QString& path)
+/** The content of the file @p path, or what is wrong with it. */
+QByteArray ReadBytes(const QString& path, QList<SceneFault>* faults)
 {
     if (path == QLatin1String("-"))
-        return ReadStandardInput();
+        return ReadStandardInput(faults);
+    const QString sceneFile = QStringLiteral("a scene file");
     const QFileInfo info(path);
-    if (!info.exists())
-        throw Fault{QStringLiteral(": there is no such file")};
-    if (!info.isFile())
-        throw Fault{QStringLiteral(": expected a scene file, this is no regular file")};
-    if (info.size() > largestFile)
-        throw Fault{QStringLiteral(": expected at most %1 bytes, the file has %2")
-                        .arg(largestFile)
-                        .arg(info.size())};
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Fault{QStringLiteral(": cannot be read: %1").arg(file.errorString())};
-    return file.readAll();
+    if (!info.exists())
+        faults->append({QString(), sceneFile, QStringLiteral("no such file")});
+    else if (!info.isFile())
+        faults->append({QString(), sceneFile, QStringLiteral("no regular file")});
+    else if (info.size() > largestFile)
+        faults->append({QString(), QStringLiteral("at most %1 bytes").arg(largestFile),
+                        QString::number(info.size())});
+    else if (!file.open(QIODevice::ReadOnly))
+        faults->append({QString(), QStringLiteral("a file that can be read"),
+                        QStringLiteral("an error: %1").arg(file.errorString())});
+    return faults->isEmpty() ? file.readAll() : QByteArray();
 }
 
 /** "LINE:COLUMN" of a place in @p text, both counted from 1, columns in bytes. */
@@ -319,54 +250,64 @@ QString LineAndColumn(const QByteArray& text, int offset)
     return QStringLiteral("%1:%2").arg(line).arg(column);
 }
 
-QJsonObject Parse(const QByteArray& text)
+QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document)
 {
     // Before anything else, for Qt's reader leaks the values of keys that stand there twice.
-    const QString twice = DuplicateKey(text);
-    if (!twice.isEmpty())
-        Fail(twice, QStringLiteral("expected each key once, found it twice"));
+    JsonValues twice;
+    for (const QString& place : DuplicateKeys(text))
+        twice.Add(place, QStringLiteral("each key once"), QStringLiteral("it twice"));
+    if (!twice.Faults().isEmpty())
+        return twice.Faults();
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError) {
-        const int offset = qBound(0, error.offset, text.size());
-        throw Fault{QStringLiteral(":%1: no valid JSON, %2")
-                        .arg(LineAndColumn(text, offset), error.errorString())};
-    }
-    if (!document.isObject())
-        Expected(QStringLiteral("$"), QStringLiteral("an object"), document.array());
-    return document.object();
+    *document = QJsonDocument::fromJson(text, &error);
+    if (error.error == QJsonParseError::NoError)
+        return {};
+    const int offset = qBound(0, error.offset, text.size());
+    return {{LineAndColumn(text, offset), QStringLiteral("valid JSON"),
+             QStringLiteral("an error: %1").arg(error.errorString())}};
 }
 
-/** Reads what @p bytes answers. */
-template <typename Bytes>
-bool ReadFrom(const Bytes& bytes, const QString& path, Scene* scene, QString* error,
-              MissingFiles missing)
+/** @return whether there is no fault */
+bool TellFirst(const QList<SceneFault>& faults, const QString& path, QString* error)
 {
-    try {
-        *scene = Reader(path, missing).Read(Parse(bytes()));
-        return true;
-    } catch (const Fault& fault) {
-        *error = path + OnOneLine(fault.text);
-        return false;
-    }
+    if (!faults.isEmpty())
+        *error = faults.first().Line(path);
+    return faults.isEmpty();
 }
 
 } // namespace
 
+QList<SceneFault> ReadSceneText(const QByteArray& text, const QString& path, Scene* scene,
+                                MissingFiles missing)
+{
+    QJsonDocument document;
+    const QList<SceneFault> faults = FaultsOfSyntax(text, &document);
+    if (!faults.isEmpty())
+        return faults;
+    Reader reader(path, missing);
+    const Scene read = reader.Read(document.isObject() ? QJsonValue(document.object())
+                                                       : QJsonValue(document.array()));
+    if (reader.Faults().isEmpty())
+        *scene = read;
+    return reader.Faults();
+}
+
+QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles missing)
+{
+    QList<SceneFault> faults;
+    const QByteArray text = ReadBytes(path, &faults);
+    return faults.isEmpty() ? ReadSceneText(text, path, scene, missing) : faults;
+}
+
 bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing)
 {
-    return ReadFrom([&] { return ReadBytes(path); }, path, scene, error, missing);
+    return TellFirst(ReadScene(path, scene, missing), path, error);
 }
 
 bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
                    MissingFiles missing)
 {
-    return ReadFrom([&] { return text; }, path, scene, error, missing);
-}
-
-bool ReadScene(const QString& path, Scene* scene, QString* error)
-{
-    return ReadScene(path, scene, error, MissingFiles::AreErrors);
+    return TellFirst(ReadSceneText(text, path, scene, missing), path, error);
 }
 
 } // namespace AnimText

@@ -28,10 +28,20 @@ QString Size(qint64 width, int height)
     return QStringLiteral("%1 x %2 pixels").arg(width).arg(height);
 }
 
-QString AndMore(int others)
+/** The first of the places where something is wrong, and how many come after it. */
+struct Places
 {
-    return others == 0 ? QString() : QStringLiteral(" and %1 more like it").arg(others);
-}
+    int first = -1;
+    int others = 0;
+
+    void Add(int place)
+    {
+        if (first < 0)
+            first = place;
+        else
+            ++others;
+    }
+};
 
 qint64 Sum(const QVector<int>& values)
 {
@@ -62,11 +72,12 @@ QList<Finding> NodeCheck::Run()
     widths = Column("TextWidth", "text_width");
     heights = Column("TextHeight", "text_height");
     if (node.type != QLatin1String("LW_animationText_Plugin"))
-        Add("node-type", QStringLiteral("type"), QLatin1Char('"') + node.type + QLatin1Char('"'),
+        Add(Mistake::NodeType, QStringLiteral("type"),
+            QLatin1Char('"') + node.type + QLatin1Char('"'),
             QStringLiteral("\"LW_animationText_Plugin\""));
     CheckArea();
     if (node.hold < 0)
-        Add("hold-range", QStringLiteral("hold"), QString::number(node.hold),
+        Add(Mistake::HoldRange, QStringLiteral("hold"), QString::number(node.hold),
             QStringLiteral("0 or more, in units of 100 ms"));
     CheckMode();
     CheckFlags();
@@ -81,12 +92,12 @@ void NodeCheck::CheckArea()
 {
     const QString at = QStringLiteral("size");
     if (node.size.isEmpty()) {
-        Add("area-empty", at, Size(node.size.width(), node.size.height()),
+        Add(Mistake::AreaEmpty, at, Size(node.size.width(), node.size.height()),
             QStringLiteral("1 x 1 pixels or more"));
         return;
     }
     if (!QRect(QPoint(0, 0), scene.display).contains(QRect(node.pos, node.size)))
-        Add("area-outside", QStringLiteral("pos"),
+        Add(Mistake::AreaOutside, QStringLiteral("pos"),
             QStringLiteral("an area of %1 at %2, %3")
                 .arg(Size(node.size.width(), node.size.height()))
                 .arg(node.pos.x())
@@ -96,7 +107,7 @@ void NodeCheck::CheckArea()
     const qint64 width = ScrollsSideways() ? Sum(widths) : node.size.width();
     const qint64 bytes = width * node.size.height() * (scene.alphaBlend ? 4 : 3);
     if (bytes > maxCanvasBytes)
-        Add("canvas-large", at,
+        Add(Mistake::CanvasLarge, at,
             QStringLiteral("a picture of %1, %2 MiB")
                 .arg(Size(width, node.size.height()))
                 .arg(bytes >> 20),
@@ -106,26 +117,26 @@ void NodeCheck::CheckArea()
 void NodeCheck::CheckMode()
 {
     if (text.isEmpty())
-        AddAttribute("text-empty", "Text", QStringLiteral("a text"));
+        AddAttribute(Mistake::TextEmpty, "Text", QStringLiteral("a text"));
     const QString speeds = QStringLiteral("0 to 9");
     if (mode == 0) {
         if (motion < 0 || motion >= Effects().size())
-            AddAttribute("effect-unknown", "AnimationEffect",
+            AddAttribute(Mistake::EffectUnknown, "AnimationEffect",
                          QStringLiteral("0 to %1").arg(Effects().size() - 1));
         if (Number("AnimationSpeed") < 0 || Number("AnimationSpeed") > 9)
-            AddAttribute("speed-range", "AnimationSpeed", speeds);
+            AddAttribute(Mistake::SpeedRange, "AnimationSpeed", speeds);
     } else if (mode == 1) {
         if (motion < 0 || motion >= Scrolls().size())
-            AddAttribute("direction-unknown", "ContinueStyle",
+            AddAttribute(Mistake::DirectionUnknown, "ContinueStyle",
                          QStringLiteral("0 left, 1 right, 2 up or 3 down"));
         if (Number("ContinueSpeed") < 0 || Number("ContinueSpeed") > 9)
-            AddAttribute("speed-range", "ContinueSpeed", speeds);
+            AddAttribute(Mistake::SpeedRange, "ContinueSpeed", speeds);
     } else {
-        AddAttribute("mode-unknown", "EffectType",
+        AddAttribute(Mistake::ModeUnknown, "EffectType",
                      QStringLiteral("0 for an entrance effect or 1 for scrolling"));
     }
     if (Number("PlayTimes") < 1)
-        AddAttribute("plays-range", "PlayTimes", QStringLiteral("1 or more"));
+        AddAttribute(Mistake::PlaysRange, "PlayTimes", QStringLiteral("1 or more"));
 }
 
 void NodeCheck::CheckFlags()
@@ -133,7 +144,7 @@ void NodeCheck::CheckFlags()
     for (const char* flag : {"CheckColorGradient", "CheckDazzle", "CheckNeonBg",
                              "CheckPictureFills", "CheckShadowEffect", "Hollow", "Stroke"}) {
         if (Number(flag) != 0 && Number(flag) != 1)
-            AddAttribute("flag-value", flag, QStringLiteral("0 or 1"));
+            AddAttribute(Mistake::FlagValue, flag, QStringLiteral("0 or 1"));
     }
 }
 
@@ -141,13 +152,13 @@ void NodeCheck::CheckIgnored()
 {
     const QString withDazzle = QStringLiteral("0, or \"CheckDazzle\" 1 beside it");
     if (Has("CheckColorGradient") && !Has("CheckDazzle"))
-        AddAttribute("gradient-ignored", "CheckColorGradient", withDazzle);
+        AddAttribute(Mistake::GradientIgnored, "CheckColorGradient", withDazzle);
     if (Has("CheckPictureFills") && !Has("CheckDazzle"))
-        AddAttribute("picture-ignored", "CheckPictureFills", withDazzle);
+        AddAttribute(Mistake::PictureIgnored, "CheckPictureFills", withDazzle);
     if (Has("CheckShadowEffect"))
-        AddAttribute("shadow-ignored", "CheckShadowEffect", QStringLiteral("0"));
+        AddAttribute(Mistake::ShadowIgnored, "CheckShadowEffect", QStringLiteral("0"));
     if (Has("Stroke"))
-        AddAttribute("stroke-ignored", "Stroke", QStringLiteral("0"));
+        AddAttribute(Mistake::StrokeIgnored, "Stroke", QStringLiteral("0"));
 }
 
 void NodeCheck::CheckLists()
@@ -160,12 +171,12 @@ void NodeCheck::CheckLists()
         const QString expected = QStringLiteral("a row for each of %1")
                                      .arg(Words(text.size(), "character", "characters"));
         if (rows < text.size())
-            Add("list-length", at, found, expected);
+            Add(Mistake::ListLength, at, found, expected);
         else if (rows > text.size())
-            Add("list-surplus", at, found, expected);
+            Add(Mistake::ListSurplus, at, found, expected);
         for (const QString& field : RowFields(key)) {
             if (field != QLatin1String("fontName"))
-                CheckRows(key, field, key == QLatin1String("TextAttribute") ? -2147483647 : 0);
+                CheckRows(key, field);
         }
     }
 
@@ -174,51 +185,50 @@ void NodeCheck::CheckLists()
     for (int i = 1; i < styles.size(); ++i) {
         if (styles[i].value(color) == styles[0].value(color))
             continue;
-        Add("colors-ignored", QStringLiteral("lists.TextAttribute[%1].Color").arg(i),
+        Add(Mistake::ColorsIgnored, QStringLiteral("lists.TextAttribute[%1].Color").arg(i),
             QStringLiteral("\"%1\"").arg(styles[i].value(color)),
             QStringLiteral("\"%1\" as in the first row").arg(styles[0].value(color)));
         break;
     }
 }
 
-/** A finding on the first row of @p list whose @p field is no number from @p least. */
-void NodeCheck::CheckRows(const QString& list, const QString& field, int least)
+/** A finding on the first row of @p list whose @p field is no number, or a size below 0. */
+void NodeCheck::CheckRows(const QString& list, const QString& field)
 {
+    const bool isSize = list != QLatin1String("TextAttribute");
     const auto rows = node.lists.value(list);
-    int first = -1;
-    int others = 0;
+    Places bad;
     for (int i = 0; i < rows.size(); ++i) {
         bool isNumber = false;
         const int value = rows[i].value(field).toInt(&isNumber);
-        if (isNumber && value >= least)
+        if (isNumber && !(isSize && value < 0))
             continue;
-        first < 0 ? void(first = i) : void(++others);
+        bad.Add(i);
     }
-    if (first < 0)
+    if (bad.first < 0)
         return;
-    const bool given = rows[first].contains(field);
-    Add("row-value", QStringLiteral("lists.%1[%2].%3").arg(list).arg(first).arg(field),
-        (given ? QStringLiteral("\"%1\"").arg(rows[first].value(field))
+    const bool given = rows[bad.first].contains(field);
+    Add(Mistake::RowValue, QStringLiteral("lists.%1[%2].%3").arg(list).arg(bad.first).arg(field),
+        (given ? QStringLiteral("\"%1\"").arg(rows[bad.first].value(field))
                : QStringLiteral("nothing")) +
-            AndMore(others),
-        least == 0 ? QStringLiteral("a decimal number from 0")
-                   : QStringLiteral("a decimal number"));
+            AndMore(bad.others),
+        isSize ? QStringLiteral("a decimal number from 0") : QStringLiteral("a decimal number"));
 }
 
 void NodeCheck::CheckMeasures()
 {
     const int widest = LargestAt(widths);
     if (!ScrollsSideways() && widest >= 0 && widths[widest] > node.size.width())
-        Add("character-wide", QStringLiteral("lists.TextWidth[%1].text_width").arg(widest),
+        Add(Mistake::CharacterWide, QStringLiteral("lists.TextWidth[%1].text_width").arg(widest),
             QStringLiteral("%1 pixels").arg(widths[widest]),
             QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
     const int highest = LargestAt(heights);
     if (highest >= 0 && heights[highest] > node.size.height())
-        Add("text-high", QStringLiteral("lists.TextHeight[%1].text_height").arg(highest),
+        Add(Mistake::TextHigh, QStringLiteral("lists.TextHeight[%1].text_height").arg(highest),
             QStringLiteral("%1 pixels").arg(heights[highest]),
             QStringLiteral("no more than the area's height, %1").arg(node.size.height()));
     if (ScrollsSideways() && Sum(widths) > lastPaintableX)
-        Add("line-long", QStringLiteral("lists.TextWidth"),
+        Add(Mistake::LineLong, QStringLiteral("lists.TextWidth"),
             QStringLiteral("a line of %1 pixels").arg(Sum(widths)),
             QStringLiteral("at most %1 pixels").arg(lastPaintableX));
 }
@@ -232,17 +242,17 @@ void NodeCheck::CheckFiles()
         if (node.files.contains(key)) {
             const QString path = scene.FullName(node.files.value(key));
             if (!QFileInfo::exists(path))
-                Add("file-missing", at, QStringLiteral("no file %1").arg(path),
+                Add(Mistake::FileMissing, at, QStringLiteral("no file %1").arg(path),
                     QStringLiteral("a file"));
             else if (isData)
                 CheckData(key);
         } else if (isData && !text.isEmpty()) {
-            Add("file-missing", at, QStringLiteral("nothing"),
+            Add(Mistake::FileMissing, at, QStringLiteral("nothing"),
                 QStringLiteral("the name of a data file"));
         } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
                    (key == QLatin1String("NeonGifPath") && Has("CheckNeonBg") &&
                     node.neonEffect > lastDrawnNeon)) {
-            Add("picture-missing", at, QStringLiteral("nothing"),
+            Add(Mistake::PictureMissing, at, QStringLiteral("nothing"),
                 QStringLiteral("the name of a picture file"));
         }
     }
@@ -255,19 +265,19 @@ void NodeCheck::CheckData(const QString& key)
     const QString path = scene.FullName(node.files.value(key));
     const DataFile data = holdsPaths ? LookIntoPathFile(path) : LookIntoDescentFile(path);
     if (!data.fault.isEmpty()) {
-        Add("data-malformed", at, QStringLiteral("%1: %2").arg(path, data.fault),
+        Add(Mistake::DataMalformed, at, QStringLiteral("%1: %2").arg(path, data.fault),
             QStringLiteral("a serialised byte array of Base64 text with a serialised list in it"));
         return;
     }
     const QString found = holdsPaths ? Words(data.entries, "outline", "outlines")
                                      : Words(data.entries, "descent", "descents");
     if (data.entries != text.size())
-        Add(data.entries < text.size() ? "data-length" : "data-surplus", at, found,
+        Add(data.entries < text.size() ? Mistake::DataLength : Mistake::DataSurplus, at, found,
             QStringLiteral("one for each of %1")
                 .arg(Words(text.size(), "character", "characters")));
     if (!data.badOutlines.isEmpty()) {
         const BadOutline& bad = data.badOutlines.first();
-        Add("outline-malformed", at,
+        Add(Mistake::OutlineMalformed, at,
             QStringLiteral("outline %1: %2%3")
                 .arg(bad.index)
                 .arg(bad.fault, AndMore(data.badOutlines.size() - 1)),
@@ -279,8 +289,7 @@ void NodeCheck::CheckData(const QString& key)
 
 void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
 {
-    int first = -1;
-    int others = 0;
+    Places gaps;
     for (int i = 0; i < qMin(isEmpty.size(), text.size()); ++i) {
         const QChar::Category category = text.at(i).category();
         const bool unseen = text.at(i).isSpace() || category == QChar::Other_Format ||
@@ -288,13 +297,13 @@ void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
         // Characters that share the outline of the one before them have no width.
         if (!isEmpty[i] || unseen || widths.value(i) <= 0)
             continue;
-        first < 0 ? void(first = i) : void(++others);
+        gaps.Add(i);
     }
-    if (first >= 0)
-        Add("outline-empty", QStringLiteral("files.PathData"),
+    if (gaps.first >= 0)
+        Add(Mistake::OutlineEmpty, QStringLiteral("files.PathData"),
             QStringLiteral("no outline for character %1 of the text%2")
-                .arg(first)
-                .arg(AndMore(others)),
+                .arg(gaps.first)
+                .arg(AndMore(gaps.others)),
             QStringLiteral("an outline for all that is seen"));
 }
 
@@ -306,17 +315,17 @@ QVector<int> NodeCheck::Column(const char* list, const char* field) const
     return values;
 }
 
-void NodeCheck::Add(const char* code, const QString& where, const QString& found,
+void NodeCheck::Add(Mistake mistake, const QString& where, const QString& found,
                     const QString& expected)
 {
-    findings.append({RuleFor(code), where.isEmpty() ? place : place + QLatin1Char('.') + where,
-                     found, expected});
+    findings.append(
+        {mistake, where.isEmpty() ? place : place + QLatin1Char('.') + where, found, expected});
 }
 
-void NodeCheck::AddAttribute(const char* code, const char* key, const QString& expected)
+void NodeCheck::AddAttribute(Mistake mistake, const char* key, const QString& expected)
 {
     const QVariant value = node.attributes.value(QLatin1String(key));
-    Add(code, QStringLiteral("attributes.") + QLatin1String(key),
+    Add(mistake, QStringLiteral("attributes.") + QLatin1String(key),
         value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
 }
 

@@ -27,7 +27,7 @@ private:
     void CheckFlags();
     void CheckIgnored();
     void CheckLists();
-    void CheckRows(const QString& list, const QString& field, int least);
+    void CheckRows(const QString& list, const QString& field);
     void CheckMeasures();
     void CheckFiles();
     void CheckData(const QString& key);
@@ -38,8 +38,8 @@ private:
     QVector<int> Column(const char* list, const char* field) const;
     bool ScrollsSideways() const { return mode == 1 && (motion == 0 || motion == 1); }
 
-    void Add(const char* code, const QString& where, const QString& found, const QString& expected);
-    void AddAttribute(const char* code, const char* key, const QString& expected);
+    void Add(Mistake mistake, const QString& where, const QString& found, const QString& expected);
+    void AddAttribute(Mistake mistake, const char* key, const QString& expected);
 
     const Scene& scene;
     const SceneNode& node;

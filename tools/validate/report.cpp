@@ -21,51 +21,61 @@ QString Counted(int count, Severity severity)
                                                     QLatin1String(count == 1 ? "" : "s"));
 }
 
+QJsonObject AsJson(const Report& report)
+{
+    QJsonArray list;
+    for (const Finding& finding : report.findings) {
+        const Rule& rule = finding.GetRule();
+        list.append(QJsonObject{{QStringLiteral("code"), QLatin1String(rule.code)},
+                                {QStringLiteral("severity"), Name(rule.severity)},
+                                {QStringLiteral("place"), finding.place},
+                                {QStringLiteral("found"), finding.found},
+                                {QStringLiteral("expected"), finding.expected},
+                                {QStringLiteral("why"), QLatin1String(rule.why)}});
+    }
+    return {{QStringLiteral("scene"), report.path},
+            {QStringLiteral("errors"), Count(report.findings, Severity::Error)},
+            {QStringLiteral("warnings"), Count(report.findings, Severity::Warning)},
+            {QStringLiteral("findings"), list}};
+}
+
 } // namespace
 
 int Count(const QList<Finding>& findings, Severity severity)
 {
     return int(std::count_if(findings.begin(), findings.end(), [severity](const Finding& f) {
-        return f.rule->severity == severity;
+        return f.GetRule().severity == severity;
     }));
 }
 
-QByteArray FindingsAsText(const QString& path, const QList<Finding>& findings)
+QByteArray ReportAsText(const Report& report)
 {
     QString text;
     QTextStream out(&text);
-    if (findings.isEmpty()) {
-        out << path << ": no mistakes found\n";
+    if (report.findings.isEmpty()) {
+        out << report.path << ": no mistakes found\n";
         return text.toUtf8();
     }
-    out << path << ": " << Counted(Count(findings, Severity::Error), Severity::Error) << ", "
-        << Counted(Count(findings, Severity::Warning), Severity::Warning) << '\n';
-    for (const Finding& finding : findings) {
-        out << '\n' << Name(finding.rule->severity) << ' ' << finding.rule->code;
+    out << report.path << ": " << Counted(Count(report.findings, Severity::Error), Severity::Error)
+        << ", " << Counted(Count(report.findings, Severity::Warning), Severity::Warning) << '\n';
+    for (const Finding& finding : report.findings) {
+        const Rule& rule = finding.GetRule();
+        out << '\n' << Name(rule.severity) << ' ' << rule.code;
         if (!finding.place.isEmpty())
             out << " at " << finding.place;
         out << "\n  found " << finding.found << ",\n  expected " << finding.expected << "\n  "
-            << finding.rule->why << '\n';
+            << rule.why << '\n';
     }
     return text.toUtf8();
 }
 
-QByteArray FindingsAsJson(const QString& path, const QList<Finding>& findings)
+QByteArray ReportsAsJson(const QList<Report>& reports)
 {
     QJsonArray list;
-    for (const Finding& finding : findings) {
-        list.append(QJsonObject{{QStringLiteral("code"), QLatin1String(finding.rule->code)},
-                                {QStringLiteral("severity"), Name(finding.rule->severity)},
-                                {QStringLiteral("place"), finding.place},
-                                {QStringLiteral("found"), finding.found},
-                                {QStringLiteral("expected"), finding.expected},
-                                {QStringLiteral("why"), QLatin1String(finding.rule->why)}});
-    }
-    const QJsonObject report{{QStringLiteral("scene"), path},
-                             {QStringLiteral("errors"), Count(findings, Severity::Error)},
-                             {QStringLiteral("warnings"), Count(findings, Severity::Warning)},
-                             {QStringLiteral("findings"), list}};
-    return QJsonDocument(report).toJson(QJsonDocument::Indented);
+    for (const Report& report : reports)
+        list.append(AsJson(report));
+    return (list.size() == 1 ? QJsonDocument(list.first().toObject()) : QJsonDocument(list))
+        .toJson(QJsonDocument::Indented);
 }
 
 } // namespace AnimText

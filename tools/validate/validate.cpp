@@ -4,19 +4,18 @@
 
 namespace AnimText {
 
-QList<Finding> ValidateScene(const QString& path)
+QString Finding::Line() const
 {
-    Scene scene;
-    QString error;
-    if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
-        return {{RuleFor("scene-unreadable"), QString(), error, QStringLiteral("a scene file")}};
-    return ValidateScene(scene);
+    const Rule& rule = GetRule();
+    const QString at = place.isEmpty() ? QString() : QStringLiteral(" at ") + place;
+    return QStringLiteral("%1%2: found %3, expected %4. %5")
+        .arg(QLatin1String(rule.code), at, found, expected, QLatin1String(rule.why));
 }
 
 QList<Finding> ValidateScene(const Scene& scene)
 {
     if (scene.Nodes().isEmpty())
-        return {{RuleFor("scene-empty"), QStringLiteral("$.pages"), QStringLiteral("no nodes"),
+        return {{Mistake::SceneEmpty, QStringLiteral("$.pages"), QStringLiteral("no nodes"),
                  QStringLiteral("one or more")}};
     QList<Finding> findings;
     for (int p = 0; p < scene.pages.size(); ++p) {
@@ -29,6 +28,29 @@ QList<Finding> ValidateScene(const Scene& scene)
             }
         }
     }
+    return findings;
+}
+
+QList<Finding> ErrorsOf(const Scene& scene)
+{
+    QList<Finding> errors;
+    for (const Finding& finding : ValidateScene(scene)) {
+        if (finding.GetRule().severity == Severity::Error)
+            errors.append(finding);
+    }
+    return errors;
+}
+
+QList<Finding> ValidateScene(const QString& path)
+{
+    Scene scene;
+    const QList<SceneFault> faults = ReadScene(path, &scene, MissingFiles::AreAccepted);
+    if (faults.isEmpty())
+        return ValidateScene(scene);
+    QList<Finding> findings;
+    for (const SceneFault& fault : faults)
+        findings.append({Mistake::SceneUnreadable, fault.place, fault.found + AndMore(fault.others),
+                         fault.expected});
     return findings;
 }
 

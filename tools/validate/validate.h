@@ -6,6 +6,7 @@
 #define ANIMTEXT_VALIDATE_H
 
 #include "scene/scene.h"
+#include "validate/rules.h"
 
 #include <QByteArray>
 #include <QList>
@@ -13,40 +14,45 @@
 
 namespace AnimText {
 
-enum class Severity { Warning, Error };
-
-/** One kind of mistake. */
-struct Rule
-{
-    const char* code;  ///< keeps its meaning from version to version, e.g. "speed-range"
-    Severity severity; ///< an error shows nothing or something wrong; a warning may be meant
-    const char* why;   ///< what it does on the sign
-};
-
-/** Every kind of mistake that is looked for. */
-const QList<Rule>& Rules();
-/** The one of that code, which must exist. */
-const Rule* RuleFor(const char* code);
-
 /** One mistake in one place. */
 struct Finding
 {
-    const Rule* rule;
+    Mistake mistake;
     QString place;    ///< path in the scene file, e.g. "$.pages[0].areas[0].nodes[0].hold"
     QString found;    ///< what stands there
     QString expected; ///< what should
+
+    /** What is known of mistakes of its kind. */
+    const Rule& GetRule() const { return RuleFor(mistake); }
+    /** All of it as one line for people. */
+    QString Line() const;
 };
 
-/** The mistakes in the scene file @p path, in the order of the file. Clean scenes have none. */
+/**
+ * The mistakes in the scene file @p path, or in standard input for "-", in the order of the file;
+ * those that keep it from being read come alone. Clean scenes have none.
+ */
 QList<Finding> ValidateScene(const QString& path);
 /** The same for a scene that is or will be in the file @c scene.path. */
 QList<Finding> ValidateScene(const Scene& scene);
+/** Those of them that are errors: what the sign shows will be wrong, or nothing. */
+QList<Finding> ErrorsOf(const Scene& scene);
 
-/** The findings on the scene @p path for people, a few lines each. */
-QByteArray FindingsAsText(const QString& path, const QList<Finding>& findings);
+/** What was found in one scene. */
+struct Report
+{
+    QString path; ///< as it was asked for
+    QList<Finding> findings;
+};
 
-/** The same as one JSON object: "scene", "errors", "warnings" and the list "findings". */
-QByteArray FindingsAsJson(const QString& path, const QList<Finding>& findings);
+/** @p report for people, a few lines for each finding. */
+QByteArray ReportAsText(const Report& report);
+
+/**
+ * One report as a JSON object: "scene", "errors", "warnings" and the list "findings"; several as a
+ * list of such objects.
+ */
+QByteArray ReportsAsJson(const QList<Report>& reports);
 
 /** How many of @p findings are of that severity. */
 int Count(const QList<Finding>& findings, Severity severity);

@@ -1,0 +1,60 @@
+/**
+ * @file
+ * The values of a JSON file as what they should be, with everything that is wrong about them.
+ */
+#ifndef ANIMTEXT_JSONVALUES_H
+#define ANIMTEXT_JSONVALUES_H
+
+#include "scene/scenefault.h"
+
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QPoint>
+#include <QStringList>
+
+#include <limits>
+
+namespace AnimText {
+
+/** The place of a member, and of an item of a list. */
+QString Member(const QString& place, const QString& key);
+QString Item(const QString& place, int index);
+
+/**
+ * Reads values and goes on where one is wrong: that is remembered, and a standard value is answered
+ * in its place.
+ */
+class JsonValues
+{
+public:
+    const QList<SceneFault>& Faults() const { return faults; }
+
+    /**
+     * Remembers what is wrong. Rows of a list that are wrong in the same way are counted, not
+     * listed.
+     */
+    void Add(const QString& place, const QString& expected, const QString& found);
+    void Add(const QString& place, const QString& expected, const QJsonValue& found);
+
+    /** @return false when @p value is no object at all; keys that are not @p known are faults */
+    bool Object(const QJsonValue& value, const QString& place, const QStringList& known,
+                QJsonObject* object);
+    QJsonArray List(const QJsonValue& value, const QString& place);
+    QString Text(const QJsonValue& value, const QString& place);
+    bool Truth(const QJsonValue& value, const QString& place);
+    int Int(const QJsonValue& value, const QString& place,
+            int least = std::numeric_limits<int>::min(),
+            int most = std::numeric_limits<int>::max());
+    QPoint Pair(const QJsonValue& value, const QString& place, int least, int most);
+
+private:
+    QList<SceneFault> faults;
+    QHash<QString, int> alike; // indices of faults, by what those have in common that are counted
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,21 @@
+#include "scene/scenefault.h"
+
+namespace AnimText {
+
+QString SceneFault::Line(const QString& path) const
+{
+    // A line and a column follow the name directly, as compilers put it.
+    QString line = path;
+    if (!place.isEmpty())
+        line += (place.startsWith(QLatin1Char('$')) ? QStringLiteral(": ") : QStringLiteral(":")) +
+                place;
+    return QStringLiteral("%1: expected %2, found %3%4")
+        .arg(line, expected, found, AndMore(others));
+}
+
+QString AndMore(int others)
+{
+    return others == 0 ? QString() : QStringLiteral(" and %1 more like it").arg(others);
+}
+
+} // namespace AnimText

@@ -1,0 +1,62 @@
+/**
+ * @file
+ * The kinds of mistakes that are looked for in scenes.
+ */
+#ifndef ANIMTEXT_RULES_H
+#define ANIMTEXT_RULES_H
+
+namespace AnimText {
+
+enum class Severity { Warning, Error };
+
+enum class Mistake {
+    SceneUnreadable,
+    SceneEmpty,
+    NodeType,
+    AreaEmpty,
+    AreaOutside,
+    CanvasLarge,
+    TextEmpty,
+    ModeUnknown,
+    EffectUnknown,
+    DirectionUnknown,
+    SpeedRange,
+    PlaysRange,
+    HoldRange,
+    FlagValue,
+    ListLength,
+    ListSurplus,
+    RowValue,
+    FileMissing,
+    PictureMissing,
+    DataMalformed,
+    OutlineMalformed,
+    DataLength,
+    DataSurplus,
+    OutlineEmpty,
+    CharacterWide,
+    TextHigh,
+    LineLong,
+    GradientIgnored,
+    PictureIgnored,
+    StrokeIgnored,
+    ShadowIgnored,
+    ColorsIgnored,
+};
+
+/** What is known of one kind of mistake. */
+struct Rule
+{
+    Mistake mistake;
+    const char* code;  ///< keeps its meaning from version to version, e.g. "speed-range"
+    Severity severity; ///< an error shows nothing or something wrong; a warning may be meant
+    const char* why;   ///< what it does on the sign
+};
+
+constexpr int mistakeCount = int(Mistake::ColorsIgnored) + 1;
+
+const Rule& RuleFor(Mistake mistake);
+
+} // namespace AnimText
+
+#endif
