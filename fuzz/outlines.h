@@ -6,6 +6,7 @@
 #define FUZZ_OUTLINES_H
 
 #include "text/glyphdata.h"
+#include "text/limits.h"
 
 #include <QBuffer>
 #include <QDataStream>

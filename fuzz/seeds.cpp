@@ -1,7 +1,9 @@
 // fuzz-seeds FOLDER: writes what the fuzzers start from, a folder for each, and a dictionary of the
-// words of the scene file. Everything comes from the author library, as real scenes do.
+// words of the scene file. They come from the author library, as real scenes do, and from the
+// table of what can be wrong about glyphs.
 #include "author/author.h"
 #include "scene/schema.h"
+#include "support/malformedglyphs.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +13,8 @@
 using namespace AnimText;
 
 namespace {
+
+constexpr int largestSeed = 4096; // bytes; fuzzers find their way faster from small ones
 
 struct Sample
 {
@@ -112,6 +116,20 @@ int main(int argc, char** argv)
         Write(folder, "descentdata", number, Inner(authored.descentFile));
         Write(folder, "scene", number, SceneOf(authored, sample));
         ++number;
+    }
+    for (const Glyphs::Sample& sample : Glyphs::OutlineSamples()) {
+        if (sample.bytes.size() > largestSeed)
+            continue;
+        Write(folder, "pathdata", number, sample.bytes);
+        Write(folder, "pathfile", number++, Glyphs::File(sample.bytes));
+    }
+    for (const Glyphs::Sample& sample : Glyphs::DescentSamples()) {
+        Write(folder, "descentdata", number, sample.bytes);
+        Write(folder, "descentfile", number++, Glyphs::File(sample.bytes));
+    }
+    for (const Glyphs::Sample& sample : Glyphs::FileSamples()) {
+        Write(folder, "pathfile", number, sample.bytes);
+        Write(folder, "descentfile", number++, sample.bytes);
     }
     WriteDictionary(folder);
     return 0;

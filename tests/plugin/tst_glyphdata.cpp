@@ -1,63 +1,17 @@
-// The data files of a node: broken in every way, missing, swapped, and whole.
+// The data files of a node: broken in every way, missing, swapped, and whole. What the node does
+// not read, validating finds fault with.
 #include "rectangletext.h"
 
-#include <limits>
+#include "support/malformedglyphs.h"
+#include "validate/datafile.h"
+
 #include <sys/stat.h>
 
+using AnimText::DataFile;
+
+Q_DECLARE_METATYPE(Glyphs::Sample)
+
 namespace {
-
-// An outline in a stream, element by element, as no QPainterPath would hold it.
-struct RawOutline
-{
-    struct Element
-    {
-        qint32 type;
-        double x, y;
-    };
-    QVector<Element> elements{{0, 1, 2}, {1, 3, 4}, {1, 5, 6}};
-    qint32 start = 0;
-    qint32 fillRule = 0;
-    qint32 size = -2; // claimed; -2: the true one
-};
-
-QDataStream& operator<<(QDataStream& stream, const RawOutline& outline)
-{
-    stream << (outline.size == -2 ? outline.elements.size() : outline.size);
-    for (const RawOutline::Element& element : outline.elements)
-        stream << element.type << element.x << element.y;
-    return stream << outline.start << outline.fillRule;
-}
-
-RawOutline Outline(const QVector<RawOutline::Element>& elements, qint32 start = 0,
-                   qint32 fillRule = 0)
-{
-    RawOutline outline;
-    outline.elements = elements;
-    outline.start = start;
-    outline.fillRule = fillRule;
-    return outline;
-}
-
-RawOutline Sized(qint32 size)
-{
-    RawOutline outline;
-    outline.size = size;
-    return outline;
-}
-
-RawOutline Polyline(int elements)
-{
-    RawOutline outline;
-    outline.elements.fill({1, 7, 8}, elements);
-    outline.elements[0].type = 0;
-    return outline;
-}
-
-// @p outline between two sound ones of three elements each.
-QByteArray Between(const RawOutline& outline)
-{
-    return Serialised(QVector<RawOutline>{RawOutline(), outline, RawOutline()});
-}
 
 QVector<int> ElementCounts(const QVector<QPainterPath>& outlines)
 {
@@ -77,104 +31,74 @@ class GlyphDataTest : public QObject
     Q_OBJECT
 
 private slots:
-    void outlines_data();
-    void outlines();
-    void descents_data();
-    void descents();
-    void files_data();
-    void files();
+    void malformedOutlinesAreEmptyAndTold_data() { AddRows(Glyphs::OutlineSamples()); }
+    void malformedOutlinesAreEmptyAndTold();
+    void wrongCountsLeaveNoDescents_data() { AddRows(Glyphs::DescentSamples()); }
+    void wrongCountsLeaveNoDescents();
+    void brokenFilesLeaveNothing_data() { AddRows(Glyphs::FileSamples()); }
+    void brokenFilesLeaveNothing();
+    void absentAndOddFilesLeaveNothing_data();
+    void absentAndOddFilesLeaveNothing();
     void soundDataStaysAsItIs();
     void everyReadIsFresh();
+
+private:
+    static void AddRows(const QVector<Glyphs::Sample>& samples)
+    {
+        QTest::addColumn<Glyphs::Sample>("sample");
+        for (const Glyphs::Sample& sample : samples)
+            QTest::newRow(sample.name) << sample;
+    }
 };
 
-void GlyphDataTest::outlines_data()
+void GlyphDataTest::malformedOutlinesAreEmptyAndTold()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QVector<int>>("elements"); // of each outline
-    const auto row = [](const char* name, const QByteArray& bytes, const QVector<int>& elements) {
-        QTest::newRow(name) << bytes << elements;
-    };
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const double infinite = std::numeric_limits<double>::infinity();
-    const QByteArray sound = Between(RawOutline());
-
-    row("sound", sound, {3, 3, 3});
-    row("bytes behind", sound + "more", {3, 3, 3});
-    row("curve", Between(Outline({{0, 1, 2}, {2, 3, 4}, {3, 5, 6}, {3, 7, 8}})), {3, 4, 3});
-    row("winding", Between(Outline({{0, 1, 2}, {1, 3, 4}}, 1, 1)), {3, 2, 3});
-    row("far out", Between(Outline({{0, -1e6, 1e6}, {1, 3, 4}})), {3, 2, 3});
-    row("as many elements as there may be", Between(Polyline(65536)), {3, 65536, 3});
-
-    // Where an outline ends cannot be known: nothing is read.
-    row("nothing", "", {});
-    row("half a count", sound.left(3), {});
-    row("more outlines than bytes", QByteArray("\x7f\xff\xff\xff", 4) + sound.mid(4), {});
-    row("as many outlines as there can be", QByteArray(4, '\xff') + sound.mid(4), {});
-    row("one outline more than there are", QByteArray("\0\0\0\4", 4) + sound.mid(4), {});
-    row("cut in an element", sound.left(100), {});
-    row("cut in the last fill rule", sound.chopped(1), {});
-    row("size below nought", Between(Sized(-1)), {});
-    row("size beyond the bytes", Between(Sized(8)), {});
-    row("size beyond everything", Between(Sized(0x7fffffff)), {});
-
-    // An outline that is wrong in itself is empty and the others keep their places.
-    row("type above all", Between(Outline({{0, 1, 2}, {4, 3, 4}})), {3, 0, 3});
-    row("type below all", Between(Outline({{0, 1, 2}, {-1, 3, 4}})), {3, 0, 3});
-    row("begins with a line", Between(Outline({{1, 1, 2}, {1, 3, 4}})), {3, 0, 3});
-    row("begins with a curve", Between(Outline({{2, 1, 2}, {3, 3, 4}, {3, 5, 6}})), {3, 0, 3});
-    row("curve with one point", Between(Outline({{0, 1, 2}, {2, 3, 4}, {3, 5, 6}})), {3, 0, 3});
-    row("curve with a line inside", Between(Outline({{0, 1, 2}, {2, 3, 4}, {3, 5, 6}, {1, 7, 8}})),
-        {3, 0, 3});
-    row("curve in a curve", Between(Outline({{0, 1, 2}, {2, 3, 4}, {2, 5, 6}, {3, 7, 8}})),
-        {3, 0, 3});
-    row("points without a curve", Between(Outline({{0, 1, 2}, {3, 3, 4}, {3, 5, 6}})), {3, 0, 3});
-    row("starts before itself", Between(Outline({{0, 1, 2}, {1, 3, 4}}, -1)), {3, 0, 3});
-    row("starts behind itself", Between(Outline({{0, 1, 2}, {1, 3, 4}}, 2)), {3, 0, 3});
-    row("fill rule above all", Between(Outline({{0, 1, 2}, {1, 3, 4}}, 0, 2)), {3, 0, 3});
-    row("fill rule below all", Between(Outline({{0, 1, 2}, {1, 3, 4}}, 0, -1)), {3, 0, 3});
-    row("not a number", Between(Outline({{0, 1, 2}, {1, nan, 4}})), {3, 0, 3});
-    row("infinite", Between(Outline({{0, 1, 2}, {1, 3, -infinite}})), {3, 0, 3});
-    row("too far out", Between(Outline({{0, 1000001, 2}, {1, 3, 4}})), {3, 0, 3});
-    row("too many elements", Between(Polyline(65537)), {3, 0, 3});
-}
-
-void GlyphDataTest::outlines()
-{
-    QFETCH(QByteArray, bytes);
+    QFETCH(Glyphs::Sample, sample);
     RectangleText text = RectangleText::TwoPages();
-    WriteGlyphData(text.File("paths"), bytes);
+    WriteFile(text.File("paths"), Glyphs::File(sample.bytes));
     const Messages messages;
-    QTEST(ElementCounts(text.node->GetPainterPaths()), "elements");
+    QCOMPARE(ElementCounts(text.node->GetPainterPaths()), sample.read);
     QCOMPARE(text.node->GetDescentData(), (QVector<int>{4, 5, 3}));
     QCOMPARE(messages.Taken(), QStringList());
+
+    const DataFile look = AnimText::LookIntoPathFile(text.File("paths"));
+    QCOMPARE(look.entries, sample.read.size());
+    const bool oneIsBad = !sample.read.isEmpty() && !sample.fault.isEmpty();
+    QCOMPARE(look.badOutlines.size(), oneIsBad ? 1 : 0);
+    QCOMPARE(oneIsBad ? look.badOutlines[0].fault : look.fault, sample.fault);
+    for (int i = 0; i < look.entries; ++i) {
+        const bool isBad = oneIsBad && i == look.badOutlines[0].index;
+        QCOMPARE(isBad, oneIsBad && i == 1);
+        QCOMPARE(look.isEmpty[i], !isBad && sample.read[i] < 2);
+    }
 }
 
-void GlyphDataTest::descents_data()
+void GlyphDataTest::wrongCountsLeaveNoDescents()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QVector<int>>("descents");
-    const QByteArray sound = Serialised(QVector<int>{4, -5});
-    QTest::newRow("sound") << sound << QVector<int>{4, -5};
-    QTest::newRow("bytes behind") << sound + "more" << QVector<int>{4, -5};
-    QTest::newRow("nothing") << QByteArray() << QVector<int>();
-    QTest::newRow("half a count") << sound.left(2) << QVector<int>();
-    QTest::newRow("cut") << sound.chopped(1) << QVector<int>();
-    QTest::newRow("more than there are")
-        << QByteArray("\0\0\0\3", 4) + sound.mid(4) << QVector<int>();
-    QTest::newRow("as many as there can be")
-        << QByteArray(4, '\xff') + sound.mid(4) << QVector<int>();
-}
-
-void GlyphDataTest::descents()
-{
-    QFETCH(QByteArray, bytes);
+    QFETCH(Glyphs::Sample, sample);
     RectangleText text = RectangleText::TwoPages();
-    WriteGlyphData(text.File("descents"), bytes);
-    QTEST(text.node->GetDescentData(), "descents");
+    WriteFile(text.File("descents"), Glyphs::File(sample.bytes));
+    QCOMPARE(text.node->GetDescentData(), sample.read);
     QCOMPARE(text.node->GetPainterPaths().size(), 3);
+    const DataFile look = AnimText::LookIntoDescentFile(text.File("descents"));
+    QCOMPARE(look.fault, sample.fault);
+    QCOMPARE(look.entries, sample.read.size());
 }
 
-void GlyphDataTest::files_data()
+void GlyphDataTest::brokenFilesLeaveNothing()
+{
+    QFETCH(Glyphs::Sample, sample);
+    RectangleText text = RectangleText::TwoPages();
+    WriteFile(text.File("paths"), sample.bytes);
+    WriteFile(text.File("descents"), sample.bytes);
+    text.node->InitPainterPath();
+    QCOMPARE(text.node->GetPainterPaths().size(), 0);
+    QCOMPARE(text.node->GetDescentData().size(), 0);
+    QCOMPARE(AnimText::LookIntoPathFile(text.File("paths")).fault, sample.fault);
+    QCOMPARE(AnimText::LookIntoDescentFile(text.File("descents")).fault, sample.fault);
+}
+
+void GlyphDataTest::absentAndOddFilesLeaveNothing_data()
 {
     QTest::addColumn<QString>("paths"); // how the file is; "" as it should be
     QTest::addColumn<QString>("descents");
@@ -200,9 +124,6 @@ void GlyphDataTest::files_data()
         {"", "pipe", 3, 0, {}},
         {"empty", "", 0, 3, {}},
         {"", "empty", 3, 0, {}},
-        {"null", "null", 0, 0, {}},
-        {"no base64", "no base64", 0, 0, {}},
-        {"lying", "lying", 0, 0, {}},
         {"enormous", "enormous", 0, 0, {}},
     };
     for (const auto& row : rows)
@@ -210,7 +131,7 @@ void GlyphDataTest::files_data()
             << row.paths << row.descents << row.outlineCount << row.descentCount << row.messages;
 }
 
-void GlyphDataTest::files()
+void GlyphDataTest::absentAndOddFilesLeaveNothing()
 {
     QFETCH(QString, paths);
     QFETCH(QString, descents);
@@ -227,18 +148,16 @@ void GlyphDataTest::files()
             mkfifo(QFile::encodeName(path).constData(), 0600);
         if (how == "empty")
             WriteFile(path, "");
-        if (how == "null")
-            WriteFile(path, QByteArray(4, '\xff'));
-        if (how == "no base64")
-            WriteFile(path, Serialised(QByteArray("  !?\n ")));
-        if (how == "lying")
-            WriteFile(path, QByteArray("\x7f\xff\xff\xff"
-                                       "AAAA",
-                                       8));
         if (how == "enormous") {
             QFile file(path);
             QVERIFY(file.resize((256 << 20) + 1));
         }
+        const QHash<QString, QString> faults{
+            {"folder", "it is no regular file"},
+            {"pipe", "it is no regular file"},
+            {"enormous", "it has 268435457 bytes, more than 268435456"}};
+        if (faults.contains(how))
+            QCOMPARE(AnimText::LookIntoPathFile(path).fault, faults.value(how));
     };
     spoil(paths, "PathData", "paths");
     spoil(descents, "DescentVector", "descents");

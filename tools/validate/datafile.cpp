@@ -64,8 +64,8 @@ QString InWords(const GlyphDataFault& fault)
     case GlyphDataFault::FarOut:
         return QStringLiteral("element %1 is at (%2, %3)")
             .arg(fault.element)
-            .arg(fault.x)
-            .arg(fault.y);
+            .arg(fault.x, 0, 'g', 9)
+            .arg(fault.y, 0, 'g', 9);
     case GlyphDataFault::StartOutside:
         return QStringLiteral("its last contour begins at element %1 of %2")
             .arg(fault.number)
