@@ -43,12 +43,15 @@ Scene Clean()
 }
 
 /** Makes changes like "hold=5 TextWidth=10,20". Those of a style are made in the second row. */
-void Change(SceneNode* node, const QString& changes)
+void Change(Scene* scene, const QString& changes)
 {
+    SceneNode* const node = &scene->pages[0].areas[0].nodes[0];
     for (const QString& change : changes.split(' ')) {
         const QString key = change.section('=', 0, 0);
         const QString value = change.section('=', 1);
-        if (key == "type")
+        if (key == "alphaBlend")
+            scene->alphaBlend = value.toInt() == 1;
+        else if (key == "type")
             node->type = value;
         else if (key == "width")
             node->size.setWidth(value.toInt());
@@ -106,6 +109,8 @@ private slots:
         row("width=0", "area-empty! character-wide", ".size");
         row("x=1", "area-outside", ".pos");
         row("EffectType=1 text_width=2000000,2000000", "canvas-large! line-long", ".size");
+        row("EffectType=1 text_width=2000000,2000000 alphaBlend=0", "line-long",
+            ".lists.TextWidth");
         row("hold=-1", "hold-range", ".hold");
         row("Text=", "data-surplus list-surplus text-empty", ".attributes.Text");
         row("EffectType=2", "mode-unknown!", ".attributes.EffectType");
@@ -130,6 +135,7 @@ private slots:
         row("text_height=,20", "row-value!", ".lists.TextHeight[0].text_height");
         row("bold=yes", "row-value!", ".lists.TextAttribute[1].bold");
         row("Color=-1", "colors-ignored", ".lists.TextAttribute[1].Color");
+        row("text_width=10,100 text_height=19,20", "", "");
         row("text_width=10,101", "character-wide", ".lists.TextWidth[1].text_width");
         row("EffectType=1 text_width=10,101", "", "");
         row("text_height=20,21", "text-high", ".lists.TextHeight[1].text_height");
@@ -150,7 +156,7 @@ private slots:
         QFETCH(QString, codes);
         QFETCH(QString, place);
         Scene scene = Clean();
-        Change(&scene.pages[0].areas[0].nodes[0], QTest::currentDataTag());
+        Change(&scene, QTest::currentDataTag());
         QCOMPARE(Codes(SceneToJson(scene)).join(' '), codes);
         for (const Finding& finding : findings)
             QVERIFY(!finding.found.isEmpty() && !finding.expected.isEmpty());

@@ -3,6 +3,7 @@
 #include "rectangletext.h"
 
 #include "support/malformedglyphs.h"
+#include "text/pagedivision.h"
 #include "validate/datafile.h"
 
 #include <sys/stat.h>
@@ -41,6 +42,7 @@ private slots:
     void absentAndOddFilesLeaveNothing();
     void soundDataStaysAsItIs();
     void everyReadIsFresh();
+    void pageStartsAreWhereTheCutsAre();
 
 private:
     static void AddRows(const QVector<Glyphs::Sample>& samples)
@@ -197,6 +199,21 @@ void GlyphDataTest::everyReadIsFresh()
     QCOMPARE(text.node->GetDescentData(), QVector<int>());
     QFile::remove(text.File("paths"));
     QCOMPARE(text.node->GetPainterPaths().size(), 0);
+}
+
+void GlyphDataTest::pageStartsAreWhereTheCutsAre()
+{
+    using namespace Lw::HNodeAnimationText;
+    const struct
+    {
+        QVector<int> widths, forward, backward;
+    } lines[] = {{{}, {0}, {0}},
+                 {{60, 30, 60}, {0, 2, 3}, {0, 1, 3}},
+                 {{101, 10, 101}, {0, 1, 2, 3}, {0, 1, 2, 3}}};
+    for (const auto& line : lines) {
+        QCOMPARE(PageStartsForward(line.widths, 100), line.forward);
+        QCOMPARE(PageStartsBackward(line.widths, 100), line.backward);
+    }
 }
 
 QTEST_MAIN(GlyphDataTest)
