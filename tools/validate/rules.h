@@ -48,8 +48,8 @@ enum class Mistake {
 struct Rule
 {
     Mistake mistake;
-    const char* code;  ///< keeps its meaning from version to version, e.g. "speed-range"
     Severity severity; ///< an error shows nothing or something wrong; a warning may be meant
+    const char* code;  ///< keeps its meaning from version to version, e.g. "speed-range"
     const char* why;   ///< what it does on the sign
 };
 
