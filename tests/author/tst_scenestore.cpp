@@ -203,7 +203,7 @@ private slots:
         };
         row("film.gif", "", 100, "ends in .json");
         row("film.gif", "GIF89a", 100, "ends in .json");
-        row("sign.json", "{", 100, "no valid JSON");
+        row("sign.json", "{", 100, "expected valid JSON");
         row("sign.json", "{\"a\": 1}", 100, "unknown key");
         row("sign.json", "", 16385, "$.display.width: expected");
         row("sign.json", "", 0, "lists.TextWidth: found 3 rows");
