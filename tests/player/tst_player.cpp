@@ -210,13 +210,14 @@ private slots:
             pictures.append(picture);
             return true;
         };
-        QVERIFY(film.Play({0, 3, 4, film.FrameCount() - 1}, take, &error));
-        QCOMPARE(pictures.size(), 4);
+        QCOMPARE(film.FrameCount(), 12); // the end is tick 7; played on, 11 would be as 3 again
+        QVERIFY(film.Play({0, 3, 4, 7, 8, 9, 10, 11}, take, &error));
+        QCOMPARE(pictures.size(), 8);
         QCOMPARE(pictures.at(0).size(), QSize(128, 64));
         QCOMPARE(pictures.at(0).pixel(2 * 40, 2 * 16), qRgb(1, 2, 3));
         QCOMPARE(pictures.at(1).pixel(2 * 40, 2 * 16), qRgb(0xFF, 0xA0, 0x40));
-        QCOMPARE(pictures.at(2), pictures.at(1));
-        QCOMPARE(pictures.at(3), pictures.at(1));
+        for (const QImage& later : pictures.mid(2))
+            QCOMPARE(later, pictures.at(1));
     }
 
     /** Ends are looked for without outlines. */
