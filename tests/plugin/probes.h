@@ -9,6 +9,8 @@
 #include "node/hanimationtextnode.h"
 #include "render/hanimationtextrender.h"
 
+#include <QStringList>
+
 #define PROBE(object, field)                                                                       \
     decltype(auto) field() const                                                                   \
     {                                                                                              \
@@ -81,6 +83,7 @@ public:
     }
 
     EngineProbe Engine() const { return EngineProbe(*render.engine); }
+    animationRealization& EngineItself() const { return *render.engine; }
     PROBE(render, session)
     PROBE(render, drawTimer)
 
@@ -92,5 +95,25 @@ private:
 } // namespace Lw
 
 #undef PROBE
+
+/** For each glyph of a frame, a rectangle, its first corner and the one opposite, "x,y x,y; x,y
+ * x,y". */
+inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
+{
+    const QPainterPath& path = engine.textPath();
+    const int elementsEach = 5; // around and back to the first corner
+    const auto corner = [&path](int element) {
+        const QPointF at = path.elementAt(element);
+        // No negative zero; hundredths, which is finer than a picture shows.
+        const auto number = [](qreal value) {
+            return QString::number(qRound64(value * 100) / 100.0 + 0.0, 'g', 8);
+        };
+        return number(at.x()) + "," + number(at.y());
+    };
+    QStringList glyphs;
+    for (int i = 0; i + elementsEach <= path.elementCount(); i += elementsEach)
+        glyphs.append(corner(i) + " " + corner(i + 2));
+    return glyphs.join("; ");
+}
 
 #endif

@@ -32,6 +32,62 @@ inline void PassTicks(int ticks)
     clock->AdvanceTo(clock->Now() + ticks * tickInterval);
 }
 
+/**
+ * A call of the device in a word: "append(60x41)=1", "get1", "swap1", "blend0=2",
+ * with ! behind it when it came to nothing.
+ */
+inline QString ShortCall(const QString& line)
+{
+    const QJsonObject call = QJsonDocument::fromJson(line.toUtf8()).object();
+    const QString name = call["call"].toString();
+    const auto number = [](const QJsonObject& of, const char* key) {
+        return QString::number(of[QLatin1String(key)].toInt());
+    };
+    const auto size = [&number](const QJsonObject& of) {
+        return number(of, "width") + 'x' + number(of, "height");
+    };
+    // What is as in most sessions is left out: 32 bits, no effect, the picture where its area is.
+    const auto unless = [](const QString& usual, const QString& text) {
+        return text == usual ? QString() : ',' + text;
+    };
+    const auto rows = [&](const QJsonObject& of) {
+        return size(of) +
+               unless(QString::number(4 * of["width"].toInt()), number(of, "bytesPerLine"));
+    };
+    const QString word = unless("0xff010201", call["pixelWord"].toString());
+    const QString failed = call.contains("problem") ? "!" : "";
+    if (name == "CreatePictureSession") {
+        const QJsonObject image = call["image"].toObject(), effect = call["effect"].toObject(),
+                          at = call["placement"].toObject();
+        QStringList effects;
+        for (const char* key :
+             {"effect1", "duration1", "effect2", "duration2", "effect3", "duration3"})
+            effects.append(number(effect, key));
+        const QString place = QString("%1 %2 %3 of %4x%5")
+                                  .arg(number(at, "x"), number(at, "y"), size(at),
+                                       number(at, "imageWidth"), number(at, "imageHeight"));
+        return "create(" + rows(image) + unless("3", number(call, "type")) +
+               unless("16", number(call, "flags")) + unless("0 0 0 0 0 66", effects.join(' ')) +
+               unless("0 0 " + size(image) + " of " + size(image), place) + word + ')' + failed;
+    }
+    if (name == "PicAppendImageLayer")
+        return "append(" + rows(call) + word + ")=" + number(call, "result") + failed;
+    if (name == "GetPicImageLayerPtr")
+        return "get" + number(call, "layer") + (call["mode"].toInt() == 5 ? "" : "?") + failed;
+    if (name == "SwapPicImageLayerPtr")
+        return "swap" + number(call, "layer") + failed;
+    if (name == "SetPicLayerBlend")
+        return "blend" + number(call, "layer") + '=' + number(call, "value") + failed;
+    if (name == "GeteffectDuration")
+        return QString("duration(%1,%2,%3,%4)")
+            .arg(number(call, "length"), number(call, "areaHeight"), number(call, "effectCode"),
+                 number(call, "speedIndex"));
+    return (name == "AddPictureSession"      ? "add"
+            : name == "RemovePictureSession" ? "remove"
+                                             : "free") +
+           failed;
+}
+
 class RenderFixture
 {
 public:
@@ -63,50 +119,12 @@ public:
 
     RenderProbe Probe() const { return RenderProbe(*render); }
 
-    /** The calls of @p name as they were logged. */
-    QList<QJsonObject> Calls(const QString& name) const
-    {
-        QList<QJsonObject> calls;
-        for (const QString& line : log) {
-            const QJsonObject call = QJsonDocument::fromJson(line.toUtf8()).object();
-            if (call["call"] == name)
-                calls.append(call);
-        }
-        return calls;
-    }
-
-    /** All calls: "create(60x41) add append(60x41)=1 get1 swap1 blend0=0 remove free duration". */
+    /** All calls in short words. */
     QString ShortCalls() const
     {
         QStringList words;
-        for (const QString& line : log) {
-            const QJsonObject call = QJsonDocument::fromJson(line.toUtf8()).object();
-            const QString name = call["call"].toString();
-            const auto number = [&call](const char* key) {
-                return QString::number(call[QLatin1String(key)].toInt());
-            };
-            const auto size = [](const QJsonObject& of) {
-                return QString("(%1x%2)").arg(of["width"].toInt()).arg(of["height"].toInt());
-            };
-            if (name == "CreatePictureSession")
-                words.append("create" + size(call["image"].toObject()));
-            else if (name == "AddPictureSession")
-                words.append("add");
-            else if (name == "PicAppendImageLayer")
-                words.append("append" + size(call) + "=" + number("result"));
-            else if (name == "GetPicImageLayerPtr")
-                words.append("get" + number("layer"));
-            else if (name == "SwapPicImageLayerPtr")
-                words.append("swap" + number("layer"));
-            else if (name == "SetPicLayerBlend")
-                words.append("blend" + number("layer") + "=" + number("value"));
-            else if (name == "RemovePictureSession")
-                words.append("remove");
-            else if (name == "FreePictureSession")
-                words.append("free");
-            else
-                words.append("duration");
-        }
+        for (const QString& line : log)
+            words.append(ShortCall(line));
         return words.join(' ');
     }
 
