@@ -43,6 +43,7 @@ public:
     PROBE(engine, pageOffsets)
     PROBE(engine, charPositions)
     PROBE(engine, textPath)
+    PROBE(engine, auxPath)
     PROBE(engine, drawImage)
     PROBE(engine, frameCount)
     PROBE(engine, stayPageIndex)
@@ -96,24 +97,29 @@ private:
 
 #undef PROBE
 
-/** For each glyph of a frame, a rectangle, its first corner and the one opposite, "x,y x,y; x,y
- * x,y". */
-inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
+/** For each rectangle in @p path its first corner and the one opposite, "x,y x,y; x,y x,y". */
+template <typename Path>
+QString CornersOf(const Path& path)
 {
-    const QPainterPath& path = engine.textPath();
     const int elementsEach = 5; // around and back to the first corner
     const auto corner = [&path](int element) {
-        const QPointF at = path.elementAt(element);
         // No negative zero; hundredths, which is finer than a picture shows.
-        const auto number = [](qreal value) {
+        const auto number = [](double value) {
             return QString::number(qRound64(value * 100) / 100.0 + 0.0, 'g', 8);
         };
-        return number(at.x()) + "," + number(at.y());
+        const auto at = path.elementAt(element);
+        return number(double(at.x)) + "," + number(double(at.y));
     };
-    QStringList glyphs;
+    QStringList rectangles;
     for (int i = 0; i + elementsEach <= path.elementCount(); i += elementsEach)
-        glyphs.append(corner(i) + " " + corner(i + 2));
-    return glyphs.join("; ");
+        rectangles.append(corner(i) + " " + corner(i + 2));
+    return rectangles.join("; ");
+}
+
+/** Of the glyphs that a frame collects: the one place that knows what they are kept in. */
+inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
+{
+    return CornersOf(engine.textPath());
 }
 
 #endif

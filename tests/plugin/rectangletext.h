@@ -115,11 +115,14 @@ public:
 /** The pixels that are neither transparent nor black; null when there are none. */
 inline QRect PaintedBox(const QImage& image)
 {
+    const QImage pixels = image.convertToFormat(QImage::Format_ARGB32);
     QRect box;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != 0 && image.pixel(x, y) != qRgb(0, 0, 0))
+    for (int y = 0; y < pixels.height(); ++y) {
+        const QRgb* const row = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
+        for (int x = 0; x < pixels.width(); ++x)
+            if (row[x] != 0 && row[x] != qRgb(0, 0, 0))
                 box |= QRect(x, y, 1, 1);
+    }
     return box;
 }
 

@@ -84,6 +84,17 @@ private slots:
         }
     }
 
+    void shadowsLieAsFarAsTheyAreTold()
+    {
+        EngineFixture play;
+        for (int on : {0, 2, 1}) {
+            play.Start({{"CheckShadowEffect", on}, {"TextShadowBox", 3}});
+            for (int character : {-1, 1, 3})
+                play.engine.DrawShadow(character);
+            QCOMPARE(CornersOf(play.auxPath()), QString(on == 1 ? "5,-18 20,1" : ""));
+        }
+    }
+
     void picturesAreLookedAtBeforeTheyAreDecoded_data()
     {
         QTest::addColumn<QByteArray>("content");

@@ -66,17 +66,6 @@ void AddTexts()
         [](HostileScene* scene) { scene->node.attributes.remove(QStringLiteral("Text")); });
 }
 
-/** Puts @p values, over and over, into a field of all rows. */
-void AddField(const QString& list, const QString& field, const char* name,
-              const QStringList& values)
-{
-    Add(field.toLatin1() + ' ' + name, [=](HostileScene* scene) {
-        QList<Row>& rows = scene->node.lists[list];
-        for (int i = 0; i < rows.size(); ++i)
-            rows[i][field] = values.at(i % values.size());
-    });
-}
-
 void AddLists()
 {
     for (const QString& list : AnimText::ListKeys()) {
@@ -97,17 +86,12 @@ void AddLists()
             for (Row& row : scene->node.lists[list])
                 row.clear();
         });
-        for (const QString& field : AnimText::RowFields(list)) {
-            AddField(list, field, "no number", {QStringLiteral("wide"), QString()});
-            AddField(list, field, "0", {QStringLiteral("0")});
-            AddField(list, field, "negative", {QStringLiteral("-7")});
-            AddField(list, field, "least", {QString::number(least)});
-            AddField(list, field, "most", {QString::number(most)});
-            AddField(list, field, "of all kinds",
-                     {QString::number(most), QString::number(least), QStringLiteral("1"),
-                      QStringLiteral("99999999999"), QStringLiteral("-1"),
-                      QStringLiteral("40000")});
-        }
+        // Absurd numbers meet every motion in tests/golden.
+        for (const QString& field : AnimText::RowFields(list))
+            Add(field.toLatin1() + " no number", [=](HostileScene* scene) {
+                for (Row& row : scene->node.lists[list])
+                    row[field] = QStringLiteral("wide");
+            });
     }
 }
 
@@ -140,8 +124,7 @@ void AddColumns()
 
 void AddPlaces()
 {
-    const QSize sizes[] = {{0, 0},     {0, 20},    {64, 0},          {1, 1},
-                           {-1, -1},   {-64, 20},  {least, least},   {most, most},
+    const QSize sizes[] = {{0, 0},     {1, 1},     {least, least},   {most, most},
                            {most, 1},  {1, most},  {100000, 100000}, {32768, 3},
                            {2, 33000}, {70000, 2}, {20000, 13000}};
     for (const QSize& size : sizes)
