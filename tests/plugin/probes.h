@@ -98,8 +98,7 @@ private:
 #undef PROBE
 
 /** For each rectangle in @p path its first corner and the one opposite, "x,y x,y; x,y x,y". */
-template <typename Path>
-QString CornersOf(const Path& path)
+inline QString CornersOf(const Lw::HNodeAnimationText::Outline& path)
 {
     const int elementsEach = 5; // around and back to the first corner
     const auto corner = [&path](int element) {
@@ -107,16 +106,16 @@ QString CornersOf(const Path& path)
         const auto number = [](double value) {
             return QString::number(qRound64(value * 100) / 100.0 + 0.0, 'g', 8);
         };
-        const auto at = path.elementAt(element);
+        const auto at = path.At(size_t(element));
         return number(double(at.x)) + "," + number(double(at.y));
     };
     QStringList rectangles;
-    for (int i = 0; i + elementsEach <= path.elementCount(); i += elementsEach)
+    for (int i = 0; i + elementsEach <= int(path.Size()); i += elementsEach)
         rectangles.append(corner(i) + " " + corner(i + 2));
     return rectangles.join("; ");
 }
 
-/** Of the glyphs that a frame collects: the one place that knows what they are kept in. */
+/** Of the glyphs that a frame collects. */
 inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
 {
     return CornersOf(engine.textPath());

@@ -42,18 +42,15 @@ Scene OpenScene(const CommandLine& line, const QString& path)
 Scene OpenPlayableScene(const CommandLine& line, const QString& path)
 {
     // With these the display stays dark, or what it shows is not the scene.
-    static const QSet<QByteArray> nothingToShow{
-        "node-type",      "area-empty",        "canvas-large", "mode-unknown",
-        "effect-unknown", "direction-unknown", "file-missing", "data-malformed"};
+    static const QList<Mistake> nothingToShow{Mistake::NodeType,      Mistake::AreaEmpty,
+                                              Mistake::CanvasLarge,   Mistake::ModeUnknown,
+                                              Mistake::EffectUnknown, Mistake::DirectionUnknown,
+                                              Mistake::FileMissing,   Mistake::DataMalformed};
     const Scene scene = OpenScene(line, path);
     bool isPlayed = true;
-    for (const Finding& finding : ValidateScene(scene)) {
-        if (finding.rule->severity != Severity::Error)
-            continue;
-        Warn(QStringLiteral("%1: %2: found %3, expected %4. %5")
-                 .arg(path, finding.place, finding.found, finding.expected,
-                      QLatin1String(finding.rule->why)));
-        isPlayed = isPlayed && !nothingToShow.contains(finding.rule->code);
+    for (const Finding& finding : ErrorsOf(scene)) {
+        Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
+        isPlayed = isPlayed && !nothingToShow.contains(finding.mistake);
     }
     if (!isPlayed && !line.IsSet("force") && !line.IsSet("allow-missing-files"))
         throw Failure{BadInput,
