@@ -64,16 +64,16 @@ const char* const trailing[] = {"......oooo",                //
 
 struct Pose
 {
-    int top; // of the body
     Drawing legs;
+    int top;      // of the body
     int legsLeft; // from the body's left edge
     int legsTop;  // from its top
     bool blinks;
 };
 
 const Pose poses[] = {
-    {11, folded, 0, 7, false},  {7, pushing, -3, 8, false}, {3, trailing, -6, 7, false},
-    {7, pushing, -3, 8, false}, {11, folded, 0, 7, true},
+    {folded, 11, 0, 7, false},  {pushing, 7, -3, 8, false}, {trailing, 3, -6, 7, false},
+    {pushing, 7, -3, 8, false}, {folded, 11, 0, 7, true},
 };
 
 void Draw(QImage& image, int left, int top, Drawing rows)
