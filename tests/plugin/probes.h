@@ -100,22 +100,21 @@ private:
 /** For each rectangle in @p path its first corner and the one opposite, "x,y x,y; x,y x,y". */
 inline QString CornersOf(const Lw::HNodeAnimationText::Outline& path)
 {
-    const int elementsEach = 5; // around and back to the first corner
-    const auto corner = [&path](int element) {
+    const std::size_t elementsEach = 5; // around and back to the first corner
+    const auto corner = [&path](std::size_t element) {
         // No negative zero; hundredths, which is finer than a picture shows.
-        const auto number = [](double value) {
-            return QString::number(qRound64(value * 100) / 100.0 + 0.0, 'g', 8);
+        const auto number = [](float value) {
+            return QString::number(qRound64(double(value) * 100) / 100.0 + 0.0, 'g', 8);
         };
-        const auto at = path.At(size_t(element));
-        return number(double(at.x)) + "," + number(double(at.y));
+        return number(path.At(element).x) + "," + number(path.At(element).y);
     };
     QStringList rectangles;
-    for (int i = 0; i + elementsEach <= int(path.Size()); i += elementsEach)
+    for (std::size_t i = 0; i + elementsEach <= path.Size(); i += elementsEach)
         rectangles.append(corner(i) + " " + corner(i + 2));
     return rectangles.join("; ");
 }
 
-/** Of the glyphs that a frame collects. */
+/** Of the glyphs that a frame collects: the one place that knows what they are kept in. */
 inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
 {
     return CornersOf(engine.textPath());
