@@ -3,6 +3,9 @@
 #include "samples.h"
 #include "scene/schema.h"
 
+#include <QDebug>
+#include <QVariant>
+
 #include <functional>
 #include <limits>
 #include <random>
@@ -31,67 +34,59 @@ void Add(const QByteArray& name, const std::function<void(HostileScene*)>& apply
     bends.append({name, apply, weight});
 }
 
-void AddAttributes()
+/** A bend for each of @p values, under what it is told as. */
+template <typename Value, typename Apply>
+void AddEach(const QByteArray& name, const QVector<Value>& values, const Apply& apply)
 {
-    const QVector<int> numbers{least, -2147483640, -1, 2, 10, 65536, 2000000000, most};
-    for (const QString& key : AnimText::NumberAttributeKeys()) {
-        const QByteArray name = key.toLatin1();
-        for (int number : numbers)
-            Add(name + ' ' + QByteArray::number(number),
-                [=](HostileScene* scene) { scene->node.attributes[key] = number; });
-        Add(name + " missing", [=](HostileScene* scene) { scene->node.attributes.remove(key); });
-        Add(name + " no number",
-            [=](HostileScene* scene) { scene->node.attributes[key] = QStringLiteral("five"); });
-        Add(name + " beyond the integers", [=](HostileScene* scene) {
-            scene->node.attributes[key] = QStringLiteral("99999999999999");
-        });
+    for (const Value& value : values) {
+        QString told;
+        QDebug(&told).nospace() << value;
+        Add(name + ' ' + told.left(40).toLatin1(),
+            [=](HostileScene* scene) { apply(&scene->node, value); });
     }
 }
 
-void AddTexts()
+void AddAttributes()
 {
-    const QPair<QByteArray, QString> texts[] = {
-        {"empty", QString()},
-        {"blanks", QStringLiteral("   \t ")},
-        {"one character", QStringLiteral("x")},
-        {"half a character", QString(QChar(0xD83D))},
-        {"with nulls", QString(8, QChar(0))},
-        {"line breaks", QStringLiteral("a\n\r\nb")},
-        {"20,000 characters", QString(20000, QLatin1Char('m'))}};
-    for (const auto& text : texts)
-        Add("text " + text.first, [=](HostileScene* scene) {
-            scene->node.attributes[QStringLiteral("Text")] = text.second;
-        });
-    Add("text missing",
-        [](HostileScene* scene) { scene->node.attributes.remove(QStringLiteral("Text")); });
+    for (const QString& key : AnimText::NumberAttributeKeys())
+        AddEach(key.toLatin1(),
+                QVector<QVariant>{least, -2147483640, -1, 2, 10, 65536, 2000000000, most,
+                                  QVariant(), "five", "99999999999999"},
+                [=](SceneNode* node, const QVariant& value) { node->attributes[key] = value; });
+    AddEach("text",
+            QVector<QString>{QString(), "   \t ", "x", QString(QChar(0xD83D)), QString(8, QChar(0)),
+                             "a\n\r\nb", QString(20000, 'm')},
+            [](SceneNode* node, const QString& text) { node->attributes["Text"] = text; });
+    for (const QString& key : AnimText::NumberAttributeKeys() + QStringList{"Text"})
+        Add(key.toLatin1() + " missing",
+            [=](HostileScene* scene) { scene->node.attributes.remove(key); });
 }
 
 void AddLists()
 {
     for (const QString& list : AnimText::ListKeys()) {
-        const QByteArray name = list.toLatin1();
-        Add(name + " missing", [=](HostileScene* scene) { scene->node.lists.remove(list); });
-        Add(name + " empty", [=](HostileScene* scene) { scene->node.lists[list].clear(); });
-        Add(name + " of one row", [=](HostileScene* scene) {
-            scene->node.lists[list] = scene->node.lists[list].mid(0, 1);
-        });
-        Add(name + " one row short",
-            [=](HostileScene* scene) { scene->node.lists[list].removeLast(); });
-        Add(name + " of 10,000 rows", [=](HostileScene* scene) {
-            const Row row = scene->node.lists[list].value(0);
-            while (scene->node.lists[list].size() < 10000)
-                scene->node.lists[list].append(row);
-        });
-        Add(name + " of empty rows", [=](HostileScene* scene) {
-            for (Row& row : scene->node.lists[list])
-                row.clear();
-        });
+        Add(list.toLatin1() + " missing",
+            [=](HostileScene* scene) { scene->node.lists.remove(list); });
+        // -1: one row less than there are
+        AddEach(list.toLatin1() + " of rows:", QVector<int>{0, 1, -1, 10000},
+                [=](SceneNode* node, int count) {
+                    QList<Row>& rows = node->lists[list];
+                    count = count < 0 ? rows.size() - 1 : count;
+                    while (rows.size() > count)
+                        rows.removeLast();
+                    while (rows.size() < count)
+                        rows.append(rows.at(0));
+                });
         // Absurd numbers meet every motion in tests/golden.
-        for (const QString& field : AnimText::RowFields(list))
-            Add(field.toLatin1() + " no number", [=](HostileScene* scene) {
-                for (Row& row : scene->node.lists[list])
-                    row[field] = QStringLiteral("wide");
-            });
+        AddEach(list.toLatin1() + " with", QVector<QString>{QString(), "wide"},
+                [=](SceneNode* node, const QString& value) {
+                    for (Row& row : node->lists[list]) {
+                        row.clear();
+                        for (const QString& field : AnimText::RowFields(list))
+                            if (!value.isNull())
+                                row[field] = value;
+                    }
+                });
     }
 }
 
@@ -103,83 +98,80 @@ void AddColumns()
 {
     static const Sample endless(QString(2500, QLatin1Char('|')), QSize(64, 20));
     static const Sample lengthy(QString(360, QLatin1Char('|')), QSize(64, 20));
-    static const Sample usual(QStringLiteral("Hostile column"), QSize(64, 30));
     const auto add = [](const char* name, const Sample& sample, int first, int others) {
         for (int motion : {firstScroll + 2, firstScroll + 3})
             Add(
                 name,
                 [=, &sample](HostileScene* scene) {
                     scene->node = sample.Node(motion, NoBackground, 9);
-                    QList<Row>& rows = scene->node.lists[QStringLiteral("TextHeight")];
+                    QList<Row>& rows = scene->node.lists["TextHeight"];
                     for (int i = 0; i < rows.size(); ++i)
-                        rows[i][QStringLiteral("text_height")] =
-                            QString::number(i ? others : first);
+                        rows[i]["text_height"] = QString::number(i ? others : first);
                 },
                 Weight::Slow);
     };
-    add("a column that grows by a pixel", usual, 1, 0);
     add("a long column that grows by a pixel", lengthy, 1, 0);
     add("a long column that leads away", endless, least, least);
 }
 
 void AddPlaces()
 {
-    const QSize sizes[] = {{0, 0},     {1, 1},     {least, least},   {most, most},
-                           {most, 1},  {1, most},  {100000, 100000}, {32768, 3},
-                           {2, 33000}, {70000, 2}, {20000, 13000}};
-    for (const QSize& size : sizes)
-        Add("area " + QByteArray::number(size.width()) + " x " + QByteArray::number(size.height()),
-            [=](HostileScene* scene) {
-                scene->node.size = size;
+    AddEach("area",
+            QVector<QSize>{{0, 0},
+                           {1, 1},
+                           {least, least},
+                           {most, most},
+                           {most, 1},
+                           {1, most},
+                           {100000, 100000},
+                           {32768, 3},
+                           {2, 33000},
+                           {70000, 2},
+                           {20000, 13000}},
+            [](SceneNode* node, const QSize& size) {
+                node->size = size;
                 // A border of light all along such an area is the host's to paint, and slow.
-                scene->node.attributes[QStringLiteral("CheckNeonBg")] = 0;
+                node->attributes["CheckNeonBg"] = 0;
             });
-    for (int far : {least, -40000, 40000, most})
-        Add("place " + QByteArray::number(far),
-            [=](HostileScene* scene) { scene->node.pos = QPoint(far, far); });
-    for (int hold : {least, -1, 0, 1, 1000000, most})
-        Add("hold " + QByteArray::number(hold),
-            [=](HostileScene* scene) { scene->node.hold = hold; });
-    for (int style : {least, -1, 0, 28, most})
-        Add("neon style " + QByteArray::number(style), [=](HostileScene* scene) {
-            scene->node.attributes[QStringLiteral("CheckNeonBg")] = 1;
-            scene->node.neonEffect = style;
-        });
+    AddEach("place", QVector<int>{least, -40000, 40000, most},
+            [](SceneNode* node, int far) { node->pos = QPoint(far, far); });
+    AddEach("hold", QVector<int>{least, -1, 0, 1, 1000000, most},
+            [](SceneNode* node, int hold) { node->hold = hold; });
+    AddEach("neon style", QVector<int>{least, -1, 0, 28, most}, [](SceneNode* node, int style) {
+        node->attributes["CheckNeonBg"] = 1;
+        node->neonEffect = style;
+    });
 }
 
 void AddFiles(const QDir& folder)
 {
-    const auto add = [](const QString& key, const QList<HostileFile>& files) {
+    // Each kind of file with what looks at it.
+    const auto add = [](const QString& key, const QList<HostileFile>& files,
+                        const QStringList& flags = {}) {
         for (const HostileFile& file : files)
             Add(
                 key.toLatin1() + ' ' + file.name,
-                [=](HostileScene* scene) { scene->node.files[key] = file.path; }, file.weight);
+                [=](HostileScene* scene) {
+                    scene->node.files[key] = file.path;
+                    for (const QString& flag : flags)
+                        scene->node.attributes[flag] = 1;
+                    if (key == "NeonGifPath")
+                        scene->node.neonEffect = 29;
+                },
+                file.weight);
         Add(key.toLatin1() + " not named",
             [=](HostileScene* scene) { scene->node.files.remove(key); });
     };
-    add(QStringLiteral("PathData"), HostilePathFiles(folder));
-    add(QStringLiteral("DescentVector"), HostileDescentFiles(folder));
-    for (const HostileFile& picture : HostilePictures(folder)) {
-        Add(
-            "FillImage " + picture.name,
-            [=](HostileScene* scene) {
-                scene->node.files[QStringLiteral("FillImage")] = picture.path;
-                scene->node.attributes[QStringLiteral("CheckPictureFills")] = 1;
-                scene->node.attributes[QStringLiteral("CheckDazzle")] = 1;
-            },
-            picture.weight);
-        Add(
-            "NeonGifPath " + picture.name,
-            [=](HostileScene* scene) {
-                scene->node.files[QStringLiteral("NeonGifPath")] = picture.path;
-                scene->node.attributes[QStringLiteral("CheckNeonBg")] = 1;
-                scene->node.neonEffect = 29;
-            },
-            picture.weight);
-        const QString frogs = picture.path + QStringLiteral("-frogs");
+    add("PathData", HostilePathFiles(folder));
+    add("DescentVector", HostileDescentFiles(folder));
+    const QList<HostileFile> pictures = HostilePictures(folder);
+    add("FillImage", pictures, {"CheckPictureFills", "CheckDazzle"});
+    add("NeonGifPath", pictures, {"CheckNeonBg"});
+    for (const HostileFile& picture : pictures) {
+        const QString frogs = picture.path + "-frogs";
         folder.mkpath(frogs);
         for (int number = 1; number <= 5 && !picture.path.isEmpty(); ++number)
-            QFile::link(picture.path, QStringLiteral("%1/Frog%2.png").arg(frogs).arg(number));
+            QFile::link(picture.path, QString("%1/Frog%2.png").arg(frogs).arg(number));
         Add(
             "frogs " + picture.name,
             [=](HostileScene* scene) {
@@ -197,7 +189,6 @@ QVector<HostileScene> HostileScenes(const QDir& folder)
     static const Sample usual(QStringLiteral("Hostile signs"), QSize(64, 20));
     static const Sample large(QStringLiteral("Ab"), QSize(90, 36));
     AddAttributes();
-    AddTexts();
     AddLists();
     AddColumns();
     AddPlaces();

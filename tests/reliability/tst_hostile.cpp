@@ -13,7 +13,7 @@ Q_DECLARE_METATYPE(HostileScene)
 
 namespace {
 
-constexpr double mostSeconds = 2;
+constexpr double mostSeconds = 4;       // for 300 ticks, a fifth of the time that they last
 constexpr double mostHeavySeconds = 60; // for outlines made heavy on purpose
 constexpr qint64 mostMemory = 256;      // MiB
 

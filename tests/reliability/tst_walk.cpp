@@ -23,14 +23,14 @@ struct Place
     unsigned int handle = 0; // of the last start
 };
 
-struct Change
+struct Attribute
 {
     const char* key;
     QVector<int> values;
 };
 
 // Flags are 0 or 1 here: with others the device is told to stack layers that were never made.
-const Change changes[] = {
+const Attribute attributes[] = {
     {"EffectType", {0, 0, 0, 1, 1, 2, -1}},
     {"AnimationEffect", {0, 1, 2, 4, 8, 9, 12, 14, 17, 18, 19, 20, 24, 25, 28, 29, 30, -7}},
     {"ContinueStyle", {0, 1, 2, 3, 4, -1}},
@@ -68,8 +68,7 @@ private:
 
     void Step();
     void StartOn(Place& place, unsigned int handle);
-    void ChangeAttribute(Lw::HNeonNodeBase* node);
-    void ChangeFile(Lw::HNeonNodeBase* node);
+    void Change(Lw::HNeonNodeBase& node);
 
     Sample sample{QStringLiteral("Up we go"), QSize(64, 20)};
     Torv::Display first{QSize(64, 20)};
@@ -106,35 +105,28 @@ void TestWalk::StartOn(Place& place, unsigned int handle)
         place.handle = handle;
 }
 
-void TestWalk::ChangeAttribute(Lw::HNeonNodeBase* node)
+void TestWalk::Change(Lw::HNeonNodeBase& node)
 {
-    switch (Below(6)) {
-    case 0: node->SetSize(OneOf(areas)); return;
-    case 1: node->SetHoldTime(OneOf(QVector<int>{0, 2, 5, -1})); return;
-    case 2: node->SetNeonEffect(OneOf(QVector<int>{0, 1, 14, 28, 29, 30, -1})); return;
+    switch (Below(9)) {
+    case 0: node.SetSize(OneOf(areas)); return;
+    case 1: node.SetHoldTime(OneOf(QVector<int>{0, 2, 5, -1})); return;
+    case 2: node.SetNeonEffect(OneOf(QVector<int>{0, 1, 14, 28, 29, 30, -1})); return;
     case 3:
-        if (Below(4) == 0) {
-            node->SetAttribute("Text", OneOf(QStringList{"", "  ", "x", "Longer than before"}));
-            return;
-        }
-        node->SetAttribute("Text", "Up we go");
+        node.SetAttribute("Text", OneOf(QStringList{"", "  ", "x", "Longer than before"}));
+        return;
+    case 4: node.SetAttribute("Text", "Up we go"); return;
+    case 5:
+        node.SetFiles("PathData", {files.at(0)});
+        node.SetFiles("DescentVector", {files.at(1)});
+        return;
+    case 6:
+        node.SetFiles(OneOf(QStringList{"PathData", "DescentVector", "FillImage", "NeonGifPath"}),
+                      {OneOf(files)});
         return;
     default: break;
     }
-    const Change& change = changes[Below(int(std::size(changes)))];
-    node->SetAttribute(change.key, OneOf(change.values));
-}
-
-void TestWalk::ChangeFile(Lw::HNeonNodeBase* node)
-{
-    const QString key = OneOf(QStringList{"PathData", "DescentVector", "FillImage", "NeonGifPath"});
-    const bool whole = Below(2) == 0;
-    if (whole && key == "PathData")
-        node->SetFiles(key, {files.at(0)});
-    else if (whole && key == "DescentVector")
-        node->SetFiles(key, {files.at(1)});
-    else
-        node->SetFiles(key, {OneOf(files)});
+    const Attribute& attribute = attributes[Below(int(std::size(attributes)))];
+    node.SetAttribute(attribute.key, OneOf(attribute.values));
 }
 
 void TestWalk::Step()
@@ -151,42 +143,37 @@ void TestWalk::Step()
         place.handle = 0;
         return;
     }
-    if (what < 22) {
+    // Of a hundred steps so many are each of these.
+    if (what < 22)
         StartOn(place, first.Handle());
-    } else if (what < 28) {
+    else if (what < 28)
         StartOn(place, second.Handle());
-    } else if (what < 30) {
+    else if (what < 30)
         StartOn(place, 0);
-    } else if (what < 38) {
+    else if (what < 38)
         place.render->Pause();
-    } else if (what < 44) {
+    else if (what < 44)
         place.render->Stop();
-    } else if (what < 47) {
+    else if (what < 47)
         place.render->Remove();
-    } else if (what < 50) {
+    else if (what < 50)
         place.render->PlayNext();
-    } else if (what < 75) {
+    else if (what < 75)
         TestSign::Tick(1 + Below(4));
-    } else if (what < 85) {
-        if (place.node)
-            ChangeAttribute(place.node);
-    } else if (what < 90) {
-        if (place.node)
-            ChangeFile(place.node);
-    } else if (what < 92) {
-        if (place.node)
-            place.node->Duration();
-    } else if (what < 94) {
-        delete place.node.data();
-    } else if (what < 95) {
-        if (place.node)
-            place.node->Delete(); // with the next tick
-    } else if (what < 98) {
+    else if (what < 78)
         place.render.reset();
-    } else {
-        Shown(first);
-        Shown(second);
-    }
+    else if (what < 80)
+        Shown(what < 79 ? first : second);
+    else if (!place.node)
+        return;
+    else if (what < 95)
+        Change(*place.node);
+    else if (what < 97)
+        place.node->Duration();
+    else if (what < 99)
+        delete place.node.data();
+    else
+        place.node->Delete(); // with the next tick
 }
 
 void TestWalk::AnyOrderOfCalls_data()
