@@ -3,8 +3,6 @@
 #include "player/plugin.h"
 #include "validate/validate.h"
 
-#include <QSet>
-
 #include <limits>
 
 namespace AnimText {
