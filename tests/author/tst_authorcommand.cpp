@@ -27,7 +27,7 @@ private slots:
         row("author -o s.json --text a --pos -600,0", "on a display");
         row("author -o s.json --text a --pos 20000,0", "$.display.width: expected");
         row("author -o s.json --text a --page 3", "there is no page 3; expected 1 to 1");
-        row("author -o s.json --text a --in-area 1", "there is no such file");
+        row("author -o s.json --text a --in-area 1", "found no such file");
         row("author -o s.json --text a --area 9x9 --in-area 1", "there is no area 1 on page 1");
         row("author -o s.json --text a --replace 1", "there is no text 1");
         row("author -o s.json --text a --replace 1 --page 1", "--replace excludes");
@@ -52,7 +52,7 @@ private slots:
         row("set s.json 1 hold=1", "there is no such file");
         row("set s.json 1 hold", "KEY=VALUE");
         row("remove s.json 1", "there is no such file");
-        row("list s.json", "there is no such file");
+        row("list s.json", "found no such file");
     }
 
     // One line that says what is wrong, and nothing left behind.
@@ -78,7 +78,8 @@ private slots:
         row("--text xg --size 60 --area 300x40", ": 0 pixels above the area and");
         row("--text o --size 50 --area 300x40", ""); // its line is too high, its ink is not
         row("--text Gx --underline --area 300x40", "");
-        row("--markup --text '<font color=\"red\">a</font>b'", "colors-ignored: found");
+        row("--markup --text '<font color=\"red\">a</font>b'",
+            "colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[1].Color: found");
         row("--text $'a\\nb\\ue123'", "a line break became a space\nanimtext: character 4, ");
         row("--markup --text '<html>a<s>b</s><sup>c</sup><img src=\"x\"></html>'",
             "left out, for no sign shows it: bars through or above letters, raised or lowered "
