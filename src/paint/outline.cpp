@@ -1,5 +1,6 @@
 #include "paint/outline.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -85,11 +86,28 @@ void Outline::Clear()
     fillRule = OddEven;
 }
 
-bool Outline::StartsWith(const Outline& other) const
+size_t Outline::CommonSubpaths(const Outline& other) const
 {
-    return other.elements.size() <= elements.size() &&
-           (other.elements.empty() || std::memcmp(&elements[0], &other.elements[0],
-                                                  other.elements.size() * sizeof(Element)) == 0);
+    const size_t size = std::min(elements.size(), other.elements.size());
+    size_t common = 0;
+    if (size > 0 && std::memcmp(&elements[0], &other.elements[0], size * sizeof(Element)) == 0)
+        common = size;
+    else
+        while (common < size &&
+               std::memcmp(&elements[common], &other.elements[common], sizeof(Element)) == 0)
+            ++common;
+    while (common > 0 && common < elements.size() && elements[common].type != Move)
+        --common;
+    return common;
+}
+
+Outline Outline::Part(size_t begin, size_t end) const
+{
+    Outline part;
+    part.fillRule = fillRule;
+    part.elements.assign(elements.begin() + std::ptrdiff_t(begin),
+                         elements.begin() + std::ptrdiff_t(end));
+    return part;
 }
 
 bool NearlyEqual(const Outline::Element& a, const Outline::Element& b)

@@ -66,12 +66,8 @@ void TextCanvas::DrawPath(const Outline& path)
 {
     if (picture.IsEmpty() || !IsPaintable(path))
         return;
-    if (isFirst && GoOnFromKept(path)) {
-        ink.Unite(kept.fill);
-        ink.Unite(kept.outline);
-    } else {
+    if (!isFirst || !DrawFirst(path))
         DrawPlain(path, 0);
-    }
     isFirst = false;
 }
 
@@ -92,43 +88,75 @@ void TextCanvas::DrawPlain(const Outline& path, const Transform* painterTransfor
     hairline.Draw(path, 0, painterTransform);
 }
 
-/** Paints what the path has more than the kept one; false when it has to be painted as a whole. */
-bool TextCanvas::GoOnFromKept(const Outline& path)
+/**
+ * Paints the first path of a frame into the empty ink: what it has in common with that of the frame
+ * before is kept, the rest is painted anew. False and no ink where it has to be painted as a whole.
+ */
+bool TextCanvas::DrawFirst(const Outline& path)
 {
     if (path.fillRule != Outline::OddEven)
         return false;
-    if (kept.isHollow != isHollow || kept.path.IsEmpty() || !path.StartsWith(kept.path))
+    if (kept.isHollow != isHollow)
         ForgetKept();
-    const size_t done = kept.path.Size();
-    if (done == path.Size())
-        return true;
-    if (path.At(done).type != Outline::Move) {
+    const size_t common = path.CommonSubpaths(kept.previous);
+    if (common < kept.size)
         ForgetKept();
-        return GoOnFromKept(path);
+    kept.isHollow = isHollow;
+    kept.previous = path;
+    if (kept.size < common && !Keep(path.Part(kept.size, common))) {
+        ForgetKept();
+        return false;
     }
-    if (!isHollow) {
-        fill.Take(path, done, 0);
-        Bounds bounds = fill.OutlineBounds();
-        if (done > 0)
-            bounds.Unite(kept.bounds);
-        if (bounds.AreFar() || !fill.Invert(kept.fill)) {
-            ForgetKept();
+    ink.Unite(kept.fill);
+    if (common < path.Size() && !isHollow) {
+        fill.Take(path, common, 0);
+        if (IsFarWithKept() || !fill.Invert(ink)) {
+            ink.Clear();
             return false;
         }
+    }
+    ink.Unite(kept.outline);
+    if (common < path.Size()) {
+        hairline.Begin(picture, ink);
+        hairline.SetDirection(kept.direction);
+        hairline.Draw(path, common, 0);
+    }
+    return true;
+}
+
+/** Paints @p part after what is kept already. */
+bool TextCanvas::Keep(const Outline& part)
+{
+    if (!isHollow) {
+        fill.Take(part, 0, 0);
+        if (IsFarWithKept() || !fill.Invert(kept.fill))
+            return false;
+        Bounds bounds = fill.OutlineBounds();
+        if (kept.size > 0)
+            bounds.Unite(kept.bounds);
         kept.bounds = bounds;
     }
     hairline.Begin(picture, kept.outline);
     hairline.SetDirection(kept.direction);
-    hairline.Draw(path, done, 0);
+    hairline.Draw(part, 0, 0);
     kept.direction = hairline.LastDirection();
-    kept.path = path;
-    kept.isHollow = isHollow;
+    kept.size += part.Size();
     return true;
+}
+
+/** Whether what the fill has taken and what is kept would be cut together. */
+bool TextCanvas::IsFarWithKept() const
+{
+    Bounds bounds = fill.OutlineBounds();
+    if (kept.size > 0)
+        bounds.Unite(kept.bounds);
+    return bounds.AreFar();
 }
 
 void TextCanvas::ForgetKept()
 {
-    kept.path.Clear();
+    kept.previous.Clear();
+    kept.size = 0;
     kept.fill.Clear();
     kept.outline.Clear();
     kept.direction = Rightward;
@@ -143,7 +171,7 @@ void TextCanvas::Write(PictureWriter::Format format, uint32_t argb, unsigned cha
 size_t TextCanvas::Bytes() const
 {
     return sizeof *this + ink.Bytes() + fill.Bytes() + kept.fill.Bytes() + kept.outline.Bytes() +
-           kept.path.Bytes();
+           kept.previous.Bytes();
 }
 
 } // namespace HNodeAnimationText

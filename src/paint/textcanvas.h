@@ -22,9 +22,8 @@ namespace HNodeAnimationText {
  *     canvas.DrawPath(glyphInFlight);
  *     canvas.Write(PictureWriter::Argb32, colour, bits, bytesPerLine);
  *
- * The first path of a frame is kept: where that of the next frame begins with it, only what was
- * added is painted, and where it is the same, nothing. So characters that stand cost little. What
- * is painted is the same.
+ * What the first paths of two frames in a row begin with is kept: the next frame paints only what
+ * its first path has more. So characters that stand cost little. What is painted is the same.
  */
 class TextCanvas
 {
@@ -63,13 +62,16 @@ public:
 
 private:
     void DrawPlain(const Outline& path, const Transform* painterTransform);
-    bool GoOnFromKept(const Outline& path);
+    bool DrawFirst(const Outline& path);
+    bool Keep(const Outline& part);
+    bool IsFarWithKept() const;
     void ForgetKept();
 
-    // The first path of the frame before, and its fill and outline by themselves.
+    // The first path of the frame before, and the fill and the outline of its first elements.
     struct Kept
     {
-        Outline path;
+        Outline previous;
+        size_t size; // of the elements that are painted here
         bool isHollow;
         Bounds bounds;
         Plane fill;
@@ -77,7 +79,8 @@ private:
         Direction direction; // in which the outline goes on
 
         Kept()
-            : isHollow(false)
+            : size(0)
+            , isHollow(false)
             , bounds(Outline())
             , direction(Rightward)
         {
