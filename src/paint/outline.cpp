@@ -7,6 +7,16 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
+namespace {
+
+// Elements have no padding; a zero with another sign is another number here.
+bool HasSameBits(const void* a, const void* b, size_t bytes)
+{
+    return std::memcmp(a, b, bytes) == 0;
+}
+
+} // namespace
+
 void Outline::Add(float x, float y, Type type)
 {
     const Element element = {x, y, type};
@@ -90,11 +100,11 @@ size_t Outline::CommonSubpaths(const Outline& other) const
 {
     const size_t size = std::min(elements.size(), other.elements.size());
     size_t common = 0;
-    if (size > 0 && std::memcmp(&elements[0], &other.elements[0], size * sizeof(Element)) == 0)
+    if (size > 0 && HasSameBits(&elements[0], &other.elements[0], size * sizeof(Element)))
         common = size;
     else
         while (common < size &&
-               std::memcmp(&elements[common], &other.elements[common], sizeof(Element)) == 0)
+               HasSameBits(&elements[common], &other.elements[common], sizeof(Element)))
             ++common;
     while (common > 0 && common < elements.size() && elements[common].type != Move)
         --common;
