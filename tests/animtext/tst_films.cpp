@@ -247,9 +247,10 @@ private slots:
         if (!script.isEmpty())
             QFile::link("/usr/bin/ffprobe", programs.Path("ffprobe"));
         const QStringList before = files->Everything();
-        const Outcome outcome = files->Shell(
-            "PATH=" + programs.Path("") +
-            " " ANIMTEXT_PROGRAMS "/animtext render two.json -o old.gif --seconds 15 --scale 4");
+        const Outcome outcome =
+            files->Shell("PATH=" + programs.Path("") +
+                         " \"" ANIMTEXT_PROGRAMS
+                         "/animtext\" render two.json -o old.gif --seconds 15 --scale 4");
         QTEST(outcome.status, "status");
         QVERIFY2(outcome.errors.contains(expected), outcome.errors);
         QCOMPARE(files->Everything(), before);

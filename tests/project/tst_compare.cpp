@@ -23,7 +23,7 @@ QString CompareTest::Compare(const QStringList& words, int* status) const
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(COMPARE_SCRIPT,
-                  words + QStringList{"--program", ANIMTEXT_PROGRAM, folder.path()});
+                  words + QStringList{"--program", "\"" ANIMTEXT_PROGRAM "\"", folder.path()});
     process.waitForFinished(-1);
     *status = process.exitCode();
     return process.readAll();
