@@ -28,7 +28,6 @@ public:
     {
     }
 
-    PROBE(engine, painter)
     PROBE(engine, charIndex)
     PROBE(engine, charCount)
     PROBE(engine, moveOffset)

@@ -116,14 +116,18 @@ public:
 inline QRect PaintedBox(const QImage& image)
 {
     const QImage pixels = image.convertToFormat(QImage::Format_ARGB32);
-    QRect box;
+    int left = pixels.width(), right = -1, top = -1, bottom = -1;
     for (int y = 0; y < pixels.height(); ++y) {
         const QRgb* const row = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
         for (int x = 0; x < pixels.width(); ++x)
-            if (row[x] != 0 && row[x] != qRgb(0, 0, 0))
-                box |= QRect(x, y, 1, 1);
+            if (row[x] != 0 && row[x] != qRgb(0, 0, 0)) {
+                left = qMin(left, x);
+                right = qMax(right, x);
+                top = top < 0 ? y : top;
+                bottom = y;
+            }
     }
-    return box;
+    return right < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
 /** The messages of a scope, in order. */
