@@ -2,6 +2,7 @@
 
 #include "author/author.h"
 #include "author/placement.h"
+#include "author/wordpages.h"
 #include "text/glyphdata.h"
 #include "text/pagedivision.h"
 
@@ -306,6 +307,8 @@ private slots:
             const QString page = authored.text.mid(begin, end - begin).trimmed();
             const int pageWidth = Sum(authored.widths.mid(begin, end - begin));
             QVERIFY(pageWidth <= area.width());
+            for (int i = begin; i < end && !text.contains('-'); ++i)
+                QVERIFY(authored.text[i] == ' ' || authored.widths[i] < 50);
             const auto advance = [&](const QString& words) {
                 return qRound(QFontMetricsF(font).horizontalAdvance(words));
             };
@@ -366,10 +369,54 @@ private slots:
                 QCOMPARE(odd == 0, turns);
                 QCOMPARE(authored.text != text, turns);
                 const bool even = motion == 21 || motion == 24;
-                const int widest =
-                    *std::max_element(authored.widths.begin(), authored.widths.end());
-                QVERIFY(!even || widest <= 50);
+                const Authored left =
+                    Author({text, Font(40), motion, Align::Left, VAlign::Middle, 0});
+                const int widest = *std::max_element(left.widths.begin(), left.widths.end());
+                QVERIFY(text[0] != 'H' || even == (widest == left.widths[left.text.indexOf('W')]));
             }
+        }
+    }
+
+    // A letter is 10 wide, a space 5; ( and ) enclose what is seen of a page of 40 pixels.
+    void cutsAtWords_data()
+    {
+        QTest::addColumn<QString>("forward");
+        QTest::addColumn<QString>("fromEnd");
+        const auto row = [](const char* text, const char* forward, const char* fromEnd) {
+            QTest::newRow(text) << QString(forward) << QString(fromEnd);
+        };
+        row("", "", "");
+        row("ab cd", "(ab) (cd)", "(ab) (cd)");
+        row("a b c", "(a b c)", "(a b c)");
+        row("abcd efg", "(abcd) (efg)", "(abcd) (efg)");       // a space hangs over
+        row("ab   c d e", "(ab)   (c d e)", "(ab)   (c d e)"); // and three of them
+        row("a b c d", "(a b c) (d)", "(a) (b c d)");
+        row("abcdef gh", "(abcd)(ef) (gh)", "(ab)(cdef) (gh)");
+        row("a bcdefg", "(a) (bcde)(fg)", "(a bc)(defg)");
+        row("W  ab", "(W)  (ab)", "(W)  (ab)"); // wider than a page
+        row("ab W", "(ab) (W)", "(ab) (W)");
+        row("abc    ", "(abc  )  ", "(a)(bc    )"); // what is typed at the very end counts
+        row("  abc", "(  abc)", "(  abc)");
+    }
+
+    void cutsAtWords()
+    {
+        const QString text = QTest::currentDataTag();
+        QFETCH(QString, forward);
+        QFETCH(QString, fromEnd);
+        for (bool isFromEnd : {false, true}) {
+            QVector<LinePiece> line;
+            for (int i = 0; i < text.size(); ++i)
+                line.append({text[i] == 'W'   ? 50
+                             : text[i] == ' ' ? 5
+                                              : 10,
+                             text[i] == ' ', i > 0 && text[i] != ' ' && text[i - 1] == ' '});
+            QString cut;
+            for (const PageCut& page : CutPages(line, 40, isFromEnd))
+                cut += text.mid(page.begin, page.seen - page.begin) + '(' +
+                       text.mid(page.seen, page.seenEnd - page.seen) + ')' +
+                       text.mid(page.seenEnd, page.end - page.seenEnd);
+            QCOMPARE(cut, isFromEnd ? fromEnd : forward);
         }
     }
 

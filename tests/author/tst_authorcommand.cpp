@@ -116,6 +116,7 @@ private slots:
         // Without a size it is fitted; the proportions stay.
         row("--area 300x41 --text 'a<font size=\"200%\">b</font>'",
             "Sans 13 000 16752640|Sans 26 000 16752640");
+        row("--area 300x41 --text '<font size=\"20px\">b</font>'", "Sans 15 000 16752640");
         row("--fit both --area 30x100 --text 'm<font size=\"24px\">m</font>'",
             "Sans 15 000 16752640|Sans 8 000 16752640");
     }

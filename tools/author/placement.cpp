@@ -84,8 +84,8 @@ private:
         if (!setting.keepsWords)
             return;
         for (int p = 1; p < pages.size(); ++p) {
-            if (!pieces[pages[p].begin].mayBegin)
-                NoteTornWord(pieces, pages[p].begin);
+            if (!pieces[pages[p].seen].mayBegin)
+                NoteTornWord(pieces, pages[p].seen);
         }
     }
 
@@ -252,11 +252,10 @@ private:
     {
         const bool isAdded = cell.cluster < 0;
         const int units = isAdded ? 1 : line.clusters[cell.cluster].units;
-        const int first =
-            isAdded ? qMax(0, result.source.size() - 1) : line.clusters[cell.cluster].first;
+        const int first = isAdded ? 0 : line.clusters[cell.cluster].first;
         for (int u = 0; u < units; ++u) {
             result.text += isAdded ? QChar(QLatin1Char(' ')) : text.at(first + u);
-            result.source.append(isAdded ? result.source.value(first) : first + u);
+            result.source.append(first + u);
             result.outlines.append(QPainterPath());
             result.widths.append(u == 0 ? cell.width : 0);
             result.heights.append(u == 0 ? line.ascent + line.descent : 0);

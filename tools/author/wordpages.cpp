@@ -54,12 +54,14 @@ QVector<PageCut> CutPages(const QVector<LinePiece>& line, int width, bool fromEn
 {
     if (!fromEnd)
         return CutFromBeginning(line, width);
-    // The same seen in a mirror.
+    // The same seen in a mirror, where the spaces between two words stand behind the other one.
     const int count = line.size();
     QVector<LinePiece> mirrored(count);
+    bool mayBegin = false;
     for (int k = 0; k < count; ++k) {
         mirrored[k] = line[count - 1 - k];
-        mirrored[k].mayBegin = k > 0 && line[count - k].mayBegin;
+        mirrored[k].mayBegin = mayBegin && !mirrored[k].isBlank;
+        mayBegin = line[count - 1 - k].mayBegin || (mayBegin && mirrored[k].isBlank);
     }
     QVector<PageCut> pages = CutFromBeginning(mirrored, width);
     std::reverse(pages.begin(), pages.end());
