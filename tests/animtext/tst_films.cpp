@@ -209,6 +209,19 @@ private slots:
         QCOMPARE(files->Shell(":" + list).out, before);
     }
 
+    /** Killed like that it can remove nothing itself. */
+    void removesWhatAKilledRunLeft()
+    {
+        const QStringList before = files->Everything();
+        const TestFolder programs;
+        QFile::setPermissions(programs.Write("ffmpeg", "#!/bin/sh\nkill -9 $PPID\n"),
+                              QFile::ReadOwner | QFile::ExeOwner);
+        files->Shell("PATH=" + programs.Path("") + ":$PATH animtext render two.json -o a.webm");
+        QCOMPARE(files->Everything().size(), before.size() + 1);
+        files->Shell("animtext render one.json --at 1t -o b.png && rm b.png");
+        QCOMPARE(files->Everything(), before);
+    }
+
     void leavesNothingWhenTheEncoderFails_data()
     {
         QTest::addColumn<QByteArray>("script");

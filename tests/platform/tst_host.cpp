@@ -30,6 +30,7 @@ private slots:
         HNode from;
         from.SetAttribute("Text", "Hello");
         from.SetList("TextWidth", rows);
+        from.SetFiles("PathData", {"/outlines"});
         HNode to;
         to.SetAttribute("Stroke", 1);
         to.SetList("TextHeight", rows);
@@ -38,6 +39,7 @@ private slots:
         from.RemoveKey("TextWidth");
         QCOMPARE(to.GetAttribute("Text"), QString("Hello"));
         QCOMPARE(to.GetList("TextWidth")->items(), rows);
+        QCOMPARE(to.GetFirstFile("PathData"), QString("/outlines"));
         QCOMPARE(to.GetAttributeToInt("Stroke"), 0);
         QVERIFY(!to.GetList("TextHeight"));
     }

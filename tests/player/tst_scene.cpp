@@ -17,7 +17,7 @@ const char good[] = R"({
   "pages": [{"areas": [{"nodes": [{
     "type": "LW_animationText_Plugin",
     "pos": [0, 8], "size": [512, 48], "hold": 20, "neonEffect": 3,
-    "attributes": {"Text": "Hello", "AnimationEffect": 5},
+    "attributes": {"AnimationEffect": 5, "Text": "Hello"},
     "lists": {"TextWidth": [{"text_width": "17"}, {"text_width": "9"}]},
     "files": {"PathData": "paths"}
   }]}]}]
@@ -40,17 +40,10 @@ private slots:
         QVERIFY2(ReadScene(path, &scene, &error, MissingFiles::AreAccepted), qPrintable(error));
         files.Write("paths", "x");
         QVERIFY2(ReadScene(path, &scene, &error), qPrintable(error));
-        QCOMPARE(scene.display, QSize(512, 64));
-        QCOMPARE(scene.Nodes().size(), 1);
-        const SceneNode& node = *scene.Nodes().first();
-        QCOMPARE(node.pos, QPoint(0, 8));
-        QCOMPARE(node.size, QSize(512, 48));
-        QCOMPARE(node.hold, 20);
-        QCOMPARE(node.neonEffect, 3);
-        QCOMPARE(node.attributes,
-                 (QMap<QString, QVariant>{{"Text", "Hello"}, {"AnimationEffect", 5}}));
-        QCOMPARE(node.lists.value("TextWidth").at(1).value("text_width"), QString("9"));
-        QCOMPARE(scene.FullName(node.files.value("PathData")), files.Path("paths"));
+        const auto dense = [](QByteArray json) { return json.replace(' ', "").replace('\n', ""); };
+        QCOMPARE(dense(SceneToJson(scene)), dense(good));
+        QCOMPARE(scene.FullName(scene.Nodes().first()->files.value("PathData")),
+                 files.Path("paths"));
     }
 
     /**
@@ -196,13 +189,7 @@ s: $.pages[1]: expected an object, found)"));
         QCOMPARE(SceneToJson(back), SceneToJson(scene));
         QCOMPARE(back.alphaBlend, false);
         QCOMPARE(back.pages.at(2).areas.at(1).nodes.size(), 1);
-        const SceneNode& read = *back.Nodes().first();
-        QCOMPARE(read.attributes, node.attributes);
-        QCOMPARE(read.lists, node.lists);
-        QCOMPARE(read.files, node.files);
-        QCOMPARE(read.pos, node.pos);
-        QCOMPARE(read.hold, node.hold);
-        QCOMPARE(read.neonEffect, node.neonEffect);
+        QCOMPARE(back.Nodes().first()->attributes, node.attributes);
     }
 
     void findsMotions()

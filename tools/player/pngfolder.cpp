@@ -1,6 +1,7 @@
 #include "player/pngfolder.h"
 
 #include "player/stillfile.h"
+#include "scene/wholefile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -49,12 +50,10 @@ bool PngFolder::Open(const FilmFormat& wanted, QString* error)
             QStringLiteral("%1 also holds %2; name an empty or a new folder").arg(path, foreign);
         return false;
     }
-    const QString parent = info.absolutePath();
-    folder = std::make_unique<QTemporaryDir>(parent + QStringLiteral("/.") + info.fileName() +
-                                             QStringLiteral(".XXXXXX"));
+    folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
     if (!folder->isValid()) {
         *error = QStringLiteral("no folder can be made in %1: %2")
-                     .arg(parent, QString::fromLocal8Bit(std::strerror(errno)));
+                     .arg(info.absolutePath(), QString::fromLocal8Bit(std::strerror(errno)));
         return false;
     }
     return true;

@@ -1,10 +1,11 @@
 #include "player/stillfile.h"
 
+#include "scene/wholefile.h"
+
 #include <QBuffer>
 #include <QFileInfo>
 #include <QHash>
 #include <QImageWriter>
-#include <QSaveFile>
 #include <QVector>
 
 namespace AnimText {
@@ -58,12 +59,9 @@ QByteArray PngOf(QImage picture, bool transparent)
 
 bool WritePng(const QString& path, const QByteArray& png, QString* error)
 {
-    QSaveFile file(path);
-    // What is still to be written when it is committed can fail unnoticed.
-    if (!png.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(png) == png.size() &&
-        file.flush() && file.commit())
-        return true;
-    *error = QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
+    if (!png.isEmpty())
+        return WriteWhole(path, png, error);
+    *error = QStringLiteral("%1: cannot be written: the picture is too large").arg(path);
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "player/videofile.h"
 
 #include "player/filmcheck.h"
+#include "scene/wholefile.h"
 
 #include <QFileInfo>
 
@@ -112,10 +113,9 @@ bool VideoFile::Start(FilmProgram* program, const QStringList& input, const QStr
 bool VideoFile::Open(const FilmFormat& wanted, QString* error)
 {
     format = wanted;
-    const QFileInfo info(path);
-    const QString beside = info.absolutePath() + QStringLiteral("/.") + info.fileName();
+    const QString beside = UnfinishedName(path);
     for (QTemporaryFile* file : {&unfinished, &spool}) {
-        file->setFileTemplate(beside + QStringLiteral(".XXXXXX"));
+        file->setFileTemplate(beside);
         if ((file == &unfinished || IsSpooled()) && !file->open()) {
             *error = file->errorString();
             return Named(false, error);
