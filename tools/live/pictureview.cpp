@@ -1,0 +1,289 @@
+#include "live/pictureview.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int largestZoom = 64;
+constexpr double largestPitch = 4;
+constexpr int chequer = 8; // points of the desk
+
+/** The largest rows in which two pictures of one size and format differ; empty when in none. */
+QRect Difference(const QImage& one, const QImage& other)
+{
+    const auto differ = [&](int y) {
+        return std::memcmp(one.constScanLine(y), other.constScanLine(y),
+                           size_t(one.width()) * size_t(one.depth()) / 8) != 0;
+    };
+    int top = 0;
+    while (top < one.height() && !differ(top))
+        ++top;
+    int bottom = one.height() - 1;
+    while (bottom > top && !differ(bottom))
+        --bottom;
+    return top == one.height() ? QRect() : QRect(0, top, one.width(), bottom - top + 1);
+}
+
+/** How brightly a lamp shines in each of the @p size × @p size pixels around it, 0 .. 256. */
+std::vector<quint32> Lamp(int size, double pitch)
+{
+    constexpr int samples = 4; // of a pixel, each way
+    const double radius = size / pitch / 2;
+    std::vector<quint32> light(size_t(size) * size_t(size));
+    for (int i = 0; i < size * size * samples * samples; ++i) {
+        const int x = i % (size * samples);
+        const int y = i / (size * samples);
+        const double distance =
+            std::hypot((x + 0.5) / samples - size / 2.0, (y + 0.5) / samples - size / 2.0) / radius;
+        if (distance > 1)
+            continue;
+        const double falling = 1 - 0.5 * distance * distance * distance;
+        light[size_t(y / samples) * size_t(size) + size_t(x / samples)] +=
+            quint32(std::lround(falling * 256 / (samples * samples)));
+    }
+    return light;
+}
+
+/** @p color, which has no alpha to speak of, at @p light of 256. */
+QRgb Dimmed(QRgb color, quint32 light)
+{
+    const quint32 redBlue = ((color & 0xFF00FF) * light >> 8) & 0xFF00FF;
+    const quint32 green = ((color & 0x00FF00) * light >> 8) & 0x00FF00;
+    return 0xFF000000 | redBlue | green;
+}
+
+QBrush Chequers(double ratio)
+{
+    const int side = std::max(1, int(std::lround(chequer * ratio)));
+    QImage tile(2 * side, 2 * side, QImage::Format_RGB32);
+    for (int y = 0; y < tile.height(); ++y) {
+        for (int x = 0; x < tile.width(); ++x)
+            tile.setPixel(x, y, (x < side) == (y < side) ? 0xFF999999 : 0xFF666666);
+    }
+    return QBrush(tile);
+}
+
+} // namespace
+
+PictureView::PictureView(QWidget* parent)
+    : QWidget(parent)
+    , surroundings(0x50, 0x50, 0x50)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void PictureView::SetPicture(const QImage& given)
+{
+    const bool isAlike = given.size() == picture.size() && given.format() == picture.format();
+    const QRect changed = isAlike && !given.isNull() ? Difference(given, picture) : QRect();
+    picture = given;
+    picture.setDevicePixelRatio(1);
+    if (isAlike && changed.isEmpty())
+        return;
+    pixels = picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                               : QImage::Format_RGB32);
+    if (isAlike)
+        update(ToWidget().mapRect(QRectF(changed)).toAlignedRect().adjusted(-1, -1, 1, 1));
+    else
+        LookChanged();
+}
+
+void PictureView::SetZoom(int wanted)
+{
+    zoom = qBound(0, wanted, largestZoom);
+    LookChanged();
+}
+
+void PictureView::SetPitch(double wanted)
+{
+    pitch = wanted > 0 ? qBound(1.0, wanted, largestPitch) : 0;
+    update();
+}
+
+void PictureView::SetBeneath(Beneath wanted)
+{
+    beneath = wanted;
+    update();
+}
+
+void PictureView::SetSurroundings(const QColor& color)
+{
+    surroundings = color;
+    update();
+}
+
+void PictureView::SetDimmed(bool wanted)
+{
+    if (dimmed != wanted)
+        update();
+    dimmed = wanted;
+}
+
+double PictureView::Scale() const
+{
+    const double ratio = devicePixelRatioF();
+    if (zoom > 0)
+        return std::max(1.0, std::round(zoom * ratio));
+    if (picture.isNull())
+        return 1;
+    const double fit =
+        std::min(width() * ratio / picture.width(), height() * ratio / picture.height());
+    return fit < 1 ? fit : std::min(std::floor(fit), std::floor(largestZoom * ratio));
+}
+
+bool PictureView::ShowsLamps() const
+{
+    return pitch > 0 && Scale() >= smallestLamp;
+}
+
+/** Where the picture stands, in the screen's own pixels from the widget's corner. */
+QRect PictureView::Place() const
+{
+    const double ratio = devicePixelRatioF();
+    const QSize size = (QSizeF(picture.size()) * Scale()).toSize();
+    return {QPoint(std::max(0, int(width() * ratio - size.width()) / 2),
+                   std::max(0, int(height() * ratio - size.height()) / 2)),
+            size};
+}
+
+QTransform PictureView::ToWidget() const
+{
+    const double ratio = devicePixelRatioF();
+    const QPointF corner = QPointF(Place().topLeft()) / ratio;
+    return QTransform(Scale() / ratio, 0, 0, Scale() / ratio, corner.x(), corner.y());
+}
+
+QPoint PictureView::PixelAt(const QPointF& point) const
+{
+    const QPointF place = ToWidget().inverted().map(point);
+    return {int(std::floor(place.x())), int(std::floor(place.y()))};
+}
+
+QSize PictureView::sizeHint() const
+{
+    if (picture.isNull())
+        return {512, 64};
+    return ToWidget().mapRect(QRectF(picture.rect())).size().toSize();
+}
+
+QSize PictureView::minimumSizeHint() const
+{
+    return zoom > 0 ? sizeHint() : QSize(64, 16);
+}
+
+/** The pixels of @p part of the picture as squares or lamps. */
+QImage PictureView::Magnified(const QRect& part) const
+{
+    const int size = int(Scale());
+    const std::vector<quint32> light = ShowsLamps() ? Lamp(size, pitch) : std::vector<quint32>();
+    QImage large(part.size() * size, light.empty() ? pixels.format() : QImage::Format_RGB32);
+    large.fill(Qt::black);
+    for (int y = 0; y < part.height(); ++y) {
+        const auto* from =
+            reinterpret_cast<const QRgb*>(pixels.constScanLine(part.y() + y)) + part.x();
+        for (int row = 0; row < size; ++row) {
+            auto* to = reinterpret_cast<QRgb*>(large.scanLine(y * size + row));
+            if (light.empty() && row > 0) {
+                std::memcpy(to, large.constScanLine(y * size), size_t(large.bytesPerLine()));
+                continue;
+            }
+            const quint32* lamp = light.empty() ? nullptr : &light[size_t(row) * size_t(size)];
+            for (int x = 0; x < part.width(); ++x, to += size) {
+                if (!lamp)
+                    std::fill(to, to + size, from[x]);
+                else if ((from[x] & 0xFFFFFF) != 0)
+                    std::transform(lamp, lamp + size, to,
+                                   [&](quint32 shine) { return Dimmed(from[x], shine); });
+            }
+        }
+    }
+    return large;
+}
+
+/** Paints in the screen's own pixels; the painter's origin is the widget's corner. */
+void PictureView::Paint(QPainter* painter) const
+{
+    const double ratio = devicePixelRatioF();
+    const QRect place = Place();
+    painter->fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * ratio), surroundings);
+    if (picture.isNull() || place.isEmpty())
+        return;
+    painter->fillRect(place, beneath == Beneath::Chequered && !ShowsLamps() ? Chequers(ratio)
+                                                                            : QBrush(Qt::black));
+    if (Scale() < 1) {
+        painter->drawImage(place.topLeft(), pixels.scaled(place.size(), Qt::IgnoreAspectRatio,
+                                                          Qt::SmoothTransformation));
+    } else {
+        const int scale = int(Scale());
+        const QRect seen = place & painter->clipBoundingRect().toAlignedRect();
+        const QRect inside = seen.translated(-place.topLeft());
+        const QRect part = QRect(QPoint(inside.left() / scale, inside.top() / scale),
+                                 QPoint(inside.right() / scale, inside.bottom() / scale)) &
+                           picture.rect();
+        if (!seen.isEmpty() && !part.isEmpty())
+            painter->drawImage(place.topLeft() + part.topLeft() * scale, Magnified(part));
+    }
+    if (dimmed)
+        painter->fillRect(
+            place, QColor(surroundings.red(), surroundings.green(), surroundings.blue(), 140));
+}
+
+QImage PictureView::GrabPicture() const
+{
+    if (picture.isNull() || Scale() < 1 || ShowsLamps())
+        return QImage();
+    QImage screen(Place().marginsAdded(QMargins(0, 0, Place().x(), Place().y())).size(),
+                  QImage::Format_RGB32);
+    QPainter painter(&screen);
+    painter.setClipRect(screen.rect());
+    Paint(&painter);
+    painter.end();
+    const int scale = int(Scale());
+    QImage read(picture.size(), QImage::Format_RGB32);
+    for (int y = 0; y < read.height(); ++y) {
+        for (int x = 0; x < read.width(); ++x)
+            read.setPixel(x, y, screen.pixel(Place().topLeft() + QPoint(x, y) * scale));
+    }
+    return read;
+}
+
+void PictureView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    // A widget may stand between two of the screen's pixels when a point has a pixel and a half.
+    const QTransform device = painter.deviceTransform();
+    const QTransform corner =
+        QTransform::fromTranslate(std::round(device.dx()), std::round(device.dy()));
+    painter.setClipRegion(event->region());
+    painter.setWorldTransform(corner * device.inverted());
+    Paint(&painter);
+    painter.resetTransform();
+    painter.setClipping(false);
+    PaintOverlay(&painter);
+}
+
+void PictureView::PaintOverlay(QPainter*) {}
+
+void PictureView::resizeEvent(QResizeEvent*)
+{
+    if (Scale() != lastScale)
+        emit ScaleChanged(lastScale = Scale());
+}
+
+void PictureView::LookChanged()
+{
+    updateGeometry();
+    update();
+    resizeEvent(nullptr);
+}
+
+} // namespace AnimText
