@@ -2,11 +2,13 @@
 #include "player/plugin.h"
 #include "player/simulation.h"
 #include "player/videofile.h"
+#include "scene/attributes.h"
 #include "testscene.h"
 
 #include <hneonnodebase.h>
 #include <inodeplugin.h>
 
+#include <QCryptographicHash>
 #include <QGuiApplication>
 #include <QtTest>
 
@@ -275,6 +277,55 @@ private slots:
         QCOMPARE(end.pixel(8, 16), qRgb(0, 0, 0));
     }
 
+    /** What is said not to be heeded changes no picture; all else does, in one of the scenes. */
+    void heedsWhatTheTableSays()
+    {
+        QImage red(8, 8, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        red.save(files.Path("red.png"));
+        QSet<const Attribute*> effective;
+        for (const QMap<QString, QVariant>& more :
+             QList<QMap<QString, QVariant>>{{},
+                                            {{"EffectType", 1}},
+                                            {{"EffectType", 1}, {"ContinueStyle", 2}},
+                                            {{"CheckDazzle", 1}},
+                                            {{"CheckDazzle", 1}, {"CheckColorGradient", 1}},
+                                            {{"CheckDazzle", 1}, {"CheckPictureFills", 1}},
+                                            {{"CheckNeonBg", 1}},
+                                            {{"CheckNeonBg", 1}, {"neonEffect", 28}}}) {
+            SceneNode node = files.Node({"abcdef", 5, 7, 1}, more);
+            node.neonEffect = node.attributes.take("neonEffect").toInt() + 1;
+            node.files["FillImage"] = node.files["NeonGifPath"] = files.Path("red.png");
+            const QByteArray before = Played(node);
+            for (const Attribute& attribute : Attributes()) {
+                const QString key = attribute.key;
+                SceneNode changed = node;
+                if (key == "hold")
+                    changed.hold = 9;
+                else if (key == "neonEffect")
+                    ++changed.neonEffect;
+                else if (attribute.home == Home::Files)
+                    changed.files.remove(key);
+                else if (attribute.home == Home::Attributes && key != "Text")
+                    changed.attributes[key] = node.attributes.value(key).toInt() == 0 ? 1 : 0;
+                else
+                    continue;
+                const bool differs = Played(changed) != before;
+                QString why;
+                if (IsHeeded(attribute, node, &why) && differs)
+                    effective.insert(&attribute);
+                else
+                    QVERIFY2(!differs, qPrintable(key + ": " + why));
+                QCOMPARE(why.isEmpty(), IsHeeded(attribute, node));
+            }
+        }
+        for (const Attribute& attribute : Attributes())
+            if (attribute.home == Home::Attributes || attribute.home == Home::Files)
+                QVERIFY2(effective.contains(&attribute) || attribute.key == QString("Text") ||
+                             attribute.heededBy == QString("nothing"),
+                         attribute.key);
+    }
+
     void givesUpOnAnEncoderThatStandsStill()
     {
         const QTemporaryDir programs;
@@ -295,6 +346,18 @@ private slots:
     }
 
 private:
+    /** The pictures of four seconds, and the time that the host is told. */
+    QByteArray Played(const SceneNode& node)
+    {
+        QCryptographicHash hash(QCryptographicHash::Sha1);
+        for (Load(files.Of({node}))->Start(); player->Tick() < 60; player->Advance()) {
+            const QImage picture = player->Picture();
+            hash.addData(reinterpret_cast<const char*>(picture.constBits()),
+                         int(picture.sizeInBytes()));
+        }
+        return hash.result() + QByteArray::number(player->Durations().first());
+    }
+
     Player* Load(const Scene& scene)
     {
         player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);

@@ -1,5 +1,6 @@
 #include "author/places.h"
 
+#include "scene/attributes.h"
 #include "scene/catalogue.h"
 #include "scene/schema.h"
 #include "scene/suggest.h"
@@ -29,12 +30,15 @@ const QMap<QString, QString>& Aliases()
     return aliases;
 }
 
-int Number(const QString& key, const QString& value)
+/** @p word as it was given for @p key of the scene file. */
+int Number(const QString& word, Home home, const QString& key, const QString& value)
 {
+    const Attribute* attribute = FindAttribute(home, key);
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
-    if (!isNumber)
-        throw Fault{QStringLiteral("%1 takes a whole number, not \"%2\"").arg(key, value)};
+    if (!isNumber || !IsInRange(*attribute, number))
+        throw Fault{QStringLiteral("%1 takes a whole number, %2, not \"%3\"")
+                        .arg(word, RangeInWords(*attribute), value)};
     return number;
 }
 
@@ -67,6 +71,11 @@ void SetMotion(SceneNode* node, const QString& key, const QString& value)
                                    "animtext author --replace")
                         .arg(QLatin1String(motion->name))};
     node->attributes[key] = motion->number;
+}
+
+void SetNumber(SceneNode* node, const QString& word, const QString& key, const QString& value)
+{
+    node->attributes[key] = Number(word, Home::Attributes, key, value);
 }
 
 void SetColor(SceneNode* node, const QString& value)
@@ -107,14 +116,16 @@ void Set(SceneNode* node, const QString& word, const QString& value)
     else if (key == QLatin1String("pos"))
         SetPos(node, value);
     else if (key == QLatin1String("hold"))
-        node->hold = Number(word, value);
+        node->hold = Number(word, Home::Node, key, value);
     else if (key == QLatin1String("neonEffect"))
-        node->neonEffect = Number(word, value);
+        node->neonEffect = Number(word, Home::Node, key, value);
     else if (key == QLatin1String("speed"))
-        node->attributes[Scrolls(*node) ? QStringLiteral("ContinueSpeed")
-                                        : QStringLiteral("AnimationSpeed")] = Number(word, value);
+        SetNumber(node, word,
+                  Scrolls(*node) ? QStringLiteral("ContinueSpeed")
+                                 : QStringLiteral("AnimationSpeed"),
+                  value);
     else if (Known().contains(key))
-        node->attributes[key] = Number(word, value);
+        SetNumber(node, word, key, value);
     else
         throw Fault{QStringLiteral("%1 cannot be set; expected one of %2%3")
                         .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()))};

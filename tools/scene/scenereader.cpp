@@ -1,3 +1,4 @@
+#include "scene/attributes.h"
 #include "scene/duplicatekeys.h"
 #include "scene/jsonvalues.h"
 #include "scene/scene.h"
@@ -14,10 +15,13 @@ namespace AnimText {
 
 namespace {
 
-constexpr int largestSide = 16384; // what video and picture formats can hold
 constexpr qint64 largestDisplay = Lw::HNodeAnimationText::maxCanvasBytes / 4; // pixels
-constexpr int farthestPlace = 1000000;
 constexpr qint64 largestFile = qint64(256) << 20;
+
+int LargestSide()
+{
+    return FindAttribute(Home::Node, QStringLiteral("size"))->most;
+}
 
 class Reader
 {
@@ -88,10 +92,10 @@ QString Reader::ReadFileName(const QJsonValue& value, const QString& place)
 
 SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
 {
-    static const QStringList known{QStringLiteral("type"),       QStringLiteral("pos"),
-                                   QStringLiteral("size"),       QStringLiteral("hold"),
-                                   QStringLiteral("neonEffect"), QStringLiteral("attributes"),
-                                   QStringLiteral("lists"),      QStringLiteral("files")};
+    static const QStringList known = QStringList{
+        QStringLiteral("type"),  QStringLiteral("pos"),        QStringLiteral("size"),
+        QStringLiteral("hold"),  QStringLiteral("neonEffect"), QStringLiteral("attributes"),
+        QStringLiteral("lists"), QStringLiteral("files")};
     SceneNode node;
     QJsonObject object;
     if (!json.Object(value, place, known, &object))
@@ -116,10 +120,11 @@ SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
     optional(QStringLiteral("type"),
              [&](const QJsonValue& type, const QString& at) { node.type = json.Text(type, at); });
     optional(QStringLiteral("pos"), [&](const QJsonValue& pos, const QString& at) {
-        node.pos = json.Pair(pos, at, -farthestPlace, farthestPlace);
+        const Attribute* range = FindAttribute(Home::Node, QStringLiteral("pos"));
+        node.pos = json.Pair(pos, at, range->least, range->most);
     });
     const QPoint size = json.Pair(object.value(QStringLiteral("size")),
-                                  Member(place, QStringLiteral("size")), 0, largestSide);
+                                  Member(place, QStringLiteral("size")), 0, LargestSide());
     node.size = QSize(size.x(), size.y());
     optional(QStringLiteral("hold"),
              [&](const QJsonValue& hold, const QString& at) { node.hold = json.Int(hold, at); });
@@ -175,8 +180,9 @@ void Reader::ReadDisplay(const QJsonValue& value, const QString& place)
     if (!json.Object(value, place, {width, height}, &display))
         return;
     // One after the other: faults come in the order of reading.
-    scene.display.setWidth(json.Int(display.value(width), Member(place, width), 1, largestSide));
-    scene.display.setHeight(json.Int(display.value(height), Member(place, height), 1, largestSide));
+    scene.display.setWidth(json.Int(display.value(width), Member(place, width), 1, LargestSide()));
+    scene.display.setHeight(
+        json.Int(display.value(height), Member(place, height), 1, LargestSide()));
     if (qint64(scene.display.width()) * scene.display.height() > largestDisplay)
         json.Add(place, QStringLiteral("at most %1 pixels").arg(largestDisplay),
                  QStringLiteral("%1 × %2").arg(scene.display.width()).arg(scene.display.height()));

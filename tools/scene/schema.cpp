@@ -1,24 +1,38 @@
 #include "scene/schema.h"
 
+#include "scene/attributes.h"
+
 namespace AnimText {
+
+namespace {
+
+QStringList Sorted(QStringList keys)
+{
+    keys.sort();
+    return keys;
+}
+
+QStringList AttributeKeys(bool texts)
+{
+    QStringList keys;
+    for (const Attribute& attribute : Attributes()) {
+        if (attribute.home == Home::Attributes && (attribute.kind == ValueKind::Text) == texts)
+            keys.append(QLatin1String(attribute.key));
+    }
+    return Sorted(keys);
+}
+
+} // namespace
 
 const QStringList& TextAttributeKeys()
 {
-    static const QStringList keys{QStringLiteral("Text")};
+    static const QStringList keys = AttributeKeys(true);
     return keys;
 }
 
 const QStringList& NumberAttributeKeys()
 {
-    static const QStringList keys{
-        QStringLiteral("AnimationEffect"),    QStringLiteral("AnimationSpeed"),
-        QStringLiteral("CheckColorGradient"), QStringLiteral("CheckDazzle"),
-        QStringLiteral("CheckNeonBg"),        QStringLiteral("CheckPictureFills"),
-        QStringLiteral("CheckShadowEffect"),  QStringLiteral("ColorGradient"),
-        QStringLiteral("ContinueSpeed"),      QStringLiteral("ContinueStyle"),
-        QStringLiteral("EffectType"),         QStringLiteral("Hollow"),
-        QStringLiteral("PlayTimes"),          QStringLiteral("Stroke"),
-        QStringLiteral("StrokeColor"),        QStringLiteral("TextShadowBox")};
+    static const QStringList keys = AttributeKeys(false);
     return keys;
 }
 
@@ -31,20 +45,15 @@ const QStringList& ListKeys()
 
 QStringList RowFields(const QString& key)
 {
-    if (key == QLatin1String("TextWidth"))
-        return {QStringLiteral("text_width")};
-    if (key == QLatin1String("TextHeight"))
-        return {QStringLiteral("text_height")};
-    if (key == QLatin1String("TextAttribute"))
-        return {QStringLiteral("fontName"), QStringLiteral("fontSize"),  QStringLiteral("bold"),
-                QStringLiteral("italic"),   QStringLiteral("underline"), QStringLiteral("Color")};
-    return {};
+    static const QStringList fields[] = {KeysOf(Home::TextAttribute), KeysOf(Home::TextHeight),
+                                         KeysOf(Home::TextWidth)};
+    const int list = ListKeys().indexOf(key);
+    return list < 0 ? QStringList() : fields[list];
 }
 
 const QStringList& FileKeys()
 {
-    static const QStringList keys{QStringLiteral("DescentVector"), QStringLiteral("FillImage"),
-                                  QStringLiteral("NeonGifPath"), QStringLiteral("PathData")};
+    static const QStringList keys = Sorted(KeysOf(Home::Files));
     return keys;
 }
 

@@ -1,6 +1,6 @@
 #include "validate/nodecheck.h"
 
-#include "scene/catalogue.h"
+#include "scene/attributes.h"
 #include "scene/schema.h"
 #include "text/limits.h"
 #include "validate/datafile.h"
@@ -16,8 +16,6 @@ using namespace Lw::HNodeAnimationText;
 namespace AnimText {
 namespace {
 
-const int lastDrawnNeon = 28; // neon styles above show a picture
-
 QString Words(int count, const char* one, const char* many)
 {
     return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
@@ -26,6 +24,21 @@ QString Words(int count, const char* one, const char* many)
 QString Size(qint64 width, int height)
 {
     return QStringLiteral("%1 x %2 pixels").arg(width).arg(height);
+}
+
+/** "0 to 9", and what the values mean where they are few: "0 left, 1 right, 2 up or 3 down". */
+QString Expected(const Attribute& attribute)
+{
+    const QStringList names = ChoicesOf(attribute);
+    if (names.isEmpty() || names.size() > 4)
+        return RangeInWords(attribute);
+    QString words;
+    for (int i = 0; i < names.size(); ++i) {
+        if (i > 0)
+            words += i + 1 < names.size() ? QStringLiteral(", ") : QStringLiteral(" or ");
+        words += QStringLiteral("%1 %2").arg(attribute.least + i).arg(names.at(i));
+    }
+    return words;
 }
 
 /** The first of the places where something is wrong, and how many come after it. */
@@ -76,9 +89,10 @@ QList<Finding> NodeCheck::Run()
             QLatin1Char('"') + node.type + QLatin1Char('"'),
             QStringLiteral("\"LW_animationText_Plugin\""));
     CheckArea();
-    if (node.hold < 0)
+    const Attribute& hold = *FindAttribute(Home::Node, QStringLiteral("hold"));
+    if (!IsInRange(hold, node.hold))
         Add(Mistake::HoldRange, QStringLiteral("hold"), QString::number(node.hold),
-            QStringLiteral("0 or more, in units of 100 ms"));
+            QStringLiteral("%1, in %2").arg(RangeInWords(hold), Translated(hold.unit)));
     CheckMode();
     CheckFlags();
     CheckIgnored();
@@ -114,37 +128,36 @@ void NodeCheck::CheckArea()
             QStringLiteral("at most %1 MiB").arg(maxCanvasBytes >> 20));
 }
 
+/** A finding when the attribute is beyond its range. */
+void NodeCheck::CheckRange(Mistake mistake, const char* key)
+{
+    const Attribute& attribute = *FindAttribute(Home::Attributes, QLatin1String(key));
+    if (!IsInRange(attribute, Number(key)))
+        AddAttribute(mistake, key, Expected(attribute));
+}
+
 void NodeCheck::CheckMode()
 {
     if (text.isEmpty())
         AddAttribute(Mistake::TextEmpty, "Text", QStringLiteral("a text"));
-    const QString speeds = QStringLiteral("0 to 9");
     if (mode == 0) {
-        if (motion < 0 || motion >= Effects().size())
-            AddAttribute(Mistake::EffectUnknown, "AnimationEffect",
-                         QStringLiteral("0 to %1").arg(Effects().size() - 1));
-        if (Number("AnimationSpeed") < 0 || Number("AnimationSpeed") > 9)
-            AddAttribute(Mistake::SpeedRange, "AnimationSpeed", speeds);
+        CheckRange(Mistake::EffectUnknown, "AnimationEffect");
+        CheckRange(Mistake::SpeedRange, "AnimationSpeed");
     } else if (mode == 1) {
-        if (motion < 0 || motion >= Scrolls().size())
-            AddAttribute(Mistake::DirectionUnknown, "ContinueStyle",
-                         QStringLiteral("0 left, 1 right, 2 up or 3 down"));
-        if (Number("ContinueSpeed") < 0 || Number("ContinueSpeed") > 9)
-            AddAttribute(Mistake::SpeedRange, "ContinueSpeed", speeds);
+        CheckRange(Mistake::DirectionUnknown, "ContinueStyle");
+        CheckRange(Mistake::SpeedRange, "ContinueSpeed");
     } else {
-        AddAttribute(Mistake::ModeUnknown, "EffectType",
-                     QStringLiteral("0 for an entrance effect or 1 for scrolling"));
+        CheckRange(Mistake::ModeUnknown, "EffectType");
     }
-    if (Number("PlayTimes") < 1)
-        AddAttribute(Mistake::PlaysRange, "PlayTimes", QStringLiteral("1 or more"));
+    CheckRange(Mistake::PlaysRange, "PlayTimes");
 }
 
 void NodeCheck::CheckFlags()
 {
-    for (const char* flag : {"CheckColorGradient", "CheckDazzle", "CheckNeonBg",
-                             "CheckPictureFills", "CheckShadowEffect", "Hollow", "Stroke"}) {
-        if (Number(flag) != 0 && Number(flag) != 1)
-            AddAttribute(Mistake::FlagValue, flag, QStringLiteral("0 or 1"));
+    for (const QString& key : NumberAttributeKeys()) {
+        const Attribute* attribute = FindAttribute(Home::Attributes, key);
+        if (attribute->kind == ValueKind::Flag)
+            CheckRange(Mistake::FlagValue, attribute->key);
     }
 }
 
@@ -250,8 +263,8 @@ void NodeCheck::CheckFiles()
             Add(Mistake::FileMissing, at, QStringLiteral("nothing"),
                 QStringLiteral("the name of a data file"));
         } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
-                   (key == QLatin1String("NeonGifPath") && Has("CheckNeonBg") &&
-                    node.neonEffect > lastDrawnNeon)) {
+                   (key == QLatin1String("NeonGifPath") &&
+                    IsHeeded(*FindAttribute(Home::Files, key), node))) {
             Add(Mistake::PictureMissing, at, QStringLiteral("nothing"),
                 QStringLiteral("the name of a picture file"));
         }

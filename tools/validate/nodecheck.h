@@ -23,6 +23,7 @@ public:
 
 private:
     void CheckArea();
+    void CheckRange(Mistake mistake, const char* key);
     void CheckMode();
     void CheckFlags();
     void CheckIgnored();
