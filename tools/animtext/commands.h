@@ -13,6 +13,7 @@ Command AuthorCommand();
 Command DurationCommand();
 Command EffectsCommand();
 Command FontsCommand();
+Command GalleryCommand();
 Command ListCommand();
 Command RemoveCommand();
 Command RenderCommand();

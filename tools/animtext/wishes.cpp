@@ -261,21 +261,26 @@ QVector<Option> WishOptions()
                      "Puts it in the place of another text (animtext list numbers them).")};
 }
 
+void ReadLook(const CommandLine& line, AuthorOptions* options)
+{
+    options->font = ReadFont(line);
+    options->color = line.Color("color");
+    options->hollow = line.IsSet("hollow");
+    options->hold = ReadHold(line);
+}
+
 AuthorOptions ReadWishes(const CommandLine& line, QStringList* notes)
 {
     AuthorOptions options;
-    options.font = ReadFont(line);
-    options.color = line.Color("color");
+    ReadLook(line, &options);
     ReadMotion(line, &options);
     ReadStyledText(line, &options, notes);
     ReadPlacing(line, &options);
     options.speed = line.Number("speed");
-    options.hold = ReadHold(line);
     options.plays = line.Number("plays");
     if (line.IsSet("area"))
         options.area = line.Size("area");
     options.pos = line.Point("pos");
-    options.hollow = line.IsSet("hollow");
     ReadBackground(line, &options);
     return options;
 }

@@ -63,7 +63,8 @@ bool PngFolder::Add(int frame, const QImage& picture, QString* error)
 {
     if (!lastPng.valid() || picture != last) {
         last = picture;
-        lastPng = std::async(std::launch::async, PngOf, picture, format.transparent).share();
+        lastPng = std::async(std::launch::async, PngOf, picture, format.transparent,
+                             PngEffort::Fast).share();
     }
     waiting.push_back({frame, lastPng});
     return waiting.size() <= std::max(1U, std::thread::hardware_concurrency()) || WriteNext(error);

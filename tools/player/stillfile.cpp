@@ -45,16 +45,19 @@ QImage Indexed(const QImage& picture)
 
 } // namespace
 
-QByteArray PngOf(QImage picture, bool transparent)
+QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
 {
     if (!transparent)
         picture.reinterpretAsFormat(QImage::Format_RGB32);
     QByteArray png;
     QBuffer buffer(&png);
     QImageWriter writer(&buffer, "png");
-    writer.setCompression(11); // of 0 to 100: level 1 of zlib's 9
     // A quarter of the bytes to compress, and none of libpng's search for the best filter.
-    return writer.write(Indexed(picture)) ? png : QByteArray();
+    QImage indexed = Indexed(picture);
+    if (effort == PngEffort::Small && indexed.colorCount() == 2)
+        indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
+    writer.setCompression(effort == PngEffort::Small ? 100 : 11); // levels 9 and 1 of zlib
+    return writer.write(indexed) ? png : QByteArray();
 }
 
 bool WritePng(const QString& path, const QByteArray& png, QString* error)

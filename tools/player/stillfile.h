@@ -11,8 +11,11 @@
 
 namespace AnimText {
 
-/** @p picture as a PNG, fast rather than small; without transparency unless it is wanted. */
-QByteArray PngOf(QImage picture, bool transparent);
+/** Whether a PNG is rather to be made fast, or to be small. */
+enum class PngEffort { Fast, Small };
+
+/** @p picture as a PNG; without transparency unless it is wanted. */
+QByteArray PngOf(QImage picture, bool transparent, PngEffort effort = PngEffort::Fast);
 
 /** Writes @p png, whole or not at all, to @p path. */
 bool WritePng(const QString& path, const QByteArray& png, QString* error);

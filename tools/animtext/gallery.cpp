@@ -1,0 +1,122 @@
+#include "gallery/gallery.h"
+
+#include "animtext/commands.h"
+#include "animtext/interruption.h"
+#include "animtext/opening.h"
+#include "animtext/progress.h"
+#include "animtext/wishes.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace AnimText {
+
+namespace {
+
+const char standardText[] = "Welcome aboard!";
+
+// What of `animtext author` makes sense for a text that is seen in every motion.
+const char* const textOptions[] = {"text",      "font",  "size",   "bold", "italic",
+                                   "underline", "color", "hollow", "hold", "area"};
+
+bool IsTextOption(const Option& option)
+{
+    return std::any_of(std::begin(textOptions), std::end(textOptions),
+                       [&](const char* name) { return qstrcmp(name, option.name) == 0; });
+}
+
+/** @p word as a shell reads it. */
+QString Quoted(QString word)
+{
+    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''")) +
+           QLatin1Char('\'');
+}
+
+/** The options that `animtext author` needs for the same text, as one types them. */
+QString WordsOf(const Command& command, const CommandLine& line)
+{
+    QStringList words;
+    for (const Option& option : command.options) {
+        if (!IsTextOption(option) || !(line.IsSet(option.name) || option.standard))
+            continue;
+        words.append(QStringLiteral("--") + QLatin1String(option.name));
+        if (option.kind != Kind::Flag)
+            words.append(Quoted(line.Value(option.name)));
+    }
+    return words.join(QLatin1Char(' '));
+}
+
+int MakeGallery(const CommandLine& line)
+{
+    GalleryOptions options;
+    options.words = WordsOf(GalleryCommand(), line);
+    options.folder = line.Value("output");
+    ReadLook(line, &options.text);
+    options.text.area = line.Size("area");
+    QString error;
+    QStringList notes;
+    StyledText text;
+    text.Append(line.Value("text"), {0, options.text.font, options.text.color});
+    if (!ToOneLine(&text, &notes, &error))
+        throw Misuse{error};
+    options.text.text = text.text;
+    options.text.styles = text.runs;
+    for (const QString& note : notes)
+        Warn(note);
+    const Playing playing(line);
+    options.seed = playing.Seed();
+
+    WatchForInterruption();
+    qint64 bytes = 0;
+    bool written = false;
+    {
+        const std::unique_ptr<Player> player = playing.Idle();
+        std::unique_ptr<Progress> progress;
+        const auto watch = [&](int done, int all) {
+            if (!progress)
+                progress = std::make_unique<Progress>(QStringLiteral("playing"), all);
+            progress->Show(done);
+            return !Interrupted();
+        };
+        written = WriteGallery(options, player.get(), watch, &bytes, &error);
+    }
+    StopIfInterrupted();
+    if (!written)
+        throw Failure{FailedRun, error};
+    Print(QStringLiteral("%1/index.html shows every motion at every speed; %2 MB\n")
+              .arg(options.folder)
+              .arg(double(bytes) / 1e6, 0, 'f', 1)
+              .toUtf8());
+    return Done;
+}
+
+} // namespace
+
+Command GalleryCommand()
+{
+    QVector<Option> own{
+        Option::File("output", "DIR", "The folder to write.").Letter('o').Required()};
+    for (Option option : WishOptions()) {
+        if (!IsTextOption(option))
+            continue;
+        if (qstrcmp(option.name, "text") == 0)
+            option = option.Or(standardText);
+        if (qstrcmp(option.name, "area") == 0)
+            option = option.Or("240x48");
+        if (qstrcmp(option.name, "hold") == 0)
+            option = option.Or("1s");
+        own.append(option);
+    }
+    return {"gallery",
+            "makes a web page on which every motion is seen",
+            "",
+            0,
+            0,
+            "Lets the plugin play a text in every motion at every speed and writes a folder with a "
+            "web page that shows them. The page needs no server and nothing from elsewhere: open "
+            "its index.html in any browser.",
+            WithPlayOptions(own),
+            MakeGallery};
+}
+
+} // namespace AnimText

@@ -1,0 +1,250 @@
+#include "gallery/gallery.h"
+
+#include "gallery/galleryfolder.h"
+#include "gallery/motionplay.h"
+#include "scene/catalogue.h"
+#include "scene/wholefile.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+// Resources of a static library are there once somebody asks for them, outside of any namespace.
+static void LoadPage()
+{
+    Q_INIT_RESOURCE(page);
+}
+
+namespace AnimText {
+
+namespace {
+
+// The fifth has a picture for every step of a motion; slower ones show the same pictures for
+// longer. Its pictures come first so that they stand in the order of the play.
+constexpr int speedsInOrder[] = {5, 4, 3, 2, 1, 0, 6, 7, 8, 9};
+constexpr int speedCount = 10;
+constexpr int posterSpeed = 5;
+
+/** Thrown where a step has failed and its reason is told already. */
+struct BrokenOff
+{
+};
+
+/** A motion at all speeds. */
+struct GalleryEntry
+{
+    const Motion* motion;
+    QString option; ///< with which `animtext author` chooses it
+    MotionPlay plays[speedCount];
+    int sheets = 0;
+};
+
+QByteArray Script(const char* function, const QJsonObject& object)
+{
+    return QByteArray(function) + '(' + QJsonDocument(object).toJson(QJsonDocument::Compact) +
+           ");\n";
+}
+
+/** A picture from the middle of the first page's entrance. */
+int PosterPicture(const MotionPlay& play)
+{
+    const int end = play.pages.isEmpty() ? play.ticks : play.pages.first().entered;
+    int left = end * 3 / 5;
+    for (const PictureRun& run : play.runs) {
+        if (left < run.ticks)
+            return run.picture;
+        left -= run.ticks;
+    }
+    return 0;
+}
+
+QJsonArray ToJson(const QVector<PageTime>& pages)
+{
+    QJsonArray array;
+    for (const PageTime& page : pages)
+        array.append(QJsonArray{page.from, page.entered, page.until});
+    return array;
+}
+
+QJsonObject ToJson(const GalleryEntry& entry)
+{
+    QJsonArray speeds;
+    for (const MotionPlay& play : entry.plays)
+        speeds.append(QJsonObject{{QStringLiteral("ticks"), play.ticks},
+                                  {QStringLiteral("told"), play.told},
+                                  {QStringLiteral("real"), play.real},
+                                  {QStringLiteral("pages"), ToJson(play.pages)}});
+    return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},
+            {QStringLiteral("number"), entry.motion->number},
+            {QStringLiteral("family"), QLatin1String(entry.motion->family)},
+            {QStringLiteral("summary"), QLatin1String(entry.motion->summary)},
+            {QStringLiteral("option"), entry.option},
+            {QStringLiteral("sheets"), entry.sheets},
+            {QStringLiteral("speeds"), speeds}};
+}
+
+/** Which picture is seen for how many ticks, pair after pair, at each speed. */
+QJsonObject RunsToJson(const GalleryEntry& entry)
+{
+    QJsonArray speeds;
+    for (const MotionPlay& play : entry.plays) {
+        QJsonArray runs;
+        for (const PictureRun& run : play.runs) {
+            runs.append(run.picture);
+            runs.append(run.ticks);
+        }
+        speeds.append(runs);
+    }
+    return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},
+            {QStringLiteral("runs"), speeds}};
+}
+
+class GalleryWriter
+{
+public:
+    GalleryWriter(const GalleryOptions& options, Player* player, const GalleryWatch& watch)
+        : options(options)
+        , player(player)
+        , watch(watch)
+        , folder(options.folder)
+    {
+    }
+
+    bool Write(QString* error)
+    {
+        try {
+            WriteAll();
+        } catch (const BrokenOff&) {
+            *error = why;
+            return false;
+        }
+        return true;
+    }
+
+    qint64 Bytes() const { return folder.Bytes(); }
+
+private:
+    void Demand(bool succeeded)
+    {
+        if (!succeeded)
+            throw BrokenOff();
+    }
+
+    void WriteAll()
+    {
+        Demand(folder.Open(&why));
+        QJsonArray motions;
+        for (const Motion& motion : Effects())
+            motions.append(WriteMotion(Mode::Entrance, motion));
+        for (const Motion& motion : Scrolls())
+            motions.append(WriteMotion(Mode::Scroll, motion));
+        Add(QStringLiteral("posters.png"), posters.Finish().value(0));
+        const QJsonObject all{{QStringLiteral("text"), options.text.text},
+                              {QStringLiteral("words"), options.words},
+                              {QStringLiteral("width"), options.text.area.width()},
+                              {QStringLiteral("height"), options.text.area.height()},
+                              {QStringLiteral("tick"), tickLength},
+                              {QStringLiteral("sheet"), PictureSheets::picturesInSheet},
+                              {QStringLiteral("motions"), motions}};
+        Add(QStringLiteral("motions.js"), Script("showGallery", all));
+        for (const char* name : {"index.html", "gallery.css", "gallery.js"}) {
+            QFile page(QStringLiteral(":/gallery/") + QLatin1String(name));
+            if (!page.open(QIODevice::ReadOnly))
+                qFatal("the program lacks its own %s", name);
+            Add(QLatin1String(name), page.readAll());
+        }
+        Demand(folder.Finish(&why));
+    }
+
+    QJsonObject WriteMotion(Mode mode, const Motion& motion)
+    {
+        AuthorOptions text = options.text;
+        text.mode = mode;
+        text.motion = motion.number;
+        AuthoredNode authored;
+        Demand(AuthorNode(text, &authored, &why));
+        Scene scene = Stage(authored);
+
+        GalleryEntry entry;
+        entry.motion = &motion;
+        const char* const directions[] = {"left", "right", "up", "down"};
+        entry.option =
+            mode == Mode::Entrance
+                ? QStringLiteral("--effect %1").arg(QLatin1String(motion.name))
+                : QStringLiteral("--scroll %1").arg(QLatin1String(directions[motion.number]));
+        PictureSheets sheets;
+        SceneNode& node = scene.pages.first().areas.first().nodes.first();
+        for (int speed : speedsInOrder) {
+            node.attributes[QStringLiteral("AnimationSpeed")] = speed;
+            const auto goOn = [this] { return watch(done, all); };
+            Demand(
+                PlayMotion(player, scene, options.seed, goOn, &sheets, &entry.plays[speed], &why));
+            ++done;
+        }
+        const QVector<QByteArray> pngs = sheets.Finish();
+        entry.sheets = pngs.size();
+        const QString base = QStringLiteral("motions/") + QLatin1String(motion.name);
+        for (int i = 0; i < pngs.size(); ++i)
+            Add(QStringLiteral("%1-%2.png").arg(base).arg(i), pngs.at(i));
+        Add(base + QStringLiteral(".js"), Script("showMotion", RunsToJson(entry)));
+        AddPoster(pngs, PosterPicture(entry.plays[posterSpeed]));
+        return ToJson(entry);
+    }
+
+    /** @p authored alone on its display, its data files among those that are thrown away. */
+    Scene Stage(const AuthoredNode& authored)
+    {
+        Scene scene;
+        scene.path = scenes.filePath(QStringLiteral("scene.json"));
+        scene.display = authored.node.size;
+        SceneNode node = authored.node;
+        const QPair<const char*, QByteArray> files[] = {{"PathData", authored.pathFile},
+                                                        {"DescentVector", authored.descentFile}};
+        for (const auto& [key, content] : files) {
+            node.files[QLatin1String(key)] = scenes.filePath(QLatin1String(key));
+            Demand(WriteWhole(scenes.filePath(QLatin1String(key)), content, &why));
+        }
+        scene.pages.append(ScenePage{{SceneArea{{node}}}});
+        return scene;
+    }
+
+    void AddPoster(const QVector<QByteArray>& pngs, int number)
+    {
+        const QImage sheet =
+            QImage::fromData(pngs.at(number / PictureSheets::picturesInSheet), "png")
+                .convertToFormat(QImage::Format_RGB32);
+        const int height = options.text.area.height();
+        posters.Add(
+            sheet.copy(0, number % PictureSheets::picturesInSheet * height, sheet.width(), height));
+    }
+
+    void Add(const QString& name, const QByteArray& content)
+    {
+        Demand(folder.Add(name, content, &why));
+    }
+
+    const GalleryOptions& options;
+    Player* player;
+    GalleryWatch watch;
+    GalleryFolder folder;
+    QTemporaryDir scenes;
+    PictureSheets posters;
+    QString why;
+    int done = 0;
+    const int all = speedCount * (Effects().size() + Scrolls().size());
+};
+
+} // namespace
+
+bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWatch& watch,
+                  qint64* bytes, QString* error)
+{
+    LoadPage();
+    GalleryWriter writer(options, player, watch);
+    const bool succeeded = writer.Write(error);
+    *bytes = writer.Bytes();
+    return succeeded;
+}
+
+} // namespace AnimText

@@ -1,0 +1,63 @@
+#include "gallery/motionplay.h"
+
+#include "player/playlength.h"
+
+namespace AnimText {
+
+namespace {
+
+void Show(const QImage& picture, PictureSheets* sheets, MotionPlay* play)
+{
+    const int number = sheets->Add(picture);
+    if (play->runs.isEmpty() || play->runs.last().picture != number)
+        play->runs.append({number, 0});
+    ++play->runs.last().ticks;
+    ++play->ticks;
+}
+
+/** The same picture for one tick more. */
+void ShowOn(MotionPlay* play)
+{
+    ++play->runs.last().ticks;
+    ++play->ticks;
+}
+
+} // namespace
+
+bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
+                PictureSheets* sheets, MotionPlay* play, QString* error)
+{
+    *play = MotionPlay();
+    if (!player->Load(scene, error))
+        return false;
+    play->told = player->Durations().first();
+    player->Start(seed);
+    Show(player->Picture(), sheets, play);
+
+    QVector<int> pictures{0};
+    const bool isDevices = player->Scenery().ScrollsSideways(0);
+    const qint64 pass = isDevices ? ScrollPass(player->Scenery(), 0) : 0;
+    const int longest = isDevices ? int(pass / tickLength) : LongestPlay(scene);
+    while (player->Tick() < longest && (isDevices || player->State(0) == 1)) {
+        player->Advance();
+        if (!goOn()) {
+            *error = QStringLiteral("interrupted");
+            return false;
+        }
+        if (player->Swapped(0))
+            pictures.append(player->Tick());
+        if (isDevices || player->Swapped(0))
+            Show(player->Picture(), sheets, play);
+        else
+            ShowOn(play);
+    }
+    if (!isDevices) {
+        play->real = player->Time();
+        const SceneNode& node = *scene.Nodes().first();
+        if (node.attributes.value(QStringLiteral("EffectType")).toInt() == 0)
+            play->pages = PageTimes(pictures, player->Tick());
+    }
+    return true;
+}
+
+} // namespace AnimText

@@ -1,0 +1,43 @@
+/**
+ * @file
+ * One play of a motion, as the gallery shows it.
+ */
+#ifndef ANIMTEXT_MOTIONPLAY_H
+#define ANIMTEXT_MOTIONPLAY_H
+
+#include "gallery/picturesheets.h"
+#include "player/pagetimes.h"
+#include "player/player.h"
+
+#include <functional>
+
+namespace AnimText {
+
+/** A picture and for how many ticks it is seen. */
+struct PictureRun
+{
+    int picture;
+    int ticks;
+};
+
+struct MotionPlay
+{
+    QVector<PictureRun> runs;
+    QVector<PageTime> pages; ///< none where the text is not cut into pages
+    int ticks = 0;           ///< of all runs
+    qint64 told = 0;         ///< what the host is told that it takes, milliseconds
+    qint64 real = -1;        ///< what it took until it was finished; -1: the device scrolls on
+};
+
+/**
+ * Plays @p scene, which has one text, from its start to its end, or once through its area where the
+ * device scrolls it. Its pictures are added to @p sheets.
+ * @param goOn asked at every tick; false breaks off
+ * @return false, with one line in @p error, when it cannot be played
+ */
+bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
+                PictureSheets* sheets, MotionPlay* play, QString* error);
+
+} // namespace AnimText
+
+#endif

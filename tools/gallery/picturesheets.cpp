@@ -1,0 +1,46 @@
+#include "gallery/picturesheets.h"
+
+#include "player/stillfile.h"
+
+#include <QCryptographicHash>
+#include <QPainter>
+
+namespace AnimText {
+
+int PictureSheets::Add(const QImage& picture)
+{
+    const QByteArray bytes = QByteArray::fromRawData(
+        reinterpret_cast<const char*>(picture.constBits()), int(picture.sizeInBytes()));
+    const QByteArray digest = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+    const auto found = known.constFind(digest);
+    if (found != known.constEnd())
+        return *found;
+    const int number = known.size();
+    known.insert(digest, number);
+    open.append(picture);
+    if (open.size() == picturesInSheet)
+        CloseSheet();
+    return number;
+}
+
+QVector<QByteArray> PictureSheets::Finish()
+{
+    if (!open.isEmpty())
+        CloseSheet();
+    return sheets;
+}
+
+void PictureSheets::CloseSheet()
+{
+    const QSize size = open.first().size();
+    QImage sheet(size.width(), size.height() * open.size(), QImage::Format_RGB32);
+    sheet.fill(Qt::black);
+    QPainter painter(&sheet);
+    for (int i = 0; i < open.size(); ++i)
+        painter.drawImage(0, i * size.height(), open.at(i));
+    painter.end();
+    sheets.append(PngOf(sheet, false, PngEffort::Small));
+    open.clear();
+}
+
+} // namespace AnimText

@@ -1,0 +1,37 @@
+/**
+ * @file
+ * Many small pictures of one size in a few large ones, as a web page shows them best.
+ */
+#ifndef ANIMTEXT_PICTURESHEETS_H
+#define ANIMTEXT_PICTURESHEETS_H
+
+#include <QByteArray>
+#include <QHash>
+#include <QImage>
+#include <QVector>
+
+namespace AnimText {
+
+/** Pictures that are alike are kept once. */
+class PictureSheets
+{
+public:
+    /** How many pictures stand in a sheet, one below another; the last sheet may have fewer. */
+    static constexpr int picturesInSheet = 64;
+
+    /** The number of @p picture, which is of the same size as all others. */
+    int Add(const QImage& picture);
+    /** All sheets as PNGs; nothing can be added any more. */
+    QVector<QByteArray> Finish();
+
+private:
+    void CloseSheet();
+
+    QHash<QByteArray, int> known; // numbers by digest
+    QVector<QImage> open;         // of the sheet that is not full yet
+    QVector<QByteArray> sheets;
+};
+
+} // namespace AnimText
+
+#endif
