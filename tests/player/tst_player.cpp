@@ -1,4 +1,5 @@
 #include "player/film.h"
+#include "player/pagetimes.h"
 #include "player/plugin.h"
 #include "player/simulation.h"
 #include "player/videofile.h"
@@ -108,6 +109,29 @@ private slots:
                 swaps.append(QString::number(player->Tick()));
         QCOMPARE(swaps.join(' '), QString(play.swaps));
         QCOMPARE(player->Time(), 11 * 66);
+    }
+
+    void tellsPagesByTheTicksWithoutPictures_data()
+    {
+        QTest::addColumn<QVector<int>>("pictures");
+        QTest::addColumn<int>("end");
+        QTest::addColumn<QString>("pages");
+        QTest::newRow("none") << QVector<int>{} << 9 << "";
+        QTest::newRow("one picture") << QVector<int>{3} << 9 << "3-3-9 ";
+        QTest::newRow("one that moves") << QVector<int>{0, 2, 4} << 20 << "0-4-20 ";
+        QTest::newRow("two") << QVector<int>{0, 1, 2, 5, 6} << 9 << "0-2-5 5-6-9 ";
+        QTest::newRow("still ones") << QVector<int>{0, 30, 60} << 90 << "0-0-30 30-30-60 60-60-90 ";
+        QTest::newRow("slowest of all") << QVector<int>{0, 10, 20} << 30 << "0-20-30 ";
+    }
+
+    void tellsPagesByTheTicksWithoutPictures()
+    {
+        QFETCH(QVector<int>, pictures);
+        QFETCH(int, end);
+        QString told;
+        for (const PageTime& page : PageTimes(pictures, end))
+            told += QString("%1-%2-%3 ").arg(page.from).arg(page.entered).arg(page.until);
+        QTEST(told, "pages");
     }
 
     void findsTheTextLayer_data()

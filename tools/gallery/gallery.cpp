@@ -162,10 +162,6 @@ private:
         AuthorOptions text = options.text;
         text.mode = mode;
         text.motion = motion.number;
-        AuthoredNode authored;
-        Demand(AuthorNode(text, &authored, &why));
-        Scene scene = Stage(authored);
-
         GalleryEntry entry;
         entry.motion = &motion;
         const char* const directions[] = {"left", "right", "up", "down"};
@@ -174,9 +170,11 @@ private:
                 ? QStringLiteral("--effect %1").arg(QLatin1String(motion.name))
                 : QStringLiteral("--scroll %1").arg(QLatin1String(directions[motion.number]));
         PictureSheets sheets;
-        SceneNode& node = scene.pages.first().areas.first().nodes.first();
         for (int speed : speedsInOrder) {
-            node.attributes[QStringLiteral("AnimationSpeed")] = speed;
+            text.speed = speed;
+            AuthoredNode authored;
+            Demand(AuthorNode(text, &authored, &why));
+            const Scene scene = Stage(authored);
             const auto goOn = [this] { return watch(done, all); };
             Demand(
                 PlayMotion(player, scene, options.seed, goOn, &sheets, &entry.plays[speed], &why));

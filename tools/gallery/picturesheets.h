@@ -10,6 +10,9 @@
 #include <QImage>
 #include <QVector>
 
+#include <future>
+#include <vector>
+
 namespace AnimText {
 
 /** Pictures that are alike are kept once. */
@@ -29,7 +32,7 @@ private:
 
     QHash<QByteArray, int> known; // numbers by digest
     QVector<QImage> open;         // of the sheet that is not full yet
-    QVector<QByteArray> sheets;
+    std::vector<std::future<QByteArray>> sheets;
 };
 
 } // namespace AnimText

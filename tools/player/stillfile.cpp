@@ -56,7 +56,7 @@ QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
     QImage indexed = Indexed(picture);
     if (effort == PngEffort::Small && indexed.colorCount() == 2)
         indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
-    writer.setCompression(effort == PngEffort::Small ? 100 : 11); // levels 9 and 1 of zlib
+    writer.setCompression(effort == PngEffort::Small ? 67 : 11); // levels 6 and 1 of zlib
     return writer.write(indexed) ? png : QByteArray();
 }
 

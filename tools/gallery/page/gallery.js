@@ -7,7 +7,7 @@ const runs = new Map(); // by motion: for each speed where its pictures begin, s
 
 const byId = (id) => document.getElementById(id);
 const lessMotion = matchMedia("(prefers-reduced-motion: reduce)");
-const state = { speed: 5, paused: lessMotion.matches };
+const state = { speed: 8, paused: lessMotion.matches };
 const restAfterEnd = 15; // ticks for which a play's last picture stands before it starts again
 
 function make(name, properties = {}, ...children) {
@@ -161,7 +161,7 @@ class Card {
     const { pages, ticks } = this.motion.speeds[state.speed];
     const page = pages.length ? pages[0][1] - pages[0][0] + 1 : ticks;
     this.ticks.textContent =
-      `${page} ticks ${pages.length ? "a page" : "in all"} · ${inSeconds(page)} s`;
+      `${page} ticks ${pages.length ? "a page" : "in all"} · ${(page * gallery.tick / 1000).toFixed(1)} s`;
   }
 
   restart() {
