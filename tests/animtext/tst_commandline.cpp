@@ -134,7 +134,8 @@ private slots:
         refused("animtext trace one.json --ticks", 2, "--ticks takes N, which is missing");
         refused("animtext trace one.json --calls=yes", 2, "--calls takes no value");
         refused("animtext trace one.json --plugin ''", 2, "--plugin takes the name of a file");
-        refused("animtext trace none.json", 2, "none.json: expected a scene file, found no such file");
+        refused("animtext trace none.json", 2,
+                "none.json: expected a scene file, found no such file");
         refused("animtext trace bad.json", 2, "bad.json: $.pages: expected a list");
         refused("animtext trace - </dev/null", 2, "-:1:1: expected valid JSON");
         refused("animtext trace one.json --plugin none.so", 1, "there is no plugin at");

@@ -70,8 +70,8 @@ const QVector<Command>& Commands()
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
         commands = {AuthorCommand(),   ListCommand(),  SetCommand(),     RemoveCommand(),
                     RenderCommand(),   SheetCommand(), TraceCommand(),   DurationCommand(),
-                    ValidateCommand(), SoakCommand(),  EffectsCommand(), FontsCommand(), GalleryCommand(),
-                    completion};
+                    ValidateCommand(), SoakCommand(),  EffectsCommand(), FontsCommand(),
+                    GalleryCommand(),  completion};
         Command help{"help",
                      "tells of a command",
                      "[COMMAND]",

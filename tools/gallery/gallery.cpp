@@ -1,7 +1,7 @@
 #include "gallery/gallery.h"
 
-#include "gallery/galleryfolder.h"
 #include "gallery/motionplay.h"
+#include "player/wholefolder.h"
 #include "scene/catalogue.h"
 #include "scene/wholefile.h"
 
@@ -39,6 +39,14 @@ struct GalleryEntry
     MotionPlay plays[speedCount];
     int sheets = 0;
 };
+
+/** A gallery is known by its script; what stands beside one belongs to it. */
+QString ForeignFile(const QDir& folder)
+{
+    const QStringList names =
+        folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    return names.contains(QStringLiteral("gallery.js")) ? QString() : names.value(0);
+}
 
 QByteArray Script(const char* function, const QJsonObject& object)
 {
@@ -133,7 +141,7 @@ private:
 
     void WriteAll()
     {
-        Demand(folder.Open(&why));
+        Demand(folder.Open(ForeignFile, &why));
         QJsonArray motions;
         for (const Motion& motion : Effects())
             motions.append(WriteMotion(Mode::Entrance, motion));
@@ -225,7 +233,7 @@ private:
     const GalleryOptions& options;
     Player* player;
     GalleryWatch watch;
-    GalleryFolder folder;
+    WholeFolder folder;
     QTemporaryDir scenes;
     PictureSheets posters;
     QString why;

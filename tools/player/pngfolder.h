@@ -6,8 +6,7 @@
 #define ANIMTEXT_PNGFOLDER_H
 
 #include "player/filmfile.h"
-
-#include <QTemporaryDir>
+#include "player/wholefolder.h"
 
 #include <deque>
 #include <future>
@@ -37,9 +36,8 @@ private:
 
     bool WriteNext(QString* error);
 
-    QString path;
     FilmFormat format;
-    std::unique_ptr<QTemporaryDir> folder;
+    WholeFolder folder;
     std::deque<Page> waiting;
     QImage last; // and what has become of it: pages that stand are compressed once
     std::shared_future<QByteArray> lastPng;

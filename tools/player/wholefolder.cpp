@@ -1,9 +1,8 @@
-#include "gallery/galleryfolder.h"
+#include "player/wholefolder.h"
 
 #include "player/filmfile.h"
 #include "scene/wholefile.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <cerrno>
@@ -11,30 +10,22 @@
 
 namespace AnimText {
 
-namespace {
-
-// What a folder must hold to be taken for a gallery.
-const char markFile[] = "gallery.js";
-
-} // namespace
-
-GalleryFolder::GalleryFolder(const QString& path)
+WholeFolder::WholeFolder(const QString& path)
     : path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
 {
 }
 
-bool GalleryFolder::Open(QString* error)
+bool WholeFolder::Open(const std::function<QString(const QDir&)>& inTheWay, QString* error)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isDir()) {
         *error = QStringLiteral("%1 is a file; give the folder another name").arg(path);
         return false;
     }
-    if (info.exists() && !QDir(path).isEmpty() &&
-        !QFileInfo::exists(path + QLatin1Char('/') + QLatin1String(markFile))) {
-        *error = QStringLiteral("%1 holds other things; name an empty folder, a new one or an "
-                                "older gallery")
-                     .arg(path);
+    const QString foreign = info.exists() ? inTheWay(QDir(path)) : QString();
+    if (!foreign.isEmpty()) {
+        *error =
+            QStringLiteral("%1 also holds %2; name an empty or a new folder").arg(path, foreign);
         return false;
     }
     folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
@@ -45,7 +36,7 @@ bool GalleryFolder::Open(QString* error)
     return false;
 }
 
-bool GalleryFolder::Add(const QString& name, const QByteArray& content, QString* error)
+bool WholeFolder::Add(const QString& name, const QByteArray& content, QString* error)
 {
     QFile file(folder->filePath(name));
     if (QDir().mkpath(QFileInfo(file).path()) &&
@@ -58,10 +49,10 @@ bool GalleryFolder::Add(const QString& name, const QByteArray& content, QString*
     return false;
 }
 
-bool GalleryFolder::Finish(QString* error)
+bool WholeFolder::Finish(QString* error)
 {
-    const QString old = folder->path() + QStringLiteral(".old");
     const bool replaces = QFileInfo::exists(path);
+    const QString old = folder->path() + QStringLiteral(".old");
     if (replaces && !QDir().rename(path, old)) {
         *error = QStringLiteral("%1 cannot be replaced").arg(path);
         return false;
