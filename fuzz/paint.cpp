@@ -73,46 +73,89 @@ void ComparePolygon(Bytes bytes)
     fill.SetSize(width, height);
     Plane plane;
     plane.SetSize(width, height);
-    fill.Take(outline, 0, nullptr);
-    fill.Paint({0, 0, width, height}, plane);
+    fill.Paint(outline, Transform(), {0, 0, width, height}, plane);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
             if (plane.Has(x, y) != IsInside(polygon, x, y))
                 std::abort();
 }
 
+Outline AnyOutline(Bytes& bytes)
+{
+    Outline outline;
+    outline.fillRule = bytes.Next<uint8_t>() % 2 ? Outline::Winding : Outline::OddEven;
+    const bool closes = bytes.Next<uint8_t>() % 8 > 0; // as a font's glyphs
+    const unsigned most = bytes.Next<uint8_t>() % 64;
+    Point start = {0, 0};
+    while (bytes.size > 0 && outline.Size() < most) {
+        const int type = bytes.Next<uint8_t>() % 8;
+        float c[6];
+        for (float& v : c) // thirds, as of curves that were quadratic; 64ths; anything
+            v = type == 7   ? bytes.Next<float>()
+                : type >= 4 ? bytes.Next<int16_t>() / 64.0f
+                            : bytes.Next<int16_t>() / 1536.0f;
+        if (type == 0 || outline.Size() == 0) {
+            if (closes && outline.Size() > 0)
+                outline.LineTo(start.x, start.y);
+            start = {c[4], c[5]};
+            outline.MoveTo(c[4], c[5]);
+        } else if (type == 1) {
+            outline.LineTo(c[4], c[5]);
+        } else {
+            outline.CurveTo(c[0], c[1], c[2], c[3], c[4], c[5]);
+        }
+    }
+    if (closes && outline.Size() > 0)
+        outline.LineTo(start.x, start.y);
+    return outline;
+}
+
 void PaintAnything(Bytes bytes)
 {
     TextCanvas canvas;
-    TextCanvas kept;
     canvas.SetSize(1 + bytes.Next<uint16_t>() % 300, 1 + bytes.Next<uint8_t>() % 60);
-    kept.SetSize(width, height);
     const Box clip = {bytes.Next<int8_t>(), bytes.Next<int8_t>(), bytes.Next<int16_t>(), height};
     canvas.SetClip(clip);
-    Outline outline;
-    outline.fillRule = bytes.Next<uint8_t>() % 2 ? Outline::Winding : Outline::OddEven;
-    while (bytes.size > 0 && outline.Size() < 200) {
-        const int type = bytes.Next<uint8_t>() % 4;
-        float c[6];
-        for (float& v : c)
-            v = type == 3 ? bytes.Next<int16_t>() / 64.0f : bytes.Next<float>();
-        if (type == 0 || outline.Size() == 0)
-            outline.MoveTo(c[4], c[5]);
-        else if (type == 1)
-            outline.LineTo(c[4], c[5]);
-        else
-            outline.CurveTo(c[0], c[1], c[2], c[3], c[4], c[5]);
-        kept.Clear();
-        kept.DrawPath(outline);
-    }
-    canvas.DrawPath(outline);
+    canvas.DrawPath(AnyOutline(bytes));
+}
+
+/** Frames of a page painted glyph by glyph, in part from what is kept, and as one path. */
+void ComparePages(Bytes bytes)
+{
+    const std::vector<Glyph> glyphs = {Glyph(AnyOutline(bytes)), Glyph(AnyOutline(bytes))};
+    const int pageWidth = 32 << bytes.Next<uint8_t>() % 6;
+    TextCanvas canvas;
     TextCanvas plain;
-    plain.SetSize(width, height);
-    plain.SetClip({0, 0, width, height}); // keeps nothing
-    plain.DrawPath(outline);
-    for (int i = 0; i < width * height; ++i)
-        if (kept.Ink().Has(i % width, i / width) != plain.Ink().Has(i % width, i / width))
-            std::abort();
+    canvas.SetSize(pageWidth, height);
+    plain.SetSize(pageWidth, height);
+    float x[] = {0, 0};
+    float y[] = {0, 0};
+    Transform shape;
+    for (int frame = 0; frame < 24 && bytes.size > 0; ++frame) {
+        const int what = bytes.Next<uint8_t>() % 8;
+        const int moved = what / 4;
+        if (what % 4 == 0)
+            x[moved] = float(bytes.Next<uint16_t>() % (pageWidth + 60) - 30);
+        else if (what % 4 == 1)
+            y[moved] = float(bytes.Next<int8_t>() % 32);
+        else if (what % 4 == 2)
+            x[moved] += bytes.Next<int8_t>() / 8.0f;
+        else if (what == 3)
+            shape.rotate(float(bytes.Next<int8_t>()));
+        TextPath page;
+        for (int i = 0; i < 2; ++i)
+            page.Add(glyphs[size_t(i)], i, shape, x[i], y[i]);
+        for (int again = 0; again < 3; ++again) {
+            canvas.Clear();
+            canvas.DrawText(page);
+        }
+        plain.Clear();
+        plain.DrawPath(page.Path());
+        for (int at = 0; at < pageWidth * height; ++at)
+            if (canvas.Ink().Has(at % pageWidth, at / pageWidth) !=
+                plain.Ink().Has(at % pageWidth, at / pageWidth))
+                std::abort();
+    }
 }
 
 } // namespace
@@ -122,5 +165,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const Bytes bytes = {data, size};
     ComparePolygon(bytes);
     PaintAnything(bytes);
+    ComparePages(bytes);
     return 0;
 }

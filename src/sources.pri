@@ -11,11 +11,15 @@ HEADERS += \
     $$PWD/paint/farcutting.h \
     $$PWD/paint/fill.h \
     $$PWD/paint/fixedpoint.h \
+    $$PWD/paint/glyph.h \
+    $$PWD/paint/glyphcache.h \
     $$PWD/paint/hairline.h \
     $$PWD/paint/outline.h \
     $$PWD/paint/picturewriter.h \
     $$PWD/paint/plane.h \
+    $$PWD/paint/point.h \
     $$PWD/paint/textcanvas.h \
+    $$PWD/paint/textpath.h \
     $$PWD/paint/transform.h \
     $$PWD/plugin/export.h \
     $$PWD/plugin/hnodeanimationtext.h \
@@ -47,11 +51,14 @@ SOURCES += \
     $$PWD/node/textmetrics.cpp \
     $$PWD/paint/farcutting.cpp \
     $$PWD/paint/fill.cpp \
+    $$PWD/paint/glyph.cpp \
+    $$PWD/paint/glyphcache.cpp \
     $$PWD/paint/hairline.cpp \
     $$PWD/paint/outline.cpp \
     $$PWD/paint/picturewriter.cpp \
     $$PWD/paint/plane.cpp \
     $$PWD/paint/textcanvas.cpp \
+    $$PWD/paint/textpath.cpp \
     $$PWD/paint/transform.cpp \
     $$PWD/plugin/entrypoints.cpp \
     $$PWD/plugin/hnodeanimationtext.cpp \

@@ -9,7 +9,7 @@ namespace HNodeAnimationText {
 /** What is in textPath stands in its place; the character in flight is painted by itself. */
 void animationRealization::DrawFlight(int inFlight, double x, double y)
 {
-    canvas.DrawPath(textPath);
+    canvas.DrawText(textPath);
     DrawGlyph(inFlight, x, y);
     ShowFrame();
 }

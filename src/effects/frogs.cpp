@@ -45,20 +45,6 @@ QImage ReadFrog(int number)
     return frog;
 }
 
-// Of an outline that has elements, control points included.
-QRectF BoxOf(const Outline& outline)
-{
-    float left = outline.At(0).x, right = left;
-    float top = outline.At(0).y, bottom = top;
-    for (size_t i = 1; i < outline.Size(); ++i) {
-        left = qMin(left, outline.At(i).x);
-        right = qMax(right, outline.At(i).x);
-        top = qMin(top, outline.At(i).y);
-        bottom = qMax(bottom, outline.At(i).y);
-    }
-    return QRectF(QPointF(left, top), QPointF(right, bottom));
-}
-
 } // namespace
 
 /** The frog of one of the five frames, over the character that it brings. */
@@ -86,7 +72,7 @@ void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
     const int frame = qBound(0, moveOffset, framesPerCharacter - 1);
     if (BeginFrame()) {
         AddStanding();
-        canvas.DrawPath(textPath);
+        canvas.DrawText(textPath);
         drawCharacter(frame + 1);
         ShowFrame();
         DrawFrog(frame);
@@ -104,12 +90,14 @@ void animationRealization::EffectTopWithFrogAppearsVerbatim()
 {
     // A fifth of the character more in each frame, from its top downward.
     DrawFrogFrame([&](int fifths) {
-        if (!HasGlyph(charIndex) || charPaths.at(charIndex).IsEmpty())
+        if (!HasGlyph(charIndex) || charPaths.at(charIndex).Shape().IsEmpty())
             return;
         if (fifths < framesPerCharacter) {
             // A pixel more at the sides and above, for the outline's own width.
-            const Outline& glyph = charPaths.at(charIndex);
-            const QRectF box = BoxOf(glyph).translated(RestX(charIndex), RestY(charIndex));
+            const Bounds& glyph = charPaths.at(charIndex).Box();
+            const QRectF box =
+                QRectF(QPointF(glyph.left, glyph.top), QPointF(glyph.right, glyph.bottom))
+                    .translated(RestX(charIndex), RestY(charIndex));
             const QRectF shown(box.left() - 1, box.top() - 1, box.width() + 2,
                                box.height() * fifths / framesPerCharacter + 1);
             const QRect pixels = shown.toAlignedRect();

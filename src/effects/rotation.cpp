@@ -91,9 +91,8 @@ void animationRealization::Effect3DHorizontalRotation()
         const double q = k / pw; // a place in the row over its width in pixels: the slant
         const double fall = (1 - q) / 10 * (m - begin);
         transform.scale(1, float(closing ? 1 - fall : q + fall));
-        const int glyph = mirrored ? PageEnd() - 1 - k : j;
-        if (HasGlyph(glyph))
-            AddShapedGlyph(charPaths.at(glyph), float(GatherX(j, stretch)), float(ExactY(j)));
+        AddShapedGlyph(mirrored ? PageEnd() - 1 - k : j, float(GatherX(j, stretch)),
+                       float(ExactY(j)));
     });
     Advance(moveOffset, stepSize);
     if (moveOffset >= 42)

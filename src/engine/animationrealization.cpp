@@ -167,13 +167,15 @@ void animationRealization::TakeOutlines(const QVector<QPainterPath>& paths)
     charPaths.resize(qMin(paths.size(), text.size()));
     for (int i = 0; i < charPaths.size(); ++i) {
         const QPainterPath& path = paths.at(i);
-        Outline& outline = charPaths[i];
+        Outline outline;
         outline.fillRule = path.fillRule() == Qt::WindingFill ? Outline::Winding : Outline::OddEven;
         for (int k = 0; k < path.elementCount(); ++k) {
             const QPainterPath::Element& element = path.elementAt(k);
             outline.Add(float(element.x), float(element.y), Outline::Type(element.type));
         }
+        charPaths[i] = Glyph(outline);
     }
+    canvas.ForgetGlyphs();
 }
 
 void animationRealization::LoadFillPicture()

@@ -179,7 +179,6 @@ private:
     void AddGlyph(int j, double x, double y);
     void AddStanding();
     void AddShapedGlyph(int j, double x, double y);
-    void AddShapedGlyph(const Outline& glyph, double x, double y);
     void DrawGlyph(int j, double x, double y);
     int FrameWidth() const;
     int FrameHeight() const;
@@ -253,8 +252,8 @@ private:
     int pageIndex;
     int moveOffset;
     DrawNeonBg* neonBg;
-    QVector<Outline> charPaths;
-    Outline textPath;
+    QVector<Glyph> charPaths;
+    TextPath textPath;
     Outline auxPath;
     QVector<int> charDescents;
     QVector<int> charWidths;

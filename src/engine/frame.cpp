@@ -25,7 +25,7 @@ bool animationRealization::BeginFrame()
 
 void animationRealization::EndFrame()
 {
-    canvas.DrawPath(textPath);
+    canvas.DrawText(textPath);
     ShowFrame();
 }
 
@@ -50,7 +50,7 @@ bool animationRealization::HasGlyph(int j) const
 void animationRealization::AddGlyph(int j, double x, double y)
 {
     if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y))
-        textPath.Append(charPaths.at(j), float(x), float(y));
+        textPath.Add(charPaths.at(j), j, Transform(), float(x), float(y));
 }
 
 /** The characters of the page that have come to rest: those before charIndex. */
@@ -63,21 +63,17 @@ void animationRealization::AddStanding()
 /** The glyph mapped through transform, about the left end of its baseline. */
 void animationRealization::AddShapedGlyph(int j, double x, double y)
 {
-    if (HasGlyph(j))
-        AddShapedGlyph(charPaths.at(j), x, y);
-}
-
-void animationRealization::AddShapedGlyph(const Outline& glyph, double x, double y)
-{
-    if (qIsFinite(x) && qIsFinite(y) && transform.IsFinite())
-        textPath.Append(transform.map(glyph), float(x), float(y));
+    if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y) && transform.IsFinite())
+        textPath.Add(charPaths.at(j), j, transform, float(x), float(y));
 }
 
 /** Paints the glyph by itself, with its own fill rule. */
 void animationRealization::DrawGlyph(int j, double x, double y)
 {
-    if (HasGlyph(j))
-        canvas.DrawPath(charPaths.at(j).Translated(float(x), float(y)));
+    if (!HasGlyph(j))
+        return;
+    const TextPath::Item item = {&charPaths.at(j), j, Transform(), float(x), float(y)};
+    canvas.DrawGlyph(item);
 }
 
 /** How far the k-th character of the page has come when each starts a step after the one before. */

@@ -2,6 +2,7 @@
 #define CURVES_H
 
 #include "paint/fixedpoint.h"
+#include "paint/point.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -11,13 +12,6 @@ struct Place
 {
     int32_t x;
     int32_t y;
-};
-
-/** In pixels, as the hairline computes. */
-struct Point
-{
-    float x;
-    float y;
 };
 
 inline Place Middle(const Place& a, const Place& b)

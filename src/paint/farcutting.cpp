@@ -3,6 +3,8 @@
 // its order and precision.
 #include "paint/farcutting.h"
 
+#include "paint/point.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -496,37 +498,29 @@ Outline PathAround(const Rectangle& r)
 
 } // namespace
 
-Bounds::Bounds(const Outline& outline)
+Bounds::Bounds(const Point* points, size_t count)
     : left(0)
     , top(0)
     , right(0)
     , bottom(0)
 {
-    if (outline.Size() == 0)
+    if (count == 0)
         return;
-    float x0 = outline.At(0).x;
+    float x0 = points[0].x;
     float x1 = x0;
-    float y0 = outline.At(0).y;
+    float y0 = points[0].y;
     float y1 = y0;
-    for (size_t i = 1; i < outline.Size(); ++i) {
-        const Element& e = outline.At(i);
-        x0 = std::min(x0, e.x);
-        x1 = std::max(x1, e.x);
-        y0 = std::min(y0, e.y);
-        y1 = std::max(y1, e.y);
+    for (size_t i = 1; i < count; ++i) {
+        const Point p = points[i];
+        x0 = std::min(x0, p.x);
+        x1 = std::max(x1, p.x);
+        y0 = std::min(y0, p.y);
+        y1 = std::max(y1, p.y);
     }
     left = x0;
     top = y0;
     right = x1;
     bottom = y1;
-}
-
-void Bounds::Unite(const Bounds& other)
-{
-    left = std::min(left, other.left);
-    right = std::max(right, other.right);
-    top = std::min(top, other.top);
-    bottom = std::max(bottom, other.bottom);
 }
 
 bool Bounds::AreFar() const

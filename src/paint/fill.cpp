@@ -73,9 +73,11 @@ void Edges<Sink>::Line(Place a, Place b)
     const int32_t below = Difference(ShiftedLeft(top, 16), ShiftedLeft(a.y, 10));
     const int32_t moved = static_cast<int32_t>((int64_t(step) * below) >> 16);
     Run run = {Sum(start, moved), step, top, bottom, winding};
-    const int32_t last = Sum(run.x, Product(step, bottom - top));
+    const int64_t last = run.x + int64_t(step) * (bottom - top);
     const bool isInside = run.x > left && run.x < right && last > left && last < right; // most are
-    if (isInside || (CutAtBorder(left, false, run) && CutAtBorder(right, true, run)))
+    if (isInside)
+        sink.AddInside(run, static_cast<int32_t>(last));
+    else if (CutAtBorder(left, false, run) && CutAtBorder(right, true, run))
         sink.Add(run);
 }
 
@@ -168,6 +170,13 @@ void Edges<Sink>::Curve(const Place& a, const Place& b, const Place& c, const Pl
     }
 }
 
+/** Of a plane's words and rows. */
+Box NothingIn(const Plane& plane)
+{
+    const Box nothing = {static_cast<int>(plane.Stride()), plane.Height(), 0, 0};
+    return nothing;
+}
+
 void ExclusiveOr(Word& word, Word& inside)
 {
     // The bits of a word from each set one to the next, by a running exclusive or.
@@ -189,73 +198,59 @@ void ExclusiveOr(Word& word, Word& inside)
 class Fill::Flips
 {
 public:
-    Flips(const Box& box, Plane& scratch)
+    Flips(const Box& box, Plane& plane, Box& touched)
         : clip(box)
-        , flips(scratch)
-        , first(box.right / Plane::wordBits)
-        , last(box.left / Plane::wordBits)
-        , top(box.bottom)
-        , bottom(box.top)
+        , flips(plane)
+        , flipped(touched)
     {
     }
 
+    const Box& Clip() const { return clip; }
     void Add(const Run& run);
-    /** Sets (or inverts) what lies between flips, and takes these away. */
-    void PourInto(Plane& plane, bool invert);
+    void AddInside(const Run& run, int32_t last);
 
 private:
-    void Flip(Word* row, int column)
+    static void Flip(Word* row, int column)
     {
         const unsigned x = static_cast<unsigned>(column);
         row[x / Plane::wordBits] ^= Word(1) << x % Plane::wordBits;
     }
+    void Touch(const Run& run, int firstColumn, int lastColumn);
 
     Box clip;
     Plane& flips;
-    int first; // words
-    int last;
-    int top;
-    int bottom;
+    Box& flipped;
 };
+
+void Fill::Flips::Touch(const Run& run, int firstColumn, int lastColumn)
+{
+    flipped.left = std::min(flipped.left, firstColumn / Plane::wordBits);
+    flipped.right = std::max(flipped.right, lastColumn / Plane::wordBits + 1);
+    flipped.top = std::min(flipped.top, run.top);
+    flipped.bottom = std::max(flipped.bottom, run.bottom + 1);
+}
 
 void Fill::Flips::Add(const Run& run)
 {
-    const int64_t end = run.x + int64_t(run.step) * (run.bottom - run.top);
-    int low = run.x >> 16;
-    int high = static_cast<int>(std::max<int64_t>(-1, std::min<int64_t>(end >> 16, 1 << 16)));
-    if (low > high)
-        std::swap(low, high);
-    const bool mayLeave = low < clip.left || high > clip.right;
-    low = std::max(low, clip.left);
-    high = std::min(high, clip.right);
-    first = std::min(first, mayLeave ? clip.left / Plane::wordBits : low / Plane::wordBits);
-    last = std::max(last, mayLeave ? clip.right / Plane::wordBits : high / Plane::wordBits);
-    top = std::min(top, run.top);
-    bottom = std::max(bottom, run.bottom + 1);
-
+    Touch(run, clip.left, clip.right);
     Word* row = flips.Row(run.top);
     int32_t x = run.x;
     for (int y = run.top; y <= run.bottom; ++y, row += flips.Stride()) {
-        const int column = x >> 16;
-        Flip(row, mayLeave ? std::max(clip.left, std::min(column, clip.right)) : column);
+        Flip(row, std::max(clip.left, std::min(x >> 16, clip.right)));
         x = Sum(x, run.step);
     }
 }
 
-void Fill::Flips::PourInto(Plane& plane, bool invert)
+/** A run that stays between the borders. */
+void Fill::Flips::AddInside(const Run& run, int32_t last)
 {
-    for (int y = top; y < bottom; ++y) {
-        Word* from = flips.Row(y);
-        Word* to = plane.Row(y);
-        Word inside = 0;
-        for (int i = first; i <= last; ++i) {
-            Word bits = from[i];
-            from[i] = 0;
-            ExclusiveOr(bits, inside);
-            to[i] = invert ? to[i] ^ bits : to[i] | bits;
-        }
+    Touch(run, std::min(run.x, last) >> 16, std::max(run.x, last) >> 16);
+    Word* row = flips.Row(run.top);
+    int32_t x = run.x;
+    for (int y = run.top; y <= run.bottom; ++y, row += flips.Stride()) {
+        Flip(row, x >> 16);
+        x = Sum(x, run.step);
     }
-    plane.MarkRows(top, bottom);
 }
 
 /** For all others: the crossings themselves. */
@@ -268,6 +263,8 @@ public:
     {
     }
 
+    const Box& Clip() const { return clip; }
+    void AddInside(const Run& run, int32_t) { Add(run); }
     void Add(const Run& run)
     {
         int32_t x = run.x;
@@ -286,8 +283,7 @@ private:
 
 Fill::Fill()
     : picture()
-    , bounds(Outline())
-    , hasGaps(false)
+    , flipped()
 {
 }
 
@@ -296,67 +292,69 @@ void Fill::SetSize(int width, int height)
     const Box box = {0, 0, width, height};
     picture = box;
     flips.SetSize(width, height);
+    flipped = NothingIn(flips);
 }
 
-void Fill::Close(const Outline& outline, size_t from)
+void Fill::Close(const Outline& outline)
 {
     closed.Clear();
     closed.fillRule = outline.fillRule;
     size_t start = 0;
-    for (size_t i = from; i <= outline.Size(); ++i) {
+    for (size_t i = 0; i <= outline.Size(); ++i) {
         const bool atEnd = i == outline.Size();
-        if (i > from && (atEnd || outline.At(i).type == Outline::Move)) {
+        if (i > 0 && (atEnd || outline.At(i).type == Outline::Move)) {
             // Small gaps stay open.
             const Outline::Element first = closed.At(start);
             if (!NearlyEqual(closed.At(closed.Size() - 1), first))
                 closed.LineTo(first.x, first.y);
             start = closed.Size();
         }
-        if (atEnd || (i + 1 == outline.Size() && outline.At(i).type == Outline::Move && i > from))
+        if (atEnd || (i + 1 == outline.Size() && outline.At(i).type == Outline::Move && i > 0))
             break;
         closed.Add(outline.At(i).x, outline.At(i).y, outline.At(i).type);
     }
 }
 
-void Fill::Take(const Outline& outline, size_t first, const Transform* transform)
+void Fill::MapClosed(const Transform& transform)
 {
-    Close(outline, first);
-    if (transform)
-        for (size_t i = 0; i < closed.Size(); ++i)
-            transform->map(closed.At(i).x, closed.At(i).y);
-    bounds = Bounds(closed);
+    mapped.resize(closed.Size());
+    if (!mapped.empty())
+        transform.map(closed, &mapped[0]);
 }
 
-void Fill::CutFar()
+void Fill::CutClosed()
 {
+    for (size_t i = 0; i < mapped.size(); ++i) {
+        closed.At(i).x = mapped[i].x;
+        closed.At(i).y = mapped[i].y;
+    }
     const Outline cut = CutToPicture(closed, picture);
     closed.Clear();
     if (!cut.IsEmpty())
-        Close(cut, 0);
+        Close(cut);
+    MapClosed(Transform());
 }
 
-void Fill::Convert()
+bool Fill::HasGaps() const
 {
-    places.resize(closed.Size());
-    hasGaps = false;
     size_t start = 0;
     for (size_t i = 0; i < places.size(); ++i) {
-        const Place place = {ToInt(closed.At(i).x * 64), ToInt(closed.At(i).y * 64)};
-        places[i] = place;
         if (closed.At(i).type == Outline::Move)
             start = i;
-        if (i + 1 == places.size() || closed.At(i + 1).type == Outline::Move)
-            hasGaps = hasGaps || place.x != places[start].x || place.y != places[start].y;
+        if ((i + 1 == places.size() || closed.At(i + 1).type == Outline::Move) &&
+            (places[i].x != places[start].x || places[i].y != places[start].y))
+            return true;
     }
+    return false;
 }
 
 template <typename Sink>
-void Fill::AddEdges(const Box& clip, Sink& sink) const
+void Fill::AddEdges(const Outline& outline, Sink& sink) const
 {
-    Edges<Sink> edges(clip, sink);
+    Edges<Sink> edges(sink.Clip(), sink);
     for (size_t i = 1; i < places.size(); ++i) {
         const Place* p = &places[i - 1];
-        switch (closed.At(i).type) {
+        switch (outline.At(i).type) {
         case Outline::Line: edges.Line(p[0], p[1]); break;
         case Outline::Curve:
             edges.Curve(p[0], p[1], p[2], p[3]);
@@ -367,36 +365,66 @@ void Fill::AddEdges(const Box& clip, Sink& sink) const
     }
 }
 
-void Fill::Paint(const Box& clip, Plane& ink)
+void Fill::Paint(const Outline& outline, const Transform& transform, const Box& clip, Plane& ink)
 {
-    if (bounds.AreFar())
-        CutFar();
-    Convert();
+    Close(outline);
+    MapClosed(transform);
+    if (!mapped.empty() && Bounds(&mapped[0], mapped.size()).AreFar())
+        CutClosed();
+    places.resize(mapped.size());
+    for (size_t i = 0; i < places.size(); ++i) {
+        const Place place = {ToInt(mapped[i].x * 64), ToInt(mapped[i].y * 64)};
+        places[i] = place;
+    }
     if (clip.IsEmpty() || places.size() < 3)
         return;
-    if (closed.fillRule == Outline::OddEven && !hasGaps) {
-        Flips quick(clip, flips);
-        AddEdges(clip, quick);
-        quick.PourInto(ink, false);
+    if (closed.fillRule == Outline::OddEven && !HasGaps()) {
+        Flips quick(clip, flips, flipped);
+        AddEdges(closed, quick);
+        PourFlips(ink, false);
         return;
     }
     crossings.clear();
     Crossings sorted(clip, crossings);
-    AddEdges(clip, sorted);
+    AddEdges(closed, sorted);
     PaintCrossings(ink);
 }
 
-bool Fill::Invert(Plane& plane)
+void Fill::Add(const Outline& outline, const Point* points)
 {
-    if (bounds.AreFar())
-        return false;
-    Convert();
-    if (hasGaps)
-        return false;
-    Flips quick(picture, flips);
-    AddEdges(picture, quick);
-    quick.PourInto(plane, true);
-    return true;
+    places.resize(outline.Size());
+    for (size_t i = 0; i < places.size(); ++i) {
+        const Place place = {static_cast<int32_t>(points[i].x * 64),
+                             static_cast<int32_t>(points[i].y * 64)};
+        places[i] = place;
+    }
+    Flips quick(picture, flips, flipped);
+    AddEdges(outline, quick);
+}
+
+void Fill::InvertInside(Plane& plane)
+{
+    PourFlips(plane, true);
+}
+
+/** Sets or inverts what lies between flips, and takes these away. */
+void Fill::PourFlips(Plane& plane, bool invert)
+{
+    for (int y = flipped.top; y < flipped.bottom; ++y) {
+        Word* from = flips.Row(y);
+        Word* to = plane.Row(y);
+        Word inside = 0;
+        for (int i = flipped.left; i < flipped.right; ++i) {
+            Word bits = from[i];
+            if ((bits | inside) == 0)
+                continue;
+            from[i] = 0;
+            ExclusiveOr(bits, inside);
+            to[i] = invert ? to[i] ^ bits : to[i] | bits;
+        }
+    }
+    plane.MarkRows(flipped.top, flipped.bottom);
+    flipped = NothingIn(flips);
 }
 
 void Fill::PaintCrossings(Plane& ink)
@@ -418,7 +446,7 @@ void Fill::PaintCrossings(Plane& ink)
 
 size_t Fill::Bytes() const
 {
-    return flips.Bytes() + places.capacity() * sizeof(Place) +
+    return flips.Bytes() + mapped.capacity() * sizeof(Point) + places.capacity() * sizeof(Place) +
            crossings.capacity() * sizeof(Crossing) + closed.Bytes();
 }
 

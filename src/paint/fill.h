@@ -12,10 +12,7 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-/**
- * The inside of outlines. Take() an outline, ask about it, then paint it: once.
- * A picture is at most 32767 pixels wide and high.
- */
+/** The inside of outlines. A picture is at most 32767 pixels wide and high. */
 class Fill
 {
 public:
@@ -24,21 +21,18 @@ public:
     void SetSize(int width, int height);
 
     /**
-     * The outline from its element @p first on, a move. It is finite and well formed; it is closed,
-     * and mapped through @p transform when there is one.
+     * All that is inside @p outline and within @p clip is set in @p ink. The outline is finite and
+     * well formed; it is closed, then mapped through @p transform.
      */
-    void Take(const Outline& outline, size_t first, const Transform* transform);
-    /** Of the outline in the picture, with its control points. */
-    const Bounds& OutlineBounds() const { return bounds; }
+    void Paint(const Outline& outline, const Transform& transform, const Box& clip, Plane& ink);
 
-    /** All that is inside and within @p clip is set in @p ink. */
-    void Paint(const Box& clip, Plane& ink);
     /**
-     * All that is inside by the odd-even rule is inverted in @p plane, so that outlines painted one
-     * by one look like one outline. False and nothing painted where that would not hold: far
-     * outlines are cut as a whole, and gaps between ends are not closed.
+     * Takes an outline to those that fill each other by the odd-even rule. It is well formed, each
+     * of its subpaths ends where it begins, and none of its elements, at @p points, is far out.
      */
-    bool Invert(Plane& plane);
+    void Add(const Outline& outline, const Point* points);
+    /** Inverts all in @p plane that is inside of what was taken, and takes anew. */
+    void InvertInside(Plane& plane);
 
     size_t Bytes() const;
 
@@ -57,19 +51,21 @@ private:
     class Flips;
     class Crossings;
 
-    void Close(const Outline& outline, size_t from);
-    void CutFar();
-    void Convert();
+    void Close(const Outline& outline);
+    void MapClosed(const Transform& transform);
+    void CutClosed();
+    bool HasGaps() const;
     template <typename Sink>
-    void AddEdges(const Box& clip, Sink& sink) const;
+    void AddEdges(const Outline& outline, Sink& sink) const;
+    void PourFlips(Plane& plane, bool invert);
     void PaintCrossings(Plane& ink);
 
     Box picture;
     Outline closed;
-    Bounds bounds;
+    std::vector<Point> mapped;
     std::vector<Place> places;
-    bool hasGaps;
-    Plane flips; // empty between two paintings
+    Plane flips; // empty once it is poured
+    Box flipped; // what of it is not: words and rows
     std::vector<Crossing> crossings;
 };
 

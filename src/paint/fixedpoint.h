@@ -15,6 +15,11 @@ struct Box
     int bottom;
 
     bool IsEmpty() const { return right <= left || bottom <= top; }
+    bool operator==(const Box& other) const
+    {
+        return left == other.left && top == other.top && right == other.right &&
+               bottom == other.bottom;
+    }
 };
 
 inline Box Intersection(const Box& a, const Box& b)

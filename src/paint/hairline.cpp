@@ -30,12 +30,10 @@ int32_t Fixed(float v)
     return ToInt(double(v) * 64.) + 31;
 }
 
-Point Mapped(const Outline::Element& e, const Transform* transform)
+/** The same of a number that an int can hold, 64 times as large too. */
+int32_t FixedWithin(float v)
 {
-    Point p = {e.x, e.y};
-    if (transform)
-        transform->map(p.x, p.y);
-    return p;
+    return static_cast<int32_t>(v * 64.f) + 31;
 }
 
 } // namespace
@@ -54,8 +52,8 @@ struct Hairline::Trace
     int32_t across;
     int32_t step;
 
-    /** False when the line has no length. */
-    bool Take(const Point& from, const Point& to);
+    /** In 1/64 pixel. False when the line has no length. */
+    bool Take(int32_t x1, int32_t y1, int32_t x2, int32_t y2);
     void AddCaps(unsigned caps);
     /** False when there is no pixel. */
     bool FindPixels();
@@ -75,12 +73,8 @@ struct Hairline::Trace
     void AddBeforeFirst();
 };
 
-inline bool Hairline::Trace::Take(const Point& from, const Point& to)
+inline bool Hairline::Trace::Take(int32_t x1, int32_t y1, int32_t x2, int32_t y2)
 {
-    int32_t x1 = Fixed(from.x);
-    int32_t y1 = Fixed(from.y);
-    int32_t x2 = Fixed(to.x);
-    int32_t y2 = Fixed(to.y);
     steep = Magnitude(x2 - x1) < Magnitude(y2 - y1);
     swapped = steep ? y1 > y2 : x1 > x2;
     if (swapped) {
@@ -151,6 +145,7 @@ Hairline::Hairline()
     , top(0)
     , right(0)
     , bottom(0)
+    , isWithin(false)
     , last()
     , direction(Rightward)
     , isAligned(false)
@@ -168,17 +163,25 @@ void Hairline::Begin(const Box& box, Plane& plane)
     direction = Rightward;
 }
 
-void Hairline::Draw(const Outline& outline, size_t first, const Transform* transform)
+void Hairline::Draw(const Outline& outline, const Point* points, const Bounds& box)
 {
     if (clip.IsEmpty())
         return;
-    while (first < outline.Size())
-        first = DrawSubpath(outline, first, transform);
-    ink->MarkRows(clip.top, clip.bottom);
+    // Pixels lie within one of the points; caps and rounding add a little.
+    const float margin = 3;
+    isWithin = box.left >= left + margin && box.right <= right - margin &&
+               box.top >= top + margin && box.bottom <= bottom - margin;
+    for (size_t begin = 0; begin < outline.Size();)
+        begin = DrawSubpath(outline, points, begin);
+    if (isWithin)
+        ink->MarkRows(static_cast<int>(box.top) - 2,
+                      std::min(static_cast<int>(box.bottom) + 3, clip.bottom));
+    else
+        ink->MarkRows(clip.top, clip.bottom);
 }
 
 /** Gives where the next one begins. */
-size_t Hairline::DrawSubpath(const Outline& outline, size_t begin, const Transform* transform)
+size_t Hairline::DrawSubpath(const Outline& outline, const Point* points, size_t begin)
 {
     size_t end = begin + 1;
     while (end < outline.Size() && outline.At(end).type != Outline::Move)
@@ -188,23 +191,18 @@ size_t Hairline::DrawSubpath(const Outline& outline, size_t begin, const Transfo
     const bool isClosed = first.x == outline.At(end - 1).x && first.y == outline.At(end - 1).y;
     // Of a move alone this is the way there from the subpath before, on the device too.
     if (isClosed && end > 1)
-        FollowClosing(Mapped(outline.At(end - 2), transform),
-                      Mapped(outline.At(end - 1), transform));
+        FollowClosing(points[end - 2], points[end - 1]);
     unsigned caps = isClosed ? NoCap : CapBegin;
-    Point p[4] = {Mapped(first, transform), Point(), Point(), Point()};
     for (size_t i = begin + 1; i < end; ++i) {
         const bool isCurve = outline.At(i).type == Outline::Curve;
-        const size_t points = isCurve ? 3 : 1;
-        for (size_t k = 0; k < points; ++k)
-            p[k + 1] = Mapped(outline.At(i + k), transform);
-        if (!isClosed && i + points == end)
+        const size_t last = isCurve ? i + 2 : i;
+        if (!isClosed && last + 1 == end)
             caps |= CapEnd;
         if (isCurve)
-            DrawCurve(p, curveHalvings, caps);
+            DrawCurve(points + i - 1, curveHalvings, caps);
         else
-            DrawLine(p[0], p[1], caps);
-        i += points - 1;
-        p[0] = p[points];
+            DrawLine(points[i - 1], points[i], caps);
+        i = last;
         caps = NoCap;
     }
     return end;
@@ -213,13 +211,10 @@ size_t Hairline::DrawSubpath(const Outline& outline, size_t begin, const Transfo
 /** The last line of a closed subpath, unpainted: what the first line goes on from. */
 void Hairline::FollowClosing(const Point& from, const Point& to)
 {
-    Point a = from;
-    Point b = to;
-    if (Clip(a, b))
-        return;
-    ForgetLast();
     Trace trace;
-    if (!trace.Take(a, b) || !trace.FindPixels())
+    const bool hasLength = TakeLine(from, to, trace);
+    ForgetLast();
+    if (!hasLength || !trace.FindPixels())
         return;
     last = trace.Last();
     direction = trace.direction;
@@ -283,12 +278,18 @@ bool Hairline::Clip(Point& a, Point& b)
     return false;
 }
 
-void Hairline::DrawLine(Point a, Point b, unsigned caps)
+/** False when nothing is left of the line, or it has no length. */
+inline bool Hairline::TakeLine(Point a, Point b, Trace& trace)
 {
-    if (Clip(a, b))
-        return;
+    if (isWithin)
+        return trace.Take(FixedWithin(a.x), FixedWithin(a.y), FixedWithin(b.x), FixedWithin(b.y));
+    return !Clip(a, b) && trace.Take(Fixed(a.x), Fixed(a.y), Fixed(b.x), Fixed(b.y));
+}
+
+void Hairline::DrawLine(const Point& a, const Point& b, unsigned caps)
+{
     Trace trace;
-    if (!trace.Take(a, b))
+    if (!TakeLine(a, b, trace))
         return;
     if (trace.swapped)
         caps = SwappedCaps(caps);
@@ -328,7 +329,7 @@ void Hairline::Paint(const Trace& trace)
     const Pixel high =
         trace.At(end - 1, Sum(trace.across, Product(end - 1 - trace.begin, trace.step)));
     int32_t across = trace.across;
-    if (!IsInClip(low) || !IsInClip(high)) {
+    if (!isWithin && (!IsInClip(low) || !IsInClip(high))) {
         for (int32_t along = trace.begin; along < end; ++along) {
             const Pixel p = trace.At(along, across);
             if (IsInClip(p))

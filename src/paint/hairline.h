@@ -4,7 +4,7 @@
 #include "paint/curves.h"
 #include "paint/outline.h"
 #include "paint/plane.h"
-#include "paint/transform.h"
+#include "paint/point.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -24,11 +24,8 @@ public:
     void SetDirection(Direction d) { direction = d; }
     Direction LastDirection() const { return direction; }
 
-    /**
-     * The well formed outline from its element @p first on, a move. Points are mapped through
-     * @p transform when there is one.
-     */
-    void Draw(const Outline& outline, size_t first, const Transform* transform);
+    /** The well formed outline, with its elements at @p points, which lie within @p box. */
+    void Draw(const Outline& outline, const Point* points, const Bounds& box);
 
 private:
     struct Pixel
@@ -38,10 +35,11 @@ private:
     };
     struct Trace;
 
-    size_t DrawSubpath(const Outline& outline, size_t begin, const Transform* transform);
+    size_t DrawSubpath(const Outline& outline, const Point* points, size_t begin);
     void FollowClosing(const Point& from, const Point& to);
-    void DrawLine(Point a, Point b, unsigned caps);
+    void DrawLine(const Point& a, const Point& b, unsigned caps);
     void DrawCurve(const Point* p, int level, unsigned caps);
+    bool TakeLine(Point a, Point b, Trace& trace);
     bool Clip(Point& a, Point& b);
     bool ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, float high);
     void DropOut(Trace& trace) const;
@@ -64,6 +62,7 @@ private:
     float top;
     float right;
     float bottom;
+    bool isWithin; // nothing of the outline is clipped, in these or in pixels
 
     Pixel last; // of the line before, without it x is -1
     Direction direction;

@@ -1,21 +1,9 @@
 #include "paint/outline.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace Lw {
 namespace HNodeAnimationText {
-
-namespace {
-
-// Elements have no padding; a zero with another sign is another number here.
-bool HasSameBits(const void* a, const void* b, size_t bytes)
-{
-    return std::memcmp(a, b, bytes) == 0;
-}
-
-} // namespace
 
 void Outline::Add(float x, float y, Type type)
 {
@@ -94,30 +82,6 @@ void Outline::Clear()
 {
     elements.clear();
     fillRule = OddEven;
-}
-
-size_t Outline::CommonSubpaths(const Outline& other) const
-{
-    const size_t size = std::min(elements.size(), other.elements.size());
-    size_t common = 0;
-    if (size > 0 && HasSameBits(&elements[0], &other.elements[0], size * sizeof(Element)))
-        common = size;
-    else
-        while (common < size &&
-               HasSameBits(&elements[common], &other.elements[common], sizeof(Element)))
-            ++common;
-    while (common > 0 && common < elements.size() && elements[common].type != Move)
-        --common;
-    return common;
-}
-
-Outline Outline::Part(size_t begin, size_t end) const
-{
-    Outline part;
-    part.fillRule = fillRule;
-    part.elements.assign(elements.begin() + std::ptrdiff_t(begin),
-                         elements.begin() + std::ptrdiff_t(end));
-    return part;
 }
 
 bool NearlyEqual(const Outline::Element& a, const Outline::Element& b)

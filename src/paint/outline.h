@@ -52,10 +52,6 @@ public:
     Element& At(size_t i) { return elements[i]; }
     void Add(float x, float y, Type type);
     void RemoveLast() { elements.pop_back(); }
-    /** The elements of the first subpaths that are those of @p other, bit for bit. */
-    size_t CommonSubpaths(const Outline& other) const;
-    /** The elements from @p begin up to but without @p end. */
-    Outline Part(size_t begin, size_t end) const;
 
     FillRule fillRule;
 

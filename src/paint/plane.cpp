@@ -10,7 +10,7 @@ void Plane::SetSize(int w, int h)
     width = std::max(w, 0);
     height = std::max(h, 0);
     stride = static_cast<size_t>(width) / wordBits + 1;
-    words.assign(stride * static_cast<size_t>(height), 0);
+    words.assign(stride * static_cast<size_t>(height) + 1, 0);
     inkTop = inkBottom = 0;
 }
 

@@ -10,7 +10,8 @@ namespace HNodeAnimationText {
 
 /**
  * A picture of one bit a pixel. The leftmost pixel of a word is its lowest bit; a row has room for
- * one bit beyond the picture, where runs that reach the right border end.
+ * one bit beyond the picture, where runs that reach the right border end. One word follows the last
+ * row.
  */
 class Plane
 {

@@ -1,6 +1,7 @@
 #include "paint/textcanvas.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -9,9 +10,28 @@ namespace {
 
 const int mostPixels = 32767; // wide and high: the device paints no further
 
+// Outlines that reach no further are not cut, however many of them one path has.
+const float nearEnough = 16000;
+
 bool IsPaintable(const Outline& path)
 {
     return !path.IsEmpty() && path.IsWellFormed() && path.IsFinite();
+}
+
+/** Whether the glyph, painted by itself, looks as it does in a path with others. */
+bool IsIndependent(const TextPath::Item& item)
+{
+    const Bounds& box = item.glyph->Box();
+    const Transform& t = item.shape;
+    const float x = std::max(std::fabs(box.left), std::fabs(box.right));
+    const float y = std::max(std::fabs(box.top), std::fabs(box.bottom));
+    return item.glyph->IsClosed() &&
+           std::fabs(t.m11()) * x + std::fabs(t.m21()) * y + std::fabs(t.dx()) +
+                   std::fabs(item.x) <=
+               nearEnough &&
+           std::fabs(t.m12()) * x + std::fabs(t.m22()) * y + std::fabs(t.dy()) +
+                   std::fabs(item.y) <=
+               nearEnough;
 }
 
 } // namespace
@@ -35,18 +55,26 @@ void TextCanvas::SetSize(int width, int height)
         pictureHeight = height;
         const Box box = {0, 0, std::min(width, mostPixels), std::min(height, mostPixels)};
         picture = box;
-        ink.SetSize(box.right, box.bottom);
+        Plane* const planes[] = {&ink, &inside, &keptInside, &keptHairlines};
+        for (size_t i = 0; i < sizeof planes / sizeof *planes; ++i)
+            planes[i]->SetSize(box.right, box.bottom);
         fill.SetSize(box.right, box.bottom);
-        kept.fill.SetSize(box.right, box.bottom);
-        kept.outline.SetSize(box.right, box.bottom);
-        ForgetKept();
+        cache.SetSize(box.right, box.bottom);
     }
     Clear();
+}
+
+void TextCanvas::SetHollow(bool hollow)
+{
+    if (isHollow != hollow)
+        cache.Forget();
+    isHollow = hollow;
 }
 
 void TextCanvas::Clear()
 {
     ink.Clear();
+    inside.Clear();
     clip = picture;
     isFirst = true;
 }
@@ -54,7 +82,6 @@ void TextCanvas::Clear()
 void TextCanvas::SetClip(const Box& rectangle)
 {
     clip = Intersection(picture, rectangle);
-    isFirst = false;
 }
 
 void TextCanvas::ResetClip()
@@ -62,116 +89,136 @@ void TextCanvas::ResetClip()
     clip = picture;
 }
 
+void TextCanvas::DrawText(const TextPath& text)
+{
+    if (picture.IsEmpty() || text.Size() == 0)
+        return;
+    if (!isFirst || !DrawOneByOne(text))
+        DrawPath(text.Path());
+    isFirst = false;
+}
+
+void TextCanvas::DrawGlyph(const TextPath::Item& item)
+{
+    const Outline& outline = item.glyph->Shape();
+    const bool isWinding = outline.fillRule == Outline::Winding;
+    if (!picture.IsEmpty() && clip == picture && IsIndependent(item)) {
+        GlyphCache::Finding found = cache.Find(item, isWinding, Rightward);
+        if (found.isWorthKeeping)
+            found.image = &PaintToKeep(item, isWinding, found.next);
+        if (found.image) {
+            GlyphCache::Unite(*found.image, GlyphCache::Inside, found.x, found.y, ink);
+            GlyphCache::Unite(*found.image, GlyphCache::Hairlines, found.x, found.y, ink);
+            return;
+        }
+    }
+    DrawPath(item.shape.map(outline).Translated(item.x, item.y));
+}
+
 void TextCanvas::DrawPath(const Outline& path)
 {
-    if (picture.IsEmpty() || !IsPaintable(path))
-        return;
-    if (!isFirst || !DrawFirst(path))
-        DrawPlain(path, 0);
-    isFirst = false;
+    DrawPath(path, Transform());
 }
 
 void TextCanvas::DrawPath(const Outline& path, const Transform& painterTransform)
 {
     isFirst = false;
     if (!picture.IsEmpty() && IsPaintable(path) && painterTransform.map(path).IsFinite())
-        DrawPlain(path, &painterTransform);
+        DrawPlain(path, painterTransform);
 }
 
-void TextCanvas::DrawPlain(const Outline& path, const Transform* painterTransform)
+void TextCanvas::DrawPlain(const Outline& path, const Transform& transform)
 {
-    if (!isHollow) {
-        fill.Take(path, 0, painterTransform);
-        fill.Paint(clip, ink);
-    }
+    if (!isHollow)
+        fill.Paint(path, transform, clip, ink);
+    points.resize(path.Size());
+    transform.map(path, &points[0]);
     hairline.Begin(clip, ink);
-    hairline.Draw(path, 0, painterTransform);
+    hairline.Draw(path, &points[0], Bounds(&points[0], points.size()));
 }
 
 /**
- * Paints the first path of a frame into the empty ink: what it has in common with that of the frame
- * before is kept, the rest is painted anew. False and no ink where it has to be painted as a whole.
+ * Paints the frame's first path, glyph by glyph: their insides invert each other. False and no ink
+ * where it has to be painted as a whole.
  */
-bool TextCanvas::DrawFirst(const Outline& path)
+bool TextCanvas::DrawOneByOne(const TextPath& text)
 {
-    if (path.fillRule != Outline::OddEven)
-        return false;
-    if (kept.isHollow != isHollow)
-        ForgetKept();
-    const size_t common = path.CommonSubpaths(kept.previous);
-    if (common < kept.size)
-        ForgetKept();
-    kept.isHollow = isHollow;
-    kept.previous = path;
-    if (kept.size < common && !Keep(path.Part(kept.size, common))) {
-        ForgetKept();
-        return false;
-    }
-    ink.Unite(kept.fill);
-    if (common < path.Size() && !isHollow) {
-        fill.Take(path, common, 0);
-        if (IsFarWithKept() || !fill.Invert(ink)) {
-            ink.Clear();
+    Direction direction = Rightward;
+    for (size_t i = 0; i < text.Size(); ++i) {
+        const TextPath::Item& item = text.At(i);
+        if (!IsIndependent(item)) {
+            fill.InvertInside(inside);
+            Clear();
             return false;
         }
+        GlyphCache::Finding found = cache.Find(item, false, direction);
+        if (found.isWorthKeeping)
+            found.image = &PaintToKeep(item, false, found.next);
+        if (found.image) {
+            GlyphCache::Invert(*found.image, GlyphCache::Inside, found.x, found.y, inside);
+            GlyphCache::Unite(*found.image, GlyphCache::Hairlines, found.x, found.y, ink);
+            direction = found.next;
+            continue;
+        }
+        const Outline& outline = item.glyph->Shape();
+        points.resize(outline.Size());
+        item.shape.map(outline, &points[0], item.x, item.y);
+        if (!isHollow)
+            fill.Add(outline, &points[0]);
+        PaintHairline(outline, ink, direction);
     }
-    ink.Unite(kept.outline);
-    if (common < path.Size()) {
-        hairline.Begin(picture, ink);
-        hairline.SetDirection(kept.direction);
-        hairline.Draw(path, common, 0);
-    }
+    fill.InvertInside(inside);
     return true;
 }
 
-/** Paints @p part after what is kept already. */
-bool TextCanvas::Keep(const Outline& part)
+/** Of the glyph whose points are there. */
+void TextCanvas::PaintHairline(const Outline& outline, Plane& plane, Direction& direction)
 {
-    if (!isHollow) {
-        fill.Take(part, 0, 0);
-        if (IsFarWithKept() || !fill.Invert(kept.fill))
-            return false;
-        Bounds bounds = fill.OutlineBounds();
-        if (kept.size > 0)
-            bounds.Unite(kept.bounds);
-        kept.bounds = bounds;
+    hairline.Begin(picture, plane);
+    hairline.SetDirection(direction);
+    hairline.Draw(outline, &points[0], Bounds(&points[0], points.size()));
+    direction = hairline.LastDirection();
+}
+
+/** The glyph alone; its hairline goes on in @p direction, which becomes the one that it leaves. */
+const GlyphCache::Image& TextCanvas::PaintToKeep(const TextPath::Item& item, bool isWinding,
+                                                 Direction& direction)
+{
+    const Outline& outline = item.glyph->Shape();
+    points.resize(outline.Size());
+    item.shape.map(outline, &points[0], item.x, item.y);
+    if (!isHollow && isWinding) {
+        fill.Paint(item.shape.map(outline).Translated(item.x, item.y), Transform(), picture,
+                   keptInside);
+    } else if (!isHollow) {
+        fill.InvertInside(inside); // what was taken before
+        fill.Add(outline, &points[0]);
+        fill.InvertInside(keptInside);
     }
-    hairline.Begin(picture, kept.outline);
-    hairline.SetDirection(kept.direction);
-    hairline.Draw(part, 0, 0);
-    kept.direction = hairline.LastDirection();
-    kept.size += part.Size();
-    return true;
+    PaintHairline(outline, keptHairlines, direction);
+    const GlyphCache::Image& image = cache.Keep(keptInside, keptHairlines, direction);
+    keptInside.Clear();
+    keptHairlines.Clear();
+    return image;
 }
 
-/** Whether what the fill has taken and what is kept would be cut together. */
-bool TextCanvas::IsFarWithKept() const
+const Plane& TextCanvas::Ink()
 {
-    Bounds bounds = fill.OutlineBounds();
-    if (kept.size > 0)
-        bounds.Unite(kept.bounds);
-    return bounds.AreFar();
-}
-
-void TextCanvas::ForgetKept()
-{
-    kept.previous.Clear();
-    kept.size = 0;
-    kept.fill.Clear();
-    kept.outline.Clear();
-    kept.direction = Rightward;
+    ink.Unite(inside);
+    inside.Clear();
+    return ink;
 }
 
 void TextCanvas::Write(PictureWriter::Format format, uint32_t argb, unsigned char* bits,
                        size_t bytesPerLine)
 {
-    writer.Write(ink, format, argb, bits, bytesPerLine, pictureWidth, pictureHeight);
+    writer.Write(Ink(), format, argb, bits, bytesPerLine, pictureWidth, pictureHeight);
 }
 
 size_t TextCanvas::Bytes() const
 {
-    return sizeof *this + ink.Bytes() + fill.Bytes() + kept.fill.Bytes() + kept.outline.Bytes() +
-           kept.previous.Bytes();
+    return sizeof *this + 4 * ink.Bytes() + fill.Bytes() + points.capacity() * sizeof(Point) +
+           cache.Bytes();
 }
 
 } // namespace HNodeAnimationText

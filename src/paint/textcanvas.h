@@ -2,10 +2,12 @@
 #define TEXTCANVAS_H
 
 #include "paint/fill.h"
+#include "paint/glyphcache.h"
 #include "paint/hairline.h"
 #include "paint/outline.h"
 #include "paint/picturewriter.h"
 #include "paint/plane.h"
+#include "paint/textpath.h"
 #include "paint/transform.h"
 
 namespace Lw {
@@ -18,12 +20,12 @@ namespace HNodeAnimationText {
  *
  *     canvas.SetSize(width, height);
  *     canvas.Clear();                      // for each frame
- *     canvas.DrawPath(page);               // one after the other, as with QPainter
- *     canvas.DrawPath(glyphInFlight);
+ *     canvas.DrawText(page);               // one after the other, as with QPainter
+ *     canvas.DrawGlyph(inFlight);
  *     canvas.Write(PictureWriter::Argb32, colour, bits, bytesPerLine);
  *
- * What the first paths of two frames in a row begin with is kept: the next frame paints only what
- * its first path has more. So characters that stand cost little. What is painted is the same.
+ * Glyphs are painted one by one and kept for other frames where the pixels are those of the whole
+ * path, painted anew; else that is what is painted.
  */
 class TextCanvas
 {
@@ -38,12 +40,19 @@ public:
     /** Begins a frame: no ink, no clip. */
     void Clear();
     /** Hollow text has its outline only. From the next path on. */
-    void SetHollow(bool hollow) { isHollow = hollow; }
+    void SetHollow(bool hollow);
     /** Only this rectangle is painted from now on, as after QPainter::setClipRect(). */
     void SetClip(const Box& rectangle);
     void ResetClip();
 
-    /** Fill by the outline's rule, then outline. Not finite or not well formed: paints nothing. */
+    /** Glyphs are told apart by their numbers until this is called. */
+    void ForgetGlyphs() { cache.Forget(); }
+
+    /** Fill, then outline, as one path. Not finite or not well formed: paints nothing. */
+    void DrawText(const TextPath& text);
+    /** A path of one glyph, filled by its own rule. */
+    void DrawGlyph(const TextPath::Item& item);
+    /** Fill by the outline's rule, then outline. */
     void DrawPath(const Outline& path);
     /** The same under a painter's transform: points are mapped, the pen stays a hairline. */
     void DrawPath(const Outline& path, const Transform& painterTransform);
@@ -56,36 +65,16 @@ public:
                size_t bytesPerLine);
 
     /** The frame's pixels with ink. */
-    const Plane& Ink() const { return ink; }
-    /** What the canvas holds, in bytes: by the size of the picture and of the longest path. */
+    const Plane& Ink();
+    /** What the canvas holds, in bytes. */
     size_t Bytes() const;
 
 private:
-    void DrawPlain(const Outline& path, const Transform* painterTransform);
-    bool DrawFirst(const Outline& path);
-    bool Keep(const Outline& part);
-    bool IsFarWithKept() const;
-    void ForgetKept();
-
-    // The first path of the frame before, and the fill and the outline of its first elements.
-    struct Kept
-    {
-        Outline previous;
-        size_t size; // of the elements that are painted here
-        bool isHollow;
-        Bounds bounds;
-        Plane fill;
-        Plane outline;
-        Direction direction; // in which the outline goes on
-
-        Kept()
-            : size(0)
-            , isHollow(false)
-            , bounds(Outline())
-            , direction(Rightward)
-        {
-        }
-    };
+    void DrawPlain(const Outline& path, const Transform& transform);
+    bool DrawOneByOne(const TextPath& text);
+    const GlyphCache::Image& PaintToKeep(const TextPath::Item& item, bool isWinding,
+                                         Direction& direction);
+    void PaintHairline(const Outline& outline, Plane& plane, Direction& direction);
 
     int pictureWidth; // as told; what is painted may be less
     int pictureHeight;
@@ -94,9 +83,13 @@ private:
     bool isHollow;
     bool isFirst;
     Plane ink;
+    Plane inside; // of the glyphs of the frame's first path
     Fill fill;
     Hairline hairline;
-    Kept kept;
+    std::vector<Point> points;
+    GlyphCache cache;
+    Plane keptInside; // a glyph alone; empty otherwise
+    Plane keptHairlines;
     PictureWriter writer;
 };
 

@@ -199,6 +199,40 @@ void Transform::map(float& x, float& y) const
     }
 }
 
+void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
+{
+    const size_t size = outline.Size();
+    switch (kind()) {
+    case None:
+        for (size_t i = 0; i < size; ++i) {
+            to[i].x = outline.At(i).x + dx;
+            to[i].y = outline.At(i).y + dy;
+        }
+        break;
+    case Translating:
+        for (size_t i = 0; i < size; ++i) {
+            to[i].x = outline.At(i).x + tx + dx;
+            to[i].y = outline.At(i).y + ty + dy;
+        }
+        break;
+    case Scaling:
+        for (size_t i = 0; i < size; ++i) {
+            to[i].x = a11 * outline.At(i).x + tx + dx;
+            to[i].y = a22 * outline.At(i).y + ty + dy;
+        }
+        break;
+    case Rotating:
+    case Shearing:
+        for (size_t i = 0; i < size; ++i) {
+            const float x = outline.At(i).x;
+            const float y = outline.At(i).y;
+            to[i].x = a11 * x + a21 * y + tx + dx;
+            to[i].y = a12 * x + a22 * y + ty + dy;
+        }
+        break;
+    }
+}
+
 Outline Transform::map(const Outline& outline) const
 {
     Outline mapped(outline);
@@ -212,6 +246,12 @@ Outline Transform::map(const Outline& outline) const
 bool Transform::IsFinite() const
 {
     return a11 * 0 + a12 * 0 + a21 * 0 + a22 * 0 + tx * 0 + ty * 0 == 0;
+}
+
+bool Transform::operator==(const Transform& other) const
+{
+    return kind() == other.kind() && a11 == other.a11 && a12 == other.a12 && a21 == other.a21 &&
+           a22 == other.a22 && tx == other.tx && ty == other.ty;
 }
 
 } // namespace HNodeAnimationText

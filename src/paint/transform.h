@@ -2,6 +2,7 @@
 #define TRANSFORM_H
 
 #include "paint/outline.h"
+#include "paint/point.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -24,10 +25,16 @@ public:
 
     /** In place. */
     void map(float& x, float& y) const;
+    /** As many points as the outline has elements, each moved by (@p dx, @p dy) thereafter. */
+    void map(const Outline& outline, Point* to, float dx = 0, float dy = 0) const;
     Outline map(const Outline& outline) const;
 
+    /** Points stay where they are. */
+    bool IsIdentity() const { return kind() == None; }
     /** No element is infinite or no number. */
     bool IsFinite() const;
+    /** Maps points the same way, bit for bit. */
+    bool operator==(const Transform& other) const;
 
     float m11() const { return a11; }
     float m12() const { return a12; }

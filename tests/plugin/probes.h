@@ -116,7 +116,7 @@ inline QString CornersOf(const Lw::HNodeAnimationText::Outline& path)
 /** Of the glyphs that a frame collects: the one place that knows what they are kept in. */
 inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
 {
-    return CornersOf(engine.textPath());
+    return CornersOf(engine.textPath().Path());
 }
 
 #endif

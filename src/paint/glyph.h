@@ -1,0 +1,35 @@
+#ifndef GLYPH_H
+#define GLYPH_H
+
+#include "paint/outline.h"
+#include "paint/point.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/** A character's outline, and what is known of it once and for all. */
+class Glyph
+{
+public:
+    Glyph();
+    explicit Glyph(const Outline& outline);
+
+    const Outline& Shape() const { return shape; }
+    /** Of its elements. */
+    const Bounds& Box() const { return box; }
+    /**
+     * Whether it can be painted by itself and be the same as in a path with others: it is finite
+     * and well formed, and every subpath has a line or a curve and ends where it begins.
+     */
+    bool IsClosed() const { return isClosed; }
+
+private:
+    Outline shape;
+    Bounds box;
+    bool isClosed;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

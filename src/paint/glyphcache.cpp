@@ -1,0 +1,289 @@
+#include "paint/glyphcache.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+namespace {
+
+typedef Plane::Word Word;
+
+const size_t mostEntries = 4096;
+const size_t entriesInRow = 4; // where one key may lie
+const size_t mostShaped = 256;
+const uint32_t mostShapes = 1u << 30;
+const size_t mostImageBytes = 256 * 1024;
+
+// So far from the picture's borders no pixel of a glyph is cut, and no coordinate is less than 0.
+const float margin = 3;
+
+// Keys of places along an axis: the bits of a float, or, where those of no number are, the power of
+// two that all coordinates lie above.
+const uint32_t betweenPowers = 0xff800000u;
+
+uint32_t BitsOf(float v)
+{
+    uint32_t bits;
+    std::memcpy(&bits, &v, sizeof bits);
+    return bits;
+}
+
+/** The power of two not above a positive number, as the float has it. */
+uint32_t PowerBelow(float v)
+{
+    return BitsOf(v) >> 23;
+}
+
+uint32_t PlaceKey(float low, float high, float at)
+{
+    if (PowerBelow(low + at) != PowerBelow(high + at))
+        return BitsOf(at);
+    return betweenPowers | PowerBelow(low + at);
+}
+
+struct Inverting
+{
+    static void Apply(Word& to, Word bits) { to ^= bits; }
+};
+
+struct Uniting
+{
+    static void Apply(Word& to, Word bits) { to |= bits; }
+};
+
+template <typename Operation>
+void Stamp(const GlyphCache::Image& image, GlyphCache::Part part, int x, int y, Plane& plane)
+{
+    if (image.rows == 0)
+        return;
+    x += image.left;
+    y += image.top;
+    const Word* from = &image.bits[size_t(part) * size_t(image.rows * image.words)];
+    Word* to = plane.Row(y) + x / Plane::wordBits;
+    const int shift = x % Plane::wordBits;
+    for (int row = 0; row < image.rows; ++row, to += plane.Stride())
+        for (int i = 0; i < image.words; ++i) {
+            const Word bits = *from++;
+            Operation::Apply(to[i], bits << shift);
+            // Zeros where the image ends; the plane has room for them after its last row.
+            Operation::Apply(to[i + 1], bits >> 1 >> (Plane::wordBits - 1 - shift));
+        }
+    plane.MarkRows(y, y + image.rows);
+}
+
+Box InkOf(const Plane& a, const Plane& b)
+{
+    Box ink = {a.Width(), a.Height(), 0, 0};
+    for (int y = std::min(a.InkTop(), b.InkTop()); y < std::max(a.InkBottom(), b.InkBottom()); ++y)
+        for (size_t i = 0; i < a.Stride(); ++i) {
+            const Word word = a.Row(y)[i] | b.Row(y)[i];
+            if (word == 0)
+                continue;
+            const int column = static_cast<int>(i) * Plane::wordBits;
+            ink.left = std::min(ink.left, column + __builtin_ctzll(word));
+            ink.right = std::max(ink.right, column + Plane::wordBits - __builtin_clzll(word));
+            ink.top = std::min(ink.top, y);
+            ink.bottom = y + 1;
+        }
+    return ink;
+}
+
+/** The rows of a part, from the ink's left side on. */
+void Gather(const Plane& plane, const Box& ink, int words, std::vector<Word>& to)
+{
+    const int shift = ink.left % Plane::wordBits;
+    for (int y = ink.top; y < ink.bottom; ++y) {
+        const Word* from = plane.Row(y) + ink.left / Plane::wordBits;
+        const Word* const end = plane.Row(y) + plane.Stride();
+        for (int i = 0; i < words; ++i, ++from) {
+            const Word next = from + 1 < end ? from[1] : 0;
+            to.push_back(*from >> shift | next << 1 << (Plane::wordBits - 1 - shift));
+        }
+    }
+}
+
+bool AreEqual(const GlyphCache::Image& a, const GlyphCache::Image& b)
+{
+    return a.left == b.left && a.top == b.top && a.words == b.words && a.rows == b.rows &&
+           a.bits == b.bits;
+}
+
+size_t BytesOf(const GlyphCache::Image& image)
+{
+    return sizeof image + image.bits.capacity() * sizeof(Word);
+}
+
+} // namespace
+
+GlyphCache::GlyphCache()
+    : pictureWidth(0)
+    , pictureHeight(0)
+    , imageBytes(0)
+    , nextShape(0)
+    , key()
+    , wholeX(0)
+    , wholeY(0)
+{
+}
+
+void GlyphCache::SetSize(int width, int height)
+{
+    pictureWidth = width;
+    pictureHeight = height;
+    Forget();
+}
+
+void GlyphCache::Forget()
+{
+    shaped.clear();
+    ForgetImages();
+}
+
+void GlyphCache::ForgetImages()
+{
+    entries.clear();
+    images.clear();
+    imageBytes = 0;
+}
+
+void GlyphCache::Invert(const Image& image, Part part, int x, int y, Plane& plane)
+{
+    Stamp<Inverting>(image, part, x, y, plane);
+}
+
+void GlyphCache::Unite(const Image& image, Part part, int x, int y, Plane& plane)
+{
+    Stamp<Uniting>(image, part, x, y, plane);
+}
+
+/** The glyph under its transform; null when it was not seen like that the last time. */
+const Bounds* GlyphCache::FindShape(const TextPath::Item& item)
+{
+    if (item.shape.IsIdentity()) {
+        key.glyph = static_cast<uint32_t>(item.number) << 1;
+        return &item.glyph->Box();
+    }
+    if (shaped.empty()) {
+        const Shaped none = {-1, 0, Transform(), false, Bounds()};
+        shaped.assign(mostShaped, none);
+    }
+    Shaped& known = shaped[static_cast<size_t>(item.number) % mostShaped];
+    if (known.number != item.number || !(known.transform == item.shape)) {
+        if (nextShape > mostShapes) {
+            nextShape = 0;
+            ForgetImages(); // whose numbers come again
+        }
+        known.number = item.number;
+        known.glyph = nextShape++ << 1 | 1;
+        known.transform = item.shape;
+        known.hasBox = false;
+        return 0;
+    }
+    if (!known.hasBox) {
+        std::vector<Point> points(item.glyph->Shape().Size());
+        item.shape.map(item.glyph->Shape(), &points[0]);
+        known.box = Bounds(&points[0], points.size());
+        known.hasBox = true;
+    }
+    key.glyph = known.glyph;
+    return &known.box;
+}
+
+void GlyphCache::FindPlace(const Bounds& box, float x, float y)
+{
+    wholeX = static_cast<int>(std::floor(x));
+    wholeY = static_cast<int>(std::floor(y));
+    const bool isInside = box.left + x >= margin && box.right + x <= float(pictureWidth) - margin &&
+                          box.top + y >= margin && box.bottom + y <= float(pictureHeight) - margin;
+    key.x = isInside && x == float(wholeX) ? PlaceKey(box.left, box.right, x) : BitsOf(x);
+    key.y = isInside && y == float(wholeY) ? PlaceKey(box.top, box.bottom, y) : BitsOf(y);
+}
+
+/** The entry with the key looked for, or one that may become it. */
+GlyphCache::Entry& GlyphCache::EntryOfKey()
+{
+    if (entries.empty()) {
+        const Entry none = {{0, 0, 0, ~0u}, -1, Rightward};
+        entries.assign(mostEntries, none);
+    }
+    uint32_t hash = key.glyph * 0x9e3779b1u ^ key.x * 0x85ebca77u ^ key.y * 0xc2b2ae3du;
+    hash ^= hash >> 15;
+    hash = hash * 0x2c1b3c6du + key.direction;
+    hash ^= hash >> 16;
+    Entry* const row = &entries[hash % (mostEntries / entriesInRow) * entriesInRow];
+    for (size_t i = 0; i < entriesInRow; ++i)
+        if (row[i].key == key)
+            return row[i];
+    // The one that came first gives way.
+    std::copy_backward(row, row + entriesInRow - 1, row + entriesInRow);
+    return row[0];
+}
+
+GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
+                                     Direction direction)
+{
+    Finding finding = {0, false, 0, 0, direction};
+    const Bounds* const box = FindShape(item);
+    if (!box)
+        return finding;
+    FindPlace(*box, item.x, item.y);
+    finding.x = wholeX;
+    finding.y = wholeY;
+    key.direction = static_cast<uint32_t>(direction) << 1 | (isWinding ? 1 : 0);
+    Entry& entry = EntryOfKey();
+    if (!(entry.key == key)) {
+        entry.key = key;
+        entry.image = -1;
+    } else if (entry.image < 0) {
+        finding.isWorthKeeping = true;
+    } else {
+        finding.image = &images[static_cast<size_t>(entry.image)];
+        finding.next = entry.next;
+    }
+    return finding;
+}
+
+const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hairlines,
+                                          Direction next)
+{
+    if (imageBytes > mostImageBytes)
+        ForgetImages();
+    const Box ink = InkOf(inside, hairlines);
+    Image image = {ink.left - wholeX, ink.top - wholeY, 0, 0, std::vector<Word>()};
+    if (!ink.IsEmpty()) {
+        image.words = (ink.right - ink.left + Plane::wordBits - 1) / Plane::wordBits;
+        image.rows = ink.bottom - ink.top;
+        image.bits.reserve(static_cast<size_t>(2 * image.words * image.rows));
+        Gather(inside, ink, image.words, image.bits);
+        Gather(hairlines, ink, image.words, image.bits);
+    }
+    const int number = NumberOf(image);
+    Entry& entry = EntryOfKey();
+    entry.key = key;
+    entry.image = number;
+    entry.next = next;
+    return images[static_cast<size_t>(number)];
+}
+
+/** Of an equal one that is kept already, or of this one. */
+int GlyphCache::NumberOf(const Image& image)
+{
+    for (size_t i = 0; i < images.size(); ++i)
+        if (AreEqual(images[i], image))
+            return static_cast<int>(i);
+    images.push_back(image);
+    imageBytes += BytesOf(image);
+    return static_cast<int>(images.size()) - 1;
+}
+
+size_t GlyphCache::Bytes() const
+{
+    return entries.capacity() * sizeof(Entry) + shaped.capacity() * sizeof(Shaped) +
+           (images.capacity() - images.size()) * sizeof(Image) + imageBytes;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw

@@ -1,0 +1,117 @@
+#ifndef GLYPHCACHE_H
+#define GLYPHCACHE_H
+
+#include "paint/hairline.h"
+#include "paint/plane.h"
+#include "paint/textpath.h"
+
+#include <vector>
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+/**
+ * Pixels of glyphs that are painted again and again: kept from the second time on, used from the
+ * third. Only where the device's float arithmetic gives the same pixels:
+ *
+ * - at the very same place, fractions included;
+ * - whole pixels away, when the glyph lies within the picture and all its coordinates along an axis
+ *   stay between two neighbouring powers of two. Floats lie equally dense there, so every sum, half
+ *   and difference is rounded alike.
+ */
+class GlyphCache
+{
+public:
+    enum Part { Inside, Hairlines };
+
+    /** A glyph's pixels; its leftmost column and its topmost row have ink. */
+    struct Image
+    {
+        int left; // relative to the glyph's place, rounded down
+        int top;
+        int words; // a row
+        int rows;
+        std::vector<Plane::Word> bits; // of both parts
+    };
+
+    /** What is known of a glyph at a place. */
+    struct Finding
+    {
+        const Image* image;  // null: it is to be painted, ...
+        bool isWorthKeeping; // ... and then kept
+        int x;               // the place, rounded down
+        int y;
+        Direction next; // in which the outline of the next glyph goes on
+    };
+
+    GlyphCache();
+
+    /** Of the picture. */
+    void SetSize(int width, int height);
+    /** The glyphs are others, or painted another way. */
+    void Forget();
+
+    /** @p direction is the one in which the outline goes on. */
+    Finding Find(const TextPath::Item& item, bool isWinding, Direction direction);
+    /** Keeps what was looked for last, painted alone. */
+    const Image& Keep(const Plane& inside, const Plane& hairlines, Direction next);
+
+    static void Invert(const Image& image, Part part, int x, int y, Plane& plane);
+    static void Unite(const Image& image, Part part, int x, int y, Plane& plane);
+
+    size_t Bytes() const;
+
+private:
+    struct Key
+    {
+        uint32_t glyph;
+        uint32_t x;
+        uint32_t y;
+        uint32_t direction; // and the fill rule
+
+        bool operator==(const Key& other) const
+        {
+            return glyph == other.glyph && x == other.x && y == other.y &&
+                   direction == other.direction;
+        }
+    };
+    struct Entry
+    {
+        Key key;
+        int image; // less than 0: seen once
+        Direction next;
+    };
+    // A glyph under a transform, as it was seen last.
+    struct Shaped
+    {
+        int number;
+        uint32_t glyph;
+        Transform transform;
+        bool hasBox;
+        Bounds box;
+    };
+
+    void ForgetImages();
+    const Bounds* FindShape(const TextPath::Item& item);
+    void FindPlace(const Bounds& box, float x, float y);
+    Entry& EntryOfKey();
+    int NumberOf(const Image& image);
+
+    int pictureWidth;
+    int pictureHeight;
+    std::vector<Entry> entries;
+    std::vector<Shaped> shaped;
+    std::vector<Image> images;
+    size_t imageBytes;
+    uint32_t nextShape;
+
+    // Looked for last.
+    Key key;
+    int wholeX;
+    int wholeY;
+};
+
+} // namespace HNodeAnimationText
+} // namespace Lw
+
+#endif

@@ -1,0 +1,23 @@
+#include "paint/textpath.h"
+
+namespace Lw {
+namespace HNodeAnimationText {
+
+void TextPath::Add(const Glyph& glyph, int number, const Transform& shape, float x, float y)
+{
+    if (glyph.Shape().IsEmpty())
+        return; // as a path appends it
+    const Item item = {&glyph, number, shape, x, y};
+    items.push_back(item);
+}
+
+Outline TextPath::Path() const
+{
+    Outline path;
+    for (size_t i = 0; i < items.size(); ++i)
+        path.Append(items[i].shape.map(items[i].glyph->Shape()), items[i].x, items[i].y);
+    return path;
+}
+
+} // namespace HNodeAnimationText
+} // namespace Lw
