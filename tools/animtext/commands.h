@@ -15,6 +15,7 @@ Command EffectsCommand();
 Command FontsCommand();
 Command GalleryCommand();
 Command ListCommand();
+Command PlayCommand();
 Command RemoveCommand();
 Command RenderCommand();
 Command SetCommand();

@@ -70,7 +70,7 @@ int MakeGallery(const CommandLine& line)
     qint64 bytes = 0;
     bool written = false;
     {
-        const std::unique_ptr<Player> player = playing.Idle();
+        Player player(VirtualDispatcher::Current(), playing.Plugin());
         std::unique_ptr<Progress> progress;
         const auto watch = [&](int done, int all) {
             if (!progress)
@@ -78,7 +78,7 @@ int MakeGallery(const CommandLine& line)
             progress->Show(done);
             return !Interrupted();
         };
-        written = WriteGallery(options, player.get(), watch, &bytes, &error);
+        written = WriteGallery(options, &player, watch, &bytes, &error);
     }
     StopIfInterrupted();
     if (!written)

@@ -68,10 +68,10 @@ const QVector<Command>& Commands()
             {},
             Complete,
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
-        commands = {AuthorCommand(),   ListCommand(),  SetCommand(),     RemoveCommand(),
-                    RenderCommand(),   SheetCommand(), TraceCommand(),   DurationCommand(),
-                    ValidateCommand(), SoakCommand(),  EffectsCommand(), FontsCommand(),
-                    GalleryCommand(),  completion};
+        commands = {AuthorCommand(),  ListCommand(),     SetCommand(),      RemoveCommand(),
+                    PlayCommand(),    RenderCommand(),   SheetCommand(),    GalleryCommand(),
+                    TraceCommand(),   DurationCommand(), ValidateCommand(), SoakCommand(),
+                    EffectsCommand(), FontsCommand(),    completion};
         Command help{"help",
                      "tells of a command",
                      "[COMMAND]",
@@ -136,15 +136,17 @@ int main(int argc, char** argv)
     InstallMessages();
     EndAtInterruption();
     KeepAllFileNames();
-    // No command shows a window, so none may fail for want of a display, nor look otherwise for
-    // the desktop that it is run on.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qunsetenv("QT_QPA_PLATFORMTHEME");
-    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
     // The words are ours alone: Qt would take some of them, --plugin for one, for itself.
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(QString::fromLocal8Bit(argv[i]));
+    // Playing live makes an application of its own. No other command shows a window, so none may
+    // fail for want of a display, nor look otherwise for the desktop that it is run on.
+    if (words.value(0) == QLatin1String("play"))
+        return RunAndTell(words);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
     QCoreApplication::setApplicationName(QStringLiteral("animtext"));

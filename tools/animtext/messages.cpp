@@ -1,9 +1,12 @@
 #include "animtext/messages.h"
 
+#include "animtext/output.h"
+
 #include <QSet>
-#include <QString>
 
 #include <cstdio>
+
+#include <unistd.h>
 
 namespace AnimText {
 
@@ -11,9 +14,13 @@ namespace {
 
 bool silent = false;
 
-void Tell(QtMsgType, const QMessageLogContext&, const QString& message)
+void Tell(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     static QSet<QString> told;
+    if (type == QtFatalMsg && message.contains(QLatin1String("platform plugin"))) {
+        Warn(NoDisplay());
+        _exit(FailedRun);
+    }
     if (silent || message.startsWith(QLatin1String("QStandardPaths: ")) || told.contains(message))
         return;
     told.insert(message);
@@ -26,6 +33,14 @@ void Tell(QtMsgType, const QMessageLogContext&, const QString& message)
 void InstallMessages()
 {
     qInstallMessageHandler(Tell);
+}
+
+QString NoDisplay()
+{
+    return QStringLiteral(
+        "there is no display: run it in a desktop session, or within xvfb-run; or "
+        "set QT_QPA_PLATFORM=vnc for VNC viewers, or QT_QPA_PLATFORM=linuxfb for "
+        "a board's own screen, /dev/fb0");
 }
 
 Silence::Silence()

@@ -5,6 +5,8 @@
 #ifndef ANIMTEXT_MESSAGES_H
 #define ANIMTEXT_MESSAGES_H
 
+#include <QString>
+
 namespace AnimText {
 
 /**
@@ -12,6 +14,9 @@ namespace AnimText {
  * of a desktop session, which nothing here needs, is not told.
  */
 void InstallMessages();
+
+/** One line for who has no display to play on: what there is to do. */
+QString NoDisplay();
 
 /** While it lives, nothing is told. */
 class Silence

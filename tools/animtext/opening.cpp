@@ -66,14 +66,9 @@ Playing::Playing(const CommandLine& line)
         throw Failure{FailedRun, error};
 }
 
-std::unique_ptr<Player> Playing::Idle() const
-{
-    return std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
-}
-
 std::unique_ptr<Player> Playing::Load(const Scene& scene) const
 {
-    std::unique_ptr<Player> player = Idle();
+    auto player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
     QString error;
     if (!player->Load(scene, &error))
         throw Failure{BadInput, error};

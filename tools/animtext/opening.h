@@ -37,8 +37,7 @@ public:
 
     /** A player with @p scene loaded; throws Failure when that cannot be played. */
     std::unique_ptr<Player> Load(const Scene& scene) const;
-    /** A player without a scene. */
-    std::unique_ptr<Player> Idle() const;
+    Lw::INodePlugin* Plugin() const { return plugin; }
     /** What random numbers start from. */
     uint Seed() const { return seed; }
 

@@ -14,16 +14,6 @@ namespace {
 
 constexpr qint64 ticksOfADay = 24LL * 3600 * 1000 / tickLength;
 
-Ending EndingAtStart(Player* player, int node)
-{
-    if (player->State(node) == 2)
-        return Ending::NothingToPlay;
-    if (player->Scenery().ScrollsSideways(node))
-        return Ending::ScrollsOn;
-    const int mode = player->Scenery().Node(node)->GetAttributeToInt(QStringLiteral("EffectType"));
-    return mode == 0 || mode == 1 ? Ending::TooLong : Ending::StandsStill;
-}
-
 void Look(Player* player, int node, NodePlay* play)
 {
     const bool playing = play->ending == Ending::TooLong;
@@ -66,6 +56,16 @@ qint64 LongestPlay(const SceneNode& node)
 
 } // namespace
 
+Ending EndingAtStart(const Stage& stage, int node)
+{
+    if (stage.Render(node)->renderState() == 2)
+        return Ending::NothingToPlay;
+    if (stage.ScrollsSideways(node))
+        return Ending::ScrollsOn;
+    const int mode = stage.Node(node)->GetAttributeToInt(QStringLiteral("EffectType"));
+    return mode == 0 || mode == 1 ? Ending::TooLong : Ending::StandsStill;
+}
+
 BlankScene::BlankScene(const Scene& from)
     : scene(from)
 {
@@ -107,7 +107,7 @@ QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch&
     player->Start(seed);
     QVector<NodePlay> plays(player->NodeCount());
     for (int node = 0; node < plays.size(); ++node) {
-        plays[node].ending = EndingAtStart(player, node);
+        plays[node].ending = EndingAtStart(player->Scenery(), node);
         plays[node].finishedTick = plays.at(node).ending == Ending::ScrollsOn ? 0 : -1;
         plays[node].frames =
             plays.at(node).ending == Ending::TooLong && player->Swapped(node) ? 1 : 0;

@@ -33,6 +33,9 @@ struct NodePlay
     int ticksPerFrame = 0; ///< from one picture to the next; 0 when there was only one
 };
 
+/** How a node's play ends as far as that is seen when it begins; TooLong when it has to be seen. */
+Ending EndingAtStart(const Stage& stage, int node);
+
 /** Told of every tick; answers false to break off. */
 using Watch = std::function<bool(int tick)>;
 

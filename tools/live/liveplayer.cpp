@@ -1,0 +1,218 @@
+#include "live/liveplayer.h"
+
+#include "player/player.h"
+
+#include <hneonnodebase.h>
+
+#include <algorithm>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int smoothly = 16; // milliseconds, as screens show pictures
+
+} // namespace
+
+LivePlayer::LivePlayer(Lw::INodePlugin* plugin, QObject* parent)
+    : QObject(parent)
+    , plugin(plugin)
+{
+    for (QTimer* timer : {&ticks, &moves, &changes})
+        timer->setTimerType(Qt::PreciseTimer);
+    changes.setSingleShot(true);
+    connect(&ticks, &QTimer::timeout, this, &LivePlayer::Tick);
+    connect(&moves, &QTimer::timeout, this, &LivePlayer::Move);
+    connect(&changes, &QTimer::timeout, this, &LivePlayer::Change);
+    Torv::SetClock(Clock, this);
+}
+
+LivePlayer::~LivePlayer()
+{
+    stage.reset();
+    Torv::SetClock(nullptr, nullptr);
+}
+
+qint64 LivePlayer::Clock(void* player)
+{
+    return static_cast<const LivePlayer*>(player)->Time();
+}
+
+qint64 LivePlayer::Time() const
+{
+    return before + (running.isValid() ? running.elapsed() : 0);
+}
+
+bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* error)
+{
+    const LiveSettings last = settings;
+    settings = wishes;
+    if (Begin(wanted, error))
+        return true;
+    settings = last;
+    return false;
+}
+
+/** A new stage each time: some of what a play changes outlives a restart, dazzling colors for one.
+ */
+bool LivePlayer::Begin(const Scene& wanted, QString* error)
+{
+    auto next = std::make_unique<Stage>(plugin);
+    if (!next->Build(wanted, error))
+        return false;
+    scheduled.reset();
+    stage = std::move(next);
+    scene = wanted;
+    paused = ended = resting = false;
+    before = 0;
+    timing = Timing();
+    parts = QVector<Part>(stage->NodeCount(), Part());
+    running.start();
+    if (settings.schedule) {
+        QVector<qint64> durations;
+        for (int node = 0; node < parts.size(); ++node)
+            durations.append(stage->Node(node)->Duration());
+        schedule = HostSchedule(scene, durations);
+        scheduled = std::make_unique<ScheduledPlay>(stage.get(), schedule, settings.seed);
+        scheduled->Change(0);
+    } else {
+        stage->Start(settings.seed);
+    }
+    Run();
+    for (int node = 0; node < parts.size(); ++node) {
+        parts[node].ending = EndingAtStart(*stage, node);
+        const qint64 pass =
+            parts.at(node).ending == Ending::ScrollsOn ? ScrollPass(*stage, node) : 0;
+        if (parts.at(node).ending == Ending::NothingToPlay)
+            parts[node].end = 0;
+        else if (parts.at(node).ending != Ending::TooLong)
+            parts[node].end = pass > 0 ? pass : stage->Node(node)->Duration();
+    }
+    Show();
+    return true;
+}
+
+/** Starts the timers, right after the plugin's, so that each tick comes right after theirs. */
+void LivePlayer::Run()
+{
+    ticks.start(tickLength);
+    moves.start(smoothly);
+    if (scheduled)
+        Change();
+}
+
+void LivePlayer::Show()
+{
+    ++timing.came;
+    timing.latest = std::max(timing.latest, Time() - (timing.came - 1) * tickLength);
+    emit Shown(stage->Compose(Time()));
+}
+
+/** What the device moves by itself is not bound to ticks. */
+void LivePlayer::Move()
+{
+    bool moving = false;
+    for (int node = 0; node < parts.size(); ++node)
+        moving = moving || (stage->Session(node) && stage->ScrollsSideways(node));
+    if (moving)
+        emit Shown(stage->Compose(Time()));
+}
+
+void LivePlayer::Tick()
+{
+    if (IsOver())
+        End();
+    else
+        Show();
+}
+
+/** The last ones of a schedule are not taken off the display, lest it goes dark. */
+void LivePlayer::Change()
+{
+    if (Time() < schedule.length)
+        scheduled->Change(Time());
+    const qint64 next = scheduled->NextChange();
+    if (next >= 0 && next < schedule.length)
+        changes.start(int(std::max<qint64>(0, next - Time())));
+}
+
+bool LivePlayer::IsOver()
+{
+    if (scheduled)
+        return Time() >= schedule.length;
+    bool allFinished = true;
+    for (int node = 0; node < parts.size(); ++node) {
+        Part& part = parts[node];
+        if (part.end < 0 && stage->Render(node)->renderState() == 0)
+            part.end = Time();
+        allFinished = allFinished && part.end >= 0;
+    }
+    if (!allFinished)
+        return false;
+    if (!resting && !settings.loop) {
+        resting = true;
+        for (int node = 0; node < parts.size(); ++node) {
+            if (parts.at(node).ending == Ending::TooLong)
+                parts[node].end = Time() + std::max(0, stage->Node(node)->GetHoldTime()) * 100LL;
+        }
+        Freeze();
+    }
+    return std::all_of(parts.begin(), parts.end(),
+                       [&](const Part& part) { return part.end <= Time(); });
+}
+
+void LivePlayer::End()
+{
+    QString error;
+    if (settings.loop && Begin(scene, &error))
+        return;
+    SetPaused(true);
+    ended = true;
+    emit Ended();
+}
+
+void LivePlayer::SetPaused(bool wanted)
+{
+    QString error;
+    if (ended && !wanted)
+        Begin(scene, &error);
+    if (!stage || paused == wanted)
+        return;
+    paused = wanted;
+    if (paused) {
+        // The plugin's timers begin a whole tick when they go on.
+        before = Time() - Time() % tickLength;
+        running.invalidate();
+        for (QTimer* timer : {&ticks, &moves, &changes})
+            timer->stop();
+        Freeze();
+    } else {
+        running.start();
+        Freeze();
+        Run();
+    }
+}
+
+/** Lets every node stand still that should, and no other. */
+void LivePlayer::Freeze()
+{
+    for (int node = 0; node < parts.size(); ++node) {
+        Part& part = parts[node];
+        const bool wanted = paused || (resting && part.ending == Ending::TooLong);
+        if (part.frozen == wanted || !stage->Session(node))
+            continue;
+        part.frozen = wanted;
+        stage->Render(node)->Pause();
+    }
+}
+
+Timing LivePlayer::Kept() const
+{
+    Timing kept = timing;
+    kept.due = Time() / tickLength + 1;
+    if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
+        kept.pictures = Torv::SwapCount(stage->Session(0), stage->TextLayer(0));
+    return kept;
+}
+
+} // namespace AnimText

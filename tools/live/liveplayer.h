@@ -1,0 +1,112 @@
+/**
+ * @file
+ * A scene that plays on the wall clock, with the event loop's own timers.
+ */
+#ifndef ANIMTEXT_LIVEPLAYER_H
+#define ANIMTEXT_LIVEPLAYER_H
+
+#include "player/playlength.h"
+#include "player/schedule.h"
+#include "player/stage.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+
+#include <memory>
+
+namespace AnimText {
+
+struct LiveSettings
+{
+    bool loop = false;     ///< begins anew when everything has come to its end
+    bool schedule = false; ///< as the host plays it, by the times that it is told
+    uint seed = standardSeed;
+};
+
+/** How a play has kept up with the clock. */
+struct Timing
+{
+    qint64 due = 0;      ///< ticks that should have been, the start among them
+    qint64 came = 0;     ///< ticks that were
+    qint64 latest = 0;   ///< milliseconds by which one came late
+    qint64 pictures = 0; ///< of the text, handed to the display by its first node
+};
+
+/**
+ * The plugin's timers run in the event loop of the thread, which must not be one on virtual time.
+ * What the display shows is told after every tick; where the device moves a text by itself, more
+ * often. One player plays at a time.
+ */
+class LivePlayer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit LivePlayer(Lw::INodePlugin* plugin, QObject* parent = nullptr);
+    ~LivePlayer() override;
+
+    /**
+     * Plays @p scene from its start. On failure answers false, with one line in @p error, and goes
+     * on with what it played before.
+     */
+    bool Play(const Scene& scene, const LiveSettings& settings, QString* error);
+
+    /** The display's clock, and with it everything, stands still. */
+    void SetPaused(bool paused);
+    bool IsPaused() const { return paused; }
+    /** Everything has come to its end; only without loop. Being unpaused it begins anew. */
+    bool HasEnded() const { return ended; }
+
+    /** Milliseconds since the play began, pauses not counted. */
+    qint64 Time() const;
+    const Stage& Scenery() const { return *stage; }
+    /** Since the play last began. */
+    Timing Kept() const;
+
+signals:
+    /** What the display shows from now on. */
+    void Shown(const QImage& picture);
+    void Ended();
+
+private:
+    static qint64 Clock(void* player);
+    bool Begin(const Scene& wanted, QString* error);
+    void Run();
+    void Show();
+    void Move();
+    void Tick();
+    void Change();
+    bool IsOver();
+    void End();
+    void Freeze();
+
+    Lw::INodePlugin* plugin;
+    std::unique_ptr<Stage> stage;
+    Scene scene;
+    LiveSettings settings;
+    Schedule schedule;
+    std::unique_ptr<ScheduledPlay> scheduled;
+    struct Part
+    {
+        Ending ending = Ending::TooLong;
+        qint64 end = -1; // milliseconds; -1 as long as it is not known
+        bool frozen = false;
+    };
+    QVector<Part> parts;
+    QTimer ticks;
+    QTimer moves;   // between ticks, while the device moves a text
+    QTimer changes; // of the schedule
+    QElapsedTimer running;
+    qint64 before = 0; // milliseconds played up to the last pause
+    Timing timing;
+    bool resting = false; // what finishes has finished and stands still
+    bool paused = false;
+    bool ended = false;
+};
+
+} // namespace AnimText
+
+#endif

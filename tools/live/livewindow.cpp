@@ -1,0 +1,85 @@
+#include "live/livewindow.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int largestStandardZoom = 8;
+
+/** The size for a picture of @p size that leaves some of the desktop to be seen. */
+QSize WindowSize(QSize size, int zoom, QSize desktop)
+{
+    const QSize room = desktop * 4 / 5;
+    if (zoom == 0)
+        zoom = qBound(1, qMin(room.width() / size.width(), room.height() / size.height()),
+                      largestStandardZoom);
+    const QSize wanted = size * zoom;
+    return wanted.boundedTo(room);
+}
+
+} // namespace
+
+LiveWindow::LiveWindow(LivePlayer* player)
+    : player(player)
+{
+    const QString platform = QGuiApplication::platformName();
+    for (const char* bare : {"linuxfb", "eglfs", "vnc"})
+        isOnDesktop = isOnDesktop && platform != QLatin1String(bare);
+    connect(player, &LivePlayer::Shown, this, &PictureView::SetPicture);
+    connect(player, &LivePlayer::Ended, this, &LiveWindow::TellState);
+}
+
+void LiveWindow::Open(const QString& title, QSize size, bool fullScreen)
+{
+    name = title;
+    resize(WindowSize(size, Zoom(), screen()->availableSize()));
+    TellState();
+    Present(fullScreen || !isOnDesktop);
+}
+
+/** A sign has no surroundings; on a desk they are grey. */
+void LiveWindow::Present(bool fullScreen)
+{
+    SetSurroundings(fullScreen ? Qt::black : QColor(0x50, 0x50, 0x50));
+    setCursor(fullScreen ? Qt::BlankCursor : Qt::ArrowCursor);
+    if (fullScreen)
+        showFullScreen();
+    else
+        showNormal();
+}
+
+void LiveWindow::TellState()
+{
+    setWindowTitle(player->HasEnded()   ? tr("%1 – at its end").arg(name)
+                   : player->IsPaused() ? tr("%1 – paused").arg(name)
+                                        : name);
+}
+
+void LiveWindow::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape: close(); break;
+    case Qt::Key_Space:
+        player->SetPaused(!player->IsPaused());
+        TellState();
+        break;
+    case Qt::Key_F:
+    case Qt::Key_F11:
+        if (isOnDesktop)
+            Present(!isFullScreen());
+        break;
+    default: PictureView::keyPressEvent(event);
+    }
+}
+
+void LiveWindow::mouseDoubleClickEvent(QMouseEvent*)
+{
+    if (isOnDesktop)
+        Present(!isFullScreen());
+}
+
+} // namespace AnimText

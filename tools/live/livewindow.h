@@ -1,0 +1,40 @@
+/**
+ * @file
+ * The window in which a scene plays: Space pauses, F fills the screen, Esc ends.
+ */
+#ifndef ANIMTEXT_LIVEWINDOW_H
+#define ANIMTEXT_LIVEWINDOW_H
+
+#include "live/liveplayer.h"
+#include "live/pictureview.h"
+
+namespace AnimText {
+
+/** Shows what a player shows. It fills the screen where no desktop would give it a frame. */
+class LiveWindow : public PictureView
+{
+    Q_OBJECT
+
+public:
+    /** @param player outlives the window */
+    explicit LiveWindow(LivePlayer* player);
+
+    /** Shows the window for pictures of @p size in their zoom, or as large as suits the screen. */
+    void Open(const QString& name, QSize size, bool fullScreen);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    void Present(bool fullScreen);
+    void TellState();
+
+    LivePlayer* player;
+    QString name;
+    bool isOnDesktop = true;
+};
+
+} // namespace AnimText
+
+#endif

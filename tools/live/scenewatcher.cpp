@@ -1,0 +1,92 @@
+#include "live/scenewatcher.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <sys/stat.h>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int restTime = 50; // milliseconds without a change
+
+/** Tells a file from another, and from what it was before; empty when there is none. */
+QString Mark(const QString& file)
+{
+    struct stat state = {};
+    if (stat(QFile::encodeName(file).constData(), &state) != 0)
+        return QString();
+    return QStringLiteral("%1:%2:%3.%4")
+        .arg(quint64(state.st_ino))
+        .arg(qint64(state.st_size))
+        .arg(qint64(state.st_mtim.tv_sec))
+        .arg(qint64(state.st_mtim.tv_nsec));
+}
+
+} // namespace
+
+SceneWatcher::SceneWatcher(QObject* parent)
+    : QObject(parent)
+{
+    rest.setSingleShot(true);
+    rest.setInterval(restTime);
+    connect(&rest, &QTimer::timeout, this, &SceneWatcher::Compare);
+    const auto wait = [this] { rest.start(); };
+    connect(&watcher, &QFileSystemWatcher::fileChanged, this, wait);
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, wait);
+}
+
+void SceneWatcher::Watch(const Scene& scene)
+{
+    QSet<QString> names{QFileInfo(scene.path).absoluteFilePath(),
+                        QFileInfo(RealPath(scene.path)).absoluteFilePath()};
+    for (const SceneNode* node : scene.Nodes()) {
+        for (const QString& file : node->files)
+            names.insert(scene.FullName(file));
+    }
+    names.remove(QString());
+    QMap<QString, QString> watched;
+    for (const QString& name : names)
+        watched.insert(name, files.contains(name) ? files.value(name) : Mark(name));
+    files = watched;
+    WatchAll();
+    rest.start();
+}
+
+void SceneWatcher::Accept()
+{
+    for (auto file = files.begin(); file != files.end(); ++file)
+        *file = Mark(file.key());
+}
+
+/** Files that were replaced are no longer watched, so this is done after every change. */
+void SceneWatcher::WatchAll()
+{
+    QSet<QString> wanted;
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        wanted.insert(QFileInfo(file.key()).absolutePath());
+        if (!file->isEmpty())
+            wanted.insert(file.key());
+    }
+    const QStringList all = watcher.files() + watcher.directories();
+    QSet<QString> watched(all.begin(), all.end());
+    const QStringList old = (watched - wanted).values();
+    const QStringList missing = (wanted - watched).values();
+    if (!old.isEmpty())
+        watcher.removePaths(old);
+    if (!missing.isEmpty())
+        watcher.addPaths(missing);
+}
+
+void SceneWatcher::Compare()
+{
+    const QMap<QString, QString> before = files;
+    Accept();
+    WatchAll();
+    if (files != before)
+        emit Changed();
+}
+
+} // namespace AnimText
