@@ -51,7 +51,7 @@ QByteArray Overview(const QVector<Command>& commands)
         text += "  " + QByteArray(command.name).leftJustified(12) + command.summary + '\n';
     return text + "\nanimtext help COMMAND tells the options of a command.\n"
                   "The plugin is taken from --plugin, else from the environment variable\n"
-                  "ANIMATIONTEXT_PLUGIN, else from ../lib beside this program.\n";
+                  "ANIMATIONTEXT_PLUGIN, else it is the one installed with this program.\n";
 }
 
 QByteArray HelpText(const Command& command)

@@ -3,6 +3,7 @@
 #include "animtext/filenames.h"
 #include "animtext/help.h"
 #include "animtext/interruption.h"
+#include "animtext/manual.h"
 #include "animtext/messages.h"
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
@@ -35,6 +36,10 @@ const Command& FindCommand(const QString& name)
 
 int Help(const CommandLine& line)
 {
+    if (line.IsSet("man")) {
+        WriteManual(Commands(), line.Value("man"));
+        return Done;
+    }
     const QString name = line.Arguments().value(0);
     Print(name.isEmpty() ? Overview(Commands()) : HelpText(FindCommand(name)));
     return Done;
@@ -78,7 +83,8 @@ const QVector<Command>& Commands()
                      0,
                      1,
                      "Tells what a command does and which options it has.",
-                     {},
+                     {Option::File("man", "FOLDER",
+                                   "Writes the manual pages of all commands into a folder.")},
                      Help,
                      CommandNames()};
         commands.append(help);
