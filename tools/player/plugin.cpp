@@ -9,25 +9,26 @@
 
 namespace AnimText {
 
-QString PluginPath(const QString& given)
-{
-    if (!given.isEmpty())
-        return given;
-    const QString named = qEnvironmentVariable("ANIMATIONTEXT_PLUGIN");
-    if (!named.isEmpty())
-        return named;
-    const QDir programs(QCoreApplication::applicationDirPath());
-    return QDir::cleanPath(programs.filePath(QStringLiteral("../lib/libanimationtext.so")));
-}
-
 namespace {
 
-/** Lets the plugin find the pictures that a device would have, in ../share beside the program. */
-void OfferPictures()
+/** The first of @p places that is there, as seen from the program's folder; else the last. */
+QString BesideProgram(const QStringList& places)
 {
     const QDir programs(QCoreApplication::applicationDirPath());
-    const QString shipped =
-        QDir::cleanPath(programs.filePath(QStringLiteral("../share/animationtext/pictures")));
+    QString path;
+    for (const QString& place : places) {
+        path = QDir::cleanPath(programs.filePath(place));
+        if (QFileInfo::exists(path))
+            break;
+    }
+    return path;
+}
+
+/** Lets the plugin find the pictures that a device would have. */
+void OfferPictures()
+{
+    const QString shipped = BesideProgram({QStringLiteral(INSTALLED_DATA "/pictures"),
+                                           QStringLiteral("../share/animationtext/pictures")});
     const bool onDevice = QFileInfo::exists(QStringLiteral("/root/Box/image"));
     if (!onDevice && !qEnvironmentVariableIsSet("ANIMATIONTEXT_PICTURES") &&
         QFileInfo::exists(shipped))
@@ -35,6 +36,18 @@ void OfferPictures()
 }
 
 } // namespace
+
+QString PluginPath(const QString& given)
+{
+    if (!given.isEmpty())
+        return given;
+    const QString named = qEnvironmentVariable("ANIMATIONTEXT_PLUGIN");
+    if (!named.isEmpty())
+        return named;
+    // Installed, or where both were built.
+    return BesideProgram({QStringLiteral(INSTALLED_LIBRARIES "/libanimationtext.so"),
+                          QStringLiteral("../lib/libanimationtext.so")});
+}
 
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
 {

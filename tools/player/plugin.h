@@ -15,7 +15,7 @@ namespace AnimText {
 
 /**
  * Where the plugin lies: @p given when it is not empty, else what the environment variable
- * ANIMATIONTEXT_PLUGIN names, else ../lib/libanimationtext.so beside the program.
+ * ANIMATIONTEXT_PLUGIN names, else where it was installed or built together with the program.
  */
 QString PluginPath(const QString& given = QString());
 
@@ -24,7 +24,7 @@ QString PluginPath(const QString& given = QString());
  * the process ends. On failure null, and @p error is one line that says what to do.
  *
  * Where no ANIMATIONTEXT_PICTURES names the folder with the pictures that devices have, it becomes
- * ../share/animationtext/pictures beside the program.
+ * the folder that was installed or built together with the program.
  */
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error);
 
