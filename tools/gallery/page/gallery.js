@@ -338,7 +338,7 @@ function follow() {
 
 function cellColor(told, real) {
   const part = told > 0 ? (real - told) / told : 0;
-  const strength = Math.min(1, Math.abs(part) / 0.25);
+  const strength = Math.min(1, Math.abs(part) / 0.15);
   if (strength < 0.02) return "";
   const hue = part < 0 ? "var(--short)" : "var(--long)";
   return `color-mix(in srgb, hsl(${hue} 75% var(--cell)) ${Math.round(25 + 75 * strength)}%, var(--card))`;
