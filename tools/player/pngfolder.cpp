@@ -58,6 +58,11 @@ bool PngFolder::WriteNext(QString* error)
     const int digits = std::max(4, QString::number(format.firstFrame + format.frames - 1).size());
     const QString name =
         QStringLiteral("frame-%1.png").arg(page.frame, digits, 10, QLatin1Char('0'));
+    if (png.isEmpty()) {
+        *error = QStringLiteral("%1/%2 cannot be written: the picture is too large")
+                     .arg(folder.Path(), name);
+        return false;
+    }
     return folder.Add(name, png, error);
 }
 

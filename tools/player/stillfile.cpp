@@ -64,7 +64,7 @@ bool WritePng(const QString& path, const QByteArray& png, QString* error)
 {
     if (!png.isEmpty())
         return WriteWhole(path, png, error);
-    *error = QStringLiteral("%1: cannot be written: the picture is too large").arg(path);
+    *error = QStringLiteral("%1 cannot be written: the picture is too large").arg(path);
     return false;
 }
 

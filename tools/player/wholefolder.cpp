@@ -39,13 +39,15 @@ bool WholeFolder::Open(const std::function<QString(const QDir&)>& inTheWay, QStr
 bool WholeFolder::Add(const QString& name, const QByteArray& content, QString* error)
 {
     QFile file(folder->filePath(name));
-    if (QDir().mkpath(QFileInfo(file).path()) &&
-        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-        file.write(content) == content.size()) {
+    QDir().mkpath(QFileInfo(file).path());
+    QString problem;
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        problem = file.errorString();
+    else if (WriteAll(&file, content, &problem)) {
         bytes += content.size();
         return true;
     }
-    *error = QStringLiteral("%1/%2 cannot be written: %3").arg(path, name, file.errorString());
+    *error = QStringLiteral("%1/%2 cannot be written: %3").arg(path, name, problem);
     return false;
 }
 

@@ -69,6 +69,23 @@ QString UnfinishedName(const QString& path)
         .arg(Mark());
 }
 
+bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
+{
+    // By the system's own call: where a disk becomes full only a part is written, and why, the next
+    // attempt tells. QFile forgets to ask.
+    qint64 done = 0;
+    while (done < content.size()) {
+        const qint64 written =
+            ::write(file->handle(), content.constData() + done, size_t(content.size() - done));
+        if (written < 0 && errno != EINTR) {
+            *problem = QString::fromLocal8Bit(std::strerror(errno));
+            return false;
+        }
+        done += qMax<qint64>(0, written);
+    }
+    return true;
+}
+
 bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
 {
     const QFileInfo info(path);
@@ -78,20 +95,19 @@ bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
     QString problem;
     if (info.exists() && !info.isFile())
         problem = QStringLiteral("it is no file");
-    else if (!file.open() || file.write(content) != content.size() || !file.flush() ||
-             fsync(file.handle()) != 0)
+    else if (!file.open())
         problem = file.errorString();
-    else {
+    else if (WriteAll(&file, content, &problem)) {
         const QByteArray from = QFile::encodeName(file.fileName());
         const QByteArray to = QFile::encodeName(target);
         SetRights(from, to);
-        if (std::rename(from.constData(), to.constData()) == 0) {
+        if (fsync(file.handle()) == 0 && std::rename(from.constData(), to.constData()) == 0) {
             file.setAutoRemove(false);
             return true;
         }
         problem = QString::fromLocal8Bit(std::strerror(errno));
     }
-    *error = QStringLiteral("%1: cannot be written: %2").arg(path, problem);
+    *error = QStringLiteral("%1 cannot be written: %2").arg(path, problem);
     return false;
 }
 

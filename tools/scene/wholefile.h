@@ -9,6 +9,8 @@
 #include <QByteArray>
 #include <QString>
 
+class QFile;
+
 namespace AnimText {
 
 /**
@@ -16,6 +18,10 @@ namespace AnimText {
  * QTemporaryDir. Removes what killed processes of this machine left in the folder.
  */
 QString UnfinishedName(const QString& path);
+
+/** Appends all of @p content to a file that is open and has nothing buffered; on failure answers
+ * false with what the system says in @p problem. */
+bool WriteAll(QFile* file, const QByteArray& content, QString* problem);
 
 /**
  * Writes @p content to @p path, and to the disk, before it takes the place of a file that may be

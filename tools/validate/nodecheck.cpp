@@ -252,14 +252,15 @@ void NodeCheck::CheckFiles()
         const QString at = QStringLiteral("files.") + key;
         const bool isData =
             key == QLatin1String("PathData") || key == QLatin1String("DescentVector");
-        if (node.files.contains(key)) {
-            const QString path = scene.FullName(node.files.value(key));
+        const QString name = node.files.value(key);
+        if (!name.isEmpty()) {
+            const QString path = scene.FullName(name);
             if (!QFileInfo::exists(path))
                 Add(Mistake::FileMissing, at, QStringLiteral("no file %1").arg(path),
                     QStringLiteral("a file"));
             else if (isData)
                 CheckData(key);
-        } else if (isData && !text.isEmpty()) {
+        } else if (node.files.contains(key) || (isData && !text.isEmpty())) {
             Add(Mistake::FileMissing, at, QStringLiteral("nothing"),
                 QStringLiteral("the name of a data file"));
         } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
