@@ -14,14 +14,17 @@ namespace {
 
 bool silent = false;
 
-void Tell(QtMsgType type, const QMessageLogContext&, const QString& message)
+void Tell(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     static QSet<QString> told;
     if (type == QtFatalMsg && message.contains(QLatin1String("platform plugin"))) {
         Warn(NoDisplay());
         _exit(FailedRun);
     }
-    if (silent || message.startsWith(QLatin1String("QStandardPaths: ")) || told.contains(message))
+    // What leads to that end is told by it.
+    const bool isOfPlatform = context.category && qstrncmp(context.category, "qt.qpa.", 7) == 0;
+    if (silent || isOfPlatform || message.startsWith(QLatin1String("QStandardPaths: ")) ||
+        told.contains(message))
         return;
     told.insert(message);
     const QByteArray line = message.toUtf8() + '\n';

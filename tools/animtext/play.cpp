@@ -33,14 +33,13 @@ void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
 
 QByteArray Report(const Timing& kept, qint64 time)
 {
-    return QStringLiteral("played %1 s: %2 ticks of %3 ms were due, %4 came, the latest %5 ms "
-                          "late; %6 pictures of the first text\n")
+    return QStringLiteral("played %1 s, %2 ticks: %3 pictures of the first text; the screen came "
+                          "at most %4 ms late, and %5 ticks were made up for\n")
         .arg(double(time) / 1000, 0, 'f', 1)
         .arg(kept.due)
-        .arg(tickLength)
-        .arg(kept.came)
-        .arg(kept.latest)
         .arg(kept.pictures)
+        .arg(kept.latest)
+        .arg(kept.madeUp)
         .toUtf8();
 }
 

@@ -18,8 +18,10 @@ LivePlayer::LivePlayer(Lw::INodePlugin* plugin, QObject* parent)
     : QObject(parent)
     , plugin(plugin)
 {
-    for (QTimer* timer : {&ticks, &moves, &changes})
+    for (QTimer* timer : {&ticks, &moves, &changes}) {
+        timer->setParent(this);
         timer->setTimerType(Qt::PreciseTimer);
+    }
     changes.setSingleShot(true);
     connect(&ticks, &QTimer::timeout, this, &LivePlayer::Tick);
     connect(&moves, &QTimer::timeout, this, &LivePlayer::Move);
@@ -64,8 +66,9 @@ bool LivePlayer::Begin(const Scene& wanted, QString* error)
     stage = std::move(next);
     scene = wanted;
     paused = ended = resting = false;
-    before = 0;
+    before = lastShown = 0;
     timing = Timing();
+    keeper = std::make_unique<TickKeeper>(this);
     parts = QVector<Part>(stage->NodeCount(), Part());
     running.start();
     if (settings.schedule) {
@@ -96,15 +99,16 @@ bool LivePlayer::Begin(const Scene& wanted, QString* error)
 void LivePlayer::Run()
 {
     ticks.start(tickLength);
-    moves.start(smoothly);
+    for (int node = 0; node < parts.size(); ++node) {
+        if (stage->ScrollsSideways(node))
+            moves.start(smoothly);
+    }
     if (scheduled)
         Change();
 }
 
 void LivePlayer::Show()
 {
-    ++timing.came;
-    timing.latest = std::max(timing.latest, Time() - (timing.came - 1) * tickLength);
     emit Shown(stage->Compose(Time()));
 }
 
@@ -120,6 +124,9 @@ void LivePlayer::Move()
 
 void LivePlayer::Tick()
 {
+    const qint64 now = Time();
+    timing.latest = std::max(timing.latest, now - lastShown - tickLength);
+    lastShown = now;
     if (IsOver())
         End();
     else
@@ -181,7 +188,7 @@ void LivePlayer::SetPaused(bool wanted)
     paused = wanted;
     if (paused) {
         // The plugin's timers begin a whole tick when they go on.
-        before = Time() - Time() % tickLength;
+        before = lastShown = Time() - Time() % tickLength;
         running.invalidate();
         for (QTimer* timer : {&ticks, &moves, &changes})
             timer->stop();
@@ -209,6 +216,7 @@ void LivePlayer::Freeze()
 Timing LivePlayer::Kept() const
 {
     Timing kept = timing;
+    kept.madeUp = keeper ? keeper->MadeUp() : 0;
     kept.due = Time() / tickLength + 1;
     if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
         kept.pictures = Torv::SwapCount(stage->Session(0), stage->TextLayer(0));

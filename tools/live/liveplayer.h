@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_LIVEPLAYER_H
 #define ANIMTEXT_LIVEPLAYER_H
 
+#include "live/tickkeeper.h"
 #include "player/playlength.h"
 #include "player/schedule.h"
 #include "player/stage.h"
@@ -29,10 +30,10 @@ struct LiveSettings
 /** How a play has kept up with the clock. */
 struct Timing
 {
-    qint64 due = 0;      ///< ticks that should have been, the start among them
-    qint64 came = 0;     ///< ticks that were
-    qint64 latest = 0;   ///< milliseconds by which one came late
+    qint64 due = 0;      ///< ticks up to now, the start among them
     qint64 pictures = 0; ///< of the text, handed to the display by its first node
+    qint64 latest = 0;   ///< the most milliseconds by which the screen came after a tick
+    qint64 madeUp = 0;   ///< ticks that came later than the next one should have
 };
 
 /**
@@ -97,10 +98,12 @@ private:
     };
     QVector<Part> parts;
     QTimer ticks;
+    std::unique_ptr<TickKeeper> keeper;
     QTimer moves;   // between ticks, while the device moves a text
     QTimer changes; // of the schedule
     QElapsedTimer running;
-    qint64 before = 0; // milliseconds played up to the last pause
+    qint64 before = 0;    // milliseconds played up to the last pause
+    qint64 lastShown = 0; // milliseconds at the last tick
     Timing timing;
     bool resting = false; // what finishes has finished and stands still
     bool paused = false;

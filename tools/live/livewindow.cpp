@@ -36,7 +36,8 @@ LiveWindow::LiveWindow(LivePlayer* player)
 void LiveWindow::Open(const QString& title, QSize size, bool fullScreen)
 {
     name = title;
-    resize(WindowSize(size, Zoom(), screen()->availableSize()));
+    windowSize = WindowSize(size, Zoom(), screen()->availableSize());
+    resize(windowSize);
     TellState();
     Present(fullScreen || !isOnDesktop);
 }
@@ -46,10 +47,14 @@ void LiveWindow::Present(bool fullScreen)
 {
     SetSurroundings(fullScreen ? Qt::black : QColor(0x50, 0x50, 0x50));
     setCursor(fullScreen ? Qt::BlankCursor : Qt::ArrowCursor);
-    if (fullScreen)
+    // Without a window manager nobody else makes it as large, or as small again.
+    if (fullScreen) {
+        setGeometry(screen()->geometry());
         showFullScreen();
-    else
+    } else {
         showNormal();
+        resize(windowSize);
+    }
 }
 
 void LiveWindow::TellState()

@@ -32,6 +32,7 @@ private:
 
     LivePlayer* player;
     QString name;
+    QSize windowSize; // on the desktop
     bool isOnDesktop = true;
 };
 

@@ -1,0 +1,287 @@
+// Scenes on the wall clock: what is seen is what a play on virtual time tells.
+#include "live/livewindow.h"
+#include "live/scenewatcher.h"
+#include "player/plugin.h"
+#include "testscene.h"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QtEndian>
+#include <QtTest>
+
+using namespace AnimText;
+
+namespace {
+
+QByteArray Sha1(const QImage& picture)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (int y = 0; y < picture.height(); ++y)
+        hash.addData(reinterpret_cast<const char*>(picture.constScanLine(y)),
+                     picture.width() * picture.depth() / 8);
+    return hash.result().toHex();
+}
+
+QImage OverBlack(const QImage& picture)
+{
+    QImage black(picture.size(), QImage::Format_RGB32);
+    black.fill(Qt::black);
+    QPainter(&black).drawImage(0, 0, picture);
+    return black;
+}
+
+/** The screen that Xvfb keeps in a file: a header of big-endian words, colors, then the rows. */
+QImage OnScreen(const QByteArray& file)
+{
+    if (file.size() < 100)
+        return QImage();
+    const auto word = [&](int index) {
+        return int(qFromBigEndian<quint32>(file.constData() + 4 * index));
+    };
+    const int rows = word(0) + 12 * word(19);
+    const QImage screen(reinterpret_cast<const uchar*>(file.constData()) + rows, word(4), word(5),
+                        word(12), QImage::Format_RGB32);
+    return screen.copy();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(SceneNode)
+
+class TestLive : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        plugin = LoadPlugin(PluginPath(), &error);
+        QVERIFY2(plugin, qPrintable(error));
+    }
+
+    void init()
+    {
+        player = std::make_unique<LivePlayer>(plugin);
+        window = std::make_unique<LiveWindow>(player.get());
+        ended = std::make_unique<QSignalSpy>(player.get(), &LivePlayer::Ended);
+        shown = std::make_unique<QSignalSpy>(player.get(), &LivePlayer::Shown);
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        player.reset();
+        QCOMPARE(Torv::Accounts().liveSessions, 0);
+    }
+
+    void showsWhatTraceTells_data()
+    {
+        QTest::addColumn<SceneNode>("node");
+        QTest::newRow("wave") << files.Node({"abc", 5, 9});
+        QTest::newRow("tremble") << files.Node({"abc", 8, 9});
+        QTest::newRow("up") << files.Node({}, {{"EffectType", 1}, {"ContinueStyle", 2}});
+        QTest::newRow("left") << files.Node({}, {{"EffectType", 1}});
+    }
+
+    void showsWhatTraceTells()
+    {
+        QFETCH(SceneNode, node);
+        const Scene scene = files.Of({node});
+        const QByteArrayList trace =
+            files.Shell("animtext trace -n 40 " + files.Save(scene)).out.split('\n');
+        QVERIFY(player->Play(scene, {}, &error));
+        window->Open("scene", scene.display, false);
+        do {
+            QVERIFY(shown->wait());
+            const qint64 pictures = player->Kept().pictures; // the first is that of tick 0
+            const QImage picture = Torv::FrontImage(player->Scenery().Session(0), 0);
+            const QByteArray& line = trace.at(int(qMax(pictures, 1LL)) - 1);
+            QVERIFY2(line.contains(Sha1(picture)), line);
+            const QImage display = shown->last().first().value<QImage>();
+            QCOMPARE(window->GrabPicture(), OverBlack(display));
+            if (!player->Scenery().ScrollsSideways(0))
+                QCOMPARE(display, player->Scenery().Compose(0));
+        } while (player->Time() < 8 * 66);
+    }
+
+    /** Whatever keeps the event loop busy. */
+    void staysOnTheClock()
+    {
+        QVERIFY(player->Play(files.Of({files.Node({"abc", 5, 9, 0, 1000000})}), {}, &error));
+        for (int busy : {30, 130, 66, 500, 1}) {
+            QVERIFY(shown->wait());
+            QElapsedTimer since;
+            since.start();
+            while (since.elapsed() < busy) {
+            }
+            QVERIFY(shown->wait());
+            const Timing kept = player->Kept();
+            QVERIFY2(qAbs(kept.pictures - kept.due) <= 1, QByteArray::number(kept.pictures));
+        }
+        QVERIFY(player->Kept().madeUp >= 6);
+        QVERIFY(player->Kept().latest >= 400);
+    }
+
+    void obeysItsKeys()
+    {
+        const Scene scene = files.Of({files.Node({"abc", 5, 9})});
+        QVERIFY(player->Play(scene, {}, &error));
+        window->Open("scene", scene.display, false);
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QCOMPARE(window->size(), scene.display * 8);
+        QVERIFY(shown->wait());
+        QTest::keyClick(window.get(), Qt::Key_Space);
+        const qint64 time = player->Time();
+        const QImage picture = player->Scenery().Compose(time);
+        shown->clear();
+        QVERIFY(!shown->wait(3 * 66));
+        QCOMPARE(player->Time(), time);
+        QCOMPARE(time % 66, 0);
+        QCOMPARE(player->Scenery().Compose(time), picture);
+        QTest::keyClick(window.get(), Qt::Key_Space);
+        QTRY_VERIFY(player->Time() > time + 2 * 66);
+        QVERIFY(player->Scenery().Compose(0) != picture);
+        QTest::keyClick(window.get(), Qt::Key_F);
+        QVERIFY(window->isFullScreen());
+        QTest::mouseDClick(window.get(), Qt::LeftButton);
+        QVERIFY(!window->isFullScreen());
+        QTest::keyClick(window.get(), Qt::Key_Escape);
+        QVERIFY(!window->isVisible());
+    }
+
+    void comesToItsEnd_data()
+    {
+        QTest::addColumn<SceneNode>("node");
+        QTest::addColumn<bool>("schedule");
+        QTest::addColumn<int>("ticks");
+        const TextWishes three{"abc", 4, 9, 2};
+        QTest::newRow("a hold more") << files.Node(three) << false << 7 + 4;
+        QTest::newRow("as told") << files.Node(three) << true << 8;
+        QTest::newRow("nothing") << files.Node({" "}) << false << 1;
+        QTest::newRow("nothing is told") << files.Node({" "}, {{"PlayTimes", 0}}) << true << 1;
+        QTest::newRow("once through")
+            << files.Node({"ab", 0, 9, 0, 1, {16, 32}, 8}, {{"EffectType", 1}}) << false << 7;
+    }
+
+    void comesToItsEnd()
+    {
+        QFETCH(SceneNode, node);
+        QFETCH(bool, schedule);
+        QFETCH(int, ticks);
+        LiveSettings settings;
+        settings.schedule = schedule;
+        QVERIFY(player->Play(files.Of({node}), settings, &error));
+        QVERIFY(ended->wait());
+        QVERIFY2(qAbs(player->Time() / 66 - ticks) <= 1, QByteArray::number(player->Time()));
+        const QImage last = player->Scenery().Compose(player->Time());
+        shown->clear();
+        QVERIFY(!shown->wait(2 * 66));
+        QCOMPARE(player->Scenery().Compose(player->Time()), last);
+        player->SetPaused(false);
+        QVERIFY(!player->HasEnded() && player->Time() < 66);
+        settings.loop = true;
+        QVERIFY(player->Play(files.Of({node}), settings, &error));
+        shown->clear();
+        const QImage first = player->Scenery().Compose(0);
+        QTRY_VERIFY(shown->size() > 1 && player->Time() < 66); // once more
+        QCOMPARE(player->Scenery().Compose(0), first);
+        QCOMPARE(ended->size(), 1);
+    }
+
+    /** Two pages, one after another; a text that cannot be played leaves what there was. */
+    void playsByTheHostsSchedule()
+    {
+        Scene scene = files.Of({files.Node({"a", 4, 9, 2}), files.Node({"b", 4, 9, 2})});
+        LiveSettings settings;
+        settings.schedule = true;
+        QVERIFY(player->Play(scene, settings, &error));
+        QVERIFY(player->Scenery().Session(0) && !player->Scenery().Session(1));
+        QTRY_VERIFY(!player->Scenery().Session(0) && player->Scenery().Session(1));
+        scene.pages.first().areas.first().nodes.first().type = "clock";
+        QVERIFY(!player->Play(scene, {}, &error));
+        QVERIFY(ended->wait());
+        QVERIFY(player->Scenery().Session(1));
+    }
+
+    /** Each row changes files in a line of shell. */
+    void noticesChanges_data()
+    {
+        QTest::addColumn<bool>("changes");
+        QTest::newRow("sed -i s/abc/abd/ scene.json") << true;
+        QTest::newRow("cp scene.json new && mv new scene.json") << true;
+        QTest::newRow("mv scene.json old && cp old scene.json") << true;
+        QTest::newRow("echo >> node.path") << true;
+        QTest::newRow("echo > new && mv new node.path") << true;
+        QTest::newRow("touch other.json") << false;
+        QTest::newRow("cat scene.json node.path") << false;
+    }
+
+    void noticesChanges()
+    {
+        TestScenes folder;
+        SceneNode node = folder.Node({});
+        node.files["PathData"] = folder.Write("node.path", folder.Read(node.files["PathData"]));
+        Scene scene = folder.Of({node});
+        folder.Save(scene);
+        SceneWatcher watcher;
+        QSignalSpy changed(&watcher, &SceneWatcher::Changed);
+        watcher.Watch(scene);
+        QFETCH(bool, changes);
+        for (int again = 0; again < 2; ++again) {
+            QCOMPARE(folder.Shell(QTest::currentDataTag()).status, 0);
+            QCOMPARE(changed.wait(changes ? 5000 : 200), changes);
+            watcher.Watch(scene);
+            QVERIFY(!changed.wait(120));
+        }
+        folder.Remove("scene.json");
+        QVERIFY(changed.wait());
+        folder.Save(scene);
+        QVERIFY(changed.wait());
+        folder.Save(scene);
+        watcher.Accept();
+        QVERIFY(!changed.wait(120));
+    }
+
+    /** The program itself, on a screen of 128 x 96. */
+    void isSeenOnAScreen()
+    {
+        QProcess screen;
+        screen.start("Xvfb",
+                     {"-displayfd", "1", "-screen", "0", "128x96x24", "-fbdir", files.Path(".")});
+        QVERIFY2(screen.waitForReadyRead(), "no Xvfb");
+        const QString display = ":" + screen.readLine().trimmed();
+        const Scene scene = files.Of({files.Node({"abc", 4, 9, 1000})});
+        files.Save(scene);
+        QCOMPARE(files.Shell("animtext render scene.json -o end.png --at 10t").status, 0);
+        const QImage end(files.Path("end.png"));
+        const QImage expected = end.scaled(128, 64).convertToFormat(QImage::Format_RGB32);
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "xcb");
+        environment.insert("DISPLAY", display);
+        program.setProcessEnvironment(environment);
+        program.start(ANIMTEXT_PROGRAMS "/animtext",
+                      {"play", "--fullscreen", "--timing", files.Path("scene.json")});
+        QTRY_COMPARE_WITH_TIMEOUT(OnScreen(files.Read("Xvfb_screen0")).copy(0, 16, 128, 64),
+                                  expected, 20000);
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), 128 + 15);
+        QVERIFY(program.readAllStandardOutput().contains(" 5 pictures of the first text"));
+        screen.terminate();
+        QVERIFY(screen.waitForFinished());
+    }
+
+private:
+    TestScenes files;
+    QString error;
+    Lw::INodePlugin* plugin = nullptr;
+    std::unique_ptr<LivePlayer> player;
+    std::unique_ptr<LiveWindow> window;
+    std::unique_ptr<QSignalSpy> ended, shown;
+};
+
+QTEST_MAIN(TestLive)
+#include "tst_live.moc"
