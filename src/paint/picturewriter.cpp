@@ -40,38 +40,45 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
     const int atOnce = bytesPerPixel * pixelsAtOnce;
     const unsigned char* const eights = reinterpret_cast<const unsigned char*>(table);
     const Plane::Word* words = ink.Row(y);
-    for (int x = 0; x < width; x += Plane::wordBits) {
-        Plane::Word word = *words++;
-        unsigned char* to = row + x * bytesPerPixel;
-        const int whole = (width - x) / pixelsAtOnce;
-        while (word != 0) {
-            // The next eight pixels with ink.
-            const int i = __builtin_ctzll(word) / pixelsAtOnce;
-            const unsigned char* from = eights + (word >> i * pixelsAtOnce & 255) * atOnce;
-            if (i >= whole) {
-                std::memcpy(to + i * atOnce, from,
-                            static_cast<size_t>((width - x) % pixelsAtOnce * bytesPerPixel));
-                break;
-            }
-            std::memcpy(to + i * atOnce, from, atOnce);
-            word &= ~(Plane::Word(255) << i * pixelsAtOnce);
+    const int whole = width / Plane::wordBits;
+    for (int i = 0; i < whole;) {
+        int end = i;
+        while (end < whole && words[end] == 0)
+            ++end;
+        unsigned char* to = row + i * Plane::wordBits * bytesPerPixel;
+        if (end > i) {
+            std::memset(to, 0, static_cast<size_t>((end - i) * Plane::wordBits * bytesPerPixel));
+            i = end;
+            continue;
         }
+        Plane::Word word = words[i++];
+        for (int k = 0; k < Plane::wordBits / pixelsAtOnce; ++k, to += atOnce, word >>= 8)
+            std::memcpy(to, eights + (word & 255) * atOnce, atOnce);
     }
+    Plane::Word word = whole * Plane::wordBits < width ? words[whole] : 0;
+    for (int x = whole * Plane::wordBits; x < width; x += pixelsAtOnce, word >>= pixelsAtOnce)
+        std::memcpy(row + x * bytesPerPixel, eights + (word & 255) * atOnce,
+                    static_cast<size_t>(std::min(width - x, pixelsAtOnce) * bytesPerPixel));
 }
 
 void PictureWriter::Write(const Plane& ink, Format format, uint32_t argb, unsigned char* bits,
                           size_t bytesPerLine, int width, int height)
 {
     SetColour(format, argb);
-    const size_t bytes = static_cast<size_t>(width) * (format == Argb32 ? 4 : 3);
+    const size_t bytesPerPixel = format == Argb32 ? 4 : 3;
+    const int inkWidth = std::min(width, ink.Width());
+    const size_t inkBytes = static_cast<size_t>(inkWidth) * bytesPerPixel;
+    const size_t bytes = static_cast<size_t>(width) * bytesPerPixel;
     for (int y = 0; y < height; ++y, bits += bytesPerLine) {
-        std::memset(bits, 0, bytes);
-        if (y < ink.InkTop() || y >= ink.InkBottom())
+        if (y < ink.InkTop() || y >= ink.InkBottom()) {
+            std::memset(bits, 0, bytes);
             continue;
+        }
         if (format == Argb32)
-            WriteRow<4>(ink, y, bits, std::min(width, ink.Width()));
+            WriteRow<4>(ink, y, bits, inkWidth);
         else
-            WriteRow<3>(ink, y, bits, std::min(width, ink.Width()));
+            WriteRow<3>(ink, y, bits, inkWidth);
+        std::memset(bits + inkBytes, 0, bytes - inkBytes);
     }
 }
 
