@@ -90,11 +90,11 @@ void animationRealization::EffectTopWithFrogAppearsVerbatim()
 {
     // A fifth of the character more in each frame, from its top downward.
     DrawFrogFrame([&](int fifths) {
-        if (!HasGlyph(charIndex) || charPaths.at(charIndex).Shape().IsEmpty())
+        if (!HasGlyph(charIndex) || GlyphOf(charIndex).Shape().IsEmpty())
             return;
         if (fifths < framesPerCharacter) {
             // A pixel more at the sides and above, for the outline's own width.
-            const Bounds& glyph = charPaths.at(charIndex).Box();
+            const Bounds& glyph = GlyphOf(charIndex).Box();
             const QRectF box =
                 QRectF(QPointF(glyph.left, glyph.top), QPointF(glyph.right, glyph.bottom))
                     .translated(RestX(charIndex), RestY(charIndex));

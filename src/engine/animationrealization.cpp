@@ -17,7 +17,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <cstring>
 
@@ -148,7 +147,13 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     strokePen = QPen(QBrush(HAppConfig::IntToColor(Attribute(node, "StrokeColor"))), 1);
     frameInterval = tickInterval;
 
-    TakeOutlines(node->GetPainterPaths());
+    charPaths = node->GetPainterPaths();
+    if (charPaths.size() > text.size())
+        charPaths.resize(text.size()); // what the files have more is nobody's
+    textPath.Clear();
+    glyphs.clear();
+    glyphs.resize(size_t(charPaths.size()));
+    canvas.ForgetGlyphs();
     charDescents = node->GetDescentData();
     for (int i = 0; i < charDescents.size(); ++i)
         charDescents[i] = Bounded(charDescents.at(i), metricLimit);
@@ -158,24 +163,6 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     if (neonBgEnabled == 1)
         neonBg->InitNode(node);
     return 1;
-}
-
-/** One for each character; what the files have more is nobody's. */
-void animationRealization::TakeOutlines(const QVector<QPainterPath>& paths)
-{
-    charPaths.clear();
-    charPaths.resize(qMin(paths.size(), text.size()));
-    for (int i = 0; i < charPaths.size(); ++i) {
-        const QPainterPath& path = paths.at(i);
-        Outline outline;
-        outline.fillRule = path.fillRule() == Qt::WindingFill ? Outline::Winding : Outline::OddEven;
-        for (int k = 0; k < path.elementCount(); ++k) {
-            const QPainterPath::Element& element = path.elementAt(k);
-            outline.Add(float(element.x), float(element.y), Outline::Type(element.type));
-        }
-        charPaths[i] = Glyph(outline);
-    }
-    canvas.ForgetGlyphs();
 }
 
 void animationRealization::LoadFillPicture()

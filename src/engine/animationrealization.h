@@ -10,6 +10,7 @@
 #include <QLinearGradient>
 #include <QList>
 #include <QObject>
+#include <QPainterPath>
 #include <QPen>
 #include <QPointer>
 #include <QRadialGradient>
@@ -18,8 +19,10 @@
 #include <QTimer>
 #include <QVector>
 
+#include <memory>
+#include <vector>
+
 class QPainter;
-class QPainterPath;
 
 namespace Lw {
 
@@ -151,7 +154,6 @@ private:
 
     // Set-up
     static QImage NewCanvas(const QSize& size, QImage::Format format);
-    void TakeOutlines(const QVector<QPainterPath>& paths);
     void LoadFillPicture();
     void MeasureText(const LineWidths& line);
     void StartBackgrounds();
@@ -176,6 +178,7 @@ private:
     template <typename Shape>
     void DrawInTurn(const Shape& shape);
     bool HasGlyph(int j) const;
+    const Glyph& GlyphOf(int j);
     void AddGlyph(int j, double x, double y);
     void AddStanding();
     void AddShapedGlyph(int j, double x, double y);
@@ -252,7 +255,8 @@ private:
     int pageIndex;
     int moveOffset;
     DrawNeonBg* neonBg;
-    QVector<Glyph> charPaths;
+    QVector<QPainterPath> charPaths;
+    std::vector<std::unique_ptr<Glyph>> glyphs; // those of charPaths that were asked for
     TextPath textPath;
     Outline auxPath;
     QVector<int> charDescents;

@@ -2,6 +2,8 @@
 
 #include <qnumeric.h>
 
+#include <utility>
+
 namespace Lw {
 namespace HNodeAnimationText {
 
@@ -47,10 +49,28 @@ bool animationRealization::HasGlyph(int j) const
     return j >= 0 && j < charPaths.size();
 }
 
+/** As the painter takes it, made when it is first painted: a long text starts no later for it. */
+const Glyph& animationRealization::GlyphOf(int j)
+{
+    std::unique_ptr<Glyph>& glyph = glyphs[size_t(j)];
+    if (glyph)
+        return *glyph;
+    const QPainterPath& path = charPaths.at(j);
+    Outline outline;
+    outline.Reserve(size_t(path.elementCount()));
+    outline.fillRule = path.fillRule() == Qt::WindingFill ? Outline::Winding : Outline::OddEven;
+    for (int k = 0; k < path.elementCount(); ++k) {
+        const QPainterPath::Element& element = path.elementAt(k);
+        outline.Add(float(element.x), float(element.y), Outline::Type(element.type));
+    }
+    glyph.reset(new Glyph(std::move(outline)));
+    return *glyph;
+}
+
 void animationRealization::AddGlyph(int j, double x, double y)
 {
     if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y))
-        textPath.Add(charPaths.at(j), j, Transform(), float(x), float(y));
+        textPath.Add(GlyphOf(j), j, Transform(), float(x), float(y));
 }
 
 /** The characters of the page that have come to rest: those before charIndex. */
@@ -64,7 +84,7 @@ void animationRealization::AddStanding()
 void animationRealization::AddShapedGlyph(int j, double x, double y)
 {
     if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y) && transform.IsFinite())
-        textPath.Add(charPaths.at(j), j, transform, float(x), float(y));
+        textPath.Add(GlyphOf(j), j, transform, float(x), float(y));
 }
 
 /** Paints the glyph by itself, with its own fill rule. */
@@ -72,7 +92,7 @@ void animationRealization::DrawGlyph(int j, double x, double y)
 {
     if (!HasGlyph(j))
         return;
-    const TextPath::Item item = {&charPaths.at(j), j, Transform(), float(x), float(y)};
+    const TextPath::Item item = {&GlyphOf(j), j, Transform(), float(x), float(y)};
     canvas.DrawGlyph(item);
 }
 

@@ -76,7 +76,7 @@ void animationRealization::DrawTail(int first, int end)
     for (int k = first; k < end; ++k) {
         // What lies before the latched start stands in the line's first part.
         if (charPositions.value(k) > lastPaintableX)
-            auxPath.Append(charPaths.at(k).Shape(), float(charPositions.value(k) - start),
+            auxPath.Append(GlyphOf(k).Shape(), float(charPositions.value(k) - start),
                            float(RestY(k)));
     }
     TextCanvas tailCanvas;

@@ -31,7 +31,7 @@ void animationRealization::DrawShadow(int index)
         return;
     const int distance = Attribute(node, "TextShadowBox");
     if (index >= 0 && index < charPaths.size())
-        auxPath.Append(charPaths.at(index).Shape(), float(distance), float(distance));
+        auxPath.Append(GlyphOf(index).Shape(), float(distance), float(distance));
 }
 
 } // namespace HNodeAnimationText

@@ -498,31 +498,6 @@ Outline PathAround(const Rectangle& r)
 
 } // namespace
 
-Bounds::Bounds(const Point* points, size_t count)
-    : left(0)
-    , top(0)
-    , right(0)
-    , bottom(0)
-{
-    if (count == 0)
-        return;
-    float x0 = points[0].x;
-    float x1 = x0;
-    float y0 = points[0].y;
-    float y1 = y0;
-    for (size_t i = 1; i < count; ++i) {
-        const Point p = points[i];
-        x0 = std::min(x0, p.x);
-        x1 = std::max(x1, p.x);
-        y0 = std::min(y0, p.y);
-        y1 = std::max(y1, p.y);
-    }
-    left = x0;
-    top = y0;
-    right = x1;
-    bottom = y1;
-}
-
 bool Bounds::AreFar() const
 {
     const Rectangle r = Between(left, top, right, bottom);

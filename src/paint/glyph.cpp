@@ -1,8 +1,6 @@
 #include "paint/glyph.h"
 
-#include "paint/transform.h"
-
-#include <vector>
+#include <utility>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -31,15 +29,13 @@ Glyph::Glyph()
 {
 }
 
-Glyph::Glyph(const Outline& outline)
-    : shape(outline)
-    , isClosed(outline.IsWellFormed() && outline.IsFinite())
+Glyph::Glyph(Outline outline)
+    : shape(std::move(outline))
+    , isClosed(shape.IsWellFormed() && shape.IsFinite())
 {
     if (shape.Size() == 0)
         return;
-    std::vector<Point> points(shape.Size());
-    Transform().map(shape, &points[0]);
-    box = Bounds(&points[0], points.size());
+    box = Bounds(&shape.At(0), shape.Size());
 
     // Some fonts leave a move behind. At a path's end it paints nothing; what follows replaces it.
     const size_t last = shape.Size() - 1;

@@ -12,7 +12,7 @@ class Glyph
 {
 public:
     Glyph();
-    explicit Glyph(const Outline& outline);
+    explicit Glyph(Outline outline);
 
     const Outline& Shape() const { return shape; }
     /** Of its elements. */

@@ -11,8 +11,12 @@ namespace {
 
 typedef Plane::Word Word;
 
+const size_t fewestEntries = 256;
 const size_t mostEntries = 4096;
 const size_t entriesInRow = 4; // where one key may lie
+const uint8_t noDirection = 255;
+const int16_t neverSeen = -2; // an entry's image, when it has none
+const int16_t seenOnce = -1;
 const size_t mostShaped = 256;
 const uint32_t mostShapes = 1u << 30;
 const size_t mostImageBytes = 256 * 1024;
@@ -123,7 +127,8 @@ GlyphCache::GlyphCache()
     , pictureHeight(0)
     , imageBytes(0)
     , nextShape(0)
-    , key()
+    , entered(0)
+    , lookedFor()
     , wholeX(0)
     , wholeY(0)
 {
@@ -145,6 +150,7 @@ void GlyphCache::Forget()
 void GlyphCache::ForgetImages()
 {
     entries.clear();
+    entered = 0;
     images.clear();
     imageBytes = 0;
 }
@@ -163,7 +169,7 @@ void GlyphCache::Unite(const Image& image, Part part, int x, int y, Plane& plane
 const Bounds* GlyphCache::FindShape(const TextPath::Item& item)
 {
     if (item.shape.IsIdentity()) {
-        key.glyph = static_cast<uint32_t>(item.number) << 1;
+        lookedFor.glyph = static_cast<uint32_t>(item.number) << 1;
         return &item.glyph->Box();
     }
     if (shaped.empty()) {
@@ -188,7 +194,7 @@ const Bounds* GlyphCache::FindShape(const TextPath::Item& item)
         known.box = Bounds(&points[0], points.size());
         known.hasBox = true;
     }
-    key.glyph = known.glyph;
+    lookedFor.glyph = known.glyph;
     return &known.box;
 }
 
@@ -198,27 +204,34 @@ void GlyphCache::FindPlace(const Bounds& box, float x, float y)
     wholeY = static_cast<int>(std::floor(y));
     const bool isInside = box.left + x >= margin && box.right + x <= float(pictureWidth) - margin &&
                           box.top + y >= margin && box.bottom + y <= float(pictureHeight) - margin;
-    key.x = isInside && x == float(wholeX) ? PlaceKey(box.left, box.right, x) : BitsOf(x);
-    key.y = isInside && y == float(wholeY) ? PlaceKey(box.top, box.bottom, y) : BitsOf(y);
+    lookedFor.x = isInside && x == float(wholeX) ? PlaceKey(box.left, box.right, x) : BitsOf(x);
+    lookedFor.y = isInside && y == float(wholeY) ? PlaceKey(box.top, box.bottom, y) : BitsOf(y);
 }
 
-/** The entry with the key looked for, or one that may become it. */
-GlyphCache::Entry& GlyphCache::EntryOfKey()
+/** The entry of what is looked for; a new one when there is none. */
+GlyphCache::Entry& GlyphCache::EntryLookedFor()
 {
-    if (entries.empty()) {
-        const Entry none = {{0, 0, 0, ~0u}, -1, Rightward};
-        entries.assign(mostEntries, none);
+    const bool isFull = entered >= entries.size() && entries.size() < mostEntries;
+    if (isFull) {
+        // What was seen is seen again soon.
+        const Entry none = {0, 0, 0, noDirection, 0, neverSeen};
+        entries.assign(std::max(fewestEntries, 4 * entries.size()), none);
+        entered = 0;
     }
-    uint32_t hash = key.glyph * 0x9e3779b1u ^ key.x * 0x85ebca77u ^ key.y * 0xc2b2ae3du;
+    uint32_t hash =
+        lookedFor.glyph * 0x9e3779b1u ^ lookedFor.x * 0x85ebca77u ^ lookedFor.y * 0xc2b2ae3du;
     hash ^= hash >> 15;
-    hash = hash * 0x2c1b3c6du + key.direction;
+    hash = hash * 0x2c1b3c6du + lookedFor.direction;
     hash ^= hash >> 16;
-    Entry* const row = &entries[hash % (mostEntries / entriesInRow) * entriesInRow];
+    Entry* const row = &entries[hash % (entries.size() / entriesInRow) * entriesInRow];
     for (size_t i = 0; i < entriesInRow; ++i)
-        if (row[i].key == key)
+        if (row[i].IsSamePlace(lookedFor))
             return row[i];
     // The one that came first gives way.
     std::copy_backward(row, row + entriesInRow - 1, row + entriesInRow);
+    row[0] = lookedFor;
+    row[0].image = neverSeen;
+    ++entered;
     return row[0];
 }
 
@@ -232,17 +245,15 @@ GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
     FindPlace(*box, item.x, item.y);
     finding.x = wholeX;
     finding.y = wholeY;
-    key.direction = static_cast<uint32_t>(direction) << 1 | (isWinding ? 1 : 0);
-    Entry& entry = EntryOfKey();
-    if (!(entry.key == key)) {
-        entry.key = key;
-        entry.image = -1;
-    } else if (entry.image < 0) {
-        finding.isWorthKeeping = true;
-    } else {
+    lookedFor.direction = static_cast<uint8_t>(direction << 1 | (isWinding ? 1 : 0));
+    Entry& entry = EntryLookedFor();
+    if (entry.image >= 0) {
         finding.image = &images[static_cast<size_t>(entry.image)];
-        finding.next = entry.next;
+        finding.next = static_cast<Direction>(entry.next);
     }
+    finding.isWorthKeeping = entry.image == seenOnce;
+    if (entry.image == neverSeen)
+        entry.image = seenOnce;
     return finding;
 }
 
@@ -261,10 +272,9 @@ const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hair
         Gather(hairlines, ink, image.words, image.bits);
     }
     const int number = NumberOf(image);
-    Entry& entry = EntryOfKey();
-    entry.key = key;
-    entry.image = number;
-    entry.next = next;
+    Entry& entry = EntryLookedFor();
+    entry.image = static_cast<int16_t>(number);
+    entry.next = static_cast<uint8_t>(next);
     return images[static_cast<size_t>(number)];
 }
 

@@ -62,24 +62,21 @@ public:
     size_t Bytes() const;
 
 private:
-    struct Key
+    // A glyph at a place.
+    struct Entry
     {
         uint32_t glyph;
         uint32_t x;
         uint32_t y;
-        uint32_t direction; // and the fill rule
+        uint8_t direction; // and the fill rule
+        uint8_t next;
+        int16_t image; // its number; less than 0: it has none
 
-        bool operator==(const Key& other) const
+        bool IsSamePlace(const Entry& other) const
         {
             return glyph == other.glyph && x == other.x && y == other.y &&
                    direction == other.direction;
         }
-    };
-    struct Entry
-    {
-        Key key;
-        int image; // less than 0: seen once
-        Direction next;
     };
     // A glyph under a transform, as it was seen last.
     struct Shaped
@@ -94,7 +91,7 @@ private:
     void ForgetImages();
     const Bounds* FindShape(const TextPath::Item& item);
     void FindPlace(const Bounds& box, float x, float y);
-    Entry& EntryOfKey();
+    Entry& EntryLookedFor();
     int NumberOf(const Image& image);
 
     int pictureWidth;
@@ -104,9 +101,9 @@ private:
     std::vector<Image> images;
     size_t imageBytes;
     uint32_t nextShape;
+    size_t entered;
 
-    // Looked for last.
-    Key key;
+    Entry lookedFor;
     int wholeX;
     int wholeY;
 };

@@ -50,6 +50,7 @@ public:
     size_t Bytes() const { return elements.capacity() * sizeof(Element); }
     const Element& At(size_t i) const { return elements[i]; }
     Element& At(size_t i) { return elements[i]; }
+    void Reserve(size_t size) { elements.reserve(size); }
     void Add(float x, float y, Type type);
     void RemoveLast() { elements.pop_back(); }
 

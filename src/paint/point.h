@@ -1,6 +1,7 @@
 #ifndef POINT_H
 #define POINT_H
 
+#include <algorithm>
 #include <cstddef>
 
 namespace Lw {
@@ -28,11 +29,40 @@ struct Bounds
         , bottom(0)
     {
     }
-    Bounds(const Point* points, size_t count);
+    /** Of points or elements. */
+    template <typename T>
+    Bounds(const T* points, size_t count);
 
     /** Beyond what the device's fill computes with: it cuts the outline to the picture first. */
     bool AreFar() const;
 };
+
+template <typename T>
+Bounds::Bounds(const T* points, size_t count)
+    : left(0)
+    , top(0)
+    , right(0)
+    , bottom(0)
+{
+    if (count == 0)
+        return;
+    float x0 = points[0].x;
+    float x1 = x0;
+    float y0 = points[0].y;
+    float y1 = y0;
+    for (size_t i = 1; i < count; ++i) {
+        const float x = points[i].x;
+        const float y = points[i].y;
+        x0 = std::min(x0, x);
+        x1 = std::max(x1, x);
+        y0 = std::min(y0, y);
+        y1 = std::max(y1, y);
+    }
+    left = x0;
+    top = y0;
+    right = x1;
+    bottom = y1;
+}
 
 } // namespace HNodeAnimationText
 } // namespace Lw
