@@ -42,6 +42,7 @@ public:
 
 private:
     static bool IsFlat(const Place* p);
+    bool CrossesRow(const Place* p) const;
     void AddBorder(int32_t border, int top, int bottom, int winding);
     bool CutAtBorder(int32_t border, bool isRight, Run& run);
 
@@ -149,6 +150,15 @@ bool Edges<Sink>::IsFlat(const Place* p)
     return distance <= int64_t(flatness) * length;
 }
 
+/** Whether a row is sampled between the points: else no line between them has one. */
+template <typename Sink>
+bool Edges<Sink>::CrossesRow(const Place* p) const
+{
+    const int32_t high = std::min(std::min(p[0].y, p[1].y), std::min(p[2].y, p[3].y));
+    const int32_t low = std::max(std::max(p[0].y, p[1].y), std::max(p[2].y, p[3].y));
+    return Sum(high, unitsPerPixel - 1) >> 6 <= Difference(low, 1) >> 6;
+}
+
 template <typename Sink>
 void Edges<Sink>::Curve(const Place& a, const Place& b, const Place& c, const Place& d)
 {
@@ -160,7 +170,9 @@ void Edges<Sink>::Curve(const Place& a, const Place& b, const Place& c, const Pl
     p[2] = c;
     p[3] = d;
     while (p >= points) {
-        if (IsFlat(p) || p == points + 3 * halvings) {
+        if (!CrossesRow(p)) {
+            p -= 3;
+        } else if (IsFlat(p) || p == points + 3 * halvings) {
             Line(p[0], p[3]);
             p -= 3;
         } else {
@@ -245,9 +257,10 @@ void Fill::Flips::Add(const Run& run)
 void Fill::Flips::AddInside(const Run& run, int32_t last)
 {
     Touch(run, std::min(run.x, last) >> 16, std::max(run.x, last) >> 16);
+    const size_t stride = flips.Stride();
     Word* row = flips.Row(run.top);
     int32_t x = run.x;
-    for (int y = run.top; y <= run.bottom; ++y, row += flips.Stride()) {
+    for (int y = run.top; y <= run.bottom; ++y, row += stride) {
         Flip(row, x >> 16);
         x = Sum(x, run.step);
     }
@@ -352,7 +365,7 @@ template <typename Sink>
 void Fill::AddEdges(const Outline& outline, Sink& sink) const
 {
     Edges<Sink> edges(sink.Clip(), sink);
-    for (size_t i = 1; i < places.size(); ++i) {
+    for (size_t i = 1; i < outline.Size(); ++i) {
         const Place* p = &places[i - 1];
         switch (outline.At(i).type) {
         case Outline::Line: edges.Line(p[0], p[1]); break;
@@ -392,8 +405,10 @@ void Fill::Paint(const Outline& outline, const Transform& transform, const Box& 
 
 void Fill::Add(const Outline& outline, const Point* points)
 {
-    places.resize(outline.Size());
-    for (size_t i = 0; i < places.size(); ++i) {
+    const size_t size = outline.Size();
+    if (places.size() < size)
+        places.resize(size);
+    for (size_t i = 0; i < size; ++i) {
         const Place place = {static_cast<int32_t>(points[i].x * 64),
                              static_cast<int32_t>(points[i].y * 64)};
         places[i] = place;

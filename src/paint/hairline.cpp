@@ -306,7 +306,7 @@ void Hairline::DrawLine(const Point& a, const Point& b, unsigned caps)
     last = endsWith;
 }
 
-void Hairline::DropOut(Trace& trace) const
+inline void Hairline::DropOut(Trace& trace) const
 {
     if (!HasLast())
         return;
@@ -325,26 +325,32 @@ void Hairline::Paint(const Trace& trace)
 {
     // A line that lost its only pixel paints one all the same: the device paints before it asks.
     const int32_t end = std::max(trace.end, trace.begin + 1);
-    const Pixel low = trace.Low();
-    const Pixel high =
-        trace.At(end - 1, Sum(trace.across, Product(end - 1 - trace.begin, trace.step)));
     int32_t across = trace.across;
-    if (!isWithin && (!IsInClip(low) || !IsInClip(high))) {
-        for (int32_t along = trace.begin; along < end; ++along) {
-            const Pixel p = trace.At(along, across);
-            if (IsInClip(p))
-                ink->Set(p.x, p.y);
-            across = Sum(across, trace.step);
+    if (!isWithin) {
+        const Pixel low = trace.Low();
+        const Pixel high =
+            trace.At(end - 1, Sum(across, Product(end - 1 - trace.begin, trace.step)));
+        if (!IsInClip(low) || !IsInClip(high)) {
+            for (int32_t along = trace.begin; along < end; ++along) {
+                const Pixel p = trace.At(along, across);
+                if (IsInClip(p))
+                    ink->Set(p.x, p.y);
+                across = Sum(across, trace.step);
+            }
+            return;
         }
-    } else if (trace.steep) {
+    }
+    const size_t stride = ink->Stride();
+    if (trace.steep) {
         Plane::Word* row = ink->Row(trace.begin);
-        for (int32_t y = trace.begin; y < end; ++y, row += ink->Stride()) {
+        for (int32_t y = trace.begin; y < end; ++y, row += stride) {
             Plane::SetIn(row, across >> 16);
             across = Sum(across, trace.step);
         }
     } else {
+        Plane::Word* const words = ink->Row(0);
         for (int32_t x = trace.begin; x < end; ++x) {
-            ink->Set(x, across >> 16);
+            Plane::SetIn(words + static_cast<size_t>(across >> 16) * stride, x);
             across = Sum(across, trace.step);
         }
     }
