@@ -1,0 +1,199 @@
+#include "studio/model/document.h"
+
+#include "testfolder.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace AnimText;
+
+class TestDocument : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestFolder folder;
+
+    static Sign Written(const Document& document, const QString& text)
+    {
+        Sign sign = document.Current();
+        sign.texts.first().source.text.text = text;
+        return sign;
+    }
+    static QString TextOf(const Document& document, int index = 0)
+    {
+        return document.Current().texts.at(index).Title();
+    }
+    static bool Saves(Document* document, const QString& path)
+    {
+        QSignalSpy ended(document, &Document::SaveEnded);
+        document->Save(path);
+        return ended.wait() && ended.first().at(0).toBool();
+    }
+
+private slots:
+    void mergesWhatIsDoneInOneGo();
+    void keepsSourcesBesideTheScene();
+    void savesOnlyWhatStandsStillAsSaved();
+    void tellsOfChangesOnDisk();
+    void guessesSourcesFromStyles();
+    void textsKeepTheirOrder();
+};
+
+void TestDocument::mergesWhatIsDoneInOneGo()
+{
+    Document document;
+    document.New();
+    const QString before = TextOf(document);
+    for (const char* text : {"a", "ab", "abc"})
+        document.Change("Text", Written(document, text), "text 1");
+    document.Change("Text", Written(document, "abcd"), "text 2");
+    document.Change("Text", Written(document, "abcde"));
+    document.Change("Text", Written(document, "x"));
+    QStringList back;
+    while (document.Undo()->canUndo()) {
+        document.Undo()->undo();
+        back.append(TextOf(document));
+    }
+    QCOMPARE(back, (QStringList{"abcde", "abcd", "abc", before}));
+    document.Undo()->redo();
+    QCOMPARE(TextOf(document), QString("abc"));
+    QTRY_VERIFY(document.Current().IsLaidOut());
+    QCOMPARE(document.Current().texts.first().layout->text, QString("abc"));
+}
+
+void TestDocument::keepsSourcesBesideTheScene()
+{
+    Document document;
+    document.New();
+    Sign sign = document.Current();
+    TextSource& source = sign.texts.first().source;
+    const StyleRun run = source.text.runs.first();
+    source.text = StyledText();
+    source.text.Append("Mind ", run);
+    StyleRun bold = run;
+    bold.font.setBold(true);
+    bold.font.setPixelSize(23);
+    bold.color = QColor(1, 2, 3);
+    source.text.Append("the gap", bold);
+    source.align = Align::Right;
+    source.valign = VAlign::Bottom;
+    source.padding = 3;
+    source.fit = Fit::Both;
+    source.keepsWords = false;
+    AddText(&sign, NewText(QSize(100, 30), 1));
+    document.Change("Text", sign);
+    const TextSource wanted = source;
+    const QString path = folder.Path("sign.json");
+    QVERIFY(Saves(&document, path));
+    QVERIFY(!document.IsModified());
+
+    // Settings that need no new layout may be changed by others.
+    QCOMPARE(folder.Shell("animtext set sign.json 1 speed=3").status, 0);
+    Document again;
+    QString error;
+    QVERIFY2(again.Open(path, &error), qPrintable(error));
+    QCOMPARE(again.Current().texts.size(), 2);
+    QVERIFY(again.Current().texts.first().source == wanted);
+    QCOMPARE(again.Current().texts.first().node.attributes.value("AnimationSpeed").toInt(), 3);
+    QVERIFY(again.Current().IsLaidOut());
+
+    // Its data files and sources go along to another folder and another name.
+    const QString other = folder.Path("other");
+    QVERIFY(QDir().mkpath(other));
+    QVERIFY(Saves(&again, other + "/moved.json"));
+    QCOMPARE(folder.Shell("animtext validate other/moved.json").status, 0);
+    QVERIFY(again.Open(other + "/moved.json", &error));
+    QVERIFY(again.Current().texts.first().source == wanted);
+    // Layouts that nobody needs any more leave nothing behind.
+    document.Undo()->undo();
+    document.KeepMine();
+    QVERIFY(Saves(&document, path));
+    QCOMPARE(folder.Listing().filter("sign.").size(), 4); // scene, sources, outlines, descents
+}
+
+void TestDocument::savesOnlyWhatStandsStillAsSaved()
+{
+    Document document;
+    document.New();
+    document.Change("Text", Written(document, "one"), "text 1");
+    QTRY_VERIFY(document.Current().IsLaidOut());
+    QSignalSpy ended(&document, &Document::SaveEnded);
+    document.Save(folder.Path("still.json"));
+    QVERIFY(document.IsSaving());
+    document.Change("Text", Written(document, "two"), "text 1");
+    QVERIFY(ended.wait());
+    QVERIFY(document.IsModified());
+    QVERIFY(folder.Read("still.json").contains("\"Text\": \"one\""));
+    QVERIFY(!Saves(&document, folder.Path("nowhere/still.json")));
+    QVERIFY(document.IsModified());
+    QCOMPARE(document.Path(), folder.Path("still.json"));
+}
+
+void TestDocument::tellsOfChangesOnDisk()
+{
+    Document document;
+    document.New();
+    const QString path = folder.Path("disk.json");
+    QVERIFY(Saves(&document, path));
+    QSignalSpy changed(&document, &Document::DiskChanged);
+    document.Change("Text", Written(document, "mine"));
+    QTRY_VERIFY(document.Current().IsLaidOut());
+    QCOMPARE(folder.Shell("animtext set disk.json 1 speed=2").status, 0);
+    const QByteArray theirs = folder.Read("disk.json");
+    QVERIFY(!Saves(&document, path)); // theirs is not lost without a word
+    QCOMPARE(folder.Read("disk.json"), theirs);
+    QTRY_COMPARE(changed.size(), 1);
+    document.KeepMine();
+    QVERIFY(document.IsModified());
+    QVERIFY(Saves(&document, path));
+    QVERIFY(folder.Read("disk.json").contains("mine"));
+    QCOMPARE(changed.size(), 1); // its own saving is no news
+}
+
+void TestDocument::guessesSourcesFromStyles()
+{
+    QCOMPARE(folder
+                 .Shell("animtext author -o styled.json --markup --area 400x64 --text "
+                        "'<b>Gleis 7</b> <font size=\"24\" color=\"red\">nach <u>Z</u></font>'")
+                 .status,
+             0);
+    Document document;
+    QString error;
+    QVERIFY(document.Open(folder.Path("styled.json"), &error));
+    const StyledText& text = document.Current().texts.first().source.text;
+    QCOMPARE(text.text.trimmed(), QString("Gleis 7 nach Z"));
+    QVERIFY(text.At(0).font.bold() && !text.At(8).font.bold());
+    QVERIFY(text.At(13).font.underline() && !text.At(12).font.underline());
+    QCOMPARE(text.At(9).color, QColor(Qt::red));
+    QVERIFY(text.At(0).font.pixelSize() > text.At(9).font.pixelSize());
+    QVERIFY(!document.Open(folder.Path("missing.json"), &error));
+    QVERIFY(error.contains("missing.json"));
+    QCOMPARE(document.Current().texts.size(), 1); // what was open stays
+}
+
+void TestDocument::textsKeepTheirOrder()
+{
+    Sign sign;
+    QVector<int> ids;
+    for (int page : {0, 1, 0, 2}) {
+        AddText(&sign, NewText(QSize(64, 32), page));
+        ids.append(0);
+    }
+    const auto places = [&] {
+        QStringList list;
+        for (const SignText& text : sign.texts)
+            list.append(QString("%1.%2").arg(text.page).arg(text.area));
+        return list.join(' ');
+    };
+    QCOMPARE(places(), QString("0.0 0.1 1.0 2.0"));
+    RemoveText(&sign, sign.texts.at(0).id);
+    QCOMPARE(places(), QString("0.0 1.0 2.0"));
+    RemoveText(&sign, sign.texts.at(1).id);
+    QCOMPARE(places(), QString("0.0 1.0"));
+    RemoveText(&sign, 0);
+    QCOMPARE(sign.PageCount(), 2);
+}
+
+QTEST_MAIN(TestDocument)
+#include "tst_document.moc"

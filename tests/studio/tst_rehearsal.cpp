@@ -1,0 +1,231 @@
+#include "studio/model/document.h"
+#include "studio/worker/rehearsal.h"
+
+#include "scene/catalogue.h"
+#include "testfolder.h"
+
+#include <QCryptographicHash>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <csignal>
+
+using namespace AnimText;
+
+namespace {
+
+QByteArray Sha1(const QImage& picture)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (int y = 0; y < picture.height(); ++y)
+        hash.addData(reinterpret_cast<const char*>(picture.constScanLine(y)), picture.width() * 4);
+    return hash.result().toHex();
+}
+
+Part PartOf(int page, bool schedule = false)
+{
+    Part part;
+    part.page = page;
+    part.schedule = schedule;
+    return part;
+}
+
+/** The processes that this one has started. */
+QVector<pid_t> Children()
+{
+    QVector<pid_t> children;
+    const QDir tasks("/proc/self/task");
+    for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile list(tasks.filePath(task + "/children"));
+        if (!list.open(QIODevice::ReadOnly))
+            continue;
+        for (const QByteArray& id : list.readAll().split(' ')) {
+            if (!id.trimmed().isEmpty())
+                children.append(id.toInt());
+        }
+    }
+    return children;
+}
+
+} // namespace
+
+class TestRehearsal : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestFolder folder;
+
+    /** A sign of one text that fills the display. */
+    static Sign OneText(const QString& words, bool scroll, int motion, int hold = 5)
+    {
+        Sign sign;
+        sign.display = QSize(96, 32);
+        SignText text = NewText(sign.display, 0);
+        text.source.text.text = words;
+        text.source.text.runs.first().font.setPixelSize(24);
+        text.node.hold = hold;
+        text.node.attributes["EffectType"] = scroll ? 1 : 0;
+        text.node.attributes[scroll ? "ContinueStyle" : "AnimationEffect"] = motion;
+        text.node.attributes[scroll ? "ContinueSpeed" : "AnimationSpeed"] = 7;
+        text.layoutKey = LayoutKey(text);
+        text.layout = MakeLayout(text);
+        AddText(&sign, text);
+        return sign;
+    }
+    static bool IsShown(Rehearsal* rehearsal, int tick)
+    {
+        QSignalSpy shown(rehearsal, &Rehearsal::Shown);
+        rehearsal->Look(tick);
+        return !shown.isEmpty() || rehearsal->IsCurrent() || shown.wait(10000);
+    }
+
+private slots:
+    void initTestCase() { WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio"); }
+    void picturesAreThoseOfTheTrace_data();
+    void picturesAreThoseOfTheTrace();
+    void measuresPagesAndEnds();
+    void keepsNoMoreThanItMay();
+    void outlivesItsWorker();
+    void tellsOfAPluginThatWillNotLoad();
+    void callsFailOnDemand();
+};
+
+void TestRehearsal::picturesAreThoseOfTheTrace_data()
+{
+    QTest::addColumn<bool>("scroll");
+    QTest::addColumn<int>("motion");
+    for (const Motion& effect : Effects())
+        QTest::newRow(effect.name) << false << effect.number;
+    for (const Motion& scroll : Scrolls()) {
+        // Sideways, the device moves one picture: a trace has that, not the display.
+        if (scroll.number >= 2)
+            QTest::newRow(scroll.name) << true << scroll.number;
+    }
+}
+
+void TestRehearsal::picturesAreThoseOfTheTrace()
+{
+    QFETCH(bool, scroll);
+    QFETCH(int, motion);
+    const Sign sign = OneText("Züge ab", scroll, motion);
+    QString error;
+    QVERIFY2(SaveSign(sign, folder.Path("traced.json"), QByteArray(), &error), qPrintable(error));
+    const Outcome trace = folder.Shell("animtext trace traced.json --ticks 40");
+    QVERIFY2(trace.status == 0, trace.errors);
+
+    Rehearsal rehearsal((QString()));
+    rehearsal.SetSign(sign, PartOf(0));
+    QVector<QByteArray> told;
+    for (const QByteArray& line : trace.out.split('\n')) {
+        if (!line.isEmpty())
+            told.append(QJsonDocument::fromJson(line).object().value("sha1").toString().toLatin1());
+    }
+    QCOMPARE(told.size(), 41);
+    for (int tick : {0, 7, 40, 12, 13, 3}) { // also backwards
+        QVERIFY2(IsShown(&rehearsal, tick), qPrintable(QString::number(tick)));
+        QCOMPARE(Sha1(rehearsal.Picture(tick)), told.at(tick));
+    }
+}
+
+void TestRehearsal::measuresPagesAndEnds()
+{
+    Sign sign = OneText("WWWWWWW", false, 4);
+    sign.texts.first().node.attributes["PlayTimes"] = 2;
+    Rehearsal rehearsal((QString()));
+    QSignalSpy measured(&rehearsal, &Rehearsal::TimingChanged);
+    rehearsal.SetSign(sign, PartOf(0));
+    QVERIFY(measured.wait(10000));
+    const TextTime text = rehearsal.GetTiming().texts.first();
+    QString error;
+    QVERIFY(SaveSign(sign, folder.Path("timed.json"), QByteArray(), &error));
+    const Outcome duration = folder.Shell("animtext duration timed.json --simulate --json");
+    const QJsonObject told = QJsonDocument::fromJson(duration.out).object();
+    QCOMPARE(text.told, qint64(told.value("duration").toDouble()));
+    QCOMPARE(text.real, qint64(told.value("simulated").toObject().value("finishedMs").toDouble()));
+    QCOMPARE(text.pages.size(), 2 * sign.texts.first().layout->pages);
+    QSet<int> pictures;
+    for (const QByteArray& line :
+         folder.Shell("animtext trace timed.json -n 200").out.split('\n')) {
+        const QJsonObject tick = QJsonDocument::fromJson(line).object();
+        if (tick.value("swap").toBool())
+            pictures.insert(tick.value("tick").toInt());
+    }
+    int end = 0;
+    for (const PageTime& page : text.pages) {
+        QCOMPARE(page.begin, end);
+        QVERIFY(page.hold > page.begin);
+        QVERIFY(pictures.contains(page.begin) && pictures.contains(page.hold - 1));
+        for (int tick = page.hold; tick < page.end; ++tick)
+            QVERIFY(!pictures.contains(tick));
+        end = page.end;
+    }
+    QCOMPARE(qint64(end) * tickLength, text.real);
+    // As the host plays it, a text is stopped when the told time is over.
+    rehearsal.SetSign(sign, PartOf(-1, true));
+    QVERIFY(measured.wait(10000));
+    QCOMPARE(rehearsal.GetTiming().texts.first().until, text.told);
+}
+
+void TestRehearsal::keepsNoMoreThanItMay()
+{
+    const int each = 96 * 32 * 4;
+    Rehearsal rehearsal(QString(), 10 * each);
+    rehearsal.SetSign(OneText("Moving on", false, 6, 0), PartOf(0));
+    for (int tick : {60, 59, 0, 30, 60}) {
+        QVERIFY(IsShown(&rehearsal, tick));
+        QVERIFY(rehearsal.Has(tick));
+        QVERIFY(rehearsal.KeptBytes() <= 10 * each);
+    }
+}
+
+void TestRehearsal::outlivesItsWorker()
+{
+    Rehearsal rehearsal((QString()));
+    QSignalSpy trouble(&rehearsal, &Rehearsal::Trouble);
+    rehearsal.SetSign(OneText("Again", false, 5), PartOf(0));
+    QVERIFY(IsShown(&rehearsal, 5));
+    const QByteArray before = Sha1(rehearsal.Picture(5));
+    const QVector<pid_t> workers = Children();
+    QVERIFY(!workers.isEmpty());
+    for (pid_t worker : workers)
+        QCOMPARE(kill(worker, SIGKILL), 0);
+    rehearsal.SetSign(OneText("Again", false, 5), PartOf(0));
+    QTRY_VERIFY_WITH_TIMEOUT(rehearsal.IsCurrent(), 10000);
+    QCOMPARE(Sha1(rehearsal.Picture(5)), before);
+    for (const QList<QVariant>& told : trouble)
+        QCOMPARE(told.first().toString(), QString());
+}
+
+void TestRehearsal::tellsOfAPluginThatWillNotLoad()
+{
+    Rehearsal rehearsal(folder.Write("noplugin.so", "no library"));
+    QSignalSpy trouble(&rehearsal, &Rehearsal::Trouble);
+    QVERIFY(trouble.wait(10000));
+    QVERIFY(trouble.first().first().toString().contains("noplugin.so"));
+    rehearsal.SetSign(OneText("Nothing", false, 4), PartOf(0));
+    QTRY_VERIFY_WITH_TIMEOUT(trouble.size() >= 2, 10000);
+    QVERIFY(!rehearsal.IsCurrent());
+}
+
+void TestRehearsal::callsFailOnDemand()
+{
+    Rehearsal rehearsal((QString()));
+    Part part = PartOf(0);
+    part.calls = true;
+    part.faults = {{Torv::OpSwapPicImageLayerPtr, 2}};
+    rehearsal.SetSign(OneText("Calls", false, 4), part);
+    QVERIFY(IsShown(&rehearsal, 8));
+    QVERIFY(IsShown(&rehearsal, 0));
+    QTRY_VERIFY(rehearsal.Has(8) && rehearsal.Has(7) && rehearsal.Has(1));
+    QVERIFY(rehearsal.Calls(0).contains("CreatePictureSession"));
+    QByteArray all;
+    for (int tick = 0; tick <= 8; ++tick)
+        all += rehearsal.Calls(tick);
+    QVERIFY2(all.count("fault") == 1, all);
+}
+
+QTEST_MAIN(TestRehearsal)
+#include "tst_rehearsal.moc"

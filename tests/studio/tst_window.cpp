@@ -1,0 +1,179 @@
+#include "studio/window/mainwindow.h"
+
+#include "testfolder.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace AnimText;
+
+/** The real window, driven by keys and the mouse. */
+class TestWindow : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestFolder folder;
+    std::unique_ptr<MainWindow> window;
+
+    void Type(const QString& words)
+    {
+        QTest::keyClicks(window->GetInspector()->Text()->Editor(), words);
+    }
+    bool Settles()
+    {
+        return QTest::qWaitFor(
+            [this] {
+                return window->GetDocument()->Current().IsLaidOut() &&
+                       window->GetRehearsal()->IsCurrent() && window->GetRehearsal()->IsMeasured();
+            },
+            20000);
+    }
+    const SignText& Text(int index = 0) const
+    {
+        return window->GetDocument()->Current().texts.at(index);
+    }
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { window.reset(); }
+    void writesChoosesScrubsUndoesSaves();
+    void keysMoveInTime();
+    void mouseMovesAndSizesAreas();
+    void closesWhileItPaints();
+};
+
+void TestWindow::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName("animtext-studio-test");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.Path("settings"));
+    WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
+}
+
+void TestWindow::init()
+{
+    window = std::make_unique<MainWindow>(QString());
+    window->New();
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+}
+
+void TestWindow::writesChoosesScrubsUndoesSaves()
+{
+    Type("Mind the gap"); // what was there is selected
+    QCOMPARE(Text().Title(), QString("Mind the gap"));
+    QVERIFY(Settles());
+    MotionPicker* motions = window->GetInspector()->Motions();
+    QTest::keyClicks(motions->Search(), "waves");
+    QCOMPARE(motions->List()->model()->rowCount(), 1);
+    QTest::mouseClick(motions->List()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      motions->List()->visualRect(motions->List()->model()->index(0, 0)).center());
+    QCOMPARE(MotionNumber(Text().node), 5);
+    QVERIFY(Settles());
+    QVERIFY(window->GetPlayback()->Length() > 20);
+    window->GetPlayback()->Seek(11);
+    QVERIFY(Settles());
+    QCOMPARE(window->Display()->Picture(), window->GetRehearsal()->Picture(11));
+    QCOMPARE(window->Display()->GrabPicture().size(), window->Display()->Picture().size());
+
+    const QString path = folder.Path("sign.json");
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(path);
+    QVERIFY(ended.wait());
+    QVERIFY(!window->isWindowModified());
+    window->GetDocument()->Undo()->undo();
+    QCOMPARE(MotionNumber(Text().node), 17);
+    window->GetDocument()->Undo()->undo();
+    QVERIFY(Text().Title() != "Mind the gap"); // typing was one step
+    QVERIFY(!window->GetDocument()->Undo()->canUndo());
+    QVERIFY(window->Open(path));
+    QCOMPARE(MotionNumber(Text().node), 5);
+    QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Mind the gap"));
+}
+
+void TestWindow::keysMoveInTime()
+{
+    QVERIFY(Settles());
+    Playback* time = window->GetPlayback();
+    window->Display()->setFocus();
+    const auto press = [&](int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(window->Display(), Qt::Key(key), modifiers);
+        return time->Tick();
+    };
+    QCOMPARE(press(Qt::Key_Right), 1);
+    QCOMPARE(press(Qt::Key_Right, Qt::ShiftModifier), 11);
+    QCOMPARE(press(Qt::Key_Left), 10);
+    QCOMPARE(press(Qt::Key_Left, Qt::ShiftModifier), 0);
+    QCOMPARE(press(Qt::Key_Left), 0);
+    const int last = press(Qt::Key_End);
+    QCOMPARE(last, time->Length() - 1);
+    const PageTime page = window->GetRehearsal()->GetTiming().texts.first().pages.first();
+    QCOMPARE(press(Qt::Key_BracketLeft), page.hold);
+    QCOMPARE(press(Qt::Key_BracketLeft), 0);
+    QCOMPARE(press(Qt::Key_BracketRight), page.hold);
+    QCOMPARE(press(Qt::Key_Home), 0);
+    press(Qt::Key_Space);
+    QCOMPARE(time->Pace(), 1);
+    press(Qt::Key_L);
+    QCOMPARE(time->Pace(), 2);
+    press(Qt::Key_J);
+    QCOMPARE(time->Pace(), -1);
+    press(Qt::Key_K);
+    QVERIFY(!time->IsPlaying());
+    // Playing goes round, and round the range where there is one.
+    time->Seek(last);
+    time->SetPace(1);
+    QTRY_VERIFY(time->Tick() < 5);
+    time->SetLoop(4, 7);
+    time->Seek(7);
+    QTRY_COMPARE(time->Tick(), 4);
+    QTRY_COMPARE(time->Tick(), 7);
+    QTRY_COMPARE(time->Tick(), 4);
+}
+
+void TestWindow::mouseMovesAndSizesAreas()
+{
+    QVERIFY(Settles());
+    DisplayView* view = window->Display();
+    const auto at = [&](int x, int y) { return view->ToWidget().map(QPointF(x, y)).toPoint(); };
+    const auto drag = [&](QPoint from, QPoint to, Qt::KeyboardModifiers modifiers) {
+        QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, at(from.x(), from.y()));
+        for (int part = 1; part <= 4; ++part) {
+            const QPoint way = from + (to - from) * part / 4;
+            QMouseEvent move(QEvent::MouseMove, at(way.x(), way.y()), Qt::LeftButton,
+                             Qt::LeftButton, modifiers);
+            QApplication::sendEvent(view, &move);
+        }
+        QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, at(to.x(), to.y()));
+    };
+    drag({512, 64}, {300, 40}, Qt::ControlModifier); // its lower right corner
+    QCOMPARE(Text().node.size, QSize(300, 40));
+    drag({100, 20}, {150, 33}, Qt::ControlModifier);
+    QCOMPARE(Text().node.pos, QPoint(50, 13));
+    drag({150, 33}, {102, 22}, Qt::NoModifier); // snaps to the display's corner
+    QCOMPARE(Text().node.pos, QPoint(0, 0));
+    QCOMPARE(window->GetDocument()->Undo()->count(), 3);
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Right, Qt::AltModifier | Qt::ControlModifier);
+    QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    QCOMPARE(Text().node.pos, QPoint(10, 0));
+    QCOMPARE(Text().node.size, QSize(300, 41));
+}
+
+void TestWindow::closesWhileItPaints()
+{
+    for (int round = 0; round < 3; ++round) {
+        Type(QString("Closing %1").arg(round));
+        window->GetPlayback()->SetPace(1);
+        QTRY_VERIFY(window->GetRehearsal()->IsCurrent() || round > 0);
+        window = std::make_unique<MainWindow>(QString()); // the old one goes in mid-work
+        window->New();
+    }
+}
+
+QTEST_MAIN(TestWindow)
+#include "tst_window.moc"

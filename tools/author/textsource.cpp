@@ -1,0 +1,198 @@
+#include "author/textsource.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr qint64 largestFile = 64 << 20; // bytes
+
+int Number(const QHash<QString, QString>& row, const char* field)
+{
+    return row.value(QLatin1String(field)).toInt();
+}
+
+StyleRun StyleOf(const QHash<QString, QString>& row)
+{
+    StyleRun run;
+    run.font = QFont(row.value(QStringLiteral("fontName")));
+    run.font.setPixelSize(qMax(1, qRound(Number(row, "fontSize") * 96 / 72.0)));
+    run.font.setBold(Number(row, "bold") == 1);
+    run.font.setItalic(Number(row, "italic") == 1);
+    run.font.setUnderline(Number(row, "underline") == 1);
+    run.color = QColor::fromRgb(QRgb(Number(row, "Color")));
+    return run;
+}
+
+QJsonObject ToJson(const TextSource& source)
+{
+    QJsonArray runs;
+    for (const StyleRun& run : source.text.runs)
+        runs.append(QJsonObject{{QStringLiteral("begin"), run.begin},
+                                {QStringLiteral("font"), run.font.family()},
+                                {QStringLiteral("size"), run.font.pixelSize()},
+                                {QStringLiteral("bold"), run.font.bold()},
+                                {QStringLiteral("italic"), run.font.italic()},
+                                {QStringLiteral("underline"), run.font.underline()},
+                                {QStringLiteral("color"), run.color.name()}});
+    return {{QStringLiteral("text"), source.text.text},
+            {QStringLiteral("runs"), runs},
+            {QStringLiteral("fit"), int(source.fit)},
+            {QStringLiteral("align"), int(source.align)},
+            {QStringLiteral("valign"), int(source.valign)},
+            {QStringLiteral("padding"), source.padding},
+            {QStringLiteral("keepsWords"), source.keepsWords}};
+}
+
+template <typename Enumeration>
+Enumeration OneOf(const QJsonValue& value, Enumeration last)
+{
+    return Enumeration(qBound(0, value.toInt(), int(last)));
+}
+
+TextSource FromJson(const QJsonObject& json)
+{
+    TextSource source;
+    source.text.text = json.value(QStringLiteral("text")).toString();
+    for (const QJsonValue& value : json.value(QStringLiteral("runs")).toArray()) {
+        const QJsonObject object = value.toObject();
+        StyleRun run;
+        run.begin = object.value(QStringLiteral("begin")).toInt();
+        run.font = QFont(object.value(QStringLiteral("font")).toString());
+        run.font.setPixelSize(qMax(1, object.value(QStringLiteral("size")).toInt()));
+        run.font.setBold(object.value(QStringLiteral("bold")).toBool());
+        run.font.setItalic(object.value(QStringLiteral("italic")).toBool());
+        run.font.setUnderline(object.value(QStringLiteral("underline")).toBool());
+        run.color = QColor(object.value(QStringLiteral("color")).toString());
+        // The first begins the text, whoever may have written the file, and they follow one
+        // another.
+        const QVector<StyleRun>& runs = source.text.runs;
+        run.begin = runs.isEmpty() ? 0 : qMax(runs.last().begin + 1, run.begin);
+        source.text.runs.append(run);
+    }
+    source.fit = OneOf(json.value(QStringLiteral("fit")), Fit::Both);
+    source.align = OneOf(json.value(QStringLiteral("align")), Align::Right);
+    source.valign = OneOf(json.value(QStringLiteral("valign")), VAlign::Bottom);
+    source.padding = qMax(0, json.value(QStringLiteral("padding")).toInt());
+    source.keepsWords = json.value(QStringLiteral("keepsWords")).toBool(true);
+    return source;
+}
+
+} // namespace
+
+bool operator==(const TextSource& a, const TextSource& b)
+{
+    const auto alike = [](const StyleRun& x, const StyleRun& y) {
+        return x.begin == y.begin && x.font == y.font && x.color == y.color;
+    };
+    return a.text.text == b.text.text && a.fit == b.fit && a.align == b.align &&
+           a.valign == b.valign && a.padding == b.padding && a.keepsWords == b.keepsWords &&
+           std::equal(a.text.runs.begin(), a.text.runs.end(), b.text.runs.begin(),
+                      b.text.runs.end(), alike);
+}
+
+bool IsScroll(const SceneNode& node)
+{
+    return node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
+}
+
+int MotionNumber(const SceneNode& node)
+{
+    return node.attributes
+        .value(IsScroll(node) ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect"))
+        .toInt();
+}
+
+AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings)
+{
+    AuthorOptions options;
+    options.text = source.text.text;
+    options.styles = source.text.runs;
+    options.fit = source.fit;
+    options.align = source.align;
+    options.valign = source.valign;
+    options.padding = source.padding;
+    options.keepsWords = source.keepsWords;
+    options.mode = IsScroll(settings) ? Mode::Scroll : Mode::Entrance;
+    options.motion = MotionNumber(settings);
+    options.area = settings.size;
+    return options;
+}
+
+TextSource SourceOf(const SceneNode& node)
+{
+    TextSource source;
+    const QString text = node.attributes.value(QStringLiteral("Text")).toString();
+    const auto rows = node.lists.value(QStringLiteral("TextAttribute"));
+    StyleRun style = StyleOf(rows.value(0));
+    for (int i = 0; i < text.size(); ++i) {
+        if (i < rows.size())
+            style = StyleOf(rows.at(i));
+        source.text.Append(text.mid(i, 1), style);
+    }
+    if (source.text.runs.isEmpty())
+        source.text.runs = {style};
+    return source;
+}
+
+QByteArray LayoutDigest(const SceneNode& node)
+{
+    SceneNode layout;
+    layout.size = node.size;
+    layout.attributes[QStringLiteral("Text")] = node.attributes.value(QStringLiteral("Text"));
+    layout.lists = node.lists;
+    // Names of data files are digests of what they hold, behind the name of their scene.
+    for (const char* key : {"PathData", "DescentVector"}) {
+        const QString name = QFileInfo(node.files.value(QLatin1String(key))).fileName();
+        layout.files[QLatin1String(key)] = name.section(QLatin1Char('.'), -2);
+    }
+    Scene scene;
+    scene.pages = {ScenePage{{SceneArea{{layout}}}}};
+    return QCryptographicHash::hash(SceneToJson(scene), QCryptographicHash::Sha256)
+        .toHex()
+        .left(32);
+}
+
+QString SourcesName(const QString& scenePath)
+{
+    return QFileInfo(scenePath).completeBaseName() + QStringLiteral(".sources");
+}
+
+TextSources ReadSources(const QString& scenePath)
+{
+    QFile file(QFileInfo(RealPath(scenePath)).dir().filePath(SourcesName(RealPath(scenePath))));
+    if (file.size() > largestFile || !file.open(QIODevice::ReadOnly))
+        return {};
+    return SourcesFromJson(file.readAll());
+}
+
+QByteArray SourcesToJson(const TextSources& sources)
+{
+    QJsonObject json;
+    for (auto source = sources.begin(); source != sources.end(); ++source)
+        json.insert(QString::fromLatin1(source.key()), ToJson(source.value()));
+    return QJsonDocument(QJsonObject{{QStringLiteral("sources"), json}}).toJson();
+}
+
+TextSources SourcesFromJson(const QByteArray& json)
+{
+    TextSources sources;
+    const QJsonObject list =
+        QJsonDocument::fromJson(json).object().value(QStringLiteral("sources")).toObject();
+    for (auto it = list.begin(); it != list.end(); ++it) {
+        const TextSource source = FromJson(it.value().toObject());
+        if (!source.text.runs.isEmpty())
+            sources.insert(it.key().toLatin1(), source);
+    }
+    return sources;
+}
+
+} // namespace AnimText

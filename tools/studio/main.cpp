@@ -1,0 +1,80 @@
+// The studio: a window in which signs are written and timed, or, with --worker, one of its workers.
+#include "studio/window/mainwindow.h"
+#include "studio/worker/workermain.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+namespace {
+
+using namespace AnimText;
+
+/** Where windows can be shown; else says what to do and answers false. */
+bool HasDisplay()
+{
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return true;
+    }
+    std::fputs("animtext-studio: there is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.\n"
+               "Run it in a desktop session, over ssh -X, or with:\n"
+               "  xvfb-run animtext-studio\n"
+               "animtext authors, renders and checks scenes without a display.\n",
+               stderr);
+    return false;
+}
+
+int RunWindow(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Qt would take --plugin for one of its own.
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    int ownName = 1;
+    QApplication application(ownName, argv);
+    QApplication::setApplicationName(QStringLiteral("animtext-studio"));
+    QApplication::setOrganizationName(QStringLiteral("animtext"));
+    QApplication::setApplicationVersion(QStringLiteral(ANIMTEXT_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("A window in which animated texts are written, timed and exported."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption plugin(
+        QStringLiteral("plugin"),
+        QStringLiteral("The plugin library, in place of the one beside this program."),
+        QStringLiteral("FILE"));
+    parser.addOption(plugin);
+    parser.addPositionalArgument(QStringLiteral("scene"), QStringLiteral("The scene to open."),
+                                 QStringLiteral("[SCENE.json]"));
+    parser.process(words);
+
+    MainWindow window(parser.value(plugin));
+    const QStringList scenes = parser.positionalArguments();
+    if (scenes.isEmpty() || !window.Open(scenes.first()))
+        window.New();
+    window.show();
+    window.GetPlayback()->SetPace(1);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc > 1 && qstrcmp(argv[1], "--worker") == 0)
+        return WorkerMain(argc, argv);
+    const bool asksOnly =
+        argc > 1 && (qstrcmp(argv[1], "--help") == 0 || qstrcmp(argv[1], "-h") == 0 ||
+                     qstrcmp(argv[1], "--version") == 0);
+    if (asksOnly)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!HasDisplay())
+        return 1;
+    return RunWindow(argc, argv);
+}

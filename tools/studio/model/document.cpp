@@ -1,0 +1,272 @@
+#include "studio/model/document.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUndoCommand>
+
+namespace AnimText {
+
+/** From one state to the next; both share what they have in common. */
+class SignChange : public QUndoCommand
+{
+public:
+    SignChange(Document* document, const QString& what, Sign after, const QString& merge)
+        : QUndoCommand(what)
+        , document(document)
+        , before(document->Current())
+        , after(std::move(after))
+        , merge(merge)
+    {
+    }
+
+    int id() const override { return merge.isEmpty() ? -1 : 1; }
+    void undo() override { document->Set(before); }
+    void redo() override { document->Set(after); }
+    bool mergeWith(const QUndoCommand* later) override
+    {
+        const auto* other = static_cast<const SignChange*>(later);
+        if (other->merge != merge)
+            return false;
+        after = other->after;
+        return true;
+    }
+
+private:
+    Document* document;
+    Sign before;
+    Sign after;
+    QString merge;
+};
+
+QByteArray DigestOfFile(const QString& path)
+{
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+        return {};
+    return hash.result();
+}
+
+bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error)
+{
+    const auto change = [&](Scene* scene, DataFiles* dataFiles, QString* why) {
+        if (!known.isEmpty() && DigestOfFile(path) != known) {
+            *why = Document::tr("%1 has changed on disk").arg(path);
+            return false;
+        }
+        // Until the new scene stands in its place, the old one needs its own.
+        TextSources sources = ReadSources(path);
+        TextSources wanted;
+        for (const SceneNode* node : scene->Nodes()) {
+            const QByteArray digest = LayoutDigest(*node);
+            if (sources.contains(digest))
+                wanted.insert(digest, sources.value(digest));
+        }
+        *scene = SceneToSave(sign, scene->path, dataFiles);
+        const TextSources own = SourcesOf(sign, *scene);
+        for (auto source = own.begin(); source != own.end(); ++source)
+            wanted.insert(source.key(), source.value());
+        dataFiles->insert(SourcesName(scene->path), SourcesToJson(wanted));
+        return true;
+    };
+    return ChangeScene(path, change, error) == Storing::Saved;
+}
+
+Document::Document(QObject* parent)
+    : QObject(parent)
+{
+    connect(&layouts, &LayoutQueue::Made, this, &Document::TakeLayout);
+    connect(&undo, &QUndoStack::cleanChanged, this, &Document::StateChanged);
+    connect(&watcher, &QFileSystemWatcher::fileChanged, this, &Document::LookAtDisk);
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &Document::LookAtDisk);
+    pool.setMaxThreadCount(1);
+}
+
+Document::~Document()
+{
+    pool.waitForDone();
+}
+
+QString Document::Name() const
+{
+    return path.isEmpty() ? tr("New sign") : QFileInfo(path).fileName();
+}
+
+void Document::Change(const QString& what, Sign after, const QString& merge)
+{
+    for (SignText& text : after.texts) {
+        const SignText* old = sign.Find(text.id);
+        const bool same = old && old->source == text.source && old->node.size == text.node.size &&
+                          IsScroll(old->node) == IsScroll(text.node) &&
+                          MotionNumber(old->node) == MotionNumber(text.node);
+        if (!same)
+            text.layoutKey = LayoutKey(text);
+    }
+    undo.push(new SignChange(this, what, std::move(after), merge));
+}
+
+void Document::Set(const Sign& next)
+{
+    sign = next;
+    ++revision;
+    AskForLayouts();
+    emit Changed();
+}
+
+void Document::Replace(const Sign& next, const QString& itsPath)
+{
+    undo.clear();
+    path = itsPath;
+    onDisk = DigestOfFile(path);
+    told = onDisk;
+    savePath.clear();
+    Watch();
+    for (const SignText& text : next.texts) {
+        if (text.layout)
+            layouts.Remember(text.layout);
+    }
+    sign = next;
+    AskForLayouts();
+    emit Replaced();
+    emit StateChanged();
+    emit Changed();
+}
+
+void Document::New()
+{
+    Sign fresh;
+    AddText(&fresh, NewText(fresh.display, 0));
+    Replace(fresh, QString());
+}
+
+bool Document::Open(const QString& file, QString* error)
+{
+    Scene scene;
+    if (!ReadScene(file, &scene, error, MissingFiles::AreAccepted))
+        return false;
+    Replace(SignOf(scene, ReadSources(file)), QFileInfo(file).absoluteFilePath());
+    return true;
+}
+
+void Document::Recover(const Sign& recovered, const QString& file)
+{
+    Replace(recovered, file);
+    undo.resetClean();
+}
+
+void Document::AskForLayouts()
+{
+    for (SignText& text : sign.texts) {
+        if (text.IsLaidOut())
+            continue;
+        if (const auto known = layouts.Find(text))
+            text.layout = known;
+        else
+            layouts.Ask(text);
+    }
+}
+
+void Document::TakeLayout(const std::shared_ptr<const Layout>& layout)
+{
+    bool taken = false;
+    for (SignText& text : sign.texts) {
+        if (text.layoutKey != layout->key || text.IsLaidOut())
+            continue;
+        text.layout = layout;
+        taken = true;
+    }
+    if (taken)
+        emit Changed();
+    if (!savePath.isEmpty() && sign.IsLaidOut())
+        SaveNow();
+}
+
+void Document::Save(const QString& file)
+{
+    savePath = file;
+    if (sign.IsLaidOut())
+        SaveNow();
+}
+
+void Document::SaveNow()
+{
+    const QString file = savePath;
+    savePath.clear();
+    const Sign saved = sign;
+    const int state = revision;
+    // What a dialog let somebody choose may be written over.
+    const QByteArray known = QFileInfo(file) == QFileInfo(path) ? onDisk : QByteArray();
+    saving = true;
+    emit StateChanged();
+    pool.start([this, saved, file, known, state] {
+        QString error;
+        const bool done = SaveSign(saved, file, known, &error);
+        const QByteArray digest = done ? DigestOfFile(file) : QByteArray();
+        QMetaObject::invokeMethod(
+            this,
+            [this, done, error, digest, state, file] {
+                if (done)
+                    path = QFileInfo(file).absoluteFilePath();
+                Saved(done, error, digest, state);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Document::Saved(bool saved, const QString& error, const QByteArray& digest, int state)
+{
+    saving = false;
+    if (saved) {
+        onDisk = digest;
+        told = digest;
+        Watch();
+        // Changes that came while it was being saved are not in the file.
+        if (revision == state)
+            undo.setClean();
+    }
+    emit StateChanged();
+    emit SaveEnded(saved, error);
+    LookAtDisk();
+}
+
+void Document::KeepMine()
+{
+    onDisk = DigestOfFile(path);
+    told = onDisk;
+    undo.resetClean();
+}
+
+void Document::WaitUntilSaved()
+{
+    pool.waitForDone();
+}
+
+void Document::Watch()
+{
+    if (!watcher.files().isEmpty())
+        watcher.removePaths(watcher.files());
+    if (!watcher.directories().isEmpty())
+        watcher.removePaths(watcher.directories());
+    if (path.isEmpty())
+        return;
+    watcher.addPath(path);
+    // A file that is replaced whole is another file of that name.
+    watcher.addPath(QFileInfo(path).absolutePath());
+}
+
+void Document::LookAtDisk()
+{
+    if (path.isEmpty() || saving)
+        return;
+    const QByteArray digest = DigestOfFile(path);
+    if (!watcher.files().contains(path))
+        watcher.addPath(path);
+    if (digest.isEmpty() || digest == told)
+        return;
+    told = digest;
+    emit DiskChanged();
+}
+
+} // namespace AnimText

@@ -1,0 +1,309 @@
+#include "studio/model/sign.h"
+
+#include "author/fonts.h"
+#include "author/glyphfiles.h"
+#include "author/places.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <atomic>
+
+namespace AnimText {
+namespace {
+
+const QString pathData = QStringLiteral("PathData");
+const QString descentVector = QStringLiteral("DescentVector");
+const QString textKey = QStringLiteral("Text");
+
+/** The data files of our own are small; a sign's largest is 256 MiB. */
+QByteArray Content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/** The layout that a node of @p scene came with. */
+std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node,
+                                       const QByteArray& key)
+{
+    auto layout = std::make_shared<Layout>();
+    layout->key = key;
+    layout->text = node.attributes.value(textKey).toString();
+    layout->lists = node.lists;
+    for (const QString& key : {pathData, descentVector}) {
+        if (!node.files.contains(key))
+            continue;
+        const QString name = scene.FullName(node.files.value(key));
+        layout->files[key] = name;
+        // Whoever else works in the folder may remove the file.
+        (key == pathData ? layout->outlines : layout->descents) = Content(name);
+    }
+    return layout;
+}
+
+SceneNode WithoutLayout(SceneNode node, const Scene& scene)
+{
+    node.attributes.remove(textKey);
+    node.lists.clear();
+    node.files.remove(pathData);
+    node.files.remove(descentVector);
+    for (QString& file : node.files)
+        file = scene.FullName(file);
+    return node;
+}
+
+SceneNode NodeOf(const SignText& text, const PlaceFile& placeFile)
+{
+    SceneNode node = text.node;
+    if (!text.layout)
+        return node;
+    const Layout& layout = *text.layout;
+    node.attributes[textKey] = layout.text;
+    node.lists = layout.lists;
+    for (const QString& key : {pathData, descentVector}) {
+        const bool outlines = key == pathData;
+        if (!(outlines ? layout.outlines : layout.descents).isEmpty())
+            node.files[key] = placeFile(layout, outlines);
+        else if (layout.files.contains(key))
+            node.files[key] = layout.files.value(key);
+    }
+    return node;
+}
+
+/** @p file as it is to stand in a scene of @p folder. */
+QString NameIn(const QDir& folder, const QString& file)
+{
+    const QString near = folder.relativeFilePath(file);
+    return near.startsWith(QLatin1String("..")) ? file : near;
+}
+
+void MakeEmpty(Layout* layout)
+{
+    layout->outlines = PathFile({});
+    layout->descents = DescentFile({});
+    for (const char* list : {"TextWidth", "TextHeight", "TextAttribute"})
+        layout->lists[QLatin1String(list)] = {};
+}
+
+} // namespace
+
+int Sign::IndexOf(int id) const
+{
+    for (int i = 0; i < texts.size(); ++i) {
+        if (texts.at(i).id == id)
+            return i;
+    }
+    return -1;
+}
+
+SignText* Sign::Find(int id)
+{
+    const int index = IndexOf(id);
+    return index < 0 ? nullptr : &texts[index];
+}
+
+const SignText* Sign::Find(int id) const
+{
+    const int index = IndexOf(id);
+    return index < 0 ? nullptr : &texts.at(index);
+}
+
+int Sign::PageCount() const
+{
+    return texts.isEmpty() ? 0 : texts.last().page + 1;
+}
+
+bool Sign::IsLaidOut() const
+{
+    return std::all_of(texts.begin(), texts.end(),
+                       [](const SignText& text) { return text.IsLaidOut(); });
+}
+
+int NewTextId()
+{
+    static std::atomic<int> last{0};
+    return ++last;
+}
+
+SignText NewText(const QSize& area, int page)
+{
+    SignText text;
+    text.id = NewTextId();
+    text.page = page;
+    text.node.size = area;
+    text.node.hold = 20;
+    text.node.attributes = {{QStringLiteral("EffectType"), 0},
+                            {QStringLiteral("AnimationEffect"), 17},
+                            {QStringLiteral("AnimationSpeed"), 6},
+                            {QStringLiteral("PlayTimes"), 1}};
+    QString family;
+    QString error;
+    if (!FindFamily(QStringLiteral("DejaVu Sans"), &family, &error))
+        family = QGuiApplication::font().family();
+    QFont font(family);
+    font.setPixelSize(qMax(8, area.height() * 5 / 8));
+    text.source.text.text = QCoreApplication::translate("Sign", "Your text");
+    text.source.text.runs = {{0, font, QColor(255, 160, 0)}};
+    text.layoutKey = LayoutKey(text);
+    return text;
+}
+
+void AddText(Sign* sign, SignText text)
+{
+    int behind = 0;
+    int area = 0;
+    for (int i = 0; i < sign->texts.size(); ++i) {
+        const SignText& other = sign->texts.at(i);
+        if (other.page <= text.page)
+            behind = i + 1;
+        if (other.page == text.page)
+            area = other.area + 1;
+    }
+    text.area = area;
+    sign->texts.insert(behind, text);
+}
+
+void RemoveText(Sign* sign, int id)
+{
+    const int index = sign->IndexOf(id);
+    if (index < 0)
+        return;
+    const SignText gone = sign->texts.takeAt(index);
+    const auto remains = [&](bool sameArea) {
+        return std::any_of(sign->texts.begin(), sign->texts.end(), [&](const SignText& text) {
+            return text.page == gone.page && (!sameArea || text.area == gone.area);
+        });
+    };
+    const bool pageRemains = remains(false);
+    const bool areaRemains = remains(true);
+    for (SignText& text : sign->texts) {
+        if (!pageRemains && text.page > gone.page)
+            --text.page;
+        else if (!areaRemains && text.page == gone.page && text.area > gone.area)
+            --text.area;
+    }
+}
+
+QByteArray LayoutKey(const SignText& text)
+{
+    const SceneNode& node = text.node;
+    const QByteArray setting =
+        QByteArray::number(IsScroll(node) ? 1 : 0) + ' ' + QByteArray::number(MotionNumber(node)) +
+        ' ' + QByteArray::number(node.size.width()) + ' ' + QByteArray::number(node.size.height());
+    return QCryptographicHash::hash(SourcesToJson({{setting, text.source}}),
+                                    QCryptographicHash::Sha1);
+}
+
+std::shared_ptr<const Layout> MakeLayout(const SignText& text)
+{
+    TextSource source = text.source;
+    auto layout = std::make_shared<Layout>();
+    layout->key = LayoutKey(text);
+    if (source.text.text.trimmed().isEmpty()) {
+        MakeEmpty(layout.get());
+        return layout;
+    }
+    AuthoredNode authored;
+    if (!ToOneLine(&source.text, &layout->notes, &layout->fault) ||
+        !AuthorNode(OptionsFor(source, text.node), &authored, &layout->fault))
+        return layout;
+    layout->text = authored.node.attributes.value(textKey).toString();
+    layout->lists = authored.node.lists;
+    layout->outlines = authored.pathFile;
+    layout->descents = authored.descentFile;
+    layout->unseen = authored.unseen;
+    layout->tornWords = authored.tornWords;
+    layout->pages = authored.pages;
+    layout->cutAbove = authored.cutAbove;
+    layout->cutBelow = authored.cutBelow;
+    return layout;
+}
+
+Sign SignOf(const Scene& scene, const TextSources& sources)
+{
+    Sign sign;
+    sign.display = scene.display;
+    sign.alphaBlend = scene.alphaBlend;
+    Scene places = scene;
+    for (const Place& place : Places(scene)) {
+        const SceneNode& node = NodeAt(&places, place);
+        SignText text;
+        text.id = NewTextId();
+        text.page = place.page;
+        text.area = place.area;
+        const auto known = sources.find(LayoutDigest(node));
+        text.source = known != sources.end() ? known.value() : SourceOf(node);
+        text.node = WithoutLayout(node, scene);
+        text.layoutKey = LayoutKey(text);
+        text.layout = LayoutIn(scene, node, text.layoutKey);
+        sign.texts.append(text);
+    }
+    return sign;
+}
+
+Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile, int page)
+{
+    Scene scene;
+    scene.path = path;
+    scene.display = sign.display;
+    scene.alphaBlend = sign.alphaBlend;
+    int lastPage = -1;
+    int lastArea = -1;
+    for (const SignText& text : sign.texts) {
+        if (page >= 0 && text.page != page)
+            continue;
+        if (text.page != lastPage) {
+            scene.pages.append(ScenePage());
+            lastArea = -1;
+        }
+        if (text.area != lastArea)
+            scene.pages.last().areas.append(SceneArea());
+        lastPage = text.page;
+        lastArea = text.area;
+        scene.pages.last().areas.last().nodes.append(NodeOf(text, placeFile));
+    }
+    return scene;
+}
+
+Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles)
+{
+    const QDir folder = QFileInfo(RealPath(path)).dir();
+    const auto place = [&](const Layout& layout, bool outlines) {
+        const QString key = outlines ? pathData : descentVector;
+        const QByteArray& content = outlines ? layout.outlines : layout.descents;
+        const QFileInfo there(layout.files.value(key));
+        if (layout.files.contains(key) && there.dir() == folder && there.exists())
+            return there.fileName();
+        const QString suffix = outlines ? QStringLiteral("path") : QStringLiteral("descent");
+        const QString name = DataFileName(RealPath(path), content, suffix);
+        dataFiles->insert(name, content);
+        return name;
+    };
+    Scene scene = SceneOf(sign, path, place);
+    for (ScenePage& page : scene.pages) {
+        for (SceneArea& area : page.areas) {
+            for (SceneNode& node : area.nodes) {
+                for (QString& file : node.files)
+                    file = NameIn(folder, file);
+            }
+        }
+    }
+    return scene;
+}
+
+TextSources SourcesOf(const Sign& sign, const Scene& scene)
+{
+    TextSources sources;
+    const QList<const SceneNode*> nodes = scene.Nodes();
+    for (int i = 0; i < nodes.size() && i < sign.texts.size(); ++i)
+        sources.insert(LayoutDigest(*nodes.at(i)), sign.texts.at(i).source);
+    return sources;
+}
+
+} // namespace AnimText

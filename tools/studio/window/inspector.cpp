@@ -1,0 +1,93 @@
+#include "studio/window/inspector.h"
+
+#include "studio/window/looks.h"
+#include "studio/window/thumbnails.h"
+
+#include <QVBoxLayout>
+
+namespace AnimText {
+
+Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
+    : QScrollArea(parent)
+    , text(new TextPanel)
+    , motions(new MotionPicker(thumbnails))
+    , layoutForm(new LayoutForm)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(3 * grid, 2 * grid, 3 * grid, 3 * grid);
+    layout->setSpacing(grid);
+    const auto section = [&](const QString& words, const QList<QWidget*>& parts) {
+        if (layout->count() > 0)
+            layout->addSpacing(3 * grid);
+        layout->addWidget(Heading(words));
+        for (QWidget* part : parts)
+            layout->addWidget(part);
+    };
+    for (Group group : {Group::Text, Group::Motion, Group::Place, Group::Background}) {
+        auto* form = new AttributeForm(group);
+        forms.append(form);
+        connect(form, &AttributeForm::Edited, this, &Inspector::Edited);
+    }
+    connect(layoutForm, &LayoutForm::Edited, this, &Inspector::Edited);
+    section(tr("Text"), {text});
+    section(tr("Motion"), {motions, forms.at(1)});
+    section(tr("Layout"), {layoutForm});
+    section(tr("Place"), {forms.at(2)});
+    section(tr("Background"), {forms.at(3)});
+    section(tr("Letters"), {forms.at(0)});
+    layout->addStretch(1);
+    setWidget(content);
+    setMinimumWidth(2 * (thumbnailSize.width() + 2 * grid) + 20 * grid);
+
+    connect(text, &TextPanel::Edited, this, [this](const StyledText& styled, int gesture) {
+        emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),
+                    [styled](SignText* edited) { edited->source.text = styled; });
+    });
+    connect(motions, &MotionPicker::Chosen, this, [this](bool scroll, int number) {
+        emit Edited(tr("Motion"), QString(), [scroll, number](SignText* edited) {
+            auto& attributes = edited->node.attributes;
+            const bool wasScroll = IsScroll(edited->node);
+            attributes[QStringLiteral("EffectType")] = scroll ? 1 : 0;
+            attributes[scroll ? QStringLiteral("ContinueStyle")
+                              : QStringLiteral("AnimationEffect")] = number;
+            // The speed goes along from one kind of motion to the other.
+            const QString speeds[]{QStringLiteral("AnimationSpeed"),
+                                   QStringLiteral("ContinueSpeed")};
+            if (wasScroll != scroll && attributes.contains(speeds[wasScroll]))
+                attributes[speeds[scroll]] = attributes.value(speeds[wasScroll]);
+        });
+    });
+}
+
+QLabel* Inspector::Heading(const QString& words)
+{
+    auto* label = new QLabel(words);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    return label;
+}
+
+void Inspector::Show(const SignText* shown)
+{
+    widget()->setEnabled(shown != nullptr);
+    text->Show(shown);
+    if (!shown)
+        return;
+    motions->Show(*shown);
+    layoutForm->Show(*shown);
+    for (AttributeForm* form : forms)
+        form->Show(*shown);
+}
+
+void Inspector::SetFindings(const QList<Finding>& findings)
+{
+    for (AttributeForm* form : forms)
+        form->SetFindings(findings);
+}
+
+} // namespace AnimText

@@ -1,0 +1,278 @@
+// What the menus, the tool bar and the keys of the window do.
+#include "studio/window/looks.h"
+#include "studio/window/mainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QToolBar>
+
+namespace AnimText {
+namespace {
+
+constexpr int mostRecent = 8;
+constexpr int largestZoom = 16;
+constexpr double ledPitch = 1.4; // diameters of a lamp
+
+} // namespace
+
+QAction* MainWindow::Act(QMenu* menu, const QString& words, const QKeySequence& key,
+                         const QString& icon, const std::function<void()>& act)
+{
+    QAction* action = menu->addAction(words);
+    action->setShortcut(key);
+    if (!icon.isEmpty())
+        action->setIcon(Icon(icon));
+    QString name = words;
+    name.remove(QLatin1Char('&'));
+    name.remove(QStringLiteral("…"));
+    action->setToolTip(key.isEmpty() ? name
+                                     : QStringLiteral("%1 (%2)").arg(
+                                           name, key.toString(QKeySequence::NativeText)));
+    connect(action, &QAction::triggered, this, act);
+    return action;
+}
+
+void MainWindow::MakeActions()
+{
+    tools = addToolBar(tr("Tools"));
+    tools->setObjectName(QStringLiteral("tools"));
+    tools->setMovable(false);
+    tools->setIconSize(QSize(20, 20));
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeViewMenu();
+    MakePlayMenu();
+    MakeHelpMenu();
+}
+
+void MainWindow::MakeFileMenu()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    QAction* fresh =
+        Act(file, tr("&New"), QKeySequence::New, QStringLiteral("document-new"), [this] {
+            if (MayLeave())
+                New();
+        });
+    QAction* open = Act(file, tr("&Open…"), QKeySequence::Open, QStringLiteral("document-open"),
+                        [this] { ChooseAndOpen(); });
+    recent = file->addMenu(tr("Open &recent"));
+    connect(recent, &QMenu::aboutToShow, this, &MainWindow::ShowRecent);
+    file->addSeparator();
+    saveAction = Act(file, tr("&Save"), QKeySequence::Save, QStringLiteral("document-save"),
+                     [this] { Save(); });
+    Act(file, tr("Save &as…"), QKeySequence::SaveAs, QString(), [this] { SaveAs(); });
+    file->addSeparator();
+    Act(file, tr("&Quit"), QKeySequence::Quit, QString(), [this] { close(); });
+    tools->addActions({fresh, open, saveAction});
+    tools->addSeparator();
+}
+
+void MainWindow::MakeEditMenu()
+{
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    QAction* undo = document.Undo()->createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    undo->setIcon(Icon(QStringLiteral("edit-undo")));
+    QAction* redo = document.Undo()->createRedoAction(this, tr("&Redo"));
+    redo->setShortcut(QKeySequence::Redo);
+    redo->setIcon(Icon(QStringLiteral("edit-redo")));
+    edit->addActions({undo, redo});
+    tools->addActions({undo, redo});
+    for (QAction* action : {undo, redo})
+        tools->widgetForAction(action)->setProperty("iconOnly", true);
+    edit->addSeparator();
+    QAction* add = Act(edit, tr("Add &text"), QKeySequence(tr("Ctrl+T")),
+                       QStringLiteral("list-add"), [this] { AddNewText(false); });
+    Act(edit, tr("Add &page"), QKeySequence(tr("Ctrl+Shift+T")), QString(),
+        [this] { AddNewText(true); });
+    Act(edit, tr("&Duplicate text"), QKeySequence(tr("Ctrl+D")), QString(),
+        [this] { DuplicateSelected(); });
+    Act(edit, tr("Re&move text"), QKeySequence(tr("Ctrl+Delete")), QString(),
+        [this] { RemoveSelected(); });
+    edit->addSeparator();
+    Act(edit, tr("&Write"), QKeySequence(tr("F2")), QString(),
+        [this] { inspector->Text()->BeginTyping(); });
+    Act(edit, tr("Search &motions"), QKeySequence(tr("Ctrl+M")), QString(), [this] {
+        inspector->ensureWidgetVisible(inspector->Motions());
+        inspector->Motions()->Search()->setFocus();
+    });
+    tools->addSeparator();
+    tools->addAction(add);
+}
+
+void MainWindow::MakeViewMenu()
+{
+    QMenu* look = menuBar()->addMenu(tr("&View"));
+    Act(look, tr("&Fit"), QKeySequence(tr("Ctrl+0")), QString(), [this] { SetZoom(0); });
+    Act(look, tr("Zoom &in"), QKeySequence::ZoomIn, QString(),
+        [this] { SetZoom(qMin(largestZoom, qMax(1, int(view->Scale())) + 1)); });
+    Act(look, tr("Zoom &out"), QKeySequence::ZoomOut, QString(),
+        [this] { SetZoom(qMax(1, int(view->Scale()) - 1)); });
+    look->addSeparator();
+    leds = look->addAction(tr("&LEDs"));
+    leds->setCheckable(true);
+    leds->setShortcut(QKeySequence(tr("Ctrl+L")));
+    leds->setToolTip(tr("Shows the pixels as round lamps (Ctrl+L)"));
+    connect(leds, &QAction::toggled, this, &MainWindow::SetLeds);
+    QAction* chequered = look->addAction(tr("&Chequered beneath"));
+    chequered->setCheckable(true);
+    connect(chequered, &QAction::toggled, this, [this](bool on) {
+        view->SetBeneath(on ? PictureView::Beneath::Chequered : PictureView::Beneath::Black);
+    });
+    QAction* frames = look->addAction(tr("Frames of all &areas"));
+    frames->setCheckable(true);
+    frames->setShortcut(QKeySequence(tr("Ctrl+F")));
+    connect(frames, &QAction::toggled, view, &DisplayView::SetShowsFrames);
+    look->addSeparator();
+    look->addActions(createPopupMenu()->actions());
+
+    auto* space = new QWidget(this);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    tools->addWidget(space);
+    zoomBox = new QComboBox(this);
+    zoomBox->setAccessibleName(tr("Zoom"));
+    zoomBox->setToolTip(tr("Zoom (Ctrl+0, Ctrl++, Ctrl+-)"));
+    zoomBox->addItem(tr("Fit"), 0);
+    for (int zoom : {1, 2, 3, 4, 6, 8, 12, 16})
+        zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
+    connect(zoomBox, qOverload<int>(&QComboBox::activated), this,
+            [this] { SetZoom(zoomBox->currentData().toInt()); });
+    tools->addWidget(zoomBox);
+    tools->addAction(leds);
+}
+
+void MainWindow::MakePlayMenu()
+{
+    QMenu* play = menuBar()->addMenu(tr("&Play"));
+    // The keys are the window's own, so that fields in which one types have them first.
+    const auto act = [&](const QString& words, const QString& key,
+                         const std::function<void()>& does) {
+        connect(play->addAction(words + QLatin1Char('\t') + key), &QAction::triggered, this, does);
+    };
+    act(tr("&Play or stop"), tr("Space"), [this] { playback.Toggle(); });
+    act(tr("&Backwards, then faster"), QStringLiteral("J"), [this] { playback.Shuttle(-1); });
+    act(tr("&Stop"), QStringLiteral("K"), [this] { playback.SetPace(0); });
+    act(tr("&Forwards, then faster"), QStringLiteral("L"), [this] { playback.Shuttle(1); });
+    play->addSeparator();
+    act(tr("One tick back"), QStringLiteral("←"), [this] { playback.Seek(playback.Tick() - 1); });
+    act(tr("One tick on"), QStringLiteral("→"), [this] { playback.Seek(playback.Tick() + 1); });
+    act(tr("Ten ticks back"), tr("Shift+←"), [this] { playback.Seek(playback.Tick() - 10); });
+    act(tr("Ten ticks on"), tr("Shift+→"), [this] { playback.Seek(playback.Tick() + 10); });
+    act(tr("Previous page mark"), QStringLiteral("["),
+        [this] { playback.Seek(timeline->PreviousMark(playback.Tick())); });
+    act(tr("Next page mark"), QStringLiteral("]"),
+        [this] { playback.Seek(timeline->NextMark(playback.Tick())); });
+    act(tr("To the start"), tr("Home"), [this] { playback.Seek(0); });
+    act(tr("To the end"), tr("End"), [this] { playback.Seek(playback.Length() - 1); });
+    act(tr("&Loop over the page, or no more"), QStringLiteral("R"), [this] { ToggleLoop(); });
+}
+
+void MainWindow::MakeHelpMenu()
+{
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    Act(help, tr("&About"), QKeySequence(), QString(), [this] {
+        auto* box = new QMessageBox(
+            QMessageBox::NoIcon, tr("Animated Text Studio"),
+            tr("<b>Animated Text Studio %1</b><p>What is seen here is what the plugin paints: "
+               "the same library, the same pixels as on the sign.")
+                .arg(QApplication::applicationVersion()),
+            QMessageBox::Close, this);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setModal(false);
+        box->show();
+    });
+}
+
+void MainWindow::SetZoom(int zoom)
+{
+    view->SetZoom(zoom);
+    int index = zoomBox->findData(zoom);
+    if (index < 0) {
+        zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
+        index = zoomBox->count() - 1;
+    }
+    zoomBox->setCurrentIndex(index);
+}
+
+void MainWindow::SetLeds(bool on)
+{
+    view->SetPitch(on ? ledPitch : 0);
+}
+
+void MainWindow::ChooseAndOpen()
+{
+    if (!MayLeave())
+        return;
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open a scene"), QFileInfo(document.Path()).path(), tr("Scenes (*.json)"));
+    if (!path.isEmpty())
+        Open(path);
+}
+
+bool MainWindow::Save()
+{
+    if (document.Path().isEmpty())
+        return SaveAs();
+    document.Save(document.Path());
+    return true;
+}
+
+bool MainWindow::SaveAs()
+{
+    QString path = QFileDialog::getSaveFileName(this, tr("Save the scene"), document.Path(),
+                                                tr("Scenes (*.json)"));
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += QStringLiteral(".json");
+    document.Save(path);
+    AddRecent(path);
+    return true;
+}
+
+/** Whether the sign may go; asks where it has changes that are not saved. */
+bool MainWindow::MayLeave()
+{
+    if (!document.IsModified())
+        return true;
+    const auto answer = QMessageBox::question(
+        this, tr("Animated Text Studio"),
+        tr("%1 has changes that are not saved.").arg(document.Name()),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save)
+        return Save();
+    return answer == QMessageBox::Discard;
+}
+
+void MainWindow::ShowRecent()
+{
+    recent->clear();
+    for (const QString& path : QSettings().value(QStringLiteral("recent")).toStringList()) {
+        QAction* action = recent->addAction(QFileInfo(path).fileName());
+        action->setToolTip(path);
+        action->setEnabled(QFileInfo::exists(path));
+        connect(action, &QAction::triggered, this, [this, path] {
+            if (MayLeave())
+                Open(path);
+        });
+    }
+    recent->setToolTipsVisible(true);
+    if (recent->isEmpty())
+        recent->addAction(tr("None yet"))->setEnabled(false);
+}
+
+void MainWindow::AddRecent(const QString& path)
+{
+    QSettings settings;
+    QStringList paths = settings.value(QStringLiteral("recent")).toStringList();
+    paths.removeAll(path);
+    paths.prepend(path);
+    settings.setValue(QStringLiteral("recent"), QStringList(paths.mid(0, mostRecent)));
+}
+
+} // namespace AnimText

@@ -1,0 +1,396 @@
+#include "studio/window/mainwindow.h"
+
+#include "studio/window/looks.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace AnimText {
+namespace {
+
+constexpr int dimmingDelay = 100; // milliseconds for which a stale picture is not marked yet
+const QColor surroundings(96, 96, 96);
+
+} // namespace
+
+MainWindow::MainWindow(const QString& plugin)
+    : rehearsal(plugin)
+    , thumbnails(plugin)
+{
+    setObjectName(QStringLiteral("studio"));
+    setAcceptDrops(true);
+    setDockNestingEnabled(true);
+    dimming.setSingleShot(true);
+    dimming.setInterval(dimmingDelay);
+    MakeCentre();
+    MakeDocks();
+    MakeActions();
+    Connect();
+    resize(1280, 800);
+    RestoreLayout();
+}
+
+MainWindow::~MainWindow()
+{
+    // What the parts would tell while they go has nobody to hear it.
+    document.disconnect(this);
+    rehearsal.disconnect(this);
+}
+
+void MainWindow::MakeCentre()
+{
+    notices = new NoticeBar(this);
+    view = new DisplayView(this);
+    view->SetSurroundings(surroundings);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(view);
+    transport = new TransportBar(&playback, this);
+    timeline = new Timeline(&playback, this);
+    // They would scroll where the keys go through time.
+    scroll->installEventFilter(this);
+    timeline->installEventFilter(this);
+
+    auto* top = new QWidget(this);
+    auto* topLayout = new QVBoxLayout(top);
+    topLayout->setContentsMargins(0, 0, 0, 0);
+    topLayout->setSpacing(0);
+    topLayout->addWidget(notices);
+    topLayout->addWidget(scroll, 1);
+    auto* bottom = new QWidget(this);
+    auto* bottomLayout = new QVBoxLayout(bottom);
+    bottomLayout->setContentsMargins(0, 0, 0, 0);
+    bottomLayout->setSpacing(0);
+    bottomLayout->addWidget(transport);
+    bottomLayout->addWidget(timeline, 1);
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setObjectName(QStringLiteral("centre"));
+    splitter->addWidget(top);
+    splitter->addWidget(bottom);
+    splitter->setStretchFactor(0, 1);
+    splitter->setCollapsible(0, false);
+    setCentralWidget(splitter);
+}
+
+void MainWindow::MakeDocks()
+{
+    scenes = new SceneList(this);
+    inspector = new Inspector(&thumbnails, this);
+    const auto dock = [this](const QString& name, const QString& title, QWidget* widget,
+                             Qt::DockWidgetArea area) {
+        auto* made = new QDockWidget(title, this);
+        made->setObjectName(name);
+        made->setWidget(widget);
+        made->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable |
+                          QDockWidget::DockWidgetFloatable);
+        addDockWidget(area, made);
+        return made;
+    };
+    QDockWidget* left = dock(QStringLiteral("scene"), tr("Scene"), scenes, Qt::LeftDockWidgetArea);
+    QDockWidget* right =
+        dock(QStringLiteral("text"), tr("Text"), inspector, Qt::RightDockWidgetArea);
+    resizeDocks({left, right}, {168, 376}, Qt::Horizontal);
+}
+
+void MainWindow::Connect()
+{
+    connect(&document, &Document::Replaced, this, [this] {
+        playback.Seek(0);
+        selected = document.Current().texts.isEmpty() ? 0 : document.Current().texts.first().id;
+    });
+    connect(&document, &Document::Changed, this, &MainWindow::Refresh);
+    connect(&document, &Document::StateChanged, this, &MainWindow::ShowState);
+    connect(&document, &Document::SaveEnded, this, [this](bool saved, const QString& error) {
+        if (!saved)
+            notices->Set(NoticeBar::Save, tr("Not saved: %1").arg(error),
+                         {{tr("Save as…"), [this] { SaveAs(); }}, {tr("Dismiss"), {}}});
+        else
+            notices->Set(NoticeBar::Save, QString());
+    });
+    connect(&document, &Document::DiskChanged, this, [this] {
+        notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
+                     {{tr("Load it"), [this] { Open(document.Path()); }},
+                      {tr("Keep mine"), [this] { document.KeepMine(); }},
+                      {tr("Save mine as…"), [this] { SaveAs(); }}});
+    });
+
+    connect(&rehearsal, &Rehearsal::Shown, this, [this](const QImage& picture) {
+        dimming.stop();
+        view->SetDimmed(false);
+        view->SetPicture(picture);
+    });
+    connect(&rehearsal, &Rehearsal::Stale, this, [this] {
+        timeline->SetStale(true);
+        if (!dimming.isActive())
+            dimming.start();
+    });
+    connect(&dimming, &QTimer::timeout, this, [this] { view->SetDimmed(true); });
+    connect(&rehearsal, &Rehearsal::TimingChanged, this, &MainWindow::ShowTiming);
+    connect(&rehearsal, &Rehearsal::FindingsChanged, this,
+            [this](const QList<Finding>& findings) { inspector->SetFindings(findings); });
+    connect(&rehearsal, &Rehearsal::Trouble, this,
+            [this](const QString& why) { notices->Set(NoticeBar::Trouble, why); });
+
+    playback.isReady = [this](int tick) {
+        if (rehearsal.Has(tick))
+            return true;
+        rehearsal.Look(tick);
+        return false;
+    };
+    connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
+
+    connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
+    connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
+    connect(view, &DisplayView::Selected, this, [this](int id) {
+        if (id != 0)
+            Select(id);
+    });
+    connect(view, &DisplayView::DisplayDoubleClicked, this,
+            [this] { inspector->Text()->BeginTyping(); });
+    connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
+        Select(id);
+        Edit(tr("Area"), gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
+             [rect](SignText* text) {
+                 text->node.pos = rect.topLeft();
+                 text->node.size = rect.size();
+             });
+    });
+    connect(inspector, &Inspector::Edited, this, &MainWindow::Edit);
+    connect(transport, &TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
+}
+
+void MainWindow::RestoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("docks")).toByteArray());
+    findChild<QSplitter*>(QStringLiteral("centre"))
+        ->restoreState(settings.value(QStringLiteral("centre")).toByteArray());
+    leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
+}
+
+bool MainWindow::Open(const QString& path)
+{
+    QString error;
+    if (!document.Open(path, &error)) {
+        notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+        return false;
+    }
+    notices->Set(NoticeBar::Trouble, QString());
+    notices->Set(NoticeBar::Disk, QString());
+    AddRecent(document.Path());
+    return true;
+}
+
+void MainWindow::New()
+{
+    document.New();
+    inspector->Text()->BeginTyping();
+}
+
+int MainWindow::CurrentPage() const
+{
+    const SignText* text = document.Current().Find(selected);
+    return text ? text->page : 0;
+}
+
+void MainWindow::Select(int id)
+{
+    if (id == selected)
+        return;
+    const int page = CurrentPage();
+    selected = id;
+    if (page != CurrentPage() && !transport->IsSchedule())
+        playback.Seek(0);
+    Refresh();
+}
+
+/** Everything shows the sign as it is now. */
+void MainWindow::Refresh()
+{
+    const Sign& sign = document.Current();
+    if (!sign.Find(selected))
+        selected = sign.texts.isEmpty() ? 0 : sign.texts.last().id;
+    scenes->Show(sign);
+    scenes->Select(selected);
+    inspector->Show(sign.Find(selected));
+    QVector<AreaFrame> frames;
+    for (const SignText& text : sign.texts) {
+        if (text.page == CurrentPage())
+            frames.append({text.id, QRect(text.node.pos, text.node.size), text.Title()});
+    }
+    view->SetFrames(frames);
+    view->SetSelected(selected);
+    timeline->SetSelected(selected);
+    Rehearse();
+}
+
+void MainWindow::Rehearse()
+{
+    const Sign& sign = document.Current();
+    part.schedule = transport->IsSchedule();
+    part.page = part.schedule ? -1 : CurrentPage();
+    if (sign.IsLaidOut())
+        rehearsal.SetSign(sign, part);
+    else if (!dimming.isActive())
+        dimming.start();
+}
+
+QVector<int> MainWindow::PlayedIds() const
+{
+    QVector<int> ids;
+    for (const SignText& text : document.Current().texts) {
+        if (part.page < 0 || text.page == part.page)
+            ids.append(text.id);
+    }
+    return ids;
+}
+
+void MainWindow::ShowTiming()
+{
+    const Timing& timing = rehearsal.GetTiming();
+    const QVector<int> ids = PlayedIds();
+    QStringList titles;
+    for (int id : ids)
+        titles.append(document.Current().Find(id)->Title());
+    timeline->SetTiming(timing, ids, titles);
+    timeline->SetStale(false);
+    playback.SetLength(timing.Ticks());
+    const int row = ids.indexOf(selected);
+    transport->ShowEnds(row >= 0 && row < timing.texts.size() ? &timing.texts.at(row) : nullptr);
+}
+
+void MainWindow::ShowState()
+{
+    setWindowTitle(QStringLiteral("%1[*] — %2").arg(document.Name(), tr("Animated Text Studio")));
+    setWindowFilePath(document.Path());
+    setWindowModified(document.IsModified());
+    saveAction->setEnabled(document.IsModified() || document.Path().isEmpty());
+}
+
+void MainWindow::Edit(const QString& what, const QString& merge, const TextChange& change)
+{
+    Sign after = document.Current();
+    SignText* text = after.Find(selected);
+    if (!text)
+        return;
+    change(text);
+    document.Change(what, after,
+                    merge.isEmpty() ? merge : QStringLiteral("%1 %2").arg(selected).arg(merge));
+}
+
+void MainWindow::AddNewText(bool onNewPage)
+{
+    Sign after = document.Current();
+    const int page = onNewPage ? after.PageCount() : CurrentPage();
+    const QSize size(after.display.width(),
+                     onNewPage ? after.display.height() : qMax(1, after.display.height() / 2));
+    SignText text = NewText(size, page);
+    AddText(&after, text);
+    selected = text.id;
+    document.Change(onNewPage ? tr("Add page") : tr("Add text"), after);
+    inspector->Text()->BeginTyping();
+}
+
+void MainWindow::DuplicateSelected()
+{
+    Sign after = document.Current();
+    const SignText* text = after.Find(selected);
+    if (!text)
+        return;
+    SignText copy = *text;
+    copy.id = NewTextId();
+    AddText(&after, copy);
+    selected = copy.id;
+    document.Change(tr("Duplicate text"), after);
+}
+
+void MainWindow::RemoveSelected()
+{
+    Sign after = document.Current();
+    const int index = after.IndexOf(selected);
+    if (index < 0)
+        return;
+    RemoveText(&after, selected);
+    selected = after.texts.isEmpty() ? 0 : after.texts.at(qMin(index, after.texts.size() - 1)).id;
+    document.Change(tr("Remove text"), after);
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(object, event);
+    keyPressEvent(static_cast<QKeyEvent*>(event));
+    return event->isAccepted();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (view->HandleAreaKey(event->key(), event->modifiers()))
+        return;
+    const int tick = playback.Tick();
+    const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
+    switch (event->key()) {
+    case Qt::Key_Left: playback.Seek(tick - step); break;
+    case Qt::Key_Right: playback.Seek(tick + step); break;
+    case Qt::Key_Home: playback.Seek(0); break;
+    case Qt::Key_End: playback.Seek(playback.Length() - 1); break;
+    case Qt::Key_BracketLeft: playback.Seek(timeline->PreviousMark(tick)); break;
+    case Qt::Key_BracketRight: playback.Seek(timeline->NextMark(tick)); break;
+    case Qt::Key_Space: playback.Toggle(); break;
+    case Qt::Key_J: playback.Shuttle(-1); break;
+    case Qt::Key_K: playback.SetPace(0); break;
+    case Qt::Key_L: playback.Shuttle(1); break;
+    case Qt::Key_R: ToggleLoop(); break;
+    default: QMainWindow::keyPressEvent(event);
+    }
+}
+
+void MainWindow::ToggleLoop()
+{
+    const int tick = playback.Tick();
+    if (playback.HasLoop())
+        playback.ClearLoop();
+    else
+        playback.SetLoop(timeline->PreviousMark(tick + 1), timeline->NextMark(tick) - 1);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!MayLeave()) {
+        event->ignore();
+        return;
+    }
+    document.WaitUntilSaved();
+    QSettings settings;
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("docks"), saveState());
+    settings.setValue(QStringLiteral("centre"),
+                      findChild<QSplitter*>(QStringLiteral("centre"))->saveState());
+    settings.setValue(QStringLiteral("leds"), leds->isChecked());
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().toLocalFile().endsWith(QLatin1String(".json")))
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    if (MayLeave())
+        Open(event->mimeData()->urls().first().toLocalFile());
+}
+
+} // namespace AnimText

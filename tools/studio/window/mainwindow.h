@@ -1,0 +1,112 @@
+/**
+ * @file
+ * The studio's window.
+ */
+#ifndef ANIMTEXT_MAINWINDOW_H
+#define ANIMTEXT_MAINWINDOW_H
+
+#include "studio/model/document.h"
+#include "studio/window/displayview.h"
+#include "studio/window/inspector.h"
+#include "studio/window/noticebar.h"
+#include "studio/window/playback.h"
+#include "studio/window/scenelist.h"
+#include "studio/window/thumbnails.h"
+#include "studio/window/timeline.h"
+#include "studio/window/transportbar.h"
+#include "studio/worker/rehearsal.h"
+
+#include <QComboBox>
+#include <QMainWindow>
+#include <QScrollArea>
+
+namespace AnimText {
+
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** @param plugin the library that plays; empty for the one beside the program */
+    explicit MainWindow(const QString& plugin);
+    ~MainWindow() override;
+
+    /** Opens the scene @p path; says so in the window when that fails. */
+    bool Open(const QString& path);
+    void New();
+
+    Document* GetDocument() { return &document; }
+    Rehearsal* GetRehearsal() { return &rehearsal; }
+    Playback* GetPlayback() { return &playback; }
+    DisplayView* Display() const { return view; }
+    Inspector* GetInspector() const { return inspector; }
+    TransportBar* Transport() const { return transport; }
+    NoticeBar* Notices() const { return notices; }
+    int Selected() const { return selected; }
+    void Select(int id);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void MakeCentre();
+    void MakeDocks();
+    void MakeActions();
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeViewMenu();
+    void MakePlayMenu();
+    void MakeHelpMenu();
+    QAction* Act(QMenu* menu, const QString& words, const QKeySequence& key, const QString& icon,
+                 const std::function<void()>& act);
+    void Connect();
+    void RestoreLayout();
+
+    void Refresh();
+    void Rehearse();
+    void ShowTiming();
+    void ShowState();
+    void Edit(const QString& what, const QString& merge, const TextChange& change);
+    void AddNewText(bool onNewPage);
+    void RemoveSelected();
+    void DuplicateSelected();
+    void ChooseAndOpen();
+    bool Save();
+    bool SaveAs();
+    bool MayLeave();
+    void ShowRecent();
+    void AddRecent(const QString& path);
+    void SetZoom(int zoom);
+    void SetLeds(bool on);
+    void ToggleLoop();
+    QVector<int> PlayedIds() const;
+    int CurrentPage() const;
+
+    Document document;
+    Rehearsal rehearsal;
+    Thumbnails thumbnails;
+    Playback playback;
+    int selected = 0;
+    Part part;
+    QTimer dimming;
+
+    DisplayView* view = nullptr;
+    NoticeBar* notices = nullptr;
+    TransportBar* transport = nullptr;
+    Timeline* timeline = nullptr;
+    SceneList* scenes = nullptr;
+    Inspector* inspector = nullptr;
+    QComboBox* zoomBox = nullptr;
+    QMenu* recent = nullptr;
+    QAction* leds = nullptr;
+    QAction* saveAction = nullptr;
+    QToolBar* tools = nullptr;
+};
+
+} // namespace AnimText
+
+#endif

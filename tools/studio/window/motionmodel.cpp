@@ -1,0 +1,77 @@
+#include "studio/window/motionmodel.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace AnimText {
+
+QString TitleOf(const Motion& motion)
+{
+    static const QRegularExpression wordStart(
+        QStringLiteral("(?<=[a-z0-9])(?=[A-Z])|(?<=[a-z])(?=[0-9])"));
+    QString title = QLatin1String(motion.name);
+    title.replace(wordStart, QStringLiteral(" "));
+    title.remove(QRegularExpression(QStringLiteral("^Effect ?| ?Effect$")));
+    title[0] = title.at(0).toUpper();
+    return title;
+}
+
+MotionModel::MotionModel(QObject* parent)
+    : QAbstractListModel(parent)
+    , pictures(Effects().size() + Scrolls().size())
+{
+}
+
+int MotionModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : pictures.size();
+}
+
+const Motion& MotionModel::At(int row) const
+{
+    return IsScroll(row) ? Scrolls().at(row - Effects().size()) : Effects().at(row);
+}
+
+int MotionModel::RowOf(bool scroll, int number) const
+{
+    const int count = scroll ? Scrolls().size() : Effects().size();
+    if (number < 0 || number >= count)
+        return -1;
+    return scroll ? Effects().size() + number : number;
+}
+
+QStringList MotionModel::Families() const
+{
+    QStringList families;
+    for (int row = 0; row < rowCount(); ++row) {
+        const QString family = data(index(row), FamilyRole).toString();
+        if (!families.contains(family))
+            families.append(family);
+    }
+    return families;
+}
+
+QVariant MotionModel::data(const QModelIndex& index, int role) const
+{
+    const Motion& motion = At(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole: return TitleOf(motion);
+    case FamilyRole: return QLatin1String(motion.family);
+    case SummaryRole:
+    case Qt::AccessibleDescriptionRole: return QLatin1String(motion.summary);
+    case PictureRole: return pictures.at(index.row());
+    case Qt::ToolTipRole:
+        return QStringLiteral("%1 · %2\n%3")
+            .arg(TitleOf(motion), QLatin1String(motion.name), QLatin1String(motion.summary));
+    default: return {};
+    }
+}
+
+void MotionModel::SetPicture(int row, const QImage& picture)
+{
+    pictures[row] = picture;
+    emit dataChanged(index(row), index(row), {PictureRole});
+}
+
+} // namespace AnimText

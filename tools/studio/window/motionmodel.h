@@ -1,0 +1,46 @@
+/**
+ * @file
+ * Every effect and scroll as rows of a model, with the pictures that show them.
+ */
+#ifndef ANIMTEXT_MOTIONMODEL_H
+#define ANIMTEXT_MOTIONMODEL_H
+
+#include "scene/catalogue.h"
+
+#include <QAbstractListModel>
+#include <QImage>
+#include <QVector>
+
+namespace AnimText {
+
+/** The name of a motion for people: "Word For Word Output". */
+QString TitleOf(const Motion& motion);
+
+/** The thirty effects, and behind them the four scrolls. */
+class MotionModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role { FamilyRole = Qt::UserRole, SummaryRole, PictureRole };
+
+    explicit MotionModel(QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+    const Motion& At(int row) const;
+    bool IsScroll(int row) const { return row >= Effects().size(); }
+    /** The row of an effect or a scroll; -1 when there is none. */
+    int RowOf(bool scroll, int number) const;
+    QStringList Families() const;
+
+    void SetPicture(int row, const QImage& picture);
+
+private:
+    QVector<QImage> pictures;
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,229 @@
+#include "studio/window/motionpicker.h"
+
+#include "player/player.h"
+#include "studio/window/looks.h"
+#include "studio/window/thumbnails.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+namespace AnimText {
+namespace {
+
+constexpr int cardPadding = 4; // points
+
+/** A card: the picture on black, the name below it. */
+class MotionCard : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+    {
+        return {thumbnailSize.width() + 2 * cardPadding,
+                thumbnailSize.height() + 3 * cardPadding + option.fontMetrics.height()};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        const bool isChosen = option.state & QStyle::State_Selected;
+        const QRect box = option.rect;
+        const QColor accent = option.palette.color(QPalette::Highlight);
+        if (isChosen)
+            painter->fillRect(box, accent);
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillRect(box, Mixed(accent, option.palette.color(QPalette::Base), 0.8));
+        const QRect screen(box.left() + (box.width() - thumbnailSize.width()) / 2,
+                           box.top() + cardPadding, thumbnailSize.width(), thumbnailSize.height());
+        painter->fillRect(screen, Qt::black);
+        const QImage picture = index.data(MotionModel::PictureRole).value<QImage>();
+        if (!picture.isNull())
+            painter->drawImage(screen.topLeft(), picture);
+        const QRect words(screen.left(), screen.bottom() + 1 + cardPadding / 2, screen.width(),
+                          option.fontMetrics.height() + cardPadding / 2);
+        painter->setPen(
+            option.palette.color(isChosen ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(
+            words, Qt::AlignVCenter,
+            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, words.width()));
+        if (option.state & QStyle::State_HasFocus && !isChosen) {
+            painter->setPen(accent);
+            painter->drawRect(box.adjusted(0, 0, -1, -1));
+        }
+    }
+};
+
+/** Words out of the name, the operation, the family or what it does. */
+class MotionFilter : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void Set(const QString& wanted, const QString& ofFamily)
+    {
+        words = wanted.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        family = ofFamily;
+        invalidateFilter();
+    }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex&) const override
+    {
+        const auto* motions = static_cast<MotionModel*>(sourceModel());
+        const QModelIndex index = motions->index(row);
+        if (!family.isEmpty() && index.data(MotionModel::FamilyRole).toString() != family)
+            return false;
+        const QString all = index.data(Qt::ToolTipRole).toString() + QLatin1Char(' ') +
+                            index.data(MotionModel::FamilyRole).toString() +
+                            QStringLiteral(" #%1").arg(motions->At(row).number);
+        for (const QString& word : words) {
+            if (!all.contains(word, Qt::CaseInsensitive))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    QStringList words;
+    QString family;
+};
+
+} // namespace
+
+MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
+    : QWidget(parent)
+    , thumbnails(thumbnails)
+    , motions(new MotionModel(this))
+    , filtered(new MotionFilter(this))
+    , search(new QLineEdit(this))
+    , family(new QComboBox(this))
+    , list(new QListView(this))
+{
+    search->setPlaceholderText(tr("Search motions"));
+    search->setAccessibleName(tr("Search motions"));
+    search->setClearButtonEnabled(true);
+    search->installEventFilter(this);
+    family->addItem(tr("All families"));
+    family->addItems(motions->Families());
+    family->setAccessibleName(tr("Family of motions"));
+    filtered->setSourceModel(motions);
+    list->setModel(filtered);
+    list->setItemDelegate(new MotionCard(list));
+    list->setViewMode(QListView::IconMode);
+    list->setResizeMode(QListView::Adjust);
+    list->setMovement(QListView::Static);
+    list->setUniformItemSizes(true);
+    list->setSpacing(0);
+    list->setMouseTracking(true);
+    list->setFrameShape(QFrame::StyledPanel);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    list->setAccessibleName(tr("Motions"));
+    list->setMinimumHeight(3 * (thumbnailSize.height() + 28));
+    list->viewport()->installEventFilter(this);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(grid);
+    top->addWidget(search, 1);
+    top->addWidget(family);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(grid);
+    layout->addLayout(top);
+    layout->addWidget(list, 1);
+
+    connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
+    connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);
+    connect(list, &QListView::clicked, this, &MotionPicker::Choose);
+    connect(list, &QListView::activated, this, &MotionPicker::Choose);
+    connect(list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& index) {
+                if (list->hasFocus())
+                    Choose(index);
+            });
+    beat.setInterval(tickLength);
+    connect(&beat, &QTimer::timeout, this, &MotionPicker::LookAtSight);
+}
+
+void MotionPicker::Show(const SignText& text)
+{
+    shownRow = motions->RowOf(IsScroll(text.node), MotionNumber(text.node));
+    const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
+    if (index != list->currentIndex() && index.isValid()) {
+        const QSignalBlocker blocker(list->selectionModel());
+        list->setCurrentIndex(index);
+        list->scrollTo(index);
+        list->viewport()->update();
+    }
+    if (thumbnails)
+        thumbnails->SetText(text);
+}
+
+void MotionPicker::Filter()
+{
+    static_cast<MotionFilter*>(filtered)->Set(
+        search->text(), family->currentIndex() == 0 ? QString() : family->currentText());
+    const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
+    const QSignalBlocker blocker(list->selectionModel());
+    list->setCurrentIndex(index);
+}
+
+void MotionPicker::Choose(const QModelIndex& index)
+{
+    const int row = filtered->mapToSource(index).row();
+    if (row < 0 || row == shownRow)
+        return;
+    emit Chosen(motions->IsScroll(row), motions->At(row).number);
+}
+
+void MotionPicker::showEvent(QShowEvent*)
+{
+    if (thumbnails)
+        beat.start();
+}
+
+void MotionPicker::hideEvent(QHideEvent*)
+{
+    beat.stop();
+}
+
+/** Goes one tick on with the motions that can be seen; all others cost nothing. */
+void MotionPicker::LookAtSight()
+{
+    if (list->visibleRegion().isEmpty() || window()->isMinimized())
+        return;
+    ++tick;
+    for (int row = 0; row < filtered->rowCount(); ++row) {
+        const QModelIndex index = filtered->index(row, 0);
+        const QRect place = list->visualRect(index);
+        if (!list->viewport()->visibleRegion().intersects(place))
+            continue;
+        const int motion = filtered->mapToSource(index).row();
+        const QImage picture =
+            thumbnails->Picture(motions->IsScroll(motion), motions->At(motion).number, tick);
+        if (!picture.isNull() &&
+            picture.cacheKey() != index.data(MotionModel::PictureRole).value<QImage>().cacheKey())
+            motions->SetPicture(motion, picture);
+    }
+}
+
+bool MotionPicker::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == search && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return) {
+            list->setFocus();
+            if (!list->currentIndex().isValid())
+                list->setCurrentIndex(filtered->index(0, 0));
+            return true;
+        }
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+} // namespace AnimText

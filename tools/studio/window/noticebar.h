@@ -1,0 +1,51 @@
+/**
+ * @file
+ * A line above the display that tells what has happened and offers what can be done about it.
+ */
+#ifndef ANIMTEXT_NOTICEBAR_H
+#define ANIMTEXT_NOTICEBAR_H
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMap>
+#include <QPair>
+
+#include <functional>
+
+namespace AnimText {
+
+/** Shows one notice at a time, the one of the first kind that there is. */
+class NoticeBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    enum Kind { Recovery, Disk, Save, Trouble };
+
+    using Offer = QPair<QString, std::function<void()>>; ///< words on a button and what it does
+
+    explicit NoticeBar(QWidget* parent = nullptr);
+
+    /** An empty @p text takes the notice back. */
+    void Set(Kind kind, const QString& text, const QList<Offer>& offers = {});
+    QString Text() const { return words->text(); }
+
+private:
+    struct Notice
+    {
+        QString text;
+        QList<Offer> offers;
+    };
+
+    void Refresh();
+
+    QMap<Kind, Notice> notices;
+    QLabel* icon;
+    QLabel* words;
+    QHBoxLayout* buttons;
+};
+
+} // namespace AnimText
+
+#endif

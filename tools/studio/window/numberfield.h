@@ -1,0 +1,49 @@
+/**
+ * @file
+ * A number that can be typed, stepped with the wheel and dragged sideways.
+ */
+#ifndef ANIMTEXT_NUMBERFIELD_H
+#define ANIMTEXT_NUMBERFIELD_H
+
+#include <QDoubleSpinBox>
+
+namespace AnimText {
+
+/** Whole numbers; shown as they are, or as so many of a larger unit. With Shift it steps by ten. */
+class NumberField : public QDoubleSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit NumberField(QWidget* parent = nullptr);
+
+    /** @param perUnit how many of the number make what is shown, say 10 tenths a second */
+    void SetUnit(const QString& unit, int perUnit = 1);
+    void SetLimits(int least, int most);
+    int Number() const;
+    /** Shows @p number and tells nobody. */
+    void ShowNumber(int number);
+
+    void stepBy(int steps) override;
+
+signals:
+    /** @param gesture the same number as long as one drag goes on, or the wheel turns */
+    void NumberChanged(int number, int gesture);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    int perUnit = 1;
+    int gesture = 0;
+    bool pressed = false;
+    bool dragging = false;
+    int pressX = 0;
+    int pressNumber = 0;
+};
+
+} // namespace AnimText
+
+#endif

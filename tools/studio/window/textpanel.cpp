@@ -1,0 +1,353 @@
+#include "studio/window/textpanel.h"
+
+#include "studio/window/looks.h"
+#include "studio/window/styledformat.h"
+
+#include <QColorDialog>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTextBlock>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QWidgetAction>
+
+namespace AnimText {
+namespace {
+
+constexpr int pauseLength = 1500; // milliseconds without typing that end a step
+constexpr int mostTold = 4;       // characters or words
+
+/** Colours that lamps have. */
+const QList<QColor> lampColors{QColor(255, 160, 0),  QColor(255, 0, 0),    QColor(255, 80, 0),
+                               QColor(255, 220, 0),  QColor(0, 220, 60),   QColor(0, 220, 220),
+                               QColor(60, 120, 255), QColor(200, 80, 255), QColor(255, 120, 200),
+                               QColor(255, 255, 255)};
+
+QIcon ColorIcon(const QColor& color)
+{
+    QPixmap pixmap(32, 32);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+} // namespace
+
+TextPanel::TextPanel(QWidget* parent)
+    : QWidget(parent)
+    , editor(new Lw::HNodeAnimationText::AnimationTextEdit(this))
+    , notes(new QLabel(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(grid);
+    auto* row = new QWidget(this);
+    MakeTools(row);
+    layout->addWidget(editor);
+    layout->addWidget(row);
+    layout->addWidget(notes);
+
+    editor->setAccessibleName(tr("Text"));
+    editor->setPlaceholderText(tr("Type the text"));
+    editor->setUndoRedoEnabled(false); // the window's own takes its place
+    editor->setAcceptRichText(false);
+    editor->setTabChangesFocus(true);
+    editor->setFixedHeight(88);
+    editor->setFrameShape(QFrame::StyledPanel);
+    QPalette dark = editor->palette();
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    editor->setPalette(dark);
+    editor->installEventFilter(this);
+    editor->viewport()->installEventFilter(this);
+    setFocusProxy(editor);
+
+    notes->setWordWrap(true);
+    notes->setTextFormat(Qt::PlainText);
+    notes->hide();
+
+    pause.setSingleShot(true);
+    pause.setInterval(pauseLength);
+    connect(&pause, &QTimer::timeout, this, [this] { ++gesture; });
+    connect(editor, &QTextEdit::textChanged, this, &TextPanel::Tell);
+    connect(editor, &QTextEdit::cursorPositionChanged, this, &TextPanel::ShowStyle);
+    connect(editor, &QTextEdit::selectionChanged, this, &TextPanel::ShowStyle);
+}
+
+QToolButton* TextPanel::MakeTool(const QString& words, const QKeySequence& key, const QString& name)
+{
+    auto* button = new QToolButton(this);
+    button->setText(words);
+    button->setCheckable(true);
+    button->setAutoRaise(true);
+    button->setFixedWidth(28);
+    button->setShortcut(key);
+    button->setAccessibleName(name);
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key.toString(QKeySequence::NativeText)));
+    return button;
+}
+
+void TextPanel::MakeTools(QWidget* row)
+{
+    family = new QFontComboBox(row);
+    family->setAccessibleName(tr("Font"));
+    family->setToolTip(tr("Font"));
+    family->setFontFilters(QFontComboBox::ScalableFonts);
+    family->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    family->setMinimumContentsLength(8);
+    size = new QSpinBox(row);
+    size->setRange(4, 2000);
+    size->setSuffix(tr(" px"));
+    size->setAccessibleName(tr("Size"));
+    size->setToolTip(tr("Size of the letters in pixels of the sign"));
+    size->setKeyboardTracking(false);
+    bold = MakeTool(tr("B"), QKeySequence::Bold, tr("Bold"));
+    italic = MakeTool(tr("I"), QKeySequence::Italic, tr("Italic"));
+    underline = MakeTool(tr("U"), QKeySequence::Underline, tr("Underline"));
+    QFont font = bold->font();
+    font.setBold(true);
+    bold->setFont(font);
+    font.setBold(false);
+    font.setItalic(true);
+    italic->setFont(font);
+    font.setItalic(false);
+    font.setUnderline(true);
+    underline->setFont(font);
+    color = new QToolButton(row);
+    color->setAutoRaise(true);
+    color->setPopupMode(QToolButton::InstantPopup);
+    color->setAccessibleName(tr("Color"));
+    color->setToolTip(tr("Color of the selection"));
+    FillColors();
+
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(grid / 2);
+    layout->addWidget(bold);
+    layout->addWidget(italic);
+    layout->addWidget(underline);
+    layout->addWidget(color);
+    layout->addSpacing(grid);
+    layout->addWidget(family, 1);
+    layout->addWidget(size);
+
+    connect(bold, &QToolButton::clicked, this,
+            [this](bool on) { Restyle([on](StyleRun* run) { run->font.setBold(on); }); });
+    connect(italic, &QToolButton::clicked, this,
+            [this](bool on) { Restyle([on](StyleRun* run) { run->font.setItalic(on); }); });
+    connect(underline, &QToolButton::clicked, this,
+            [this](bool on) { Restyle([on](StyleRun* run) { run->font.setUnderline(on); }); });
+    connect(family, &QFontComboBox::currentFontChanged, this, [this](const QFont& font) {
+        if (!filling)
+            Restyle([&](StyleRun* run) { run->font.setFamily(font.family()); });
+    });
+    connect(size, qOverload<int>(&QSpinBox::valueChanged), this, [this](int pixels) {
+        if (!filling)
+            Restyle([&](StyleRun* run) { run->font.setPixelSize(pixels); });
+    });
+}
+
+void TextPanel::FillColors()
+{
+    auto* menu = new QMenu(color);
+    for (const QColor& lamp : lampColors) {
+        QAction* action = menu->addAction(ColorIcon(lamp), lamp.name());
+        connect(action, &QAction::triggered, this,
+                [this, lamp] { Restyle([&](StyleRun* run) { run->color = lamp; }); });
+    }
+    QAction* other = menu->addAction(tr("Other…"));
+    connect(other, &QAction::triggered, this, [this] {
+        auto* dialog = new QColorDialog(CurrentStyle().color, this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor& chosen) {
+            Restyle([&](StyleRun* run) { run->color = chosen; });
+        });
+        dialog->show();
+    });
+    color->setMenu(menu);
+}
+
+void TextPanel::Show(const SignText* text)
+{
+    setEnabled(text != nullptr);
+    if (!text)
+        return;
+    base = text->source.text.runs.first();
+    if (text->id != shownId || !(TextSource{text->source.text} == TextSource{shown})) {
+        const int anchor = editor->textCursor().anchor();
+        const int position = editor->textCursor().position();
+        filling = true;
+        shown = text->source.text;
+        Write(shown, editor->document());
+        if (text->id == shownId) {
+            const int last = shown.text.size();
+            QTextCursor cursor = editor->textCursor();
+            cursor.setPosition(qMin(anchor, last));
+            cursor.setPosition(qMin(position, last), QTextCursor::KeepAnchor);
+            editor->setTextCursor(cursor);
+        } else {
+            ++gesture;
+        }
+        shownId = text->id;
+        filling = false;
+        ShowStyle();
+    }
+    ShowNotes(*text);
+}
+
+void TextPanel::BeginTyping()
+{
+    editor->setFocus();
+    editor->selectAll();
+}
+
+StyleRun TextPanel::CurrentStyle() const
+{
+    QTextCursor cursor = editor->textCursor();
+    if (cursor.hasSelection())
+        cursor.setPosition(cursor.selectionStart() + 1);
+    return StyleOf(cursor.charFormat(), base);
+}
+
+void TextPanel::ShowStyle()
+{
+    if (filling)
+        return;
+    const StyleRun style = CurrentStyle();
+    filling = true;
+    bold->setChecked(style.font.bold());
+    italic->setChecked(style.font.italic());
+    underline->setChecked(style.font.underline());
+    family->setCurrentFont(QFont(style.font.family()));
+    size->setValue(style.font.pixelSize());
+    color->setIcon(ColorIcon(style.color));
+    filling = false;
+}
+
+/** Changes the style of the selection, or of everything where nothing is selected. */
+void TextPanel::Restyle(const std::function<void(StyleRun*)>& change)
+{
+    ++gesture;
+    QTextCursor cursor = editor->textCursor();
+    const int begin = cursor.hasSelection() ? cursor.selectionStart() : 0;
+    const int end = cursor.hasSelection() ? cursor.selectionEnd() : shown.text.size();
+    StyledText styled;
+    styled.sized = shown.sized;
+    for (int i = 0; i < shown.text.size(); ++i) {
+        StyleRun run = shown.At(i);
+        if (i >= begin && i < end)
+            change(&run);
+        styled.Append(shown.text.mid(i, 1), run);
+    }
+    if (styled.runs.isEmpty()) {
+        styled.runs = shown.runs;
+        change(&styled.runs.first());
+    }
+    emit Edited(styled, gesture);
+    ++gesture;
+}
+
+void TextPanel::Tell()
+{
+    if (filling)
+        return;
+    const StyledText text = Read(*editor->document(), base);
+    if (TextSource{text} == TextSource{shown})
+        return;
+    shown = text;
+    pause.start();
+    emit Edited(text, gesture);
+}
+
+/** What the sign will not show of it, quietly. */
+void TextPanel::ShowNotes(const SignText& text)
+{
+    QStringList lines;
+    QList<QTextEdit::ExtraSelection> marks;
+    if (text.IsLaidOut()) {
+        const Layout& layout = *text.layout;
+        if (!layout.fault.isEmpty())
+            lines.append(layout.fault);
+        QStringList letters;
+        for (const UnseenCharacter& character : layout.unseen) {
+            QTextEdit::ExtraSelection mark;
+            mark.cursor = QTextCursor(editor->document());
+            const int last = shown.text.size();
+            mark.cursor.setPosition(qMin(character.index, last));
+            mark.cursor.setPosition(
+                qMin(character.index + (QChar::requiresSurrogates(character.codePoint) ? 2 : 1),
+                     last),
+                QTextCursor::KeepAnchor);
+            mark.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+            mark.format.setUnderlineColor(QColor(255, 80, 80));
+            const QString asked = shown.At(character.index).font.family();
+            mark.format.setToolTip(
+                (character.missing
+                     ? tr("Leaves a gap: neither %1 nor another installed font has it.")
+                     : tr("Leaves a gap: the font has a picture in place of an outline (%1 was "
+                          "asked for)."))
+                    .arg(asked));
+            marks.append(mark);
+            letters.append(QString::fromUcs4(&character.codePoint, 1));
+        }
+        if (!letters.isEmpty())
+            lines.append(tr("No outline, so a gap: %1")
+                             .arg(QStringList(letters.mid(0, mostTold)).join(QLatin1Char(' '))));
+        if (!layout.tornWords.isEmpty())
+            lines.append(
+                tr("Wider than a page, so torn: %1")
+                    .arg(QStringList(layout.tornWords.mid(0, mostTold)).join(QLatin1String(", "))));
+        if (layout.cutAbove > 0 || layout.cutBelow > 0)
+            lines.append(tr("Letters are cut: %1 px above, %2 px below.")
+                             .arg(layout.cutAbove)
+                             .arg(layout.cutBelow));
+    }
+    const QVector<StyleRun>& runs = text.source.text.runs;
+    for (const StyleRun& run : runs) {
+        if (run.color != runs.first().color) {
+            lines.append(tr("The sign paints every character in the color of the first."));
+            break;
+        }
+    }
+    editor->setExtraSelections(marks);
+    notes->setText(lines.join(QLatin1Char('\n')));
+    notes->setVisible(!lines.isEmpty());
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, Warning(palette()));
+    notes->setPalette(colors);
+}
+
+bool TextPanel::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && object == editor) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            key->ignore(); // the window undoes
+            return true;
+        }
+    }
+    if (event->type() == QEvent::KeyPress && object == editor) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+            return true; // the sign has one line
+    }
+    if (event->type() == QEvent::FocusOut && object == editor)
+        ++gesture;
+    if (event->type() == QEvent::ToolTip && object == editor->viewport()) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const int position = editor->cursorForPosition(help->pos()).position();
+        for (const QTextEdit::ExtraSelection& mark : editor->extraSelections()) {
+            if (position >= mark.cursor.selectionStart() &&
+                position <= mark.cursor.selectionEnd()) {
+                QToolTip::showText(help->globalPos(), mark.format.toolTip(), editor);
+                return true;
+            }
+        }
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+} // namespace AnimText

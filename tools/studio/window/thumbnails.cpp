@@ -1,0 +1,157 @@
+#include "studio/window/thumbnails.h"
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr int scrollKeys = 1000;
+constexpr int loopTicks = 90;  // of a thumbnail, with the hold at its end
+constexpr int shownUnits = 12; // of the text, from its beginning
+constexpr int quickSpeed = 7;
+
+/** The beginning of @p text, small, with another motion. */
+SignText Sample(SignText text, bool scroll, int number)
+{
+    StyledText& styled = text.source.text;
+    int units = std::min(shownUnits, styled.text.size());
+    if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
+        --units;
+    styled.text.truncate(units);
+    if (styled.text.trimmed().isEmpty())
+        styled.text = Thumbnails::tr("Text");
+    while (styled.runs.size() > 1 && styled.runs.last().begin >= styled.text.size())
+        styled.runs.removeLast();
+    text.source.fit = Fit::Both;
+    text.source.padding = 2;
+    text.source.align = Align::Center;
+    text.source.valign = VAlign::Middle;
+    if (scroll)
+        text.source.fit = Fit::Height;
+    const QColor color = styled.runs.first().color;
+    for (StyleRun& run : styled.runs)
+        run.color = color;
+    SceneNode node;
+    node.size = thumbnailSize;
+    node.hold = 10;
+    node.attributes = {
+        {QStringLiteral("EffectType"), scroll ? 1 : 0},
+        {QStringLiteral("PlayTimes"), 1},
+        {scroll ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect"), number},
+        {scroll ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed"), quickSpeed},
+        {QStringLiteral("Hollow"), text.node.attributes.value(QStringLiteral("Hollow"), 0)}};
+    text.node = node;
+    text.page = 0;
+    text.area = 0;
+    return text;
+}
+
+} // namespace
+
+Thumbnails::Thumbnails(const QString& plugin, QObject* parent)
+    : QObject(parent)
+    , link(new WorkerLink(plugin))
+{
+    link->moveToThread(&thread);
+    connect(&thread, &QThread::finished, link, &QObject::deleteLater);
+    connect(link, &WorkerLink::Picture, this, &Thumbnails::TakePicture);
+    connect(link, &WorkerLink::Idle, this, [this](quint32 of) {
+        if (of == generation)
+            Finish();
+    });
+    connect(link, &WorkerLink::Died, this, [this] { Finish(); });
+    pool.setMaxThreadCount(1);
+    thread.start();
+}
+
+Thumbnails::~Thumbnails()
+{
+    pool.waitForDone();
+    thread.quit();
+    thread.wait();
+}
+
+void Thumbnails::SetText(const SignText& next)
+{
+    if (next.source == text.source && next.id == text.id &&
+        next.node.attributes.value(QStringLiteral("Hollow")) ==
+            text.node.attributes.value(QStringLiteral("Hollow")))
+        return;
+    text = next;
+    ++textNumber;
+    waiting.clear();
+    for (Loop& loop : loops)
+        loop.isAsked = false;
+}
+
+QImage Thumbnails::Picture(bool scroll, int number, int tick)
+{
+    if (textNumber == 0)
+        return {};
+    const int key = scroll ? scrollKeys + number : number;
+    const Loop& loop = loops[key];
+    if (loop.text != textNumber && !loop.isAsked)
+        Ask(key);
+    if (loop.pictures.isEmpty())
+        return {};
+    return loop.pictures.at(tick % loop.pictures.size());
+}
+
+void Thumbnails::Ask(int key)
+{
+    loops[key].isAsked = true;
+    waiting.append(key);
+    ++asked;
+    Next();
+}
+
+void Thumbnails::Next()
+{
+    if (current >= 0 || waiting.isEmpty())
+        return;
+    current = waiting.takeFirst();
+    currentText = textNumber;
+    made.clear();
+    const bool scroll = current >= scrollKeys;
+    const int number = scroll ? current - scrollKeys : current;
+    pool.start([this, scroll, number, from = text, of = ++generation] {
+        SignText sample = Sample(from, scroll, number);
+        sample.layoutKey = LayoutKey(sample);
+        sample.layout = MakeLayout(sample);
+        Sign sign;
+        sign.display = thumbnailSize;
+        sign.texts = {sample};
+        const Scene scene = folder.Put(sign);
+        LoadOrder order;
+        order.generation = of;
+        order.scene = SceneToJson(scene);
+        order.path = scene.path;
+        const auto layout = sample.layout;
+        QMetaObject::invokeMethod(link, [worker = link, order] {
+            worker->Load(order);
+            worker->Play(0, loopTicks - 1);
+        });
+        QMetaObject::invokeMethod(this, [this, layout] { playing = layout; });
+    });
+}
+
+void Thumbnails::TakePicture(const TickPicture& picture)
+{
+    if (picture.generation == generation && current >= 0)
+        made.append(picture.picture);
+}
+
+void Thumbnails::Finish()
+{
+    if (current < 0)
+        return;
+    Loop& loop = loops[current];
+    if (currentText == textNumber) {
+        loop.pictures = made;
+        loop.text = textNumber;
+    }
+    current = -1;
+    Next();
+}
+
+} // namespace AnimText

@@ -1,0 +1,346 @@
+#include "studio/window/timeline.h"
+
+#include "studio/window/looks.h"
+
+#include <QHelpEvent>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+namespace AnimText {
+namespace {
+
+constexpr int rulerHeight = 24; // points, as all here
+constexpr int rowHeight = 24;
+constexpr int titleWidth = 128;
+constexpr int rightMargin = 16;
+constexpr int inset = 4;
+
+double TicksOf(qint64 milliseconds)
+{
+    return double(milliseconds) / tickLength;
+}
+
+/** Seconds between the numbers of the ruler so that they stand apart. */
+double RulerStep(double pointsPerSecond)
+{
+    for (double step : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 30.0, 60.0, 120.0, 300.0}) {
+        if (step * pointsPerSecond >= 56)
+            return step;
+    }
+    return 600;
+}
+
+} // namespace
+
+Timeline::Timeline(Playback* playback, QWidget* parent)
+    : QAbstractScrollArea(parent)
+    , playback(playback)
+{
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Timeline"));
+    viewport()->setMouseTracking(true);
+    connect(playback, &Playback::TickChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(playback, &Playback::RangeChanged, viewport(), qOverload<>(&QWidget::update));
+}
+
+void Timeline::SetTiming(const Timing& times, const QVector<int>& textIds,
+                         const QStringList& textTitles)
+{
+    timing = times;
+    ids = textIds;
+    titles = textTitles;
+    Adjust();
+    viewport()->update();
+}
+
+void Timeline::SetStale(bool isStale)
+{
+    if (stale == isStale)
+        return;
+    stale = isStale;
+    viewport()->update();
+}
+
+void Timeline::SetSelected(int id)
+{
+    selected = id;
+    const int row = ids.indexOf(id);
+    if (row >= 0) {
+        const int top = row * rowHeight;
+        const int room = viewport()->height() - rulerHeight;
+        const int value = verticalScrollBar()->value();
+        if (top < value)
+            verticalScrollBar()->setValue(top);
+        else if (top + rowHeight > value + room)
+            verticalScrollBar()->setValue(top + rowHeight - room);
+    }
+    viewport()->update();
+}
+
+int Timeline::Ticks() const
+{
+    return std::max(timing.Ticks(), playback->Length());
+}
+
+double Timeline::XOf(double tick) const
+{
+    const double width = std::max(1, viewport()->width() - titleWidth - rightMargin);
+    return titleWidth + tick * width / std::max(1, Ticks());
+}
+
+int Timeline::TickAt(double x) const
+{
+    const double width = std::max(1, viewport()->width() - titleWidth - rightMargin);
+    return int(std::floor((x - titleWidth) * Ticks() / width));
+}
+
+QVector<int> Timeline::Marks() const
+{
+    QVector<int> marks{0};
+    for (const TextTime& text : timing.texts) {
+        const int from = int(TicksOf(text.from));
+        for (const PageTime& page : text.pages)
+            marks << from + page.begin << from + page.hold;
+    }
+    marks << Ticks() - 1;
+    std::sort(marks.begin(), marks.end());
+    marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
+    return marks;
+}
+
+int Timeline::NextMark(int tick) const
+{
+    const QVector<int> marks = Marks();
+    const auto next = std::upper_bound(marks.begin(), marks.end(), tick);
+    return next == marks.end() ? marks.last() : *next;
+}
+
+int Timeline::PreviousMark(int tick) const
+{
+    const QVector<int> marks = Marks();
+    const auto next = std::lower_bound(marks.begin(), marks.end(), tick);
+    return next == marks.begin() ? 0 : *(next - 1);
+}
+
+QSize Timeline::sizeHint() const
+{
+    return {640, rulerHeight + 5 * rowHeight};
+}
+
+QSize Timeline::minimumSizeHint() const
+{
+    return {320, rulerHeight + 2 * rowHeight};
+}
+
+void Timeline::Adjust()
+{
+    const int room = viewport()->height() - rulerHeight;
+    verticalScrollBar()->setRange(0, std::max(0, ids.size() * rowHeight - room));
+    verticalScrollBar()->setPageStep(std::max(1, room));
+    verticalScrollBar()->setSingleStep(rowHeight);
+}
+
+void Timeline::resizeEvent(QResizeEvent*)
+{
+    Adjust();
+}
+
+void Timeline::paintEvent(QPaintEvent*)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
+    const int offset = verticalScrollBar()->value();
+    painter.setClipRect(0, rulerHeight, viewport()->width(), viewport()->height() - rulerHeight);
+    const int first = offset / rowHeight;
+    const int last = std::min(ids.size() - 1, (offset + viewport()->height()) / rowHeight);
+    for (int row = first; row <= last && row < timing.texts.size(); ++row)
+        PaintRow(&painter, row,
+                 QRect(0, rulerHeight + row * rowHeight - offset, viewport()->width(), rowHeight));
+    painter.setClipping(false);
+    PaintRuler(&painter);
+
+    const double x = std::round(XOf(playback->Tick() + 0.5));
+    const QColor accent = palette().color(QPalette::Highlight);
+    painter.setPen(QPen(accent, 1));
+    painter.drawLine(QPointF(x, 0), QPointF(x, viewport()->height()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(accent);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(QPolygonF({QPointF(x - 5, 0), QPointF(x + 6, 0), QPointF(x + 6, 4),
+                                   QPointF(x + 0.5, 10), QPointF(x - 5, 4)}));
+}
+
+void Timeline::PaintRuler(QPainter* painter) const
+{
+    const QRect ruler(0, 0, viewport()->width(), rulerHeight);
+    painter->fillRect(ruler, palette().color(QPalette::Window));
+    const QColor quiet =
+        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.55);
+    if (playback->HasLoop()) {
+        QColor shade = palette().color(QPalette::Highlight);
+        shade.setAlpha(64);
+        const double from = XOf(playback->LoopBegin());
+        painter->fillRect(QRectF(from, 0, XOf(playback->LoopEnd() + 1) - from, rulerHeight), shade);
+    }
+    painter->setFont(TabularFont(font(), -1));
+    const double seconds = Ticks() * tickLength / 1000.0;
+    const double perSecond = (XOf(Ticks()) - XOf(0)) / std::max(0.1, seconds);
+    const double step = RulerStep(perSecond);
+    const int small = step * perSecond / 5 >= 6 ? 5 : 2;
+    for (int i = 0; i * step / small <= seconds + 0.001; ++i) {
+        const double x = std::round(XOf(TicksOf(qint64(1000 * i * step / small))));
+        const bool isNumber = i % small == 0;
+        painter->setPen(quiet);
+        painter->drawLine(QPointF(x, isNumber ? rulerHeight - 7 : rulerHeight - 4),
+                          QPointF(x, rulerHeight - 2));
+        if (isNumber)
+            painter->drawText(QPointF(x + 4, rulerHeight - 8),
+                              locale().toString(i * step / small, 'f', step < 1 ? 1 : 0));
+    }
+    painter->setPen(
+        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.85));
+    painter->drawLine(0, rulerHeight - 1, viewport()->width(), rulerHeight - 1);
+    PaintLegend(painter);
+}
+
+void Timeline::PaintLegend(QPainter* painter) const
+{
+    painter->setPen(
+        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.35));
+    painter->drawText(QRect(inset * 2, 0, titleWidth - inset * 3, rulerHeight), Qt::AlignVCenter,
+                      tr("Seconds"));
+}
+
+void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
+{
+    const TextTime& text = timing.texts.at(row);
+    const bool isSelected = ids.value(row) == selected;
+    const QColor base = palette().color(QPalette::Base);
+    const QColor ink = palette().color(QPalette::Text);
+    const QColor accent = palette().color(QPalette::Highlight);
+    const double strength = stale ? 0.6 : 0;
+    if (isSelected)
+        painter->fillRect(rect, Mixed(accent, base, 0.88));
+
+    QFont titleFont = font();
+    titleFont.setBold(isSelected);
+    painter->setFont(titleFont);
+    painter->setPen(ink);
+    painter->drawText(rect.adjusted(2 * inset, 0, 0, 0)
+                          .intersected(QRect(0, rect.top(), titleWidth - inset, rowHeight)),
+                      Qt::AlignVCenter | Qt::TextSingleLine,
+                      QFontMetrics(titleFont).elidedText(titles.value(row), Qt::ElideRight,
+                                                         titleWidth - 3 * inset));
+
+    const QRectF bar(0, rect.top() + inset, 0, rowHeight - 2 * inset);
+    const auto block = [&](double from, double to, const QBrush& brush) {
+        const double x = XOf(from);
+        painter->fillRect(QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()),
+                          brush);
+    };
+    const double from = TicksOf(text.from);
+    const double told = text.until >= 0 ? TicksOf(text.until) : from + TicksOf(text.told);
+    const QColor entrance = Mixed(Mixed(accent, base, 0.15), base, strength);
+    const QColor hold = Mixed(Mixed(accent, base, 0.65), base, strength);
+    if (text.pages.isEmpty()) {
+        const double end = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
+        if (text.ending != Ending::NothingToPlay)
+            block(from, end, entrance);
+    }
+    for (const PageTime& page : text.pages) {
+        block(from + page.begin, from + page.hold, entrance);
+        if (page.end > page.hold)
+            block(from + page.hold, from + page.end, hold);
+    }
+    // What the host cuts off, for it was told another time.
+    const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
+    if (text.ending != Ending::NothingToPlay && real > told + 0.01) {
+        const QRectF cut(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height());
+        painter->fillRect(cut, Mixed(base, QColor(0, 0, 0, 0), 0.4));
+        painter->fillRect(cut, QBrush(Warning(palette()), Qt::BDiagPattern));
+    }
+    if (text.ending != Ending::NothingToPlay) {
+        painter->setPen(QPen(Warning(palette()), 1));
+        const double x = std::round(XOf(told));
+        painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
+    }
+}
+
+QString Timeline::Describe(const QPoint& point) const
+{
+    const int row = (point.y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    if (point.y() < rulerHeight || row >= timing.texts.size())
+        return tr("Click or drag to go to a moment; drag with Shift to loop over a range.");
+    const TextTime& text = timing.texts.at(row);
+    const double tick = TickAt(point.x()) - TicksOf(text.from);
+    QString what = titles.value(row);
+    int number = 0;
+    for (const PageTime& page : text.pages) {
+        ++number;
+        if (tick < page.begin || tick >= page.end)
+            continue;
+        const bool holds = tick >= page.hold;
+        what += QLatin1Char('\n') +
+                (holds ? tr("Page %1 stands for %2") : tr("Page %1 comes in for %2"))
+                    .arg(number)
+                    .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
+                                     qint64(tickLength)));
+    }
+    what += QLatin1Char('\n') + tr("The host is told %1.").arg(SecondsText(text.told));
+    if (text.real >= 0)
+        what += QLatin1Char('\n') + tr("It really takes %1.").arg(SecondsText(text.real));
+    return what;
+}
+
+bool Timeline::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        QToolTip::showText(help->globalPos(), Describe(help->pos()), viewport());
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+void Timeline::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const int row = (event->pos().y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    if (event->pos().y() >= rulerHeight && row < ids.size())
+        emit Selected(ids.at(row));
+    if (event->pos().x() < titleWidth)
+        return;
+    marking = event->modifiers() & Qt::ShiftModifier;
+    markFrom = TickAt(event->pos().x());
+    if (!marking)
+        playback->Seek(markFrom);
+}
+
+void Timeline::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!(event->buttons() & Qt::LeftButton))
+        return;
+    const int tick = TickAt(event->pos().x());
+    if (marking)
+        playback->SetLoop(markFrom, tick);
+    else if (event->pos().x() >= titleWidth - 2 * inset)
+        playback->Seek(tick);
+}
+
+void Timeline::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (marking && TickAt(event->pos().x()) == markFrom)
+        playback->ClearLoop();
+    marking = false;
+}
+
+} // namespace AnimText

@@ -1,0 +1,72 @@
+/**
+ * @file
+ * The sign's time as a drawing: a row a text, with its pages, its ends, and where one is.
+ */
+#ifndef ANIMTEXT_TIMELINE_H
+#define ANIMTEXT_TIMELINE_H
+
+#include "studio/window/playback.h"
+#include "studio/worker/timing.h"
+
+#include <QAbstractScrollArea>
+#include <QStringList>
+
+namespace AnimText {
+
+class Timeline : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    Timeline(Playback* playback, QWidget* parent = nullptr);
+
+    /** @param ids of the texts, which have the rows of @p timing in this order */
+    void SetTiming(const Timing& timing, const QVector<int>& ids, const QStringList& titles);
+    /** Whether the timing is that of an earlier state. */
+    void SetStale(bool stale);
+    void SetSelected(int id);
+
+    /** The first tick of the page after @p tick, or before it. */
+    int NextMark(int tick) const;
+    int PreviousMark(int tick) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /** From a tick to a place in the viewport and back. */
+    double XOf(double tick) const;
+    int TickAt(double x) const;
+
+signals:
+    void Selected(int id);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    void PaintRuler(QPainter* painter) const;
+    void PaintRow(QPainter* painter, int row, const QRect& rect) const;
+    void PaintLegend(QPainter* painter) const;
+    QString Describe(const QPoint& point) const;
+    int Ticks() const;
+    QVector<int> Marks() const;
+    void Adjust();
+
+    Playback* playback;
+    Timing timing;
+    QVector<int> ids;
+    QStringList titles;
+    int selected = 0;
+    bool stale = false;
+    bool marking = false; // a range is being drawn
+    int markFrom = 0;
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,128 @@
+#include "studio/window/transportbar.h"
+
+#include "studio/window/looks.h"
+
+#include <QHBoxLayout>
+
+namespace AnimText {
+
+TransportBar::TransportBar(Playback* playback, QWidget* parent)
+    : QWidget(parent)
+    , playback(playback)
+    , time(new QLabel(this))
+    , ends(new QLabel(this))
+    , what(new QComboBox(this))
+{
+    auto* toStart = Button(QStringLiteral("media-skip-backward"), tr("To the start"), tr("Home"));
+    auto* back = Button(QStringLiteral("step-back"), tr("One tick back"), QStringLiteral("←"));
+    play = Button(QStringLiteral("media-playback-start"), tr("Play"), tr("Space"));
+    auto* forward = Button(QStringLiteral("step-forward"), tr("One tick on"), QStringLiteral("→"));
+    auto* toEnd = Button(QStringLiteral("media-skip-forward"), tr("To the end"), tr("End"));
+    loop = Button(QStringLiteral("media-playlist-repeat"),
+                  tr("Loop over a range; drag over the timeline with Shift to draw one"), tr("R"));
+    loop->setCheckable(true);
+    connect(toStart, &QToolButton::clicked, this, [=] { playback->Seek(0); });
+    connect(back, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() - 1); });
+    connect(play, &QToolButton::clicked, playback, &Playback::Toggle);
+    connect(forward, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() + 1); });
+    connect(toEnd, &QToolButton::clicked, this, [=] { playback->Seek(playback->Length() - 1); });
+    connect(loop, &QToolButton::clicked, this, [=](bool on) {
+        const int fifth = qMax(1, playback->Length() / 5);
+        if (on)
+            playback->SetLoop(playback->Tick(), playback->Tick() + fifth);
+        else
+            playback->ClearLoop();
+    });
+
+    what->addItems({tr("This page"), tr("All pages, as the host plays them")});
+    what->setAccessibleName(tr("What is played"));
+    what->setToolTip(tr("This page: all its texts from its start to their real ends.\n"
+                        "All pages: one after another, each for the time that the host is told."));
+    connect(what, qOverload<int>(&QComboBox::activated), this,
+            [this](int index) { emit ScheduleChanged(index == 1); });
+
+    time->setFont(TabularFont(font(), 1));
+    time->setMinimumWidth(
+        time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s  tick 00000")));
+    ends->setFont(TabularFont(font()));
+    ends->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
+    layout->setSpacing(grid / 2);
+    for (QToolButton* button : {toStart, back, play, forward, toEnd, loop})
+        layout->addWidget(button);
+    layout->addSpacing(2 * grid);
+    layout->addWidget(time);
+    layout->addStretch(1);
+    layout->addWidget(ends);
+    layout->addSpacing(2 * grid);
+    layout->addWidget(what);
+
+    connect(playback, &Playback::TickChanged, this, &TransportBar::ShowTime);
+    connect(playback, &Playback::PaceChanged, this, &TransportBar::ShowPace);
+    connect(playback, &Playback::RangeChanged, this,
+            [=] { loop->setChecked(playback->HasLoop()); });
+    ShowTime();
+}
+
+QToolButton* TransportBar::Button(const QString& icon, const QString& name, const QString& key)
+{
+    auto* button = new QToolButton(this);
+    button->setAutoRaise(true);
+    button->setIcon(Icon(icon));
+    button->setAccessibleName(name);
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key));
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+void TransportBar::ShowTime()
+{
+    time->setText(tr("%1  tick %2")
+                      .arg(SecondsText(qint64(playback->Tick()) * tickLength))
+                      .arg(playback->Tick()));
+}
+
+void TransportBar::ShowPace()
+{
+    play->setIcon(Icon(playback->IsPlaying() ? QStringLiteral("media-playback-pause")
+                                             : QStringLiteral("media-playback-start")));
+    const QString name = playback->IsPlaying() ? tr("Stop") : tr("Play");
+    play->setAccessibleName(name);
+    play->setToolTip(QStringLiteral("%1 (%2)").arg(name, tr("Space")));
+}
+
+void TransportBar::SetSchedule(bool schedule)
+{
+    what->setCurrentIndex(schedule ? 1 : 0);
+}
+
+QString EndsInWords(const TextTime& text)
+{
+    switch (text.ending) {
+    case Ending::NothingToPlay: return TransportBar::tr("nothing to play");
+    case Ending::TooLong:
+        return TransportBar::tr("told %1 · longer than can be shown").arg(SecondsText(text.told));
+    default: break;
+    }
+    QString words =
+        TransportBar::tr("told %1 · really %2").arg(SecondsText(text.told), SecondsText(text.real));
+    const qint64 difference = text.real - text.told;
+    if (difference > 0)
+        words += TransportBar::tr(" · %1 cut off").arg(SecondsText(difference));
+    else if (difference < 0)
+        words += TransportBar::tr(" · stands %1 longer").arg(SecondsText(-difference));
+    return words;
+}
+
+void TransportBar::ShowEnds(const TextTime* text)
+{
+    ends->setText(text ? EndsInWords(*text) : QString());
+    QPalette colors = palette();
+    const bool isCut = text && text->ending == Ending::Finishes && text->real > text->told;
+    colors.setColor(QPalette::WindowText, isCut ? Warning(colors) : Quiet(colors));
+    ends->setPalette(colors);
+}
+
+} // namespace AnimText

@@ -1,0 +1,38 @@
+/**
+ * @file
+ * A folder of the process's own, in which workers find the data files of what they play.
+ */
+#ifndef ANIMTEXT_SCENEFOLDER_H
+#define ANIMTEXT_SCENEFOLDER_H
+
+#include "studio/model/sign.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QTemporaryDir>
+
+namespace AnimText {
+
+/** May be used by several threads. Files go when no layout needs them any more. */
+class SceneFolder
+{
+public:
+    /** The scene of @p sign for a file in this folder, with its data files written. */
+    Scene Put(const Sign& sign, int page = -1);
+
+private:
+    struct Written
+    {
+        std::weak_ptr<const Layout> layout;
+        QString name;
+    };
+
+    QTemporaryDir folder;
+    QMutex mutex;
+    QHash<const Layout*, Written> written;
+    int next = 0;
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,158 @@
+#include "studio/worker/workerlink.h"
+
+#include <QCoreApplication>
+
+namespace AnimText {
+namespace {
+
+constexpr int longestSilence = 20000; // milliseconds without an answer
+
+QString& Program()
+{
+    static QString program;
+    return program;
+}
+
+} // namespace
+
+WorkerLink::WorkerLink(const QString& plugin, QObject* parent)
+    : QObject(parent)
+    , plugin(plugin)
+{
+}
+
+WorkerLink::~WorkerLink()
+{
+    Stop();
+}
+
+void WorkerLink::SetProgram(const QString& path)
+{
+    Program() = path;
+}
+
+void WorkerLink::Start()
+{
+    if (process)
+        return;
+    process = new QProcess(this);
+    // What the plugin says is for the terminal that the studio was started from.
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(process, &QProcess::readyReadStandardOutput, this, &WorkerLink::Read);
+    connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+            &WorkerLink::Ended);
+    if (!patience) {
+        patience = new QTimer(this);
+        patience->setSingleShot(true);
+        patience->setInterval(longestSilence);
+        connect(patience, &QTimer::timeout, this, [this] {
+            hangs = true;
+            process->kill();
+        });
+    }
+    received.clear();
+    hangs = false;
+    QStringList words{QStringLiteral("--worker")};
+    if (!plugin.isEmpty())
+        words += {QStringLiteral("--plugin"), plugin};
+    process->start(Program().isEmpty() ? QCoreApplication::applicationFilePath() : Program(),
+                   words);
+}
+
+void WorkerLink::Stop()
+{
+    if (!process)
+        return;
+    process->disconnect(this);
+    patience->stop();
+    process->closeWriteChannel();
+    process->kill();
+    process->waitForFinished();
+    delete process;
+    process = nullptr;
+}
+
+void WorkerLink::Send(const QByteArray& message)
+{
+    Start();
+    process->write(message);
+    patience->start();
+}
+
+void WorkerLink::Load(const LoadOrder& order)
+{
+    Send(Packed(Message::Load, order));
+}
+
+void WorkerLink::Play(int from, int to)
+{
+    Send(Packed(Message::Play, qint32(from), qint32(to)));
+}
+
+void WorkerLink::Measure(const LoadOrder& order)
+{
+    Send(Packed(Message::Measure, order));
+}
+
+void WorkerLink::Read()
+{
+    received += process->readAllStandardOutput();
+    Message kind;
+    QByteArray body;
+    while (TakeMessage(&received, &kind, &body))
+        Handle(kind, body);
+}
+
+void WorkerLink::Handle(Message kind, const QByteArray& body)
+{
+    quint32 generation = 0;
+    QString text;
+    patience->start();
+    switch (kind) {
+    case Message::Ready:
+        Unpack(body, &text);
+        emit Ready(text);
+        break;
+    case Message::Loaded:
+        patience->stop();
+        Unpack(body, &generation, &text);
+        emit Loaded(generation, text);
+        break;
+    case Message::Picture: {
+        TickPicture picture;
+        Unpack(body, &picture);
+        if (picture.picture.isNull())
+            picture.picture = lastPicture;
+        lastPicture = picture.picture;
+        emit Picture(picture);
+        break;
+    }
+    case Message::Measured: {
+        patience->stop();
+        Timing timing;
+        Unpack(body, &generation, &timing);
+        emit Measured(generation, timing);
+        break;
+    }
+    case Message::Idle:
+        patience->stop();
+        Unpack(body, &generation);
+        emit Idle(generation);
+        break;
+    default: break;
+    }
+}
+
+void WorkerLink::Ended()
+{
+    Read();
+    const bool crashed = process->exitStatus() == QProcess::CrashExit;
+    process->deleteLater();
+    process = nullptr;
+    patience->stop();
+    emit Died(hangs     ? tr("The plugin answered no more and was ended.")
+              : crashed ? tr("The plugin crashed.")
+                        : tr("The worker has ended."));
+}
+
+} // namespace AnimText

@@ -1,0 +1,65 @@
+/**
+ * @file
+ * The studio's end of a worker process.
+ */
+#ifndef ANIMTEXT_WORKERLINK_H
+#define ANIMTEXT_WORKERLINK_H
+
+#include "studio/worker/messages.h"
+
+#include <QObject>
+#include <QProcess>
+#include <QTimer>
+
+namespace AnimText {
+
+/**
+ * Starts the worker when it is first needed and again when it has crashed or hangs. Lives in a
+ * thread of its own, in which its slots must be called; what it tells may go anywhere.
+ */
+class WorkerLink : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @param plugin the library to be loaded; empty for the one beside the program */
+    explicit WorkerLink(const QString& plugin, QObject* parent = nullptr);
+    ~WorkerLink() override;
+
+    /** The program that is started with --worker; the running one unless another is named. */
+    static void SetProgram(const QString& path);
+
+public slots:
+    void Start();
+    void Load(const AnimText::LoadOrder& order);
+    void Play(int from, int to);
+    void Measure(const AnimText::LoadOrder& order);
+    /** Ends the process; the next order starts another one. */
+    void Stop();
+
+signals:
+    void Ready(const QString& pluginError);
+    void Loaded(quint32 generation, const QString& error);
+    void Picture(const AnimText::TickPicture& picture);
+    void Measured(quint32 generation, const AnimText::Timing& timing);
+    void Idle(quint32 generation);
+    /** The process has crashed, or was ended because it answered no more. */
+    void Died(const QString& why);
+
+private:
+    void Send(const QByteArray& message);
+    void Read();
+    void Handle(Message kind, const QByteArray& body);
+    void Ended();
+
+    QString plugin;
+    QProcess* process = nullptr;
+    QTimer* patience = nullptr;
+    QByteArray received;
+    QImage lastPicture;
+    bool hangs = false;
+};
+
+} // namespace AnimText
+
+#endif
