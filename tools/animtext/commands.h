@@ -10,6 +10,7 @@
 namespace AnimText {
 
 Command AuthorCommand();
+Command CompareCommand();
 Command DurationCommand();
 Command EffectsCommand();
 Command FontsCommand();

@@ -73,10 +73,10 @@ const QVector<Command>& Commands()
             {},
             Complete,
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
-        commands = {AuthorCommand(),  ListCommand(),     SetCommand(),      RemoveCommand(),
-                    PlayCommand(),    RenderCommand(),   SheetCommand(),    GalleryCommand(),
-                    TraceCommand(),   DurationCommand(), ValidateCommand(), SoakCommand(),
-                    EffectsCommand(), FontsCommand(),    completion};
+        commands = {AuthorCommand(), ListCommand(),    SetCommand(),      RemoveCommand(),
+                    PlayCommand(),   RenderCommand(),  SheetCommand(),    GalleryCommand(),
+                    TraceCommand(),  CompareCommand(), DurationCommand(), ValidateCommand(),
+                    SoakCommand(),   EffectsCommand(), FontsCommand(),    completion};
         Command help{"help",
                      "tells of a command",
                      "[COMMAND]",

@@ -2,23 +2,9 @@
 #include "animtext/opening.h"
 #include "player/callline.h"
 
-#include <QCryptographicHash>
-
 namespace AnimText {
 
 namespace {
-
-/** The rows of the picture without what pads them. */
-QByteArray Sha1(const QImage& picture)
-{
-    if (picture.isNull())
-        return QByteArray();
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    const int bytesPerRow = picture.width() * picture.depth() / 8;
-    for (int y = 0; y < picture.height(); ++y)
-        hash.addData(reinterpret_cast<const char*>(picture.constScanLine(y)), bytesPerRow);
-    return hash.result().toHex();
-}
 
 /** What a node's text layer shows, kept while it stays the same. */
 struct Shown
@@ -50,7 +36,7 @@ QByteArray Trace::Line(int node)
     const int layer = player->Scenery().TextLayer(node);
     if (player->Swapped(node) || player->Tick() == 0) {
         const QImage picture = player->TextPicture(node);
-        shown[node] = {picture.size(), Sha1(picture)};
+        shown[node] = {picture.size(), Sha1Of(picture)};
     }
     const QSize size = shown.at(node).size;
     return "{\"tick\":" + QByteArray::number(player->Tick()) +

@@ -1,5 +1,7 @@
 #include "player/callline.h"
 
+#include <QCryptographicHash>
+
 namespace AnimText {
 
 namespace {
@@ -120,6 +122,17 @@ QByteArray CallLine(const Torv::CallRecord& call)
     if (call.problem)
         line.Add("problem", Quoted(call.problem));
     return line.Json();
+}
+
+QByteArray Sha1Of(const QImage& picture)
+{
+    if (picture.isNull())
+        return QByteArray();
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    const int bytesPerRow = picture.width() * picture.depth() / 8;
+    for (int y = 0; y < picture.height(); ++y)
+        hash.addData(reinterpret_cast<const char*>(picture.constScanLine(y)), bytesPerRow);
+    return hash.result().toHex();
 }
 
 } // namespace AnimText

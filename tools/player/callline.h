@@ -8,6 +8,7 @@
 #include <display.h>
 
 #include <QByteArray>
+#include <QImage>
 
 namespace AnimText {
 
@@ -17,6 +18,9 @@ namespace AnimText {
  * is "buffer 0", "buffer 1" or null: the lines of two runs are the same.
  */
 QByteArray CallLine(const Torv::CallRecord& call);
+
+/** The SHA-1 of a picture's rows, without what pads them, in hexadecimal; empty for a null one. */
+QByteArray Sha1Of(const QImage& picture);
 
 } // namespace AnimText
 

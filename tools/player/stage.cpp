@@ -15,6 +15,7 @@ Stage::~Stage()
 {
     Stop();
     parts.clear();
+    watch = nullptr;
     KeepCalls(false);
 }
 
@@ -59,7 +60,9 @@ void Stage::StartNode(int node, uint seed)
     const int firstCall = calls.size();
     Torv::SetCallLog(Log, this);
     qsrand(seed);
+    isStarting = true;
     Render(node)->Start(display->Handle());
+    isStarting = false;
     KeepCalls(keepCalls);
 
     Part& part = parts.at(size_t(node));
@@ -113,7 +116,7 @@ void Stage::StopNode(int node)
 void Stage::KeepCalls(bool keep)
 {
     keepCalls = keep;
-    if (keep)
+    if (keepCalls || watch)
         Torv::SetCallLog(Log, this);
     else
         Torv::SetCallLog(nullptr, nullptr);
@@ -126,9 +129,19 @@ QVector<Torv::CallRecord> Stage::TakeCalls()
     return taken;
 }
 
-void Stage::Log(void* stage, const Torv::CallRecord& call)
+void Stage::WatchCalls(const std::function<void(const Torv::CallRecord&)>& wanted)
 {
-    static_cast<Stage*>(stage)->calls.append(call);
+    watch = wanted;
+    KeepCalls(keepCalls);
+}
+
+void Stage::Log(void* context, const Torv::CallRecord& call)
+{
+    auto* stage = static_cast<Stage*>(context);
+    if (stage->keepCalls || stage->isStarting)
+        stage->calls.append(call);
+    if (stage->watch)
+        stage->watch(call);
 }
 
 } // namespace AnimText

@@ -15,6 +15,7 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -62,6 +63,8 @@ public:
     void KeepCalls(bool keep);
     /** The calls since the last time. */
     QVector<Torv::CallRecord> TakeCalls();
+    /** Lets @p watch see every call as soon as it has been answered; empty: nobody. */
+    void WatchCalls(const std::function<void(const Torv::CallRecord&)>& watch);
 
 private:
     Q_DISABLE_COPY(Stage)
@@ -82,6 +85,8 @@ private:
     std::vector<Part> parts;
     QVector<Torv::CallRecord> calls;
     bool keepCalls = false;
+    bool isStarting = false;
+    std::function<void(const Torv::CallRecord&)> watch;
 };
 
 } // namespace AnimText

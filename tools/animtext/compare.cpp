@@ -1,0 +1,186 @@
+#include "animtext/commands.h"
+#include "animtext/interruption.h"
+#include "animtext/opening.h"
+#include "compare/deskplay.h"
+#include "compare/parting.h"
+#include "compare/pictures.h"
+#include "player/stillfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace AnimText {
+
+namespace {
+
+/** A scene is one object, a recording has one in each line. */
+bool IsRecording(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw Failure{BadInput,
+                      QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString())};
+    const QByteArray start = file.read(8);
+    return start.startsWith("{\"call\"") || start.startsWith("{\"tick\"");
+}
+
+Recording Open(const QString& path)
+{
+    Recording recording;
+    QString error;
+    if (!ReadRecording(path, &recording, &error))
+        throw Failure{BadInput, error};
+    return recording;
+}
+
+/** Where two recordings part, in words. */
+QString Tell(const Parting& parting, const Recording& a, const Recording& b)
+{
+    const auto place = [&](const Recording& recording) {
+        const auto& calls = recording.sessions.value(parting.session);
+        const int line = parting.call < calls.size() ? calls.at(parting.call).line : 0;
+        return line > 0 ? QStringLiteral(", line %1 of %2").arg(line).arg(recording.name)
+                        : QString();
+    };
+    const QString where = parting.session == 0
+                              ? QStringLiteral("before any session")
+                              : QStringLiteral("session %1, call %2, at tick %3 (%4 s)")
+                                    .arg(parting.session)
+                                    .arg(parting.call + 1)
+                                    .arg(parting.ms / tickLength)
+                                    .arg(double(parting.ms) / 1000, 0, 'f', 2);
+    return where + place(a) + place(b) + QStringLiteral(": ") + parting.words;
+}
+
+void Keep(const QImage& picture, const QString& path)
+{
+    QString error;
+    if (!WritePng(path, PngOf(picture, true, PngEffort::Fast), &error))
+        throw Failure{FailedRun, error};
+    Print(path.toUtf8() + '\n');
+}
+
+/** A recording and a scene, and what it takes to play that on the desk. */
+class DeskComparison
+{
+public:
+    DeskComparison(const CommandLine& line, const QString& log, const QString& scenePath)
+        : line(line)
+        , scene(OpenPlayableScene(line, scenePath))
+        , playing(line)
+        , player(VirtualDispatcher::Current(), playing.Plugin())
+        , recorded(Open(log))
+    {
+        if (!recorded.hasCalls)
+            throw Failure{BadInput, QStringLiteral("%1 has pictures alone; animtext trace --calls "
+                                                   "writes the calls as well")
+                                        .arg(log)};
+    }
+
+    const Recording& Recorded() const { return recorded; }
+
+    Recording Play(PicturePlace wanted = {}, QImage* picture = nullptr)
+    {
+        Recording desk;
+        QString error;
+        const bool played = PlayOnDesk(
+            &player, scene, playing.Seed(), [] { return !Interrupted(); }, &recorded, &desk, wanted,
+            picture, &error);
+        StopIfInterrupted();
+        if (!played)
+            throw Failure{BadInput, error};
+        return desk;
+    }
+
+    /** Both pictures and their difference, where the recording has the pixels. */
+    void KeepPictures(const Parting& parting)
+    {
+        const int number = recorded.sessions.at(parting.session).at(parting.call).pixels;
+        if (number < 0)
+            return;
+        QImage device;
+        QString error;
+        if (!ReadPam(QStringLiteral("%1-%2.pam").arg(recorded.name).arg(number), &device, &error))
+            throw Failure{BadInput, error};
+        QImage desk;
+        Play({parting.session, parting.call}, &desk);
+        const QDir folder(line.IsSet("output") ? line.Value("output")
+                                               : QFileInfo(recorded.name).path());
+        if (!QDir().mkpath(folder.path()))
+            throw Failure{FailedRun, folder.path() + QStringLiteral(" cannot be made")};
+        const QString base = folder.filePath(QFileInfo(recorded.name).completeBaseName());
+        Keep(device, base + QStringLiteral("-device.png"));
+        Keep(desk, base + QStringLiteral("-desk.png"));
+        Keep(DifferenceOf(device, desk), base + QStringLiteral("-difference.png"));
+    }
+
+private:
+    const CommandLine& line;
+    Scene scene;
+    Playing playing;
+    Player player;
+    Recording recorded;
+};
+
+int Report(const Parting& parting, const Recording& a, const Recording& b)
+{
+    if (parting.kind == Parting::Kind::None) {
+        Print(QStringLiteral("%1 and %2 agree: %3 calls, %4 pictures\n")
+                  .arg(a.name, b.name)
+                  .arg(a.hasCalls ? a.Calls() : 0)
+                  .arg(std::min(a.Pictures(), b.Pictures()))
+                  .toUtf8());
+        return Done;
+    }
+    Print(QStringLiteral("%1 and %2 part: %3\n").arg(a.name, b.name, Tell(parting, a, b)).toUtf8());
+    return FailedRun;
+}
+
+int Compare(const CommandLine& line)
+{
+    const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Time("tolerance"));
+    const QString first = line.Arguments().at(0);
+    const QString second = line.Arguments().at(1);
+    if (!IsRecording(second)) {
+        WatchForInterruption();
+        DeskComparison comparison(line, first, second);
+        const Recording desk = comparison.Play();
+        const Parting parting = FirstParting(comparison.Recorded(), desk, tolerance);
+        const int status = Report(parting, comparison.Recorded(), desk);
+        if (parting.kind == Parting::Kind::Picture)
+            comparison.KeepPictures(parting);
+        return status;
+    }
+    const Recording a = Open(first);
+    const Recording b = Open(second);
+    if (a.hasCalls != b.hasCalls)
+        throw Failure{BadInput, QStringLiteral("only one of them has calls; animtext trace --calls "
+                                               "writes them")};
+    return Report(FirstParting(a, b, tolerance), a, b);
+}
+
+} // namespace
+
+Command CompareCommand()
+{
+    return {"compare",
+            "says where two recordings, or a device and the desk, first part",
+            "RECORDING SCENE.json|RECORDING",
+            2,
+            2,
+            "Says where a recording of librecord or animtext trace first parts from another one, "
+            "or from what the plugin does with a scene on the desk: a call, its order, what is "
+            "asked, a picture, a time. Ends with 1 when they part. Where the recording kept the "
+            "pixels of a picture that differs, both pictures and their difference are written.",
+            WithShowOptions(
+                {Option::Time("tolerance", 1, 0, 1e9, "TIME",
+                              "How far times may differ, counted from a session's first call.")
+                     .Or("66ms"),
+                 Option::Flag("no-times", "Times do not matter."),
+                 Option::File("output", "DIR", "Where the pictures go; beside the first recording.")
+                     .Letter('o')}),
+            Compare};
+}
+
+} // namespace AnimText

@@ -1,0 +1,84 @@
+#include "compare/deskplay.h"
+
+#include "player/callline.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace AnimText {
+
+namespace {
+
+// A play that has come to its end asks nothing of the device any more.
+constexpr int longestSilence = 100000; // ticks
+
+void DropEnd(Recording* recorded)
+{
+    for (QVector<RecordedCall>& session : recorded->sessions) {
+        while (!session.isEmpty() &&
+               (session.last().name == QLatin1String("RemovePictureSession") ||
+                session.last().name == QLatin1String("FreePictureSession")))
+            session.removeLast();
+    }
+}
+
+bool IsAsLong(const Recording& desk, const Recording& recorded)
+{
+    for (int i = 1; i < recorded.sessions.size(); ++i) {
+        if (desk.sessions.value(i).size() < recorded.sessions.at(i).size())
+            return false;
+    }
+    return true;
+}
+
+/** What follows the last call of a session that is recorded belongs to the time after it. */
+void CutTo(const Recording& recorded, Recording* desk)
+{
+    for (int i = 1; i < desk->sessions.size(); ++i)
+        desk->sessions[i].resize(
+            std::min(desk->sessions.at(i).size(), recorded.sessions.value(i).size()));
+}
+
+} // namespace
+
+bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
+                Recording* recorded, Recording* desk, PicturePlace wanted, QImage* picture,
+                QString* error)
+{
+    DropEnd(recorded);
+    if (!player->Load(scene, error))
+        return false;
+    RecordingReader reader;
+    int lastCall = 0;
+    int tick = 0;
+    player->Scenery().WatchCalls([&](const Torv::CallRecord& call) {
+        QImage shown;
+        if (call.operation == Torv::OpCreatePictureSession && call.result)
+            shown = Torv::FrontImage(PicSession(call.result), 0);
+        if (call.operation == Torv::OpSwapPicImageLayerPtr)
+            shown = Torv::FrontImage(call.session, call.layer);
+        const QJsonObject line = QJsonDocument::fromJson(CallLine(call)).object();
+        reader.TakeCall(line, 0, qint64(tick) * tickLength, QString::fromLatin1(Sha1Of(shown)));
+        lastCall = tick;
+        if (wanted.session >= 0 && picture->isNull() &&
+            reader.Read().sessions.value(wanted.session).size() == wanted.call + 1)
+            *picture = shown;
+    });
+    player->Start(seed);
+    while (!IsAsLong(reader.Read(), *recorded) && tick - lastCall < longestSilence) {
+        tick = player->Tick() + 1;
+        player->Advance();
+        if (!goOn()) {
+            *error = QStringLiteral("interrupted");
+            return false;
+        }
+    }
+    player->Scenery().WatchCalls(nullptr);
+    *desk = reader.Read();
+    desk->name = QStringLiteral("the desk");
+    CutTo(*recorded, desk);
+    return true;
+}
+
+} // namespace AnimText

@@ -1,0 +1,36 @@
+/**
+ * @file
+ * A scene played on the desk as long as a recording goes.
+ */
+#ifndef ANIMTEXT_DESKPLAY_H
+#define ANIMTEXT_DESKPLAY_H
+
+#include "compare/recording.h"
+#include "player/player.h"
+
+#include <QImage>
+
+#include <functional>
+
+namespace AnimText {
+
+/** A picture of a recording by its place there. */
+struct PicturePlace
+{
+    int session = -1;
+    int call = -1;
+};
+
+/**
+ * Records what the plugin does with @p scene until there are as many calls as in @p recorded. What
+ * a host ends a text with is not waited for: @p recorded loses it.
+ * @param goOn    asked at every tick; false breaks off
+ * @param wanted  the place of a picture that @p picture is set to
+ */
+bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
+                Recording* recorded, Recording* desk, PicturePlace wanted, QImage* picture,
+                QString* error);
+
+} // namespace AnimText
+
+#endif

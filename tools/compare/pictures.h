@@ -1,0 +1,21 @@
+/**
+ * @file
+ * Two pictures that should be the same, for people to look at.
+ */
+#ifndef ANIMTEXT_PICTURES_H
+#define ANIMTEXT_PICTURES_H
+
+#include <QImage>
+#include <QString>
+
+namespace AnimText {
+
+/** Reads a picture that librecord kept. On failure answers false, and @p error is one line. */
+bool ReadPam(const QString& path, QImage* picture, QString* error);
+
+/** Both pictures dimmed, with what only @p a has in red, and what only @p b has in green. */
+QImage DifferenceOf(const QImage& a, const QImage& b);
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,63 @@
+/**
+ * @file
+ * What a plugin asked of the device, call by call, as librecord or `animtext trace --calls` wrote
+ * it down.
+ */
+#ifndef ANIMTEXT_RECORDING_H
+#define ANIMTEXT_RECORDING_H
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+namespace AnimText {
+
+/** One call, or, in a trace without calls, one picture. */
+struct RecordedCall
+{
+    int line = 0;     ///< of the file; 0 when it was recorded just now
+    qint64 ms = -1;   ///< when; -1 unknown
+    QString name;     ///< of the function; "picture" for a picture alone
+    QJsonObject told; ///< arguments and result, without the handles, which no two runs share
+    QString sha1;     ///< of the picture that was handed over; empty unknown
+    int pixels = -1;  ///< the number of the file that has its pixels; -1 none
+};
+
+/** The calls by session, in the order of their creation; first those that concern no session. */
+struct Recording
+{
+    QString name; ///< for people
+    QVector<QVector<RecordedCall>> sessions{1};
+    bool hasCalls = false; ///< rather than pictures alone
+
+    int Calls() const;
+    int Pictures() const;
+};
+
+/** Puts the lines of a recording together. */
+class RecordingReader
+{
+public:
+    /** Takes a line of JSON. @return false when it is none of a recording's */
+    bool Take(const QByteArray& line, int number);
+    /** The same for a call with what its line does not tell. */
+    void TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1);
+
+    const Recording& Read() const { return recording; }
+
+private:
+    void TakeTick(const QJsonObject& line, int number);
+    QVector<RecordedCall>& Session(int index);
+
+    Recording recording;
+    QHash<double, int> indices; // of live sessions by their handles
+};
+
+/** Reads the file @p path. On failure answers false, and @p error is one line. */
+bool ReadRecording(const QString& path, Recording* recording, QString* error);
+
+} // namespace AnimText
+
+#endif
