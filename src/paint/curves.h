@@ -4,6 +4,8 @@
 #include "paint/fixedpoint.h"
 #include "paint/point.h"
 
+#include <cmath>
+
 namespace Lw {
 namespace HNodeAnimationText {
 
@@ -38,6 +40,19 @@ void Halve(T* points)
     points[2] = Middle(points[1], between);
     points[4] = Middle(points[5], between);
     points[3] = Middle(points[2], points[4]);
+}
+
+/** How often the hairline halves a curve at most. */
+const int curveHalvings = 6;
+
+/** Whether the hairline takes the curve for a line. */
+inline bool IsFlat(const Point* p)
+{
+    const float dx = p[0].x - p[3].x;
+    const float dy = p[0].y - p[3].y;
+    const float limit = 0.25f * (std::fabs(dx) + std::fabs(dy));
+    return !(std::fabs(dx * (p[3].y - p[1].y) - dy * (p[3].x - p[1].x)) >= limit ||
+             std::fabs(dx * (p[3].y - p[2].y) - dy * (p[3].x - p[2].x)) >= limit);
 }
 
 } // namespace HNodeAnimationText

@@ -22,11 +22,19 @@ public:
      * and well formed, and every subpath has a line or a curve and ends where it begins.
      */
     bool IsClosed() const { return isClosed; }
+    /**
+     * Whole pixels away from its origin the glyph is the same, pixel by pixel, as long as no
+     * coordinate is less than 0 or more than these: all that its curves are halved to is computed
+     * without rounding. 0 where that is nowhere.
+     */
+    Point ExactWithin() const;
 
 private:
     Outline shape;
     Bounds box;
     bool isClosed;
+    mutable bool isMeasured;
+    mutable Point exactWithin;
 };
 
 } // namespace HNodeAnimationText

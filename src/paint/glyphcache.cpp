@@ -25,8 +25,9 @@ const size_t mostImageBytes = 256 * 1024;
 const float margin = 3;
 
 // Keys of places along an axis: the bits of a float, or, where those of no number are, the power of
-// two that all coordinates lie above.
+// two that all coordinates lie above, or that it does not matter.
 const uint32_t betweenPowers = 0xff800000u;
+const uint32_t anywhere = 0xffffffffu;
 
 uint32_t BitsOf(float v)
 {
@@ -41,11 +42,13 @@ uint32_t PowerBelow(float v)
     return BitsOf(v) >> 23;
 }
 
-uint32_t PlaceKey(float low, float high, float at)
+uint32_t PlaceKey(float low, float high, float exactWithin, float at)
 {
-    if (PowerBelow(low + at) != PowerBelow(high + at))
-        return BitsOf(at);
-    return betweenPowers | PowerBelow(low + at);
+    if (high + at <= exactWithin)
+        return anywhere;
+    if (PowerBelow(low + at) == PowerBelow(high + at))
+        return betweenPowers | PowerBelow(low + at);
+    return BitsOf(at);
 }
 
 struct Inverting
@@ -198,14 +201,23 @@ const Bounds* GlyphCache::FindShape(const TextPath::Item& item)
     return &known.box;
 }
 
-void GlyphCache::FindPlace(const Bounds& box, float x, float y)
+void GlyphCache::FindPlace(const TextPath::Item& item, const Bounds& box)
 {
+    const float x = item.x;
+    const float y = item.y;
     wholeX = static_cast<int>(std::floor(x));
     wholeY = static_cast<int>(std::floor(y));
-    const bool isInside = box.left + x >= margin && box.right + x <= float(pictureWidth) - margin &&
-                          box.top + y >= margin && box.bottom + y <= float(pictureHeight) - margin;
-    lookedFor.x = isInside && x == float(wholeX) ? PlaceKey(box.left, box.right, x) : BitsOf(x);
-    lookedFor.y = isInside && y == float(wholeY) ? PlaceKey(box.top, box.bottom, y) : BitsOf(y);
+    lookedFor.x = BitsOf(x);
+    lookedFor.y = BitsOf(y);
+    if (box.left + x < margin || box.right + x > float(pictureWidth) - margin ||
+        box.top + y < margin || box.bottom + y > float(pictureHeight) - margin)
+        return;
+    const Point nowhere = {0, 0};
+    const Point exact = item.shape.IsIdentity() ? item.glyph->ExactWithin() : nowhere;
+    if (x == float(wholeX))
+        lookedFor.x = PlaceKey(box.left, box.right, exact.x, x);
+    if (y == float(wholeY))
+        lookedFor.y = PlaceKey(box.top, box.bottom, exact.y, y);
 }
 
 /** The entry of what is looked for; a new one when there is none. */
@@ -242,7 +254,7 @@ GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
     const Bounds* const box = FindShape(item);
     if (!box)
         return finding;
-    FindPlace(*box, item.x, item.y);
+    FindPlace(item, *box);
     finding.x = wholeX;
     finding.y = wholeY;
     lookedFor.direction = static_cast<uint8_t>(direction << 1 | (isWinding ? 1 : 0));

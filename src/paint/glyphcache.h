@@ -17,7 +17,9 @@ namespace HNodeAnimationText {
  * - at the very same place, fractions included;
  * - whole pixels away, when the glyph lies within the picture and all its coordinates along an axis
  *   stay between two neighbouring powers of two. Floats lie equally dense there, so every sum, half
- *   and difference is rounded alike.
+ *   and difference is rounded alike;
+ * - within the picture and whole pixels away along an axis on which nothing is rounded: the outline
+ *   lies on a grid so coarse that floats hold whatever its curves are halved to.
  */
 class GlyphCache
 {
@@ -90,7 +92,7 @@ private:
 
     void ForgetImages();
     const Bounds* FindShape(const TextPath::Item& item);
-    void FindPlace(const Bounds& box, float x, float y);
+    void FindPlace(const TextPath::Item& item, const Bounds& box);
     Entry& EntryLookedFor();
     int NumberOf(const Image& image);
 

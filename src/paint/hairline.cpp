@@ -13,8 +13,6 @@ namespace {
 
 enum Cap { NoCap = 0, CapBegin = 1, CapEnd = 2 };
 
-const int curveHalvings = 6;
-
 bool AreOpposite(Direction a, Direction b)
 {
     return (a ^ b) == 1; // neighbours in the enumeration
@@ -223,18 +221,12 @@ void Hairline::FollowClosing(const Point& from, const Point& to)
 
 void Hairline::DrawCurve(const Point* p, int level, unsigned caps)
 {
-    if (level > 0) {
-        const float dx = p[0].x - p[3].x;
-        const float dy = p[0].y - p[3].y;
-        const float limit = 0.25f * (std::fabs(dx) + std::fabs(dy));
-        if (std::fabs(dx * (p[3].y - p[1].y) - dy * (p[3].x - p[1].x)) >= limit ||
-            std::fabs(dx * (p[3].y - p[2].y) - dy * (p[3].x - p[2].x)) >= limit) {
-            Point halves[7] = {p[0], p[1], p[2], p[3], Point(), Point(), Point()};
-            Halve(halves);
-            DrawCurve(halves, level - 1, caps & CapBegin);
-            DrawCurve(halves + 3, level - 1, caps & CapEnd);
-            return;
-        }
+    if (level > 0 && !IsFlat(p)) {
+        Point halves[7] = {p[0], p[1], p[2], p[3], Point(), Point(), Point()};
+        Halve(halves);
+        DrawCurve(halves, level - 1, caps & CapBegin);
+        DrawCurve(halves + 3, level - 1, caps & CapEnd);
+        return;
     }
     DrawLine(p[0], p[3], caps);
 }

@@ -5,6 +5,7 @@
 
 #include <QtTest>
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -124,6 +125,7 @@ private slots:
     void transformsAreTheDevices();
     void glyphsArePaintedAsTheirPath();
     void glyphsAreKeptWhereTheyAreTheSame();
+    void exactPlacesRoundNothing();
     void whatIsKeptIsBounded();
     void clipIsThePictureInside();
     void transformOfThePainterMapsPoints();
@@ -267,7 +269,8 @@ void PaintTest::glyphsArePaintedAsTheirPath()
 void PaintTest::glyphsAreKeptWhereTheyAreTheSame()
 {
     const int width = 1150, height = 160;
-    for (const float size : {9.f, 14.4f, 31.f}) {
+    for (const float size : {9.f, 14.4f, 31.f, 25.f, 45.f}) {
+        const bool isOnGrid = size == 25 || size == 45; // or thirds
         Pages pages(width, height);
         Outline ring; // of two contours, the same way round: all of it when wound
         ring.fillRule = Outline::Winding;
@@ -279,6 +282,10 @@ void PaintTest::glyphsAreKeptWhereTheyAreTheSame()
             ring.CurveTo(r * 2, r + third / 2, r + third, r * 2, r, r * 2);
             ring.CurveTo(r - third, r * 2, 0, r + third / 2, 0, r);
         }
+        for (size_t i = 0; i < ring.Size() && isOnGrid; ++i) {
+            ring.At(i).x = std::round(ring.At(i).x * 64) / 64;
+            ring.At(i).y = std::round(ring.At(i).y * 64) / 64;
+        }
         Outline sharp; // ends where its direction is that of what came before
         sharp.MoveTo(size, 5);
         sharp.LineTo(2, 5);
@@ -289,18 +296,88 @@ void PaintTest::glyphsAreKeptWhereTheyAreTheSame()
         box.LineTo(1, 9);
         box.LineTo(5, 9);
         box.LineTo(1, 1);
-        pages.glyphs = {Glyph(ring), Glyph(box), Glyph(sharp)};
+        const bool isScaled = size == 25; // to what the glyph's own coordinates do not tell
+        Transform slightly;
+        slightly.scale(isScaled ? 1 - std::ldexp(1.f, -16) : 1, 1);
+        Outline fine; // just before the next pixel, which floats cannot tell everywhere
+        const float edge = 3 + 33 / 64.f - (isScaled ? 0 : std::ldexp(1.f, -16));
+        fine.MoveTo(edge, edge);
+        fine.LineTo(edge, 9);
+        fine.LineTo(9, edge);
+        fine.LineTo(edge, edge);
+        pages.glyphs = {Glyph(ring), Glyph(box), Glyph(sharp), Glyph(fine)};
         for (int step = -2 * (width + 60); step < 2 * (width + 60); ++step) {
             const int x = qAbs(step) / 2 - 30;
             const float y = float(qMin(qAbs(step % 640 / 2 - 160), 150)) - 5;
             TextPath page;
-            for (size_t k = 0; k < 3; ++k)
+            for (size_t k = 0; k < 4; ++k)
                 if (k != 1 || step % 3) // what comes before the third
-                    page.Add(pages.glyphs[k], int(k), Transform(), float(x), y);
+                    page.Add(pages.glyphs[k], int(k), slightly, float(x + (k == 3 ? 100 : 0)), y);
             const QString difference = pages.Compare(page, &page.At(0));
             QVERIFY2(difference.isEmpty(), qPrintable(difference));
         }
     }
+}
+
+/** Whether the curve's halves, as the hairline computes them, are those of @p exact, moved. */
+bool IsMovedExactly(const Point* p, const double (*exact)[2], double x, double y, int level)
+{
+    Point halves[7] = {p[0], p[1], p[2], p[3], {0, 0}, {0, 0}, {0, 0}};
+    double e[7][2] = {};
+    std::memcpy(e, exact, sizeof(double) * 8);
+    const auto isEqual = [&](int i) {
+        return double(halves[i].x) == e[i][0] + x && double(halves[i].y) == e[i][1] + y;
+    };
+    for (int i = 0; i < 4; ++i)
+        if (!isEqual(i))
+            return false;
+    if (level == 0 || IsFlat(p))
+        return true;
+    Halve(halves);
+    for (double* c : {&e[0][0], &e[0][1]}) { // every second number from here on
+        const double middle = (c[2] + c[4]) / 2;
+        c[12] = c[6];
+        c[2] = (c[0] + c[2]) / 2;
+        c[10] = (c[4] + c[6]) / 2;
+        c[4] = (c[2] + middle) / 2;
+        c[8] = (c[10] + middle) / 2;
+        c[6] = (c[4] + c[8]) / 2;
+    }
+    return IsMovedExactly(halves, e, x, y, level - 1) &&
+           IsMovedExactly(halves + 3, e + 3, x, y, level - 1);
+}
+
+void PaintTest::exactPlacesRoundNothing()
+{
+    unsigned random = 1;
+    int isUseful = 0;
+    for (int i = 0; i < 3000; ++i) {
+        const int bitsX = i % 13, bitsY = i % 7 + 2;
+        float c[8];
+        for (int k = 0; k < 8; ++k) {
+            random = random * 1664525 + 1013904223;
+            const int bits = k % 2 ? bitsY : bitsX; // behind the point of a number below 64
+            c[k] = std::ldexp(float(random >> (26 - bits)), -bits);
+        }
+        Outline outline;
+        outline.MoveTo(c[0], c[1]);
+        outline.CurveTo(c[2], c[3], c[4], c[5], c[6], c[7]);
+        const Glyph glyph(outline);
+        const Point within = glyph.ExactWithin();
+        const float x = std::floor(qMin(within.x, 32000.f) - glyph.Box().right);
+        const float y = std::floor(qMin(within.y, 32000.f) - glyph.Box().bottom);
+        if (x < 0 || y < 0)
+            continue;
+        ++isUseful;
+        std::vector<Point> points(4);
+        Transform().map(outline, &points[0], x, y);
+        double exact[4][2];
+        for (int k = 0; k < 8; ++k)
+            exact[k / 2][k % 2] = double(c[k]);
+        QVERIFY2(IsMovedExactly(&points[0], exact, double(x), double(y), curveHalvings),
+                 qPrintable(QString("curve %1 at %2, %3").arg(i).arg(x).arg(y)));
+    }
+    QVERIFY2(isUseful > 1000, qPrintable(QString::number(isUseful)));
 }
 
 void PaintTest::whatIsKeptIsBounded()
