@@ -463,8 +463,15 @@ private slots:
     {
         const ShapedLine line = Shape("fi " + arabic, 40);
         const PlacedText placed = Place("fi " + arabic, line, Arrangement::Column, 100);
-        for (const Cluster& cluster : line.clusters)
-            QCOMPARE(placed.outlines[cluster.first], cluster.shape);
+        for (const Cluster& cluster : line.clusters) {
+            const QPainterPath& outline = placed.outlines[cluster.first];
+            QCOMPARE(outline.elementCount(), cluster.shape.elementCount());
+            for (int i = 0; i < outline.elementCount(); ++i) {
+                const QPointF p = outline.elementAt(i), from = cluster.shape.elementAt(i);
+                QVERIFY((p - from).manhattanLength() <= 2 / 128.0);
+                QCOMPARE(p * 64, QPointF((p * 64).toPoint())); // which the sign paints fast
+            }
+        }
         QCOMPARE(Sum(placed.heights), line.clusters.size() * (line.ascent + line.descent));
     }
 

@@ -6,6 +6,7 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace AnimText {
@@ -22,6 +23,20 @@ QVector<int> ClusterWidths(const ShapedLine& line)
         widths[k] = qRound(edge) - left;
     }
     return widths;
+}
+
+/**
+ * With points at 64ths of a pixel, where the sign's painter fills anyway: it then halves curves
+ * without rounding and can copy a glyph that moves, and no shape moves by more than 1/128.
+ */
+QPainterPath OnGrid(QPainterPath path)
+{
+    const auto rounded = [](qreal v) { return std::round(v * 64) / 64 + 0.0; }; // no -0
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element& e = path.elementAt(i);
+        path.setElementPositionAt(i, rounded(e.x), rounded(e.y));
+    }
+    return path;
 }
 
 QPainterPath Underlined(const QPainterPath& shape, int width, const Bar& bar)
@@ -262,7 +277,7 @@ private:
         }
         if (!isAdded)
             result.outlines[result.outlines.size() - units] =
-                outlines[cell.cluster].translated(seenAt[cell.cluster] - x, 0);
+                OnGrid(outlines[cell.cluster].translated(seenAt[cell.cluster] - x, 0));
     }
 
     /** Heights and descents decide how far below the middle the baseline lies. */
