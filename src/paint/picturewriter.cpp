@@ -55,10 +55,15 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
         for (int k = 0; k < Plane::wordBits / pixelsAtOnce; ++k, to += atOnce, word >>= 8)
             std::memcpy(to, eights + (word & 255) * atOnce, atOnce);
     }
-    Plane::Word word = whole * Plane::wordBits < width ? words[whole] : 0;
-    for (int x = whole * Plane::wordBits; x < width; x += pixelsAtOnce, word >>= pixelsAtOnce)
-        std::memcpy(row + x * bytesPerPixel, eights + (word & 255) * atOnce,
-                    static_cast<size_t>(std::min(width - x, pixelsAtOnce) * bytesPerPixel));
+    int rest = width - whole * Plane::wordBits;
+    unsigned char* to = row + whole * Plane::wordBits * bytesPerPixel;
+    for (Plane::Word word = rest > 0 ? words[whole] : 0; rest > 0; word >>= pixelsAtOnce) {
+        const int pixels = rest < pixelsAtOnce ? rest : +pixelsAtOnce;
+        std::memcpy(to, eights + (word & 255) * atOnce,
+                    static_cast<size_t>(pixels * bytesPerPixel));
+        to += atOnce;
+        rest -= pixels;
+    }
 }
 
 void PictureWriter::Write(const Plane& ink, Format format, uint32_t argb, unsigned char* bits,
