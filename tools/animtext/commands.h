@@ -19,6 +19,7 @@ Command ListCommand();
 Command PlayCommand();
 Command RemoveCommand();
 Command RenderCommand();
+Command SchemaCommand();
 Command SetCommand();
 Command SheetCommand();
 Command SoakCommand();

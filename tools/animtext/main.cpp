@@ -76,7 +76,8 @@ const QVector<Command>& Commands()
         commands = {AuthorCommand(), ListCommand(),    SetCommand(),      RemoveCommand(),
                     PlayCommand(),   RenderCommand(),  SheetCommand(),    GalleryCommand(),
                     TraceCommand(),  CompareCommand(), DurationCommand(), ValidateCommand(),
-                    SoakCommand(),   EffectsCommand(), FontsCommand(),    completion};
+                    SoakCommand(),   SchemaCommand(),  EffectsCommand(),  FontsCommand(),
+                    completion};
         Command help{"help",
                      "tells of a command",
                      "[COMMAND]",

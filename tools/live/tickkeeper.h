@@ -15,7 +15,8 @@ namespace AnimText {
 /**
  * Qt's timers leave out the ticks for which the event loop comes too late, and a play would fall
  * behind the clock for good. While this lives, timers of a tick's interval are told of these ticks
- * all the same, as soon as the loop comes round; after more than a second they go on from there.
+ * all the same, as soon as the loop comes round. What cannot be made up for in half a second, say
+ * where painting is slower than the clock, is left out.
  */
 class TickKeeper : public QObject
 {
