@@ -1,7 +1,10 @@
-#include "studio/model/document.h"
+#include "studio/model/recovery.h"
 
 #include "testfolder.h"
 
+#include <QApplication>
+#include <QDirIterator>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -37,6 +40,8 @@ private slots:
     void savesOnlyWhatStandsStillAsSaved();
     void tellsOfChangesOnDisk();
     void guessesSourcesFromStyles();
+    void killedWhileSavingLosesNothing();
+    void copiesGoWhenTheyAreNotNeeded();
     void textsKeepTheirOrder();
 };
 
@@ -172,6 +177,69 @@ void TestDocument::guessesSourcesFromStyles()
     QCOMPARE(document.Current().texts.size(), 1); // what was open stays
 }
 
+void TestDocument::killedWhileSavingLosesNothing()
+{
+    const QString path = folder.Path("victim.json");
+    const QString copies = folder.Path("copies");
+    for (int words = 1; words <= 5; ++words) {
+        QProcess victim;
+        victim.start(QCoreApplication::applicationFilePath(), {"--victim", path, copies});
+        QByteArray said;
+        while (said.count('\n') < words && victim.waitForReadyRead(20000))
+            said += victim.readAllStandardOutput();
+        victim.kill();
+        QVERIFY(victim.waitForFinished());
+        said += victim.readAllStandardOutput();
+        QVERIFY(said.count('\n') >= words);
+
+        QString error;
+        Document saved;
+        if (said.contains("saved"))
+            QVERIFY2(saved.Open(path, &error), qPrintable(error));
+        QCOMPARE(folder.Shell("test ! -e victim.json || animtext validate victim.json").status, 0);
+        Document document;
+        const Recovery recovery(&document, copies);
+        const QList<LostWork> lost = recovery.Find();
+        QCOMPARE(lost.size(), 1);
+        document.Recover(lost.first().sign, lost.first().path);
+        QVERIFY(document.IsModified());
+        // At least what was kept when it last said so, and all of it.
+        const int kept = said.lastIndexOf("kept ");
+        const int number = said.mid(kept + 5, said.indexOf('\n', kept) - kept - 5).toInt();
+        const QString text = TextOf(document);
+        QVERIFY2(text.startsWith("text ") && text.mid(5).toInt() >= number, qPrintable(text));
+        QVERIFY(document.Current().IsLaidOut());
+        Recovery::Drop(lost.first());
+        QVERIFY(recovery.Find().isEmpty());
+    }
+}
+
+void TestDocument::copiesGoWhenTheyAreNotNeeded()
+{
+    const QString copies = folder.Path("kept");
+    const auto scenes = [&] {
+        QDirIterator all(copies, {"scene.json"}, QDir::Files, QDirIterator::Subdirectories);
+        return all.hasNext();
+    };
+    Document document;
+    {
+        Recovery recovery(&document, copies);
+        QSignalSpy kept(&recovery, &Recovery::Kept);
+        document.New();
+        document.Change("Text", Written(document, "kept"));
+        QVERIFY(kept.wait());
+        QVERIFY(scenes());
+        Document other;
+        QVERIFY(Recovery(&other, copies).Find().isEmpty()); // its studio still runs
+        QVERIFY(Saves(&document, folder.Path("kept.json")));
+        QTRY_VERIFY(!scenes());
+        document.Change("Text", Written(document, "again"));
+        QVERIFY(kept.wait());
+        QVERIFY(scenes());
+    }
+    QVERIFY(!scenes());
+}
+
 void TestDocument::textsKeepTheirOrder()
 {
     Sign sign;
@@ -195,5 +263,42 @@ void TestDocument::textsKeepTheirOrder()
     QCOMPARE(sign.PageCount(), 2);
 }
 
-QTEST_MAIN(TestDocument)
+/** Changes and saves for ever, and says what it has done. */
+static int BeVictim(const QString& path, const QString& copies)
+{
+    Document document;
+    Recovery recovery(&document, copies);
+    int number = 0;
+    const auto say = [](const QByteArray& line) {
+        QFile out;
+        if (out.open(stdout, QIODevice::WriteOnly))
+            out.write(line + '\n');
+    };
+    const auto change = [&] {
+        Sign sign = document.Current();
+        sign.texts.first().source.text.text = QString("text %1").arg(++number);
+        document.Change("Text", sign);
+    };
+    document.New();
+    change();
+    QObject::connect(&recovery, &Recovery::Kept, [&] {
+        say("kept " + QByteArray::number(number));
+        document.Save(path);
+        change();
+    });
+    QObject::connect(&document, &Document::SaveEnded, [&](bool saved) {
+        say(saved ? "saved" : "failed");
+        change();
+    });
+    return QCoreApplication::exec();
+}
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (argc == 4 && qstrcmp(argv[1], "--victim") == 0)
+        return BeVictim(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
+    TestDocument test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_document.moc"

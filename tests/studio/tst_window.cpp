@@ -1,3 +1,4 @@
+#include "studio/window/exportdialog.h"
 #include "studio/window/mainwindow.h"
 
 #include "testfolder.h"
@@ -44,6 +45,9 @@ private slots:
     void keysMoveInTime();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
+    void findingsAreMended();
+    void exportsAndCancels();
+    void holdsThreeHundredTexts();
 };
 
 void TestWindow::initTestCase()
@@ -162,6 +166,92 @@ void TestWindow::mouseMovesAndSizesAreas()
     QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
     QCOMPARE(Text().node.pos, QPoint(10, 0));
     QCOMPARE(Text().node.size, QSize(300, 41));
+}
+
+void TestWindow::findingsAreMended()
+{
+    Sign sign = window->GetDocument()->Current();
+    SignText& text = sign.texts.first();
+    text.node.pos = QPoint(100, -8);
+    text.node.attributes["AnimationSpeed"] = 12;
+    text.node.attributes["PlayTimes"] = 0;
+    text.node.attributes["Stroke"] = 1;
+    window->GetDocument()->Change("Settings", sign);
+    FindingsList* list = window->Findings();
+    QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, 10000);
+    for (int steps = 0; list->Count() > 0 && steps < 8; ++steps) {
+        const int before = list->Count();
+        list->Mend(0);
+        QTRY_VERIFY_WITH_TIMEOUT(list->Count() < before, 10000);
+    }
+    QCOMPARE(list->Count(), 0);
+    QCOMPARE(Text().node.pos, QPoint(0, 0));
+    QCOMPARE(Text().node.attributes.value("AnimationSpeed").toInt(), 9);
+    QVERIFY(!Text().node.attributes.contains("Stroke"));
+}
+
+void TestWindow::exportsAndCancels()
+{
+    Type("Film");
+    QVERIFY(Settles());
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(folder.Path("it's.json"));
+    QVERIFY(ended.wait());
+    for (const char* name : {"film.gif", "frames/"}) {
+        ExportDialog dialog(window->GetDocument()->Current(), folder.Path("it's.json"), QString());
+        QSignalSpy done(&dialog, &ExportDialog::Done);
+        dialog.SetOutput(folder.Path(name) + (QString(name).endsWith('/') ? "/" : ""));
+        dialog.StartButton()->click();
+        QVERIFY(done.wait(60000));
+        QVERIFY(done.first().first().toBool());
+        // The command makes the same film.
+        const QByteArray made =
+            folder.Read(name == QString("film.gif") ? "film.gif" : "frames/frame-0010.png");
+        QVERIFY(!made.isEmpty());
+        QCOMPARE(folder.Shell("rm -rf film.gif frames; " + dialog.Command()).status, 0);
+        QCOMPARE(folder.Read(name == QString("film.gif") ? "film.gif" : "frames/frame-0010.png"),
+                 made);
+    }
+    Sign endless = window->GetDocument()->Current();
+    endless.texts.first().node.attributes["PlayTimes"] = 400;
+    ExportDialog dialog(endless, QString(), QString());
+    QSignalSpy done(&dialog, &ExportDialog::Done);
+    dialog.SetOutput(folder.Path("never.mp4"));
+    dialog.StartButton()->click();
+    QTRY_VERIFY(!dialog.StartButton()->isEnabled());
+    dialog.CloseButton()->click();
+    QVERIFY(done.wait(60000));
+    QVERIFY(!done.first().first().toBool());
+    QVERIFY(folder.Everything().filter("never").isEmpty());
+    dialog.SetOutput(folder.Path("nothing.txt"));
+    QVERIFY(!dialog.StartButton()->isEnabled());
+}
+
+void TestWindow::holdsThreeHundredTexts()
+{
+    Sign sign;
+    sign.display = QSize(512, 512);
+    for (int i = 0; i < 300; ++i) {
+        SignText text = NewText(QSize(100, 16), 0);
+        text.node.pos = QPoint(100 * (i % 5), 8 * (i / 5));
+        text.source.text.text = QString("Text %1").arg(i);
+        AddText(&sign, text);
+    }
+    window->GetDocument()->Change("Many", sign);
+    QVERIFY(QTest::qWaitFor(
+        [this] {
+            return window->GetRehearsal()->IsCurrent() &&
+                   window->GetDocument()->Current().IsLaidOut();
+        },
+        60000));
+    window->Select(window->GetDocument()->Current().texts.at(299).id);
+    QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Text 299"));
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(folder.Path("many.json"));
+    QVERIFY(ended.wait(60000));
+    QVERIFY(window->Open(folder.Path("many.json")));
+    QCOMPARE(window->GetDocument()->Current().texts.size(), 300);
+    QVERIFY(Settles());
 }
 
 void TestWindow::closesWhileItPaints()

@@ -1,5 +1,6 @@
 // The studio: a window in which signs are written and timed, or, with --worker, one of its workers.
 #include "studio/window/mainwindow.h"
+#include "studio/worker/exporting.h"
 #include "studio/worker/workermain.h"
 
 #include <QApplication>
@@ -58,6 +59,7 @@ int RunWindow(int argc, char** argv)
     const QStringList scenes = parser.positionalArguments();
     if (scenes.isEmpty() || !window.Open(scenes.first()))
         window.New();
+    window.OfferLostWork();
     window.show();
     window.GetPlayback()->SetPace(1);
     return QApplication::exec();
@@ -69,6 +71,8 @@ int main(int argc, char** argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--worker") == 0)
         return WorkerMain(argc, argv);
+    if (argc > 1 && qstrcmp(argv[1], "--export") == 0)
+        return ExportMain(argc, argv);
     const bool asksOnly =
         argc > 1 && (qstrcmp(argv[1], "--help") == 0 || qstrcmp(argv[1], "-h") == 0 ||
                      qstrcmp(argv[1], "--version") == 0);

@@ -231,6 +231,19 @@ void Document::Saved(bool saved, const QString& error, const QByteArray& digest,
     LookAtDisk();
 }
 
+bool Document::LoadTheirs(QString* error)
+{
+    Scene scene;
+    if (!ReadScene(path, &scene, error, MissingFiles::AreAccepted))
+        return false;
+    onDisk = DigestOfFile(path);
+    told = onDisk;
+    undo.push(
+        new SignChange(this, tr("Load from disk"), SignOf(scene, ReadSources(path)), QString()));
+    undo.setClean();
+    return true;
+}
+
 void Document::KeepMine()
 {
     onDisk = DigestOfFile(path);

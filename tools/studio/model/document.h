@@ -49,6 +49,8 @@ public:
 
     /** Saves once the layouts are made; SaveEnded() tells what became of it. */
     void Save(const QString& path);
+    /** What the file holds by now, as a step that can be undone. */
+    bool LoadTheirs(QString* error);
     /** Lets the next save go over what somebody else has written to the file meanwhile. */
     void KeepMine();
     void WaitUntilSaved();

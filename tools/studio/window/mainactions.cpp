@@ -1,4 +1,5 @@
 // What the menus, the tool bar and the keys of the window do.
+#include "studio/window/exportdialog.h"
 #include "studio/window/looks.h"
 #include "studio/window/mainwindow.h"
 
@@ -67,6 +68,10 @@ void MainWindow::MakeFileMenu()
                      [this] { Save(); });
     Act(file, tr("Save &as…"), QKeySequence::SaveAs, QString(), [this] { SaveAs(); });
     file->addSeparator();
+    QAction* film = Act(file, tr("&Export…"), QKeySequence(tr("Ctrl+E")),
+                        QStringLiteral("document-export"), [this] { ShowExport(); });
+    film->setObjectName(QStringLiteral("export"));
+    file->addSeparator();
     Act(file, tr("&Quit"), QKeySequence::Quit, QString(), [this] { close(); });
     tools->addActions({fresh, open, saveAction});
     tools->addSeparator();
@@ -103,6 +108,7 @@ void MainWindow::MakeEditMenu()
     });
     tools->addSeparator();
     tools->addAction(add);
+    tools->addAction(findChild<QAction*>(QStringLiteral("export")));
 }
 
 void MainWindow::MakeViewMenu()
@@ -233,6 +239,13 @@ bool MainWindow::SaveAs()
     document.Save(path);
     AddRecent(path);
     return true;
+}
+
+void MainWindow::ShowExport()
+{
+    auto* dialog = new ExportDialog(document.Current(), document.Path(), plugin, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 /** Whether the sign may go; asks where it has changes that are not saved. */

@@ -4,9 +4,11 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDateTime>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
@@ -22,7 +24,9 @@ const QColor surroundings(96, 96, 96);
 } // namespace
 
 MainWindow::MainWindow(const QString& plugin)
-    : rehearsal(plugin)
+    : plugin(plugin)
+    , recovery(&document)
+    , rehearsal(plugin)
     , thumbnails(plugin)
 {
     setObjectName(QStringLiteral("studio"));
@@ -98,7 +102,14 @@ void MainWindow::MakeDocks()
     QDockWidget* left = dock(QStringLiteral("scene"), tr("Scene"), scenes, Qt::LeftDockWidgetArea);
     QDockWidget* right =
         dock(QStringLiteral("text"), tr("Text"), inspector, Qt::RightDockWidgetArea);
-    resizeDocks({left, right}, {168, 376}, Qt::Horizontal);
+    findings = new FindingsList(this);
+    QDockWidget* below =
+        dock(QStringLiteral("findings"), tr("Findings"), findings, Qt::LeftDockWidgetArea);
+    connect(findings, &FindingsList::CountChanged, this, [below](int count) {
+        below->setWindowTitle(count == 0 ? tr("No findings") : tr("%n finding(s)", nullptr, count));
+    });
+    resizeDocks({left, right}, {248, 376}, Qt::Horizontal);
+    resizeDocks({left, below}, {400, 160}, Qt::Vertical);
 }
 
 void MainWindow::Connect()
@@ -118,7 +129,7 @@ void MainWindow::Connect()
     });
     connect(&document, &Document::DiskChanged, this, [this] {
         notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
-                     {{tr("Load it"), [this] { Open(document.Path()); }},
+                     {{tr("Load it"), [this] { LoadTheirs(); }},
                       {tr("Keep mine"), [this] { document.KeepMine(); }},
                       {tr("Save mine as…"), [this] { SaveAs(); }}});
     });
@@ -135,8 +146,17 @@ void MainWindow::Connect()
     });
     connect(&dimming, &QTimer::timeout, this, [this] { view->SetDimmed(true); });
     connect(&rehearsal, &Rehearsal::TimingChanged, this, &MainWindow::ShowTiming);
-    connect(&rehearsal, &Rehearsal::FindingsChanged, this,
-            [this](const QList<Finding>& findings) { inspector->SetFindings(findings); });
+    connect(&rehearsal, &Rehearsal::FindingsChanged, this, [this](const QList<Finding>& list) {
+        found = list;
+        findings->Show(found, document.Current());
+        ShowFindings();
+    });
+    connect(findings, &FindingsList::Selected, this, &MainWindow::Select);
+    connect(findings, &FindingsList::Mended, this,
+            [this](int id, const QString& what, const TextChange& change) {
+                Select(id);
+                Edit(what, QString(), change);
+            });
     connect(&rehearsal, &Rehearsal::Trouble, this,
             [this](const QString& why) { notices->Set(NoticeBar::Trouble, why); });
 
@@ -176,6 +196,13 @@ void MainWindow::RestoreLayout()
     findChild<QSplitter*>(QStringLiteral("centre"))
         ->restoreState(settings.value(QStringLiteral("centre")).toByteArray());
     leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
+}
+
+void MainWindow::LoadTheirs()
+{
+    QString error;
+    if (!document.LoadTheirs(&error))
+        notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
 }
 
 bool MainWindow::Open(const QString& path)
@@ -231,7 +258,38 @@ void MainWindow::Refresh()
     view->SetFrames(frames);
     view->SetSelected(selected);
     timeline->SetSelected(selected);
+    ShowFindings();
     Rehearse();
+}
+
+/** Those about the text that is edited stand beside its fields. */
+void MainWindow::ShowFindings()
+{
+    QList<Finding> own;
+    const int index = document.Current().IndexOf(selected);
+    for (const Finding& finding : found) {
+        if (TextOf(finding, document.Current()) == index)
+            own.append(finding);
+    }
+    inspector->SetFindings(own);
+}
+
+void MainWindow::OfferLostWork()
+{
+    const QList<LostWork> lost = recovery.Find();
+    if (lost.isEmpty())
+        return;
+    const LostWork work = lost.first();
+    const QString name = work.path.isEmpty() ? tr("a new sign") : QFileInfo(work.path).fileName();
+    notices->Set(NoticeBar::Recovery,
+                 tr("The studio ended before %1 was saved (%2).")
+                     .arg(name, QLocale().toString(work.when, QLocale::ShortFormat)),
+                 {{tr("Recover it"),
+                   [this, work] {
+                       document.Recover(work.sign, work.path);
+                       Recovery::Drop(work);
+                   }},
+                  {tr("Drop it"), [work] { Recovery::Drop(work); }}});
 }
 
 void MainWindow::Rehearse()

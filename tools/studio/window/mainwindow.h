@@ -6,7 +6,9 @@
 #define ANIMTEXT_MAINWINDOW_H
 
 #include "studio/model/document.h"
+#include "studio/model/recovery.h"
 #include "studio/window/displayview.h"
+#include "studio/window/findingslist.h"
 #include "studio/window/inspector.h"
 #include "studio/window/noticebar.h"
 #include "studio/window/playback.h"
@@ -42,6 +44,10 @@ public:
     Inspector* GetInspector() const { return inspector; }
     TransportBar* Transport() const { return transport; }
     NoticeBar* Notices() const { return notices; }
+    FindingsList* Findings() const { return findings; }
+    Recovery* GetRecovery() { return &recovery; }
+    /** Offers what a studio has left that was killed. */
+    void OfferLostWork();
     int Selected() const { return selected; }
     void Select(int id);
 
@@ -70,6 +76,8 @@ private:
     void Rehearse();
     void ShowTiming();
     void ShowState();
+    void LoadTheirs();
+    void ShowFindings();
     void Edit(const QString& what, const QString& merge, const TextChange& change);
     void AddNewText(bool onNewPage);
     void RemoveSelected();
@@ -78,6 +86,7 @@ private:
     bool Save();
     bool SaveAs();
     bool MayLeave();
+    void ShowExport();
     void ShowRecent();
     void AddRecent(const QString& path);
     void SetZoom(int zoom);
@@ -86,13 +95,16 @@ private:
     QVector<int> PlayedIds() const;
     int CurrentPage() const;
 
+    const QString plugin;
     Document document;
+    Recovery recovery;
     Rehearsal rehearsal;
     Thumbnails thumbnails;
     Playback playback;
     int selected = 0;
     Part part;
     QTimer dimming;
+    QList<Finding> found;
 
     DisplayView* view = nullptr;
     NoticeBar* notices = nullptr;
@@ -100,6 +112,7 @@ private:
     Timeline* timeline = nullptr;
     SceneList* scenes = nullptr;
     Inspector* inspector = nullptr;
+    FindingsList* findings = nullptr;
     QComboBox* zoomBox = nullptr;
     QMenu* recent = nullptr;
     QAction* leds = nullptr;

@@ -7,10 +7,10 @@ namespace {
 
 constexpr int longestSilence = 20000; // milliseconds without an answer
 
-QString& Program()
+QString& ProgramPath()
 {
-    static QString program;
-    return program;
+    static QString path;
+    return path;
 }
 
 } // namespace
@@ -28,7 +28,12 @@ WorkerLink::~WorkerLink()
 
 void WorkerLink::SetProgram(const QString& path)
 {
-    Program() = path;
+    ProgramPath() = path;
+}
+
+QString WorkerLink::Program()
+{
+    return ProgramPath().isEmpty() ? QCoreApplication::applicationFilePath() : ProgramPath();
 }
 
 void WorkerLink::Start()
@@ -55,8 +60,7 @@ void WorkerLink::Start()
     QStringList words{QStringLiteral("--worker")};
     if (!plugin.isEmpty())
         words += {QStringLiteral("--plugin"), plugin};
-    process->start(Program().isEmpty() ? QCoreApplication::applicationFilePath() : Program(),
-                   words);
+    process->start(Program(), words);
 }
 
 void WorkerLink::Stop()

@@ -28,6 +28,7 @@ public:
 
     /** The program that is started with --worker; the running one unless another is named. */
     static void SetProgram(const QString& path);
+    static QString Program();
 
 public slots:
     void Start();

@@ -121,6 +121,8 @@ void WorkerLoop::Measure(const LoadOrder& wanted)
 void WorkerLoop::Restart()
 {
     QString error;
+    started = false;
+    player.reset(); // it gives the display's clock back
     player = std::make_unique<Player>(dispatcher, plugin);
     if (!player->Load(scene, &error)) {
         last = -1;
@@ -140,17 +142,22 @@ void WorkerLoop::Restart()
 /** One tick further towards what is wanted. */
 void WorkerLoop::Step()
 {
+    // The same tick may be wanted again, with the same calls.
+    if (!started || player->Tick() != next)
+        calls.clear();
     if (!started || player->Tick() > next)
         Restart();
     else if (player->Tick() < next)
         player->Advance();
+    if (!started)
+        return;
+    for (const Torv::CallRecord& call : player->Scenery().TakeCalls())
+        calls += CallLine(call) + '\n';
     if (player->Tick() == next) {
         SendTick();
         ++next;
         if (next > last)
             Send(Packed(Message::Idle, order.generation));
-    } else {
-        player->Scenery().TakeCalls();
     }
     Receive(false);
 }
@@ -165,8 +172,7 @@ void WorkerLoop::SendTick()
         tick.picture = picture;
     shown = picture;
     sent = tick.tick;
-    for (const Torv::CallRecord& call : player->Scenery().TakeCalls())
-        tick.calls += CallLine(call) + '\n';
+    tick.calls = calls;
     Send(Packed(Message::Picture, tick));
 }
 

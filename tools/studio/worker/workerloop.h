@@ -49,6 +49,7 @@ private:
     int last = -1;        // and the last one
     int sent = -2;        // the last tick that was sent
     QImage shown;         // its picture
+    QByteArray calls;     // of the tick at which the player stands
 };
 
 } // namespace AnimText

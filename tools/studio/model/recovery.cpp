@@ -1,0 +1,146 @@
+#include "studio/model/recovery.h"
+
+#include "scene/wholefile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr int delayLength = 500; // milliseconds from a change to its copy
+const QString lockName = QStringLiteral("lock");
+const QString sceneName = QStringLiteral("scene.json");
+const QString aboutName = QStringLiteral("about.json");
+
+/** Unlike a scene that is saved, a copy may have mistakes. What it names comes before it. */
+void WriteCopy(const Sign& sign, const QString& path, const QString& folder)
+{
+    const QDir dir(folder);
+    const QString scenePath = dir.filePath(sceneName);
+    DataFiles files;
+    const Scene scene = SceneToSave(sign, scenePath, &files);
+    files.insert(SourcesName(scenePath), SourcesToJson(SourcesOf(sign, scene)));
+    const QJsonObject about{{QStringLiteral("path"), path}};
+    files.insert(aboutName, QJsonDocument(about).toJson());
+    QString error;
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (!WriteWhole(dir.filePath(file.key()), file.value(), &error))
+            return;
+    }
+    if (!WriteWhole(scenePath, SceneToJson(scene), &error))
+        return;
+    for (const QString& name :
+         dir.entryList({QStringLiteral("*.path"), QStringLiteral("*.descent")})) {
+        if (!files.contains(name))
+            QFile::remove(dir.filePath(name));
+    }
+}
+
+} // namespace
+
+Recovery::Recovery(Document* document, const QString& below, QObject* parent)
+    : QObject(parent)
+    , document(document)
+    , root(!below.isEmpty() ? below
+                            : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                                  QStringLiteral("/recovery"))
+    , folder(root + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces))
+{
+    delay.setSingleShot(true);
+    delay.setInterval(delayLength);
+    pool.setMaxThreadCount(1);
+    connect(document, &Document::Changed, this, &Recovery::Look);
+    connect(document, &Document::StateChanged, this, &Recovery::Look);
+    connect(&delay, &QTimer::timeout, this, &Recovery::Keep);
+}
+
+Recovery::~Recovery()
+{
+    pool.waitForDone();
+    if (leaves || !lock)
+        return;
+    lock->unlock();
+    QDir(folder).removeRecursively();
+}
+
+void Recovery::Look()
+{
+    if (document->IsModified()) {
+        if (!delay.isActive())
+            delay.start();
+        return;
+    }
+    delay.stop();
+    if (lock)
+        pool.start([at = folder] { QFile::remove(QDir(at).filePath(sceneName)); });
+}
+
+void Recovery::Keep()
+{
+    if (!document->Current().IsLaidOut())
+        return; // comes again when it is
+    if (!lock) {
+        QDir().mkpath(folder);
+        lock = std::make_unique<QLockFile>(QDir(folder).filePath(lockName));
+        lock->setStaleLockTime(0);
+        lock->tryLock();
+    }
+    pool.start([this, sign = document->Current(), path = document->Path()] {
+        WriteCopy(sign, path, folder);
+        QMetaObject::invokeMethod(this, &Recovery::Kept);
+    });
+}
+
+QList<LostWork> Recovery::Find() const
+{
+    QList<LostWork> found;
+    const QDir all(root);
+    for (const QString& name : all.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QDir dir(all.filePath(name));
+        if (dir.path() == folder)
+            continue;
+        QLockFile itsLock(dir.filePath(lockName));
+        itsLock.setStaleLockTime(0);
+        if (!itsLock.tryLock())
+            continue; // its studio is there
+        LostWork work;
+        work.folder = dir.path();
+        const QString scenePath = dir.filePath(sceneName);
+        Scene scene;
+        QString error;
+        const bool isRead = QFileInfo::exists(scenePath) &&
+                            ReadScene(scenePath, &scene, &error, MissingFiles::AreAccepted);
+        if (!isRead) {
+            itsLock.unlock();
+            Drop(work);
+            continue;
+        }
+        work.sign = SignOf(scene, ReadSources(scenePath));
+        work.when = QFileInfo(scenePath).lastModified();
+        QFile about(dir.filePath(aboutName));
+        if (about.open(QIODevice::ReadOnly))
+            work.path = QJsonDocument::fromJson(about.readAll())
+                            .object()
+                            .value(QStringLiteral("path"))
+                            .toString();
+        found.append(work);
+    }
+    std::sort(found.begin(), found.end(),
+              [](const LostWork& a, const LostWork& b) { return a.when > b.when; });
+    return found;
+}
+
+void Recovery::Drop(const LostWork& work)
+{
+    QDir(work.folder).removeRecursively();
+}
+
+} // namespace AnimText
