@@ -3,6 +3,7 @@
 
 #include "testfolder.h"
 
+#include <QDockWidget>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -47,6 +48,7 @@ private slots:
     void closesWhileItPaints();
     void findingsAreMended();
     void exportsAndCancels();
+    void integratorsSeeCallsFaultsAndAnotherLibrary();
     void holdsThreeHundredTexts();
 };
 
@@ -225,6 +227,24 @@ void TestWindow::exportsAndCancels()
     QVERIFY(folder.Everything().filter("never").isEmpty());
     dialog.SetOutput(folder.Path("nothing.txt"));
     QVERIFY(!dialog.StartButton()->isEnabled());
+}
+
+void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()
+{
+    window->findChild<QDockWidget*>("integrator")->show();
+    IntegratorView* view = window->Integrator();
+    QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("CreatePictureSession"), 10000);
+    QVERIFY(Settles());
+    const QImage sound = window->Display()->Picture();
+    view->AddFault(Torv::OpCreatePictureSession, 1);
+    QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("fault"), 10000);
+    QVERIFY(window->Display()->Picture() != sound);
+    // A library against itself differs only by the fault that one of them has not got.
+    view->SetLibrary(ANIMTEXT_PROGRAMS "/../lib/libanimationtext.so");
+    window->GetPlayback()->Seek(40);
+    QTRY_VERIFY_WITH_TIMEOUT(view->findChildren<QLabel*>().last()->text().contains("No pixel"),
+                             10000);
+    view->SetLibrary(QString());
 }
 
 void TestWindow::holdsThreeHundredTexts()

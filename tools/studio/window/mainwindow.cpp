@@ -108,6 +108,9 @@ void MainWindow::MakeDocks()
     connect(findings, &FindingsList::CountChanged, this, [below](int count) {
         below->setWindowTitle(count == 0 ? tr("No findings") : tr("%n finding(s)", nullptr, count));
     });
+    integrator = new IntegratorView(this);
+    dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
+        ->hide();
     resizeDocks({left, right}, {248, 376}, Qt::Horizontal);
     resizeDocks({left, below}, {400, 160}, Qt::Vertical);
 }
@@ -168,6 +171,7 @@ void MainWindow::Connect()
     };
     connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
 
+    ConnectIntegrator();
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::Selected, this, [this](int id) {
@@ -186,6 +190,44 @@ void MainWindow::Connect()
     });
     connect(inspector, &Inspector::Edited, this, &MainWindow::Edit);
     connect(transport, &TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
+}
+
+void MainWindow::ConnectIntegrator()
+{
+    connect(integrator, &IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
+    connect(integrator, &IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
+    connect(&rehearsal, &Rehearsal::Shown, this, &MainWindow::ShowCalls);
+}
+
+void MainWindow::CompareWith(const QString& library)
+{
+    compared.reset();
+    view->SetCompared(QImage());
+    if (library.isEmpty())
+        return;
+    compared = std::make_unique<Rehearsal>(library);
+    connect(&playback, &Playback::TickChanged, compared.get(), &Rehearsal::Look);
+    connect(compared.get(), &Rehearsal::Shown, this, &MainWindow::ShowCalls);
+    connect(compared.get(), &Rehearsal::Trouble, this, [this, library](const QString& why) {
+        if (!why.isEmpty())
+            notices->Set(NoticeBar::Trouble, QStringLiteral("%1: %2").arg(library, why),
+                         {{tr("Dismiss"), {}}});
+    });
+    compared->SetSign(document.Current(), part);
+    compared->Look(playback.Tick());
+}
+
+/** The calls of the tick that is looked at, and what the other library makes of it. */
+void MainWindow::ShowCalls()
+{
+    if (integrator->isVisible())
+        integrator->ShowCalls(rehearsal.Tick(), rehearsal.Calls(rehearsal.Tick()));
+    const bool bothThere = compared && compared->IsCurrent() && rehearsal.IsCurrent() &&
+                           compared->Tick() == rehearsal.Tick();
+    if (!compared)
+        return;
+    view->SetCompared(bothThere ? compared->Picture(rehearsal.Tick()) : QImage());
+    integrator->ShowDifferences(bothThere ? view->Differences() : -1);
 }
 
 void MainWindow::RestoreLayout()
@@ -297,10 +339,16 @@ void MainWindow::Rehearse()
     const Sign& sign = document.Current();
     part.schedule = transport->IsSchedule();
     part.page = part.schedule ? -1 : CurrentPage();
-    if (sign.IsLaidOut())
-        rehearsal.SetSign(sign, part);
-    else if (!dimming.isActive())
-        dimming.start();
+    part.calls = integrator->isVisible();
+    part.faults = part.calls ? integrator->Faults() : QVector<QPair<qint32, qint32>>();
+    if (!sign.IsLaidOut()) {
+        if (!dimming.isActive())
+            dimming.start();
+        return;
+    }
+    rehearsal.SetSign(sign, part);
+    if (compared)
+        compared->SetSign(sign, part);
 }
 
 QVector<int> MainWindow::PlayedIds() const

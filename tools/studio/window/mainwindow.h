@@ -10,6 +10,7 @@
 #include "studio/window/displayview.h"
 #include "studio/window/findingslist.h"
 #include "studio/window/inspector.h"
+#include "studio/window/integratorview.h"
 #include "studio/window/noticebar.h"
 #include "studio/window/playback.h"
 #include "studio/window/scenelist.h"
@@ -45,6 +46,8 @@ public:
     TransportBar* Transport() const { return transport; }
     NoticeBar* Notices() const { return notices; }
     FindingsList* Findings() const { return findings; }
+    /** Hidden until it is asked for. */
+    IntegratorView* Integrator() const { return integrator; }
     Recovery* GetRecovery() { return &recovery; }
     /** Offers what a studio has left that was killed. */
     void OfferLostWork();
@@ -78,6 +81,9 @@ private:
     void ShowState();
     void LoadTheirs();
     void ShowFindings();
+    void ConnectIntegrator();
+    void CompareWith(const QString& library);
+    void ShowCalls();
     void Edit(const QString& what, const QString& merge, const TextChange& change);
     void AddNewText(bool onNewPage);
     void RemoveSelected();
@@ -99,6 +105,7 @@ private:
     Document document;
     Recovery recovery;
     Rehearsal rehearsal;
+    std::unique_ptr<Rehearsal> compared; // with another library
     Thumbnails thumbnails;
     Playback playback;
     int selected = 0;
@@ -113,6 +120,7 @@ private:
     SceneList* scenes = nullptr;
     Inspector* inspector = nullptr;
     FindingsList* findings = nullptr;
+    IntegratorView* integrator = nullptr;
     QComboBox* zoomBox = nullptr;
     QMenu* recent = nullptr;
     QAction* leds = nullptr;
