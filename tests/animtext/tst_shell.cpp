@@ -87,7 +87,8 @@ QStringList Printed(const Session& start, const Session& session)
     const TestFolder output;
     QString script = "state() { find . -type f -exec cksum {} + | sort; }\n"
                      "VERSION=" ANIMTEXT_VERSION "\n"
-                     "LIBRARIES='" + QString(ANIMTEXT_LIBRARIES).replace("'", "'\\''") + "'\n";
+                     "LIBRARIES='" +
+                     QString(ANIMTEXT_LIBRARIES).replace("'", "'\\''") + "'\n";
     for (const Step& step : start.steps)
         script += step.line + '\n';
     for (int i = 0; i < session.steps.size(); ++i)
