@@ -11,6 +11,7 @@ namespace AnimText {
 namespace {
 
 const int oldestLock = 30 * 1000; // ms; a scene is written in far less
+const int oldestNameless = 1000;  // ms; a lock's owner writes its name into it at once
 const int longestWait = 60 * 1000;
 const unsigned long pause = 5; // ms between two tries; QLockFile's own pauses grow to seconds
 
@@ -20,14 +21,21 @@ FolderLock::FolderLock(const QString& folder)
     : folder(folder)
     , file(folder + QStringLiteral("/.animtext.lock"))
 {
-    file.setStaleLockTime(oldestLock);
 }
 
 bool FolderLock::Take(QString* error)
 {
     QElapsedTimer waited;
     waited.start();
-    while (!file.tryLock(0)) {
+    while (true) {
+        // Killed before it wrote its name, an owner leaves a lock that only its age tells about.
+        qint64 owner = 0;
+        QString host;
+        QString program;
+        file.setStaleLockTime(file.getLockInfo(&owner, &host, &program) ? oldestLock
+                                                                        : oldestNameless);
+        if (file.tryLock(0))
+            return true;
         if (file.error() != QLockFile::LockFailedError) {
             *error = QStringLiteral("%1: nothing can be written into this folder").arg(folder);
             return false;
@@ -40,7 +48,6 @@ bool FolderLock::Take(QString* error)
         }
         QThread::msleep(pause);
     }
-    return true;
 }
 
 void FolderLock::Sync() const
