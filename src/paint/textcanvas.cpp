@@ -93,7 +93,7 @@ void TextCanvas::DrawText(const TextPath& text)
 {
     if (picture.IsEmpty() || text.Size() == 0)
         return;
-    if (!isFirst || !DrawOneByOne(text))
+    if (!isFirst || !(clip == picture) || !DrawOneByOne(text))
         DrawPath(text.Path());
     isFirst = false;
 }
@@ -101,6 +101,8 @@ void TextCanvas::DrawText(const TextPath& text)
 void TextCanvas::DrawGlyph(const TextPath::Item& item)
 {
     const Outline& outline = item.glyph->Shape();
+    if (outline.IsEmpty())
+        return;
     const bool isWinding = outline.fillRule == Outline::Winding;
     if (!picture.IsEmpty() && clip == picture && IsIndependent(item)) {
         GlyphCache::Finding found = cache.Find(item, isWinding, Rightward);

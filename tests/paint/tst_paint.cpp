@@ -406,7 +406,13 @@ void PaintTest::clipIsThePictureInside()
         TextCanvas canvas, inside;
         canvas.SetSize(left + w + 9, top + h + 3);
         canvas.SetClip({left, top, left + w, top + h});
-        canvas.DrawPath(sample.outline.Translated(left, top));
+        const Glyph glyph(sample.outline);
+        TextPath text; // of odd-even glyphs
+        text.Add(glyph, 0, Transform(), left, top);
+        if (sample.outline.fillRule == Outline::OddEven)
+            canvas.DrawText(text);
+        else
+            canvas.DrawGlyph({&glyph, 0, Transform(), left, top});
         inside.SetSize(w, h);
         inside.DrawPath(sample.outline);
         Plane moved;
@@ -481,6 +487,12 @@ void PaintTest::whatCannotBePaintedIsNot()
         QCOMPARE(CanvasRows(10, 10, {outline}).count("."), 10);
         QCOMPARE(CanvasRows(-1, 10, {outline}).count("."), 10);
     }
+    TextCanvas canvas;
+    canvas.SetSize(10, 10);
+    const Glyph space;
+    for (int frame = 0; frame < 3; ++frame)
+        canvas.DrawGlyph({&space, 0, Transform(), 4, 4});
+    QCOMPARE(Rows(canvas.Ink()).count("."), 10);
     Outline joined; // a move at its end gives way, one alone is not taken over
     joined.MoveTo(1, 1);
     joined.Append(joined);
