@@ -45,6 +45,10 @@ struct Hairline::Trace
     Direction direction;
     int32_t a1; // along, in 1/64 pixel
     int32_t a2;
+    int32_t c1; // across, in 1/64 pixel, where it begins
+    int32_t rise;
+    int32_t length; // without caps
+    bool hasCapAtBegin;
     int32_t begin;
     int32_t end;
     int32_t across;
@@ -82,27 +86,18 @@ inline bool Hairline::Trace::Take(int32_t x1, int32_t y1, int32_t x2, int32_t y2
     direction = steep ? (swapped ? Upward : Downward) : (swapped ? Leftward : Rightward);
     a1 = steep ? y1 : x1;
     a2 = steep ? y2 : x2;
-    const int32_t length = a2 - a1;
-    if (length == 0)
-        return false;
-    const int32_t c1 = steep ? x1 : y1;
-    const int32_t c2 = steep ? x2 : y2;
-    const int32_t rise = c2 - c1;
-    // A short division where it will do.
-    if (Magnitude(rise) <= 0x7fff)
-        step = rise * 65536 / length;
-    else
-        step = static_cast<int32_t>(int64_t(rise) * 65536 / length);
-    across = ShiftedLeft(c1, 10);
-    aligned = Magnitude(step) < (1 << 14);
-    return true;
+    c1 = steep ? x1 : y1;
+    rise = (steep ? x2 : y2) - c1;
+    length = a2 - a1;
+    hasCapAtBegin = false;
+    return length != 0;
 }
 
 inline void Hairline::Trace::AddCaps(unsigned caps)
 {
     if (caps & CapBegin) {
         a1 -= 32;
-        across = Difference(across, step >> 1);
+        hasCapAtBegin = true;
     }
     if (caps & CapEnd)
         a2 += 32;
@@ -112,8 +107,17 @@ inline bool Hairline::Trace::FindPixels()
 {
     begin = (a1 + 32) >> 6;
     end = (a2 + 32) >> 6;
+    if (begin == end)
+        return false;
+    // A short division where it will do.
+    if (Magnitude(rise) <= 0x7fff)
+        step = rise * 65536 / length;
+    else
+        step = static_cast<int32_t>(int64_t(rise) * 65536 / length);
+    aligned = Magnitude(step) < (1 << 14);
+    across = Difference(ShiftedLeft(c1, 10), hasCapAtBegin ? step >> 1 : 0);
     across = Sum(across, Product(ShiftedLeft(begin, 6) + 32 - a1, step) >> 6);
-    return begin != end;
+    return true;
 }
 
 void Hairline::Trace::DropFirst()
