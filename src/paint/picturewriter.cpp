@@ -41,17 +41,13 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
     const unsigned char* const eights = reinterpret_cast<const unsigned char*>(table);
     const Plane::Word* words = ink.Row(y);
     const int whole = width / Plane::wordBits;
-    for (int i = 0; i < whole;) {
-        int end = i;
-        while (end < whole && words[end] == 0)
-            ++end;
-        unsigned char* to = row + i * Plane::wordBits * bytesPerPixel;
-        if (end > i) {
-            std::memset(to, 0, static_cast<size_t>((end - i) * Plane::wordBits * bytesPerPixel));
-            i = end;
+    // One large clearing is quicker than many small ones.
+    std::memset(row, 0, static_cast<size_t>(width * bytesPerPixel));
+    for (int i = 0; i < whole; ++i) {
+        Plane::Word word = words[i];
+        if (word == 0)
             continue;
-        }
-        Plane::Word word = words[i++];
+        unsigned char* to = row + i * Plane::wordBits * bytesPerPixel;
         for (int k = 0; k < Plane::wordBits / pixelsAtOnce; ++k, to += atOnce, word >>= 8)
             std::memcpy(to, eights + (word & 255) * atOnce, atOnce);
     }
