@@ -21,6 +21,10 @@ const size_t mostShaped = 256;
 const uint32_t mostShapes = 1u << 30;
 const size_t mostImageBytes = 256 * 1024;
 
+// Once there is no more room, images stay as long as more than one lookup in so many finds one.
+const unsigned lookupsForHit = 16;
+const unsigned mostLookups = 1024; // that count
+
 // So far from the picture's borders no pixel of a glyph is cut, and no coordinate is less than 0.
 const float margin = 3;
 
@@ -129,6 +133,8 @@ GlyphCache::GlyphCache()
     : pictureWidth(0)
     , pictureHeight(0)
     , imageBytes(0)
+    , lookups(0)
+    , hits(0)
     , nextShape(0)
     , entered(0)
     , lookedFor()
@@ -156,6 +162,23 @@ void GlyphCache::ForgetImages()
     entered = 0;
     images.clear();
     imageBytes = 0;
+    lookups = 0;
+    hits = 0;
+}
+
+bool GlyphCache::IsFull() const
+{
+    return imageBytes > mostImageBytes;
+}
+
+void GlyphCache::Count(bool isFound)
+{
+    if (lookups >= mostLookups) {
+        lookups /= 2;
+        hits /= 2;
+    }
+    ++lookups;
+    hits += isFound ? 1 : 0;
 }
 
 void GlyphCache::Invert(const Image& image, Part part, int x, int y, Plane& plane)
@@ -263,7 +286,9 @@ GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
         finding.image = &images[static_cast<size_t>(entry.image)];
         finding.next = static_cast<Direction>(entry.next);
     }
-    finding.isWorthKeeping = entry.image == seenOnce;
+    Count(finding.image != 0);
+    finding.isWorthKeeping =
+        entry.image == seenOnce && !(IsFull() && hits * lookupsForHit > lookups);
     if (entry.image == neverSeen)
         entry.image = seenOnce;
     return finding;
@@ -272,7 +297,7 @@ GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
 const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hairlines,
                                           Direction next)
 {
-    if (imageBytes > mostImageBytes)
+    if (IsFull())
         ForgetImages();
     const Box ink = InkOf(inside, hairlines);
     Image image = {ink.left - wholeX, ink.top - wholeY, 0, 0, std::vector<Word>()};

@@ -90,6 +90,8 @@ private:
         Bounds box;
     };
 
+    bool IsFull() const;
+    void Count(bool isFound);
     void ForgetImages();
     const Bounds* FindShape(const TextPath::Item& item);
     void FindPlace(const TextPath::Item& item, const Bounds& box);
@@ -102,6 +104,8 @@ private:
     std::vector<Shaped> shaped;
     std::vector<Image> images;
     size_t imageBytes;
+    unsigned lookups; // of late
+    unsigned hits;
     uint32_t nextShape;
     size_t entered;
 
