@@ -142,15 +142,18 @@ void ComparePages(Bytes bytes)
             x[moved] += bytes.Next<int8_t>() / 8.0f;
         else if (what == 3)
             shape.rotate(float(bytes.Next<int8_t>()));
+        Transform zoom;
+        if (what == 7)
+            zoom.scale(bytes.Next<int8_t>() / 32.0f, bytes.Next<int8_t>() / 32.0f);
         TextPath page;
         for (int i = 0; i < 2; ++i)
             page.Add(glyphs[size_t(i)], i, shape, x[i], y[i]);
         for (int again = 0; again < 3; ++again) {
             canvas.Clear();
-            canvas.DrawText(page);
+            canvas.DrawText(page, zoom);
         }
         plain.Clear();
-        plain.DrawPath(page.Path());
+        plain.DrawPath(page.Path(), zoom);
         for (int at = 0; at < pageWidth * height; ++at)
             if (canvas.Ink().Has(at % pageWidth, at / pageWidth) !=
                 plain.Ink().Has(at % pageWidth, at / pageWidth))

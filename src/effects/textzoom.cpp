@@ -20,7 +20,7 @@ void animationRealization::EffectTextZoom()
             transform.scale(s, s);
             AddShapedGlyph(j, float(RestX(j) - centre), 0);
         }
-        canvas.DrawPath(textPath.Path(), zoom);
+        canvas.DrawText(textPath, zoom);
         ShowFrame();
     }
     Advance(moveOffset, stepSize);

@@ -18,20 +18,26 @@ bool IsPaintable(const Outline& path)
     return !path.IsEmpty() && path.IsWellFormed() && path.IsFinite();
 }
 
+/** How far from the origin points lie at most that lay so far from it before. */
+Point ReachThrough(const Transform& t, const Point& reach)
+{
+    const Point mapped = {
+        std::fabs(t.m11()) * reach.x + std::fabs(t.m21()) * reach.y + std::fabs(t.dx()),
+        std::fabs(t.m12()) * reach.x + std::fabs(t.m22()) * reach.y + std::fabs(t.dy())};
+    return mapped;
+}
+
 /** Whether the glyph, painted by itself, looks as it does in a path with others. */
-bool IsIndependent(const TextPath::Item& item)
+bool IsIndependent(const TextPath::Item& item, const Transform& painterTransform)
 {
     const Bounds& box = item.glyph->Box();
-    const Transform& t = item.shape;
-    const float x = std::max(std::fabs(box.left), std::fabs(box.right));
-    const float y = std::max(std::fabs(box.top), std::fabs(box.bottom));
-    return item.glyph->IsClosed() &&
-           std::fabs(t.m11()) * x + std::fabs(t.m21()) * y + std::fabs(t.dx()) +
-                   std::fabs(item.x) <=
-               nearEnough &&
-           std::fabs(t.m12()) * x + std::fabs(t.m22()) * y + std::fabs(t.dy()) +
-                   std::fabs(item.y) <=
-               nearEnough;
+    const Point own = {std::max(std::fabs(box.left), std::fabs(box.right)),
+                       std::max(std::fabs(box.top), std::fabs(box.bottom))};
+    Point reach = ReachThrough(item.shape, own);
+    reach.x += std::fabs(item.x);
+    reach.y += std::fabs(item.y);
+    reach = ReachThrough(painterTransform, reach);
+    return item.glyph->IsClosed() && reach.x <= nearEnough && reach.y <= nearEnough;
 }
 
 } // namespace
@@ -91,10 +97,15 @@ void TextCanvas::ResetClip()
 
 void TextCanvas::DrawText(const TextPath& text)
 {
+    DrawText(text, Transform());
+}
+
+void TextCanvas::DrawText(const TextPath& text, const Transform& painterTransform)
+{
     if (picture.IsEmpty() || text.Size() == 0)
         return;
-    if (!isFirst || !(clip == picture) || !DrawOneByOne(text))
-        DrawPath(text.Path());
+    if (!isFirst || !(clip == picture) || !DrawOneByOne(text, painterTransform))
+        DrawPath(text.Path(), painterTransform);
     isFirst = false;
 }
 
@@ -104,7 +115,7 @@ void TextCanvas::DrawGlyph(const TextPath::Item& item)
     if (outline.IsEmpty())
         return;
     const bool isWinding = outline.fillRule == Outline::Winding;
-    if (!picture.IsEmpty() && clip == picture && IsIndependent(item)) {
+    if (!picture.IsEmpty() && clip == picture && IsIndependent(item, Transform())) {
         GlyphCache::Finding found = cache.Find(item, isWinding, Rightward);
         if (found.isWorthKeeping)
             found.image = &PaintToKeep(item, isWinding, found.next);
@@ -143,17 +154,20 @@ void TextCanvas::DrawPlain(const Outline& path, const Transform& transform)
  * Paints the frame's first path, glyph by glyph: their insides invert each other. False and no ink
  * where it has to be painted as a whole.
  */
-bool TextCanvas::DrawOneByOne(const TextPath& text)
+bool TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTransform)
 {
+    const bool isMapped = !painterTransform.IsIdentity();
     Direction direction = Rightward;
     for (size_t i = 0; i < text.Size(); ++i) {
         const TextPath::Item& item = text.At(i);
-        if (!IsIndependent(item)) {
+        if (!IsIndependent(item, painterTransform)) {
             fill.InvertInside(inside);
             Clear();
             return false;
         }
-        GlyphCache::Finding found = cache.Find(item, false, direction);
+        GlyphCache::Finding found = {0, false, 0, 0, direction};
+        if (!isMapped)
+            found = cache.Find(item, false, direction);
         if (found.isWorthKeeping)
             found.image = &PaintToKeep(item, false, found.next);
         if (found.image) {
@@ -165,20 +179,34 @@ bool TextCanvas::DrawOneByOne(const TextPath& text)
         const Outline& outline = item.glyph->Shape();
         points.resize(outline.Size());
         item.shape.map(outline, &points[0], item.x, item.y);
+        if (isMapped)
+            painterTransform.map(&points[0], points.size());
+        const Bounds box(&points[0], points.size());
+        if (IsOutside(box))
+            continue;
         if (!isHollow)
             fill.Add(outline, &points[0]);
-        PaintHairline(outline, ink, direction);
+        PaintHairline(outline, box, ink, direction);
     }
     fill.InvertInside(inside);
     return true;
 }
 
+/** Whether a closed outline within @p box leaves no trace, not even a direction. */
+bool TextCanvas::IsOutside(const Bounds& box) const
+{
+    // Lines are clipped a pixel further out.
+    return box.left > float(picture.right + 1) || box.right < float(picture.left - 1) ||
+           box.top > float(picture.bottom + 1) || box.bottom < float(picture.top - 1);
+}
+
 /** Of the glyph whose points are there. */
-void TextCanvas::PaintHairline(const Outline& outline, Plane& plane, Direction& direction)
+void TextCanvas::PaintHairline(const Outline& outline, const Bounds& box, Plane& plane,
+                               Direction& direction)
 {
     hairline.Begin(picture, plane);
     hairline.SetDirection(direction);
-    hairline.Draw(outline, &points[0], Bounds(&points[0], points.size()));
+    hairline.Draw(outline, &points[0], box);
     direction = hairline.LastDirection();
 }
 
@@ -197,7 +225,7 @@ const GlyphCache::Image& TextCanvas::PaintToKeep(const TextPath::Item& item, boo
         fill.Add(outline, &points[0]);
         fill.InvertInside(keptInside);
     }
-    PaintHairline(outline, keptHairlines, direction);
+    PaintHairline(outline, Bounds(&points[0], points.size()), keptHairlines, direction);
     const GlyphCache::Image& image = cache.Keep(keptInside, keptHairlines, direction);
     keptInside.Clear();
     keptHairlines.Clear();

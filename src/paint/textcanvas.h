@@ -50,11 +50,12 @@ public:
 
     /** Fill, then outline, as one path. Not finite or not well formed: paints nothing. */
     void DrawText(const TextPath& text);
+    /** The same under a painter's transform: points are mapped, the pen stays a hairline. */
+    void DrawText(const TextPath& text, const Transform& painterTransform);
     /** A path of one glyph, filled by its own rule. */
     void DrawGlyph(const TextPath::Item& item);
     /** Fill by the outline's rule, then outline. */
     void DrawPath(const Outline& path);
-    /** The same under a painter's transform: points are mapped, the pen stays a hairline. */
     void DrawPath(const Outline& path, const Transform& painterTransform);
 
     /**
@@ -71,10 +72,12 @@ public:
 
 private:
     void DrawPlain(const Outline& path, const Transform& transform);
-    bool DrawOneByOne(const TextPath& text);
+    bool DrawOneByOne(const TextPath& text, const Transform& painterTransform);
     const GlyphCache::Image& PaintToKeep(const TextPath::Item& item, bool isWinding,
                                          Direction& direction);
-    void PaintHairline(const Outline& outline, Plane& plane, Direction& direction);
+    bool IsOutside(const Bounds& box) const;
+    void PaintHairline(const Outline& outline, const Bounds& box, Plane& plane,
+                       Direction& direction);
 
     int pictureWidth; // as told; what is painted may be less
     int pictureHeight;

@@ -233,6 +233,12 @@ void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
     }
 }
 
+void Transform::map(Point* points, size_t count) const
+{
+    for (size_t i = 0; i < count; ++i)
+        map(points[i].x, points[i].y);
+}
+
 Outline Transform::map(const Outline& outline) const
 {
     Outline mapped(outline);

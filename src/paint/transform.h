@@ -25,6 +25,7 @@ public:
 
     /** In place. */
     void map(float& x, float& y) const;
+    void map(Point* points, size_t count) const;
     /** As many points as the outline has elements, each moved by (@p dx, @p dy) thereafter. */
     void map(const Outline& outline, Point* to, float dx = 0, float dy = 0) const;
     Outline map(const Outline& outline) const;

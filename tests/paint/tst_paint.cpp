@@ -212,12 +212,13 @@ struct Pages
     }
 
     /** Empty when equal. */
-    QString Compare(const TextPath& page, const TextPath::Item* alone)
+    QString Compare(const TextPath& page, const TextPath::Item* alone,
+                    const Transform& painterTransform = Transform())
     {
         canvas.Clear();
         plain.Clear();
-        canvas.DrawText(page);
-        plain.DrawPath(page.Path());
+        canvas.DrawText(page, painterTransform);
+        plain.DrawPath(page.Path(), painterTransform);
         if (alone) {
             canvas.DrawGlyph(*alone);
             plain.DrawPath(alone->shape.map(alone->glyph->Shape()).Translated(alone->x, alone->y));
@@ -230,8 +231,8 @@ struct Pages
     }
 };
 
-// In steps of fractions and of whole pixels, standing, turning, hollow. The samples' coordinates
-// are of all kinds; some are open, far out, or end with a move.
+// In steps of fractions and of whole pixels, standing, turning, hollow, zoomed, outside at each
+// side. The samples' coordinates are of all kinds; some are open, far out, or end with a move.
 void PaintTest::glyphsArePaintedAsTheirPath()
 {
     const QVector<Sample> samples = Samples();
@@ -250,15 +251,20 @@ void PaintTest::glyphsArePaintedAsTheirPath()
                     shape.rotate(float(x + frame / 2));
                 else if (i % 4 == 2)
                     shape.scale(1.25f, 0.75f);
+                Transform zoom;
+                if (i % 6 == 3) {
+                    zoom.translate(float(150 - x), 9);
+                    zoom.scale(0.4f, frame % 2 ? 0.4f : -1.3f);
+                }
                 const float dx = i % 5 == 2 ? 0.3f : float(frame % 2);
                 // Now and then so far apart that they are cut as a whole.
                 const float apart = i % 30 == 27 && frame == 2 ? 20000.f : 31.f;
                 TextPath page;
                 for (size_t k = 0; k < pages.glyphs.size(); ++k)
                     page.Add(pages.glyphs[k], int(k), shape, float(x) + dx + apart * (float(k) - 1),
-                             float(i % 7 * 3));
+                             float(i % 7 * 30 - 90));
                 const QString difference =
-                    pages.Compare(page, &page.At(size_t(frame) % page.Size()));
+                    pages.Compare(page, &page.At(size_t(frame) % page.Size()), zoom);
                 QVERIFY2(difference.isEmpty(), qPrintable(samples[i].name + difference));
             }
     }
