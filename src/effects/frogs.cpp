@@ -67,7 +67,7 @@ void animationRealization::DrawFrog(int frame)
 template <typename DrawCharacter>
 void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
 {
-    if (Attribute(node, "CheckDazzle") == 1)
+    if (DazzleIsOn(node))
         DrawDazzleBackground();
     const int frame = qBound(0, moveOffset, framesPerCharacter - 1);
     if (BeginFrame()) {

@@ -272,7 +272,7 @@ void animationRealization::StartBackgrounds()
 void animationRealization::StartDazzle()
 {
     // The frog effects draw the dazzle background themselves, with their frames.
-    if (Attribute(node, "CheckDazzle") == 1 && !PlaysFrogs(effectType, animationEffect))
+    if (DazzleIsOn(node) && !PlaysFrogs(effectType, animationEffect))
         dazzleTimer.start(tickInterval);
 }
 

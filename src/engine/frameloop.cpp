@@ -172,7 +172,7 @@ void animationRealization::UpdateStayImage()
         }
         SwapLayer();
     }
-    if (Attribute(node, "CheckDazzle") == 1 && PlaysFrogs(effectType, animationEffect))
+    if (DazzleIsOn(node) && PlaysFrogs(effectType, animationEffect))
         DrawDazzleBackground();
     ++frameCount;
 }
@@ -198,7 +198,7 @@ void animationRealization::AddHeldPage()
 
 void animationRealization::UpdateDazzleBackground()
 {
-    if (Attribute(node, "CheckDazzle") != 1)
+    if (!DazzleIsOn(node))
         return;
     if (PlaysFrogs(effectType, animationEffect)) {
         dazzleTimer.stop();

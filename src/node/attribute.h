@@ -12,6 +12,18 @@ inline int Attribute(const HData* node, const char* key)
     return node ? node->GetAttributeToInt(QString::fromLatin1(key)) : 0;
 }
 
+/** Whether the dazzle background is on at this moment; hosts switch it in mid-play. */
+inline bool DazzleIsOn(const HData* node)
+{
+    return Attribute(node, "CheckDazzle") == 1;
+}
+
+/** Whether neon is on at this moment. */
+inline bool NeonIsOn(const HData* node)
+{
+    return Attribute(node, "CheckNeonBg") == 1;
+}
+
 } // namespace HNodeAnimationText
 } // namespace Lw
 

@@ -153,7 +153,7 @@ void HAnimationTextRender::ShowLine()
     StartInit(engine->drawImage);
     engine->SetPictureSession(Opaque(session), static_cast<int>(displayHandle), 0);
     engine->layerBytes = ByteCount(engine->drawImage);
-    if (Attribute(node, "CheckNeonBg") == 1) {
+    if (NeonIsOn(node)) {
         const QImage& neon = engine->neonBg->Image();
         const int layer = GetLayerNum(neon.size(), neon.bytesPerLine());
         if (layer >= 0)
@@ -170,7 +170,7 @@ void HAnimationTextRender::ShowFrames()
         base.fill(0);
     StartInit(base);
 
-    if (Attribute(node, "CheckNeonBg") == 1) {
+    if (NeonIsOn(node)) {
         const QImage& text = engine->drawImage;
         const int layer = GetLayerNum(text.size(), text.bytesPerLine());
         if (layer >= 0) {
@@ -183,7 +183,7 @@ void HAnimationTextRender::ShowFrames()
         engine->layerBytes = ByteCount(base);
     }
     AppendDazzleLayer();
-    if (Attribute(node, "CheckDazzle") == 1)
+    if (DazzleIsOn(node))
         engine->DrawDazzleBackground();
     engine->PrepareImage();
 }
@@ -204,7 +204,7 @@ void HAnimationTextRender::GiveNeonLayer(int layer, qint64 layerBytes)
 
 void HAnimationTextRender::AppendDazzleLayer()
 {
-    if (Attribute(node, "CheckDazzle") != 1)
+    if (!DazzleIsOn(node))
         return;
     const QImage& dazzle = engine->stayImage;
     const int layer = GetLayerNum(dazzle.size(), dazzle.bytesPerLine());
