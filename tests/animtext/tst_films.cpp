@@ -1,4 +1,5 @@
 // Films that animtext render writes, and what is left when it cannot.
+#include "table.h"
 #include "testscene.h"
 
 #include <QCryptographicHash>
@@ -6,7 +7,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtEndian>
-#include <QtTest>
 
 using namespace AnimText;
 
@@ -58,12 +58,12 @@ private slots:
 
     void rendersThePicturesThemselves_data()
     {
-        QTest::addColumn<QString>("options");
-        QTest::newRow("clear.apng") << "--transparent";
-        QTest::newRow("same.apng") << "";
-        QTest::newRow("same.mp4") << "--lossless";
-        QTest::newRow("same.webm") << "--lossless";
-        QTest::newRow("motley.apng") << ""; // of more colours than a table of a PNG holds
+        const Table<QString> row("options");
+        row("clear.apng", "--transparent");
+        row("same.apng", "");
+        row("same.mp4", "--lossless");
+        row("same.webm", "--lossless");
+        row("motley.apng", ""); // of more colours than a table of a PNG holds
     }
 
     /** What loses nothing has to be what the folder has; and that, unless black is laid under it,

@@ -3,6 +3,7 @@
 #include "author/author.h"
 #include "author/placement.h"
 #include "author/wordpages.h"
+#include "table.h"
 #include "text/glyphdata.h"
 #include "text/pagedivision.h"
 
@@ -11,7 +12,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
-#include <QtTest>
 
 #include <numeric>
 
@@ -218,23 +218,20 @@ private slots:
 
     void line_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("pixels");
+        const Table<QString, int> row("text", "pixels");
         for (int pixels : {13, 31, 100}) {
-            const auto row = [pixels](const char* name, const QString& text) {
-                QTest::addRow("%s at %d", name, pixels) << text << pixels;
-            };
-            row("kerning", "AVATAR To. Ty");
-            row("ligatures", "fit flow");
-            row("accents", "Ångström e\u0301");
-            row("joined", arabic);
-            row("both directions", mixed);
-            row("from the right", "ابجد abc 123 هوز");
-            row("struck through", "H\u0337x\u0336o\u0338");
+            const QString at = QString(" at %1").arg(pixels);
+            row("kerning" + at, "AVATAR To. Ty", pixels);
+            row("ligatures" + at, "fit flow", pixels);
+            row("accents" + at, "Ångström e\u0301", pixels);
+            row("joined" + at, arabic, pixels);
+            row("both directions" + at, mixed, pixels);
+            row("from the right" + at, "ابجد abc 123 هوز", pixels);
+            row("struck through" + at, "H\u0337x\u0336o\u0338", pixels);
         }
         // Glyphs are asked for in short pieces; the pieces must not show.
         const QString part = "office fjord AVATAR " + mixed + " " + arabic;
-        QTest::newRow("long") << part.repeated(700 / part.size() + 1) << 20;
+        row("long", part.repeated(700 / part.size() + 1), 20);
     }
 
     // The line looks as the toolkit sets it, give or take the half pixel to a whole place, and
@@ -260,10 +257,7 @@ private slots:
 
     void pages_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("motion");
-        QTest::addColumn<Align>("align");
-        QTest::addColumn<int>("padding");
+        const Table<QString, int, Align, int> row("text", "motion", "align", "padding");
         const QPair<const char*, QString> texts[] = {
             {"Latin", "Abfahrt nach Zürich HB  um 14:05 von Gleis 7, Halt in Aarau"},
             {"hyphens", "Dampf-schiff-fahrts-gesell-schafts-kapitän"},
@@ -271,16 +265,12 @@ private slots:
             {"both", "Hello שלום עולם und ابجد هوز mehr Text שלום ab"}};
         for (const auto& [name, text] : texts) {
             for (int motion : {4, 1, 11, 24, 28}) {
-                const auto row = [&, name = name, text = text](const char* how, Align align,
-                                                               int padding) {
-                    QTest::addRow("%s %d %s %d", name, motion, how, padding)
-                        << text << motion << align << padding;
-                };
-                row("", Align::Natural, 0);
-                row("left", Align::Left, 7);
-                row("center", Align::Center, 0);
-                row("center", Align::Center, 30);
-                row("right", Align::Right, 5);
+                const QString all = QString("%1 %2 ").arg(name).arg(motion);
+                row(all, text, motion, Align::Natural, 0);
+                row(all + "left", text, motion, Align::Left, 7);
+                row(all + "center", text, motion, Align::Center, 0);
+                row(all + "center within 30", text, motion, Align::Center, 30);
+                row(all + "right", text, motion, Align::Right, 5);
             }
         }
     }
@@ -380,11 +370,7 @@ private slots:
     // A letter is 10 wide, a space 5; ( and ) enclose what is seen of a page of 40 pixels.
     void cutsAtWords_data()
     {
-        QTest::addColumn<QString>("forward");
-        QTest::addColumn<QString>("fromEnd");
-        const auto row = [](const char* text, const char* forward, const char* fromEnd) {
-            QTest::newRow(text) << QString(forward) << QString(fromEnd);
-        };
+        const Table<QString, QString> row("forward", "fromEnd");
         row("", "", "");
         row("ab cd", "(ab) (cd)", "(ab) (cd)");
         row("a b c", "(a b c)", "(a b c)");

@@ -1,10 +1,10 @@
+#include "table.h"
 #include "testfolder.h"
 
 #include "author/glyphfiles.h"
 #include "author/scenestore.h"
 
 #include <QPainterPath>
-#include <QtTest>
 
 #include <csignal>
 #include <sys/ptrace.h>
@@ -192,21 +192,15 @@ private slots:
 
     void whatCannotBeReadIsNotWritten_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("content"); // of the file before
-        QTest::addColumn<int>("width");          // of the display; 0 takes the last row's list
-        QTest::addColumn<QString>("complaint");
-        const auto row = [](const char* file, const char* content, int width,
-                            const char* complaint) {
-            QTest::addRow("%s %s %d", file, content, width)
-                << QString(file) << QByteArray(content) << width << QString(complaint);
-        };
-        row("film.gif", "", 100, "ends in .json");
-        row("film.gif", "GIF89a", 100, "ends in .json");
-        row("sign.json", "{", 100, "expected valid JSON");
-        row("sign.json", "{\"a\": 1}", 100, "unknown key");
-        row("sign.json", "", 16385, "$.display.width: expected");
-        row("sign.json", "", 0, "lists.TextWidth: found 3 rows");
+        // content: of the file before
+        // width: of the display; 0 takes the last row's list
+        const Table<QString, QByteArray, int, QString> row("file", "content", "width", "complaint");
+        row("another ending", "film.gif", "", 100, "ends in .json");
+        row("another kind of file", "film.gif", "GIF89a", 100, "ends in .json");
+        row("no JSON", "sign.json", "{", 100, "expected valid JSON");
+        row("no scene", "sign.json", "{\"a\": 1}", 100, "unknown key");
+        row("a display that is too wide", "sign.json", "", 16385, "$.display.width: expected");
+        row("a row short", "sign.json", "", 0, "lists.TextWidth: found 3 rows");
     }
 
     void whatCannotBeReadIsNotWritten()

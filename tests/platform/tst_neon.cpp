@@ -1,12 +1,11 @@
 // The neon animator: where it paints, when it moves, and what it looks like.
 
+#include "table.h"
 #include "testsession.h"
 
 #include "drawneonbg.h"
 #include "hneonnodebase.h"
 #include "hpluginmanager.h"
-
-#include <QtTest>
 
 #include <memory>
 
@@ -183,18 +182,14 @@ private slots:
 
     void films_data()
     {
-        QTest::addColumn<QByteArray>("film");
-        QTest::addColumn<QString>("shown");  // the colour at each tick of 66 ms
-        QTest::addColumn<QString>("reason"); // why nothing is shown, told once
-        const auto row = [](const char* name, const QByteArray& film, const char* shown,
-                            const char* reason = "") {
-            QTest::newRow(name) << film << QString(shown) << QString(reason);
-        };
-        row("each for its time", Gif({{'r', 10}, {'g', 20}}), "rrgggrrgggrggg");
-        row("faster than the ticks", Gif({{'r', 3}, {'g', 3}, {'b', 3}}), "rbgrb");
-        row("next to no delay is 100 ms", Gif({{'r', 1}, {'g', 0}}), "rrggr");
-        row("transparent hides the one before", Gif({{'r', 10}, {'-', 10}}), "rr--r");
-        row("a still picture stays", Gif({{'b', 1}}), "bbbbb");
+        // shown: the colour at each tick of 66 ms
+        // reason: why nothing is shown, told once
+        const Table<QByteArray, QString, QString> row("film", "shown", "reason");
+        row("each for its time", Gif({{'r', 10}, {'g', 20}}), "rrgggrrgggrggg", "");
+        row("faster than the ticks", Gif({{'r', 3}, {'g', 3}, {'b', 3}}), "rbgrb", "");
+        row("next to no delay is 100 ms", Gif({{'r', 1}, {'g', 0}}), "rrggr", "");
+        row("transparent hides the one before", Gif({{'r', 10}, {'-', 10}}), "rr--r", "");
+        row("a still picture stays", Gif({{'b', 1}}), "bbbbb", "");
         row("missing", QByteArray(), "---", "no such file");
         row("cut short", Gif({}).left(13), "---", "not a picture that can be read");
         row("9000 x 9000 pixels", Gif({{'r', 10}}, "28232823"), "---", "more than 64 megapixels");

@@ -1,10 +1,10 @@
 #include "player/virtualdispatcher.h"
+#include "table.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QPointer>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 #include <memory>
@@ -33,15 +33,13 @@ private slots:
     /** A word "NAME=INTERVAL" is a timer that fires once, "NAME*INTERVAL" one that goes on. */
     void firesInOrder_data()
     {
-        QTest::addColumn<QString>("started");
-        QTest::addColumn<int>("until");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("deadlines") << "c=30 a=10 b=20" << 30 << "a@10 b@20 c@30";
-        QTest::newRow("up to and including") << "a=10 b=11" << 10 << "a@10";
-        QTest::newRow("ties as started") << "b=5 a=5 c=5" << 5 << "b@5 a@5 c@5";
-        QTest::newRow("ties of repeating timers") << "a*4 b*2" << 8 << "b@2 a@4 b@4 b@6 a@8 b@8";
-        QTest::newRow("ties of once and again") << "a*3 b=6" << 6 << "a@3 a@6 b@6";
-        QTest::newRow("zero lets time go on") << "a*0 b=2" << 3 << "a@0 a@1 a@2 b@2 a@3";
+        const Table<QString, int, QString> row("started", "until", "expected");
+        row("deadlines", "c=30 a=10 b=20", 30, "a@10 b@20 c@30");
+        row("up to and including", "a=10 b=11", 10, "a@10");
+        row("ties as started", "b=5 a=5 c=5", 5, "b@5 a@5 c@5");
+        row("ties of repeating timers", "a*4 b*2", 8, "b@2 a@4 b@4 b@6 a@8 b@8");
+        row("ties of once and again", "a*3 b=6", 6, "a@3 a@6 b@6");
+        row("zero lets time go on", "a*0 b=2", 3, "a@0 a@1 a@2 b@2 a@3");
     }
 
     void firesInOrder()
@@ -58,11 +56,7 @@ private slots:
 
     void slotsChangeTimers_data()
     {
-        QTest::addColumn<Action>("change");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char* name, const char* expected, const Action& change) {
-            QTest::newRow(name) << change << expected;
-        };
+        const Table<QString, Action> row("expected", "change");
         row("restarts itself", "a@10 b@10 b@20 a@20", [this] { timers["a"]->start(10); });
         row("stops itself", "a@10 b@10 b@20", [this] { timers["a"]->stop(); });
         row("stops one that is due", "a@10 a@20", [this] { timers["b"]->stop(); });

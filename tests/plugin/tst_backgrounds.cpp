@@ -1,6 +1,7 @@
 // What is behind the text: the dazzle colours, and the frogs that bring the characters.
 #include "enginefixture.h"
 #include "renderfixture.h"
+#include "table.h"
 
 #include <cmath>
 
@@ -124,18 +125,16 @@ private slots:
     void colorsTravel_data()
     {
         // Two places, and how many stops of the gradient they lie from its first one.
-        QTest::addColumn<int>("gradient"); // -1: none
-        QTest::addColumn<QPoint>("first");
-        QTest::addColumn<double>("atFirst");
-        QTest::addColumn<QPoint>("later");
-        QTest::addColumn<double>("atLater");
-        QTest::newRow("plain") << -1 << QPoint(0, 0) << 0.0 << QPoint(30, 0) << 0.0;
+        // gradient: -1: none
+        const Table<int, QPoint, double, QPoint, double> row("gradient", "first", "atFirst",
+                                                             "later", "atLater");
+        row("plain", -1, QPoint(0, 0), 0.0, QPoint(30, 0), 0.0);
         // 40 stops from the left edge to the right one, 60 pixels.
-        QTest::newRow("linear") << 0 << QPoint(0, 0) << 0.33 << QPoint(30, 0) << 20.33;
+        row("linear", 0, QPoint(0, 0), 0.33, QPoint(30, 0), 20.33);
         // 30 from the middle at (30, 20) to 30 pixels from it.
-        QTest::newRow("radial") << 1 << QPoint(30, 20) << 0.71 << QPoint(44, 20) << 14.51;
+        row("radial", 1, QPoint(30, 20), 0.71, QPoint(44, 20), 14.51);
         // 30 round the middle of the lower edge, from the right by the left.
-        QTest::newRow("conical") << 2 << QPoint(59, 40) << 0.08 << QPoint(30, 0) << 7.44;
+        row("conical", 2, QPoint(59, 40), 0.08, QPoint(30, 0), 7.44);
     }
 
     void colorsTravel()

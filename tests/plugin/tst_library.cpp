@@ -1,5 +1,6 @@
 // The library as a host sees it: what Qt's loader finds, what is exported, and the editor in it.
 #include "edit/animationtextedit.h"
+#include "table.h"
 
 #include <hneonnodebase.h>
 #include <icontentrender.h>
@@ -9,7 +10,6 @@
 #include <QMimeData>
 #include <QPluginLoader>
 #include <QTextBlock>
-#include <QtTest>
 
 #include <memory>
 
@@ -46,17 +46,12 @@ private slots:
 
     void itsCastsAnswer_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("answer");
-        QTest::newRow("itself") << "Lw::HNodeAnimationText::HNodeAnimationText"
-                                << "object";
-        QTest::newRow("a base") << "QObject"
-                                << "object";
-        QTest::newRow("the interface's name") << "INodePlugin"
-                                              << "interface";
-        QTest::newRow("the interface's identifier") << interfaceId << "interface";
-        QTest::newRow("another") << "HNodeAnimationText"
-                                 << "null";
+        const Table<QString, QString> row("name", "answer");
+        row("itself", "Lw::HNodeAnimationText::HNodeAnimationText", "object");
+        row("a base", "QObject", "object");
+        row("the interface's name", "INodePlugin", "interface");
+        row("the interface's identifier", interfaceId, "interface");
+        row("another", "HNodeAnimationText", "null");
     }
 
     void itsCastsAnswer()
@@ -148,21 +143,18 @@ private slots:
 
     void pastesArrivePlain_data()
     {
-        QTest::addColumn<QString>("html"); // beside the text
-        QTest::addColumn<QString>("text"); // null: no data at all
-        QTest::addColumn<QColor>("background");
+        // html: beside the text
+        // text: null: no data at all
+        const Table<QString, QString, QColor> row("html", "text", "background");
         const QString foreign = "<table><tr><td bgcolor=\"#ff0000\"><b style=\"font-family:Foreign;"
                                 "font-size:50pt;color:#00ff00\">rich</b></td></tr></table>";
-        QTest::newRow("text") << ""
-                              << "plain" << QColor();
-        QTest::newRow("text on a background") << ""
-                                              << "plain" << QColor(Qt::yellow);
-        QTest::newRow("rich text") << foreign << "plain" << QColor();
-        QTest::newRow("rich text on a background") << foreign << "plain" << QColor(Qt::yellow);
-        QTest::newRow("several lines") << ""
-                                       << "plain\ntext" << QColor();
-        QTest::newRow("only rich text") << foreign << "" << QColor();
-        QTest::newRow("no data") << "" << QString() << QColor();
+        row("text", "", "plain", QColor());
+        row("text on a background", "", "plain", QColor(Qt::yellow));
+        row("rich text", foreign, "plain", QColor());
+        row("rich text on a background", foreign, "plain", QColor(Qt::yellow));
+        row("several lines", "", "plain\ntext", QColor());
+        row("only rich text", foreign, "", QColor());
+        row("no data", "", QString(), QColor());
     }
 
     void pastesArrivePlain()

@@ -1,46 +1,37 @@
 // Widths, heights, fonts and colours; how texts are cut into pages is in tests/golden.
 #include "enginefixture.h"
+#include "table.h"
 
 class MetricsTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void numbers_data();
-    void numbers();
+    void rowsOfAnyKindAreAddedUp_data();
+    void rowsOfAnyKindAreAddedUp();
     void fontsAndColours();
     void theNodeIsItsTypes();
 };
 
-void MetricsTest::numbers_data()
+void MetricsTest::rowsOfAnyKindAreAddedUp_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("items");    // of both lists
-    QTest::addColumn<QVector<int>>("singles"); // of the indices 0, 1, ...
-    QTest::addColumn<QVector<int>>("running");
-    QTest::addColumn<QVector<int>>("sums"); // total width, largest width, height of the column
-    QTest::newRow("no lists") << "abc" << QStringList() << QVector<int>{0, 0}
-                              << QVector<int>{0, 0, 0} << QVector<int>{0, 0, 0};
-    QTest::newRow("whole") << "abc" << QStringList{"7", "9", "8"} << QVector<int>{7, 9, 8, 0}
-                           << QVector<int>{0, 7, 16, 0, 0} << QVector<int>{24, 9, 24};
-    QTest::newRow("more items than text")
-        << "a" << QStringList{"7", "9", "8"} << QVector<int>{7, 9, 8, 0}
-        << QVector<int>{0, 7, 16, 0} << QVector<int>{24, 9, 7};
-    QTest::newRow("fewer items than text")
-        << "abcd" << QStringList{"7", "9"} << QVector<int>{7, 9, 0} << QVector<int>{0, 7, 0, 0}
-        << QVector<int>{16, 9, 16};
-    QTest::newRow("no numbers") << "abcde" << QStringList{"x", "", "0x9", "4.5", " 8 "}
-                                << QVector<int>{0, 0, 0, 0, 8} << QVector<int>{0, 0, 0, 0, 0, 0}
-                                << QVector<int>{8, 8, 8};
-    QTest::newRow("below nought") << "ab" << QStringList{"-7", "-9"} << QVector<int>{-7, -9}
-                                  << QVector<int>{0, -7, 0} << QVector<int>{-16, 0, -16};
-    QTest::newRow("beyond 32 bits")
-        << "abc" << QStringList{"2147483647", "2", "1"} << QVector<int>{2147483647, 2, 1}
-        << QVector<int>{0, 2147483647, -2147483647}
-        << QVector<int>{-2147483646, 2147483647, -2147483646};
+    // items: of both lists
+    // singles: of the indices 0, 1, ...
+    // sums: total width, largest width, height of the column
+    const Table<QString, QStringList, QVector<int>, QVector<int>, QVector<int>> row(
+        "text", "items", "singles", "running", "sums");
+    row("no lists", "abc", {}, {0, 0}, {0, 0, 0}, {0, 0, 0});
+    row("whole", "abc", {"7", "9", "8"}, {7, 9, 8, 0}, {0, 7, 16, 0, 0}, {24, 9, 24});
+    row("more items than text", "a", {"7", "9", "8"}, {7, 9, 8, 0}, {0, 7, 16, 0}, {24, 9, 7});
+    row("fewer items than text", "abcd", {"7", "9"}, {7, 9, 0}, {0, 7, 0, 0}, {16, 9, 16});
+    row("no numbers", "abcde", {"x", "", "0x9", "4.5", " 8 "}, {0, 0, 0, 0, 8}, {0, 0, 0, 0, 0, 0},
+        {8, 8, 8});
+    row("below nought", "ab", {"-7", "-9"}, {-7, -9}, {0, -7, 0}, {-16, 0, -16});
+    row("beyond 32 bits", "abc", {"2147483647", "2", "1"}, {2147483647, 2, 1},
+        {0, 2147483647, -2147483647}, {-2147483646, 2147483647, -2147483646});
 }
 
-void MetricsTest::numbers()
+void MetricsTest::rowsOfAnyKindAreAddedUp()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, items);

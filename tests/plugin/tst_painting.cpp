@@ -1,5 +1,6 @@
 // What text is painted with, and the long lines that a painter cannot paint in one piece.
 #include "enginefixture.h"
+#include "table.h"
 
 #include <hpluginmanager.h>
 
@@ -97,11 +98,10 @@ private slots:
 
     void picturesAreLookedAtBeforeTheyAreDecoded_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("refused");
-        QTest::newRow("64 megapixels") << Bitmap("8000 8000") << false;
-        QTest::newRow("a row more") << Bitmap("8000 8001") << true;
-        QTest::newRow("no picture") << QByteArray("none") << true;
+        const Table<QByteArray, bool> row("content", "refused");
+        row("64 megapixels", Bitmap("8000 8000"), false);
+        row("a row more", Bitmap("8000 8001"), true);
+        row("no picture", QByteArray("none"), true);
     }
 
     void picturesAreLookedAtBeforeTheyAreDecoded()
@@ -143,11 +143,11 @@ private slots:
 
     void tailsBeginBeyondTheLimit_data()
     {
-        QTest::addColumn<int>("firstWidth");
-        QTest::addColumn<QString>("colours"); // of the characters: g is the text's green, w white
-        QTest::newRow("31,998") << 31998 << "gggw";
-        QTest::newRow("31,999") << 31999 << "ggww";
-        QTest::newRow("32,000") << 32000 << "gwww";
+        // colours: of the characters: g is the text's green, w white
+        const Table<int, QString> row("firstWidth", "colours");
+        row("31,998", 31998, "gggw");
+        row("31,999", 31999, "ggww");
+        row("32,000", 32000, "gwww");
     }
 
     // Each character has rows and a column of its own, so that none hides another.

@@ -1,5 +1,6 @@
 // Pictures and sessions for hosts that bring their own; plays are in tests/golden.
 #include "renderfixture.h"
+#include "table.h"
 
 class RendererTest : public QObject
 {
@@ -13,13 +14,12 @@ private slots:
 
 void RendererTest::picturesAreSwappedIn_data()
 {
-    QTest::addColumn<bool>("blend");
-    QTest::addColumn<int>("format");
-    QTest::newRow("alpha") << true << int(QImage::Format_ARGB32);
-    QTest::newRow("alpha from RGB32") << true << int(QImage::Format_RGB32);
-    QTest::newRow("key") << false << int(QImage::Format_RGB888);
-    QTest::newRow("key from RGB32") << false << int(QImage::Format_RGB32);
-    QTest::newRow("key from BGR888") << false << int(QImage::Format_BGR888);
+    const Table<bool, int> row("blend", "format");
+    row("alpha", true, int(QImage::Format_ARGB32));
+    row("alpha from RGB32", true, int(QImage::Format_RGB32));
+    row("key", false, int(QImage::Format_RGB888));
+    row("key from RGB32", false, int(QImage::Format_RGB32));
+    row("key from BGR888", false, int(QImage::Format_BGR888));
 }
 
 void RendererTest::picturesAreSwappedIn()

@@ -1,7 +1,8 @@
 // Rules of the project that no compiler knows: who includes whom, what Qt 4.8 does not have, and
 // the build that integrators use.
+#include "table.h"
+
 #include <QDirIterator>
-#include <QtTest>
 
 namespace {
 
@@ -71,37 +72,27 @@ class ProjectTest : public QObject
 private slots:
     void includesFollowTheRule_data()
     {
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("own");   // files of the project that may be included
-        QTest::addColumn<QString>("other"); // anything else that may be
+        // own: files of the project that may be included
+        // other: anything else that may be
+        const Table<QString, QString, QString> row("folder", "own", "other");
         const QString any = ".*";
         // The standard's headers and Qt's: no others are at hand where the plugin is built.
         const QString standardAndQt =
             "[a-z_]+|c?[a-z]+(\\.h)?|Q[A-Za-z0-9]+|Qt[A-Z][A-Za-z]+/[A-Za-z]+";
-        QTest::newRow("src") << "src"
-                             << "src/.*|platform/host/.*|platform/device/torvsdk\\.h"
-                             << standardAndQt;
+        row("src", "src", "src/.*|platform/host/.*|platform/device/torvsdk\\.h", standardAndQt);
         // Rooms of the plugin that know nothing of those above them.
         for (const char* room : {"paint", "text"})
-            QTest::newRow(room) << QString("src/%1").arg(room) << QString("src/%1/.*").arg(room)
-                                << standardAndQt;
-        QTest::newRow("device") << "src/device"
-                                << "src/device/.*|platform/device/torvsdk\\.h" << standardAndQt;
-        QTest::newRow("node") << "src/node"
-                              << "src/(device|node|text)/.*|platform/.*" << standardAndQt;
-        QTest::newRow("engine") << "src/engine"
-                                << "src/(device|engine|node|paint|text)/.*|platform/.*"
-                                << standardAndQt;
-        QTest::newRow("effects") << "src/effects"
-                                 << "src/(effects|engine|node|paint)/.*|platform/.*"
-                                 << standardAndQt;
-        QTest::newRow("platform") << "platform"
-                                  << "platform/.*" << any;
-        QTest::newRow("platform/device") << "platform/device"
-                                         << "platform/device/.*" << any;
-        QTest::newRow("tools") << "tools"
-                               << "(tools|platform)/.*|src/text/.*|src/edit/animationtextedit\\.h"
-                               << any;
+            row(room, QString("src/%1").arg(room), QString("src/%1/.*").arg(room), standardAndQt);
+        row("device", "src/device", "src/device/.*|platform/device/torvsdk\\.h", standardAndQt);
+        row("node", "src/node", "src/(device|node|text)/.*|platform/.*", standardAndQt);
+        row("engine", "src/engine", "src/(device|engine|node|paint|text)/.*|platform/.*",
+            standardAndQt);
+        row("effects", "src/effects", "src/(effects|engine|node|paint)/.*|platform/.*",
+            standardAndQt);
+        row("platform", "platform", "platform/.*", any);
+        row("platform/device", "platform/device", "platform/device/.*", any);
+        row("tools", "tools", "(tools|platform)/.*|src/text/.*|src/edit/animationtextedit\\.h",
+            any);
     }
 
     void includesFollowTheRule()
@@ -160,23 +151,23 @@ private slots:
 
     void nothingIsNewerThanQt4_data()
     {
-        QTest::addColumn<QString>("pattern");
-        QTest::newRow("literals") << "\\bQ(String|ByteArray)Literal\\b";
-        QTest::newRow("macros") << "\\bQ_(DECL_OVERRIDE|DECL_FINAL|NULLPTR|FALLTHROUGH|GADGET|ENUM|"
-                                   "NAMESPACE|REVISION)\\b";
-        QTest::newRow("functions") << "\\bq(Overload|ConstOverload|AsConst|Info|"
-                                      "InstallMessageHandler)\\b";
-        QTest::newRow("classes") << "\\bQ(SignalBlocker|CommandLineParser|Json[A-Z][a-z]+|"
-                                    "MimeDatabase|RegularExpression|StandardPaths|LoggingCategory|"
-                                    "MessageLogContext|Collator|TimeZone|SaveFile|TemporaryDir|"
-                                    "LockFile|StringView|RandomGenerator|Window|Screen|"
-                                    "GuiApplication|UrlQuery|VersionNumber|DeadlineTimer|"
-                                    "ScopeGuard)\\b";
-        QTest::newRow("connections to functions") << "connect\\s*\\([^;]*&\\s*[A-Za-z_]+\\s*::";
-        QTest::newRow("connections to lambdas") << "connect\\s*\\([^;{]*,\\s*\\[[^;]*\\]\\s*[({]";
-        QTest::newRow("headers") << "#include\\s*<QtWidgets|#include\\s*<QtConcurrent/";
-        QTest::newRow("members") << "\\bQt::SkipEmptyParts\\b|\\.(chopped|constKeyValueBegin|"
-                                    "keyValueBegin)\\(";
+        const Table<QString> row("pattern");
+        row("literals", "\\bQ(String|ByteArray)Literal\\b");
+        row("macros", "\\bQ_(DECL_OVERRIDE|DECL_FINAL|NULLPTR|FALLTHROUGH|GADGET|ENUM|"
+                      "NAMESPACE|REVISION)\\b");
+        row("functions", "\\bq(Overload|ConstOverload|AsConst|Info|"
+                         "InstallMessageHandler)\\b");
+        row("classes", "\\bQ(SignalBlocker|CommandLineParser|Json[A-Z][a-z]+|"
+                       "MimeDatabase|RegularExpression|StandardPaths|LoggingCategory|"
+                       "MessageLogContext|Collator|TimeZone|SaveFile|TemporaryDir|"
+                       "LockFile|StringView|RandomGenerator|Window|Screen|"
+                       "GuiApplication|UrlQuery|VersionNumber|DeadlineTimer|"
+                       "ScopeGuard)\\b");
+        row("connections to functions", "connect\\s*\\([^;]*&\\s*[A-Za-z_]+\\s*::");
+        row("connections to lambdas", "connect\\s*\\([^;{]*,\\s*\\[[^;]*\\]\\s*[({]");
+        row("headers", "#include\\s*<QtWidgets|#include\\s*<QtConcurrent/");
+        row("members", "\\bQt::SkipEmptyParts\\b|\\.(chopped|constKeyValueBegin|"
+                       "keyValueBegin)\\(");
     }
 
     void nothingIsNewerThanQt4()

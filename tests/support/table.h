@@ -1,0 +1,27 @@
+/**
+ * @file
+ * The table of a test that is run once for each row.
+ */
+#ifndef TESTS_TABLE_H
+#define TESTS_TABLE_H
+
+#include <QtTest>
+
+/** Makes columns of these types; called with a name and their values it adds a row. */
+template <typename... Values>
+class Table
+{
+public:
+    template <typename... Names>
+    explicit Table(Names... names)
+    {
+        (QTest::addColumn<Values>(names), ...);
+    }
+
+    void operator()(const QString& name, const Values&... values) const
+    {
+        (QTest::newRow(name.toUtf8().constData()) << ... << values);
+    }
+};
+
+#endif
