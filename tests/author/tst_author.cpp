@@ -167,12 +167,12 @@ Authored Author(const Wish& wish)
 
 } // namespace
 
-class tst_author : public QObject
+class TestAuthor : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void oneLine()
+    void breaksBecomeSpacesOrAreRefused()
     {
         // The line and the number of notes on it; 0 and nothing when it is refused.
         const auto line = [](const QString& text) {
@@ -195,7 +195,7 @@ private slots:
             QCOMPARE(line(refused), QString("0"));
     }
 
-    void clusters()
+    void clustersStandInTheirFirstUnit()
     {
         const QVector<QPair<QString, QVector<int>>> cases = {{"ab c", {0, 1, 2, 3}},
                                                              {"afix", {0, 1, 3}}, // a ligature
@@ -216,7 +216,7 @@ private slots:
         }
     }
 
-    void line_data()
+    void linesLookAsTheToolkitSetsThem_data()
     {
         const Table<QString, int> row("text", "pixels");
         for (int pixels : {13, 31, 100}) {
@@ -236,7 +236,7 @@ private slots:
 
     // The line looks as the toolkit sets it, give or take the half pixel to a whole place, and
     // nothing of it is lost where outlines overlap.
-    void line()
+    void linesLookAsTheToolkitSetsThem()
     {
         QFETCH(QString, text);
         QFETCH(int, pixels);
@@ -255,7 +255,7 @@ private slots:
         QVERIFY2(holes <= text.size(), qPrintable(QString::number(holes)));
     }
 
-    void pages_data()
+    void pagesEndWhereWordsEnd_data()
     {
         const Table<QString, int, Align, int> row("text", "motion", "align", "padding");
         const QPair<const char*, QString> texts[] = {
@@ -277,7 +277,7 @@ private slots:
 
     // Cut as the sign cuts them, pages end where words end, are as full as can be, and show at rest
     // what the toolkit makes of their words, in the right place.
-    void pages()
+    void pagesEndWhereWordsEnd()
     {
         QFETCH(QString, text);
         QFETCH(int, motion);
@@ -477,5 +477,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_author)
+QTEST_MAIN(TestAuthor)
 #include "tst_author.moc"

@@ -34,7 +34,7 @@ QByteArray Wrapped(const QByteArray& content)
 
 } // namespace
 
-class tst_glyphfiles : public QObject
+class TestGlyphFiles : public QObject
 {
     Q_OBJECT
 
@@ -63,5 +63,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_glyphfiles)
+QTEST_GUILESS_MAIN(TestGlyphFiles)
 #include "tst_glyphfiles.moc"

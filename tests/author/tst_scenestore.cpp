@@ -101,7 +101,7 @@ int End(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-class tst_scenestore : public QObject
+class TestSceneStore : public QObject
 {
     Q_OBJECT
 
@@ -358,5 +358,5 @@ private:
     QString error;
 };
 
-QTEST_GUILESS_MAIN(tst_scenestore)
+QTEST_GUILESS_MAIN(TestSceneStore)
 #include "tst_scenestore.moc"

@@ -58,7 +58,7 @@ QStringList Files()
 
 } // namespace
 
-class PlayTest : public QObject
+class TestPlay : public QObject
 {
     Q_OBJECT
 
@@ -123,7 +123,7 @@ int main(int argc, char** argv)
         Update();
         return 0;
     }
-    PlayTest test;
+    TestPlay test;
     return QTest::qExec(&test, argc, argv);
 }
 

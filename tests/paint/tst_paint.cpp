@@ -116,7 +116,7 @@ QString Difference(const QString& what, const QStringList& got, const QStringLis
 
 } // namespace
 
-class PaintTest : public QObject
+class TestPaint : public QObject
 {
     Q_OBJECT
 
@@ -133,7 +133,7 @@ private slots:
     void whatCannotBePaintedIsNot();
 };
 
-void PaintTest::outlinesAreTheDevices()
+void TestPaint::outlinesAreTheDevices()
 {
     const QString other = qEnvironmentVariable("ANIMATIONTEXT_OUTLINES");
     QMap<QString, QVector<int>> table;
@@ -158,7 +158,7 @@ void PaintTest::outlinesAreTheDevices()
     QVERIFY(!table.isEmpty());
 }
 
-void PaintTest::transformsAreTheDevices()
+void TestPaint::transformsAreTheDevices()
 {
     for (const QStringList& words : Words(PAINT_DATA "/transforms.txt")) {
         Transform t;
@@ -233,7 +233,7 @@ struct Pages
 
 // In steps of fractions and of whole pixels, standing, turning, hollow, zoomed, outside at each
 // side. The samples' coordinates are of all kinds; some are open, far out, or end with a move.
-void PaintTest::glyphsArePaintedAsTheirPath()
+void TestPaint::glyphsArePaintedAsTheirPath()
 {
     const QVector<Sample> samples = Samples();
     Pages pages(300, 61);
@@ -272,7 +272,7 @@ void PaintTest::glyphsArePaintedAsTheirPath()
 
 // Across powers of two and borders, both ways; with curves that were quadratic ones, so that thirds
 // are rounded differently at different places.
-void PaintTest::glyphsAreKeptWhereTheyAreTheSame()
+void TestPaint::glyphsAreKeptWhereTheyAreTheSame()
 {
     const int width = 1150, height = 160;
     for (const float size : {9.f, 14.4f, 31.f, 25.f, 45.f}) {
@@ -353,7 +353,7 @@ bool IsMovedExactly(const Point* p, const double (*exact)[2], double x, double y
            IsMovedExactly(halves + 3, e + 3, x, y, level - 1);
 }
 
-void PaintTest::exactPlacesRoundNothing()
+void TestPaint::exactPlacesRoundNothing()
 {
     unsigned random = 1;
     int isUseful = 0;
@@ -386,7 +386,7 @@ void PaintTest::exactPlacesRoundNothing()
     QVERIFY2(isUseful > 1000, qPrintable(QString::number(isUseful)));
 }
 
-void PaintTest::whatIsKeptIsBounded()
+void TestPaint::whatIsKeptIsBounded()
 {
     const QVector<Sample> samples = Samples();
     TextCanvas canvas;
@@ -403,7 +403,7 @@ void PaintTest::whatIsKeptIsBounded()
     QVERIFY2(most > 300000 && most < 500000, qPrintable(QString::number(most)));
 }
 
-void PaintTest::clipIsThePictureInside()
+void TestPaint::clipIsThePictureInside()
 {
     for (const Sample& sample : Samples()) {
         if (sample.family != "lines")
@@ -430,7 +430,7 @@ void PaintTest::clipIsThePictureInside()
     }
 }
 
-void PaintTest::transformOfThePainterMapsPoints()
+void TestPaint::transformOfThePainterMapsPoints()
 {
     Transform zoom;
     zoom.translate(20.25f, 10);
@@ -444,7 +444,7 @@ void PaintTest::transformOfThePainterMapsPoints()
     }
 }
 
-void PaintTest::picturesHoldTheInk()
+void TestPaint::picturesHoldTheInk()
 {
     TextCanvas canvas;
     const int height = 5;
@@ -479,7 +479,7 @@ void PaintTest::picturesHoldTheInk()
     }
 }
 
-void PaintTest::whatCannotBePaintedIsNot()
+void TestPaint::whatCannotBePaintedIsNot()
 {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const float infinite = std::numeric_limits<float>::infinity();
@@ -520,5 +520,5 @@ void PaintTest::whatCannotBePaintedIsNot()
     QCOMPARE(CanvasRows(10, 10, {broken}).count("."), 10);
 }
 
-QTEST_GUILESS_MAIN(PaintTest)
+QTEST_GUILESS_MAIN(TestPaint)
 #include "tst_paint.moc"

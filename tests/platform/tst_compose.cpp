@@ -24,12 +24,12 @@ QRect Painted(const QImage& image)
 
 } // namespace
 
-class tst_compose : public QObject
+class TestCompose : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void placement()
+    void areasClipTheirPictures()
     {
         for (const int type : {3, 5}) {
             const auto shown = [type](const QRect& area, QSize picture) {
@@ -46,7 +46,7 @@ private slots:
         }
     }
 
-    void stacking()
+    void blendsOrderTheLayers()
     {
         // The blends of layers 0, 1 and 2, and their order from the lowest to the highest.
         const QVector<QPair<QVector<int>, QVector<int>>> cases = {
@@ -72,7 +72,7 @@ private slots:
         }
     }
 
-    void blending()
+    void alphaMixesToTheByte()
     {
         const auto shown = [](QRgb lower, QRgb upper) {
             TestSession test(3, QSize(1, 1), lower);
@@ -87,7 +87,7 @@ private slots:
         QCOMPARE(shown(0x800000FF, 0x80FF0000), 0xC0AA0055u);
     }
 
-    void colourKey()
+    void keyAndBlackAreTransparent()
     {
         TestSession test(5, QSize(4, 1), 0xFF0000FF);
         test.Append();
@@ -121,7 +121,7 @@ private slots:
         FreePictureSession(upper);
     }
 
-    void scrolling()
+    void scrollsAreAFunctionOfTime()
     {
         std::mt19937_64 random(1);
         const auto upTo = [&random](qint64 limit) { return qint64(random() % quint64(limit)) + 1; };
@@ -150,7 +150,7 @@ private slots:
         Torv::SetClock(nullptr, nullptr);
     }
 
-    void effectDuration()
+    void durationsAreThoseOfAWayAtAPace()
     {
         QCOMPARE(GeteffectDuration(512, 64, 27, 3), 512 * 66 * 2);
         QCOMPARE(GeteffectDuration(100, 64, 26, 10), 942); // 100 / 7 * 66 = 942.86
@@ -160,5 +160,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_compose)
+QTEST_GUILESS_MAIN(TestCompose)
 #include "tst_compose.moc"

@@ -8,7 +8,7 @@ using namespace Lw;
 
 static const QList<QHash<QString, QString>> rows = {{{"text_width", "17"}}};
 
-class tst_host : public QObject
+class TestHost : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private slots:
         QVERIFY(!to.GetList("TextHeight"));
     }
 
-    void tree()
+    void childrenFollowTheirParents()
     {
         HNode program;
         auto* const page = new HNode(&program);
@@ -72,5 +72,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_host)
+QTEST_GUILESS_MAIN(TestHost)
 #include "tst_host.moc"

@@ -74,7 +74,7 @@ QByteArray Gif(const QVector<GifPicture>& pictures, const QByteArray& size = "01
 
 } // namespace
 
-class tst_neon : public QObject
+class TestNeon : public QObject
 {
     Q_OBJECT
 
@@ -86,7 +86,7 @@ private slots:
         QCOMPARE(Torv::Accounts().liveSessions, 0);
     }
 
-    void styles_data()
+    void stylesMoveShineAndDiffer_data()
     {
         QTest::addColumn<int>("style");
         for (int style = 1; style <= 28; ++style)
@@ -94,7 +94,7 @@ private slots:
     }
 
     /** Each is new, moves, shines and leaves room for text; both formats show the same light. */
-    void styles()
+    void stylesMoveShineAndDiffer()
     {
         QFETCH(int, style);
         const QSize size(121, 60); // rows of 24 bits need padding
@@ -148,7 +148,7 @@ private slots:
         QCOMPARE(stage.Tick(), play.last());
     }
 
-    void hostileAreas()
+    void areasOfAnySizeAreSafe()
     {
         for (const QSize size : {QSize(1, 1), QSize(1, 60), QSize(61, 2), QSize(2, 3)}) {
             for (const bool alpha : {true, false}) {
@@ -180,7 +180,7 @@ private slots:
         QCOMPARE(stage.test.Front(0), stage.test.image);
     }
 
-    void films_data()
+    void filmsKeepTheirTimes_data()
     {
         // shown: the colour at each tick of 66 ms
         // reason: why nothing is shown, told once
@@ -195,7 +195,7 @@ private slots:
         row("9000 x 9000 pixels", Gif({{'r', 10}}, "28232823"), "---", "more than 64 megapixels");
     }
 
-    void films()
+    void filmsKeepTheirTimes()
     {
         QFETCH(QByteArray, film);
         QFETCH(QString, shown);
@@ -219,5 +219,5 @@ private:
     QSet<QByteArray> plays;
 };
 
-QTEST_GUILESS_MAIN(tst_neon)
+QTEST_GUILESS_MAIN(TestNeon)
 #include "tst_neon.moc"

@@ -47,7 +47,7 @@ bool Succeeds(int operation, PicDisplay display, PicSession session, int layer =
 
 } // namespace
 
-class tst_sessions : public QObject
+class TestSessions : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private slots:
         QCOMPARE(Torv::Accounts().liveBytes, 0);
     }
 
-    void buffers()
+    void swapsShowWhatWasPainted()
     {
         for (const int type : {3, 5}) {
             TestSession test(type, QSize(5, 3)); // rows of 15 bytes need padding
@@ -139,7 +139,7 @@ private slots:
         QVERIFY(!IsGuarded(painted));
     }
 
-    void operations_data()
+    void wrongHandlesAndFaultsChangeNothing_data()
     {
         QTest::addColumn<int>("operation");
         for (int operation = 0; operation < Torv::OperationCount; ++operation)
@@ -148,7 +148,7 @@ private slots:
 
     /** Every wrong handle, display and layer goes into the one right counter; failures on demand
      * change nothing, but what is to be freed is gone. */
-    void operations()
+    void wrongHandlesAndFaultsChangeNothing()
     {
         QFETCH(int, operation);
         const bool frees = operation == Torv::OpFreePictureSession;
@@ -187,7 +187,7 @@ private slots:
         QCOMPARE(Torv::Accounts().injectedFaults, 1);
     }
 
-    void badArguments()
+    void badArgumentsAreCounted()
     {
         TestSession test;
         const struct
@@ -207,7 +207,7 @@ private slots:
         QCOMPARE(Torv::Accounts().badArgument, 9);
     }
 
-    void log()
+    void logTellsWhatWasAskedAndAnswered()
     {
         QList<Torv::CallRecord> log;
         TestSession test;
@@ -233,5 +233,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_sessions)
+QTEST_GUILESS_MAIN(TestSessions)
 #include "tst_sessions.moc"

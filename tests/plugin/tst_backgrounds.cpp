@@ -41,7 +41,7 @@ private:
 
 } // namespace
 
-class BackgroundsTest : public QObject
+class TestBackgrounds : public QObject
 {
     Q_OBJECT
 
@@ -310,5 +310,5 @@ private slots:
     }
 };
 
-TEST_MAIN_ON_VIRTUAL_TIME(BackgroundsTest)
+TEST_MAIN_ON_VIRTUAL_TIME(TestBackgrounds)
 #include "tst_backgrounds.moc"

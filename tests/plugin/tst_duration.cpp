@@ -20,7 +20,7 @@ QPair<int, int> Runs(EngineFixture& play)
 
 } // namespace
 
-class DurationTest : public QObject
+class TestDuration : public QObject
 {
     Q_OBJECT
 
@@ -79,5 +79,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(DurationTest)
+QTEST_MAIN(TestDuration)
 #include "tst_duration.moc"

@@ -27,7 +27,7 @@ const QString noDescents = ">>DescentVector File is not exist!!<< ";
 
 } // namespace
 
-class GlyphDataTest : public QObject
+class TestGlyphData : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ private:
     }
 };
 
-void GlyphDataTest::malformedOutlinesAreEmptyAndTold()
+void TestGlyphData::malformedOutlinesAreEmptyAndTold()
 {
     QFETCH(Glyphs::Sample, sample);
     RectangleText text = RectangleText::TwoPages();
@@ -75,7 +75,7 @@ void GlyphDataTest::malformedOutlinesAreEmptyAndTold()
     }
 }
 
-void GlyphDataTest::wrongCountsLeaveNoDescents()
+void TestGlyphData::wrongCountsLeaveNoDescents()
 {
     QFETCH(Glyphs::Sample, sample);
     RectangleText text = RectangleText::TwoPages();
@@ -87,7 +87,7 @@ void GlyphDataTest::wrongCountsLeaveNoDescents()
     QCOMPARE(look.entries, sample.read.size());
 }
 
-void GlyphDataTest::brokenFilesLeaveNothing()
+void TestGlyphData::brokenFilesLeaveNothing()
 {
     QFETCH(Glyphs::Sample, sample);
     RectangleText text = RectangleText::TwoPages();
@@ -100,7 +100,7 @@ void GlyphDataTest::brokenFilesLeaveNothing()
     QCOMPARE(AnimText::LookIntoDescentFile(text.File("descents")).fault, sample.fault);
 }
 
-void GlyphDataTest::absentAndOddFilesLeaveNothing_data()
+void TestGlyphData::absentAndOddFilesLeaveNothing_data()
 {
     QTest::addColumn<QString>("paths"); // how the file is; "" as it should be
     QTest::addColumn<QString>("descents");
@@ -133,7 +133,7 @@ void GlyphDataTest::absentAndOddFilesLeaveNothing_data()
             << row.paths << row.descents << row.outlineCount << row.descentCount << row.messages;
 }
 
-void GlyphDataTest::absentAndOddFilesLeaveNothing()
+void TestGlyphData::absentAndOddFilesLeaveNothing()
 {
     QFETCH(QString, paths);
     QFETCH(QString, descents);
@@ -171,7 +171,7 @@ void GlyphDataTest::absentAndOddFilesLeaveNothing()
     QTEST(text.node->GetDescentData().size(), "descentCount");
 }
 
-void GlyphDataTest::soundDataStaysAsItIs()
+void TestGlyphData::soundDataStaysAsItIs()
 {
     QVector<QPainterPath> outlines(3);
     outlines[0].addEllipse(QPointF(0.1, -0.2), 1e5, 3);
@@ -186,7 +186,7 @@ void GlyphDataTest::soundDataStaysAsItIs()
     QCOMPARE(Serialised(text.node->GetPainterPaths()), Serialised(outlines));
 }
 
-void GlyphDataTest::everyReadIsFresh()
+void TestGlyphData::everyReadIsFresh()
 {
     RectangleText text = RectangleText::TwoPages();
     const QVector<QPainterPath>& outlines = text.node->GetPainterPaths();
@@ -201,7 +201,7 @@ void GlyphDataTest::everyReadIsFresh()
     QCOMPARE(text.node->GetPainterPaths().size(), 0);
 }
 
-void GlyphDataTest::pageStartsAreWhereTheCutsAre()
+void TestGlyphData::pageStartsAreWhereTheCutsAre()
 {
     using namespace Lw::HNodeAnimationText;
     const struct
@@ -216,5 +216,5 @@ void GlyphDataTest::pageStartsAreWhereTheCutsAre()
     }
 }
 
-QTEST_MAIN(GlyphDataTest)
+QTEST_MAIN(TestGlyphData)
 #include "tst_glyphdata.moc"

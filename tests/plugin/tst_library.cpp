@@ -29,7 +29,7 @@ const char* const interfaceId = "Lw.interface.INodePlugin/1.0";
 
 } // namespace
 
-class LibraryTest : public QObject
+class TestLibrary : public QObject
 {
     Q_OBJECT
 
@@ -201,5 +201,5 @@ private:
     QPluginLoader loader{PLUGIN_FILE};
 };
 
-QTEST_MAIN(LibraryTest)
+QTEST_MAIN(TestLibrary)
 #include "tst_library.moc"

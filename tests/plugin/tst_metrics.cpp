@@ -2,18 +2,18 @@
 #include "enginefixture.h"
 #include "table.h"
 
-class MetricsTest : public QObject
+class TestMetrics : public QObject
 {
     Q_OBJECT
 
 private slots:
     void rowsOfAnyKindAreAddedUp_data();
     void rowsOfAnyKindAreAddedUp();
-    void fontsAndColours();
+    void fontsAndColorsHaveDefaults();
     void theNodeIsItsTypes();
 };
 
-void MetricsTest::rowsOfAnyKindAreAddedUp_data()
+void TestMetrics::rowsOfAnyKindAreAddedUp_data()
 {
     // items: of both lists
     // singles: of the indices 0, 1, ...
@@ -31,7 +31,7 @@ void MetricsTest::rowsOfAnyKindAreAddedUp_data()
         {0, 2147483647, -2147483647}, {-2147483646, 2147483647, -2147483646});
 }
 
-void MetricsTest::rowsOfAnyKindAreAddedUp()
+void TestMetrics::rowsOfAnyKindAreAddedUp()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, items);
@@ -59,7 +59,7 @@ void MetricsTest::rowsOfAnyKindAreAddedUp()
           "sums");
 }
 
-void MetricsTest::fontsAndColours()
+void TestMetrics::fontsAndColorsHaveDefaults()
 {
     HAnimationTextNode node;
     QCOMPARE(node.GetTextColor(0), QColor(255, 0, 0, 255));
@@ -85,7 +85,7 @@ void MetricsTest::fontsAndColours()
     QCOMPARE(node.GetTextFont(2), QFont());
 }
 
-void MetricsTest::theNodeIsItsTypes()
+void TestMetrics::theNodeIsItsTypes()
 {
     HAnimationTextNode node;
     QVERIFY(QDir(QCoreApplication::applicationDirPath() + "/outputpath/AnimationText").exists());
@@ -98,5 +98,5 @@ void MetricsTest::theNodeIsItsTypes()
     QCOMPARE(spy.size(), 1);
 }
 
-QTEST_MAIN(MetricsTest)
+QTEST_MAIN(TestMetrics)
 #include "tst_metrics.moc"

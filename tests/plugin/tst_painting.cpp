@@ -31,7 +31,7 @@ QByteArray Bitmap(const char* size)
 
 } // namespace
 
-class PaintingTest : public QObject
+class TestPainting : public QObject
 {
     Q_OBJECT
 
@@ -215,5 +215,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(PaintingTest)
+QTEST_MAIN(TestPainting)
 #include "tst_painting.moc"

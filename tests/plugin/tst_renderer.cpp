@@ -2,7 +2,7 @@
 #include "renderfixture.h"
 #include "table.h"
 
-class RendererTest : public QObject
+class TestRenderer : public QObject
 {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ private slots:
     void stillSessionsForOthers();
 };
 
-void RendererTest::picturesAreSwappedIn_data()
+void TestRenderer::picturesAreSwappedIn_data()
 {
     const Table<bool, int> row("blend", "format");
     row("alpha", true, int(QImage::Format_ARGB32));
@@ -22,7 +22,7 @@ void RendererTest::picturesAreSwappedIn_data()
     row("key from BGR888", false, int(QImage::Format_BGR888));
 }
 
-void RendererTest::picturesAreSwappedIn()
+void TestRenderer::picturesAreSwappedIn()
 {
     QFETCH(bool, blend);
     QFETCH(int, format);
@@ -47,7 +47,7 @@ void RendererTest::picturesAreSwappedIn()
     QVERIFY(!buffer);
 }
 
-void RendererTest::stillSessionsForOthers()
+void TestRenderer::stillSessionsForOthers()
 {
     RenderFixture play;
     play.Start({{"EffectType", 1}});
@@ -62,5 +62,5 @@ void RendererTest::stillSessionsForOthers()
     QVERIFY(!play.Probe().Engine().pictureSession());
 }
 
-TEST_MAIN_ON_VIRTUAL_TIME(RendererTest)
+TEST_MAIN_ON_VIRTUAL_TIME(TestRenderer)
 #include "tst_renderer.moc"

@@ -2,7 +2,7 @@
 #include <QProcess>
 #include <QtTest>
 
-class CompareTest : public QObject
+class TestCompare : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private:
     QString recorded;
 };
 
-QString CompareTest::Compare(const QStringList& words, int* status) const
+QString TestCompare::Compare(const QStringList& words, int* status) const
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -29,7 +29,7 @@ QString CompareTest::Compare(const QStringList& words, int* status) const
     return process.readAll();
 }
 
-void CompareTest::initTestCase()
+void TestCompare::initTestCase()
 {
     QVERIFY(QDir(folder.path()).mkdir("scenes"));
     QCOMPARE(
@@ -45,7 +45,7 @@ void CompareTest::initTestCase()
     QCOMPARE(recorded.count('\n'), 6);
 }
 
-void CompareTest::changesAreFound_data()
+void TestCompare::changesAreFound_data()
 {
     QTest::addColumn<QString>("was"); // a regular expression, replaced wherever it matches
     QTest::addColumn<QString>("is");
@@ -69,7 +69,7 @@ void CompareTest::changesAreFound_data()
                               << "Rot" << 2 << "Rot 1.json is missing";
 }
 
-void CompareTest::changesAreFound()
+void TestCompare::changesAreFound()
 {
     QFETCH(QString, was);
     QFETCH(QString, is);
@@ -85,5 +85,5 @@ void CompareTest::changesAreFound()
     QVERIFY2(wanted.match(output).hasMatch(), qPrintable(output));
 }
 
-QTEST_GUILESS_MAIN(CompareTest)
+QTEST_GUILESS_MAIN(TestCompare)
 #include "tst_compare.moc"

@@ -65,7 +65,7 @@ QString Included(const QString& from, const QString& name)
 
 } // namespace
 
-class ProjectTest : public QObject
+class TestProject : public QObject
 {
     Q_OBJECT
 
@@ -235,5 +235,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ProjectTest)
+QTEST_GUILESS_MAIN(TestProject)
 #include "tst_project.moc"

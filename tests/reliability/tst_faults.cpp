@@ -41,8 +41,8 @@ class TestFaults : public QObject
 
 private slots:
     void initTestCase() { TestSign::KeepComplaints(); }
-    void EachCallFailsOnce_data();
-    void EachCallFailsOnce();
+    void eachCallMayFailOnce_data();
+    void eachCallMayFailOnce();
 
 private:
     /** A renderer's first play, with a fault, and its second one. */
@@ -76,7 +76,7 @@ QVector<Play> TestFaults::PlayTwice(const AnimText::SceneNode& scene, Torv::Oper
     return plays;
 }
 
-void TestFaults::EachCallFailsOnce_data()
+void TestFaults::eachCallMayFailOnce_data()
 {
     QTest::addColumn<int>("motion");
     QTest::addColumn<int>("background");
@@ -86,7 +86,7 @@ void TestFaults::EachCallFailsOnce_data()
     }
 }
 
-void TestFaults::EachCallFailsOnce()
+void TestFaults::eachCallMayFailOnce()
 {
     QFETCH(int, motion);
     QFETCH(int, background);

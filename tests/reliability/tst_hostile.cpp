@@ -78,14 +78,14 @@ class TestHostile : public QObject
 
 private slots:
     void initTestCase() { TestSign::KeepComplaints(); }
-    void PlaysOn_data();
-    void PlaysOn();
+    void playsOn_data();
+    void playsOn();
 
 private:
     QTemporaryDir folder;
 };
 
-void TestHostile::PlaysOn_data()
+void TestHostile::playsOn_data()
 {
     QTest::addColumn<HostileScene>("scene");
     int number = 0;
@@ -94,7 +94,7 @@ void TestHostile::PlaysOn_data()
     QVERIFY(number >= 500);
 }
 
-void TestHostile::PlaysOn()
+void TestHostile::playsOn()
 {
     QFETCH(HostileScene, scene);
     qputenv("ANIMATIONTEXT_PICTURES", QFile::encodeName(scene.frogs));

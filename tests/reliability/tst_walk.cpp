@@ -55,8 +55,8 @@ class TestWalk : public QObject
 
 private slots:
     void initTestCase();
-    void AnyOrderOfCalls_data();
-    void AnyOrderOfCalls();
+    void anyOrderOfCallsIsSafe_data();
+    void anyOrderOfCallsIsSafe();
 
 private:
     int Below(int bound) { return int(random() % unsigned(bound)); }
@@ -176,7 +176,7 @@ void TestWalk::Step()
         place.node->Delete(); // with the next tick
 }
 
-void TestWalk::AnyOrderOfCalls_data()
+void TestWalk::anyOrderOfCallsIsSafe_data()
 {
     QTest::addColumn<int>("seed");
     // 10,000 steps; more with, say, ANIMATIONTEXT_WALK_STEPS=1000000.
@@ -187,7 +187,7 @@ void TestWalk::AnyOrderOfCalls_data()
         QTest::addRow("seed %d", seed) << seed;
 }
 
-void TestWalk::AnyOrderOfCalls()
+void TestWalk::anyOrderOfCallsIsSafe()
 {
     QFETCH(int, seed);
     random.seed(unsigned(seed));
