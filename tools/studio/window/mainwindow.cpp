@@ -47,6 +47,8 @@ MainWindow::~MainWindow()
     // What the parts would tell while they go has nobody to hear it.
     document.disconnect(this);
     rehearsal.disconnect(this);
+    for (QObject* part : findChildren<QObject*>())
+        part->disconnect(this);
 }
 
 void MainWindow::MakeCentre()

@@ -1,0 +1,127 @@
+// What the studio's window takes: from a change to the picture, an event, and the start.
+#include "studio/window/mainwindow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace AnimText;
+
+namespace {
+
+/** The longest that one event has kept the window, in milliseconds. */
+class TimedApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        if (depth++ > 0 || receiver->thread() != thread()) {
+            const bool answer = QApplication::notify(receiver, event);
+            --depth;
+            return answer;
+        }
+        const int type = event->type();
+        const char* name = receiver->metaObject()->className();
+        QElapsedTimer clock;
+        clock.start();
+        const bool answer = QApplication::notify(receiver, event);
+        const double took = double(clock.nsecsElapsed()) / 1e6;
+        --depth;
+        took_.push_back(took);
+        if (took > longest) {
+            longest = took;
+            what = QStringLiteral("%1, event %2").arg(QLatin1String(name)).arg(type);
+        }
+        return answer;
+    }
+    void Reset()
+    {
+        longest = 0;
+        took_.clear();
+    }
+    double Share(double part)
+    {
+        std::sort(took_.begin(), took_.end());
+        return took_.empty() ? 0 : took_[size_t(double(took_.size() - 1) * part)];
+    }
+
+    double longest = 0;
+    QString what;
+    std::vector<double> took_;
+
+private:
+    int depth = 0;
+};
+
+template <typename Condition>
+double WaitFor(const Condition& isTrue)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!isTrue() && clock.elapsed() < 60000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return double(clock.nsecsElapsed()) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QElapsedTimer start;
+    start.start();
+    TimedApplication application(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName(QStringLiteral("animtext-studio-bench"));
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    WorkerLink::SetProgram(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/animtext-studio"));
+    MainWindow window((QString()));
+    window.New();
+    window.show();
+    Document* document = window.GetDocument();
+    Rehearsal* rehearsal = window.GetRehearsal();
+    const auto shown = [&] { return document->Current().IsLaidOut() && rehearsal->IsCurrent(); };
+    const auto settled = [&] { return shown() && rehearsal->IsMeasured(); };
+    WaitFor([&] { return window.isVisible() && shown(); });
+    std::printf("start to the first picture      %7.1f ms\n", double(start.nsecsElapsed()) / 1e6);
+
+    const QString forty = QStringLiteral("Mind the gap between train and platform.");
+    std::vector<double> latencies;
+    WaitFor(settled);
+    application.Reset();
+    for (int i = 0; i < 40; ++i) {
+        Sign sign = document->Current();
+        sign.texts.first().source.text.text =
+            forty.left(39) + QChar(QLatin1Char('a').unicode() + i % 26);
+        sign.texts.first().node.attributes[QStringLiteral("AnimationEffect")] = i % 30;
+        window.GetPlayback()->Seek(20);
+        document->Change(QStringLiteral("Text"), sign);
+        latencies.push_back(WaitFor(shown));
+        WaitFor(settled);
+    }
+    std::sort(latencies.begin(), latencies.end());
+    std::printf("change to picture, 40 letters at %d x %d, tick %d\n"
+                "                    median      %7.1f ms\n"
+                "                    longest     %7.1f ms\n",
+                document->Current().display.width(), document->Current().display.height(),
+                window.GetPlayback()->Tick(), latencies[latencies.size() / 2], latencies.back());
+    std::printf("an event of the window, 99.9 %%  %7.1f ms\n", application.Share(0.999));
+    std::printf("                    longest     %7.1f ms (%s)\n", application.longest,
+                qPrintable(application.what));
+    application.Reset();
+    window.GetPlayback()->SetPace(1);
+    QElapsedTimer playing;
+    playing.start();
+    WaitFor([&] { return playing.elapsed() > 5000; });
+    std::printf("playing for 5 s, longest event  %7.1f ms (%s)\n", application.longest,
+                qPrintable(application.what));
+    return 0;
+}
