@@ -234,12 +234,8 @@ void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()
     window->findChild<QDockWidget*>("integrator")->show();
     IntegratorView* view = window->Integrator();
     QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("CreatePictureSession"), 10000);
-    window->GetPlayback()->Seek(40);
     QVERIFY(Settles());
-    const QImage sound = window->Display()->Picture();
     view->AddFault(Torv::OpCreatePictureSession, 1);
-    QTRY_VERIFY_WITH_TIMEOUT(window->Display()->Picture() != sound, 10000);
-    window->GetPlayback()->Seek(0);
     QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("fault"), 10000);
     // A library against itself differs only by the fault that one of them has not got.
     view->SetLibrary(ANIMTEXT_PROGRAMS "/../lib/libanimationtext.so");
