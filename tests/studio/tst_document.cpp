@@ -10,6 +10,8 @@
 
 using namespace AnimText;
 
+constexpr int patience = 240000; // milliseconds; a machine may be busy with other things
+
 class TestDocument : public QObject
 {
     Q_OBJECT
@@ -31,7 +33,7 @@ private:
     {
         QSignalSpy ended(document, &Document::SaveEnded);
         document->Save(path);
-        return ended.wait() && ended.first().at(0).toBool();
+        return ended.wait(patience) && ended.first().at(0).toBool();
     }
 
 private slots:
@@ -63,7 +65,7 @@ void TestDocument::mergesWhatIsDoneInOneGo()
     QCOMPARE(back, (QStringList{"abcde", "abcd", "abc", before}));
     document.Undo()->redo();
     QCOMPARE(TextOf(document), QString("abc"));
-    QTRY_VERIFY(document.Current().IsLaidOut());
+    QTRY_VERIFY_WITH_TIMEOUT(document.Current().IsLaidOut(), patience);
     QCOMPARE(document.Current().texts.first().layout->text, QString("abc"));
 }
 
@@ -122,12 +124,12 @@ void TestDocument::savesOnlyWhatStandsStillAsSaved()
     Document document;
     document.New();
     document.Change("Text", Written(document, "one"), "text 1");
-    QTRY_VERIFY(document.Current().IsLaidOut());
+    QTRY_VERIFY_WITH_TIMEOUT(document.Current().IsLaidOut(), patience);
     QSignalSpy ended(&document, &Document::SaveEnded);
     document.Save(folder.Path("still.json"));
     QVERIFY(document.IsSaving());
     document.Change("Text", Written(document, "two"), "text 1");
-    QVERIFY(ended.wait());
+    QVERIFY(ended.wait(patience));
     QVERIFY(document.IsModified());
     QVERIFY(folder.Read("still.json").contains("\"Text\": \"one\""));
     QVERIFY(!Saves(&document, folder.Path("nowhere/still.json")));
@@ -143,12 +145,12 @@ void TestDocument::tellsOfChangesOnDisk()
     QVERIFY(Saves(&document, path));
     QSignalSpy changed(&document, &Document::DiskChanged);
     document.Change("Text", Written(document, "mine"));
-    QTRY_VERIFY(document.Current().IsLaidOut());
+    QTRY_VERIFY_WITH_TIMEOUT(document.Current().IsLaidOut(), patience);
     QCOMPARE(folder.Shell("animtext set disk.json 1 speed=2").status, 0);
     const QByteArray theirs = folder.Read("disk.json");
     QVERIFY(!Saves(&document, path)); // theirs is not lost without a word
     QCOMPARE(folder.Read("disk.json"), theirs);
-    QTRY_COMPARE(changed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.size(), 1, patience);
     document.KeepMine();
     QVERIFY(document.IsModified());
     QVERIFY(Saves(&document, path));
@@ -185,7 +187,7 @@ void TestDocument::killedWhileSavingLosesNothing()
         QProcess victim;
         victim.start(QCoreApplication::applicationFilePath(), {"--victim", path, copies});
         QByteArray said;
-        while (said.count('\n') < words && victim.waitForReadyRead(20000))
+        while (said.count('\n') < words && victim.waitForReadyRead(patience))
             said += victim.readAllStandardOutput();
         victim.kill();
         QVERIFY(victim.waitForFinished());
@@ -227,14 +229,14 @@ void TestDocument::copiesGoWhenTheyAreNotNeeded()
         QSignalSpy kept(&recovery, &Recovery::Kept);
         document.New();
         document.Change("Text", Written(document, "kept"));
-        QVERIFY(kept.wait());
+        QVERIFY(kept.wait(patience));
         QVERIFY(scenes());
         Document other;
         QVERIFY(Recovery(&other, copies).Find().isEmpty()); // its studio still runs
         QVERIFY(Saves(&document, folder.Path("kept.json")));
-        QTRY_VERIFY(!scenes());
+        QTRY_VERIFY_WITH_TIMEOUT(!scenes(), patience);
         document.Change("Text", Written(document, "again"));
-        QVERIFY(kept.wait());
+        QVERIFY(kept.wait(patience));
         QVERIFY(scenes());
     }
     QVERIFY(!scenes());

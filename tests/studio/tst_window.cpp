@@ -11,6 +11,8 @@
 
 using namespace AnimText;
 
+constexpr int patience = 240000; // milliseconds; a machine may be busy with other things
+
 /** The real window, driven by keys and the mouse. */
 class TestWindow : public QObject
 {
@@ -31,7 +33,7 @@ private:
                 return window->GetDocument()->Current().IsLaidOut() &&
                        window->GetRehearsal()->IsCurrent() && window->GetRehearsal()->IsMeasured();
             },
-            20000);
+            patience);
     }
     const SignText& Text(int index = 0) const
     {
@@ -131,14 +133,19 @@ void TestWindow::keysMoveInTime()
     press(Qt::Key_K);
     QVERIFY(!time->IsPlaying());
     // Playing goes round, and round the range where there is one.
-    time->Seek(last);
-    time->SetPace(1);
-    QTRY_VERIFY(time->Tick() < 5);
+    QVector<int> seen;
+    connect(time, &Playback::TickChanged, this, [&](int tick) { seen.append(tick); });
+    const auto plays = [&](int from, const QVector<int>& ticks) {
+        time->Seek(from);
+        seen.clear();
+        time->SetPace(1);
+        return QTest::qWaitFor([&] { return seen.size() >= ticks.size(); }, patience) &&
+               seen.mid(0, ticks.size()) == ticks;
+    };
+    QVERIFY(plays(last, {0, 1, 2}));
     time->SetLoop(4, 7);
-    time->Seek(7);
-    QTRY_COMPARE(time->Tick(), 4);
-    QTRY_COMPARE(time->Tick(), 7);
-    QTRY_COMPARE(time->Tick(), 4);
+    QVERIFY(plays(7, {4, 5, 6, 7, 4}));
+    time->disconnect(this);
 }
 
 void TestWindow::mouseMovesAndSizesAreas()
@@ -180,11 +187,11 @@ void TestWindow::findingsAreMended()
     text.node.attributes["Stroke"] = 1;
     window->GetDocument()->Change("Settings", sign);
     FindingsList* list = window->Findings();
-    QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, patience);
     for (int steps = 0; list->Count() > 0 && steps < 8; ++steps) {
         const int before = list->Count();
         list->Mend(0);
-        QTRY_VERIFY_WITH_TIMEOUT(list->Count() < before, 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(list->Count() < before, patience);
     }
     QCOMPARE(list->Count(), 0);
     QCOMPARE(Text().node.pos, QPoint(0, 0));
@@ -204,7 +211,7 @@ void TestWindow::exportsAndCancels()
         QSignalSpy done(&dialog, &ExportDialog::Done);
         dialog.SetOutput(folder.Path(name) + (QString(name).endsWith('/') ? "/" : ""));
         dialog.StartButton()->click();
-        QVERIFY(done.wait(60000));
+        QVERIFY(done.wait(patience));
         QVERIFY(done.first().first().toBool());
         // The command makes the same film.
         const QByteArray made =
@@ -222,7 +229,7 @@ void TestWindow::exportsAndCancels()
     dialog.StartButton()->click();
     QTRY_VERIFY(!dialog.StartButton()->isEnabled());
     dialog.CloseButton()->click();
-    QVERIFY(done.wait(60000));
+    QVERIFY(done.wait(patience));
     QVERIFY(!done.first().first().toBool());
     QVERIFY(folder.Everything().filter("never").isEmpty());
     dialog.SetOutput(folder.Path("nothing.txt"));
@@ -233,10 +240,10 @@ void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()
 {
     window->findChild<QDockWidget*>("integrator")->show();
     IntegratorView* view = window->Integrator();
-    QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("CreatePictureSession"), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("CreatePictureSession"), patience);
     QVERIFY(Settles());
     view->AddFault(Torv::OpCreatePictureSession, 1);
-    QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("fault"), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("fault"), patience);
     // A library against itself differs only by the fault that one of them has not got.
     view->SetLibrary(ANIMTEXT_PROGRAMS "/../lib/libanimationtext.so");
     window->GetPlayback()->Seek(40);
@@ -261,12 +268,12 @@ void TestWindow::holdsThreeHundredTexts()
             return window->GetRehearsal()->IsCurrent() &&
                    window->GetDocument()->Current().IsLaidOut();
         },
-        60000));
+        patience));
     window->Select(window->GetDocument()->Current().texts.at(299).id);
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Text 299"));
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("many.json"));
-    QVERIFY(ended.wait(60000));
+    QVERIFY(ended.wait(patience));
     QVERIFY(window->Open(folder.Path("many.json")));
     QCOMPARE(window->GetDocument()->Current().texts.size(), 300);
     QVERIFY(Settles());

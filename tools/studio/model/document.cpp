@@ -7,6 +7,11 @@
 #include <QUndoCommand>
 
 namespace AnimText {
+namespace {
+
+constexpr int tellingDelay = 50; // milliseconds from a layout until it is told of
+
+} // namespace
 
 /** From one state to the next; both share what they have in common. */
 class SignChange : public QUndoCommand
@@ -81,6 +86,9 @@ Document::Document(QObject* parent)
     connect(&undo, &QUndoStack::cleanChanged, this, &Document::StateChanged);
     connect(&watcher, &QFileSystemWatcher::fileChanged, this, &Document::LookAtDisk);
     connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &Document::LookAtDisk);
+    telling.setSingleShot(true);
+    telling.setInterval(tellingDelay);
+    connect(&telling, &QTimer::timeout, this, &Document::Changed);
     pool.setMaxThreadCount(1);
 }
 
@@ -118,6 +126,7 @@ void Document::Set(const Sign& next)
 void Document::Replace(const Sign& next, const QString& itsPath)
 {
     undo.clear();
+    opened = ++revision;
     path = itsPath;
     onDisk = DigestOfFile(path);
     told = onDisk;
@@ -177,8 +186,13 @@ void Document::TakeLayout(const std::shared_ptr<const Layout>& layout)
         text.layout = layout;
         taken = true;
     }
-    if (taken)
+    // Many that come one after another are told of together.
+    if (taken && sign.IsLaidOut()) {
+        telling.stop();
         emit Changed();
+    } else if (taken && !telling.isActive()) {
+        telling.start();
+    }
     if (!savePath.isEmpty() && sign.IsLaidOut())
         SaveNow();
 }
@@ -206,19 +220,17 @@ void Document::SaveNow()
         const QByteArray digest = done ? DigestOfFile(file) : QByteArray();
         QMetaObject::invokeMethod(
             this,
-            [this, done, error, digest, state, file] {
-                if (done)
-                    path = QFileInfo(file).absoluteFilePath();
-                Saved(done, error, digest, state);
-            },
+            [this, done, error, digest, state, file] { Saved(done, error, digest, state, file); },
             Qt::QueuedConnection);
     });
 }
 
-void Document::Saved(bool saved, const QString& error, const QByteArray& digest, int state)
+void Document::Saved(bool saved, const QString& error, const QByteArray& digest, int state,
+                     const QString& file)
 {
     saving = false;
-    if (saved) {
+    if (saved && state >= opened) { // else another sign is open by now
+        path = QFileInfo(file).absoluteFilePath();
         onDisk = digest;
         told = digest;
         Watch();
@@ -249,11 +261,6 @@ void Document::KeepMine()
     onDisk = DigestOfFile(path);
     told = onDisk;
     undo.resetClean();
-}
-
-void Document::WaitUntilSaved()
-{
-    pool.waitForDone();
 }
 
 void Document::Watch()

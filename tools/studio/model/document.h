@@ -11,6 +11,7 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QThreadPool>
+#include <QTimer>
 #include <QUndoStack>
 
 namespace AnimText {
@@ -32,7 +33,8 @@ public:
     /** The name of the file, for people. */
     QString Name() const;
     bool IsModified() const { return !undo.isClean(); }
-    bool IsSaving() const { return saving; }
+    /** From Save() until SaveEnded(). */
+    bool IsSaving() const { return saving || !savePath.isEmpty(); }
 
     /**
      * Makes @p after the sign, as a step that can be undone. Steps with the same @p merge that
@@ -44,7 +46,7 @@ public:
     void New();
     /** @return false, with one line in @p error, when the scene cannot be read */
     bool Open(const QString& path, QString* error);
-    /** Takes over what another studio left when it was killed; @p path is the file it is for. */
+    /** Takes over what another studio has left; @p path is the file it is for. */
     void Recover(const Sign& sign, const QString& path);
 
     /** Saves once the layouts are made; SaveEnded() tells what became of it. */
@@ -53,7 +55,6 @@ public:
     bool LoadTheirs(QString* error);
     /** Lets the next save go over what somebody else has written to the file meanwhile. */
     void KeepMine();
-    void WaitUntilSaved();
 
 signals:
     /** The sign is another one. */
@@ -74,7 +75,8 @@ private:
     void AskForLayouts();
     void TakeLayout(const std::shared_ptr<const Layout>& layout);
     void SaveNow();
-    void Saved(bool saved, const QString& error, const QByteArray& digest, int state);
+    void Saved(bool saved, const QString& error, const QByteArray& digest, int state,
+               const QString& file);
     void Watch();
     void LookAtDisk();
 
@@ -85,8 +87,10 @@ private:
     QString savePath; // where to, once the layouts are made; empty: nowhere
     bool saving = false;
     int revision = 0;  // counts changes
+    int opened = 0;    // revision with which the sign began
     QByteArray onDisk; // digest of the file as it is known
     QByteArray told;   // digest of which DiskChanged() has told
+    QTimer telling;    // of layouts
     QFileSystemWatcher watcher;
     QThreadPool pool;
 };

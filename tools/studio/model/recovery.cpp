@@ -21,7 +21,7 @@ const QString sceneName = QStringLiteral("scene.json");
 const QString aboutName = QStringLiteral("about.json");
 
 /** Unlike a scene that is saved, a copy may have mistakes. What it names comes before it. */
-void WriteCopy(const Sign& sign, const QString& path, const QString& folder)
+bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
 {
     const QDir dir(folder);
     const QString scenePath = dir.filePath(sceneName);
@@ -33,15 +33,16 @@ void WriteCopy(const Sign& sign, const QString& path, const QString& folder)
     QString error;
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (!WriteWhole(dir.filePath(file.key()), file.value(), &error))
-            return;
+            return false;
     }
     if (!WriteWhole(scenePath, SceneToJson(scene), &error))
-        return;
+        return false;
     for (const QString& name :
          dir.entryList({QStringLiteral("*.path"), QStringLiteral("*.descent")})) {
         if (!files.contains(name))
             QFile::remove(dir.filePath(name));
     }
+    return true;
 }
 
 } // namespace
@@ -79,6 +80,9 @@ void Recovery::Look()
         return;
     }
     delay.stop();
+    if (!taken.isEmpty())
+        pool.start([older = taken] { QDir(older).removeRecursively(); });
+    taken.clear();
     if (lock)
         pool.start([at = folder] { QFile::remove(QDir(at).filePath(sceneName)); });
 }
@@ -93,10 +97,20 @@ void Recovery::Keep()
         lock->setStaleLockTime(0);
         lock->tryLock();
     }
-    pool.start([this, sign = document->Current(), path = document->Path()] {
-        WriteCopy(sign, path, folder);
+    pool.start([this, sign = document->Current(), path = document->Path(), older = taken] {
+        if (!WriteCopy(sign, path, folder))
+            return;
+        if (!older.isEmpty())
+            QDir(older).removeRecursively();
         QMetaObject::invokeMethod(this, &Recovery::Kept);
     });
+    taken.clear();
+}
+
+void Recovery::TakeOver(const LostWork& work)
+{
+    document->Recover(work.sign, work.path);
+    taken = work.folder; // after what the document told of itself while it was replaced
 }
 
 QList<LostWork> Recovery::Find() const

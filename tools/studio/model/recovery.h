@@ -41,6 +41,8 @@ public:
 
     /** What studios have left that are there no more; the latest first. */
     QList<LostWork> Find() const;
+    /** Makes it the document's; it stays until there is a copy of the document. */
+    void TakeOver(const LostWork& work);
     /** Removes it for good. */
     static void Drop(const LostWork& work);
     /** Keeps the copy when this object goes. */
@@ -57,6 +59,7 @@ private:
     Document* document;
     QString root;
     QString folder;
+    QString taken; // folder of what was taken over, as long as there is no other copy
     std::unique_ptr<QLockFile> lock;
     QTimer delay;
     QThreadPool pool;

@@ -54,11 +54,8 @@ void MainWindow::MakeActions()
 void MainWindow::MakeFileMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    QAction* fresh =
-        Act(file, tr("&New"), QKeySequence::New, QStringLiteral("document-new"), [this] {
-            if (MayLeave())
-                New();
-        });
+    QAction* fresh = Act(file, tr("&New"), QKeySequence::New, QStringLiteral("document-new"),
+                         [this] { Leave([this] { New(); }); });
     QAction* open = Act(file, tr("&Open…"), QKeySequence::Open, QStringLiteral("document-open"),
                         [this] { ChooseAndOpen(); });
     recent = file->addMenu(tr("Open &recent"));
@@ -212,12 +209,10 @@ void MainWindow::SetLeds(bool on)
 
 void MainWindow::ChooseAndOpen()
 {
-    if (!MayLeave())
-        return;
     const QString path = QFileDialog::getOpenFileName(
         this, tr("Open a scene"), QFileInfo(document.Path()).path(), tr("Scenes (*.json)"));
     if (!path.isEmpty())
-        Open(path);
+        Leave([this, path] { Open(path); });
 }
 
 bool MainWindow::Save()
@@ -248,18 +243,25 @@ void MainWindow::ShowExport()
     dialog->open();
 }
 
-/** Whether the sign may go; asks where it has changes that are not saved. */
-bool MainWindow::MayLeave()
+/** Does @p then when the sign may go; asks first where it has changes that are not saved. */
+void MainWindow::Leave(const std::function<void()>& then)
 {
-    if (!document.IsModified())
-        return true;
-    const auto answer = QMessageBox::question(
-        this, tr("Animated Text Studio"),
-        tr("%1 has changes that are not saved.").arg(document.Name()),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    if (answer == QMessageBox::Save)
-        return Save();
-    return answer == QMessageBox::Discard;
+    if (document.IsSaving()) {
+        afterSave = then;
+        return;
+    }
+    if (!document.IsModified()) {
+        then();
+        return;
+    }
+    const auto save = [this, then] {
+        afterSave = then;
+        if (!Save())
+            afterSave = {};
+    };
+    notices->Set(NoticeBar::Leaving, tr("%1 has changes that are not saved.").arg(document.Name()),
+                 {{tr("Save"), save}, {tr("Discard them"), then}, {tr("Go on editing"), {}}});
+    notices->Offers().first()->setFocus();
 }
 
 void MainWindow::ShowRecent()
@@ -269,10 +271,8 @@ void MainWindow::ShowRecent()
         QAction* action = recent->addAction(QFileInfo(path).fileName());
         action->setToolTip(path);
         action->setEnabled(QFileInfo::exists(path));
-        connect(action, &QAction::triggered, this, [this, path] {
-            if (MayLeave())
-                Open(path);
-        });
+        connect(action, &QAction::triggered, this,
+                [this, path] { Leave([this, path] { Open(path); }); });
     }
     recent->setToolTipsVisible(true);
     if (recent->isEmpty())

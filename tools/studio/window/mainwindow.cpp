@@ -9,11 +9,12 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace AnimText {
 namespace {
@@ -131,6 +132,9 @@ void MainWindow::Connect()
                          {{tr("Save as…"), [this] { SaveAs(); }}, {tr("Dismiss"), {}}});
         else
             notices->Set(NoticeBar::Save, QString());
+        const auto then = std::exchange(afterSave, {});
+        if (then && saved)
+            Leave(then);
     });
     connect(&document, &Document::DiskChanged, this, [this] {
         notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
@@ -325,15 +329,15 @@ void MainWindow::OfferLostWork()
         return;
     const LostWork work = lost.first();
     const QString name = work.path.isEmpty() ? tr("a new sign") : QFileInfo(work.path).fileName();
-    notices->Set(NoticeBar::Recovery,
-                 tr("The studio ended before %1 was saved (%2).")
-                     .arg(name, QLocale().toString(work.when, QLocale::ShortFormat)),
-                 {{tr("Recover it"),
-                   [this, work] {
-                       document.Recover(work.sign, work.path);
-                       Recovery::Drop(work);
-                   }},
-                  {tr("Drop it"), [work] { Recovery::Drop(work); }}});
+    notices->Set(
+        NoticeBar::Recovery,
+        tr("The studio ended before %1 was saved (%2).")
+            .arg(name, QLocale().toString(work.when, QLocale::ShortFormat)),
+        {{tr("Recover it"), [this, work] { Leave([this, work] { recovery.TakeOver(work); }); }},
+         {tr("Drop it"), [this, work] {
+              Recovery::Drop(work);
+              OfferLostWork(); // there may be more
+          }}});
 }
 
 void MainWindow::Rehearse()
@@ -474,11 +478,14 @@ void MainWindow::ToggleLoop()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!MayLeave()) {
+    if (!mayClose && (document.IsModified() || document.IsSaving())) {
         event->ignore();
+        Leave([this] {
+            mayClose = true;
+            close();
+        });
         return;
     }
-    document.WaitUntilSaved();
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("docks"), saveState());
@@ -497,8 +504,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    if (MayLeave())
-        Open(event->mimeData()->urls().first().toLocalFile());
+    const QString path = event->mimeData()->urls().first().toLocalFile();
+    Leave([this, path] { Open(path); });
 }
 
 } // namespace AnimText

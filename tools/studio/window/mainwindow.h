@@ -91,7 +91,7 @@ private:
     void ChooseAndOpen();
     bool Save();
     bool SaveAs();
-    bool MayLeave();
+    void Leave(const std::function<void()>& then);
     void ShowExport();
     void ShowRecent();
     void AddRecent(const QString& path);
@@ -112,6 +112,8 @@ private:
     Part part;
     QTimer dimming;
     QList<Finding> found;
+    std::function<void()> afterSave; // what waits until all is saved
+    bool mayClose = false;
 
     DisplayView* view = nullptr;
     NoticeBar* notices = nullptr;

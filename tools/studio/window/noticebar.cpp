@@ -2,8 +2,6 @@
 
 #include "studio/window/looks.h"
 
-#include <QPushButton>
-
 namespace AnimText {
 
 NoticeBar::NoticeBar(QWidget* parent)
@@ -37,6 +35,14 @@ void NoticeBar::Set(Kind kind, const QString& text, const QList<Offer>& offers)
     else
         notices[kind] = {text, offers};
     Refresh();
+}
+
+QList<QPushButton*> NoticeBar::Offers() const
+{
+    QList<QPushButton*> shown;
+    for (int i = 0; i < buttons->count(); ++i)
+        shown.append(static_cast<QPushButton*>(buttons->itemAt(i)->widget()));
+    return shown;
 }
 
 void NoticeBar::Refresh()

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMap>
 #include <QPair>
+#include <QPushButton>
 
 #include <functional>
 
@@ -21,7 +22,7 @@ class NoticeBar : public QFrame
     Q_OBJECT
 
 public:
-    enum Kind { Recovery, Disk, Save, Trouble };
+    enum Kind { Leaving, Recovery, Disk, Save, Trouble };
 
     using Offer = QPair<QString, std::function<void()>>; ///< words on a button and what it does
 
@@ -30,6 +31,8 @@ public:
     /** An empty @p text takes the notice back. */
     void Set(Kind kind, const QString& text, const QList<Offer>& offers = {});
     QString Text() const { return words->text(); }
+    /** The buttons of what is shown. */
+    QList<QPushButton*> Offers() const;
 
 private:
     struct Notice

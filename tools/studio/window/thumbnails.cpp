@@ -50,7 +50,7 @@ SignText Sample(SignText text, bool scroll, int number)
 
 Thumbnails::Thumbnails(const QString& plugin, QObject* parent)
     : QObject(parent)
-    , link(new WorkerLink(plugin))
+    , link(new WorkerLink(plugin, WorkerLink::Haste::None))
 {
     link->moveToThread(&thread);
     connect(&thread, &QThread::finished, link, &QObject::deleteLater);

@@ -1,11 +1,30 @@
 #include "studio/worker/workerlink.h"
 
 #include <QCoreApplication>
+#include <QFile>
+
+#include <unistd.h>
 
 namespace AnimText {
 namespace {
 
-constexpr int longestSilence = 20000; // milliseconds without an answer
+// A worker that has not answered for that long hangs. On a busy machine it may just have had no
+// turn.
+constexpr double longestWork = 20;     // seconds of processor time
+constexpr int longestSilence = 300000; // milliseconds
+constexpr int lookTime = 1000;         // milliseconds
+
+/** Seconds of processor time that the process @p id has taken. */
+double WorkOf(qint64 id)
+{
+    QFile state(QStringLiteral("/proc/%1/stat").arg(id));
+    if (!state.open(QIODevice::ReadOnly))
+        return 0;
+    // The name in brackets may hold anything.
+    const QByteArray all = state.readAll();
+    const QList<QByteArray> words = all.mid(all.lastIndexOf(')') + 2).split(' ');
+    return (words.value(11).toDouble() + words.value(12).toDouble()) / double(sysconf(_SC_CLK_TCK));
+}
 
 QString& ProgramPath()
 {
@@ -15,9 +34,10 @@ QString& ProgramPath()
 
 } // namespace
 
-WorkerLink::WorkerLink(const QString& plugin, QObject* parent)
+WorkerLink::WorkerLink(const QString& plugin, Haste haste, QObject* parent)
     : QObject(parent)
     , plugin(plugin)
+    , haste(haste)
 {
 }
 
@@ -48,11 +68,12 @@ void WorkerLink::Start()
             &WorkerLink::Ended);
     if (!patience) {
         patience = new QTimer(this);
-        patience->setSingleShot(true);
-        patience->setInterval(longestSilence);
+        patience->setInterval(lookTime);
         connect(patience, &QTimer::timeout, this, [this] {
-            hangs = true;
-            process->kill();
+            hangs = silence.elapsed() > longestSilence ||
+                    WorkOf(process->processId()) - workBefore > longestWork;
+            if (hangs)
+                process->kill();
         });
     }
     received.clear();
@@ -60,6 +81,8 @@ void WorkerLink::Start()
     QStringList words{QStringLiteral("--worker")};
     if (!plugin.isEmpty())
         words += {QStringLiteral("--plugin"), plugin};
+    if (haste == Haste::None)
+        words += QStringLiteral("--no-haste");
     process->start(Program(), words);
 }
 
@@ -80,6 +103,14 @@ void WorkerLink::Send(const QByteArray& message)
 {
     Start();
     process->write(message);
+    Expect();
+}
+
+/** Begins to wait for an answer. */
+void WorkerLink::Expect()
+{
+    silence.start();
+    workBefore = WorkOf(process->processId());
     patience->start();
 }
 
@@ -111,9 +142,9 @@ void WorkerLink::Handle(Message kind, const QByteArray& body)
 {
     quint32 generation = 0;
     QString text;
-    patience->start();
     switch (kind) {
     case Message::Ready:
+        Expect();
         Unpack(body, &text);
         emit Ready(text);
         break;
@@ -123,6 +154,7 @@ void WorkerLink::Handle(Message kind, const QByteArray& body)
         emit Loaded(generation, text);
         break;
     case Message::Picture: {
+        Expect();
         TickPicture picture;
         Unpack(body, &picture);
         if (picture.picture.isNull())

@@ -7,6 +7,7 @@
 
 #include "studio/worker/messages.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QProcess>
 #include <QTimer>
@@ -22,8 +23,11 @@ class WorkerLink : public QObject
     Q_OBJECT
 
 public:
+    enum class Haste { Full, None }; ///< whether it lets other processes go first
+
     /** @param plugin the library to be loaded; empty for the one beside the program */
-    explicit WorkerLink(const QString& plugin, QObject* parent = nullptr);
+    explicit WorkerLink(const QString& plugin, Haste haste = Haste::Full,
+                        QObject* parent = nullptr);
     ~WorkerLink() override;
 
     /** The program that is started with --worker; the running one unless another is named. */
@@ -49,13 +53,17 @@ signals:
 
 private:
     void Send(const QByteArray& message);
+    void Expect();
     void Read();
     void Handle(Message kind, const QByteArray& body);
     void Ended();
 
     QString plugin;
+    Haste haste;
     QProcess* process = nullptr;
     QTimer* patience = nullptr;
+    QElapsedTimer silence; // since the last answer or wish
+    double workBefore = 0; // processor time of the process then
     QByteArray received;
     QImage lastPicture;
     bool hangs = false;

@@ -8,6 +8,11 @@
 #include <unistd.h>
 
 namespace AnimText {
+namespace {
+
+constexpr int lowNiceness = 10;
+
+} // namespace
 
 int WorkerMain(int argc, char** argv)
 {
@@ -23,9 +28,11 @@ int WorkerMain(int argc, char** argv)
     auto* dispatcher = new VirtualDispatcher;
     QCoreApplication::setEventDispatcher(dispatcher);
     QString plugin;
-    for (int i = 1; i + 1 < argc; ++i) {
-        if (qstrcmp(argv[i], "--plugin") == 0)
+    for (int i = 1; i < argc; ++i) {
+        if (qstrcmp(argv[i], "--plugin") == 0 && i + 1 < argc)
             plugin = QString::fromLocal8Bit(argv[i + 1]);
+        else if (qstrcmp(argv[i], "--no-haste") == 0 && nice(lowNiceness) == -1)
+            continue; // then it takes part as any other
     }
     int ownName = 1;
     QGuiApplication application(ownName, argv);
