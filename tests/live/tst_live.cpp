@@ -158,7 +158,7 @@ private slots:
         QTest::addColumn<int>("ticks");
         const TextWishes three{"abc", 4, 9, 2};
         QTest::newRow("a hold more") << files.Node(three) << false << 7 + 4;
-        QTest::newRow("as told") << files.Node(three) << true << 8;
+        QTest::newRow("as told") << files.Node(three) << true << 7;
         QTest::newRow("nothing") << files.Node({" "}) << false << 1;
         QTest::newRow("nothing is told") << files.Node({" "}, {{"PlayTimes", 0}}) << true << 1;
         QTest::newRow("once through")
@@ -192,9 +192,10 @@ private slots:
         QVector<QImage> firsts;
         qint64 before = -1;
         connect(player.get(), &LivePlayer::Shown, this, [&] {
-            if (player->Time() < before)
+            const qint64 now = player->Time();
+            if (now < before || (now == 0 && before == 0)) // where there is nothing to play
                 firsts.append(player->Scenery().Compose(0));
-            before = player->Time();
+            before = now;
         });
         QTRY_VERIFY_WITH_TIMEOUT(firsts.size() > 1, 60000);
         player->disconnect(this);

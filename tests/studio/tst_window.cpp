@@ -1,13 +1,16 @@
 #include "studio/window/exportdialog.h"
 #include "studio/window/mainwindow.h"
+#include "studio/window/translating.h"
 
 #include "testfolder.h"
 
 #include <QDockWidget>
+#include <QMenuBar>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTranslator>
 
 using namespace AnimText;
 
@@ -48,6 +51,8 @@ private slots:
     void keysMoveInTime();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
+    void leavingLosesNothing();
+    void speaksGerman();
     void findingsAreMended();
     void exportsAndCancels();
     void integratorsSeeCallsFaultsAndAnotherLibrary();
@@ -66,6 +71,7 @@ void TestWindow::init()
 {
     window = std::make_unique<MainWindow>(QString());
     window->New();
+    window->resize(1600, 900); // whatever the screen's size
     window->show();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
 }
@@ -175,6 +181,58 @@ void TestWindow::mouseMovesAndSizesAreas()
     QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
     QCOMPARE(Text().node.pos, QPoint(10, 0));
     QCOMPARE(Text().node.size, QSize(300, 41));
+}
+
+/** Each way out with what was typed last: saved, given up, or not gone at all. */
+void TestWindow::leavingLosesNothing()
+{
+    const QString path = folder.Path("left.json");
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(path);
+    QVERIFY(ended.wait(patience));
+    const auto offer = [&](int index) { window->Notices()->Offers().at(index)->click(); };
+    Type("stays");
+    window->close();
+    QVERIFY(window->isVisible() && !window->Notices()->Offers().isEmpty());
+    offer(2);
+    QVERIFY(window->Notices()->Text().isEmpty());
+    window->close();
+    offer(0); // its layout may not have been made by now, and is waited for
+    QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), patience);
+    QVERIFY(folder.Read("left.json").contains("stays"));
+
+    init();
+    QVERIFY(window->Open(path));
+    QSignalSpy failed(window->GetDocument(), &Document::SaveEnded);
+    Type("mine");
+    folder.Write("left.json", folder.Read("left.json") + "\n");
+    window->close();
+    offer(0);
+    QVERIFY(failed.wait(patience));
+    QVERIFY(!failed.first().first().toBool() && window->isVisible()); // theirs is there
+    window->close();
+    offer(1);
+    QVERIFY(!window->isVisible());
+    QVERIFY(folder.Read("left.json").contains("stays"));
+}
+
+void TestWindow::speaksGerman()
+{
+    window.reset();
+    Translate(QLocale("de_AT"));
+    init();
+    QCOMPARE(window->menuBar()->actions().first()->text(), QString("&Datei"));
+    QCOMPARE(Text().Title(), QString("Ihr Text"));
+    const QString motion = window->GetInspector()
+                               ->Motions()
+                               ->List()
+                               ->model()
+                               ->index(4, 0)
+                               .data(Qt::ToolTipRole)
+                               .toString();
+    QVERIFY2(motion.contains("wie getippt"), qPrintable(motion));
+    window.reset();
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
 }
 
 void TestWindow::findingsAreMended()

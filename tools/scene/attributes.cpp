@@ -158,7 +158,7 @@ QList<Attribute> Table()
          QT_TRANSLATE_NOOP("Attributes", "where the text scrolls to"),
          "", 0, Scrolls().size() - 1, 0, scrolls, onlyScrolls, {scrolling}},
         {"ContinueSpeed", H::Attributes, G::Motion, K::Number,
-         QT_TRANSLATE_NOOP("Attributes", "Speed"),
+         QT_TRANSLATE_NOOP("Attributes", "Scroll speed"),
          QT_TRANSLATE_NOOP("Attributes", "the speed of scrolling, 9 the fastest"),
          steps, 0, 9, 0, scrolls, onlyScrolls, {scrolling}},
         {"PlayTimes", H::Attributes, G::Motion, K::Number,

@@ -1,10 +1,12 @@
 // The studio: a window in which signs are written and timed, or, with --worker, one of its workers.
 #include "studio/window/mainwindow.h"
+#include "studio/window/translating.h"
 #include "studio/worker/exporting.h"
 #include "studio/worker/workermain.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -41,17 +43,21 @@ int RunWindow(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("animtext"));
     QApplication::setApplicationVersion(QStringLiteral(ANIMTEXT_VERSION));
 
+    Translate(QLocale());
+
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("A window in which animated texts are written, timed and exported."));
+    parser.setApplicationDescription(QCoreApplication::translate(
+        "Studio", "A window in which animated texts are written, timed and exported."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption plugin(
         QStringLiteral("plugin"),
-        QStringLiteral("The plugin library, in place of the one beside this program."),
+        QCoreApplication::translate("Studio",
+                                    "The plugin library, in place of the one beside this program."),
         QStringLiteral("FILE"));
     parser.addOption(plugin);
-    parser.addPositionalArgument(QStringLiteral("scene"), QStringLiteral("The scene to open."),
+    parser.addPositionalArgument(QStringLiteral("scene"),
+                                 QCoreApplication::translate("Studio", "The scene to open."),
                                  QStringLiteral("[SCENE.json]"));
     parser.process(words);
 

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 
@@ -60,6 +61,10 @@ QString UnitOf(const Attribute& attribute)
         return AttributeForm::tr("s");
     if (QLatin1String(attribute.unit) == QLatin1String("pixels"))
         return AttributeForm::tr("px");
+    if (QLatin1String(attribute.unit) == QLatin1String("times"))
+        return AttributeForm::tr("×");
+    if (QLatin1String(attribute.unit) == QLatin1String("steps"))
+        return AttributeForm::tr("of %1").arg(attribute.most);
     return Translated(attribute.unit);
 }
 
@@ -70,9 +75,10 @@ AttributeForm::AttributeForm(Group group, QWidget* parent)
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(2 * grid);
+    layout->setHorizontalSpacing(grid);
     layout->setVerticalSpacing(grid);
-    layout->setColumnStretch(1, 1);
+    layout->setColumnMinimumWidth(0, LabelWidth(font()));
+    layout->setColumnStretch(2, 1);
     for (const Attribute& attribute : Attributes()) {
         if (attribute.group == group && !IsElsewhere(attribute))
             AddField(attribute, layout);
@@ -85,14 +91,14 @@ void AttributeForm::AddField(const Attribute& attribute, QGridLayout* layout)
     field.attribute = &attribute;
     field.label = new QLabel(Translated(attribute.name), this);
     field.mark = new QLabel(this);
-    field.mark->setFixedWidth(16);
+    field.mark->setFixedWidth(markWidth);
     field.widget = MakeWidget(attribute, &field);
     field.widget->setAccessibleName(Translated(attribute.name));
     field.label->setBuddy(field.widget);
     const int row = layout->rowCount();
     layout->addWidget(field.label, row, 0);
-    layout->addWidget(field.widget, row, 1);
-    layout->addWidget(field.mark, row, 2);
+    layout->addWidget(field.mark, row, 1);
+    layout->addWidget(field.widget, row, 2);
     fields.append(field);
 }
 
@@ -161,6 +167,7 @@ QWidget* AttributeForm::MakePair(const Attribute& attribute, Field* field)
             isSize ? (i == 0 ? tr("Width") : tr("Height")) : (i == 0 ? tr("Left") : tr("Top"));
         number->setAccessibleName(side);
         number->setToolTip(side);
+        number->setPrefix(isSize ? (i == 0 ? tr("w ") : tr("h ")) : (i == 0 ? tr("x ") : tr("y ")));
         number->SetUnit(UnitOf(attribute));
         number->SetLimits(attribute.least, attribute.most);
         layout->addWidget(number, 0, i);
@@ -273,7 +280,7 @@ void AttributeForm::SetFindings(const QList<Finding>& findings)
             if (last == QLatin1String(field.attribute->key))
                 words.append(tr("Found %1, expected %2. %3")
                                  .arg(finding.found, finding.expected,
-                                      QLatin1String(finding.GetRule().why)));
+                                      QCoreApplication::translate("Rules", finding.GetRule().why)));
         }
         field.mark->setToolTip(words.join(QLatin1Char('\n')));
         field.mark->setPixmap(

@@ -7,7 +7,7 @@
 
 #include "studio/window/attributeform.h"
 
-#include <QTreeWidget>
+#include <QScrollArea>
 
 namespace AnimText {
 
@@ -24,7 +24,7 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display);
 /** The index of the text that a finding is about, in the order of the file; -1 for none. */
 int TextOf(const Finding& finding, const Sign& sign);
 
-class FindingsList : public QTreeWidget
+class FindingsList : public QScrollArea
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ public:
     explicit FindingsList(QWidget* parent = nullptr);
 
     void Show(const QList<Finding>& findings, const Sign& sign);
-    int Count() const { return topLevelItemCount(); }
+    int Count() const { return rows.size(); }
     /** Does what is known to help against the finding in that row. */
     void Mend(int row);
 
@@ -41,13 +41,23 @@ signals:
     void Mended(int id, const QString& what, const AnimText::TextChange& change);
     void CountChanged(int count);
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     struct Row
     {
-        int id;
+        int id; // of the text; 0 for none
         Fix fix;
+        QString words;
+        QString why;
+        bool isError;
     };
 
+    void Fill(const QList<Row>& next);
+    QWidget* MakeRow(int index);
+
+    QVBoxLayout* list;
     QList<Row> rows;
 };
 

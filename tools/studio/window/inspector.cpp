@@ -1,8 +1,9 @@
 #include "studio/window/inspector.h"
 
 #include "studio/window/looks.h"
-#include "studio/window/thumbnails.h"
 
+#include <QEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace AnimText {
@@ -41,7 +42,6 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     section(tr("Letters"), {forms.at(0)});
     layout->addStretch(1);
     setWidget(content);
-    setMinimumWidth(2 * (thumbnailSize.width() + 2 * grid) + 20 * grid);
 
     connect(text, &TextPanel::Edited, this, [this](const StyledText& styled, int gesture) {
         emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),
@@ -61,6 +61,16 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
                 attributes[speeds[scroll]] = attributes.value(speeds[wasScroll]);
         });
     });
+}
+
+/** Nothing of it is hidden at its sides, in whatever font and language. */
+bool Inspector::eventFilter(QObject* object, QEvent* event)
+{
+    const bool answer = QScrollArea::eventFilter(object, event);
+    if (object == widget() && event->type() == QEvent::LayoutRequest)
+        setMinimumWidth(widget()->minimumSizeHint().width() +
+                        verticalScrollBar()->sizeHint().width());
+    return answer;
 }
 
 QLabel* Inspector::Heading(const QString& words)

@@ -30,6 +30,9 @@ public:
 signals:
     void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     QLabel* Heading(const QString& words);
 

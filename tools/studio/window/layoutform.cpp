@@ -24,14 +24,17 @@ LayoutForm::LayoutForm(QWidget* parent)
 
     auto* layout = new QFormLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(2 * grid);
+    layout->setHorizontalSpacing(2 * grid + markWidth);
     layout->setVerticalSpacing(grid);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     layout->addRow(tr("Size"), fit);
     layout->addRow(tr("Across"), align);
-    layout->addRow(tr("Upright"), valign);
+    layout->addRow(tr("Up and down"), valign);
     layout->addRow(tr("Padding"), padding);
-    layout->addRow(keepsWords);
+    layout->addRow(QString(), keepsWords);
+
+    for (QWidget* field : QList<QWidget*>{fit, align, valign, padding})
+        layout->labelForField(field)->setMinimumWidth(LabelWidth(font()));
 
     const auto tell = [this](QWidget* field, const QString& merge,
                              const std::function<void(TextSource*)>& set) {
@@ -39,7 +42,7 @@ LayoutForm::LayoutForm(QWidget* parent)
     };
     fit->setAccessibleName(tr("Size"));
     align->setAccessibleName(tr("Across"));
-    valign->setAccessibleName(tr("Upright"));
+    valign->setAccessibleName(tr("Up and down"));
     padding->setAccessibleName(tr("Padding"));
     keepsWords->setAccessibleName(tr("Pages"));
     connect(fit, qOverload<int>(&QComboBox::activated), this, [=](int index) {

@@ -51,6 +51,11 @@ const QHash<QString, QString>& Drawings()
         {QStringLiteral("dialog-error"),
          QStringLiteral("M 8 2 C 16 2 16 14 8 14 C 0 14 0 2 8 2 Z M 5.8 5.8 L 10.2 10.2 M 10.2 5.8 "
                         "L 5.8 10.2")},
+        {QStringLiteral("lamps"),
+         QStringLiteral("*M 4.5 2 C 7.8 2 7.8 7 4.5 7 C 1.2 7 1.2 2 4.5 2 Z M 11.5 2 C 14.8 2 14.8 "
+                        "7 11.5 7 C 8.2 7 8.2 2 11.5 2 Z M 4.5 9 C 7.8 9 7.8 14 4.5 14 C 1.2 14 "
+                        "1.2 9 4.5 9 Z M 11.5 9 C 14.8 9 14.8 14 11.5 14 C 8.2 14 8.2 9 11.5 9 "
+                        "Z")},
         {QStringLiteral("edit-copy"),
          QStringLiteral("M 5.5 5.5 L 13.5 5.5 L 13.5 13.5 L 5.5 13.5 Z M 3 10.5 L 2.5 10.5 L 2.5 "
                         "2.5 L 10.5 2.5 L 10.5 3")},
@@ -153,6 +158,12 @@ QFont TabularFont(const QFont& font, int points)
     if (points != 0 && tabular.pointSizeF() > 0)
         tabular.setPointSizeF(std::max(6.0, tabular.pointSizeF() + points));
     return tabular;
+}
+
+int LabelWidth(const QFont& font)
+{
+    constexpr int letters = 16;
+    return (letters * QFontMetrics(font).averageCharWidth() + grid - 1) / grid * grid;
 }
 
 QString SecondsText(qint64 milliseconds)

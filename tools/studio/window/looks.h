@@ -13,7 +13,11 @@
 
 namespace AnimText {
 
-constexpr int grid = 4; ///< points; distances are multiples of it
+constexpr int grid = 4;             ///< points; distances are multiples of it
+constexpr int markWidth = 4 * grid; ///< of what stands between a label and its field
+
+/** Points for the labels of a form, so that all forms stand in line. */
+int LabelWidth(const QFont& font);
 
 /** @p amount of @p b, 0 to 1, in @p a. */
 QColor Mixed(const QColor& a, const QColor& b, double amount);

@@ -11,13 +11,13 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace AnimText {
 namespace {
 
 constexpr int mostRecent = 8;
 constexpr int largestZoom = 16;
-constexpr double ledPitch = 1.4; // diameters of a lamp
 
 } // namespace
 
@@ -85,13 +85,11 @@ void MainWindow::MakeEditMenu()
     redo->setIcon(Icon(QStringLiteral("edit-redo")));
     edit->addActions({undo, redo});
     tools->addActions({undo, redo});
-    for (QAction* action : {undo, redo})
-        tools->widgetForAction(action)->setProperty("iconOnly", true);
     edit->addSeparator();
     QAction* add = Act(edit, tr("Add &text"), QKeySequence(tr("Ctrl+T")),
                        QStringLiteral("list-add"), [this] { AddNewText(false); });
-    Act(edit, tr("Add &page"), QKeySequence(tr("Ctrl+Shift+T")), QString(),
-        [this] { AddNewText(true); });
+    QAction* addPage = Act(edit, tr("Add &page"), QKeySequence(tr("Ctrl+Shift+T")),
+                           QStringLiteral("list-add"), [this] { AddNewText(true); });
     Act(edit, tr("&Duplicate text"), QKeySequence(tr("Ctrl+D")), QString(),
         [this] { DuplicateSelected(); });
     Act(edit, tr("Re&move text"), QKeySequence(tr("Ctrl+Delete")), QString(),
@@ -105,7 +103,19 @@ void MainWindow::MakeEditMenu()
     });
     tools->addSeparator();
     tools->addAction(add);
-    tools->addAction(findChild<QAction*>(QStringLiteral("export")));
+    auto* film = findChild<QAction*>(QStringLiteral("export"));
+    tools->addAction(film);
+    for (QAction* action : {add, film})
+        static_cast<QToolButton*>(tools->widgetForAction(action))
+            ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (QAction* action : {add, addPage}) {
+        auto* button = new QToolButton(this);
+        button->setDefaultAction(action);
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        button->setAutoRaise(true);
+        sceneTools->addWidget(button);
+    }
+    sceneTools->addStretch(1);
 }
 
 void MainWindow::MakeViewMenu()
@@ -118,10 +128,25 @@ void MainWindow::MakeViewMenu()
         [this] { SetZoom(qMax(1, int(view->Scale()) - 1)); });
     look->addSeparator();
     leds = look->addAction(tr("&LEDs"));
+    leds->setObjectName(QStringLiteral("leds"));
     leds->setCheckable(true);
+    leds->setIcon(Icon(QStringLiteral("lamps")));
     leds->setShortcut(QKeySequence(tr("Ctrl+L")));
     leds->setToolTip(tr("Shows the pixels as round lamps (Ctrl+L)"));
     connect(leds, &QAction::toggled, this, &MainWindow::SetLeds);
+    QMenu* distances = look->addMenu(tr("&Pitch of the LEDs"));
+    pitches = new QActionGroup(this);
+    for (double diameters : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        QAction* action =
+            distances->addAction(tr("%1 diameters").arg(locale().toString(diameters)));
+        action->setCheckable(true);
+        action->setData(diameters);
+        pitches->addAction(action);
+    }
+    connect(pitches, &QActionGroup::triggered, this, [this](const QAction* action) {
+        SetPitch(action->data().toDouble());
+        leds->setChecked(true);
+    });
     QAction* chequered = look->addAction(tr("&Chequered beneath"));
     chequered->setCheckable(true);
     connect(chequered, &QAction::toggled, this, [this](bool on) {
@@ -147,6 +172,10 @@ void MainWindow::MakeViewMenu()
             [this] { SetZoom(zoomBox->currentData().toInt()); });
     tools->addWidget(zoomBox);
     tools->addAction(leds);
+    auto* button = static_cast<QToolButton*>(tools->widgetForAction(leds));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    button->setMenu(distances);
 }
 
 void MainWindow::MakePlayMenu()
@@ -204,7 +233,15 @@ void MainWindow::SetZoom(int zoom)
 
 void MainWindow::SetLeds(bool on)
 {
-    view->SetPitch(on ? ledPitch : 0);
+    view->SetPitch(on ? pitch : 0);
+}
+
+void MainWindow::SetPitch(double diameters)
+{
+    pitch = diameters;
+    for (QAction* action : pitches->actions())
+        action->setChecked(qFuzzyCompare(action->data().toDouble(), pitch));
+    SetLeds(leds->isChecked());
 }
 
 void MainWindow::ChooseAndOpen()

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int dimmingDelay = 100; // milliseconds for which a stale picture is not marked yet
 const QColor surroundings(96, 96, 96);
+constexpr QSize largestStandardSize(1760, 1040);
 
 } // namespace
 
@@ -39,7 +41,8 @@ MainWindow::MainWindow(const QString& plugin)
     MakeDocks();
     MakeActions();
     Connect();
-    resize(1280, 800);
+    // The picture is the largest thing.
+    resize((screen()->availableSize() * 0.92).boundedTo(largestStandardSize));
     RestoreLayout();
 }
 
@@ -102,7 +105,16 @@ void MainWindow::MakeDocks()
         addDockWidget(area, made);
         return made;
     };
-    QDockWidget* left = dock(QStringLiteral("scene"), tr("Scene"), scenes, Qt::LeftDockWidgetArea);
+    auto* scene = new QWidget(this);
+    sceneTools = new QHBoxLayout;
+    sceneTools->setContentsMargins(grid, grid, grid, grid);
+    sceneTools->setSpacing(grid);
+    auto* sceneLayout = new QVBoxLayout(scene);
+    sceneLayout->setContentsMargins(0, 0, 0, 0);
+    sceneLayout->setSpacing(0);
+    sceneLayout->addWidget(scenes, 1);
+    sceneLayout->addLayout(sceneTools);
+    QDockWidget* left = dock(QStringLiteral("scene"), tr("Scene"), scene, Qt::LeftDockWidgetArea);
     QDockWidget* right =
         dock(QStringLiteral("text"), tr("Text"), inspector, Qt::RightDockWidgetArea);
     findings = new FindingsList(this);
@@ -114,7 +126,7 @@ void MainWindow::MakeDocks()
     integrator = new IntegratorView(this);
     dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
         ->hide();
-    resizeDocks({left, right}, {248, 376}, Qt::Horizontal);
+    resizeDocks({left, right}, {216, 1}, Qt::Horizontal); // the right one as narrow as can be
     resizeDocks({left, below}, {400, 160}, Qt::Vertical);
 }
 
@@ -243,6 +255,7 @@ void MainWindow::RestoreLayout()
     restoreState(settings.value(QStringLiteral("docks")).toByteArray());
     findChild<QSplitter*>(QStringLiteral("centre"))
         ->restoreState(settings.value(QStringLiteral("centre")).toByteArray());
+    SetPitch(settings.value(QStringLiteral("pitch"), standardPitch).toDouble());
     leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
 }
 
@@ -297,7 +310,11 @@ void MainWindow::Refresh()
         selected = sign.texts.isEmpty() ? 0 : sign.texts.last().id;
     scenes->Show(sign);
     scenes->Select(selected);
-    inspector->Show(sign.Find(selected));
+    const SignText* text = sign.Find(selected);
+    inspector->Show(text);
+    const QString title = text ? text->Title() : QString();
+    findChild<QDockWidget*>(QStringLiteral("text"))
+        ->setWindowTitle(title.isEmpty() ? tr("Text") : title);
     QVector<AreaFrame> frames;
     for (const SignText& text : sign.texts) {
         if (text.page == CurrentPage())
@@ -492,6 +509,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     settings.setValue(QStringLiteral("centre"),
                       findChild<QSplitter*>(QStringLiteral("centre"))->saveState());
     settings.setValue(QStringLiteral("leds"), leds->isChecked());
+    settings.setValue(QStringLiteral("pitch"), pitch);
     event->accept();
 }
 

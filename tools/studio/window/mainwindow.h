@@ -19,7 +19,9 @@
 #include "studio/window/transportbar.h"
 #include "studio/worker/rehearsal.h"
 
+#include <QActionGroup>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QScrollArea>
 
@@ -97,6 +99,7 @@ private:
     void AddRecent(const QString& path);
     void SetZoom(int zoom);
     void SetLeds(bool on);
+    void SetPitch(double diameters);
     void ToggleLoop();
     QVector<int> PlayedIds() const;
     int CurrentPage() const;
@@ -114,6 +117,8 @@ private:
     QList<Finding> found;
     std::function<void()> afterSave; // what waits until all is saved
     bool mayClose = false;
+    static constexpr double standardPitch = 1.5;
+    double pitch = standardPitch; // from lamp to lamp, in their diameters
 
     DisplayView* view = nullptr;
     NoticeBar* notices = nullptr;
@@ -128,6 +133,8 @@ private:
     QAction* leds = nullptr;
     QAction* saveAction = nullptr;
     QToolBar* tools = nullptr;
+    QHBoxLayout* sceneTools = nullptr;
+    QActionGroup* pitches = nullptr;
 };
 
 } // namespace AnimText

@@ -12,8 +12,14 @@ QString TitleOf(const Motion& motion)
     QString title = QLatin1String(motion.name);
     title.replace(wordStart, QStringLiteral(" "));
     title.remove(QRegularExpression(QStringLiteral("^Effect ?| ?Effect$")));
+    title.replace(QStringLiteral("Continue Effect"), QStringLiteral("Scroll"));
     title[0] = title.at(0).toUpper();
     return title;
+}
+
+QString TranslatedMotion(const QString& words)
+{
+    return QCoreApplication::translate("Motions", words.toUtf8());
 }
 
 MotionModel::MotionModel(QObject* parent)
@@ -59,19 +65,21 @@ QVariant MotionModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole: return TitleOf(motion);
     case FamilyRole: return QLatin1String(motion.family);
     case SummaryRole:
-    case Qt::AccessibleDescriptionRole: return QLatin1String(motion.summary);
-    case PictureRole: return pictures.at(index.row());
+    case Qt::AccessibleDescriptionRole: return TranslatedMotion(QLatin1String(motion.summary));
+    case PictureRole: return pictures.at(index.row()).first;
+    case CurrentRole: return pictures.at(index.row()).second;
     case Qt::ToolTipRole:
         return QStringLiteral("%1 · %2\n%3")
-            .arg(TitleOf(motion), QLatin1String(motion.name), QLatin1String(motion.summary));
+            .arg(TitleOf(motion), QLatin1String(motion.name),
+                 TranslatedMotion(QLatin1String(motion.summary)));
     default: return {};
     }
 }
 
-void MotionModel::SetPicture(int row, const QImage& picture)
+void MotionModel::SetPicture(int row, const QImage& picture, bool isCurrent)
 {
-    pictures[row] = picture;
-    emit dataChanged(index(row), index(row), {PictureRole});
+    pictures[row] = {picture, isCurrent};
+    emit dataChanged(index(row), index(row), {PictureRole, CurrentRole});
 }
 
 } // namespace AnimText

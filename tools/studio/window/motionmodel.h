@@ -16,13 +16,16 @@ namespace AnimText {
 /** The name of a motion for people: "Word For Word Output". */
 QString TitleOf(const Motion& motion);
 
+/** @p words out of the catalogue of motions, in the language of the program. */
+QString TranslatedMotion(const QString& words);
+
 /** The thirty effects, and behind them the four scrolls. */
 class MotionModel : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    enum Role { FamilyRole = Qt::UserRole, SummaryRole, PictureRole };
+    enum Role { FamilyRole = Qt::UserRole, SummaryRole, PictureRole, CurrentRole };
 
     explicit MotionModel(QObject* parent = nullptr);
 
@@ -35,10 +38,10 @@ public:
     int RowOf(bool scroll, int number) const;
     QStringList Families() const;
 
-    void SetPicture(int row, const QImage& picture);
+    void SetPicture(int row, const QImage& picture, bool isCurrent);
 
 private:
-    QVector<QImage> pictures;
+    QVector<QPair<QImage, bool>> pictures; // and whether it is of the text as it is now
 };
 
 } // namespace AnimText

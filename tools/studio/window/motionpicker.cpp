@@ -38,13 +38,17 @@ public:
             painter->fillRect(box, accent);
         else if (option.state & QStyle::State_MouseOver)
             painter->fillRect(box, Mixed(accent, option.palette.color(QPalette::Base), 0.8));
-        const QRect screen(box.left() + (box.width() - thumbnailSize.width()) / 2,
-                           box.top() + cardPadding, thumbnailSize.width(), thumbnailSize.height());
+        const QRect screen(box.left() + cardPadding, box.top() + cardPadding, thumbnailSize.width(),
+                           thumbnailSize.height());
         painter->fillRect(screen, Qt::black);
         const QImage picture = index.data(MotionModel::PictureRole).value<QImage>();
+        // That of an earlier text stands back.
+        painter->setOpacity(index.data(MotionModel::CurrentRole).toBool() ? 1 : 0.4);
         if (!picture.isNull())
             painter->drawImage(screen.topLeft(), picture);
-        const QRect words(screen.left(), screen.bottom() + 1 + cardPadding / 2, screen.width(),
+        painter->setOpacity(1);
+        const QRect words(screen.left(), screen.bottom() + 1 + cardPadding / 2,
+                          box.right() - screen.left(),
                           option.fontMetrics.height() + cardPadding / 2);
         painter->setPen(
             option.palette.color(isChosen ? QPalette::HighlightedText : QPalette::Text));
@@ -79,7 +83,7 @@ protected:
         if (!family.isEmpty() && index.data(MotionModel::FamilyRole).toString() != family)
             return false;
         const QString all = index.data(Qt::ToolTipRole).toString() + QLatin1Char(' ') +
-                            index.data(MotionModel::FamilyRole).toString() +
+                            TranslatedMotion(index.data(MotionModel::FamilyRole).toString()) +
                             QStringLiteral(" #%1").arg(motions->At(row).number);
         for (const QString& word : words) {
             if (!all.contains(word, Qt::CaseInsensitive))
@@ -109,7 +113,8 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
     family->addItem(tr("All families"));
-    family->addItems(motions->Families());
+    for (const QString& english : motions->Families())
+        family->addItem(TranslatedMotion(english), english);
     family->setAccessibleName(tr("Family of motions"));
     filtered->setSourceModel(motions);
     list->setModel(filtered);
@@ -126,6 +131,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     list->setAccessibleName(tr("Motions"));
     list->setMinimumHeight(3 * (thumbnailSize.height() + 28));
     list->viewport()->installEventFilter(this);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
 
     auto* top = new QHBoxLayout;
     top->setSpacing(grid);
@@ -166,8 +172,7 @@ void MotionPicker::Show(const SignText& text)
 
 void MotionPicker::Filter()
 {
-    static_cast<MotionFilter*>(filtered)->Set(
-        search->text(), family->currentIndex() == 0 ? QString() : family->currentText());
+    static_cast<MotionFilter*>(filtered)->Set(search->text(), family->currentData().toString());
     const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
     const QSignalBlocker blocker(list->selectionModel());
     list->setCurrentIndex(index);
@@ -204,16 +209,30 @@ void MotionPicker::LookAtSight()
         if (!list->viewport()->visibleRegion().intersects(place))
             continue;
         const int motion = filtered->mapToSource(index).row();
-        const QImage picture =
-            thumbnails->Picture(motions->IsScroll(motion), motions->At(motion).number, tick);
-        if (!picture.isNull() &&
-            picture.cacheKey() != index.data(MotionModel::PictureRole).value<QImage>().cacheKey())
-            motions->SetPicture(motion, picture);
+        const bool scroll = motions->IsScroll(motion);
+        const int number = motions->At(motion).number;
+        const QImage picture = thumbnails->Picture(scroll, number, tick);
+        const bool isCurrent = thumbnails->IsCurrent(scroll, number);
+        if (picture.cacheKey() != index.data(MotionModel::PictureRole).value<QImage>().cacheKey() ||
+            isCurrent != index.data(MotionModel::CurrentRole).toBool())
+            motions->SetPicture(motion, picture, isCurrent);
     }
+}
+
+/** Columns that fill the list from side to side. */
+void MotionPicker::Spread()
+{
+    QStyleOptionViewItem option;
+    option.fontMetrics = list->fontMetrics();
+    const QSize card = list->itemDelegate()->sizeHint(option, QModelIndex());
+    const int room = list->viewport()->width() - 1;
+    list->setGridSize({room / qMax(1, room / card.width()), card.height()});
 }
 
 bool MotionPicker::eventFilter(QObject* object, QEvent* event)
 {
+    if (object == list->viewport() && event->type() == QEvent::Resize)
+        Spread();
     if (object == search && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return) {

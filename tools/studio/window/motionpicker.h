@@ -43,6 +43,7 @@ private:
     void Filter();
     void Choose(const QModelIndex& index);
     void LookAtSight();
+    void Spread();
 
     Thumbnails* thumbnails;
     MotionModel* motions;

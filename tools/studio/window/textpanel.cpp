@@ -9,6 +9,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QTextBlock>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -29,7 +30,8 @@ const QList<QColor> lampColors{QColor(255, 160, 0),  QColor(255, 0, 0),    QColo
 QIcon ColorIcon(const QColor& color)
 {
     QPixmap pixmap(32, 32);
-    pixmap.fill(color);
+    pixmap.fill(QColor(128, 128, 128)); // around it, that it is seen on any palette
+    QPainter(&pixmap).fillRect(2, 2, 28, 28, color);
     return pixmap;
 }
 

@@ -97,6 +97,11 @@ QImage Thumbnails::Picture(bool scroll, int number, int tick)
     return loop.pictures.at(tick % loop.pictures.size());
 }
 
+bool Thumbnails::IsCurrent(bool scroll, int number) const
+{
+    return loops.value(scroll ? scrollKeys + number : number).text == textNumber;
+}
+
 void Thumbnails::Ask(int key)
 {
     loops[key].isAsked = true;

@@ -17,7 +17,7 @@
 
 namespace AnimText {
 
-constexpr QSize thumbnailSize{128, 32}; ///< pixels
+constexpr QSize thumbnailSize{160, 40}; ///< pixels
 
 class Thumbnails : public QObject
 {
@@ -32,6 +32,8 @@ public:
     void SetText(const SignText& text);
     /** The picture of a motion at @p tick of its loop; null while there is none. Asks for it. */
     QImage Picture(bool scroll, int number, int tick);
+    /** Whether that is a picture of the text as it is now. */
+    bool IsCurrent(bool scroll, int number) const;
     /** How many motions have been asked for. */
     int Asked() const { return asked; }
 

@@ -20,6 +20,7 @@ constexpr int rowHeight = 24;
 constexpr int titleWidth = 128;
 constexpr int rightMargin = 16;
 constexpr int inset = 4;
+constexpr int ticksUnmeasured = 60; // that there is room for while nothing is known
 
 double TicksOf(qint64 milliseconds)
 {
@@ -87,7 +88,8 @@ void Timeline::SetSelected(int id)
 
 int Timeline::Ticks() const
 {
-    return std::max(timing.Ticks(), playback->Length());
+    const int least = timing.texts.isEmpty() ? ticksUnmeasured : 1;
+    return std::max({least, timing.Ticks(), playback->Length()});
 }
 
 double Timeline::XOf(double tick) const
@@ -166,6 +168,8 @@ void Timeline::paintEvent(QPaintEvent*)
                  QRect(0, rulerHeight + row * rowHeight - offset, viewport()->width(), rowHeight));
     painter.setClipping(false);
     PaintRuler(&painter);
+    if (rulerHeight + (ids.size() + 1) * rowHeight <= viewport()->height())
+        PaintLegend(&painter);
 
     const double x = std::round(XOf(playback->Tick() + 0.5));
     const QColor accent = palette().color(QPalette::Highlight);
@@ -208,15 +212,42 @@ void Timeline::PaintRuler(QPainter* painter) const
     painter->setPen(
         Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.85));
     painter->drawLine(0, rulerHeight - 1, viewport()->width(), rulerHeight - 1);
-    PaintLegend(painter);
-}
-
-void Timeline::PaintLegend(QPainter* painter) const
-{
-    painter->setPen(
-        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.35));
+    painter->setPen(Quiet(palette()));
     painter->drawText(QRect(inset * 2, 0, titleWidth - inset * 3, rulerHeight), Qt::AlignVCenter,
                       tr("Seconds"));
+}
+
+/** What the colors mean, below the rows. */
+void Timeline::PaintLegend(QPainter* painter) const
+{
+    const QPair<Phase, QString> entries[]{
+        {Entrance, tr("comes in")}, {Hold, tr("stands")}, {Cut, tr("cut off by the host")}};
+    painter->setFont(TabularFont(font(), -1));
+    const QFontMetrics metrics = painter->fontMetrics();
+    const int middle = viewport()->height() - rowHeight / 2;
+    int x = 2 * inset;
+    for (const auto& entry : entries) {
+        const QRect swatch(x, middle - 4, 12, 8);
+        Fill(painter, swatch, entry.first);
+        painter->setPen(Quiet(palette()));
+        x = swatch.right() + 1 + inset;
+        painter->drawText(x, middle + metrics.ascent() / 2 - 1, entry.second);
+        x += metrics.horizontalAdvance(entry.second) + 4 * inset;
+    }
+}
+
+void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
+{
+    const QColor base = palette().color(QPalette::Base);
+    const QColor accent = palette().color(QPalette::Highlight);
+    const double strength = stale ? 0.6 : 0;
+    if (phase == Cut) {
+        painter->fillRect(rect, Mixed(base, QColor(0, 0, 0, 0), 0.4));
+        painter->fillRect(rect, QBrush(Warning(palette()), Qt::BDiagPattern));
+    } else {
+        painter->fillRect(
+            rect, Mixed(Mixed(accent, base, phase == Entrance ? 0.15 : 0.65), base, strength));
+    }
 }
 
 void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
@@ -226,7 +257,6 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
     const QColor base = palette().color(QPalette::Base);
     const QColor ink = palette().color(QPalette::Text);
     const QColor accent = palette().color(QPalette::Highlight);
-    const double strength = stale ? 0.6 : 0;
     if (isSelected)
         painter->fillRect(rect, Mixed(accent, base, 0.88));
 
@@ -241,31 +271,26 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
                                                          titleWidth - 3 * inset));
 
     const QRectF bar(0, rect.top() + inset, 0, rowHeight - 2 * inset);
-    const auto block = [&](double from, double to, const QBrush& brush) {
+    const auto block = [&](double from, double to, Phase phase) {
         const double x = XOf(from);
-        painter->fillRect(QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()),
-                          brush);
+        Fill(painter, QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()), phase);
     };
     const double from = TicksOf(text.from);
     const double told = text.until >= 0 ? TicksOf(text.until) : from + TicksOf(text.told);
-    const QColor entrance = Mixed(Mixed(accent, base, 0.15), base, strength);
-    const QColor hold = Mixed(Mixed(accent, base, 0.65), base, strength);
     if (text.pages.isEmpty()) {
         const double end = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
         if (text.ending != Ending::NothingToPlay)
-            block(from, end, entrance);
+            block(from, end, Entrance);
     }
     for (const PageTime& page : text.pages) {
-        block(from + page.begin, from + page.hold, entrance);
+        block(from + page.begin, from + page.hold, Entrance);
         if (page.end > page.hold)
-            block(from + page.hold, from + page.end, hold);
+            block(from + page.hold, from + page.end, Hold);
     }
     // What the host cuts off, for it was told another time.
     const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
     if (text.ending != Ending::NothingToPlay && real > told + 0.01) {
-        const QRectF cut(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height());
-        painter->fillRect(cut, Mixed(base, QColor(0, 0, 0, 0), 0.4));
-        painter->fillRect(cut, QBrush(Warning(palette()), Qt::BDiagPattern));
+        Fill(painter, QRectF(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height()), Cut);
     }
     if (text.ending != Ending::NothingToPlay) {
         painter->setPen(QPen(Warning(palette()), 1));
@@ -280,8 +305,12 @@ QString Timeline::Describe(const QPoint& point) const
     if (point.y() < rulerHeight || row >= timing.texts.size())
         return tr("Click or drag to go to a moment; drag with Shift to loop over a range.");
     const TextTime& text = timing.texts.at(row);
-    const double tick = TickAt(point.x()) - TicksOf(text.from);
+    const int at = TickAt(point.x());
+    const double tick = at - TicksOf(text.from);
     QString what = titles.value(row);
+    if (point.x() >= titleWidth)
+        what +=
+            QLatin1Char('\n') + tr("%1, tick %2").arg(SecondsText(qint64(at) * tickLength)).arg(at);
     int number = 0;
     for (const PageTime& page : text.pages) {
         ++number;

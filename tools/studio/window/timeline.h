@@ -51,7 +51,9 @@ protected:
 private:
     void PaintRuler(QPainter* painter) const;
     void PaintRow(QPainter* painter, int row, const QRect& rect) const;
+    enum Phase { Entrance, Hold, Cut };
     void PaintLegend(QPainter* painter) const;
+    void Fill(QPainter* painter, const QRectF& rect, Phase phase) const;
     QString Describe(const QPoint& point) const;
     int Ticks() const;
     QVector<int> Marks() const;

@@ -3,14 +3,40 @@
 #include "studio/window/looks.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
+
+#include <cstdlib>
 
 namespace AnimText {
+namespace {
+
+/** Words that end in dots where there is no room for them, rather than ask for it. */
+class ShortLabel : public QLabel
+{
+public:
+    explicit ShortLabel(QWidget* parent)
+        : QLabel(parent)
+    {
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(contentsRect(), int(Qt::AlignRight | Qt::AlignVCenter),
+                         fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+    }
+};
+
+} // namespace
 
 TransportBar::TransportBar(Playback* playback, QWidget* parent)
     : QWidget(parent)
     , playback(playback)
     , time(new QLabel(this))
-    , ends(new QLabel(this))
+    , ends(new ShortLabel(this))
     , what(new QComboBox(this))
 {
     auto* toStart = Button(QStringLiteral("media-skip-backward"), tr("To the start"), tr("Home"));
@@ -34,7 +60,7 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
             playback->ClearLoop();
     });
 
-    what->addItems({tr("This page"), tr("All pages, as the host plays them")});
+    what->addItems({tr("This page"), tr("All pages")});
     what->setAccessibleName(tr("What is played"));
     what->setToolTip(tr("This page: all its texts from its start to their real ends.\n"
                         "All pages: one after another, each for the time that the host is told."));
@@ -45,7 +71,6 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     time->setMinimumWidth(
         time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s  tick 00000")));
     ends->setFont(TabularFont(font()));
-    ends->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
@@ -54,8 +79,7 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
         layout->addWidget(button);
     layout->addSpacing(2 * grid);
     layout->addWidget(time);
-    layout->addStretch(1);
-    layout->addWidget(ends);
+    layout->addWidget(ends, 1);
     layout->addSpacing(2 * grid);
     layout->addWidget(what);
 
@@ -109,9 +133,11 @@ QString EndsInWords(const TextTime& text)
     QString words =
         TransportBar::tr("told %1 · really %2").arg(SecondsText(text.told), SecondsText(text.real));
     const qint64 difference = text.real - text.told;
+    if (std::abs(difference) < tickLength)
+        return words; // the same, to a tick
     if (difference > 0)
         words += TransportBar::tr(" · %1 cut off").arg(SecondsText(difference));
-    else if (difference < 0)
+    else
         words += TransportBar::tr(" · stands %1 longer").arg(SecondsText(-difference));
     return words;
 }
@@ -119,8 +145,10 @@ QString EndsInWords(const TextTime& text)
 void TransportBar::ShowEnds(const TextTime* text)
 {
     ends->setText(text ? EndsInWords(*text) : QString());
+    ends->setToolTip(ends->text());
     QPalette colors = palette();
-    const bool isCut = text && text->ending == Ending::Finishes && text->real > text->told;
+    const bool isCut =
+        text && text->ending == Ending::Finishes && text->real - text->told >= tickLength;
     colors.setColor(QPalette::WindowText, isCut ? Warning(colors) : Quiet(colors));
     ends->setPalette(colors);
 }

@@ -18,9 +18,8 @@ WorkerLoop::WorkerLoop(VirtualDispatcher* dispatcher, const QString& pluginPath,
 
 int WorkerLoop::Run()
 {
-    QString error;
-    plugin = LoadPlugin(PluginPath(pluginPath), &error);
-    Send(Packed(Message::Ready, error));
+    plugin = LoadPlugin(PluginPath(pluginPath), &pluginError);
+    Send(Packed(Message::Ready, pluginError));
     while (!ended) {
         Message kind;
         QByteArray body;
@@ -79,7 +78,7 @@ void WorkerLoop::Handle(Message kind, const QByteArray& body)
 bool WorkerLoop::Read(const LoadOrder& from, Scene* read, QString* error) const
 {
     if (!plugin) {
-        *error = QStringLiteral("there is no plugin");
+        *error = pluginError;
         return false;
     }
     return ReadSceneText(from.scene, from.path, read, error, MissingFiles::AreAccepted);

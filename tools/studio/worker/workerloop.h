@@ -37,6 +37,7 @@ private:
 
     VirtualDispatcher* dispatcher;
     QString pluginPath;
+    QString pluginError;
     int output;
     bool ended = false;
     QByteArray received;

@@ -1,0 +1,194 @@
+// Takes the studio's screenshots for the documents: photograph-studio FOLDER [--dark]
+#include "studio/window/mainwindow.h"
+#include "studio/window/translating.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+using namespace AnimText;
+
+namespace {
+
+constexpr int patience = 120000; // milliseconds
+const QColor orange(255, 160, 0);
+
+template <typename Condition>
+bool WaitFor(const Condition& isTrue)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!isTrue() && clock.elapsed() < patience)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return isTrue();
+}
+
+QPalette Dark()
+{
+    QPalette palette(QColor(45, 47, 50));
+    palette.setColor(QPalette::Base, QColor(30, 31, 33));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 40, 42));
+    palette.setColor(QPalette::Highlight, QColor(53, 132, 228));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(64, 66, 70));
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    return palette;
+}
+
+/** A text in @p area, of letters @p size pixels high, with a motion and its speed. */
+SignText Text(const QString& words, const QRect& area, int size, bool scroll, int motion, int speed)
+{
+    SignText text = NewText(area.size(), 0);
+    StyleRun run = text.source.text.runs.first();
+    run.font.setPixelSize(size);
+    run.color = orange;
+    text.source.text = StyledText();
+    text.source.text.Append(words, run);
+    text.node.pos = area.topLeft();
+    text.node.attributes[QStringLiteral("EffectType")] = scroll ? 1 : 0;
+    text.node
+        .attributes[scroll ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect")] =
+        motion;
+    text.node
+        .attributes[scroll ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed")] =
+        speed;
+    text.layoutKey = LayoutKey(text);
+    return text;
+}
+
+Sign SignOf(const QSize& display, const QList<SignText>& texts)
+{
+    Sign sign;
+    sign.display = display;
+    for (const SignText& text : texts)
+        AddText(&sign, text);
+    return sign;
+}
+
+Sign Platform()
+{
+    SignText where = Text(QStringLiteral("Platform 4"), {0, 0, 336, 96}, 56, false, 5, 6);
+    SignText when = Text(QStringLiteral("Zürich 14:05"), {336, 0, 176, 48}, 26, false, 17, 7);
+    const StyleRun plain = where.source.text.runs.first();
+    StyleRun bold = plain;
+    bold.font.setBold(true);
+    bold.color = Qt::white; // which the sign does not heed
+    where.source.text = StyledText();
+    where.source.text.Append(QStringLiteral("Platform "), plain);
+    where.source.text.Append(QStringLiteral("4"), bold);
+    where.layoutKey = LayoutKey(where);
+    SignText next = Text(QStringLiteral("Mind the gap"), {0, 0, 512, 96}, 64, false, 4, 5);
+    next.page = 1;
+    return SignOf({512, 96}, {where, when,
+                              Text(QStringLiteral("calling at Thalwil, Zug and Luzern"),
+                                   {336, 48, 176, 48}, 26, true, 0, 4),
+                              next});
+}
+
+class Photographer
+{
+public:
+    explicit Photographer(const QString& folder)
+        : folder(folder)
+    {
+        window.resize(1680, 900);
+        window.New();
+        window.show();
+    }
+
+    /** Shows text @p index of @p sign at @p tick. */
+    bool Show(const Sign& sign, int index, int tick)
+    {
+        window.GetDocument()->Change(QStringLiteral("Sign"), sign);
+        window.Select(window.GetDocument()->Current().texts.at(index).id);
+        Rehearsal* rehearsal = window.GetRehearsal();
+        const auto isShown = [&] {
+            return window.GetDocument()->Current().IsLaidOut() && rehearsal->IsCurrent() &&
+                   rehearsal->IsMeasured();
+        };
+        if (!WaitFor(isShown))
+            return false;
+        window.GetPlayback()->Seek(tick);
+        return WaitFor([&] { return isShown() && AreMotionsThere(); });
+    }
+
+    bool Photograph(const QString& name)
+    {
+        window.GetDocument()->Undo()->clear();
+        QCoreApplication::processEvents();
+        const bool saved = window.grab().save(folder.filePath(name));
+        std::printf("%s\n", qPrintable(folder.filePath(name)));
+        return saved;
+    }
+
+    MainWindow window{QString()};
+
+private:
+    bool AreMotionsThere() const
+    {
+        const QListView* list = window.GetInspector()->Motions()->List();
+        for (int row = 0; row < list->model()->rowCount(); ++row) {
+            const QModelIndex index = list->model()->index(row, 0);
+            if (list->viewport()->rect().intersects(list->visualRect(index)) &&
+                !index.data(MotionModel::CurrentRole).toBool())
+                return false;
+        }
+        return true;
+    }
+
+    QDir folder;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const bool dark = argc == 3 && qstrcmp(argv[2], "--dark") == 0;
+    if (argc != 2 && !dark) {
+        std::fputs("photograph-studio FOLDER [--dark]\n", stderr);
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int ownName = 1;
+    QApplication application(ownName, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    if (dark)
+        QApplication::setPalette(Dark());
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName(QStringLiteral("animtext-studio-photographs"));
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    WorkerLink::SetProgram(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/animtext-studio"));
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+
+    SignText thrice = Text(QStringLiteral("Gleis 7"), {0, 0, 320, 64}, 52, false, 4, 5);
+    thrice.node.hold = 5;
+    thrice.node.attributes[QStringLiteral("PlayTimes")] = 3;
+    Translate(QLocale(QLocale::English));
+    Photographer photographer(folder);
+    bool all = photographer.Show(Platform(), 0, 22) &&
+               photographer.Photograph(QStringLiteral("studio.png"));
+    all = all &&
+          photographer.Show(SignOf({512, 64}, {thrice, Text(QStringLiteral("Zürich"),
+                                                            {320, 0, 192, 64}, 44, false, 17, 6)}),
+                            0, 70) &&
+          photographer.Photograph(QStringLiteral("studio-timeline.png"));
+    auto* leds = photographer.window.findChild<QAction*>(QStringLiteral("leds"));
+    leds->setChecked(true);
+    all = all &&
+          photographer.Show(
+              SignOf({96, 32}, {Text(QStringLiteral("Gleis 7"), {0, 0, 96, 32}, 24, false, 6, 6)}),
+              0, 20) &&
+          photographer.Photograph(QStringLiteral("studio-leds.png"));
+    if (!all)
+        std::fputs("photograph-studio: no picture came\n", stderr);
+    return all ? 0 : 1;
+}

@@ -1,0 +1,34 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>AnimText::FindingsList</name>
+    <message numerus="yes">
+        <source>And %n more</source>
+        <translation>
+            <numerusform>And %n more</numerusform>
+            <numerusform>And %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::IntegratorView</name>
+    <message numerus="yes">
+        <source>%n pixel(s) differ</source>
+        <translation>
+            <numerusform>%n pixel differs</numerusform>
+            <numerusform>%n pixels differ</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::MainWindow</name>
+    <message numerus="yes">
+        <source>%n finding(s)</source>
+        <translation>
+            <numerusform>%n finding</numerusform>
+            <numerusform>%n findings</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
