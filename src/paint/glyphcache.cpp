@@ -304,7 +304,7 @@ const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hair
     if (!ink.IsEmpty()) {
         image.words = (ink.right - ink.left + Plane::wordBits - 1) / Plane::wordBits;
         image.rows = ink.bottom - ink.top;
-        image.bits.reserve(static_cast<size_t>(2 * image.words * image.rows));
+        image.bits.reserve(2 * static_cast<size_t>(image.words) * static_cast<size_t>(image.rows));
         Gather(inside, ink, image.words, image.bits);
         Gather(hairlines, ink, image.words, image.bits);
     }

@@ -42,7 +42,7 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
     const Plane::Word* words = ink.Row(y);
     const int whole = width / Plane::wordBits;
     // One large clearing is quicker than many small ones.
-    std::memset(row, 0, static_cast<size_t>(width * bytesPerPixel));
+    std::memset(row, 0, static_cast<size_t>(width) * bytesPerPixel);
     for (int i = 0; i < whole; ++i) {
         Plane::Word word = words[i];
         if (word == 0)
@@ -56,7 +56,7 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
     for (Plane::Word word = rest > 0 ? words[whole] : 0; rest > 0; word >>= pixelsAtOnce) {
         const int pixels = rest < pixelsAtOnce ? rest : +pixelsAtOnce;
         std::memcpy(to, eights + (word & 255) * atOnce,
-                    static_cast<size_t>(pixels * bytesPerPixel));
+                    static_cast<size_t>(pixels) * bytesPerPixel);
         to += atOnce;
         rest -= pixels;
     }

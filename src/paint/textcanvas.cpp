@@ -62,8 +62,8 @@ void TextCanvas::SetSize(int width, int height)
         const Box box = {0, 0, std::min(width, mostPixels), std::min(height, mostPixels)};
         picture = box;
         Plane* const planes[] = {&ink, &inside, &keptInside, &keptHairlines};
-        for (size_t i = 0; i < sizeof planes / sizeof *planes; ++i)
-            planes[i]->SetSize(box.right, box.bottom);
+        for (Plane* plane : planes)
+            plane->SetSize(box.right, box.bottom);
         fill.SetSize(box.right, box.bottom);
         cache.SetSize(box.right, box.bottom);
     }

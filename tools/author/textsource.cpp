@@ -62,7 +62,7 @@ TextSource FromJson(const QJsonObject& json)
 {
     TextSource source;
     source.text.text = json.value(QStringLiteral("text")).toString();
-    for (const QJsonValue& value : json.value(QStringLiteral("runs")).toArray()) {
+    for (const auto& value : json.value(QStringLiteral("runs")).toArray()) {
         const QJsonObject object = value.toObject();
         StyleRun run;
         run.begin = object.value(QStringLiteral("begin")).toInt();

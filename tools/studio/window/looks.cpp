@@ -100,7 +100,7 @@ public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         const QPalette palette = QApplication::palette();
-        const QColor color = palette.color(
+        const QColor& color = palette.color(
             mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
         const bool filled = letters.startsWith(QLatin1Char('*'));
         QPainterPath path;

@@ -344,7 +344,7 @@ void MainWindow::OfferLostWork()
     const QList<LostWork> lost = recovery.Find();
     if (lost.isEmpty())
         return;
-    const LostWork work = lost.first();
+    const LostWork& work = lost.first();
     const QString name = work.path.isEmpty() ? tr("a new sign") : QFileInfo(work.path).fileName();
     notices->Set(
         NoticeBar::Recovery,
