@@ -112,7 +112,7 @@ void TestHostile::playsOn()
     QCOMPARE(Torv::Accounts().liveLayers, 0);
     QCOMPARE(TestSign::Dispatcher()->LiveTimers(), 0);
     const double most = scene.weight == Weight::Heavy ? mostHeavySeconds : mostSeconds;
-    QVERIFY2(seconds < (IsSanitized() ? 3 * most : most), qPrintable(QString::number(seconds)));
+    QVERIFY2(seconds < (IsSanitized() ? 6 * most : most), qPrintable(QString::number(seconds)));
     QVERIFY2(IsSanitized() || growth <= mostMemory, qPrintable(QString::number(growth)));
     if (qEnvironmentVariableIsSet("ANIMATIONTEXT_MEASURES"))
         std::printf("MEASURE %8.3f s %6lld MiB  %s\n", seconds, growth, scene.name.constData());

@@ -78,7 +78,7 @@ void NumberField::focusOutEvent(QFocusEvent* event)
 
 bool NumberField::eventFilter(QObject* object, QEvent* event)
 {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event); // none for other events
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         if (mouse->button() == Qt::LeftButton && !lineEdit()->hasFocus()) {
