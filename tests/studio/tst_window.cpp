@@ -4,6 +4,7 @@
 
 #include "testfolder.h"
 
+#include <QAccessible>
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QSettings>
@@ -53,6 +54,7 @@ private slots:
     void closesWhileItPaints();
     void leavingLosesNothing();
     void speaksGerman();
+    void everythingHasAName();
     void findingsAreMended();
     void exportsAndCancels();
     void integratorsSeeCallsFaultsAndAnotherLibrary();
@@ -214,6 +216,31 @@ void TestWindow::leavingLosesNothing()
     offer(1);
     QVERIFY(!window->isVisible());
     QVERIFY(folder.Read("left.json").contains("stays"));
+}
+
+/** For those who hear the window. */
+void TestWindow::everythingHasAName()
+{
+    ExportDialog dialog(window->GetDocument()->Current(), QString(), QString());
+    window->findChild<QDockWidget*>("integrator")->show();
+    QStringList nameless;
+    for (const QWidget* widget :
+         window->findChildren<QWidget*>() + dialog.findChildren<QWidget*>()) {
+        const bool isPart = qobject_cast<QAbstractSpinBox*>(widget->parentWidget()) ||
+                            widget->parent()->inherits("QComboBox") ||
+                            widget->parent()->inherits("QComboBoxPrivateContainer") ||
+                            QString(widget->metaObject()->className()).startsWith("QDockWidget") ||
+                            widget->objectName().startsWith("qt_");
+        if (isPart || !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        const QAccessibleInterface* told =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        if (!told || told->text(QAccessible::Name).isEmpty())
+            nameless.append(QString("%1 in %2")
+                                .arg(widget->metaObject()->className(),
+                                     widget->parent()->metaObject()->className()));
+    }
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(", ")));
 }
 
 void TestWindow::speaksGerman()

@@ -837,6 +837,10 @@
         <source>Remove text</source>
         <translation>Text entfernen</translation>
     </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::MotionPicker</name>

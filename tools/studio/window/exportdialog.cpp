@@ -47,6 +47,7 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     scale->setRange(1, 16);
     scale->setSuffix(tr(" ×"));
     schedule->setChecked(sign.PageCount() > 1);
+    output->setAccessibleName(tr("File"));
     command->setReadOnly(true);
     command->setFrame(false);
     command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));

@@ -178,8 +178,10 @@ void FindingsList::Fill(const QList<Row>& next)
     const auto say = [this](const QString& words) {
         auto* label = new QLabel(words);
         label->setWordWrap(true);
-        label->setForegroundRole(QPalette::PlaceholderText);
         list->addWidget(label);
+        QPalette colors = label->palette();
+        colors.setColor(QPalette::WindowText, Quiet(colors));
+        label->setPalette(colors);
     };
     for (int i = 0; i < std::min(rows.size(), mostShown); ++i)
         list->addWidget(MakeRow(i));

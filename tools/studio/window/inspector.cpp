@@ -16,6 +16,7 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* content = new QWidget(this);
     auto* layout = new QVBoxLayout(content);

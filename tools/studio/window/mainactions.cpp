@@ -110,7 +110,11 @@ void MainWindow::MakeEditMenu()
             ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     for (QAction* action : {add, addPage}) {
         auto* button = new QToolButton(this);
-        button->setDefaultAction(action);
+        button->setText(action == add ? tr("Text") : tr("Page"));
+        button->setIcon(action->icon());
+        button->setToolTip(action->toolTip());
+        button->setAccessibleName(action->iconText());
+        connect(button, &QToolButton::clicked, action, &QAction::trigger);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setAutoRaise(true);
         sceneTools->addWidget(button);

@@ -62,6 +62,7 @@ void MainWindow::MakeCentre()
     view->SetSurroundings(surroundings);
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // the display in it has it
     scroll->setWidgetResizable(true);
     scroll->setWidget(view);
     transport = new TransportBar(&playback, this);

@@ -227,6 +227,8 @@ void MotionPicker::Spread()
     const QSize card = list->itemDelegate()->sizeHint(option, QModelIndex());
     const int room = list->viewport()->width() - 1;
     list->setGridSize({room / qMax(1, room / card.width()), card.height()});
+    // Once the cards are in their places.
+    QTimer::singleShot(0, list, [this] { list->scrollTo(list->currentIndex()); });
 }
 
 bool MotionPicker::eventFilter(QObject* object, QEvent* event)

@@ -10,7 +10,7 @@
 namespace AnimText {
 namespace {
 
-/** Words that end in dots where there is no room for them, rather than ask for it. */
+/** Words that ask for no room: where it is short, what stands behind the last "·" is all. */
 class ShortLabel : public QLabel
 {
 public:
@@ -24,9 +24,12 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
+        const QRect room = contentsRect();
+        const bool isWhole = fontMetrics().horizontalAdvance(text()) <= room.width();
+        const QString words = isWhole ? text() : text().section(QStringLiteral(" · "), -1);
         painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(contentsRect(), int(Qt::AlignRight | Qt::AlignVCenter),
-                         fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+        painter.drawText(room, int(Qt::AlignRight | Qt::AlignVCenter),
+                         fontMetrics().elidedText(words, Qt::ElideRight, room.width()));
     }
 };
 
