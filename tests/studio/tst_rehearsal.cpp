@@ -172,6 +172,11 @@ void TestRehearsal::measuresPagesAndEnds()
     rehearsal.SetSign(sign, PartOf(-1, true));
     QVERIFY(measured.wait(patience));
     QCOMPARE(rehearsal.GetTiming().texts.first().until, text.told);
+    // So long that its time is told wrapped round; there is enough to look at all the same.
+    sign.texts.first().node.attributes["PlayTimes"] = 1000000;
+    rehearsal.SetSign(sign, PartOf(0));
+    QVERIFY(measured.wait(patience));
+    QVERIFY(rehearsal.GetTiming().isCut && rehearsal.GetTiming().Ticks() > 10000);
 }
 
 void TestRehearsal::keepsNoMoreThanItMay()

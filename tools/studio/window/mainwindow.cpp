@@ -20,6 +20,14 @@
 namespace AnimText {
 namespace {
 
+/** The menu goes on calling it by its name. */
+void SetTitle(QDockWidget* dock, const QString& title)
+{
+    const QString name = dock->toggleViewAction()->text();
+    dock->setWindowTitle(title);
+    dock->toggleViewAction()->setText(name);
+}
+
 constexpr int dimmingDelay = 100; // milliseconds for which a stale picture is not marked yet
 const QColor surroundings(96, 96, 96);
 constexpr QSize largestStandardSize(1760, 1040);
@@ -122,7 +130,7 @@ void MainWindow::MakeDocks()
     QDockWidget* below =
         dock(QStringLiteral("findings"), tr("Findings"), findings, Qt::LeftDockWidgetArea);
     connect(findings, &FindingsList::CountChanged, this, [below](int count) {
-        below->setWindowTitle(count == 0 ? tr("No findings") : tr("%n finding(s)", nullptr, count));
+        SetTitle(below, count == 0 ? tr("No findings") : tr("%n finding(s)", nullptr, count));
     });
     integrator = new IntegratorView(this);
     dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
@@ -314,8 +322,7 @@ void MainWindow::Refresh()
     const SignText* text = sign.Find(selected);
     inspector->Show(text);
     const QString title = text ? text->Title() : QString();
-    findChild<QDockWidget*>(QStringLiteral("text"))
-        ->setWindowTitle(title.isEmpty() ? tr("Text") : title);
+    SetTitle(findChild<QDockWidget*>(QStringLiteral("text")), title.isEmpty() ? tr("Text") : title);
     QVector<AreaFrame> frames;
     for (const SignText& text : sign.texts) {
         if (text.page == CurrentPage())

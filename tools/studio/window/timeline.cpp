@@ -276,7 +276,9 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
         Fill(painter, QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()), phase);
     };
     const double from = TicksOf(text.from);
-    const double told = text.until >= 0 ? TicksOf(text.until) : from + TicksOf(text.told);
+    // Very long times are told wrapped round.
+    const double told =
+        text.until >= 0 ? TicksOf(text.until) : from + TicksOf(std::max<qint64>(0, text.told));
     if (text.pages.isEmpty()) {
         const double end = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
         if (text.ending != Ending::NothingToPlay)

@@ -121,7 +121,8 @@ bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watc
         }
         timing->length = host.length;
     }
-    timing->length = std::min<qint64>(timing->length, qint64(longest) * tickLength);
+    const qint64 measured = qint64(longest) * tickLength;
+    timing->length = timing->isCut && !schedule ? measured : std::min(timing->length, measured);
     return true;
 }
 
