@@ -216,6 +216,7 @@ QWidget* FindingsList::MakeRow(int index)
     widget->setProperty("text", row.id);
     if (row.fix.change) {
         auto* button = new QPushButton(row.fix.words, widget);
+        button->setAutoDefault(true); // Return is heeded as Space is
         button->setToolTip(row.why);
         layout->addWidget(button, 1, 1);
         connect(button, &QPushButton::clicked, this, [this, index] { Mend(index); });
