@@ -180,7 +180,7 @@ void FindingsList::Fill(const QList<Row>& next)
         label->setWordWrap(true);
         list->addWidget(label);
         QPalette colors = label->palette();
-        colors.setColor(QPalette::WindowText, Quiet(colors));
+        colors.setColor(label->foregroundRole(), Quiet(colors));
         label->setPalette(colors);
     };
     for (int i = 0; i < std::min(rows.size(), mostShown); ++i)
