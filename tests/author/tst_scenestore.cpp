@@ -139,8 +139,13 @@ private slots:
     {
         const Sample sample(path, "text");
         QCOMPARE(Save(sample), Storing::Saved);
-        folder->Write(sample.files.firstKey(), QByteArray(sample.files.first().size(), 'A'));
-        QVERIFY(Save(sample) == Storing::Saved && Holds("sign.json", sample));
+        Sample refused = sample; // which removes none that was there
+        refused.scene.display.setWidth(16385);
+        for (const Sample& again : {sample, refused}) {
+            folder->Write(sample.files.firstKey(), QByteArray(sample.files.first().size(), 'A'));
+            QCOMPARE(Save(again) == Storing::Saved, again.scene.display == sample.scene.display);
+            QVERIFY(Holds("sign.json", sample));
+        }
     }
 
     // Neither the data files nor the scene can be written; what was there is what is there.

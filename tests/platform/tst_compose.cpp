@@ -43,6 +43,11 @@ private slots:
             QCOMPARE(shown(QRect(-3, -2, 5, 5), QSize(5, 5)), QRect(0, 0, 2, 3));
             QCOMPARE(shown(QRect(QPoint(INT_MAX - 5, INT_MIN), QSize(5, 5)), QSize(5, 5)), QRect());
             QCOMPARE(shown(QRect(2, 1, -4, -4), QSize(5, 3)), QRect());
+
+            QImage spot = SolidImage(type, QSize(5, 5), 0xFFFFFFFF);
+            spot.setPixelColor(3, 2, Qt::blue);
+            const TestSession cut(QSize(16, 10), type, spot, QRect(-3, -2, 5, 5));
+            QCOMPARE(cut.display.Compose(0).pixelColor(0, 0), QColor(Qt::blue));
         }
     }
 

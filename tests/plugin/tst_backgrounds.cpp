@@ -167,8 +167,8 @@ private slots:
             const QColor edge = play.stayImage().pixelColor(30, 0);
             const QColor middle = play.stayImage().pixelColor(30, 20);
             QVERIFY(edge.value() > 235 && edge.saturation() > 180);
-            QCOMPARE(middle.value() < 110, text >= 0x606060);
-            QCOMPARE(middle.saturation() < 80, text < 0x606060);
+            QCOMPARE(middle.value() > 80 && middle.value() < 100, text >= 0x606060);
+            QCOMPARE(middle.saturation() > 40 && middle.saturation() < 60, text < 0x606060);
         }
     }
 
@@ -177,6 +177,7 @@ private slots:
     void dazzleKeepsToItsPlace()
     {
         EngineFixture play;
+        play.text.node->SetSize(QSize(70, 64));
         QImage fill(4, 4, QImage::Format_RGB32);
         fill.fill(Qt::blue);
         QVERIFY(fill.save(play.text.File("fill.png")));
@@ -186,9 +187,9 @@ private slots:
                 play.Start({{"CheckNeonBg", neon}, {"CheckPictureFills", 1}});
                 play.engine.DrawDazzleBackground();
                 const QImage& picture = play.stayImage();
-                const int rim = 5 * neon; // an eighth of the height
-                const int right = 59 - rim;
-                const int bottom = 40 - rim;
+                const int rim = 8 * neon; // an eighth of the height
+                const int right = 69 - rim;
+                const int bottom = 63 - rim;
                 QCOMPARE(PaintedBox(picture), QRect(QPoint(rim, rim), QPoint(right, bottom)));
                 for (const QPoint& at : {QPoint(rim, 20), QPoint(rim + 2, 20), QPoint(right, 20),
                                          QPoint(30, rim), QPoint(30, bottom)})

@@ -131,6 +131,14 @@ private slots:
         }
     }
 
+    void canvasesAbove256MebibytesAreRefused()
+    {
+        EngineFixture play;
+        play.text.node->SetSize(QSize(16384, 4097));
+        play.Start({});
+        QVERIFY(play.drawImage().isNull() && play.stayImage().isNull());
+    }
+
     void theLayerBelowALineOverNeonIsTheArea()
     {
         EngineFixture play(Line({30, 80}));
