@@ -5,11 +5,11 @@
 #ifndef FUZZ_OUTLINES_H
 #define FUZZ_OUTLINES_H
 
+#include "support/serialised.h"
 #include "text/glyphdata.h"
 #include "text/limits.h"
 
 #include <QBuffer>
-#include <QDataStream>
 #include <QImage>
 #include <QPainter>
 #include <QPen>
@@ -22,16 +22,6 @@
 inline QByteArray Input(const uint8_t* data, size_t size)
 {
     return QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<int>(size));
-}
-
-template <typename T>
-QByteArray Serialised(const T& value)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_8);
-    stream << value;
-    return bytes;
 }
 
 /** What the reader promises of every outline that it lets through. */

@@ -7,8 +7,8 @@
 #define TESTS_RECTANGLETEXT_H
 
 #include "node/hanimationtextnode.h"
+#include "serialised.h"
 
-#include <QDataStream>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -17,17 +17,6 @@
 #include <memory>
 
 using Lw::HNodeAnimationText::HAnimationTextNode;
-
-/** @p value as Qt 4.8 writes it into a stream. */
-template <typename T>
-QByteArray Serialised(const T& value)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_8);
-    stream << value;
-    return bytes;
-}
 
 inline void WriteFile(const QString& path, const QByteArray& bytes)
 {

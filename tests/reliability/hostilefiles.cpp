@@ -14,7 +14,7 @@
 
 namespace {
 
-using Glyphs::Bytes, Glyphs::Element, Glyphs::File, Glyphs::Outline;
+using Glyphs::Element, Glyphs::File, Glyphs::Outline;
 
 /** A triangle that reaches as far as @p x, as a data file would have it. */
 QByteArray Triangle(double x)
@@ -95,10 +95,10 @@ void AddOuterLayers(Folder* folder, const QByteArray& inner)
         folder->Add(sample.name, sample.bytes);
     folder->Add("cut in half", sound.left(sound.size() / 2));
     folder->Add("with bytes behind", sound + QByteArray(1000, '\0'));
-    folder->AddSparse("too large a file", Bytes(quint32(300 << 20)), 300LL << 20);
-    folder->AddSparse("24 MiB of nothing", Bytes(quint32((24 << 20) - 4)), 24LL << 20);
-    folder->Add("inner count huge", File(Bytes(qint32(0x10000000)) + inner.mid(4)));
-    folder->Add("inner count 2^30 and no bytes", File(Bytes(qint32(1 << 30))));
+    folder->AddSparse("too large a file", Serialised(quint32(300 << 20)), 300LL << 20);
+    folder->AddSparse("24 MiB of nothing", Serialised(quint32((24 << 20) - 4)), 24LL << 20);
+    folder->Add("inner count huge", File(Serialised(qint32(0x10000000)) + inner.mid(4)));
+    folder->Add("inner count 2^30 and no bytes", File(Serialised(qint32(1 << 30))));
 }
 
 quint32 Crc(const QByteArray& bytes)
@@ -114,14 +114,14 @@ quint32 Crc(const QByteArray& bytes)
 
 QByteArray Chunk(const QByteArray& type, const QByteArray& data)
 {
-    return Bytes(quint32(data.size())) + type + data + Bytes(Crc(type + data));
+    return Serialised(quint32(data.size())) + type + data + Serialised(Crc(type + data));
 }
 
 /** A PNG that claims a size and has no pixels to show for it. */
 QByteArray PngClaiming(quint32 width, quint32 height)
 {
     return QByteArray("\x89PNG\r\n\x1A\n") +
-           Chunk("IHDR", Bytes(width, height) + QByteArray("\x08\x06\0\0\0", 5)) +
+           Chunk("IHDR", Serialised(width, height) + QByteArray("\x08\x06\0\0\0", 5)) +
            Chunk("IDAT", QByteArray::fromHex("789c63000000010001")) + Chunk("IEND", "");
 }
 
@@ -142,16 +142,16 @@ QList<HostileFile> HostilePathFiles(const QDir& where)
     const auto add = [&](const QByteArray& name, const QByteArray& outline,
                          Weight weight = Weight::Light) {
         // Between two sound ones, which keep their places.
-        folder.Add(name, File(Bytes(qint32(3)) + Triangle(9) + outline + Triangle(7)), weight);
+        folder.Add(name, File(Serialised(qint32(3)) + Triangle(9) + outline + Triangle(7)), weight);
     };
 
-    AddOuterLayers(&folder, Bytes(qint32(2)) + Triangle(9) + Triangle(8));
+    AddOuterLayers(&folder, Serialised(qint32(2)) + Triangle(9) + Triangle(8));
     folder.Add("descents instead", AnimText::DescentFile({1, 2, 3, 4, 5, 6}));
-    folder.Add("one outline", File(Bytes(qint32(1)) + Triangle(5)));
+    folder.Add("one outline", File(Serialised(qint32(1)) + Triangle(5)));
     folder.Add("100,000 outlines without a line",
-               File(Bytes(qint32(100000)) + QByteArray(400000, '\0')));
+               File(Serialised(qint32(100000)) + QByteArray(400000, '\0')));
     folder.Add("more outlines than characters",
-               File(Bytes(qint32(500)) + Triangle(5).repeated(500)));
+               File(Serialised(qint32(500)) + Triangle(5).repeated(500)));
     for (const Glyphs::Sample& sample : Glyphs::OutlineSamples())
         folder.Add(sample.name, File(sample.bytes),
                    sample.bytes.size() < 1 << 20 ? Weight::Light : Weight::Heavy);
@@ -169,7 +169,7 @@ QList<HostileFile> HostileDescentFiles(const QDir& where)
     Folder folder(where, "descent");
     constexpr int least = std::numeric_limits<int>::min();
     constexpr int most = std::numeric_limits<int>::max();
-    AddOuterLayers(&folder, Bytes(qint32(3), qint32(4), qint32(5), qint32(6)));
+    AddOuterLayers(&folder, Serialised(qint32(3), qint32(4), qint32(5), qint32(6)));
     for (const Glyphs::Sample& sample : Glyphs::DescentSamples())
         folder.Add(sample.name, File(sample.bytes));
     folder.Add("least", AnimText::DescentFile(QVector<int>(20, least)));

@@ -6,8 +6,8 @@
 #ifndef TESTS_MALFORMEDGLYPHS_H
 #define TESTS_MALFORMEDGLYPHS_H
 
-#include <QByteArray>
-#include <QDataStream>
+#include "serialised.h"
+
 #include <QString>
 #include <QVector>
 
@@ -15,26 +15,15 @@
 
 namespace Glyphs {
 
-/** @p values as Qt 4.8 writes them into a stream. */
-template <typename... Values>
-QByteArray Bytes(Values... values)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_8);
-    (stream << ... << values);
-    return bytes;
-}
-
 inline QByteArray Element(qint32 type, double x, double y)
 {
-    return Bytes(type, x, y);
+    return Serialised(type, x, y);
 }
 
 /** An outline of @p elements that says it has @p size of them. */
 inline QByteArray Sized(int size, const QByteArray& elements, qint32 start = 0, qint32 rule = 0)
 {
-    return Bytes(size) + elements + Bytes(start, rule);
+    return Serialised(size) + elements + Serialised(start, rule);
 }
 
 inline QByteArray Outline(const QByteArray& elements, qint32 start = 0, qint32 rule = 0)
@@ -59,7 +48,7 @@ inline QByteArray Polyline(int size)
 /** A data file around @p inner. */
 inline QByteArray File(const QByteArray& inner)
 {
-    return Bytes(inner.toBase64());
+    return Serialised(inner.toBase64());
 }
 
 /** The bytes within a data file. */
@@ -76,32 +65,35 @@ inline QVector<Sample> OutlineSamples()
     const QByteArray triangle = OfTypes("011"); // 72 bytes
     const QByteArray move = Element(0, 1, 2);
     const QByteArray corner = move + Element(1, 3, 4);
-    const QByteArray three = Bytes(3) + triangle.repeated(3);
+    const QByteArray three = Serialised(3) + triangle.repeated(3);
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
 
     QVector<Sample> samples{
         {"sound", three, {3, 3, 3}, ""},
         {"bytes behind", three + "more", {3, 3, 3}, ""},
-        {"none", Bytes(0), {}, ""},
-        {"without elements", Bytes(2, 0, 0), {0, 0}, ""},
+        {"none", Serialised(0), {}, ""},
+        {"without elements", Serialised(2, 0, 0), {0, 0}, ""},
         {"nothing", "", {}, "it holds no Base64 text"},
         {"half a count", three.left(3), {}, "it ends before the number of its entries"},
         {"more than bytes",
-         Bytes(55) + three.mid(4),
+         Serialised(55) + three.mid(4),
          {},
          "it announces 55 entries and has room for 54"},
         {"as many as there can be",
-         Bytes(-1) + three.mid(4),
+         Serialised(-1) + three.mid(4),
          {},
          "it announces 4294967295 entries and has room for 54"},
-        {"one more than there are", Bytes(4) + three.mid(4), {}, "it ends within outline 3 of 4"},
+        {"one more than there are",
+         Serialised(4) + three.mid(4),
+         {},
+         "it ends within outline 3 of 4"},
         {"cut in an element", three.left(100), {}, "it ends within outline 1 of 3"},
         {"cut in the last fill rule", three.chopped(1), {}, "it ends within outline 2 of 3"},
     };
     const auto between = [&](const char* name, const QByteArray& outline, const QVector<int>& read,
                              const QString& fault) {
-        samples.append({name, Bytes(3) + triangle + outline + triangle, read, fault});
+        samples.append({name, Serialised(3) + triangle + outline + triangle, read, fault});
     };
     const auto sound = [&](const char* name, const QByteArray& outline, int elements) {
         between(name, outline, {3, elements, 3}, "");
@@ -147,15 +139,15 @@ inline QVector<Sample> OutlineSamples()
 
 inline QVector<Sample> DescentSamples()
 {
-    const QByteArray two = Bytes(2, 4, -5);
+    const QByteArray two = Serialised(2, 4, -5);
     return {{"sound", two, {4, -5}, ""},
             {"bytes behind", two + "more", {4, -5}, ""},
-            {"none", Bytes(0), {}, ""},
+            {"none", Serialised(0), {}, ""},
             {"nothing", "", {}, "it holds no Base64 text"},
             {"half a count", two.left(2), {}, "it ends before the number of its entries"},
             {"cut", two.chopped(1), {}, "it announces 2 entries and has room for 1"},
             {"as many as there can be",
-             Bytes(-1, 4),
+             Serialised(-1, 4),
              {},
              "it announces 4294967295 entries and has room for 1"}};
 }
@@ -166,14 +158,17 @@ inline QVector<Sample> FileSamples()
     const QString noLength = "it has no length of 4 bytes at its beginning";
     return {{"empty", "", {}, noLength},
             {"three bytes", "abc", {}, noLength},
-            {"null array", Bytes(-1) + "text", {}, "it holds a null array"},
+            {"null array", Serialised(-1) + "text", {}, "it holds a null array"},
             {"length without bytes",
-             Bytes(0x7fffffff) + "QUJD",
+             Serialised(0x7fffffff) + "QUJD",
              {},
              "it announces 2147483647 bytes and has 4"},
-            {"length past the end by one", Bytes(5) + "QUJD", {}, "it announces 5 bytes and has 4"},
+            {"length past the end by one",
+             Serialised(5) + "QUJD",
+             {},
+             "it announces 5 bytes and has 4"},
             {"no Base64",
-             Bytes(QByteArray("\x80\xff !\"#$%&'()*,-.\n\0\t", 20)),
+             Serialised(QByteArray("\x80\xff !\"#$%&'()*,-.\n\0\t", 20)),
              {},
              "it holds no Base64 text"}};
 }

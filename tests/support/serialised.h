@@ -1,0 +1,21 @@
+/**
+ * @file
+ * What data files are made of.
+ */
+#ifndef TESTS_SERIALISED_H
+#define TESTS_SERIALISED_H
+
+#include <QDataStream>
+
+/** @p values as Qt 4.8 writes them into a stream. */
+template <typename... Values>
+QByteArray Serialised(const Values&... values)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_8);
+    (stream << ... << values);
+    return bytes;
+}
+
+#endif
