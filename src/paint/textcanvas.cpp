@@ -116,9 +116,7 @@ void TextCanvas::DrawGlyph(const TextPath::Item& item)
         return;
     const bool isWinding = outline.fillRule == Outline::Winding;
     if (!picture.IsEmpty() && clip == picture && IsIndependent(item, Transform())) {
-        GlyphCache::Finding found = cache.Find(item, isWinding, Rightward);
-        if (found.isWorthKeeping)
-            found.image = &PaintToKeep(item, isWinding, found.next);
+        const GlyphCache::Finding found = FindOrKeep(item, isWinding, Rightward);
         if (found.image) {
             GlyphCache::Unite(*found.image, GlyphCache::Inside, found.x, found.y, ink);
             GlyphCache::Unite(*found.image, GlyphCache::Hairlines, found.x, found.y, ink);
@@ -167,9 +165,7 @@ bool TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTran
         }
         GlyphCache::Finding found = {0, false, 0, 0, direction};
         if (!isMapped)
-            found = cache.Find(item, false, direction);
-        if (found.isWorthKeeping)
-            found.image = &PaintToKeep(item, false, found.next);
+            found = FindOrKeep(item, false, direction);
         if (found.image) {
             GlyphCache::Invert(*found.image, GlyphCache::Inside, found.x, found.y, inside);
             GlyphCache::Unite(*found.image, GlyphCache::Hairlines, found.x, found.y, ink);
@@ -208,6 +204,16 @@ void TextCanvas::PaintHairline(const Outline& outline, const Bounds& box, Plane&
     hairline.SetDirection(direction);
     hairline.Draw(outline, &points[0], box);
     direction = hairline.LastDirection();
+}
+
+/** What is kept of the glyph, now or already; without an image where it has to be painted. */
+GlyphCache::Finding TextCanvas::FindOrKeep(const TextPath::Item& item, bool isWinding,
+                                           Direction direction)
+{
+    GlyphCache::Finding found = cache.Find(item, isWinding, direction);
+    if (found.isWorthKeeping)
+        found.image = &PaintToKeep(item, isWinding, found.next);
+    return found;
 }
 
 /** The glyph alone; its hairline goes on in @p direction, which becomes the one that it leaves. */

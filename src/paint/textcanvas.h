@@ -73,6 +73,7 @@ public:
 private:
     void DrawPlain(const Outline& path, const Transform& transform);
     bool DrawOneByOne(const TextPath& text, const Transform& painterTransform);
+    GlyphCache::Finding FindOrKeep(const TextPath::Item& item, bool isWinding, Direction direction);
     const GlyphCache::Image& PaintToKeep(const TextPath::Item& item, bool isWinding,
                                          Direction& direction);
     bool IsOutside(const Bounds& box) const;

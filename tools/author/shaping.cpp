@@ -46,6 +46,17 @@ void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* la
     layout->setTextOption(Option(wrap));
 }
 
+/** The text on one line, which lives as long as its @p layout. */
+QTextLine WholeLine(const StyledText& text, QTextLayout* layout)
+{
+    Prepare(text, QTextOption::NoWrap, layout);
+    layout->beginLayout();
+    QTextLine line = layout->createLine();
+    line.setLineWidth(1 << 24);
+    layout->endLayout();
+    return line;
+}
+
 Bar UnderlineOf(const QFont& font)
 {
     if (!font.underline())
@@ -218,11 +229,7 @@ private:
         // Clusters that follow one another in the same direction keep together on any line that
         // holds them all; only where such a sequence stands has to be asked of the whole line.
         QTextLayout layout;
-        Prepare(text, QTextOption::NoWrap, &layout);
-        layout.beginLayout();
-        QTextLine line = layout.createLine();
-        line.setLineWidth(1 << 24);
-        layout.endLayout();
+        const QTextLine line = WholeLine(text, &layout);
 
         struct Sequence
         {
@@ -272,11 +279,7 @@ ShapedLine ShapeLine(const StyledText& text)
 LineSize MeasureLine(const StyledText& text)
 {
     QTextLayout layout;
-    Prepare(text, QTextOption::NoWrap, &layout);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(1 << 24);
-    layout.endLayout();
+    const QTextLine line = WholeLine(text, &layout);
     return {qCeil(line.ascent()), qCeil(line.descent()), qCeil(line.naturalTextWidth())};
 }
 
