@@ -18,8 +18,8 @@ void animationRealization::WordForWordOutputEffect()
         if (IsLastPageOver())
             pageIndex = 1;
     }
-    // The character advances in the frame that hands the page over, too: a run's first frame is
-    // empty, the first frame of its other pages is not.
+    // The frame that hands the page over also takes the next character: only the first page of a
+    // run begins with an empty frame.
     Advance(charIndex, 1);
     ++frameCount;
     if (charIndex > text.size()) {

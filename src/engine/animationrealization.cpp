@@ -98,7 +98,7 @@ animationRealization::animationRealization(QObject* parent)
     dazzleColors.append(QColor::fromHsv(0, 207, 255, 255));
 
     KeepTime(dazzleTimer);
-    // Here and not at each start, which would draw the background once more a tick each time.
+    // Connected once: after a second connection every tick would draw the background twice.
     connect(&dazzleTimer, SIGNAL(timeout()), this, SLOT(UpdateDazzleBackground()));
 }
 
@@ -149,7 +149,7 @@ int animationRealization::Init(HAnimationTextNode* newNode)
 
     charPaths = node->GetPainterPaths();
     if (charPaths.size() > text.size())
-        charPaths.resize(text.size()); // what the files have more is nobody's
+        charPaths.resize(text.size()); // the rest belongs to no character
     textPath.Clear();
     glyphs.clear();
     glyphs.resize(size_t(charPaths.size()));
@@ -193,8 +193,8 @@ QImage animationRealization::NewCanvas(const QSize& size, QImage::Format format)
         qint64(size.width()) * size.height() > maxCanvasBytes / bytesPerPixel)
         return QImage();
     QImage canvas(size, format);
-    // With what pads the rows, which fill() leaves as it is: the tail of a long line is copied by
-    // rows of bytes, and its padding may come to stand in the picture.
+    // Also the bytes that pad the rows, which fill() leaves alone: the tail of a long line is
+    // copied in whole rows, and their padding may end up within the picture.
     if (!canvas.isNull())
         std::memset(canvas.bits(), 0, size_t(canvas.bytesPerLine()) * size_t(canvas.height()));
     return canvas;

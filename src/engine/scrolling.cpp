@@ -74,7 +74,7 @@ void animationRealization::DrawTail(int first, int end)
         return;
     auxPath.Clear();
     for (int k = first; k < end; ++k) {
-        // What lies before the latched start stands in the line's first part.
+        // Where widths are negative, a character may stand before the tail: it is painted already.
         if (charPositions.value(k) > lastPaintableX)
             auxPath.Append(GlyphOf(k).Shape(), float(charPositions.value(k) - start),
                            float(RestY(k)));

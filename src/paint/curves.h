@@ -18,7 +18,8 @@ struct Place
 
 inline Place Middle(const Place& a, const Place& b)
 {
-    // Halves are truncated toward zero, which is another way left of and above the picture.
+    // Halves are truncated toward zero: to the right and down left of and above the picture, to the
+    // left and up within it.
     const Place middle = {Sum(a.x, b.x) / 2, Sum(a.y, b.y) / 2};
     return middle;
 }

@@ -75,7 +75,7 @@ void Edges<Sink>::Line(Place a, Place b)
     const int32_t moved = static_cast<int32_t>((int64_t(step) * below) >> 16);
     Run run = {Sum(start, moved), step, top, bottom, winding};
     const int64_t last = run.x + int64_t(step) * (bottom - top);
-    const bool isInside = run.x > left && run.x < right && last > left && last < right; // most are
+    const bool isInside = run.x > left && run.x < right && last > left && last < right;
     if (isInside)
         sink.AddInside(run, static_cast<int32_t>(last));
     else if (CutAtBorder(left, false, run) && CutAtBorder(right, true, run))
@@ -316,7 +316,7 @@ void Fill::Close(const Outline& outline)
     for (size_t i = 0; i <= outline.Size(); ++i) {
         const bool atEnd = i == outline.Size();
         if (i > 0 && (atEnd || outline.At(i).type == Outline::Move)) {
-            // Small gaps stay open.
+            // The device leaves gaps open that are smaller than its comparison of floats tells.
             const Outline::Element first = closed.At(start);
             if (!NearlyEqual(closed.At(closed.Size() - 1), first))
                 closed.LineTo(first.x, first.y);
@@ -450,7 +450,7 @@ void Fill::PaintCrossings(Plane& ink)
     for (size_t i = 0; i < crossings.size(); ++i) {
         const Crossing& c = crossings[i];
         if (i == 0 || crossings[i - 1].row != c.row)
-            winding = 0; // the last of a row paints nothing after it
+            winding = 0; // a new row begins outside
         else if (winding & inside)
             ink.SetRun(c.row, crossings[i - 1].column, c.column);
         winding += c.winding;

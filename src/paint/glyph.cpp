@@ -78,7 +78,7 @@ void Fineness::Add(const ExactPoint& p)
                 double(float(p.x)) != p.x || double(float(p.y)) != p.y;
 }
 
-/** As the hairline follows it; the fill computes in integers. */
+/** Halved as the hairline halves it, in floats; the fill computes in integers. */
 void Fineness::Add(const ExactPoint* curve, int level)
 {
     Point p[4];
@@ -90,7 +90,7 @@ void Fineness::Add(const ExactPoint* curve, int level)
         return;
     ExactPoint halves[7] = {curve[0], curve[1], curve[2], curve[3], {0, 0}, {0, 0}, {0, 0}};
     Halve(halves);
-    // What becomes of the two middles is halved from this one, too.
+    // A point on the way that is not among the halves.
     Add(Middle(curve[1], curve[2]));
     for (int i = 1; i < 6; ++i)
         Add(halves[i]);
@@ -116,7 +116,7 @@ void Fineness::Add(const Outline& outline)
     }
 }
 
-/** What has so many bits behind the point, may have so many before it. */
+/** How far out a coordinate whose lowest bit is the lowest of @p bits is still held by a float. */
 float Fineness::Within(int64_t bits)
 {
     const float mantissa = 1 << 24;
@@ -155,7 +155,8 @@ Glyph::Glyph(Outline outline)
         return;
     box = Bounds(&shape.At(0), shape.Size());
 
-    // Some fonts leave a move behind. At a path's end it paints nothing; what follows replaces it.
+    // Some fonts end a glyph with a move. It paints nothing: not at the end of a path, and before
+    // another glyph that glyph's own move replaces it.
     const size_t last = shape.Size() - 1;
     const bool endsWithMove = last > 0 && shape.At(last).type == Outline::Move;
     isClosed = isClosed && AreSubpathsClosed(shape, endsWithMove ? last : last + 1);

@@ -25,11 +25,11 @@ const size_t mostImageBytes = 256 * 1024;
 const unsigned lookupsForHit = 16;
 const unsigned mostLookups = 1024; // that count
 
-// So far from the picture's borders no pixel of a glyph is cut, and no coordinate is less than 0.
+// A glyph that keeps this far from the borders is painted whole, with no coordinate below 0.
 const float margin = 3;
 
-// Keys of places along an axis: the bits of a float, or, where those of no number are, the power of
-// two that all coordinates lie above, or that it does not matter.
+// A place along an axis as a key: the bits of its float; or, for places that give the same pixels,
+// bits that no number has: betweenPowers with the power of two below all coordinates, or anywhere.
 const uint32_t betweenPowers = 0xff800000u;
 const uint32_t anywhere = 0xffffffffu;
 
@@ -79,7 +79,8 @@ void Stamp(const GlyphCache::Image& image, GlyphCache::Part part, int x, int y, 
         for (int i = 0; i < image.words; ++i) {
             const Word bits = *from++;
             Operation::Apply(to[i], bits << shift);
-            // Zeros where the image ends; the plane has room for them after its last row.
+            // Past the image's right end these bits are 0; the plane has a word to spare after its
+            // last row for them.
             Operation::Apply(to[i + 1], bits >> 1 >> (Plane::wordBits - 1 - shift));
         }
     plane.MarkRows(y, y + image.rows);
@@ -206,7 +207,7 @@ const Bounds* GlyphCache::FindShape(const TextPath::Item& item)
     if (known.number != item.number || !(known.transform == item.shape)) {
         if (nextShape > mostShapes) {
             nextShape = 0;
-            ForgetImages(); // whose numbers come again
+            ForgetImages(); // the numbers of shapes begin anew
         }
         known.number = item.number;
         known.glyph = nextShape++ << 1 | 1;
@@ -248,7 +249,7 @@ GlyphCache::Entry& GlyphCache::EntryLookedFor()
 {
     const bool isFull = entered >= entries.size() && entries.size() < mostEntries;
     if (isFull) {
-        // What was seen is seen again soon.
+        // The larger table begins empty: what is in use is entered again within a few frames.
         const Entry none = {0, 0, 0, noDirection, 0, neverSeen};
         entries.assign(std::max(fewestEntries, 4 * entries.size()), none);
         entered = 0;
@@ -262,7 +263,7 @@ GlyphCache::Entry& GlyphCache::EntryLookedFor()
     for (size_t i = 0; i < entriesInRow; ++i)
         if (row[i].IsSamePlace(lookedFor))
             return row[i];
-    // The one that came first gives way.
+    // The oldest of the row gives way.
     std::copy_backward(row, row + entriesInRow - 1, row + entriesInRow);
     row[0] = lookedFor;
     row[0].image = neverSeen;
@@ -315,7 +316,7 @@ const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hair
     return images[static_cast<size_t>(number)];
 }
 
-/** Of an equal one that is kept already, or of this one. */
+/** The number of an equal image that is kept already; else of this one, kept from now on. */
 int GlyphCache::NumberOf(const Image& image)
 {
     for (size_t i = 0; i < images.size(); ++i)

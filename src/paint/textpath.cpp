@@ -6,7 +6,7 @@ namespace HNodeAnimationText {
 void TextPath::Add(const Glyph& glyph, int number, const Transform& shape, float x, float y)
 {
     if (glyph.Shape().IsEmpty())
-        return; // as a path appends it
+        return; // as QPainterPath::addPath() does
     const Item item = {&glyph, number, shape, x, y};
     items.push_back(item);
 }

@@ -88,7 +88,8 @@ int HAnimationTextRender::ScheduledDuration()
     HNode* const program = page ? page->ParentNode() : 0;
     const bool aloneInArea = ChildCount(area) == 1;
 
-    // Alone in everything: practically for ever. The product wraps, and the device takes it so.
+    // The only node of the only page: practically for ever. The product overflows, and the device
+    // takes what is left of it.
     if (aloneInArea && ChildCount(program) == 1)
         return WrappingProduct(LineDuration(), forEver);
 
@@ -105,7 +106,7 @@ int HAnimationTextRender::ScheduledDuration()
 
 void HAnimationTextRender::StartInit(QImage& image)
 {
-    // Stop() silences a play that is just beginning; what ran before it goes on.
+    // Stop() also ends the timer; one that was ticking has to go on.
     const bool ticking = drawTimer.isActive();
     Stop();
     if (ticking)
