@@ -90,7 +90,7 @@ QByteArray CompletionForBash(const QVector<Command>& commands)
 
 QByteArray CompletionForZsh(const QVector<Command>& commands)
 {
-    // Colons and brackets end the parts of a description.
+    // Colons and brackets end what a description is made of.
     const auto plain = [](QByteArray text) {
         return text.replace("[", "\\[").replace("]", "\\]").replace(":", "\\:");
     };

@@ -56,7 +56,7 @@ MainWindow::MainWindow(const QString& plugin)
 
 MainWindow::~MainWindow()
 {
-    // What the parts would tell while they go has nobody to hear it.
+    // What the widgets would tell while they go has nobody to hear it.
     document.disconnect(this);
     rehearsal.disconnect(this);
     for (QObject* part : findChildren<QObject*>())
