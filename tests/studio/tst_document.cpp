@@ -88,9 +88,9 @@ void TestDocument::keepsSourcesBesideTheScene()
     source.padding = 3;
     source.fit = Fit::Both;
     source.keepsWords = false;
+    const TextSource wanted = source;
     AddText(&sign, NewText(QSize(100, 30), 1));
     document.Change("Text", sign);
-    const TextSource wanted = source;
     const QString path = folder.Path("sign.json");
     QVERIFY(Saves(&document, path));
     QVERIFY(!document.IsModified());
