@@ -20,17 +20,21 @@ const int columnsPerLine = 100;
 
 const qreal tolerance = 0.02; // pixels; the layout counts in 1/64
 
-QTextOption Option(QTextOption::WrapMode wrap)
+QTextOption Option(QTextOption::WrapMode wrap, Qt::LayoutDirection direction)
 {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setTextDirection(Qt::LayoutDirectionAuto); // that of the first letter
+    option.setTextDirection(direction);
     option.setWrapMode(wrap);
     option.setFlags(QTextOption::IncludeTrailingSpaces);
     return option;
 }
 
+// That of the first letter.
+const Qt::LayoutDirection ownDirection = Qt::LayoutDirectionAuto;
+
 /** The text with its styles, not laid out yet. */
-void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* layout)
+void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* layout,
+             Qt::LayoutDirection direction = ownDirection)
 {
     QVector<QTextLayout::FormatRange> formats;
     for (int r = 0; r < text.runs.size(); ++r) {
@@ -43,18 +47,47 @@ void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* la
     layout->setText(text.text);
     layout->setFont(text.runs.first().font);
     layout->setFormats(formats);
-    layout->setTextOption(Option(wrap));
+    layout->setTextOption(Option(wrap, direction));
 }
 
 /** The text on one line, which lives as long as its @p layout. */
-QTextLine WholeLine(const StyledText& text, QTextLayout* layout)
+QTextLine WholeLine(const StyledText& text, QTextLayout* layout,
+                    Qt::LayoutDirection direction = ownDirection)
 {
-    Prepare(text, QTextOption::NoWrap, layout);
+    Prepare(text, QTextOption::NoWrap, layout, direction);
     layout->beginLayout();
     QTextLine line = layout->createLine();
     line.setLineWidth(1 << 24);
     layout->endLayout();
     return line;
+}
+
+/** Where the reading of a unit begins and ends. */
+struct Edges
+{
+    qreal leading;
+    qreal trailing;
+};
+
+/** @p fromRight is the text's direction; @p width answers how wide the unit is. */
+template <typename Width>
+Edges EdgesOf(const QTextLine& line, int unit, bool fromRight, Width width)
+{
+    Edges edges{line.cursorToX(unit, QTextLine::Leading),
+                line.cursorToX(unit, QTextLine::Trailing)};
+#if QT_VERSION >= 0x060000
+    // Where words of the other direction begin, a cursor of Qt 6 stands before them, not at their
+    // first unit, and behind ligatures it may do so too. The glyph itself stands where it should.
+    const QList<QGlyphRun> glyphs = line.glyphRuns(unit, 1);
+    if (!glyphs.isEmpty() && glyphs.first().isRightToLeft() != fromRight) {
+        const qreal left = glyphs.first().positions().first().x();
+        edges = fromRight ? Edges{left, left + width()} : Edges{left + width(), left};
+    }
+#else
+    Q_UNUSED(fromRight)
+    Q_UNUSED(width)
+#endif
+    return edges;
 }
 
 Bar UnderlineOf(const QFont& font)
@@ -90,6 +123,7 @@ public:
 
     ShapedLine Shape()
     {
+        result.rightToLeft = text.text.isRightToLeft();
         QTextLayout layout;
         Prepare(text, QTextOption::WrapAnywhere, &layout);
         layout.beginLayout();
@@ -100,11 +134,19 @@ public:
         for (int i = 0; i < layout.lineCount(); ++i)
             AddLine(layout, layout.lineAt(i));
         result.visualOrder = VisualOrder();
-        result.rightToLeft = text.text.isRightToLeft();
         return result;
     }
 
 private:
+    /** How wide a unit is that stands among words of the other direction. */
+    qreal WidthAmongTheOthers(int unit)
+    {
+        if (turned.text().isEmpty())
+            WholeLine(text, &turned, result.rightToLeft ? Qt::LeftToRight : Qt::RightToLeft);
+        const QTextLine line = turned.lineAt(0);
+        return qAbs(line.cursorToX(unit, QTextLine::Trailing) - line.cursorToX(unit));
+    }
+
     void AddLine(const QTextLayout& layout, const QTextLine& line)
     {
         result.ascent = qMax(result.ascent, qCeil(line.ascent()));
@@ -125,8 +167,9 @@ private:
             cluster.units = 1;
             cluster.underline = underlines[int(&text.At(i) - text.runs.constData())];
             result.clusters.append(cluster);
-            places.append({line.lineNumber(), line.cursorToX(i, QTextLine::Leading),
-                           line.cursorToX(i, QTextLine::Trailing), 1});
+            const Edges edges =
+                EdgesOf(line, i, result.rightToLeft, [&] { return WidthAmongTheOthers(i); });
+            places.append({line.lineNumber(), edges.leading, edges.trailing, 1});
         }
         for (int k = begin; k < result.clusters.size(); ++k) {
             if (places[k].groups > 1)
@@ -242,7 +285,10 @@ private:
             qreal width = result.clusters[begin].advance;
             for (end = begin + 1; end < places.size() && Follows(end); ++end)
                 width += result.clusters[end].advance;
-            const qreal leading = line.cursorToX(result.clusters[begin].first);
+            const qreal leading =
+                EdgesOf(line, result.clusters[begin].first, result.rightToLeft, [&] {
+                    return result.clusters[begin].advance;
+                }).leading;
             sequences.append({places[begin].RightToLeft() ? leading - width : leading, begin, end});
         }
         std::stable_sort(sequences.begin(), sequences.end(),
@@ -266,6 +312,7 @@ private:
     QVector<Bar> underlines; // by run
     ShapedLine result;
     QVector<PlacedCluster> places;
+    QTextLayout turned; // the text as if its letters ran the other way; empty until it is asked
     QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
 };
 
