@@ -2,6 +2,10 @@
 // moveOffset is the phase.
 #include "engine/frame.h"
 
+#if QT_VERSION >= 0x060000
+#include <qrand.h>
+#endif
+
 #include <cmath>
 
 namespace Lw {

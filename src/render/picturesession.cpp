@@ -44,7 +44,7 @@ void HAnimationTextRender::SetSession(Effect* effect, QImage& image)
         return;
     const QPoint pos = node->Pos();
     const QSize area = node->Size();
-    const PicImage picture = {image.width(), image.height(), image.bytesPerLine(),
+    const PicImage picture = {image.width(), image.height(), int(image.bytesPerLine()),
                               image.constBits()};
     const PicPlacement placement = {pos.x(), pos.y(), area.width(),  area.height(),
                                     0,       0,       image.width(), image.height()};

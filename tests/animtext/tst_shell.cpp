@@ -85,7 +85,9 @@ QStringList Printed(const Session& start, const Session& session)
 {
     const Samples folder;
     const TestFolder output;
-    QString script = "state() { find . -type f -exec cksum {} + | sort; }\n"
+    QString script = "QT=" + QString::number(QT_VERSION_MAJOR) +
+                     "\n"
+                     "state() { find . -type f -exec cksum {} + | sort; }\n"
                      "VERSION=" ANIMTEXT_VERSION "\n"
                      "LIBRARIES='" +
                      QString(ANIMTEXT_LIBRARIES).replace("'", "'\\''") + "'\n";

@@ -1,5 +1,9 @@
 #include "script.h"
 
+#if QT_VERSION >= 0x060000
+#include <qrand.h>
+#endif
+
 namespace {
 
 QVector<int> Numbers(const QString& text, QRegularExpression apart = QRegularExpression("[,x:]"))

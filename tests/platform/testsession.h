@@ -24,7 +24,8 @@ inline PicSession Create(int type, const QImage& image, const QRect& area,
                          const Effect& effect = NoEffect)
 {
     const QSize size = image.size();
-    const PicImage picture = {size.width(), size.height(), image.bytesPerLine(), image.constBits()};
+    const PicImage picture = {size.width(), size.height(), int(image.bytesPerLine()),
+                              image.constBits()};
     const PicPlacement placement = {area.x(), area.y(), area.width(), area.height(),
                                     0,        0,        size.width(), size.height()};
     return CreatePictureSession(type, &picture, 16, &effect, &placement, KeyWord);

@@ -32,7 +32,8 @@ private slots:
         const QVector<int> texts[] = {{30}, {30, 20, 40}, {70, 5, 31, 30, 30}};
         for (int effect = 0; effect < 30; ++effect)
             for (const QVector<int>& widths : texts)
-                QTest::addRow("effect %d, %d characters from %d", effect, widths.size(), widths[0])
+                QTest::addRow("effect %d, %d characters from %d", effect, int(widths.size()),
+                              widths[0])
                     << effect << widths;
     }
 

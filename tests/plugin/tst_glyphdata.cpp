@@ -167,8 +167,8 @@ void TestGlyphData::absentAndOddFilesLeaveNothing()
     const Messages messages;
     text.node->InitPainterPath();
     QTEST(messages.Taken(), "messages");
-    QTEST(text.node->GetPainterPaths().size(), "outlineCount");
-    QTEST(text.node->GetDescentData().size(), "descentCount");
+    QTEST(int(text.node->GetPainterPaths().size()), "outlineCount");
+    QTEST(int(text.node->GetDescentData().size()), "descentCount");
 }
 
 void TestGlyphData::soundDataStaysAsItIs()

@@ -137,7 +137,9 @@ private slots:
         }
         symbols.sort();
         QVERIFY(editor);
-        QCOMPARE(symbols, QStringList({"qt_plugin_instance", "qt_plugin_query_metadata",
+        const QString metadata =
+            QT_VERSION < 0x060000 ? "qt_plugin_query_metadata" : "qt_plugin_query_metadata_v2";
+        QCOMPARE(symbols, QStringList({"qt_plugin_instance", metadata,
                                        "qt_plugin_query_verification_data"}));
     }
 

@@ -30,7 +30,8 @@ void TakeMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 
 } // namespace
 
-void CountingDispatcher::registerTimer(int id, int interval, Qt::TimerType type, QObject* object)
+void CountingDispatcher::registerTimer(int id, Interval interval, Qt::TimerType type,
+                                       QObject* object)
 {
     if (qobject_cast<QTimer*>(object))
         live.insert(id);

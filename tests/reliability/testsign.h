@@ -20,6 +20,9 @@
 #include <QtTest>
 
 #include <memory>
+#if QT_VERSION >= 0x060000
+#include <qrand.h>
+#endif
 
 /** Virtual time that knows how many QTimers run; Qt's own timers, say its font cache's, are none.
  */
@@ -28,7 +31,7 @@ class CountingDispatcher : public AnimText::VirtualDispatcher
 public:
     int LiveTimers() const { return live.size(); }
 
-    void registerTimer(int id, int interval, Qt::TimerType type, QObject* object) override;
+    void registerTimer(int id, Interval interval, Qt::TimerType type, QObject* object) override;
     bool unregisterTimer(int id) override;
     bool unregisterTimers(QObject* object) override;
 

@@ -70,6 +70,9 @@ public:
     Renderer(const Job& job, const QStringList& options)
         : scene(job.scene)
     {
+#if QT_VERSION >= 0x060000
+        setChildProcessModifier(LeaveTerminal);
+#endif
         const QStringList words{QStringLiteral("render"), QStringLiteral("-o"), job.film};
         setStandardOutputFile(nullDevice());
         start(QCoreApplication::applicationFilePath(),
@@ -87,10 +90,20 @@ public:
         return false;
     }
 
+#if QT_VERSION < 0x060000
 protected:
-    void setupChildProcess() override { setpgid(0, 0); }
+    void setupChildProcess() override
+    {
+        LeaveTerminal();
+    }
+#endif
 
 private:
+    static void LeaveTerminal()
+    {
+        setpgid(0, 0);
+    }
+
     QString scene;
 };
 

@@ -43,7 +43,7 @@ QSize ContactSheet::FrameSize() const
     QSize largest(1, 1);
     int columns = 1;
     for (const SheetRow& row : rows) {
-        columns = std::max(columns, row.frames.size());
+        columns = std::max(columns, int(row.frames.size()));
         for (const SheetFrame& frame : row.frames)
             largest = largest.expandedTo(frame.picture.size());
     }
@@ -94,7 +94,7 @@ QImage ContactSheet::Draw() const
     const QSize frame = FrameSize();
     int frames = 1;
     for (const SheetRow& row : rows)
-        frames = std::max(frames, row.frames.size());
+        frames = std::max(frames, int(row.frames.size()));
     const int columns = rows.size() > rowsInOneColumn ? 2 : 1;
     const int lines = (rows.size() + columns - 1) / columns;
     const int rowWidth = frames * (frame.width() + gap) - gap;

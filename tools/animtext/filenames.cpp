@@ -1,6 +1,12 @@
 #include "animtext/filenames.h"
 
+#include <QtGlobal>
+
+#if QT_VERSION < 0x060000
 #include <QTextCodec>
+#else
+#include <QStringDecoder>
+#endif
 
 #include <algorithm>
 
@@ -16,32 +22,35 @@ bool IsStray(QChar unit)
     return unit.unicode() >= strayByte + 0x80 && unit.unicode() <= strayByte + 0xFF;
 }
 
-class FileNameCodec : public QTextCodec
+/** The text of @p bytes where all of them are UTF-8; a byte order mark is a character too. */
+bool ReadUtf8(const char* bytes, int size, QString* text)
 {
-public:
-    QByteArray name() const override { return "UTF-8 and stray bytes"; }
-    int mibEnum() const override { return -4711; } // of no registered encoding
-
-protected:
-    QString convertToUnicode(const char* bytes, int size, ConverterState*) const override;
-    QByteArray convertFromUnicode(const QChar* text, int size, ConverterState*) const override;
-};
+#if QT_VERSION < 0x060000
+    static const QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    *text = utf8->toUnicode(bytes, size, &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+#else
+    QStringDecoder utf8(QStringDecoder::Utf8,
+                        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    *text = utf8(QByteArrayView(bytes, size));
+    return !utf8.hasError();
+#endif
+}
 
 /** The character that @p bytes begin with; empty when they begin with none. */
 QString FirstCharacter(const char* bytes, int size, int* length)
 {
-    static const QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
+    QString character;
     for (*length = 1; *length <= std::min(size, 4); ++*length) {
-        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-        const QString character = utf8->toUnicode(bytes, *length, &state);
-        if (state.invalidChars == 0 && state.remainingChars == 0)
+        if (ReadUtf8(bytes, *length, &character))
             return character;
     }
     *length = 1;
     return QString();
 }
 
-QString FileNameCodec::convertToUnicode(const char* bytes, int size, ConverterState*) const
+QString TextOf(const char* bytes, int size)
 {
     QString text;
     for (int i = 0, length = 1; i < size; i += length) {
@@ -50,6 +59,23 @@ QString FileNameCodec::convertToUnicode(const char* bytes, int size, ConverterSt
     }
     return text;
 }
+
+// Qt 6 takes every file name for UTF-8, and nobody can teach it otherwise.
+#if QT_VERSION < 0x060000
+
+class FileNameCodec : public QTextCodec
+{
+public:
+    QByteArray name() const override { return "UTF-8 and stray bytes"; }
+    int mibEnum() const override { return -4711; } // of no registered encoding
+
+protected:
+    QString convertToUnicode(const char* bytes, int size, ConverterState*) const override
+    {
+        return TextOf(bytes, size);
+    }
+    QByteArray convertFromUnicode(const QChar* text, int size, ConverterState*) const override;
+};
 
 QByteArray FileNameCodec::convertFromUnicode(const QChar* text, int size, ConverterState*) const
 {
@@ -66,11 +92,20 @@ QByteArray FileNameCodec::convertFromUnicode(const QChar* text, int size, Conver
     return bytes;
 }
 
+#endif
+
 } // namespace
 
 void KeepAllFileNames()
 {
+#if QT_VERSION < 0x060000
     QTextCodec::setCodecForLocale(new FileNameCodec); // Qt owns it
+#endif
+}
+
+QString TextOfWord(const char* word)
+{
+    return TextOf(word, int(qstrlen(word)));
 }
 
 bool IsUtf8(const QString& text)

@@ -66,7 +66,7 @@ QByteArray HelpText(const Command& command)
     const QVector<Option> options = command.options + QVector<Option>{HelpOption()};
     int width = 0;
     for (const Option& option : options)
-        width = std::max(width, Names(option).size() + 2);
+        width = std::max(width, int(Names(option).size()) + 2);
 
     QString text = QStringLiteral("%1\n%2\n\nOptions:\n")
                        .arg(usage.trimmed(), Wrapped(QString::fromUtf8(command.description), 0));

@@ -146,7 +146,7 @@ int main(int argc, char** argv)
     // The words are ours alone: Qt would take some of them, --plugin for one, for itself.
     QStringList words;
     for (int i = 1; i < argc; ++i)
-        words.append(QString::fromLocal8Bit(argv[i]));
+        words.append(TextOfWord(argv[i]));
     // Playing live makes an application of its own. No other command shows a window, so none may
     // fail for want of a display, nor look otherwise for the desktop that it is run on.
     if (words.value(0) == QLatin1String("play"))

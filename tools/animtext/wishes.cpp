@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QTextCodec>
 
 #include <cmath>
 #include <cstdio>
@@ -40,11 +39,12 @@ QString ReadText(const CommandLine& line)
     QFile file(name);
     if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
-    QTextCodec::ConverterState state;
-    const QByteArray bytes = file.readAll();
-    const QString text =
-        QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars > 0 || state.remainingChars > 0)
+    QByteArray bytes = file.readAll();
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        bytes.remove(0, 3);
+    const QString text = QString::fromUtf8(bytes);
+    // What is not UTF-8 has become something else.
+    if (text.toUtf8() != bytes)
         throw Misuse{QStringLiteral("%1: expected UTF-8; the text has other bytes").arg(name)};
     return text;
 }

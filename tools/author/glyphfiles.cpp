@@ -1,6 +1,7 @@
 #include "author/glyphfiles.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 namespace AnimText {
 namespace {

@@ -14,7 +14,7 @@ void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const Scene& scene)
     node->SetHoldTime(from.hold);
     node->SetNeonEffect(from.neonEffect);
     for (auto it = from.attributes.begin(); it != from.attributes.end(); ++it) {
-        if (it.value().type() == QVariant::String)
+        if (it.value().userType() == QMetaType::QString)
             node->SetAttribute(it.key(), it.value().toString());
         else
             node->SetAttribute(it.key(), it.value().toInt());

@@ -71,8 +71,8 @@ BlankScene::BlankScene(const Scene& from)
 {
     int longest = 0;
     for (const SceneNode* node : scene.Nodes())
-        longest =
-            std::max(longest, node->attributes.value(QStringLiteral("Text")).toString().size());
+        longest = std::max(longest,
+                           int(node->attributes.value(QStringLiteral("Text")).toString().size()));
     QByteArray list;
     QDataStream inner(&list, QIODevice::WriteOnly);
     inner.setVersion(QDataStream::Qt_4_8);

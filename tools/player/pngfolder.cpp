@@ -55,7 +55,8 @@ bool PngFolder::WriteNext(QString* error)
     const Page page = waiting.front();
     waiting.pop_front();
     const QByteArray png = page.png.get();
-    const int digits = std::max(4, QString::number(format.firstFrame + format.frames - 1).size());
+    const int digits =
+        std::max(4, int(QString::number(format.firstFrame + format.frames - 1).size()));
     const QString name =
         QStringLiteral("frame-%1.png").arg(page.frame, digits, 10, QLatin1Char('0'));
     if (png.isEmpty()) {

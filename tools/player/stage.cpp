@@ -3,6 +3,9 @@
 #include <hneonnodebase.h>
 #include <hpluginmanager.h>
 #include <inodeplugin.h>
+#if QT_VERSION >= 0x060000
+#include <qrand.h>
+#endif
 
 namespace AnimText {
 

@@ -11,9 +11,6 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
-// Qt's own; every dispatcher asks it.
-extern uint qGlobalPostedEventsCount();
-
 namespace AnimText {
 
 VirtualDispatcher::VirtualDispatcher(QObject* parent)
@@ -34,7 +31,8 @@ VirtualDispatcher* VirtualDispatcher::Current()
     return qobject_cast<VirtualDispatcher*>(QAbstractEventDispatcher::instance());
 }
 
-void VirtualDispatcher::registerTimer(int id, int interval, Qt::TimerType type, QObject* object)
+void VirtualDispatcher::registerTimer(int id, Interval interval, Qt::TimerType type,
+                                      QObject* object)
 {
     timers.push_back({id, interval, type, object, now + interval, nextOrder++, false});
 }
@@ -65,7 +63,7 @@ VirtualDispatcher::registeredTimers(QObject* object) const
     QList<TimerInfo> found;
     for (const Timer& timer : timers) {
         if (timer.object == object)
-            found.append(TimerInfo(timer.id, timer.interval, timer.type));
+            found.append(TimerInfo(timer.id, int(timer.interval), timer.type));
     }
     return found;
 }
@@ -98,7 +96,7 @@ bool VirtualDispatcher::FireNext(qint64 limit)
     if (!timer || timer->deadline > limit)
         return false;
     now = std::max(now, timer->deadline);
-    timer->deadline = now + std::max(1, timer->interval);
+    timer->deadline = now + std::max(Interval(1), timer->interval);
     timer->firing = true;
 
     // The slot may stop the timer, start it anew or delete its object.
@@ -127,7 +125,7 @@ bool VirtualDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags)
 {
     interrupted = false;
     emit awake();
-    bool any = qGlobalPostedEventsCount() > 0;
+    bool any = woken.exchange(false);
     QCoreApplication::sendPostedEvents();
 
     const bool timersRun = !(flags & QEventLoop::X11ExcludeTimers);
@@ -150,10 +148,12 @@ bool VirtualDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags)
     return any;
 }
 
+#if QT_VERSION < 0x060000
 bool VirtualDispatcher::hasPendingEvents()
 {
-    return qGlobalPostedEventsCount() > 0;
+    return woken;
 }
+#endif
 
 void VirtualDispatcher::registerSocketNotifier(QSocketNotifier* notifier)
 {
@@ -200,6 +200,7 @@ bool VirtualDispatcher::ActivateSockets(int timeout)
 
 void VirtualDispatcher::wakeUp()
 {
+    woken = true;
     eventfd_write(wakeDescriptor, 1);
 }
 

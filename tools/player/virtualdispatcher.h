@@ -47,24 +47,32 @@ public:
      */
     void AdvanceTo(qint64 time);
 
+#if QT_VERSION < 0x060000
+    typedef int Interval;
+#else
+    typedef qint64 Interval;
+#endif
+
     bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
-    bool hasPendingEvents() override;
     void registerSocketNotifier(QSocketNotifier* notifier) override;
     void unregisterSocketNotifier(QSocketNotifier* notifier) override;
-    void registerTimer(int id, int interval, Qt::TimerType type, QObject* object) override;
+    void registerTimer(int id, Interval interval, Qt::TimerType type, QObject* object) override;
     bool unregisterTimer(int id) override;
     bool unregisterTimers(QObject* object) override;
     QList<TimerInfo> registeredTimers(QObject* object) const override;
     int remainingTime(int id) override;
     void wakeUp() override;
     void interrupt() override;
+#if QT_VERSION < 0x060000
+    bool hasPendingEvents() override;
     void flush() override {}
+#endif
 
 private:
     struct Timer
     {
         int id;
-        int interval;
+        Interval interval;
         Qt::TimerType type;
         QObject* object;
         qint64 deadline;
@@ -82,6 +90,8 @@ private:
     QList<QSocketNotifier*> notifiers;
     int wakeDescriptor;
     std::atomic<bool> interrupted{false};
+    // Whoever posts an event wakes the loop; what was posted before it was there is not told.
+    std::atomic<bool> woken{true};
 };
 
 } // namespace AnimText

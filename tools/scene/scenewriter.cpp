@@ -21,7 +21,7 @@ QByteArray Pair(int first, int second)
 
 QByteArray Value(const QVariant& value)
 {
-    if (value.type() == QVariant::String)
+    if (value.userType() == QMetaType::QString)
         return Quoted(value.toString());
     return QByteArray::number(value.toInt());
 }

@@ -40,7 +40,7 @@ QString Closest(const QString& word, const QStringList& known)
     if (word.isEmpty() || word.size() > longest)
         return QString();
     QString best;
-    int bestDistance = std::max(1, word.size() / 3) + 1;
+    int bestDistance = std::max(1, int(word.size()) / 3) + 1;
     for (const QString& candidate : known) {
         const int distance = EditDistance(word.toLower(), candidate.toLower());
         if (distance < bestDistance) {

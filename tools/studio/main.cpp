@@ -31,8 +31,10 @@ bool HasDisplay()
 
 int RunWindow(int argc, char** argv)
 {
+#if QT_VERSION < 0x060000 // later always so
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     // Qt would take --plugin for one of its own.
     QStringList words;
     for (int i = 0; i < argc; ++i)

@@ -14,7 +14,7 @@ constexpr int quickSpeed = 7;
 SignText Sample(SignText text, bool scroll, int number)
 {
     StyledText& styled = text.source.text;
-    int units = std::min(shownUnits, styled.text.size());
+    int units = std::min(shownUnits, int(styled.text.size()));
     if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
         --units;
     styled.text.truncate(units);

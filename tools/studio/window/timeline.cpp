@@ -145,7 +145,7 @@ QSize Timeline::minimumSizeHint() const
 void Timeline::Adjust()
 {
     const int room = viewport()->height() - rulerHeight;
-    verticalScrollBar()->setRange(0, std::max(0, ids.size() * rowHeight - room));
+    verticalScrollBar()->setRange(0, std::max(0, int(ids.size()) * rowHeight - room));
     verticalScrollBar()->setPageStep(std::max(1, room));
     verticalScrollBar()->setSingleStep(rowHeight);
 }
@@ -162,7 +162,7 @@ void Timeline::paintEvent(QPaintEvent*)
     const int offset = verticalScrollBar()->value();
     painter.setClipRect(0, rulerHeight, viewport()->width(), viewport()->height() - rulerHeight);
     const int first = offset / rowHeight;
-    const int last = std::min(ids.size() - 1, (offset + viewport()->height()) / rowHeight);
+    const int last = std::min(int(ids.size()) - 1, (offset + viewport()->height()) / rowHeight);
     for (int row = first; row <= last && row < timing.texts.size(); ++row)
         PaintRow(&painter, row,
                  QRect(0, rulerHeight + row * rowHeight - offset, viewport()->width(), rowHeight));
