@@ -279,6 +279,8 @@ private slots:
         // Its layer is fetched once and never swapped.
         QCOMPARE(play.ShortCalls().count("get1"), 1);
         QVERIFY(!play.ShortCalls().contains("swap1"));
+        const QImage dazzle = Torv::FrontImage(play.Probe().session(), 1);
+        QCOMPARE(PaintedBox(dazzle).size(), QSize(60, 41));
     }
 
     void textStaysAsItIs_data()
