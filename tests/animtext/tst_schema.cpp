@@ -140,8 +140,9 @@ private slots:
 
     void documentsAreCurrent()
     {
-        const Outcome outcome = files.Shell("ANIMTEXT=$(command -v animtext) " PROJECT_ROOT
-                                            "/script/scene-docs --check");
+        const QString root = QString(PROJECT_ROOT).replace("'", "'\\''");
+        const Outcome outcome =
+            files.Shell("ANIMTEXT=$(command -v animtext) '" + root + "/script/scene-docs' --check");
         QVERIFY2(outcome.status == 0, outcome.out + outcome.errors);
     }
 

@@ -89,8 +89,10 @@ QStringList Printed(const Session& start, const Session& session)
                      "\n"
                      "state() { find . -type f -exec cksum {} + | sort; }\n"
                      "VERSION=" ANIMTEXT_VERSION "\n"
-                     "LIBRARIES='" +
-                     QString(ANIMTEXT_LIBRARIES).replace("'", "'\\''") + "'\n";
+                     "LIBRARIES=" +
+                     output.Path("libraries") + '\n';
+    // By a way without blanks, which LD_PRELOAD cannot stand.
+    QFile::link(ANIMTEXT_LIBRARIES, output.Path("libraries"));
     for (const Step& step : start.steps)
         script += step.line + '\n';
     for (int i = 0; i < session.steps.size(); ++i)
