@@ -35,6 +35,23 @@ void OfferPictures()
         qputenv("ANIMATIONTEXT_PICTURES", QFile::encodeName(shipped));
 }
 
+const char outputFolder[] = "outputpath/AnimationText";
+
+void RemoveOutputFolder()
+{
+    QDir(QCoreApplication::applicationDirPath()).rmpath(QLatin1String(outputFolder));
+}
+
+/**
+ * Nodes make a folder for their host's output beside the program. On a desk nothing is put there:
+ * where it was not before, it is gone afterwards.
+ */
+void LeaveNoOutputFolder()
+{
+    if (!QDir(QCoreApplication::applicationDirPath()).exists(QLatin1String(outputFolder)))
+        qAddPostRoutine(RemoveOutputFolder);
+}
+
 } // namespace
 
 QString PluginPath(const QString& given)
@@ -68,7 +85,9 @@ Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
         return nullptr;
     }
     Lw::INodePlugin* plugin = qobject_cast<Lw::INodePlugin*>(object);
-    if (!plugin)
+    if (plugin)
+        LeaveNoOutputFolder();
+    else
         *error = QStringLiteral("%1 is a plugin, but it brings no node type").arg(path);
     return plugin;
 }
