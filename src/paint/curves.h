@@ -47,13 +47,13 @@ void Halve(T* points)
 const int curveHalvings = 6;
 
 /** Whether the hairline takes the curve for a line. */
-inline bool IsFlat(const Point* p)
+inline bool IsFlat(const Point& a, const Point& b, const Point& c, const Point& d)
 {
-    const float dx = p[0].x - p[3].x;
-    const float dy = p[0].y - p[3].y;
+    const float dx = a.x - d.x;
+    const float dy = a.y - d.y;
     const float limit = 0.25f * (std::fabs(dx) + std::fabs(dy));
-    return !(std::fabs(dx * (p[3].y - p[1].y) - dy * (p[3].x - p[1].x)) >= limit ||
-             std::fabs(dx * (p[3].y - p[2].y) - dy * (p[3].x - p[2].x)) >= limit);
+    return !(std::fabs(dx * (d.y - b.y) - dy * (d.x - b.x)) >= limit ||
+             std::fabs(dx * (d.y - c.y) - dy * (d.x - c.x)) >= limit);
 }
 
 } // namespace HNodeAnimationText

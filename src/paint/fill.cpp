@@ -42,7 +42,7 @@ public:
 
 private:
     static bool IsFlat(const Place* p);
-    bool CrossesRow(const Place* p) const;
+    static bool CrossesRow(const Place* p);
     void AddBorder(int32_t border, int top, int bottom, int winding);
     bool CutAtBorder(int32_t border, bool isRight, Run& run);
 
@@ -60,12 +60,16 @@ void Edges<Sink>::Line(Place a, Place b)
         std::swap(a, b);
         winding = -1;
     }
-    const int top = std::max(clip.top, Sum(a.y, unitsPerPixel - 1) >> 6);
-    const int bottom = std::min(clip.bottom - 1, Difference(b.y, 1) >> 6);
+    int top = Sum(a.y, unitsPerPixel - 1) >> 6;
+    int bottom = Difference(b.y, 1) >> 6;
+    if (!Sink::isWithin) {
+        top = std::max(clip.top, top);
+        bottom = std::min(clip.bottom - 1, bottom);
+    }
     if (top > bottom)
         return;
     const int32_t start = Sum(ShiftedLeft(a.x, 10), 65535);
-    if (a.x == b.x) {
+    if (!Sink::isWithin && a.x == b.x) {
         AddBorder(std::max(left, std::min(start, right)), top, bottom, winding);
         return;
     }
@@ -74,6 +78,10 @@ void Edges<Sink>::Line(Place a, Place b)
     const int32_t below = Difference(ShiftedLeft(top, 16), ShiftedLeft(a.y, 10));
     const int32_t moved = static_cast<int32_t>((int64_t(step) * below) >> 16);
     Run run = {Sum(start, moved), step, top, bottom, winding};
+    if (Sink::isWithin) {
+        sink.Add(run);
+        return;
+    }
     const int64_t last = run.x + int64_t(step) * (bottom - top);
     const bool isInside = run.x > left && run.x < right && last > left && last < right;
     if (isInside)
@@ -131,7 +139,7 @@ bool Edges<Sink>::CutAtBorder(int32_t border, bool isRight, Run& run)
 }
 
 template <typename Sink>
-bool Edges<Sink>::IsFlat(const Place* p)
+__attribute__((always_inline)) inline bool Edges<Sink>::IsFlat(const Place* p)
 {
     const int32_t flatness = 16;
     const int32_t chordX = Difference(p[3].x, p[0].x);
@@ -152,7 +160,7 @@ bool Edges<Sink>::IsFlat(const Place* p)
 
 /** Whether a row is sampled between the points: else no line between them has one. */
 template <typename Sink>
-bool Edges<Sink>::CrossesRow(const Place* p) const
+inline bool Edges<Sink>::CrossesRow(const Place* p)
 {
     const int32_t high = std::min(std::min(p[0].y, p[1].y), std::min(p[2].y, p[3].y));
     const int32_t low = std::max(std::max(p[0].y, p[1].y), std::max(p[2].y, p[3].y));
@@ -204,12 +212,40 @@ void ExclusiveOr(Word& word, Word& inside)
     word = bits;
 }
 
+void Flip(Word* row, int column)
+{
+    const unsigned x = static_cast<unsigned>(column);
+    row[x / Plane::wordBits] ^= Word(1) << x % Plane::wordBits;
+}
+
+/** A run that stays within the plane. */
+void Flip(const Run& run, Plane& flips)
+{
+    const size_t stride = flips.Stride();
+    Word* row = flips.Row(run.top);
+    int32_t x = run.x;
+    if (run.step == 0) {
+        const unsigned column = static_cast<unsigned>(x >> 16);
+        const Word bit = Word(1) << column % Plane::wordBits;
+        row += column / Plane::wordBits;
+        for (int y = run.top; y <= run.bottom; ++y, row += stride)
+            *row ^= bit;
+        return;
+    }
+    for (int y = run.top; y <= run.bottom; ++y, row += stride) {
+        Flip(row, x >> 16);
+        x = Sum(x, run.step);
+    }
+}
+
 } // namespace
 
 /** Quick way for odd-even outlines without gaps: every row has an even number of crossings. */
 class Fill::Flips
 {
 public:
+    static const bool isWithin = false;
+
     Flips(const Box& box, Plane& plane, Box& touched)
         : clip(box)
         , flips(plane)
@@ -222,11 +258,6 @@ public:
     void AddInside(const Run& run, int32_t last);
 
 private:
-    static void Flip(Word* row, int column)
-    {
-        const unsigned x = static_cast<unsigned>(column);
-        row[x / Plane::wordBits] ^= Word(1) << x % Plane::wordBits;
-    }
     void Touch(const Run& run, int firstColumn, int lastColumn);
 
     Box clip;
@@ -257,19 +288,36 @@ void Fill::Flips::Add(const Run& run)
 void Fill::Flips::AddInside(const Run& run, int32_t last)
 {
     Touch(run, std::min(run.x, last) >> 16, std::max(run.x, last) >> 16);
-    const size_t stride = flips.Stride();
-    Word* row = flips.Row(run.top);
-    int32_t x = run.x;
-    for (int y = run.top; y <= run.bottom; ++y, row += stride) {
-        Flip(row, x >> 16);
-        x = Sum(x, run.step);
-    }
+    Flip(run, flips);
 }
+
+/** The same for an outline within the picture: nothing to cut, and what it touches is known. */
+class Fill::FlipsWithin
+{
+public:
+    static const bool isWithin = true;
+
+    FlipsWithin(const Box& box, Plane& plane)
+        : clip(box)
+        , flips(plane)
+    {
+    }
+
+    const Box& Clip() const { return clip; }
+    void Add(const Run& run) { Flip(run, flips); }
+    void AddInside(const Run& run, int32_t) { Add(run); }
+
+private:
+    Box clip;
+    Plane& flips;
+};
 
 /** For all others: the crossings themselves. */
 class Fill::Crossings
 {
 public:
+    static const bool isWithin = false;
+
     Crossings(const Box& box, std::vector<Crossing>& list)
         : clip(box)
         , crossings(list)
@@ -403,7 +451,7 @@ void Fill::Paint(const Outline& outline, const Transform& transform, const Box& 
     PaintCrossings(ink);
 }
 
-void Fill::Add(const Outline& outline, const Point* points)
+void Fill::Add(const Outline& outline, const Point* points, const Bounds& box)
 {
     const size_t size = outline.Size();
     if (places.size() < size)
@@ -412,6 +460,20 @@ void Fill::Add(const Outline& outline, const Point* points)
         const Place place = {static_cast<int32_t>(points[i].x * 64),
                              static_cast<int32_t>(points[i].y * 64)};
         places[i] = place;
+    }
+    // A run may leave its edge's columns by a fraction of a pixel.
+    const float margin = 2;
+    if (box.left >= margin && box.right <= float(picture.right) - margin && box.top >= 0 &&
+        box.bottom <= float(picture.bottom)) {
+        flipped.left = std::min(flipped.left, (static_cast<int>(box.left) - 1) / Plane::wordBits);
+        flipped.right =
+            std::max(flipped.right, (static_cast<int>(box.right) + 2) / Plane::wordBits + 1);
+        flipped.top = std::min(flipped.top, static_cast<int>(box.top));
+        flipped.bottom =
+            std::max(flipped.bottom, std::min(static_cast<int>(box.bottom) + 1, picture.bottom));
+        FlipsWithin quick(picture, flips);
+        AddEdges(outline, quick);
+        return;
     }
     Flips quick(picture, flips, flipped);
     AddEdges(outline, quick);

@@ -28,9 +28,10 @@ public:
 
     /**
      * Takes an outline to those that fill each other by the odd-even rule. It is well formed, each
-     * of its subpaths ends where it begins, and none of its elements, at @p points, is far out.
+     * of its subpaths ends where it begins, and none of its elements, at @p points within @p box,
+     * is far out.
      */
-    void Add(const Outline& outline, const Point* points);
+    void Add(const Outline& outline, const Point* points, const Bounds& box);
     /** Inverts all in @p plane that is inside of what was taken, and takes anew. */
     void InvertInside(Plane& plane);
 
@@ -49,6 +50,7 @@ private:
         }
     };
     class Flips;
+    class FlipsWithin;
     class Crossings;
 
     void Close(const Outline& outline);

@@ -86,7 +86,7 @@ void Fineness::Add(const ExactPoint* curve, int level)
         p[i].x = float(curve[i].x);
         p[i].y = float(curve[i].y);
     }
-    if (level == 0 || isTooFine || IsFlat(p))
+    if (level == 0 || isTooFine || IsFlat(p[0], p[1], p[2], p[3]))
         return;
     ExactPoint halves[7] = {curve[0], curve[1], curve[2], curve[3], {0, 0}, {0, 0}, {0, 0}};
     Halve(halves);

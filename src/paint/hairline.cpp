@@ -148,6 +148,7 @@ Hairline::Hairline()
     , right(0)
     , bottom(0)
     , isWithin(false)
+    , at()
     , last()
     , direction(Rightward)
     , isAligned(false)
@@ -182,6 +183,14 @@ void Hairline::Draw(const Outline& outline, const Point* points, const Bounds& b
         ink->MarkRows(clip.top, clip.bottom);
 }
 
+inline void Hairline::StartAt(const Point& p)
+{
+    if (isWithin) {
+        at.x = FixedWithin(p.x);
+        at.y = FixedWithin(p.y);
+    }
+}
+
 /** Gives where the next one begins. */
 size_t Hairline::DrawSubpath(const Outline& outline, const Point* points, size_t begin)
 {
@@ -195,13 +204,14 @@ size_t Hairline::DrawSubpath(const Outline& outline, const Point* points, size_t
     if (isClosed && end > 1)
         FollowClosing(points[end - 2], points[end - 1]);
     unsigned caps = isClosed ? NoCap : CapBegin;
+    StartAt(points[begin]);
     for (size_t i = begin + 1; i < end; ++i) {
         const bool isCurve = outline.At(i).type == Outline::Curve;
         const size_t last = isCurve ? i + 2 : i;
         if (!isClosed && last + 1 == end)
             caps |= CapEnd;
         if (isCurve)
-            DrawCurve(points + i - 1, curveHalvings, caps);
+            DrawCurve(points + i - 1, caps);
         else
             DrawLine(points[i - 1], points[i], caps);
         i = last;
@@ -214,6 +224,7 @@ size_t Hairline::DrawSubpath(const Outline& outline, const Point* points, size_t
 void Hairline::FollowClosing(const Point& from, const Point& to)
 {
     Trace trace;
+    StartAt(from);
     const bool hasLength = TakeLine(from, to, trace);
     ForgetLast();
     if (!hasLength || !trace.FindPixels())
@@ -221,18 +232,6 @@ void Hairline::FollowClosing(const Point& from, const Point& to)
     last = trace.Last();
     direction = trace.direction;
     isAligned = trace.aligned;
-}
-
-void Hairline::DrawCurve(const Point* p, int level, unsigned caps)
-{
-    if (level > 0 && !IsFlat(p)) {
-        Point halves[7] = {p[0], p[1], p[2], p[3], Point(), Point(), Point()};
-        Halve(halves);
-        DrawCurve(halves, level - 1, caps & CapBegin);
-        DrawCurve(halves + 3, level - 1, caps & CapEnd);
-        return;
-    }
-    DrawLine(p[0], p[3], caps);
 }
 
 /** Cuts along one axis: a is the coordinate that is cut. True when nothing is left. */
@@ -274,11 +273,14 @@ bool Hairline::Clip(Point& a, Point& b)
     return false;
 }
 
-/** False when nothing is left of the line, or it has no length. */
+/** A line from where the last one ended. False when nothing is left of it, or it has no length. */
 inline bool Hairline::TakeLine(Point a, Point b, Trace& trace)
 {
-    if (isWithin)
-        return trace.Take(FixedWithin(a.x), FixedWithin(a.y), FixedWithin(b.x), FixedWithin(b.y));
+    if (isWithin) {
+        const Place from = at;
+        StartAt(b);
+        return trace.Take(from.x, from.y, at.x, at.y);
+    }
     return !Clip(a, b) && trace.Take(Fixed(a.x), Fixed(a.y), Fixed(b.x), Fixed(b.y));
 }
 
@@ -317,27 +319,39 @@ inline void Hairline::DropOut(Trace& trace) const
     }
 }
 
-void Hairline::Paint(const Trace& trace)
+/** Of which some may be outside. */
+void Hairline::PaintClipped(const Trace& trace, int32_t end)
+{
+    int32_t across = trace.across;
+    for (int32_t along = trace.begin; along < end; ++along) {
+        const Pixel p = trace.At(along, across);
+        if (IsInClip(p))
+            ink->Set(p.x, p.y);
+        across = Sum(across, trace.step);
+    }
+}
+
+__attribute__((always_inline)) inline void Hairline::Paint(const Trace& trace)
 {
     // A line that lost its only pixel paints one all the same: the device paints before it asks.
     const int32_t end = std::max(trace.end, trace.begin + 1);
     int32_t across = trace.across;
-    if (!isWithin) {
-        const Pixel low = trace.Low();
-        const Pixel high =
-            trace.At(end - 1, Sum(across, Product(end - 1 - trace.begin, trace.step)));
-        if (!IsInClip(low) || !IsInClip(high)) {
-            for (int32_t along = trace.begin; along < end; ++along) {
-                const Pixel p = trace.At(along, across);
-                if (IsInClip(p))
-                    ink->Set(p.x, p.y);
-                across = Sum(across, trace.step);
-            }
-            return;
-        }
+    if (!isWithin &&
+        !(IsInClip(trace.Low()) &&
+          IsInClip(trace.At(end - 1, Sum(across, Product(end - 1 - trace.begin, trace.step)))))) {
+        PaintClipped(trace, end);
+        return;
     }
     const size_t stride = ink->Stride();
-    if (trace.steep) {
+    if (trace.step == 0 && trace.steep) {
+        const unsigned column = static_cast<unsigned>(across >> 16);
+        Plane::Word* word = ink->Row(trace.begin) + column / Plane::wordBits;
+        const Plane::Word bit = Plane::Word(1) << column % Plane::wordBits;
+        for (int32_t y = trace.begin; y < end; ++y, word += stride)
+            *word |= bit;
+    } else if (trace.step == 0) {
+        ink->SetRun(across >> 16, trace.begin, end);
+    } else if (trace.steep) {
         Plane::Word* row = ink->Row(trace.begin);
         for (int32_t y = trace.begin; y < end; ++y, row += stride) {
             Plane::SetIn(row, across >> 16);
@@ -349,6 +363,29 @@ void Hairline::Paint(const Trace& trace)
             Plane::SetIn(words + static_cast<size_t>(across >> 16) * stride, x);
             across = Sum(across, trace.step);
         }
+    }
+}
+
+void Hairline::DrawCurve(const Point* curve, unsigned caps)
+{
+    // A stack of parts, the next one on top; each goes on at an end that it shares with the one
+    // below, so they lie there backwards.
+    Point points[4 + 3 * curveHalvings];
+    std::reverse_copy(curve, curve + 4, points);
+    int halvings[1 + curveHalvings];
+    halvings[0] = 0;
+    unsigned begin = caps & CapBegin;
+    for (int top = 0; top >= 0;) {
+        Point* const p = points + 3 * top;
+        if (halvings[top] < curveHalvings && !IsFlat(p[3], p[2], p[1], p[0])) {
+            Halve(p);
+            halvings[top + 1] = ++halvings[top];
+            ++top;
+            continue;
+        }
+        DrawLine(p[3], p[0], begin | (top == 0 ? caps & CapEnd : 0));
+        begin = 0;
+        --top;
     }
 }
 

@@ -38,12 +38,14 @@ private:
     size_t DrawSubpath(const Outline& outline, const Point* points, size_t begin);
     void FollowClosing(const Point& from, const Point& to);
     void DrawLine(const Point& a, const Point& b, unsigned caps);
-    void DrawCurve(const Point* p, int level, unsigned caps);
+    void DrawCurve(const Point* curve, unsigned caps);
+    void StartAt(const Point& p);
     bool TakeLine(Point a, Point b, Trace& trace);
     bool Clip(Point& a, Point& b);
     bool ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, float high);
     void DropOut(Trace& trace) const;
     void Paint(const Trace& trace);
+    void PaintClipped(const Trace& trace, int32_t end);
     bool IsInClip(const Pixel& p) const
     {
         return p.x >= clip.left && p.x < clip.right && p.y >= clip.top && p.y < clip.bottom;
@@ -64,6 +66,7 @@ private:
     float bottom;
     bool isWithin; // nothing of the outline is clipped, in these or in pixels
 
+    Place at;   // where the line before ended, if nothing is clipped
     Pixel last; // of the line before, without it x is -1
     Direction direction;
     bool isAligned;

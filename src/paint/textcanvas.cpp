@@ -181,7 +181,7 @@ bool TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTran
         if (IsOutside(box))
             continue;
         if (!isHollow)
-            fill.Add(outline, &points[0]);
+            fill.Add(outline, &points[0], box);
         PaintHairline(outline, box, ink, direction);
     }
     fill.InvertInside(inside);
@@ -223,15 +223,16 @@ const GlyphCache::Image& TextCanvas::PaintToKeep(const TextPath::Item& item, boo
     const Outline& outline = item.glyph->Shape();
     points.resize(outline.Size());
     item.shape.map(outline, &points[0], item.x, item.y);
+    const Bounds box(&points[0], points.size());
     if (!isHollow && isWinding) {
         fill.Paint(item.shape.map(outline).Translated(item.x, item.y), Transform(), picture,
                    keptInside);
     } else if (!isHollow) {
         fill.InvertInside(inside); // what was taken before
-        fill.Add(outline, &points[0]);
+        fill.Add(outline, &points[0], box);
         fill.InvertInside(keptInside);
     }
-    PaintHairline(outline, Bounds(&points[0], points.size()), keptHairlines, direction);
+    PaintHairline(outline, box, keptHairlines, direction);
     const GlyphCache::Image& image = cache.Keep(keptInside, keptHairlines, direction);
     keptInside.Clear();
     keptHairlines.Clear();

@@ -179,24 +179,10 @@ void Transform::rotate(float degrees)
 
 void Transform::map(float& x, float& y) const
 {
-    const float fromX = x;
-    const float fromY = y;
-    switch (kind()) {
-    case None: break;
-    case Translating:
-        x = fromX + tx;
-        y = fromY + ty;
-        break;
-    case Scaling:
-        x = a11 * fromX + tx;
-        y = a22 * fromY + ty;
-        break;
-    case Rotating:
-    case Shearing:
-        x = a11 * fromX + a21 * fromY + tx;
-        y = a12 * fromX + a22 * fromY + ty;
-        break;
-    }
+    Point point = {x, y};
+    map(&point, 1);
+    x = point.x;
+    y = point.y;
 }
 
 void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
@@ -235,8 +221,30 @@ void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
 
 void Transform::map(Point* points, size_t count) const
 {
-    for (size_t i = 0; i < count; ++i)
-        map(points[i].x, points[i].y);
+    switch (kind()) {
+    case None: break;
+    case Translating:
+        for (size_t i = 0; i < count; ++i) {
+            points[i].x = points[i].x + tx;
+            points[i].y = points[i].y + ty;
+        }
+        break;
+    case Scaling:
+        for (size_t i = 0; i < count; ++i) {
+            points[i].x = a11 * points[i].x + tx;
+            points[i].y = a22 * points[i].y + ty;
+        }
+        break;
+    case Rotating:
+    case Shearing:
+        for (size_t i = 0; i < count; ++i) {
+            const float x = points[i].x;
+            const float y = points[i].y;
+            points[i].x = a11 * x + a21 * y + tx;
+            points[i].y = a12 * x + a22 * y + ty;
+        }
+        break;
+    }
 }
 
 Outline Transform::map(const Outline& outline) const

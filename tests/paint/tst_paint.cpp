@@ -337,7 +337,7 @@ bool IsMovedExactly(const Point* p, const double (*exact)[2], double x, double y
     for (int i = 0; i < 4; ++i)
         if (!isEqual(i))
             return false;
-    if (level == 0 || IsFlat(p))
+    if (level == 0 || IsFlat(p[0], p[1], p[2], p[3]))
         return true;
     Halve(halves);
     for (double* c : {&e[0][0], &e[0][1]}) { // every second number from here on
