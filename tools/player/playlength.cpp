@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+#include <sys/mman.h>
+
 namespace AnimText {
 
 namespace {
@@ -77,7 +79,8 @@ BlankScene::BlankScene(const Scene& from)
     QDataStream inner(&list, QIODevice::WriteOnly);
     inner.setVersion(QDataStream::Qt_4_8);
     inner << QVector<QPainterPath>(longest);
-    if (!outlines.open())
+    const int memory = memfd_create("outlines", MFD_CLOEXEC);
+    if (memory < 0 || !outlines.open(memory, QIODevice::WriteOnly, QFile::AutoCloseHandle))
         return;
     QDataStream outer(&outlines);
     outer << list.toBase64();
@@ -88,7 +91,7 @@ BlankScene::BlankScene(const Scene& from)
             for (SceneNode& node : area.nodes) {
                 const auto file = node.files.find(QStringLiteral("PathData"));
                 if (file != node.files.end())
-                    *file = outlines.fileName();
+                    *file = QStringLiteral("/proc/self/fd/%1").arg(memory);
             }
         }
     }

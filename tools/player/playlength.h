@@ -7,8 +7,8 @@
 
 #include "player/player.h"
 
+#include <QFile>
 #include <QString>
-#include <QTemporaryFile>
 #include <QVector>
 
 #include <functional>
@@ -58,7 +58,7 @@ public:
 
 private:
     Scene scene;
-    QTemporaryFile outlines; // of all its nodes; there as long as it plays
+    QFile outlines; // of all its nodes, in memory: nothing stays of a process that is killed
 };
 
 /** More ticks than any play of the scene can take, as far as that can be told from its settings. */
