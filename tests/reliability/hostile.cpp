@@ -167,8 +167,10 @@ void AddFiles(const QDir& folder)
     const QList<HostileFile> pictures = HostilePictures(folder);
     add("FillImage", pictures, {"CheckPictureFills", "CheckDazzle"});
     add("NeonGifPath", pictures, {"CheckNeonBg"});
+    int folders = 0;
     for (const HostileFile& picture : pictures) {
-        const QString frogs = picture.path + "-frogs";
+        // Not beside the picture, which may be the folder itself.
+        const QString frogs = folder.filePath(QString("frogs %1").arg(++folders));
         folder.mkpath(frogs);
         for (int number = 1; number <= 5 && !picture.path.isEmpty(); ++number)
             QFile::link(picture.path, QString("%1/Frog%2.png").arg(frogs).arg(number));
