@@ -28,6 +28,7 @@ class Gallery(unittest.TestCase):
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory(prefix="gallery it's für uns ")
         cls.page = os.path.join(cls.folder.name, "g")
+        os.environ["TMPDIR"] = cls.folder.name  # the browser leaves folders behind
         subprocess.run([ANIMTEXT, "gallery", "--text", TEXT, "--hold", "5", "-o", cls.page],
                        check=True, stdout=subprocess.DEVNULL)
         options = webdriver.ChromeOptions()
