@@ -297,6 +297,8 @@ private slots:
             const QString page = authored.text.mid(begin, end - begin).trimmed();
             const int pageWidth = Sum(authored.widths.mid(begin, end - begin));
             QVERIFY(pageWidth <= area.width());
+            if (motion == 11) // turns in places; a margin takes a character, which takes its turn
+                QVERIFY(!authored.text.mid(begin, 2).trimmed().isEmpty());
             for (int i = begin; i < end && !text.contains('-'); ++i)
                 QVERIFY(authored.text[i] == ' ' || authored.widths[i] < 50);
             const auto advance = [&](const QString& words) {

@@ -109,6 +109,14 @@ private slots:
         QCOMPARE(fired.join(' '), QString("a@10 b@25 b@50 out@55 a@55"));
     }
 
+    void deletesWhatIsToBeDeletedLater()
+    {
+        const QPointer<QObject> later(new QObject);
+        later->deleteLater();
+        dispatcher->AdvanceTo(origin);
+        QVERIFY(!later);
+    }
+
     void waitsForThreads()
     {
         QEventLoop loop;
