@@ -5,7 +5,9 @@
 #ifndef TESTS_SERIALISED_H
 #define TESTS_SERIALISED_H
 
+#include <QByteArray>
 #include <QDataStream>
+#include <QIODevice>
 
 /** @p values as Qt 4.8 writes them into a stream. */
 template <typename... Values>
