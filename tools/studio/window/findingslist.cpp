@@ -183,7 +183,7 @@ void FindingsList::Fill(const QList<Row>& next)
         colors.setColor(label->foregroundRole(), Quiet(colors));
         label->setPalette(colors);
     };
-    for (int i = 0; i < std::min(rows.size(), mostShown); ++i)
+    for (int i = 0; i < std::min(int(rows.size()), mostShown); ++i)
         list->addWidget(MakeRow(i));
     if (rows.isEmpty())
         say(tr("Nothing to mend: the sign shows all of it."));
