@@ -202,6 +202,8 @@ private slots:
         });
         QTRY_VERIFY_WITH_TIMEOUT(firsts.size() > 1, 60000);
         player->disconnect(this);
+        QVERIFY(player->Kept().time > player->Time() || ticks == 0); // both rounds
+        QVERIFY(player->Kept().due > player->Time() / 66 + 1);
         QCOMPARE(firsts.first(), first);
         QCOMPARE(ended->size(), 1);
     }

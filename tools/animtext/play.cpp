@@ -31,11 +31,11 @@ void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
     }
 }
 
-QByteArray Report(const Timing& kept, qint64 time)
+QByteArray Report(const Timing& kept)
 {
     return QStringLiteral("played %1 s, %2 ticks: %3 pictures of the first text; the screen came "
                           "at most %4 ms late, and %5 ticks were made up for\n")
-        .arg(double(time) / 1000, 0, 'f', 1)
+        .arg(double(kept.time) / 1000, 0, 'f', 1)
         .arg(kept.due)
         .arg(kept.pictures)
         .arg(kept.latest)
@@ -91,7 +91,7 @@ int PlayLive(const CommandLine& line)
         throw Failure{BadInput, error};
     QApplication::exec();
     if (line.IsSet("timing"))
-        Print(Report(player.Kept(), player.Time()));
+        Print(Report(player.Kept()));
     StopIfInterrupted();
     return Done;
 }

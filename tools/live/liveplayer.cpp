@@ -67,7 +67,7 @@ bool LivePlayer::Begin(const Scene& wanted, QString* error)
     scene = wanted;
     paused = ended = resting = false;
     before = lastShown = 0;
-    timing = Timing();
+    timing = earlier = Timing();
     keeper = std::make_unique<TickKeeper>(this);
     parts = QVector<Part>(stage->NodeCount(), Part());
     running.start();
@@ -171,8 +171,11 @@ bool LivePlayer::IsOver()
 void LivePlayer::End()
 {
     QString error;
-    if (settings.loop && Begin(scene, &error))
+    const Timing kept = Kept();
+    if (settings.loop && Begin(scene, &error)) {
+        earlier = kept;
         return;
+    }
     SetPaused(true);
     ended = true;
     emit Ended();
@@ -215,11 +218,13 @@ void LivePlayer::Freeze()
 
 Timing LivePlayer::Kept() const
 {
-    Timing kept = timing;
-    kept.madeUp = keeper ? keeper->MadeUp() : 0;
-    kept.due = Time() / tickLength + 1;
+    Timing kept = earlier;
+    kept.time += Time();
+    kept.due += Time() / tickLength + 1;
+    kept.latest = std::max(kept.latest, timing.latest);
+    kept.madeUp += keeper ? keeper->MadeUp() : 0;
     if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
-        kept.pictures = Torv::SwapCount(stage->Session(0), stage->TextLayer(0));
+        kept.pictures += Torv::SwapCount(stage->Session(0), stage->TextLayer(0));
     return kept;
 }
 

@@ -30,6 +30,7 @@ struct LiveSettings
 /** How a play has kept up with the clock. */
 struct Timing
 {
+    qint64 time = 0;     ///< milliseconds played, pauses not counted
     qint64 due = 0;      ///< ticks up to now, the start among them
     qint64 pictures = 0; ///< of the text, handed to the display by its first node
     qint64 latest = 0;   ///< the most milliseconds by which the screen came after a tick
@@ -64,7 +65,7 @@ public:
     /** Milliseconds since the play began, pauses not counted. */
     qint64 Time() const;
     const Stage& Scenery() const { return *stage; }
-    /** Since the play last began. */
+    /** Since the play began, all its rounds together. */
     Timing Kept() const;
 
 signals:
@@ -105,6 +106,7 @@ private:
     qint64 before = 0;    // milliseconds played up to the last pause
     qint64 lastShown = 0; // milliseconds at the last tick
     Timing timing;
+    Timing earlier;       // of the rounds before
     bool resting = false; // what finishes has finished and stands still
     bool paused = false;
     bool ended = false;
