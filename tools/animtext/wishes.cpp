@@ -17,8 +17,6 @@ namespace AnimText {
 
 namespace {
 
-constexpr int smallestSize = 4; // pixels
-constexpr int largestSize = 2000;
 constexpr int standardSize = 48; // pixels, of marked text
 constexpr int largestSide = 16384;
 constexpr int most = 1000000;     // plays, holds and the like
@@ -206,7 +204,7 @@ QVector<Option> WishOptions()
         Option::File("text-file", "FILE",
                      "Takes the text from a UTF-8 file, - for standard input."),
         Option::Text("font", "FAMILY", "A font family or a font file.").Or("DejaVu Sans"),
-        Option::Number("size", smallestSize, largestSize,
+        Option::Number("size", smallestReadableSize, largestFontSize,
                        "The font's size in pixels; as large as fits the area, or 48."),
         Option::Flag("bold", "Bold letters."),
         Option::Flag("italic", "Slanted letters."),

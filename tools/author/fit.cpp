@@ -5,12 +5,6 @@
 #include <algorithm>
 
 namespace AnimText {
-namespace {
-
-const int smallestSize = 4; // pixels: nothing smaller can be read
-const int largestSize = 2000;
-
-} // namespace
 
 StyledText Fitted(const StyledText& text, Fit fit, QSize room)
 {
@@ -18,7 +12,7 @@ StyledText Fitted(const StyledText& text, Fit fit, QSize room)
         return text;
     // The sizes in proportion to the largest, which is what is looked for.
     int largest = 1;
-    int smallest = largestSize;
+    int smallest = largestFontSize;
     for (const StyleRun& run : text.runs) {
         largest = qMax(largest, run.font.pixelSize());
         smallest = qMin(smallest, run.font.pixelSize());
@@ -34,9 +28,9 @@ StyledText Fitted(const StyledText& text, Fit fit, QSize room)
     qreal ratio = qreal(room.height()) / qMax(1, line.ascent + line.descent);
     if (fit == Fit::Both)
         ratio = qMin(ratio, qreal(room.width()) / qMax(1, line.width));
-    const int least = qMax(1, smallestSize * largest / qMax(1, smallest));
-    int size = qBound(least, qRound(largest * ratio), qMax(least, largestSize));
-    while (size < largestSize && fits(size + 1))
+    const int least = qMax(1, smallestReadableSize * largest / qMax(1, smallest));
+    int size = qBound(least, qRound(largest * ratio), qMax(least, largestFontSize));
+    while (size < largestFontSize && fits(size + 1))
         ++size;
     while (size > least && !fits(size))
         --size;

@@ -9,9 +9,6 @@
 namespace AnimText {
 namespace {
 
-const int smallestSize = 1; // pixels
-const int largestSize = 2000;
-
 /** Reads the strict form. Faults go to the reader, which knows the line and the column. */
 class MarkupReader
 {
@@ -112,10 +109,9 @@ private:
         const qreal size = unit == QLatin1String("pt")  ? number * 96 / 72
                            : unit == QLatin1String("%") ? number * style->font.pixelSize() / 100
                                                         : number;
-        if (!match.hasMatch() || qRound(size) < smallestSize || size > largestSize)
-            return QStringLiteral("size takes 32, 32px, 24pt or 150%, %1 to %2 pixels, not \"%3\"")
-                .arg(smallestSize)
-                .arg(largestSize)
+        if (!match.hasMatch() || qRound(size) < 1 || size > largestFontSize)
+            return QStringLiteral("size takes 32, 32px, 24pt or 150%, 1 to %1 pixels, not \"%2\"")
+                .arg(largestFontSize)
                 .arg(value);
         style->font.setPixelSize(qRound(size));
         text->sized = text->sized || unit != QLatin1String("%");

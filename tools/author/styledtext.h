@@ -13,6 +13,10 @@
 
 namespace AnimText {
 
+// Font sizes in pixels.
+constexpr int smallestReadableSize = 4; ///< nothing smaller can be read
+constexpr int largestFontSize = 2000;
+
 /** The style of the units from @c begin up to the next run's. */
 struct StyleRun
 {
