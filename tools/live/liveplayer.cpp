@@ -109,7 +109,8 @@ void LivePlayer::Run()
 
 void LivePlayer::Show()
 {
-    emit Shown(stage->Compose(Time()));
+    shown = stage->Compose(Time());
+    emit Shown(shown);
 }
 
 /** What the device moves by itself is not bound to ticks. */
@@ -118,8 +119,9 @@ void LivePlayer::Move()
     bool moving = false;
     for (int node = 0; node < parts.size(); ++node)
         moving = moving || (stage->Session(node) && stage->ScrollsSideways(node));
-    if (moving)
-        emit Shown(stage->Compose(Time()));
+    const QImage picture = moving ? stage->Compose(Time()) : shown;
+    if (picture != shown)
+        emit Shown(shown = picture);
 }
 
 void LivePlayer::Tick()
@@ -176,6 +178,7 @@ void LivePlayer::End()
         earlier = kept;
         return;
     }
+    Show();
     SetPaused(true);
     ended = true;
     emit Ended();

@@ -69,7 +69,7 @@ public:
     Timing Kept() const;
 
 signals:
-    /** What the display shows from now on. */
+    /** What the display shows from now on; the same again where a tick has changed nothing. */
     void Shown(const QImage& picture);
     void Ended();
 
@@ -105,6 +105,7 @@ private:
     QElapsedTimer running;
     qint64 before = 0;    // milliseconds played up to the last pause
     qint64 lastShown = 0; // milliseconds at the last tick
+    QImage shown;
     Timing timing;
     Timing earlier;       // of the rounds before
     bool resting = false; // what finishes has finished and stands still
