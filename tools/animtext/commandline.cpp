@@ -83,7 +83,7 @@ void CommandLine::Take(const Option& option, bool hasValue, const QString& value
     if (option.kind == Kind::Flag) {
         if (hasValue)
             throw Misuse{QStringLiteral("--%1 takes no value, not \"%2\"").arg(name, value)};
-        given.insert(name, QString());
+        given[name] = QStringList{QString()};
         return;
     }
     const bool follows =
@@ -97,7 +97,7 @@ void CommandLine::Take(const Option& option, bool hasValue, const QString& value
         throw Misuse{QStringLiteral("--%1 takes %2, which is missing")
                          .arg(name, QLatin1String(option.value))};
     CheckValue(option, taken);
-    given.insert(name, taken);
+    given[name].append(taken);
 }
 
 void CommandLine::Require() const
@@ -124,7 +124,12 @@ const Option& CommandLine::Find(const QString& name) const
 QString CommandLine::Value(const char* option) const
 {
     const QString name = QLatin1String(option);
-    return given.contains(name) ? given.value(name) : QString::fromUtf8(Find(name).standard);
+    return given.contains(name) ? given.value(name).last() : QString::fromUtf8(Find(name).standard);
+}
+
+QStringList CommandLine::Values(const char* option) const
+{
+    return given.value(QLatin1String(option));
 }
 
 int CommandLine::Number(const char* option) const

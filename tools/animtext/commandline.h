@@ -33,6 +33,8 @@ public:
 
     bool IsSet(const char* option) const { return given.contains(QLatin1String(option)); }
     QString Value(const char* option) const;
+    /** All that were given, of an option that may be repeated. */
+    QStringList Values(const char* option) const;
     /** The words that belong to no option. */
     QStringList Arguments() const { return arguments; }
 
@@ -56,7 +58,7 @@ private:
     void Require() const;
 
     const Command& command;
-    QMap<QString, QString> given; // by the option's name
+    QMap<QString, QStringList> given; // by the option's name; the last one counts
     QStringList arguments;
 };
 

@@ -1,7 +1,9 @@
 #include "animtext/commands.h"
 #include "animtext/interruption.h"
+#include "animtext/lightoptions.h"
 #include "animtext/messages.h"
 #include "animtext/opening.h"
+#include "lights/lights.h"
 #include "live/livewindow.h"
 #include "live/scenewatcher.h"
 #include "player/plugin.h"
@@ -45,6 +47,10 @@ QByteArray Report(const Timing& kept)
 
 int PlayLive(const CommandLine& line)
 {
+    CheckLightOptions(line);
+    const bool hasWindow = !line.IsSet("to") || line.IsSet("window");
+    if (!hasWindow)
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // the machine may have no display
     int count = 1;
     char name[] = "animtext";
     char* words[] = {name, nullptr};
@@ -52,6 +58,9 @@ int PlayLive(const CommandLine& line)
     QCoreApplication::setApplicationName(QLatin1String(name));
     if (!QGuiApplication::primaryScreen())
         throw Failure{FailedRun, NoDisplay()};
+
+    if (line.IsSet("test-pattern"))
+        return PlayTestPattern(line);
 
     const QString path = line.Arguments().first();
     const Scene scene = OpenPlayableScene(line, path);
@@ -61,13 +70,20 @@ int PlayLive(const CommandLine& line)
     settings.schedule = line.IsSet("schedule");
     settings.seed = playing.Seed();
 
+    Lights lights;
+    AddLights(line, scene.display, &lights);
+
     LivePlayer player(playing.Plugin());
+    QObject::connect(&player, &LivePlayer::Shown, &lights, &Lights::Show);
     LiveWindow window(&player);
     if (line.IsSet("zoom"))
         window.SetZoom(line.Number("zoom"));
     if (line.IsSet("leds"))
         window.SetPitch(line.Fraction("leds"));
-    window.Open(QFileInfo(path).fileName(), scene.display, line.IsSet("fullscreen"));
+    if (hasWindow)
+        window.Open(QFileInfo(path).fileName(), scene.display, line.IsSet("fullscreen"));
+    else if (!line.IsSet("watch"))
+        QObject::connect(&player, &LivePlayer::Ended, &application, &QCoreApplication::quit);
 
     SceneWatcher watcher;
     if (line.IsSet("watch")) {
@@ -90,8 +106,9 @@ int PlayLive(const CommandLine& line)
     if (!player.Play(scene, settings, &error))
         throw Failure{BadInput, error};
     QApplication::exec();
+    lights.End();
     if (line.IsSet("timing"))
-        Print(Report(player.Kept()));
+        Print(Report(player.Kept()) + lights.Report());
     StopIfInterrupted();
     return Done;
 }
@@ -102,14 +119,16 @@ Command PlayCommand()
 {
     return {
         "play",
-        "plays a scene live in a window, or as a sign",
+        "plays a scene live in a window, as a sign or on LEDs",
         "SCENE.json",
-        1,
+        0,
         1,
         "Plays a scene on the clock, in a window: what the plugin paints, as the display shows "
         "it. Space pauses, F fills the screen, Esc ends. When all is done the last picture "
         "stays, and Space begins anew. QT_QPA_PLATFORM=linuxfb shows it on a board's screen "
-        "without a desktop, QT_QPA_PLATFORM=vnc to VNC viewers.",
+        "without a desktop, QT_QPA_PLATFORM=vnc to VNC viewers. --to shows it on LED controllers "
+        "in "
+        "the network, without a window.",
         WithShowOptions(
             {Option::Flag("loop", "Begins anew when all is done."),
              Option::Flag("schedule",
@@ -126,7 +145,8 @@ Command PlayCommand()
              Option::Time("seconds", 1000, 0.1, 86400 * 366.0, "S",
                           "Ends after that long; in seconds, or as in 90min."),
              Option::Flag("timing", "Tells in the end how the play has kept up with the "
-                                    "clock.")}),
+                                    "clock.")}) +
+            LightOptions(),
         PlayLive};
 }
 

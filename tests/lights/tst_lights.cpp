@@ -1,0 +1,551 @@
+// LEDs on the network: what is sent, to where, and when. All packets of these tests stay on
+// 127.0.0.1.
+#include "lights/lights.h"
+#include "lights/testpattern.h"
+#include "player/virtualdispatcher.h"
+#include "table.h"
+#include "testscene.h"
+
+#include <QNetworkInterface>
+#include <QPainter>
+#include <QUdpSocket>
+
+#include <csignal>
+
+#include <sys/socket.h>
+
+using namespace AnimText;
+
+namespace {
+
+const QSize display(64, 32);
+
+/** An address on a display of 64 × 32; @p error says why there is none. */
+Controller Read(const QString& address, QString* error)
+{
+    Controller controller;
+    error->clear();
+    if (ReadAddress(&controller, address, error))
+        FitToDisplay(&controller, display, error);
+    return controller;
+}
+
+Controller Read(const QString& address)
+{
+    QString error;
+    const Controller controller = Read(address, &error);
+    if (!error.isEmpty())
+        qFatal("%s", qPrintable(error));
+    return controller;
+}
+
+/** A field of a packet as the protocol's text has it: its place, its size, and what it holds. */
+struct Field
+{
+    int offset;
+    int size; ///< bytes, the highest first; negative: the lowest first
+    qint64 value;
+};
+
+/** Values that differ from packet to packet. */
+enum { Length = -1, Sequence = -2, Universe = -3, Offset = -4, Push = -5 };
+
+const QVector<Field> ddp{{0, 1, Push}, {1, 1, Sequence}, {2, 1, 0x0B},
+                         {3, 1, 1},    {4, 4, Offset},   {8, 2, Length}};
+const QVector<Field> e131{
+    {0, 2, 0x10},        {2, 2, 0},           {4, 4, 0x4153432D}, {8, 4, 0x45312E31},
+    {12, 4, 0x37000000}, {16, 2, Length},     {18, 4, 4},         {38, 2, Length},
+    {40, 4, 2},          {44, 4, 0x57616C6C}, // "Wall"
+    {48, 4, 0},          {108, 1, 7},         {109, 2, 99},       {111, 1, Sequence},
+    {112, 1, 0},         {113, 2, Universe},  {115, 2, Length},   {117, 2, 0x02A1},
+    {119, 4, 1},         {123, 2, Length},    {125, 1, 0}};
+const QVector<Field> e131Sync{{16, 2, Length},   {18, 4, 8},  {38, 2, Length}, {40, 4, 1},
+                              {44, 1, Sequence}, {45, 2, 99}, {47, 2, 0}};
+const QVector<Field> artNet{{0, 4, 0x4172742D}, {4, 4, 0x4E657400}, {8, -2, 0x5000},
+                            {10, 2, 14},        {12, 1, Sequence},  {13, 1, 0},
+                            {14, -2, Universe}, {16, 2, Length}};
+const QVector<Field> artSync{
+    {0, 4, 0x4172742D}, {4, 4, 0x4E657400}, {8, -2, 0x5200}, {10, 2, 14}, {12, 2, 0}};
+
+qint64 ValueAt(const QByteArray& bytes, const Field& field)
+{
+    QByteArray value = bytes.mid(field.offset, qAbs(field.size));
+    if (field.size < 0)
+        std::reverse(value.begin(), value.end());
+    return value.size() == qAbs(field.size) ? value.toHex().toLongLong(nullptr, 16) : -1;
+}
+
+/** Takes the network's place: keeps what is sent, and fails as @p outcomes says. */
+struct Network
+{
+    QVector<Packet> packets;
+    QString outcomes; ///< a packet each: "." arrives, "o" meets a full buffer, "x" nobody
+
+    Transmit Taker()
+    {
+        return [this](const Packet& packet, QString* why) {
+            const QChar outcome = outcomes.isEmpty() ? '.' : outcomes.at(0);
+            outcomes.remove(0, 1);
+            *why = outcome == 'x' ? "nobody" : "";
+            packets.append(packet);
+            return outcome == 'x'   ? Sending::Failed
+                   : outcome == 'o' ? Sending::Full
+                                    : Sending::Done;
+        };
+    }
+};
+
+QImage Plain(const QColor& color, QSize size = display)
+{
+    QImage picture(size, QImage::Format_ARGB32);
+    picture.fill(color);
+    return picture;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(QVector<Field>)
+
+class TestLights : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // A picture of 3 × 2, abc above def.
+    void layouts_data()
+    {
+        const Table<QString, QString> row("layout", "leds");
+        row("rows", "", "abcdef");
+        row("serpentine", ",serpentine", "abcfed");
+        row("bottom left", ",bottom-left,serpentine", "defcba");
+        row("top right", ",top-right,straight", "cbafed");
+        row("bottom right", ",bottom-right", "fedcba");
+        row("columns", ",columns", "adbecf");
+        row("columns, serpentine", ",columns,serpentine", "adebcf");
+        row("columns, bottom right", ",columns,bottom-right", "fcebda");
+        row("turned", ",rotate-90", "daebfc");
+        row("upside down", ",rotate-180", "fedcba");
+        row("turned back", ",rotate-270,serpentine", "cfebad");
+        row("turned, from below", ",rotate-90,serpentine,bottom-left", "fcbeda");
+        row("the last word counts", ",columns,rows,bottom-right,top-left,serpentine,straight",
+            "abcdef");
+    }
+
+    void layouts()
+    {
+        QFETCH(QString, layout);
+        QFETCH(QString, leds);
+        QImage picture = Plain(Qt::black);
+        for (int i = 0; i < 6; ++i)
+            picture.setPixel(4 + i % 3, 2 + i / 3, qRgb('a' + i, 0, 0));
+        const QByteArray channels = LedMap(Read("ddp://h/4,2,3x2" + layout)).Channels(picture);
+        QString found;
+        for (int i = 0; i < channels.size(); i += 3)
+            found += QChar(channels.at(i));
+        QCOMPARE(found, leds);
+    }
+
+    void colors_data()
+    {
+        const Table<QString, QColor, QByteArray> row("setting", "color", "channels");
+        row("as they are", "", QColor(16, 32, 48), "102030");
+        row("another order", ",color-order=grb", QColor(16, 32, 48), "201030");
+        row("over black", "", QColor(255, 128, 0, 128), "804000");
+        row("darker", ",brightness=40", QColor(255, 100, 0), "662800");
+        row("off", ",brightness=0", QColor(255, 255, 255), "000000");
+        row("gamma", ",gamma=2.2", QColor(255, 128, 0), "ff3800");
+    }
+
+    void colors()
+    {
+        QFETCH(QString, setting);
+        QFETCH(QColor, color);
+        QTEST(LedMap(Read("ddp://h/1x1" + setting)).Channels(Plain(color)).toHex(), "channels");
+    }
+
+    // Two pictures in a row: every field of every packet, and the channels in their places.
+    void packets_data()
+    {
+        // parts: the offsets or universes that data goes to, and how much
+        const Table<QString, QVector<Field>, int, QVector<Field>, QString> row(
+            "address", "fields", "header", "sync", "parts");
+        row("one packet", "ddp://h/16x16", ddp, 10, {}, "0:768");
+        row("three packets", "ddp://h/64x16,channel=4", ddp, 10, {}, "3:1440 1443:1440 2883:192");
+        row("universes", "sacn://h/20x17,priority=7,source-name=Wall,sync-universe=99,universe=300",
+            e131, 126, e131Sync, "300:510 301:510");
+        row("from the middle",
+            "sacn://h/171x1,priority=7,source-name=Wall,sync-universe=99,channel=4", e131, 126,
+            e131Sync, "1:510 2:6");
+        row("multicast", "sacn:///1x1,priority=7,source-name=Wall,sync-universe=99,universe=63999",
+            e131, 126, e131Sync, "63999:3");
+        row("even lengths", "artnet://h/3x57,universe=32766", artNet, 18, artSync,
+            "32766:510 32767:4");
+    }
+
+    void packets()
+    {
+        QFETCH(QString, address);
+        QFETCH(QVector<Field>, fields);
+        QFETCH(int, header);
+        QFETCH(QVector<Field>, sync);
+        QFETCH(QString, parts);
+        QString error;
+        Controller controller;
+        QVERIFY2(ReadAddress(&controller, address, &error), qPrintable(error));
+        QByteArray channels;
+        for (int i = 0; i < 3 * controller.rect.width() * controller.rect.height(); ++i)
+            channels.append(char(i % 251));
+        PacketMaker maker(controller);
+        qint64 sequence = 0;
+        for (int picture = 0; picture < 2; ++picture) {
+            QVector<Packet> sent = maker.Picture(channels);
+            QStringList found;
+            QByteArray all;
+            if (controller.protocol != Protocol::Ddp)
+                ++sequence;
+            if (!sync.isEmpty()) {
+                const Packet last = sent.takeLast();
+                for (const Field& field : sync)
+                    QCOMPARE(ValueAt(last.bytes, field),
+                             field.value == Length     ? 0x7000 + last.bytes.size() - field.offset
+                             : field.value == Sequence ? sequence
+                                                       : field.value);
+                QCOMPARE(last.group, address.startsWith("sacn:///") ? QHostAddress("239.255.0.99")
+                                                                    : QHostAddress());
+            }
+            for (const Packet& packet : sent) {
+                qint64 place = 0;
+                if (controller.protocol == Protocol::Ddp)
+                    ++sequence;
+                const int size = packet.bytes.size() - header;
+                for (const Field& field : fields) {
+                    const qint64 value = ValueAt(packet.bytes, field);
+                    if (field.value == Universe || field.value == Offset)
+                        place = value;
+                    else if (field.value == Length && field.offset == 123)
+                        QCOMPARE(value, size + 1); // the start code counts
+                    else if (field.value == Length && header == 126)
+                        QCOMPARE(value, 0x7000 + packet.bytes.size() - field.offset);
+                    else
+                        QCOMPARE(value, field.value == Length     ? size
+                                        : field.value == Sequence ? sequence
+                                        : field.value == Push     ? 0x40 + (&packet == &sent.last())
+                                                                  : field.value);
+                }
+                found.append(QString("%1:%2").arg(place).arg(size));
+                all += packet.bytes.mid(header);
+                QCOMPARE(packet.group, address.startsWith("sacn:///")
+                                           ? QHostAddress("239.255.249.255")
+                                           : QHostAddress());
+            }
+            QCOMPARE(found.join(' '), parts);
+            if (controller.protocol == Protocol::Ddp || controller.channel == 1)
+                QVERIFY(all.startsWith(channels));
+            else
+                QVERIFY(all == QByteArray(controller.channel - 1, '\0') + channels);
+        }
+    }
+
+    void sequencesGoRound_data()
+    {
+        const Table<QString, int, int, int> row("address", "offset", "first", "last");
+        row("DDP", "ddp://h/1x1", 1, 1, 15);
+        row("E1.31", "sacn://h/1x1", 111, 0, 255);
+        row("Art-Net", "artnet://h/1x1", 12, 1, 255);
+    }
+
+    void sequencesGoRound()
+    {
+        QFETCH(int, offset);
+        QFETCH(int, first);
+        QFETCH(QString, address);
+        PacketMaker maker(Read(address));
+        QVector<int> seen;
+        for (int i = 0; i < 600; ++i)
+            seen.append(uchar(maker.Picture("abc").first().bytes.at(offset)));
+        QTEST(*std::max_element(seen.begin(), seen.end()), "last");
+        for (int i = 1; i < seen.size(); ++i)
+            QVERIFY(seen[i] == seen[i - 1] + 1 || seen[i] == first);
+        QCOMPARE(std::count(seen.begin(), seen.end(), 0) > 0, first == 0);
+    }
+
+    void addresses_data()
+    {
+        const Table<QString, QString> row("address", "error"); // a part of it; empty: none
+        row("a name", "ddp://wall.local", "");
+        row("IPv6", "artnet://[::1]:7000/serpentine", "");
+        row("a comma for the slash", "ddp://h,serpentine", "");
+        row("the last universes", "sacn:///universe=63987", "");
+        row("other protocol", "http://h", "expected ddp://HOST");
+        row("no port", "ddp://h:0", "1 to 65535");
+        row("large port", "ddp://h:65536", "1 to 65535");
+        row("nobody", "artnet://", "only sacn:// works without one");
+        row("half a rectangle", "ddp://h/0,0", "expected a rectangle");
+        row("no pixels", "ddp://h/0x4", "expected a rectangle");
+        row("beyond the display", "ddp://h/1,0,64x32", "64x32 at 1,0 is not inside the display");
+        row("no such layout", "ddp://h/serpentin", "did you mean serpentine?");
+        row("no such setting", "ddp://h/gama=2", "did you mean gamma?");
+        row("number", "ddp://h/brightness=101", "brightness is \"101\"; expected 0 to 100");
+        row("gamma", "ddp://h/gamma=nan", "expected 0.1 to 10");
+        row("order", "ddp://h/color-order=RGG", "expected the letters R, G and B");
+        row("source", "sacn://h/source-name=" + QString(64, 'x'), "expected 1 to 63");
+        row("E1.31 has no 0", "sacn://h/universe=0", "E1.31 has 1 to 63999");
+        row("above the last", "sacn://h/universe=63988", "needs the universes 63988 to 64000");
+        row("above Art-Net's last", "artnet://h/universe=32756", "Art-Net has 0 to 32767");
+        row("no room", "sacn://h/channel=511", "expected 1 to 510");
+    }
+
+    void addresses()
+    {
+        QFETCH(QString, address);
+        QFETCH(QString, error);
+        QString told;
+        Read(address, &told);
+        QVERIFY2(error.isEmpty() ? told.isEmpty()
+                                 : told.startsWith(address + ": ") && told.contains(error),
+                 qPrintable(told));
+    }
+
+    // Added after sacn://127.0.0.1/16x32, which fills four universes, and a DDP controller.
+    void severalControllers_data()
+    {
+        const Table<QString, QString> row("address", "error");
+        row("the same universe", "sacn://127.0.0.1/1x1,universe=4", "fills channels that");
+        row("its free channels", "sacn://127.0.0.1/1x1,universe=4,channel=7", "");
+        row("the next universe", "sacn://127.0.0.1/1x1,universe=5", "");
+        row("another port", "sacn://127.0.0.1:5000/1x1", "");
+        row("the same bytes", "ddp://127.0.0.1/1x1,channel=12", "fills channels that");
+        row("the next bytes", "ddp://127.0.0.1/1x1,channel=13", "");
+        row("no such host", "ddp://host.invalid", "cannot be found");
+        row("broadcast", "artnet://255.255.255.255", "--broadcast allows it");
+        row("multicast", "ddp://239.255.0.1", "expected sacn://");
+        row("no such interface", "sacn:///1x1,interface=none0", "no network interface");
+    }
+
+    void severalControllers()
+    {
+        QFETCH(QString, address);
+        QFETCH(QString, error);
+        Lights lights;
+        QString told;
+        QVERIFY(lights.Add(Read("sacn://127.0.0.1/16x32,channel=1"), display, &told));
+        QVERIFY(lights.Add(Read("ddp://127.0.0.1/2x2"), display, &told));
+        QCOMPARE(lights.Add(Read(address), display, &told), error.isEmpty());
+        QVERIFY2(told.contains(error), qPrintable(told));
+        QVERIFY(lights.Report().startsWith("sent 0 pictures in 0 packets"));
+    }
+
+    // Asks the sockets; sends nothing.
+    void socketsSendWhereTheyShould()
+    {
+        QString error;
+        const QString lo = QNetworkInterface::interfaceFromIndex(1).name();
+        const auto group = OpenSocket(Read("sacn:///1x1,ttl=7,interface=" + lo), {}, &error);
+        QVERIFY2(group, qPrintable(error));
+        QCOMPARE(group->socketOption(QAbstractSocket::MulticastTtlOption).toInt(), 7);
+        QCOMPARE(group->multicastInterface().name(), lo);
+        for (bool allowed : {false, true}) {
+            Controller controller = Read("artnet://127.0.0.1:7001");
+            controller.broadcast = allowed;
+            const auto one = OpenSocket(controller, QHostAddress("127.0.0.1"), &error);
+            QVERIFY2(one, qPrintable(error));
+            QCOMPARE(one->peerAddress(), QHostAddress("127.0.0.1"));
+            QCOMPARE(one->peerPort(), quint16(7001));
+            int broadcast = -1;
+            socklen_t size = sizeof broadcast;
+            getsockopt(int(one->socketDescriptor()), SOL_SOCKET, SO_BROADCAST, &broadcast, &size);
+            QCOMPARE(broadcast != 0, allowed);
+        }
+    }
+
+    // Pictures of three packets each.
+    void missesAPictureNotATick_data()
+    {
+        const Table<int, QString, int, QString, QString> row("pictures", "outcomes", "packets",
+                                                             "reports", "report");
+        row("all arrive", 3, "", 9, "", "sent 3 pictures in 9 packets, dropped 0\n");
+        row("full", 3, "....o", 8, "", "sent 2 pictures in 7 packets, dropped 1\n");
+        row("gone", 3, "x.x....", 6, "gone", "sent 1 pictures in 4 packets, dropped 2\n");
+        row("not back yet", 30, "x", 88, "gone", "sent 29 pictures in 87 packets, dropped 1\n");
+        row("back", 31, "x", 91, "gone back", "sent 30 pictures in 90 packets, dropped 1\n");
+    }
+
+    void missesAPictureNotATick()
+    {
+        QFETCH(int, pictures);
+        QFETCH(int, packets);
+        QFETCH(QString, outcomes);
+        Network network{{}, outcomes};
+        Lights lights;
+        lights.SetKeeps(true);
+        lights.Add(Read("ddp://h/64x16"), network.Taker());
+        QStringList reports;
+        connect(&lights, &Lights::Reported, [&](const QString& line) {
+            reports.append(line.contains("nobody")  ? "gone"
+                           : line.contains("again") ? "back"
+                                                    : line);
+        });
+        for (int i = 0; i < pictures; ++i)
+            lights.Show(Plain(Qt::red));
+        QCOMPARE(network.packets.size(), packets);
+        QTEST(reports.join(' '), "reports");
+        QTEST(QString(lights.Report()), "report");
+    }
+
+    // Receivers forget a source that is silent for 2.5 seconds.
+    void repeatsWhatStands()
+    {
+        Network network;
+        Lights lights;
+        lights.Add(Read("ddp://h/1x1"), network.Taker());
+        auto* time = VirtualDispatcher::Current();
+        time->AdvanceTo(time->Now() + 9999);
+        QCOMPARE(network.packets.size(), 0);
+        lights.Show(Plain(Qt::red));
+        time->AdvanceTo(time->Now() + 2 * Lights::repeatTime);
+        QCOMPARE(network.packets.size(), 3);
+        QCOMPARE(network.packets.last().bytes.mid(10).toHex(), QByteArray("ff0000"));
+    }
+
+    void endsDark_data()
+    {
+        const Table<QString, bool, bool, QString> row("address", "shown", "keeps", "sent");
+        row("DDP", "ddp://h/1x1", true, false, "red black black black");
+        row("E1.31", "sacn://h/1x1", true, false, "red black black black end end end");
+        row("keeps", "sacn://h/1x1", true, true, "red");
+        row("has shown nothing", "ddp://h/1x1", false, false, "");
+    }
+
+    void endsDark()
+    {
+        QFETCH(QString, address);
+        QFETCH(bool, shown);
+        QFETCH(bool, keeps);
+        Network network;
+        {
+            Lights lights;
+            lights.SetKeeps(keeps);
+            lights.Add(Read(address), network.Taker());
+            if (shown)
+                lights.Show(Plain(Qt::red));
+        }
+        QStringList sent;
+        for (const Packet& packet : network.packets)
+            sent.append(packet.bytes.endsWith(QByteArray("\xFF\0\0", 3))             ? "red"
+                        : packet.bytes.size() == 129 && packet.bytes.at(112) == 0x40 ? "end"
+                        : packet.bytes.endsWith(QByteArray(3, '\0'))                 ? "black"
+                                                                                     : "?");
+        QTEST(sent.join(' '), "sent");
+    }
+
+    void testPatterns_data()
+    {
+        const Table<QString, int, QStringList> row("name", "tick", "rows"); // of 4 × 2
+        row("corners", "corners", 0, {"r..g", "b..w"});
+        row("order begins", "order", 0, {"....", "...."});
+        row("order", "order", 46, {"####", "r..."});
+        row("order is complete", "order", 74, {"####", "###r"});
+        row("colors", "colors", 0, {"rrgb", "rrgb"});
+        row("levels", "levels", 0, {".##w", ".##w"});
+        row("in turn", "all", 75 + 46, {"####", "r..."});
+        row("from the start", "all", 4 * 75, {"r..g", "b..w"});
+    }
+
+    void testPatterns()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, tick);
+        const QImage picture = TestPattern(name, QSize(4, 2), tick);
+        const QHash<QRgb, QChar> names{{qRgb(0, 0, 0), '.'},
+                                       {qRgb(255, 0, 0), 'r'},
+                                       {qRgb(0, 255, 0), 'g'},
+                                       {qRgb(0, 0, 255), 'b'},
+                                       {qRgb(255, 255, 255), 'w'}};
+        QStringList rows;
+        for (int y = 0; y < 2; ++y) {
+            rows.append(QString());
+            for (int x = 0; x < 4; ++x)
+                rows.last() += names.value(picture.pixel(x, y), '#');
+        }
+        QTEST(rows, "rows");
+    }
+
+    // The program itself, on the clock: what arrives are pictures of the film, in their order.
+    void playsToAController_data()
+    {
+        const Table<QString, int, bool> row("options", "signal", "dark");
+        row("to the end", "one.json", 0, true);
+        row("kept", "one.json --keep", 0, false);
+        row("terminated", "one.json --loop", SIGTERM, true);
+        row("test pattern", "--test-pattern=colors --layout rotate-180", SIGINT, true);
+    }
+
+    void playsToAController()
+    {
+        QFETCH(QString, options);
+        QFETCH(int, signal);
+        QFETCH(bool, dark);
+        files.Save(files.Of({files.Node({})}), "one.json"); // 64 × 32, 4 pictures
+        QUdpSocket receiver;
+        QVERIFY(receiver.bind(QHostAddress(QHostAddress::LocalHost), 0));
+        QProcess program;
+        program.setWorkingDirectory(files.Path(""));
+        program.start(ANIMTEXT_PROGRAMS "/animtext",
+                      QString("play %1 --to ddp://127.0.0.1:%2/64x32 --timing")
+                          .arg(options)
+                          .arg(receiver.localPort())
+                          .split(' '));
+        QVERIFY(receiver.waitForReadyRead(300000));
+        if (signal != 0)
+            QVERIFY(::kill(pid_t(program.processId()), signal) == 0);
+        QVERIFY(program.waitForFinished(300000));
+        QCOMPARE(program.exitCode(), signal == 0 ? 0 : 128 + signal);
+
+        QVector<QByteArray> pictures{QByteArray()};
+        while (receiver.hasPendingDatagrams()) {
+            QByteArray packet(2000, '\0');
+            packet.resize(int(receiver.readDatagram(packet.data(), packet.size())));
+            pictures.last() += packet.mid(10);
+            if (packet.at(0) & 1)
+                pictures.append(QByteArray());
+        }
+        QCOMPARE(pictures.takeLast(), QByteArray());
+        const QByteArray black(64 * 32 * 3, '\0');
+        const int ends = dark ? 3 : 0;
+        QVERIFY(pictures.size() > ends);
+        for (int i = 0; i < ends; ++i)
+            QCOMPARE(pictures.takeLast(), black);
+        QVector<QByteArray> film;
+        if (options.contains("pattern")) {
+            const QImage pattern = TestPattern("colors", display, 0);
+            film.append(LedMap(Read("ddp://h/rotate-180")).Channels(pattern));
+        } else {
+            QCOMPARE(files.Shell("animtext render one.json -o film/").status, 0);
+            for (const char* name : {"0000", "0001", "0002", "0003"})
+                film.append(
+                    LedMap(Read("ddp://h"))
+                        .Channels(QImage(files.Path(QString("film/frame-%1.png").arg(name)))));
+        }
+        QCOMPARE(pictures.first(), film.first());
+        int at = 0;
+        for (const QByteArray& picture : pictures) {
+            at = film.indexOf(picture, at);
+            QVERIFY(at >= 0);
+        }
+        if (signal == 0)
+            QCOMPARE(pictures.last(), film.last());
+    }
+
+private:
+    TestScenes files;
+};
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
+    QGuiApplication application(argc, argv);
+    TestLights test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_lights.moc"

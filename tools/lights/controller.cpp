@@ -1,0 +1,232 @@
+#include "lights/controller.h"
+
+#include "scene/suggest.h"
+
+#include <QRegularExpression>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int lastE131Universe = 63999;
+constexpr int lastArtNetUniverse = 32767;
+constexpr int longestSource = 63; // bytes; a zero ends the 64 of the field
+constexpr int mostChannels = 1000000;
+
+const struct
+{
+    const char* name;
+    const char* scheme;
+    Protocol protocol;
+    int port;
+    int firstUniverse, lastUniverse;
+} protocols[] = {{"DDP", "ddp", Protocol::Ddp, 4048, 0, lastE131Universe},
+                 {"E1.31", "sacn", Protocol::E131, 5568, 1, lastE131Universe},
+                 {"Art-Net", "artnet", Protocol::ArtNet, 6454, 0, lastArtNetUniverse}};
+
+const struct
+{
+    const char* name;
+    int Controller::*value;
+    int least, most;
+} numbers[] = {{"brightness", &Controller::brightness, 0, 100},
+               {"universe", &Controller::universe, 0, lastE131Universe},
+               {"channel", &Controller::channel, 1, mostChannels},
+               {"priority", &Controller::priority, 0, 200},
+               {"sync-universe", &Controller::syncUniverse, 0, lastE131Universe},
+               {"ttl", &Controller::timeToLive, 1, 255}};
+
+const struct
+{
+    const char* word;
+    void (*apply)(Wiring* wiring);
+} layoutWords[] = {
+    {"rows", [](Wiring* wiring) { wiring->columns = false; }},
+    {"columns", [](Wiring* wiring) { wiring->columns = true; }},
+    {"straight", [](Wiring* wiring) { wiring->serpentine = false; }},
+    {"serpentine", [](Wiring* wiring) { wiring->serpentine = true; }},
+    {"top-left", [](Wiring* wiring) { wiring->bottom = wiring->right = false; }},
+    {"top-right", [](Wiring* wiring) { wiring->bottom = !(wiring->right = true); }},
+    {"bottom-left", [](Wiring* wiring) { wiring->bottom = !(wiring->right = false); }},
+    {"bottom-right", [](Wiring* wiring) { wiring->bottom = wiring->right = true; }},
+    {"rotate-0", [](Wiring* wiring) { wiring->turns = 0; }},
+    {"rotate-90", [](Wiring* wiring) { wiring->turns = 1; }},
+    {"rotate-180", [](Wiring* wiring) { wiring->turns = 2; }},
+    {"rotate-270", [](Wiring* wiring) { wiring->turns = 3; }}};
+
+bool Fail(QString* error, const QString& line)
+{
+    *error = line;
+    return false;
+}
+
+bool ApplyLayout(Wiring* wiring, const QString& word, QString* error)
+{
+    for (const auto& known : layoutWords) {
+        if (word == QLatin1String(known.word)) {
+            known.apply(wiring);
+            return true;
+        }
+    }
+    return Fail(error, QStringLiteral("\"%1\" is not a layout; expected %2%3")
+                           .arg(word, LayoutWords().join(QStringLiteral(", ")),
+                                DidYouMean(word, LayoutWords())));
+}
+
+bool ApplyText(Controller* controller, const QString& name, const QString& value, QString* error)
+{
+    if (name == QLatin1String("color-order")) {
+        controller->order = value.toUpper();
+        QString sorted = controller->order;
+        std::sort(sorted.begin(), sorted.end());
+        return sorted == QLatin1String("BGR") ||
+               Fail(error, QStringLiteral("color-order is \"%1\"; expected the letters R, G and B "
+                                          "in any order")
+                               .arg(value));
+    }
+    if (name == QLatin1String("gamma")) {
+        controller->gamma = value.toDouble();
+        return (controller->gamma >= 0.1 && controller->gamma <= 10) ||
+               Fail(error, QStringLiteral("gamma is \"%1\"; expected 0.1 to 10").arg(value));
+    }
+    if (name == QLatin1String("source-name")) {
+        controller->source = value;
+        return (!value.isEmpty() && value.toUtf8().size() <= longestSource) ||
+               Fail(error, QStringLiteral("source-name has %1 bytes; expected 1 to %2")
+                               .arg(value.toUtf8().size())
+                               .arg(longestSource));
+    }
+    if (name == QLatin1String("interface")) {
+        controller->interface = value;
+        return true;
+    }
+    QStringList names{QStringLiteral("color-order"), QStringLiteral("gamma"),
+                      QStringLiteral("source-name"), QStringLiteral("interface")};
+    for (const auto& known : numbers)
+        names.append(QLatin1String(known.name));
+    return Fail(error, QStringLiteral("there is no setting \"%1\"; expected a layout or %2%3")
+                           .arg(name, names.join(QStringLiteral(", ")), DidYouMean(name, names)));
+}
+
+/** Takes the rectangle from the front of @p words; empty when there is none. */
+QRect TakeRect(QStringList* words)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^(?:(\\d{1,5}),(\\d{1,5}),)?(\\d{1,5})x(\\d{1,5})$"));
+    for (int count : {1, 3}) {
+        const auto match = pattern.match(words->mid(0, count).join(QLatin1Char(',')));
+        if (!match.hasMatch())
+            continue;
+        *words = words->mid(count);
+        return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
+                match.captured(4).toInt()};
+    }
+    return {};
+}
+
+} // namespace
+
+QStringList LayoutWords()
+{
+    QStringList words;
+    for (const auto& known : layoutWords)
+        words.append(QLatin1String(known.word));
+    return words;
+}
+
+bool ApplySetting(Controller* controller, const QString& setting, QString* error)
+{
+    const QString name = setting.section(QLatin1Char('='), 0, 0);
+    const QString value = setting.section(QLatin1Char('='), 1);
+    if (name == setting)
+        return ApplyLayout(&controller->wiring, setting, error);
+    for (const auto& known : numbers) {
+        if (name != QLatin1String(known.name))
+            continue;
+        bool isNumber = false;
+        const int number = value.toInt(&isNumber);
+        controller->*known.value = number;
+        return (isNumber && number >= known.least && number <= known.most) ||
+               Fail(error, QStringLiteral("%1 is \"%2\"; expected %3 to %4")
+                               .arg(name, value)
+                               .arg(known.least)
+                               .arg(known.most));
+    }
+    return ApplyText(controller, name, value, error);
+}
+
+bool ReadAddress(Controller* controller, const QString& address, QString* error)
+{
+    static const QRegularExpression pattern(QStringLiteral(
+        "^([a-z]+)://(\\[[^\\]]+\\]|[^:/,\\[\\]\\s]*)(?::(\\d{1,5}))?(?:[/,](.*))?$"));
+    const QString place = address + QStringLiteral(": ");
+    const auto match = pattern.match(address);
+    controller->address = address;
+    controller->port = 0;
+    for (const auto& known : protocols) {
+        if (match.captured(1) != QLatin1String(known.scheme))
+            continue;
+        controller->protocol = known.protocol;
+        controller->port = match.captured(3).isEmpty() ? known.port : match.captured(3).toInt();
+    }
+    if (!match.hasMatch() || controller->port < 1 || controller->port > 65535)
+        return Fail(error, place + QStringLiteral("expected ddp://HOST, sacn://HOST, sacn:// for "
+                                                  "multicast, or artnet://HOST; the host may be "
+                                                  "followed by :PORT, 1 to 65535"));
+    controller->host = match.captured(2).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
+    if (controller->host.isEmpty() && controller->protocol != Protocol::E131)
+        return Fail(error, place + QStringLiteral("expected the controller's name or address; "
+                                                  "only sacn:// works without one"));
+    QStringList words = match.captured(4).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const bool startsWithNumber = !words.isEmpty() && words.first().at(0).isDigit();
+    controller->rect = TakeRect(&words);
+    if (startsWithNumber && controller->rect.isEmpty())
+        return Fail(error, place + QStringLiteral("expected a rectangle of the display after the "
+                                                  "host, such as 64,0,64x32 or 64x32"));
+    for (const QString& word : words) {
+        if (!ApplySetting(controller, word, error))
+            return Fail(error, place + *error);
+    }
+    return true;
+}
+
+int UniverseCount(const Controller& controller)
+{
+    const int pixels = controller.rect.width() * controller.rect.height();
+    const int inFirst = (513 - controller.channel) / 3;
+    return 1 + (std::max(0, pixels - inFirst) + universePixels - 1) / universePixels;
+}
+
+bool FitToDisplay(Controller* controller, QSize display, QString* error)
+{
+    const QString place = controller->address + QStringLiteral(": ");
+    if (controller->rect.isEmpty())
+        controller->rect = QRect(QPoint(0, 0), display);
+    const QRect& rect = controller->rect;
+    if (!QRect(QPoint(0, 0), display).contains(rect))
+        return Fail(error, place + QStringLiteral("%1x%2 at %3,%4 is not inside the display, which "
+                                                  "is %5x%6")
+                                       .arg(rect.width())
+                                       .arg(rect.height())
+                                       .arg(rect.x())
+                                       .arg(rect.y())
+                                       .arg(display.width())
+                                       .arg(display.height()));
+    if (controller->protocol == Protocol::Ddp)
+        return true;
+    if (controller->channel > 510)
+        return Fail(error, place + QStringLiteral("channel is %1; expected 1 to 510, so that the "
+                                                  "first universe has room for a pixel")
+                                       .arg(controller->channel));
+    const auto& known = protocols[int(controller->protocol)];
+    const qint64 last = qint64(controller->universe) + UniverseCount(*controller) - 1;
+    return (controller->universe >= known.firstUniverse && last <= known.lastUniverse) ||
+           Fail(error, place + QStringLiteral("needs the universes %1 to %2; %3 has %4 to %5")
+                                   .arg(controller->universe)
+                                   .arg(last)
+                                   .arg(QLatin1String(known.name))
+                                   .arg(known.firstUniverse)
+                                   .arg(known.lastUniverse));
+}
+
+} // namespace AnimText
