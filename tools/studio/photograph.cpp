@@ -1,4 +1,5 @@
 // Takes the studio's screenshots for the documents: photograph-studio FOLDER [--dark]
+#include "studio/window/ledsdialog.h"
 #include "studio/window/mainwindow.h"
 #include "studio/window/translating.h"
 
@@ -188,6 +189,11 @@ int main(int argc, char** argv)
               SignOf({96, 32}, {Text(QStringLiteral("Gleis 7"), {0, 0, 96, 32}, 24, false, 6, 6)}),
               0, 20) &&
           photographer.Photograph(QStringLiteral("studio-leds.png"));
+    LedsDialog dialog(QSize(16, 16), QStringLiteral("hello.json"));
+    dialog.SetAddress(QStringLiteral("ddp://wall.local/serpentine,bottom-left,brightness=40"));
+    dialog.show();
+    all =
+        all && dialog.grab().save(QDir(folder).filePath(QStringLiteral("studio-leds-dialog.png")));
     if (!all)
         std::fputs("photograph-studio: no picture came\n", stderr);
     return all ? 0 : 1;

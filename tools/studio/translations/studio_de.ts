@@ -453,6 +453,181 @@
     </message>
 </context>
 <context>
+    <name>AnimText::LedsDialog</name>
+    <message>
+        <source>Serpentine</source>
+        <translation>Schlangenlinie</translation>
+    </message>
+    <message>
+        <source>Show test pattern</source>
+        <translation>Testbild zeigen</translation>
+    </message>
+    <message>
+        <source>Play on LEDs</source>
+        <translation>Auf LEDs abspielen</translation>
+    </message>
+    <message>
+        <source>Name or address, such as wall.local</source>
+        <translation>Name oder Adresse, etwa wand.local</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Every second row or column runs backwards</source>
+        <translation>Jede zweite Zeile oder Spalte läuft rückwärts</translation>
+    </message>
+    <message>
+        <source>Corners, order of the LEDs, colors and levels, each for five seconds</source>
+        <translation>Ecken, Reihenfolge der LEDs, Farben und Helligkeiten, je fünf Sekunden</translation>
+    </message>
+    <message>
+        <source>Controller&apos;s name or address</source>
+        <translation>Name oder Adresse des Controllers</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top edge</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>Controller</translation>
+    </message>
+    <message>
+        <source>Part of the display</source>
+        <translation>Teil der Anzeige</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>LEDs follow</source>
+        <translation>LEDs folgen auf</translation>
+    </message>
+    <message>
+        <source>First LED</source>
+        <translation>Erste LED</translation>
+    </message>
+    <message>
+        <source>Picture turned by</source>
+        <translation>Bild gedreht um</translation>
+    </message>
+    <message>
+        <source>Color order</source>
+        <translation>Farbreihenfolge</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>First universe</source>
+        <translation>Erstes Universum</translation>
+    </message>
+    <message>
+        <source>The way of the data line, seen from the front</source>
+        <translation>Der Weg der Datenleitung, von vorn gesehen</translation>
+    </message>
+    <message>
+        <source>The same as a command</source>
+        <translation>Dasselbe als Befehl</translation>
+    </message>
+    <message>
+        <source>As a command</source>
+        <translation>Als Befehl</translation>
+    </message>
+    <message>
+        <source>DDP has no universes</source>
+        <translation>DDP hat keine Universen</translation>
+    </message>
+    <message>
+        <source>sign.json</source>
+        <translation>schild.json</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Enter the controller&apos;s name or address.</source>
+        <translation>Geben Sie den Namen oder die Adresse des Controllers ein.</translation>
+    </message>
+    <message>
+        <source>Sends to the multicast groups of E1.31.</source>
+        <translation>Sendet an die Multicast-Gruppen von E1.31.</translation>
+    </message>
+    <message>
+        <source>Looking for %1 …</source>
+        <translation>%1 wird gesucht …</translation>
+    </message>
+    <message>
+        <source>%1 cannot be found: %2</source>
+        <translation>%1 ist nicht zu finden: %2</translation>
+    </message>
+    <message>
+        <source>The LEDs show what the studio shows.</source>
+        <translation>Die LEDs zeigen, was das Studio zeigt.</translation>
+    </message>
+</context>
+<context>
     <name>AnimText::MainWindow</name>
     <message>
         <source>Tools</source>

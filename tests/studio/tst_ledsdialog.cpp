@@ -1,0 +1,104 @@
+// The dialog by which LEDs follow the studio. Its packets stay on 127.0.0.1.
+#include "studio/window/ledsdialog.h"
+#include "table.h"
+
+#include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QUdpSocket>
+
+using namespace AnimText;
+
+class TestLedsDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    }
+    void init() { QSettings().clear(); }
+
+    void fieldsAreTheAddress_data()
+    {
+        const Table<QString> row("address");
+        row("plain", "ddp://wall.local");
+        row("port and part", "ddp://127.0.0.1:4049/4,2,8x4");
+        row("multicast", "sacn://");
+        row("wiring", "artnet://h/serpentine,columns,bottom-left,rotate-270,universe=0");
+        row("colors",
+            "sacn://h/1,0,15x8,top-right,color-order=BRG,gamma=2.2,brightness=40,universe=7");
+    }
+
+    void fieldsAreTheAddress()
+    {
+        QFETCH(QString, address);
+        LedsDialog dialog(QSize(16, 8), "it/wall.json");
+        QVERIFY(!dialog.StartButton()->isEnabled()); // no controller yet
+        dialog.SetAddress(address);
+        QCOMPARE(dialog.Address(), address);
+        QCOMPARE(dialog.Command(), "animtext play wall.json --to " + address);
+        QVERIFY(dialog.StartButton()->isEnabled());
+        dialog.SetAddress("ddp://h/99x99"); // does not fit
+        QCOMPARE(dialog.Address(), address);
+    }
+
+    void ledsFollowUntilTheyStop()
+    {
+        QUdpSocket receiver;
+        QVERIFY(receiver.bind(QHostAddress(QHostAddress::LocalHost), 0));
+        const auto next = [&] {
+            QByteArray packet(2000, '\0');
+            if (!receiver.hasPendingDatagrams() && !receiver.waitForReadyRead(300000))
+                return QByteArray("nothing");
+            packet.resize(int(receiver.readDatagram(packet.data(), packet.size())));
+            return packet.mid(10);
+        };
+        const QString address = QString("ddp://127.0.0.1:%1").arg(receiver.localPort());
+        QImage picture(1, 1, QImage::Format_RGB32);
+        picture.fill(qRgb(1, 2, 3));
+        {
+            LedsDialog dialog(QSize(1, 1), QString());
+            dialog.show();
+            dialog.SetAddress(address);
+            dialog.Show(picture);
+            dialog.StartButton()->click();
+            QCOMPARE(next(), QByteArray("\1\2\3"));
+            picture.fill(qRgb(4, 5, 6));
+            dialog.Show(picture);
+            QCOMPARE(next(), QByteArray("\4\5\6"));
+            dialog.findChildren<QComboBox*>().last()->setCurrentText("BGR"); // applies at once
+            QCOMPARE(next(), QByteArray("\6\5\4"));
+            dialog.PatternButton()->click();
+            QCOMPARE(next(), QByteArray("\xFF\xFF\xFF")); // the only corner
+            dialog.PatternButton()->click();
+            QByteArray shown = next();
+            while (shown.endsWith('\xFF')) // the pattern's own next ones
+                shown = next();
+            QCOMPARE(shown, QByteArray("\6\5\4"));
+            dialog.close();
+            for (int i = 0; i < 3; ++i)
+                QCOMPARE(next(), QByteArray(3, '\0'));
+            dialog.Show(picture);
+            QVERIFY(!receiver.hasPendingDatagrams());
+        }
+        QCOMPARE(LedsDialog(QSize(1, 1), QString()).Address(),
+                 address + "/color-order=BGR"); // for the next time
+    }
+
+    void tellsWhatIsWrong()
+    {
+        LedsDialog dialog(QSize(16, 8), QString());
+        dialog.SetAddress("ddp://host.invalid");
+        dialog.StartButton()->click();
+        QTRY_VERIFY_WITH_TIMEOUT(dialog.State().contains("cannot be found"), 300000);
+        QCOMPARE(dialog.StartButton()->text(), QString("Start"));
+    }
+
+private:
+    const QTemporaryDir settings;
+};
+
+QTEST_MAIN(TestLedsDialog)
+#include "tst_ledsdialog.moc"
