@@ -6,8 +6,8 @@
 #include "table.h"
 #include "testscene.h"
 
+#include <QHostInfo>
 #include <QNetworkInterface>
-#include <QPainter>
 #include <QUdpSocket>
 
 #include <csignal>
@@ -333,6 +333,16 @@ private slots:
         QCOMPARE(lights.Add(Read(address), display, &told), error.isEmpty());
         QVERIFY2(told.contains(error), qPrintable(told));
         QVERIFY(lights.Report().startsWith("sent 0 pictures in 0 packets"));
+    }
+
+    void prefersIPv4()
+    {
+        QHostInfo found;
+        QVERIFY(PreferredAddress(found).isNull());
+        found.setAddresses({QHostAddress("::1"), QHostAddress("127.0.0.1")});
+        QCOMPARE(PreferredAddress(found), QHostAddress("127.0.0.1"));
+        found.setAddresses({QHostAddress("::1")});
+        QCOMPARE(PreferredAddress(found), QHostAddress("::1"));
     }
 
     // Asks the sockets; sends nothing.

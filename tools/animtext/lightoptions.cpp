@@ -97,6 +97,11 @@ void CheckLightOptions(const CommandLine& line)
         if (line.IsSet(option.name) && !line.IsSet("to"))
             throw Misuse{QStringLiteral("--%1 needs --to").arg(QLatin1String(option.name))};
     }
+    for (const char* option : {"fullscreen", "zoom", "leds"}) {
+        if (line.IsSet(option) && line.IsSet("to") && !line.IsSet("window"))
+            throw Misuse{
+                QStringLiteral("--%1 with --to needs --window").arg(QLatin1String(option))};
+    }
     const QString pattern = line.Value("test-pattern");
     if (!line.IsSet("test-pattern") && line.Arguments().isEmpty())
         throw Misuse{QStringLiteral("expected SCENE.json")};

@@ -44,7 +44,7 @@ bool LookUp(const Controller& controller, QHostAddress* host, QString* error)
     if (info.addresses().isEmpty())
         return Fail(error, place + QStringLiteral("\"%1\" cannot be found: %2")
                                        .arg(controller.host, info.errorString()));
-    *host = info.addresses().first();
+    *host = PreferredAddress(info);
     if (host->isMulticast())
         return Fail(error, place + QStringLiteral("is a multicast address; expected sacn://, which "
                                                   "sends each universe to its own group"));
@@ -87,6 +87,15 @@ Transmit Through(const std::shared_ptr<QUdpSocket>& socket, quint16 port)
 }
 
 } // namespace
+
+QHostAddress PreferredAddress(const QHostInfo& found)
+{
+    for (const QHostAddress& address : found.addresses()) {
+        if (address.protocol() == QAbstractSocket::IPv4Protocol)
+            return address;
+    }
+    return found.addresses().value(0);
+}
 
 std::unique_ptr<QUdpSocket> OpenSocket(const Controller& controller, const QHostAddress& host,
                                        QString* error)

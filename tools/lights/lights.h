@@ -16,6 +16,7 @@
 #include <memory>
 #include <vector>
 
+class QHostInfo;
 class QUdpSocket;
 
 namespace AnimText {
@@ -24,6 +25,10 @@ enum class Sending { Done, Full, Failed };
 
 /** Hands a packet to the network without waiting; sets @p why where that fails. */
 using Transmit = std::function<Sending(const Packet& packet, QString* why)>;
+
+/** The address of a name that was looked up, IPv4 first, which is all that most controllers have.
+ */
+QHostAddress PreferredAddress(const QHostInfo& found);
 
 /**
  * A socket for @p controller at @p host, or for multicast where that is null: it never waits, and

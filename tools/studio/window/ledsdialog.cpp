@@ -352,7 +352,7 @@ void LedsDialog::Begin(const QHostInfo& found)
         state->setText(tr("%1 cannot be found: %2").arg(controller.host, found.errorString()));
         return;
     }
-    foundHost = found.addresses().first().toString();
+    foundHost = PreferredAddress(found).toString();
     Open(controller);
 }
 
