@@ -187,11 +187,10 @@ void LedsDialog::Arrange()
     const auto row = [&](const QString& label, const QList<QWidget*>& widgets) {
         auto* layout = new QHBoxLayout;
         layout->setSpacing(grid);
-        for (QWidget* widget : widgets) {
-            if (widget->accessibleName().isEmpty())
-                widget->setAccessibleName(label);
+        if (widgets.first()->accessibleName().isEmpty())
+            widgets.first()->setAccessibleName(label);
+        for (QWidget* widget : widgets)
             layout->addWidget(widget, widget == host ? 1 : 0);
-        }
         if (!widgets.contains(host))
             layout->addStretch(1);
         form->addRow(label, layout);
