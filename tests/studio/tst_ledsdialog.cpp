@@ -1,5 +1,6 @@
 // The dialog by which LEDs follow the studio. Its packets stay on 127.0.0.1.
 #include "studio/window/ledsdialog.h"
+#include "studio/window/mainwindow.h"
 #include "table.h"
 
 #include <QApplication>
@@ -87,6 +88,41 @@ private slots:
                  address + "/color-order=BGR"); // for the next time
     }
 
+    void ledsFollowTheStudio()
+    {
+        WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
+        QUdpSocket receiver;
+        QVERIFY(receiver.bind(QHostAddress(QHostAddress::LocalHost), 0));
+        MainWindow window{QString()};
+        window.New();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.Display()->Picture().isNull(), 300000);
+        for (QAction* action : window.findChildren<QAction*>())
+            if (action->text().contains("on L&EDs"))
+                action->trigger();
+        auto* dialog = window.findChild<LedsDialog*>();
+        QVERIFY(dialog);
+        dialog->SetAddress(QString("ddp://127.0.0.1:%1").arg(receiver.localPort()));
+        dialog->StartButton()->click();
+        // The picture that is there, and the one of another tick.
+        for (int tick : {0, 20}) {
+            window.GetPlayback()->Seek(tick);
+            QByteArray expected;
+            QByteArray found = "none";
+            const auto isThere = [&] {
+                expected = LedMap(Whole(window.Display()->Picture().size()))
+                               .Channels(window.Display()->Picture());
+                while (receiver.hasPendingDatagrams()) {
+                    QByteArray packet(2000, '\0');
+                    packet.resize(int(receiver.readDatagram(packet.data(), packet.size())));
+                    const bool isFirst = packet.mid(4, 4) == QByteArray(4, '\0');
+                    found = (isFirst ? QByteArray() : found) + packet.mid(10);
+                }
+                return found == expected && window.GetRehearsal()->IsCurrent();
+            };
+            QTRY_VERIFY_WITH_TIMEOUT(isThere(), 300000);
+        }
+    }
+
     void tellsWhatIsWrong()
     {
         LedsDialog dialog(QSize(16, 8), QString());
@@ -97,6 +133,13 @@ private slots:
     }
 
 private:
+    static Controller Whole(QSize size)
+    {
+        Controller controller;
+        controller.rect = QRect(QPoint(0, 0), size);
+        return controller;
+    }
+
     const QTemporaryDir settings;
 };
 

@@ -1016,6 +1016,10 @@
         <source>Page</source>
         <translation>Seite</translation>
     </message>
+    <message>
+        <source>Play on L&amp;EDs…</source>
+        <translation>Auf L&amp;EDs abspielen…</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::MotionPicker</name>

@@ -1,5 +1,6 @@
 // What the menus, the tool bar and the keys of the window do.
 #include "studio/window/exportdialog.h"
+#include "studio/window/ledsdialog.h"
 #include "studio/window/looks.h"
 #include "studio/window/mainwindow.h"
 
@@ -206,6 +207,14 @@ void MainWindow::MakePlayMenu()
     act(tr("To the start"), tr("Home"), [this] { playback.Seek(0); });
     act(tr("To the end"), tr("End"), [this] { playback.Seek(playback.Length() - 1); });
     act(tr("&Loop over the page, or no more"), QStringLiteral("R"), [this] { ToggleLoop(); });
+    play->addSeparator();
+    Act(play, tr("Play on L&EDs…"), QKeySequence(), QString(), [this] {
+        auto* dialog = new LedsDialog(document.Current().display, document.Path(), this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        connect(&rehearsal, &Rehearsal::Shown, dialog, &LedsDialog::Show);
+        dialog->Show(view->Picture());
+        dialog->show();
+    });
 }
 
 void MainWindow::MakeHelpMenu()
