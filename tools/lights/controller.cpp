@@ -159,7 +159,7 @@ bool ReadAddress(Controller* controller, const QString& address, QString* error)
 {
     static const QRegularExpression pattern(QStringLiteral(
         "^([a-z]+)://(\\[[^\\]]+\\]|[^:/,\\[\\]\\s]*)(?::(\\d{1,5}))?(?:[/,](.*))?$"));
-    const QString place = address + QStringLiteral(": ");
+    const QString place = address.isEmpty() ? QString() : address + QStringLiteral(": ");
     const auto match = pattern.match(address);
     controller->address = address;
     controller->port = 0;
