@@ -16,7 +16,7 @@ constexpr int timesBlack = 3;
 // Every other packet to a closed port succeeds: the refusal of one is an error of the next.
 constexpr int arrivedToBeBack = 30; // pictures, two seconds
 
-bool Fail(QString* error, const QString& line)
+bool Refuse(QString* error, const QString& line)
 {
     *error = line;
     return false;
@@ -42,15 +42,16 @@ bool LookUp(const Controller& controller, QHostAddress* host, QString* error)
         return true;
     const QHostInfo info = QHostInfo::fromName(controller.host);
     if (info.addresses().isEmpty())
-        return Fail(error, place + QStringLiteral("\"%1\" cannot be found: %2")
-                                       .arg(controller.host, info.errorString()));
+        return Refuse(error, place + QStringLiteral("\"%1\" cannot be found: %2")
+                                         .arg(controller.host, info.errorString()));
     *host = PreferredAddress(info);
     if (host->isMulticast())
-        return Fail(error, place + QStringLiteral("is a multicast address; expected sacn://, which "
-                                                  "sends each universe to its own group"));
+        return Refuse(error,
+                      place + QStringLiteral("is a multicast address; expected sacn://, which "
+                                             "sends each universe to its own group"));
     if (IsBroadcast(*host) && !controller.broadcast)
-        return Fail(error, place + QStringLiteral("is a broadcast address, which every device of "
-                                                  "the network receives; --broadcast allows it"));
+        return Refuse(error, place + QStringLiteral("is a broadcast address, which every device of "
+                                                    "the network receives; --broadcast allows it"));
     return true;
 }
 
@@ -151,11 +152,11 @@ bool Lights::CheckOverlap(const Controller& controller, const QString& destinati
         const auto other = Range(output.controller);
         if (output.destination == destination && mine.first <= other.second &&
             other.first <= mine.second)
-            return Fail(error,
-                        controller.address +
-                            QStringLiteral(": fills channels that %1 also fills; expected another "
-                                           "host, universe or channel")
-                                .arg(output.controller.address));
+            return Refuse(
+                error, controller.address +
+                           QStringLiteral(": fills channels that %1 also fills; expected another "
+                                          "host, universe or channel")
+                               .arg(output.controller.address));
     }
     return true;
 }
