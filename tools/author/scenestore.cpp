@@ -174,6 +174,9 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
         return refuse(QStringLiteral("expected a name that ends in .json"));
     if (!folder.exists())
         return refuse(QStringLiteral("there is no folder %1").arg(folder.path()));
+    QString target;
+    if (!FindTarget(path, &target, error))
+        return Storing::Failed;
     FolderLock lock(folder.absolutePath());
     if (!lock.Take(error))
         return Storing::Failed;

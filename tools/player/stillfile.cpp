@@ -73,10 +73,11 @@ StillFile::StillFile(const QString& path)
 {
 }
 
-bool StillFile::Open(const FilmFormat& format, QString*)
+bool StillFile::Open(const FilmFormat& format, QString* error)
 {
     transparent = format.transparent;
-    return true;
+    QString target;
+    return FindTarget(path, &target, error);
 }
 
 bool StillFile::Add(int, const QImage& picture, QString*)

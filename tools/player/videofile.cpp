@@ -113,7 +113,9 @@ bool VideoFile::Start(FilmProgram* program, const QStringList& input, const QStr
 bool VideoFile::Open(const FilmFormat& wanted, QString* error)
 {
     format = wanted;
-    const QString beside = UnfinishedName(path);
+    if (!FindTarget(path, &target, error))
+        return false;
+    const QString beside = UnfinishedName(target);
     for (QTemporaryFile* file : {&unfinished, &spool}) {
         file->setFileTemplate(beside);
         if ((file == &unfinished || IsSpooled()) && !file->open()) {
@@ -155,7 +157,8 @@ bool VideoFile::Finish(QString* error)
     const bool whole = encoder.Finish(error) && (!IsSpooled() || EncodeSpool(error)) &&
                        ReadFilmFacts(unfinished.fileName(), kind, goOn, &facts, error) &&
                        HasWholeFilm(facts, format, error);
-    if (!Named(whole, error) || !PutInPlace(unfinished.fileName(), path, 0666, error))
+    if (!Named(whole, error) || !FindTarget(path, &target, error) ||
+        !PutInPlace(unfinished.fileName(), target, 0666, error))
         return false;
     unfinished.setAutoRemove(false);
     return true;

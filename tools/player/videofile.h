@@ -40,6 +40,7 @@ private:
     bool Named(bool done, QString* error) const;
 
     QString path;
+    QString target; // behind the links of path
     QString kind;
     GoOn goOn;
     int patience;

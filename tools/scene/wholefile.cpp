@@ -1,5 +1,7 @@
 #include "scene/wholefile.h"
 
+#include "scene/scene.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -12,6 +14,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -57,7 +60,37 @@ void SetRights(const QByteArray& file, const QByteArray& replaced)
     chmod(file.constData(), isThere ? before.st_mode & 07777 : 0666 & ~mask);
 }
 
+/** Why the file at @p path must not be replaced; empty when it may be, or when there is none. */
+QString Obstacle(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat there = {};
+    if (stat(name.constData(), &there) != 0)
+        return errno == ENOENT ? QString() : QString::fromLocal8Bit(std::strerror(errno));
+    if (S_ISDIR(there.st_mode))
+        return QStringLiteral("it is a folder");
+    if (!S_ISREG(there.st_mode))
+        return QStringLiteral("it is not a regular file");
+    // The system lets root write everything, and everybody replace files in their own folder.
+    const mode_t needed = there.st_uid == geteuid() ? S_IWUSR : mode_t(S_IWUSR | S_IWGRP | S_IWOTH);
+    if ((there.st_mode & needed) == 0)
+        return QStringLiteral("it is write-protected; chmod u+w allows writing");
+    if (faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0)
+        return QStringLiteral("it is write-protected: %1")
+            .arg(QString::fromLocal8Bit(std::strerror(errno)));
+    return QString();
+}
+
 } // namespace
+
+bool FindTarget(const QString& path, QString* target, QString* error)
+{
+    *target = QFileInfo(RealPath(path)).absoluteFilePath();
+    const QString obstacle = Obstacle(*target);
+    if (!obstacle.isEmpty())
+        *error = QStringLiteral("%1 cannot be written: %2").arg(path, obstacle);
+    return obstacle.isEmpty();
+}
 
 QString UnfinishedName(const QString& path)
 {
@@ -88,14 +121,12 @@ bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
 
 bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
 {
-    const QFileInfo info(path);
-    // A link stays, and what it leads to is replaced.
-    const QString target = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    QString target;
+    if (!FindTarget(path, &target, error))
+        return false;
     QTemporaryFile file(UnfinishedName(target));
     QString problem;
-    if (info.exists() && !info.isFile())
-        problem = QStringLiteral("it is no file");
-    else if (!file.open())
+    if (!file.open())
         problem = file.errorString();
     else if (WriteAll(&file, content, &problem)) {
         const QByteArray from = QFile::encodeName(file.fileName());

@@ -19,13 +19,22 @@ namespace AnimText {
  */
 QString UnfinishedName(const QString& path);
 
+/**
+ * Where a file that is written as @p path really goes: links are followed, also to a file that is
+ * not there yet. Returns false, with one line in @p error, when what is there must stay: anything
+ * except a regular file, and a file that is write-protected. Its mode decides that for root too,
+ * who could replace it.
+ */
+bool FindTarget(const QString& path, QString* target, QString* error);
+
 /** Appends all of @p content to a file that is open and has nothing buffered; on failure answers
  * false with what the system says in @p problem. */
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem);
 
 /**
  * Writes @p content to @p path, and to the disk, before it takes the place of a file that may be
- * there. On failure answers false with one line in @p error; what was there is then left.
+ * there and that FindTarget() allows to replace. On failure answers false with one line in @p
+ * error; what was there is then left.
  */
 bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
 
