@@ -5,7 +5,9 @@
 #include "scene/catalogue.h"
 #include "scene/wholefile.h"
 
+#include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -40,12 +42,41 @@ struct GalleryEntry
     int sheets = 0;
 };
 
-/** A gallery is known by its script; what stands beside one belongs to it. */
-QString ForeignFile(const QDir& folder)
+const QString manifestName = QStringLiteral("manifest.json");
+const QString generator = QStringLiteral("animtext gallery");
+
+QString Digest(const QByteArray& content)
 {
-    const QStringList names =
-        folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    return names.contains(QStringLiteral("gallery.js")) ? QString() : names.value(0);
+    return QString::fromLatin1(
+        QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
+}
+
+/** The content of a regular file, or nothing. */
+QByteArray ContentOf(const QString& path)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    if (info.isSymLink() || !info.isFile() || !file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return file.readAll();
+}
+
+/** The files that the manifest in @p folder lists and that nobody has changed since. */
+QStringList OwnFiles(const QDir& folder)
+{
+    const QJsonObject manifest =
+        QJsonDocument::fromJson(ContentOf(folder.filePath(manifestName))).object();
+    if (manifest.value(QStringLiteral("generator")).toString() != generator)
+        return QStringList();
+    QStringList own{manifestName};
+    const QJsonObject files = manifest.value(QStringLiteral("files")).toObject();
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        const bool isInside = !QDir::cleanPath(file.key()).startsWith(QLatin1String("..")) &&
+                              QDir::isRelativePath(file.key());
+        if (isInside && Digest(ContentOf(folder.filePath(file.key()))) == file.value().toString())
+            own.append(file.key());
+    }
+    return own;
 }
 
 QByteArray Script(const char* function, const QJsonObject& object)
@@ -141,7 +172,7 @@ private:
 
     void WriteAll()
     {
-        Demand(folder.Open(ForeignFile, &why));
+        Demand(folder.Open(OwnFiles, &why));
         QJsonArray motions;
         for (const Motion& motion : Effects())
             motions.append(WriteMotion(Mode::Entrance, motion));
@@ -162,6 +193,9 @@ private:
                 qFatal("the program lacks its own %s", name);
             Add(QLatin1String(name), page.readAll());
         }
+        const QJsonObject manifest{{QStringLiteral("generator"), generator},
+                                   {QStringLiteral("files"), digests}};
+        Demand(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &why));
         Demand(folder.Finish(&why));
     }
 
@@ -228,6 +262,7 @@ private:
     void Add(const QString& name, const QByteArray& content)
     {
         Demand(folder.Add(name, content, &why));
+        digests.insert(name, Digest(content));
     }
 
     const GalleryOptions& options;
@@ -236,6 +271,7 @@ private:
     WholeFolder folder;
     QTemporaryDir scenes;
     PictureSheets posters;
+    QJsonObject digests; // of the files in the folder
     QString why;
     int done = 0;
     const int all = speedCount * (Effects().size() + Scrolls().size());

@@ -12,17 +12,11 @@ namespace AnimText {
 
 namespace {
 
-/** A name in @p folder that is no picture of a film; empty when there is none. */
-QString ForeignFile(const QDir& folder)
+/** The pictures of a film in @p folder. */
+QStringList Frames(const QDir& folder)
 {
     static const QRegularExpression frame(QStringLiteral("^frame-[0-9]{4,}\\.png$"));
-    const QStringList names =
-        folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QString& name : names) {
-        if (!frame.match(name).hasMatch())
-            return name;
-    }
-    return QString();
+    return folder.entryList(QDir::Files | QDir::NoSymLinks).filter(frame);
 }
 
 } // namespace
@@ -35,7 +29,7 @@ PngFolder::PngFolder(const QString& path)
 bool PngFolder::Open(const FilmFormat& wanted, QString* error)
 {
     format = wanted;
-    return folder.Open(ForeignFile, error);
+    return folder.Open(Frames, error);
 }
 
 bool PngFolder::Add(int frame, const QImage& picture, QString* error)

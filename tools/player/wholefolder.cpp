@@ -1,33 +1,92 @@
 #include "player/wholefolder.h"
 
 #include "player/filmfile.h"
+#include "scene/scene.h"
 #include "scene/wholefile.h"
 
+#include <QDirIterator>
 #include <QFileInfo>
+#include <QSet>
 
 #include <cerrno>
 #include <cstring>
 
 namespace AnimText {
 
+namespace {
+
+/** The first name below @p folder that is neither one of @p own nor a folder of these. */
+QString ForeignName(const QDir& folder, const QStringList& own)
+{
+    QStringList known = own;
+    for (const QString& name : own) {
+        for (int slash = name.indexOf(QLatin1Char('/')); slash > 0;
+             slash = name.indexOf(QLatin1Char('/'), slash + 1))
+            known.append(name.left(slash));
+    }
+    const QSet<QString> all(known.begin(), known.end());
+    QDirIterator entries(folder.path(),
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString name = folder.relativeFilePath(entries.next());
+        if (entries.fileInfo().isSymLink() || !all.contains(name))
+            return name;
+    }
+    return QString();
+}
+
+/** Removes @p own from @p folder, and the folders that are empty then. */
+void RemoveOwn(const QDir& folder, const QStringList& own)
+{
+    for (const QString& name : own) {
+        QFile::remove(folder.filePath(name));
+        if (name.contains(QLatin1Char('/')))
+            folder.rmdir(name.section(QLatin1Char('/'), 0, -2));
+    }
+    folder.rmdir(folder.path());
+}
+
+} // namespace
+
 WholeFolder::WholeFolder(const QString& path)
-    : path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
+    : path(QDir::cleanPath(QFileInfo(RealPath(QDir::cleanPath(path))).absoluteFilePath()))
 {
 }
 
-bool WholeFolder::Open(const std::function<QString(const QDir&)>& inTheWay, QString* error)
+bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
 {
+    const QDir there(at);
+    QString protection = WriteProtection(at);
+    if (protection.isEmpty() && !there.isReadable())
+        protection = QStringLiteral("it cannot be read");
+    const QStringList own = protection.isEmpty() ? ownFiles(there) : QStringList();
+    QString culprit = path;
+    for (int i = 0; i < own.size() && protection.isEmpty(); ++i) {
+        culprit = there.filePath(own.at(i));
+        protection = WriteProtection(culprit);
+    }
+    if (!protection.isEmpty()) {
+        *error = QStringLiteral("%1 cannot be written: %2").arg(culprit, protection);
+        return false;
+    }
+    const QString foreign = ForeignName(there, own);
+    if (!foreign.isEmpty())
+        *error =
+            QStringLiteral("%1 also holds %2; name an empty or a new folder").arg(path, foreign);
+    return foreign.isEmpty();
+}
+
+bool WholeFolder::Open(const OwnFiles& own, QString* error)
+{
+    ownFiles = own;
     const QFileInfo info(path);
     if (info.exists() && !info.isDir()) {
         *error = QStringLiteral("%1 is a file; give the folder another name").arg(path);
         return false;
     }
-    const QString foreign = info.exists() ? inTheWay(QDir(path)) : QString();
-    if (!foreign.isEmpty()) {
-        *error =
-            QStringLiteral("%1 also holds %2; name an empty or a new folder").arg(path, foreign);
+    if (info.exists() && !IsReplaceable(path, error))
         return false;
-    }
     folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
     if (folder->isValid())
         return true;
@@ -55,6 +114,8 @@ bool WholeFolder::Finish(QString* error)
 {
     const bool replaces = QFileInfo::exists(path);
     const QString old = folder->path() + QStringLiteral(".old");
+    if (replaces && !IsReplaceable(path, error))
+        return false;
     if (replaces && !QDir().rename(path, old)) {
         *error = QStringLiteral("%1 cannot be replaced").arg(path);
         return false;
@@ -66,7 +127,7 @@ bool WholeFolder::Finish(QString* error)
     }
     folder->setAutoRemove(false);
     if (replaces)
-        QDir(old).removeRecursively();
+        RemoveOwn(QDir(old), ownFiles(QDir(old)));
     return true;
 }
 

@@ -23,12 +23,14 @@ public:
 
     QString Path() const { return path; }
 
+    /** The files of a folder, as paths in it, that an earlier command wrote and may replace. */
+    using OwnFiles = std::function<QStringList(const QDir&)>;
+
     /**
-     * Each answers false on failure, with one line in @p error.
-     * @param inTheWay of a folder that is there, the name of something that must not be lost; empty
-     *                 when the whole folder may be replaced
+     * Each answers false on failure, with one line in @p error. A folder that holds anything except
+     * @p ownFiles stays as it is; Finish() looks again, for others write too.
      */
-    bool Open(const std::function<QString(const QDir&)>& inTheWay, QString* error);
+    bool Open(const OwnFiles& ownFiles, QString* error);
     /** @param name of a file, with at most one folder before it */
     bool Add(const QString& name, const QByteArray& content, QString* error);
     bool Finish(QString* error);
@@ -37,7 +39,10 @@ public:
     qint64 Bytes() const { return bytes; }
 
 private:
+    bool IsReplaceable(const QString& at, QString* error) const;
+
     QString path;
+    OwnFiles ownFiles;
     std::unique_ptr<QTemporaryDir> folder;
     qint64 bytes = 0;
 };

@@ -71,6 +71,17 @@ QString Obstacle(const QString& path)
         return QStringLiteral("it is a folder");
     if (!S_ISREG(there.st_mode))
         return QStringLiteral("it is not a regular file");
+    return WriteProtection(path);
+}
+
+} // namespace
+
+QString WriteProtection(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat there = {};
+    if (stat(name.constData(), &there) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
     // The system lets root write everything, and everybody replace files in their own folder.
     const mode_t needed = there.st_uid == geteuid() ? S_IWUSR : mode_t(S_IWUSR | S_IWGRP | S_IWOTH);
     if ((there.st_mode & needed) == 0)
@@ -80,8 +91,6 @@ QString Obstacle(const QString& path)
             .arg(QString::fromLocal8Bit(std::strerror(errno)));
     return QString();
 }
-
-} // namespace
 
 bool FindTarget(const QString& path, QString* target, QString* error)
 {

@@ -20,10 +20,15 @@ namespace AnimText {
 QString UnfinishedName(const QString& path);
 
 /**
+ * Why the file or folder at @p path must not be changed: what protects it, or empty. Its mode
+ * decides that for root too, who could change everything.
+ */
+QString WriteProtection(const QString& path);
+
+/**
  * Where a file that is written as @p path really goes: links are followed, also to a file that is
  * not there yet. Returns false, with one line in @p error, when what is there must stay: anything
- * except a regular file, and a file that is write-protected. Its mode decides that for root too,
- * who could replace it.
+ * except a regular file, and a file that is write-protected.
  */
 bool FindTarget(const QString& path, QString* target, QString* error);
 
