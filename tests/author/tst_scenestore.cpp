@@ -44,6 +44,7 @@ struct Sample
     }
 
     SceneNode& Node() { return scene.pages[0].areas[0].nodes[0]; }
+    const SceneNode& Node() const { return scene.pages[0].areas[0].nodes[0]; }
 
     Scene scene;
     DataFiles files;
@@ -121,18 +122,130 @@ private slots:
         QCOMPARE(folder->Listing(), second.files.keys() + QStringList("sign.json"));
     }
 
-    void sharedAndForeignFilesStay()
+    void neededFilesStay_data()
     {
-        Sample first(path, "first");
-        QVERIFY(Save(first) == Storing::Saved && QFile::copy(path, folder->Path("copy.json")));
-        QCOMPARE(Save(Sample(path, "second")), Storing::Saved);
-        QVERIFY(Holds("copy.json", first));
+        // content: "%1" is the name of a data file that the scene in "signs" no longer needs
+        const Table<QString, QString, bool> row("file", "content", "stays");
+        row("unrelated JSON", "signs/a.json", "[{\"a.path\": 1}]", false);
+        row("unrelated text", "signs/a.txt", "sign.path", false);
+        row("a film", "signs/a.gif", "GIF89a{%1", false);
+        row("too far below", "signs/a/b/c.json", "[\"%1\"]", false);
+        row("a scene", "signs/a.json", "[\"%1\"]", true);
+        row("a key", "signs/a.json", "{\"%1\": 1}", true);
+        row("a backup", "signs/sign.json.bak", "[{\"a\": \"./%1\"}]", true);
+        row("hidden", "signs/.a", "[\"%1\"]", true);
+        row("named like data", "signs/a.0123456789abcdef.path", "[\"%1\"]", true);
+        row("escaped", "signs/a.json", "[\"\\u0073\\u0069gn%1\"]", true);
+        row("in capitals", "signs/a.json", "[\"SIGN%1\"]", true);
+        row("below", "signs/a/b.json", "[\"../%1\"]", true);
+        row("below, hidden", "signs/.a/b", "[\"../%1\"]", true);
+        row("above", "a.json", "[\"signs/%1\"]", true);
+        row("no JSON", "signs/a.txt", "cp %1 /media", true);
+        row("torn", "signs/a.json", "[\"\\u0073\\u0069gn%1\"", true);
+        row("a key twice", "signs/a.json", "{\"a\": \"\\u0073ign%1\", \"a\": 1}", true);
+        row("two lines of JSON", "signs/a.json", "{}\n[\"\\u0073ign%1\"]", true);
+    }
 
-        // A file that the author named and made is not ours to remove.
-        first.files["mine.path"] = first.files[first.Node().files["PathData"]];
-        first.Node().files["PathData"] = "mine.path";
-        QVERIFY(Save(first) == Storing::Saved && Save(Sample(path, "third")) == Storing::Saved);
-        QVERIFY(folder->Listing().contains("mine.path"));
+    void neededFilesStay()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, content);
+        QFETCH(bool, stays);
+        QVERIFY(QDir().mkpath(QFileInfo(folder->Path(file)).path()) &&
+                QDir().mkpath(folder->Path("signs")));
+        path = folder->Path("signs/sign.json");
+        const Sample first(path, "first");
+        QCOMPARE(Save(first), Storing::Saved);
+        const QString name = first.Node().files["DescentVector"];
+        const bool isPartial = content.contains("gn%1") || content.contains("SIGN");
+        folder->Write(file, content.arg(isPartial ? name.mid(4) : name).toUtf8());
+        QCOMPARE(Save(Sample(path, "second")), Storing::Saved);
+        QCOMPARE(QFile::exists(folder->Path("signs/" + name)), stays);
+    }
+
+    // Only data as it was made is removed, and nothing where a file cannot be looked at.
+    void uncertainFilesStay_data()
+    {
+        const Table<QString, bool> row("obstacle", "stays");
+        row("nothing", ":", false);
+        row("changed", "echo mine >>$1", true);
+        row("write-protected", "chmod a-w $1", true);
+        row("a link", "mv $1 mine; ln -s mine $1", true);
+        row("linked to", "ln -s $1 mine", true);
+        row("UTF-16", "printf '{\\0}\\0' >a.json", true);
+        row("leads nowhere", "ln -s none a.json", true);
+        row("a pipe", "mkfifo a.json", true);
+        row("too large", "truncate -s 17M a.json", true);
+        row("a large film", "printf GIF89a >a.gif; truncate -s 17M a.gif", false);
+    }
+
+    void uncertainFilesStay()
+    {
+        QFETCH(QString, obstacle);
+        QFETCH(bool, stays);
+        const Sample first(path, "first");
+        QCOMPARE(Save(first), Storing::Saved);
+        const QString name = first.Node().files["DescentVector"];
+        QProcess shell;
+        shell.setWorkingDirectory(folder->Path(""));
+        shell.start("/bin/sh", {"-c", obstacle, "sh", name});
+        QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
+        QCOMPARE(Save(Sample(path, "second")), Storing::Saved);
+        QCOMPARE(folder->Listing().contains(name), stays);
+    }
+
+    // A scene never loses its own files, whatever it is called, and loses those that it replaces.
+    void anyNameWorks()
+    {
+        QStringList names{"\"",
+                          "a\\",
+                          "a\tb",
+                          "a\nb",
+                          ".x",
+                          ".",
+                          "",
+                          "a.b",
+                          "-",
+                          " ",
+                          "*[a]?",
+                          "..",
+                          "\u00e9",
+                          "e\u0301",
+                          "a\uFEFF",
+                          "%1",
+                          QString(125, QChar(0xe9))};
+        names += QString(250, 'x');
+        for (const QString& name : names) {
+            init();
+            path = folder->Path(name + ".json");
+            for (const char* text : {"first", "second"}) {
+                const Sample sample(path, text);
+                QVERIFY2(Save(sample) == Storing::Saved, qPrintable(error));
+                QVERIFY2(Holds(name + ".json", sample), qPrintable(name));
+                QCOMPARE(folder->Listing().size(), 3);
+            }
+        }
+    }
+
+    void tidiesWhatNoSceneNames()
+    {
+        QCOMPARE(Save(Sample(path, "first")), Storing::Saved);
+        Sample orphan(folder->Path("gone.json"), "orphan");
+        const QStringList before = folder->Listing();
+        for (auto file = orphan.files.begin(); file != orphan.files.end(); ++file)
+            folder->Write(file.key(), file.value());
+        folder->Write("mine.path", "mine");
+        Unneeded unneeded;
+        QVERIFY(TidyFolder(folder->Path(""), false, &unneeded, &error));
+        QCOMPARE(unneeded.names, orphan.files.keys());
+        folder->Write("torn.json", "{");
+        QVERIFY(!TidyFolder(folder->Path(""), true, &unneeded, &error));
+        QVERIFY2(error.contains("torn.json"), qPrintable(error));
+        QCOMPARE(folder->Listing().size(), before.size() + 4);
+        folder->Remove("torn.json");
+        folder->Remove("mine.path");
+        QVERIFY(TidyFolder(folder->Path(""), true, &unneeded, &error));
+        QCOMPARE(folder->Listing(), before);
     }
 
     void damagedFileIsWrittenAnew()
@@ -319,6 +432,8 @@ private slots:
             if (calls > 0 && folder->Listing().contains(".animtext.lock"))
                 Age(folder->Path(".animtext.lock"));
             QCOMPARE(Save(before), Storing::Saved);
+            Unneeded unneeded;
+            QVERIFY2(TidyFolder(folder->Path(""), true, &unneeded, &error), qPrintable(error));
             QCOMPARE(folder->Listing(), before.files.keys() + QStringList("sign.json"));
             ending = RunAndKill(calls, [&] { Save(after); });
             if (ending == Ending::Untraceable)

@@ -23,6 +23,7 @@ Command SchemaCommand();
 Command SetCommand();
 Command SheetCommand();
 Command SoakCommand();
+Command TidyCommand();
 Command TraceCommand();
 Command ValidateCommand();
 

@@ -73,11 +73,11 @@ const QVector<Command>& Commands()
             {},
             Complete,
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
-        commands = {AuthorCommand(), ListCommand(),    SetCommand(),      RemoveCommand(),
-                    PlayCommand(),   RenderCommand(),  SheetCommand(),    GalleryCommand(),
-                    TraceCommand(),  CompareCommand(), DurationCommand(), ValidateCommand(),
-                    SoakCommand(),   SchemaCommand(),  EffectsCommand(),  FontsCommand(),
-                    completion};
+        commands = {AuthorCommand(),   ListCommand(),  SetCommand(),     RemoveCommand(),
+                    TidyCommand(),     PlayCommand(),  RenderCommand(),  SheetCommand(),
+                    GalleryCommand(),  TraceCommand(), CompareCommand(), DurationCommand(),
+                    ValidateCommand(), SoakCommand(),  SchemaCommand(),  EffectsCommand(),
+                    FontsCommand(),    completion};
         Command help{"help",
                      "tells of a command",
                      "[COMMAND]",

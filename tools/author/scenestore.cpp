@@ -4,19 +4,15 @@
 #include "scene/wholefile.h"
 #include "validate/validate.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
 
 namespace AnimText {
 namespace {
-
-const int digestLength = 16; // hexadecimal digits: no two texts of one folder will share them
 
 bool Holds(const QString& path, const QByteArray& content)
 {
@@ -25,47 +21,19 @@ bool Holds(const QString& path, const QByteArray& content)
            file.readAll() == content;
 }
 
-/** The data files of our own making that the scene file at @p path names; they lie beside it. */
-QStringList NamedDataFiles(const QString& path)
+/** The files in the folder of @p scene that it names. */
+QStringList NamedFiles(const Scene& scene)
 {
-    static const QRegularExpression ours(
-        QStringLiteral("\"([^\"/\\\\]*\\.[0-9a-f]{%1}\\.(?:path|descent))\"").arg(digestLength));
-    QFile file(path);
+    const QDir folder = QFileInfo(scene.path).absoluteDir();
     QStringList names;
-    if (!file.open(QIODevice::ReadOnly))
-        return names;
-    auto match = ours.globalMatch(QString::fromUtf8(file.readAll()));
-    while (match.hasNext())
-        names.append(match.next().captured(1));
-    return names;
-}
-
-/** The data files that were made for the scene at @p path, also by writers that were killed. */
-QStringList OwnDataFiles(const QString& path)
-{
-    static const QRegularExpression ours(
-        QStringLiteral("\\.[0-9a-f]{%1}\\.(path|descent)$").arg(digestLength));
-    const QString name = QFileInfo(path).completeBaseName();
-    return QFileInfo(path)
-        .dir()
-        .entryList(QDir::Files)
-        .filter(ours)
-        .filter(QRegularExpression(QLatin1Char('^') + QRegularExpression::escape(name) +
-                                   QStringLiteral("\\.[^.]+\\.[^.]+$")));
-}
-
-/** Removes the data files @p candidates that no scene of @p folder names. */
-void RemoveUnnamed(const QDir& folder, const QStringList& candidates)
-{
-    if (candidates.isEmpty())
-        return;
-    QStringList named;
-    for (const QString& scene : folder.entryList({QStringLiteral("*.json")}, QDir::Files))
-        named += NamedDataFiles(folder.filePath(scene));
-    for (const QString& name : candidates) {
-        if (!named.contains(name))
-            QFile::remove(folder.filePath(name));
+    for (const SceneNode* node : scene.Nodes()) {
+        for (const QString& file : node->files) {
+            const QFileInfo info(scene.FullName(file));
+            if (info.dir() == folder)
+                names.append(info.fileName());
+        }
     }
+    return names;
 }
 
 /** The first mistake among @p after that is an error and not among @p before, or nothing. */
@@ -93,7 +61,7 @@ public:
     {
     }
 
-    Storing Change(const SceneChange& change, QString* error)
+    Storing Change(const SceneChange& change, QString* error, QString* doubt)
     {
         Scene scene;
         scene.path = path;
@@ -102,14 +70,23 @@ public:
         if (isThere && !ReadScene(path, &scene, error, MissingFiles::AreAccepted))
             return Storing::Refused;
         const QList<Finding> before = isThere ? ValidateScene(scene) : QList<Finding>();
-        const QStringList filesBefore = NamedDataFiles(path);
+        QStringList replaced = NamedFiles(scene);
         DataFiles dataFiles;
         if (!change(&scene, &dataFiles, error))
             return Storing::Refused;
         const Storing storing = Write(scene, before, dataFiles, error);
         if (storing == Storing::Saved) {
             lock.Sync();
-            RemoveUnnamed(folder, filesBefore + OwnDataFiles(path));
+            const QStringList named = NamedFiles(scene);
+            replaced.erase(
+                std::remove_if(replaced.begin(), replaced.end(),
+                               [&](const QString& name) { return named.contains(name); }),
+                replaced.end());
+            const Unneeded unneeded = FindUnneeded(folder, replaced);
+            for (const QString& name : unneeded.names)
+                QFile::remove(folder.filePath(name));
+            if (doubt)
+                *doubt = unneeded.doubt;
         } else {
             for (const QString& file : made)
                 QFile::remove(file);
@@ -152,14 +129,7 @@ private:
 
 } // namespace
 
-QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix)
-{
-    const QByteArray digest = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
-    return QFileInfo(scenePath).completeBaseName() + QLatin1Char('.') +
-           QString::fromLatin1(digest.left(digestLength)) + QLatin1Char('.') + suffix;
-}
-
-Storing ChangeScene(const QString& path, const SceneChange& change, QString* error)
+Storing ChangeScene(const QString& path, const SceneChange& change, QString* error, QString* doubt)
 {
     const QString file = RealPath(path);
     const QFileInfo info(file);
@@ -180,7 +150,33 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
     FolderLock lock(folder.absolutePath());
     if (!lock.Take(error))
         return Storing::Failed;
-    return Store(file, lock).Change(change, error);
+    return Store(file, lock).Change(change, error, doubt);
+}
+
+bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* error)
+{
+    const QDir folder(path);
+    if (!folder.exists() || !folder.isReadable()) {
+        *error = QStringLiteral("%1: expected a folder that can be read").arg(path);
+        return false;
+    }
+    FolderLock lock(folder.absolutePath());
+    if (removes && !lock.Take(error))
+        return false;
+    *unneeded = FindUnneeded(folder, DataFilesIn(folder));
+    if (!unneeded->doubt.isEmpty()) {
+        *error = QStringLiteral("nothing is certain to be unneeded: %1").arg(unneeded->doubt);
+        return false;
+    }
+    for (const QString& name : removes ? unneeded->names : QStringList()) {
+        QFile file(folder.filePath(name));
+        if (!file.remove()) {
+            *error =
+                QStringLiteral("%1 cannot be removed: %2").arg(file.fileName(), file.errorString());
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace AnimText

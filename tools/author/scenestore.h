@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_SCENESTORE_H
 #define ANIMTEXT_SCENESTORE_H
 
+#include "author/datafiles.h"
 #include "scene/scene.h"
 
 #include <QByteArray>
@@ -14,12 +15,6 @@
 #include <functional>
 
 namespace AnimText {
-
-/**
- * The name for a data file of the scene at @p scenePath: the scene's own, a digest of @p content
- * and @p suffix. Other content has another name, so that a scene never meets the data of another.
- */
-QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix);
 
 /** Content of new data files by name; they lie beside the scene. */
 using DataFiles = QMap<QString, QByteArray>;
@@ -43,11 +38,20 @@ enum class Storing {
  * Nothing is written that no tool could read, nor anything with mistakes that were not there
  * before. The name must end in ".json", and a file that is there and is no scene stays. The data
  * files come first, the scene last and at once: killed at any moment, what stands there is the old
- * scene or the new one, and its files are there. Data files made by DataFileName() that the
- * replaced scene named and that no scene in the folder names any more are removed. Unless Saved,
- * @p error has one line on it and nothing new is left behind.
+ * scene or the new one, and its files are there. Data files that the replaced scene named, and the
+ * new one does not, are removed where FindUnneeded() finds them so. Unless Saved, @p error has one
+ * line on it and nothing new is left behind. Where something cannot be looked at, so that old data
+ * files stay, @p doubt says what.
  */
-Storing ChangeScene(const QString& path, const SceneChange& change, QString* error);
+Storing ChangeScene(const QString& path, const SceneChange& change, QString* error,
+                    QString* doubt = nullptr);
+
+/**
+ * The data files in @p folder that no scene needs, such as those of a scene that was deleted or of
+ * a writer that was killed. With @p removes they are deleted, while other writers wait. On failure
+ * returns false with one line in @p error.
+ */
+bool TidyFolder(const QString& folder, bool removes, Unneeded* unneeded, QString* error);
 
 } // namespace AnimText
 

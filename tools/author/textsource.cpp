@@ -1,5 +1,7 @@
 #include "author/textsource.h"
 
+#include "scene/wholefile.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -163,13 +165,14 @@ QByteArray LayoutDigest(const SceneNode& node)
 
 QString SourcesName(const QString& scenePath)
 {
-    return QFileInfo(scenePath).completeBaseName() + QStringLiteral(".sources");
+    const QString suffix = QStringLiteral(".sources");
+    return Shortened(QFileInfo(scenePath).completeBaseName(), longestName - suffix.size()) + suffix;
 }
 
 TextSources ReadSources(const QString& scenePath)
 {
     QFile file(QFileInfo(RealPath(scenePath)).dir().filePath(SourcesName(RealPath(scenePath))));
-    if (file.size() > largestFile || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(file).isFile() || file.size() > largestFile || !file.open(QIODevice::ReadOnly))
         return {};
     return SourcesFromJson(file.readAll());
 }

@@ -101,14 +101,25 @@ bool FindTarget(const QString& path, QString* target, QString* error)
     return obstacle.isEmpty();
 }
 
+QString Shortened(const QString& name, int most)
+{
+    int length = name.size();
+    while (length > 0 && (QFile::encodeName(name.left(length)).size() > most ||
+                          name.at(length - 1).isHighSurrogate()))
+        --length;
+    return name.left(length);
+}
+
 QString UnfinishedName(const QString& path)
 {
     const QFileInfo info(path);
     Sweep(info.absoluteDir());
-    return QStringLiteral("%1/.%2.%3%4.XXXXXX")
-        .arg(info.absolutePath(), info.fileName())
-        .arg(QCoreApplication::applicationPid())
-        .arg(Mark());
+    const QString end = QLatin1Char('.') + QString::number(QCoreApplication::applicationPid()) +
+                        Mark() + QStringLiteral(".XXXXXX");
+    const QString around =
+        QStringLiteral("..old"); // a dot before; what a replaced folder has behind
+    const int room = longestName - QFile::encodeName(around + end).size();
+    return info.absolutePath() + QStringLiteral("/.") + Shortened(info.fileName(), room) + end;
 }
 
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem)

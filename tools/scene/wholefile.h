@@ -13,6 +13,11 @@ class QFile;
 
 namespace AnimText {
 
+constexpr int longestName = 255; ///< bytes of a file's name, in Linux' file systems
+
+/** The longest start of @p name that takes at most @p most bytes in a file system. */
+QString Shortened(const QString& name, int most);
+
 /**
  * The name under which what will be @p path is made: a template for QTemporaryFile or
  * QTemporaryDir. Removes what killed processes of this machine left in the folder.

@@ -1,0 +1,211 @@
+#include "author/datafiles.h"
+
+#include "scene/duplicatekeys.h"
+#include "scene/wholefile.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+#include <QRegularExpression>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+const int digestLength = 16;       // hexadecimal digits: no two texts of one folder will share them
+const int mostFiles = 5000;        // that are looked at
+const qint64 mostBytes = 64 << 20; // of all of them
+const qint64 largestFile = 16 << 20; // bytes; scenes are far smaller
+
+/** Captures the digest and the suffix. */
+const QRegularExpression& OurNames()
+{
+    static const QRegularExpression names(
+        QStringLiteral("\\.([0-9a-f]{%1})\\.(path|descent)$").arg(digestLength),
+        QRegularExpression::DotMatchesEverythingOption);
+    return names;
+}
+
+QString Digest(const QByteArray& content)
+{
+    return QString::fromLatin1(
+        QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(digestLength));
+}
+
+/** Names that some file system takes for the same are equal in this form. */
+QString Folded(const QString& text)
+{
+    QString folded = text.normalized(QString::NormalizationForm_C).toCaseFolded();
+    return folded.remove(QChar(QChar::ByteOrderMark));
+}
+
+/** Whether a file of that content cannot be a scene, nor a list of names: our data, a film. */
+bool IsData(const QByteArray& start, qint64 size)
+{
+    const bool isSerialised =
+        start.size() > 4 && qFromBigEndian<quint32>(start.constData()) == size - 4;
+    return isSerialised || start.startsWith("\x89PNG") || start.startsWith("GIF8") ||
+           start.startsWith("\xff\xd8\xff") || start.startsWith("\x1a\x45\xdf\xa3") ||
+           (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP") || start.mid(4, 4) == "ftyp";
+}
+
+/** Also where it is UTF-16, which has a zero byte beside each of these characters. */
+bool LooksLikeJson(const QByteArray& content)
+{
+    const auto first = std::find_if(content.begin(), content.end(), [](char byte) {
+        return uchar(byte) > ' ' && uchar(byte) < 0x80;
+    });
+    return first != content.end() && (*first == '{' || *first == '[' || *first == '"');
+}
+
+/** Looks through files for the names of data files. */
+class Search
+{
+public:
+    explicit Search(const QStringList& candidates)
+    {
+        for (const QString& name : candidates)
+            sought.insert(name, Folded(name));
+    }
+
+    /** What was not found. */
+    QStringList Unnamed() const { return sought.keys(); }
+
+    /** @return the first thing that cannot be read, with the reason, or empty */
+    QString LookInto(const QDir& folder)
+    {
+        QString doubt;
+        if (!folder.isReadable())
+            doubt = QStringLiteral("%1: it cannot be read").arg(folder.path());
+        for (const QFileInfo& file :
+             folder.entryInfoList(QDir::Files | QDir::System | QDir::Hidden)) {
+            const QString why = LookAt(file);
+            if (!why.isEmpty() && doubt.isEmpty())
+                doubt = QStringLiteral("%1: %2").arg(file.filePath(), why);
+        }
+        return doubt;
+    }
+
+private:
+    QString LookAt(const QFileInfo& info)
+    {
+        if (info.isSymLink())
+            SearchText(QFileInfo(info.symLinkTarget()).fileName());
+        if (!info.isFile())
+            return info.exists() ? QStringLiteral("it is not a regular file")
+                                 : QStringLiteral("it leads nowhere");
+        QFile file(info.filePath());
+        if (!file.open(QIODevice::ReadOnly))
+            return file.errorString();
+        if (IsData(file.peek(16), file.size()))
+            return QString();
+        if (++files > mostFiles || file.size() > largestFile || bytes + file.size() > mostBytes)
+            return QStringLiteral("there is too much to look at");
+        bytes += file.size();
+        const QByteArray content = file.readAll();
+        if (content.size() != file.size())
+            return file.errorString();
+        return SearchContent(content)
+                   ? QString()
+                   : QStringLiteral("it looks like JSON and cannot be read as such");
+    }
+
+    /** @return false when names may have been overlooked */
+    bool SearchContent(const QByteArray& content)
+    {
+        // As written: a list for a program, the index of an archive.
+        for (auto it = sought.begin(); it != sought.end();)
+            it = content.contains(QFile::encodeName(it.key())) ? sought.erase(it) : it + 1;
+        const bool isJson = LooksLikeJson(content);
+        // Of keys that are there twice Qt's reader keeps one.
+        const QJsonDocument document = isJson && DuplicateKeys(content).isEmpty()
+                                           ? QJsonDocument::fromJson(content)
+                                           : QJsonDocument();
+        if (document.isNull())
+            return !isJson && !content.contains("\\u00");
+        SearchValue(document.isArray() ? QJsonValue(document.array())
+                                       : QJsonValue(document.object()));
+        return true;
+    }
+
+    void SearchValue(const QJsonValue& value)
+    {
+        if (value.isString())
+            SearchText(value.toString());
+        const QJsonArray items = value.toArray();
+        for (const auto& item : items)
+            SearchValue(item);
+        const QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            SearchText(it.key());
+            SearchValue(it.value());
+        }
+    }
+
+    void SearchText(const QString& text)
+    {
+        if (!text.contains(QLatin1Char('.')))
+            return;
+        const QString folded = Folded(text);
+        for (auto it = sought.begin(); it != sought.end();)
+            it = folded.contains(*it) ? sought.erase(it) : it + 1;
+    }
+
+    QMap<QString, QString> sought; // names as they are, and in the form for comparing
+    int files = 0;
+    qint64 bytes = 0;
+};
+
+/** Whether @p name is what DataFileName() made it, nobody has protected it, and it can go. */
+bool IsOurs(const QDir& folder, const QString& name)
+{
+    const auto match = OurNames().match(name);
+    QFile file(folder.filePath(name));
+    const QFileInfo info(file);
+    return match.hasMatch() && !info.isSymLink() && info.isFile() &&
+           WriteProtection(file.fileName()).isEmpty() && file.open(QIODevice::ReadOnly) &&
+           Digest(file.readAll()) == match.captured(1);
+}
+
+} // namespace
+
+QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix)
+{
+    const QString end = QLatin1Char('.') + Digest(content) + QLatin1Char('.') + suffix;
+    const QString base = QFileInfo(scenePath).completeBaseName();
+    return Shortened(base, longestName - end.size()) + end;
+}
+
+QStringList DataFilesIn(const QDir& folder)
+{
+    return folder.entryList(QDir::Files | QDir::Hidden | QDir::NoSymLinks).filter(OurNames());
+}
+
+Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates)
+{
+    QStringList ours;
+    std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(ours),
+                 [&](const QString& name) { return IsOurs(folder, name); });
+    if (ours.isEmpty())
+        return {};
+    Search search(ours);
+    QString doubt = search.LookInto(folder);
+    for (const QString& below :
+         folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
+        if (doubt.isEmpty())
+            doubt = search.LookInto(QDir(folder.filePath(below)));
+    }
+    if (!doubt.isEmpty())
+        return {{}, doubt};
+    // Often somebody else's, such as /tmp: what cannot be read there is no reason to keep anything.
+    search.LookInto(QDir(folder.filePath(QStringLiteral(".."))));
+    return {search.Unnamed(), {}};
+}
+
+} // namespace AnimText
