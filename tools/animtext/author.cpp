@@ -91,6 +91,13 @@ QString ScenePath(const CommandLine& line)
     return path;
 }
 
+/** Whether the texts of a scene that is there stay. */
+bool Adds(const CommandLine& line)
+{
+    return line.IsSet("append") || line.IsSet("page") || line.IsSet("in-area") ||
+           line.IsSet("replace");
+}
+
 /** Where the text goes; its area is that of the text beside which it comes, unless one was given.
  */
 Destination ReadDestination(const CommandLine& line, const QString& path, AuthorOptions* options)
@@ -106,6 +113,9 @@ Destination ReadDestination(const CommandLine& line, const QString& path, Author
         destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && (line.IsSet("page") || line.IsSet("in-area")))
         throw Misuse{QStringLiteral("--replace excludes --page and --in-area")};
+    if (line.IsSet("overwrite") && Adds(line))
+        throw Misuse{QStringLiteral("--overwrite cannot be combined with --append, --page, "
+                                    "--in-area or --replace")};
     if (line.IsSet("in-area") && !line.IsSet("area")) {
         Scene scene;
         QString error;
@@ -137,10 +147,16 @@ int WriteScene(const CommandLine& line)
     if (!AuthorNode(options, &authored, &error))
         throw Failure{BadInput, error};
     WatchForInterruption();
-    const bool adds = line.IsSet("append") || line.IsSet("page") || line.IsSet("in-area") ||
-                      line.IsSet("replace");
     const auto change = [&](Scene* scene, DataFiles* dataFiles, QString* why) {
-        if (!adds) {
+        if (!Adds(line)) {
+            const int texts = scene->Nodes().size();
+            if (texts > 1 && !line.IsSet("overwrite")) {
+                *why = QStringLiteral("%1 has %2 texts: --replace PLACE changes one of them, "
+                                      "--append adds one, --overwrite leaves only the new one")
+                           .arg(path)
+                           .arg(texts);
+                return false;
+            }
             scene->pages.clear();
             scene->display = QSize();
             scene->alphaBlend = true;

@@ -174,7 +174,7 @@ Command CompareCommand()
             "asked, a picture, a time. Ends with 1 when they part. Where the recording kept the "
             "pixels of a picture that differs, both pictures and their difference are written.",
             WithShowOptions(
-                {Option::Time("tolerance", 1, 0, 1e9, "TIME",
+                {Option::Time("tolerance", 1000, 0, 1e6, "TIME",
                               "How far times may differ, counted from a session's first call.")
                      .Or("66ms"),
                  Option::Flag("no-times", "Times do not matter."),

@@ -25,7 +25,7 @@ struct Option
     const char* help;  ///< one sentence
     double least = 0;  ///< of a number, a fraction, a side of a size, or a time in its unit
     double most = 0;
-    int unit = 0;          ///< milliseconds of a time that is given as a plain number
+    int unit = 0;          ///< milliseconds in which the limits of a time count
     QStringList choices{}; ///< the words that the value may be, or that completion offers
 
     char letter = 0;                ///< its short name, if it has one
@@ -39,8 +39,9 @@ struct Option
     static Option Number(const char* name, int least, int most, const char* help);
     static Option Fraction(const char* name, double least, double most, const char* value,
                            const char* help);
-    /** Times are told as 2s, 2.5s, 1500ms, 3min, 1h, 40t (ticks), or as a plain number of @p unit
-     * milliseconds.
+    /**
+     * Times are 2s, 2.5s, 1500ms, 3min, 1h, 40t (ticks); a plain number is seconds, and is refused
+     * where @p unit, in milliseconds, in which @p least and @p most count, is another one.
      */
     static Option Time(const char* name, int unit, double least, double most, const char* value,
                        const char* help);

@@ -142,8 +142,8 @@ Command PlayCommand()
                               "Shows round lamps, that many of their diameters apart.")
                  .Alone("1.25"),
              Option::Flag("watch", "Plays the scene anew whenever it or its data files change."),
-             Option::Time("seconds", 1000, 0.1, 86400 * 366.0, "S",
-                          "Ends after that long; in seconds, or as in 90min."),
+             Option::Time("seconds", 1000, 0.1, 86400 * 366.0, "TIME",
+                          "Ends after that long, as in 10s or 90min."),
              Option::Flag("timing", "Tells in the end how the play has kept up with the "
                                     "clock.")}) +
             LightOptions(),

@@ -181,8 +181,8 @@ QVector<Option> Options()
                      "or /) tells the format.")
             .Letter('o')
             .Required(),
-        Option::Time("seconds", 1000, 0.001, 86400, "S",
-                     "Plays that long; in seconds, or as in 1500ms or 2min."),
+        Option::Time("seconds", 1000, 0.001, 86400, "TIME",
+                     "Plays that long, as in 10s, 1500ms or 2min."),
         Option::Flag("schedule", "Plays as the host does: the pages, and the texts of an area, "
                                  "one after another, each for the time that the host is told, "
                                  "whether it is done then or not."),

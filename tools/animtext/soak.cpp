@@ -186,9 +186,9 @@ Command SoakCommand()
             "before every background. The exit status is 1 when something is left, when a call "
             "of the device was wrong, or when memory grows after the first hour.",
             WithPlayOptions(
-                {Option::Time("hours", int(millisecondsPerHour), 0, 24 * 366, "H",
-                              "How long, in hours of virtual time or as in 90min.")
-                     .Or("24"),
+                {Option::Time("hours", int(millisecondsPerHour), 0, 24 * 366, "TIME",
+                              "How long in virtual time, as in 24h or 90min.")
+                     .Or("24h"),
                  Option::Fraction("growth", 0, 1e6, "MIB",
                                   "How much memory may grow after the first hour; 0: not judged.")
                      .Or("1")}),

@@ -159,7 +159,7 @@ Command SetCommand()
             "SCENE.json PLACE KEY=VALUE...",
             3,
             1000,
-            "Changes what needs no new layout: effect, scroll, speed, hold (units of 100 ms), "
+            "Changes what needs no new layout: effect, scroll, speed, hold (2s, 1500ms), "
             "plays, pos, color, hollow, or an attribute by its name in the scene file. PLACE is "
             "the text's number, as animtext list shows it, or its path in the file, as animtext "
             "validate does. Another text, font or area is animtext author --replace.",

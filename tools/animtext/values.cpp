@@ -2,8 +2,8 @@
 
 #include "animtext/filenames.h"
 #include "animtext/output.h"
-#include "player/player.h"
 #include "scene/suggest.h"
+#include "scene/times.h"
 
 #include <QRegularExpression>
 
@@ -72,25 +72,19 @@ double ToFraction(const Option& option, const QString& text)
 
 double ToMilliseconds(const Option& option, const QString& text)
 {
-    static const struct
-    {
-        const char* name;
-        double milliseconds;
-    } units[] = {{"ms", 1}, {"s", 1000}, {"min", 60000}, {"h", 3600000}, {"t", tickLength}};
-    static const QRegularExpression pattern(QStringLiteral("^(-?[0-9.]+) ?([a-z]*)$"));
-    const auto match = pattern.match(text);
-    bool isNumber = false;
-    const double number = match.captured(1).toDouble(&isNumber);
-    double unit = match.captured(2).isEmpty() ? option.unit : 0;
-    for (const auto& known : units) {
-        if (match.captured(2) == QLatin1String(known.name))
-            unit = known.milliseconds;
-    }
-    const double milliseconds = number * unit;
-    if (!isNumber || unit == 0 || !IsWithin(option, milliseconds / option.unit))
+    constexpr int second = 1000;
+    double milliseconds = 0;
+    bool hasUnit = false;
+    const bool isTime = ReadTime(text, &milliseconds, &hasUnit);
+    // A plain number is seconds everywhere; nobody means that where the option counts in hours.
+    const bool isClear = hasUnit || option.unit == second || milliseconds == 0;
+    if (!isTime || !isClear || !IsWithin(option, milliseconds / option.unit))
         Takes(option,
-              QStringLiteral("a time such as 2.5s, 1500ms or 40t (ticks), or a number %1")
-                  .arg(Limits(option)),
+              (option.unit == second
+                   ? QStringLiteral("a time such as 2.5s, 1500ms or 40t (ticks), or a number of "
+                                    "seconds ")
+                   : QStringLiteral("a time with its unit, such as 24h or 90min, in hours ")) +
+                  Limits(option),
               text);
     return milliseconds;
 }

@@ -4,13 +4,13 @@
 #include "author/fonts.h"
 #include "author/styledtext.h"
 #include "scene/catalogue.h"
+#include "scene/times.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 
-#include <cmath>
 #include <cstdio>
 
 namespace AnimText {
@@ -19,9 +19,9 @@ namespace {
 
 constexpr int standardSize = 48; // pixels, of marked text
 constexpr int largestSide = 16384;
-constexpr int most = 1000000;     // plays, holds and the like
-constexpr int holdUnit = 100;     // milliseconds
-constexpr int lastDrawnNeon = 28; // neon styles above show a picture
+constexpr int longestText = 1 << 20; // bytes
+constexpr int most = 1000000;        // plays, holds and the like
+constexpr int lastDrawnNeon = 28;    // neon styles above show a picture
 
 QString ReadText(const CommandLine& line)
 {
@@ -37,7 +37,15 @@ QString ReadText(const CommandLine& line)
     QFile file(name);
     if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
-    QByteArray bytes = file.readAll();
+    QByteArray bytes;
+    for (QByteArray more = "-"; !more.isEmpty() && bytes.size() <= longestText; bytes += more)
+        more = file.read(longestText + 1 - bytes.size());
+    if (file.error() != QFileDevice::NoError)
+        throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
+    if (bytes.size() > longestText)
+        throw Misuse{QStringLiteral("%1: expected a text of at most %2 bytes, found more")
+                         .arg(name)
+                         .arg(longestText)};
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
     const QString text = QString::fromUtf8(bytes);
@@ -185,11 +193,11 @@ void ReadBackground(const CommandLine& line, AuthorOptions* options)
 
 int ReadHold(const CommandLine& line)
 {
-    const double units = line.Time("hold") / holdUnit;
-    if (units != std::floor(units))
+    int units = 0;
+    if (!ToHoldUnits(line.Time("hold"), &units))
         throw Misuse{QStringLiteral("--hold takes whole tenths of a second, not \"%1\"")
                          .arg(line.Value("hold"))};
-    return int(units);
+    return units;
 }
 
 } // namespace
@@ -202,7 +210,7 @@ QVector<Option> WishOptions()
         Option::File("output", "SCENE.json", "The scene file to write.").Letter('o').Required(),
         Option::Text("text", "TEXT", "The text; one line."),
         Option::File("text-file", "FILE",
-                     "Takes the text from a UTF-8 file, - for standard input."),
+                     "Takes the text from a UTF-8 file of at most 1 MiB, - for standard input."),
         Option::Text("font", "FAMILY", "A font family or a font file.").Or("DejaVu Sans"),
         Option::Number("size", smallestReadableSize, largestFontSize,
                        "The font's size in pixels; as large as fits the area, or 48."),
@@ -221,8 +229,8 @@ QVector<Option> WishOptions()
                      "Scrolls left, right, up or down in place of an entrance.")
             .Offering(Directions()),
         Option::Number("speed", 0, 9, "0 slowest to 9 fastest.").Or("5"),
-        Option::Time("hold", holdUnit, 0, most, "TIME",
-                     "How long a page stands, as in 2s or 1500ms, or a number of 100 ms.")
+        Option::Time("hold", 1000, 0, most / 10, "TIME",
+                     "How long a page stands, as in 2s or 1500ms.")
             .Or("2s"),
         Option::Number("plays", 1, most, "How many times the text is shown.").Or("1"),
         Option::Size("area", largestSide,
@@ -256,7 +264,8 @@ QVector<Option> WishOptions()
             "in-area", 1, most,
             "The area of that page that it is added to, and has its place and size from."),
         Option::Text("replace", "PLACE",
-                     "Puts it in the place of another text (animtext list numbers them).")};
+                     "Puts it in the place of another text (animtext list numbers them)."),
+        Option::Flag("overwrite", "Makes it the only text of a scene that has several.")};
 }
 
 void ReadLook(const CommandLine& line, AuthorOptions* options)

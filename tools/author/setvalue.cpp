@@ -4,6 +4,7 @@
 #include "scene/catalogue.h"
 #include "scene/schema.h"
 #include "scene/suggest.h"
+#include "scene/times.h"
 
 #include <QColor>
 #include <QRegularExpression>
@@ -97,6 +98,17 @@ void SetPos(SceneNode* node, const QString& value)
     node->pos = QPoint(match.captured(1).toInt(), match.captured(2).toInt());
 }
 
+void SetHold(SceneNode* node, const QString& value)
+{
+    double milliseconds = 0;
+    int units = 0;
+    if (!ReadTime(value, &milliseconds) || !ToHoldUnits(milliseconds, &units))
+        throw Fault{QStringLiteral("hold takes a time in whole tenths of a second such as 2s or "
+                                   "1500ms, up to 100000s, not \"%1\"")
+                        .arg(value)};
+    node->hold = units;
+}
+
 QStringList Known()
 {
     QStringList keys = NumberAttributeKeys() + Aliases().keys();
@@ -116,7 +128,7 @@ void Set(SceneNode* node, const QString& word, const QString& value)
     else if (key == QLatin1String("pos"))
         SetPos(node, value);
     else if (key == QLatin1String("hold"))
-        node->hold = Number(word, Home::Node, key, value);
+        SetHold(node, value);
     else if (key == QLatin1String("neonEffect"))
         node->neonEffect = Number(word, Home::Node, key, value);
     else if (key == QLatin1String("speed"))

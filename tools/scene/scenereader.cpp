@@ -81,11 +81,14 @@ QString Reader::ReadFileName(const QJsonValue& value, const QString& place)
 {
     const QString name = json.Text(value, place);
     const QString full = scene.FullName(name);
-    if (value.isString() && missing == MissingFiles::AreErrors && !QFileInfo::exists(full)) {
+    if (value.isString() && missing == MissingFiles::AreErrors && !QFileInfo(full).isFile()) {
         if (name.isEmpty())
             json.Add(place, QStringLiteral("the name of a file"), QStringLiteral("none"));
         else
-            json.Add(place, QStringLiteral("a file"), QStringLiteral("no file %1").arg(full));
+            json.Add(place, QStringLiteral("a file"),
+                     (QFileInfo::exists(full) ? QStringLiteral("no regular file ")
+                                              : QStringLiteral("no file ")) +
+                         full);
     }
     return name;
 }

@@ -1,0 +1,44 @@
+#include "scene/times.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace AnimText {
+
+bool ReadTime(const QString& text, double* milliseconds, bool* hasUnit)
+{
+    static const struct
+    {
+        const char* name;
+        double milliseconds;
+    } units[] = {{"", 1000}, {"ms", 1}, {"s", 1000}, {"min", 60000}, {"h", 3600000}, {"t", 66}};
+    static const QRegularExpression pattern(
+        QRegularExpression::anchoredPattern(QStringLiteral("(-?[0-9.]+) ?([a-z]*)")));
+    const auto match = pattern.match(text);
+    bool isNumber = false;
+    const double number = match.captured(1).toDouble(&isNumber);
+    for (const auto& unit : units) {
+        if (!isNumber || match.captured(2) != QLatin1String(unit.name))
+            continue;
+        *milliseconds = number * unit.milliseconds;
+        if (hasUnit)
+            *hasUnit = *unit.name != 0;
+        return true;
+    }
+    return false;
+}
+
+bool ToHoldUnits(double milliseconds, int* units)
+{
+    constexpr int longest = 1000000;
+    const double exact = milliseconds / 100;
+    const double whole = std::round(exact);
+    // 4.1 s are a hair less than 4100 ms in binary.
+    if (!(whole >= 0 && whole <= longest && std::abs(exact - whole) < 1e-6))
+        return false;
+    *units = int(whole);
+    return true;
+}
+
+} // namespace AnimText
