@@ -8,6 +8,9 @@
 
 #include <torvsdk.h>
 
+/* An engine that is recorded may have functions of these names, too. */
+#pragma GCC visibility push(hidden)
+
 enum { bufferless = -1 };
 
 /* Begins the line of a call. @return 0 when nothing is recorded (any more) */
@@ -34,5 +37,7 @@ int BufferNumber(PicSession session, int layer, const char* buffer);
 void AddPicture(PicSession session, int layer);
 /* The same for rows at @p bits. */
 void AddPictureOf(const char* bits, int type, int width, int height, int bytesPerLine);
+
+#pragma GCC visibility pop
 
 #endif

@@ -5,6 +5,8 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#pragma GCC visibility push(hidden)
+
 typedef struct Sha1
 {
     uint32_t state[5];
@@ -16,5 +18,7 @@ void Sha1Begin(Sha1* sha1);
 void Sha1Add(Sha1* sha1, const void* data, size_t size);
 /* Writes 40 hexadecimal digits and a zero byte. */
 void Sha1End(Sha1* sha1, char text[41]);
+
+#pragma GCC visibility pop
 
 #endif
