@@ -8,7 +8,9 @@
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
 
+#include <QDir>
 #include <QGuiApplication>
+#include <QStandardPaths>
 
 namespace {
 
@@ -156,6 +158,9 @@ int main(int argc, char** argv)
     QCoreApplication::setEventDispatcher(new VirtualDispatcher);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
+    // Without a folder for the session, Qt makes one in TMPDIR; nothing of ours needs it.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        QDir().rmdir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
     QCoreApplication::setApplicationName(QStringLiteral("animtext"));
     return RunAndTell(words);
 }

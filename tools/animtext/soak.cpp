@@ -4,12 +4,15 @@
 #include "animtext/progress.h"
 #include "animtext/soakmix.h"
 
+#include "scene/wholefile.h"
+
 #include <display.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <memory>
 
 #include <unistd.h>
 
@@ -100,7 +103,6 @@ void Soak::Run()
 {
     Torv::ResetAccounts();
     Progress progress(QStringLiteral("soaking, minutes"), ticksWanted * tickLength / 60000);
-    WatchForInterruption();
     while (ticks < ticksWanted && !Interrupted()) {
         {
             const Scene& scene = scenes.at(int(turnsPlayed % scenes.size()));
@@ -156,10 +158,16 @@ int SoakScenes(const CommandLine& line)
     QVector<Scene> scenes;
     for (const QString& path : line.Arguments())
         scenes.append(OpenScene(line, path));
-    const QTemporaryDir folder;
+    WatchForInterruption(); // before there is a folder to leave behind
+    std::unique_ptr<QTemporaryDir> folder;
     if (scenes.isEmpty()) {
         QString error;
-        scenes = SoakMix(QDir(folder.path()), &error);
+        folder = std::make_unique<QTemporaryDir>();
+        if (!IsMade(*folder, &error))
+            throw Failure{FailedRun, error};
+        scenes = SoakMix(
+            QDir(folder->path()), [] { return !Interrupted(); }, &error);
+        StopIfInterrupted();
         if (scenes.isEmpty())
             throw Failure{FailedRun, error};
     }

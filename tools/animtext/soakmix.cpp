@@ -19,7 +19,7 @@ void SetBackground(SceneNode* node, int background)
 
 } // namespace
 
-QVector<Scene> SoakMix(const QDir& folder, QString* error)
+QVector<Scene> SoakMix(const QDir& folder, const std::function<bool()>& goOn, QString* error)
 {
     // A text of one page, one of several, and one with characters that have no outline.
     const char* const texts[] = {"Hello", "Platform 7 departs at noon", "a b c"};
@@ -37,7 +37,7 @@ QVector<Scene> SoakMix(const QDir& folder, QString* error)
         options.plays = 1 + i % 3;
         options.hollow = i % 5 == 0;
         AuthoredNode authored;
-        if (!AuthorNode(options, &authored, error))
+        if (!goOn() || !AuthorNode(options, &authored, error))
             return QVector<Scene>();
 
         SceneNode& node = authored.node;

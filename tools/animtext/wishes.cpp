@@ -19,7 +19,7 @@ namespace {
 
 constexpr int standardSize = 48; // pixels, of marked text
 constexpr int largestSide = 16384;
-constexpr int longestText = 1 << 20; // bytes
+constexpr int longestText = 1 << 20; // bytes of a file; its tags count too
 constexpr int most = 1000000;        // plays, holds and the like
 constexpr int lastDrawnNeon = 28;    // neon styles above show a picture
 

@@ -228,6 +228,14 @@ void MeasureCut(const PlacedText& text, int areaHeight, AuthoredNode* authored)
 
 bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* error)
 {
+    // Far more than anybody reads on a sign; each takes some kilobytes while it is laid out.
+    constexpr int longestText = 200000; // UTF-16 units
+    if (options.text.size() > longestText) {
+        *error = QStringLiteral("the text has %1 characters; expected at most %2")
+                     .arg(options.text.size())
+                     .arg(longestText);
+        return false;
+    }
     Setting setting = SettingFor(options);
     if (!options.area.isEmpty() &&
         2 * options.padding >= qMin(options.area.width(), options.area.height())) {

@@ -172,7 +172,7 @@ private:
 
     void WriteAll()
     {
-        Demand(folder.Open(OwnFiles, &why));
+        Demand(IsMade(scenes, &why) && folder.Open(OwnFiles, &why));
         QJsonArray motions;
         for (const Motion& motion : Effects())
             motions.append(WriteMotion(Mode::Entrance, motion));

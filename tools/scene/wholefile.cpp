@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSysInfo>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 #include <cerrno>
@@ -120,6 +121,16 @@ QString UnfinishedName(const QString& path)
         QStringLiteral("..old"); // a dot before; what a replaced folder has behind
     const int room = longestName - QFile::encodeName(around + end).size();
     return info.absolutePath() + QStringLiteral("/.") + Shortened(info.fileName(), room) + end;
+}
+
+bool IsMade(const QTemporaryDir& folder, QString* error)
+{
+    if (!folder.isValid())
+        *error =
+            QStringLiteral("no temporary folder can be made in %1: %2; TMPDIR can name another "
+                           "place")
+                .arg(QDir::tempPath(), folder.errorString());
+    return folder.isValid();
 }
 
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem)

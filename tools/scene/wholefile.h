@@ -10,6 +10,7 @@
 #include <QString>
 
 class QFile;
+class QTemporaryDir;
 
 namespace AnimText {
 
@@ -36,6 +37,12 @@ QString WriteProtection(const QString& path);
  * except a regular file, and a file that is write-protected.
  */
 bool FindTarget(const QString& path, QString* target, QString* error);
+
+/**
+ * Whether the system made @p folder; otherwise @p error has one line on it. Without this, the names
+ * of files in it would be names in the current folder.
+ */
+bool IsMade(const QTemporaryDir& folder, QString* error);
 
 /** Appends all of @p content to a file that is open and has nothing buffered; on failure answers
  * false with what the system says in @p problem. */

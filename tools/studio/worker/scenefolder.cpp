@@ -18,6 +18,9 @@ void Write(const QString& path, const QByteArray& content)
 Scene SceneFolder::Put(const Sign& sign, int page)
 {
     const QMutexLocker locker(&mutex);
+    if (!folder.isValid()) // its files would be files of the current folder
+        return SceneOf(
+            sign, QString(), [](const Layout&, bool) { return QString(); }, page);
     // Workers read a file when they load its scene; one generation later nobody needs it.
     for (auto it = written.begin(); it != written.end();) {
         if (it->layout.expired()) {
