@@ -128,6 +128,8 @@ private slots:
         const Table<QString, QString, bool> row("file", "content", "stays");
         row("unrelated JSON", "signs/a.json", "[{\"a.path\": 1}]", false);
         row("unrelated text", "signs/a.txt", "sign.path", false);
+        row("settings", "signs/.git/config", "[core]", false);
+        row("a script", "signs/a.js", "\"use strict\"; '\\u00b7'", false);
         row("a film", "signs/a.gif", "GIF89a{%1", false);
         row("too far below", "signs/a/b/c.json", "[\"%1\"]", false);
         row("a scene", "signs/a.json", "[\"%1\"]", true);

@@ -55,13 +55,18 @@ bool IsData(const QByteArray& start, qint64 size)
            (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP") || start.mid(4, 4) == "ftyp";
 }
 
-/** Also where it is UTF-16, which has a zero byte beside each of these characters. */
+/**
+ * An object, or a list of strings, lists or objects, and no "[section]" of a settings file. Also
+ * where it is UTF-16, which has a zero byte beside each of these characters.
+ */
 bool LooksLikeJson(const QByteArray& content)
 {
-    const auto first = std::find_if(content.begin(), content.end(), [](char byte) {
-        return uchar(byte) > ' ' && uchar(byte) < 0x80;
-    });
-    return first != content.end() && (*first == '{' || *first == '[' || *first == '"');
+    QByteArray start;
+    for (auto byte = content.begin(); byte != content.end() && start.size() < 2; ++byte) {
+        if (uchar(*byte) > ' ' && uchar(*byte) < 0x80)
+            start += *byte;
+    }
+    return start.startsWith('{') || start == "[{" || start == "[[" || start == "[\"";
 }
 
 /** Looks through files for the names of data files. */
@@ -128,7 +133,7 @@ private:
                                            ? QJsonDocument::fromJson(content)
                                            : QJsonDocument();
         if (document.isNull())
-            return !isJson && !content.contains("\\u00");
+            return !isJson;
         SearchValue(document.isArray() ? QJsonValue(document.array())
                                        : QJsonValue(document.object()));
         return true;
