@@ -8,9 +8,11 @@
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
 
-#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QStandardPaths>
+
+#include <unistd.h>
 
 namespace {
 
@@ -160,7 +162,7 @@ int main(int argc, char** argv)
     QGuiApplication application(ownName, argv);
     // Without a folder for the session, Qt makes one in TMPDIR; nothing of ours needs it.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
-        QDir().rmdir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+        rmdir(QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)));
     QCoreApplication::setApplicationName(QStringLiteral("animtext"));
     return RunAndTell(words);
 }

@@ -1,5 +1,6 @@
 #include "author/textsource.h"
 
+#include "scene/jsonvalues.h"
 #include "scene/wholefile.h"
 
 #include <QCryptographicHash>
@@ -188,8 +189,10 @@ QByteArray SourcesToJson(const TextSources& sources)
 TextSources SourcesFromJson(const QByteArray& json)
 {
     TextSources sources;
-    const QJsonObject list =
-        QJsonDocument::fromJson(json).object().value(QStringLiteral("sources")).toObject();
+    const QJsonObject list = QJsonDocument::fromJson(WithMarksEscaped(json))
+                                 .object()
+                                 .value(QStringLiteral("sources"))
+                                 .toObject();
     for (auto it = list.begin(); it != list.end(); ++it) {
         const TextSource source = FromJson(it.value().toObject());
         if (!source.text.runs.isEmpty())

@@ -53,6 +53,15 @@ QString Item(const QString& place, int index)
     return QStringLiteral("%1[%2]").arg(place).arg(index);
 }
 
+QByteArray WithMarksEscaped(const QByteArray& json)
+{
+    const QByteArray mark("\xEF\xBB\xBF");
+    const int start = json.startsWith(mark) ? mark.size() : 0;
+    return json.indexOf(mark, start) < 0
+               ? json
+               : json.left(start) + json.mid(start).replace(mark, "\\ufeff");
+}
+
 void JsonValues::Add(const QString& place, const QString& expected, const QString& found)
 {
     const QString kind = AnyRow(place) + QLatin1Char('\n') + expected;

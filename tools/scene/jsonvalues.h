@@ -19,6 +19,12 @@
 
 namespace AnimText {
 
+/**
+ * @p json with every byte order mark inside it written as an escape: Qt's reader drops one that a
+ * string begins with, and each character of a text counts.
+ */
+QByteArray WithMarksEscaped(const QByteArray& json);
+
 /** The place of a member, and of an item of a list. */
 QString Member(const QString& place, const QString& key);
 QString Item(const QString& place, int index);

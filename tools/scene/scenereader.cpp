@@ -268,11 +268,12 @@ QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document
     if (!twice.Faults().isEmpty())
         return twice.Faults();
     QJsonParseError error;
-    *document = QJsonDocument::fromJson(text, &error);
+    const QByteArray escaped = WithMarksEscaped(text);
+    *document = QJsonDocument::fromJson(escaped, &error);
     if (error.error == QJsonParseError::NoError)
         return {};
-    const int offset = qBound(0, error.offset, text.size());
-    return {{LineAndColumn(text, offset), QStringLiteral("valid JSON"),
+    const int offset = qBound(0, error.offset, escaped.size());
+    return {{LineAndColumn(escaped, offset), QStringLiteral("valid JSON"),
              QStringLiteral("an error: %1").arg(error.errorString())}};
 }
 
