@@ -26,6 +26,9 @@ QVector<Option> WithShowOptions(QVector<Option> own)
                "force", "Plays a scene although it has errors that leave nothing to show.")};
 }
 
+namespace {
+
+/** Reads a scene as the options say; throws Failure when it cannot be read. */
 Scene OpenScene(const CommandLine& line, const QString& path)
 {
     const MissingFiles missing =
@@ -37,6 +40,37 @@ Scene OpenScene(const CommandLine& line, const QString& path)
     return scene;
 }
 
+/** Reports @p findings about @p path; throws Failure for those of @p kinds, unless told to go on.
+ */
+void Judge(const CommandLine& line, const QString& path, const QList<Finding>& findings,
+           const QList<Mistake>& kinds)
+{
+    bool isPlayed = true;
+    for (const Finding& finding : findings) {
+        Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
+        isPlayed = isPlayed && !kinds.contains(finding.mistake);
+    }
+    if (!isPlayed && !line.IsSet("force") && !line.IsSet("allow-missing-files"))
+        throw Failure{BadInput,
+                      QStringLiteral("%1 is not played; --force plays it all the same").arg(path)};
+}
+
+} // namespace
+
+Scene OpenReadableScene(const CommandLine& line, const QString& path)
+{
+    static const QList<Mistake> unreadable{Mistake::FileMissing, Mistake::DataMalformed};
+    const Scene scene = OpenScene(line, path);
+    QList<Finding> findings;
+    for (const Finding& finding : ErrorsOf(scene)) {
+        if (unreadable.contains(finding.mistake) &&
+            finding.place.endsWith(QLatin1String(".files.PathData")))
+            findings.append(finding);
+    }
+    Judge(line, path, findings, unreadable);
+    return scene;
+}
+
 Scene OpenPlayableScene(const CommandLine& line, const QString& path)
 {
     // With these the display stays dark, or what it shows is not the scene.
@@ -45,14 +79,7 @@ Scene OpenPlayableScene(const CommandLine& line, const QString& path)
                                               Mistake::EffectUnknown, Mistake::DirectionUnknown,
                                               Mistake::FileMissing,   Mistake::DataMalformed};
     const Scene scene = OpenScene(line, path);
-    bool isPlayed = true;
-    for (const Finding& finding : ErrorsOf(scene)) {
-        Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
-        isPlayed = isPlayed && !nothingToShow.contains(finding.mistake);
-    }
-    if (!isPlayed && !line.IsSet("force") && !line.IsSet("allow-missing-files"))
-        throw Failure{BadInput,
-                      QStringLiteral("%1 is not played; --force plays it all the same").arg(path)};
+    Judge(line, path, ErrorsOf(scene), nothingToShow);
     return scene;
 }
 

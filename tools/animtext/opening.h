@@ -16,16 +16,16 @@ namespace AnimText {
 /** @p own and --plugin, --seed and --allow-missing-files. */
 QVector<Option> WithPlayOptions(QVector<Option> own);
 
-/** The same and --force, for OpenPlayableScene(). */
+/** The same and --force, for the two functions below. */
 QVector<Option> WithShowOptions(QVector<Option> own);
 
-/** Reads a scene as the options say; throws Failure when it cannot be read. */
-Scene OpenScene(const CommandLine& line, const QString& path);
-
 /**
- * The same, and tells the errors that validate finds. Throws Failure when one of them leaves
- * nothing to show and neither --force nor --allow-missing-files says to go on.
+ * Reads a scene and its outlines. Throws Failure when these cannot be read, after it has said why,
+ * unless --force or --allow-missing-files says to go on.
  */
+Scene OpenReadableScene(const CommandLine& line, const QString& path);
+
+/** The same for every error of validate that leaves nothing to show; reports the others, too. */
 Scene OpenPlayableScene(const CommandLine& line, const QString& path);
 
 /** What a command plays with. */

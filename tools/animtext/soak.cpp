@@ -157,7 +157,7 @@ int SoakScenes(const CommandLine& line)
 {
     QVector<Scene> scenes;
     for (const QString& path : line.Arguments())
-        scenes.append(OpenScene(line, path));
+        scenes.append(OpenReadableScene(line, path));
     WatchForInterruption(); // before there is a folder to leave behind
     std::unique_ptr<QTemporaryDir> folder;
     if (scenes.isEmpty()) {
@@ -193,7 +193,7 @@ Command SoakCommand()
             "is left of it: sessions, layers and memory. Without a scene it plays every motion "
             "before every background. The exit status is 1 when something is left, when a call "
             "of the device was wrong, or when memory grows after the first hour.",
-            WithPlayOptions(
+            WithShowOptions(
                 {Option::Time("hours", int(millisecondsPerHour), 0, 24 * 366, "TIME",
                               "How long in virtual time, as in 24h or 90min.")
                      .Or("24h"),

@@ -62,7 +62,7 @@ QByteArray Trace::TickLines()
 int TraceScene(const CommandLine& line)
 {
     const int ticks = line.Number("ticks");
-    const Scene scene = OpenScene(line, line.Arguments().first());
+    const Scene scene = OpenReadableScene(line, line.Arguments().first());
     const Playing playing(line);
     const std::unique_ptr<Player> player = playing.Load(scene);
 
@@ -90,7 +90,7 @@ Command TraceCommand()
             "each node, tick 0 being the start: whether a new picture of the text was handed to "
             "the display, the layer that shows it, its size, the SHA-1 of its rows and the "
             "renderer's state (0 finished, 1 playing, 2 nothing to play).",
-            WithPlayOptions(
+            WithShowOptions(
                 {Option::Number("ticks", 0, 1000000000, "The last tick.").Letter('n').Or("100"),
                  Option::Flag("calls",
                               "Prints every call of the device before the line of its tick.")}),
