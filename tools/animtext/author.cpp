@@ -22,10 +22,12 @@ void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
 {
     for (const UnseenCharacter& character : unseen.mid(0, mostTold)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
-        Warn(QStringLiteral("character %1, \"%2\" (U+%3), leaves a gap: %4")
+        const bool isMark = QChar::category(character.codePoint) <= QChar::Mark_Enclosing;
+        Warn(QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
                  .arg(text.left(character.index).toUcs4().size() + 1)
                  .arg(QString::fromUcs4(&character.codePoint, 1),
                       code.rightJustified(4, QLatin1Char('0')),
+                      isMark ? QStringLiteral("is left out") : QStringLiteral("leaves a gap"),
                       character.missing ? QStringLiteral("no installed font has it")
                                         : QStringLiteral("its font has a picture, no outline")));
     }

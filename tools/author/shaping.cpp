@@ -220,12 +220,15 @@ private:
         cluster->shape.setFillRule(Qt::WindingFill);
         QPainterPath single; // the one glyph of a cluster that has but one
         int parts = 0;
+        QVector<QRawFont> fonts;
+        bool lacksGlyph = false;
         for (const QGlyphRun& run : line.glyphRuns(cluster->first, cluster->units)) {
             const QVector<quint32> glyphs = run.glyphIndexes();
             const QVector<QPointF> positions = run.positions();
+            fonts.append(run.rawFont());
             for (int i = 0; i < glyphs.size(); ++i) {
                 const Glyph& glyph = GlyphOf(run.rawFont(), glyphs[i]);
-                cluster->missing |= glyphs[i] == 0;
+                lacksGlyph = lacksGlyph || glyphs[i] == 0;
                 if (glyph.outline.isEmpty())
                     continue;
                 ++parts;
@@ -234,6 +237,23 @@ private:
             }
         }
         cluster->shape = parts > 1 ? WithoutOverlaps(cluster->shape) : single;
+        if (lacksGlyph)
+            FindMissing(fonts, cluster);
+    }
+
+    /** A letter whose accent is missing is there, and so is a digit with its style of emoji. */
+    void FindMissing(const QVector<QRawFont>& fonts, Cluster* cluster) const
+    {
+        const int end = cluster->first + cluster->units;
+        for (int i = cluster->first; i < end; ++i) {
+            const bool isPair = text.text.at(i).isHighSurrogate() && i + 1 < end;
+            const uint codePoint = text.text.mid(i, isPair ? 2 : 1).toUcs4().value(0);
+            if (std::none_of(fonts.begin(), fonts.end(), [&](const QRawFont& font) {
+                    return font.supportsCharacter(codePoint);
+                }))
+                cluster->missing.append(i);
+            i += isPair ? 1 : 0;
+        }
     }
 
     struct Glyph

@@ -26,13 +26,13 @@ struct Bar
  */
 struct Cluster
 {
-    int first = 0;      ///< its first UTF-16 unit
-    int units = 0;      ///< how many units it has
-    qreal advance = 0;  ///< pixels, as laid out, kerning included
-    QPainterPath shape; ///< pixels; origin at the left end of the baseline, y downward
-    Bar underline;      ///< none unless its style has one
-    bool missing =
-        false; ///< the fonts have no glyph for some of it; that part of @c shape is empty
+    int first = 0;        ///< its first UTF-16 unit
+    int units = 0;        ///< how many units it has
+    qreal advance = 0;    ///< pixels, as laid out, kerning included
+    QPainterPath shape;   ///< pixels; origin at the left end of the baseline, y downward
+    Bar underline;        ///< none unless its style has one
+    QVector<int> missing; ///< UTF-16 units at which characters begin that no font has, and that
+                          ///< @c shape therefore lacks
 };
 
 /** A text as one line. */

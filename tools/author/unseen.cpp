@@ -30,11 +30,14 @@ QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& l
 {
     QList<UnseenCharacter> unseen;
     for (const Cluster& cluster : line.clusters) {
-        if (!cluster.missing && !cluster.shape.isEmpty())
-            continue;
-        const uint codePoint = text.mid(cluster.first, 2).toUcs4().value(0);
-        if (OughtToBeSeen(codePoint))
-            unseen.append({cluster.first, codePoint, cluster.missing});
+        QVector<int> places = cluster.missing;
+        if (places.isEmpty() && cluster.shape.isEmpty())
+            places.append(cluster.first);
+        for (int place : places) {
+            const uint codePoint = text.mid(place, 2).toUcs4().value(0);
+            if (OughtToBeSeen(codePoint))
+                unseen.append({place, codePoint, !cluster.missing.isEmpty()});
+        }
     }
     return unseen;
 }
