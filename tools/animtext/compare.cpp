@@ -152,8 +152,10 @@ int Compare(const CommandLine& line)
             comparison.KeepPictures(parting);
         return status;
     }
-    const Recording a = Open(first);
-    const Recording b = Open(second);
+    Recording a = Open(first);
+    Recording b = Open(second);
+    DropStop(&a);
+    DropStop(&b);
     if (a.hasCalls != b.hasCalls)
         throw Failure{BadInput, QStringLiteral("only one of them has calls; animtext trace --calls "
                                                "writes them")};

@@ -55,6 +55,10 @@ public:
         parting.session = index;
         for (int i = 0; i < std::max(callsA.size(), callsB.size()); ++i) {
             parting.call = i;
+            const bool isOver = (i >= callsA.size() && a.stopped.contains(index)) ||
+                                (i >= callsB.size() && b.stopped.contains(index));
+            if (isOver)
+                return parting;
             if (i >= callsA.size() || i >= callsB.size()) {
                 const RecordedCall& next = i < callsA.size() ? callsA.at(i) : callsB.at(i);
                 parting.kind = Parting::Kind::End;

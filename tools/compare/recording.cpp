@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace AnimText {
 
 namespace {
@@ -106,6 +108,26 @@ void RecordingReader::TakeTick(const QJsonObject& line, int number)
                 line.value(QStringLiteral("layer"))) {
             session[i].sha1 = sha1;
             break;
+        }
+    }
+}
+
+void DropStop(Recording* recording)
+{
+    const auto ends = [](const RecordedCall& call) {
+        return call.name == QLatin1String("RemovePictureSession") ||
+               call.name == QLatin1String("FreePictureSession");
+    };
+    int last = 0; // line of a call that is not a part of the stop
+    for (const QVector<RecordedCall>& session : recording->sessions) {
+        for (const RecordedCall& call : session)
+            last = ends(call) ? last : std::max(last, call.line);
+    }
+    for (int i = 1; i < recording->sessions.size(); ++i) {
+        QVector<RecordedCall>& session = recording->sessions[i];
+        while (!session.isEmpty() && ends(session.last()) && session.last().line > last) {
+            session.removeLast();
+            recording->stopped.insert(i);
         }
     }
 }

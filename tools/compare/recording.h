@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -31,6 +32,7 @@ struct Recording
     QString name; ///< for people
     QVector<QVector<RecordedCall>> sessions{1};
     bool hasCalls = false; ///< rather than pictures alone
+    QSet<int> stopped;     ///< sessions that the host ended; see DropStop()
 
     int Calls() const;
     int Pictures() const;
@@ -54,6 +56,12 @@ private:
     Recording recording;
     QHash<double, int> indices; // of live sessions by their handles
 };
+
+/**
+ * Removes the calls at the end of @p recording with which a host that stops ends its sessions, and
+ * remembers these sessions. When a host stops is its own affair, and a trace has no such calls.
+ */
+void DropStop(Recording* recording);
 
 /** Reads the file @p path. On failure answers false, and @p error is one line. */
 bool ReadRecording(const QString& path, Recording* recording, QString* error);
