@@ -2,6 +2,7 @@
 #include "author/places.h"
 
 #include "animtext/commands.h"
+#include "animtext/cutoff.h"
 #include "animtext/filenames.h"
 #include "animtext/interruption.h"
 #include "animtext/storing.h"
@@ -59,6 +60,20 @@ void TellFindings(const QString& path)
         if (finding.mistake != Mistake::OutlineEmpty && finding.mistake != Mistake::TextHigh)
             Warn(finding.Line());
     }
+}
+
+/** Says how much of the text the host takes away before it is shown. */
+void TellCut(const QString& path, const AuthoredNode& authored)
+{
+    Scene scene;
+    scene.path = path;
+    scene.display = authored.node.size;
+    SceneNode node = authored.node;
+    node.files[QStringLiteral("DescentVector")] =
+        DataFileName(RealPath(path), authored.descentFile, QStringLiteral("descent"));
+    node.files[QStringLiteral("PathData")] =
+        DataFileName(RealPath(path), authored.pathFile, QStringLiteral("path"));
+    WarnOfCut(scene, node);
 }
 
 QByteArray Summary(const QString& path, const AuthorOptions& options, const AuthoredNode& authored)
@@ -171,6 +186,7 @@ int WriteScene(const CommandLine& line)
     TellUnseen(authored.unseen, options.text);
     TellLosses(authored);
     TellFindings(path);
+    TellCut(path, authored);
     Print(Summary(path, options, authored));
     return Done;
 }

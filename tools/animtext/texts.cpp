@@ -1,6 +1,7 @@
 // The commands on the texts of a scene: list, set, remove.
 #include "animtext/commandline.h"
 #include "animtext/commands.h"
+#include "animtext/cutoff.h"
 #include "animtext/interruption.h"
 #include "animtext/storing.h"
 #include "author/places.h"
@@ -105,11 +106,16 @@ int ChangeText(const CommandLine& line, const Work& work)
     if (!QFileInfo::exists(path))
         throw Failure{BadInput, path + QStringLiteral(": there is no such file")};
     WatchForInterruption();
+    Scene changed;
+    Place place;
     StoreScene(path, [&](Scene* scene, DataFiles*, QString* error) {
-        Place place;
-        return FindPlace(*scene, line.Arguments().at(1), &place, error) &&
-               work(scene, place, error);
+        const bool isDone =
+            FindPlace(*scene, line.Arguments().at(1), &place, error) && work(scene, place, error);
+        changed = *scene;
+        return isDone;
     });
+    if (line.Arguments().size() > 2) // the text is still there
+        WarnOfCut(changed, NodeAt(&changed, place));
     return Done;
 }
 

@@ -18,10 +18,10 @@
 namespace AnimText {
 namespace {
 
-const int digestLength = 16;       // hexadecimal digits: no two texts of one folder will share them
-const int mostFiles = 5000;        // that are looked at
-const qint64 mostBytes = 64 << 20; // of all of them
-const qint64 largestFile = 16 << 20; // bytes; scenes are far smaller
+const int digestLength = 16; // hexadecimal digits: no two texts of one folder will share them
+const int mostFiles = 5000;  // that are looked at
+const qint64 mostBytes = 256 << 20;  // of all of them
+const qint64 largestFile = 64 << 20; // bytes; 100,000 characters take 20 MB
 
 /** Captures the digest and the suffix. */
 const QRegularExpression& OurNames()
