@@ -16,7 +16,8 @@ namespace AnimText {
 
 namespace {
 
-constexpr int mostTold = 5; // characters, or words, that are told one by one
+constexpr int mostTold = 5;     // characters, or words, that are told one by one
+constexpr int longestWord = 40; // characters of a word that are told
 
 /** Says which characters the sign will not show. */
 void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
@@ -39,12 +40,16 @@ void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
 /** Says what of the letters will not be seen as it should. */
 void TellLosses(const AuthoredNode& authored)
 {
-    if (!authored.tornWords.isEmpty())
+    QStringList words;
+    for (const QString& word : authored.tornWords.mid(0, mostTold))
+        words.append(word.size() > longestWord ? word.left(longestWord) + QStringLiteral("...")
+                                               : word);
+    if (!words.isEmpty())
         Warn(QStringLiteral("%1 wider than a page and torn: %2%3")
                  .arg(authored.tornWords.size() == 1
                           ? QStringLiteral("a word is")
                           : QStringLiteral("%1 words are").arg(authored.tornWords.size()),
-                      authored.tornWords.mid(0, mostTold).join(QStringLiteral(", ")),
+                      words.join(QStringLiteral(", ")),
                       authored.tornWords.size() > mostTold ? QStringLiteral(" ...") : QString()));
     if (authored.cutAbove > 0 || authored.cutBelow > 0)
         Warn(QStringLiteral("letters are cut off: %1 pixels above the area and %2 below; --fit "
@@ -130,6 +135,8 @@ Destination ReadDestination(const CommandLine& line, const QString& path, Author
         destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && (line.IsSet("page") || line.IsSet("in-area")))
         throw Misuse{QStringLiteral("--replace excludes --page and --in-area")};
+    if (line.IsSet("replace") && destination.instead.isEmpty())
+        throw Misuse{QStringLiteral("--replace takes PLACE, not an empty word")};
     if (line.IsSet("overwrite") && Adds(line))
         throw Misuse{QStringLiteral("--overwrite cannot be combined with --append, --page, "
                                     "--in-area or --replace")};

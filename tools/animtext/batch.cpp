@@ -4,6 +4,7 @@
 #include "animtext/output.h"
 #include "animtext/progress.h"
 #include "scene/scene.h"
+#include "scene/wholefile.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -143,8 +144,9 @@ int RunJobs(const Batch& batch, QList<Job> jobs)
 void RenderAll(const Batch& batch)
 {
     QList<Job> jobs = PlanJobs(batch);
-    if (!QDir().mkpath(batch.folder))
-        throw Failure{FailedRun, QStringLiteral("%1 cannot be made").arg(batch.folder)};
+    QString error;
+    if (!MakeFolder(batch.folder, &error))
+        throw Failure{FailedRun, error};
     if (batch.resume) {
         const auto isDone = [&](const Job& job) { return IsDone(job, batch.plugin); };
         jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());

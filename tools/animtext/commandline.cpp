@@ -107,6 +107,8 @@ void CommandLine::Require() const
         throw Misuse{QStringLiteral("\"%1\" is one word too many").arg(arguments.at(command.most))};
     if (arguments.size() < command.least)
         throw Misuse{QStringLiteral("expected %1").arg(shown)};
+    if (arguments.contains(QString()))
+        throw Misuse{QStringLiteral("expected %1, not an empty word").arg(shown)};
     for (const Option& option : command.options) {
         if (option.isRequired && !IsSet(option.name))
             throw Misuse{QStringLiteral("expected %1 %2")

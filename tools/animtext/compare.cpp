@@ -5,6 +5,7 @@
 #include "compare/parting.h"
 #include "compare/pictures.h"
 #include "player/stillfile.h"
+#include "scene/wholefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -107,8 +108,8 @@ public:
         Play({parting.session, parting.call}, &desk);
         const QDir folder(line.IsSet("output") ? line.Value("output")
                                                : QFileInfo(recorded.name).path());
-        if (!QDir().mkpath(folder.path()))
-            throw Failure{FailedRun, folder.path() + QStringLiteral(" cannot be made")};
+        if (!MakeFolder(folder.path(), &error))
+            throw Failure{FailedRun, error};
         const QString base = folder.filePath(QFileInfo(recorded.name).completeBaseName());
         Keep(device, base + QStringLiteral("-device.png"));
         Keep(desk, base + QStringLiteral("-desk.png"));

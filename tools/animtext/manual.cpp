@@ -139,7 +139,9 @@ void WriteManual(const QVector<Command>& commands, const QString& folder)
         if (!WriteWhole(path, page, &error))
             throw Failure{FailedRun, error};
     };
-    QDir().mkpath(folder);
+    QString error;
+    if (!MakeFolder(folder, &error))
+        throw Failure{FailedRun, error};
     write("animtext", ManualOverview(commands));
     for (const Command& command : commands)
         write(PageName(command), ManualPage(command));

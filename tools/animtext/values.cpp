@@ -2,6 +2,7 @@
 
 #include "animtext/filenames.h"
 #include "animtext/output.h"
+#include "author/styledtext.h"
 #include "scene/suggest.h"
 #include "scene/times.h"
 
@@ -109,12 +110,10 @@ QPoint ToPoint(const Option& option, const QString& text)
 
 QColor ToColor(const Option& option, const QString& text)
 {
-    static const QRegularExpression digits(QStringLiteral("^#([0-9a-fA-F]{3}){1,2}$"));
-    const QColor color(text);
-    const bool isHex = text.startsWith(QLatin1Char('#'));
-    if (!color.isValid() || color.alpha() != 255 || (isHex && !digits.match(text).hasMatch()))
-        Takes(option, QStringLiteral("the name of a color or #rrggbb"), text,
-              DidYouMean(text, QColor::colorNames()));
+    QColor color;
+    QString hint;
+    if (!ReadColor(text, &color, &hint))
+        Takes(option, QStringLiteral("the name of a color or #rrggbb"), text, hint);
     return color;
 }
 

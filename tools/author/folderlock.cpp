@@ -1,7 +1,10 @@
 #include "author/folderlock.h"
 
+#include "scene/wholefile.h"
+
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTemporaryFile>
 #include <QThread>
 
 #include <fcntl.h>
@@ -14,6 +17,17 @@ const int oldestLock = 30 * 1000; // ms; a scene is written in far less
 const int oldestNameless = 1000;  // ms; a lock's owner writes its name into it at once
 const int longestWait = 60 * 1000;
 const unsigned long pause = 5; // ms between two tries; QLockFile's own pauses grow to seconds
+
+/** Why a lock in @p folder failed: QLockFile keeps that to itself, so a file is tried again. */
+QString Cause(const QString& folder)
+{
+    QTemporaryFile probe(UnfinishedName(folder + QStringLiteral("/lock")));
+    QString problem;
+    if (!probe.open())
+        return probe.errorString();
+    return WriteAll(&probe, QByteArray(1, '\n'), &problem) ? QStringLiteral("it cannot be locked")
+                                                           : problem;
+}
 
 } // namespace
 
@@ -37,7 +51,8 @@ bool FolderLock::Take(QString* error)
         if (file.tryLock(0))
             return true;
         if (file.error() != QLockFile::LockFailedError) {
-            *error = QStringLiteral("%1: nothing can be written into this folder").arg(folder);
+            *error = QStringLiteral("%1: nothing can be written into this folder: %2")
+                         .arg(folder, Cause(folder));
             return false;
         }
         if (waited.elapsed() > longestWait) {

@@ -91,11 +91,11 @@ private:
         if (name == QLatin1String("size"))
             return ApplySize(value, style);
         if (name == QLatin1String("color")) {
-            style->color = QColor(value);
-            return style->color.isValid() && style->color.alpha() == 255
+            QString hint;
+            return ReadColor(value, &style->color, &hint)
                        ? QString()
-                       : QStringLiteral("there is no colour \"%1\"; expected a name or #rrggbb%2")
-                             .arg(value, DidYouMean(value, QColor::colorNames()));
+                       : QStringLiteral("there is no color \"%1\"; expected a name or #rrggbb%2")
+                             .arg(value, hint);
         }
         return QStringLiteral("<font> takes face, size and color, not %1").arg(name);
     }

@@ -1,5 +1,6 @@
 #include "author/places.h"
 
+#include "author/styledtext.h"
 #include "scene/attributes.h"
 #include "scene/catalogue.h"
 #include "scene/schema.h"
@@ -81,10 +82,11 @@ void SetNumber(SceneNode* node, const QString& word, const QString& key, const Q
 
 void SetColor(SceneNode* node, const QString& value)
 {
-    const QColor color(value);
-    if (!color.isValid() || color.alpha() != 255)
-        throw Fault{QStringLiteral("there is no colour \"%1\"; expected a name or #rrggbb%2")
-                        .arg(value, DidYouMean(value, QColor::colorNames()))};
+    QColor color;
+    QString hint;
+    if (!ReadColor(value, &color, &hint))
+        throw Fault{QStringLiteral("there is no color \"%1\"; expected a name or #rrggbb%2")
+                        .arg(value, hint)};
     for (auto& row : node->lists[QStringLiteral("TextAttribute")])
         row[QStringLiteral("Color")] = QString::number(int(color.rgb() & 0xFFFFFF));
 }

@@ -40,6 +40,12 @@ struct StyledText
 };
 
 /**
+ * Reads an opaque color: a name, #rgb or #rrggbb. Otherwise returns false, and @p hint is the end
+ * of a message: the name that may have been meant, or that it must be opaque.
+ */
+bool ReadColor(const QString& text, QColor* color, QString* hint);
+
+/**
  * @p text as one line: line breaks and tabs become spaces, one line break at the end is dropped.
  * @param notes takes a line on each kind of change
  * @return false when it holds what cannot be shown, and then @p error has one line on it

@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 namespace AnimText {
@@ -116,8 +117,9 @@ bool WholeFolder::Finish(QString* error)
     const QString old = folder->path() + QStringLiteral(".old");
     if (replaces && !IsReplaceable(path, error))
         return false;
-    if (replaces && !QDir().rename(path, old)) {
-        *error = QStringLiteral("%1 cannot be replaced").arg(path);
+    if (replaces && std::rename(QFile::encodeName(path), QFile::encodeName(old)) != 0) {
+        *error = QStringLiteral("%1 cannot be replaced: %2")
+                     .arg(path, QString::fromLocal8Bit(std::strerror(errno)));
         return false;
     }
     if (!PutInPlace(folder->path(), path, 0777, error)) {

@@ -14,6 +14,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -121,6 +122,18 @@ QString UnfinishedName(const QString& path)
         QStringLiteral("..old"); // a dot before; what a replaced folder has behind
     const int room = longestName - QFile::encodeName(around + end).size();
     return info.absolutePath() + QStringLiteral("/.") + Shortened(info.fileName(), room) + end;
+}
+
+bool MakeFolder(const QString& path, QString* error)
+{
+    // QDir::mkpath() does not keep the reason.
+    std::error_code problem;
+    std::filesystem::create_directories(QFile::encodeName(QDir::cleanPath(path)).toStdString(),
+                                        problem);
+    if (problem)
+        *error = QStringLiteral("the folder %1 cannot be made: %2")
+                     .arg(path, QString::fromLocal8Bit(problem.message().c_str()));
+    return !problem;
 }
 
 bool IsMade(const QTemporaryDir& folder, QString* error)

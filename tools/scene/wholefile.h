@@ -38,6 +38,9 @@ QString WriteProtection(const QString& path);
  */
 bool FindTarget(const QString& path, QString* target, QString* error);
 
+/** Makes the folder @p path and those above it; false, with one line in @p error, when it fails. */
+bool MakeFolder(const QString& path, QString* error);
+
 /**
  * Whether the system made @p folder; otherwise @p error has one line on it. Without this, the names
  * of files in it would be names in the current folder.

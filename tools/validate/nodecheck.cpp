@@ -150,6 +150,9 @@ void NodeCheck::CheckMode()
         CheckRange(Mistake::ModeUnknown, "EffectType");
     }
     CheckRange(Mistake::PlaysRange, "PlayTimes");
+    if (Number("StrokeColor") >
+        FindAttribute(Home::Attributes, QStringLiteral("StrokeColor"))->most)
+        CheckRange(Mistake::ColorRange, "StrokeColor");
 }
 
 void NodeCheck::CheckFlags()
@@ -195,6 +198,15 @@ void NodeCheck::CheckLists()
 
     const auto styles = node.lists.value(QStringLiteral("TextAttribute"));
     const QString color = QStringLiteral("Color");
+    // Negative numbers are opaque colors as Qt's QRgb has them; their lowest 24 bits are right.
+    const Attribute& range = *FindAttribute(Home::TextAttribute, color);
+    for (int i = 0; i < styles.size(); ++i) {
+        if (styles[i].value(color).toInt() <= range.most)
+            continue;
+        Add(Mistake::ColorRange, QStringLiteral("lists.TextAttribute[%1].Color").arg(i),
+            QStringLiteral("\"%1\"").arg(styles[i].value(color)), Expected(range));
+        break;
+    }
     for (int i = 1; i < styles.size(); ++i) {
         if (styles[i].value(color) == styles[0].value(color))
             continue;

@@ -84,6 +84,8 @@ constexpr Rule rules[] = {
      QT_TRANSLATE_NOOP("Rules", "Text is painted without shadows.")},
     {Mistake::ColorsIgnored, warning, "colors-ignored",
      QT_TRANSLATE_NOOP("Rules", "The whole text has the colour of its first character.")},
+    {Mistake::ColorRange, warning, "color-range",
+     QT_TRANSLATE_NOOP("Rules", "The sign takes the lowest 24 bits and shows another color.")},
 };
 
 constexpr bool StandInOrder()

@@ -42,6 +42,7 @@ enum class Mistake {
     StrokeIgnored,
     ShadowIgnored,
     ColorsIgnored,
+    ColorRange,
 };
 
 /** What is known of one kind of mistake. */
@@ -53,7 +54,7 @@ struct Rule
     const char* why;   ///< what it does on the sign
 };
 
-constexpr int mistakeCount = int(Mistake::ColorsIgnored) + 1;
+constexpr int mistakeCount = int(Mistake::ColorRange) + 1;
 
 const Rule& RuleFor(Mistake mistake);
 

@@ -2031,6 +2031,10 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
         <source>The whole text has the colour of its first character.</source>
         <translation>Der ganze Text hat die Farbe seines ersten Zeichens.</translation>
     </message>
+    <message>
+        <source>The sign takes the lowest 24 bits and shows another color.</source>
+        <translation>Die Anzeige nimmt die untersten 24 Bit und zeigt eine andere Farbe.</translation>
+    </message>
 </context>
 <context>
     <name>Sign</name>
