@@ -15,10 +15,11 @@ namespace AnimText {
 
 namespace {
 
-constexpr int longestPlay = 30 * 60 * 1000 / tickLength; // ticks
-constexpr double mostCut = 0.05;                         // of the planned time
-constexpr int holdUnit = 100;                            // milliseconds
-constexpr int longestHold = 1000000;                     // hold units
+constexpr qint64 longestPlay = 30 * 60 * 1000 / tickLength; // ticks
+constexpr qint64 mostPixels = 1000 * 1000 * 1000;           // that a play clears, in all its ticks
+constexpr double mostCut = 0.05;                            // of the planned time
+constexpr int holdUnit = 100;                               // milliseconds
+constexpr int longestHold = 1000000;                        // hold units
 
 /** A play of one text, milliseconds. */
 struct Times
@@ -40,7 +41,12 @@ public:
                        ? QStringLiteral("ContinueSpeed")
                        : QStringLiteral("AnimationSpeed"))
     {
-        scene.pages = {ScenePage{{SceneArea{{node}}}}};
+        SceneNode plain = node;
+        for (const char* background : {"CheckNeonBg", "CheckDazzle", "CheckPictureFills"})
+            plain.attributes.remove(QLatin1String(background)); // they take time, not times
+        scene.pages = {ScenePage{{SceneArea{{plain}}}}};
+        const qint64 pixels = qMax<qint64>(1, qint64(node.size.width()) * node.size.height());
+        longest = int(qMin(longestPlay, mostPixels / pixels));
     }
 
     int Speed() const { return Node().attributes.value(speedKey).toInt(); }
@@ -71,11 +77,10 @@ private:
         if (!player.Load(blank.Get(), &error))
             return times;
         times.planned = player.Durations().value(0);
-        if (times.planned / tickLength > longestPlay)
+        if (times.planned / tickLength > longest)
             return times;
-        const NodePlay play = PlayToEnd(&player, longestPlay, standardSeed, [](int) {
-                                  return !Interrupted();
-                              }).value(0);
+        const NodePlay play =
+            PlayToEnd(&player, longest, standardSeed, [](int) { return !Interrupted(); }).value(0);
         if (play.ending == Ending::Finishes)
             times.real = qint64(play.finishedTick) * tickLength;
         return times;
@@ -84,6 +89,7 @@ private:
     Player player;
     Scene scene;
     QString speedKey;
+    int longest = 0; // ticks
 };
 
 /** The nearest speed with which nothing to speak of is cut, or -1. */
