@@ -22,7 +22,7 @@ constexpr int holdUnit = 100;                               // milliseconds
 constexpr int longestHold = 1000000;                        // hold units
 
 /** A play of one text, milliseconds. */
-struct Times
+struct CutTimes
 {
     qint64 planned = 0;
     qint64 real = -1; ///< -1: does not end, or not within the longest play
@@ -52,14 +52,14 @@ public:
     int Speed() const { return Node().attributes.value(speedKey).toInt(); }
     int Hold() const { return Node().hold; }
 
-    Times WithSpeed(int speed)
+    CutTimes WithSpeed(int speed)
     {
         Scene other = scene;
         other.pages[0].areas[0].nodes[0].attributes[speedKey] = speed;
         return Measure(other);
     }
 
-    Times WithHold(int hold)
+    CutTimes WithHold(int hold)
     {
         Scene other = scene;
         other.pages[0].areas[0].nodes[0].hold = hold;
@@ -69,9 +69,9 @@ public:
 private:
     const SceneNode& Node() const { return scene.pages[0].areas[0].nodes[0]; }
 
-    Times Measure(const Scene& wanted)
+    CutTimes Measure(const Scene& wanted)
     {
-        Times times;
+        CutTimes times;
         QString error;
         const BlankScene blank(wanted);
         if (!player.Load(blank.Get(), &error))
@@ -98,7 +98,8 @@ int SpeedThatFits(Measurement* measurement)
     const int own = measurement->Speed();
     for (int distance = 1; distance <= 9; ++distance) {
         for (int speed : {own - distance, own + distance}) {
-            const Times times = speed >= 0 && speed <= 9 ? measurement->WithSpeed(speed) : Times();
+            const CutTimes times =
+                speed >= 0 && speed <= 9 ? measurement->WithSpeed(speed) : CutTimes();
             if (times.real >= 0 && !times.IsCut())
                 return speed;
         }
@@ -107,7 +108,7 @@ int SpeedThatFits(Measurement* measurement)
 }
 
 /** A hold with which nothing to speak of is cut, or -1: what is cut stays, the play grows. */
-int HoldThatFits(Measurement* measurement, const Times& now)
+int HoldThatFits(Measurement* measurement, const CutTimes& now)
 {
     const int own = measurement->Hold();
     const qint64 perUnit = measurement->WithHold(own + 1).planned - now.planned;
@@ -116,14 +117,14 @@ int HoldThatFits(Measurement* measurement, const Times& now)
     const double growth = double(now.Cut()) / mostCut - double(now.planned);
     double hold = own + std::ceil(growth / double(perUnit));
     for (int tries = 0; tries < 3 && hold <= longestHold; ++tries, hold = std::ceil(hold * 1.1)) {
-        const Times times = measurement->WithHold(int(hold));
+        const CutTimes times = measurement->WithHold(int(hold));
         if (times.real >= 0 && !times.IsCut())
             return int(hold);
     }
     return -1;
 }
 
-QString Seconds(qint64 milliseconds)
+QString InSeconds(qint64 milliseconds)
 {
     return QStringLiteral("%1 s").arg(double(milliseconds) / 1000, 0, 'f', 2);
 }
@@ -138,7 +139,7 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
         return;
     const Silence silence;
     Measurement measurement(scene, node, plugin);
-    const Times now = measurement.WithHold(node.hold);
+    const CutTimes now = measurement.WithHold(node.hold);
     if (!now.IsCut() || now.Cut() <= qint64(node.hold) * holdUnit)
         return;
     const int speed = SpeedThatFits(&measurement);
@@ -150,7 +151,7 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
                                     : QStringLiteral("no speed avoids that; another effect does");
     Warn(QStringLiteral("the sign does not show all of the text: %1 are planned, it needs %2, and "
                         "the last %3 % are cut off; %4")
-             .arg(Seconds(now.planned), Seconds(now.real))
+             .arg(InSeconds(now.planned), InSeconds(now.real))
              .arg(100.0 * double(now.Cut()) / double(now.real), 0, 'f', 0)
              .arg(way));
 }

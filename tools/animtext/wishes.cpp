@@ -19,9 +19,9 @@ namespace {
 
 constexpr int standardSize = 48; // pixels, of marked text
 constexpr int largestSide = 16384;
-constexpr int longestText = 1 << 20; // bytes of a file; its tags count too
-constexpr int most = 1000000;        // plays, holds and the like
-constexpr int lastDrawnNeon = 28;    // neon styles above show a picture
+constexpr int longestTextFile = 1 << 20; // bytes of a file; its tags count too
+constexpr int most = 1000000;            // plays, holds and the like
+constexpr int lastDrawnNeon = 28;        // neon styles above show a picture
 
 QString ReadText(const CommandLine& line)
 {
@@ -38,14 +38,14 @@ QString ReadText(const CommandLine& line)
     if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
     QByteArray bytes;
-    for (QByteArray more = "-"; !more.isEmpty() && bytes.size() <= longestText; bytes += more)
-        more = file.read(longestText + 1 - bytes.size());
+    for (QByteArray more = "-"; !more.isEmpty() && bytes.size() <= longestTextFile; bytes += more)
+        more = file.read(longestTextFile + 1 - bytes.size());
     if (file.error() != QFileDevice::NoError)
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
-    if (bytes.size() > longestText)
+    if (bytes.size() > longestTextFile)
         throw Misuse{QStringLiteral("%1: expected a text of at most %2 bytes, found more")
                          .arg(name)
-                         .arg(longestText)};
+                         .arg(longestTextFile)};
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
     const QString text = QString::fromUtf8(bytes);

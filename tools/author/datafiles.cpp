@@ -20,8 +20,8 @@ namespace {
 
 const int digestLength = 16; // hexadecimal digits: no two texts of one folder will share them
 const int mostFiles = 5000;  // that are looked at
-const qint64 mostBytes = 256 << 20;  // of all of them
-const qint64 largestFile = 64 << 20; // bytes; 100,000 characters take 20 MB
+const qint64 mostBytes = 256 << 20;      // of all of them
+const qint64 largestSearched = 64 << 20; // bytes; 100,000 characters take 20 MB
 
 /** Captures the digest and the suffix. */
 const QRegularExpression& OurNames()
@@ -32,7 +32,7 @@ const QRegularExpression& OurNames()
     return names;
 }
 
-QString Digest(const QByteArray& content)
+QString NameDigest(const QByteArray& content)
 {
     return QString::fromLatin1(
         QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(digestLength));
@@ -110,7 +110,7 @@ private:
             return file.errorString();
         if (IsData(file.peek(16), file.size()))
             return QString();
-        if (++files > mostFiles || file.size() > largestFile || bytes + file.size() > mostBytes)
+        if (++files > mostFiles || file.size() > largestSearched || bytes + file.size() > mostBytes)
             return QStringLiteral("there is too much to look at");
         bytes += file.size();
         const QByteArray content = file.readAll();
@@ -175,14 +175,14 @@ bool IsOurs(const QDir& folder, const QString& name)
     const QFileInfo info(file);
     return match.hasMatch() && !info.isSymLink() && info.isFile() &&
            WriteProtection(file.fileName()).isEmpty() && file.open(QIODevice::ReadOnly) &&
-           Digest(file.readAll()) == match.captured(1);
+           NameDigest(file.readAll()) == match.captured(1);
 }
 
 } // namespace
 
 QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix)
 {
-    const QString end = QLatin1Char('.') + Digest(content) + QLatin1Char('.') + suffix;
+    const QString end = QLatin1Char('.') + NameDigest(content) + QLatin1Char('.') + suffix;
     const QString base = QFileInfo(scenePath).completeBaseName();
     return Shortened(base, longestName - end.size()) + end;
 }
