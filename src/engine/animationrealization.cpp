@@ -8,7 +8,6 @@
 #include "text/limits.h"
 #include "text/pagedivision.h"
 
-#include <drawneonbg.h>
 #include <happconfig.h>
 #include <hpluginmanager.h>
 

@@ -3,6 +3,8 @@
 
 #include "paint/textcanvas.h"
 
+#include <drawneonbg.h>
+
 #include <QBrush>
 #include <QColor>
 #include <QConicalGradient>
@@ -25,9 +27,6 @@
 class QPainter;
 
 namespace Lw {
-
-class DrawNeonBg;
-
 namespace HNodeAnimationText {
 
 class HAnimationTextNode;

@@ -22,7 +22,7 @@ QString OutputDirectory()
 }
 
 /** Opens the data file under @p key for reading; false when there is none to read. */
-bool OpenDataFile(const HData& node, const char* key, QFile& file)
+bool OpenDataFile(HData& node, const char* key, QFile& file)
 {
     file.setFileName(node.GetFirstFile(QString::fromLatin1(key)));
     if (!file.exists()) {
@@ -56,17 +56,17 @@ QString HAnimationTextNode::Type()
     return QString::fromLatin1("LW_animationText_Plugin");
 }
 
-QString HAnimationTextNode::Text() const
+QString HAnimationTextNode::Text()
 {
     return GetAttribute(QString::fromLatin1("Text"));
 }
 
-int HAnimationTextNode::PlayTimes() const
+int HAnimationTextNode::PlayTimes()
 {
     return Attribute(this, "PlayTimes");
 }
 
-int HAnimationTextNode::AnimationSpeed() const
+int HAnimationTextNode::AnimationSpeed()
 {
     return Attribute(this, "AnimationSpeed");
 }

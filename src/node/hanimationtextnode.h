@@ -20,7 +20,8 @@ namespace HNodeAnimationText {
  * One animated text in the host's tree. It keeps no copy of an attribute: every read goes to the
  * host's store, and what is missing there reads as 0, empty or a default.
  *
- * Per-character data is indexed by the UTF-16 units of "Text".
+ * Per-character data is indexed by the UTF-16 units of "Text". No read is const, since not every
+ * host's store has reads that are.
  */
 class HAnimationTextNode : public HNeonNodeBase
 {
@@ -36,10 +37,10 @@ public:
     /** Play time in milliseconds; see duration.cpp. Divides the text into pages anew. */
     int Duration() override;
 
-    QString Text() const;
-    int PlayTimes() const;
+    QString Text();
+    int PlayTimes();
     /** 0 .. 9, larger is faster. */
-    int AnimationSpeed() const;
+    int AnimationSpeed();
 
     /** Reads the files "PathData" and "DescentVector" anew; what cannot be read leaves empty lists.
      */
@@ -50,25 +51,25 @@ public:
     QVector<QPainterPath>& GetPainterPaths();
 
     // Metrics of the text, in pixels, from the lists "TextWidth", "TextHeight", "TextAttribute".
-    int GetTextWidth(int index) const;
-    int GetTextHeight(int index) const;
+    int GetTextWidth(int index);
+    int GetTextHeight(int index);
     /** Of the first @p count characters; 0 for none of them and for all of them. */
-    int GetTextCountWith(int count) const;
-    int GetTotalTextWith() const;
+    int GetTextCountWith(int count);
+    int GetTotalTextWith();
     /** Never below 0. */
-    int MaxTextWidth() const;
+    int MaxTextWidth();
     /** Never below 0. */
-    int MaxTextHeight() const;
+    int MaxTextHeight();
     /** Of the characters of "Text", one above the other. */
-    int CountTotalHeight() const;
-    QFont GetTextFont(int index) const;
+    int CountTotalHeight();
+    QFont GetTextFont(int index);
     /** Opaque red where the list ends. */
-    QColor GetTextColor(int index) const;
+    QColor GetTextColor(int index);
 
     /** All of "TextWidth" at once, to lay out a whole line. */
-    LineWidths TextWidths() const;
+    LineWidths TextWidths();
     /** All of "TextHeight" at once. */
-    QVector<int> TextHeights() const;
+    QVector<int> TextHeights();
 
     /**
      * Appends the division of the text into pages as wide as the area.

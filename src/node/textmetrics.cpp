@@ -16,9 +16,9 @@ namespace {
 
 typedef QHash<QString, QString> Row;
 
-QList<Row> Rows(const HData& data, const char* key)
+QList<Row> Rows(HData& data, const char* key)
 {
-    const HList* const list = data.GetList(QString::fromLatin1(key));
+    const auto list = data.GetList(QString::fromLatin1(key));
     return list ? list->items() : QList<Row>();
 }
 
@@ -27,7 +27,7 @@ int Number(const Row& row, const char* field)
     return row.value(QString::fromLatin1(field)).toInt();
 }
 
-QVector<int> Numbers(const HData& data, const char* key, const char* field)
+QVector<int> Numbers(HData& data, const char* key, const char* field)
 {
     const QList<Row> rows = Rows(data, key);
     const QString name = QString::fromLatin1(field);
@@ -48,47 +48,47 @@ int Largest(const QVector<int>& numbers)
 
 } // namespace
 
-int HAnimationTextNode::GetTextWidth(int index) const
+int HAnimationTextNode::GetTextWidth(int index)
 {
     return Number(Rows(*this, "TextWidth").value(index), "text_width");
 }
 
-int HAnimationTextNode::GetTextHeight(int index) const
+int HAnimationTextNode::GetTextHeight(int index)
 {
     return Number(Rows(*this, "TextHeight").value(index), "text_height");
 }
 
-LineWidths HAnimationTextNode::TextWidths() const
+LineWidths HAnimationTextNode::TextWidths()
 {
     return LineWidths(Numbers(*this, "TextWidth", "text_width"));
 }
 
-QVector<int> HAnimationTextNode::TextHeights() const
+QVector<int> HAnimationTextNode::TextHeights()
 {
     return Numbers(*this, "TextHeight", "text_height");
 }
 
-int HAnimationTextNode::GetTextCountWith(int count) const
+int HAnimationTextNode::GetTextCountWith(int count)
 {
     return TextWidths().CountWith(count);
 }
 
-int HAnimationTextNode::GetTotalTextWith() const
+int HAnimationTextNode::GetTotalTextWith()
 {
     return TextWidths().Total();
 }
 
-int HAnimationTextNode::MaxTextWidth() const
+int HAnimationTextNode::MaxTextWidth()
 {
     return Largest(Numbers(*this, "TextWidth", "text_width"));
 }
 
-int HAnimationTextNode::MaxTextHeight() const
+int HAnimationTextNode::MaxTextHeight()
 {
     return Largest(TextHeights());
 }
 
-int HAnimationTextNode::CountTotalHeight() const
+int HAnimationTextNode::CountTotalHeight()
 {
     const QVector<int> heights = TextHeights();
     const int length = Text().size();
@@ -98,7 +98,7 @@ int HAnimationTextNode::CountTotalHeight() const
     return total;
 }
 
-QFont HAnimationTextNode::GetTextFont(int index) const
+QFont HAnimationTextNode::GetTextFont(int index)
 {
     const QList<Row> rows = Rows(*this, "TextAttribute");
     if (index < 0 || index >= rows.size())
@@ -113,7 +113,7 @@ QFont HAnimationTextNode::GetTextFont(int index) const
     return font;
 }
 
-QColor HAnimationTextNode::GetTextColor(int index) const
+QColor HAnimationTextNode::GetTextColor(int index)
 {
     const QList<Row> rows = Rows(*this, "TextAttribute");
     if (index < 0 || index >= rows.size())

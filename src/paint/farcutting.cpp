@@ -17,11 +17,6 @@ const float farLimit = 32767;
 
 typedef Outline::Element Element;
 
-bool NearlyZero(float v)
-{
-    return std::fabs(v) <= 0.00001f;
-}
-
 Element At(float x, float y)
 {
     const Element point = {x, y, Outline::Line};

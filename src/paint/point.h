@@ -2,10 +2,17 @@
 #define POINT_H
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 namespace Lw {
 namespace HNodeAnimationText {
+
+/** As Qt tells it of a float: within 1e-5. */
+inline bool NearlyZero(float v)
+{
+    return std::fabs(v) <= 0.00001f;
+}
 
 /** In pixels. */
 struct Point

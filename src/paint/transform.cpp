@@ -9,11 +9,6 @@ namespace {
 
 const float radiansPerDegree = float(0.017453292519943295769);
 
-bool NearlyZero(float v)
-{
-    return std::fabs(v) <= 0.00001f;
-}
-
 } // namespace
 
 void Transform::reset()

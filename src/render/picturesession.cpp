@@ -7,7 +7,6 @@
 #include "node/hanimationtextnode.h"
 #include "text/wrapping.h"
 
-#include <drawneonbg.h>
 #include <hpluginmanager.h>
 
 #include <QDebug>
@@ -26,7 +25,7 @@ qint64 ByteCount(const QImage& image)
     return qint64(image.bytesPerLine()) * image.height();
 }
 
-int ChildCount(const HNode* node)
+int ChildCount(HNode* node)
 {
     return node ? node->ChildNodes().size() : 0;
 }

@@ -202,6 +202,60 @@ private slots:
         QCOMPARE(listed, present);
     }
 
+    void compilesAgainstHosts_data()
+    {
+        const Table<QString, QString> row("functions", "instead");
+        // Those that the plugin overrides keep the host's signature, whatever the others do.
+        const QString called = "^(    (?!static|explicit)(?:[\\w<>,:]+[ &*]+)+"
+                               "(?!Type|Duration)\\w+\\([^()]*\\))( override)?;";
+        row("const everywhere", called, "\\1 const\\2;");
+        row("const nowhere", "\\) const\\b", ")");
+    }
+
+    // Every host declares its own classes. All of src/ in one go, for most of the time is Qt's
+    // headers'.
+    void compilesAgainstHosts()
+    {
+        QFETCH(QString, functions);
+        QFETCH(QString, instead);
+        const QTemporaryDir folder;
+        const auto write = [&folder](const QString& name, const QString& text) {
+            QFile file(folder.filePath(name));
+            return file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0;
+        };
+        const QRegularExpression pattern(functions, QRegularExpression::MultilineOption);
+        int changed = 0;
+        for (Source header : Sources({"platform/host"})) {
+            const QString name = QFileInfo(header.path).fileName();
+            if (name != "inodeplugin.h" && name != "icontentrender.h") {
+                changed += header.text.count(pattern);
+                header.text.replace(pattern, instead);
+            }
+            QVERIFY(!name.endsWith(".h") || write(name, header.text));
+        }
+        QVERIFY2(changed >= 10, qPrintable(QString::number(changed)));
+        QString all;
+        for (const Source& source : Sources({"src"}))
+            if (source.path.endsWith(".cpp"))
+                all += "#include \"" + source.path.section('/', 1) + "\"\n";
+        QVERIFY(write("all.cpp", all));
+
+        QStringList arguments{QT_VERSION < 0x060000 ? "-std=c++11" : "-std=c++17",
+                              "-fPIC",
+                              "-fsyntax-only",
+                              "-Wall",
+                              "-Wextra",
+                              "-Werror",
+                              "-DQT_NO_DEPRECATED_WARNINGS",
+                              "-I" + folder.path()};
+        for (const QString& include : QString(PLUGIN_INCLUDES).split('|'))
+            arguments << (include.startsWith(root) ? "-I" : "-isystem") << include;
+        QProcess compiler;
+        compiler.start(CXX_COMPILER, arguments << folder.filePath("all.cpp"));
+        compiler.waitForFinished(-1);
+        QVERIFY2(compiler.exitCode() == 0, compiler.readAllStandardError());
+    }
+
     // The plugin alone, as an embedded toolchain builds it, in a checkout with a difficult name.
     // From elsewhere qmake itself gets no further than blanks.
     void qmakeBuildsThePlugin()
