@@ -240,11 +240,15 @@ void animationRealization::Start()
     if (!stayImage.isNull())
         stayImage.fill(0);
 
-    StartBackgrounds();
-    // The host's store may fetch a file when it is looked up. Whether it is there changes nothing
-    // here: the animator copes with one that is missing.
-    if (neonBgEnabled != 0 && node->GetNeonEffect() > lastNeonBorder)
-        QFile::exists(node->GetFirstFile(QString::fromLatin1("NeonGifPath")));
+    if (neonBgEnabled != 0) {
+        neonBg->StartTimerDraw(tickInterval);
+        // The host's store may fetch a file when it is looked up. Whether it is there changes
+        // nothing here: the animator copes with one that is missing.
+        if (node->GetNeonEffect() > lastNeonBorder)
+            QFile::exists(node->GetFirstFile(QString::fromLatin1("NeonGifPath")));
+    }
+    if (DazzleIsOn(node))
+        dazzleTimer.start(tickInterval);
 }
 
 void animationRealization::MeasureText(const LineWidths& line)
@@ -261,35 +265,22 @@ void animationRealization::MeasureText(const LineWidths& line)
     }
 }
 
-void animationRealization::StartBackgrounds()
-{
-    if (neonBgEnabled != 0)
-        neonBg->StartTimerDraw(tickInterval);
-    StartDazzle();
-}
-
-void animationRealization::StartDazzle()
-{
-    // The frog effects draw the dazzle background themselves, with their frames.
-    if (DazzleIsOn(node) && !PlaysFrogs(effectType, animationEffect))
-        dazzleTimer.start(tickInterval);
-}
-
-void animationRealization::StopBackgrounds()
-{
-    neonBg->StopTimerDraw();
-    dazzleTimer.stop();
-}
-
 void animationRealization::Pause(bool pause)
 {
     paused = pause;
     if (paused) {
-        StopBackgrounds();
+        neonBg->StopTimerDraw();
+        dazzleTimer.stop();
         return;
     }
     neonBg->StartTimerDraw(tickInterval);
-    StartDazzle();
+    if (!DazzleIsOn(node))
+        return;
+    // The frog effects draw the dazzle background themselves, while a page is held.
+    if (PlaysFrogs(effectType, animationEffect))
+        dazzleTimer.stop();
+    else
+        dazzleTimer.start(tickInterval);
 }
 
 void animationRealization::Stop() {}
@@ -357,7 +348,7 @@ void animationRealization::SetDazzleLayer(int layer)
     dazzleLayerWrapped = false;
 }
 
-/** The session is gone: nothing may paint into its layers any more. */
+/** The session is about to go: nothing may paint into its layers any more. */
 void animationRealization::ForgetSession()
 {
     if (pictureSession) {
@@ -367,6 +358,7 @@ void animationRealization::ForgetSession()
     }
     SetPictureSession(0, 0, 0);
     SetDazzleLayer(0);
+    neonBg->StopTimerDraw();
     neonBg->pictureSession = 0;
     neonBg->displayHandle = 0;
     neonBg->layer = 0;

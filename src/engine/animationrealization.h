@@ -155,9 +155,6 @@ private:
     static QImage NewCanvas(const QSize& size, QImage::Format format);
     void LoadFillPicture();
     void MeasureText(const LineWidths& line);
-    void StartBackgrounds();
-    void StartDazzle();
-    void StopBackgrounds();
     void ForgetSession();
 
     // The frame loop

@@ -38,9 +38,10 @@ HAnimationTextRender::~HAnimationTextRender()
 {
     drawTimer.stop();
     engine->Stop();
-    ReleaseSession();
+    // Before the session: whatever paints into its layers is the engine's.
     delete engine;
     engine = 0;
+    ReleaseSession();
 }
 
 /** Whether the device moves the text by itself. */
@@ -88,6 +89,7 @@ void HAnimationTextRender::Pause()
 void HAnimationTextRender::Stop()
 {
     drawTimer.stop();
+    engine->dazzleTimer.stop();
     ReleaseSession();
 }
 

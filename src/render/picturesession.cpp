@@ -61,10 +61,10 @@ int HAnimationTextRender::GetLayerNum(QSize size, int bytesPerLine)
 /** Removes and frees the session, if any, once nothing paints into its layers any more. */
 void HAnimationTextRender::ReleaseSession()
 {
-    engine->StopBackgrounds();
-    engine->ForgetSession();
     if (!session)
         return;
+    if (engine)
+        engine->ForgetSession();
     RemovePictureSession(displayHandle, session);
     FreePictureSession(session);
     session = 0;
@@ -105,12 +105,14 @@ int HAnimationTextRender::ScheduledDuration()
 
 void HAnimationTextRender::StartInit(QImage& image)
 {
-    // Stop() also ends the timer; one that was ticking has to go on.
+    // Stop() also ends the timers; those that were ticking have to go on.
     const bool ticking = drawTimer.isActive();
+    const bool dazzling = engine->dazzleTimer.isActive();
     Stop();
     if (ticking)
         drawTimer.start();
-    engine->StartBackgrounds();
+    if (dazzling)
+        engine->dazzleTimer.start();
     if (!node)
         return;
 

@@ -217,6 +217,70 @@ private slots:
             QCOMPARE(timer->timerType(), Qt::PreciseTimer); // a coarse one fires every 64 ms
     }
 
+    void timersStartAndStop_data()
+    {
+        // Whether the neon and the dazzle timer run after each step.
+        const Table<QString, QString, int, int, int> row("steps", "running", "neon", "dazzle",
+                                                         "effect");
+        row("both", "start tick pause pause stop start", "nd nd -- nd -- nd", 1, 1, 0);
+        row("frogs stop the dazzle timer", "start tick pause pause", "nd n- -- n-", 1, 1, 20);
+        row("resuming starts the neon unasked", "start pause pause stop", "-- -- n- --", 0, 0, 0);
+        row("a start while paused", "pause start tick pause tick", "-- nd nd nd nd", 1, 1, 0);
+        row("no session to release", "neon stop", "n- n-", 1, 1, 0);
+        row("a refused session", "refuse start stop", "-- nd n-", 1, 1, 0);
+        row("a session of the host's", "start tick init", "nd nd -d", 1, 1, 0);
+    }
+
+    void timersStartAndStop()
+    {
+        QFETCH(QString, steps);
+        QFETCH(QString, running);
+        QFETCH(int, neon);
+        QFETCH(int, dazzle);
+        QFETCH(int, effect);
+        const FrogFolder none;
+        RenderFixture play;
+        const EngineProbe engine = play.Probe().Engine();
+        Lw::DrawNeonBg* const animator = engine.neonBg();
+        animator->InitNode(play.text.node.get());
+        QStringList seen;
+        for (const QString& step : steps.split(' ')) {
+            QImage picture(60, 41, QImage::Format_ARGB32);
+            if (step == "start")
+                play.Start(
+                    {{"CheckNeonBg", neon}, {"CheckDazzle", dazzle}, {"AnimationEffect", effect}});
+            else if (step == "tick")
+                PassTicks(1);
+            else if (step == "pause")
+                play.render->Pause();
+            else if (step == "stop")
+                play.render->Stop();
+            else if (step == "neon")
+                animator->StartTimerDraw(tickInterval);
+            else if (step == "refuse")
+                Torv::FailCall(Torv::OpCreatePictureSession, 1);
+            else
+                play.render->StartInit(picture);
+            seen.append(QString(animator->findChild<QTimer*>()->isActive() ? "n" : "-") +
+                        (engine.dazzleTimer().isActive() ? "d" : "-"));
+        }
+        QCOMPARE(seen.join(' '), running);
+    }
+
+    // What paints into the layers is gone before they are.
+    void theEngineEndsBeforeItsSession()
+    {
+        RenderFixture play;
+        play.Start({{"CheckNeonBg", 1}});
+        play.log.clear();
+        bool first = false;
+        connect(play.Probe().Engine().neonBg(), &QObject::destroyed,
+                [&] { first = play.log.isEmpty(); });
+        play.render.reset();
+        QVERIFY(first);
+        QCOMPARE(play.ShortCalls(), QString("remove free"));
+    }
+
     void aNeonPictureThatDoesNotFitIsRefusedAloud()
     {
         const Messages messages;

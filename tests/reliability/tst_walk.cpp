@@ -206,19 +206,22 @@ void TestWalk::anyOrderOfCallsIsSafe()
         QVERIFY(accounts.liveSessions <= places);
     }
 
-    // Stopped, nobody holds or does anything any more; what is deleted comes to nothing.
+    // Stopped, nobody holds anything or calls the device any more; what is deleted comes to
+    // nothing.
     for (Place& place : sign) {
         if (place.render)
             place.render->Stop();
     }
     QCOMPARE(Torv::Accounts().liveSessions, 0);
     QCOMPARE(Torv::Accounts().liveLayers, 0);
-    QCOMPARE(TestSign::Dispatcher()->LiveTimers(), 0);
+    const Torv::Accounting stopped = Torv::Accounts();
     TestSign::Tick(3);
+    QVERIFY(std::equal(stopped.calls, std::end(stopped.calls), Torv::Accounts().calls));
     for (Place& place : sign) {
         delete place.node.data();
         place.render.reset();
     }
+    QCOMPARE(TestSign::Dispatcher()->LiveTimers(), 0);
     QCOMPARE(Torv::Accounts().liveBytes, qint64(0));
     QCOMPARE(Torv::Accounts().Misuses(), provoked);
     QCOMPARE(TestSign::TakeComplaints(), QStringList());
