@@ -36,6 +36,12 @@ int Bounded(int value, int limit)
     return qBound(-limit, value, limit);
 }
 
+/** Of a bitmap that is stored from the top down, Qt's reader gives the height as negative. */
+qint64 PixelCount(const QSize& size)
+{
+    return qAbs(qint64(size.width())) * qAbs(qint64(size.height()));
+}
+
 } // namespace
 
 animationRealization::animationRealization(QObject* parent)
@@ -166,22 +172,25 @@ int animationRealization::Init(HAnimationTextNode* newNode)
 
 void animationRealization::LoadFillPicture()
 {
-    fillImageSize = QSize();
-    pictureBrush = QBrush();
     const QString file = node->GetFirstFile(QString::fromLatin1("FillImage"));
-    if (!QFileInfo(file).isFile())
-        return;
-    QImageReader reader(file);
-    // A few bytes can decode to gigabytes, so the size is asked for first.
-    const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > maxPicturePixels) {
-        qDebug() << "Fill picture is no picture or too large, ignored:" << file << size;
-        return;
+    QImage picture;
+    // Opening a pipe would wait for a writer that may never come.
+    if (QFileInfo(file).isFile()) {
+        QImageReader reader(file);
+        // A few bytes can decode to gigabytes, so the size is asked for first. Some formats know it
+        // only once they are read.
+        QSize size = reader.size();
+        if (PixelCount(size) <= maxPicturePixels) {
+            picture = reader.read();
+            size = picture.size();
+        }
+        if (PixelCount(size) > maxPicturePixels) {
+            qDebug() << "Fill picture is too large, ignored:" << file << size;
+            picture = QImage();
+        }
     }
-    const QImage picture = reader.read();
     fillImageSize = picture.size();
-    if (!picture.isNull())
-        pictureBrush = QBrush(picture);
+    pictureBrush = QBrush(picture);
 }
 
 /** A picture of zero bytes; null when the size holds no pixel or too many. */

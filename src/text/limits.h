@@ -21,7 +21,7 @@ const double maxOutlineCoordinate = 1e6;
 /** Bytes of one picture that is painted into; the device's own limit for a buffer. */
 const qint64 maxCanvasBytes = qint64(256) << 20;
 
-/** Pixels of a fill picture, before it is decoded. */
+/** Pixels of a fill picture, asked for before it is decoded where the format tells. */
 const qint64 maxPicturePixels = 64 * 1000 * 1000;
 
 /**

@@ -54,6 +54,7 @@ public:
     PROBE(engine, dazzleLayer)
     PROBE(engine, dazzleColorIndex)
     PROBE(engine, stayImage)
+    PROBE(engine, fillImageSize)
 
 private:
     animationRealization& engine;

@@ -98,21 +98,35 @@ private slots:
 
     void picturesAreLookedAtBeforeTheyAreDecoded_data()
     {
-        const Table<QByteArray, bool> row("content", "refused");
-        row("64 megapixels", Bitmap("8000 8000"), false);
-        row("a row more", Bitmap("8000 8001"), true);
-        row("no picture", QByteArray("none"), true);
+        const auto fromTheTop = [](int width, int height) {
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            QImage(4, 3, QImage::Format_RGB32).save(&buffer, "BMP");
+            qToLittleEndian(width, bytes.data() + 18);
+            qToLittleEndian(-height, bytes.data() + 22);
+            return bytes;
+        };
+        const QSize none(0, 0);
+        const Table<QByteArray, QSize, int> row("content", "size", "messages");
+        row("64 megapixels", Bitmap("8000 8000") + QByteArray(8000000, 0), {8000, 8000}, 0);
+        row("a row more", Bitmap("8000 8001") + QByteArray(8001000, 0), none, 1);
+        row("cut off", Bitmap("8000 8000"), none, 0);
+        row("no picture", QByteArray("none"), none, 0);
+        row("its size unknown", fromTheTop(4, 3), {4, 3}, 0);
+        row("from the top, too large", fromTheTop(8000, 8001), none, 1);
     }
 
     void picturesAreLookedAtBeforeTheyAreDecoded()
     {
         QFETCH(QByteArray, content);
+        QFETCH(QSize, size);
         EngineFixture play;
         WriteFile(play.text.File("fill"), content);
         play.text.node->SetFiles("FillImage", {play.text.File("fill")});
         Messages messages;
         play.Start({{"CheckPictureFills", 1}, {"AnimationEffect", 6}});
-        QTEST(!Messages::Taken().filter("Fill picture").isEmpty(), "refused");
+        QTEST(Messages::Taken().filter("Fill picture").size(), "messages");
+        QCOMPARE(play.fillImageSize(), size);
     }
 
     void frogsAboveFourMegapixelsAreRefused()
