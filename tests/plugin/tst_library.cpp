@@ -123,7 +123,7 @@ private slots:
     {
         QProcess nm;
         nm.start("nm", {"-D", "--defined-only", "--demangle", PLUGIN_FILE});
-        QVERIFY(nm.waitForFinished());
+        QVERIFY(nm.waitForFinished(-1));
         QCOMPARE(nm.exitCode(), 0);
         QStringList symbols;
         bool editor = false;

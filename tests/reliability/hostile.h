@@ -12,8 +12,8 @@
 #include <QList>
 #include <QVector>
 
-/** What a scene costs: slow ones are played only once, heavy ones may take long. */
-enum class Weight { Light, Slow, Heavy };
+/** What a scene costs: slow ones are played only once, and not for long. */
+enum class Weight { Light, Slow };
 
 struct HostileScene
 {

@@ -190,7 +190,7 @@ void TestDocument::killedWhileSavingLosesNothing()
         while (said.count('\n') < words && victim.waitForReadyRead(patience))
             said += victim.readAllStandardOutput();
         victim.kill();
-        QVERIFY(victim.waitForFinished());
+        QVERIFY(victim.waitForFinished(patience));
         said += victim.readAllStandardOutput();
         QVERIFY(said.count('\n') >= words);
 

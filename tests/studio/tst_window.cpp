@@ -99,7 +99,7 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     const QString path = folder.Path("sign.json");
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(path);
-    QVERIFY(ended.wait());
+    QVERIFY(ended.wait(patience));
     QVERIFY(!window->isWindowModified());
     window->GetDocument()->Undo()->undo();
     QCOMPARE(MotionNumber(Text().node), 17);
@@ -291,7 +291,7 @@ void TestWindow::exportsAndCancels()
     QVERIFY(Settles());
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("it's.json"));
-    QVERIFY(ended.wait());
+    QVERIFY(ended.wait(patience));
     for (const char* name : {"film.gif", "frames/"}) {
         ExportDialog dialog(window->GetDocument()->Current(), folder.Path("it's.json"), QString());
         QSignalSpy done(&dialog, &ExportDialog::Done);
@@ -313,7 +313,7 @@ void TestWindow::exportsAndCancels()
     QSignalSpy done(&dialog, &ExportDialog::Done);
     dialog.SetOutput(folder.Path("never.mp4"));
     dialog.StartButton()->click();
-    QTRY_VERIFY(!dialog.StartButton()->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(!dialog.StartButton()->isEnabled(), patience);
     dialog.CloseButton()->click();
     QVERIFY(done.wait(patience));
     QVERIFY(!done.first().first().toBool());
@@ -370,7 +370,7 @@ void TestWindow::closesWhileItPaints()
     for (int round = 0; round < 3; ++round) {
         Type(QString("Closing %1").arg(round));
         window->GetPlayback()->SetPace(1);
-        QTRY_VERIFY(window->GetRehearsal()->IsCurrent() || round > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(window->GetRehearsal()->IsCurrent() || round > 0, patience);
         window = std::make_unique<MainWindow>(QString()); // the old one goes in mid-work
         window->New();
     }
