@@ -53,11 +53,10 @@ void animationRealization::FlyFromRightEffect()
 
     moveOffset = 0;
     --charCount;
-    if (charCount - 1 > PageEnd() && charCount >= 1)
+    if (charCount - 1 > PageEnd()) // -1 after the last page, so this also ends with the text
         return;
     LeavePage();
-    // The text may be used up while pages remain; then the run is over all the same.
-    if (IsLastPageOver() || charCount < 1) {
+    if (IsLastPageOver()) {
         EndRun();
         charCount = text.size();
     }

@@ -87,8 +87,7 @@ void animationRealization::EffectFromBothSidesInOrderToEnlarge()
         for (int i = 0; start + i < end && Phase(i) >= 0; ++i) {
             const int left = start + i;
             const int right = end - i;
-            const float grown = float(Phase(i) / double(maxTextWidth));
-            const float scale = grown > 1.0f ? 1.0f : grown;
+            const float scale = qMin(1.0f, float(Phase(i) / double(maxTextWidth)));
             transform.reset();
             transform.scale(scale, scale);
             if (left <= right)

@@ -119,8 +119,7 @@ int animationRealization::Init(HAnimationTextNode* newNode)
 {
     if (!newNode)
         return 0;
-    if (node != newNode)
-        node = newNode;
+    node = newNode;
 
     layerBuffer = 0;
     maxTextWidth = Bounded(node->MaxTextWidth(), metricLimit);

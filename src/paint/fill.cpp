@@ -105,19 +105,9 @@ bool Edges<Sink>::CutAtBorder(int32_t border, bool isRight, Run& run)
     const int32_t last = Sum(run.x, Product(run.step, rows));
     const bool startsOutside = (run.x < border) != isRight;
     const bool endsOutside = (last < border) != isRight;
-    // On the border at an end it is inside when the rest of it is.
-    bool allOutside = startsOutside && endsOutside;
-    bool allInside = !startsOutside && !endsOutside;
-    if (run.x == border) {
-        allInside = (run.step > 0) != isRight;
-        allOutside = !allInside;
-    } else if (last == border) {
-        allInside = (run.step < 0) != isRight;
-        allOutside = !allInside;
-    }
-    if (allInside)
+    if (!startsOutside && !endsOutside)
         return true;
-    if (allOutside) {
+    if (startsOutside && endsOutside) {
         AddBorder(border, run.top, run.bottom, run.winding);
         return false;
     }

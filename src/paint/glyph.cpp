@@ -18,7 +18,8 @@ bool AreSubpathsClosed(const Outline& outline, size_t size)
             continue;
         const Outline::Element& first = outline.At(start);
         const Outline::Element& last = outline.At(i - 1);
-        if (i - start < 2 || first.x != last.x || first.y != last.y)
+        // Of a move alone at the beginning the hairline goes on from the glyph before.
+        if (i == 1 || first.x != last.x || first.y != last.y)
             return false;
         start = i;
     }

@@ -18,21 +18,19 @@ void Transform::reset()
     known = touched = None;
 }
 
-Transform::Kind Transform::KindFrom(Kind highest) const
+Transform::Kind Transform::MeasuredKind() const
 {
-    if (highest >= Rotating && (!NearlyZero(a12) || !NearlyZero(a21)))
+    if (!NearlyZero(a12) || !NearlyZero(a21))
         return NearlyZero(a11 * a12 + a21 * a22) ? Rotating : Shearing;
-    if (highest >= Scaling && (!NearlyZero(a11 - 1) || !NearlyZero(a22 - 1)))
+    if (!NearlyZero(a11 - 1) || !NearlyZero(a22 - 1))
         return Scaling;
-    if (highest >= Translating && (!NearlyZero(tx) || !NearlyZero(ty)))
-        return Translating;
-    return None;
+    return NearlyZero(tx) && NearlyZero(ty) ? None : Translating;
 }
 
 Transform::Kind Transform::kind() const
 {
     if (touched != None && touched >= known) {
-        known = KindFrom(touched);
+        known = MeasuredKind();
         touched = None;
     }
     return known;

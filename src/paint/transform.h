@@ -49,7 +49,7 @@ private:
     // after an operation that may have raised it.
     enum Kind { None, Translating, Scaling, Rotating, Shearing };
     Kind kind() const;
-    Kind KindFrom(Kind highest) const;
+    Kind MeasuredKind() const;
     void Touch(Kind atLeast);
 
     float a11, a12, a21, a22, tx, ty;

@@ -124,6 +124,7 @@ private slots:
     void outlinesAreTheDevices();
     void transformsAreTheDevices();
     void glyphsArePaintedAsTheirPath();
+    void aMoveAloneJoinsTheGlyphBefore();
     void glyphsAreKeptWhereTheyAreTheSame();
     void exactPlacesRoundNothing();
     void whatIsKeptIsBounded();
@@ -270,6 +271,29 @@ void TestPaint::glyphsArePaintedAsTheirPath()
     }
 }
 
+// The hairline of a move alone goes on from the glyph before.
+void TestPaint::aMoveAloneJoinsTheGlyphBefore()
+{
+    const auto outline = [](const QVector<Point>& points) {
+        Outline line;
+        for (const Point& p : points)
+            line.Add(p.x, p.y, &p == &points.first() ? Outline::Move : Outline::Line);
+        return line;
+    };
+    Pages pages(31, 14);
+    Outline begun;
+    begun.MoveTo(16, 0);
+    begun.Append(outline({{31, 14.015625f}, {23, 20}, {30.984375f, 14}, {31, 14.015625f}}), 0, 0);
+    pages.glyphs.emplace_back(
+        outline({{0, 0}, {30.984375f, 14}, {0, 14}, {31, 0}, {30.96875f, 0}, {0, 0}}));
+    pages.glyphs.emplace_back(begun);
+    TextPath page;
+    page.Add(pages.glyphs[0], 0, Transform(), 0, 0);
+    page.Add(pages.glyphs[1], 1, Transform(), -2, -2);
+    const QString difference = pages.Compare(page, nullptr);
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
 // Across powers of two and borders, both ways; with curves that were quadratic ones, so that thirds
 // are rounded differently at different places.
 void TestPaint::glyphsAreKeptWhereTheyAreTheSame()
@@ -384,6 +408,12 @@ void TestPaint::exactPlacesRoundNothing()
                  qPrintable(QString("curve %1 at %2, %3").arg(i).arg(x).arg(y)));
     }
     QVERIFY2(isUseful > 1000, qPrintable(QString::number(isUseful)));
+
+    // As often as a curve is halved, each time to eighths: from 2^14 to 2^-4, of a float's 24 bits.
+    Outline large;
+    large.MoveTo(0, 0);
+    large.CurveTo(0, 16384, 16384, -16384, 16384, 16384);
+    QCOMPARE(Glyph(large).ExactWithin().y, float(1 << 20));
 }
 
 void TestPaint::whatIsKeptIsBounded()

@@ -82,7 +82,7 @@ inline QString ShortCall(const QString& line)
         return QString("duration(%1,%2,%3,%4)")
             .arg(number(call, "length"), number(call, "areaHeight"), number(call, "effectCode"),
                  number(call, "speedIndex"));
-    return (name == "AddPictureSession"      ? "add"
+    return (name == "AddPictureSession"      ? "add" + unless("0", number(call, "reserved"))
             : name == "RemovePictureSession" ? "remove"
                                              : "free") +
            failed;

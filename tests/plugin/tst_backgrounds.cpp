@@ -271,11 +271,15 @@ private slots:
     void theEngineEndsBeforeItsSession()
     {
         RenderFixture play;
-        play.Start({{"CheckNeonBg", 1}});
+        play.Start({{"CheckNeonBg", 1}, {"EffectType", 1}});
+        const Lw::DrawNeonBg* const animator = play.Probe().Engine().neonBg();
+        QVERIFY(animator->pictureSession && animator->displayHandle && animator->layer);
+        play.render->Stop();
+        QVERIFY(!animator->pictureSession && !animator->displayHandle && !animator->layer);
+        play.Start({});
         play.log.clear();
         bool first = false;
-        connect(play.Probe().Engine().neonBg(), &QObject::destroyed,
-                [&] { first = play.log.isEmpty(); });
+        connect(animator, &QObject::destroyed, [&] { first = play.log.isEmpty(); });
         play.render.reset();
         QVERIFY(first);
         QCOMPARE(play.ShortCalls(), QString("remove free"));

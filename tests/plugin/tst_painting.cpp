@@ -85,6 +85,27 @@ private slots:
         }
     }
 
+    // On the page all glyphs share one path, which is odd-even.
+    void aGlyphInFlightKeepsItsFillRule()
+    {
+        for (const Qt::FillRule rule : {Qt::OddEvenFill, Qt::WindingFill}) {
+            EngineFixture play;
+            QPainterPath ring;
+            ring.setFillRule(rule);
+            ring.addRect(2, -20, 25, 18);
+            ring.addRect(8, -14, 10, 6);
+            play.text.SetGlyphs({ring, ring, ring});
+            play.StartEffect(0);
+            for (int frame = 0; frame <= 30; ++frame)
+                play.DrawFrame();
+            QCOMPARE(play.drawImage().pixelColor(30 + 13, 28 - 11).alpha(), 255 * rule);
+            while (play.charIndex() == 0)
+                play.DrawFrame();
+            play.DrawFrame();
+            QCOMPARE(play.drawImage().pixelColor(13, 28 - 11).alpha(), 0);
+        }
+    }
+
     void shadowsLieAsFarAsTheyAreTold()
     {
         EngineFixture play;
@@ -190,6 +211,17 @@ private slots:
             colours += colour == QColor(0, 255, 0) ? 'g' : colour == QColor(Qt::white) ? 'w' : '?';
         }
         QTEST(colours, "colours");
+    }
+
+    // The third begins before the tail, to which the second's negative width leads back.
+    void tailsHaveOnlyTheirOwnCharacters()
+    {
+        EngineFixture play(Line({32000, -40, 60, 30}));
+        play.Start({});
+        play.DrawFrame();
+        QCOMPARE(play.drawImage().pixelColor(31999, 10), QColor(0, 255, 0));
+        QCOMPARE(play.drawImage().pixelColor(32010, 10).alpha(), 0);
+        QCOMPARE(play.drawImage().pixelColor(32030, 10), QColor(Qt::white));
     }
 
     void rowsEndInTheTailsBytes()
