@@ -106,6 +106,32 @@ private slots:
         }
     }
 
+    void aNewStartHasNewGlyphs()
+    {
+        EngineFixture play;
+        for (const int size : {20, 10}) {
+            QVector<QPainterPath> glyphs(1);
+            glyphs[0].addRect(0, -size, size - 1, size - 1);
+            play.text.SetGlyphs(glyphs);
+            play.Start({{"EffectType", 1}}); // a line, which stands still
+            for (int frame = 0; frame < 4; ++frame)
+                play.DrawFrame();
+            QCOMPARE(PaintedBox(play.drawImage()).size(), QSize(size, size));
+        }
+        QCOMPARE(play.engine.Init(nullptr), 0);
+    }
+
+    // Two glyphs for three characters: the column repeats after the second.
+    void columnsRepeatTheGlyphsThereAre()
+    {
+        EngineFixture play;
+        play.text.SetGlyphs(RectangleGlyphs({30, 20}, {20, 25}));
+        play.Start({{"EffectType", 1}, {"ContinueStyle", 2}});
+        while (play.charIndex() < 46)
+            play.DrawFrame();
+        QCOMPARE(Corners(play).count(';'), 2);
+    }
+
     void shadowsLieAsFarAsTheyAreTold()
     {
         EngineFixture play;
