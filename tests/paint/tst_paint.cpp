@@ -274,19 +274,17 @@ void TestPaint::glyphsArePaintedAsTheirPath()
 // The hairline of a move alone goes on from the glyph before.
 void TestPaint::aMoveAloneJoinsTheGlyphBefore()
 {
-    const auto outline = [](const QVector<Point>& points) {
+    const auto outline = [](const QVector<Point>& points, int moves) {
         Outline line;
-        for (const Point& p : points)
-            line.Add(p.x, p.y, &p == &points.first() ? Outline::Move : Outline::Line);
+        for (int i = 0; i < points.size(); ++i)
+            line.Add(points[i].x, points[i].y, i < moves ? Outline::Move : Outline::Line);
         return line;
     };
     Pages pages(31, 14);
-    Outline begun;
-    begun.MoveTo(16, 0);
-    begun.Append(outline({{31, 14.015625f}, {23, 20}, {30.984375f, 14}, {31, 14.015625f}}), 0, 0);
     pages.glyphs.emplace_back(
-        outline({{0, 0}, {30.984375f, 14}, {0, 14}, {31, 0}, {30.96875f, 0}, {0, 0}}));
-    pages.glyphs.emplace_back(begun);
+        outline({{0, 0}, {30.984375f, 14}, {0, 14}, {31, 0}, {30.96875f, 0}, {0, 0}}, 1));
+    pages.glyphs.emplace_back(
+        outline({{16, 0}, {31, 14.015625f}, {23, 20}, {30.984375f, 14}, {31, 14.015625f}}, 2));
     TextPath page;
     page.Add(pages.glyphs[0], 0, Transform(), 0, 0);
     page.Add(pages.glyphs[1], 1, Transform(), -2, -2);
