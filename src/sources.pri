@@ -7,6 +7,8 @@ HEADERS += \
     $$PWD/node/attribute.h \
     $$PWD/node/hanimationtextnode.h \
     $$PWD/node/motions.h \
+    $$PWD/paint/blend.h \
+    $$PWD/paint/coats.h \
     $$PWD/paint/curves.h \
     $$PWD/paint/farcutting.h \
     $$PWD/paint/fill.h \
@@ -15,6 +17,8 @@ HEADERS += \
     $$PWD/paint/glyphcache.h \
     $$PWD/paint/hairline.h \
     $$PWD/paint/outline.h \
+    $$PWD/paint/picture.h \
+    $$PWD/paint/pictureblend.h \
     $$PWD/paint/picturewriter.h \
     $$PWD/paint/plane.h \
     $$PWD/paint/point.h \
@@ -49,12 +53,14 @@ SOURCES += \
     $$PWD/node/duration.cpp \
     $$PWD/node/hanimationtextnode.cpp \
     $$PWD/node/textmetrics.cpp \
+    $$PWD/paint/coats.cpp \
     $$PWD/paint/farcutting.cpp \
     $$PWD/paint/fill.cpp \
     $$PWD/paint/glyph.cpp \
     $$PWD/paint/glyphcache.cpp \
     $$PWD/paint/hairline.cpp \
     $$PWD/paint/outline.cpp \
+    $$PWD/paint/pictureblend.cpp \
     $$PWD/paint/picturewriter.cpp \
     $$PWD/paint/plane.cpp \
     $$PWD/paint/textcanvas.cpp \

@@ -4,13 +4,13 @@
 
 #include "node/attribute.h"
 #include "node/hanimationtextnode.h"
+#include "paint/pictureblend.h"
 
 #include <happconfig.h>
 
 #include <QDebug>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QPainter>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -40,8 +40,9 @@ QImage ReadFrog(int number)
         if (size.isValid() && qint64(size.width()) * size.height() <= maxFrogPixels)
             frog = reader.read();
     }
-    if (frog.isNull())
-        qDebug() << "Frog picture cannot be read, no frog is drawn:" << file;
+    if (!frog.isNull())
+        return frog.convertToFormat(QImage::Format_ARGB32);
+    qDebug() << "Frog picture cannot be read, no frog is drawn:" << file;
     return frog;
 }
 
@@ -57,10 +58,8 @@ void animationRealization::DrawFrog(int frame)
         frog.picture = ReadFrog(frame + 1);
         frog.read = true;
     }
-    if (frog.picture.isNull() || !painter->begin(&drawImage))
-        return;
-    painter->drawImage(RestX(charIndex), 0, frog.picture);
-    painter->end();
+    if (!frog.picture.isNull())
+        BlendPicture(PictureOf(frog.picture), RestX(charIndex), 0, PictureOf(drawImage));
 }
 
 /** The characters in place, the one in work as @p drawCharacter paints it, and the frog. */

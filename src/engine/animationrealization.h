@@ -168,7 +168,7 @@ private:
     bool BeginFrame();
     void EndFrame();
     void ShowFrame();
-    static void WritePicture(TextCanvas& from, QRgb color, QImage& picture);
+    static Picture PictureOf(QImage& image);
     template <typename Shape>
     void DrawPage(const Shape& shape);
     template <typename Shape>
@@ -222,8 +222,8 @@ private:
             : read(false)
         {
         }
-        bool read; // or found missing
-        QImage picture;
+        bool read;      // or found missing
+        QImage picture; // Format_ARGB32
     };
 
     QPointer<HAnimationTextNode> node;

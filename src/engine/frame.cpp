@@ -34,14 +34,15 @@ void animationRealization::EndFrame()
 /** What the canvas holds becomes the picture: every pixel of it, so nothing is cleared before. */
 void animationRealization::ShowFrame()
 {
-    WritePicture(canvas, textColor, drawImage);
+    canvas.Write(textColor, PictureOf(drawImage));
 }
 
-void animationRealization::WritePicture(TextCanvas& from, QRgb color, QImage& picture)
+/** The image's own pixels, for as long as it has them. */
+Picture animationRealization::PictureOf(QImage& image)
 {
-    const PictureWriter::Format format =
-        picture.depth() == 32 ? PictureWriter::Argb32 : PictureWriter::Rgb888;
-    from.Write(format, color, picture.bits(), size_t(picture.bytesPerLine()));
+    const Picture picture = {image.depth() == 32 ? Picture::Argb32 : Picture::Rgb888, image.bits(),
+                             size_t(image.bytesPerLine()), image.width(), image.height()};
+    return picture;
 }
 
 bool animationRealization::HasGlyph(int j) const

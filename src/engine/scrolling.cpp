@@ -83,7 +83,7 @@ void animationRealization::DrawTail(int first, int end)
     tailCanvas.SetSize(tail.width(), tail.height());
     tailCanvas.DrawPath(auxPath);
     // White and filled, whatever the text is: the tail has always been so.
-    WritePicture(tailCanvas, qRgb(255, 255, 255), tail);
+    tailCanvas.Write(qRgb(255, 255, 255), PictureOf(tail));
 
     // Right-aligned by bytes: rows of 24 bits are padded, so this is not a distance in pixels.
     const int offset = drawImage.bytesPerLine() - tail.bytesPerLine();

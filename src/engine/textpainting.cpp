@@ -20,8 +20,9 @@ void animationRealization::SetPainterBrush(int)
 {
     // The first character's colour serves for all. Gradient, stroke and picture fill belong to the
     // dazzle background; the text keeps its plain colour.
-    textColor = (node ? node->GetTextColor(0) : QColor(255, 0, 0)).rgb();
+    textColor = (node ? node->GetTextColor(0) : QColor(255, 0, 0)).rgba();
     canvas.SetHollow(hollow == 1);
+    canvas.SetTranslucent(qAlpha(textColor) < 255);
 }
 
 /** Adds the character's shadow to auxPath. Text is painted without one; hosts may call it. */

@@ -143,6 +143,7 @@ void Hairline::Trace::AddBeforeFirst()
 Hairline::Hairline()
     : clip()
     , ink(0)
+    , coats(0)
     , left(0)
     , top(0)
     , right(0)
@@ -155,10 +156,11 @@ Hairline::Hairline()
 {
 }
 
-void Hairline::Begin(const Box& box, Plane& plane)
+void Hairline::Begin(const Box& box, Plane& plane, Coats* counted)
 {
     clip = box;
     ink = &plane;
+    coats = counted;
     left = float(box.left - 1);
     top = float(box.top - 1);
     right = float(box.right + 1);
@@ -319,14 +321,17 @@ inline void Hairline::DropOut(Trace& trace) const
     }
 }
 
-/** Of which some may be outside. */
+/** Of which some may be outside; pixel by pixel, as coats are counted. */
 void Hairline::PaintClipped(const Trace& trace, int32_t end)
 {
     int32_t across = trace.across;
     for (int32_t along = trace.begin; along < end; ++along) {
         const Pixel p = trace.At(along, across);
-        if (IsInClip(p))
+        if (IsInClip(p)) {
             ink->Set(p.x, p.y);
+            if (coats)
+                coats->Add(p.x, p.y);
+        }
         across = Sum(across, trace.step);
     }
 }
@@ -336,9 +341,10 @@ __attribute__((always_inline)) inline void Hairline::Paint(const Trace& trace)
     // A line that lost its only pixel paints one all the same: the device paints before it asks.
     const int32_t end = std::max(trace.end, trace.begin + 1);
     int32_t across = trace.across;
-    if (!isWithin &&
-        !(IsInClip(trace.Low()) &&
-          IsInClip(trace.At(end - 1, Sum(across, Product(end - 1 - trace.begin, trace.step)))))) {
+    if (coats ||
+        (!isWithin &&
+         !(IsInClip(trace.Low()) &&
+           IsInClip(trace.At(end - 1, Sum(across, Product(end - 1 - trace.begin, trace.step))))))) {
         PaintClipped(trace, end);
         return;
     }

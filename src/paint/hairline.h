@@ -1,6 +1,7 @@
 #ifndef HAIRLINE_H
 #define HAIRLINE_H
 
+#include "paint/coats.h"
 #include "paint/curves.h"
 #include "paint/outline.h"
 #include "paint/plane.h"
@@ -18,8 +19,11 @@ class Hairline
 public:
     Hairline();
 
-    /** Pixels within @p clip are set in @p ink, which is no smaller. */
-    void Begin(const Box& clip, Plane& ink);
+    /**
+     * Pixels within @p clip are set in @p ink, which is no smaller, and added to @p coats, if any,
+     * as often as lines cross them.
+     */
+    void Begin(const Box& clip, Plane& ink, Coats* coats = 0);
     /** The direction that a path starts with, Rightward unless it goes on from another one. */
     void SetDirection(Direction d) { direction = d; }
     Direction LastDirection() const { return direction; }
@@ -59,6 +63,7 @@ private:
 
     Box clip;
     Plane* ink;
+    Coats* coats;
     // In clipped coordinates a pixel more at each side.
     float left;
     float top;

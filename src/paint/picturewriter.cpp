@@ -7,13 +7,13 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 PictureWriter::PictureWriter()
-    : tableFormat(Argb32)
+    : tableFormat(Picture::Argb32)
     , tableColour(0)
     , hasTable(false)
 {
 }
 
-void PictureWriter::SetColour(Format format, uint32_t argb)
+void PictureWriter::SetColour(Picture::Format format, uint32_t argb)
 {
     if (hasTable && tableFormat == format && tableColour == argb)
         return;
@@ -23,8 +23,8 @@ void PictureWriter::SetColour(Format format, uint32_t argb)
     unsigned char pixel[4] = {static_cast<unsigned char>(argb >> 16 & 255),
                               static_cast<unsigned char>(argb >> 8 & 255),
                               static_cast<unsigned char>(argb & 255), 0};
-    const size_t bytes = format == Argb32 ? 4 : 3;
-    if (format == Argb32)
+    const size_t bytes = format == Picture::Argb32 ? 4 : 3;
+    if (format == Picture::Argb32)
         std::memcpy(pixel, &argb, sizeof argb);
     std::memset(table, 0, sizeof table);
     unsigned char* to = reinterpret_cast<unsigned char*>(table);
@@ -62,24 +62,23 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
     }
 }
 
-void PictureWriter::Write(const Plane& ink, Format format, uint32_t argb, unsigned char* bits,
-                          size_t bytesPerLine, int width, int height)
+void PictureWriter::Write(const Plane& ink, uint32_t argb, const Picture& to)
 {
-    SetColour(format, argb);
-    const size_t bytesPerPixel = format == Argb32 ? 4 : 3;
-    const int inkWidth = std::min(width, ink.Width());
-    const size_t inkBytes = static_cast<size_t>(inkWidth) * bytesPerPixel;
-    const size_t bytes = static_cast<size_t>(width) * bytesPerPixel;
-    for (int y = 0; y < height; ++y, bits += bytesPerLine) {
+    SetColour(to.format, argb);
+    const int inkWidth = std::min(to.width, ink.Width());
+    const size_t inkBytes = static_cast<size_t>(inkWidth) * to.BytesPerPixel();
+    const size_t bytes = static_cast<size_t>(to.width) * to.BytesPerPixel();
+    for (int y = 0; y < to.height; ++y) {
+        unsigned char* const row = to.Row(y);
         if (y < ink.InkTop() || y >= ink.InkBottom()) {
-            std::memset(bits, 0, bytes);
+            std::memset(row, 0, bytes);
             continue;
         }
-        if (format == Argb32)
-            WriteRow<4>(ink, y, bits, inkWidth);
+        if (to.format == Picture::Argb32)
+            WriteRow<4>(ink, y, row, inkWidth);
         else
-            WriteRow<3>(ink, y, bits, inkWidth);
-        std::memset(bits + inkBytes, 0, bytes - inkBytes);
+            WriteRow<3>(ink, y, row, inkWidth);
+        std::memset(row + inkBytes, 0, bytes - inkBytes);
     }
 }
 

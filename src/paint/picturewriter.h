@@ -1,10 +1,8 @@
 #ifndef PICTUREWRITER_H
 #define PICTUREWRITER_H
 
+#include "paint/picture.h"
 #include "paint/plane.h"
-
-#include <cstddef>
-#include <stdint.h>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -16,29 +14,23 @@ namespace HNodeAnimationText {
 class PictureWriter
 {
 public:
-    enum Format {
-        Argb32, // words 0xAARRGGBB in the processor's byte order
-        Rgb888  // bytes red, green, blue
-    };
-
     PictureWriter();
 
     /**
-     * @p width x @p height pixels, of which those beyond the plane are 0. Bytes from the end of a
-     * row's pixels to the next row stay as they are.
+     * Pixels beyond the plane are 0. Bytes from the end of a row's pixels to the next row stay as
+     * they are.
      */
-    void Write(const Plane& ink, Format format, uint32_t argb, unsigned char* bits,
-               size_t bytesPerLine, int width, int height);
+    void Write(const Plane& ink, uint32_t argb, const Picture& to);
 
 private:
     static const int pixelsAtOnce = 8;
     static const int mostBytes = 4 * pixelsAtOnce;
 
-    void SetColour(Format format, uint32_t argb);
+    void SetColour(Picture::Format format, uint32_t argb);
     template <int bytesPerPixel>
     void WriteRow(const Plane& ink, int y, unsigned char* row, int width) const;
 
-    Format tableFormat;
+    Picture::Format tableFormat;
     uint32_t tableColour;
     bool hasTable;
     uint64_t table[256 * mostBytes / sizeof(uint64_t)]; // bytes of every row of eight pixels

@@ -48,6 +48,7 @@ TextCanvas::TextCanvas()
     , picture()
     , clip()
     , isHollow(false)
+    , isTranslucent(false)
     , isFirst(true)
 {
 }
@@ -77,6 +78,15 @@ void TextCanvas::SetHollow(bool hollow)
     isHollow = hollow;
 }
 
+void TextCanvas::SetTranslucent(bool translucent)
+{
+    if (translucent)
+        coats.Begin(picture.right, picture.bottom);
+    else if (isTranslucent)
+        coats.Forget();
+    isTranslucent = translucent;
+}
+
 void TextCanvas::Clear()
 {
     ink.Clear();
@@ -104,7 +114,7 @@ void TextCanvas::DrawText(const TextPath& text, const Transform& painterTransfor
 {
     if (picture.IsEmpty() || text.Size() == 0)
         return;
-    if (!isFirst || !(clip == picture) || !DrawOneByOne(text, painterTransform))
+    if (!isFirst || isTranslucent || !(clip == picture) || !DrawOneByOne(text, painterTransform))
         DrawPath(text.Path(), painterTransform);
     isFirst = false;
 }
@@ -115,7 +125,8 @@ void TextCanvas::DrawGlyph(const TextPath::Item& item)
     if (outline.IsEmpty())
         return;
     const bool isWinding = outline.fillRule == Outline::Winding;
-    if (!picture.IsEmpty() && clip == picture && IsIndependent(item, Transform())) {
+    if (!picture.IsEmpty() && !isTranslucent && clip == picture &&
+        IsIndependent(item, Transform())) {
         const GlyphCache::Finding found = FindOrKeep(item, isWinding, Rightward);
         if (found.image) {
             GlyphCache::Unite(*found.image, GlyphCache::Inside, found.x, found.y, ink);
@@ -141,10 +152,15 @@ void TextCanvas::DrawPath(const Outline& path, const Transform& painterTransform
 void TextCanvas::DrawPlain(const Outline& path, const Transform& transform)
 {
     if (!isHollow)
-        fill.Paint(path, transform, clip, ink);
+        fill.Paint(path, transform, clip, isTranslucent ? keptInside : ink);
     points.resize(path.Size());
     transform.map(path, &points[0]);
-    hairline.Begin(clip, ink);
+    if (isTranslucent) {
+        coats.Add(keptInside);
+        ink.Unite(keptInside);
+        keptInside.Clear();
+    }
+    hairline.Begin(clip, ink, isTranslucent ? &coats : 0);
     hairline.Draw(path, &points[0], Bounds(&points[0], points.size()));
 }
 
@@ -246,16 +262,18 @@ const Plane& TextCanvas::Ink()
     return ink;
 }
 
-void TextCanvas::Write(PictureWriter::Format format, uint32_t argb, unsigned char* bits,
-                       size_t bytesPerLine)
+void TextCanvas::Write(uint32_t argb, const Picture& to)
 {
-    writer.Write(Ink(), format, argb, bits, bytesPerLine, pictureWidth, pictureHeight);
+    if (isTranslucent)
+        coats.Write(argb, to);
+    else
+        writer.Write(Ink(), argb, to);
 }
 
 size_t TextCanvas::Bytes() const
 {
     return sizeof *this + 4 * ink.Bytes() + fill.Bytes() + points.capacity() * sizeof(Point) +
-           cache.Bytes();
+           cache.Bytes() + coats.Bytes();
 }
 
 } // namespace HNodeAnimationText

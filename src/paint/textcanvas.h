@@ -1,6 +1,7 @@
 #ifndef TEXTCANVAS_H
 #define TEXTCANVAS_H
 
+#include "paint/coats.h"
 #include "paint/fill.h"
 #include "paint/glyphcache.h"
 #include "paint/hairline.h"
@@ -14,15 +15,14 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /**
- * A frame of text in one opaque colour. Paints what the device's QPainter paints without
- * antialiasing, with a brush and a pen of width 0 in that colour, and writes it to a picture in
- * one go.
+ * A frame of text in one color. Paints what the device's QPainter paints without antialiasing, with
+ * a brush and a pen of width 0 in that color, and writes it to a picture in one go.
  *
  *     canvas.SetSize(width, height);
  *     canvas.Clear();                      // for each frame
  *     canvas.DrawText(page);               // one after the other, as with QPainter
  *     canvas.DrawGlyph(inFlight);
- *     canvas.Write(PictureWriter::Argb32, colour, bits, bytesPerLine);
+ *     canvas.Write(argb, picture);
  *
  * Glyphs are painted one by one and kept for other frames where the pixels are those of the whole
  * path, painted anew; else that is what is painted.
@@ -41,6 +41,11 @@ public:
     void Clear();
     /** Hollow text has its outline only. From the next path on. */
     void SetHollow(bool hollow);
+    /**
+     * Text in a color that lets through what is under it: each path is painted on the ones before
+     * it, and nothing is kept. For one frame, before anything is drawn.
+     */
+    void SetTranslucent(bool translucent);
     /** Only this rectangle is painted from now on, as after QPainter::setClipRect(). */
     void SetClip(const Box& rectangle);
     void ResetClip();
@@ -59,11 +64,10 @@ public:
     void DrawPath(const Outline& path, const Transform& painterTransform);
 
     /**
-     * All pixels of the frame, from 0xAARRGGBB, those without ink 0. Rows begin every
-     * @p bytesPerLine bytes; what lies between their last pixel and the next row stays as it is.
+     * All pixels of the frame, from 0xAARRGGBB, those without ink 0. The picture has the canvas's
+     * size; bytes between the last pixel of a row and the next row stay as they are.
      */
-    void Write(PictureWriter::Format format, uint32_t argb, unsigned char* bits,
-               size_t bytesPerLine);
+    void Write(uint32_t argb, const Picture& to);
 
     /** The frame's pixels with ink. */
     const Plane& Ink();
@@ -85,6 +89,7 @@ private:
     Box picture;
     Box clip;
     bool isHollow;
+    bool isTranslucent;
     bool isFirst;
     Plane ink;
     Plane inside; // of the glyphs of the frame's first path
@@ -95,6 +100,7 @@ private:
     Plane keptInside; // a glyph alone; empty otherwise
     Plane keptHairlines;
     PictureWriter writer;
+    Coats coats; // of translucent text
 };
 
 } // namespace HNodeAnimationText

@@ -1,6 +1,7 @@
 // The text painter against what the device's Qt paints: outlines.txt and transforms.txt were made
 // there. Set ANIMATIONTEXT_OUTLINES to another file of that form to compare all of it; a table by
 // family is printed.
+#include "paint/pictureblend.h"
 #include "paint/textcanvas.h"
 
 #include <QtTest>
@@ -131,6 +132,8 @@ private slots:
     void clipIsThePictureInside();
     void transformOfThePainterMapsPoints();
     void picturesHoldTheInk();
+    void translucentTextHasCoats();
+    void picturesAreBlended();
     void whatCannotBePaintedIsNot();
 };
 
@@ -491,8 +494,9 @@ void TestPaint::picturesHoldTheInk()
                 canvas.DrawPath(shape);
                 QByteArray row(width * (words ? 4 : 3) + 6, 'p');
                 QByteArray bits = row.repeated(height);
-                canvas.Write(words ? PictureWriter::Argb32 : PictureWriter::Rgb888, colour,
-                             reinterpret_cast<uchar*>(bits.data()), size_t(row.size()));
+                canvas.Write(colour, {words ? Picture::Argb32 : Picture::Rgb888,
+                                      reinterpret_cast<uchar*>(bits.data()), size_t(row.size()),
+                                      width, height});
                 for (int y = 0; y < height; ++y) {
                     QImage expected(width, 1, format);
                     expected.fill(0);
@@ -505,6 +509,69 @@ void TestPaint::picturesHoldTheInk()
                 }
             }
     }
+}
+
+// Inside and outline are blended one after the other. Colors are rounded as on the device.
+void TestPaint::translucentTextHasCoats()
+{
+    const QRgb paint = 0x80ff8040;
+    const QRgb colors[2][5] = {{0, 0x80ff7f3f, 0xc0ff7f3f, 0xe0ff7f3e, 0xf0ff7f3e},
+                               {0xff000000, 0xff804020, 0xffc06030, 0xffe07038, 0xfff0783c}};
+    Outline square;
+    for (const QPoint& corner : {QPoint(2, 2), QPoint(6, 2), QPoint(6, 6), QPoint(2, 6)})
+        square.Add(corner.x(), corner.y(), square.Size() == 0 ? Outline::Move : Outline::Line);
+    square.LineTo(2, 2);
+    const Glyph glyph(square);
+    TextPath text;
+    text.Add(glyph, 0, Transform(), 0, 0);
+    TextCanvas canvas;
+    for (const bool hollow : {false, true})
+        for (const int drawn : {1, 2})
+            for (const bool words : {true, false})
+                for (const QRgb color : {paint, paint & 0xffffff, paint | 0xff000000}) {
+                    QImage picture(9, 9, words ? QImage::Format_ARGB32 : QImage::Format_RGB888);
+                    canvas.SetSize(9, 9);
+                    canvas.SetHollow(hollow);
+                    canvas.SetTranslucent(qAlpha(color) < 255);
+                    for (int i = 0; i < drawn; ++i)
+                        i == 0 ? canvas.DrawText(text) : canvas.DrawGlyph(text.At(0));
+                    canvas.Write(color, {words ? Picture::Argb32 : Picture::Rgb888, picture.bits(),
+                                         size_t(picture.bytesPerLine()), 9, 9});
+                    const auto coats = [&](int x, int y, int count) {
+                        const QRgb expected = count == 0 || qAlpha(color) == 0 ? colors[!words][0]
+                                              : qAlpha(color) == 255           ? color
+                                                                     : colors[!words][count];
+                        QCOMPARE(QString::number(picture.pixel(x, y), 16),
+                                 QString::number(expected, 16));
+                    };
+                    coats(4, 4, hollow ? 0 : drawn);
+                    coats(4, 2, hollow ? drawn : 2 * drawn); // the outline's row is inside, too
+                    coats(4, 6, drawn);
+                    coats(8, 8, 0);
+                }
+}
+
+void TestPaint::picturesAreBlended()
+{
+    // Over nothing, over something translucent, over something opaque.
+    uint32_t source[] = {0x80ff8040, 0x00ffffff, 0xff123456};
+    uint32_t picture[3][5] = {{0, 0, 0, 0, 0}, {0x80204060, 1, 2, 3, 4}, {0xffffffff, 5, 6, 7, 8}};
+    const Picture over = {Picture::Argb32, reinterpret_cast<uchar*>(source), 12, 3, 1};
+    for (int y = 0; y < 3; ++y) {
+        const Picture row = {Picture::Argb32, reinterpret_cast<uchar*>(picture[y]), 20, 4, 1};
+        BlendPicture(over, 0, 0, row);
+        for (const int at : {INT_MIN, -3, 4, INT_MAX}) {
+            BlendPicture(over, at, 0, row);
+            BlendPicture(over, 0, at < 0 ? at : at - 3, row);
+        }
+        BlendPicture(over, 3, 0, row);
+    }
+    const uint32_t expected[3][5] = {{0x80ff7f3f, 0, 0xff123456, 0x80ff7f3f, 0},
+                                     {0xc0b46a4a, 1, 0xff123456, 0x80ff7f3f, 4},
+                                     {0xffffbf9f, 5, 0xff123456, 0x80ff7f3f, 8}};
+    for (int i = 0; i < 15; ++i)
+        QCOMPARE(QString::number(picture[i / 5][i % 5], 16),
+                 QString::number(expected[i / 5][i % 5], 16));
 }
 
 void TestPaint::whatCannotBePaintedIsNot()
