@@ -10,6 +10,8 @@ HEADERS += \
     $$PWD/paint/blend.h \
     $$PWD/paint/coats.h \
     $$PWD/paint/curves.h \
+    $$PWD/paint/dazzlemap.h \
+    $$PWD/paint/dazzlepainter.h \
     $$PWD/paint/farcutting.h \
     $$PWD/paint/fill.h \
     $$PWD/paint/fixedpoint.h \
@@ -54,6 +56,8 @@ SOURCES += \
     $$PWD/node/hanimationtextnode.cpp \
     $$PWD/node/textmetrics.cpp \
     $$PWD/paint/coats.cpp \
+    $$PWD/paint/dazzlemap.cpp \
+    $$PWD/paint/dazzlepainter.cpp \
     $$PWD/paint/farcutting.cpp \
     $$PWD/paint/fill.cpp \
     $$PWD/paint/glyph.cpp \

@@ -101,6 +101,10 @@ animationRealization::animationRealization(QObject* parent)
     for (int i = 0; i < 30; ++i)
         dazzleColors.append(QColor::fromHsv(12 * i, 207, 255, 255));
     dazzleColors.append(QColor::fromHsv(0, 207, 255, 255));
+    uint32_t ring[DazzleMap::ringColors];
+    for (int i = 0; i < DazzleMap::ringColors; ++i)
+        ring[i] = dazzleColors.at(i).rgb();
+    dazzle.SetColors(ring);
 
     KeepTime(dazzleTimer);
     // Connected once: after a second connection every tick would draw the background twice.
@@ -122,6 +126,7 @@ int animationRealization::Init(HAnimationTextNode* newNode)
     node = newNode;
 
     layerBuffer = 0;
+    dazzle.Repaint();
     maxTextWidth = Bounded(node->MaxTextWidth(), metricLimit);
     totalTextWidth = node->GetTotalTextWith();
     text = node->Text();
@@ -247,6 +252,7 @@ void animationRealization::Start()
         qDebug() << "Text picture is too large, nothing is painted:" << CountSize(true);
     if (!stayImage.isNull())
         stayImage.fill(0);
+    dazzle.Repaint();
 
     if (neonBgEnabled != 0) {
         neonBg->StartTimerDraw(tickInterval);
@@ -363,6 +369,7 @@ void animationRealization::ForgetSession()
         layerBuffer = 0;
         drawImage = QImage();
         stayImage = QImage();
+        dazzle.Forget();
     }
     SetPictureSession(0, 0, 0);
     SetDazzleLayer(0);

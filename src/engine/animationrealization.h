@@ -1,6 +1,7 @@
 #ifndef ANIMATIONREALIZATION_H
 #define ANIMATIONREALIZATION_H
 
+#include "paint/dazzlepainter.h"
 #include "paint/textcanvas.h"
 
 #include <drawneonbg.h>
@@ -208,7 +209,7 @@ private:
     // engine/dazzle.cpp
     void WrapDazzleLayer();
     int LeadingColor();
-    QBrush DazzleBrush(int leading);
+    void DrawPictureBorder(const Box& within, const Picture& picture);
     // engine/scrolling.cpp
     void DrawLine();
     void DrawTails(int first);
@@ -303,6 +304,7 @@ private:
     qint64 layerBytes; // what the text's layer holds, which the host may have made for another
                        // format; -1 when it is not known
     bool dazzleLayerWrapped;
+    DazzlePainter dazzle;
     TextCanvas canvas;
     QRgb textColor;
     QVector<Frog> frogPictures;

@@ -5,33 +5,22 @@
 #include "device/device.h"
 #include "node/hanimationtextnode.h"
 #include "node/motions.h"
-
-#include <QPainter>
+#include "paint/pictureblend.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
 
 namespace {
 
-const int colorCycle = 30;    // the 31st of the dazzle colours is the first again
-const int linearStops = 40;   // at i / 40
-const int circularStops = 30; // at i / 30
-const int pictureBorder = 3;  // px
+const int pictureBorder = 3; // px
 
-// Text is read against the middle of the picture, so the colours step back there: behind light text
-// into the dark, behind dark text into the light. Along the edges they stand pure.
-QLinearGradient Scrim(const QColor& text, const QRect& rect)
+DazzleMap::Shape ShapeOf(int gradientEnabled, int gradientType)
 {
-    const bool light = qGray(text.rgb()) >= 96;
-    QColor clear = light ? QColor(0, 0, 0, 0) : QColor(255, 255, 255, 0);
-    QColor dense = clear;
-    dense.setAlpha(light ? 165 : 190);
-    QLinearGradient scrim(rect.left(), rect.top(), rect.left(), rect.top() + rect.height());
-    scrim.setColorAt(0, clear);
-    scrim.setColorAt(qreal(0.22), dense);
-    scrim.setColorAt(qreal(0.78), dense);
-    scrim.setColorAt(1, clear);
-    return scrim;
+    if (gradientEnabled != 1)
+        return DazzleMap::Plain;
+    return gradientType == 0   ? DazzleMap::Linear
+           : gradientType == 1 ? DazzleMap::Radial
+                               : DazzleMap::Conical;
 }
 
 } // namespace
@@ -48,6 +37,7 @@ void animationRealization::WrapDazzleLayer()
         return;
     stayImage = QImage(reinterpret_cast<uchar*>(buffer), size.width(), size.height(), imageFormat);
     dazzleLayerWrapped = true;
+    dazzle.Repaint();
 }
 
 /** The colour that leads now; each frame hands the lead to the next one. */
@@ -56,26 +46,10 @@ int animationRealization::LeadingColor()
     // A line that scrolls sideways is painted only once and counts no frames.
     if (IsScrolledByDevice(effectType, continueStyle)) {
         const int index = dazzleColorIndex;
-        dazzleColorIndex = (dazzleColorIndex + 1) % colorCycle;
+        dazzleColorIndex = (dazzleColorIndex + 1) % DazzleMap::ringColors;
         return index;
     }
-    return qMax(frameCount, 0) % colorCycle;
-}
-
-QBrush animationRealization::DazzleBrush(int leading)
-{
-    if (gradientEnabled != 1)
-        return QBrush(dazzleColors.at(leading));
-
-    const int count = gradientType == 0 ? linearStops : circularStops;
-    QGradientStops stops;
-    for (int i = 0; i < count; ++i)
-        stops.append(QGradientStop(qreal(i) / count, dazzleColors.at((leading + i) % colorCycle)));
-    switch (gradientType) {
-    case 0: linearGradient.setStops(stops); return QBrush(linearGradient);
-    case 1: radialGradient.setStops(stops); return QBrush(radialGradient);
-    default: conicalGradient.setStops(stops); return QBrush(conicalGradient);
-    }
+    return qMax(frameCount, 0) % DazzleMap::ringColors;
 }
 
 void animationRealization::DrawDazzleBackground()
@@ -85,24 +59,28 @@ void animationRealization::DrawDazzleBackground()
     if (!node || stayImage.isNull())
         return;
 
-    QRect rect = stayImage.rect();
+    const Picture picture = PictureOf(stayImage);
     // With neon on, the rim is left to its border.
-    if (neonBgEnabled == 1) {
-        const int rim = qMax(2, qMin(rect.width(), rect.height()) / 8);
-        rect.adjust(rim, rim, -rim, -rim);
-    }
-    const QColor text = node->GetTextColor(0);
-    stayImage.fill(0);
-    QPainter background(&stayImage);
-    background.fillRect(rect, DazzleBrush(leading));
-    background.fillRect(rect, Scrim(text, rect));
-    if (pictureFillEnabled == 1 && pictureBrush.style() == Qt::TexturePattern) {
-        picturePen.setBrush(pictureBrush);
-        picturePen.setWidth(pictureBorder);
-        picturePen.setJoinStyle(Qt::MiterJoin);
-        background.setPen(picturePen);
-        background.drawRect(rect.adjusted(1, 1, -2, -2));
-    }
+    const int rim = neonBgEnabled == 1 ? qMax(2, qMin(picture.width, picture.height) / 8) : 0;
+    const Box within = {rim, rim, picture.width - rim, picture.height - rim};
+    // Text is read against the middle of the picture, so the colors step back there: behind light
+    // text into the dark, behind dark text into the light.
+    const DazzlePainter::Frame frame = {leading, qGray(node->GetTextColor(0).rgb()) >= 96, within};
+    dazzle.SetShape(ShapeOf(gradientEnabled, gradientType));
+    if (dazzle.Paint(frame, picture) && pictureFillEnabled == 1 && !within.IsEmpty())
+        DrawPictureBorder(within, picture);
+}
+
+/** A frame cut from the fill picture, which is repeated from the left upper corner of the area. */
+void animationRealization::DrawPictureBorder(const Box& within, const Picture& picture)
+{
+    if (pictureBrush.style() != Qt::TexturePattern)
+        return;
+    picturePen.setBrush(pictureBrush);
+    picturePen.setWidth(pictureBorder);
+    QImage tile = pictureBrush.textureImage().convertToFormat(QImage::Format_ARGB32);
+    if (!tile.isNull())
+        BlendBorder(PictureOf(tile), within, picturePen.width(), picture);
 }
 
 } // namespace HNodeAnimationText
