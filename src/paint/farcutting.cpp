@@ -500,7 +500,7 @@ bool Bounds::AreFar() const
            r.Bottom() > farLimit || r.height > farLimit;
 }
 
-Outline CutToPicture(const Outline& closed, const Box& picture)
+Outline CutToPicture(const Outline& closed, const Box& picture, bool isPart)
 {
     const Rectangle to = Between(float(picture.left), float(picture.top), float(picture.right),
                                  float(picture.bottom));
@@ -510,7 +510,7 @@ Outline CutToPicture(const Outline& closed, const Box& picture)
         return Outline();
     if (Contains(to, bounds))
         return path;
-    if (!IsRectangle(path))
+    if (isPart || !IsRectangle(path))
         return CutTo(path, to);
     // Of two rectangles the device cuts the picture's to the other's bounds.
     return Contains(bounds, to) ? PathAround(to) : CutTo(PathAround(to), bounds);

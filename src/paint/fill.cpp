@@ -373,13 +373,13 @@ void Fill::MapClosed(const Transform& transform)
         transform.map(closed, &mapped[0]);
 }
 
-void Fill::CutClosed()
+void Fill::CutClosed(bool isPart)
 {
     for (size_t i = 0; i < mapped.size(); ++i) {
         closed.At(i).x = mapped[i].x;
         closed.At(i).y = mapped[i].y;
     }
-    const Outline cut = CutToPicture(closed, picture);
+    const Outline cut = CutToPicture(closed, picture, isPart);
     closed.Clear();
     if (!cut.IsEmpty())
         Close(cut);
@@ -421,7 +421,20 @@ void Fill::Paint(const Outline& outline, const Transform& transform, const Box& 
     Close(outline);
     MapClosed(transform);
     if (!mapped.empty() && Bounds(&mapped[0], mapped.size()).AreFar())
-        CutClosed();
+        CutClosed(false);
+    PaintClosed(clip, ink);
+}
+
+void Fill::PaintPartOfFar(const Outline& outline, Plane& ink)
+{
+    Close(outline);
+    MapClosed(Transform());
+    CutClosed(true);
+    PaintClosed(picture, ink);
+}
+
+void Fill::PaintClosed(const Box& clip, Plane& ink)
+{
     places.resize(mapped.size());
     for (size_t i = 0; i < places.size(); ++i) {
         const Place place = {ToInt(mapped[i].x * 64), ToInt(mapped[i].y * 64)};

@@ -25,6 +25,8 @@ public:
      * well formed; it is closed, then mapped through @p transform.
      */
     void Paint(const Outline& outline, const Transform& transform, const Box& clip, Plane& ink);
+    /** A closed glyph of a path that is far out, inside which the outline itself may be. */
+    void PaintPartOfFar(const Outline& outline, Plane& ink);
 
     /**
      * Takes an outline to those that fill each other by the odd-even rule. It is well formed, each
@@ -55,7 +57,8 @@ private:
 
     void Close(const Outline& outline);
     void MapClosed(const Transform& transform);
-    void CutClosed();
+    void CutClosed(bool isPart);
+    void PaintClosed(const Box& clip, Plane& ink);
     bool HasGaps() const;
     template <typename Sink>
     void AddEdges(const Outline& outline, Sink& sink) const;

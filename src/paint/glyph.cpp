@@ -2,6 +2,7 @@
 
 #include "paint/curves.h"
 
+#include <cmath>
 #include <stdint.h>
 #include <utility>
 
@@ -22,6 +23,18 @@ bool AreSubpathsClosed(const Outline& outline, size_t size)
         if (i == 1 || first.x != last.x || first.y != last.y)
             return false;
         start = i;
+    }
+    return true;
+}
+
+bool ArePointsSpaced(const Outline& outline)
+{
+    const float apart = 1.f / 64; // of floats up to 32768 neighbors are 1/256 apart
+    for (size_t i = 1; i < outline.Size(); ++i) {
+        const float dx = std::fabs(outline.At(i).x - outline.At(i - 1).x);
+        const float dy = std::fabs(outline.At(i).y - outline.At(i - 1).y);
+        if (dx < apart && dy < apart && (dx > 0 || dy > 0))
+            return false;
     }
     return true;
 }
@@ -141,6 +154,7 @@ Point Fineness::ExactWithin() const
 
 Glyph::Glyph()
     : isClosed(true)
+    , isSpaced(true)
     , isMeasured(false)
     , exactWithin()
 {
@@ -149,6 +163,7 @@ Glyph::Glyph()
 Glyph::Glyph(Outline outline)
     : shape(std::move(outline))
     , isClosed(shape.IsWellFormed() && shape.IsFinite())
+    , isSpaced(ArePointsSpaced(shape))
     , isMeasured(false)
     , exactWithin()
 {

@@ -23,6 +23,11 @@ public:
      */
     bool IsClosed() const { return isClosed; }
     /**
+     * Whether no two neighboring points are so close that the device takes them for one, or might
+     * where floats are coarse. Equal points do not count.
+     */
+    bool IsSpaced() const { return isSpaced; }
+    /**
      * Whole pixels away from its origin the glyph is the same, pixel by pixel, as long as no
      * coordinate is less than 0 or more than these: all that its curves are halved to is computed
      * without rounding. 0 where that is nowhere.
@@ -33,6 +38,7 @@ private:
     Outline shape;
     Bounds box;
     bool isClosed;
+    bool isSpaced;
     mutable bool isMeasured;
     mutable Point exactWithin;
 };

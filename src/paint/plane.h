@@ -50,6 +50,8 @@ public:
     void SetRun(int y, int begin, int end);
     /** All that @p other has, too. Both have the same size. */
     void Unite(const Plane& other);
+    /** What @p other has is inverted. */
+    void Invert(const Plane& other);
 
     /** Whoever sets bits says in which rows: @p top up to but without @p bottom. */
     void MarkRows(int top, int bottom);

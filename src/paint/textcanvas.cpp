@@ -27,8 +27,8 @@ Point ReachThrough(const Transform& t, const Point& reach)
     return mapped;
 }
 
-/** Whether the glyph, painted by itself, looks as it does in a path with others. */
-bool IsIndependent(const TextPath::Item& item, const Transform& painterTransform)
+/** Whether a path of such glyphs is not cut, however many there are. */
+bool IsNear(const TextPath::Item& item, const Transform& painterTransform)
 {
     const Bounds& box = item.glyph->Box();
     const Point own = {std::max(std::fabs(box.left), std::fabs(box.right)),
@@ -37,7 +37,55 @@ bool IsIndependent(const TextPath::Item& item, const Transform& painterTransform
     reach.x += std::fabs(item.x);
     reach.y += std::fabs(item.y);
     reach = ReachThrough(painterTransform, reach);
-    return item.glyph->IsClosed() && reach.x <= nearEnough && reach.y <= nearEnough;
+    return reach.x <= nearEnough && reach.y <= nearEnough;
+}
+
+/** Whether the glyph, painted by itself, looks as it does in a path with others. */
+bool IsIndependent(const TextPath::Item& item)
+{
+    return item.glyph->IsClosed() && IsNear(item, Transform());
+}
+
+Bounds PlacedBox(const TextPath::Item& item)
+{
+    Bounds box = item.glyph->Box();
+    box.left += item.x;
+    box.right += item.x;
+    box.top += item.y;
+    box.bottom += item.y;
+    return box;
+}
+
+enum Cutting { NotCut, CutBySubpaths, Unknown };
+
+/** How the device cuts the path; unknown where its glyphs are not painted one by one. */
+Cutting CuttingOf(const TextPath& text, const Transform& painterTransform)
+{
+    bool isNear = true;
+    bool isMapped = !painterTransform.IsIdentity();
+    for (size_t i = 0; i < text.Size(); ++i) {
+        const TextPath::Item& item = text.At(i);
+        if (!item.glyph->IsClosed())
+            return Unknown;
+        isNear = isNear && IsNear(item, painterTransform);
+        isMapped = isMapped || !item.shape.IsIdentity();
+    }
+    if (isNear)
+        return NotCut;
+    if (isMapped)
+        return Unknown;
+    // Where sums are rounded the largest coordinate still is the largest, so these are exact.
+    Bounds all = PlacedBox(text.At(0));
+    for (size_t i = 1; i < text.Size(); ++i) {
+        const Bounds box = PlacedBox(text.At(i));
+        all.left = std::min(all.left, box.left);
+        all.top = std::min(all.top, box.top);
+        all.right = std::max(all.right, box.right);
+        all.bottom = std::max(all.bottom, box.bottom);
+    }
+    if (!all.AreFar())
+        return NotCut;
+    return text.Size() > 1 ? CutBySubpaths : Unknown; // a single rectangle is cut another way
 }
 
 } // namespace
@@ -114,8 +162,12 @@ void TextCanvas::DrawText(const TextPath& text, const Transform& painterTransfor
 {
     if (picture.IsEmpty() || text.Size() == 0)
         return;
-    if (!isFirst || isTranslucent || !(clip == picture) || !DrawOneByOne(text, painterTransform))
+    const Cutting cutting =
+        isFirst && !isTranslucent && clip == picture ? CuttingOf(text, painterTransform) : Unknown;
+    if (cutting == Unknown)
         DrawPath(text.Path(), painterTransform);
+    else
+        DrawOneByOne(text, painterTransform, cutting == CutBySubpaths);
     isFirst = false;
 }
 
@@ -125,8 +177,7 @@ void TextCanvas::DrawGlyph(const TextPath::Item& item)
     if (outline.IsEmpty())
         return;
     const bool isWinding = outline.fillRule == Outline::Winding;
-    if (!picture.IsEmpty() && !isTranslucent && clip == picture &&
-        IsIndependent(item, Transform())) {
+    if (!picture.IsEmpty() && !isTranslucent && clip == picture && IsIndependent(item)) {
         const GlyphCache::Finding found = FindOrKeep(item, isWinding, Rightward);
         if (found.image) {
             GlyphCache::Unite(*found.image, GlyphCache::Inside, found.x, found.y, ink);
@@ -164,20 +215,16 @@ void TextCanvas::DrawPlain(const Outline& path, const Transform& transform)
     hairline.Draw(path, &points[0], Bounds(&points[0], points.size()));
 }
 
-/**
- * Paints the frame's first path, glyph by glyph: their insides invert each other. False and no ink
- * where it has to be painted as a whole.
- */
-bool TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTransform)
+/** Paints the frame's first path, glyph by glyph: their insides invert each other. */
+void TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTransform, bool isFar)
 {
     const bool isMapped = !painterTransform.IsIdentity();
     Direction direction = Rightward;
     for (size_t i = 0; i < text.Size(); ++i) {
         const TextPath::Item& item = text.At(i);
-        if (!IsIndependent(item, painterTransform)) {
-            fill.InvertInside(inside);
-            Clear();
-            return false;
+        if (isFar && !IsInside(item)) {
+            PaintCut(item, direction);
+            continue;
         }
         GlyphCache::Finding found = {0, false, 0, 0, direction};
         if (!isMapped)
@@ -201,7 +248,32 @@ bool TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTran
         PaintHairline(outline, box, ink, direction);
     }
     fill.InvertInside(inside);
-    return true;
+}
+
+/** Whether a path of which the glyph is one is cut without any change to it. */
+bool TextCanvas::IsInside(const TextPath::Item& item) const
+{
+    const Bounds box = PlacedBox(item);
+    return item.glyph->IsSpaced() && box.left >= 0 && box.right <= float(picture.right) &&
+           box.top >= 0 && box.bottom <= float(picture.bottom);
+}
+
+/** A glyph that crosses the border, of a path that is far out. */
+void TextCanvas::PaintCut(const TextPath::Item& item, Direction& direction)
+{
+    const Outline outline = item.glyph->Shape().Translated(item.x, item.y);
+    points.resize(outline.Size());
+    Transform().map(outline, &points[0]);
+    const Bounds box(&points[0], points.size());
+    if (IsOutside(box))
+        return;
+    if (!isHollow) {
+        fill.InvertInside(inside); // what was taken before
+        fill.PaintPartOfFar(outline, keptInside);
+        inside.Invert(keptInside);
+        keptInside.Clear();
+    }
+    PaintHairline(outline, box, ink, direction);
 }
 
 /** Whether a closed outline within @p box leaves no trace, not even a direction. */

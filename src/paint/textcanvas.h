@@ -76,7 +76,9 @@ public:
 
 private:
     void DrawPlain(const Outline& path, const Transform& transform);
-    bool DrawOneByOne(const TextPath& text, const Transform& painterTransform);
+    void DrawOneByOne(const TextPath& text, const Transform& painterTransform, bool isFar);
+    bool IsInside(const TextPath::Item& item) const;
+    void PaintCut(const TextPath::Item& item, Direction& direction);
     GlyphCache::Finding FindOrKeep(const TextPath::Item& item, bool isWinding, Direction direction);
     const GlyphCache::Image& PaintToKeep(const TextPath::Item& item, bool isWinding,
                                          Direction& direction);

@@ -126,6 +126,7 @@ private slots:
     void transformsAreTheDevices();
     void glyphsArePaintedAsTheirPath();
     void aMoveAloneJoinsTheGlyphBefore();
+    void glyphsOfTallPagesArePaintedAsTheirPath();
     void glyphsAreKeptWhereTheyAreTheSame();
     void exactPlacesRoundNothing();
     void whatIsKeptIsBounded();
@@ -293,6 +294,30 @@ void TestPaint::aMoveAloneJoinsTheGlyphBefore()
     page.Add(pages.glyphs[1], 1, Transform(), -2, -2);
     const QString difference = pages.Compare(page, nullptr);
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
+// A path that reaches further than the device's fill computes with is cut, subpath by subpath: what
+// is inside the picture, what crosses its edges and what is beyond them.
+void TestPaint::glyphsOfTallPagesArePaintedAsTheirPath()
+{
+    const QVector<Sample> samples = Samples();
+    Pages pages(64, 33000);
+    for (int i = 0; i < samples.size(); i += 40) {
+        pages.glyphs.clear();
+        pages.canvas.ForgetGlyphs();
+        for (int k = i; k < qMin(i + 40, samples.size()); ++k)
+            if (Glyph(samples[k].outline).IsClosed()) // with another the page is painted as a whole
+                pages.glyphs.emplace_back(samples[k].outline);
+        for (int frame = 0; frame < 4; ++frame) {
+            TextPath page;
+            for (size_t k = 0; k < pages.glyphs.size(); ++k)
+                page.Add(pages.glyphs[k], int(k), Transform(), float(k % 3) * 25 - 20,
+                         float(i % 3 == 0 ? 16380 : 33010) / 40 * float(k) + float(i % 2) * 0.25f);
+            const QString difference =
+                pages.Compare(page, &page.At(size_t(frame) % page.Size()), Transform());
+            QVERIFY2(difference.isEmpty(), qPrintable(samples[i].name + difference));
+        }
+    }
 }
 
 // Across powers of two and borders, both ways; with curves that were quadratic ones, so that thirds
