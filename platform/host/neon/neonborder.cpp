@@ -1,131 +1,97 @@
 #include "neonborder.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Lw {
 
 namespace {
 
-const double Pi = 3.14159265358979323846;
-
 // A band this thick or thinner is seen as a line; its glow must not fall outside it.
 const int ThinnestGlow = 4;
 
-int BandThickness(QSize area)
+/** What a pixel shows that is so bright: full is 256, beyond it a color turns white. */
+QRgb Lit(QRgb color, int light)
 {
-    const int shorter = qMin(area.width(), area.height());
-    return qMin(qBound(2, shorter / 10, 20), shorter);
-}
-
-int ToByte(double light)
-{
-    return int(std::floor(qBound(0.0, light, 1.0) * 255 + 0.5));
-}
-
-/** Light beyond what a channel can show spills into the others, as in a tube too bright to look at.
- */
-NeonLight Exposed(const NeonLight& light)
-{
-    const double spill = 0.5 * (std::max(0.0, light.red - 1) + std::max(0.0, light.green - 1) +
-                                std::max(0.0, light.blue - 1));
-    const NeonLight exposed = {std::min(1.0, light.red + spill), std::min(1.0, light.green + spill),
-                               std::min(1.0, light.blue + spill)};
-    return exposed;
-}
-
-/** The pixel that over black is exactly this light. */
-QRgb ToPixel(const NeonLight& light)
-{
-    const double alpha = std::max(light.red, std::max(light.green, light.blue));
-    if (ToByte(alpha) == 0)
-        return 0;
-    return qRgba(ToByte(light.red / alpha), ToByte(light.green / alpha), ToByte(light.blue / alpha),
-                 ToByte(alpha));
+    if (light <= 256)
+        return (color & 0xFFFFFF) | QRgb(qMin(light, 255)) << 24;
+    const int white = qMin(light - 256, 256);
+    const auto channel = [&](int value) { return value + (255 - value) * white / 256; };
+    return qRgb(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)));
 }
 
 } // namespace
 
 NeonBorder::NeonBorder(QSize area, int style)
-    : area(area)
-    , style(style)
-    , thickness(BandThickness(area))
+    : look(NeonLookOf(style))
 {
+    const int shorter = qMin(area.width(), area.height());
+    const int thickness = qMin(qBound(2, shorter / 10, 20), shorter);
+    unit = qMax(thickness, ThinnestGlow);
+
+    // The middle of the band is a rectangle with round corners; without their radius all around a
+    // smaller rectangle is left. Pixels are seen from the nearest place on that one.
     const double width = area.width() - thickness;
     const double height = area.height() - thickness;
-    radius = std::min(2.0 * thickness, std::min(width, height) / 2);
-    straightWidth = width - 2 * radius;
-    straightHeight = height - 2 * radius;
-
-    const double arc = Pi / 2 * radius;
-    // A loop has some length even where the area is a single pixel.
-    length = std::max(1.0, 2 * (straightWidth + straightHeight) + 4 * arc);
-}
-
-void NeonBorder::Paint(QImage& image, qint64 tick) const
-{
-    const int width = area.width();
-    const bool hasAlpha = image.format() == QImage::Format_ARGB32;
+    const double radius = qMin(2.0 * thickness, qMin(width, height) / 2);
+    const double flatX = width - 2 * radius;
+    const double flatY = height - 2 * radius;
+    const double arc = 1.5707963267948966 * radius;
+    const double around = 2 * (flatX + flatY) + 4 * arc;
+    length = qMax(1, qRound(around)); // some even where the area is a single pixel
+    const int reach = thickness + int(std::ceil(radius));
     for (int y = 0; y < area.height(); ++y) {
-        uchar* const row = image.scanLine(y);
-        const int gapStart = GapStart(y);
-        for (int x = 0; x < width; ++x) {
-            if (x == gapStart)
-                x = qMax(x, width - gapStart);
-            const NeonSpot spot = SpotAt(x, y);
-            if (std::fabs(spot.across) > 1)
+        const bool isMiddle = qMin(y, area.height() - 1 - y) >= reach;
+        for (int x = 0; x < area.width(); ++x) {
+            if (isMiddle && x == reach)
+                x = qMax(x, area.width() - reach);
+            const double px = x + 0.5 - thickness / 2.0 - radius;
+            const double py = y + 0.5 - thickness / 2.0 - radius;
+            const double nearX = qBound(0.0, px, flatX);
+            const double nearY = qBound(0.0, py, flatY);
+            const double dx = px - nearX;
+            const double dy = py - nearY;
+            const double across = (radius - std::sqrt(dx * dx + dy * dy)) / unit * 2;
+            if (std::fabs(across) > 1)
                 continue;
-            const NeonLight light = Exposed(NeonLightAt(style, length, thickness, spot, tick));
-            if (hasAlpha) {
-                reinterpret_cast<QRgb*>(row)[x] = ToPixel(light);
-            } else {
-                row[3 * x] = uchar(ToByte(light.red));
-                row[3 * x + 1] = uchar(ToByte(light.green));
-                row[3 * x + 2] = uchar(ToByte(light.blue));
-            }
+            // Each edge is counted with the corner before it.
+            double along = dx < 0 ? around - arc + radius * std::atan2(-dy, -dx) : nearX;
+            if (dx > 0 && dy <= 0)
+                along = flatX + radius * std::atan2(dx, -dy) + nearY;
+            else if (dy > 0 && dx >= 0)
+                along = 2 * flatX + flatY + arc + radius * std::atan2(dy, dx) - nearX;
+            else if (dx < 0 && dy >= 0)
+                along = around - arc - nearY + radius * std::atan2(-dx, dy) - arc;
+            along += look.slant * unit / 2 * across + around;
+            // A tube has a core that is too bright and a soft rim.
+            const double rim = 1 - across * across;
+            const double core = qMax(0.0, 1 - 9 * across * across);
+            const double glow =
+                look.isFlat ? rim * (1 + across * across) : rim * rim * rim + 0.5 * core * core;
+            const Spot spot = {x, y, int(along) % length, int(glow * 256)};
+            spots.push_back(spot);
         }
     }
 }
 
-/** How far from its ends a row can have light; the same from either end. */
-int NeonBorder::GapStart(int y) const
+void NeonBorder::Paint(QImage& image, qint64 tick) const
 {
-    const int edge = qMin(y, area.height() - 1 - y);
-    if (edge < thickness)
-        return area.width();
-    // The curve of a corner reaches further in than the band along the edges.
-    const int reach = thickness + int(std::ceil(radius));
-    return edge < reach ? reach : thickness;
-}
-
-/** Seen from the nearest place on the middle of the band, a rectangle with round corners. */
-NeonSpot NeonBorder::SpotAt(int x, int y) const
-{
-    // The rectangle that is left when the corners' radius is taken off all around.
-    const double inset = thickness / 2.0 + radius;
-    const double px = x + 0.5 - inset;
-    const double py = y + 0.5 - inset;
-    const double nearX = qBound(0.0, px, straightWidth);
-    const double nearY = qBound(0.0, py, straightHeight);
-    const double dx = px - nearX;
-    const double dy = py - nearY;
-
-    // Each edge is counted with the corner before it: there the angle is 0 .. a quarter turn, on
-    // the edge itself it is a quarter turn.
-    const double arc = Pi / 2 * radius;
-    NeonSpot spot;
-    if (dx > 0 && dy <= 0)
-        spot.along = straightWidth + radius * std::atan2(dx, -dy) + nearY;
-    else if (dy > 0 && dx >= 0)
-        spot.along = straightWidth + arc + straightHeight + radius * std::atan2(dy, dx) +
-                     straightWidth - nearX;
-    else if (dx < 0 && dy >= 0)
-        spot.along = 2 * straightWidth + 2 * arc + straightHeight + radius * std::atan2(-dx, dy) +
-                     straightHeight - nearY;
-    else
-        spot.along = dx < 0 ? length - arc + radius * std::atan2(-dy, -dx) : nearX;
-    spot.across = (radius - std::sqrt(dx * dx + dy * dy)) / std::max(thickness, ThinnestGlow) * 2;
-    return spot;
+    std::vector<NeonLight> loop;
+    for (int i = 0; i < length; ++i)
+        loop.push_back(look.light(i / unit, length / unit, double(tick)));
+    const bool hasAlpha = image.format() == QImage::Format_ARGB32;
+    uchar* const bits = image.bits();
+    for (const Spot& spot : spots) {
+        const NeonLight& light = loop[size_t(spot.along)];
+        const QRgb lit = Lit(light.color, int(light.brightness * spot.glow));
+        uchar* const row = bits + spot.y * image.bytesPerLine();
+        if (hasAlpha) {
+            reinterpret_cast<QRgb*>(row)[spot.x] = lit;
+            continue;
+        }
+        row[3 * spot.x] = uchar(qRed(lit) * qAlpha(lit) / 255);
+        row[3 * spot.x + 1] = uchar(qGreen(lit) * qAlpha(lit) / 255);
+        row[3 * spot.x + 2] = uchar(qBlue(lit) * qAlpha(lit) / 255);
+    }
 }
 
 } // namespace Lw

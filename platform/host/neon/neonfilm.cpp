@@ -22,17 +22,14 @@ const int MostPicturesAtOnce = 16;
 NeonFilm::NeonFilm(const QString& path, QSize area)
     : path(path)
     , area(area)
-    , shownUntil(0)
-    , picturesRead(0)
-    , isPainted(false)
 {
     // Anything but a regular file could keep the reader waiting for ever.
-    if (!QFileInfo(path).isFile()) {
+    if (QFileInfo(path).isFile()) {
+        reader.reset(new QImageReader(path));
+        Advance();
+    } else {
         GiveUp("no such file");
-        return;
     }
-    Open();
-    Advance();
 }
 
 bool NeonFilm::Paint(QImage& image, qint64 milliseconds)
@@ -54,48 +51,29 @@ bool NeonFilm::Paint(QImage& image, qint64 milliseconds)
     return true;
 }
 
-void NeonFilm::Open()
-{
-    reader.reset(new QImageReader(path));
-    picturesRead = 0;
-}
-
-NeonFilm::Reading NeonFilm::ReadPicture()
-{
-    if (!reader->canRead())
-        return AtEnd;
-    const QSize size = reader->size();
-    if (size.isEmpty())
-        return AtEnd;
-    if (qint64(size.width()) * size.height() > MostPixels) {
-        GiveUp("more than 64 megapixels");
-        return Failed;
-    }
-    const QImage next = reader->read();
-    if (next.isNull())
-        return AtEnd;
-
-    const int delay = reader->nextImageDelay();
-    picture = next;
-    shownUntil += delay < ShortestDelay ? UsualDelay : delay;
-    ++picturesRead;
-    isPainted = false;
-    return Read;
-}
-
 /** Goes on to the next picture, or to the first one again after the last. */
 void NeonFilm::Advance()
 {
-    if (ReadPicture() != AtEnd)
-        return;
-    if (picturesRead == 0) {
-        GiveUp("not a picture that can be read");
-    } else if (picturesRead == 1) {
-        reader.reset(); // it stands still
-    } else {
-        Open();
-        if (ReadPicture() == AtEnd)
-            GiveUp("it cannot be read again");
+    for (bool isAgain = false;; isAgain = true) {
+        const QSize size = reader->canRead() ? reader->size() : QSize();
+        if (qint64(size.width()) * size.height() > MostPixels)
+            return GiveUp("more than 64 megapixels");
+        const QImage next = size.isEmpty() ? QImage() : reader->read();
+        if (!next.isNull()) {
+            const int delay = reader->nextImageDelay();
+            picture = next;
+            shownUntil += delay < ShortestDelay ? UsualDelay : delay;
+            ++picturesRead;
+            isPainted = false;
+            return;
+        }
+        if (picturesRead == 0)
+            return GiveUp(isAgain ? "it cannot be read again" : "not a picture that can be read");
+        // A single picture stands still.
+        reader.reset(picturesRead > 1 ? new QImageReader(path) : 0);
+        picturesRead = 0;
+        if (!reader)
+            return;
     }
 }
 

@@ -1,14 +1,9 @@
-/**
- * @file
- * The pictures of an animation file, each for its own time, over and over.
- */
+/** @file The pictures of an animation file, each for its own time, over and over. */
 #ifndef LW_NEONFILM_H
 #define LW_NEONFILM_H
 
 #include <QImage>
 #include <QImageReader>
-#include <QSize>
-#include <QString>
 
 #include <memory>
 
@@ -33,10 +28,6 @@ public:
     bool Paint(QImage& image, qint64 milliseconds);
 
 private:
-    enum Reading { Read, AtEnd, Failed };
-
-    void Open();
-    Reading ReadPicture();
     void Advance();
     void GiveUp(const char* reason);
 
@@ -44,9 +35,9 @@ private:
     QSize area;
     std::unique_ptr<QImageReader> reader; ///< null when no further picture is wanted
     QImage picture;                       ///< the one that is shown; null for none
-    qint64 shownUntil;                    ///< milliseconds
-    int picturesRead;                     ///< since the file was opened
-    bool isPainted;                       ///< the picture is in the image already
+    qint64 shownUntil = 0;                ///< milliseconds
+    int picturesRead = 0;                 ///< since the file was opened
+    bool isPainted = false;               ///< the picture is in the image already
 };
 
 } // namespace Lw
