@@ -32,10 +32,10 @@ QString TestCompare::Compare(const QStringList& words, int* status) const
 void TestCompare::initTestCase()
 {
     QVERIFY(QDir(folder.path()).mkdir("scenes"));
-    QCOMPARE(
-        QProcess::execute(ANIMTEXT_PROGRAM, {"author", "--text", "ab", "--effect", "7", "--area",
-                                             "64x32", "-o", folder.filePath("scenes/Grün 1.json")}),
-        0);
+    QCOMPARE(QProcess::execute(ANIMTEXT_PROGRAM,
+                               {"author", "--text", "ab", "--dazzle", "--effect", "7", "--area",
+                                "64x32", "-o", folder.filePath("scenes/Grün 1.json")}),
+             0);
     int status = -1;
     const QString output = Compare({"--record", "--ticks", "5"}, &status);
     QVERIFY2(status == 0, qPrintable(output));
@@ -58,8 +58,14 @@ void TestCompare::changesAreFound_data()
                                << " 6 +5  Grün 1, tick 3\n.*Pictures differ: Grün 1\n";
     QTest::newRow("not compared") << "( 3 1 64 32 )\\w+"
                                   << "\\1-" << 0 << " 5 +5\n";
-    QTest::newRow("a state") << "1\n"
-                             << "0\n"
+    QTest::newRow("a background") << "( 3 .* 1 )\\w+"
+                                  << "\\10123456789abcdef" << 1
+                                  << "Backgrounds: equal in 0 of 1.*Backgrounds differ: Grün 1\n";
+    QTest::newRow("unknown backgrounds") << " \\w{16}\n"
+                                         << "\n"
+                                         << 0 << " 6 +6\n";
+    QTest::newRow("a state") << "1 (\\w+)\n"
+                             << "0 \\1\n"
                              << 1 << " 6 +6\n.*states differ: Grün 1\n";
     QTest::newRow("a size") << " 64 "
                             << " 65 " << 1 << "sizes or states differ: Grün 1\n";

@@ -39,6 +39,9 @@ QByteArray Trace::Line(int node)
         shown[node] = {picture.size(), Sha1Of(picture)};
     }
     const QSize size = shown.at(node).size;
+    const QImage dazzle = player->DazzlePicture(node);
+    const QByteArray background =
+        dazzle.isNull() ? QByteArray() : ",\"background\":\"" + Sha1Of(dazzle) + '"';
     return "{\"tick\":" + QByteArray::number(player->Tick()) +
            ",\"ms\":" + QByteArray::number(player->Time()) +
            ",\"node\":" + QByteArray::number(node) +
@@ -46,7 +49,7 @@ QByteArray Trace::Line(int node)
            ",\"layer\":" + QByteArray::number(layer < 0 ? 0 : layer) +
            ",\"w\":" + QByteArray::number(size.width()) +
            ",\"h\":" + QByteArray::number(size.height()) + ",\"sha1\":\"" + shown.at(node).sha1 +
-           "\",\"state\":" + QByteArray::number(player->State(node)) + "}\n";
+           "\",\"state\":" + QByteArray::number(player->State(node)) + background + "}\n";
 }
 
 QByteArray Trace::TickLines()
@@ -89,7 +92,8 @@ Command TraceCommand()
             "Plays a scene on virtual time and prints a line of JSON for each tick of 66 ms and "
             "each node, tick 0 being the start: whether a new picture of the text was handed to "
             "the display, the layer that shows it, its size, the SHA-1 of its rows and the "
-            "renderer's state (0 finished, 1 playing, 2 nothing to play).",
+            "renderer's state (0 finished, 1 playing, 2 nothing to play); where there is a dazzle "
+            "background, its SHA-1, too.",
             WithShowOptions(
                 {Option::Number("ticks", 0, 1000000000, "The last tick.").Letter('n').Or("100"),
                  Option::Flag("calls",

@@ -94,6 +94,12 @@ void Player::CountSwaps()
     }
 }
 
+QImage Player::DazzlePicture(int node) const
+{
+    const int layer = stage.DazzleLayer(node);
+    return layer < 0 ? QImage() : Torv::FrontImage(stage.Session(node), layer);
+}
+
 QImage Player::TextPicture(int node) const
 {
     const int layer = stage.TextLayer(node);

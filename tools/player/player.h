@@ -54,6 +54,8 @@ public:
     bool Swapped(int node) const { return swapped.at(node); }
     /** A copy of the picture that the node's text layer shows; null without one. */
     QImage TextPicture(int node) const;
+    /** A copy of the node's dazzle background; null without one. */
+    QImage DazzlePicture(int node) const;
     /** What the display shows. */
     QImage Picture() const { return stage.Compose(Time()); }
 

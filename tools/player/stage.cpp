@@ -74,7 +74,7 @@ void Stage::StartNode(int node, uint seed)
         if (!before.contains(session))
             part.session = session;
     }
-    part.textLayer = part.session ? FindTextLayer(node, calls.mid(firstCall)) : -1;
+    FindLayers(node, calls.mid(firstCall));
     if (!keepCalls)
         calls.clear();
 }
@@ -87,19 +87,27 @@ bool Stage::ScrollsSideways(int node) const
 }
 
 /**
- * The text has layer 0. Where it stands still and a neon picture lies behind it, neon takes layer 0
- * and the text the one that was appended first; if that failed, the text is shown nowhere.
+ * The text has layer 0. Where it stands still and a neon picture is behind it, neon takes layer 0
+ * and the text the one that is appended first; if that failed, the text is shown nowhere. The
+ * dazzle background has the layer that is appended last.
  */
-int Stage::FindTextLayer(int node, const QVector<Torv::CallRecord>& startCalls) const
+void Stage::FindLayers(int node, const QVector<Torv::CallRecord>& startCalls)
 {
-    const bool neon = Node(node)->GetAttributeToInt(QStringLiteral("CheckNeonBg")) == 1;
-    if (!neon || ScrollsSideways(node))
-        return 0;
-    for (const Torv::CallRecord& call : startCalls) {
+    const auto isOn = [&](const char* key) {
+        return Node(node)->GetAttributeToInt(QLatin1String(key)) == 1;
+    };
+    QVector<int> appended;
+    for (const Torv::CallRecord& call : startCalls)
         if (call.operation == Torv::OpPicAppendImageLayer)
-            return int(call.result);
-    }
-    return -1;
+            appended.append(int(call.result));
+    const bool neon = isOn("CheckNeonBg");
+    Part& part = parts.at(size_t(node));
+    part.textLayer = part.dazzleLayer = -1;
+    if (!part.session)
+        return;
+    part.textLayer = neon && !ScrollsSideways(node) ? appended.value(0, -1) : 0;
+    if (isOn("CheckDazzle"))
+        part.dazzleLayer = appended.value(neon ? 1 : 0, -1);
 }
 
 void Stage::Stop()

@@ -55,6 +55,8 @@ public:
     PicSession Session(int node) const { return parts.at(size_t(node)).session; }
     /** The layer of that session that shows the text; negative without one. */
     int TextLayer(int node) const { return parts.at(size_t(node)).textLayer; }
+    /** The layer that shows its dazzle background; negative without one. */
+    int DazzleLayer(int node) const { return parts.at(size_t(node)).dazzleLayer; }
 
     /** What the display shows at @p milliseconds of the display's clock. */
     QImage Compose(qint64 milliseconds) const { return display->Compose(milliseconds); }
@@ -74,10 +76,11 @@ private:
         std::unique_ptr<Lw::IContentRender> render;
         PicSession session = 0;
         int textLayer = -1;
+        int dazzleLayer = -1;
     };
 
     static void Log(void* stage, const Torv::CallRecord& call);
-    int FindTextLayer(int node, const QVector<Torv::CallRecord>& startCalls) const;
+    void FindLayers(int node, const QVector<Torv::CallRecord>& startCalls);
 
     Lw::INodePlugin* plugin;
     std::unique_ptr<Torv::Display> display;
