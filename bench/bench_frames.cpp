@@ -1,9 +1,14 @@
-// What a frame costs: every motion of the texts of the scenes named on the command line, held pages
-// and starts. Without the engine's own objects of this source tree it measures an older plugin:
-// script/bench builds it twice and prints both beside each other.
+// What a tick costs: every motion of the texts of the scenes named on the command line, one motion
+// before every background, held pages and starts. Without the engine's own objects of this source
+// tree it measures an older plugin: script/bench builds it twice and prints both beside each other.
 #include "scenenode.h"
 
 #include "engine/animationrealization.h"
+#include "player/virtualdispatcher.h"
+#include "render/hanimationtextrender.h"
+
+#include <display.h>
+#include <hpluginmanager.h>
 
 #include <benchmark/benchmark.h>
 
@@ -13,8 +18,10 @@
 #include <cstring>
 #include <ctime>
 
+using Lw::HPluginManager;
 using Lw::HNodeAnimationText::animationRealization;
 using Lw::HNodeAnimationText::HAnimationTextNode;
+using Lw::HNodeAnimationText::HAnimationTextRender;
 
 #ifdef BENCH_OTHER_PAINTERS
 void RegisterOtherPainters(const std::string& page, const QVector<QPainterPath>& glyphs,
@@ -27,11 +34,62 @@ const int entrance = 0;
 const int scroll = 1;
 const int heldPage = 4; // an effect whose last frame shows the page as the hold does
 const int fastest = 9;  // of the speeds: every tick draws
+const int waves = 5;
+
+// A scene's text, as whom it plays.
+struct Page
+{
+    QString scene;
+    bool alpha;        // in 32 bits a pixel, otherwise in 24
+    bool fullOutlines; // as other editors write them, not on a grid of 1/64 pixel
+};
+
+std::unique_ptr<HAnimationTextNode> NodeOf(const Page& page)
+{
+    HPluginManager::instance()->SetAlphaBlend(page.alpha);
+    std::unique_ptr<HAnimationTextNode> node = NodeOfScene(page.scene);
+    if (page.fullOutlines)
+        node->SetFiles("PathData", {FullOutlines(*node, page.scene + ".full")});
+    return node;
+}
+
+typedef std::vector<std::pair<const char*, int>> Attributes;
+
+// Whole ticks, of whatever has a timer: the text, its backgrounds and the device's swaps.
+struct Show
+{
+    Show(const Page& page, int mode, int motion, const Attributes& others)
+        : node(NodeOf(page))
+        , display(node->Size())
+    {
+        node->SetAttribute("EffectType", mode);
+        node->SetAttribute("AnimationEffect", motion);
+        node->SetAttribute("ContinueStyle", motion);
+        node->SetAttribute("AnimationSpeed", fastest);
+        node->SetAttribute("ContinueSpeed", fastest);
+        node->SetAttribute("PlayTimes", 1);
+        for (const auto& other : others)
+            node->SetAttribute(other.first, other.second);
+        node->SetHoldTime(0);
+        render.reset(new HAnimationTextRender(node.get()));
+        render->Start(display.Handle());
+    }
+
+    void Tick()
+    {
+        AnimText::VirtualDispatcher* const clock = AnimText::VirtualDispatcher::Current();
+        clock->AdvanceTo(clock->Now() + 66);
+    }
+
+    std::unique_ptr<HAnimationTextNode> node;
+    Torv::Display display;
+    std::unique_ptr<HAnimationTextRender> render;
+};
 
 struct Play
 {
-    Play(const QString& scene, int mode, int motion)
-        : node(NodeOfScene(scene))
+    Play(const Page& page, int mode, int motion)
+        : node(NodeOf(page))
     {
         node->SetAttribute("EffectType", mode);
         node->SetAttribute("AnimationEffect", motion);
@@ -50,23 +108,23 @@ struct Play
 const int leastFrames = 2000;   // so many are measured ...
 const int longestRun = 1 << 15; // ... in whole runs, unless one is longer than this
 
-int FramesOfRun(const QString& scene, int mode, int motion)
+int TicksOfRun(const Page& page, int mode, int motion)
 {
-    Play play(scene, mode, motion);
-    int frames = 0;
-    while (play.engine.GetDisplayTimes() == 0 && frames < longestRun) {
-        play.engine.PrepareImage();
-        ++frames;
+    Show show(page, mode, motion, {});
+    int ticks = 1;
+    while (show.render->renderState() == 1 && ticks < longestRun) {
+        show.Tick();
+        ++ticks;
     }
-    return frames;
+    return ticks;
 }
 
-// One frame of a motion, averaged over the whole motion.
-void Frame(benchmark::State& state, const QString& scene, int mode, int motion)
+// One tick of a motion, averaged over the whole motion.
+void Tick(benchmark::State& state, const Page& page, int mode, int motion, const Attributes& others)
 {
-    Play play(scene, mode, motion);
+    Show show(page, mode, motion, others);
     for (auto _ : state)
-        play.engine.PrepareImage();
+        show.Tick();
 }
 
 double Seconds()
@@ -76,10 +134,22 @@ double Seconds()
     return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
 }
 
-// The frame that a hold paints, after the last one of an entrance.
-void Hold(benchmark::State& state, const QString& scene)
+// The same of its first run, in which nothing is kept yet.
+void FirstRun(benchmark::State& state, const Page& page, int motion, int ticks)
 {
-    Play play(scene, entrance, heldPage);
+    for (auto _ : state) {
+        Show show(page, entrance, motion, {});
+        const double begin = Seconds();
+        for (int i = 1; i < ticks; ++i)
+            show.Tick();
+        state.SetIterationTime((Seconds() - begin) / (ticks - 1));
+    }
+}
+
+// The frame that a hold paints, after the last one of an entrance.
+void Hold(benchmark::State& state, const Page& page)
+{
+    Play play(page, entrance, heldPage);
     const int length = play.node->Text().size();
     for (auto _ : state) {
         for (int i = 0; i <= length; ++i)
@@ -90,9 +160,9 @@ void Hold(benchmark::State& state, const QString& scene)
     }
 }
 
-void Start(benchmark::State& state, const QString& scene)
+void Start(benchmark::State& state, const Page& page)
 {
-    Play play(scene, entrance, 0);
+    Play play(page, entrance, 0);
     for (auto _ : state) {
         play.engine.Init(play.node.get());
         play.engine.Start();
@@ -101,9 +171,9 @@ void Start(benchmark::State& state, const QString& scene)
 }
 
 // What no frame can do without: the picture's bytes written once.
-void Copy(benchmark::State& state, QSize size)
+void Copy(benchmark::State& state, QSize size, int bytesPerPixel)
 {
-    const size_t bytes = size_t(size.width()) * size_t(size.height()) * 4;
+    const size_t bytes = size_t(size.width() * size.height() * bytesPerPixel);
     std::vector<char> from(bytes, 1), to(bytes);
     for (auto _ : state) {
         std::memcpy(to.data(), from.data(), bytes);
@@ -112,34 +182,54 @@ void Copy(benchmark::State& state, QSize size)
     }
 }
 
-void RegisterScene(const QString& scene)
+void RegisterScene(const Page& page)
 {
-    const std::string page = QFileInfo(scene).completeBaseName().toStdString();
-    const auto add = [&page](const std::string& name, auto measure) {
-        return benchmark::RegisterBenchmark((page + "/" + name).c_str(), measure);
+    const std::string name =
+        QFileInfo(page.scene).completeBaseName().toStdString() + (page.fullOutlines ? " full"
+                                                                  : page.alpha      ? ""
+                                                                                    : " rgb");
+    const auto add = [&](const std::string& row, auto measure) {
+        return benchmark::RegisterBenchmark((name + "/" + row).c_str(), measure);
     };
-    const auto addMotion = [&](const std::string& name, int mode, int motion) {
-        const int run = FramesOfRun(scene, mode, motion);
-        add(name, [=](benchmark::State& state) {
-            Frame(state, scene, mode, motion);
+    const auto addMotion = [&](const std::string& row, int mode, int motion,
+                               const Attributes& others) {
+        const int run = TicksOfRun(page, mode, motion);
+        add(row, [=](benchmark::State& state) {
+            Tick(state, page, mode, motion, others);
         })->Iterations((leastFrames + run - 1) / run * run);
     };
+    if (page.fullOutlines) {
+        for (const int effect : {4, waves}) { // word by word; waves
+            const int run = TicksOfRun(page, entrance, effect);
+            add("effect " + std::to_string(effect), [=](benchmark::State& state) {
+                FirstRun(state, page, effect, run);
+            })->UseManualTime();
+        }
+        return;
+    }
     for (int effect = 0; effect < 30; ++effect)
-        addMotion("effect " + std::to_string(effect), entrance, effect);
-    addMotion("scroll up", scroll, 2);
-    addMotion("scroll down", scroll, 3);
-    add("hold", [=](benchmark::State& state) { Hold(state, scene); })->UseManualTime();
-    add("start", [=](benchmark::State& state) { Start(state, scene); });
+        addMotion("effect " + std::to_string(effect), entrance, effect, {});
+    addMotion("scroll up", scroll, 2, {});
+    addMotion("scroll down", scroll, 3, {});
+    addMotion("waves before plain", entrance, waves, {{"CheckDazzle", 1}});
+    const char* const gradients[] = {"linear", "radial", "conical"};
+    for (int i = 0; i < 3; ++i)
+        addMotion(std::string("waves before ") + gradients[i], entrance, waves,
+                  {{"CheckDazzle", 1}, {"CheckColorGradient", 1}, {"ColorGradient", i}});
+    addMotion("waves before neon", entrance, waves, {{"CheckNeonBg", 1}});
+    add("hold", [=](benchmark::State& state) { Hold(state, page); })->UseManualTime();
+    add("start", [=](benchmark::State& state) { Start(state, page); });
 
-    const auto node = NodeOfScene(scene);
+    const auto node = NodeOf(page);
     const QSize size = node->Size();
-    add("memcpy", [=](benchmark::State& state) { Copy(state, size); });
+    add("memcpy", [=](benchmark::State& state) { Copy(state, size, page.alpha ? 4 : 3); });
 #ifdef BENCH_OTHER_PAINTERS
     const QVector<QPainterPath> glyphs = node->GetPainterPaths();
     QVector<QPointF> places;
     for (int i = 0; i < glyphs.size(); ++i)
         places.append(QPointF(node->GetTextCountWith(i), size.height() * 3 / 4));
-    RegisterOtherPainters(page, glyphs, places, size);
+    if (page.alpha)
+        RegisterOtherPainters(name, glyphs, places, size);
 #endif
 }
 
@@ -148,6 +238,7 @@ void RegisterScene(const QString& scene)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setEventDispatcher(new AnimText::VirtualDispatcher);
     QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (argc < 2) {
@@ -155,7 +246,10 @@ int main(int argc, char** argv)
         return 2;
     }
     for (int i = 1; i < argc; ++i)
-        RegisterScene(QFile::decodeName(argv[i]));
+        for (const Page& page : {Page{QFile::decodeName(argv[i]), true, false},
+                                 Page{QFile::decodeName(argv[i]), false, false},
+                                 Page{QFile::decodeName(argv[i]), true, true}})
+            RegisterScene(page);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

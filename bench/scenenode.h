@@ -8,11 +8,14 @@
 
 #include "node/hanimationtextnode.h"
 
+#include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPainterPath>
+#include <QTransform>
 
 #include <memory>
 
@@ -47,6 +50,27 @@ inline std::unique_ptr<Lw::HNodeAnimationText::HAnimationTextNode> NodeOfScene(c
     for (auto it = files.begin(); it != files.end(); ++it)
         node->SetFiles(it.key(), {QFileInfo(path).path() + "/" + it.value().toString()});
     return node;
+}
+
+/** Writes the node's outlines to @p file as another editor would: at any fraction of a pixel. */
+inline QString FullOutlines(Lw::HNodeAnimationText::HAnimationTextNode& node, const QString& file)
+{
+    QVector<QPainterPath> paths = node.GetPainterPaths();
+    QTransform slightly;
+    slightly.scale(1.00123, 0.99877);
+    for (QPainterPath& path : paths)
+        path = slightly.map(path);
+    const auto serialized = [](const auto& value) {
+        QByteArray bytes;
+        QDataStream stream(&bytes, QIODevice::WriteOnly);
+        stream.setVersion(QDataStream::Qt_4_8);
+        stream << value;
+        return bytes;
+    };
+    QFile out(file);
+    if (!out.open(QIODevice::WriteOnly) || out.write(serialized(serialized(paths).toBase64())) < 0)
+        qFatal("cannot write %s", qPrintable(file));
+    return file;
 }
 
 #endif
