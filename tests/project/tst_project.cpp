@@ -91,8 +91,7 @@ private slots:
             standardAndQt);
         row("platform", "platform", "platform/.*", any);
         row("platform/device", "platform/device", "platform/device/.*", any);
-        row("tools", "tools", "(tools|platform)/.*|src/text/.*|src/edit/animationtextedit\\.h",
-            any);
+        row("tools", "tools", "(tools|platform)/.*|src/text/.*", any);
     }
 
     void includesFollowTheRule()

@@ -5,8 +5,11 @@
 #include "testfolder.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -49,6 +52,8 @@ private slots:
     void init();
     void cleanup() { window.reset(); }
     void writesChoosesScrubsUndoesSaves();
+    void pastes_data();
+    void pastes();
     void keysMoveInTime();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
@@ -109,6 +114,79 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     QVERIFY(window->Open(path));
     QCOMPARE(MotionNumber(Text().node), 5);
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Mind the gap"));
+}
+
+/** Into "ab", of which b is bold and large; [ and ] are what is selected. */
+void TestWindow::pastes_data()
+{
+    QTest::addColumn<QString>("selected");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<QString>("html");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("bold"); // * for letters that are
+    const auto row = [](const char* name, const char* selected, const char* plain, const char* html,
+                        const char* key, const char* words, const char* bold) {
+        QTest::newRow(name) << selected << plain << html << key << words << bold;
+    };
+    row("words", "a[]b", "cd", "", "Ctrl+V", "acdb", "---*");
+    row("words into bold", "ab[]", "cd", "", "Ctrl+V", "abcd", "-***");
+    row("tags are words", "a[]b", "<b>c</b>", "", "Ctrl+V", "a<b>c</b>b", "---------*");
+    row("lines", "a[]b", "c\r\nd\n", "", "Ctrl+V", "ac db", "----*");
+    row("a page's words only", "[a]b", "cd", "<b>cd</b>", "Ctrl+V", "cdb", "--*");
+    row("nothing but HTML", "[ab]", "", "<b>c</b> d", "Ctrl+V", "c d", "---");
+    row("a page's styles", "a[]b", "cd", "<b>c</b>d", "Ctrl+Shift+V", "acdb", "-*-*");
+    row("its own styles", "a[b]", nullptr, "", "Ctrl+V", "bab", "*-*");
+}
+
+void TestWindow::pastes()
+{
+    QFETCH(QString, selected);
+    QFETCH(QString, plain);
+    QFETCH(QString, html);
+    Sign sign = window->GetDocument()->Current();
+    StyledText& text = sign.texts.first().source.text;
+    StyleRun large = text.runs.first();
+    large.begin = 1;
+    large.font.setBold(true);
+    large.font.setPixelSize(56);
+    text.text = "ab";
+    text.runs.append(large);
+    window->GetDocument()->Change("Text", sign);
+    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    QTextCursor cursor = editor->textCursor();
+    cursor.setPosition(selected.indexOf('['));
+    cursor.setPosition(selected.indexOf(']') - 1, QTextCursor::KeepAnchor);
+    editor->setTextCursor(cursor);
+    if (plain.isNull()) {
+        QTest::keySequence(editor, QKeySequence::Cut);
+        QCOMPARE(Text().source.text.text, QString("a"));
+        editor->moveCursor(QTextCursor::Start);
+        QTest::keySequence(editor, QKeySequence::Paste);
+        editor->moveCursor(QTextCursor::End);
+    } else {
+        auto* data = new QMimeData;
+        if (!plain.isEmpty())
+            data->setText(plain);
+        if (!html.isEmpty())
+            data->setHtml(html);
+        QApplication::clipboard()->setMimeData(data);
+    }
+    const int steps = window->GetDocument()->Undo()->count();
+    QFETCH(QString, key);
+    QTest::keySequence(window->GetInspector()->Text()->Editor(), QKeySequence(key));
+    QTEST(Text().source.text.text, "words");
+    QString bold;
+    for (int i = 0; i < Text().source.text.text.size(); ++i) {
+        const StyleRun& run = Text().source.text.At(i);
+        bold += QLatin1Char(run.font.bold() ? '*' : '-');
+        QCOMPARE(run.font.family(), large.font.family());
+        QCOMPARE(run.color, large.color);
+        if (html.isEmpty() && run.font.bold())
+            QCOMPARE(run.font.pixelSize(), 56);
+    }
+    QTEST(bold, "bold");
+    QCOMPARE(window->GetDocument()->Undo()->count(), steps + 1);
 }
 
 void TestWindow::keysMoveInTime()

@@ -710,10 +710,6 @@
         <translation>Text &amp;entfernen</translation>
     </message>
     <message>
-        <source>Ctrl+Delete</source>
-        <translation>Ctrl+Delete</translation>
-    </message>
-    <message>
         <source>&amp;Write</source>
         <translation>&amp;Schreiben</translation>
     </message>
@@ -870,10 +866,6 @@
         <translation>Ende</translation>
     </message>
     <message>
-        <source>&amp;Loop over the page, or no more</source>
-        <translation>&amp;Schleife über die Seite, oder nicht mehr</translation>
-    </message>
-    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -1017,6 +1009,34 @@
         <translation>Seite</translation>
     </message>
     <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>E&amp;infügen</translation>
+    </message>
+    <message>
+        <source>Paste &amp;with styles</source>
+        <translation>Mit &amp;Stilen einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Ctrl+Delete</source>
+        <translation>Ctrl+Delete</translation>
+    </message>
+    <message>
+        <source>&amp;Loop over the page, or no more</source>
+        <translation>&amp;Schleife über die Seite, oder nicht mehr</translation>
+    </message>
+    <message>
         <source>Play on L&amp;EDs…</source>
         <translation>Auf L&amp;EDs abspielen…</translation>
     </message>
@@ -1063,6 +1083,13 @@
     </message>
 </context>
 <context>
+    <name>AnimText::TextEditor</name>
+    <message>
+        <source>Paste with styles</source>
+        <translation>Mit Stilen einfügen</translation>
+    </message>
+</context>
+<context>
     <name>AnimText::TextPanel</name>
     <message>
         <source>Text</source>
@@ -1075,10 +1102,6 @@
     <message>
         <source>Font</source>
         <translation>Schrift</translation>
-    </message>
-    <message>
-        <source> px</source>
-        <translation> px</translation>
     </message>
     <message>
         <source>Size</source>
@@ -1147,6 +1170,10 @@
     <message>
         <source>The sign paints every character in the color of the first.</source>
         <translation>Das Schild malt jedes Zeichen in der Farbe des ersten.</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
     </message>
 </context>
 <context>
@@ -1238,10 +1265,6 @@
         <translation>Ende</translation>
     </message>
     <message>
-        <source>Loop over a range; drag over the timeline with Shift to draw one</source>
-        <translation>Schleife über einen Abschnitt; mit Umschalt über die Zeitleiste ziehen zeichnet ihn</translation>
-    </message>
-    <message>
         <source>R</source>
         <translation>R</translation>
     </message>
@@ -1290,6 +1313,10 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
     <message>
         <source> · stands %1 longer</source>
         <translation> · steht %1 länger</translation>
+    </message>
+    <message>
+        <source>Loop over a range; drag over the timeline with Shift to draw one</source>
+        <translation>Schleife über einen Abschnitt; mit Umschalt über die Zeitleiste ziehen zeichnet ihn</translation>
     </message>
 </context>
 <context>

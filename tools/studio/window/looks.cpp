@@ -56,6 +56,15 @@ const QHash<QString, QString>& Drawings()
                         "7 11.5 7 C 8.2 7 8.2 2 11.5 2 Z M 4.5 9 C 7.8 9 7.8 14 4.5 14 C 1.2 14 "
                         "1.2 9 4.5 9 Z M 11.5 9 C 14.8 9 14.8 14 11.5 14 C 8.2 14 8.2 9 11.5 9 "
                         "Z")},
+        {QStringLiteral("edit-cut"),
+         QStringLiteral(
+             "M 4 2 L 10 11 M 12 2 L 6 11 M 4.5 10.5 C 7 10.5 7 14.5 4.5 14.5 C 2 14.5 2 "
+             "10.5 4.5 10.5 Z M 11.5 10.5 C 14 10.5 14 14.5 11.5 14.5 C 9 14.5 9 10.5 "
+             "11.5 10.5 Z")},
+        {QStringLiteral("edit-paste"),
+         QStringLiteral(
+             "M 5 3 L 3 3 L 3 14 L 13 14 L 13 3 L 11 3 M 5.5 2 L 10.5 2 L 10.5 4.5 L 5.5 "
+             "4.5 Z")},
         {QStringLiteral("edit-copy"),
          QStringLiteral("M 5.5 5.5 L 13.5 5.5 L 13.5 13.5 L 5.5 13.5 Z M 3 10.5 L 2.5 10.5 L 2.5 "
                         "2.5 L 10.5 2.5 L 10.5 3")},

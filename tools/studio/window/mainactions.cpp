@@ -87,6 +87,17 @@ void MainWindow::MakeEditMenu()
     edit->addActions({undo, redo});
     tools->addActions({undo, redo});
     edit->addSeparator();
+    Act(edit, tr("Cu&t"), QKeySequence::Cut, QStringLiteral("edit-cut"),
+        [this] { EditWords("cut"); });
+    Act(edit, tr("&Copy"), QKeySequence::Copy, QStringLiteral("edit-copy"),
+        [this] { EditWords("copy"); });
+    Act(edit, tr("&Paste"), QKeySequence::Paste, QStringLiteral("edit-paste"),
+        [this] { EditWords("paste"); });
+    Act(edit, tr("Paste &with styles"), QKeySequence(tr("Ctrl+Shift+V")), QString(), [this] {
+        if (inspector->Text()->isEnabled())
+            inspector->Text()->Editor()->PasteWithStyles();
+    });
+    edit->addSeparator();
     QAction* add = Act(edit, tr("Add &text"), QKeySequence(tr("Ctrl+T")),
                        QStringLiteral("list-add"), [this] { AddNewText(false); });
     QAction* addPage = Act(edit, tr("Add &page"), QKeySequence(tr("Ctrl+Shift+T")),
@@ -121,6 +132,19 @@ void MainWindow::MakeEditMenu()
         sceneTools->addWidget(button);
     }
     sceneTools->addStretch(1);
+}
+
+/** Calls "cut", "copy" or "paste" of the field that has the keyboard, else of that of the text. */
+void MainWindow::EditWords(const char* slot)
+{
+    QWidget* focused = focusWidget();
+    QWidget* field = qobject_cast<QLineEdit*>(focused);
+    if (!field && focused)
+        field = focused->findChild<QLineEdit*>(); // of a number
+    if (!field)
+        field = inspector->Text()->Editor();
+    if (field->isEnabled())
+        QMetaObject::invokeMethod(field, slot);
 }
 
 void MainWindow::MakeViewMenu()

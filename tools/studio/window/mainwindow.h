@@ -101,6 +101,8 @@ private:
     void SetLeds(bool on);
     void SetPitch(double diameters);
     void ToggleLoop();
+    bool LeaveField(int key);
+    void EditWords(const char* slot);
     QVector<int> PlayedIds() const;
     int CurrentPage() const;
 

@@ -1,7 +1,6 @@
 #include "studio/window/styledformat.h"
 
 #include <QTextBlock>
-#include <QTextCursor>
 
 namespace AnimText {
 namespace {
@@ -39,20 +38,24 @@ StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base)
     return run;
 }
 
-void Write(const StyledText& text, QTextDocument* document)
+void Insert(const StyledText& text, int common, QTextCursor* cursor)
 {
-    const int common = text.runs.isEmpty() ? readingSize : text.runs.first().font.pixelSize();
-    QTextCursor cursor(document);
-    cursor.beginEditBlock();
-    cursor.select(QTextCursor::Document);
-    cursor.removeSelectedText();
+    cursor->beginEditBlock();
+    cursor->removeSelectedText();
     for (int i = 0; i < text.runs.size(); ++i) {
         const int begin = text.runs.at(i).begin;
         const int end = i + 1 < text.runs.size() ? text.runs.at(i + 1).begin : text.text.size();
-        cursor.setCharFormat(FormatOf(text.runs.at(i), common));
-        cursor.insertText(text.text.mid(begin, end - begin), FormatOf(text.runs.at(i), common));
+        cursor->setCharFormat(FormatOf(text.runs.at(i), common));
+        cursor->insertText(text.text.mid(begin, end - begin), FormatOf(text.runs.at(i), common));
     }
-    cursor.endEditBlock();
+    cursor->endEditBlock();
+}
+
+void Write(const StyledText& text, QTextDocument* document)
+{
+    QTextCursor cursor(document);
+    cursor.select(QTextCursor::Document);
+    Insert(text, text.runs.isEmpty() ? readingSize : text.runs.first().font.pixelSize(), &cursor);
 }
 
 StyledText Read(const QTextDocument& document, const StyleRun& base)
@@ -73,6 +76,15 @@ StyledText Read(const QTextDocument& document, const StyleRun& base)
         text.runs = {StyleOf(document.begin().charFormat(), base)};
     text.runs.first().begin = 0;
     return text;
+}
+
+StyledText PartOf(const StyledText& text, int begin, int end)
+{
+    StyledText part;
+    part.sized = text.sized;
+    for (int i = begin; i < end; ++i)
+        part.Append(text.text.mid(i, 1), text.At(i));
+    return part;
 }
 
 } // namespace AnimText

@@ -8,6 +8,7 @@
 #include "author/styledtext.h"
 
 #include <QTextCharFormat>
+#include <QTextCursor>
 #include <QTextDocument>
 
 namespace AnimText {
@@ -21,9 +22,14 @@ QTextCharFormat FormatOf(const StyleRun& run, int common);
 /** The style that is kept in @p format; what it lacks is taken from @p base. */
 StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base);
 
+/** Puts @p text in place of what @p cursor has selected. */
+void Insert(const StyledText& text, int common, QTextCursor* cursor);
 void Write(const StyledText& text, QTextDocument* document);
 /** @param base the style of what has none, and of an empty text */
 StyledText Read(const QTextDocument& document, const StyleRun& base);
+
+/** The units of @p text from @p begin up to @p end. */
+StyledText PartOf(const StyledText& text, int begin, int end);
 
 } // namespace AnimText
 

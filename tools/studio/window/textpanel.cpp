@@ -20,6 +20,7 @@ namespace {
 
 constexpr int pauseLength = 1500; // milliseconds without typing that end a step
 constexpr int mostTold = 4;       // characters or words
+constexpr int noStyling = -2;     // in place of a drag: words were typed
 
 /** Colours that lamps have. */
 const QList<QColor> lampColors{QColor(255, 160, 0),  QColor(255, 0, 0),    QColor(255, 80, 0),
@@ -39,7 +40,7 @@ QIcon ColorIcon(const QColor& color)
 
 TextPanel::TextPanel(QWidget* parent)
     : QWidget(parent)
-    , editor(new Lw::HNodeAnimationText::AnimationTextEdit(this))
+    , editor(new TextEditor(this))
     , notes(new QLabel(this))
 {
     auto* layout = new QVBoxLayout(this);
@@ -53,9 +54,6 @@ TextPanel::TextPanel(QWidget* parent)
 
     editor->setAccessibleName(tr("Text"));
     editor->setPlaceholderText(tr("Type the text"));
-    editor->setUndoRedoEnabled(false); // the window's own takes its place
-    editor->setAcceptRichText(false);
-    editor->setTabChangesFocus(true);
     editor->setFixedHeight(88);
     editor->setFrameShape(QFrame::StyledPanel);
     QPalette dark = editor->palette();
@@ -63,7 +61,6 @@ TextPanel::TextPanel(QWidget* parent)
     dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
     editor->setPalette(dark);
-    editor->installEventFilter(this);
     editor->viewport()->installEventFilter(this);
     setFocusProxy(editor);
 
@@ -74,6 +71,7 @@ TextPanel::TextPanel(QWidget* parent)
     pause.setSingleShot(true);
     pause.setInterval(pauseLength);
     connect(&pause, &QTimer::timeout, this, [this] { ++gesture; });
+    connect(editor, &TextEditor::StepEnded, this, [this] { ++gesture; });
     connect(editor, &QTextEdit::textChanged, this, &TextPanel::Tell);
     connect(editor, &QTextEdit::cursorPositionChanged, this, &TextPanel::ShowStyle);
     connect(editor, &QTextEdit::selectionChanged, this, &TextPanel::ShowStyle);
@@ -100,12 +98,11 @@ void TextPanel::MakeTools(QWidget* row)
     family->setFontFilters(QFontComboBox::ScalableFonts);
     family->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     family->setMinimumContentsLength(8);
-    size = new QSpinBox(row);
-    size->setRange(4, 2000);
-    size->setSuffix(tr(" px"));
+    size = new NumberField(row);
+    size->SetUnit(tr("px"));
+    size->SetLimits(4, 2000);
     size->setAccessibleName(tr("Size"));
     size->setToolTip(tr("Size of the letters in pixels of the sign"));
-    size->setKeyboardTracking(false);
     bold = MakeTool(tr("B"), QKeySequence::Bold, tr("Bold"));
     italic = MakeTool(tr("I"), QKeySequence::Italic, tr("Italic"));
     underline = MakeTool(tr("U"), QKeySequence::Underline, tr("Underline"));
@@ -146,9 +143,8 @@ void TextPanel::MakeTools(QWidget* row)
         if (!filling)
             Restyle([&](StyleRun* run) { run->font.setFamily(font.family()); });
     });
-    connect(size, qOverload<int>(&QSpinBox::valueChanged), this, [this](int pixels) {
-        if (!filling)
-            Restyle([&](StyleRun* run) { run->font.setPixelSize(pixels); });
+    connect(size, &NumberField::NumberChanged, this, [this](int pixels, int drag) {
+        Restyle([&](StyleRun* run) { run->font.setPixelSize(pixels); }, drag);
     });
 }
 
@@ -162,7 +158,7 @@ void TextPanel::FillColors()
     }
     QAction* other = menu->addAction(tr("Other…"));
     connect(other, &QAction::triggered, this, [this] {
-        auto* dialog = new QColorDialog(CurrentStyle().color, this);
+        auto* dialog = new QColorDialog(editor->CurrentStyle().color, this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor& chosen) {
             Restyle([&](StyleRun* run) { run->color = chosen; });
@@ -175,9 +171,18 @@ void TextPanel::FillColors()
 void TextPanel::Show(const SignText* text)
 {
     setEnabled(text != nullptr);
-    if (!text)
+    if (!text) {
+        filling = true;
+        shown = StyledText();
+        shownId = 0;
+        editor->clear();
+        editor->setExtraSelections({});
+        notes->hide();
+        filling = false;
         return;
+    }
     base = text->source.text.runs.first();
+    editor->SetBase(base);
     if (text->id != shownId || !(TextSource{text->source.text} == TextSource{shown})) {
         const int anchor = editor->textCursor().anchor();
         const int position = editor->textCursor().position();
@@ -206,33 +211,30 @@ void TextPanel::BeginTyping()
     editor->selectAll();
 }
 
-StyleRun TextPanel::CurrentStyle() const
-{
-    QTextCursor cursor = editor->textCursor();
-    if (cursor.hasSelection())
-        cursor.setPosition(cursor.selectionStart() + 1);
-    return StyleOf(cursor.charFormat(), base);
-}
-
 void TextPanel::ShowStyle()
 {
     if (filling)
         return;
-    const StyleRun style = CurrentStyle();
+    const StyleRun style = editor->CurrentStyle();
     filling = true;
     bold->setChecked(style.font.bold());
     italic->setChecked(style.font.italic());
     underline->setChecked(style.font.underline());
     family->setCurrentFont(QFont(style.font.family()));
-    size->setValue(style.font.pixelSize());
+    size->ShowNumber(style.font.pixelSize());
     color->setIcon(ColorIcon(style.color));
     filling = false;
 }
 
-/** Changes the style of the selection, or of everything where nothing is selected. */
-void TextPanel::Restyle(const std::function<void(StyleRun*)>& change)
+/**
+ * Changes the style of the selection, or of everything where nothing is selected.
+ * @param drag the same number for changes that are one step; negative for one that stands alone
+ */
+void TextPanel::Restyle(const std::function<void(StyleRun*)>& change, int drag)
 {
-    ++gesture;
+    if (drag < 0 || drag != styling)
+        ++gesture;
+    styling = drag;
     QTextCursor cursor = editor->textCursor();
     const int begin = cursor.hasSelection() ? cursor.selectionStart() : 0;
     const int end = cursor.hasSelection() ? cursor.selectionEnd() : shown.text.size();
@@ -249,16 +251,18 @@ void TextPanel::Restyle(const std::function<void(StyleRun*)>& change)
         change(&styled.runs.first());
     }
     emit Edited(styled, gesture);
-    ++gesture;
 }
 
 void TextPanel::Tell()
 {
     if (filling)
         return;
-    const StyledText text = Read(*editor->document(), base);
+    const StyledText text = editor->Styled();
     if (TextSource{text} == TextSource{shown})
         return;
+    if (styling != noStyling)
+        ++gesture; // a style is a step of its own
+    styling = noStyling;
     shown = text;
     pause.start();
     emit Edited(text, gesture);
@@ -324,20 +328,6 @@ void TextPanel::ShowNotes(const SignText& text)
 
 bool TextPanel::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride && object == editor) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
-            key->ignore(); // the window undoes
-            return true;
-        }
-    }
-    if (event->type() == QEvent::KeyPress && object == editor) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
-            return true; // the sign has one line
-    }
-    if (event->type() == QEvent::FocusOut && object == editor)
-        ++gesture;
     if (event->type() == QEvent::ToolTip && object == editor->viewport()) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const int position = editor->cursorForPosition(help->pos()).position();

@@ -5,12 +5,12 @@
 #ifndef ANIMTEXT_TEXTPANEL_H
 #define ANIMTEXT_TEXTPANEL_H
 
-#include "edit/animationtextedit.h"
 #include "studio/model/sign.h"
+#include "studio/window/numberfield.h"
+#include "studio/window/texteditor.h"
 
 #include <QFontComboBox>
 #include <QLabel>
-#include <QSpinBox>
 #include <QTimer>
 #include <QToolButton>
 
@@ -28,7 +28,7 @@ public:
     /** Takes the keyboard, with all of the text selected. */
     void BeginTyping();
 
-    QTextEdit* Editor() const { return editor; }
+    TextEditor* Editor() const { return editor; }
 
 signals:
     /** @param gesture the same number for what is typed in one go */
@@ -41,15 +41,14 @@ private:
     void MakeTools(QWidget* row);
     QToolButton* MakeTool(const QString& words, const QKeySequence& key, const QString& name);
     void FillColors();
-    void Restyle(const std::function<void(StyleRun*)>& change);
+    void Restyle(const std::function<void(StyleRun*)>& change, int drag = -1);
     void ShowStyle();
     void ShowNotes(const SignText& text);
     void Tell();
-    StyleRun CurrentStyle() const;
 
-    Lw::HNodeAnimationText::AnimationTextEdit* editor;
+    TextEditor* editor;
     QFontComboBox* family;
-    QSpinBox* size;
+    NumberField* size;
     QToolButton* bold;
     QToolButton* italic;
     QToolButton* underline;
@@ -60,6 +59,7 @@ private:
     StyledText shown;
     StyleRun base;
     int gesture = 0;
+    int styling = -1;     // the drag that changes a style; negative for none
     bool filling = false; // the fields change because the cursor did
 };
 
