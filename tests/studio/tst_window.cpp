@@ -54,6 +54,7 @@ private slots:
     void writesChoosesScrubsUndoesSaves();
     void pastes_data();
     void pastes();
+    void keysGoWhereTheyBelong();
     void keysMoveInTime();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
@@ -187,6 +188,47 @@ void TestWindow::pastes()
     }
     QTEST(bold, "bold");
     QCOMPARE(window->GetDocument()->Undo()->count(), steps + 1);
+}
+
+void TestWindow::keysGoWhereTheyBelong()
+{
+    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    QWidget* display = window->Display();
+    window->activateWindow();
+    QTRY_VERIFY(editor->hasFocus()); // a new sign is typed at once
+    Type("one two");
+    editor->moveCursor(QTextCursor::Start);
+    QTest::keyClick(editor, Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(Text().source.text.text, QString("two"));
+    QTest::keyClick(editor, Qt::Key_Space, Qt::ControlModifier);
+    QVERIFY(window->GetPlayback()->IsPlaying());
+    auto* speed = window->GetInspector()->findChild<NumberField*>();
+    const QList<QPair<QWidget*, Qt::Key>> ways{
+        {editor, Qt::Key_Escape},
+        {speed, Qt::Key_Return},
+        {speed, Qt::Key_Escape},
+        {window->GetInspector()->Motions()->Search(), Qt::Key_Escape}};
+    for (const auto& way : ways) {
+        way.first->setFocus();
+        QTest::keyClick(way.first, way.second);
+        QVERIFY2(display->hasFocus(), way.first->metaObject()->className());
+    }
+    for (QWidget* list : {static_cast<QWidget*>(window->findChild<SceneList*>()), display}) {
+        window->GetPlayback()->SetPace(0);
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY2(window->GetPlayback()->IsPlaying(), list->metaObject()->className());
+    }
+    const QString path = folder.Path("keys.json");
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(path);
+    QVERIFY(ended.wait(patience));
+    editor->setFocus();
+    QVERIFY(window->Open(path));
+    QVERIFY(display->hasFocus());
+    QTest::keyClick(display, Qt::Key_Delete);
+    QVERIFY(window->GetDocument()->Current().texts.isEmpty());
+    QCOMPARE(editor->toPlainText(), QString());
 }
 
 void TestWindow::keysMoveInTime()

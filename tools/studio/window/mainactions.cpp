@@ -104,8 +104,12 @@ void MainWindow::MakeEditMenu()
                            QStringLiteral("list-add"), [this] { AddNewText(true); });
     Act(edit, tr("&Duplicate text"), QKeySequence(tr("Ctrl+D")), QString(),
         [this] { DuplicateSelected(); });
-    Act(edit, tr("Re&move text"), QKeySequence(tr("Ctrl+Delete")), QString(),
-        [this] { RemoveSelected(); });
+    QAction* remove = Act(edit, tr("Re&move text"), QKeySequence::Delete, QString(),
+                          [this] { RemoveSelected(); });
+    // In a field the key is for letters.
+    remove->setShortcutContext(Qt::WidgetShortcut);
+    for (QWidget* widget : QList<QWidget*>{view, scenes, timeline})
+        widget->addAction(remove);
     edit->addSeparator();
     Act(edit, tr("&Write"), QKeySequence(tr("F2")), QString(),
         [this] { inspector->Text()->BeginTyping(); });
@@ -216,6 +220,10 @@ void MainWindow::MakePlayMenu()
         connect(play->addAction(words + QLatin1Char('\t') + key), &QAction::triggered, this, does);
     };
     act(tr("&Play or stop"), tr("Space"), [this] { playback.Toggle(); });
+    auto* everywhere = new QAction(this);
+    everywhere->setShortcut(QKeySequence(tr("Ctrl+Space")));
+    connect(everywhere, &QAction::triggered, &playback, &Playback::Toggle);
+    addAction(everywhere);
     act(tr("&Backwards, then faster"), QStringLiteral("J"), [this] { playback.Shuttle(-1); });
     act(tr("&Stop"), QStringLiteral("K"), [this] { playback.SetPace(0); });
     act(tr("&Forwards, then faster"), QStringLiteral("L"), [this] { playback.Shuttle(1); });
@@ -230,7 +238,7 @@ void MainWindow::MakePlayMenu()
         [this] { playback.Seek(timeline->NextMark(playback.Tick())); });
     act(tr("To the start"), tr("Home"), [this] { playback.Seek(0); });
     act(tr("To the end"), tr("End"), [this] { playback.Seek(playback.Length() - 1); });
-    act(tr("&Loop over the page, or no more"), QStringLiteral("R"), [this] { ToggleLoop(); });
+    act(tr("&Loop the page, or stop looping"), QStringLiteral("R"), [this] { ToggleLoop(); });
     play->addSeparator();
     Act(play, tr("Play on L&EDs…"), QKeySequence(), QString(), [this] {
         auto* dialog = new LedsDialog(document.Current().display, document.Path(), this);

@@ -199,6 +199,8 @@ void MainWindow::Connect()
     connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
 
     ConnectIntegrator();
+    scenes->installEventFilter(this);
+    inspector->Motions()->List()->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::Selected, this, [this](int id) {
@@ -284,7 +286,9 @@ bool MainWindow::Open(const QString& path)
     }
     notices->Set(NoticeBar::Trouble, QString());
     notices->Set(NoticeBar::Disk, QString());
+    notices->Set(NoticeBar::Save, QString());
     AddRecent(document.Path());
+    view->setFocus(); // Space plays
     return true;
 }
 
@@ -464,15 +468,35 @@ void MainWindow::RemoveSelected()
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress)
+    if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(object)) {
+        event->ignore(); // the panel scrolls; a choice that is scrolled past must not change
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress || qobject_cast<QComboBox*>(object))
         return QMainWindow::eventFilter(object, event);
-    keyPressEvent(static_cast<QKeyEvent*>(event));
+    auto* key = static_cast<QKeyEvent*>(event);
+    const bool isPlayKey = key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier;
+    if (qobject_cast<QAbstractItemView*>(object) && !isPlayKey)
+        return false; // lists go by their own keys
+    keyPressEvent(key);
     return event->isAccepted();
+}
+
+/** Goes from a field back to the display, on which keys go through time. */
+bool MainWindow::LeaveField(int key)
+{
+    QWidget* field = focusWidget();
+    const bool isNumber = qobject_cast<QAbstractSpinBox*>(field) != nullptr;
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (field == view || (key != Qt::Key_Escape && !(isNumber && isEnter)))
+        return false;
+    view->setFocus();
+    return true;
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (view->HandleAreaKey(event->key(), event->modifiers()))
+    if (view->HandleAreaKey(event->key(), event->modifiers()) || LeaveField(event->key()))
         return;
     const int tick = playback.Tick();
     const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
