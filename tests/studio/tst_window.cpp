@@ -55,7 +55,9 @@ private slots:
     void pastes_data();
     void pastes();
     void keysGoWhereTheyBelong();
+    void wheelScrollsPastChoices();
     void keysMoveInTime();
+    void staleStatesGo();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
     void leavingLosesNothing();
@@ -231,6 +233,55 @@ void TestWindow::keysGoWhereTheyBelong()
     QCOMPARE(editor->toPlainText(), QString());
 }
 
+void TestWindow::wheelScrollsPastChoices()
+{
+    auto* panel = window->GetInspector();
+    for (QComboBox* box : window->findChildren<QComboBox*>()) {
+        panel->ensureWidgetVisible(box);
+        box->setFocus();
+        const int before = box->currentIndex();
+        const int top = panel->verticalScrollBar()->value();
+        const QPoint middle = box->rect().center();
+        for (int delta : {-120, 120, 120}) {
+            QWheelEvent wheel(middle, box->mapToGlobal(middle), {}, {0, delta}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QSpontaneKeyEvent::setSpontaneous(&wheel); // else it goes to no parent
+            qApp->notify(box, &wheel);
+            QCOMPARE(box->currentIndex(), before);
+            if (delta < 0)
+                QCOMPARE(panel->verticalScrollBar()->value() > top, panel->isAncestorOf(box));
+        }
+    }
+}
+
+/** What was true of an earlier state is not said of this one. */
+void TestWindow::staleStatesGo()
+{
+    const QString path = folder.Path("stale.json");
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(path);
+    QVERIFY(ended.wait(patience));
+    for (int offer : {0, 1}) { // theirs, mine
+        Type("mine");
+        folder.Write("stale.json", folder.Read("stale.json") + "\n");
+        window->GetDocument()->Save(path);
+        QVERIFY(ended.wait(patience));
+        QTRY_VERIFY_WITH_TIMEOUT(window->Notices()->Offers().size() == 3, patience);
+        window->Notices()->Offers().at(offer)->click();
+        QCOMPARE(window->Notices()->Text(), QString());
+    }
+
+    QVERIFY(Settles());
+    const int length = window->GetPlayback()->Length();
+    Type("longer and longer");
+    QVERIFY(Settles());
+    QVERIFY(window->GetPlayback()->Length() > length);
+    window->GetPlayback()->Seek(window->GetPlayback()->Length() - 1);
+    window->GetDocument()->Undo()->undo();
+    QVERIFY(Settles());
+    QVERIFY(window->GetPlayback()->Tick() < window->GetPlayback()->Length());
+}
+
 void TestWindow::keysMoveInTime()
 {
     QVERIFY(Settles());
@@ -260,6 +311,22 @@ void TestWindow::keysMoveInTime()
     QCOMPARE(time->Pace(), -1);
     press(Qt::Key_K);
     QVERIFY(!time->IsPlaying());
+    // The button and the key loop the same: the page with its hold.
+    time->Seek(page.hold - 1);
+    for (bool byKey : {true, false}) {
+        const auto toggle = [&](bool key) {
+            if (key)
+                press(Qt::Key_R);
+            else
+                window->Transport()->findChildren<QToolButton*>().at(5)->click();
+        };
+        toggle(byKey);
+        QVERIFY(time->HasLoop());
+        QCOMPARE(time->LoopBegin(), page.begin);
+        QCOMPARE(time->LoopEnd(), page.end - 1);
+        toggle(!byKey);
+        QVERIFY(!time->HasLoop());
+    }
     // Playing goes round, and round the range where there is one.
     QVector<int> seen;
     connect(time, &Playback::TickChanged, this, [&](int tick) { seen.append(tick); });

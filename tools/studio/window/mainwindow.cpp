@@ -49,6 +49,8 @@ MainWindow::MainWindow(const QString& plugin)
     MakeDocks();
     MakeActions();
     Connect();
+    for (QComboBox* box : findChildren<QComboBox*>())
+        box->installEventFilter(this);
     // The picture is the largest thing.
     resize((screen()->availableSize() * 0.92).boundedTo(largestStandardSize));
     RestoreLayout();
@@ -160,7 +162,11 @@ void MainWindow::Connect()
     connect(&document, &Document::DiskChanged, this, [this] {
         notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
                      {{tr("Load it"), [this] { LoadTheirs(); }},
-                      {tr("Keep mine"), [this] { document.KeepMine(); }},
+                      {tr("Keep mine"),
+                       [this] {
+                           document.KeepMine();
+                           notices->Set(NoticeBar::Save, QString()); // it would be saved now
+                       }},
                       {tr("Save mine as…"), [this] { SaveAs(); }}});
     });
 
@@ -219,6 +225,7 @@ void MainWindow::Connect()
     });
     connect(inspector, &Inspector::Edited, this, &MainWindow::Edit);
     connect(transport, &TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
+    connect(transport, &TransportBar::LoopToggled, this, &MainWindow::ToggleLoop);
 }
 
 void MainWindow::ConnectIntegrator()
@@ -275,6 +282,8 @@ void MainWindow::LoadTheirs()
     QString error;
     if (!document.LoadTheirs(&error))
         notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+    else
+        notices->Set(NoticeBar::Save, QString()); // what could not be saved was given up
 }
 
 bool MainWindow::Open(const QString& path)
@@ -295,6 +304,8 @@ bool MainWindow::Open(const QString& path)
 void MainWindow::New()
 {
     document.New();
+    notices->Set(NoticeBar::Disk, QString());
+    notices->Set(NoticeBar::Save, QString());
     inspector->Text()->BeginTyping();
 }
 
@@ -518,11 +529,12 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::ToggleLoop()
 {
-    const int tick = playback.Tick();
-    if (playback.HasLoop())
+    if (playback.HasLoop()) {
         playback.ClearLoop();
-    else
-        playback.SetLoop(timeline->PreviousMark(tick + 1), timeline->NextMark(tick) - 1);
+        return;
+    }
+    const QPair<int, int> page = timeline->PageAt(playback.Tick());
+    playback.SetLoop(page.first, page.second);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

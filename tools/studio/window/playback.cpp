@@ -26,7 +26,9 @@ void Playback::SetLength(int ticks)
     length = std::max(1, ticks);
     if (hasLoop && loopBegin >= length)
         ClearLoop();
+    loopEnd = std::min(loopEnd, length - 1);
     emit RangeChanged();
+    Seek(tick); // it may be beyond the end now
 }
 
 void Playback::Seek(int wanted)

@@ -132,6 +132,22 @@ int Timeline::PreviousMark(int tick) const
     return next == marks.begin() ? 0 : *(next - 1);
 }
 
+QPair<int, int> Timeline::PageAt(int tick) const
+{
+    QVector<TextTime> texts = timing.texts;
+    const int row = ids.indexOf(selected);
+    if (row > 0 && row < texts.size())
+        texts.move(row, 0); // several texts show pages at once: the selected one decides
+    for (const TextTime& text : texts) {
+        const int from = int(TicksOf(text.from));
+        for (const PageTime& page : text.pages) {
+            if (tick >= from + page.begin && tick < from + page.end)
+                return {from + page.begin, from + page.end - 1};
+        }
+    }
+    return {0, playback->Length() - 1};
+}
+
 QSize Timeline::sizeHint() const
 {
     return {640, rulerHeight + 5 * rowHeight};

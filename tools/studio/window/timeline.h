@@ -29,6 +29,8 @@ public:
     /** The first tick of the page after @p tick, or before it. */
     int NextMark(int tick) const;
     int PreviousMark(int tick) const;
+    /** First and last tick of the page at @p tick, with its hold; all of it where there is none. */
+    QPair<int, int> PageAt(int tick) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -48,20 +48,14 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     auto* forward = Button(QStringLiteral("step-forward"), tr("One tick on"), QStringLiteral("→"));
     auto* toEnd = Button(QStringLiteral("media-skip-forward"), tr("To the end"), tr("End"));
     loop = Button(QStringLiteral("media-playlist-repeat"),
-                  tr("Loop over a range; drag over the timeline with Shift to draw one"), tr("R"));
+                  tr("Loop the page; Shift+drag over the timeline loops a range"), tr("R"));
     loop->setCheckable(true);
     connect(toStart, &QToolButton::clicked, this, [=] { playback->Seek(0); });
     connect(back, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() - 1); });
     connect(play, &QToolButton::clicked, playback, &Playback::Toggle);
     connect(forward, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() + 1); });
     connect(toEnd, &QToolButton::clicked, this, [=] { playback->Seek(playback->Length() - 1); });
-    connect(loop, &QToolButton::clicked, this, [=](bool on) {
-        const int fifth = qMax(1, playback->Length() / 5);
-        if (on)
-            playback->SetLoop(playback->Tick(), playback->Tick() + fifth);
-        else
-            playback->ClearLoop();
-    });
+    connect(loop, &QToolButton::clicked, this, &TransportBar::LoopToggled);
 
     what->addItems({tr("This page"), tr("All pages")});
     what->setAccessibleName(tr("What is played"));

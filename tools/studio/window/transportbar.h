@@ -31,6 +31,7 @@ public:
 
 signals:
     void ScheduleChanged(bool schedule);
+    void LoopToggled();
 
 private:
     QToolButton* Button(const QString& icon, const QString& name, const QString& key);
