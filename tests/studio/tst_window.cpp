@@ -458,6 +458,7 @@ void TestWindow::findingsAreMended()
     text.node.attributes["AnimationSpeed"] = 12;
     text.node.attributes["PlayTimes"] = 0;
     text.node.attributes["Stroke"] = 1;
+    text.source.text.runs.first().font.setPixelSize(56); // a line of 66 pixels, its ink in 64
     window->GetDocument()->Change("Settings", sign);
     FindingsList* list = window->Findings();
     QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, patience);
@@ -470,6 +471,7 @@ void TestWindow::findingsAreMended()
     QCOMPARE(Text().node.pos, QPoint(0, 0));
     QCOMPARE(Text().node.attributes.value("AnimationSpeed").toInt(), 9);
     QVERIFY(!Text().node.attributes.contains("Stroke"));
+    QVERIFY(Text().source.fit == Fit::None);
 }
 
 void TestWindow::exportsAndCancels()

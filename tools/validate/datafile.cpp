@@ -93,8 +93,10 @@ DataFile LookIntoPathFile(const QString& path)
     const QByteArray bytes = Unwrapped(path, &file.fault);
     if (!file.fault.isEmpty())
         return file;
-    for (const QPainterPath& outline : OutlinesFrom(bytes))
+    for (const QPainterPath& outline : OutlinesFrom(bytes)) {
         file.isEmpty.append(outline.isEmpty());
+        file.ink.append(outline.boundingRect());
+    }
     file.entries = file.isEmpty.size();
     for (const GlyphDataFault& fault : OutlineFaults(bytes)) {
         if (fault.LeavesNothing()) {
@@ -115,7 +117,8 @@ DataFile LookIntoDescentFile(const QString& path)
     const QByteArray bytes = Unwrapped(path, &file.fault);
     if (file.fault.isEmpty()) {
         file.fault = InWords(DescentFault(bytes));
-        file.entries = DescentsFrom(bytes).size();
+        file.descents = DescentsFrom(bytes);
+        file.entries = file.descents.size();
     }
     return file;
 }

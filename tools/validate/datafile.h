@@ -6,6 +6,7 @@
 #define ANIMTEXT_DATAFILE_H
 
 #include <QList>
+#include <QRectF>
 #include <QString>
 #include <QVector>
 
@@ -24,6 +25,8 @@ struct DataFile
     QString fault;         ///< why the sign reads nothing from it; empty when it can be read
     int entries = 0;       ///< how many outlines or descents
     QVector<bool> isEmpty; ///< for outlines, by index: sound, and nothing to see
+    QVector<QRectF> ink;   ///< what outlines cover, about their baselines; by index
+    QVector<int> descents; ///< for descents, by index
     QList<BadOutline> badOutlines;
 };
 

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QRect>
+#include <QtMath>
 
 #include <algorithm>
 #include <numeric>
@@ -99,6 +100,7 @@ QList<Finding> NodeCheck::Run()
     CheckLists();
     CheckMeasures();
     CheckFiles();
+    CheckCut();
     return findings;
 }
 
@@ -247,11 +249,6 @@ void NodeCheck::CheckMeasures()
         Add(Mistake::CharacterWide, QStringLiteral("lists.TextWidth[%1].text_width").arg(widest),
             QStringLiteral("%1 pixels").arg(widths[widest]),
             QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
-    const int highest = LargestAt(heights);
-    if (highest >= 0 && heights[highest] > node.size.height())
-        Add(Mistake::TextHigh, QStringLiteral("lists.TextHeight[%1].text_height").arg(highest),
-            QStringLiteral("%1 pixels").arg(heights[highest]),
-            QStringLiteral("no more than the area's height, %1").arg(node.size.height()));
     if (ScrollsSideways() && Sum(widths) > lastPaintableX)
         Add(Mistake::LineLong, QStringLiteral("lists.TextWidth"),
             QStringLiteral("a line of %1 pixels").arg(Sum(widths)),
@@ -309,8 +306,37 @@ void NodeCheck::CheckData(const QString& key)
                 .arg(bad.fault, AndMore(data.badOutlines.size() - 1)),
             QStringLiteral("moves, lines and curves within a million pixels"));
     }
-    if (holdsPaths)
+    if (holdsPaths) {
+        ink = data.ink;
         CheckOutlines(data.isEmpty);
+    } else {
+        descents = data.descents;
+    }
+}
+
+/** Goes by the ink of the letters at rest: a line may well be higher than the area. */
+void NodeCheck::CheckCut()
+{
+    const bool scrollsThrough = mode == 1 && !ScrollsSideways();
+    if (scrollsThrough || heights.isEmpty() || descents.size() < text.size())
+        return;
+    const int height = node.size.height();
+    qint64 above = 0;
+    qint64 below = 0;
+    for (int i = 0; i < qMin(ink.size(), text.size()); ++i) {
+        const qint64 baseline =
+            qint64(height / 2) + heights[LargestAt(heights)] / 2 - descents.value(i);
+        if (ink[i].isEmpty())
+            continue;
+        above = qMax<qint64>(above, qCeil(-ink[i].top()) - baseline);
+        below = qMax<qint64>(below, qCeil(ink[i].bottom()) + baseline - height);
+    }
+    if (above > 0 || below > 0)
+        Add(Mistake::TextHigh, QStringLiteral("files.PathData"),
+            QStringLiteral("letters that reach %1 pixels above the area and %2 below it")
+                .arg(above)
+                .arg(below),
+            QStringLiteral("letters within the area's %1 pixels").arg(height));
 }
 
 void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)

@@ -33,6 +33,7 @@ private:
     void CheckFiles();
     void CheckData(const QString& key);
     void CheckOutlines(const QVector<bool>& isEmpty);
+    void CheckCut();
 
     bool Has(const char* flag) const { return Number(flag) == 1; }
     int Number(const char* key) const { return node.attributes.value(QLatin1String(key)).toInt(); }
@@ -50,6 +51,8 @@ private:
     const int motion; // number of the effect or of the scroll
     QVector<int> widths;
     QVector<int> heights;
+    QVector<int> descents;
+    QVector<QRectF> ink; // of the outlines
     QList<Finding> findings;
 };
 

@@ -67,7 +67,7 @@ constexpr Rule rules[] = {
     {Mistake::CharacterWide, warning, "character-wide",
      QT_TRANSLATE_NOOP("Rules", "The character gets a page of its own and is cut off.")},
     {Mistake::TextHigh, warning, "text-high",
-     QT_TRANSLATE_NOOP("Rules", "The text is cut off above and below.")},
+     QT_TRANSLATE_NOOP("Rules", "Letters are cut off at the top or bottom.")},
     {Mistake::LineLong, warning, "line-long",
      QT_TRANSLATE_NOOP(
          "Rules",

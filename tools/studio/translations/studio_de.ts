@@ -184,12 +184,12 @@
         <translation>Dieses Format verliert Farben.</translation>
     </message>
     <message>
-        <source>Beginning</source>
-        <translation>Es beginnt</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Es beginnt</translation>
     </message>
     <message>
         <source>Cancelled; nothing was written.</source>
@@ -1029,16 +1029,16 @@
         <translation>Ctrl+Shift+V</translation>
     </message>
     <message>
-        <source>Ctrl+Delete</source>
-        <translation>Ctrl+Delete</translation>
-    </message>
-    <message>
-        <source>&amp;Loop over the page, or no more</source>
-        <translation>&amp;Schleife über die Seite, oder nicht mehr</translation>
-    </message>
-    <message>
         <source>Play on L&amp;EDs…</source>
         <translation>Auf L&amp;EDs abspielen…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Space</source>
+        <translation>Ctrl+Space</translation>
+    </message>
+    <message>
+        <source>&amp;Loop the page, or stop looping</source>
+        <translation>Seite in &amp;Schleife spielen oder damit aufhören</translation>
     </message>
 </context>
 <context>
@@ -1315,8 +1315,8 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
         <translation> · steht %1 länger</translation>
     </message>
     <message>
-        <source>Loop over a range; drag over the timeline with Shift to draw one</source>
-        <translation>Schleife über einen Abschnitt; mit Umschalt über die Zeitleiste ziehen zeichnet ihn</translation>
+        <source>Loop the page; Shift+drag over the timeline loops a range</source>
+        <translation>Seite in Schleife spielen; Umschalt+Ziehen über die Zeitleiste für einen Bereich</translation>
     </message>
 </context>
 <context>
@@ -2031,10 +2031,6 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
         <translation>Das Zeichen bekommt eine eigene Seite und wird abgeschnitten.</translation>
     </message>
     <message>
-        <source>The text is cut off above and below.</source>
-        <translation>Der Text ist oben und unten abgeschnitten.</translation>
-    </message>
-    <message>
         <source>Beyond 31,999 pixels the painter needs a second picture, and it paints that one white.</source>
         <translation>Jenseits von 31.999 Pixeln braucht der Maler ein zweites Bild, und das malt er weiß.</translation>
     </message>
@@ -2057,6 +2053,10 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
     <message>
         <source>The whole text has the colour of its first character.</source>
         <translation>Der ganze Text hat die Farbe seines ersten Zeichens.</translation>
+    </message>
+    <message>
+        <source>Letters are cut off at the top or bottom.</source>
+        <translation>Buchstaben sind oben oder unten abgeschnitten.</translation>
     </message>
     <message>
         <source>The sign takes the lowest 24 bits and shows another color.</source>
