@@ -58,6 +58,7 @@ private slots:
     void wheelScrollsPastChoices();
     void keysMoveInTime();
     void staleStatesGo();
+    void writeProtectedFilesStay();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
     void leavingLosesNothing();
@@ -282,6 +283,24 @@ void TestWindow::staleStatesGo()
     QVERIFY(window->GetPlayback()->Tick() < window->GetPlayback()->Length());
 }
 
+void TestWindow::writeProtectedFilesStay()
+{
+    const QString path = folder.Path("fixed.json");
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(path);
+    QVERIFY(ended.wait(patience));
+    const QByteArray before = folder.Read("fixed.json");
+    QFile::setPermissions(path, QFile::ReadOwner);
+    Type("changed");
+    window->GetDocument()->Save(path);
+    QVERIFY(ended.wait(patience));
+    QCOMPARE(folder.Read("fixed.json"), before);
+    QVERIFY2(window->Notices()->Text().contains("write-protected"),
+             qPrintable(window->Notices()->Text()));
+    QCOMPARE(window->Notices()->Offers().first()->text(), QString("Save as…"));
+    QVERIFY(window->isWindowModified());
+}
+
 void TestWindow::keysMoveInTime()
 {
     QVERIFY(Settles());
@@ -496,6 +515,16 @@ void TestWindow::exportsAndCancels()
         QCOMPARE(folder.Read(name == QString("film.gif") ? "film.gif" : "frames/frame-0010.png"),
                  made);
     }
+    folder.Write("film.gif", "another's");
+    ExportDialog again(window->GetDocument()->Current(), QString(), QString());
+    QSignalSpy replaced(&again, &ExportDialog::Done);
+    again.SetOutput(folder.Path("film.gif"));
+    again.StartButton()->click();
+    QVERIFY(again.StartButton()->isEnabled()); // it asks
+    QCOMPARE(folder.Read("film.gif"), QByteArray("another's"));
+    again.StartButton()->click();
+    QVERIFY(replaced.wait(patience));
+    QVERIFY(folder.Read("film.gif").startsWith("GIF"));
     Sign endless = window->GetDocument()->Current();
     endless.texts.first().node.attributes["PlayTimes"] = 400;
     ExportDialog dialog(endless, QString(), QString());

@@ -103,7 +103,11 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
                                              : scene.dir().filePath(scene.completeBaseName());
     output->setText(base + format->currentData().toString());
     connect(format, qOverload<int>(&QComboBox::activated), this, &ExportDialog::FormatChosen);
-    connect(output, &QLineEdit::textChanged, this, &ExportDialog::Refresh);
+    connect(output, &QLineEdit::textChanged, this, [this] {
+        if (output->text() != replaced)
+            replaced.clear();
+        Refresh();
+    });
     connect(scale, qOverload<int>(&QSpinBox::valueChanged), this, &ExportDialog::Refresh);
     for (QCheckBox* box : {schedule, transparent, lossless})
         connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
@@ -162,21 +166,42 @@ void ExportDialog::Refresh()
     transparent->setToolTip(transparent->isEnabled() ? QString()
                                                      : tr("Films of this format cannot be."));
     lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
+    start->setText(tr("Export"));
     start->setEnabled(index >= 0 && !sign.texts.isEmpty() && !exporting.IsRunning());
     command->setText(
         RenderCommandLine(scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath, Wishes()));
     command->setCursorPosition(0);
 }
 
+void ExportDialog::Say(const QString& words, bool isWarning)
+{
+    QPalette colors = palette();
+    if (isWarning)
+        colors.setColor(QPalette::WindowText, Warning(colors));
+    state->setPalette(colors);
+    state->setText(words);
+    state->show();
+}
+
 void ExportDialog::Browse()
 {
     const QString path = QFileDialog::getSaveFileName(this, tr("Export a film"), output->text());
-    if (!path.isEmpty())
-        output->setText(path);
+    if (path.isEmpty())
+        return;
+    replaced = path; // the file dialog has asked
+    output->setText(path);
 }
 
 void ExportDialog::Begin()
 {
+    const QFileInfo there(output->text());
+    const bool isThere = there.isDir() ? !QDir(there.filePath()).isEmpty() : there.exists();
+    if (isThere && replaced != output->text()) {
+        replaced = output->text();
+        Say(tr("%1 exists already.").arg(replaced), true);
+        start->setText(tr("Replace"));
+        return;
+    }
     const Scene scene = folder.Put(sign);
     QString error;
     if (!WriteWhole(scene.path, SceneToJson(scene), &error)) {
@@ -185,9 +210,8 @@ void ExportDialog::Begin()
     }
     progress->setRange(0, 0);
     progress->show();
-    state->setPalette(palette());
-    state->setText(tr("Beginning"));
-    state->show();
+    replaced.clear(); // the next film asks again
+    Say(tr("Starting"), false);
     close->setText(tr("Cancel"));
     exporting.Start(plugin, scene.path, Wishes());
     start->setEnabled(false);
@@ -197,17 +221,12 @@ void ExportDialog::End(const QString& error, bool cancelled)
 {
     progress->hide();
     close->setText(tr("Close"));
-    QPalette colors = palette();
-    if (cancelled) {
-        state->setText(tr("Cancelled; nothing was written."));
-    } else if (!error.isEmpty()) {
-        colors.setColor(QPalette::WindowText, Warning(colors));
-        state->setText(error);
-    } else {
-        state->setText(tr("Made %1.").arg(output->text()));
-    }
-    state->setPalette(colors);
-    state->show();
+    if (cancelled)
+        Say(tr("Canceled; nothing was written."), false);
+    else if (!error.isEmpty())
+        Say(error, true);
+    else
+        Say(tr("Saved %1").arg(output->text()), false);
     Refresh();
     emit Done(!cancelled && error.isEmpty());
 }

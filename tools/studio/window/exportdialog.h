@@ -46,6 +46,7 @@ private:
     ExportWishes Wishes() const;
     void FormatChosen();
     void Refresh();
+    void Say(const QString& words, bool isWarning);
     void Begin();
     void End(const QString& error, bool cancelled);
     void Browse();
@@ -63,6 +64,7 @@ private:
     QCheckBox* transparent;
     QCheckBox* lossless;
     QLineEdit* command;
+    QString replaced; // the file that may be replaced, as its user has said
     QProgressBar* progress;
     QLabel* state;
     QPushButton* start;
