@@ -1,5 +1,6 @@
 #include "studio/window/exportdialog.h"
 #include "studio/window/mainwindow.h"
+#include "studio/window/newdialog.h"
 #include "studio/window/translating.h"
 
 #include "testfolder.h"
@@ -59,6 +60,7 @@ private slots:
     void keysMoveInTime();
     void staleStatesGo();
     void writeProtectedFilesStay();
+    void displaysHaveSizes();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
     void leavingLosesNothing();
@@ -281,6 +283,38 @@ void TestWindow::staleStatesGo()
     window->GetDocument()->Undo()->undo();
     QVERIFY(Settles());
     QVERIFY(window->GetPlayback()->Tick() < window->GetPlayback()->Length());
+}
+
+void TestWindow::displaysHaveSizes()
+{
+    for (QAction* action : window->menuBar()->actions().first()->menu()->actions()) {
+        if (action->shortcut() == QKeySequence::New)
+            action->trigger();
+    }
+    auto* dialog = window->findChild<NewDialog*>();
+    QVERIFY(dialog);
+    const auto choose = [](DisplayForm* form, const char* panel) {
+        form->Presets()->setCurrentText(panel);
+        emit form->Presets()->activated(form->Presets()->currentIndex());
+    };
+    choose(dialog->Form(), "128 × 32");
+    dialog->accept();
+    QCOMPARE(window->GetDocument()->Current().display, QSize(128, 32));
+    QCOMPARE(Text().node.size, QSize(128, 32));
+    QTest::mouseClick(window->Display(), Qt::LeftButton, Qt::NoModifier, {2, 2}); // beside it
+    QCOMPARE(window->Selected(), 0);
+    QVERIFY(window->GetInspector()->Display()->isVisible());
+    choose(window->GetInspector()->Display(), "1920 × 128");
+    QCOMPARE(Text().node.size, QSize(1920, 128)); // it fills the display as before
+    auto* width = window->GetInspector()->Display()->findChildren<NumberField*>().first();
+    width->setFocus();
+    width->selectAll();
+    QTest::keyClicks(width, "64\r");
+    QCOMPARE(window->GetDocument()->Current().display, QSize(64, 128));
+    QVERIFY(Settles());
+    QCOMPARE(window->Display()->Picture().size(), QSize(64, 128));
+    window->GetDocument()->Undo()->undo();
+    QCOMPARE(window->GetDocument()->Current().display, QSize(1920, 128));
 }
 
 void TestWindow::writeProtectedFilesStay()

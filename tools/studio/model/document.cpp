@@ -143,9 +143,11 @@ void Document::Replace(const Sign& next, const QString& itsPath)
     emit Changed();
 }
 
-void Document::New()
+void Document::New(const QSize& display, bool alphaBlend)
 {
     Sign fresh;
+    fresh.display = display;
+    fresh.alphaBlend = alphaBlend;
     AddText(&fresh, NewText(fresh.display, 0));
     Replace(fresh, QString());
 }

@@ -43,7 +43,7 @@ public:
     void Change(const QString& what, Sign after, const QString& merge = QString());
 
     /** A sign with one text, nothing written yet. */
-    void New();
+    void New(const QSize& display = Sign().display, bool alphaBlend = true);
     /** @return false, with one line in @p error, when the scene cannot be read */
     bool Open(const QString& path, QString* error);
     /** Takes over what another studio has left; @p path is the file it is for. */

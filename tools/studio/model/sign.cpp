@@ -190,6 +190,15 @@ void RemoveText(Sign* sign, int id)
     }
 }
 
+void ResizeDisplay(Sign* sign, const QSize& display)
+{
+    for (SignText& text : sign->texts) {
+        if (text.node.pos.isNull() && text.node.size == sign->display)
+            text.node.size = display;
+    }
+    sign->display = display;
+}
+
 QByteArray LayoutKey(const SignText& text)
 {
     const SceneNode& node = text.node;

@@ -77,6 +77,9 @@ void AddText(Sign* sign, SignText text);
 /** Takes the text out, and areas and pages that are empty then. */
 void RemoveText(Sign* sign, int id);
 
+/** Gives the sign another display; areas that fill the old one fill the new one. */
+void ResizeDisplay(Sign* sign, const QSize& display);
+
 /** The wishes that decide how @p text is laid out, as a key. */
 QByteArray LayoutKey(const SignText& text);
 

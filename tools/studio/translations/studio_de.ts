@@ -65,6 +65,41 @@
     </message>
 </context>
 <context>
+    <name>AnimText::DisplayForm</name>
+    <message>
+        <source>Alpha blending</source>
+        <translation>Alpha-Überblendung</translation>
+    </message>
+    <message>
+        <source>Other size</source>
+        <translation>Andere Größe</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>Pictures of 32 bits with transparency. Without it, pictures of 24 bits: black lets the layers below shine through.</source>
+        <translation>Bilder mit 32 Bit und Transparenz. Ohne sie Bilder mit 24 Bit: Schwarz lässt die Ebenen darunter durchscheinen.</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Tafel</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+</context>
+<context>
     <name>AnimText::DisplayView</name>
     <message>
         <source>Display</source>
@@ -188,16 +223,24 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Beginning</source>
-        <translation>Es beginnt</translation>
+        <source>%1 exists already.</source>
+        <translation>%1 ist schon vorhanden.</translation>
     </message>
     <message>
-        <source>Cancelled; nothing was written.</source>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Starting</source>
+        <translation>Beginnt</translation>
+    </message>
+    <message>
+        <source>Canceled; nothing was written.</source>
         <translation>Abgebrochen; nichts wurde geschrieben.</translation>
     </message>
     <message>
-        <source>Made %1.</source>
-        <translation>Fertig: %1</translation>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
     </message>
 </context>
 <context>
@@ -298,6 +341,10 @@
         <source>Letters</source>
         <translation>Zeichen</translation>
     </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::IntegratorView</name>
@@ -376,14 +423,6 @@
 <context>
     <name>AnimText::LayoutForm</name>
     <message>
-        <source>Pages end where words end</source>
-        <translation>Seiten enden, wo Wörter enden</translation>
-    </message>
-    <message>
-        <source>Where reading begins</source>
-        <translation>Wo das Lesen beginnt</translation>
-    </message>
-    <message>
         <source>Left</source>
         <translation>Links</translation>
     </message>
@@ -408,6 +447,34 @@
         <translation>Unten</translation>
     </message>
     <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Padding</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>A text that scrolls has no pages.</source>
+        <translation>Ein Text, der läuft, hat keine Seiten.</translation>
+    </message>
+    <message>
+        <source>Pages end where words end</source>
+        <translation>Seiten enden, wo Wörter enden</translation>
+    </message>
+    <message>
+        <source>Where reading begins</source>
+        <translation>Wo das Lesen beginnt</translation>
+    </message>
+    <message>
         <source>As it is written</source>
         <translation>Wie geschrieben</translation>
     </message>
@@ -420,14 +487,6 @@
         <translation>Alles auf eine Seite</translation>
     </message>
     <message>
-        <source>px</source>
-        <translation>px</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
         <source>Across</source>
         <translation>Waagerecht</translation>
     </message>
@@ -436,20 +495,8 @@
         <translation>Senkrecht</translation>
     </message>
     <message>
-        <source>Padding</source>
-        <translation>Rand</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
         <source>A text that scrolls sideways has no place of its own.</source>
         <translation>Ein Text, der seitwärts läuft, hat keinen festen Platz.</translation>
-    </message>
-    <message>
-        <source>A text that scrolls has no pages.</source>
-        <translation>Ein Text, der läuft, hat keine Seiten.</translation>
     </message>
 </context>
 <context>
@@ -636,10 +683,6 @@
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;New</source>
-        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
@@ -1033,6 +1076,14 @@
         <translation>Auf L&amp;EDs abspielen…</translation>
     </message>
     <message>
+        <source>&amp;New…</source>
+        <translation>&amp;Neu …</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
         <source>Ctrl+Space</source>
         <translation>Ctrl+Space</translation>
     </message>
@@ -1058,6 +1109,17 @@
     <message>
         <source>Motions</source>
         <translation>Bewegungen</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::NewDialog</name>
+    <message>
+        <source>New sign</source>
+        <translation>Neues Schild</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erstellen</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,9 @@ namespace AnimText {
 
 Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     : QScrollArea(parent)
+    , ofText(new QWidget)
+    , ofDisplay(new QWidget)
+    , displayForm(new DisplayForm)
     , text(new TextPanel)
     , motions(new MotionPicker(thumbnails))
     , layoutForm(new LayoutForm)
@@ -19,8 +22,18 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* content = new QWidget(this);
-    auto* layout = new QVBoxLayout(content);
-    layout->setContentsMargins(3 * grid, 2 * grid, 3 * grid, 3 * grid);
+    auto* both = new QVBoxLayout(content);
+    both->setContentsMargins(3 * grid, 2 * grid, 3 * grid, 3 * grid);
+    both->addWidget(ofDisplay);
+    both->addWidget(ofText, 1);
+    auto* display = new QVBoxLayout(ofDisplay);
+    display->setContentsMargins(0, 0, 0, 0);
+    display->setSpacing(grid);
+    display->addWidget(Heading(tr("Display")));
+    display->addWidget(displayForm);
+    display->addStretch(1);
+    auto* layout = new QVBoxLayout(ofText);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(grid);
     const auto section = [&](const QString& words, const QList<QWidget*>& parts) {
         if (layout->count() > 0)
@@ -69,7 +82,7 @@ bool Inspector::eventFilter(QObject* object, QEvent* event)
 {
     const bool answer = QScrollArea::eventFilter(object, event);
     if (object == widget() && event->type() == QEvent::LayoutRequest)
-        setMinimumWidth(widget()->minimumSizeHint().width() +
+        setMinimumWidth(ofText->minimumSizeHint().width() + 6 * grid +
                         verticalScrollBar()->sizeHint().width());
     return answer;
 }
@@ -83,12 +96,15 @@ QLabel* Inspector::Heading(const QString& words)
     return label;
 }
 
-void Inspector::Show(const SignText* shown)
+void Inspector::Show(const Sign& sign, const SignText* shown)
 {
-    widget()->setEnabled(shown != nullptr);
+    ofText->setVisible(shown != nullptr);
+    ofDisplay->setVisible(shown == nullptr);
     text->Show(shown);
-    if (!shown)
+    if (!shown) {
+        displayForm->Show(sign.display, sign.alphaBlend);
         return;
+    }
     motions->Show(*shown);
     layoutForm->Show(*shown);
     for (AttributeForm* form : forms)

@@ -6,6 +6,7 @@
 #define ANIMTEXT_INSPECTOR_H
 
 #include "studio/window/attributeform.h"
+#include "studio/window/displayform.h"
 #include "studio/window/layoutform.h"
 #include "studio/window/motionpicker.h"
 #include "studio/window/textpanel.h"
@@ -21,11 +22,12 @@ class Inspector : public QScrollArea
 public:
     explicit Inspector(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
-    /** Null for none. */
-    void Show(const SignText* text);
+    /** The text @p shown of @p sign; null for none, and then the display is shown. */
+    void Show(const Sign& sign, const SignText* shown);
     void SetFindings(const QList<Finding>& findings);
     TextPanel* Text() const { return text; }
     MotionPicker* Motions() const { return motions; }
+    DisplayForm* Display() const { return displayForm; }
 
 signals:
     void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
@@ -34,8 +36,11 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    QLabel* Heading(const QString& words);
+    static QLabel* Heading(const QString& words);
 
+    QWidget* ofText;    // all that belongs to a text
+    QWidget* ofDisplay; // and what is shown while none is selected
+    DisplayForm* displayForm;
     TextPanel* text;
     MotionPicker* motions;
     LayoutForm* layoutForm;

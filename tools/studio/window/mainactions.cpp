@@ -3,6 +3,7 @@
 #include "studio/window/ledsdialog.h"
 #include "studio/window/looks.h"
 #include "studio/window/mainwindow.h"
+#include "studio/window/newdialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -55,8 +56,8 @@ void MainWindow::MakeActions()
 void MainWindow::MakeFileMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    QAction* fresh = Act(file, tr("&New"), QKeySequence::New, QStringLiteral("document-new"),
-                         [this] { Leave([this] { New(); }); });
+    QAction* fresh = Act(file, tr("&New…"), QKeySequence::New, QStringLiteral("document-new"),
+                         [this] { Leave([this] { ChooseNew(); }); });
     QAction* open = Act(file, tr("&Open…"), QKeySequence::Open, QStringLiteral("document-open"),
                         [this] { ChooseAndOpen(); });
     recent = file->addMenu(tr("Open &recent"));
@@ -287,6 +288,15 @@ void MainWindow::SetPitch(double diameters)
     for (QAction* action : pitches->actions())
         action->setChecked(qFuzzyCompare(action->data().toDouble(), pitch));
     SetLeds(leds->isChecked());
+}
+
+void MainWindow::ChooseNew()
+{
+    auto* dialog = new NewDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { New(dialog->Form()->Size(), dialog->Form()->AlphaBlend()); });
+    dialog->open();
 }
 
 void MainWindow::ChooseAndOpen()

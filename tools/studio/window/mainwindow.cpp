@@ -209,10 +209,8 @@ void MainWindow::Connect()
     inspector->Motions()->List()->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
-    connect(view, &DisplayView::Selected, this, [this](int id) {
-        if (id != 0)
-            Select(id);
-    });
+    connect(view, &DisplayView::Selected, this, &MainWindow::Select);
+    connect(inspector->Display(), &DisplayForm::Edited, this, &MainWindow::ChangeDisplay);
     connect(view, &DisplayView::DisplayDoubleClicked, this,
             [this] { inspector->Text()->BeginTyping(); });
     connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
@@ -301,9 +299,9 @@ bool MainWindow::Open(const QString& path)
     return true;
 }
 
-void MainWindow::New()
+void MainWindow::New(const QSize& display, bool alphaBlend)
 {
-    document.New();
+    document.New(display, alphaBlend);
     notices->Set(NoticeBar::Disk, QString());
     notices->Set(NoticeBar::Save, QString());
     inspector->Text()->BeginTyping();
@@ -312,7 +310,7 @@ void MainWindow::New()
 int MainWindow::CurrentPage() const
 {
     const SignText* text = document.Current().Find(selected);
-    return text ? text->page : 0;
+    return text ? text->page : qBound(0, shownPage, qMax(0, document.Current().PageCount() - 1));
 }
 
 void MainWindow::Select(int id)
@@ -321,6 +319,8 @@ void MainWindow::Select(int id)
         return;
     const int page = CurrentPage();
     selected = id;
+    if (id == 0)
+        shownPage = page;
     if (page != CurrentPage() && !transport->IsSchedule())
         playback.Seek(0);
     Refresh();
@@ -330,13 +330,13 @@ void MainWindow::Select(int id)
 void MainWindow::Refresh()
 {
     const Sign& sign = document.Current();
-    if (!sign.Find(selected))
+    if (selected != 0 && !sign.Find(selected))
         selected = sign.texts.isEmpty() ? 0 : sign.texts.last().id;
     scenes->Show(sign);
     scenes->Select(selected);
     const SignText* text = sign.Find(selected);
-    inspector->Show(text);
-    const QString title = text ? text->Title() : QString();
+    inspector->Show(sign, text);
+    const QString title = text ? text->Title() : tr("Display");
     SetTitle(findChild<QDockWidget*>(QStringLiteral("text")), title.isEmpty() ? tr("Text") : title);
     QVector<AreaFrame> frames;
     for (const SignText& text : sign.texts) {
@@ -453,6 +453,15 @@ void MainWindow::AddNewText(bool onNewPage)
     inspector->Text()->BeginTyping();
 }
 
+void MainWindow::ChangeDisplay(int gesture)
+{
+    Sign after = document.Current();
+    ResizeDisplay(&after, inspector->Display()->Size());
+    after.alphaBlend = inspector->Display()->AlphaBlend();
+    document.Change(tr("Display"), after,
+                    gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
+}
+
 void MainWindow::DuplicateSelected()
 {
     Sign after = document.Current();
@@ -499,6 +508,10 @@ bool MainWindow::LeaveField(int key)
     QWidget* field = focusWidget();
     const bool isNumber = qobject_cast<QAbstractSpinBox*>(field) != nullptr;
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (field == view && key == Qt::Key_Escape && selected != 0) {
+        Select(0);
+        return true;
+    }
     if (field == view || (key != Qt::Key_Escape && !(isNumber && isEnter)))
         return false;
     view->setFocus();

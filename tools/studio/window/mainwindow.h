@@ -38,7 +38,7 @@ public:
 
     /** Opens the scene @p path; says so in the window when that fails. */
     bool Open(const QString& path);
-    void New();
+    void New(const QSize& display = Sign().display, bool alphaBlend = true);
 
     Document* GetDocument() { return &document; }
     Rehearsal* GetRehearsal() { return &rehearsal; }
@@ -90,6 +90,8 @@ private:
     void AddNewText(bool onNewPage);
     void RemoveSelected();
     void DuplicateSelected();
+    void ChooseNew();
+    void ChangeDisplay(int gesture);
     void ChooseAndOpen();
     bool Save();
     bool SaveAs();
@@ -113,7 +115,8 @@ private:
     std::unique_ptr<Rehearsal> compared; // with another library
     Thumbnails thumbnails;
     Playback playback;
-    int selected = 0;
+    int selected = 0;  // id of a text; 0 for the display
+    int shownPage = 0; // while no text is selected
     Part part;
     QTimer dimming;
     QList<Finding> found;
