@@ -61,6 +61,7 @@ private slots:
     void staleStatesGo();
     void writeProtectedFilesStay();
     void displaysHaveSizes();
+    void fitsSmallScreens();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
     void leavingLosesNothing();
@@ -315,6 +316,21 @@ void TestWindow::displaysHaveSizes()
     QCOMPARE(window->Display()->Picture().size(), QSize(64, 128));
     window->GetDocument()->Undo()->undo();
     QCOMPARE(window->GetDocument()->Current().display, QSize(1920, 128));
+}
+
+void TestWindow::fitsSmallScreens()
+{
+    auto* findings = window->findChild<QDockWidget*>("findings");
+    auto* timeline = window->findChild<Timeline*>();
+    for (const QSize& size : {QSize(800, 480), QSize(1024, 600), QSize(1600, 900)}) {
+        // Docks that stand side by side hold it up at first.
+        QTRY_VERIFY((window->resize(size), window->size() == size));
+        QTRY_COMPARE(window->tabifiedDockWidgets(findings).isEmpty(), size.width() > 1200);
+        findings->raise();
+        QTRY_VERIFY(window->Findings()->widget()->visibleRegion().boundingRect().height() > 30);
+        QVERIFY(timeline->viewport()->visibleRegion().boundingRect().height() >= 60);
+        QVERIFY(window->Display()->width() >= 300);
+    }
 }
 
 void TestWindow::writeProtectedFilesStay()

@@ -112,6 +112,7 @@ QWidget* AttributeForm::MakeWidget(const Attribute& attribute, Field* field)
         auto* box = new QComboBox(this);
         for (const QString& choice : ChoicesOf(attribute))
             box->addItem(choice);
+        LetShrink(box);
         field->show = [box, &attribute](const SceneNode& node) {
             const QSignalBlocker blocker(box);
             box->setCurrentIndex(NumberOf(node, attribute) - attribute.least);

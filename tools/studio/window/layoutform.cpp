@@ -13,12 +13,14 @@ LayoutForm::LayoutForm(QWidget* parent)
     , valign(new QComboBox(this))
     , fit(new QComboBox(this))
     , padding(new NumberField(this))
-    , keepsWords(new QCheckBox(tr("Pages end where words end"), this))
+    , keepsWords(new QCheckBox(tr("Break pages between words"), this))
 {
     // In the order of the enumerations.
-    align->addItems({tr("Where reading begins"), tr("Left"), tr("Center"), tr("Right")});
+    align->addItems({tr("Reading start"), tr("Left"), tr("Center"), tr("Right")});
     valign->addItems({tr("Top"), tr("Middle"), tr("Bottom")});
-    fit->addItems({tr("As it is written"), tr("As high as the area"), tr("All on one page")});
+    fit->addItems({tr("Sizes as set"), tr("Fit the height"), tr("Fit height and width")});
+    for (QComboBox* box : {fit, align, valign})
+        LetShrink(box);
     padding->SetUnit(tr("px"));
     padding->SetLimits(0, 1000);
 
@@ -28,10 +30,10 @@ LayoutForm::LayoutForm(QWidget* parent)
     layout->setVerticalSpacing(grid);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     layout->addRow(tr("Size"), fit);
-    layout->addRow(tr("Across"), align);
-    layout->addRow(tr("Up and down"), valign);
+    layout->addRow(tr("Horizontal"), align);
+    layout->addRow(tr("Vertical"), valign);
     layout->addRow(tr("Padding"), padding);
-    layout->addRow(QString(), keepsWords);
+    layout->addRow(keepsWords);
 
     for (QWidget* field : QList<QWidget*>{fit, align, valign, padding})
         layout->labelForField(field)->setMinimumWidth(LabelWidth(font()));
@@ -41,8 +43,8 @@ LayoutForm::LayoutForm(QWidget* parent)
         emit Edited(field->accessibleName(), merge, [set](SignText* text) { set(&text->source); });
     };
     fit->setAccessibleName(tr("Size"));
-    align->setAccessibleName(tr("Across"));
-    valign->setAccessibleName(tr("Up and down"));
+    align->setAccessibleName(tr("Horizontal"));
+    valign->setAccessibleName(tr("Vertical"));
     padding->setAccessibleName(tr("Padding"));
     keepsWords->setAccessibleName(tr("Pages"));
     connect(fit, qOverload<int>(&QComboBox::activated), this, [=](int index) {
@@ -75,8 +77,7 @@ void LayoutForm::Show(const SignText& text)
 
     const bool isLine = IsScroll(text.node) && MotionNumber(text.node) < 2;
     align->setEnabled(!isLine);
-    align->setToolTip(isLine ? tr("A text that scrolls sideways has no place of its own.")
-                             : QString());
+    align->setToolTip(isLine ? tr("A text that scrolls sideways is not aligned.") : QString());
     keepsWords->setEnabled(!IsScroll(text.node));
     keepsWords->setToolTip(IsScroll(text.node) ? tr("A text that scrolls has no pages.")
                                                : QString());

@@ -169,9 +169,15 @@ QFont TabularFont(const QFont& font, int points)
     return tabular;
 }
 
+void LetShrink(QComboBox* box)
+{
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(8);
+}
+
 int LabelWidth(const QFont& font)
 {
-    constexpr int letters = 16;
+    constexpr int letters = 12;
     return (letters * QFontMetrics(font).averageCharWidth() + grid - 1) / grid * grid;
 }
 

@@ -6,6 +6,7 @@
 #define ANIMTEXT_LOOKS_H
 
 #include <QColor>
+#include <QComboBox>
 #include <QFont>
 #include <QIcon>
 #include <QPalette>
@@ -15,6 +16,9 @@ namespace AnimText {
 
 constexpr int grid = 4;             ///< points; distances are multiples of it
 constexpr int markWidth = 4 * grid; ///< of what stands between a label and its field
+
+/** Lets @p box be narrower than its longest choice. */
+void LetShrink(QComboBox* box);
 
 /** Points for the labels of a form, so that all forms stand in line. */
 int LabelWidth(const QFont& font);

@@ -271,6 +271,7 @@ void MainWindow::RestoreLayout()
     restoreState(settings.value(QStringLiteral("docks")).toByteArray());
     findChild<QSplitter*>(QStringLiteral("centre"))
         ->restoreState(settings.value(QStringLiteral("centre")).toByteArray());
+    Arrange();
     SetPitch(settings.value(QStringLiteral("pitch"), standardPitch).toDouble());
     leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
 }
@@ -550,6 +551,37 @@ void MainWindow::ToggleLoop()
     playback.SetLoop(page.first, page.second);
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    // Docks are not moved while they are being laid out.
+    QMetaObject::invokeMethod(this, &MainWindow::Arrange, Qt::QueuedConnection);
+}
+
+/** Where the window is narrow, the docks become tabs, so that the display keeps its room. */
+void MainWindow::Arrange()
+{
+    constexpr int roomForDisplay = 440;
+    constexpr int roomForScene = 200;
+    const int available = isVisible() ? width() : qMin(width(), screen()->availableSize().width());
+    const bool narrow = available < roomForScene + roomForDisplay + inspector->minimumWidth();
+    if (narrow == isNarrow)
+        return;
+    isNarrow = narrow;
+    if (!narrow) {
+        restoreState(wideDocks);
+        return;
+    }
+    wideDocks = saveState();
+    auto* text = findChild<QDockWidget*>(QStringLiteral("text"));
+    for (const char* name : {"scene", "findings"}) {
+        auto* dock = findChild<QDockWidget*>(QLatin1String(name));
+        if (!dock->isFloating())
+            tabifyDockWidget(text, dock);
+    }
+    text->raise();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (!mayClose && (document.IsModified() || document.IsSaving())) {
@@ -562,7 +594,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("docks"), saveState());
+    settings.setValue(QStringLiteral("docks"), isNarrow ? wideDocks : saveState());
     settings.setValue(QStringLiteral("centre"),
                       findChild<QSplitter*>(QStringLiteral("centre"))->saveState());
     settings.setValue(QStringLiteral("leds"), leds->isChecked());

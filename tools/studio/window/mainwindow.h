@@ -60,6 +60,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -76,6 +77,7 @@ private:
                  const std::function<void()>& act);
     void Connect();
     void RestoreLayout();
+    void Arrange();
 
     void Refresh();
     void Rehearse();
@@ -122,6 +124,8 @@ private:
     QList<Finding> found;
     std::function<void()> afterSave; // what waits until all is saved
     bool mayClose = false;
+    bool isNarrow = false;
+    QByteArray wideDocks; // where the docks are while the window is not narrow
     static constexpr double standardPitch = 1.5;
     double pitch = standardPitch; // from lamp to lamp, in their diameters
 

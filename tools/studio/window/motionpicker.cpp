@@ -116,6 +116,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     for (const QString& english : motions->Families())
         family->addItem(TranslatedMotion(english), english);
     family->setAccessibleName(tr("Family of motions"));
+    LetShrink(family);
     filtered->setSourceModel(motions);
     list->setModel(filtered);
     list->setItemDelegate(new MotionCard(list));

@@ -19,6 +19,7 @@ NumberField::NumberField(QWidget* parent)
     : QDoubleSpinBox(parent)
 {
     setDecimals(0);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setKeyboardTracking(false);
     setFocusPolicy(Qt::StrongFocus);
     setAccelerated(true);
@@ -58,6 +59,15 @@ void NumberField::stepBy(int steps)
 {
     const bool tens = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
     QDoubleSpinBox::stepBy(tens ? steps * 10 : steps);
+}
+
+QSize NumberField::minimumSizeHint() const
+{
+    const QSize largest = QDoubleSpinBox::minimumSizeHint();
+    const int common =
+        fontMetrics().horizontalAdvance(prefix() + QStringLiteral("0000") + suffix());
+    constexpr int arrows = 28; // and the frame
+    return {std::min(largest.width(), common + arrows), largest.height()};
 }
 
 void NumberField::wheelEvent(QWheelEvent* event)

@@ -25,6 +25,8 @@ public:
     void ShowNumber(int number);
 
     void stepBy(int steps) override;
+    /** Room for common numbers, not for the largest. */
+    QSize minimumSizeHint() const override;
 
 signals:
     /** @param gesture the same number as long as one drag goes on, or the wheel turns */

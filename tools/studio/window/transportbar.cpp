@@ -10,6 +10,8 @@
 namespace AnimText {
 namespace {
 
+constexpr int narrowWidth = 520; // points; below it there is no room for ticks and spare buttons
+
 /** Words that ask for no room: where it is short, what stands behind the last "·" is all. */
 class ShortLabel : public QLabel
 {
@@ -50,6 +52,7 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     loop = Button(QStringLiteral("media-playlist-repeat"),
                   tr("Loop the page; Shift+drag over the timeline loops a range"), tr("R"));
     loop->setCheckable(true);
+    spare = {toStart, toEnd}; // Home and End do the same
     connect(toStart, &QToolButton::clicked, this, [=] { playback->Seek(0); });
     connect(back, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() - 1); });
     connect(play, &QToolButton::clicked, playback, &Playback::Toggle);
@@ -65,8 +68,7 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
             [this](int index) { emit ScheduleChanged(index == 1); });
 
     time->setFont(TabularFont(font(), 1));
-    time->setMinimumWidth(
-        time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s  tick 00000")));
+    time->setMinimumWidth(time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s")));
     ends->setFont(TabularFont(font()));
 
     auto* layout = new QHBoxLayout(this);
@@ -100,9 +102,18 @@ QToolButton* TransportBar::Button(const QString& icon, const QString& name, cons
 
 void TransportBar::ShowTime()
 {
-    time->setText(tr("%1  tick %2")
-                      .arg(SecondsText(qint64(playback->Tick()) * tickLength))
-                      .arg(playback->Tick()));
+    const QString seconds = SecondsText(qint64(playback->Tick()) * tickLength);
+    const QString both = tr("%1  tick %2").arg(seconds).arg(playback->Tick());
+    const bool isNarrow = width() < narrowWidth;
+    time->setText(isNarrow ? seconds : both);
+    time->setToolTip(both);
+}
+
+void TransportBar::resizeEvent(QResizeEvent*)
+{
+    for (QToolButton* button : spare)
+        button->setVisible(width() >= narrowWidth);
+    ShowTime();
 }
 
 void TransportBar::ShowPace()

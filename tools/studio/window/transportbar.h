@@ -33,12 +33,16 @@ signals:
     void ScheduleChanged(bool schedule);
     void LoopToggled();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QToolButton* Button(const QString& icon, const QString& name, const QString& key);
     void ShowTime();
     void ShowPace();
 
     Playback* playback;
+    QList<QToolButton*> spare; // hidden where there is no room for them
     QToolButton* play;
     QToolButton* loop;
     QLabel* time;
