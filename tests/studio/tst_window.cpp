@@ -60,6 +60,7 @@ private slots:
     void keysMoveInTime();
     void staleStatesGo();
     void writeProtectedFilesStay();
+    void zoomsPansAndMeasures();
     void displaysHaveSizes();
     void fitsSmallScreens();
     void mouseMovesAndSizesAreas();
@@ -106,6 +107,7 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     window->GetPlayback()->Seek(11);
     QVERIFY(Settles());
     QCOMPARE(window->Display()->Picture(), window->GetRehearsal()->Picture(11));
+    window->Display()->SetZoom(2);
     QCOMPARE(window->Display()->GrabPicture().size(), window->Display()->Picture().size());
 
     const QString path = folder.Path("sign.json");
@@ -284,6 +286,54 @@ void TestWindow::staleStatesGo()
     window->GetDocument()->Undo()->undo();
     QVERIFY(Settles());
     QVERIFY(window->GetPlayback()->Tick() < window->GetPlayback()->Length());
+}
+
+void TestWindow::zoomsPansAndMeasures()
+{
+    QVERIFY(Settles());
+    DisplayView* view = window->Display();
+    auto* scroll = qobject_cast<QScrollArea*>(view->parentWidget()->parentWidget());
+    QVERIFY(view->Scale() * 512 > 0.8 * scroll->viewport()->width()); // it fits
+    QVERIFY(view->Scale() * 512 <= scroll->viewport()->width());
+    const QPointF place = view->ToWidget().map(QPointF(100.5, 20.5));
+    const QPoint seen = view->mapToParent(place.toPoint());
+    for (int i = 0; i < 4; ++i) {
+        const QPointF at = view->mapFromParent(seen);
+        QWheelEvent wheel(at, view->mapToGlobal(at.toPoint()), {}, {0, 120}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view, &wheel);
+        QVERIFY2(qAbs(view->PixelAt(view->mapFromParent(seen)).x() - 100) <= 1, "stays in place");
+    }
+    QVERIFY(view->Scale() >= 5);
+    auto* bar = scroll->horizontalScrollBar();
+    const auto drag = [&](Qt::MouseButton button, const QPoint& by) {
+        const QPoint from = view->mapFromParent(QPoint(200, 100));
+        QTest::mousePress(view, button, Qt::NoModifier, from);
+        QMouseEvent move(QEvent::MouseMove, from + by, view->mapToGlobal(from + by), button, button,
+                         Qt::NoModifier);
+        QApplication::sendEvent(view, &move);
+        QTest::mouseRelease(view, button, Qt::NoModifier, from + by);
+    };
+    int before = bar->value();
+    drag(Qt::MiddleButton, {-40, 0});
+    QCOMPARE(bar->value(), before + 40);
+    before = bar->value();
+    const QRect area(Text().node.pos, Text().node.size);
+    view->setFocus();
+    QTest::keyPress(view, Qt::Key_Space);
+    drag(Qt::LeftButton, {-30, 0});
+    QTest::keyRelease(view, Qt::Key_Space);
+    QCOMPARE(bar->value(), before + 30);
+    QVERIFY(!window->GetPlayback()->IsPlaying());
+    QCOMPARE(QRect(Text().node.pos, Text().node.size), area);
+
+    view->SetZoom(0);
+    const double fitted = view->Scale();
+    auto* leds = window->findChild<QAction*>("leds");
+    leds->setChecked(true);
+    QVERIFY(view->Scale() >= PictureView::smallestLamp); // lamps can be told apart
+    leds->setChecked(false);
+    QCOMPARE(view->Scale(), fitted);
 }
 
 void TestWindow::displaysHaveSizes()

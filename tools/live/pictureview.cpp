@@ -15,6 +15,8 @@ namespace {
 constexpr int largestZoom = 64;
 constexpr double largestPitch = 4;
 constexpr int chequer = 8; // points of the desk
+constexpr double leastFilled = 0.8;
+constexpr double largestSoftScale = 4;
 
 /** The largest rows in which two pictures of one size and format differ; empty when in none. */
 QRect Difference(const QImage& one, const QImage& other)
@@ -106,7 +108,13 @@ void PictureView::SetZoom(int wanted)
 void PictureView::SetPitch(double wanted)
 {
     pitch = wanted > 0 ? qBound(1.0, wanted, largestPitch) : 0;
-    update();
+    LookChanged(); // lamps are whole
+}
+
+void PictureView::SetFillsRoom(bool fills)
+{
+    fillsRoom = fills;
+    LookChanged();
 }
 
 void PictureView::SetBeneath(Beneath wanted)
@@ -137,7 +145,9 @@ double PictureView::Scale() const
         return 1;
     const double fit =
         std::min(width() * ratio / picture.width(), height() * ratio / picture.height());
-    return fit < 1 ? fit : std::min(std::floor(fit), std::floor(largestZoom * ratio));
+    const double whole = std::min(std::floor(fit), std::floor(largestZoom * ratio));
+    const bool wastesRoom = fillsRoom && whole < leastFilled * fit && pitch <= 0; // lamps are alike
+    return fit < 1 || (wastesRoom && fit < largestSoftScale) ? fit : whole;
 }
 
 bool PictureView::ShowsLamps() const
@@ -183,7 +193,7 @@ QSize PictureView::minimumSizeHint() const
 /** The pixels of @p part of the picture as squares or lamps. */
 QImage PictureView::Magnified(const QRect& part) const
 {
-    const int size = int(Scale());
+    const int size = int(std::ceil(Scale()));
     const std::vector<quint32> light = ShowsLamps() ? Lamp(size, pitch) : std::vector<quint32>();
     QImage large(part.size() * size, light.empty() ? pixels.format() : QImage::Format_RGB32);
     large.fill(Qt::black);
@@ -223,14 +233,18 @@ void PictureView::Paint(QPainter* painter) const
         painter->drawImage(place.topLeft(), pixels.scaled(place.size(), Qt::IgnoreAspectRatio,
                                                           Qt::SmoothTransformation));
     } else {
-        const int scale = int(Scale());
+        const double scale = Scale();
         const QRect seen = place & painter->clipBoundingRect().toAlignedRect();
         const QRect inside = seen.translated(-place.topLeft());
-        const QRect part = QRect(QPoint(inside.left() / scale, inside.top() / scale),
-                                 QPoint(inside.right() / scale, inside.bottom() / scale)) &
-                           picture.rect();
+        const QRect part =
+            QRect(QPoint(int(inside.left() / scale), int(inside.top() / scale)),
+                  QPoint(int(inside.right() / scale), int(inside.bottom() / scale))) &
+            picture.rect();
+        const QRectF target(QPointF(place.topLeft()) + QPointF(part.topLeft()) * scale,
+                            QSizeF(part.size()) * scale);
+        painter->setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
         if (!seen.isEmpty() && !part.isEmpty())
-            painter->drawImage(place.topLeft() + part.topLeft() * scale, Magnified(part));
+            painter->drawImage(target, Magnified(part));
     }
     if (dimmed)
         painter->fillRect(
@@ -239,7 +253,7 @@ void PictureView::Paint(QPainter* painter) const
 
 QImage PictureView::GrabPicture() const
 {
-    if (picture.isNull() || Scale() < 1 || ShowsLamps())
+    if (picture.isNull() || Scale() != std::floor(Scale()) || ShowsLamps())
         return QImage();
     QImage screen(Place().marginsAdded(QMargins(0, 0, Place().x(), Place().y())).size(),
                   QImage::Format_RGB32);

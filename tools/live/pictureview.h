@@ -34,7 +34,7 @@ public:
     /** Points of the desk to a pixel of the picture, 1 .. 64; 0 fits it into the widget. */
     int Zoom() const { return zoom; }
     void SetZoom(int zoom);
-    /** The screen's own pixels to a pixel of the picture: whole, or below 1 when it is to fit. */
+    /** The screen's own pixels to a pixel of the picture; whole unless it is to fit. */
     double Scale() const;
 
     /**
@@ -44,6 +44,12 @@ public:
     double Pitch() const { return pitch; }
     void SetPitch(double pitch);
     static constexpr int smallestLamp = 4; ///< the screen's own pixels from lamp to lamp
+
+    /**
+     * Whether a picture that is to fit fills the room: where whole numbers would leave a fifth of
+     * it unused, up to four times its size, its pixels become squares with soft edges.
+     */
+    void SetFillsRoom(bool fills);
 
     void SetBeneath(Beneath beneath);
     /** What is seen around the picture; a grey by which colours are judged right. */
@@ -58,7 +64,7 @@ public:
 
     /**
      * The picture read back from what the widget paints, without what lies over it: a test compares
-     * it with Picture(). Null where lamps or a scale below 1 leave no pixel as it is.
+     * it with Picture(). Null where lamps or a scale that is not whole leave no pixel as it is.
      */
     QImage GrabPicture() const;
 
@@ -90,6 +96,7 @@ private:
     double pitch = 0;
     double lastScale = 0;
     bool dimmed = false;
+    bool fillsRoom = false;
 };
 
 } // namespace AnimText

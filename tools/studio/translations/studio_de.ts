@@ -109,6 +109,10 @@
         <source>What the sign shows at the current tick</source>
         <translation>Was das Schild beim gewählten Takt zeigt</translation>
     </message>
+    <message>
+        <source>x %1  y %2  ·  %3 × %4 px</source>
+        <translation>x %1  y %2  ·  %3 × %4 px</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::Document</name>
@@ -467,36 +471,36 @@
         <translation>Ein Text, der läuft, hat keine Seiten.</translation>
     </message>
     <message>
-        <source>Pages end where words end</source>
-        <translation>Seiten enden, wo Wörter enden</translation>
+        <source>Break pages between words</source>
+        <translation>Seiten zwischen Wörtern umbrechen</translation>
     </message>
     <message>
-        <source>Where reading begins</source>
-        <translation>Wo das Lesen beginnt</translation>
+        <source>Reading start</source>
+        <translation>Leseanfang</translation>
     </message>
     <message>
-        <source>As it is written</source>
-        <translation>Wie geschrieben</translation>
+        <source>Sizes as set</source>
+        <translation>Größen wie gesetzt</translation>
     </message>
     <message>
-        <source>As high as the area</source>
-        <translation>So hoch wie der Bereich</translation>
+        <source>Fit the height</source>
+        <translation>An Höhe anpassen</translation>
     </message>
     <message>
-        <source>All on one page</source>
-        <translation>Alles auf eine Seite</translation>
+        <source>Fit height and width</source>
+        <translation>An Höhe und Breite anpassen</translation>
     </message>
     <message>
-        <source>Across</source>
-        <translation>Waagerecht</translation>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
     </message>
     <message>
-        <source>Up and down</source>
-        <translation>Senkrecht</translation>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
     </message>
     <message>
-        <source>A text that scrolls sideways has no place of its own.</source>
-        <translation>Ein Text, der seitwärts läuft, hat keinen festen Platz.</translation>
+        <source>A text that scrolls sideways is not aligned.</source>
+        <translation>Ein seitlich laufender Text wird nicht ausgerichtet.</translation>
     </message>
 </context>
 <context>
@@ -825,10 +829,6 @@
         <translation>Vergrößerung</translation>
     </message>
     <message>
-        <source>Zoom (Ctrl+0, Ctrl++, Ctrl+-)</source>
-        <translation>Vergrößerung (Strg+0, Strg++, Strg+-)</translation>
-    </message>
-    <message>
         <source>Fit</source>
         <translation>Einpassen</translation>
     </message>
@@ -1082,6 +1082,18 @@
     <message>
         <source>Display</source>
         <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation>&amp;Lineale</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Zoom (Ctrl+wheel, Ctrl+0, Ctrl++, Ctrl+-)</source>
+        <translation>Zoom (Strg+Mausrad, Ctrl+0, Ctrl++, Ctrl+-)</translation>
     </message>
     <message>
         <source>Ctrl+Space</source>

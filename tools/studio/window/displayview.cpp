@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace AnimText {
 namespace {
@@ -12,6 +13,9 @@ namespace {
 constexpr int reach = 6;     // points within which the mouse takes hold of an edge
 constexpr int snapReach = 6; // points within which edges attract one another
 constexpr int handle = 6;    // points
+constexpr int rulerWidth = 18;
+constexpr int numberDistance = 44; // from number to number of a ruler
+constexpr int wheelStep = 120;     // eighths of a degree
 
 } // namespace
 
@@ -39,6 +43,12 @@ void DisplayView::SetSelected(int id)
 void DisplayView::SetShowsFrames(bool all)
 {
     showsAll = all;
+    update();
+}
+
+void DisplayView::SetShowsRulers(bool always)
+{
+    showsRulers = always;
     update();
 }
 
@@ -146,10 +156,93 @@ void DisplayView::PaintOverlay(QPainter* painter)
     painter->setPen(QPen(QColor(255, 0, 160), 1));
     for (const QLine& guide : guides)
         painter->drawLine(map.map(QLineF(guide)));
+    const AreaFrame* chosen = Find(selected);
+    if (showsRulers || dragging) {
+        PaintRuler(painter, true, chosen ? chosen->rect : QRect());
+        PaintRuler(painter, false, chosen ? chosen->rect : QRect());
+    }
+    if (dragging && chosen)
+        PaintMeasures(painter, chosen->rect);
+}
+
+/** Along the upper or left edge of what is seen, with the extent of @p area marked. */
+void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& area) const
+{
+    const QRectF seen = visibleRegion().boundingRect();
+    const QTransform map = ToWidget();
+    const double scale = map.m11();
+    const QRectF band(seen.topLeft(), horizontal ? QSizeF(seen.width(), rulerWidth)
+                                                 : QSizeF(rulerWidth, seen.height()));
+    const auto place = [&](double pixel) {
+        return horizontal ? map.map(QPointF(pixel, 0)).x() : map.map(QPointF(0, pixel)).y();
+    };
+    const auto line = [&](double at, double length) {
+        painter->drawLine(horizontal ? QLineF(at, band.bottom() - length, at, band.bottom())
+                                     : QLineF(band.right() - length, at, band.right(), at));
+    };
+    const auto stretch = [&](double from, double to) {
+        return horizontal ? QRectF(from, band.top(), to - from, rulerWidth)
+                          : QRectF(band.left(), from, rulerWidth, to - from);
+    };
+    painter->fillRect(band, palette().color(QPalette::Window));
+    if (!area.isEmpty()) {
+        QColor accent = palette().color(QPalette::Highlight);
+        accent.setAlpha(90);
+        const int first = horizontal ? area.x() : area.y();
+        painter->fillRect(
+            stretch(place(first), place(first + (horizontal ? area.width() : area.height()))) &
+                band,
+            accent);
+    }
+    painter->setPen(palette().color(QPalette::WindowText));
+    QFont small = font();
+    small.setPointSizeF(qMax(6.0, small.pointSizeF() - 2));
+    painter->setFont(small);
+    int step = 1; // 1, 2, 5, 10, 20, ... pixels
+    for (int i = 0; step * scale < numberDistance; ++i)
+        step = i % 3 == 1 ? step / 2 * 5 : step * 2;
+    const int side = horizontal ? Picture().width() : Picture().height();
+    for (int pixel = 0; pixel <= side; pixel += step) {
+        const double at = std::round(place(pixel)) + 0.5;
+        line(at, rulerWidth / 2.0);
+        if (horizontal)
+            painter->drawText(QPointF(at + 3, band.bottom() - 4), QString::number(pixel));
+        else
+            painter->drawText(QRectF(band.left() + 1, at + 1, rulerWidth - 2, numberDistance),
+                              int(Qt::AlignHCenter | Qt::TextWrapAnywhere), QString::number(pixel));
+    }
+}
+
+/** Place and size, beside the area that is dragged. */
+void DisplayView::PaintMeasures(QPainter* painter, const QRect& area) const
+{
+    const QString words = tr("x %1  y %2  ·  %3 × %4 px")
+                              .arg(area.x())
+                              .arg(area.y())
+                              .arg(area.width())
+                              .arg(area.height());
+    painter->setFont(font());
+    QRectF box(QPointF(),
+               QSizeF(fontMetrics().horizontalAdvance(words) + 16, fontMetrics().height() + 8));
+    const QRectF seen = visibleRegion().boundingRect();
+    const QRectF rect = ToWidget().mapRect(QRectF(area));
+    box.moveTopLeft({rect.left(), rect.bottom() + 8});
+    if (box.bottom() > seen.bottom())
+        box.moveBottom(qMin(rect.top(), seen.bottom()) - 8);
+    box.moveLeft(qBound(seen.left(), box.left(), qMax(seen.left(), seen.right() - box.width())));
+    painter->fillRect(box, palette().color(QPalette::ToolTipBase));
+    painter->setPen(palette().color(QPalette::ToolTipText));
+    painter->drawText(box, Qt::AlignCenter, words);
 }
 
 void DisplayView::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() == Qt::MiddleButton || (spaceHeld && event->button() == Qt::LeftButton)) {
+        panning = true;
+        panFrom = event->globalPos();
+        setCursor(Qt::ClosedHandCursor);
+        return;
+    }
     if (event->button() != Qt::LeftButton)
         return;
     const QPointF point = event->localPos();
@@ -171,6 +264,12 @@ void DisplayView::mousePressEvent(QMouseEvent* event)
 
 void DisplayView::mouseMoveEvent(QMouseEvent* event)
 {
+    if (panning) {
+        hasPanned = true;
+        emit Panned(event->globalPos() - panFrom);
+        panFrom = event->globalPos();
+        return;
+    }
     const QPointF point = event->localPos();
     if (dragging) {
         const bool snaps = !(event->modifiers() & Qt::ControlModifier);
@@ -204,8 +303,46 @@ void DisplayView::mouseMoveEvent(QMouseEvent* event)
 void DisplayView::mouseReleaseEvent(QMouseEvent*)
 {
     dragging = false;
+    panning = false;
+    unsetCursor();
     guides.clear();
     update();
+}
+
+void DisplayView::wheelEvent(QWheelEvent* event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        event->ignore(); // it scrolls
+        return;
+    }
+    wheelTurn += event->angleDelta().y();
+    const int steps = wheelTurn / wheelStep; // touchpads turn by less
+    wheelTurn %= wheelStep;
+    if (steps != 0)
+        emit ZoomWanted(steps, event->position());
+}
+
+void DisplayView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier) {
+        PictureView::keyPressEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat())
+        return;
+    spaceHeld = true;
+    hasPanned = false;
+}
+
+void DisplayView::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space || event->isAutoRepeat() || !spaceHeld) {
+        PictureView::keyReleaseEvent(event);
+        return;
+    }
+    spaceHeld = false;
+    if (!hasPanned)
+        emit PlayWanted();
 }
 
 void DisplayView::mouseDoubleClickEvent(QMouseEvent* event)

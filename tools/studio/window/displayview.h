@@ -33,6 +33,8 @@ public:
     void SetSelected(int id);
     /** Frames around all areas; else only around the one under the mouse. */
     void SetShowsFrames(bool all);
+    /** Rulers in pixels of the display, at the edges of what is seen; else only during a drag. */
+    void SetShowsRulers(bool always);
     /** Pixels that differ from another picture are marked; null for none. */
     void SetCompared(const QImage& other);
     /** How many pixels differ from it. */
@@ -46,6 +48,12 @@ signals:
     /** @param gesture the same number as long as the mouse holds on */
     void AreaChanged(int id, const QRect& rect, int gesture);
     void DisplayDoubleClicked();
+    /** Wheel with Ctrl: @p steps nearer, about the point @p about of the widget. */
+    void ZoomWanted(int steps, const QPointF& about);
+    /** The display is dragged: middle button, or Space and the left one. */
+    void Panned(const QPoint& by);
+    /** Space, and nothing was dragged. */
+    void PlayWanted();
 
 protected:
     void PaintOverlay(QPainter* painter) override;
@@ -54,6 +62,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
     const AreaFrame* Find(int id) const;
@@ -62,6 +73,8 @@ private:
     QRect Dragged(const QPoint& by, bool snaps);
     int Snapped(int place, bool horizontal) const;
     void FindDifferences();
+    void PaintRuler(QPainter* painter, bool horizontal, const QRect& area) const;
+    void PaintMeasures(QPainter* painter, const QRect& area) const;
 
     QVector<AreaFrame> frames;
     int selected = 0;
@@ -70,6 +83,12 @@ private:
     QImage compared;
     QVector<QPoint> differences;
 
+    bool showsRulers = false;
+    bool spaceHeld = false;
+    bool panning = false;
+    bool hasPanned = false; // while Space was held
+    int wheelTurn = 0;      // that has not made a step yet
+    QPoint panFrom;         // of the screen
     bool dragging = false;
     int gesture = 0;
     QPoint grabbed;        // where the mouse took hold, pixels of the display

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QSettings>
 #include <QToolBar>
 #include <QToolButton>
@@ -156,10 +157,9 @@ void MainWindow::MakeViewMenu()
 {
     QMenu* look = menuBar()->addMenu(tr("&View"));
     Act(look, tr("&Fit"), QKeySequence(tr("Ctrl+0")), QString(), [this] { SetZoom(0); });
-    Act(look, tr("Zoom &in"), QKeySequence::ZoomIn, QString(),
-        [this] { SetZoom(qMin(largestZoom, qMax(1, int(view->Scale())) + 1)); });
-    Act(look, tr("Zoom &out"), QKeySequence::ZoomOut, QString(),
-        [this] { SetZoom(qMax(1, int(view->Scale()) - 1)); });
+    const auto middle = [this] { return QPointF(view->visibleRegion().boundingRect().center()); };
+    Act(look, tr("Zoom &in"), QKeySequence::ZoomIn, QString(), [=] { ZoomBy(1, middle()); });
+    Act(look, tr("Zoom &out"), QKeySequence::ZoomOut, QString(), [=] { ZoomBy(-1, middle()); });
     look->addSeparator();
     leds = look->addAction(tr("&LEDs"));
     leds->setObjectName(QStringLiteral("leds"));
@@ -190,6 +190,10 @@ void MainWindow::MakeViewMenu()
     frames->setCheckable(true);
     frames->setShortcut(QKeySequence(tr("Ctrl+F")));
     connect(frames, &QAction::toggled, view, &DisplayView::SetShowsFrames);
+    QAction* rulers = look->addAction(tr("&Rulers"));
+    rulers->setCheckable(true);
+    rulers->setShortcut(QKeySequence(tr("Ctrl+R")));
+    connect(rulers, &QAction::toggled, view, &DisplayView::SetShowsRulers);
     look->addSeparator();
     look->addActions(createPopupMenu()->actions());
 
@@ -198,7 +202,7 @@ void MainWindow::MakeViewMenu()
     tools->addWidget(space);
     zoomBox = new QComboBox(this);
     zoomBox->setAccessibleName(tr("Zoom"));
-    zoomBox->setToolTip(tr("Zoom (Ctrl+0, Ctrl++, Ctrl+-)"));
+    zoomBox->setToolTip(tr("Zoom (Ctrl+wheel, Ctrl+0, Ctrl++, Ctrl+-)"));
     zoomBox->addItem(tr("Fit"), 0);
     for (int zoom : {1, 2, 3, 4, 6, 8, 12, 16})
         zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
@@ -266,9 +270,26 @@ void MainWindow::MakeHelpMenu()
     });
 }
 
+/** The point of the widget stays where it is. */
+void MainWindow::ZoomBy(int steps, const QPointF& about)
+{
+    const int zoom = qMax(1, int(view->Scale() / devicePixelRatioF()));
+    const bool isBetween = view->Scale() / devicePixelRatioF() > zoom; // fitted
+    const int next = zoom + steps + (isBetween && steps < 0 ? 1 : 0);
+    const QPointF pixel = view->ToWidget().inverted().map(about);
+    const QPointF inView = view->mapToParent(about.toPoint());
+    SetZoom(qBound(1, next, largestZoom));
+    QEvent layout(QEvent::LayoutRequest); // the display has its new size at once
+    QCoreApplication::sendEvent(scroll, &layout);
+    const QPointF now = view->ToWidget().map(pixel);
+    scroll->horizontalScrollBar()->setValue(qRound(now.x() - inView.x()));
+    scroll->verticalScrollBar()->setValue(qRound(now.y() - inView.y()));
+}
+
 void MainWindow::SetZoom(int zoom)
 {
     view->SetZoom(zoom);
+    zoom = view->Zoom(); // lamps may have asked for another
     int index = zoomBox->findData(zoom);
     if (index < 0) {
         zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
@@ -280,6 +301,22 @@ void MainWindow::SetZoom(int zoom)
 void MainWindow::SetLeds(bool on)
 {
     view->SetPitch(on ? pitch : 0);
+    KeepLampsInSight();
+    if (!on && plainZoom >= 0) {
+        SetZoom(plainZoom);
+        plainZoom = -1;
+    }
+}
+
+/** Goes nearer where lamps are wanted and would be too small to see. */
+void MainWindow::KeepLampsInSight()
+{
+    if (!leds->isChecked() || view->Picture().isNull() ||
+        view->Scale() >= PictureView::smallestLamp)
+        return;
+    if (plainZoom < 0)
+        plainZoom = view->Zoom();
+    SetZoom(PictureView::smallestLamp);
 }
 
 void MainWindow::SetPitch(double diameters)

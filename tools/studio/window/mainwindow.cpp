@@ -11,6 +11,7 @@
 #include <QLocale>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -70,7 +71,8 @@ void MainWindow::MakeCentre()
     notices = new NoticeBar(this);
     view = new DisplayView(this);
     view->SetSurroundings(surroundings);
-    auto* scroll = new QScrollArea(this);
+    view->SetFillsRoom(true);
+    scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus); // the display in it has it
     scroll->setWidgetResizable(true);
@@ -137,7 +139,7 @@ void MainWindow::MakeDocks()
     integrator = new IntegratorView(this);
     dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
         ->hide();
-    resizeDocks({left, right}, {216, 1}, Qt::Horizontal); // the right one as narrow as can be
+    resizeDocks({left, right}, {216, 430}, Qt::Horizontal);
     resizeDocks({left, below}, {400, 160}, Qt::Vertical);
 }
 
@@ -210,6 +212,15 @@ void MainWindow::Connect()
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::Selected, this, &MainWindow::Select);
+    connect(view, &DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
+    connect(view, &DisplayView::ScaleChanged, this, &MainWindow::KeepLampsInSight);
+    connect(view, &DisplayView::PlayWanted, &playback, &Playback::Toggle);
+    connect(view, &DisplayView::Panned, this, [this](const QPoint& by) {
+        scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->value() - by.x());
+        scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->value() - by.y());
+    });
+    for (QScrollBar* bar : {scroll->horizontalScrollBar(), scroll->verticalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, view, qOverload<>(&QWidget::update)); // its rulers
     connect(inspector->Display(), &DisplayForm::Edited, this, &MainWindow::ChangeDisplay);
     connect(view, &DisplayView::DisplayDoubleClicked, this,
             [this] { inspector->Text()->BeginTyping(); });

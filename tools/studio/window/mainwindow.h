@@ -102,7 +102,9 @@ private:
     void ShowRecent();
     void AddRecent(const QString& path);
     void SetZoom(int zoom);
+    void ZoomBy(int steps, const QPointF& about);
     void SetLeds(bool on);
+    void KeepLampsInSight();
     void SetPitch(double diameters);
     void ToggleLoop();
     bool LeaveField(int key);
@@ -127,9 +129,11 @@ private:
     bool isNarrow = false;
     QByteArray wideDocks; // where the docks are while the window is not narrow
     static constexpr double standardPitch = 1.5;
+    int plainZoom = -1;           // to go back to from the lamps; negative for none
     double pitch = standardPitch; // from lamp to lamp, in their diameters
 
     DisplayView* view = nullptr;
+    QScrollArea* scroll = nullptr; // that it is in
     NoticeBar* notices = nullptr;
     TransportBar* transport = nullptr;
     Timeline* timeline = nullptr;
