@@ -62,7 +62,9 @@ void TellLosses(const AuthoredNode& authored)
 void TellFindings(const QString& path)
 {
     for (const Finding& finding : ValidateScene(path)) {
-        if (finding.mistake != Mistake::OutlineEmpty && finding.mistake != Mistake::TextHigh)
+        const bool wasPlaced = finding.mistake == Mistake::AreasOverlap; // by who gave its place
+        if (finding.mistake != Mistake::OutlineEmpty && finding.mistake != Mistake::TextHigh &&
+            !wasPlaced)
             Warn(finding.Line());
     }
 }

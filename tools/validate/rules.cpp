@@ -22,6 +22,8 @@ constexpr Rule rules[] = {
      QT_TRANSLATE_NOOP("Rules", "Nothing can be painted.")},
     {Mistake::AreaOutside, warning, "area-outside",
      QT_TRANSLATE_NOOP("Rules", "What lies outside the display is not seen.")},
+    {Mistake::AreasOverlap, warning, "areas-overlap",
+     QT_TRANSLATE_NOOP("Rules", "One text covers another on the same page.")},
     {Mistake::CanvasLarge, error, "canvas-large",
      QT_TRANSLATE_NOOP("Rules", "The engine paints nothing into a picture above its limit.")},
     {Mistake::TextEmpty, warning, "text-empty",

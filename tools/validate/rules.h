@@ -15,6 +15,7 @@ enum class Mistake {
     NodeType,
     AreaEmpty,
     AreaOutside,
+    AreasOverlap,
     CanvasLarge,
     TextEmpty,
     ModeUnknown,

@@ -2,7 +2,32 @@
 
 #include "validate/nodecheck.h"
 
+#include <QRect>
+
 namespace AnimText {
+namespace {
+
+/** The nodes of one area play in turn; those of other areas of its page play beside them. */
+QList<Finding> Overlaps(const ScenePage& page, const SceneNode& node, int area,
+                        const QString& place)
+{
+    const QRect own(node.pos, node.size);
+    for (int a = 0; a < area; ++a) {
+        for (const SceneNode& other : page.areas[a].nodes) {
+            const QRect both = own & QRect(other.pos, other.size);
+            if (!both.isEmpty())
+                return {{Mistake::AreasOverlap, place + QStringLiteral(".pos"),
+                         QStringLiteral("%1 x %2 pixels in common with areas[%3]")
+                             .arg(both.width())
+                             .arg(both.height())
+                             .arg(a),
+                         QStringLiteral("areas side by side")}};
+        }
+    }
+    return {};
+}
+
+} // namespace
 
 QString Finding::Line() const
 {
@@ -25,6 +50,7 @@ QList<Finding> ValidateScene(const Scene& scene)
                 const QString place =
                     QStringLiteral("$.pages[%1].areas[%2].nodes[%3]").arg(p).arg(a).arg(n);
                 findings += NodeCheck(scene, nodes[n], place).Run();
+                findings += Overlaps(scene.pages[p], nodes[n], a, place);
             }
         }
     }
