@@ -61,6 +61,7 @@ private slots:
     void staleStatesGo();
     void writeProtectedFilesStay();
     void zoomsPansAndMeasures();
+    void textsAndPagesAreObjects();
     void displaysHaveSizes();
     void fitsSmallScreens();
     void mouseMovesAndSizesAreas();
@@ -334,6 +335,86 @@ void TestWindow::zoomsPansAndMeasures()
     QVERIFY(view->Scale() >= PictureView::smallestLamp); // lamps can be told apart
     leds->setChecked(false);
     QCOMPARE(view->Scale(), fitted);
+}
+
+/** Signs as "ab c": texts a and b on the first page, c on the second. */
+void TestWindow::textsAndPagesAreObjects()
+{
+    const auto words = [this] {
+        QString all;
+        int page = 0;
+        for (const SignText& text : window->GetDocument()->Current().texts) {
+            all += text.page != page ? " " : "";
+            page = text.page;
+            all += text.Title();
+        }
+        return all;
+    };
+    Sign sign = window->GetDocument()->Current();
+    sign.texts.clear();
+    for (const auto& text : QList<QPair<QString, int>>{{"a", 0}, {"b", 0}, {"c", 1}}) {
+        SignText made = NewText({128, 32}, text.second);
+        made.source.text.text = text.first;
+        AddText(&sign, made);
+    }
+    window->GetDocument()->Change("Sign", sign);
+    QCOMPARE(words(), QString("ab c"));
+    QTRY_COMPARE_WITH_TIMEOUT(window->Findings()->Count(), 1, patience); // b covers a
+
+    auto* list = window->findChild<SceneList*>();
+    const auto row = [&](const QString& title) {
+        return list->findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+    };
+    const auto drop = [&](const QString& moved, const QString& under, bool below) {
+        list->setCurrentItem(row(moved));
+        const QRect rect = list->visualItemRect(row(under));
+        const QMimeData data;
+        QDropEvent event(QPointF(rect.left() + 4, below ? rect.bottom() : rect.top()),
+                         Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        struct Opened : SceneList
+        {
+            using SceneList::dropEvent; // Qt delivers it only while something is dragged
+        };
+        (list->*&Opened::dropEvent)(&event);
+        QCoreApplication::processEvents();
+        return words();
+    };
+    QCOMPARE(drop("a", "b", true), QString("ba c"));
+    QCOMPARE(drop("a", "c", false), QString("b ac"));
+    QCOMPARE(drop("c", "Page 2", false), QString("bc a"));
+    QCOMPARE(drop("Page 2", "Page 1", false), QString("a bc"));
+    QCOMPARE(drop("Page 1", "c", true), QString("bc a"));
+    QCOMPARE(drop("a", "b", false), QString("abc")); // a page that is empty goes
+    window->GetDocument()->Undo()->undo();
+    QCOMPARE(words(), QString("bc a"));
+
+    const auto choose = [&](const QString& title, const QString& what) {
+        list->setCurrentItem(row(title));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, {5, 5});
+        QApplication::sendEvent(list->viewport(), &event);
+        auto* menu = window->findChild<QMenu*>("objects");
+        for (QAction* action : menu->findChildren<QAction*>()) {
+            if (action->text() == what && action->isEnabled())
+                action->trigger();
+        }
+        delete menu;
+        return words();
+    };
+    QCOMPARE(choose("b", "To the front"), QString("cb a"));
+    QCOMPARE(choose("b", "New page"), QString("c a b"));
+    QCOMPARE(choose("Page 3", "Earlier"), QString("c b a"));
+    QCOMPARE(choose("Page 1", "Duplicate page"), QString("c c b a"));
+    QCOMPARE(choose("Page 1", "Remove page"), QString("c b a"));
+    QCOMPARE(choose("c", "Duplicate text"), QString("cc b a"));
+    QCOMPARE(Text(1).node.pos, Text(0).node.pos + QPoint(128, 0)); // beside it
+    row("b")->setText(0, "Name");
+    QCOMPARE(words(), QString("cc Name a"));
+    QCOMPARE(Text(2).source.text.text, QString("b"));
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(folder.Path("named.json"));
+    QVERIFY(ended.wait(patience));
+    QVERIFY(window->Open(folder.Path("named.json")));
+    QCOMPARE(words(), QString("cc Name a"));
 }
 
 void TestWindow::displaysHaveSizes()

@@ -47,6 +47,7 @@ QJsonObject ToJson(const TextSource& source)
                                 {QStringLiteral("underline"), run.font.underline()},
                                 {QStringLiteral("color"), run.color.name()}});
     return {{QStringLiteral("text"), source.text.text},
+            {QStringLiteral("name"), source.name},
             {QStringLiteral("runs"), runs},
             {QStringLiteral("fit"), int(source.fit)},
             {QStringLiteral("align"), int(source.align)},
@@ -65,6 +66,7 @@ TextSource FromJson(const QJsonObject& json)
 {
     TextSource source;
     source.text.text = json.value(QStringLiteral("text")).toString();
+    source.name = json.value(QStringLiteral("name")).toString();
     for (const auto& value : json.value(QStringLiteral("runs")).toArray()) {
         const QJsonObject object = value.toObject();
         StyleRun run;
@@ -96,7 +98,7 @@ bool operator==(const TextSource& a, const TextSource& b)
     const auto alike = [](const StyleRun& x, const StyleRun& y) {
         return x.begin == y.begin && x.font == y.font && x.color == y.color;
     };
-    return a.text.text == b.text.text && a.fit == b.fit && a.align == b.align &&
+    return a.text.text == b.text.text && a.name == b.name && a.fit == b.fit && a.align == b.align &&
            a.valign == b.valign && a.padding == b.padding && a.keepsWords == b.keepsWords &&
            std::equal(a.text.runs.begin(), a.text.runs.end(), b.text.runs.begin(),
                       b.text.runs.end(), alike);

@@ -17,6 +17,7 @@ namespace AnimText {
 struct TextSource
 {
     StyledText text; ///< sizes in pixels
+    QString name{};  ///< for people; empty for the text itself
     Fit fit = Fit::None;
     Align align = Align::Natural;
     VAlign valign = VAlign::Middle;

@@ -190,6 +190,119 @@ void RemoveText(Sign* sign, int id)
     }
 }
 
+namespace {
+
+constexpr int aloneInArea = -1; // in place of an area's number
+
+using Pages = QList<QList<SignText>>;
+
+Pages PagesOf(const Sign& sign)
+{
+    Pages pages;
+    for (int page = 0; page < sign.PageCount(); ++page)
+        pages.append(QList<SignText>());
+    for (const SignText& text : sign.texts)
+        pages[text.page].append(text);
+    return pages;
+}
+
+/** Numbers pages and areas anew; texts of one area that still follow one another share it. */
+void SetPages(Sign* sign, const Pages& pages)
+{
+    sign->texts.clear();
+    int number = 0;
+    for (const QList<SignText>& page : pages) {
+        int area = -1;
+        int before = aloneInArea;
+        for (SignText text : page) {
+            if (text.area == aloneInArea || text.area != before)
+                ++area;
+            before = text.area;
+            text.area = area;
+            text.page = number;
+            sign->texts.append(text);
+        }
+        number += page.isEmpty() ? 0 : 1;
+    }
+}
+
+QPoint FreePlace(const Sign& sign, const SignText& text)
+{
+    const QRect old(text.node.pos, text.node.size);
+    const QRect display(QPoint(0, 0), sign.display);
+    for (const QPoint& by : {QPoint(old.width(), 0), QPoint(0, old.height()),
+                             QPoint(-old.width(), 0), QPoint(0, -old.height())}) {
+        const QRect next = old.translated(by);
+        const bool isFree =
+            std::none_of(sign.texts.begin(), sign.texts.end(), [&](const SignText& other) {
+                return other.page == text.page &&
+                       next.intersects(QRect(other.node.pos, other.node.size));
+            });
+        if (isFree && display.contains(next))
+            return next.topLeft();
+    }
+    return old.topLeft() + QPoint(8, 8); // at least both are seen
+}
+
+} // namespace
+
+void MoveText(Sign* sign, int id, int page, int place)
+{
+    const SignText* found = sign->Find(id);
+    if (!found)
+        return;
+    SignText text = *found;
+    Pages pages = PagesOf(*sign);
+    const int from = sign->IndexOf(id) - sign->IndexOf(pages[text.page].first().id);
+    pages[text.page].removeAt(from);
+    while (pages.size() <= page)
+        pages.append(QList<SignText>());
+    if (page == text.page && place > from)
+        --place;
+    text.area = aloneInArea;
+    pages[page].insert(qBound(0, place, int(pages[page].size())), text);
+    SetPages(sign, pages);
+}
+
+void MovePage(Sign* sign, int page, int to)
+{
+    Pages pages = PagesOf(*sign);
+    const QList<SignText> moved = pages.takeAt(page);
+    pages.insert(qBound(0, to > page ? to - 1 : to, int(pages.size())), moved);
+    SetPages(sign, pages);
+}
+
+void RemovePage(Sign* sign, int page)
+{
+    Pages pages = PagesOf(*sign);
+    pages.removeAt(page);
+    SetPages(sign, pages);
+}
+
+void DuplicatePage(Sign* sign, int page)
+{
+    Pages pages = PagesOf(*sign);
+    QList<SignText> copies = pages.at(page);
+    for (SignText& text : copies)
+        text.id = NewTextId();
+    pages.insert(page + 1, copies);
+    SetPages(sign, pages);
+}
+
+int DuplicateText(Sign* sign, int id)
+{
+    const SignText* text = sign->Find(id);
+    if (!text)
+        return 0;
+    SignText copy = *text;
+    copy.id = NewTextId();
+    copy.node.pos = FreePlace(*sign, *text);
+    const int place = sign->IndexOf(id) + 1 - sign->IndexOf(PagesOf(*sign)[copy.page].first().id);
+    AddText(sign, copy);
+    MoveText(sign, copy.id, copy.page, place);
+    return copy.id;
+}
+
 void ResizeDisplay(Sign* sign, const QSize& display)
 {
     for (SignText& text : sign->texts) {
@@ -205,8 +318,9 @@ QByteArray LayoutKey(const SignText& text)
     const QByteArray setting =
         QByteArray::number(IsScroll(node) ? 1 : 0) + ' ' + QByteArray::number(MotionNumber(node)) +
         ' ' + QByteArray::number(node.size.width()) + ' ' + QByteArray::number(node.size.height());
-    return QCryptographicHash::hash(SourcesToJson({{setting, text.source}}),
-                                    QCryptographicHash::Sha1);
+    TextSource source = text.source;
+    source.name.clear(); // no sign shows it
+    return QCryptographicHash::hash(SourcesToJson({{setting, source}}), QCryptographicHash::Sha1);
 }
 
 std::shared_ptr<const Layout> MakeLayout(const SignText& text)

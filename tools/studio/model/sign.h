@@ -47,8 +47,11 @@ struct SignText
     QByteArray layoutKey;                 ///< of the layout that its settings ask for
 
     bool IsLaidOut() const { return layout && layout->key == layoutKey; }
-    /** The text on one line, for people. */
-    QString Title() const { return source.text.text.simplified(); }
+    /** Its name, or the text on one line, for people. */
+    QString Title() const
+    {
+        return source.name.isEmpty() ? source.text.text.simplified() : source.name;
+    }
 };
 
 /** A sign with its texts, in the order of their pages and areas. */
@@ -76,6 +79,19 @@ SignText NewText(const QSize& area, int page);
 void AddText(Sign* sign, SignText text);
 /** Takes the text out, and areas and pages that are empty then. */
 void RemoveText(Sign* sign, int id);
+
+/**
+ * Moves the text to that place among those of @p page, in an area of its own when the page is
+ * another one; PageCount() stands for a new page. A page that is empty then goes.
+ */
+void MoveText(Sign* sign, int id, int page, int place);
+/** Moves a page before the one that is at @p to by now; PageCount() for the end. */
+void MovePage(Sign* sign, int page, int to);
+void RemovePage(Sign* sign, int page);
+/** Puts a copy of the page behind it; its texts have new ids. */
+void DuplicatePage(Sign* sign, int page);
+/** Puts a copy of the text behind it, where its area covers no other as far as there is room. */
+int DuplicateText(Sign* sign, int id);
 
 /** Gives the sign another display; areas that fill the old one fill the new one. */
 void ResizeDisplay(Sign* sign, const QSize& display);

@@ -745,16 +745,8 @@
         <translation>Ctrl+Shift+T</translation>
     </message>
     <message>
-        <source>&amp;Duplicate text</source>
-        <translation>Text &amp;verdoppeln</translation>
-    </message>
-    <message>
         <source>Ctrl+D</source>
         <translation>Ctrl+D</translation>
-    </message>
-    <message>
-        <source>Re&amp;move text</source>
-        <translation>Text &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Write</source>
@@ -1096,6 +1088,70 @@
         <translation>Zoom (Strg+Mausrad, Ctrl+0, Ctrl++, Ctrl+-)</translation>
     </message>
     <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Duplicate page</source>
+        <translation>Seite duplizieren</translation>
+    </message>
+    <message>
+        <source>Remove page</source>
+        <translation>Seite entfernen</translation>
+    </message>
+    <message>
+        <source>Rename text</source>
+        <translation>Text umbenennen</translation>
+    </message>
+    <message>
+        <source>Move text</source>
+        <translation>Text verschieben</translation>
+    </message>
+    <message>
+        <source>Move page</source>
+        <translation>Seite verschieben</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>To the front</source>
+        <translation>Nach vorn</translation>
+    </message>
+    <message>
+        <source>To the back</source>
+        <translation>Nach hinten</translation>
+    </message>
+    <message>
+        <source>Move to page</source>
+        <translation>Auf Seite verschieben</translation>
+    </message>
+    <message>
+        <source>New page</source>
+        <translation>Neue Seite</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
         <source>Ctrl+Space</source>
         <translation>Ctrl+Space</translation>
     </message>
@@ -1144,16 +1200,20 @@
 <context>
     <name>AnimText::SceneList</name>
     <message>
-        <source>(no text yet)</source>
-        <translation>(noch kein Text)</translation>
-    </message>
-    <message>
         <source>Pages and texts</source>
         <translation>Seiten und Texte</translation>
     </message>
     <message>
         <source>Page %1</source>
         <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>(empty text)</source>
+        <translation>(leerer Text)</translation>
+    </message>
+    <message>
+        <source>Display %1 × %2</source>
+        <translation>Anzeige %1 × %2</translation>
     </message>
 </context>
 <context>
@@ -2131,6 +2191,10 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
     <message>
         <source>Letters are cut off at the top or bottom.</source>
         <translation>Buchstaben sind oben oder unten abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>One text covers another on the same page.</source>
+        <translation>Ein Text verdeckt einen anderen auf derselben Seite.</translation>
     </message>
     <message>
         <source>The sign takes the lowest 24 bits and shows another color.</source>

@@ -1,5 +1,6 @@
 #include "studio/window/displayview.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -307,6 +308,14 @@ void DisplayView::mouseReleaseEvent(QMouseEvent*)
     unsetCursor();
     guides.clear();
     update();
+}
+
+void DisplayView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const int id = FrameAt(event->pos());
+    if (event->reason() == QContextMenuEvent::Mouse && id != selected)
+        emit Selected(id);
+    emit MenuWanted(event->globalPos());
 }
 
 void DisplayView::wheelEvent(QWheelEvent* event)

@@ -52,6 +52,8 @@ signals:
     void ZoomWanted(int steps, const QPointF& about);
     /** The display is dragged: middle button, or Space and the left one. */
     void Panned(const QPoint& by);
+    /** A click with the right button; what is there is selected. */
+    void MenuWanted(const QPoint& global);
     /** Space, and nothing was dragged. */
     void PlayWanted();
 
@@ -63,6 +65,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
 

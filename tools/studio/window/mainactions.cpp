@@ -104,10 +104,10 @@ void MainWindow::MakeEditMenu()
                        QStringLiteral("list-add"), [this] { AddNewText(false); });
     QAction* addPage = Act(edit, tr("Add &page"), QKeySequence(tr("Ctrl+Shift+T")),
                            QStringLiteral("list-add"), [this] { AddNewText(true); });
-    Act(edit, tr("&Duplicate text"), QKeySequence(tr("Ctrl+D")), QString(),
+    Act(edit, tr("&Duplicate"), QKeySequence(tr("Ctrl+D")), QString(),
         [this] { DuplicateSelected(); });
-    QAction* remove = Act(edit, tr("Re&move text"), QKeySequence::Delete, QString(),
-                          [this] { RemoveSelected(); });
+    QAction* remove =
+        Act(edit, tr("Re&move"), QKeySequence::Delete, QString(), [this] { RemoveSelected(); });
     // In a field the key is for letters.
     remove->setShortcutContext(Qt::WidgetShortcut);
     for (QWidget* widget : QList<QWidget*>{view, scenes, timeline})

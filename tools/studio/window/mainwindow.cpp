@@ -210,6 +210,17 @@ void MainWindow::Connect()
     scenes->installEventFilter(this);
     inspector->Motions()->List()->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
+    connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
+    connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText);
+    connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage);
+    connect(scenes, &SceneList::PageSelected, this, [this](int page) {
+        selected = 0;
+        shownPage = page;
+        Refresh();
+    });
+    connect(scenes, &SceneList::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(timeline, &Timeline::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(view, &DisplayView::MenuWanted, this, &MainWindow::ShowObjectMenu);
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
@@ -409,20 +420,10 @@ void MainWindow::Rehearse()
         compared->SetSign(sign, part);
 }
 
-QVector<int> MainWindow::PlayedIds() const
-{
-    QVector<int> ids;
-    for (const SignText& text : document.Current().texts) {
-        if (part.page < 0 || text.page == part.page)
-            ids.append(text.id);
-    }
-    return ids;
-}
-
 void MainWindow::ShowTiming()
 {
     const Timing& timing = rehearsal.GetTiming();
-    const QVector<int> ids = PlayedIds();
+    const QVector<int> ids = PagedIds(part.page);
     QStringList titles;
     for (int id : ids)
         titles.append(document.Current().Find(id)->Title());
@@ -452,19 +453,6 @@ void MainWindow::Edit(const QString& what, const QString& merge, const TextChang
                     merge.isEmpty() ? merge : QStringLiteral("%1 %2").arg(selected).arg(merge));
 }
 
-void MainWindow::AddNewText(bool onNewPage)
-{
-    Sign after = document.Current();
-    const int page = onNewPage ? after.PageCount() : CurrentPage();
-    const QSize size(after.display.width(),
-                     onNewPage ? after.display.height() : qMax(1, after.display.height() / 2));
-    SignText text = NewText(size, page);
-    AddText(&after, text);
-    selected = text.id;
-    document.Change(onNewPage ? tr("Add page") : tr("Add text"), after);
-    inspector->Text()->BeginTyping();
-}
-
 void MainWindow::ChangeDisplay(int gesture)
 {
     Sign after = document.Current();
@@ -472,30 +460,6 @@ void MainWindow::ChangeDisplay(int gesture)
     after.alphaBlend = inspector->Display()->AlphaBlend();
     document.Change(tr("Display"), after,
                     gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
-}
-
-void MainWindow::DuplicateSelected()
-{
-    Sign after = document.Current();
-    const SignText* text = after.Find(selected);
-    if (!text)
-        return;
-    SignText copy = *text;
-    copy.id = NewTextId();
-    AddText(&after, copy);
-    selected = copy.id;
-    document.Change(tr("Duplicate text"), after);
-}
-
-void MainWindow::RemoveSelected()
-{
-    Sign after = document.Current();
-    const int index = after.IndexOf(selected);
-    if (index < 0)
-        return;
-    RemoveText(&after, selected);
-    selected = after.texts.isEmpty() ? 0 : after.texts.at(qMin(index, after.texts.size() - 1)).id;
-    document.Change(tr("Remove text"), after);
 }
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event)

@@ -109,7 +109,12 @@ private:
     void ToggleLoop();
     bool LeaveField(int key);
     void EditWords(const char* slot);
-    QVector<int> PlayedIds() const;
+    /** The texts of a page, or of all for a negative one. */
+    QVector<int> PagedIds(int page) const;
+    void Rename(int id, const QString& name);
+    void PutText(int id, int page, int place);
+    void PutPage(int page, int to);
+    void ShowObjectMenu(const QPoint& global);
     int CurrentPage() const;
 
     const QString plugin;

@@ -2,16 +2,28 @@
 
 #include "studio/window/looks.h"
 
-#include <QHeaderView>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 
 namespace AnimText {
 namespace {
 
-constexpr int idRole = Qt::UserRole;
+constexpr int idRole = Qt::UserRole;       // of a text; 0 for the display
+constexpr int pageRole = Qt::UserRole + 1; // number, for the row of a page
 
 QString TitleOf(const SignText& text)
 {
-    return text.Title().isEmpty() ? SceneList::tr("(no text yet)") : text.Title();
+    return text.Title().isEmpty() ? SceneList::tr("(empty text)") : text.Title();
+}
+
+QString DisplayTitle(const QSize& size)
+{
+    return SceneList::tr("Display %1 × %2").arg(size.width()).arg(size.height());
+}
+
+bool IsPage(const QTreeWidgetItem* item)
+{
+    return item && item->data(0, pageRole).isValid();
 }
 
 } // namespace
@@ -25,68 +37,148 @@ SceneList::SceneList(QWidget* parent)
     setUniformRowHeights(true);
     setRootIsDecorated(false);
     setItemsExpandable(false);
+    setExpandsOnDoubleClick(false);
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setEditTriggers(QAbstractItemView::DoubleClicked);
     setAccessibleName(tr("Pages and texts"));
-    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-        const int id = item ? item->data(0, idRole).toInt() : 0;
-        if (id != 0)
-            emit Selected(id);
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
+        if (IsPage(item))
+            emit PageSelected(item->data(0, pageRole).toInt());
+        else if (item)
+            emit Selected(item->data(0, idRole).toInt());
+    });
+    connect(this, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem* item) {
+        if (item->data(0, idRole).toInt() != 0)
+            emit Renamed(item->data(0, idRole).toInt(), item->text(0).simplified());
     });
 }
 
 void SceneList::Show(const Sign& sign)
 {
+    const QSignalBlocker blocker(this);
     QVector<QPair<int, int>> wanted;
     for (const SignText& text : sign.texts)
         wanted.append({text.page, text.id});
-    if (wanted != shown) {
+    if (wanted != shown || topLevelItemCount() == 0) {
         shown = wanted;
         Rebuild(sign);
         return;
     }
-    int index = 0;
-    for (int page = 0; page < topLevelItemCount(); ++page) {
-        for (int i = 0; i < topLevelItem(page)->childCount(); ++i) {
-            QTreeWidgetItem* item = topLevelItem(page)->child(i);
-            const QString title = TitleOf(sign.texts.at(index++));
-            if (item->text(0) != title)
-                item->setText(0, title);
-        }
+    topLevelItem(0)->setText(0, DisplayTitle(sign.display));
+    for (const SignText& text : sign.texts) {
+        if (Find(text.id)->text(0) != TitleOf(text))
+            Find(text.id)->setText(0, TitleOf(text));
     }
 }
 
 void SceneList::Rebuild(const Sign& sign)
 {
-    const QSignalBlocker blocker(this);
     const int current = currentItem() ? currentItem()->data(0, idRole).toInt() : 0;
     clear();
+    auto* display = new QTreeWidgetItem(this, {DisplayTitle(sign.display)});
+    display->setData(0, idRole, 0);
+    display->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
     QTreeWidgetItem* page = nullptr;
     int number = -1;
     for (const SignText& text : sign.texts) {
         if (text.page != number) {
             number = text.page;
             page = new QTreeWidgetItem(this, {tr("Page %1").arg(number + 1)});
-            page->setFlags(Qt::ItemIsEnabled);
+            page->setData(0, pageRole, number);
+            page->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
+                           Qt::ItemIsDropEnabled);
             page->setForeground(0, Quiet(palette()));
-            page->setExpanded(true);
         }
         auto* item = new QTreeWidgetItem(page, {TitleOf(text)});
         item->setData(0, idRole, text.id);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
+                       Qt::ItemIsEditable);
     }
     expandAll();
     Select(current);
 }
 
-void SceneList::Select(int id)
+QTreeWidgetItem* SceneList::Find(int id) const
 {
-    if (currentItem() && currentItem()->data(0, idRole).toInt() == id)
-        return;
-    const QSignalBlocker blocker(this);
     for (int page = 0; page < topLevelItemCount(); ++page) {
-        for (int i = 0; i < topLevelItem(page)->childCount(); ++i) {
-            if (topLevelItem(page)->child(i)->data(0, idRole).toInt() == id)
-                setCurrentItem(topLevelItem(page)->child(i));
+        QTreeWidgetItem* top = topLevelItem(page);
+        if (id == 0 && !IsPage(top))
+            return top;
+        for (int i = 0; i < top->childCount(); ++i) {
+            if (top->child(i)->data(0, idRole).toInt() == id)
+                return top->child(i);
         }
     }
+    return nullptr;
+}
+
+void SceneList::Select(int id)
+{
+    if (id == 0 && PageOfRow() >= 0)
+        return; // the page itself is looked at
+    const QSignalBlocker blocker(this);
+    if (QTreeWidgetItem* item = Find(id))
+        setCurrentItem(item);
+}
+
+int SceneList::PageOfRow() const
+{
+    return IsPage(currentItem()) ? currentItem()->data(0, pageRole).toInt() : -1;
+}
+
+void SceneList::Rename(int id)
+{
+    if (QTreeWidgetItem* item = Find(id))
+        editItem(item);
+}
+
+/** The sign is changed, and what is shown follows it; no row is moved by itself. */
+void SceneList::dropEvent(QDropEvent* event)
+{
+    const QTreeWidgetItem* moved = currentItem();
+    const QTreeWidgetItem* under = itemAt(event->pos());
+    event->setDropAction(Qt::CopyAction); // else the view removes the row
+    event->accept();
+    setState(QAbstractItemView::NoState);
+    if (!moved || moved == topLevelItem(0))
+        return;
+    const bool below = under && event->pos().y() > visualItemRect(under).center().y();
+    const int pages = topLevelItemCount() - 1;
+    int page = pages; // beside all rows: a new one
+    int place = 0;
+    if (IsPage(under)) {
+        // Above its own row a page's end is the one before it.
+        page = under->data(0, pageRole).toInt();
+        place = 0;
+        if (!below && page > 0 && !IsPage(moved)) {
+            --page;
+            place = topLevelItem(1 + page)->childCount();
+        }
+    } else if (under && under->parent()) {
+        page = under->parent()->data(0, pageRole).toInt();
+        place =
+            under->parent()->indexOfChild(const_cast<QTreeWidgetItem*>(under)) + (below ? 1 : 0);
+    } else if (under) {
+        page = 0;
+    }
+    // Rows are not replaced while they are being dragged.
+    if (IsPage(moved)) {
+        const bool behind = under && (below || !IsPage(under)) && under != topLevelItem(0);
+        const int from = moved->data(0, pageRole).toInt();
+        const int to = page + (behind ? 1 : 0);
+        QMetaObject::invokeMethod(
+            this, [this, from, to] { emit PageDropped(from, to); }, Qt::QueuedConnection);
+    } else {
+        const int id = moved->data(0, idRole).toInt();
+        QMetaObject::invokeMethod(
+            this, [this, id, page, place] { emit TextDropped(id, page, place); },
+            Qt::QueuedConnection);
+    }
+}
+
+void SceneList::contextMenuEvent(QContextMenuEvent* event)
+{
+    emit MenuWanted(event->globalPos());
 }
 
 } // namespace AnimText

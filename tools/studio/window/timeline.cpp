@@ -2,6 +2,7 @@
 
 #include "studio/window/looks.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLocale>
 #include <QMouseEvent>
@@ -355,6 +356,15 @@ bool Timeline::viewportEvent(QEvent* event)
         return true;
     }
     return QAbstractScrollArea::viewportEvent(event);
+}
+
+void Timeline::contextMenuEvent(QContextMenuEvent* event)
+{
+    const int row = (event->pos().y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    if (event->pos().y() >= rulerHeight && row < ids.size()) {
+        emit Selected(ids.at(row));
+        emit MenuWanted(event->globalPos());
+    }
 }
 
 void Timeline::mousePressEvent(QMouseEvent* event)

@@ -41,6 +41,8 @@ public:
 
 signals:
     void Selected(int id);
+    /** A click with the right button; the text of its row is selected. */
+    void MenuWanted(const QPoint& global);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -48,6 +50,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
 private:
