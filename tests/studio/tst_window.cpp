@@ -10,6 +10,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
@@ -71,6 +72,7 @@ private slots:
     void everythingHasAName();
     void findingsAreMended();
     void exportsAndCancels();
+    void exportsPartsAndLamps();
     void integratorsSeeCallsFaultsAndAnotherLibrary();
     void holdsThreeHundredTexts();
 };
@@ -719,6 +721,47 @@ void TestWindow::exportsAndCancels()
     QVERIFY(folder.Everything().filter("never").isEmpty());
     dialog.SetOutput(folder.Path("nothing.txt"));
     QVERIFY(!dialog.StartButton()->isEnabled());
+}
+
+void TestWindow::exportsPartsAndLamps()
+{
+    Type("Film");
+    QVERIFY(Settles());
+    window->GetPlayback()->Seek(30);
+    QVERIFY(Settles());
+    ExportView view;
+    view.tick = 30;
+    view.loopFirst = 28;
+    view.loopLast = 32;
+    view.length = window->GetPlayback()->Length();
+    const auto exports = [&](int extent, bool lamps, const char* name) {
+        ExportDialog dialog(window->GetDocument()->Current(), QString(), QString(), view);
+        QSignalSpy done(&dialog, &ExportDialog::Done);
+        dialog.SetOutput(folder.Path(name));
+        dialog.Extent()->setCurrentIndex(extent);
+        emit dialog.Extent()->activated(extent);
+        dialog.Lamps()->setChecked(lamps);
+        dialog.StartButton()->click();
+        if (!done.wait(patience) || !done.first().first().toBool())
+            return dialog.State();
+        if (!dialog.State().contains("Show in folder"))
+            return dialog.State();
+        return dialog.Forecast();
+    };
+    const auto on = [](const QImage& picture) { // black
+        QImage whole(picture.size(), QImage::Format_RGB32);
+        whole.fill(Qt::black);
+        QPainter(&whole).drawImage(0, 0, picture);
+        return whole;
+    };
+    QCOMPARE(exports(2, false, "one.png"), QString("512 × 64 px"));
+    const QImage seen = on(window->Display()->Picture());
+    QCOMPARE(on(QImage(folder.Path("one.png"))), seen);
+    QCOMPARE(exports(2, true, "lamps.png"), QString("2048 × 256 px"));
+    QCOMPARE(on(QImage(folder.Path("lamps.png"))), AsLamps(seen, 4, 1.5));
+    QCOMPARE(exports(1, false, "part/"), QString("512 × 64 px · 0.33 s"));
+    QCOMPARE(QDir(folder.Path("part")).entryList(QDir::Files).size(), 5);
+    QCOMPARE(on(QImage(folder.Path("part/frame-0030.png"))), seen);
 }
 
 void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()

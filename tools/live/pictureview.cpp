@@ -75,6 +75,25 @@ QBrush Chequers(double ratio)
 
 } // namespace
 
+QImage AsLamps(const QImage& given, int size, double pitch)
+{
+    const QImage picture = given.convertToFormat(QImage::Format_RGB32);
+    const std::vector<quint32> light = Lamp(size, pitch);
+    QImage large(picture.size() * size, QImage::Format_RGB32);
+    large.fill(Qt::black);
+    for (int y = 0; y < large.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y / size));
+        auto* to = reinterpret_cast<QRgb*>(large.scanLine(y));
+        const quint32* lamp = &light[size_t(y % size) * size_t(size)];
+        for (int x = 0; x < picture.width(); ++x, to += size) {
+            if ((from[x] & 0xFFFFFF) != 0)
+                std::transform(lamp, lamp + size, to,
+                               [&](quint32 shine) { return Dimmed(from[x], shine); });
+        }
+    }
+    return large;
+}
+
 PictureView::PictureView(QWidget* parent)
     : QWidget(parent)
     , surroundings(0x50, 0x50, 0x50)
@@ -194,26 +213,20 @@ QSize PictureView::minimumSizeHint() const
 QImage PictureView::Magnified(const QRect& part) const
 {
     const int size = int(std::ceil(Scale()));
-    const std::vector<quint32> light = ShowsLamps() ? Lamp(size, pitch) : std::vector<quint32>();
-    QImage large(part.size() * size, light.empty() ? pixels.format() : QImage::Format_RGB32);
-    large.fill(Qt::black);
+    if (ShowsLamps())
+        return AsLamps(pixels.copy(part), size, pitch);
+    QImage large(part.size() * size, pixels.format());
     for (int y = 0; y < part.height(); ++y) {
         const auto* from =
             reinterpret_cast<const QRgb*>(pixels.constScanLine(part.y() + y)) + part.x();
         for (int row = 0; row < size; ++row) {
             auto* to = reinterpret_cast<QRgb*>(large.scanLine(y * size + row));
-            if (light.empty() && row > 0) {
+            if (row > 0) {
                 std::memcpy(to, large.constScanLine(y * size), size_t(large.bytesPerLine()));
                 continue;
             }
-            const quint32* lamp = light.empty() ? nullptr : &light[size_t(row) * size_t(size)];
-            for (int x = 0; x < part.width(); ++x, to += size) {
-                if (!lamp)
-                    std::fill(to, to + size, from[x]);
-                else if ((from[x] & 0xFFFFFF) != 0)
-                    std::transform(lamp, lamp + size, to,
-                                   [&](quint32 shine) { return Dimmed(from[x], shine); });
-            }
+            for (int x = 0; x < part.width(); ++x, to += size)
+                std::fill(to, to + size, from[x]);
         }
     }
     return large;

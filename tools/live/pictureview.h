@@ -13,6 +13,13 @@
 namespace AnimText {
 
 /**
+ * The pixels of @p picture, which has no alpha, as round lamps on black.
+ * @param size pixels from lamp to lamp
+ * @param pitch the same in diameters of a lamp, 1 .. 4
+ */
+QImage AsLamps(const QImage& picture, int size, double pitch);
+
+/**
  * Every pixel of the picture becomes a square, or a round lamp, of a whole number of the screen's
  * own pixels, so that nothing is blurred; only a picture that is to fit into less than its own size
  * is scaled down smoothly. A picture smaller than the widget stands in the middle of it, a larger

@@ -139,18 +139,6 @@
 <context>
     <name>AnimText::ExportDialog</name>
     <message>
-        <source>As the host plays it: each page for the time that it is told</source>
-        <translation>Wie der Host abspielt: jede Seite so lange, wie ihm gesagt wird</translation>
-    </message>
-    <message>
-        <source>Transparent where nothing is shown</source>
-        <translation>Durchsichtig, wo nichts gezeigt wird</translation>
-    </message>
-    <message>
-        <source>Every pixel as it is</source>
-        <translation>Jedes Pixel, wie es ist</translation>
-    </message>
-    <message>
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
@@ -193,10 +181,6 @@
     <message>
         <source>File</source>
         <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Each pixel as</source>
-        <translation>Jedes Pixel als</translation>
     </message>
     <message>
         <source>As a command</source>
@@ -245,6 +229,78 @@
     <message>
         <source>Saved %1</source>
         <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>As LEDs: round lamps on black</source>
+        <translation>Als LEDs: runde Lampen auf Schwarz</translation>
+    </message>
+    <message>
+        <source>All pages in turn, each for its planned time, as the host plays them</source>
+        <translation>Alle Seiten nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>Durchsichtiger Hintergrund</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>PNG, one picture</source>
+        <translation>PNG, ein Bild</translation>
+    </message>
+    <message>
+        <source>All of it</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>The loop, %1 to %2</source>
+        <translation>Die Schleife, %1 bis %2</translation>
+    </message>
+    <message>
+        <source>This picture, tick %1</source>
+        <translation>Dieses Bild, Tick %1</translation>
+    </message>
+    <message>
+        <source>What is exported</source>
+        <translation>Was exportiert wird</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Magnify</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>%1 · %2 and the last hold once more</source>
+        <translation>%1 · %2 und die letzte Haltezeit noch einmal</translation>
+    </message>
+    <message>
+        <source>%1 · to the end of all texts</source>
+        <translation>%1 · bis zum Ende aller Texte</translation>
+    </message>
+    <message>
+        <source>Only the studio makes films of lamps.</source>
+        <translation>Nur das Studio macht Filme mit Lampen.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Im Ordner zeigen</translation>
     </message>
 </context>
 <context>

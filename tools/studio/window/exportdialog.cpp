@@ -1,6 +1,8 @@
 #include "studio/window/exportdialog.h"
 
+#include "live/pictureview.h"
 #include "player/filmfile.h"
+#include "player/player.h"
 #include "scene/wholefile.h"
 #include "studio/window/looks.h"
 
@@ -13,23 +15,28 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace AnimText {
 
 ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QString& plugin,
-                           QWidget* parent)
+                           const ExportView& view, QWidget* parent)
     : QDialog(parent)
     , sign(sign)
     , scenePath(scenePath)
     , plugin(plugin)
+    , view(view)
+    , extent(new QComboBox(this))
+    , lamps(new QCheckBox(tr("As LEDs: round lamps on black"), this))
+    , forecast(new QLabel(this))
     , format(new QComboBox(this))
     , output(new QLineEdit(this))
     , scale(new QSpinBox(this))
-    , schedule(
-          new QCheckBox(tr("As the host plays it: each page for the time that it is told"), this))
-    , transparent(new QCheckBox(tr("Transparent where nothing is shown"), this))
-    , lossless(new QCheckBox(tr("Every pixel as it is"), this))
+    , schedule(new QCheckBox(
+          tr("All pages in turn, each for its planned time, as the host plays them"), this))
+    , transparent(new QCheckBox(tr("Transparent background"), this))
+    , lossless(new QCheckBox(tr("Lossless"), this))
     , command(new QLineEdit(this))
     , progress(new QProgressBar(this))
     , state(new QLabel(this))
@@ -39,14 +46,24 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     setWindowTitle(tr("Export a film"));
     for (const FilmKind& kind : FilmKinds()) {
         const QString ending = QLatin1String(kind.ending);
-        if (kind.still)
-            continue;
-        format->addItem(
-            ending == QLatin1String("/") ? tr("Folder of PNGs") : ending.mid(1).toUpper(), ending);
+        format->addItem(ending == QLatin1String("/") ? tr("Folder of PNGs")
+                        : kind.still                 ? tr("PNG, one picture")
+                                                     : ending.mid(1).toUpper(),
+                        ending);
     }
     scale->setRange(1, 16);
     scale->setSuffix(tr(" ×"));
-    schedule->setChecked(sign.PageCount() > 1);
+    schedule->setChecked(view.schedule || sign.PageCount() > 1);
+    const auto seconds = [](int tick) { return SecondsText(qint64(tick) * tickLength); };
+    extent->addItem(tr("All of it"), QPoint(0, -1));
+    if (view.loopFirst >= 0)
+        extent->addItem(
+            tr("The loop, %1 to %2").arg(seconds(view.loopFirst), seconds(view.loopLast + 1)),
+            QPoint(view.loopFirst, view.loopLast));
+    if (view.tick >= 0)
+        extent->addItem(tr("This picture, tick %1").arg(view.tick), QPoint(view.tick, view.tick));
+    extent->setAccessibleName(tr("What is exported"));
+    lamps->setChecked(view.lamps);
     output->setAccessibleName(tr("File"));
     command->setReadOnly(true);
     command->setFrame(false);
@@ -62,6 +79,9 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     browse->setToolTip(tr("Choose the file"));
     browse->setAccessibleName(tr("Choose the file"));
     state->setWordWrap(true);
+    state->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    state->setOpenExternalLinks(true);
+    state->setAccessibleName(tr("State"));
     progress->setTextVisible(false);
     start->setDefault(true);
 
@@ -76,12 +96,15 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     form->setHorizontalSpacing(3 * grid);
     form->setVerticalSpacing(2 * grid);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("Export"), extent);
     form->addRow(tr("Format"), format);
     form->addRow(tr("File"), row(output, browse));
-    form->addRow(tr("Each pixel as"), scale);
+    form->addRow(tr("Magnify"), scale);
+    form->addRow(QString(), lamps);
     form->addRow(QString(), schedule);
     form->addRow(QString(), transparent);
     form->addRow(QString(), lossless);
+    form->addRow(tr("Result"), forecast);
     form->addRow(tr("As a command"), row(command, copy));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
@@ -109,7 +132,8 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
         Refresh();
     });
     connect(scale, qOverload<int>(&QSpinBox::valueChanged), this, &ExportDialog::Refresh);
-    for (QCheckBox* box : {schedule, transparent, lossless})
+    connect(extent, qOverload<int>(&QComboBox::activated), this, &ExportDialog::ExtentChosen);
+    for (QCheckBox* box : {schedule, transparent, lossless, lamps})
         connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
     connect(copy, &QToolButton::clicked, this,
             [this] { QApplication::clipboard()->setText(command->text()); });
@@ -136,6 +160,13 @@ ExportWishes ExportDialog::Wishes() const
     ExportWishes wishes;
     wishes.output = output->text();
     wishes.scale = scale->value();
+    wishes.first = extent->currentData().toPoint().x();
+    wishes.last = extent->currentData().toPoint().y();
+    if (lamps->isChecked()) {
+        wishes.lamps = view.pitch;
+        // Even, for films that need even sides.
+        wishes.scale = qMax(PictureView::smallestLamp, (wishes.scale + 1) / 2 * 2);
+    }
     wishes.schedule = schedule->isChecked();
     wishes.transparent = transparent->isChecked() && transparent->isEnabled();
     wishes.lossless = lossless->isChecked() && lossless->isEnabled();
@@ -152,6 +183,38 @@ void ExportDialog::FormatChosen()
     output->setText(path + format->currentData().toString());
 }
 
+/** One picture is a PNG, and a PNG is one picture. */
+void ExportDialog::ExtentChosen()
+{
+    const QPoint range = extent->currentData().toPoint();
+    const FilmKind* kind = FilmKindOf(output->text());
+    const bool isOne = range.x() == range.y();
+    if (isOne != (kind && kind->still)) {
+        format->setCurrentIndex(isOne ? format->findData(QStringLiteral(".png")) : 0);
+        FormatChosen();
+    }
+    Refresh();
+}
+
+/** Size and length of what will be made. */
+void ExportDialog::ShowForecast()
+{
+    const ExportWishes wishes = Wishes();
+    const QSize size = sign.display * wishes.scale;
+    const QString pixels = tr("%1 × %2 px").arg(size.width()).arg(size.height());
+    const int pictures = wishes.last >= 0 ? wishes.last - wishes.first + 1 : view.length;
+    if (wishes.last >= 0 && pictures == 1)
+        forecast->setText(pixels);
+    else if (pictures > 0 && (wishes.last >= 0 || schedule->isChecked()))
+        forecast->setText(
+            QStringLiteral("%1 · %2").arg(pixels, SecondsText(qint64(pictures) * tickLength)));
+    else if (pictures > 0) // the film lets the last page stand for one hold more
+        forecast->setText(tr("%1 · %2 and the last hold once more")
+                              .arg(pixels, SecondsText(qint64(pictures) * tickLength)));
+    else
+        forecast->setText(tr("%1 · to the end of all texts").arg(pixels));
+}
+
 /** What the format cannot do is off, and says why. */
 void ExportDialog::Refresh()
 {
@@ -166,10 +229,23 @@ void ExportDialog::Refresh()
     transparent->setToolTip(transparent->isEnabled() ? QString()
                                                      : tr("Films of this format cannot be."));
     lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
+    const QPoint range = extent->currentData().toPoint();
+    const bool isOne = range.x() == range.y();
+    const bool suits = kind && kind->still == isOne;
+    if (kind && !suits && extent->findData(QPoint(view.tick, view.tick)) >= 0)
+        extent->setCurrentIndex(kind->still ? extent->findData(QPoint(view.tick, view.tick)) : 0);
+    ShowForecast();
     start->setText(tr("Export"));
-    start->setEnabled(index >= 0 && !sign.texts.isEmpty() && !exporting.IsRunning());
+    start->setEnabled(index >= 0 && (!kind->still || view.tick >= 0) && !sign.texts.isEmpty() &&
+                      !exporting.IsRunning());
+    command->setEnabled(Wishes().HasCommand());
+    command->setToolTip(command->isEnabled() ? QString()
+                                             : tr("Only the studio makes films of lamps."));
     command->setText(
-        RenderCommandLine(scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath, Wishes()));
+        !command->isEnabled()
+            ? QString()
+            : RenderCommandLine(scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath,
+                                Wishes()));
     command->setCursorPosition(0);
 }
 
@@ -226,7 +302,15 @@ void ExportDialog::End(const QString& error, bool cancelled)
     else if (!error.isEmpty())
         Say(error, true);
     else
-        Say(tr("Saved %1").arg(output->text()), false);
+        Say(tr("Saved %1").arg(output->text().toHtmlEscaped()) +
+                QStringLiteral("  <a href=\"%1\">%2</a>  <a href=\"%3\">%4</a>")
+                    .arg(QUrl::fromLocalFile(QFileInfo(output->text()).absoluteFilePath())
+                             .toString(QUrl::FullyEncoded),
+                         tr("Open"),
+                         QUrl::fromLocalFile(QFileInfo(output->text()).absolutePath())
+                             .toString(QUrl::FullyEncoded),
+                         tr("Show in folder")),
+            false);
     Refresh();
     emit Done(!cancelled && error.isEmpty());
 }

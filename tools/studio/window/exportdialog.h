@@ -20,6 +20,18 @@
 
 namespace AnimText {
 
+/** What is looked at in the window, in ticks of the play that is exported. */
+struct ExportView
+{
+    int tick = -1;      ///< negative when the play that is looked at is another one
+    int loopFirst = -1; ///< negative for no range
+    int loopLast = -1;
+    int length = 0;     ///< ticks of all; 0 when it is not known
+    double pitch = 1.5; ///< of lamps, in their diameters
+    bool lamps = false; ///< whether they are shown
+    bool schedule = false;
+};
+
 class ExportDialog : public QDialog
 {
     Q_OBJECT
@@ -27,12 +39,17 @@ class ExportDialog : public QDialog
 public:
     /** @param scenePath the file of the sign, for the command; empty when it has none yet */
     ExportDialog(const Sign& sign, const QString& scenePath, const QString& plugin,
-                 QWidget* parent = nullptr);
+                 const ExportView& view = ExportView(), QWidget* parent = nullptr);
 
     /** Where the film goes; its ending chooses the format. */
     void SetOutput(const QString& path);
     QString Output() const { return output->text(); }
     QString Command() const { return command->text(); }
+    /** All, the range, or the picture that is looked at. */
+    QComboBox* Extent() const { return extent; }
+    QCheckBox* Lamps() const { return lamps; }
+    QString Forecast() const { return forecast->text(); }
+    QString State() const { return state->text(); }
     QPushButton* StartButton() const { return start; }
     QPushButton* CloseButton() const { return close; }
 
@@ -46,6 +63,8 @@ private:
     ExportWishes Wishes() const;
     void FormatChosen();
     void Refresh();
+    void ShowForecast();
+    void ExtentChosen();
     void Say(const QString& words, bool isWarning);
     void Begin();
     void End(const QString& error, bool cancelled);
@@ -57,6 +76,11 @@ private:
     SceneFolder folder;
     Export exporting;
 
+    ExportView view;
+
+    QComboBox* extent;
+    QCheckBox* lamps;
+    QLabel* forecast;
     QComboBox* format;
     QLineEdit* output;
     QSpinBox* scale;

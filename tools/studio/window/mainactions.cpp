@@ -367,7 +367,20 @@ bool MainWindow::SaveAs()
 
 void MainWindow::ShowExport()
 {
-    auto* dialog = new ExportDialog(document.Current(), document.Path(), plugin, this);
+    ExportView seen;
+    // One page of several is not what is exported.
+    if (transport->IsSchedule() || document.Current().PageCount() < 2) {
+        seen.tick = playback.Tick();
+        seen.length = playback.Length();
+        if (playback.HasLoop()) {
+            seen.loopFirst = playback.LoopBegin();
+            seen.loopLast = playback.LoopEnd();
+        }
+    }
+    seen.schedule = transport->IsSchedule();
+    seen.pitch = pitch;
+    seen.lamps = leds->isChecked();
+    auto* dialog = new ExportDialog(document.Current(), document.Path(), plugin, seen, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

@@ -25,6 +25,11 @@ QStringList RenderOptions(const ExportWishes& wishes)
         options += {QStringLiteral("--scale"), QString::number(wishes.scale)};
     if (wishes.schedule)
         options += QStringLiteral("--schedule");
+    if (wishes.last >= 0)
+        options += {QStringLiteral("--frames"),
+                    QStringLiteral("%1-%2").arg(wishes.first).arg(wishes.last)};
+    if (wishes.lamps > 0)
+        options += {QStringLiteral("--lamps"), QString::number(wishes.lamps)};
     if (wishes.transparent)
         options += QStringLiteral("--transparent");
     if (wishes.lossless)

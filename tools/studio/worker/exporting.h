@@ -19,6 +19,12 @@ struct ExportWishes
     bool schedule = false;
     bool transparent = false;
     bool lossless = false;
+    int first = 0;    ///< picture that the film begins with
+    int last = -1;    ///< that it ends with; negative for the last one
+    double lamps = 0; ///< shows pixels as lamps, so many of their diameters apart; 0 for squares
+
+    /** Whether "animtext render" makes the same. */
+    bool HasCommand() const { return lamps <= 0; }
 };
 
 /** The options of "animtext render" for @p wishes, the output among them. */

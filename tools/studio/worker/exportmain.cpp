@@ -2,6 +2,7 @@
 // standard input ends.
 #include "studio/worker/exporting.h"
 
+#include "live/pictureview.h"
 #include "player/film.h"
 #include "player/filmfile.h"
 #include "player/plugin.h"
@@ -72,9 +73,10 @@ bool MakeFilm(const QString& scenePath, const QString& pluginPath, const ExportW
     if (!player.Load(scene, error))
         return false;
     FilmSettings settings;
-    settings.scale = wishes.scale;
+    const bool isLamps = wishes.lamps > 0;
+    settings.scale = isLamps ? 1 : wishes.scale;
     settings.schedule = wishes.schedule;
-    settings.evenSize = kind->evenSides && !wishes.lossless;
+    settings.evenSize = kind->evenSides && !wishes.lossless && !isLamps;
     if (wishes.transparent)
         settings.background = QColor();
     Film film(&player, scene, settings);
@@ -85,15 +87,19 @@ bool MakeFilm(const QString& scenePath, const QString& pluginPath, const ExportW
     if (!film.Plan(planned, error))
         return false;
     const std::unique_ptr<FilmFile> file = MakeFilmFile(wishes.output, IsWanted);
-    if (!file->Open({film.FrameSize(), 0, film.FrameCount(), film.IsTransparent(), wishes.lossless},
-                    error))
+    const int end = film.FrameCount() - 1;
+    const int last = wishes.last < 0 ? end : std::min(wishes.last, end);
+    const int first = std::min(wishes.first, last);
+    QVector<int> all(last - first + 1);
+    std::iota(all.begin(), all.end(), first);
+    const QSize size = film.FrameSize() * (isLamps ? wishes.scale : 1);
+    if (!file->Open({size, first, int(all.size()), film.IsTransparent(), wishes.lossless}, error))
         return false;
-    QVector<int> all(film.FrameCount());
-    std::iota(all.begin(), all.end(), 0);
     const auto take = [&](int frame, const QImage& picture) {
-        if (!file->Add(frame, picture, error))
+        if (!file->Add(frame, isLamps ? AsLamps(picture, wishes.scale, wishes.lamps) : picture,
+                       error))
             return false;
-        teller->SayProgress(frame + 1, film.FrameCount());
+        teller->SayProgress(frame - first + 1, all.size());
         return IsWanted();
     };
     return film.Play(all, take, error) && file->Finish(error);
@@ -124,6 +130,8 @@ int ExportMain(int argc, char** argv)
          {QStringLiteral("o"), QString(), QStringLiteral("OUT")},
          {QStringLiteral("scale"), QString(), QStringLiteral("N"), QStringLiteral("1")},
          {QStringLiteral("schedule"), QString()},
+         {QStringLiteral("frames"), QString(), QStringLiteral("A-B")},
+         {QStringLiteral("lamps"), QString(), QStringLiteral("PITCH")},
          {QStringLiteral("transparent"), QString()},
          {QStringLiteral("lossless"), QString()}});
     QString error = QStringLiteral("the words are not understood");
@@ -131,6 +139,11 @@ int ExportMain(int argc, char** argv)
         ExportWishes wishes;
         wishes.output = parser.value(QStringLiteral("o"));
         wishes.scale = parser.value(QStringLiteral("scale")).toInt();
+        const QString frames = parser.value(QStringLiteral("frames"));
+        wishes.first = frames.section(QLatin1Char('-'), 0, 0).toInt();
+        if (!frames.isEmpty())
+            wishes.last = frames.section(QLatin1Char('-'), 1).toInt();
+        wishes.lamps = parser.value(QStringLiteral("lamps")).toDouble();
         wishes.schedule = parser.isSet(QStringLiteral("schedule"));
         wishes.transparent = parser.isSet(QStringLiteral("transparent"));
         wishes.lossless = parser.isSet(QStringLiteral("lossless"));
