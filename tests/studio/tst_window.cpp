@@ -1,4 +1,5 @@
 #include "studio/window/exportdialog.h"
+#include "studio/window/looks.h"
 #include "studio/window/mainwindow.h"
 #include "studio/window/newdialog.h"
 #include "studio/window/translating.h"
@@ -73,6 +74,9 @@ private slots:
     void findingsAreMended();
     void exportsAndCancels();
     void exportsPartsAndLamps();
+    void timesAreSaidInWords_data();
+    void timesAreSaidInWords();
+    void timelineStopsZoomsAndRepeats();
     void integratorsSeeCallsFaultsAndAnotherLibrary();
     void holdsThreeHundredTexts();
 };
@@ -762,6 +766,63 @@ void TestWindow::exportsPartsAndLamps()
     QCOMPARE(exports(1, false, "part/"), QString("512 × 64 px · 0.33 s"));
     QCOMPARE(QDir(folder.Path("part")).entryList(QDir::Files).size(), 5);
     QCOMPARE(on(QImage(folder.Path("part/frame-0030.png"))), seen);
+}
+
+void TestWindow::timesAreSaidInWords_data()
+{
+    QTest::addColumn<int>("told");
+    QTest::addColumn<int>("real");
+    QTest::addColumn<int>("lastPage"); // tick at which it begins
+    QTest::addColumn<QString>("words");
+    QTest::newRow("as planned") << 6600 << 6600 << 50 << "planned 6.60 s · needs 6.60 s";
+    QTest::newRow("a tick too long") << 6600 << 6666 << 50 << "planned 6.60 s · needs 6.67 s";
+    QTest::newRow("two ticks") << 6600 << 6732 << 50
+                               << "planned 6.60 s · needs 6.73 s · 0.13 s lost";
+    QTest::newRow("a page") << 6600 << 9900 << 100 << "planned 6.60 s · needs 9.90 s · 1 page lost";
+    QTest::newRow("shorter") << 6600 << 3300 << 20
+                             << "planned 6.60 s · needs 3.30 s · 3.30 s longer on the sign";
+}
+
+void TestWindow::timesAreSaidInWords()
+{
+    QFETCH(int, told);
+    QFETCH(int, real);
+    QFETCH(int, lastPage);
+    Translate(QLocale("en"));
+    TextTime text;
+    text.ending = Ending::Finishes;
+    text.told = told;
+    text.real = real;
+    text.pages = {{0, 5, lastPage}, {lastPage, lastPage + 5, lastPage + 9}};
+    QTEST(EndsInWords(text), "words");
+    TransportBar bar(window->GetPlayback());
+    bar.ShowEnds(&text, QString());
+    const QColor color = bar.findChildren<QLabel*>().at(1)->palette().color(QPalette::WindowText);
+    QCOMPARE(color == Warning(bar.palette()), lastPage == 100);
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
+}
+
+void TestWindow::timelineStopsZoomsAndRepeats()
+{
+    Sign sign = window->GetDocument()->Current();
+    sign.texts.first().node.attributes["PlayTimes"] = 3;
+    window->GetDocument()->Change("Repeats", sign);
+    QVERIFY(Settles());
+    auto* timeline = window->findChild<Timeline*>();
+    const QImage repeats = timeline->grab().toImage();
+    const Timing timing = window->GetRehearsal()->GetTiming();
+    timeline->SetTiming(timing, {Text().id}, {Text().Title()}, {1});
+    QVERIFY(timeline->grab().toImage() != repeats); // three pages look otherwise
+    window->GetPlayback()->SetPace(1);
+    const QPoint at(int(timeline->XOf(20.5)), 10);
+    QTest::mousePress(timeline->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    QVERIFY(!window->GetPlayback()->IsPlaying());
+    QCOMPARE(window->GetPlayback()->Tick(), 20);
+    QTest::mouseRelease(timeline->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    const double width = timeline->XOf(21) - timeline->XOf(20);
+    timeline->SetZoom(4, at.x());
+    QCOMPARE(timeline->TickAt(at.x()), 20); // it stays under the mouse
+    QVERIFY(qAbs((timeline->XOf(21) - timeline->XOf(20)) / width - 4) < 0.01);
 }
 
 void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()

@@ -1120,8 +1120,12 @@
         <translation>Ctrl+Shift+V</translation>
     </message>
     <message>
-        <source>Play on L&amp;EDs…</source>
-        <translation>Auf L&amp;EDs abspielen…</translation>
+        <source>Ctrl+Space</source>
+        <translation>Ctrl+Space</translation>
+    </message>
+    <message>
+        <source>&amp;Loop the page, or stop looping</source>
+        <translation>Seite in &amp;Schleife spielen oder damit aufhören</translation>
     </message>
     <message>
         <source>&amp;New…</source>
@@ -1208,12 +1212,20 @@
         <translation>Seite %1</translation>
     </message>
     <message>
-        <source>Ctrl+Space</source>
-        <translation>Ctrl+Space</translation>
+        <source>Page %1: %2</source>
+        <translation>Seite %1: %2</translation>
     </message>
     <message>
-        <source>&amp;Loop the page, or stop looping</source>
-        <translation>Seite in &amp;Schleife spielen oder damit aufhören</translation>
+        <source>Program: %1</source>
+        <translation>Programm: %1</translation>
+    </message>
+    <message>
+        <source>Text: %1</source>
+        <translation>Text: %1</translation>
+    </message>
+    <message>
+        <source>Play on L&amp;EDs…</source>
+        <translation>Auf L&amp;EDs abspielen…</translation>
     </message>
 </context>
 <context>
@@ -1384,40 +1396,40 @@
         <translation>Sekunden</translation>
     </message>
     <message>
-        <source>comes in</source>
-        <translation>kommt</translation>
-    </message>
-    <message>
-        <source>stands</source>
-        <translation>steht</translation>
-    </message>
-    <message>
-        <source>cut off by the host</source>
-        <translation>vom Host abgeschnitten</translation>
-    </message>
-    <message>
-        <source>Click or drag to go to a moment; drag with Shift to loop over a range.</source>
-        <translation>Klicken oder ziehen führt zu einem Zeitpunkt; Ziehen mit Umschalt wiederholt einen Abschnitt.</translation>
-    </message>
-    <message>
         <source>%1, tick %2</source>
         <translation>%1, Takt %2</translation>
     </message>
     <message>
-        <source>Page %1 stands for %2</source>
-        <translation>Seite %1 steht %2</translation>
+        <source>enters</source>
+        <translation>tritt ein</translation>
     </message>
     <message>
-        <source>Page %1 comes in for %2</source>
-        <translation>Seite %1 kommt in %2</translation>
+        <source>holds</source>
+        <translation>hält</translation>
     </message>
     <message>
-        <source>The host is told %1.</source>
-        <translation>Dem Host wird %1 gesagt.</translation>
+        <source>cut off</source>
+        <translation>abgeschnitten</translation>
     </message>
     <message>
-        <source>It really takes %1.</source>
-        <translation>Wirklich dauert es %1.</translation>
+        <source>Click or drag to go to a moment; Shift+drag loops a range; Ctrl+wheel zooms.</source>
+        <translation>Klicken oder ziehen, um zu einem Zeitpunkt zu gehen; Umschalt+Ziehen spielt einen Bereich in Schleife; Strg+Mausrad zoomt.</translation>
+    </message>
+    <message>
+        <source>Page %1 holds for %2</source>
+        <translation>Seite %1 hält %2 lang</translation>
+    </message>
+    <message>
+        <source>Page %1 enters for %2</source>
+        <translation>Seite %1 tritt %2 lang ein</translation>
+    </message>
+    <message>
+        <source>Planned: %1</source>
+        <translation>Geplant: %1</translation>
+    </message>
+    <message>
+        <source>Needs: %1</source>
+        <translation>Braucht: %1</translation>
     </message>
 </context>
 <context>
@@ -1471,12 +1483,6 @@
         <translation>Was gespielt wird</translation>
     </message>
     <message>
-        <source>This page: all its texts from its start to their real ends.
-All pages: one after another, each for the time that the host is told.</source>
-        <translation>Diese Seite: alle ihre Texte vom Anfang bis zu ihrem wirklichen Ende.
-Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</translation>
-    </message>
-    <message>
         <source>%1  tick %2</source>
         <translation>%1  Takt %2</translation>
     </message>
@@ -1489,24 +1495,37 @@ Alle Seiten: eine nach der anderen, jede so lange, wie dem Host gesagt wird.</tr
         <translation>nichts zu spielen</translation>
     </message>
     <message>
-        <source>told %1 · longer than can be shown</source>
-        <translation>gesagt %1 · länger, als gezeigt werden kann</translation>
-    </message>
-    <message>
-        <source>told %1 · really %2</source>
-        <translation>gesagt %1 · wirklich %2</translation>
-    </message>
-    <message>
-        <source> · %1 cut off</source>
-        <translation> · %1 abgeschnitten</translation>
-    </message>
-    <message>
-        <source> · stands %1 longer</source>
-        <translation> · steht %1 länger</translation>
-    </message>
-    <message>
         <source>Loop the page; Shift+drag over the timeline loops a range</source>
         <translation>Seite in Schleife spielen; Umschalt+Ziehen über die Zeitleiste für einen Bereich</translation>
+    </message>
+    <message>
+        <source>This page: all its texts, for as long as they need.
+All pages: in turn, each for its planned time, as the host plays them.</source>
+        <translation>Diese Seite: alle ihre Texte, so lange sie brauchen.
+Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt.</translation>
+    </message>
+    <message>
+        <source>planned %1 · needs longer than can be shown</source>
+        <translation>geplant %1 · braucht länger, als gezeigt werden kann</translation>
+    </message>
+    <message>
+        <source>planned %1 · needs %2</source>
+        <translation>geplant %1 · braucht %2</translation>
+    </message>
+    <message numerus="yes">
+        <source> · %n page(s) lost</source>
+        <translation>
+            <numerusform> · %n Seite verloren</numerusform>
+            <numerusform> · %n Seiten verloren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source> · %1 lost</source>
+        <translation> · %1 verloren</translation>
+    </message>
+    <message>
+        <source> · %1 longer on the sign</source>
+        <translation> · steht %1 länger</translation>
     </message>
 </context>
 <context>

@@ -31,4 +31,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>AnimText::TransportBar</name>
+    <message numerus="yes">
+        <source> · %n page(s) lost</source>
+        <translation>
+            <numerusform> · %n page lost</numerusform>
+            <numerusform> · %n pages lost</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

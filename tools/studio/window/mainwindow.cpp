@@ -425,13 +425,60 @@ void MainWindow::ShowTiming()
     const Timing& timing = rehearsal.GetTiming();
     const QVector<int> ids = PagedIds(part.page);
     QStringList titles;
-    for (int id : ids)
-        titles.append(document.Current().Find(id)->Title());
-    timeline->SetTiming(timing, ids, titles);
+    QVector<int> plays;
+    for (int id : ids) {
+        const SignText* text = document.Current().Find(id);
+        titles.append(text->Title());
+        plays.append(text->node.attributes.value(QStringLiteral("PlayTimes")).toInt());
+    }
+    timeline->SetTiming(timing, ids, titles, plays);
     timeline->SetStale(false);
     playback.SetLength(timing.Ticks());
+    ShowEnds();
+}
+
+/** Times of the text that is selected, else of the page, else of the program. */
+void MainWindow::ShowEnds()
+{
+    const Timing& timing = rehearsal.GetTiming();
+    const QVector<int> ids = PagedIds(part.page);
+    if (timing.texts.size() != ids.size()) {
+        transport->ShowEnds(nullptr, QString());
+        return;
+    }
+    QMap<int, QVector<TextTime>> pages; // the texts of an area play in turn
+    int area = -1;
+    for (int i = 0; i < ids.size(); ++i) {
+        const SignText* text = document.Current().Find(ids.at(i));
+        QVector<TextTime>& own = pages[text->page];
+        if (own.isEmpty() || text->area != area) {
+            own.append(timing.texts.at(i));
+        } else {
+            own.last().told += timing.texts.at(i).told;
+            own.last().real += timing.texts.at(i).real;
+        }
+        area = text->area;
+    }
+    QStringList lines;
+    TextTime program = SideBySide({});
+    for (auto page = pages.begin(); page != pages.end(); ++page) {
+        const TextTime times = SideBySide(page.value());
+        program.told += times.told;
+        program.real += times.real;
+        lines.append(tr("Page %1: %2").arg(page.key() + 1).arg(EndsInWords(times)));
+    }
+    lines.append(tr("Program: %1").arg(EndsInWords(program)));
+    if (part.page >= 0)
+        lines.removeLast(); // the other pages have not been measured
     const int row = ids.indexOf(selected);
-    transport->ShowEnds(row >= 0 && row < timing.texts.size() ? &timing.texts.at(row) : nullptr);
+    const TextTime page = SideBySide(pages.value(CurrentPage()));
+    if (row >= 0) {
+        lines.prepend(tr("Text: %1").arg(EndsInWords(timing.texts.at(row))));
+        transport->ShowEnds(&timing.texts.at(row), lines.join(QLatin1Char('\n')));
+    } else {
+        transport->ShowEnds(part.page >= 0 || scenes->PageOfRow() >= 0 ? &page : &program,
+                            lines.join(QLatin1Char('\n')));
+    }
 }
 
 void MainWindow::ShowState()

@@ -82,6 +82,7 @@ private:
     void Refresh();
     void Rehearse();
     void ShowTiming();
+    void ShowEnds();
     void ShowState();
     void LoadTheirs();
     void ShowFindings();

@@ -21,6 +21,7 @@ constexpr int rowHeight = 24;
 constexpr int titleWidth = 128;
 constexpr int rightMargin = 16;
 constexpr int inset = 4;
+constexpr double largestZoom = 64;
 constexpr int ticksUnmeasured = 60; // that there is room for while nothing is known
 
 double TicksOf(qint64 milliseconds)
@@ -45,7 +46,6 @@ Timeline::Timeline(Playback* playback, QWidget* parent)
     , playback(playback)
 {
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Timeline"));
     viewport()->setMouseTracking(true);
@@ -54,8 +54,9 @@ Timeline::Timeline(Playback* playback, QWidget* parent)
 }
 
 void Timeline::SetTiming(const Timing& times, const QVector<int>& textIds,
-                         const QStringList& textTitles)
+                         const QStringList& textTitles, const QVector<int>& textPlays)
 {
+    plays = textPlays;
     timing = times;
     ids = textIds;
     titles = textTitles;
@@ -93,16 +94,39 @@ int Timeline::Ticks() const
     return std::max({least, timing.Ticks(), playback->Length()});
 }
 
+/** Points for the times, as far as they are seen. */
+double Timeline::Room() const
+{
+    return std::max(1, viewport()->width() - titleWidth - rightMargin);
+}
+
 double Timeline::XOf(double tick) const
 {
-    const double width = std::max(1, viewport()->width() - titleWidth - rightMargin);
-    return titleWidth + tick * width / std::max(1, Ticks());
+    return titleWidth + tick * Room() * zoom / std::max(1, Ticks()) -
+           horizontalScrollBar()->value();
 }
 
 int Timeline::TickAt(double x) const
 {
-    const double width = std::max(1, viewport()->width() - titleWidth - rightMargin);
-    return int(std::floor((x - titleWidth) * Ticks() / width));
+    return int(
+        std::floor((x - titleWidth + horizontalScrollBar()->value()) * Ticks() / (Room() * zoom)));
+}
+
+void Timeline::SetZoom(double wanted, double x)
+{
+    const double tick = (x - titleWidth + horizontalScrollBar()->value()) / zoom;
+    zoom = std::max(1.0, std::min(wanted, largestZoom));
+    Adjust();
+    horizontalScrollBar()->setValue(int(std::lround(tick * zoom - (x - titleWidth))));
+    viewport()->update();
+}
+
+void Timeline::wheelEvent(QWheelEvent* event)
+{
+    if (event->modifiers() & Qt::ControlModifier)
+        SetZoom(zoom * std::pow(2, event->angleDelta().y() / 240.0), event->position().x());
+    else
+        QAbstractScrollArea::wheelEvent(event);
 }
 
 QVector<int> Timeline::Marks() const
@@ -165,6 +189,9 @@ void Timeline::Adjust()
     verticalScrollBar()->setRange(0, std::max(0, int(ids.size()) * rowHeight - room));
     verticalScrollBar()->setPageStep(std::max(1, room));
     verticalScrollBar()->setSingleStep(rowHeight);
+    horizontalScrollBar()->setRange(0, int(Room() * (zoom - 1)));
+    horizontalScrollBar()->setPageStep(int(Room()));
+    horizontalScrollBar()->setSingleStep(rowHeight);
 }
 
 void Timeline::resizeEvent(QResizeEvent*)
@@ -189,6 +216,7 @@ void Timeline::paintEvent(QPaintEvent*)
         PaintLegend(&painter);
 
     const double x = std::round(XOf(playback->Tick() + 0.5));
+    painter.setClipRect(titleWidth - 2 * inset, 0, viewport()->width(), viewport()->height());
     const QColor accent = palette().color(QPalette::Highlight);
     painter.setPen(QPen(accent, 1));
     painter.drawLine(QPointF(x, 0), QPointF(x, viewport()->height()));
@@ -218,6 +246,8 @@ void Timeline::PaintRuler(QPainter* painter) const
     const int small = step * perSecond / 5 >= 6 ? 5 : 2;
     for (int i = 0; i * step / small <= seconds + 0.001; ++i) {
         const double x = std::round(XOf(TicksOf(qint64(1000 * i * step / small))));
+        if (x < titleWidth || x > viewport()->width())
+            continue;
         const bool isNumber = i % small == 0;
         painter->setPen(quiet);
         painter->drawLine(QPointF(x, isNumber ? rulerHeight - 7 : rulerHeight - 4),
@@ -238,7 +268,7 @@ void Timeline::PaintRuler(QPainter* painter) const
 void Timeline::PaintLegend(QPainter* painter) const
 {
     const QPair<Phase, QString> entries[]{
-        {Entrance, tr("comes in")}, {Hold, tr("stands")}, {Cut, tr("cut off by the host")}};
+        {Entrance, tr("enters")}, {Hold, tr("holds")}, {Cut, tr("cut off")}};
     painter->setFont(TabularFont(font(), -1));
     const QFontMetrics metrics = painter->fontMetrics();
     const int middle = viewport()->height() - rowHeight / 2;
@@ -288,6 +318,8 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
                                                          titleWidth - 3 * inset));
 
     const QRectF bar(0, rect.top() + inset, 0, rowHeight - 2 * inset);
+    painter->save();
+    painter->setClipRect(rect.adjusted(titleWidth - 1, 0, 0, 0), Qt::IntersectClip);
     const auto block = [&](double from, double to, Phase phase) {
         const double x = XOf(from);
         Fill(painter, QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()), phase);
@@ -301,14 +333,30 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
         if (text.ending != Ending::NothingToPlay)
             block(from, end, Entrance);
     }
-    for (const PageTime& page : text.pages) {
+    const int perRun = FirstRepeat(row);
+    for (int i = 0; i < text.pages.size(); ++i) {
+        const PageTime& page = text.pages.at(i);
         block(from + page.begin, from + page.hold, Entrance);
         if (page.end > page.hold)
             block(from + page.hold, from + page.end, Hold);
+        if (i < perRun)
+            continue;
+        // A repeat is lower than what is seen first, and numbered where it begins.
+        const QRectF covered(XOf(from + page.begin), bar.top(),
+                             XOf(from + page.end) - XOf(from + page.begin), 5);
+        painter->fillRect(covered, isSelected ? Mixed(accent, base, 0.88) : base);
+        const QString number = QStringLiteral("×%1").arg(i / perRun + 1);
+        painter->setFont(TabularFont(font(), -2));
+        if (i % perRun == 0 && painter->fontMetrics().horizontalAdvance(number) < covered.width()) {
+            painter->setPen(palette().color(QPalette::HighlightedText));
+            painter->drawText(
+                QRectF(covered.left() + 3, bar.top() + 5, covered.width(), bar.height() - 5),
+                Qt::AlignVCenter, number);
+        }
     }
     // What the host cuts off, for it was told another time.
     const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
-    if (text.ending != Ending::NothingToPlay && real > told + 0.01) {
+    if (text.ending != Ending::NothingToPlay && real > told + 1.01) { // a tick is not missed
         Fill(painter, QRectF(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height()), Cut);
     }
     if (text.ending != Ending::NothingToPlay) {
@@ -316,13 +364,22 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
         const double x = std::round(XOf(told));
         painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
     }
+    painter->restore();
+}
+
+/** Which of its pages is the first of the second run; behind all of them for none. */
+int Timeline::FirstRepeat(int row) const
+{
+    const int pages = timing.texts.at(row).pages.size();
+    const int runs = std::max(1, plays.value(row, 1));
+    return pages % runs == 0 ? std::max(1, pages / runs) : std::max(1, pages);
 }
 
 QString Timeline::Describe(const QPoint& point) const
 {
     const int row = (point.y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
     if (point.y() < rulerHeight || row >= timing.texts.size())
-        return tr("Click or drag to go to a moment; drag with Shift to loop over a range.");
+        return tr("Click or drag to go to a moment; Shift+drag loops a range; Ctrl+wheel zooms.");
     const TextTime& text = timing.texts.at(row);
     const int at = TickAt(point.x());
     const double tick = at - TicksOf(text.from);
@@ -337,14 +394,14 @@ QString Timeline::Describe(const QPoint& point) const
             continue;
         const bool holds = tick >= page.hold;
         what += QLatin1Char('\n') +
-                (holds ? tr("Page %1 stands for %2") : tr("Page %1 comes in for %2"))
-                    .arg(number)
+                (holds ? tr("Page %1 holds for %2") : tr("Page %1 enters for %2"))
+                    .arg((number - 1) % FirstRepeat(row) + 1)
                     .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
                                      qint64(tickLength)));
     }
-    what += QLatin1Char('\n') + tr("The host is told %1.").arg(SecondsText(text.told));
+    what += QLatin1Char('\n') + tr("Planned: %1").arg(SecondsText(text.told));
     if (text.real >= 0)
-        what += QLatin1Char('\n') + tr("It really takes %1.").arg(SecondsText(text.real));
+        what += QLatin1Char('\n') + tr("Needs: %1").arg(SecondsText(text.real));
     return what;
 }
 
@@ -378,6 +435,7 @@ void Timeline::mousePressEvent(QMouseEvent* event)
         return;
     marking = event->modifiers() & Qt::ShiftModifier;
     markFrom = TickAt(event->pos().x());
+    playback->SetPace(0); // what is looked at stays
     if (!marking)
         playback->Seek(markFrom);
 }

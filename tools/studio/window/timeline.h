@@ -20,8 +20,15 @@ class Timeline : public QAbstractScrollArea
 public:
     Timeline(Playback* playback, QWidget* parent = nullptr);
 
-    /** @param ids of the texts, which have the rows of @p timing in this order */
-    void SetTiming(const Timing& timing, const QVector<int>& ids, const QStringList& titles);
+    /**
+     * @param ids of the texts, which have the rows of @p timing in this order
+     * @param plays how often each plays; runs after the first are shown as repeats
+     */
+    void SetTiming(const Timing& timing, const QVector<int>& ids, const QStringList& titles,
+                   const QVector<int>& plays);
+    /** Times longer than all of it would be in the width, 1 .. 64; the tick at @p x stays there. */
+    void SetZoom(double zoom, double x);
+    double Zoom() const { return zoom; }
     /** Whether the timing is that of an earlier state. */
     void SetStale(bool stale);
     void SetSelected(int id);
@@ -52,11 +59,14 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     void PaintRuler(QPainter* painter) const;
     void PaintRow(QPainter* painter, int row, const QRect& rect) const;
     enum Phase { Entrance, Hold, Cut };
+    int FirstRepeat(int row) const;
+    double Room() const;
     void PaintLegend(QPainter* painter) const;
     void Fill(QPainter* painter, const QRectF& rect, Phase phase) const;
     QString Describe(const QPoint& point) const;
@@ -68,6 +78,8 @@ private:
     Timing timing;
     QVector<int> ids;
     QStringList titles;
+    QVector<int> plays;
+    double zoom = 1;
     int selected = 0;
     bool stale = false;
     bool marking = false; // a range is being drawn

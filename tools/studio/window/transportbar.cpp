@@ -5,7 +5,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-#include <cstdlib>
+#include <algorithm>
 
 namespace AnimText {
 namespace {
@@ -62,8 +62,8 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
 
     what->addItems({tr("This page"), tr("All pages")});
     what->setAccessibleName(tr("What is played"));
-    what->setToolTip(tr("This page: all its texts from its start to their real ends.\n"
-                        "All pages: one after another, each for the time that the host is told."));
+    what->setToolTip(tr("This page: all its texts, for as long as they need.\n"
+                        "All pages: in turn, each for its planned time, as the host plays them."));
     connect(what, qOverload<int>(&QComboBox::activated), this,
             [this](int index) { emit ScheduleChanged(index == 1); });
 
@@ -130,34 +130,55 @@ void TransportBar::SetSchedule(bool schedule)
     what->setCurrentIndex(schedule ? 1 : 0);
 }
 
+int LostPages(const TextTime& text)
+{
+    return int(std::count_if(text.pages.begin(), text.pages.end(), [&](const PageTime& page) {
+        return qint64(page.begin) * tickLength >= text.told;
+    }));
+}
+
+TextTime SideBySide(const QVector<TextTime>& texts)
+{
+    TextTime all;
+    all.ending = Ending::Finishes;
+    all.real = 0;
+    for (const TextTime& text : texts) {
+        if (text.ending == Ending::TooLong)
+            all.ending = Ending::TooLong;
+        all.told = std::max(all.told, text.told);
+        all.real = std::max(all.real, text.real);
+    }
+    return all;
+}
+
 QString EndsInWords(const TextTime& text)
 {
     switch (text.ending) {
     case Ending::NothingToPlay: return TransportBar::tr("nothing to play");
     case Ending::TooLong:
-        return TransportBar::tr("told %1 · longer than can be shown").arg(SecondsText(text.told));
+        return TransportBar::tr("planned %1 · needs longer than can be shown")
+            .arg(SecondsText(text.told));
     default: break;
     }
-    QString words =
-        TransportBar::tr("told %1 · really %2").arg(SecondsText(text.told), SecondsText(text.real));
+    QString words = TransportBar::tr("planned %1 · needs %2")
+                        .arg(SecondsText(text.told), SecondsText(text.real));
     const qint64 difference = text.real - text.told;
-    if (std::abs(difference) < tickLength)
-        return words; // the same, to a tick
-    if (difference > 0)
-        words += TransportBar::tr(" · %1 cut off").arg(SecondsText(difference));
-    else
-        words += TransportBar::tr(" · stands %1 longer").arg(SecondsText(-difference));
+    if (const int lost = LostPages(text))
+        words += TransportBar::tr(" · %n page(s) lost", nullptr, lost);
+    else if (difference > tickLength) // a tick is not missed
+        words += TransportBar::tr(" · %1 lost").arg(SecondsText(difference));
+    else if (difference < -tickLength)
+        words += TransportBar::tr(" · %1 longer on the sign").arg(SecondsText(-difference));
     return words;
 }
 
-void TransportBar::ShowEnds(const TextTime* text)
+void TransportBar::ShowEnds(const TextTime* text, const QString& all)
 {
     ends->setText(text ? EndsInWords(*text) : QString());
-    ends->setToolTip(ends->text());
+    ends->setToolTip(all);
     QPalette colors = palette();
-    const bool isCut =
-        text && text->ending == Ending::Finishes && text->real - text->told >= tickLength;
-    colors.setColor(QPalette::WindowText, isCut ? Warning(colors) : Quiet(colors));
+    const bool isAlarm = text && LostPages(*text) > 0;
+    colors.setColor(QPalette::WindowText, isAlarm ? Warning(colors) : Quiet(colors));
     ends->setPalette(colors);
 }
 

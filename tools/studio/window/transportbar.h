@@ -22,8 +22,8 @@ class TransportBar : public QWidget
 public:
     explicit TransportBar(Playback* playback, QWidget* parent = nullptr);
 
-    /** @param text the text whose ends are told; null for none */
-    void ShowEnds(const TextTime* text);
+    /** @param what times as EndsInWords() has them; @param all those of text, page and program */
+    void ShowEnds(const TextTime* text, const QString& all);
     /** Whether all is played as the host does, page by page; else the page that is looked at. */
     bool IsSchedule() const { return what->currentIndex() == 1; }
     void SetSchedule(bool schedule);
@@ -50,8 +50,14 @@ private:
     QComboBox* what;
 };
 
-/** "told 12.5 s · really 12.9 s · 0.4 s cut off", or what there is to say. */
+/** "planned 12.5 s · needs 12.9 s · 0.4 s lost", or what there is to say. */
 QString EndsInWords(const TextTime& text);
+
+/** How many pages would begin after the host has stopped the text. */
+int LostPages(const TextTime& text);
+
+/** Texts that play side by side, as one: what is planned and needed for all of them. */
+TextTime SideBySide(const QVector<TextTime>& texts);
 
 } // namespace AnimText
 
