@@ -73,6 +73,7 @@ private slots:
     void everythingHasAName();
     void findingsAreMended();
     void exportsAndCancels();
+    void pickerGrowsAndNamesMotions();
     void exportsPartsAndLamps();
     void timesAreSaidInWords_data();
     void timesAreSaidInWords();
@@ -725,6 +726,27 @@ void TestWindow::exportsAndCancels()
     QVERIFY(folder.Everything().filter("never").isEmpty());
     dialog.SetOutput(folder.Path("nothing.txt"));
     QVERIFY(!dialog.StartButton()->isEnabled());
+}
+
+void TestWindow::pickerGrowsAndNamesMotions()
+{
+    MotionPicker* picker = window->GetInspector()->Motions();
+    const int before = picker->List()->height();
+    window->resize(1600, 1300);
+    QTRY_VERIFY(picker->List()->height() > before * 5 / 4);
+    QSet<QString> names;
+    for (int row = 0; row < picker->List()->model()->rowCount(); ++row) {
+        const QModelIndex index = picker->List()->model()->index(row, 0);
+        names.insert(index.data().toString());
+        QVERIFY(picker->List()->visualRect(index).width() >=
+                picker->List()->fontMetrics().horizontalAdvance(index.data().toString()));
+    }
+    QCOMPARE(names.size(), 34);
+    picker->SetListHeight(333);
+    window->resize(1600, 900);
+    QTRY_COMPARE(picker->List()->height(), 333);
+    QCOMPARE(MotionPicker(nullptr).List()->maximumHeight(), 333); // the next start too
+    QSettings().clear();
 }
 
 void TestWindow::exportsPartsAndLamps()

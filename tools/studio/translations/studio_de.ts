@@ -1246,6 +1246,10 @@
         <source>Motions</source>
         <translation>Bewegungen</translation>
     </message>
+    <message>
+        <source>Drag to make the list higher or lower</source>
+        <translation>Ziehen, um die Liste höher oder niedriger zu machen</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::NewDialog</name>
@@ -2139,6 +2143,142 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
     <message>
         <source>the characters, one above another, sink from the top edge without end</source>
         <translation>die Zeichen, eines über dem anderen, sinken ohne Ende vom oberen Rand</translation>
+    </message>
+    <message>
+        <source>Fly to the left</source>
+        <translation>Nach links fliegen</translation>
+    </message>
+    <message>
+        <source>Fly to the right</source>
+        <translation>Nach rechts fliegen</translation>
+    </message>
+    <message>
+        <source>Rise one by one</source>
+        <translation>Einzeln aufsteigen</translation>
+    </message>
+    <message>
+        <source>Drop one by one</source>
+        <translation>Einzeln fallen</translation>
+    </message>
+    <message>
+        <source>Typewriter</source>
+        <translation>Schreibmaschine</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Welle</translation>
+    </message>
+    <message>
+        <source>Sway</source>
+        <translation>Schwanken</translation>
+    </message>
+    <message>
+        <source>Pulse</source>
+        <translation>Pulsieren</translation>
+    </message>
+    <message>
+        <source>Tremble</source>
+        <translation>Zittern</translation>
+    </message>
+    <message>
+        <source>Grow one by one</source>
+        <translation>Einzeln wachsen</translation>
+    </message>
+    <message>
+        <source>Shrink one by one</source>
+        <translation>Einzeln schrumpfen</translation>
+    </message>
+    <message>
+        <source>Spin about the middle</source>
+        <translation>Um die Mitte drehen</translation>
+    </message>
+    <message>
+        <source>Roll in</source>
+        <translation>Hereinrollen</translation>
+    </message>
+    <message>
+        <source>Spin about the baseline</source>
+        <translation>Um die Grundlinie drehen</translation>
+    </message>
+    <message>
+        <source>Flip upright</source>
+        <translation>Aufrecht klappen</translation>
+    </message>
+    <message>
+        <source>Swell in turn</source>
+        <translation>Reihum anschwellen</translation>
+    </message>
+    <message>
+        <source>Drop in turn</source>
+        <translation>Reihum fallen</translation>
+    </message>
+    <message>
+        <source>Drop and bounce</source>
+        <translation>Fallen und abprallen</translation>
+    </message>
+    <message>
+        <source>Widen along a slant</source>
+        <translation>Schräg breiter werden</translation>
+    </message>
+    <message>
+        <source>Frog uncovers</source>
+        <translation>Frosch deckt auf</translation>
+    </message>
+    <message>
+        <source>Frog drops</source>
+        <translation>Frosch lässt fallen</translation>
+    </message>
+    <message>
+        <source>Widen to the right</source>
+        <translation>Nach rechts breiter werden</translation>
+    </message>
+    <message>
+        <source>Slide along a slant</source>
+        <translation>Schräg gleiten</translation>
+    </message>
+    <message>
+        <source>Climb again and again</source>
+        <translation>Immer wieder klettern</translation>
+    </message>
+    <message>
+        <source>Grow from both ends</source>
+        <translation>Von beiden Enden wachsen</translation>
+    </message>
+    <message>
+        <source>Turn the row</source>
+        <translation>Zeile drehen</translation>
+    </message>
+    <message>
+        <source>Gather and flip</source>
+        <translation>Sammeln und klappen</translation>
+    </message>
+    <message>
+        <source>Gather and spin</source>
+        <translation>Sammeln und drehen</translation>
+    </message>
+    <message>
+        <source>Pulse the page</source>
+        <translation>Seite pulsieren</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Schaukeln</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Nach links laufen</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Nach rechts laufen</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben laufen</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten laufen</translation>
     </message>
 </context>
 <context>

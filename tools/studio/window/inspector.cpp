@@ -87,6 +87,12 @@ bool Inspector::eventFilter(QObject* object, QEvent* event)
     return answer;
 }
 
+void Inspector::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    motions->SetRoom(viewport()->height());
+}
+
 QLabel* Inspector::Heading(const QString& words)
 {
     auto* label = new QLabel(words);

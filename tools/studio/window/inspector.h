@@ -34,6 +34,7 @@ signals:
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     static QLabel* Heading(const QString& words);

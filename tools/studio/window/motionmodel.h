@@ -13,7 +13,7 @@
 
 namespace AnimText {
 
-/** The name of a motion for people: "Word For Word Output". */
+/** The name of a motion for people, in their language: "Typewriter". */
 QString TitleOf(const Motion& motion);
 
 /** @p words out of the catalogue of motions, in the language of the program. */

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSettings>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
@@ -15,16 +16,27 @@ namespace AnimText {
 namespace {
 
 constexpr int cardPadding = 4; // points
+constexpr double listShare = 0.45;
+const QString heightKey = QStringLiteral("motions");
 
 /** A card: the picture on black, the name below it. */
 class MotionCard : public QStyledItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    MotionCard(const MotionModel* motions, QObject* parent)
+        : QStyledItemDelegate(parent)
+        , motions(motions)
+    {
+    }
 
+    /** All as wide as the longest name, which is never cut. */
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
-        return {thumbnailSize.width() + 2 * cardPadding,
+        int width = thumbnailSize.width();
+        for (int row = 0; row < motions->rowCount(); ++row)
+            width =
+                qMax(width, option.fontMetrics.horizontalAdvance(TitleOf(motions->At(row))) + 2);
+        return {width + 2 * cardPadding,
                 thumbnailSize.height() + 3 * cardPadding + option.fontMetrics.height()};
     }
 
@@ -60,6 +72,49 @@ public:
             painter->drawRect(box.adjusted(0, 0, -1, -1));
         }
     }
+
+private:
+    const MotionModel* motions;
+};
+
+/** Below the list: drags its height. */
+class HeightHandle : public QWidget
+{
+public:
+    HeightHandle(MotionPicker* picker, const QWidget* list)
+        : QWidget(picker)
+        , picker(picker)
+        , list(list)
+    {
+        setFixedHeight(2 * grid);
+        setCursor(Qt::SplitVCursor);
+        setToolTip(MotionPicker::tr("Drag to make the list higher or lower"));
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        from = event->globalPos().y();
+        before = list->height();
+    }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (event->buttons() & Qt::LeftButton)
+            picker->SetListHeight(before + event->globalPos().y() - from);
+    }
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(Quiet(palette()));
+        for (int i = -2; i <= 2; ++i)
+            painter.drawPoint(width() / 2 + 4 * i, height() / 2);
+    }
+
+private:
+    MotionPicker* picker;
+    const QWidget* list;
+    int from = 0;
+    int before = 0;
 };
 
 /** Words out of the name, the operation, the family or what it does. */
@@ -119,7 +174,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     LetShrink(family);
     filtered->setSourceModel(motions);
     list->setModel(filtered);
-    list->setItemDelegate(new MotionCard(list));
+    list->setItemDelegate(new MotionCard(motions, list));
     list->setViewMode(QListView::IconMode);
     list->setResizeMode(QListView::Adjust);
     list->setMovement(QListView::Static);
@@ -130,7 +185,6 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     list->setAccessibleName(tr("Motions"));
-    list->setMinimumHeight(3 * (thumbnailSize.height() + 28));
     list->viewport()->installEventFilter(this);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
 
@@ -143,6 +197,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     layout->setSpacing(grid);
     layout->addLayout(top);
     layout->addWidget(list, 1);
+    layout->addWidget(new HeightHandle(this, list));
 
     connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
     connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);
@@ -153,6 +208,8 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
                 if (list->hasFocus())
                     Choose(index);
             });
+    chosenHeight = QSettings().value(heightKey, 0).toInt();
+    SetRoom(0);
     beat.setInterval(tickLength);
     connect(&beat, &QTimer::timeout, this, &MotionPicker::LookAtSight);
 }
@@ -169,6 +226,19 @@ void MotionPicker::Show(const SignText& text)
     }
     if (thumbnails)
         thumbnails->SetText(text);
+}
+
+void MotionPicker::SetRoom(int points)
+{
+    const int rows = 3 * (thumbnailSize.height() + 28);
+    list->setFixedHeight(chosenHeight > 0 ? chosenHeight : qMax(rows, int(points * listShare)));
+}
+
+void MotionPicker::SetListHeight(int points)
+{
+    chosenHeight = qBound(thumbnailSize.height() + 28, points, 2000);
+    QSettings().setValue(heightKey, chosenHeight);
+    SetRoom(0);
 }
 
 void MotionPicker::Filter()

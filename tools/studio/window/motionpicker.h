@@ -27,6 +27,10 @@ public:
     explicit MotionPicker(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void Show(const SignText& text);
+    /** Room of the panel that it is in: the list takes a share of it unless it has been dragged. */
+    void SetRoom(int points);
+    /** Of the list; kept from one start to the next. */
+    void SetListHeight(int points);
     /** The search field, and the list. */
     QLineEdit* Search() const { return search; }
     QListView* List() const { return list; }
@@ -52,6 +56,7 @@ private:
     QComboBox* family;
     QListView* list;
     QTimer beat;
+    int chosenHeight = 0; // points; 0 until it has been dragged
     int shownRow = -1;
     int tick = 0;
 };
