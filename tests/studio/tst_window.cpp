@@ -72,6 +72,7 @@ private slots:
     void speaksGerman();
     void everythingHasAName();
     void findingsAreMended();
+    void outlinesAreMadeAgain();
     void exportsAndCancels();
     void pickerGrowsAndNamesMotions();
     void exportsPartsAndLamps();
@@ -679,6 +680,31 @@ void TestWindow::findingsAreMended()
     QCOMPARE(Text().node.attributes.value("AnimationSpeed").toInt(), 9);
     QVERIFY(!Text().node.attributes.contains("Stroke"));
     QVERIFY(Text().source.fit == Fit::None);
+}
+
+void TestWindow::outlinesAreMadeAgain()
+{
+    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    editor->insertPlainText(QString::fromUtf8("a\xF3\xBF\xBF\x80")); // no font has U+FFFC0
+    QVERIFY(Settles());
+    const QList<QLabel*> notes = window->GetInspector()->Text()->findChildren<QLabel*>();
+    QVERIFY(std::any_of(notes.begin(), notes.end(),
+                        [](QLabel* note) { return note->text().contains("(U+FFFC0)"); }));
+    editor->selectAll();
+    Type("again");
+    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    window->GetDocument()->Save(folder.Path("again.json"));
+    QVERIFY(ended.wait(patience));
+    for (const QString& name :
+         folder.Listing().filter(QRegularExpression("^again.*(path|descent)$")))
+        folder.Remove(name);
+    QVERIFY(window->Open(folder.Path("again.json")));
+    FindingsList* list = window->Findings();
+    QTRY_VERIFY_WITH_TIMEOUT(list->Count() > 0, patience);
+    list->Mend(0);
+    QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience);
+    QVERIFY(Settles());
+    QVERIFY(!Text().layout->outlines.isEmpty());
 }
 
 void TestWindow::exportsAndCancels()

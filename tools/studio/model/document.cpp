@@ -111,6 +111,8 @@ void Document::Change(const QString& what, Sign after, const QString& merge)
                           MotionNumber(old->node) == MotionNumber(text.node);
         if (!same)
             text.layoutKey = LayoutKey(text);
+        if (old && !text.layout)
+            layouts.Forget(text); // it was taken away because its files are no good
     }
     undo.push(new SignChange(this, what, std::move(after), merge));
 }

@@ -26,6 +26,8 @@ public:
     /** The layout that @p text asks for, if it was made lately; else null. */
     std::shared_ptr<const Layout> Find(const SignText& text) const;
     void Remember(const std::shared_ptr<const Layout>& layout);
+    /** Lets the layout @p text asks for be made again. */
+    void Forget(const SignText& text) { made.remove(text.layoutKey); }
     /** Makes it; an earlier wish for the same text is forgotten. */
     void Ask(const SignText& text);
 

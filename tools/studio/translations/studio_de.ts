@@ -357,10 +357,6 @@
         <source>Findings</source>
         <translation>Befunde</translation>
     </message>
-    <message>
-        <source>Nothing to mend: the sign shows all of it.</source>
-        <translation>Nichts zu beheben: Das Schild zeigt alles.</translation>
-    </message>
     <message numerus="yes">
         <source>And %n more</source>
         <translation>
@@ -373,6 +369,14 @@
 %3</source>
         <translation>Gefunden %1, erwartet %2.
 %3</translation>
+    </message>
+    <message>
+        <source>Make outlines again</source>
+        <translation>Umrisse neu erstellen</translation>
+    </message>
+    <message>
+        <source>No problems found</source>
+        <translation>Keine Probleme gefunden</translation>
     </message>
 </context>
 <context>
@@ -1354,22 +1358,6 @@
         <translation>Andere …</translation>
     </message>
     <message>
-        <source>Leaves a gap: neither %1 nor another installed font has it.</source>
-        <translation>Lässt eine Lücke: Weder %1 noch eine andere installierte Schrift hat es.</translation>
-    </message>
-    <message>
-        <source>Leaves a gap: the font has a picture in place of an outline (%1 was asked for).</source>
-        <translation>Lässt eine Lücke: Die Schrift hat ein Bild anstelle eines Umrisses (verlangt war %1).</translation>
-    </message>
-    <message>
-        <source>No outline, so a gap: %1</source>
-        <translation>Ohne Umriss, also eine Lücke: %1</translation>
-    </message>
-    <message>
-        <source>Wider than a page, so torn: %1</source>
-        <translation>Breiter als eine Seite, also zerrissen: %1</translation>
-    </message>
-    <message>
         <source>Letters are cut: %1 px above, %2 px below.</source>
         <translation>Zeichen sind abgeschnitten: oben %1 px, unten %2 px.</translation>
     </message>
@@ -1380,6 +1368,30 @@
     <message>
         <source>px</source>
         <translation>px</translation>
+    </message>
+    <message>
+        <source>Use another font for them</source>
+        <translation>Andere Schrift dafür nehmen</translation>
+    </message>
+    <message>
+        <source>No installed font has them.</source>
+        <translation>Keine installierte Schrift hat sie.</translation>
+    </message>
+    <message>
+        <source>Will be missing: neither %1 nor any other installed font has it.</source>
+        <translation>Wird fehlen: weder %1 noch eine andere installierte Schrift hat es.</translation>
+    </message>
+    <message>
+        <source>Will be missing: its font has a picture instead of an outline (%1 was set).</source>
+        <translation>Wird fehlen: seine Schrift hat ein Bild statt eines Umrisses (%1 war gesetzt).</translation>
+    </message>
+    <message>
+        <source>Not in any font, will be missing: %1</source>
+        <translation>In keiner Schrift, wird fehlen: %1</translation>
+    </message>
+    <message>
+        <source>Wider than a page, will be broken: %1</source>
+        <translation>Breiter als eine Seite, wird zerteilt: %1</translation>
     </message>
 </context>
 <context>

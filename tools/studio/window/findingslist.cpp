@@ -68,6 +68,20 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
                     node.pos.setX(qBound(0, node.pos.x(), display.width() - node.size.width()));
                     node.pos.setY(qBound(0, node.pos.y(), display.height() - node.size.height()));
                 }};
+    case Mistake::FileMissing:
+        if (!finding.place.endsWith(QLatin1String("PathData")) &&
+            !finding.place.endsWith(QLatin1String("DescentVector")))
+            return {};
+        [[fallthrough]];
+    case Mistake::DataMalformed:
+    case Mistake::DataLength:
+    case Mistake::DataSurplus:
+    case Mistake::OutlineMalformed:
+    case Mistake::ListLength:
+    case Mistake::ListSurplus:
+    case Mistake::RowValue:
+        return {FindingsList::tr("Make outlines again"),
+                [](SignText* edited) { edited->layout.reset(); }};
     case Mistake::TextHigh:
         return {FindingsList::tr("Fit the height"),
                 [](SignText* edited) { edited->source.fit = Fit::Height; }};
@@ -186,7 +200,7 @@ void FindingsList::Fill(const QList<Row>& next)
     for (int i = 0; i < std::min(int(rows.size()), mostShown); ++i)
         list->addWidget(MakeRow(i));
     if (rows.isEmpty())
-        say(tr("Nothing to mend: the sign shows all of it."));
+        say(tr("No problems found"));
     else if (rows.size() > mostShown)
         say(tr("And %n more", nullptr, rows.size() - mostShown));
     list->addStretch(1);

@@ -4,16 +4,20 @@
 #include "studio/window/styledformat.h"
 
 #include <QColorDialog>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QRawFont>
 #include <QTextBlock>
 #include <QToolTip>
 #include <QVBoxLayout>
 #include <QWidgetAction>
+
+#include <algorithm>
 
 namespace AnimText {
 namespace {
@@ -42,6 +46,7 @@ TextPanel::TextPanel(QWidget* parent)
     : QWidget(parent)
     , editor(new TextEditor(this))
     , notes(new QLabel(this))
+    , otherFont(new QPushButton(tr("Use another font for them"), this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -51,6 +56,9 @@ TextPanel::TextPanel(QWidget* parent)
     layout->addWidget(editor);
     layout->addWidget(row);
     layout->addWidget(notes);
+    layout->addWidget(otherFont, 0, Qt::AlignLeft);
+    otherFont->hide();
+    connect(otherFont, &QPushButton::clicked, this, &TextPanel::UseOtherFonts);
 
     editor->setAccessibleName(tr("Text"));
     editor->setPlaceholderText(tr("Type the text"));
@@ -178,6 +186,7 @@ void TextPanel::Show(const SignText* text)
         editor->clear();
         editor->setExtraSelections({});
         notes->hide();
+        otherFont->hide();
         filling = false;
         return;
     }
@@ -268,6 +277,44 @@ void TextPanel::Tell()
     emit Edited(text, gesture);
 }
 
+/** Styles letters that have no outline with the first font that has one. */
+void TextPanel::UseOtherFonts()
+{
+    QHash<int, QString> found; // family by index
+    const QStringList families = QFontDatabase().families();
+    for (const UnseenCharacter& character : unseen) {
+        const auto has = [&](const QString& family) {
+            QFont font(family);
+            font.setStyleStrategy(QFont::NoFontMerging);
+            const QRawFont raw = QRawFont::fromFont(font);
+            const QVector<quint32> glyphs =
+                raw.glyphIndexesForString(QString::fromUcs4(&character.codePoint, 1));
+            return !glyphs.isEmpty() && glyphs.first() != 0 &&
+                   !raw.pathForGlyph(glyphs.first()).isEmpty();
+        };
+        const auto family = std::find_if(families.begin(), families.end(), has);
+        if (family != families.end())
+            found.insert(character.index, *family);
+    }
+    if (found.isEmpty()) {
+        notes->setText(notes->text() + QLatin1Char('\n') + tr("No installed font has them."));
+        otherFont->hide();
+        return;
+    }
+    StyledText styled;
+    styled.sized = shown.sized;
+    for (int i = 0; i < shown.text.size(); ++i) {
+        StyleRun run = shown.At(i);
+        const bool isSecond = i > 0 && shown.text.at(i).isLowSurrogate();
+        if (found.contains(isSecond ? i - 1 : i))
+            run.font.setFamily(found.value(isSecond ? i - 1 : i));
+        styled.Append(shown.text.mid(i, 1), run);
+    }
+    ++gesture;
+    emit Edited(styled, gesture);
+    ++gesture;
+}
+
 /** What the sign will not show of it, quietly. */
 void TextPanel::ShowNotes(const SignText& text)
 {
@@ -278,6 +325,7 @@ void TextPanel::ShowNotes(const SignText& text)
         if (!layout.fault.isEmpty())
             lines.append(layout.fault);
         QStringList letters;
+        unseen = QVector<UnseenCharacter>(layout.unseen.begin(), layout.unseen.end());
         for (const UnseenCharacter& character : layout.unseen) {
             QTextEdit::ExtraSelection mark;
             mark.cursor = QTextCursor(editor->document());
@@ -292,19 +340,24 @@ void TextPanel::ShowNotes(const SignText& text)
             const QString asked = shown.At(character.index).font.family();
             mark.format.setToolTip(
                 (character.missing
-                     ? tr("Leaves a gap: neither %1 nor another installed font has it.")
-                     : tr("Leaves a gap: the font has a picture in place of an outline (%1 was "
-                          "asked for)."))
+                     ? tr("Will be missing: neither %1 nor any other installed font has it.")
+                     : tr("Will be missing: its font has a picture instead of an outline (%1 was "
+                          "set)."))
                     .arg(asked));
             marks.append(mark);
-            letters.append(QString::fromUcs4(&character.codePoint, 1));
+            letters.append(QStringLiteral("%1 (U+%2)")
+                               .arg(QString::fromUcs4(&character.codePoint, 1),
+                                    QString::number(character.codePoint, 16)
+                                        .toUpper()
+                                        .rightJustified(4, QLatin1Char('0'))));
         }
         if (!letters.isEmpty())
-            lines.append(tr("No outline, so a gap: %1")
-                             .arg(QStringList(letters.mid(0, mostTold)).join(QLatin1Char(' '))));
+            lines.append(
+                tr("Not in any font, will be missing: %1")
+                    .arg(QStringList(letters.mid(0, mostTold)).join(QStringLiteral(", "))));
         if (!layout.tornWords.isEmpty())
             lines.append(
-                tr("Wider than a page, so torn: %1")
+                tr("Wider than a page, will be broken: %1")
                     .arg(QStringList(layout.tornWords.mid(0, mostTold)).join(QLatin1String(", "))));
         if (layout.cutAbove > 0 || layout.cutBelow > 0)
             lines.append(tr("Letters are cut: %1 px above, %2 px below.")
@@ -318,6 +371,7 @@ void TextPanel::ShowNotes(const SignText& text)
             break;
         }
     }
+    otherFont->setVisible(!marks.isEmpty());
     editor->setExtraSelections(marks);
     notes->setText(lines.join(QLatin1Char('\n')));
     notes->setVisible(!lines.isEmpty());

@@ -11,6 +11,7 @@
 
 #include <QFontComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
 
@@ -44,6 +45,7 @@ private:
     void Restyle(const std::function<void(StyleRun*)>& change, int drag = -1);
     void ShowStyle();
     void ShowNotes(const SignText& text);
+    void UseOtherFonts();
     void Tell();
 
     TextEditor* editor;
@@ -54,6 +56,8 @@ private:
     QToolButton* underline;
     QToolButton* color;
     QLabel* notes;
+    QPushButton* otherFont; // for letters without outlines
+    QVector<UnseenCharacter> unseen;
     QTimer pause;
     int shownId = 0;
     StyledText shown;
