@@ -72,6 +72,7 @@ private slots:
     void speaksGerman();
     void everythingHasAName();
     void findingsAreMended();
+    void nothingJumpsAndTabIsShort();
     void outlinesAreMadeAgain();
     void exportsAndCancels();
     void pickerGrowsAndNamesMotions();
@@ -680,6 +681,44 @@ void TestWindow::findingsAreMended()
     QCOMPARE(Text().node.attributes.value("AnimationSpeed").toInt(), 9);
     QVERIFY(!Text().node.attributes.contains("Stroke"));
     QVERIFY(Text().source.fit == Fit::None);
+}
+
+void TestWindow::nothingJumpsAndTabIsShort()
+{
+    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    window->activateWindow();
+    QTRY_VERIFY(editor->hasFocus());
+    QTest::keyClick(editor, Qt::Key_Tab);
+    QVERIFY(window->Display()->hasFocus());
+    QTest::keyClick(window->Display(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(editor->hasFocus());
+    // Scroll speed does not apply to an entrance effect.
+    const QList<NumberField*> numbers = window->GetInspector()->findChildren<NumberField*>();
+    int quiet = 0;
+    for (const NumberField* number : numbers)
+        quiet += number->isVisible() && !(number->focusPolicy() & Qt::TabFocus) ? 1 : 0;
+    QVERIFY(quiet > 0 && quiet < numbers.size());
+
+    const auto places = [&] {
+        const QWidget* motions = window->GetInspector()->Motions();
+        return QList<QPoint>{window->Display()->mapTo(window.get(), QPoint()),
+                             motions->mapTo(window.get(), QPoint())};
+    };
+    QVERIFY(Settles());
+    const QList<QPoint> before = places();
+    window->Notices()->Set(NoticeBar::Save, "Something happened", {{"Dismiss", {}}});
+    editor->insertPlainText(QString::fromUtf8("\xF3\xBF\xBF\x80"));
+    QVERIFY(Settles());
+    QCoreApplication::processEvents();
+    QVERIFY(window->Notices()->isVisible());
+    QCOMPARE(places(), before);
+    window->Notices()->Offers().first()->click();
+    QVERIFY(!window->Notices()->isVisible());
+
+    window->menuBar()->actions().last()->menu()->actions().first()->trigger();
+    auto* keys = window->findChild<QDialog*>("keys")->findChild<QTreeWidget*>();
+    for (const char* key : {"Space", "Ctrl+S", "Ctrl+Shift+V", "Alt+arrows"})
+        QVERIFY2(!keys->findItems(key, Qt::MatchExactly | Qt::MatchRecursive).isEmpty(), key);
 }
 
 void TestWindow::outlinesAreMadeAgain()

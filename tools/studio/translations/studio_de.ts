@@ -1228,6 +1228,90 @@
         <translation>Text: %1</translation>
     </message>
     <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie tut</translation>
+    </message>
+    <message>
+        <source>Display and fields</source>
+        <translation>Anzeige und Felder</translation>
+    </message>
+    <message>
+        <source>Plays or stops, from any field</source>
+        <translation>Spielt oder hält an, aus jedem Feld</translation>
+    </message>
+    <message>
+        <source>Alt+arrows</source>
+        <translation>Alt+Pfeile</translation>
+    </message>
+    <message>
+        <source>Move the area; with Shift its size, with Ctrl by ten pixels</source>
+        <translation>Verschieben den Bereich; mit Umschalt seine Größe, mit Strg um zehn Pixel</translation>
+    </message>
+    <message>
+        <source>Ctrl+wheel</source>
+        <translation>Strg+Mausrad</translation>
+    </message>
+    <message>
+        <source>Zooms the display or the timeline</source>
+        <translation>Zoomt die Anzeige oder die Zeitleiste</translation>
+    </message>
+    <message>
+        <source>Space+drag, middle button</source>
+        <translation>Leertaste+Ziehen, mittlere Taste</translation>
+    </message>
+    <message>
+        <source>Pans the display</source>
+        <translation>Verschiebt die Anzeige</translation>
+    </message>
+    <message>
+        <source>Ctrl while dragging</source>
+        <translation>Strg beim Ziehen</translation>
+    </message>
+    <message>
+        <source>Areas do not snap</source>
+        <translation>Bereiche rasten nicht ein</translation>
+    </message>
+    <message>
+        <source>Shift+drag</source>
+        <translation>Umschalt+Ziehen</translation>
+    </message>
+    <message>
+        <source>Over the timeline: loops a range; over a number: steps by ten</source>
+        <translation>Über der Zeitleiste: spielt einen Bereich in Schleife; über einer Zahl: Zehnerschritte</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Leaves a field; on the display: selects no text</source>
+        <translation>Verlässt ein Feld; auf der Anzeige: wählt keinen Text</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>In a number: back to the display</source>
+        <translation>In einer Zahl: zurück zur Anzeige</translation>
+    </message>
+    <message>
         <source>Play on L&amp;EDs…</source>
         <translation>Auf L&amp;EDs abspielen…</translation>
     </message>
@@ -1392,6 +1476,10 @@
     <message>
         <source>Wider than a page, will be broken: %1</source>
         <translation>Breiter als eine Seite, wird zerteilt: %1</translation>
+    </message>
+    <message>
+        <source>Color of the selection: %1</source>
+        <translation>Farbe der Auswahl: %1</translation>
     </message>
 </context>
 <context>
@@ -1980,6 +2068,49 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
     <message>
         <source>%1 to %2</source>
         <translation>%1 bis %2</translation>
+    </message>
+</context>
+<context>
+    <name>Colors</name>
+    <message>
+        <source>Amber</source>
+        <translation>Bernstein</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
     </message>
 </context>
 <context>

@@ -218,10 +218,13 @@ QWidget* AttributeForm::MakeColor(const Attribute& attribute, Field* field)
 {
     auto* button = new QToolButton(this);
     button->setAutoRaise(true);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     field->show = [button, &attribute](const SceneNode& node) {
         QPixmap pixmap(32, 16);
-        pixmap.fill(QColor::fromRgb(QRgb(NumberOf(node, attribute))));
+        const QColor color = QColor::fromRgb(QRgb(NumberOf(node, attribute)));
+        pixmap.fill(color);
         button->setIcon(pixmap);
+        button->setText(color.name());
     };
     connect(button, &QToolButton::clicked, this, [this, &attribute] {
         auto* dialog = new QColorDialog(this);
@@ -268,6 +271,9 @@ void AttributeForm::Show(const SignText& text)
         field.label->setToolTip(words);
         field.widget->setToolTip(words);
         field.widget->setAccessibleDescription(isHeeded ? QString() : why);
+        // The Tab key passes over it; a click still reaches it.
+        if (!field.widget->focusProxy())
+            field.widget->setFocusPolicy(isHeeded ? Qt::StrongFocus : Qt::ClickFocus);
     }
 }
 

@@ -56,6 +56,15 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     section(tr("Letters"), {forms.at(0)});
     layout->addStretch(1);
     setWidget(content);
+    // All fields stand in one column.
+    int widest = 0;
+    const QList<QLabel*> labels = ofText->findChildren<QLabel*>();
+    for (const QLabel* label : labels)
+        widest = qMax(widest, label->buddy() ? label->sizeHint().width() : 0);
+    for (QLabel* label : labels) {
+        if (label->buddy())
+            label->setMinimumWidth(widest);
+    }
 
     connect(text, &TextPanel::Edited, this, [this](const StyledText& styled, int gesture) {
         emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),

@@ -15,6 +15,8 @@
 #include <QSettings>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
 
 namespace AnimText {
 namespace {
@@ -257,6 +259,7 @@ void MainWindow::MakePlayMenu()
 void MainWindow::MakeHelpMenu()
 {
     QMenu* help = menuBar()->addMenu(tr("&Help"));
+    Act(help, tr("&Keys"), QKeySequence(tr("F1")), QString(), [this] { ShowKeys(); });
     Act(help, tr("&About"), QKeySequence(), QString(), [this] {
         auto* box = new QMessageBox(
             QMessageBox::NoIcon, tr("Animated Text Studio"),
@@ -268,6 +271,51 @@ void MainWindow::MakeHelpMenu()
         box->setModal(false);
         box->show();
     });
+}
+
+/** All keys, out of the menus, and those of the display and the fields. */
+void MainWindow::ShowKeys()
+{
+    auto* dialog = new QDialog(this);
+    dialog->setObjectName(QStringLiteral("keys"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(tr("Keys"));
+    auto* list = new QTreeWidget(dialog);
+    list->setHeaderLabels({tr("Key"), tr("What it does")});
+    list->setRootIsDecorated(false);
+    list->setAccessibleName(tr("Keys"));
+    for (const QAction* menu : menuBar()->actions()) {
+        auto* group = new QTreeWidgetItem(list, {menu->text().remove(QLatin1Char('&'))});
+        for (const QAction* action : menu->menu()->actions()) {
+            QString words = action->text().remove(QLatin1Char('&'));
+            QString key = action->shortcut().toString(QKeySequence::NativeText);
+            if (key.isEmpty())
+                key = words.section(QLatin1Char('\t'), 1);
+            words = words.section(QLatin1Char('\t'), 0, 0);
+            if (!key.isEmpty())
+                new QTreeWidgetItem(group, {key, words});
+        }
+    }
+    auto* display = new QTreeWidgetItem(list, {tr("Display and fields")});
+    const QPair<QString, QString> others[]{
+        {tr("Ctrl+Space"), tr("Plays or stops, from any field")},
+        {tr("Alt+arrows"), tr("Move the area; with Shift its size, with Ctrl by ten pixels")},
+        {tr("Ctrl+wheel"), tr("Zooms the display or the timeline")},
+        {tr("Space+drag, middle button"), tr("Pans the display")},
+        {tr("Ctrl while dragging"), tr("Areas do not snap")},
+        {tr("Shift+drag"), tr("Over the timeline: loops a range; over a number: steps by ten")},
+        {tr("Esc"), tr("Leaves a field; on the display: selects no text")},
+        {tr("Return"), tr("In a number: back to the display")},
+    };
+    for (const auto& other : others)
+        new QTreeWidgetItem(display, {other.first, other.second});
+    list->expandAll();
+    list->resizeColumnToContents(0);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(list);
+    dialog->resize(560, 560);
+    dialog->show();
 }
 
 /** The point of the widget stays where it is. */

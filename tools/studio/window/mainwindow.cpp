@@ -50,6 +50,7 @@ MainWindow::MainWindow(const QString& plugin)
     MakeDocks();
     MakeActions();
     Connect();
+    setTabOrder(inspector->Text()->Editor(), view); // one Tab from typing to playing
     for (QComboBox* box : findChildren<QComboBox*>())
         box->installEventFilter(this);
     // The picture is the largest thing.
@@ -68,7 +69,6 @@ MainWindow::~MainWindow()
 
 void MainWindow::MakeCentre()
 {
-    notices = new NoticeBar(this);
     view = new DisplayView(this);
     view->SetSurroundings(surroundings);
     view->SetFillsRoom(true);
@@ -87,8 +87,8 @@ void MainWindow::MakeCentre()
     auto* topLayout = new QVBoxLayout(top);
     topLayout->setContentsMargins(0, 0, 0, 0);
     topLayout->setSpacing(0);
-    topLayout->addWidget(notices);
     topLayout->addWidget(scroll, 1);
+    notices = new NoticeBar(top);
     auto* bottom = new QWidget(this);
     auto* bottomLayout = new QVBoxLayout(bottom);
     bottomLayout->setContentsMargins(0, 0, 0, 0);

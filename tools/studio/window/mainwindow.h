@@ -100,6 +100,7 @@ private:
     bool SaveAs();
     void Leave(const std::function<void()>& then);
     void ShowExport();
+    void ShowKeys();
     void ShowRecent();
     void AddRecent(const QString& path);
     void SetZoom(int zoom);

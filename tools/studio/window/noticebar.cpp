@@ -2,6 +2,8 @@
 
 #include "studio/window/looks.h"
 
+#include <QEvent>
+
 namespace AnimText {
 
 NoticeBar::NoticeBar(QWidget* parent)
@@ -25,7 +27,26 @@ NoticeBar::NoticeBar(QWidget* parent)
     buttons->setSpacing(grid);
     layout->addLayout(buttons);
     setAccessibleName(tr("Notice"));
+    if (parent)
+        parent->installEventFilter(this);
     hide();
+}
+
+bool NoticeBar::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == parent() && event->type() == QEvent::Resize)
+        Place();
+    return QFrame::eventFilter(object, event);
+}
+
+void NoticeBar::Place()
+{
+    if (isHidden() || !parentWidget())
+        return;
+    const int width = parentWidget()->width();
+    layout()->activate();
+    setGeometry(0, 0, width, hasHeightForWidth() ? heightForWidth(width) : sizeHint().height());
+    raise();
 }
 
 void NoticeBar::Set(Kind kind, const QString& text, const QList<Offer>& offers)
@@ -70,6 +91,7 @@ void NoticeBar::Refresh()
         });
         buttons->addWidget(button);
     }
+    Place();
 }
 
 } // namespace AnimText

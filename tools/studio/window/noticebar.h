@@ -16,7 +16,10 @@
 
 namespace AnimText {
 
-/** Shows one notice at a time, the one of the first kind that there is. */
+/**
+ * Shows one notice at a time, the one of the first kind that there is, over the upper edge of its
+ * parent, so that nothing moves when it comes and goes.
+ */
 class NoticeBar : public QFrame
 {
     Q_OBJECT
@@ -34,6 +37,9 @@ public:
     /** The buttons of what is shown. */
     QList<QPushButton*> Offers() const;
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     struct Notice
     {
@@ -42,6 +48,7 @@ private:
     };
 
     void Refresh();
+    void Place();
 
     QMap<Kind, Notice> notices;
     QLabel* icon;

@@ -4,6 +4,7 @@
 #include "studio/window/styledformat.h"
 
 #include <QColorDialog>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -26,11 +27,28 @@ constexpr int pauseLength = 1500; // milliseconds without typing that end a step
 constexpr int mostTold = 4;       // characters or words
 constexpr int noStyling = -2;     // in place of a drag: words were typed
 
-/** Colours that lamps have. */
-const QList<QColor> lampColors{QColor(255, 160, 0),  QColor(255, 0, 0),    QColor(255, 80, 0),
-                               QColor(255, 220, 0),  QColor(0, 220, 60),   QColor(0, 220, 220),
-                               QColor(60, 120, 255), QColor(200, 80, 255), QColor(255, 120, 200),
-                               QColor(255, 255, 255)};
+/** Colors that lamps have. */
+const QList<QPair<QColor, const char*>> lampColors{
+    {QColor(255, 160, 0), QT_TRANSLATE_NOOP("Colors", "Amber")},
+    {QColor(255, 0, 0), QT_TRANSLATE_NOOP("Colors", "Red")},
+    {QColor(255, 80, 0), QT_TRANSLATE_NOOP("Colors", "Orange")},
+    {QColor(255, 220, 0), QT_TRANSLATE_NOOP("Colors", "Yellow")},
+    {QColor(0, 220, 60), QT_TRANSLATE_NOOP("Colors", "Green")},
+    {QColor(0, 220, 220), QT_TRANSLATE_NOOP("Colors", "Cyan")},
+    {QColor(60, 120, 255), QT_TRANSLATE_NOOP("Colors", "Blue")},
+    {QColor(200, 80, 255), QT_TRANSLATE_NOOP("Colors", "Violet")},
+    {QColor(255, 120, 200), QT_TRANSLATE_NOOP("Colors", "Pink")},
+    {QColor(255, 255, 255), QT_TRANSLATE_NOOP("Colors", "White")},
+};
+
+QString ColorName(const QColor& color)
+{
+    for (const auto& lamp : lampColors) {
+        if (lamp.first == color)
+            return QCoreApplication::translate("Colors", lamp.second);
+    }
+    return color.name();
+}
 
 QIcon ColorIcon(const QColor& color)
 {
@@ -55,8 +73,15 @@ TextPanel::TextPanel(QWidget* parent)
     MakeTools(row);
     layout->addWidget(editor);
     layout->addWidget(row);
-    layout->addWidget(notes);
-    layout->addWidget(otherFont, 0, Qt::AlignLeft);
+    // Always as high, so that what is below does not jump while somebody types.
+    auto* room = new QWidget(this);
+    auto* below = new QHBoxLayout(room);
+    below->setContentsMargins(0, 0, 0, 0);
+    below->setSpacing(grid);
+    below->addWidget(notes, 1, Qt::AlignTop);
+    below->addWidget(otherFont, 0, Qt::AlignTop);
+    room->setFixedHeight(qMax(2 * fontMetrics().height(), otherFont->sizeHint().height()));
+    layout->addWidget(room);
     otherFont->hide();
     connect(otherFont, &QPushButton::clicked, this, &TextPanel::UseOtherFonts);
 
@@ -159,8 +184,9 @@ void TextPanel::MakeTools(QWidget* row)
 void TextPanel::FillColors()
 {
     auto* menu = new QMenu(color);
-    for (const QColor& lamp : lampColors) {
-        QAction* action = menu->addAction(ColorIcon(lamp), lamp.name());
+    for (const auto& entry : lampColors) {
+        const QColor lamp = entry.first;
+        QAction* action = menu->addAction(ColorIcon(lamp), ColorName(lamp));
         connect(action, &QAction::triggered, this,
                 [this, lamp] { Restyle([&](StyleRun* run) { run->color = lamp; }); });
     }
@@ -232,6 +258,7 @@ void TextPanel::ShowStyle()
     family->setCurrentFont(QFont(style.font.family()));
     size->ShowNumber(style.font.pixelSize());
     color->setIcon(ColorIcon(style.color));
+    color->setToolTip(tr("Color of the selection: %1").arg(ColorName(style.color)));
     filling = false;
 }
 
@@ -374,6 +401,7 @@ void TextPanel::ShowNotes(const SignText& text)
     otherFont->setVisible(!marks.isEmpty());
     editor->setExtraSelections(marks);
     notes->setText(lines.join(QLatin1Char('\n')));
+    notes->setToolTip(notes->text());
     notes->setVisible(!lines.isEmpty());
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, Warning(palette()));

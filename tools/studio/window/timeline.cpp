@@ -217,7 +217,7 @@ void Timeline::paintEvent(QPaintEvent*)
 
     const double x = std::round(XOf(playback->Tick() + 0.5));
     painter.setClipRect(titleWidth - 2 * inset, 0, viewport()->width(), viewport()->height());
-    const QColor accent = palette().color(QPalette::Highlight);
+    const QColor accent = palette().color(QPalette::Text); // on every bar
     painter.setPen(QPen(accent, 1));
     painter.drawLine(QPointF(x, 0), QPointF(x, viewport()->height()));
     painter.setRenderHint(QPainter::Antialiasing);
@@ -288,12 +288,13 @@ void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
     const QColor base = palette().color(QPalette::Base);
     const QColor accent = palette().color(QPalette::Highlight);
     const double strength = stale ? 0.6 : 0;
+    const double holdShare = base.lightness() < 128 ? 0.45 : 0.65; // seen on dark, too
     if (phase == Cut) {
         painter->fillRect(rect, Mixed(base, QColor(0, 0, 0, 0), 0.4));
         painter->fillRect(rect, QBrush(Warning(palette()), Qt::BDiagPattern));
     } else {
         painter->fillRect(
-            rect, Mixed(Mixed(accent, base, phase == Entrance ? 0.15 : 0.65), base, strength));
+            rect, Mixed(Mixed(accent, base, phase == Entrance ? 0.1 : holdShare), base, strength));
     }
 }
 
