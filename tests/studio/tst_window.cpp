@@ -862,7 +862,7 @@ void TestWindow::timesAreSaidInWords_data()
     QTest::addColumn<int>("lastPage"); // tick at which it begins
     QTest::addColumn<QString>("words");
     QTest::newRow("as planned") << 6600 << 6600 << 50 << "planned 6.60 s · needs 6.60 s";
-    QTest::newRow("a tick too long") << 6600 << 6666 << 50 << "planned 6.60 s · needs 6.67 s";
+    QTest::newRow("a tick too long") << 6600 << 6731 << 50 << "planned 6.60 s · needs 6.73 s";
     QTest::newRow("two ticks") << 6600 << 6732 << 50
                                << "planned 6.60 s · needs 6.73 s · 0.13 s lost";
     QTest::newRow("a page") << 6600 << 9900 << 100 << "planned 6.60 s · needs 9.90 s · 1 page lost";

@@ -162,11 +162,11 @@ QList<Attribute> Table()
          QT_TRANSLATE_NOOP("Attributes", "the speed of scrolling, 9 the fastest"),
          steps, 0, 9, 0, scrolls, onlyScrolls, {scrolling}},
         {"PlayTimes", H::Attributes, G::Motion, K::Number,
-         QT_TRANSLATE_NOOP("Attributes", "Plays"),
+         QT_TRANSLATE_NOOP("Attributes", "Repeats"),
          QT_TRANSLATE_NOOP("Attributes", "how often the whole text is shown"),
          times, 1, highest, 0, always},
         {"hold", H::Node, G::Motion, K::Number,
-         QT_TRANSLATE_NOOP("Attributes", "Hold"),
+         QT_TRANSLATE_NOOP("Attributes", "Pause"),
          QT_TRANSLATE_NOOP("Attributes", "how long each page stands still once it has come in"),
          tenths, 0, highest, 0, entrances, onlyEntrances, {entrance}},
 

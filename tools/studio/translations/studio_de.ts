@@ -429,32 +429,12 @@
         <translation>Der wievielte dieser Aufrufe seit dem Start</translation>
     </message>
     <message>
-        <source>Let it fail</source>
-        <translation>Scheitern lassen</translation>
-    </message>
-    <message>
-        <source>Plays anew, and that call of the device fails</source>
-        <translation>Spielt neu, und dieser Aufruf des Geräts scheitert</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keiner</translation>
-    </message>
-    <message>
-        <source>No call fails any more</source>
-        <translation>Kein Aufruf scheitert mehr</translation>
-    </message>
-    <message>
         <source>Compare with a library…</source>
         <translation>Mit einer Bibliothek vergleichen …</translation>
     </message>
     <message>
         <source>Plays the same with another plugin library and marks the pixels that differ</source>
         <translation>Spielt dasselbe mit einer anderen Plugin-Bibliothek und markiert die Pixel, die sich unterscheiden</translation>
-    </message>
-    <message>
-        <source>Compare no more</source>
-        <translation>Nicht mehr vergleichen</translation>
     </message>
     <message>
         <source>Fails: %1</source>
@@ -482,6 +462,26 @@
     <message>
         <source>Libraries (*.so*)</source>
         <translation>Bibliotheken (*.so*)</translation>
+    </message>
+    <message>
+        <source>Make it fail</source>
+        <translation>Fehlschlagen lassen</translation>
+    </message>
+    <message>
+        <source>Plays again from the start, and that call of the device fails</source>
+        <translation>Spielt noch einmal von vorn, und dieser Aufruf des Geräts schlägt fehl</translation>
+    </message>
+    <message>
+        <source>Clear failures</source>
+        <translation>Fehler aufheben</translation>
+    </message>
+    <message>
+        <source>Lets every call succeed again</source>
+        <translation>Lässt jeden Aufruf wieder gelingen</translation>
+    </message>
+    <message>
+        <source>Stop comparing</source>
+        <translation>Vergleich beenden</translation>
     </message>
 </context>
 <context>
@@ -989,24 +989,8 @@
         <translation>Die Szene speichern</translation>
     </message>
     <message>
-        <source>%1 has changes that are not saved.</source>
-        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Discard them</source>
-        <translation>Verwerfen</translation>
-    </message>
-    <message>
-        <source>Go on editing</source>
-        <translation>Weiter bearbeiten</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Noch keine</translation>
     </message>
     <message>
         <source>Scene</source>
@@ -1070,18 +1054,6 @@
     <message>
         <source>a new sign</source>
         <translation>ein neues Schild</translation>
-    </message>
-    <message>
-        <source>The studio ended before %1 was saved (%2).</source>
-        <translation>Das Studio endete, bevor %1 gespeichert war (%2).</translation>
-    </message>
-    <message>
-        <source>Recover it</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Drop it</source>
-        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>Add page</source>
@@ -1310,6 +1282,34 @@
     <message>
         <source>In a number: back to the display</source>
         <translation>In einer Zahl: zurück zur Anzeige</translation>
+    </message>
+    <message>
+        <source>%1 has unsaved changes.</source>
+        <translation>%1 hat ungespeicherte Änderungen.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>No recent scenes</source>
+        <translation>Keine letzten Szenen</translation>
+    </message>
+    <message>
+        <source>The studio stopped before %1 was saved (%2).</source>
+        <translation>Das Studio endete, bevor %1 gespeichert war (%2).</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Delete copy</source>
+        <translation>Kopie löschen</translation>
     </message>
     <message>
         <source>Play on L&amp;EDs…</source>
@@ -1922,16 +1922,8 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <translation>das Tempo des laufenden Textes, 9 ist das schnellste</translation>
     </message>
     <message>
-        <source>Plays</source>
-        <translation>Durchläufe</translation>
-    </message>
-    <message>
         <source>how often the whole text is shown</source>
         <translation>wie oft der ganze Text gezeigt wird</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Stand</translation>
     </message>
     <message>
         <source>how long each page stands still once it has come in</source>
@@ -2068,6 +2060,14 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
     <message>
         <source>%1 to %2</source>
         <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <translation>Wiederholungen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>

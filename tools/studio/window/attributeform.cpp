@@ -266,7 +266,8 @@ void AttributeForm::Show(const SignText& text)
         }
         field.label->setPalette(colors);
         field.widget->setPalette(colors);
-        const QString meaning = Translated(field.attribute->meaning);
+        const QString meaning = QStringLiteral("%1 (%2)").arg(Translated(field.attribute->meaning),
+                                                              QLatin1String(field.attribute->key));
         const QString words = isHeeded ? meaning : meaning + QLatin1Char('\n') + why;
         field.label->setToolTip(words);
         field.widget->setToolTip(words);

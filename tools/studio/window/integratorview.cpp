@@ -32,14 +32,14 @@ IntegratorView::IntegratorView(QWidget* parent)
     nth->setPrefix(tr("call "));
     nth->setAccessibleName(tr("Which of its calls, from the start"));
     auto* fail = new QToolButton(this);
-    fail->setText(tr("Let it fail"));
-    fail->setToolTip(tr("Plays anew, and that call of the device fails"));
-    clear->setText(tr("None"));
-    clear->setToolTip(tr("No call fails any more"));
+    fail->setText(tr("Make it fail"));
+    fail->setToolTip(tr("Plays again from the start, and that call of the device fails"));
+    clear->setText(tr("Clear failures"));
+    clear->setToolTip(tr("Lets every call succeed again"));
     library->setText(tr("Compare with a library…"));
     library->setToolTip(tr("Plays the same with another plugin library and marks the pixels that "
                            "differ"));
-    noLibrary->setText(tr("Compare no more"));
+    noLibrary->setText(tr("Stop comparing"));
     noLibrary->hide();
     differing->setFont(TabularFont(font()));
 

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QToolBar>
@@ -314,7 +315,7 @@ void MainWindow::ShowKeys()
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(list);
-    dialog->resize(560, 560);
+    dialog->resize(QSize(560, 560).boundedTo(screen()->availableSize() * 0.9));
     dialog->show();
 }
 
@@ -449,8 +450,8 @@ void MainWindow::Leave(const std::function<void()>& then)
         if (!Save())
             afterSave = {};
     };
-    notices->Set(NoticeBar::Leaving, tr("%1 has changes that are not saved.").arg(document.Name()),
-                 {{tr("Save"), save}, {tr("Discard them"), then}, {tr("Go on editing"), {}}});
+    notices->Set(NoticeBar::Leaving, tr("%1 has unsaved changes.").arg(document.Name()),
+                 {{tr("Save"), save}, {tr("Don't save"), then}, {tr("Cancel"), {}}});
     notices->Offers().first()->setFocus();
 }
 
@@ -466,7 +467,7 @@ void MainWindow::ShowRecent()
     }
     recent->setToolTipsVisible(true);
     if (recent->isEmpty())
-        recent->addAction(tr("None yet"))->setEnabled(false);
+        recent->addAction(tr("No recent scenes"))->setEnabled(false);
 }
 
 void MainWindow::AddRecent(const QString& path)

@@ -4,6 +4,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 namespace AnimText {
 
 void MainWindow::AddNewText(bool onNewPage)
@@ -13,6 +15,16 @@ void MainWindow::AddNewText(bool onNewPage)
     const QSize size(after.display.width(),
                      onNewPage ? after.display.height() : qMax(1, after.display.height() / 2));
     SignText text = NewText(size, page);
+    // In the half that is free, if one is.
+    const auto covers = [&](int y) {
+        const QRect area(QPoint(0, y), size);
+        return std::any_of(after.texts.begin(), after.texts.end(), [&](const SignText& other) {
+            return other.page == page && area.intersects(QRect(other.node.pos, other.node.size));
+        });
+    };
+    const int lower = after.display.height() - size.height();
+    if (covers(0) && !covers(lower))
+        text.node.pos.setY(lower);
     AddText(&after, text);
     selected = text.id;
     document.Change(onNewPage ? tr("Add page") : tr("Add text"), after);

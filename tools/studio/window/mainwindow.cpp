@@ -394,10 +394,10 @@ void MainWindow::OfferLostWork()
     const QString name = work.path.isEmpty() ? tr("a new sign") : QFileInfo(work.path).fileName();
     notices->Set(
         NoticeBar::Recovery,
-        tr("The studio ended before %1 was saved (%2).")
+        tr("The studio stopped before %1 was saved (%2).")
             .arg(name, QLocale().toString(work.when, QLocale::ShortFormat)),
-        {{tr("Recover it"), [this, work] { Leave([this, work] { recovery.TakeOver(work); }); }},
-         {tr("Drop it"), [this, work] {
+        {{tr("Restore"), [this, work] { Leave([this, work] { recovery.TakeOver(work); }); }},
+         {tr("Delete copy"), [this, work] {
               Recovery::Drop(work);
               OfferLostWork(); // there may be more
           }}});

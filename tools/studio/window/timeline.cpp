@@ -357,7 +357,7 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
     }
     // What the host cuts off, for it was told another time.
     const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
-    if (text.ending != Ending::NothingToPlay && real > told + 1.01) { // a tick is not missed
+    if (text.ending != Ending::NothingToPlay && real > told + 1.99) { // a tick is not missed
         Fill(painter, QRectF(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height()), Cut);
     }
     if (text.ending != Ending::NothingToPlay) {

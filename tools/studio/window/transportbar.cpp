@@ -165,9 +165,9 @@ QString EndsInWords(const TextTime& text)
     const qint64 difference = text.real - text.told;
     if (const int lost = LostPages(text))
         words += TransportBar::tr(" · %n page(s) lost", nullptr, lost);
-    else if (difference > tickLength) // a tick is not missed
+    else if (difference >= 2 * tickLength) // a tick is not missed
         words += TransportBar::tr(" · %1 lost").arg(SecondsText(difference));
-    else if (difference < -tickLength)
+    else if (difference <= -2 * tickLength)
         words += TransportBar::tr(" · %1 longer on the sign").arg(SecondsText(-difference));
     return words;
 }
