@@ -93,7 +93,7 @@ Command TraceCommand()
             "each node, tick 0 being the start: whether a new picture of the text was handed to "
             "the display, the layer that shows it, its size, the SHA-1 of its rows and the "
             "renderer's state (0 finished, 1 playing, 2 nothing to play); where there is a dazzle "
-            "background, its SHA-1, too.",
+            "background, its SHA-1.",
             WithShowOptions(
                 {Option::Number("ticks", 0, 1000000000, "The last tick.").Letter('n').Or("100"),
                  Option::Flag("calls",

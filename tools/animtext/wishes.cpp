@@ -4,6 +4,7 @@
 #include "author/fonts.h"
 #include "author/styledtext.h"
 #include "scene/catalogue.h"
+#include "scene/wholefile.h"
 #include "scene/times.h"
 
 #include <QDir>
@@ -37,9 +38,7 @@ QString ReadText(const CommandLine& line)
     QFile file(name);
     if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
-    QByteArray bytes;
-    for (QByteArray more = "-"; !more.isEmpty() && bytes.size() <= longestTextFile; bytes += more)
-        more = file.read(longestTextFile + 1 - bytes.size());
+    QByteArray bytes = ReadAtMost(&file, longestTextFile + 1);
     if (file.error() != QFileDevice::NoError)
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
     if (bytes.size() > longestTextFile)

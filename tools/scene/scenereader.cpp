@@ -3,6 +3,7 @@
 #include "scene/jsonvalues.h"
 #include "scene/scene.h"
 #include "scene/schema.h"
+#include "scene/wholefile.h"
 #include "text/limits.h"
 
 #include <QFile>
@@ -222,7 +223,7 @@ QByteArray ReadStandardInput(QList<SceneFault>* faults)
 {
     QFile input;
     input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray bytes = input.read(largestFile + 1);
+    const QByteArray bytes = ReadAtMost(&input, largestFile + 1);
     if (bytes.size() > largestFile)
         faults->append({QString(), QStringLiteral("at most %1 bytes").arg(largestFile),
                         QStringLiteral("more")});

@@ -146,6 +146,14 @@ bool IsMade(const QTemporaryDir& folder, QString* error)
     return folder.isValid();
 }
 
+QByteArray ReadAtMost(QFile* file, qint64 most)
+{
+    QByteArray bytes;
+    for (QByteArray more = "-"; !more.isEmpty() && bytes.size() < most; bytes += more)
+        more = file->read(most - bytes.size());
+    return bytes;
+}
+
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
 {
     // By the system's own call: where a disk becomes full only a part is written, and why, the next

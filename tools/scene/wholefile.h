@@ -47,6 +47,9 @@ bool MakeFolder(const QString& path, QString* error);
  */
 bool IsMade(const QTemporaryDir& folder, QString* error);
 
+/** What is left to read of @p file, @p most bytes at most: a pipe hands it over in pieces. */
+QByteArray ReadAtMost(QFile* file, qint64 most);
+
 /** Appends all of @p content to a file that is open and has nothing buffered; on failure answers
  * false with what the system says in @p problem. */
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem);
