@@ -4,8 +4,8 @@
 #include "author/fonts.h"
 #include "author/styledtext.h"
 #include "scene/catalogue.h"
-#include "scene/wholefile.h"
 #include "scene/times.h"
+#include "scene/wholefile.h"
 
 #include <QDir>
 #include <QFile>
