@@ -41,12 +41,15 @@ void Sweep(const QDir& folder)
         QStringLiteral("\\.(\\d+)%1\\.\\w{6}$").arg(QRegularExpression::escape(Mark())));
     const QStringList names =
         folder.entryList({QStringLiteral(".*") + Mark() + QStringLiteral(".*")},
-                         QDir::Files | QDir::Dirs | QDir::Hidden);
+                         QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
     for (const QString& name : names) {
         const auto match = pattern.match(name);
         if (!match.hasMatch() || IsRunning(match.captured(1).toLongLong()))
             continue;
         const QString path = folder.filePath(name);
+        // In a folder for everybody, others can choose such a name too.
+        if (QFileInfo(path).ownerId() != geteuid())
+            continue;
         if (!QFile::remove(path))
             QDir(path).removeRecursively();
     }
