@@ -162,7 +162,7 @@ int SoakScenes(const CommandLine& line)
     std::unique_ptr<QTemporaryDir> folder;
     if (scenes.isEmpty()) {
         QString error;
-        folder = std::make_unique<QTemporaryDir>();
+        folder = std::make_unique<QTemporaryDir>(TemporaryName());
         if (!IsMade(*folder, &error))
             throw Failure{FailedRun, error};
         scenes = SoakMix(

@@ -269,7 +269,7 @@ private:
     Player* player;
     GalleryWatch watch;
     WholeFolder folder;
-    QTemporaryDir scenes;
+    QTemporaryDir scenes{TemporaryName()};
     PictureSheets posters;
     QJsonObject digests; // of the files in the folder
     QString why;

@@ -139,13 +139,21 @@ bool MakeFolder(const QString& path, QString* error)
     return !problem;
 }
 
+QString TemporaryName()
+{
+    // Where TMPDIR names no folder, QDir::tempPath() is empty, and Qt would make folders in /.
+    const QString place = QFile::decodeName(qgetenv("TMPDIR"));
+    return QDir(place.isEmpty() ? QStringLiteral("/tmp") : place)
+        .absoluteFilePath(QCoreApplication::applicationName() + QStringLiteral("-XXXXXX"));
+}
+
 bool IsMade(const QTemporaryDir& folder, QString* error)
 {
     if (!folder.isValid())
         *error =
             QStringLiteral("no temporary folder can be made in %1: %2; TMPDIR can name another "
                            "place")
-                .arg(QDir::tempPath(), folder.errorString());
+                .arg(QFileInfo(TemporaryName()).path(), folder.errorString());
     return folder.isValid();
 }
 

@@ -41,9 +41,12 @@ bool FindTarget(const QString& path, QString* target, QString* error);
 /** Makes the folder @p path and those above it; false, with one line in @p error, when it fails. */
 bool MakeFolder(const QString& path, QString* error);
 
+/** A template for a QTemporaryDir in TMPDIR, or in /tmp where that is not set. */
+QString TemporaryName();
+
 /**
- * Whether the system made @p folder; otherwise @p error has one line on it. Without this, the names
- * of files in it would be names in the current folder.
+ * Whether the system made @p folder, of that name; otherwise @p error has one line on it. Without
+ * this, the names of files in it would be names in the current folder.
  */
 bool IsMade(const QTemporaryDir& folder, QString* error);
 

@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_SCENEFOLDER_H
 #define ANIMTEXT_SCENEFOLDER_H
 
+#include "scene/wholefile.h"
 #include "studio/model/sign.h"
 
 #include <QHash>
@@ -27,7 +28,7 @@ private:
         QString name;
     };
 
-    QTemporaryDir folder;
+    QTemporaryDir folder{TemporaryName()};
     QMutex mutex;
     QHash<const Layout*, Written> written;
     int next = 0;
