@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 // Resources of a static library are there once somebody asks for them, outside of any namespace.
 static void LoadPage()
@@ -68,12 +69,14 @@ QStringList OwnFiles(const QDir& folder)
         QJsonDocument::fromJson(ContentOf(folder.filePath(manifestName))).object();
     if (manifest.value(QStringLiteral("generator")).toString() != generator)
         return QStringList();
+    static const QRegularExpression names(
+        QRegularExpression::anchoredPattern(QStringLiteral("\\w+\\.(html|css|js|png)|"
+                                                           "motions/\\w+(-\\d+\\.png|\\.js)")));
     QStringList own{manifestName};
     const QJsonObject files = manifest.value(QStringLiteral("files")).toObject();
     for (auto file = files.begin(); file != files.end(); ++file) {
-        const bool isInside = !QDir::cleanPath(file.key()).startsWith(QLatin1String("..")) &&
-                              QDir::isRelativePath(file.key());
-        if (isInside && Digest(ContentOf(folder.filePath(file.key()))) == file.value().toString())
+        if (names.match(file.key()).hasMatch() &&
+            Digest(ContentOf(folder.filePath(file.key()))) == file.value().toString())
             own.append(file.key());
     }
     return own;
