@@ -12,11 +12,16 @@ namespace AnimText {
 
 namespace {
 
-/** The pictures of a film in @p folder. */
+/** The pictures of a film in @p folder. Other programs also call theirs so. */
 QStringList Frames(const QDir& folder)
 {
     static const QRegularExpression frame(QStringLiteral("^frame-[0-9]{4,}\\.png$"));
-    return folder.entryList(QDir::Files | QDir::NoSymLinks).filter(frame);
+    QStringList names = folder.entryList(QDir::Files | QDir::NoSymLinks).filter(frame);
+    names.erase(
+        std::remove_if(names.begin(), names.end(),
+                       [&](const QString& name) { return !IsOurPng(folder.filePath(name)); }),
+        names.end());
+    return names;
 }
 
 } // namespace

@@ -43,6 +43,9 @@ QImage Indexed(const QImage& picture)
     return indexed;
 }
 
+const QString softwareMark = QStringLiteral("animtext");
+constexpr qint64 largestHead = 4096; // bytes before the pixels: with 256 colors, less than 2000
+
 } // namespace
 
 QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
@@ -56,8 +59,17 @@ QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
     QImage indexed = Indexed(picture);
     if (effort == PngEffort::Small && indexed.colorCount() == 2)
         indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
+    writer.setText(QStringLiteral("Software"), softwareMark);
     writer.setCompression(effort == PngEffort::Small ? 67 : 11); // levels 6 and 1 of zlib
     return writer.write(indexed) ? png : QByteArray();
+}
+
+bool IsOurPng(const QString& path)
+{
+    // libpng would complain aloud about a file that is damaged.
+    QFile file(path);
+    const QByteArray mark = QByteArrayLiteral("tEXtSoftware\0") + softwareMark.toLatin1();
+    return file.open(QIODevice::ReadOnly) && file.read(largestHead).contains(mark);
 }
 
 bool WritePng(const QString& path, const QByteArray& png, QString* error)

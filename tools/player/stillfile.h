@@ -17,6 +17,9 @@ enum class PngEffort { Fast, Small };
 /** @p picture as a PNG; without transparency unless it is wanted. */
 QByteArray PngOf(QImage picture, bool transparent, PngEffort effort = PngEffort::Fast);
 
+/** Whether the file at @p path has the mark that PngOf() leaves. */
+bool IsOurPng(const QString& path);
+
 /** Writes @p png, whole or not at all, to @p path. */
 bool WritePng(const QString& path, const QByteArray& png, QString* error);
 
