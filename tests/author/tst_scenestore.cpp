@@ -138,6 +138,8 @@ private slots:
         row("hidden", "signs/.a", "[\"%1\"]", true);
         row("named like data", "signs/a.0123456789abcdef.path", "[\"%1\"]", true);
         row("escaped", "signs/a.json", "[\"\\u0073\\u0069gn%1\"]", true);
+        row("escaped below a comment", "signs/a.jsonc", "//\n[\"\\u0073\\u0069gn%1\"]", true);
+        row("escaped behind a number", "signs/a.json", "[1, \"\\u0073ign%1\"]", true);
         row("in capitals", "signs/a.json", "[\"SIGN%1\"]", true);
         row("below", "signs/a/b.json", "[\"../%1\"]", true);
         row("below, hidden", "signs/.a/b", "[\"../%1\"]", true);

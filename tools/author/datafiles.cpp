@@ -55,6 +55,21 @@ bool IsData(const QByteArray& start, qint64 size)
            (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP") || start.mid(4, 4) == "ftyp";
 }
 
+/** @p text with the characters that JSON and its like write as \u and four digits. */
+QString Unescaped(const QString& text)
+{
+    static const QRegularExpression escape(QStringLiteral("\\\\u([0-9a-fA-F]{4})"));
+    QString plain;
+    int end = 0;
+    for (auto it = escape.globalMatch(text); it.hasNext();) {
+        const auto match = it.next();
+        plain += text.mid(end, match.capturedStart() - end);
+        plain += QChar(match.captured(1).toUShort(nullptr, 16));
+        end = match.capturedEnd();
+    }
+    return plain + text.mid(end);
+}
+
 /**
  * An object, or a list of strings, lists or objects, and no "[section]" of a settings file. Also
  * where it is UTF-16, which has a zero byte beside each of these characters.
@@ -115,7 +130,8 @@ private:
         bytes += file.size();
         const QByteArray content = file.readAll();
         if (content.size() != file.size())
-            return file.errorString();
+            return file.error() == QFile::NoError ? QStringLiteral("it changes while it is read")
+                                                  : file.errorString();
         return SearchContent(content)
                    ? QString()
                    : QStringLiteral("it looks like JSON and cannot be read as such");
@@ -132,8 +148,12 @@ private:
         const QJsonDocument document = isJson && DuplicateKeys(content).isEmpty()
                                            ? QJsonDocument::fromJson(content)
                                            : QJsonDocument();
-        if (document.isNull())
+        if (document.isNull()) {
+            // Such as JSON with comments, or a list that begins with a number.
+            if (!isJson && content.contains("\\u"))
+                SearchText(Unescaped(QString::fromUtf8(content)));
             return !isJson;
+        }
         SearchValue(document.isArray() ? QJsonValue(document.array())
                                        : QJsonValue(document.object()));
         return true;
