@@ -2,6 +2,7 @@
 #include "testscene.h"
 
 #include "scene/attributes.h"
+#include "scene/catalogue.h"
 #include "scene/schema.h"
 
 #include <QtTest>
@@ -109,7 +110,7 @@ private slots:
         change("\"size\"", "\"Size\"");
         change("\"text_width\"", "\"TextWidth\"");
         change("\"PathData\"", "\"PathDate\"");
-        for (int effect = 0; effect < 30; ++effect)
+        for (int effect = 0; effect < Effects().size(); ++effect)
             add(QString::number(effect), SceneToJson(files.Of({files.Node({"abc", effect})})),
                 true);
 

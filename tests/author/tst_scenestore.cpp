@@ -360,7 +360,7 @@ private slots:
         sample.Node().attributes["AnimationSpeed"] = 12;
         folder->Write("sign.json", SceneToJson(sample.scene));
         QCOMPARE(change("PlayTimes", 3), Storing::Saved);
-        QCOMPARE(change("AnimationEffect", 30), Storing::Refused);
+        QCOMPARE(change("AnimationEffect", -1), Storing::Refused);
         QVERIFY(folder->Read("sign.json").contains("\"PlayTimes\": 3"));
     }
 

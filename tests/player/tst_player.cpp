@@ -4,6 +4,7 @@
 #include "player/simulation.h"
 #include "player/videofile.h"
 #include "scene/attributes.h"
+#include "scene/catalogue.h"
 #include "testscene.h"
 
 #include <hneonnodebase.h>
@@ -249,7 +250,7 @@ private slots:
     /** Ends are looked for without outlines. */
     void findsTheSameEndWithoutOutlines()
     {
-        for (int effect = 0; effect < 30; ++effect) {
+        for (int effect = 0; effect < Effects().size(); ++effect) {
             const Scene scene = files.Of({files.Node({"abcdef", effect, 9, 3})});
             const int end = PlayToEnd(Load(scene), LongestPlay(scene), 1).value(0).finishedTick;
             QVERIFY(end > 0);

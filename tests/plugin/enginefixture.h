@@ -5,6 +5,7 @@
 #ifndef TESTS_ENGINEFIXTURE_H
 #define TESTS_ENGINEFIXTURE_H
 
+#include "node/motions.h"
 #include "probes.h"
 #include "rectangletext.h"
 
@@ -15,7 +16,7 @@ using Lw::HNodeAnimationText::EngineProbe;
 inline QVector<int> EffectNumbers()
 {
     QVector<int> numbers;
-    for (int effect = 0; effect < 30; ++effect)
+    for (int effect = 0; effect <= Lw::HNodeAnimationText::Entrance::Last; ++effect)
         if (effect != 19 && effect != 20)
             numbers.append(effect);
     return numbers;

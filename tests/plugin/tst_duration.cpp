@@ -30,7 +30,7 @@ private slots:
         QTest::addColumn<int>("effect");
         QTest::addColumn<QVector<int>>("widths");
         const QVector<int> texts[] = {{30}, {30, 20, 40}, {70, 5, 31, 30, 30}};
-        for (int effect = 0; effect < 30; ++effect)
+        for (int effect = 0; effect <= Lw::HNodeAnimationText::Entrance::Last; ++effect)
             for (const QVector<int>& widths : texts)
                 QTest::addRow("effect %d, %d characters from %d", effect, int(widths.size()),
                               widths[0])

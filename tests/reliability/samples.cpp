@@ -1,7 +1,6 @@
 #include "samples.h"
 
 #include "author/author.h"
-#include "scene/catalogue.h"
 
 #include <QFile>
 

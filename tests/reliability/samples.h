@@ -5,15 +5,16 @@
 #ifndef TESTS_SAMPLES_H
 #define TESTS_SAMPLES_H
 
+#include "scene/catalogue.h"
 #include "scene/scene.h"
 
 #include <QSize>
 #include <QString>
 #include <QTemporaryDir>
 
-/** Entrance effects 0 .. 29 and, after them, the scrolls left, right, up and down. */
-constexpr int motionCount = 34;
-constexpr int firstScroll = 30;
+/** The entrance effects by number and, after them, the scrolls left, right, up and down. */
+inline const int firstScroll = AnimText::Effects().size();
+inline const int motionCount = firstScroll + AnimText::Scrolls().size();
 constexpr int trembleEffect = 8; // the one motion with random numbers
 
 /** Bits. */

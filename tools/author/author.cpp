@@ -2,6 +2,7 @@
 
 #include "author/glyphfiles.h"
 #include "author/placement.h"
+#include "scene/catalogue.h"
 #include "text/limits.h"
 #include "text/pagedivision.h"
 
@@ -20,53 +21,23 @@ const int standardSize = 48;   // pixels
 const int standardWidth = 512; // pixels
 const int standardRows = 5;    // characters that an upright area shows
 
-/** The effects by number, where the way in which they move decides how a text is set. */
-enum Effect {
-    FlyFromRight = 1,
-    FlyFromTop = 2,
-    Waves = 5,
-    BeforeAfterScale = 7,
-    Amplification = 9,
-    Narrow = 10,
-    Rotation = 11,
-    RotationTrundle = 12,
-    AngleRotation = 13,
-    AngleDrop = 17,
-    ZoomIn = 18,
-    RightToEnlarge = 21,
-    DiagonalMoves = 22,
-    RepeatTheWhereabouts = 23,
-    BothSidesToEnlarge = 24,
-    FlipsInto = 26,
-    RotateInto = 27,
-    TextZoom = 28,
-    Shake = 29,
-};
-
 Setting SettingFor(const AuthorOptions& options)
 {
-    // These turn or stretch a character sideways, about its own place or the page's middle.
-    static const QVector<int> turning = {
-        BeforeAfterScale, Amplification, Narrow,   Rotation,       RotationTrundle,
-        AngleRotation,    AngleDrop,     ZoomIn,   RightToEnlarge, BothSidesToEnlarge,
-        FlipsInto,        RotateInto,    TextZoom, Shake};
-    static const QVector<int> reaching = {FlyFromTop, Waves, ZoomIn, DiagonalMoves,
-                                          RepeatTheWhereabouts};
     Setting setting;
     setting.align = options.align;
     setting.valign = options.valign;
     setting.padding = options.padding;
     setting.keepsWords = options.keepsWords;
-    if (options.mode == Mode::Scroll) {
-        setting.arrangement = options.motion < 2 ? Arrangement::Line : Arrangement::Column;
-        return setting;
-    }
-    setting.arrangement =
-        options.motion == FlyFromRight ? Arrangement::PagesFromEnd : Arrangement::Pages;
-    setting.needsPlaces = turning.contains(options.motion);
-    setting.needsEvenWidths =
-        options.motion == RightToEnlarge || options.motion == BothSidesToEnlarge;
-    setting.reachesTop = reaching.contains(options.motion);
+    const bool scrolls = options.mode == Mode::Scroll;
+    const Motion* motion = scrolls ? FindScroll(options.motion) : FindEffect(options.motion);
+    const MotionTraits traits = motion ? motion->traits : MotionTraits();
+    if (scrolls)
+        setting.arrangement = traits & Sideways ? Arrangement::Line : Arrangement::Column;
+    else
+        setting.arrangement = traits & FromEnd ? Arrangement::PagesFromEnd : Arrangement::Pages;
+    setting.needsPlaces = traits & Turns;
+    setting.needsEvenWidths = traits & EvenWidths;
+    setting.reachesTop = traits & ReachesTop;
     return setting;
 }
 

@@ -49,26 +49,28 @@ bool Scrolls(const SceneNode& node)
     return node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
 }
 
-/** Motions of one kind set the text in the same way. */
-int Kind(bool scrolls, int motion)
+/** Motions of one kind put characters in the same order to the same sides. */
+int Kind(bool scrolls, const Motion* motion)
 {
-    return scrolls ? 2 + motion / 2 : motion == 1 ? 1 : 0;
+    const MotionTraits traits = motion ? motion->traits : MotionTraits();
+    return scrolls ? traits & Sideways ? 3 : 2 : traits & FromEnd ? 1 : 0;
 }
 
 void SetMotion(SceneNode* node, const QString& key, const QString& value)
 {
     const bool scroll = key == QLatin1String("ContinueStyle");
-    const Motion* motion = scroll ? FindScroll(value) : FindEffect(value);
-    for (const Motion& known : AnimText::Scrolls()) {
-        if (scroll && value == QString::number(known.number))
-            motion = &known;
-    }
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    const Motion* motion = !scroll    ? FindEffect(value)
+                           : isNumber ? FindScroll(number)
+                                      : FindScroll(value);
     if (!motion)
         throw Fault{QStringLiteral("there is no %1 \"%2\"")
                         .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value)};
     const bool scrolls = Scrolls(*node);
     const int old = node->attributes.value(scrolls ? QStringLiteral("ContinueStyle") : key).toInt();
-    if (scroll != scrolls || Kind(scroll, motion->number) != Kind(scrolls, old))
+    if (scroll != scrolls ||
+        Kind(scroll, motion) != Kind(scrolls, scrolls ? FindScroll(old) : FindEffect(old)))
         throw Fault{QStringLiteral("%1 sets the text in another way; lay it out anew with "
                                    "animtext author --replace")
                         .arg(QLatin1String(motion->name))};

@@ -29,10 +29,12 @@ const QList<Motion>& Effects()
          QT_TRANSLATE_NOOP(
              "Motions",
              "the last character first, each flies from the left edge rightwards; pages end at the "
-             "right edge")},
+             "right edge"),
+         FromEnd},
         {2, "FlyFromTopEffect", flyIn,
-         QT_TRANSLATE_NOOP(
-             "Motions", "characters rise one by one from below the bottom edge to their places")},
+         QT_TRANSLATE_NOOP("Motions",
+                           "characters rise one by one from below the bottom edge to their places"),
+         ReachesTop},
         {3, "FlyFromBottomEffect", flyIn,
          QT_TRANSLATE_NOOP("Motions",
                            "characters drop one by one from the top edge to their places")},
@@ -41,31 +43,38 @@ const QList<Motion>& Effects()
         {5, "WavesEffect", oscillating,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "a wave travels to the right through the row, from edge to edge of the area")},
+             "a wave travels to the right through the row, from edge to edge of the area"),
+         ReachesTop},
         {6, "SwingEffect", oscillating,
          QT_TRANSLATE_NOOP("Motions", "the whole row sways sideways and leans as it goes")},
         {7, "BeforeAfterScalEffect", oscillating,
          QT_TRANSLATE_NOOP("Motions",
-                           "every character pulses from its own size to half as large again")},
+                           "every character pulses from its own size to half as large again"),
+         Turns},
         {8, "TrembleEffect", oscillating,
          QT_TRANSLATE_NOOP("Motions",
                            "every character jitters at random by a few pixels, 61 frames a page")},
         {9, "WordForWordAmplificationEffect", wordByWord,
          QT_TRANSLATE_NOOP("Motions",
-                           "characters grow out of nothing at their places, one after another")},
+                           "characters grow out of nothing at their places, one after another"),
+         Turns},
         {10, "WordForWordNarrowEffect", wordByWord,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "characters appear at double size and shrink to their own, one after another")},
+             "characters appear at double size and shrink to their own, one after another"),
+         Turns},
         {11, "RotationEffect", rotation,
-         QT_TRANSLATE_NOOP("Motions", "every character turns once clockwise about its middle")},
+         QT_TRANSLATE_NOOP("Motions", "every character turns once clockwise about its middle"),
+         Turns},
         {12, "RotationTrundleEffect", rotation,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "the row rolls in from the right edge, each character spinning anticlockwise")},
+             "the row rolls in from the right edge, each character spinning anticlockwise"),
+         Turns},
         {13, "AngleRotationEffect", rotation,
-         QT_TRANSLATE_NOOP(
-             "Motions", "every character turns once clockwise about the middle of its baseline")},
+         QT_TRANSLATE_NOOP("Motions",
+                           "every character turns once clockwise about the middle of its baseline"),
+         Turns},
         {14, "EffectInTurnFlips", rotation,
          QT_TRANSLATE_NOOP("Motions", "characters stand on their heads and flip upright over the "
                                       "baseline, one after another")},
@@ -80,11 +89,13 @@ const QList<Motion>& Effects()
         {17, "Effect45DegreeAngleDrop", inTurn,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "characters drop tilted by 45 degrees, bounce once and settle upright, in turn")},
+             "characters drop tilted by 45 degrees, bounce once and settle upright, in turn"),
+         Turns},
         {18, "EffectZoomIn", stretch,
          QT_TRANSLATE_NOOP("Motions", "characters come in turn from the top of the right edge on "
                                       "slanted paths, widening from "
-                                      "nothing")},
+                                      "nothing"),
+         Turns | ReachesTop},
         {19, "EffectTopWithFrogAppearsVerbatim", frogs,
          QT_TRANSLATE_NOOP(
              "Motions",
@@ -96,37 +107,43 @@ const QList<Motion>& Effects()
              "a frog hops along the top edge, and each character falls from there in five steps")},
         {21, "EffectRightToEnlarge", stretch,
          QT_TRANSLATE_NOOP("Motions",
-                           "every character widens to the right from nothing to its full width")},
+                           "every character widens to the right from nothing to its full width"),
+         Turns | EvenWidths},
         {22, "EffectDiagonalMoves", stretch,
          QT_TRANSLATE_NOOP(
-             "Motions",
-             "characters slide in turn from the top of the right edge on slanted paths")},
+             "Motions", "characters slide in turn from the top of the right edge on slanted paths"),
+         ReachesTop},
         {23, "EffectRepeatTheWhereabouts", stretch,
          QT_TRANSLATE_NOOP("Motions", "every character climbs from the bottom edge to the top "
                                       "again and again, the right one "
-                                      "ahead")},
+                                      "ahead"),
+         ReachesTop},
         {24, "EffectFromBothSidesInOrderToEnlarge", stretch,
          QT_TRANSLATE_NOOP(
-             "Motions",
-             "characters grow in pairs from both ends of the page to its middle, twice")},
+             "Motions", "characters grow in pairs from both ends of the page to its middle, twice"),
+         Turns | EvenWidths},
         {25, "Effect3DHorizontalRotation", rotation,
          QT_TRANSLATE_NOOP("Motions",
                            "the row turns round a vertical axis in its middle, away and back")},
         {26, "EffectFlipsInto", rotation,
          QT_TRANSLATE_NOOP("Motions", "the row gathers from five times its width while slanted "
-                                      "characters narrow and widen")},
+                                      "characters narrow and widen"),
+         Turns},
         {27, "EffectRotateInto", rotation,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "the row gathers from five times its width while characters turn once anticlockwise")},
+             "the row gathers from five times its width while characters turn once anticlockwise"),
+         Turns},
         {28, "EffectTextZoom", textZoom,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "the page pulses in and out of nothing about its middle, two and a half times")},
+             "the page pulses in and out of nothing about its middle, two and a half times"),
+         Turns},
         {29, "EffectShake", oscillating,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "every character rocks by up to 45 degrees, on one foot and then on the other")}};
+             "every character rocks by up to 45 degrees, on one foot and then on the other"),
+         Turns}};
     return effects;
 }
 
@@ -136,11 +153,13 @@ const QList<Motion>& Scrolls()
         {0, "ContinueEffectLeft", scroll,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "the line enters at the right edge and leaves at the left, moved by the device")},
+             "the line enters at the right edge and leaves at the left, moved by the device"),
+         Sideways},
         {1, "ContinueEffectRight", scroll,
          QT_TRANSLATE_NOOP(
              "Motions",
-             "the line enters at the left edge and leaves at the right, moved by the device")},
+             "the line enters at the left edge and leaves at the right, moved by the device"),
+         Sideways},
         {2, "ContinueEffectUp", scroll,
          QT_TRANSLATE_NOOP(
              "Motions",
@@ -151,13 +170,24 @@ const QList<Motion>& Scrolls()
     return scrolls;
 }
 
+const Motion* FindEffect(int number)
+{
+    return number >= 0 && number < Effects().size() ? &Effects().at(number) : nullptr;
+}
+
+const Motion* FindScroll(int number)
+{
+    return number >= 0 && number < Scrolls().size() ? &Scrolls().at(number) : nullptr;
+}
+
 const Motion* FindEffect(const QString& numberOrName)
 {
     bool isNumber = false;
     const int number = numberOrName.toInt(&isNumber);
+    if (isNumber)
+        return FindEffect(number);
     for (const Motion& effect : Effects()) {
-        if (isNumber ? effect.number == number
-                     : numberOrName.compare(QLatin1String(effect.name), Qt::CaseInsensitive) == 0)
+        if (numberOrName.compare(QLatin1String(effect.name), Qt::CaseInsensitive) == 0)
             return &effect;
     }
     return nullptr;

@@ -1,14 +1,32 @@
 /**
  * @file
- * The entrance effects and scrolls by number and name, for people.
+ * The entrance effects and scrolls by number and name, and what the tools must know of each.
  */
 #ifndef ANIMTEXT_CATALOGUE_H
 #define ANIMTEXT_CATALOGUE_H
 
+#include <QFlags>
 #include <QList>
 #include <QString>
 
 namespace AnimText {
+
+/** How a motion treats characters, where that decides how a text is laid out for it. */
+enum MotionTrait {
+    /// Turns characters, or stretches them sideways, about their own places or the page's middle:
+    /// letters must be at those places.
+    Turns = 1,
+    /// Reaches up to where the highest letter touches the top of the area.
+    ReachesTop = 2,
+    /// Takes as long as the widest character is wide: no space may be wider than a letter.
+    EvenWidths = 4,
+    /// Fills pages from the end of the text, and ends them at the right edge.
+    FromEnd = 8,
+    /// Moves the whole line sideways; the device does.
+    Sideways = 16,
+};
+Q_DECLARE_FLAGS(MotionTraits, MotionTrait)
+Q_DECLARE_OPERATORS_FOR_FLAGS(MotionTraits)
 
 /** One entrance effect, or one scroll direction. */
 struct Motion
@@ -17,12 +35,17 @@ struct Motion
     const char* name;    ///< the engine's operation, e.g. "SwingEffect"
     const char* family;  ///< e.g. "oscillating"
     const char* summary; ///< one line on the motion as it really looks
+    MotionTraits traits = {};
 };
 
-/** The thirty entrance effects, by number. */
+/** The entrance effects, by number. */
 const QList<Motion>& Effects();
 /** The four scrolls, by number: left, right, up, down. */
 const QList<Motion>& Scrolls();
+
+/** The effect or scroll of that number; null when there is none. */
+const Motion* FindEffect(int number);
+const Motion* FindScroll(int number);
 
 /** The effect of that number or name (upper and lower case alike); null when there is none. */
 const Motion* FindEffect(const QString& numberOrName);
