@@ -33,6 +33,7 @@ struct Motion
 {
     int number;          ///< "AnimationEffect" or "ContinueStyle"
     const char* name;    ///< the engine's operation, e.g. "SwingEffect"
+    const char* title;   ///< what people see, for operations are named after what they were for
     const char* family;  ///< e.g. "oscillating"
     const char* summary; ///< one line on the motion as it really looks
     MotionTraits traits = {};

@@ -2,55 +2,11 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace AnimText {
 
 QString TitleOf(const Motion& motion)
 {
-    // What is seen, for operations are named after what they were meant to do.
-    static const char* const effects[]{
-        QT_TRANSLATE_NOOP("Motions", "Fly to the left"),
-        QT_TRANSLATE_NOOP("Motions", "Fly to the right"),
-        QT_TRANSLATE_NOOP("Motions", "Rise one by one"),
-        QT_TRANSLATE_NOOP("Motions", "Drop one by one"),
-        QT_TRANSLATE_NOOP("Motions", "Typewriter"),
-        QT_TRANSLATE_NOOP("Motions", "Wave"),
-        QT_TRANSLATE_NOOP("Motions", "Sway"),
-        QT_TRANSLATE_NOOP("Motions", "Pulse"),
-        QT_TRANSLATE_NOOP("Motions", "Tremble"),
-        QT_TRANSLATE_NOOP("Motions", "Grow one by one"),
-        QT_TRANSLATE_NOOP("Motions", "Shrink one by one"),
-        QT_TRANSLATE_NOOP("Motions", "Spin about the middle"),
-        QT_TRANSLATE_NOOP("Motions", "Roll in"),
-        QT_TRANSLATE_NOOP("Motions", "Spin about the baseline"),
-        QT_TRANSLATE_NOOP("Motions", "Flip upright"),
-        QT_TRANSLATE_NOOP("Motions", "Swell in turn"),
-        QT_TRANSLATE_NOOP("Motions", "Drop in turn"),
-        QT_TRANSLATE_NOOP("Motions", "Drop and bounce"),
-        QT_TRANSLATE_NOOP("Motions", "Widen along a slant"),
-        QT_TRANSLATE_NOOP("Motions", "Frog uncovers"),
-        QT_TRANSLATE_NOOP("Motions", "Frog drops"),
-        QT_TRANSLATE_NOOP("Motions", "Widen to the right"),
-        QT_TRANSLATE_NOOP("Motions", "Slide along a slant"),
-        QT_TRANSLATE_NOOP("Motions", "Climb again and again"),
-        QT_TRANSLATE_NOOP("Motions", "Grow from both ends"),
-        QT_TRANSLATE_NOOP("Motions", "Turn the row"),
-        QT_TRANSLATE_NOOP("Motions", "Gather and flip"),
-        QT_TRANSLATE_NOOP("Motions", "Gather and spin"),
-        QT_TRANSLATE_NOOP("Motions", "Pulse the page"),
-        QT_TRANSLATE_NOOP("Motions", "Rock"),
-    };
-    static const char* const scrolls[]{
-        QT_TRANSLATE_NOOP("Motions", "Scroll left"),
-        QT_TRANSLATE_NOOP("Motions", "Scroll right"),
-        QT_TRANSLATE_NOOP("Motions", "Scroll up"),
-        QT_TRANSLATE_NOOP("Motions", "Scroll down"),
-    };
-    const bool scroll = std::any_of(Scrolls().begin(), Scrolls().end(), [&](const Motion& other) {
-        return qstrcmp(other.name, motion.name) == 0;
-    });
-    return TranslatedMotion(QLatin1String((scroll ? scrolls : effects)[motion.number]));
+    return TranslatedMotion(QLatin1String(motion.title));
 }
 
 QString TranslatedMotion(const QString& words)
