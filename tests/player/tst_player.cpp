@@ -112,26 +112,31 @@ private slots:
         QCOMPARE(player->Time(), 11 * 66);
     }
 
-    void tellsPagesByTheTicksWithoutPictures_data()
+    void pagesEndWhereLongHoldsBegin_data()
     {
-        QTest::addColumn<QVector<int>>("pictures");
+        QTest::addColumn<QVector<int>>("real");
+        QTest::addColumn<QVector<int>>("held");
         QTest::addColumn<int>("end");
         QTest::addColumn<QString>("pages");
-        QTest::newRow("none") << QVector<int>{} << 9 << "";
-        QTest::newRow("one picture") << QVector<int>{3} << 9 << "3-3-9 ";
-        QTest::newRow("one that moves") << QVector<int>{0, 2, 4} << 20 << "0-4-20 ";
-        QTest::newRow("two") << QVector<int>{0, 1, 2, 5, 6} << 9 << "0-2-5 5-6-9 ";
-        QTest::newRow("still ones") << QVector<int>{0, 30, 60} << 90 << "0-0-30 30-30-60 60-60-90 ";
-        QTest::newRow("slowest of all") << QVector<int>{0, 10, 20} << 30 << "0-20-30 ";
+        using Ticks = QVector<int>;
+        QTest::newRow("none") << Ticks{} << Ticks{} << 9 << "";
+        QTest::newRow("one picture") << Ticks{0} << Ticks{0} << 9 << "0-1-9 ";
+        QTest::newRow("slowest of all") << Ticks{0, 16, 32} << Ticks{0, 16, 32} << 33 << "0-33-33 ";
+        QTest::newRow("two") << Ticks{0, 1, 5, 6} << Ticks{0, 1, 80, 81} << 9 << "0-2-5 5-7-9 ";
+        QTest::newRow("not held") << Ticks{0, 1, 2} << Ticks{0, 76, 152} << 3
+                                  << "0-1-1 1-2-2 2-3-3 ";
+        QTest::newRow("one play was broken off")
+            << Ticks{0, 5, 9} << Ticks{0, 80} << 12 << "0-1-5 5-6-12 ";
     }
 
-    void tellsPagesByTheTicksWithoutPictures()
+    void pagesEndWhereLongHoldsBegin()
     {
-        QFETCH(QVector<int>, pictures);
+        QFETCH(QVector<int>, real);
+        QFETCH(QVector<int>, held);
         QFETCH(int, end);
         QString told;
-        for (const PageTime& page : PageTimes(pictures, end))
-            told += QString("%1-%2-%3 ").arg(page.from).arg(page.entered).arg(page.until);
+        for (const PageTime& page : PageTimes(real, held, end))
+            told += QString("%1-%2-%3 ").arg(page.begin).arg(page.hold).arg(page.end);
         QTEST(told, "pages");
     }
 

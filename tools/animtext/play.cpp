@@ -33,7 +33,7 @@ void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
     }
 }
 
-QByteArray Report(const Timing& kept)
+QByteArray Report(const Punctuality& kept)
 {
     return QStringLiteral("played %1 s, %2 ticks: %3 pictures of the first text; the screen came "
                           "at most %4 ms late, and %5 ticks were made up for\n")

@@ -91,7 +91,7 @@ QByteArray Script(const char* function, const QJsonObject& object)
 /** A picture from the middle of the first page's entrance. */
 int PosterPicture(const MotionPlay& play)
 {
-    const int end = play.pages.isEmpty() ? play.ticks : play.pages.first().entered;
+    const int end = play.pages.isEmpty() ? play.ticks : play.pages.first().hold - 1;
     int left = end * 3 / 5;
     for (const PictureRun& run : play.runs) {
         if (left < run.ticks)
@@ -105,7 +105,7 @@ QJsonArray ToJson(const QVector<PageTime>& pages)
 {
     QJsonArray array;
     for (const PageTime& page : pages)
-        array.append(QJsonArray{page.from, page.entered, page.until});
+        array.append(QJsonArray{page.begin, page.hold - 1, page.end}); // its last picture
     return array;
 }
 

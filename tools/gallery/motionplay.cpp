@@ -34,7 +34,6 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     player->Start(seed);
     Show(player->Picture(), sheets, play);
 
-    QVector<int> pictures{0};
     const bool isDevices = player->Scenery().ScrollsSideways(0);
     const qint64 pass = isDevices ? ScrollPass(player->Scenery(), 0) : 0;
     const int longest = isDevices ? int(pass / tickLength) : LongestPlay(scene);
@@ -44,19 +43,25 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
             *error = QStringLiteral("interrupted");
             return false;
         }
-        if (player->Swapped(0))
-            pictures.append(player->Tick());
         if (isDevices || player->Swapped(0))
             Show(player->Picture(), sheets, play);
         else
             ShowOn(play);
     }
-    if (!isDevices) {
-        play->real = player->Time();
-        const SceneNode& node = *scene.Nodes().first();
-        if (node.attributes.value(QStringLiteral("EffectType")).toInt() == 0)
-            play->pages = PageTimes(pictures, player->Tick());
+    if (isDevices)
+        return true;
+    play->real = player->Time();
+    const SceneNode& node = *scene.Nodes().first();
+    if (node.attributes.value(QStringLiteral("EffectType")).toInt() != 0)
+        return true;
+    PagedPlay paged;
+    const auto watch = [&](int) { return goOn(); };
+    if (!MeasurePages(player, scene, longest, watch, &paged, error)) {
+        if (error->isEmpty())
+            *error = QStringLiteral("interrupted");
+        return false;
     }
+    play->pages = paged.pages.first();
     return true;
 }
 

@@ -67,7 +67,7 @@ bool LivePlayer::Begin(const Scene& wanted, QString* error)
     scene = wanted;
     paused = ended = resting = false;
     before = lastShown = 0;
-    timing = earlier = Timing();
+    punctuality = earlier = Punctuality();
     keeper = std::make_unique<TickKeeper>(this);
     parts = QVector<Part>(stage->NodeCount(), Part());
     running.start();
@@ -127,7 +127,7 @@ void LivePlayer::Move()
 void LivePlayer::Tick()
 {
     const qint64 now = Time();
-    timing.latest = std::max(timing.latest, now - lastShown - tickLength);
+    punctuality.latest = std::max(punctuality.latest, now - lastShown - tickLength);
     lastShown = now;
     if (IsOver())
         End();
@@ -173,7 +173,7 @@ bool LivePlayer::IsOver()
 void LivePlayer::End()
 {
     QString error;
-    const Timing kept = Kept();
+    const Punctuality kept = Kept();
     if (settings.loop && Begin(scene, &error)) {
         earlier = kept;
         return;
@@ -219,12 +219,12 @@ void LivePlayer::Freeze()
     }
 }
 
-Timing LivePlayer::Kept() const
+Punctuality LivePlayer::Kept() const
 {
-    Timing kept = earlier;
+    Punctuality kept = earlier;
     kept.time += Time();
     kept.due += Time() / tickLength + 1;
-    kept.latest = std::max(kept.latest, timing.latest);
+    kept.latest = std::max(kept.latest, punctuality.latest);
     kept.madeUp += keeper ? keeper->MadeUp() : 0;
     if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
         kept.pictures += Torv::SwapCount(stage->Session(0), stage->TextLayer(0));

@@ -28,7 +28,7 @@ struct LiveSettings
 };
 
 /** How a play has kept up with the clock. */
-struct Timing
+struct Punctuality
 {
     qint64 time = 0;     ///< milliseconds played, pauses not counted
     qint64 due = 0;      ///< ticks up to now, the start among them
@@ -66,7 +66,7 @@ public:
     qint64 Time() const;
     const Stage& Scenery() const { return *stage; }
     /** Since the play began, all its rounds together. */
-    Timing Kept() const;
+    Punctuality Kept() const;
 
 signals:
     /** What the display shows from now on; the same again where a tick has changed nothing. */
@@ -106,8 +106,8 @@ private:
     qint64 before = 0;    // milliseconds played up to the last pause
     qint64 lastShown = 0; // milliseconds at the last tick
     QImage shown;
-    Timing timing;
-    Timing earlier;       // of the rounds before
+    Punctuality punctuality;
+    Punctuality earlier;  // of the rounds before
     bool resting = false; // what finishes has finished and stands still
     bool paused = false;
     bool ended = false;

@@ -5,25 +5,43 @@
 #ifndef ANIMTEXT_PAGETIMES_H
 #define ANIMTEXT_PAGETIMES_H
 
+#include "player/playlength.h"
+
 #include <QVector>
 
 namespace AnimText {
 
-/** One page of a play, in ticks from its start. */
+/** A page's time on the display, in ticks from the start of its text. */
 struct PageTime
 {
-    int from;    ///< its first picture
-    int entered; ///< its last picture: from here on it is held
-    int until;   ///< the next page, or the end of the play
+    int begin = 0; ///< its first picture
+    int hold = 0;  ///< the tick after its last picture
+    int end = 0;   ///< the first tick of what follows
+};
+
+/** One play of a scene. */
+struct PagedPlay
+{
+    QVector<NodePlay> nodes;          ///< in the order of the file
+    QVector<QVector<PageTime>> pages; ///< of each node, of all its runs; none unless it finishes
 };
 
 /**
- * Finds the pages of a play by its pictures: between pages none comes for as long as a page is
- * held. Pages that are not held are not told apart.
- * @param pictures the ticks that brought a picture, rising
- * @param end      the tick at which the play is over
+ * Plays @p scene without outlines, twice: once with every page held for so long that pages can be
+ * told apart, then as it is. The player is then at the end of the second play.
+ * @param longest ticks after which the second play is broken off
+ * @return false when @p watch broke off or, with @p error, when the scene cannot be played
  */
-QVector<PageTime> PageTimes(const QVector<int>& pictures, int end);
+bool MeasurePages(Player* player, const Scene& scene, int longest, const Watch& watch,
+                  PagedPlay* play, QString* error);
+
+/**
+ * Divides a play into pages.
+ * @param real the ticks that brought a picture, rising
+ * @param held those of the same pictures, while pages were held for longer
+ * @param end  the tick at which the play is over
+ */
+QVector<PageTime> PageTimes(const QVector<int>& real, const QVector<int>& held, int end);
 
 } // namespace AnimText
 

@@ -5,21 +5,13 @@
 #ifndef ANIMTEXT_TIMING_H
 #define ANIMTEXT_TIMING_H
 
-#include "player/playlength.h"
+#include "player/pagetimes.h"
 
 #include <QDataStream>
 #include <QMetaType>
 #include <QVector>
 
 namespace AnimText {
-
-/** A page's time on the display; all are ticks from the start of its text. */
-struct PageTime
-{
-    qint32 begin = 0; ///< its first picture
-    qint32 hold = 0;  ///< the tick after its last picture
-    qint32 end = 0;   ///< the first tick of what follows
-};
 
 /** The times of one text. */
 struct TextTime
