@@ -111,7 +111,7 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     QCOMPARE(motions->List()->model()->rowCount(), 1);
     QTest::mouseClick(motions->List()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       motions->List()->visualRect(motions->List()->model()->index(0, 0)).center());
-    QCOMPARE(MotionNumber(Text().node), 5);
+    QCOMPARE(MotionOf(Text().node).number, 5);
     QVERIFY(Settles());
     QVERIFY(window->GetPlayback()->Length() > 20);
     window->GetPlayback()->Seek(11);
@@ -126,12 +126,12 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     QVERIFY(ended.wait(patience));
     QVERIFY(!window->isWindowModified());
     window->GetDocument()->Undo()->undo();
-    QCOMPARE(MotionNumber(Text().node), 17);
+    QCOMPARE(MotionOf(Text().node).number, 17);
     window->GetDocument()->Undo()->undo();
     QVERIFY(Text().Title() != "Mind the gap"); // typing was one step
     QVERIFY(!window->GetDocument()->Undo()->canUndo());
     QVERIFY(window->Open(path));
-    QCOMPARE(MotionNumber(Text().node), 5);
+    QCOMPARE(MotionOf(Text().node).number, 5);
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Mind the gap"));
 }
 

@@ -5,6 +5,7 @@
 #include "animtext/output.h"
 #include "player/playlength.h"
 #include "player/plugin.h"
+#include "scene/motion.h"
 
 #include <QSize>
 
@@ -37,9 +38,7 @@ public:
     Measurement(const Scene& from, const SceneNode& node, Lw::INodePlugin* plugin)
         : player(VirtualDispatcher::Current(), plugin)
         , scene(from)
-        , speedKey(node.attributes.value(QStringLiteral("EffectType")).toInt() == 1
-                       ? QStringLiteral("ContinueSpeed")
-                       : QStringLiteral("AnimationSpeed"))
+        , speedKey(MotionOf(node).SpeedKey())
     {
         SceneNode plain = node;
         for (const char* background : {"CheckNeonBg", "CheckDazzle", "CheckPictureFills"})

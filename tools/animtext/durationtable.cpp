@@ -4,7 +4,7 @@
 #include "animtext/messages.h"
 #include "animtext/progress.h"
 #include "player/simulation.h"
-#include "scene/catalogue.h"
+#include "scene/motion.h"
 
 #include <hneonnodebase.h>
 
@@ -24,14 +24,13 @@ Scene OnlyFirst(const Scene& scene)
 {
     Scene only = scene;
     only.pages = {ScenePage{{SceneArea{{*scene.Nodes().first()}}}}};
-    only.pages.first().areas.first().nodes.first().attributes[QStringLiteral("EffectType")] = 0;
     return only;
 }
 
 Times Measure(const Playing& playing, Scene scene, int effect, int speed)
 {
     SceneNode& node = scene.pages.first().areas.first().nodes.first();
-    node.attributes[QStringLiteral("AnimationEffect")] = effect;
+    SetMotion(&node, {Mode::Entrance, effect});
     node.attributes[QStringLiteral("AnimationSpeed")] = speed;
     const std::unique_ptr<Player> player = playing.Load(scene);
     Times times;

@@ -6,27 +6,13 @@
 #include "player/film.h"
 #include "player/stillfile.h"
 
-#include "scene/catalogue.h"
+#include "scene/motion.h"
 
 #include <QFileInfo>
 
 namespace AnimText {
 
 namespace {
-
-/** What a scene's first text does, for its title. */
-const Motion* MotionOf(const Scene& scene)
-{
-    if (scene.Nodes().isEmpty())
-        return nullptr;
-    const auto& attributes = scene.Nodes().first()->attributes;
-    const int mode = attributes.value(QStringLiteral("EffectType")).toInt();
-    const int effect = attributes.value(QStringLiteral("AnimationEffect")).toInt();
-    const int style = attributes.value(QStringLiteral("ContinueStyle")).toInt();
-    if (mode == 0)
-        return FindEffect(QString::number(effect));
-    return mode == 1 && style >= 0 && style < Scrolls().size() ? &Scrolls().at(style) : nullptr;
-}
 
 /**
  * @p count frames of @p frames, evenly spaced. A film that comes to an end shows it; the last frame
@@ -54,7 +40,8 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
         throw Failure{BadInput, error};
 
     SheetRow row;
-    const Motion* motion = MotionOf(scene);
+    const Motion* motion =
+        scene.Nodes().isEmpty() ? nullptr : MotionOf(*scene.Nodes().first()).Row();
     const bool scrolls = motion && motion->family == Scrolls().first().family;
     row.title = QFileInfo(scene.path).completeBaseName();
     if (motion) {

@@ -5,7 +5,7 @@
 #include "animtext/interruption.h"
 #include "animtext/storing.h"
 #include "author/places.h"
-#include "scene/catalogue.h"
+#include "scene/motion.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -18,24 +18,15 @@ namespace {
 
 constexpr int longestText = 40; // characters of a text that are listed
 
-QString MotionOf(const SceneNode& node)
+QString MotionName(const SceneNode& node)
 {
-    const bool scrolls = node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
-    const QList<Motion>& motions = scrolls ? Scrolls() : Effects();
-    const int number =
-        node.attributes
-            .value(scrolls ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect"))
-            .toInt();
-    return number >= 0 && number < motions.size() ? QLatin1String(motions.at(number).name)
-                                                  : QStringLiteral("unknown");
+    const Motion* motion = MotionOf(node).Row();
+    return motion ? QLatin1String(motion->name) : QStringLiteral("unknown");
 }
 
 int SpeedOf(const SceneNode& node)
 {
-    const bool scrolls = node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
-    return node.attributes
-        .value(scrolls ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed"))
-        .toInt();
+    return node.attributes.value(MotionOf(node).SpeedKey()).toInt();
 }
 
 QByteArray AsJson(Scene* scene)
@@ -52,7 +43,7 @@ QByteArray AsJson(Scene* scene)
             {QStringLiteral("page"), place.page + 1},
             {QStringLiteral("area"), place.area + 1},
             {QStringLiteral("text"), node.attributes.value(QStringLiteral("Text")).toString()},
-            {QStringLiteral("motion"), MotionOf(node)},
+            {QStringLiteral("motion"), MotionName(node)},
             {QStringLiteral("speed"), SpeedOf(node)},
             {QStringLiteral("hold"), node.hold},
             {QStringLiteral("pos"), QJsonArray{node.pos.x(), node.pos.y()}},
@@ -78,7 +69,7 @@ QByteArray AsText(Scene* scene)
                     .arg(node.size.height())
                     .arg(node.pos.x())
                     .arg(node.pos.y())
-                    .arg(MotionOf(node))
+                    .arg(MotionName(node))
                     .arg(SpeedOf(node))
                     .toUtf8() +
                 ", hold " + QByteArray::number(node.hold / 10.0) + " s  \"" + words.toUtf8() +

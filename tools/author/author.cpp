@@ -2,7 +2,6 @@
 
 #include "author/glyphfiles.h"
 #include "author/placement.h"
-#include "scene/catalogue.h"
 #include "text/limits.h"
 #include "text/pagedivision.h"
 
@@ -28,10 +27,10 @@ Setting SettingFor(const AuthorOptions& options)
     setting.valign = options.valign;
     setting.padding = options.padding;
     setting.keepsWords = options.keepsWords;
-    const bool scrolls = options.mode == Mode::Scroll;
-    const Motion* motion = scrolls ? FindScroll(options.motion) : FindEffect(options.motion);
+    const NodeMotion asked{options.mode, options.motion};
+    const Motion* motion = asked.Row();
     const MotionTraits traits = motion ? motion->traits : MotionTraits();
-    if (scrolls)
+    if (asked.IsScroll())
         setting.arrangement = traits & Sideways ? Arrangement::Line : Arrangement::Column;
     else
         setting.arrangement = traits & FromEnd ? Arrangement::PagesFromEnd : Arrangement::Pages;
@@ -134,14 +133,12 @@ QList<QHash<QString, QString>> StyleRows(const StyledText& text, const QVector<i
 
 QMap<QString, QVariant> Attributes(const AuthorOptions& options)
 {
-    QMap<QString, QVariant> attributes;
-    attributes[QStringLiteral("EffectType")] = int(options.mode);
+    const NodeMotion motion{options.mode, options.motion};
+    SceneNode node;
+    SetMotion(&node, motion);
+    QMap<QString, QVariant> attributes = node.attributes;
     attributes[QStringLiteral("PlayTimes")] = options.plays;
-    const bool scrolls = options.mode == Mode::Scroll;
-    attributes[scrolls ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect")] =
-        options.motion;
-    attributes[scrolls ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed")] =
-        options.speed;
+    attributes[motion.SpeedKey()] = options.speed;
     if (options.hollow)
         attributes[QStringLiteral("Hollow")] = 1;
     if (options.neon >= 0)

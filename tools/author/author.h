@@ -9,6 +9,7 @@
 #include "author/placement.h"
 #include "author/shaping.h"
 #include "author/styledtext.h"
+#include "scene/motion.h"
 #include "scene/scene.h"
 
 #include <QColor>
@@ -21,9 +22,6 @@
 #include <QString>
 
 namespace AnimText {
-
-/** Play mode of a node, "EffectType". */
-enum class Mode { Entrance = 0, Scroll = 1 };
 
 /** What the background behind the text does, "CheckDazzle" and its gradient. */
 enum class Dazzle { Off, Plain, Linear, Radial, Conical };

@@ -2,7 +2,7 @@
 
 #include "author/styledtext.h"
 #include "scene/attributes.h"
-#include "scene/catalogue.h"
+#include "scene/motion.h"
 #include "scene/schema.h"
 #include "scene/suggest.h"
 #include "scene/times.h"
@@ -44,19 +44,15 @@ int Number(const QString& word, Home home, const QString& key, const QString& va
     return number;
 }
 
-bool Scrolls(const SceneNode& node)
-{
-    return node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
-}
-
 /** Motions of one kind put characters in the same order to the same sides. */
-int Kind(bool scrolls, const Motion* motion)
+int Kind(const NodeMotion& motion)
 {
-    const MotionTraits traits = motion ? motion->traits : MotionTraits();
-    return scrolls ? traits & Sideways ? 3 : 2 : traits & FromEnd ? 1 : 0;
+    const Motion* row = motion.Row();
+    const MotionTraits traits = row ? row->traits : MotionTraits();
+    return motion.IsScroll() ? traits & Sideways ? 3 : 2 : traits & FromEnd ? 1 : 0;
 }
 
-void SetMotion(SceneNode* node, const QString& key, const QString& value)
+void ChangeMotion(SceneNode* node, const QString& key, const QString& value)
 {
     const bool scroll = key == QLatin1String("ContinueStyle");
     bool isNumber = false;
@@ -67,10 +63,8 @@ void SetMotion(SceneNode* node, const QString& key, const QString& value)
     if (!motion)
         throw Fault{QStringLiteral("there is no %1 \"%2\"")
                         .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value)};
-    const bool scrolls = Scrolls(*node);
-    const int old = node->attributes.value(scrolls ? QStringLiteral("ContinueStyle") : key).toInt();
-    if (scroll != scrolls ||
-        Kind(scroll, motion) != Kind(scrolls, scrolls ? FindScroll(old) : FindEffect(old)))
+    const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, motion->number};
+    if (Kind(next) != Kind(MotionOf(*node)))
         throw Fault{QStringLiteral("%1 sets the text in another way; lay it out anew with "
                                    "animtext author --replace")
                         .arg(QLatin1String(motion->name))};
@@ -126,7 +120,7 @@ void Set(SceneNode* node, const QString& word, const QString& value)
 {
     const QString key = Aliases().value(word, word);
     if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
-        SetMotion(node, key, value);
+        ChangeMotion(node, key, value);
     else if (key == QLatin1String("Color"))
         SetColor(node, value);
     else if (key == QLatin1String("pos"))
@@ -136,10 +130,7 @@ void Set(SceneNode* node, const QString& word, const QString& value)
     else if (key == QLatin1String("neonEffect"))
         node->neonEffect = Number(word, Home::Node, key, value);
     else if (key == QLatin1String("speed"))
-        SetNumber(node, word,
-                  Scrolls(*node) ? QStringLiteral("ContinueSpeed")
-                                 : QStringLiteral("AnimationSpeed"),
-                  value);
+        SetNumber(node, word, MotionOf(*node).SpeedKey(), value);
     else if (Known().contains(key))
         SetNumber(node, word, key, value);
     else

@@ -104,18 +104,6 @@ bool operator==(const TextSource& a, const TextSource& b)
                       b.text.runs.end(), alike);
 }
 
-bool IsScroll(const SceneNode& node)
-{
-    return node.attributes.value(QStringLiteral("EffectType")).toInt() == 1;
-}
-
-int MotionNumber(const SceneNode& node)
-{
-    return node.attributes
-        .value(IsScroll(node) ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect"))
-        .toInt();
-}
-
 AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings)
 {
     AuthorOptions options;
@@ -126,8 +114,9 @@ AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings)
     options.valign = source.valign;
     options.padding = source.padding;
     options.keepsWords = source.keepsWords;
-    options.mode = IsScroll(settings) ? Mode::Scroll : Mode::Entrance;
-    options.motion = MotionNumber(settings);
+    const NodeMotion motion = MotionOf(settings);
+    options.mode = motion.IsScroll() ? Mode::Scroll : Mode::Entrance;
+    options.motion = motion.number;
     options.area = settings.size;
     return options;
 }

@@ -31,11 +31,6 @@ inline bool operator!=(const TextSource& a, const TextSource& b)
     return !(a == b);
 }
 
-/** Whether the node scrolls; else it comes in with an entrance effect. */
-bool IsScroll(const SceneNode& node);
-/** The number of its effect or scroll. */
-int MotionNumber(const SceneNode& node);
-
 /** What AuthorNode() takes to lay @p source out for the motion and the area of @p settings. */
 AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings);
 

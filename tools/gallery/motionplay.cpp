@@ -1,6 +1,7 @@
 #include "gallery/motionplay.h"
 
 #include "player/playlength.h"
+#include "scene/motion.h"
 
 namespace AnimText {
 
@@ -51,8 +52,7 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     if (isDevices)
         return true;
     play->real = player->Time();
-    const SceneNode& node = *scene.Nodes().first();
-    if (node.attributes.value(QStringLiteral("EffectType")).toInt() != 0)
+    if (MotionOf(*scene.Nodes().first()).mode != Mode::Entrance)
         return true;
     PagedPlay paged;
     const auto watch = [&](int) { return goOn(); };

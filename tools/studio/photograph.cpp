@@ -52,13 +52,8 @@ SignText Text(const QString& words, const QRect& area, int size, bool scroll, in
     text.source.text = StyledText();
     text.source.text.Append(words, run);
     text.node.pos = area.topLeft();
-    text.node.attributes[QStringLiteral("EffectType")] = scroll ? 1 : 0;
-    text.node
-        .attributes[scroll ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect")] =
-        motion;
-    text.node
-        .attributes[scroll ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed")] =
-        speed;
+    SetMotion(&text.node, {scroll ? Mode::Scroll : Mode::Entrance, motion});
+    text.node.attributes[MotionOf(text.node).SpeedKey()] = speed;
     text.layoutKey = LayoutKey(text);
     return text;
 }

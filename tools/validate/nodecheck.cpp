@@ -76,8 +76,7 @@ NodeCheck::NodeCheck(const Scene& scene, const SceneNode& node, const QString& p
     , node(node)
     , place(place)
     , text(node.attributes.value(QStringLiteral("Text")).toString())
-    , mode(Number("EffectType"))
-    , motion(Number(mode == 1 ? "ContinueStyle" : "AnimationEffect"))
+    , motion(MotionOf(node))
 {
 }
 
@@ -142,10 +141,10 @@ void NodeCheck::CheckMode()
 {
     if (text.isEmpty())
         AddAttribute(Mistake::TextEmpty, "Text", QStringLiteral("a text"));
-    if (mode == 0) {
+    if (motion.mode == Mode::Entrance) {
         CheckRange(Mistake::EffectUnknown, "AnimationEffect");
         CheckRange(Mistake::SpeedRange, "AnimationSpeed");
-    } else if (mode == 1) {
+    } else if (motion.IsScroll()) {
         CheckRange(Mistake::DirectionUnknown, "ContinueStyle");
         CheckRange(Mistake::SpeedRange, "ContinueSpeed");
     } else {
@@ -317,7 +316,7 @@ void NodeCheck::CheckData(const QString& key)
 /** Goes by the ink of the letters at rest: a line may well be higher than the area. */
 void NodeCheck::CheckCut()
 {
-    const bool scrollsThrough = mode == 1 && !ScrollsSideways();
+    const bool scrollsThrough = motion.IsScroll() && !ScrollsSideways();
     if (scrollsThrough || heights.isEmpty() || descents.size() < text.size())
         return;
     const int height = node.size.height();

@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_NODECHECK_H
 #define ANIMTEXT_NODECHECK_H
 
+#include "scene/motion.h"
 #include "scene/scene.h"
 #include "validate/validate.h"
 
@@ -38,7 +39,7 @@ private:
     bool Has(const char* flag) const { return Number(flag) == 1; }
     int Number(const char* key) const { return node.attributes.value(QLatin1String(key)).toInt(); }
     QVector<int> Column(const char* list, const char* field) const;
-    bool ScrollsSideways() const { return mode == 1 && (motion == 0 || motion == 1); }
+    bool ScrollsSideways() const { return motion.IsSideways(); }
 
     void Add(Mistake mistake, const QString& where, const QString& found, const QString& expected);
     void AddAttribute(Mistake mistake, const char* key, const QString& expected);
@@ -47,8 +48,7 @@ private:
     const SceneNode& node;
     const QString place;
     const QString text;
-    const int mode;
-    const int motion; // number of the effect or of the scroll
+    const NodeMotion motion;
     QVector<int> widths;
     QVector<int> heights;
     QVector<int> descents;

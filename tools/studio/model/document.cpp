@@ -107,8 +107,8 @@ void Document::Change(const QString& what, Sign after, const QString& merge)
     for (SignText& text : after.texts) {
         const SignText* old = sign.Find(text.id);
         const bool same = old && old->source == text.source && old->node.size == text.node.size &&
-                          IsScroll(old->node) == IsScroll(text.node) &&
-                          MotionNumber(old->node) == MotionNumber(text.node);
+                          MotionOf(old->node).IsScroll() == MotionOf(text.node).IsScroll() &&
+                          MotionOf(old->node).number == MotionOf(text.node).number;
         if (!same)
             text.layoutKey = LayoutKey(text);
         if (old && !text.layout)

@@ -315,9 +315,10 @@ void ResizeDisplay(Sign* sign, const QSize& display)
 QByteArray LayoutKey(const SignText& text)
 {
     const SceneNode& node = text.node;
-    const QByteArray setting =
-        QByteArray::number(IsScroll(node) ? 1 : 0) + ' ' + QByteArray::number(MotionNumber(node)) +
-        ' ' + QByteArray::number(node.size.width()) + ' ' + QByteArray::number(node.size.height());
+    const QByteArray setting = QByteArray::number(MotionOf(node).IsScroll() ? 1 : 0) + ' ' +
+                               QByteArray::number(MotionOf(node).number) + ' ' +
+                               QByteArray::number(node.size.width()) + ' ' +
+                               QByteArray::number(node.size.height());
     TextSource source = text.source;
     source.name.clear(); // no sign shows it
     return QCryptographicHash::hash(SourcesToJson({{setting, source}}), QCryptographicHash::Sha1);

@@ -45,7 +45,7 @@ QString FieldOf(const Finding& finding)
 
 Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
 {
-    const bool scrolls = IsScroll(text.node);
+    const bool scrolls = MotionOf(text.node).IsScroll();
     switch (finding.mistake) {
     case Mistake::SpeedRange: {
         const char* key = scrolls ? "ContinueSpeed" : "AnimationSpeed";

@@ -73,15 +73,12 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     connect(motions, &MotionPicker::Chosen, this, [this](bool scroll, int number) {
         emit Edited(tr("Motion"), QString(), [scroll, number](SignText* edited) {
             auto& attributes = edited->node.attributes;
-            const bool wasScroll = IsScroll(edited->node);
-            attributes[QStringLiteral("EffectType")] = scroll ? 1 : 0;
-            attributes[scroll ? QStringLiteral("ContinueStyle")
-                              : QStringLiteral("AnimationEffect")] = number;
+            const NodeMotion old = MotionOf(edited->node);
+            const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, number};
+            SetMotion(&edited->node, next);
             // The speed goes along from one kind of motion to the other.
-            const QString speeds[]{QStringLiteral("AnimationSpeed"),
-                                   QStringLiteral("ContinueSpeed")};
-            if (wasScroll != scroll && attributes.contains(speeds[wasScroll]))
-                attributes[speeds[scroll]] = attributes.value(speeds[wasScroll]);
+            if (attributes.contains(old.SpeedKey()))
+                attributes[next.SpeedKey()] = attributes.value(old.SpeedKey());
         });
     });
 }

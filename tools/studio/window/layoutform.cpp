@@ -75,12 +75,12 @@ void LayoutForm::Show(const SignText& text)
     padding->ShowNumber(text.source.padding);
     keepsWords->setChecked(text.source.keepsWords);
 
-    const bool isLine = IsScroll(text.node) && MotionNumber(text.node) < 2;
+    const bool isLine = MotionOf(text.node).IsSideways();
     align->setEnabled(!isLine);
     align->setToolTip(isLine ? tr("A text that scrolls sideways is not aligned.") : QString());
-    keepsWords->setEnabled(!IsScroll(text.node));
-    keepsWords->setToolTip(IsScroll(text.node) ? tr("A text that scrolls has no pages.")
-                                               : QString());
+    keepsWords->setEnabled(!MotionOf(text.node).IsScroll());
+    keepsWords->setToolTip(MotionOf(text.node).IsScroll() ? tr("A text that scrolls has no pages.")
+                                                          : QString());
     padding->setMaximum(qMax(0, (qMin(text.node.size.width(), text.node.size.height()) - 1) / 2));
 }
 

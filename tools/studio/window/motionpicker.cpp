@@ -216,7 +216,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
 
 void MotionPicker::Show(const SignText& text)
 {
-    shownRow = motions->RowOf(IsScroll(text.node), MotionNumber(text.node));
+    shownRow = motions->RowOf(MotionOf(text.node).IsScroll(), MotionOf(text.node).number);
     const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
     if (index != list->currentIndex() && index.isValid()) {
         const QSignalBlocker blocker(list->selectionModel());

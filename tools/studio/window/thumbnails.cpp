@@ -34,12 +34,12 @@ SignText Sample(SignText text, bool scroll, int number)
     SceneNode node;
     node.size = thumbnailSize;
     node.hold = 10;
+    const NodeMotion motion{scroll ? Mode::Scroll : Mode::Entrance, number};
     node.attributes = {
-        {QStringLiteral("EffectType"), scroll ? 1 : 0},
         {QStringLiteral("PlayTimes"), 1},
-        {scroll ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect"), number},
-        {scroll ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed"), quickSpeed},
+        {motion.SpeedKey(), quickSpeed},
         {QStringLiteral("Hollow"), text.node.attributes.value(QStringLiteral("Hollow"), 0)}};
+    SetMotion(&node, motion);
     text.node = node;
     text.page = 0;
     text.area = 0;

@@ -1,0 +1,46 @@
+#include "scene/motion.h"
+
+namespace AnimText {
+
+bool NodeMotion::IsSideways() const
+{
+    const Motion* row = Row();
+    return row && row->traits & Sideways;
+}
+
+const Motion* NodeMotion::Row() const
+{
+    switch (mode) {
+    case Mode::Entrance: return FindEffect(number);
+    case Mode::Scroll: return FindScroll(number);
+    case Mode::Still: break;
+    }
+    return nullptr;
+}
+
+QString NodeMotion::NumberKey() const
+{
+    return IsScroll() ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect");
+}
+
+QString NodeMotion::SpeedKey() const
+{
+    return IsScroll() ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed");
+}
+
+NodeMotion MotionOf(const SceneNode& node)
+{
+    const int mode = node.attributes.value(QStringLiteral("EffectType")).toInt();
+    NodeMotion motion;
+    motion.mode = mode == 0 ? Mode::Entrance : mode == 1 ? Mode::Scroll : Mode::Still;
+    motion.number = node.attributes.value(motion.NumberKey()).toInt();
+    return motion;
+}
+
+void SetMotion(SceneNode* node, const NodeMotion& motion)
+{
+    node->attributes[QStringLiteral("EffectType")] = int(motion.mode);
+    node->attributes[motion.NumberKey()] = motion.number;
+}
+
+} // namespace AnimText

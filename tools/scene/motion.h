@@ -1,0 +1,40 @@
+/**
+ * @file
+ * How the text of a node moves.
+ */
+#ifndef ANIMTEXT_MOTION_H
+#define ANIMTEXT_MOTION_H
+
+#include "scene/catalogue.h"
+#include "scene/scene.h"
+
+namespace AnimText {
+
+/** Play mode of a node, "EffectType". The sign shows the text without motion for any other number.
+ */
+enum class Mode { Entrance = 0, Scroll = 1, Still = 2 };
+
+/** What a node says of its motion. */
+struct NodeMotion
+{
+    Mode mode = Mode::Entrance;
+    int number = 0; ///< of the effect or scroll; there may be none of that number
+
+    bool IsScroll() const { return mode == Mode::Scroll; }
+    /** The device moves the whole line. */
+    bool IsSideways() const;
+    /** Its row in the catalogue; null for a still text and for unknown numbers. */
+    const Motion* Row() const;
+    /** The attribute that has the number: "AnimationEffect" or "ContinueStyle". */
+    QString NumberKey() const;
+    /** The attribute that has the speed: "AnimationSpeed" or "ContinueSpeed". */
+    QString SpeedKey() const;
+};
+
+NodeMotion MotionOf(const SceneNode& node);
+/** Leaves the attributes of other modes as they are. */
+void SetMotion(SceneNode* node, const NodeMotion& motion);
+
+} // namespace AnimText
+
+#endif
