@@ -93,8 +93,7 @@ void DrawNeonBg::InitNode(HNode* node)
     if (d->image.isNull())
         return;
     if (style > LastBorderStyle)
-        d->film.reset(
-            new NeonFilm(content->GetFirstFile(QLatin1String("NeonGifPath")), d->image.size()));
+        d->film.reset(new NeonFilm(content->GetFirstFile(QLatin1String("NeonGifPath"))));
     else
         d->border.reset(new NeonBorder(d->image.size(), style));
 }

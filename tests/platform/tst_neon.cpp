@@ -193,8 +193,8 @@ private slots:
         row("transparent hides the one before", Gif({{'r', 10}, {'-', 10}}), "rr--r", "");
         row("a still picture stays", Gif({{'b', 1}}), "bbbbb", "");
         row("missing", QByteArray(), "---", "no such file");
-        row("cut short", Gif({}).left(13), "---", "not a picture that can be read");
-        row("9000 x 9000 pixels", Gif({{'r', 10}}, "28232823"), "---", "more than 64 megapixels");
+        row("cut short", Gif({}).left(13), "---", "expected a picture");
+        row("9000 x 9000 pixels", Gif({{'r', 10}}, "28232823"), "---", "expected a picture of at most 64 megapixels");
     }
 
     void filmsKeepTheirTimes()

@@ -9,30 +9,12 @@
 
 namespace Lw {
 
-struct NeonLight
-{
-    QRgb color;
-    double brightness; ///< 1 is full
-};
-
-/** Lengths are in units that are as long as the band is thick. */
-struct NeonLook
-{
-    /** @param along the loop, clockwise from the left end of the top edge */
-    NeonLight (*light)(double along, double length, double tick);
-    bool isFlat;  ///< an even strip, not a glowing tube
-    double slant; ///< by which the inner edge lags behind the outer one
-};
-
-/** @param style 1 to 28, which share eight looks; any other is the first one */
-const NeonLook& NeonLookOf(int style);
-
 class NeonBorder
 {
 public:
     /**
      * @param area in pixels, not empty
-     * @param style as NeonLookOf() takes it
+     * @param style 1 to 28, which share eight looks; any other is the first one
      */
     NeonBorder(QSize area, int style);
 
@@ -43,17 +25,16 @@ public:
     void Paint(QImage& image, qint64 tick) const;
 
 private:
-    struct Spot // a pixel of the band
+    struct Spot
     {
-        int x;
-        int y;
+        QPoint at;
         int along; ///< pixels clockwise from the left end of the top edge
         int glow;  ///< of 256, more in the middle of a tube
     };
 
-    const NeonLook& look;
-    int length;  ///< of the loop, pixels
-    double unit; ///< pixels
+    int look;         ///< 0 to 7
+    double thickness; ///< of the band, pixels
+    int length;       ///< of the loop, pixels
     std::vector<Spot> spots;
 };
 

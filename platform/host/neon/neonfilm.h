@@ -5,39 +5,31 @@
 #include <QImage>
 #include <QImageReader>
 
-#include <memory>
-
 namespace Lw {
 
 class NeonFilm
 {
 public:
     /**
-     * A file that cannot be shown is named in one debug message.
+     * Prints a debug message if the file cannot be shown.
      * @param path of an animation or a picture in a format that Qt reads, at most 64 megapixels
-     * @param area in pixels; the pictures are stretched to fill it
      */
-    NeonFilm(const QString& path, QSize area);
+    explicit NeonFilm(const QString& path);
 
     /**
-     * Paints the picture that is due.
-     * @param image of the area's size
+     * Paints the picture that is due, stretched to fill the image. False when there is none.
+     * @param image the same in every call; keeps the picture before until the next one is due
      * @param milliseconds since the film began; never less than in the call before
-     * @return false when there is none
      */
     bool Paint(QImage& image, qint64 milliseconds);
 
 private:
-    void Advance();
-    void GiveUp(const char* reason);
+    QImage Next();
 
-    QString path;
-    QSize area;
-    std::unique_ptr<QImageReader> reader; ///< null when no further picture is wanted
-    QImage picture;                       ///< the one that is shown; null for none
-    qint64 shownUntil = 0;                ///< milliseconds
-    int picturesRead = 0;                 ///< since the file was opened
-    bool isPainted = false;               ///< the picture is in the image already
+    QImageReader reader;
+    qint64 shownUntil = 0; ///< milliseconds
+    int picturesRead = 0;  ///< since the file was opened last
+    bool isOver = false;   ///< no further picture is wanted
 };
 
 } // namespace Lw
