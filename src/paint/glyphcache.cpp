@@ -86,11 +86,19 @@ void Stamp(const GlyphCache::Image& image, GlyphCache::Part part, int x, int y, 
     plane.MarkRows(y, y + image.rows);
 }
 
-Box InkOf(const Plane& a, const Plane& b)
+/** Where the planes have ink; they have none further than the margin from @p outline. */
+Box InkOf(const Plane& a, const Plane& b, const Bounds& outline)
 {
     Box ink = {a.Width(), a.Height(), 0, 0};
+    const float width = float(a.Width());
+    const size_t begin =
+        static_cast<size_t>(std::max(0.f, std::min(outline.left - margin, width))) /
+        Plane::wordBits;
+    const size_t end = static_cast<size_t>(std::max(0.f, std::min(outline.right + margin, width))) /
+                           Plane::wordBits +
+                       1;
     for (int y = std::min(a.InkTop(), b.InkTop()); y < std::max(a.InkBottom(), b.InkBottom()); ++y)
-        for (size_t i = 0; i < a.Stride(); ++i) {
+        for (size_t i = begin; i < end; ++i) {
             const Word word = a.Row(y)[i] | b.Row(y)[i];
             if (word == 0)
                 continue;
@@ -296,11 +304,11 @@ GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
 }
 
 const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hairlines,
-                                          Direction next)
+                                          const Bounds& box, Direction next)
 {
     if (IsFull())
         ForgetImages();
-    const Box ink = InkOf(inside, hairlines);
+    const Box ink = InkOf(inside, hairlines, box);
     Image image = {ink.left - wholeX, ink.top - wholeY, 0, 0, std::vector<Word>()};
     if (!ink.IsEmpty()) {
         image.words = (ink.right - ink.left + Plane::wordBits - 1) / Plane::wordBits;

@@ -55,8 +55,9 @@ public:
 
     /** @p direction is the one in which the outline goes on. */
     Finding Find(const TextPath::Item& item, bool isWinding, Direction direction);
-    /** Keeps what was looked for last, painted alone. */
-    const Image& Keep(const Plane& inside, const Plane& hairlines, Direction next);
+    /** Keeps what was looked for last, painted alone, of an outline within @p box. */
+    const Image& Keep(const Plane& inside, const Plane& hairlines, const Bounds& box,
+                      Direction next);
 
     static void Invert(const Image& image, Part part, int x, int y, Plane& plane);
     static void Unite(const Image& image, Part part, int x, int y, Plane& plane);

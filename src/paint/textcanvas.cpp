@@ -321,7 +321,7 @@ const GlyphCache::Image& TextCanvas::PaintToKeep(const TextPath::Item& item, boo
         fill.InvertInside(keptInside);
     }
     PaintHairline(outline, box, keptHairlines, direction);
-    const GlyphCache::Image& image = cache.Keep(keptInside, keptHairlines, direction);
+    const GlyphCache::Image& image = cache.Keep(keptInside, keptHairlines, box, direction);
     keptInside.Clear();
     keptHairlines.Clear();
     return image;
