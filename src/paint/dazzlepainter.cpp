@@ -69,10 +69,10 @@ void DazzlePainter::Forget()
 void DazzlePainter::MakeTable(int leading, Picture::Format format)
 {
     opaque = format == Picture::Argb32 ? 0xff000000u : 0;
-    const int parts =
-        2 * DazzleMap::steps; // of a stop, that steps and their middles are counted in
+    // A stop is counted in so many parts: then the middle of each step is a whole number.
+    const int parts = 2 * DazzleMap::steps;
     for (int i = 0; i < DazzleMap::steps; ++i) {
-        // The color of the middle of a step, but where nothing is mapped the one that leads.
+        // The color in the middle of the step. A plain dazzle has only the leading color.
         const int at = shape == DazzleMap::Plain ? 0 : (2 * i + 1) * DazzleMap::ringColors;
         const int stop = leading + at / parts;
         table[i] =
