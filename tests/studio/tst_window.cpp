@@ -344,6 +344,18 @@ void TestWindow::zoomsPansAndMeasures()
     QVERIFY(view->Scale() >= PictureView::smallestLamp); // lamps can be told apart
     leds->setChecked(false);
     QCOMPARE(view->Scale(), fitted);
+
+    // Lamps of a large sign are enlarged; a smaller one fits again.
+    for (const QSize& display : {QSize(2048, 64), QSize(1920, 32), QSize(64, 32)}) {
+        window->New(display);
+        leds->setChecked(true);
+        QTRY_COMPARE_WITH_TIMEOUT(view->Picture().size(), display, patience);
+        const bool isLarge = display.width() > 1000;
+        QTRY_COMPARE(view->Scale() > PictureView::smallestLamp, !isLarge);
+        QVERIFY(view->Scale() >= PictureView::smallestLamp);
+    }
+    leds->setChecked(false);
+    QCOMPARE(view->Zoom(), 0);
 }
 
 /** Signs as "ab c": texts a and b on the first page, c on the second. */

@@ -19,6 +19,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace AnimText {
 namespace {
 
@@ -351,10 +353,16 @@ void MainWindow::SetLeds(bool on)
 {
     view->SetPitch(on ? pitch : 0);
     KeepLampsInSight();
-    if (!on && plainZoom >= 0) {
-        SetZoom(plainZoom);
-        plainZoom = -1;
-    }
+    if (!on)
+        LeaveLampZoom();
+}
+
+/** Back to the zoom that lamps were too small at; where they still are, they ask for it again. */
+void MainWindow::LeaveLampZoom()
+{
+    if (plainZoom >= 0)
+        SetZoom(std::exchange(plainZoom, -1));
+    KeepLampsInSight();
 }
 
 /** Goes nearer where lamps are wanted and would be too small to see. */

@@ -175,7 +175,10 @@ void MainWindow::Connect()
     connect(&rehearsal, &Rehearsal::Shown, this, [this](const QImage& picture) {
         dimming.stop();
         view->SetDimmed(false);
+        const bool isResized = view->Picture().size() != picture.size();
         view->SetPicture(picture);
+        if (isResized)
+            LeaveLampZoom();
     });
     connect(&rehearsal, &Rehearsal::Stale, this, [this] {
         timeline->SetStale(true);

@@ -107,6 +107,7 @@ private:
     void ZoomBy(int steps, const QPointF& about);
     void SetLeds(bool on);
     void KeepLampsInSight();
+    void LeaveLampZoom();
     void SetPitch(double diameters);
     void ToggleLoop();
     bool LeaveField(int key);
