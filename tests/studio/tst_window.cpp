@@ -402,9 +402,9 @@ void TestWindow::textsAndPagesAreObjects()
     };
     QCOMPARE(drop("a", "b", true), QString("ba c"));
     QCOMPARE(drop("a", "c", false), QString("b ac"));
-    QCOMPARE(drop("c", "Page 2", false), QString("bc a"));
-    QCOMPARE(drop("Page 2", "Page 1", false), QString("a bc"));
-    QCOMPARE(drop("Page 1", "c", true), QString("bc a"));
+    QCOMPARE(drop("c", "Page 2 · a", false), QString("bc a"));
+    QCOMPARE(drop("Page 2 · a", "Page 1 · b", false), QString("a bc"));
+    QCOMPARE(drop("Page 1 · a", "c", true), QString("bc a"));
     QCOMPARE(drop("a", "b", false), QString("abc")); // a page that is empty goes
     window->GetDocument()->Undo()->undo();
     QCOMPARE(words(), QString("bc a"));
@@ -423,13 +423,14 @@ void TestWindow::textsAndPagesAreObjects()
     };
     QCOMPARE(choose("b", "To the front"), QString("cb a"));
     QCOMPARE(choose("b", "New page"), QString("c a b"));
-    QCOMPARE(choose("Page 3", "Earlier"), QString("c b a"));
-    QCOMPARE(choose("Page 1", "Duplicate page"), QString("c c b a"));
-    QCOMPARE(choose("Page 1", "Remove page"), QString("c b a"));
+    QCOMPARE(choose("Page 3 · b", "Earlier"), QString("c b a"));
+    QCOMPARE(choose("Page 1 · c", "Duplicate page"), QString("c c b a"));
+    QCOMPARE(choose("Page 1 · c", "Remove page"), QString("c b a"));
     QCOMPARE(choose("c", "Duplicate text"), QString("cc b a"));
     QCOMPARE(Text(1).node.pos, Text(0).node.pos + QPoint(128, 0)); // beside it
     row("b")->setText(0, "Name");
     QCOMPARE(words(), QString("cc Name a"));
+    QVERIFY(row("Page 2 · Name")); // a page goes by its first text
     QCOMPARE(Text(2).source.text.text, QString("b"));
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("named.json"));

@@ -1184,10 +1184,6 @@
         <translation>Neue Seite</translation>
     </message>
     <message>
-        <source>Page %1</source>
-        <translation>Seite %1</translation>
-    </message>
-    <message>
         <source>Page %1: %2</source>
         <translation>Seite %1: %2</translation>
     </message>
@@ -1374,6 +1370,10 @@
     <message>
         <source>Display %1 × %2</source>
         <translation>Anzeige %1 × %2</translation>
+    </message>
+    <message>
+        <source>Page %1 · %2</source>
+        <translation>Seite %1 · %2</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,9 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         QMenu* pages = menu->addMenu(tr("Move to page"));
         for (int to = 0; to <= sign.PageCount(); ++to) {
             const bool isNew = to == sign.PageCount();
-            QAction* action = pages->addAction(isNew ? tr("New page") : tr("Page %1").arg(to + 1));
+            QAction* action = pages->addAction(isNew ? tr("New page")
+                                                     : SceneList::PageTitle(sign, to).replace(
+                                                           QLatin1Char('&'), QLatin1String("&&")));
             action->setEnabled(to != own && !(isNew && last == 0));
             connect(action, &QAction::triggered, this, [=] { PutText(id, to, INT_MAX); });
         }

@@ -53,6 +53,15 @@ SceneList::SceneList(QWidget* parent)
     });
 }
 
+QString SceneList::PageTitle(const Sign& sign, int page)
+{
+    for (const SignText& text : sign.texts) {
+        if (text.page == page)
+            return tr("Page %1 · %2").arg(QString::number(page + 1), TitleOf(text));
+    }
+    return tr("Page %1").arg(page + 1);
+}
+
 void SceneList::Show(const Sign& sign)
 {
     const QSignalBlocker blocker(this);
@@ -66,8 +75,10 @@ void SceneList::Show(const Sign& sign)
     }
     topLevelItem(0)->setText(0, DisplayTitle(sign.display));
     for (const SignText& text : sign.texts) {
-        if (Find(text.id)->text(0) != TitleOf(text))
-            Find(text.id)->setText(0, TitleOf(text));
+        QTreeWidgetItem* item = Find(text.id);
+        item->setText(0, TitleOf(text)); // does nothing where it is the same
+        if (item->parent()->child(0) == item)
+            item->parent()->setText(0, PageTitle(sign, text.page));
     }
 }
 
@@ -83,7 +94,7 @@ void SceneList::Rebuild(const Sign& sign)
     for (const SignText& text : sign.texts) {
         if (text.page != number) {
             number = text.page;
-            page = new QTreeWidgetItem(this, {tr("Page %1").arg(number + 1)});
+            page = new QTreeWidgetItem(this, {PageTitle(sign, number)});
             page->setData(0, pageRole, number);
             page->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
                            Qt::ItemIsDropEnabled);

@@ -19,6 +19,9 @@ class SceneList : public QTreeWidget
 public:
     explicit SceneList(QWidget* parent = nullptr);
 
+    /** "Page 2 · Next stop": the number of @p page, from 0, and its first text. */
+    static QString PageTitle(const Sign& sign, int page);
+
     void Show(const Sign& sign);
     /** The row of the text, or of the display for 0. */
     void Select(int id);
