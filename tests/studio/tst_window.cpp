@@ -74,6 +74,7 @@ private slots:
     void findingsAreMended();
     void nothingJumpsAndTabIsShort();
     void outlinesAreMadeAgain();
+    void saysWhatTemporaryFilesLack();
     void exportsAndCancels();
     void pickerGrowsAndNamesMotions();
     void exportsPartsAndLamps();
@@ -757,6 +758,28 @@ void TestWindow::outlinesAreMadeAgain()
     QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience);
     QVERIFY(Settles());
     QVERIFY(!Text().layout->outlines.isEmpty());
+}
+
+void TestWindow::saysWhatTemporaryFilesLack()
+{
+    QVERIFY(Settles());
+    const QByteArray usual = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc");
+    const Sign sign = window->GetDocument()->Current();
+    window = std::make_unique<MainWindow>(QString());
+    ExportDialog dialog(sign, QString(), QString());
+    if (usual.isEmpty())
+        qunsetenv("TMPDIR");
+    else
+        qputenv("TMPDIR", usual);
+    window->New();
+    window->show();
+    QTRY_VERIFY_WITH_TIMEOUT(window->Notices()->Text().contains("/proc:"), patience);
+    QVERIFY(window->Notices()->isVisible());
+    QSignalSpy done(&dialog, &ExportDialog::Done);
+    dialog.SetOutput(folder.Path("none.gif"));
+    dialog.StartButton()->click();
+    QVERIFY(done.value(0).value(0) == false);
 }
 
 void TestWindow::exportsAndCancels()

@@ -2560,6 +2560,17 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
     </message>
 </context>
 <context>
+    <name>SceneFolder</name>
+    <message>
+        <source>Temporary file %1 cannot be written: %2.</source>
+        <translation>Die temporäre Datei %1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>No temporary folder can be made in %1: %2. Set TMPDIR to a folder that you may write to, and start the studio again.</source>
+        <translation>In %1 lässt sich kein temporärer Ordner anlegen: %2. Setzen Sie TMPDIR auf einen Ordner, in den Sie schreiben dürfen, und starten Sie das Studio neu.</translation>
+    </message>
+</context>
+<context>
     <name>Sign</name>
     <message>
         <source>Your text</source>

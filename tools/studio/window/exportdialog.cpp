@@ -278,9 +278,9 @@ void ExportDialog::Begin()
         start->setText(tr("Replace"));
         return;
     }
-    const Scene scene = folder.Put(sign);
     QString error;
-    if (!WriteWhole(scene.path, SceneToJson(scene), &error)) {
+    const Scene scene = folder.Put(sign, -1, &error);
+    if (!error.isEmpty() || !WriteWhole(scene.path, SceneToJson(scene), &error)) {
         End(error, false);
         return;
     }

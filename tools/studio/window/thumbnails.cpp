@@ -126,7 +126,12 @@ void Thumbnails::Next()
         Sign sign;
         sign.display = thumbnailSize;
         sign.texts = {sample};
-        const Scene scene = folder.Put(sign);
+        QString error;
+        const Scene scene = folder.Put(sign, -1, &error);
+        if (!error.isEmpty()) { // the window says so
+            QMetaObject::invokeMethod(this, &Thumbnails::Finish);
+            return;
+        }
         LoadOrder order;
         order.generation = of;
         order.scene = SceneToJson(scene);

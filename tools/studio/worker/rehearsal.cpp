@@ -78,7 +78,8 @@ void Rehearsal::SetSign(const Sign& next, const Part& nextPart)
         return;
     busy = true;
     pool.start([this, next, nextPart, of = generation] {
-        const Scene scene = folder->Put(next, nextPart.page);
+        QString error;
+        const Scene scene = folder->Put(next, nextPart.page, &error);
         LoadOrder order;
         order.generation = of;
         order.scene = SceneToJson(scene);
@@ -86,17 +87,21 @@ void Rehearsal::SetSign(const Sign& next, const Part& nextPart)
         order.schedule = nextPart.schedule;
         order.calls = nextPart.calls;
         order.faults = nextPart.faults;
-        QMetaObject::invokeMethod(this, [this, of, order] { Prepared(of, order); });
+        QMetaObject::invokeMethod(this, [this, of, order, error] { Prepared(of, order, error); });
     });
 }
 
-void Rehearsal::Prepared(quint32 of, const LoadOrder& order)
+void Rehearsal::Prepared(quint32 of, const LoadOrder& order, const QString& error)
 {
     busy = false;
     if (again) {
         again = false;
         --generation; // the same sign, which nobody has prepared yet
         SetSign(sign, part);
+        return;
+    }
+    if (!error.isEmpty()) { // nothing is there to be played
+        emit Trouble(error);
         return;
     }
     prepared = of;
@@ -122,7 +127,11 @@ void Rehearsal::Prepared(quint32 of, const LoadOrder& order)
     const Sign checked = sign;
     pool.start([this, checked, of] {
         // All pages, whatever is played: findings are told by the whole sign's places.
-        const QList<Finding> findings = ValidateScene(folder->Put(checked));
+        QString error;
+        const Scene scene = folder->Put(checked, -1, &error);
+        if (!error.isEmpty())
+            return; // the next change will say so
+        const QList<Finding> findings = ValidateScene(scene);
         QMetaObject::invokeMethod(this, [this, of, findings] {
             if (of == generation)
                 emit FindingsChanged(findings);

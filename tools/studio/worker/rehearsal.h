@@ -74,7 +74,7 @@ signals:
     void Trouble(const QString& why);
 
 private:
-    void Prepared(quint32 forGeneration, const LoadOrder& order);
+    void Prepared(quint32 forGeneration, const LoadOrder& order, const QString& error);
     void TakePicture(const TickPicture& picture);
     void TakeLoaded(quint32 forGeneration, const QString& error);
     void TakeDeath(const QString& why);

@@ -6,21 +6,27 @@
 namespace AnimText {
 namespace {
 
-void Write(const QString& path, const QByteArray& content)
+bool Write(const QString& path, const QByteArray& content, QString* error)
 {
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(content);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
+        return true;
+    *error =
+        SceneFolder::tr("Temporary file %1 cannot be written: %2.").arg(path, file.errorString());
+    return false;
 }
 
 } // namespace
 
-Scene SceneFolder::Put(const Sign& sign, int page)
+Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
 {
     const QMutexLocker locker(&mutex);
-    if (!folder.isValid()) // its files would be files of the current folder
-        return SceneOf(
-            sign, QString(), [](const Layout&, bool) { return QString(); }, page);
+    if (!folder.isValid()) { // its files would be files of the current folder
+        *error = tr("No temporary folder can be made in %1: %2. Set TMPDIR to a folder that you "
+                    "may write to, and start the studio again.")
+                     .arg(place, folder.errorString());
+        return {};
+    }
     // Workers read a file when they load its scene; one generation later nobody needs it.
     for (auto it = written.begin(); it != written.end();) {
         if (it->layout.expired()) {
@@ -35,8 +41,12 @@ Scene SceneFolder::Put(const Sign& sign, int page)
         if (!text.layout || written.contains(text.layout.get()))
             continue;
         const QString name = folder.filePath(QString::number(++next));
-        Write(name + QStringLiteral(".path"), text.layout->outlines);
-        Write(name + QStringLiteral(".descent"), text.layout->descents);
+        if (!Write(name + QStringLiteral(".path"), text.layout->outlines, error) ||
+            !Write(name + QStringLiteral(".descent"), text.layout->descents, error)) {
+            QFile::remove(name + QStringLiteral(".path"));
+            QFile::remove(name + QStringLiteral(".descent"));
+            return {};
+        }
         written.insert(text.layout.get(), {text.layout, name});
     }
     const auto place = [this](const Layout& layout, bool outlines) {

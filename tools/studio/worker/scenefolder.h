@@ -8,6 +8,8 @@
 #include "scene/wholefile.h"
 #include "studio/model/sign.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QHash>
 #include <QMutex>
 #include <QTemporaryDir>
@@ -17,9 +19,15 @@ namespace AnimText {
 /** May be used by several threads. Files go when no layout needs them any more. */
 class SceneFolder
 {
+    Q_DECLARE_TR_FUNCTIONS(SceneFolder)
+
 public:
-    /** The scene of @p sign for a file in this folder, with its data files written. */
-    Scene Put(const Sign& sign, int page = -1);
+    /**
+     * The scene of @p sign for a file in this folder, with its data files written.
+     * @param page negative for all pages
+     * @param error why that failed, which leaves the scene empty; kept where it succeeds
+     */
+    Scene Put(const Sign& sign, int page, QString* error);
 
 private:
     struct Written
@@ -28,6 +36,7 @@ private:
         QString name;
     };
 
+    const QString place = QDir::tempPath(); // where the folder is made
     QTemporaryDir folder{TemporaryName()};
     QMutex mutex;
     QHash<const Layout*, Written> written;
