@@ -1,6 +1,7 @@
 #include "studio/window/exportdialog.h"
 #include "studio/window/looks.h"
 #include "studio/window/mainwindow.h"
+#include "studio/window/neonbox.h"
 #include "studio/window/newdialog.h"
 #include "studio/window/translating.h"
 
@@ -77,6 +78,7 @@ private slots:
     void saysWhatTemporaryFilesLack();
     void exportsAndCancels();
     void pickerGrowsAndNamesMotions();
+    void neonIsChosenByPicture();
     void exportsPartsAndLamps();
     void timesAreSaidInWords_data();
     void timesAreSaidInWords();
@@ -848,6 +850,35 @@ void TestWindow::pickerGrowsAndNamesMotions()
     QTRY_COMPARE(picker->List()->height(), 333);
     QCOMPARE(MotionPicker(nullptr).List()->maximumHeight(), 333); // the next start too
     QSettings().clear();
+}
+
+void TestWindow::neonIsChosenByPicture()
+{
+    auto* box = window->GetInspector()->findChild<NeonBox*>();
+    window->GetInspector()->ensureWidgetVisible(box);
+    box->showPopup();
+    QAbstractItemView* list = box->view();
+    const auto icon = [box](int row) { return box->itemIcon(row).pixmap(thumbnailSize).toImage(); };
+    for (int row : {0, 4, 12}) { // the numbers share eight looks
+        list->scrollTo(box->model()->index(row, 0));
+        QTRY_VERIFY_WITH_TIMEOUT(!icon(row).isNull(), patience);
+        QCOMPARE(icon(row).size(), thumbnailSize);
+    }
+    box->hidePopup();
+    const QRect border(0, 0, thumbnailSize.width(), 2);
+    QVERIFY(icon(0).copy(border) != icon(4).copy(border));
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_End);
+    QCOMPARE(Text().node.neonEffect, 29);
+    QTest::keyClick(box, Qt::Key_Up);
+    QCOMPARE(Text().node.neonEffect, 28);
+    for (int style : {0, 1, 28, 29, 40}) {
+        Sign sign = window->GetDocument()->Current();
+        sign.texts.first().node.neonEffect = style;
+        window->GetDocument()->Change("Neon", sign);
+        QCOMPARE(box->currentIndex(), qBound(0, style - 1, 28));
+        QCOMPARE(box->currentData().toInt(), qMax(1, style));
+    }
 }
 
 void TestWindow::exportsPartsAndLamps()

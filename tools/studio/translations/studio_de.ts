@@ -1336,6 +1336,17 @@
     </message>
 </context>
 <context>
+    <name>AnimText::NeonBox</name>
+    <message>
+        <source>Style %1</source>
+        <translation>Stil %1</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+</context>
+<context>
     <name>AnimText::NewDialog</name>
     <message>
         <source>New sign</source>

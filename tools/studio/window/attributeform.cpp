@@ -1,6 +1,7 @@
 #include "studio/window/attributeform.h"
 
 #include "studio/window/looks.h"
+#include "studio/window/neonbox.h"
 #include "studio/window/numberfield.h"
 
 #include <QCheckBox>
@@ -70,8 +71,9 @@ QString UnitOf(const Attribute& attribute)
 
 } // namespace
 
-AttributeForm::AttributeForm(Group group, QWidget* parent)
+AttributeForm::AttributeForm(Group group, Thumbnails* thumbnails, QWidget* parent)
     : QWidget(parent)
+    , thumbnails(thumbnails)
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -104,6 +106,8 @@ void AttributeForm::AddField(const Attribute& attribute, QGridLayout* layout)
 
 QWidget* AttributeForm::MakeWidget(const Attribute& attribute, Field* field)
 {
+    if (QLatin1String(attribute.key) == QLatin1String("neonEffect"))
+        return MakeNeon(attribute, field);
     switch (attribute.kind) {
     case ValueKind::Pair: return MakePair(attribute, field);
     case ValueKind::File: return MakeFile(attribute, field);
@@ -138,6 +142,19 @@ QWidget* AttributeForm::MakeWidget(const Attribute& attribute, Field* field)
     }
     default: return MakeNumber(attribute, field);
     }
+}
+
+QWidget* AttributeForm::MakeNeon(const Attribute& attribute, Field* field)
+{
+    auto* box = new NeonBox(thumbnails, this);
+    field->show = [box, &attribute](const SceneNode& node) {
+        box->ShowStyle(NumberOf(node, attribute));
+    };
+    connect(box, &NeonBox::Chosen, this, [this, &attribute](int style) {
+        Tell(attribute, -1,
+             [&attribute, style](SceneNode* node) { SetNumber(node, attribute, style); });
+    });
+    return box;
 }
 
 QWidget* AttributeForm::MakeNumber(const Attribute& attribute, Field* field)

@@ -18,6 +18,8 @@
 
 namespace AnimText {
 
+class Thumbnails;
+
 /** Changes the text that is edited. */
 using TextChange = std::function<void(SignText* text)>;
 
@@ -27,8 +29,9 @@ class AttributeForm : public QWidget
 
 public:
     /** @param group the attributes that it shows, but for those that other parts of the window do
+     * @param thumbnails paints what is chosen by its picture
      */
-    explicit AttributeForm(Group group, QWidget* parent = nullptr);
+    AttributeForm(Group group, Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void Show(const SignText& text);
     /** What was found about the text that is shown. */
@@ -50,12 +53,14 @@ private:
 
     void AddField(const Attribute& attribute, QGridLayout* layout);
     QWidget* MakeWidget(const Attribute& attribute, Field* field);
+    QWidget* MakeNeon(const Attribute& attribute, Field* field);
     QWidget* MakeNumber(const Attribute& attribute, Field* field);
     QWidget* MakePair(const Attribute& attribute, Field* field);
     QWidget* MakeFile(const Attribute& attribute, Field* field);
     QWidget* MakeColor(const Attribute& attribute, Field* field);
     void Tell(const Attribute& attribute, int gesture, const std::function<void(SceneNode*)>& set);
 
+    Thumbnails* thumbnails;
     QList<Field> fields;
 };
 

@@ -43,7 +43,7 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
             layout->addWidget(part);
     };
     for (Group group : {Group::Text, Group::Motion, Group::Place, Group::Background}) {
-        auto* form = new AttributeForm(group);
+        auto* form = new AttributeForm(group, thumbnails);
         forms.append(form);
         connect(form, &AttributeForm::Edited, this, &Inspector::Edited);
     }

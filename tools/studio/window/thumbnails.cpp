@@ -6,13 +6,19 @@ namespace AnimText {
 namespace {
 
 constexpr int scrollKeys = 1000;
+constexpr int neonKeys = 2000;
+constexpr int plainEffect = 4; // of the text before a neon background: letter by letter
 constexpr int loopTicks = 90;  // of a thumbnail, with the hold at its end
+constexpr int neonTicks = 30;
 constexpr int shownUnits = 12; // of the text, from its beginning
 constexpr int quickSpeed = 7;
 
-/** The beginning of @p text, small, with another motion. */
-SignText Sample(SignText text, bool scroll, int number)
+/** The beginning of @p text, small, with another motion or a neon background. */
+SignText Sample(SignText text, int key)
 {
+    const bool neon = key >= neonKeys;
+    const bool scroll = !neon && key >= scrollKeys;
+    const int number = neon ? plainEffect : scroll ? key - scrollKeys : key;
     StyledText& styled = text.source.text;
     int units = std::min(shownUnits, int(styled.text.size()));
     if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
@@ -40,6 +46,11 @@ SignText Sample(SignText text, bool scroll, int number)
         {motion.SpeedKey(), quickSpeed},
         {QStringLiteral("Hollow"), text.node.attributes.value(QStringLiteral("Hollow"), 0)}};
     SetMotion(&node, motion);
+    if (neon) {
+        node.hold = neonTicks;
+        node.neonEffect = key - neonKeys;
+        node.attributes[QStringLiteral("CheckNeonBg")] = 1;
+    }
     text.node = node;
     text.page = 0;
     text.area = 0;
@@ -86,9 +97,18 @@ void Thumbnails::SetText(const SignText& next)
 
 QImage Thumbnails::Picture(bool scroll, int number, int tick)
 {
+    return PictureOf(scroll ? scrollKeys + number : number, tick);
+}
+
+QImage Thumbnails::NeonPicture(int style, int tick)
+{
+    return PictureOf(neonKeys + style, tick);
+}
+
+QImage Thumbnails::PictureOf(int key, int tick)
+{
     if (textNumber == 0)
         return {};
-    const int key = scroll ? scrollKeys + number : number;
     const Loop& loop = loops[key];
     if (loop.text != textNumber && !loop.isAsked)
         Ask(key);
@@ -117,10 +137,8 @@ void Thumbnails::Next()
     current = waiting.takeFirst();
     currentText = textNumber;
     made.clear();
-    const bool scroll = current >= scrollKeys;
-    const int number = scroll ? current - scrollKeys : current;
-    pool.start([this, scroll, number, from = text, of = ++generation] {
-        SignText sample = Sample(from, scroll, number);
+    pool.start([this, key = current, from = text, of = ++generation] {
+        SignText sample = Sample(from, key);
         sample.layoutKey = LayoutKey(sample);
         sample.layout = MakeLayout(sample);
         Sign sign;
@@ -137,9 +155,9 @@ void Thumbnails::Next()
         order.scene = SceneToJson(scene);
         order.path = scene.path;
         const auto layout = sample.layout;
-        QMetaObject::invokeMethod(link, [worker = link, order] {
+        QMetaObject::invokeMethod(link, [worker = link, order, key] {
             worker->Load(order);
-            worker->Play(0, loopTicks - 1);
+            worker->Play(0, (key >= neonKeys ? neonTicks : loopTicks) - 1);
         });
         QMetaObject::invokeMethod(this, [this, layout] { playing = layout; });
     });

@@ -1,7 +1,7 @@
 /**
  * @file
- * Small moving pictures of every motion with the user's own text, made by a worker as they are
- * looked at.
+ * Small moving pictures of every motion and neon style with the user's own text, made by a worker
+ * as they are looked at.
  */
 #ifndef ANIMTEXT_THUMBNAILS_H
 #define ANIMTEXT_THUMBNAILS_H
@@ -34,7 +34,9 @@ public:
     QImage Picture(bool scroll, int number, int tick);
     /** Whether that is a picture of the text as it is now. */
     bool IsCurrent(bool scroll, int number) const;
-    /** How many motions have been asked for. */
+    /** As Picture(), of a neon background with the border @p style, 1 .. 28. */
+    QImage NeonPicture(int style, int tick);
+    /** How many motions and styles have been asked for. */
     int Asked() const { return asked; }
 
 private:
@@ -45,6 +47,7 @@ private:
         bool isAsked = false;
     };
 
+    QImage PictureOf(int key, int tick);
     void Ask(int key);
     void Next();
     void TakePicture(const TickPicture& picture);
@@ -54,11 +57,11 @@ private:
     WorkerLink* link;
     SceneFolder folder;
     QThreadPool pool;
-    QHash<int, Loop> loops; // by number, scrolls from 1000 on
+    QHash<int, Loop> loops; // by number; scrolls from 1000 on, neon styles from 2000 on
     QList<int> waiting;
     SignText text;
     int textNumber = 0;
-    int current = -1; // the motion that is being made
+    int current = -1; // what is being made
     int currentText = 0;
     quint32 generation = 0;
     QVector<QImage> made;

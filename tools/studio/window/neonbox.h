@@ -1,0 +1,40 @@
+/**
+ * @file
+ * Where the style of a neon background is chosen by its moving picture.
+ */
+#ifndef ANIMTEXT_NEONBOX_H
+#define ANIMTEXT_NEONBOX_H
+
+#include <QComboBox>
+#include <QTimer>
+
+namespace AnimText {
+
+class Thumbnails;
+
+class NeonBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    /** @param thumbnails paints the styles while the list is open; null for their names alone */
+    explicit NeonBox(Thumbnails* thumbnails, QWidget* parent = nullptr);
+
+    void ShowStyle(int style);
+    void showPopup() override;
+    void hidePopup() override;
+
+signals:
+    void Chosen(int style);
+
+private:
+    void ShowPictures();
+
+    Thumbnails* thumbnails;
+    QTimer beat;
+    int tick = 0;
+};
+
+} // namespace AnimText
+
+#endif
