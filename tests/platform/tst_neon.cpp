@@ -194,7 +194,8 @@ private slots:
         row("a still picture stays", Gif({{'b', 1}}), "bbbbb", "");
         row("missing", QByteArray(), "---", "no such file");
         row("cut short", Gif({}).left(13), "---", "expected a picture");
-        row("9000 x 9000 pixels", Gif({{'r', 10}}, "28232823"), "---", "expected a picture of at most 64 megapixels");
+        row("9000 x 9000 pixels", Gif({{'r', 10}}, "28232823"), "---",
+            "expected a picture of at most 64 megapixels");
     }
 
     void filmsKeepTheirTimes()
