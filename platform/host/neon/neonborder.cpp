@@ -181,6 +181,7 @@ NeonBorder::NeonBorder(QSize area, int style)
 void NeonBorder::Paint(QImage& image, qint64 tick) const
 {
     std::vector<NeonLight> loop;
+    loop.reserve(size_t(qMax(0, length)));
     for (int i = 0; i < length; ++i)
         loop.push_back(Looks[look].light(i / thickness, length / thickness, double(tick)));
     const bool hasAlpha = image.format() == QImage::Format_ARGB32;
