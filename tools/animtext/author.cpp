@@ -16,13 +16,13 @@ namespace AnimText {
 
 namespace {
 
-constexpr int mostTold = 5;     // characters, or words, that are told one by one
-constexpr int longestWord = 40; // characters of a word that are told
+constexpr int mostListed = 5;   // characters, or words, that are listed
+constexpr int longestWord = 40; // characters of a word that are shown
 
 /** Says which characters the sign will not show. */
 void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
 {
-    for (const UnseenCharacter& character : unseen.mid(0, mostTold)) {
+    for (const UnseenCharacter& character : unseen.mid(0, mostListed)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
         const bool isMark = QChar::category(character.codePoint) <= QChar::Mark_Enclosing;
         Warn(QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
@@ -33,15 +33,15 @@ void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
                       character.missing ? QStringLiteral("no installed font has it")
                                         : QStringLiteral("its font has a picture, no outline")));
     }
-    if (unseen.size() > mostTold)
-        Warn(QStringLiteral("%1 more characters leave gaps").arg(unseen.size() - mostTold));
+    if (unseen.size() > mostListed)
+        Warn(QStringLiteral("%1 more characters leave gaps").arg(unseen.size() - mostListed));
 }
 
 /** Says what of the letters will not be seen as it should. */
 void TellLosses(const AuthoredNode& authored)
 {
     QStringList words;
-    for (const QString& word : authored.tornWords.mid(0, mostTold))
+    for (const QString& word : authored.tornWords.mid(0, mostListed))
         words.append(word.size() > longestWord ? word.left(longestWord) + QStringLiteral("...")
                                                : word);
     if (!words.isEmpty())
@@ -50,7 +50,7 @@ void TellLosses(const AuthoredNode& authored)
                           ? QStringLiteral("a word is")
                           : QStringLiteral("%1 words are").arg(authored.tornWords.size()),
                       words.join(QStringLiteral(", ")),
-                      authored.tornWords.size() > mostTold ? QStringLiteral(" ...") : QString()));
+                      authored.tornWords.size() > mostListed ? QStringLiteral(" ...") : QString()));
     if (authored.cutAbove > 0 || authored.cutBelow > 0)
         Warn(QStringLiteral("letters are cut off: %1 pixels above the area and %2 below; --fit "
                             "height makes them fit")
