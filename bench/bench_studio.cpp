@@ -1,5 +1,5 @@
 // What the studio's window takes: from a change to the picture, an event, and the start.
-#include "studio/window/mainwindow.h"
+#include "studio/window/shell/mainwindow.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 // A line of text on its way to a node: its units, their outlines and their places.
 
 #include "author/author.h"
-#include "author/placement.h"
-#include "author/wordpages.h"
+#include "layout/placement.h"
+#include "layout/wordpages.h"
 #include "table.h"
 #include "text/glyphdata.h"
 #include "text/pagedivision.h"

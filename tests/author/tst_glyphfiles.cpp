@@ -1,4 +1,4 @@
-#include "author/glyphfiles.h"
+#include "layout/glyphfiles.h"
 
 #include <QPainterPath>
 #include <QtTest>

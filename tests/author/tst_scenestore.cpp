@@ -1,7 +1,7 @@
 #include "table.h"
 #include "testfolder.h"
 
-#include "author/glyphfiles.h"
+#include "layout/glyphfiles.h"
 #include "author/scenestore.h"
 
 #include <QPainterPath>

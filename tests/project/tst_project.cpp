@@ -91,7 +91,26 @@ private slots:
             standardAndQt);
         row("platform", "platform", "platform/.*", any);
         row("platform/device", "platform/device", "platform/device/.*", any);
-        row("tools", "tools", "(tools|platform)/.*|src/text/.*", any);
+        // From the ground up: a room may know those before it.
+        const QString ground = "platform/.*|src/text/.*";
+        QStringList known;
+        for (const char* room :
+             {"files", "scene", "validate", "layout", "author", "cli", "player", "timing", "film",
+              "live", "lights", "compare", "gallery", "animtext"}) {
+            known.append(room);
+            const QString name = QString("tools/%1").arg(room);
+            row(name, name, QString("tools/(%1)/.*|%2").arg(known.join('|'), ground), any);
+        }
+        known.removeLast(); // the other program
+        const QString below = QString("tools/(%1)/.*|%2").arg(known.join('|'), ground);
+        known.clear();
+        for (const char* room :
+             {"model", "worker", "window/basics", "window/display", "window/motion", "window/text",
+              "window/time", "window/form", "window/findings", "window/shell"}) {
+            known.append(room);
+            const QString name = QString("tools/studio/%1").arg(room);
+            row(name, name, QString("tools/studio/(%1)/.*|%2").arg(known.join('|'), below), any);
+        }
     }
 
     void includesFollowTheRule()

@@ -1,6 +1,6 @@
 #include "hostile.h"
 
-#include "author/glyphfiles.h"
+#include "layout/glyphfiles.h"
 #include "support/malformedglyphs.h"
 
 #include <QDataStream>

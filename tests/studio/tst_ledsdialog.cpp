@@ -1,6 +1,6 @@
 // The dialog by which LEDs follow the studio. Its packets stay on 127.0.0.1.
-#include "studio/window/ledsdialog.h"
-#include "studio/window/mainwindow.h"
+#include "studio/window/display/ledsdialog.h"
+#include "studio/window/shell/mainwindow.h"
 #include "table.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 #include "studio/model/document.h"
-#include "studio/window/displayview.h"
+#include "studio/window/display/displayview.h"
 #include "studio/worker/rehearsal.h"
 
 #include "scene/catalogue.h"

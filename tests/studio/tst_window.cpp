@@ -1,9 +1,9 @@
-#include "studio/window/exportdialog.h"
-#include "studio/window/looks.h"
-#include "studio/window/mainwindow.h"
-#include "studio/window/neonbox.h"
-#include "studio/window/newdialog.h"
-#include "studio/window/translating.h"
+#include "studio/window/shell/exportdialog.h"
+#include "studio/window/basics/style.h"
+#include "studio/window/shell/mainwindow.h"
+#include "studio/window/form/neonbox.h"
+#include "studio/window/shell/newdialog.h"
+#include "studio/window/basics/translating.h"
 
 #include "testfolder.h"
 

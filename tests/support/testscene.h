@@ -5,7 +5,7 @@
 #ifndef TESTSCENE_H
 #define TESTSCENE_H
 
-#include "author/glyphfiles.h"
+#include "layout/glyphfiles.h"
 #include "scene/scene.h"
 #include "testfolder.h"
 

@@ -2,11 +2,12 @@
 #include "author/places.h"
 
 #include "animtext/commands.h"
-#include "animtext/cutoff.h"
-#include "animtext/filenames.h"
-#include "animtext/interruption.h"
-#include "animtext/storing.h"
-#include "animtext/wishes.h"
+#include "animtext/shared/authoroptions.h"
+#include "animtext/shared/cutoff.h"
+#include "animtext/shared/savescene.h"
+#include "cli/filenames.h"
+#include "cli/interruption.h"
+#include "files/wholefile.h"
 #include "scene/catalogue.h"
 #include "validate/validate.h"
 
@@ -191,7 +192,7 @@ int WriteScene(const CommandLine& line)
             scene->alphaBlend = false;
         return PutAuthored(authored, destination, scene, dataFiles, why);
     };
-    StoreScene(path, change);
+    SaveScene(path, change);
     TellUnseen(authored.unseen, options.text);
     TellLosses(authored);
     TellFindings(path);

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_COMMANDS_H
 #define ANIMTEXT_COMMANDS_H
 
-#include "animtext/option.h"
+#include "cli/option.h"
 
 namespace AnimText {
 

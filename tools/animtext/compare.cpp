@@ -1,11 +1,11 @@
 #include "animtext/commands.h"
-#include "animtext/interruption.h"
-#include "animtext/opening.h"
+#include "animtext/shared/playoptions.h"
+#include "cli/interruption.h"
 #include "compare/deskplay.h"
-#include "compare/parting.h"
+#include "compare/difference.h"
 #include "compare/pictures.h"
-#include "player/stillfile.h"
-#include "scene/wholefile.h"
+#include "files/wholefile.h"
+#include "film/stillfile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "animtext/commands.h"
-#include "animtext/durationtable.h"
-#include "animtext/interruption.h"
-#include "animtext/opening.h"
-#include "animtext/progress.h"
-#include "player/simulation.h"
+#include "animtext/shared/durationtable.h"
+#include "animtext/shared/playoptions.h"
+#include "cli/interruption.h"
+#include "cli/progress.h"
+#include "timing/simulation.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

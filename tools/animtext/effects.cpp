@@ -1,5 +1,5 @@
-#include "animtext/commandline.h"
 #include "animtext/commands.h"
+#include "cli/commandline.h"
 #include "scene/catalogue.h"
 
 #include <QJsonArray>

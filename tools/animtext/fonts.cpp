@@ -1,7 +1,7 @@
-#include "author/fonts.h"
+#include "layout/fonts.h"
 
-#include "animtext/commandline.h"
 #include "animtext/commands.h"
+#include "cli/commandline.h"
 
 namespace AnimText {
 

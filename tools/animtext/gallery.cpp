@@ -1,10 +1,10 @@
 #include "gallery/gallery.h"
 
 #include "animtext/commands.h"
-#include "animtext/interruption.h"
-#include "animtext/opening.h"
-#include "animtext/progress.h"
-#include "animtext/wishes.h"
+#include "animtext/shared/authoroptions.h"
+#include "animtext/shared/playoptions.h"
+#include "cli/interruption.h"
+#include "cli/progress.h"
 
 #include <algorithm>
 #include <iterator>

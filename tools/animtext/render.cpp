@@ -1,10 +1,10 @@
-#include "animtext/batch.h"
 #include "animtext/commands.h"
-#include "animtext/interruption.h"
-#include "animtext/opening.h"
-#include "animtext/progress.h"
-#include "player/film.h"
-#include "player/filmfile.h"
+#include "animtext/shared/batch.h"
+#include "animtext/shared/playoptions.h"
+#include "cli/interruption.h"
+#include "cli/progress.h"
+#include "film/film.h"
+#include "film/filmfile.h"
 #include "player/plugin.h"
 
 #include <numeric>

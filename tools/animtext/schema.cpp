@@ -1,6 +1,6 @@
 #include "animtext/commands.h"
 
-#include "animtext/commandline.h"
+#include "cli/commandline.h"
 #include "scene/sceneschema.h"
 
 namespace AnimText {

@@ -1,10 +1,10 @@
 #include "animtext/commands.h"
-#include "animtext/contactsheet.h"
-#include "animtext/interruption.h"
-#include "animtext/opening.h"
-#include "animtext/progress.h"
-#include "player/film.h"
-#include "player/stillfile.h"
+#include "animtext/shared/playoptions.h"
+#include "cli/interruption.h"
+#include "cli/progress.h"
+#include "film/contactsheet.h"
+#include "film/film.h"
+#include "film/stillfile.h"
 
 #include "scene/motion.h"
 

@@ -1,10 +1,10 @@
 #include "animtext/commands.h"
-#include "animtext/interruption.h"
-#include "animtext/opening.h"
-#include "animtext/progress.h"
+#include "animtext/shared/playoptions.h"
 #include "animtext/soakmix.h"
+#include "cli/interruption.h"
+#include "cli/progress.h"
 
-#include "scene/wholefile.h"
+#include "files/wholefile.h"
 
 #include <display.h>
 

@@ -1,8 +1,8 @@
 #include "animtext/soakmix.h"
 
 #include "author/author.h"
+#include "files/wholefile.h"
 #include "scene/catalogue.h"
-#include "scene/wholefile.h"
 
 namespace AnimText {
 

@@ -1,7 +1,7 @@
-#include "animtext/commandline.h"
 #include "animtext/commands.h"
-#include "animtext/interruption.h"
 #include "author/scenestore.h"
+#include "cli/commandline.h"
+#include "cli/interruption.h"
 
 #include <QDir>
 

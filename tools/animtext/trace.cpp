@@ -1,5 +1,5 @@
 #include "animtext/commands.h"
-#include "animtext/opening.h"
+#include "animtext/shared/playoptions.h"
 #include "player/callline.h"
 
 namespace AnimText {

@@ -1,7 +1,7 @@
 #include "validate/validate.h"
 
-#include "animtext/commandline.h"
 #include "animtext/commands.h"
+#include "cli/commandline.h"
 
 namespace AnimText {
 

@@ -1,7 +1,7 @@
 #include "author/author.h"
 
-#include "author/glyphfiles.h"
-#include "author/placement.h"
+#include "layout/glyphfiles.h"
+#include "layout/placement.h"
 #include "text/limits.h"
 #include "text/pagedivision.h"
 

@@ -5,10 +5,10 @@
 #ifndef ANIMTEXT_AUTHOR_H
 #define ANIMTEXT_AUTHOR_H
 
-#include "author/fit.h"
-#include "author/placement.h"
-#include "author/shaping.h"
-#include "author/styledtext.h"
+#include "layout/fit.h"
+#include "layout/placement.h"
+#include "layout/shaping.h"
+#include "layout/styledtext.h"
 #include "scene/motion.h"
 #include "scene/scene.h"
 

@@ -1,7 +1,7 @@
 #include "author/datafiles.h"
 
+#include "files/wholefile.h"
 #include "scene/duplicatekeys.h"
-#include "scene/wholefile.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_HTML_H
 #define ANIMTEXT_HTML_H
 
-#include "author/styledtext.h"
+#include "layout/styledtext.h"
 
 namespace AnimText {
 

@@ -1,6 +1,8 @@
-#include "author/fonts.h"
+#include "author/markup.h"
+
 #include "author/html.h"
-#include "author/styledtext.h"
+#include "layout/fonts.h"
+#include "scene/color.h"
 #include "scene/suggest.h"
 
 #include <QRegularExpression>

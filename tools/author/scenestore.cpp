@@ -1,7 +1,7 @@
 #include "author/scenestore.h"
 
-#include "author/folderlock.h"
-#include "scene/wholefile.h"
+#include "files/folderlock.h"
+#include "files/wholefile.h"
 #include "validate/validate.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "author/places.h"
 
-#include "author/styledtext.h"
 #include "scene/attributes.h"
+#include "scene/color.h"
 #include "scene/motion.h"
 #include "scene/schema.h"
 #include "scene/suggest.h"

@@ -1,7 +1,7 @@
 #include "author/textsource.h"
 
+#include "files/wholefile.h"
 #include "scene/jsonvalues.h"
-#include "scene/wholefile.h"
 
 #include <QCryptographicHash>
 #include <QDir>

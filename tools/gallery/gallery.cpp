@@ -1,9 +1,9 @@
 #include "gallery/gallery.h"
 
+#include "files/wholefile.h"
+#include "files/wholefolder.h"
 #include "gallery/motionplay.h"
-#include "player/wholefolder.h"
 #include "scene/catalogue.h"
-#include "scene/wholefile.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "gallery/motionplay.h"
 
-#include "player/playlength.h"
 #include "scene/motion.h"
+#include "timing/playlength.h"
 
 namespace AnimText {
 

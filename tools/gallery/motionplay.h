@@ -6,8 +6,8 @@
 #define ANIMTEXT_MOTIONPLAY_H
 
 #include "gallery/picturesheets.h"
-#include "player/pagetimes.h"
 #include "player/player.h"
+#include "timing/pagetimes.h"
 
 #include <functional>
 

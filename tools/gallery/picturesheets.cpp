@@ -1,6 +1,6 @@
 #include "gallery/picturesheets.h"
 
-#include "player/stillfile.h"
+#include "film/stillfile.h"
 
 #include <QCryptographicHash>
 #include <QPainter>

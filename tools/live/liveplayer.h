@@ -6,9 +6,9 @@
 #define ANIMTEXT_LIVEPLAYER_H
 
 #include "live/tickkeeper.h"
-#include "player/playlength.h"
 #include "player/schedule.h"
 #include "player/stage.h"
+#include "timing/playlength.h"
 
 #include <QElapsedTimer>
 #include <QImage>

@@ -1,5 +1,7 @@
 #include "live/scenewatcher.h"
 
+#include "files/wholefile.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>

@@ -1,5 +1,7 @@
 #include "scene/scene.h"
 
+#include "files/wholefile.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -15,15 +17,6 @@ QList<const SceneNode*> Scene::Nodes() const
         }
     }
     return nodes;
-}
-
-QString RealPath(const QString& path)
-{
-    constexpr int mostLinks = 40; // as the kernel follows
-    QFileInfo file(path);
-    for (int links = 0; file.isSymLink() && links < mostLinks; ++links)
-        file.setFile(file.symLinkTarget());
-    return file.filePath();
 }
 
 QString Scene::FullName(const QString& file) const

@@ -76,9 +76,6 @@ bool ReadScene(const QString& path, Scene* scene, QString* error,
 bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
                    MissingFiles missing);
 
-/** The file that @p path leads to where it is a symbolic link, else @p path itself. */
-QString RealPath(const QString& path);
-
 /** The scene as the text of a scene file. */
 QByteArray SceneToJson(const Scene& scene);
 

@@ -1,9 +1,9 @@
+#include "files/wholefile.h"
 #include "scene/attributes.h"
 #include "scene/duplicatekeys.h"
 #include "scene/jsonvalues.h"
 #include "scene/scene.h"
 #include "scene/schema.h"
-#include "scene/wholefile.h"
 #include "text/limits.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 // The studio: a window in which signs are written and timed, or, with --worker, one of its workers.
-#include "studio/window/mainwindow.h"
-#include "studio/window/translating.h"
+#include "studio/window/basics/translating.h"
+#include "studio/window/shell/mainwindow.h"
 #include "studio/worker/exporting.h"
 #include "studio/worker/workermain.h"
 

@@ -1,7 +1,7 @@
 // Takes the studio's screenshots for the documents: photograph-studio FOLDER [--dark]
-#include "studio/window/ledsdialog.h"
-#include "studio/window/mainwindow.h"
-#include "studio/window/translating.h"
+#include "studio/window/basics/translating.h"
+#include "studio/window/display/ledsdialog.h"
+#include "studio/window/shell/mainwindow.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "studio/model/recovery.h"
 
-#include "scene/wholefile.h"
+#include "files/wholefile.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,8 +1,9 @@
 #include "studio/model/sign.h"
 
-#include "author/fonts.h"
-#include "author/glyphfiles.h"
 #include "author/places.h"
+#include "files/wholefile.h"
+#include "layout/fonts.h"
+#include "layout/glyphfiles.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

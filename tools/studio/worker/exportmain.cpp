@@ -2,9 +2,9 @@
 // standard input ends.
 #include "studio/worker/exporting.h"
 
+#include "film/film.h"
+#include "film/filmfile.h"
 #include "live/pictureview.h"
-#include "player/film.h"
-#include "player/filmfile.h"
 #include "player/plugin.h"
 
 #include <QCommandLineParser>

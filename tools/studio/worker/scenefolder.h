@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_SCENEFOLDER_H
 #define ANIMTEXT_SCENEFOLDER_H
 
-#include "scene/wholefile.h"
+#include "files/wholefile.h"
 #include "studio/model/sign.h"
 
 #include <QCoreApplication>

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_TIMING_H
 #define ANIMTEXT_TIMING_H
 
-#include "player/pagetimes.h"
+#include "timing/pagetimes.h"
 
 #include <QDataStream>
 #include <QMetaType>

@@ -1,0 +1,101 @@
+#include "animtext/commands.h"
+#include "author/places.h"
+#include "cli/commandline.h"
+#include "scene/motion.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int longestText = 40; // characters of a text that are listed
+
+QString MotionName(const SceneNode& node)
+{
+    const Motion* motion = MotionOf(node).Row();
+    return motion ? QLatin1String(motion->name) : QStringLiteral("unknown");
+}
+
+int SpeedOf(const SceneNode& node)
+{
+    return node.attributes.value(MotionOf(node).SpeedKey()).toInt();
+}
+
+QByteArray AsJson(Scene* scene)
+{
+    QJsonArray texts;
+    for (const Place& place : Places(*scene)) {
+        const SceneNode& node = NodeAt(scene, place);
+        texts.append(QJsonObject{
+            {QStringLiteral("number"), texts.size() + 1},
+            {QStringLiteral("path"), QStringLiteral("$.pages[%1].areas[%2].nodes[%3]")
+                                         .arg(place.page)
+                                         .arg(place.area)
+                                         .arg(place.node)},
+            {QStringLiteral("page"), place.page + 1},
+            {QStringLiteral("area"), place.area + 1},
+            {QStringLiteral("text"), node.attributes.value(QStringLiteral("Text")).toString()},
+            {QStringLiteral("motion"), MotionName(node)},
+            {QStringLiteral("speed"), SpeedOf(node)},
+            {QStringLiteral("hold"), node.hold},
+            {QStringLiteral("pos"), QJsonArray{node.pos.x(), node.pos.y()}},
+            {QStringLiteral("size"), QJsonArray{node.size.width(), node.size.height()}}});
+    }
+    return QJsonDocument(texts).toJson(QJsonDocument::Indented);
+}
+
+QByteArray AsText(Scene* scene)
+{
+    QByteArray text;
+    int number = 0;
+    for (const Place& place : Places(*scene)) {
+        const SceneNode& node = NodeAt(scene, place);
+        QString words = node.attributes.value(QStringLiteral("Text")).toString().simplified();
+        if (words.size() > longestText)
+            words = words.left(longestText - 3) + QStringLiteral("...");
+        text += QStringLiteral("%1  page %2 area %3  %4 x %5 at %6,%7  %8, speed %9")
+                    .arg(++number, 3)
+                    .arg(place.page + 1)
+                    .arg(place.area + 1)
+                    .arg(node.size.width())
+                    .arg(node.size.height())
+                    .arg(node.pos.x())
+                    .arg(node.pos.y())
+                    .arg(MotionName(node))
+                    .arg(SpeedOf(node))
+                    .toUtf8() +
+                ", hold " + QByteArray::number(node.hold / 10.0) + " s  \"" + words.toUtf8() +
+                "\"\n";
+    }
+    return text;
+}
+
+int List(const CommandLine& line)
+{
+    const QString path = line.Arguments().first();
+    Scene scene;
+    QString error;
+    if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
+        throw Failure{BadInput, error};
+    Print(line.IsSet("json") ? AsJson(&scene) : AsText(&scene));
+    return Done;
+}
+
+} // namespace
+
+Command ListCommand()
+{
+    return {"list",
+            "lists the texts of a scene",
+            "SCENE.json",
+            1,
+            1,
+            "Lists the texts of a scene with their numbers, pages, areas, motions and times.",
+            {Option::Flag("json", "Prints a JSON list.")},
+            List};
+}
+
+} // namespace AnimText

@@ -1,0 +1,161 @@
+#include "animtext/shared/batch.h"
+
+#include "cli/interruption.h"
+#include "cli/output.h"
+#include "cli/progress.h"
+#include "files/wholefile.h"
+#include "scene/scene.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QMap>
+#include <QProcess>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include <unistd.h>
+
+namespace AnimText {
+
+namespace {
+
+struct Job
+{
+    QString scene;
+    QString film;
+};
+
+QList<Job> PlanJobs(const Batch& batch)
+{
+    QList<Job> jobs;
+    QMap<QString, QString> sceneOf;
+    for (const QString& scene : batch.scenes) {
+        const QString name = QFileInfo(scene).completeBaseName() + batch.ending;
+        if (sceneOf.contains(name))
+            throw Misuse{
+                QStringLiteral("%1 and %2 would both become %3; render them into two folders")
+                    .arg(sceneOf.value(name), scene, name)};
+        sceneOf.insert(name, scene);
+        jobs.append({scene, QDir(batch.folder).filePath(name)});
+    }
+    return jobs;
+}
+
+/** Whether the film is younger than everything that it is made from. */
+bool IsDone(const Job& job, const QString& plugin)
+{
+    Scene scene;
+    QString error;
+    const QFileInfo film(job.film);
+    if (!film.exists() || !ReadScene(job.scene, &scene, &error))
+        return false;
+    QStringList inputs{job.scene, plugin, QCoreApplication::applicationFilePath()};
+    for (const SceneNode* node : scene.Nodes()) {
+        for (const QString& file : node->files)
+            inputs.append(scene.FullName(file));
+    }
+    return std::all_of(inputs.begin(), inputs.end(), [&](const QString& input) {
+        return QFileInfo(input).lastModified() < film.lastModified();
+    });
+}
+
+/** Gets no signal from the terminal, so that one wish to end it comes once: from here. */
+class Renderer : public QProcess
+{
+public:
+    Renderer(const Job& job, const QStringList& options)
+        : scene(job.scene)
+    {
+#if QT_VERSION >= 0x060000
+        setChildProcessModifier(LeaveTerminal);
+#endif
+        const QStringList words{QStringLiteral("render"), QStringLiteral("-o"), job.film};
+        setStandardOutputFile(nullDevice());
+        start(QCoreApplication::applicationFilePath(),
+              words + options + QStringList{QStringLiteral("--"), scene});
+    }
+
+    /** Tells what it said. @return whether the film is there */
+    bool Succeeded()
+    {
+        const QByteArray said = readAllStandardError();
+        std::fwrite(said.constData(), 1, size_t(said.size()), stderr);
+        if (exitStatus() == NormalExit && error() != FailedToStart)
+            return exitCode() == Done;
+        Warn(QStringLiteral("%1: %2").arg(scene, errorString()));
+        return false;
+    }
+
+#if QT_VERSION < 0x060000
+protected:
+    void setupChildProcess() override
+    {
+        LeaveTerminal();
+    }
+#endif
+
+private:
+    static void LeaveTerminal()
+    {
+        setpgid(0, 0);
+    }
+
+    QString scene;
+};
+
+/** Runs the jobs. @return how many failed */
+int RunJobs(const Batch& batch, QList<Job> jobs)
+{
+    constexpr int glance = 20; // milliseconds
+    Progress progress(QStringLiteral("rendering scene"), jobs.size());
+    const int all = jobs.size();
+    int failed = 0;
+    std::vector<std::unique_ptr<Renderer>> running;
+    while (!running.empty() || !jobs.isEmpty()) {
+        while (!jobs.isEmpty() && int(running.size()) < batch.jobs)
+            running.push_back(std::make_unique<Renderer>(jobs.takeFirst(), batch.options));
+        if (Interrupted()) {
+            for (const auto& renderer : running)
+                renderer->terminate();
+            for (const auto& renderer : running)
+                renderer->waitForFinished(-1);
+            StopIfInterrupted();
+        }
+        for (auto it = running.begin(); it != running.end();) {
+            if (!(*it)->waitForFinished(glance) && (*it)->state() != QProcess::NotRunning) {
+                ++it;
+                continue;
+            }
+            failed += (*it)->Succeeded() ? 0 : 1;
+            it = running.erase(it);
+        }
+        progress.Show(all - jobs.size() - int(running.size()));
+    }
+    return failed;
+}
+
+} // namespace
+
+void RenderAll(const Batch& batch)
+{
+    QList<Job> jobs = PlanJobs(batch);
+    QString error;
+    if (!MakeFolder(batch.folder, &error))
+        throw Failure{FailedRun, error};
+    if (batch.resume) {
+        const auto isDone = [&](const Job& job) { return IsDone(job, batch.plugin); };
+        jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());
+    }
+    const int failed = RunJobs(batch, jobs);
+    if (failed > 0)
+        throw Failure{FailedRun, QStringLiteral("%1 of %2 scenes were not rendered")
+                                     .arg(failed)
+                                     .arg(batch.scenes.size())};
+}
+
+} // namespace AnimText

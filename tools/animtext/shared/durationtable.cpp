@@ -1,0 +1,122 @@
+#include "animtext/shared/durationtable.h"
+
+#include "cli/interruption.h"
+#include "cli/messages.h"
+#include "cli/progress.h"
+#include "scene/motion.h"
+#include "timing/simulation.h"
+
+#include <hneonnodebase.h>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int speeds[] = {0, 4, 5, 9};
+
+struct Times
+{
+    qint64 model = 0;
+    Simulation real;
+};
+
+Scene OnlyFirst(const Scene& scene)
+{
+    Scene only = scene;
+    only.pages = {ScenePage{{SceneArea{{*scene.Nodes().first()}}}}};
+    return only;
+}
+
+Times Measure(const Playing& playing, Scene scene, int effect, int speed)
+{
+    SceneNode& node = scene.pages.first().areas.first().nodes.first();
+    SetMotion(&node, {Mode::Entrance, effect});
+    node.attributes[QStringLiteral("AnimationSpeed")] = speed;
+    const std::unique_ptr<Player> player = playing.Load(scene);
+    Times times;
+    times.model = player->Scenery().Node(0)->Duration();
+    QString error;
+    const auto goOn = [](int) { return !Interrupted(); };
+    times.real = Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
+    StopIfInterrupted();
+    if (!error.isEmpty())
+        throw Failure{BadInput, error};
+    return times;
+}
+
+QByteArray ToJson(const Motion& effect, int speed, const Times& times)
+{
+    const QByteArray finished =
+        times.real.finishedMs < 0 ? "null" : QByteArray::number(times.real.finishedMs);
+    return "{\"effect\":" + QByteArray::number(effect.number) + ",\"name\":\"" + effect.name +
+           "\",\"speed\":" + QByteArray::number(speed) +
+           ",\"duration\":" + QByteArray::number(times.model) +
+           ",\"simulated\":{\"animationTicks\":" + QByteArray::number(times.real.animationTicks) +
+           ",\"holdTicks\":" + QByteArray::number(times.real.holdTicks) +
+           ",\"finishedMs\":" + finished + "}}\n";
+}
+
+QByteArray Cell(const Times& times)
+{
+    const auto seconds = [](qint64 ms) { return QByteArray::number(double(ms) / 1000, 'f', 1); };
+    QByteArray real = "-";
+    QByteArray difference;
+    if (times.real.finishedMs >= 0) {
+        real = seconds(times.real.finishedMs);
+        if (times.model > 0) {
+            const double ratio = double(times.real.finishedMs) / double(times.model) - 1;
+            const QByteArray percent = QByteArray::number(100 * ratio, 'f', 0);
+            difference = (percent.startsWith('-') || percent == "0" ? "" : "+") + percent + '%';
+            if (difference == "-0%")
+                difference = "0%";
+        }
+    }
+    return "  |" + seconds(times.model).rightJustified(9) + real.rightJustified(9) +
+           difference.rightJustified(7);
+}
+
+QByteArray Heading()
+{
+    QByteArray speedLine(39, ' ');
+    QByteArray columnLine = " no  " + QByteArray("effect").leftJustified(34);
+    for (int speed : speeds) {
+        speedLine +=
+            "  |" + ("speed " + QByteArray::number(speed)).rightJustified(9) + QByteArray(16, ' ');
+        columnLine += "  |" + QByteArray("model").rightJustified(9) +
+                      QByteArray("real").rightJustified(9) + QByteArray("diff").rightJustified(7);
+    }
+    return speedLine.trimmed().prepend(QByteArray(39 + 2, ' ')) + '\n' + columnLine + '\n';
+}
+
+} // namespace
+
+void TellDurationTable(const Playing& playing, const Scene& scene, bool json)
+{
+    if (scene.Nodes().isEmpty())
+        throw Failure{BadInput,
+                      scene.path + QStringLiteral(": $.pages: expected at least one node")};
+    const Silence silence;
+    const Scene only = OnlyFirst(scene);
+    QByteArray text = json ? QByteArray()
+                           : "Seconds: what the host is told, what the play takes until it is "
+                             "finished, and the difference.\n\n" +
+                                 Heading();
+    Progress progress(QStringLiteral("simulating"), Effects().size() * qint64(std::size(speeds)));
+    WatchForInterruption();
+    qint64 done = 0;
+    for (const Motion& effect : Effects()) {
+        if (!json)
+            text += QByteArray::number(effect.number).rightJustified(3) + "  " +
+                    QByteArray(effect.name).leftJustified(34);
+        for (int speed : speeds) {
+            const Times times = Measure(playing, only, effect.number, speed);
+            text += json ? ToJson(effect, speed, times) : Cell(times);
+            progress.Show(++done);
+        }
+        if (!json)
+            text += '\n';
+    }
+    Print(text);
+}
+
+} // namespace AnimText

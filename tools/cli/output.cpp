@@ -1,0 +1,39 @@
+#include "cli/output.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace AnimText {
+
+namespace {
+
+[[noreturn]] void FailToPrint()
+{
+    throw Failure{FailedRun, QStringLiteral("standard output cannot be written: %1")
+                                 .arg(QString::fromLocal8Bit(std::strerror(errno)))};
+}
+
+} // namespace
+
+void Warn(const QString& message)
+{
+    // Names of files go out as the bytes that came in.
+    const QByteArray line = "animtext: " + message.toLocal8Bit() + '\n';
+    std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
+}
+
+void Print(const QByteArray& text)
+{
+    const size_t size = size_t(text.size());
+    if (std::fwrite(text.constData(), 1, size, stdout) != size)
+        FailToPrint();
+}
+
+void FlushOutput()
+{
+    if (std::fflush(stdout) != 0)
+        FailToPrint();
+}
+
+} // namespace AnimText

@@ -1,0 +1,52 @@
+#include "cli/progress.h"
+
+#include <QByteArray>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int barWidth = 30;
+constexpr int quietTime = 1000; // milliseconds before the bar appears
+constexpr int redrawTime = 100; // milliseconds from one drawing to the next
+
+} // namespace
+
+Progress::Progress(const QString& what, qint64 total)
+    : what(what)
+    , total(total)
+    , terminal(isatty(STDERR_FILENO) == 1)
+{
+    sinceStart.start();
+}
+
+Progress::~Progress()
+{
+    if (drawn)
+        std::fputs("\r\033[K", stderr);
+}
+
+void Progress::Show(qint64 done)
+{
+    const qint64 now = sinceStart.elapsed();
+    if (!terminal || now < quietTime || now - lastDrawn < redrawTime)
+        return;
+    lastDrawn = now;
+    drawn = true;
+    QString text = what + QLatin1Char(' ');
+    if (total > 0) {
+        const int filled = int(barWidth * qMin(done, total) / total);
+        text += QString(filled, QChar(0x2588)) + QString(barWidth - filled, QChar(0x2591)) +
+                QStringLiteral(" %1 of %2").arg(done).arg(total);
+    } else {
+        text += QString::number(done);
+    }
+    std::fprintf(stderr, "\r\033[K%s", text.toUtf8().constData());
+    std::fflush(stderr);
+}
+
+} // namespace AnimText

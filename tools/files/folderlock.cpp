@@ -1,0 +1,78 @@
+#include "files/folderlock.h"
+
+#include "files/wholefile.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryFile>
+#include <QThread>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace AnimText {
+namespace {
+
+const int oldestLock = 30 * 1000; // ms; a scene is written in far less
+const int oldestNameless = 1000;  // ms; a lock's owner writes its name into it at once
+const int longestWait = 60 * 1000;
+const unsigned long pause = 5; // ms between two tries; QLockFile's own pauses grow to seconds
+
+/** Why a lock in @p folder failed: QLockFile keeps that to itself, so a file is tried again. */
+QString Cause(const QString& folder)
+{
+    QTemporaryFile probe(UnfinishedName(folder + QStringLiteral("/lock")));
+    QString problem;
+    if (!probe.open())
+        return probe.errorString();
+    return WriteAll(&probe, QByteArray(1, '\n'), &problem) ? QStringLiteral("it cannot be locked")
+                                                           : problem;
+}
+
+} // namespace
+
+FolderLock::FolderLock(const QString& folder)
+    : folder(folder)
+    , file(folder + QStringLiteral("/.animtext.lock"))
+{
+}
+
+bool FolderLock::Take(QString* error)
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (true) {
+        // Killed before it wrote its name, an owner leaves a lock that only its age tells about.
+        qint64 owner = 0;
+        QString host;
+        QString program;
+        file.setStaleLockTime(file.getLockInfo(&owner, &host, &program) ? oldestLock
+                                                                        : oldestNameless);
+        if (file.tryLock(0))
+            return true;
+        if (file.error() != QLockFile::LockFailedError) {
+            *error = QStringLiteral("%1: nothing can be written into this folder: %2")
+                         .arg(folder, Cause(folder));
+            return false;
+        }
+        if (waited.elapsed() > longestWait) {
+            *error = QStringLiteral("%1: another program has been writing here for a minute; if "
+                                    "there is none, remove .animtext.lock")
+                         .arg(folder);
+            return false;
+        }
+        QThread::msleep(pause);
+    }
+}
+
+void FolderLock::Sync() const
+{
+    const int descriptor =
+        open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    fsync(descriptor);
+    close(descriptor);
+}
+
+} // namespace AnimText

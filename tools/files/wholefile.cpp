@@ -1,0 +1,232 @@
+#include "files/wholefile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSysInfo>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace AnimText {
+
+namespace {
+
+/** What tells unfinished files of this machine from others; processes of others cannot be seen. */
+QString Mark()
+{
+    return QStringLiteral("@%1.unfinished").arg(QSysInfo::machineHostName());
+}
+
+bool IsRunning(qint64 process)
+{
+    return ::kill(pid_t(process), 0) == 0 || errno == EPERM;
+}
+
+void Sweep(const QDir& folder)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\.(\\d+)%1\\.\\w{6}$").arg(QRegularExpression::escape(Mark())));
+    const QStringList names =
+        folder.entryList({QStringLiteral(".*") + Mark() + QStringLiteral(".*")},
+                         QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString& name : names) {
+        const auto match = pattern.match(name);
+        if (!match.hasMatch() || IsRunning(match.captured(1).toLongLong()))
+            continue;
+        const QString path = folder.filePath(name);
+        // In a folder for everybody, others can choose such a name too.
+        if (QFileInfo(path).ownerId() != geteuid())
+            continue;
+        if (!QFile::remove(path))
+            QDir(path).removeRecursively();
+    }
+}
+
+/** People's own files have the rights that were there, or those that the process gives. */
+void SetRights(const QByteArray& file, const QByteArray& replaced)
+{
+    struct stat before = {};
+    const mode_t mask = umask(0);
+    umask(mask);
+    const bool isThere = stat(replaced.constData(), &before) == 0;
+    chmod(file.constData(), isThere ? before.st_mode & 07777 : 0666 & ~mask);
+}
+
+/** Why the file at @p path must not be replaced; empty when it may be, or when there is none. */
+QString Obstacle(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat there = {};
+    if (stat(name.constData(), &there) != 0)
+        return errno == ENOENT ? QString() : QString::fromLocal8Bit(std::strerror(errno));
+    if (S_ISDIR(there.st_mode))
+        return QStringLiteral("it is a folder");
+    if (!S_ISREG(there.st_mode))
+        return QStringLiteral("it is not a regular file");
+    return WriteProtection(path);
+}
+
+} // namespace
+
+QString WriteProtection(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat there = {};
+    if (stat(name.constData(), &there) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    // The system lets root write everything, and everybody replace files in their own folder.
+    const mode_t needed = there.st_uid == geteuid() ? S_IWUSR : mode_t(S_IWUSR | S_IWGRP | S_IWOTH);
+    if ((there.st_mode & needed) == 0)
+        return QStringLiteral("it is write-protected; chmod u+w allows writing");
+    if (faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0)
+        return QStringLiteral("it is write-protected: %1")
+            .arg(QString::fromLocal8Bit(std::strerror(errno)));
+    return QString();
+}
+
+bool FindTarget(const QString& path, QString* target, QString* error)
+{
+    *target = QFileInfo(RealPath(path)).absoluteFilePath();
+    const QString obstacle = Obstacle(*target);
+    if (!obstacle.isEmpty())
+        *error = QStringLiteral("%1 cannot be written: %2").arg(path, obstacle);
+    return obstacle.isEmpty();
+}
+
+QString Shortened(const QString& name, int most)
+{
+    int length = name.size();
+    while (length > 0 && (QFile::encodeName(name.left(length)).size() > most ||
+                          name.at(length - 1).isHighSurrogate()))
+        --length;
+    return name.left(length);
+}
+
+QString UnfinishedName(const QString& path)
+{
+    const QFileInfo info(path);
+    Sweep(info.absoluteDir());
+    const QString end = QLatin1Char('.') + QString::number(QCoreApplication::applicationPid()) +
+                        Mark() + QStringLiteral(".XXXXXX");
+    const QString around =
+        QStringLiteral("..old"); // a dot before; what a replaced folder has behind
+    const int room = longestName - QFile::encodeName(around + end).size();
+    return info.absolutePath() + QStringLiteral("/.") + Shortened(info.fileName(), room) + end;
+}
+
+bool MakeFolder(const QString& path, QString* error)
+{
+    // QDir::mkpath() does not keep the reason.
+    std::error_code problem;
+    std::filesystem::create_directories(QFile::encodeName(QDir::cleanPath(path)).toStdString(),
+                                        problem);
+    if (problem)
+        *error = QStringLiteral("the folder %1 cannot be made: %2")
+                     .arg(path, QString::fromLocal8Bit(problem.message().c_str()));
+    return !problem;
+}
+
+QString TemporaryName()
+{
+    // Where TMPDIR names no folder, QDir::tempPath() is empty, and Qt would make folders in /.
+    const QString place = QFile::decodeName(qgetenv("TMPDIR"));
+    return QDir(place.isEmpty() ? QStringLiteral("/tmp") : place)
+        .absoluteFilePath(QCoreApplication::applicationName() + QStringLiteral("-XXXXXX"));
+}
+
+bool IsMade(const QTemporaryDir& folder, QString* error)
+{
+    if (!folder.isValid())
+        *error =
+            QStringLiteral("no temporary folder can be made in %1: %2; TMPDIR can name another "
+                           "place")
+                .arg(QFileInfo(TemporaryName()).path(), folder.errorString());
+    return folder.isValid();
+}
+
+QByteArray ReadAtMost(QFile* file, qint64 most)
+{
+    QByteArray bytes;
+    for (QByteArray more = "-"; !more.isEmpty() && bytes.size() < most; bytes += more)
+        more = file->read(most - bytes.size());
+    return bytes;
+}
+
+bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
+{
+    // By the system's own call: where a disk becomes full only a part is written, and why, the next
+    // attempt tells. QFile forgets to ask.
+    qint64 done = 0;
+    while (done < content.size()) {
+        const qint64 written =
+            ::write(file->handle(), content.constData() + done, size_t(content.size() - done));
+        if (written < 0 && errno != EINTR) {
+            *problem = QString::fromLocal8Bit(std::strerror(errno));
+            return false;
+        }
+        done += qMax<qint64>(0, written);
+    }
+    return true;
+}
+
+bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
+{
+    QString target;
+    if (!FindTarget(path, &target, error))
+        return false;
+    QTemporaryFile file(UnfinishedName(target));
+    QString problem;
+    if (!file.open())
+        problem = file.errorString();
+    else if (WriteAll(&file, content, &problem)) {
+        const QByteArray from = QFile::encodeName(file.fileName());
+        const QByteArray to = QFile::encodeName(target);
+        SetRights(from, to);
+        if (fsync(file.handle()) == 0 && std::rename(from.constData(), to.constData()) == 0) {
+            file.setAutoRemove(false);
+            return true;
+        }
+        problem = QString::fromLocal8Bit(std::strerror(errno));
+    }
+    *error = QStringLiteral("%1 cannot be written: %2").arg(path, problem);
+    return false;
+}
+
+QString RealPath(const QString& path)
+{
+    constexpr int mostLinks = 40; // as the kernel follows
+    QFileInfo file(path);
+    for (int links = 0; file.isSymLink() && links < mostLinks; ++links)
+        file.setFile(file.symLinkTarget());
+    return file.filePath();
+}
+
+bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error)
+{
+    const QByteArray name = QFile::encodeName(from);
+    const mode_t mask = umask(0);
+    umask(mask);
+    // A disk that is written later, or far away, tells here that it was full.
+    const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
+    const bool whole = file >= 0 && fsync(file) == 0 && fchmod(file, mode & ~mask) == 0 &&
+                       std::rename(name.constData(), QFile::encodeName(to).constData()) == 0;
+    if (!whole)
+        *error = QStringLiteral("%1 cannot be written: %2")
+                     .arg(to, QString::fromLocal8Bit(std::strerror(errno)));
+    if (file >= 0)
+        close(file);
+    return whole;
+}
+
+} // namespace AnimText

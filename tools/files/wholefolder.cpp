@@ -1,0 +1,134 @@
+#include "files/wholefolder.h"
+
+#include "files/wholefile.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QSet>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace AnimText {
+
+namespace {
+
+/** The first name below @p folder that is neither one of @p own nor a folder of these. */
+QString ForeignName(const QDir& folder, const QStringList& own)
+{
+    QStringList known = own;
+    for (const QString& name : own) {
+        for (int slash = name.indexOf(QLatin1Char('/')); slash > 0;
+             slash = name.indexOf(QLatin1Char('/'), slash + 1))
+            known.append(name.left(slash));
+    }
+    const QSet<QString> all(known.begin(), known.end());
+    QDirIterator entries(folder.path(),
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString name = folder.relativeFilePath(entries.next());
+        if (entries.fileInfo().isSymLink() || !all.contains(name))
+            return name;
+    }
+    return QString();
+}
+
+/** Removes @p own from @p folder, and the folders that are empty then. */
+void RemoveOwn(const QDir& folder, const QStringList& own)
+{
+    for (const QString& name : own) {
+        QFile::remove(folder.filePath(name));
+        if (name.contains(QLatin1Char('/')))
+            folder.rmdir(name.section(QLatin1Char('/'), 0, -2));
+    }
+    folder.rmdir(folder.path());
+}
+
+} // namespace
+
+WholeFolder::WholeFolder(const QString& path)
+    : path(QDir::cleanPath(QFileInfo(RealPath(QDir::cleanPath(path))).absoluteFilePath()))
+{
+}
+
+bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
+{
+    const QDir there(at);
+    QString protection = WriteProtection(at);
+    if (protection.isEmpty() && !there.isReadable())
+        protection = QStringLiteral("it cannot be read");
+    const QStringList own = protection.isEmpty() ? ownFiles(there) : QStringList();
+    QString culprit = path;
+    for (int i = 0; i < own.size() && protection.isEmpty(); ++i) {
+        culprit = there.filePath(own.at(i));
+        protection = WriteProtection(culprit);
+    }
+    if (!protection.isEmpty()) {
+        *error = QStringLiteral("%1 cannot be written: %2").arg(culprit, protection);
+        return false;
+    }
+    const QString foreign = ForeignName(there, own);
+    if (!foreign.isEmpty())
+        *error =
+            QStringLiteral("%1 also holds %2; name an empty or a new folder").arg(path, foreign);
+    return foreign.isEmpty();
+}
+
+bool WholeFolder::Open(const OwnFiles& own, QString* error)
+{
+    ownFiles = own;
+    const QFileInfo info(path);
+    if (info.exists() && !info.isDir()) {
+        *error = QStringLiteral("%1 is a file; give the folder another name").arg(path);
+        return false;
+    }
+    if (info.exists() && !IsReplaceable(path, error))
+        return false;
+    folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
+    if (folder->isValid())
+        return true;
+    *error = QStringLiteral("no folder can be made in %1: %2")
+                 .arg(info.absolutePath(), QString::fromLocal8Bit(std::strerror(errno)));
+    return false;
+}
+
+bool WholeFolder::Add(const QString& name, const QByteArray& content, QString* error)
+{
+    QFile file(folder->filePath(name));
+    QDir().mkpath(QFileInfo(file).path());
+    QString problem;
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        problem = file.errorString();
+    else if (WriteAll(&file, content, &problem)) {
+        bytes += content.size();
+        return true;
+    }
+    *error = QStringLiteral("%1/%2 cannot be written: %3").arg(path, name, problem);
+    return false;
+}
+
+bool WholeFolder::Finish(QString* error)
+{
+    const bool replaces = QFileInfo::exists(path);
+    const QString old = folder->path() + QStringLiteral(".old");
+    if (replaces && !IsReplaceable(path, error))
+        return false;
+    if (replaces && std::rename(QFile::encodeName(path), QFile::encodeName(old)) != 0) {
+        *error = QStringLiteral("%1 cannot be replaced: %2")
+                     .arg(path, QString::fromLocal8Bit(std::strerror(errno)));
+        return false;
+    }
+    if (!PutInPlace(folder->path(), path, 0777, error)) {
+        if (replaces)
+            QDir().rename(old, path);
+        return false;
+    }
+    folder->setAutoRemove(false);
+    if (replaces)
+        RemoveOwn(QDir(old), ownFiles(QDir(old)));
+    return true;
+}
+
+} // namespace AnimText

@@ -1,0 +1,163 @@
+#include "film/film.h"
+
+#include <hneonnodebase.h>
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int ticksOfAnHour = 3600 * 1000 / tickLength;
+
+int TicksOf(qint64 milliseconds)
+{
+    const qint64 ticks = (milliseconds + tickLength - 1) / tickLength;
+    return int(std::min<qint64>(ticks, ticksOfAnHour + 1));
+}
+
+int RoundedUpToEven(int number)
+{
+    return number + number % 2;
+}
+
+} // namespace
+
+Film::Film(Player* player, const Scene& scene, const FilmSettings& settings)
+    : player(player)
+    , scene(scene)
+    , settings(settings)
+{
+}
+
+QSize Film::FrameSize() const
+{
+    const QSize size = scene.display * settings.scale;
+    if (!settings.evenSize)
+        return size;
+    return {RoundedUpToEven(size.width()), RoundedUpToEven(size.height())};
+}
+
+int Film::PlannedFrames(const QVector<NodePlay>& plays)
+{
+    int lastTick = 0;
+    restTick = -1;
+    comesToRest = QVector<bool>(plays.size(), false);
+    for (int node = 0; node < plays.size(); ++node) {
+        Lw::HNeonNodeBase* animated = player->Scenery().Node(node);
+        switch (plays.at(node).ending) {
+        case Ending::Finishes: {
+            comesToRest[node] = true;
+            const int rest = settings.restAtEnd ? std::max(0, animated->GetHoldTime()) : 0;
+            restTick = std::max(restTick, plays.at(node).finishedTick);
+            lastTick = std::max(lastTick, plays.at(node).finishedTick + TicksOf(rest * 100LL));
+            break;
+        }
+        case Ending::ScrollsOn: {
+            const qint64 pass = ScrollPass(player->Scenery(), node);
+            // The picture after the last is the first again.
+            lastTick = std::max(lastTick, TicksOf(pass > 0 ? pass : animated->Duration()) - 1);
+            break;
+        }
+        case Ending::StandsStill:
+            lastTick = std::max(lastTick, TicksOf(animated->Duration()) - 1);
+            break;
+        case Ending::NothingToPlay: break;
+        case Ending::TooLong: return ticksOfAnHour + 1;
+        }
+    }
+    return lastTick + 1;
+}
+
+bool Film::Plan(const FilmWatch& watch, QString* error)
+{
+    const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / tickLength)));
+    if (settings.schedule) {
+        schedule = HostSchedule(scene, player->Durations());
+        frameCount = std::max(1, TicksOf(schedule.length));
+        if (settings.seconds > 0)
+            frameCount = std::min(frameCount, wanted);
+    } else if (settings.seconds > 0) {
+        frameCount = wanted;
+    } else if (!FindEnd(watch, error)) {
+        return false;
+    }
+    if (frameCount > ticksOfAnHour && settings.seconds <= 0) {
+        *error = QStringLiteral("%1: does not come to an end within an hour; say how much of it to "
+                                "play, for instance --seconds 60")
+                     .arg(scene.path);
+        return false;
+    }
+    return true;
+}
+
+bool Film::FindEnd(const FilmWatch& watch, QString* error)
+{
+    const BlankScene blank(scene);
+    if (!player->Load(blank.Get(), error))
+        return false;
+    bool brokenOff = false;
+    const auto look = [&](int tick) {
+        brokenOff = watch && !watch(tick, 0);
+        return !brokenOff;
+    };
+    const int longest = std::min(LongestPlay(scene), ticksOfAnHour + 1);
+    frameCount = PlannedFrames(PlayToEnd(player, longest, settings.seed, look));
+    if (brokenOff) {
+        *error = QStringLiteral("interrupted");
+        return false;
+    }
+    return true;
+}
+
+QImage Film::Picture() const
+{
+    const QImage shown = player->Picture();
+    const QSize size = FrameSize();
+    if (shown.size() == size && IsTransparent())
+        return shown;
+    QImage frame(size, IsTransparent() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    frame.fill(IsTransparent() ? QColor(Qt::transparent) : settings.background);
+    QPainter painter(&frame);
+    if (IsTransparent())
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QRect(QPoint(0, 0), scene.display * settings.scale), shown);
+    return frame;
+}
+
+bool Film::Play(const QVector<int>& wanted,
+                const std::function<bool(int frame, const QImage&)>& take, QString* error)
+{
+    // Some of what a play changes outlives a restart, the dazzling colours for one.
+    if (!player->Load(scene, error))
+        return false;
+    if (settings.schedule)
+        player->Start(schedule, settings.seed);
+    else
+        player->Start(settings.seed);
+    for (int frame : wanted) {
+        while (player->Tick() < frame) {
+            Rest();
+            player->Advance();
+        }
+        if (!take(frame, Picture()))
+            return false;
+    }
+    return true;
+}
+
+/** What has finished stands still from now on, if now is the time for it. */
+void Film::Rest()
+{
+    if (player->Tick() != restTick)
+        return;
+    for (int node = 0; node < comesToRest.size(); ++node) {
+        if (comesToRest.at(node))
+            player->Scenery().Render(node)->Pause();
+    }
+}
+
+} // namespace AnimText

@@ -1,0 +1,126 @@
+#include "film/filmprogram.h"
+
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <cstring>
+
+namespace AnimText {
+
+namespace {
+
+constexpr qint64 mostWaiting = 16 << 20; // bytes that the program has not taken yet
+constexpr int glance = 50;               // milliseconds from one look at the program to the next
+
+} // namespace
+
+FilmProgram::FilmProgram(const GoOn& goOn, int patience)
+    : goOn(goOn)
+    , patience(patience)
+{
+}
+
+FilmProgram::~FilmProgram()
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.kill();
+    process.waitForFinished(-1);
+}
+
+bool FilmProgram::Start(const QString& program, const QStringList& words, const QString& written,
+                        QString* error)
+{
+    const QString path = QStandardPaths::findExecutable(program);
+    if (path.isEmpty()) {
+        *error = QStringLiteral("the program %1, which films need, is not installed: apt-get "
+                                "install ffmpeg, or name a folder for PNGs")
+                     .arg(program);
+        return false;
+    }
+    output = written;
+    process.start(path, words);
+    if (process.waitForStarted(-1))
+        return true;
+    *error = QStringLiteral("%1 does not start: %2").arg(program, process.errorString());
+    return false;
+}
+
+/** A number that changes as long as the program gets on. */
+qint64 FilmProgram::Progress() const
+{
+    return (output.isEmpty() ? 0 : QFileInfo(output).size()) - process.bytesToWrite() +
+           process.bytesAvailable();
+}
+
+bool FilmProgram::WaitUntil(const std::function<bool()>& done, QString* error)
+{
+    QElapsedTimer standing;
+    standing.start();
+    qint64 progress = Progress();
+    while (!done() && process.state() != QProcess::NotRunning) {
+        if (!goOn()) {
+            *error = QStringLiteral("interrupted");
+            return false;
+        }
+        if (process.bytesToWrite() > 0)
+            process.waitForBytesWritten(glance);
+        else
+            process.waitForFinished(glance);
+        const qint64 now = Progress();
+        if (now != progress) {
+            progress = now;
+            standing.start();
+        } else if (standing.hasExpired(patience)) {
+            *error = QStringLiteral("%1 has stood still for %2 s and was ended")
+                         .arg(QFileInfo(process.program()).fileName())
+                         .arg(patience / 1000.0);
+            return false;
+        }
+    }
+    return true;
+}
+
+bool FilmProgram::Take(const QImage& picture, QString* error)
+{
+    for (int y = 0; y < picture.height(); ++y)
+        process.write(reinterpret_cast<const char*>(picture.constScanLine(y)),
+                      qint64(picture.width()) * 4);
+    if (!WaitUntil([this] { return process.bytesToWrite() <= mostWaiting; }, error))
+        return false;
+    if (process.state() == QProcess::Running)
+        return true;
+    *error = Complaint(process.readAllStandardError());
+    return false;
+}
+
+bool FilmProgram::Finish(QString* error)
+{
+    if (!WaitUntil([this] { return process.bytesToWrite() == 0; }, error))
+        return false;
+    process.closeWriteChannel();
+    if (!WaitUntil([] { return false; }, error))
+        return false;
+    const QByteArray said = process.readAllStandardError();
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 && said.isEmpty())
+        return true;
+    *error = Complaint(said);
+    return false;
+}
+
+/** What says most of @p said, on one line. */
+QString FilmProgram::Complaint(const QByteArray& said)
+{
+    const QString name = QFileInfo(process.program()).fileName();
+    // What follows a full disk tells less of it.
+    for (int cause : {ENOSPC, EFBIG, EDQUOT, EIO}) {
+        if (said.contains(std::strerror(cause)))
+            return QStringLiteral("%1 failed: %2").arg(name, std::strerror(cause));
+    }
+    const QString all = QString::fromLocal8Bit(said).trimmed();
+    const QString last = all.mid(all.lastIndexOf(QLatin1Char('\n')) + 1).trimmed();
+    return QStringLiteral("%1 failed: %2").arg(name, last.isEmpty() ? process.errorString() : last);
+}
+
+} // namespace AnimText

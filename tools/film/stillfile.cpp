@@ -1,0 +1,106 @@
+#include "film/stillfile.h"
+
+#include "files/wholefile.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QHash>
+#include <QImageWriter>
+#include <QVector>
+
+namespace AnimText {
+
+namespace {
+
+/** The same picture by a table of its colours; as it is when that would be too long. */
+QImage Indexed(const QImage& picture)
+{
+    constexpr int mostColours = 256;
+    QImage indexed(picture.size(), QImage::Format_Indexed8);
+    QHash<QRgb, uchar> indices;
+    QVector<QRgb> colours;
+    QRgb lastPixel = 0;
+    uchar lastIndex = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        uchar* to = indexed.scanLine(y);
+        for (int x = 0; x < picture.width(); ++x) {
+            if (from[x] != lastPixel || colours.isEmpty()) {
+                lastPixel = from[x];
+                const auto known = indices.constFind(lastPixel);
+                if (known == indices.constEnd() && colours.size() == mostColours)
+                    return picture;
+                lastIndex = known == indices.constEnd() ? uchar(colours.size()) : *known;
+                if (known == indices.constEnd()) {
+                    indices.insert(lastPixel, lastIndex);
+                    colours.append(lastPixel);
+                }
+            }
+            to[x] = lastIndex;
+        }
+    }
+    indexed.setColorTable(colours);
+    return indexed;
+}
+
+const QString softwareMark = QStringLiteral("animtext");
+constexpr qint64 largestHead = 4096; // bytes before the pixels: with 256 colors, less than 2000
+
+} // namespace
+
+QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
+{
+    if (!transparent)
+        picture.reinterpretAsFormat(QImage::Format_RGB32);
+    QByteArray png;
+    QBuffer buffer(&png);
+    QImageWriter writer(&buffer, "png");
+    // A quarter of the bytes to compress, and none of libpng's search for the best filter.
+    QImage indexed = Indexed(picture);
+    if (effort == PngEffort::Small && indexed.colorCount() == 2)
+        indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
+    writer.setText(QStringLiteral("Software"), softwareMark);
+    writer.setCompression(effort == PngEffort::Small ? 67 : 11); // levels 6 and 1 of zlib
+    return writer.write(indexed) ? png : QByteArray();
+}
+
+bool IsOurPng(const QString& path)
+{
+    // libpng would complain aloud about a file that is damaged.
+    QFile file(path);
+    const QByteArray mark = QByteArrayLiteral("tEXtSoftware\0") + softwareMark.toLatin1();
+    return file.open(QIODevice::ReadOnly) && file.read(largestHead).contains(mark);
+}
+
+bool WritePng(const QString& path, const QByteArray& png, QString* error)
+{
+    if (!png.isEmpty())
+        return WriteWhole(path, png, error);
+    *error = QStringLiteral("%1 cannot be written: the picture is too large").arg(path);
+    return false;
+}
+
+StillFile::StillFile(const QString& path)
+    : path(QFileInfo(path).absoluteFilePath())
+{
+}
+
+bool StillFile::Open(const FilmFormat& format, QString* error)
+{
+    transparent = format.transparent;
+    QString target;
+    return FindTarget(path, &target, error);
+}
+
+bool StillFile::Add(int, const QImage& picture, QString*)
+{
+    png = PngOf(picture, transparent);
+    return true;
+}
+
+bool StillFile::Finish(QString* error)
+{
+    return WritePng(path, png, error);
+}
+
+} // namespace AnimText

@@ -1,0 +1,47 @@
+#include "layout/glyphfiles.h"
+
+#include <QDataStream>
+#include <QIODevice>
+
+namespace AnimText {
+namespace {
+
+template <typename T>
+QByteArray Serialised(const T& value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_8);
+    stream << value;
+    return bytes;
+}
+
+} // namespace
+
+QByteArray PathFile(const QVector<QPainterPath>& outlines)
+{
+    return Serialised(Serialised(outlines).toBase64());
+}
+
+int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes)
+{
+    // A length, then four characters for every three bytes; an empty outline is its size alone.
+    const qint64 room = (bytes - 4) / 4 * 3;
+    qint64 taken = 4;
+    int fitting = 0;
+    for (const QPainterPath& outline : outlines) {
+        const qint64 elements = outline.elementCount();
+        taken += elements == 0 ? 4 : 4 + 20 * elements + 8;
+        if (taken > room)
+            break;
+        ++fitting;
+    }
+    return fitting;
+}
+
+QByteArray DescentFile(const QVector<int>& descents)
+{
+    return Serialised(Serialised(descents).toBase64());
+}
+
+} // namespace AnimText

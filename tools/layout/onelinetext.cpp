@@ -1,0 +1,70 @@
+#include "layout/styledtext.h"
+
+namespace AnimText {
+namespace {
+
+bool IsLineBreak(QChar unit)
+{
+    switch (unit.unicode()) {
+    case '\n':
+    case '\v':
+    case '\f':
+    case '\r':
+    case 0x85:
+    case 0x2028:
+    case 0x2029: return true;
+    default: return false;
+    }
+}
+
+} // namespace
+
+bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
+{
+    StyledText line;
+    line.sized = text->sized;
+    int breaks = 0;
+    int tabs = 0;
+    const QString& units = text->text;
+    for (int i = 0; i < units.size(); ++i) {
+        const QChar unit = units.at(i);
+        const QChar next = i + 1 < units.size() ? units.at(i + 1) : QChar();
+        if (unit == QLatin1Char('\r') && next == QLatin1Char('\n'))
+            continue;
+        const bool paired = unit.isHighSurrogate() && next.isLowSurrogate();
+        const bool isBreak = IsLineBreak(unit);
+        const bool isTab = unit == QLatin1Char('\t');
+        if (isBreak && i + 1 == units.size())
+            break;
+        breaks += isBreak ? 1 : 0;
+        tabs += isTab ? 1 : 0;
+        if (!isBreak && !isTab && !paired &&
+            (unit.isSurrogate() || unit.category() == QChar::Other_Control)) {
+            *error = QStringLiteral("character %1 of the text, U+%2, cannot be shown")
+                         .arg(i + 1)
+                         .arg(QString::number(unit.unicode(), 16)
+                                  .toUpper()
+                                  .rightJustified(4, QLatin1Char('0')));
+            return false;
+        }
+        line.Append(isBreak || isTab ? QStringLiteral(" ") : units.mid(i, paired ? 2 : 1),
+                    text->At(i));
+        i += paired ? 1 : 0;
+    }
+    if (line.text.trimmed().isEmpty()) {
+        *error =
+            QStringLiteral("expected a text, found %1")
+                .arg(line.text.isEmpty() ? QStringLiteral("none") : QStringLiteral("only blanks"));
+        return false;
+    }
+    *text = line;
+    if (breaks > 0)
+        notes->append(breaks == 1 ? QStringLiteral("a line break became a space")
+                                  : QStringLiteral("%1 line breaks became spaces").arg(breaks));
+    if (tabs > 0)
+        notes->append(tabs == 1 ? QStringLiteral("a tab became a space")
+                                : QStringLiteral("%1 tabs became spaces").arg(tabs));
+    return true;
+}
+
+} // namespace AnimText

@@ -1,0 +1,321 @@
+#include "layout/placement.h"
+
+#include "layout/seams.h"
+#include "layout/wordpages.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace AnimText {
+namespace {
+
+/** Each cluster's width, such that the line's rounded edges lie between them. */
+QVector<int> ClusterWidths(const ShapedLine& line)
+{
+    QVector<int> widths(line.clusters.size());
+    qreal edge = 0;
+    for (int k : line.visualOrder) {
+        const int left = qRound(edge);
+        edge += line.clusters[k].advance;
+        widths[k] = qRound(edge) - left;
+    }
+    return widths;
+}
+
+/**
+ * With points at 64ths of a pixel, where the sign's painter fills anyway: it then halves curves
+ * without rounding and can copy a glyph that moves, and no shape moves by more than 1/128.
+ */
+QPainterPath OnGrid(QPainterPath path)
+{
+    const auto rounded = [](qreal v) { return std::round(v * 64) / 64 + 0.0; }; // no -0
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element& e = path.elementAt(i);
+        path.setElementPositionAt(i, rounded(e.x), rounded(e.y));
+    }
+    return path;
+}
+
+QPainterPath Underlined(const QPainterPath& shape, int width, const Bar& bar)
+{
+    if (bar.height <= 0 || width <= 0)
+        return shape;
+    QPainterPath underline;
+    underline.addRect(0, bar.top, width, bar.height);
+    if (shape.isEmpty())
+        return underline;
+    QPainterPath both = WithoutSharedArea(shape, underline);
+    both.addPath(underline);
+    return both;
+}
+
+/** A place on the sign: of a cluster, or of an added space. */
+struct Cell
+{
+    int cluster; // or -1
+    int width;
+};
+
+class Setter
+{
+public:
+    Setter(const QString& text, const ShapedLine& line, const Setting& setting)
+        : text(text)
+        , line(line)
+        , setting(setting)
+        , widths(ClusterWidths(line))
+        , seenAt(line.clusters.size())
+        , outlines(line.clusters.size())
+    {
+        widest = widths.isEmpty() ? 0 : *std::max_element(widths.begin(), widths.end());
+    }
+
+    PlacedText Set()
+    {
+        switch (setting.arrangement) {
+        case Arrangement::Pages:
+        case Arrangement::PagesFromEnd: SetPages(); break;
+        case Arrangement::Line: SetPage({0, 0, Count(), Count()}, true); break;
+        case Arrangement::Column: SetColumn(); break;
+        }
+        SetHeights();
+        return result;
+    }
+
+private:
+    int Count() const { return line.clusters.size(); }
+    bool FromEnd() const { return setting.arrangement == Arrangement::PagesFromEnd; }
+
+    void SetPages()
+    {
+        const int room = qMax(1, setting.area.width() - 2 * setting.padding);
+        const QVector<LinePiece> pieces = Pieces();
+        const QVector<PageCut> pages = CutPages(pieces, room, FromEnd());
+        for (int p = 0; p < pages.size(); ++p)
+            SetPage(pages[p], FromEnd() ? p == 0 : p + 1 == pages.size());
+        if (!setting.keepsWords)
+            return;
+        for (int p = 1; p < pages.size(); ++p) {
+            if (!pieces[pages[p].seen].mayBegin)
+                NoteTornWord(pieces, pages[p].seen);
+        }
+    }
+
+    QVector<LinePiece> Pieces() const
+    {
+        QVector<bool> mayBegin(text.size() + 1);
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+        for (int at = finder.toNextBoundary(); at >= 0; at = finder.toNextBoundary())
+            mayBegin[at] = true;
+        QVector<LinePiece> pieces;
+        for (int k = 0; k < Count(); ++k) {
+            const int first = line.clusters[k].first;
+            const bool isBlank = text.at(first).isSpace() && text.at(first) != QChar::Nbsp;
+            pieces.append(
+                {widths[k], setting.keepsWords && isBlank, setting.keepsWords && mayBegin[first]});
+        }
+        return pieces;
+    }
+
+    void NoteTornWord(const QVector<LinePiece>& pieces, int within)
+    {
+        int begin = within;
+        int end = within;
+        while (begin > 0 && !pieces[begin].mayBegin)
+            --begin;
+        while (end < Count() && !pieces[end].mayBegin)
+            ++end;
+        const int first = line.clusters[begin].first;
+        const int last = end < Count() ? line.clusters[end].first : text.size();
+        const QString word = text.mid(first, last - first).trimmed();
+        if (result.tornWords.isEmpty() || result.tornWords.last() != word)
+            result.tornWords.append(word);
+    }
+
+    /** @param isLast on the sign no page is turned behind this one */
+    void SetPage(const PageCut& page, bool isLast)
+    {
+        QVector<int> members; // those that are seen, from left to right
+        members.reserve(page.seenEnd - page.seen);
+        if (page.seen == 0 && page.seenEnd == Count()) {
+            members = line.visualOrder;
+        } else {
+            for (int k = page.seen; k < page.seenEnd; ++k)
+                members.append(k);
+            std::sort(members.begin(), members.end(),
+                      [this](int a, int b) { return Rank(a) < Rank(b); });
+        }
+        int seenWidth = 0;
+        for (int k : members)
+            seenWidth += widths[k];
+        const int left = LeftOf(seenWidth);
+        SetOutlines(members, left);
+
+        const QVector<Cell> cells = Cells(page, seenWidth, left, isLast);
+        int x = 0;
+        if (FromEnd()) {
+            x = setting.area.width();
+            for (const Cell& cell : cells)
+                x -= cell.width;
+        }
+        for (const Cell& cell : cells) {
+            Append(cell, x);
+            x += cell.width;
+        }
+    }
+
+    /** Where cluster @p k stands in the visual order. */
+    int Rank(int k)
+    {
+        if (ranks.isEmpty()) {
+            ranks.resize(Count());
+            for (int i = 0; i < Count(); ++i)
+                ranks[line.visualOrder[i]] = i;
+        }
+        return ranks[k];
+    }
+
+    /** The left edge of a page's text that is @p width wide. */
+    int LeftOf(int width) const
+    {
+        if (setting.arrangement == Arrangement::Line)
+            return 0;
+        const int right = setting.area.width() - setting.padding - width;
+        switch (setting.align) {
+        case Align::Left: return setting.padding;
+        case Align::Center: return (setting.area.width() - width) / 2;
+        case Align::Right: return right;
+        case Align::Natural: break;
+        }
+        return FromEnd() || line.rightToLeft ? right : setting.padding;
+    }
+
+    /** The outlines of @p members, given from left to right, where they are seen. */
+    void SetOutlines(const QVector<int>& members, int left)
+    {
+        int before = -1;
+        for (int k : members) {
+            seenAt[k] = left;
+            outlines[k] = Underlined(line.clusters[k].shape, widths[k], line.clusters[k].underline);
+            if (before >= 0)
+                outlines[k] = WithoutSharedArea(
+                    outlines[k], outlines[before].translated(seenAt[before] - left, 0));
+            before = k;
+            left += widths[k];
+        }
+    }
+
+    /** The places of a page in the order of the text. */
+    QVector<Cell> Cells(const PageCut& page, int seenWidth, int left, bool isLast) const
+    {
+        QVector<Cell> cells;
+        for (int k = page.begin; k < page.end; ++k)
+            cells.append({k, k >= page.seen && k < page.seenEnd ? widths[k] : 0});
+        if (setting.arrangement == Arrangement::Line)
+            return cells;
+        const int lead = setting.needsPlaces ? qMax(0, left) : 0;
+        int rest = setting.area.width() - seenWidth - lead;
+        const bool fills = rest > 0 && (!isLast || lead > 0) && !IsTurnedAnyway(page);
+        if (fills) {
+            const int most = setting.needsEvenWidths ? qMax(1, widest) : rest;
+            int at = FromEnd() ? 0 : cells.size() - 1;
+            const int turned = FromEnd() ? page.begin : page.end - 1;
+            const bool hasSpace = turned < page.seen || turned >= page.seenEnd;
+            if (hasSpace) {
+                cells[at].width = qMin(rest, most);
+                rest -= cells[at].width;
+            } else if (!setting.needsPlaces) {
+                cells[at].width += rest;
+                rest = 0;
+            }
+            for (; rest > 0; rest -= cells.last().width)
+                cells.append({-1, qMin(rest, most)});
+        }
+        const int most = setting.needsEvenWidths ? qMax(1, widest) : qMax(1, lead);
+        for (int margin = lead; margin > 0; margin -= cells.first().width)
+            cells.prepend({-1, qMin(margin, most)});
+        return cells;
+    }
+
+    /** True where the sign turns the page by itself, as it does between any two letters. */
+    bool IsTurnedAnyway(const PageCut& page) const
+    {
+        if (setting.keepsWords || setting.needsPlaces)
+            return false;
+        int sum = 0;
+        for (int k = page.begin; k < page.end; ++k)
+            sum += widths[k];
+        const int next = FromEnd() ? page.begin - 1 : page.end;
+        return next < 0 || next >= Count() || sum + widths[next] > setting.area.width();
+    }
+
+    void SetColumn()
+    {
+        const int middle = (setting.area.width() - widest) / 2; // where the sign begins them all
+        for (int k = 0; k < Count(); ++k) {
+            seenAt[k] = setting.align == Align::Natural ? 0 : LeftOf(widths[k]) - middle;
+            outlines[k] = Underlined(line.clusters[k].shape, widths[k], line.clusters[k].underline);
+            Append({k, widths[k]}, 0);
+        }
+    }
+
+    /** Appends the units of @p cell, which lies at @p x of its page. */
+    void Append(const Cell& cell, int x)
+    {
+        const bool isAdded = cell.cluster < 0;
+        const int units = isAdded ? 1 : line.clusters[cell.cluster].units;
+        const int first = isAdded ? 0 : line.clusters[cell.cluster].first;
+        for (int u = 0; u < units; ++u) {
+            result.text += isAdded ? QChar(QLatin1Char(' ')) : text.at(first + u);
+            result.source.append(first + u);
+            result.outlines.append(QPainterPath());
+            result.widths.append(u == 0 ? cell.width : 0);
+            result.heights.append(u == 0 ? line.ascent + line.descent : 0);
+        }
+        if (!isAdded)
+            result.outlines[result.outlines.size() - units] =
+                OnGrid(outlines[cell.cluster].translated(seenAt[cell.cluster] - x, 0));
+    }
+
+    /** Heights and descents decide how far below the middle the baseline lies. */
+    void SetHeights()
+    {
+        const int height = line.ascent + line.descent;
+        const int middle = setting.area.height() / 2 + height / 2 - line.descent;
+        int up = 0; // of the baseline, from where it is in the middle
+        if (setting.valign == VAlign::Top)
+            up = middle - setting.padding - line.ascent;
+        else if (setting.valign == VAlign::Bottom)
+            up = middle - (setting.area.height() - setting.padding - line.descent);
+        if (setting.arrangement == Arrangement::Column)
+            up = 0;
+        // A higher line box that reaches as far below the baseline as it is higher leaves the
+        // letters' height above the baseline as it was; half of it moves the baseline.
+        const int higher = setting.reachesTop && up > 0 ? 2 * up : 0;
+        for (int& own : result.heights)
+            own += own > 0 ? higher : 0;
+        result.descents.fill(line.descent + (higher > 0 ? higher : up), result.text.size());
+    }
+
+    const QString& text;
+    const ShapedLine& line;
+    const Setting& setting;
+    const QVector<int> widths;      // of the clusters
+    QVector<int> seenAt;            // left edge of each cluster on its page
+    QVector<QPainterPath> outlines; // of the clusters
+    QVector<int> ranks;
+    int widest = 0;
+    PlacedText result;
+};
+
+} // namespace
+
+PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting)
+{
+    return Setter(text, line, setting).Set();
+}
+
+} // namespace AnimText

@@ -1,0 +1,76 @@
+#include "layout/seams.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace AnimText {
+namespace {
+
+/** The pixels that the paths cover, each filled by its own rule, on a canvas for @p box. */
+QImage Coverage(const QRectF& box, std::initializer_list<QPainterPath> paths)
+{
+    const QRect canvas = box.toAlignedRect().adjusted(-1, -1, 1, 1);
+    QImage image(canvas.size().boundedTo(QSize(4096, 4096)), QImage::Format_Grayscale8);
+    image.fill(0);
+    QPainter painter(&image);
+    painter.translate(-canvas.topLeft());
+    for (const QPainterPath& path : paths)
+        painter.fillPath(path, Qt::white);
+    return image;
+}
+
+int DifferentPixels(const QImage& a, const QImage& b)
+{
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        const uchar* rowA = a.constScanLine(y);
+        const uchar* rowB = b.constScanLine(y);
+        for (int x = 0; x < a.width(); ++x)
+            count += rowA[x] != rowB[x] ? 1 : 0;
+    }
+    return count;
+}
+
+QPainterPath ByOddEven(QPainterPath path)
+{
+    path.setFillRule(Qt::OddEvenFill);
+    return path;
+}
+
+} // namespace
+
+QPainterPath WithoutOverlaps(const QPainterPath& path)
+{
+    const QRectF box = path.boundingRect();
+    if (path.isEmpty() || path.fillRule() == Qt::OddEvenFill)
+        return path;
+    const QImage wanted = Coverage(box, {path});
+    const int holes = DifferentPixels(wanted, Coverage(box, {ByOddEven(path)}));
+    if (holes == 0)
+        return path;
+    // The toolkit's path arithmetic is good but not perfect; what it answers must be the better.
+    const QPainterPath simple = ByOddEven(path.simplified());
+    return DifferentPixels(wanted, Coverage(box, {simple})) < holes ? simple : path;
+}
+
+QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbour)
+{
+    if (path.isEmpty() || neighbour.isEmpty() ||
+        !path.boundingRect().intersects(neighbour.boundingRect()))
+        return path;
+    const QRectF box = path.boundingRect().united(neighbour.boundingRect());
+    const QImage wanted = Coverage(box, {path, neighbour});
+    const auto holes = [&](const QPainterPath& rest) {
+        QPainterPath both;
+        both.addPath(rest);
+        both.addPath(neighbour);
+        return DifferentPixels(wanted, Coverage(box, {both}));
+    };
+    const int before = holes(path);
+    if (before == 0)
+        return path;
+    const QPainterPath rest = path.subtracted(neighbour);
+    return holes(rest) < before ? rest : path;
+}
+
+} // namespace AnimText

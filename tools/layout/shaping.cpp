@@ -1,0 +1,353 @@
+#include "layout/shaping.h"
+
+#include "layout/seams.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QHash>
+#include <QRawFont>
+#include <QTextLayout>
+#include <QtMath>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+// Asking a line for the glyphs of one unit costs as much as the line is long. The layout is
+// therefore cut into short lines, which changes nothing in the shapes: they are made before.
+const int columnsPerLine = 100;
+
+const qreal tolerance = 0.02; // pixels; the layout counts in 1/64
+
+QTextOption Option(QTextOption::WrapMode wrap, Qt::LayoutDirection direction)
+{
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(direction);
+    option.setWrapMode(wrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    return option;
+}
+
+// That of the first letter.
+const Qt::LayoutDirection ownDirection = Qt::LayoutDirectionAuto;
+
+/** The text with its styles, not laid out yet. */
+void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* layout,
+             Qt::LayoutDirection direction = ownDirection)
+{
+    QVector<QTextLayout::FormatRange> formats;
+    for (int r = 0; r < text.runs.size(); ++r) {
+        const int begin = text.runs[r].begin;
+        const int end = r + 1 < text.runs.size() ? text.runs[r + 1].begin : text.text.size();
+        QTextCharFormat format;
+        format.setFont(text.runs[r].font);
+        formats.append({begin, end - begin, format});
+    }
+    layout->setText(text.text);
+    layout->setFont(text.runs.first().font);
+    layout->setFormats(formats);
+    layout->setTextOption(Option(wrap, direction));
+}
+
+/** The text on one line, which lives as long as its @p layout. */
+QTextLine WholeLine(const StyledText& text, QTextLayout* layout,
+                    Qt::LayoutDirection direction = ownDirection)
+{
+    Prepare(text, QTextOption::NoWrap, layout, direction);
+    layout->beginLayout();
+    QTextLine line = layout->createLine();
+    line.setLineWidth(1 << 24);
+    layout->endLayout();
+    return line;
+}
+
+/** Where the reading of a unit begins and ends. */
+struct Edges
+{
+    qreal leading;
+    qreal trailing;
+};
+
+/** @p fromRight is the text's direction; @p width answers how wide the unit is. */
+template <typename Width>
+Edges EdgesOf(const QTextLine& line, int unit, bool fromRight, Width width)
+{
+    Edges edges{line.cursorToX(unit, QTextLine::Leading),
+                line.cursorToX(unit, QTextLine::Trailing)};
+#if QT_VERSION >= 0x060000
+    // Where words of the other direction begin, a cursor of Qt 6 stands before them, not at their
+    // first unit, and behind ligatures it may do so too. The glyph itself stands where it should.
+    const QList<QGlyphRun> glyphs = line.glyphRuns(unit, 1);
+    if (!glyphs.isEmpty() && glyphs.first().isRightToLeft() != fromRight) {
+        const qreal left = glyphs.first().positions().first().x();
+        edges = fromRight ? Edges{left, left + width()} : Edges{left + width(), left};
+    }
+#else
+    Q_UNUSED(fromRight)
+    Q_UNUSED(width)
+#endif
+    return edges;
+}
+
+Bar UnderlineOf(const QFont& font)
+{
+    if (!font.underline())
+        return Bar();
+    const QFontMetricsF metrics(font);
+    const qreal height = qMax(1, qRound(metrics.lineWidth()));
+    return {qreal(qRound(metrics.underlinePos() - height / 2)), height};
+}
+
+/** A cluster where the short lines have it. */
+struct PlacedCluster
+{
+    int line;
+    qreal leading;  // x of the edge at which reading begins
+    qreal trailing; // x of the edge at which reading ends
+    int groups;     // of units that share a glyph
+
+    bool RightToLeft() const { return leading > trailing; }
+    qreal Left() const { return qMin(leading, trailing); }
+};
+
+class Shaper
+{
+public:
+    explicit Shaper(const StyledText& text)
+        : text(text)
+    {
+        for (const StyleRun& run : text.runs)
+            underlines.append(UnderlineOf(run.font));
+    }
+
+    ShapedLine Shape()
+    {
+        result.rightToLeft = text.text.isRightToLeft();
+        QTextLayout layout;
+        Prepare(text, QTextOption::WrapAnywhere, &layout);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+            line.setNumColumns(columnsPerLine);
+        layout.endLayout();
+
+        for (int i = 0; i < layout.lineCount(); ++i)
+            AddLine(layout, layout.lineAt(i));
+        result.visualOrder = VisualOrder();
+        return result;
+    }
+
+private:
+    /** How wide a unit is that stands among words of the other direction. */
+    qreal WidthAmongTheOthers(int unit)
+    {
+        if (turned.text().isEmpty())
+            WholeLine(text, &turned, result.rightToLeft ? Qt::LeftToRight : Qt::RightToLeft);
+        const QTextLine line = turned.lineAt(0);
+        return qAbs(line.cursorToX(unit, QTextLine::Trailing) - line.cursorToX(unit));
+    }
+
+    void AddLine(const QTextLayout& layout, const QTextLine& line)
+    {
+        result.ascent = qMax(result.ascent, qCeil(line.ascent()));
+        result.descent = qMax(result.descent, qCeil(line.descent()));
+        const int begin = result.clusters.size();
+        const int end = line.textStart() + line.textLength();
+        for (int i = line.textStart(); i < end; ++i) {
+            const bool sharesGlyph = i > line.textStart() && SharesGlyph(line, i);
+            const bool continues =
+                i > line.textStart() && (sharesGlyph || !layout.isValidCursorPosition(i));
+            if (continues) {
+                ++result.clusters.last().units;
+                places.last().groups += sharesGlyph ? 0 : 1;
+                continue;
+            }
+            Cluster cluster;
+            cluster.first = i;
+            cluster.units = 1;
+            cluster.underline = underlines[int(&text.At(i) - text.runs.constData())];
+            result.clusters.append(cluster);
+            const Edges edges =
+                EdgesOf(line, i, result.rightToLeft, [&] { return WidthAmongTheOthers(i); });
+            places.append({line.lineNumber(), edges.leading, edges.trailing, 1});
+        }
+        for (int k = begin; k < result.clusters.size(); ++k) {
+            if (places[k].groups > 1)
+                places[k].trailing = EndOf(places[k], begin, line);
+        }
+        for (int k = begin; k < result.clusters.size(); ++k)
+            Outline(line, places[k], &result.clusters[k]);
+    }
+
+    /** True when the glyph of unit @p i is the one of the unit before. */
+    static bool SharesGlyph(const QTextLine& line, int i)
+    {
+        const QList<QGlyphRun> own = line.glyphRuns(i, 1);
+        const QList<QGlyphRun> before = line.glyphRuns(i - 1, 1);
+        if (own.isEmpty() || before.isEmpty())
+            return own.isEmpty();
+        return own.first().glyphIndexes().first() == before.first().glyphIndexes().first() &&
+               own.first().positions().first() == before.first().positions().first();
+    }
+
+    /**
+     * The edge at which the reading of @p place, a syllable of several glyphs, ends. The layout
+     * tells only the end of its first glyph; clusters lie side by side, so the syllable ends where
+     * the next one begins.
+     */
+    qreal EndOf(const PlacedCluster& place, int firstOfLine, const QTextLine& line) const
+    {
+        const qreal sign = place.RightToLeft() ? -1 : 1;
+        const qreal least = sign * place.trailing - tolerance;
+        qreal end = place.RightToLeft() ? 0 : line.naturalTextWidth();
+        const auto consider = [&](qreal edge) {
+            if (sign * edge >= least && sign * edge < sign * end)
+                end = edge;
+        };
+        consider(line.cursorToX(line.textStart() + line.textLength()));
+        for (int k = firstOfLine; k < places.size(); ++k) {
+            consider(places[k].leading);
+            if (places[k].groups == 1)
+                consider(places[k].trailing);
+        }
+        return end;
+    }
+
+    void Outline(const QTextLine& line, const PlacedCluster& place, Cluster* cluster)
+    {
+        cluster->advance = qAbs(place.trailing - place.leading);
+        const QPointF origin(place.Left(), line.y() + line.ascent());
+        cluster->shape.setFillRule(Qt::WindingFill);
+        QPainterPath single; // the one glyph of a cluster that has but one
+        int parts = 0;
+        QVector<QRawFont> fonts;
+        bool lacksGlyph = false;
+        for (const QGlyphRun& run : line.glyphRuns(cluster->first, cluster->units)) {
+            const QVector<quint32> glyphs = run.glyphIndexes();
+            const QVector<QPointF> positions = run.positions();
+            fonts.append(run.rawFont());
+            for (int i = 0; i < glyphs.size(); ++i) {
+                const Glyph& glyph = GlyphOf(run.rawFont(), glyphs[i]);
+                lacksGlyph = lacksGlyph || glyphs[i] == 0;
+                if (glyph.outline.isEmpty())
+                    continue;
+                ++parts;
+                cluster->shape.addPath(glyph.outline.translated(positions[i] - origin));
+                single = glyph.withoutOverlaps.translated(positions[i] - origin);
+            }
+        }
+        cluster->shape = parts > 1 ? WithoutOverlaps(cluster->shape) : single;
+        if (lacksGlyph)
+            FindMissing(fonts, cluster);
+    }
+
+    /** A letter whose accent is missing is there, and so is a digit with its style of emoji. */
+    void FindMissing(const QVector<QRawFont>& fonts, Cluster* cluster) const
+    {
+        const int end = cluster->first + cluster->units;
+        for (int i = cluster->first; i < end; ++i) {
+            const bool isPair = text.text.at(i).isHighSurrogate() && i + 1 < end;
+            const uint codePoint = text.text.mid(i, isPair ? 2 : 1).toUcs4().value(0);
+            if (std::none_of(fonts.begin(), fonts.end(), [&](const QRawFont& font) {
+                    return font.supportsCharacter(codePoint);
+                }))
+                cluster->missing.append(i);
+            i += isPair ? 1 : 0;
+        }
+    }
+
+    struct Glyph
+    {
+        QPainterPath outline;
+        QPainterPath withoutOverlaps;
+    };
+
+    const Glyph& GlyphOf(const QRawFont& font, quint32 glyph)
+    {
+        const QPair<QRawFont, quint32> key(font, glyph);
+        auto known = glyphs.constFind(key);
+        if (known == glyphs.constEnd()) {
+            QPainterPath path;
+            if (glyph != 0) // the font's mark for "unknown" would look like a letter
+                path = font.pathForGlyph(glyph);
+            path.setFillRule(Qt::WindingFill); // what outline fonts are drawn for
+            known = glyphs.insert(key, {path, WithoutOverlaps(path)});
+        }
+        return *known;
+    }
+
+    /** The clusters from left to right. */
+    QVector<int> VisualOrder() const
+    {
+        QVector<int> order;
+        order.reserve(places.size());
+        const bool mixed = std::any_of(places.begin(), places.end(),
+                                       [](const PlacedCluster& p) { return p.RightToLeft(); });
+        if (!mixed) {
+            for (int i = 0; i < places.size(); ++i)
+                order.append(i);
+            return order;
+        }
+
+        // Clusters that follow one another in the same direction keep together on any line that
+        // holds them all; only where such a sequence stands has to be asked of the whole line.
+        QTextLayout layout;
+        const QTextLine line = WholeLine(text, &layout);
+
+        struct Sequence
+        {
+            qreal left;
+            int begin;
+            int end;
+        };
+        QVector<Sequence> sequences;
+        for (int begin = 0, end; begin < places.size(); begin = end) {
+            qreal width = result.clusters[begin].advance;
+            for (end = begin + 1; end < places.size() && Follows(end); ++end)
+                width += result.clusters[end].advance;
+            const qreal leading =
+                EdgesOf(line, result.clusters[begin].first, result.rightToLeft, [&] {
+                    return result.clusters[begin].advance;
+                }).leading;
+            sequences.append({places[begin].RightToLeft() ? leading - width : leading, begin, end});
+        }
+        std::stable_sort(sequences.begin(), sequences.end(),
+                         [](const Sequence& a, const Sequence& b) { return a.left < b.left; });
+        for (const Sequence& s : sequences) {
+            for (int i = s.begin; i < s.end; ++i)
+                order.append(places[s.begin].RightToLeft() ? s.begin + s.end - 1 - i : i);
+        }
+        return order;
+    }
+
+    bool Follows(int i) const
+    {
+        const PlacedCluster& before = places[i - 1];
+        const PlacedCluster& own = places[i];
+        return before.line == own.line && before.RightToLeft() == own.RightToLeft() &&
+               qAbs(before.trailing - own.leading) < tolerance;
+    }
+
+    const StyledText& text;
+    QVector<Bar> underlines; // by run
+    ShapedLine result;
+    QVector<PlacedCluster> places;
+    QTextLayout turned; // the text as if its letters ran the other way; empty until it is asked
+    QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
+};
+
+} // namespace
+
+ShapedLine ShapeLine(const StyledText& text)
+{
+    return Shaper(text).Shape();
+}
+
+LineSize MeasureLine(const StyledText& text)
+{
+    QTextLayout layout;
+    const QTextLine line = WholeLine(text, &layout);
+    return {qCeil(line.ascent()), qCeil(line.descent()), qCeil(line.naturalTextWidth())};
+}
+
+} // namespace AnimText

@@ -1,0 +1,51 @@
+/**
+ * @file
+ * A text whose characters have styles of their own.
+ */
+#ifndef ANIMTEXT_STYLEDTEXT_H
+#define ANIMTEXT_STYLEDTEXT_H
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace AnimText {
+
+// Font sizes in pixels.
+constexpr int smallestReadableSize = 4; ///< nothing smaller can be read
+constexpr int largestFontSize = 2000;
+
+/** The style of the units from @c begin up to the next run's. */
+struct StyleRun
+{
+    int begin = 0; ///< UTF-16 unit
+    QFont font;    ///< family, weight, slant, underline; the size in pixels
+    QColor color;
+};
+
+struct StyledText
+{
+    QString text;
+    QVector<StyleRun> runs; ///< the first begins at 0; they follow one another
+    bool sized = false;     ///< sizes were given for parts of it
+
+    /** The style of unit @p index. */
+    const StyleRun& At(int index) const;
+    /** Appends @p more in the style of @p run; equal neighbours become one run. */
+    void Append(const QString& more, const StyleRun& run);
+    /** All sizes times @p factor, in whole pixels, 1 at least. */
+    StyledText Scaled(qreal factor) const;
+};
+
+/**
+ * @p text as one line: line breaks and tabs become spaces, one line break at the end is dropped.
+ * @param notes takes a line on each kind of change
+ * @return false when it holds what cannot be shown, and then @p error has one line on it
+ */
+bool ToOneLine(StyledText* text, QStringList* notes, QString* error);
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,97 @@
+#include "studio/window/basics/noticebar.h"
+
+#include "studio/window/basics/style.h"
+
+#include <QEvent>
+
+namespace AnimText {
+
+NoticeBar::NoticeBar(QWidget* parent)
+    : QFrame(parent)
+    , icon(new QLabel(this))
+    , words(new QLabel(this))
+    , buttons(new QHBoxLayout)
+{
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    words->setForegroundRole(QPalette::ToolTipText);
+    words->setWordWrap(true);
+    words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    icon->setPixmap(Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
+    layout->setSpacing(2 * grid);
+    layout->addWidget(icon);
+    layout->addWidget(words, 1);
+    buttons->setSpacing(grid);
+    layout->addLayout(buttons);
+    setAccessibleName(tr("Notice"));
+    if (parent)
+        parent->installEventFilter(this);
+    hide();
+}
+
+bool NoticeBar::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == parent() && event->type() == QEvent::Resize)
+        Place();
+    return QFrame::eventFilter(object, event);
+}
+
+void NoticeBar::Place()
+{
+    if (isHidden() || !parentWidget())
+        return;
+    const int width = parentWidget()->width();
+    layout()->activate();
+    setGeometry(0, 0, width, hasHeightForWidth() ? heightForWidth(width) : sizeHint().height());
+    raise();
+}
+
+void NoticeBar::Set(Kind kind, const QString& text, const QList<Offer>& offers)
+{
+    if (text.isEmpty())
+        notices.remove(kind);
+    else
+        notices[kind] = {text, offers};
+    Refresh();
+}
+
+QList<QPushButton*> NoticeBar::Offers() const
+{
+    QList<QPushButton*> shown;
+    for (int i = 0; i < buttons->count(); ++i)
+        shown.append(static_cast<QPushButton*>(buttons->itemAt(i)->widget()));
+    return shown;
+}
+
+void NoticeBar::Refresh()
+{
+    while (QLayoutItem* item = buttons->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+    setVisible(!notices.isEmpty());
+    if (notices.isEmpty()) {
+        words->clear();
+        return;
+    }
+    const Kind kind = notices.firstKey();
+    const Notice notice = notices.first();
+    words->setText(notice.text);
+    for (const Offer& offer : notice.offers) {
+        auto* button = new QPushButton(offer.first, this);
+        button->setAutoDefault(true); // Return is heeded as Space is
+        connect(button, &QPushButton::clicked, this, [this, kind, act = offer.second] {
+            Set(kind, QString());
+            if (act)
+                act();
+        });
+        buttons->addWidget(button);
+    }
+    Place();
+}
+
+} // namespace AnimText

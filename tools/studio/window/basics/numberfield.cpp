@@ -1,0 +1,130 @@
+#include "studio/window/basics/numberfield.h"
+
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace AnimText {
+namespace {
+
+constexpr int dragThreshold = 4; // points
+constexpr int pointsPerStep = 3;
+
+} // namespace
+
+NumberField::NumberField(QWidget* parent)
+    : QDoubleSpinBox(parent)
+{
+    setDecimals(0);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setKeyboardTracking(false);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccelerated(true);
+    lineEdit()->installEventFilter(this);
+    lineEdit()->setCursor(Qt::SizeHorCursor);
+    connect(this, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            [this] { emit NumberChanged(Number(), gesture); });
+}
+
+void NumberField::SetUnit(const QString& unit, int numbersPerUnit)
+{
+    perUnit = numbersPerUnit;
+    setSuffix(unit.isEmpty() ? QString() : QLatin1Char(' ') + unit);
+    setDecimals(perUnit == 1 ? 0 : 1);
+    setSingleStep(1.0 / perUnit);
+}
+
+void NumberField::SetLimits(int least, int most)
+{
+    const QSignalBlocker blocker(this);
+    setRange(double(least) / perUnit, double(most) / perUnit);
+}
+
+int NumberField::Number() const
+{
+    return int(std::lround(value() * perUnit));
+}
+
+void NumberField::ShowNumber(int number)
+{
+    const QSignalBlocker blocker(this);
+    if (number != Number())
+        setValue(double(number) / perUnit);
+}
+
+void NumberField::stepBy(int steps)
+{
+    const bool tens = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+    QDoubleSpinBox::stepBy(tens ? steps * 10 : steps);
+}
+
+QSize NumberField::minimumSizeHint() const
+{
+    const QSize largest = QDoubleSpinBox::minimumSizeHint();
+    const int common =
+        fontMetrics().horizontalAdvance(prefix() + QStringLiteral("0000") + suffix());
+    constexpr int arrows = 28; // and the frame
+    return {std::min(largest.width(), common + arrows), largest.height()};
+}
+
+void NumberField::wheelEvent(QWheelEvent* event)
+{
+    // A form that is scrolled past must not change.
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
+    QDoubleSpinBox::wheelEvent(event);
+}
+
+void NumberField::focusOutEvent(QFocusEvent* event)
+{
+    ++gesture;
+    QDoubleSpinBox::focusOutEvent(event);
+}
+
+bool NumberField::eventFilter(QObject* object, QEvent* event)
+{
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event); // none for other events
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (mouse->button() == Qt::LeftButton && !lineEdit()->hasFocus()) {
+            pressed = true;
+            dragging = false;
+            pressX = mouse->globalX();
+            pressNumber = Number();
+            ++gesture;
+            return true;
+        }
+        break;
+    case QEvent::MouseMove:
+        if (pressed) {
+            const int way = mouse->globalX() - pressX;
+            dragging = dragging || std::abs(way) > dragThreshold;
+            if (dragging) {
+                const int tens = mouse->modifiers() & Qt::ShiftModifier ? 10 : 1;
+                setValue(double(pressNumber + tens * (way / pointsPerStep)) / perUnit);
+            }
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        if (pressed) {
+            pressed = false;
+            ++gesture;
+            if (!dragging) {
+                setFocus(Qt::MouseFocusReason);
+                selectAll();
+            }
+            return true;
+        }
+        break;
+    default: break;
+    }
+    return QDoubleSpinBox::eventFilter(object, event);
+}
+
+} // namespace AnimText

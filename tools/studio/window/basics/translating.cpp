@@ -1,0 +1,34 @@
+#include "studio/window/basics/translating.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+namespace {
+
+void Install(const QLocale& locale, const QString& name, const QString& folder)
+{
+    auto* translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(locale, name, QStringLiteral("_"), folder))
+        QCoreApplication::installTranslator(translator);
+}
+
+} // namespace
+
+/** Resources of a library are not there by themselves; the macro wants the global namespace. */
+static void TakeResources()
+{
+#ifdef ANIMTEXT_TRANSLATIONS
+    Q_INIT_RESOURCE(translations);
+#endif
+}
+
+void AnimText::Translate(const QLocale& locale)
+{
+    TakeResources();
+    const QString own = QStringLiteral(":/translations");
+    Install(locale, QStringLiteral("qtbase"),
+            QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    Install(QLocale(QLocale::English), QStringLiteral("studio"), own); // knows plurals
+    Install(locale, QStringLiteral("studio"), own);
+}

@@ -1,0 +1,80 @@
+#include "studio/window/display/displayform.h"
+
+#include "studio/window/basics/style.h"
+
+#include <QFormLayout>
+#include <QLabel>
+
+namespace AnimText {
+namespace {
+
+constexpr int longestSide = 16384;   // pixels; what a scene file takes
+constexpr int mostPixels = 67108864; // and of width times height
+const QList<QSize> panels{{64, 32},  {128, 32},  {128, 64},  {192, 64},   {256, 64},
+                          {384, 64}, {512, 64},  {512, 128}, {1024, 128}, {1920, 128},
+                          {512, 96}, {256, 128}, {640, 360}, {1920, 1080}};
+
+} // namespace
+
+DisplayForm::DisplayForm(QWidget* parent)
+    : QWidget(parent)
+    , presets(new QComboBox(this))
+    , width(new NumberField(this))
+    , height(new NumberField(this))
+    , alpha(new QCheckBox(tr("Alpha blending"), this))
+{
+    presets->addItem(tr("Other size"));
+    for (const QSize& panel : panels)
+        presets->addItem(tr("%1 × %2").arg(panel.width()).arg(panel.height()), panel);
+    alpha->setToolTip(tr("Pictures of 32 bits with transparency. Without it, pictures of 24 bits: "
+                         "black lets the layers below shine through."));
+    for (NumberField* side : {width, height}) {
+        side->SetUnit(tr("px"));
+        side->SetLimits(1, longestSide);
+        connect(side, &NumberField::NumberChanged, this, [this](int, int gesture) {
+            Refresh();
+            emit Edited(gesture);
+        });
+    }
+    auto* layout = new QFormLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(2 * grid + markWidth);
+    layout->setVerticalSpacing(grid);
+    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    layout->addRow(tr("Panel"), presets);
+    layout->addRow(tr("Width"), width);
+    layout->addRow(tr("Height"), height);
+    layout->addRow(QString(), alpha);
+    presets->setAccessibleName(tr("Panel"));
+    width->setAccessibleName(tr("Width"));
+    height->setAccessibleName(tr("Height"));
+    for (QWidget* field : QList<QWidget*>{presets, width, height})
+        layout->labelForField(field)->setMinimumWidth(LabelWidth(font()));
+    connect(presets, qOverload<int>(&QComboBox::activated), this, [this] {
+        const QSize size = presets->currentData().toSize();
+        if (!size.isValid())
+            return;
+        width->ShowNumber(size.width());
+        height->ShowNumber(size.height());
+        Refresh();
+        emit Edited(-1);
+    });
+    connect(alpha, &QCheckBox::clicked, this, [this] { emit Edited(-1); });
+}
+
+void DisplayForm::Show(const QSize& size, bool alphaBlend)
+{
+    width->ShowNumber(size.width());
+    height->ShowNumber(size.height());
+    alpha->setChecked(alphaBlend);
+    Refresh();
+}
+
+void DisplayForm::Refresh()
+{
+    width->SetLimits(1, qMin(longestSide, mostPixels / height->Number()));
+    height->SetLimits(1, qMin(longestSide, mostPixels / width->Number()));
+    presets->setCurrentIndex(qMax(0, presets->findData(Size())));
+}
+
+} // namespace AnimText

@@ -1,0 +1,416 @@
+#include "studio/window/display/ledsdialog.h"
+
+#include "lights/testpattern.h"
+#include "player/player.h"
+#include "studio/window/basics/style.h"
+
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHideEvent>
+#include <QPainter>
+#include <QSettings>
+#include <QVBoxLayout>
+
+namespace AnimText {
+
+namespace {
+
+const char settingsKey[] = "leds";
+constexpr int mostDrawn = 8; // LEDs a side; a larger matrix is drawn by one of that size
+
+} // namespace
+
+/** Draws the way of the data line over the picture: a ring at the first LED, an arrow at the last.
+ */
+class WiringView : public QWidget
+{
+public:
+    explicit WiringView(QWidget* parent)
+        : QWidget(parent)
+    {
+        setFixedSize(56 * grid, 56 * grid);
+    }
+
+    void Draw(QSize matrix, const Wiring& wanted)
+    {
+        size = matrix.boundedTo(QSize(mostDrawn, mostDrawn));
+        wiring = wanted;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const double pitch =
+            std::min(double(width()) / size.width(), double(height()) / size.height());
+        const QPointF corner((width() - pitch * size.width()) / 2,
+                             (height() - pitch * size.height()) / 2);
+        QPolygonF line;
+        for (int pixel : LedOrder(size, wiring))
+            line.append(corner +
+                        pitch * QPointF(pixel % size.width() + 0.5, pixel / size.width() + 0.5));
+        painter.fillRect(QRectF(corner, pitch * QSizeF(size)), Qt::black);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x60, 0x60, 0x60));
+        for (const QPointF& led : line)
+            painter.drawEllipse(led, pitch / 4, pitch / 4);
+        const QColor color = palette().color(QPalette::Highlight);
+        painter.setPen(QPen(color, 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolyline(line);
+        painter.drawEllipse(line.first(), pitch / 3, pitch / 3);
+        if (line.size() < 2)
+            return;
+        painter.translate(line.last());
+        painter.rotate(-QLineF(line.at(line.size() - 2), line.last()).angle());
+        painter.setBrush(color);
+        const QPointF head[] = {{0, 0}, {-pitch / 2, pitch / 4}, {-pitch / 2, -pitch / 4}};
+        painter.drawPolygon(head, 3);
+    }
+
+private:
+    QSize size{1, 1};
+    Wiring wiring;
+};
+
+LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
+    : QDialog(parent)
+    , display(display)
+    , scenePath(scenePath)
+    , protocol(new QComboBox(this))
+    , host(new QLineEdit(this))
+    , left(new QSpinBox(this))
+    , top(new QSpinBox(this))
+    , columns(new QSpinBox(this))
+    , rows(new QSpinBox(this))
+    , direction(new QComboBox(this))
+    , serpentine(new QCheckBox(tr("Serpentine"), this))
+    , corner(new QComboBox(this))
+    , turn(new QComboBox(this))
+    , order(new QComboBox(this))
+    , gamma(new QDoubleSpinBox(this))
+    , brightness(new QSpinBox(this))
+    , universe(new QSpinBox(this))
+    , wiring(new WiringView(this))
+    , command(new QLineEdit(this))
+    , state(new QLabel(this))
+    , pattern(new QPushButton(tr("Show test pattern"), this))
+    , start(new QPushButton(this))
+{
+    setWindowTitle(tr("Play on LEDs"));
+    protocol->addItem(QStringLiteral("DDP"), QStringLiteral("ddp"));
+    protocol->addItem(QStringLiteral("E1.31 (sACN)"), QStringLiteral("sacn"));
+    protocol->addItem(QStringLiteral("Art-Net"), QStringLiteral("artnet"));
+    host->setPlaceholderText(tr("Name or address, such as wall.local"));
+    direction->addItem(tr("Rows"), QStringLiteral("rows"));
+    direction->addItem(tr("Columns"), QStringLiteral("columns"));
+    corner->addItem(tr("Top left"), QStringLiteral("top-left"));
+    corner->addItem(tr("Top right"), QStringLiteral("top-right"));
+    corner->addItem(tr("Bottom left"), QStringLiteral("bottom-left"));
+    corner->addItem(tr("Bottom right"), QStringLiteral("bottom-right"));
+    for (int degrees : {0, 90, 180, 270})
+        turn->addItem(tr("%1°").arg(degrees), QStringLiteral("rotate-%1").arg(degrees));
+    order->addItems({QStringLiteral("RGB"), QStringLiteral("RBG"), QStringLiteral("GRB"),
+                     QStringLiteral("GBR"), QStringLiteral("BRG"), QStringLiteral("BGR")});
+    left->setMaximum(display.width() - 1);
+    top->setMaximum(display.height() - 1);
+    columns->setRange(1, display.width());
+    rows->setRange(1, display.height());
+    columns->setValue(display.width());
+    rows->setValue(display.height());
+    for (QSpinBox* box : {left, top, columns, rows})
+        box->setSuffix(tr(" px"));
+    gamma->setRange(1, 4);
+    gamma->setSingleStep(0.1);
+    gamma->setDecimals(1);
+    gamma->setSpecialValueText(tr("Off"));
+    brightness->setRange(0, 100);
+    brightness->setValue(100);
+    brightness->setSuffix(tr(" %"));
+    universe->setRange(0, 63999);
+    universe->setValue(1);
+    serpentine->setToolTip(tr("Every second row or column runs backwards"));
+    command->setReadOnly(true);
+    command->setFrame(false);
+    command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    pattern->setCheckable(true);
+    pattern->setToolTip(tr("Corners, order of the LEDs, colors and levels, each for five seconds"));
+    state->setWordWrap(true);
+    start->setDefault(true);
+    steps.setTimerType(Qt::PreciseTimer);
+    steps.setInterval(tickLength);
+    Arrange();
+    SetAddress(QSettings().value(QLatin1String(settingsKey)).toString());
+
+    for (QComboBox* box : {protocol, direction, corner, turn, order})
+        connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &LedsDialog::Change);
+    for (QSpinBox* box : {left, top, columns, rows, brightness, universe})
+        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &LedsDialog::Change);
+    connect(gamma, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LedsDialog::Change);
+    connect(serpentine, &QCheckBox::toggled, this, &LedsDialog::Change);
+    connect(host, &QLineEdit::textChanged, this, [this] {
+        Stop();
+        foundHost.clear();
+        Refresh();
+    });
+    connect(start, &QPushButton::clicked, this, [this] {
+        if (lights || lookUp >= 0)
+            Stop();
+        else
+            LookUp();
+        Refresh();
+    });
+    connect(&steps, &QTimer::timeout, this, &LedsDialog::Step);
+    connect(pattern, &QPushButton::toggled, this, [this](bool on) {
+        step = 0;
+        if (on)
+            steps.start();
+        else
+            steps.stop();
+        if (on && !lights && start->isEnabled())
+            LookUp();
+        Show(picture);
+    });
+    Refresh();
+}
+
+void LedsDialog::Arrange()
+{
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(3 * grid);
+    form->setVerticalSpacing(2 * grid);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    const auto row = [&](const QString& label, const QList<QWidget*>& widgets) {
+        auto* layout = new QHBoxLayout;
+        layout->setSpacing(grid);
+        if (widgets.first()->accessibleName().isEmpty())
+            widgets.first()->setAccessibleName(label);
+        for (QWidget* widget : widgets)
+            layout->addWidget(widget, widget == host ? 1 : 0);
+        if (!widgets.contains(host))
+            layout->addStretch(1);
+        form->addRow(label, layout);
+    };
+    host->setAccessibleName(tr("Controller's name or address"));
+    left->setAccessibleName(tr("Left edge"));
+    top->setAccessibleName(tr("Top edge"));
+    columns->setAccessibleName(tr("Width"));
+    rows->setAccessibleName(tr("Height"));
+    row(tr("Controller"), {protocol, host});
+    row(tr("Part of the display"), {left, top, new QLabel(tr("size"), this), columns, rows});
+    row(tr("LEDs follow"), {direction, serpentine});
+    row(tr("First LED"), {corner});
+    row(tr("Picture turned by"), {turn});
+    row(tr("Color order"), {order});
+    row(tr("Gamma"), {gamma});
+    row(tr("Brightness"), {brightness});
+    row(tr("First universe"), {universe});
+    auto* upper = new QHBoxLayout;
+    upper->setSpacing(4 * grid);
+    upper->addLayout(form, 1);
+    upper->addWidget(wiring, 0, Qt::AlignTop);
+    wiring->setToolTip(tr("The way of the data line, seen from the front"));
+
+    auto* lower = new QFormLayout;
+    command->setAccessibleName(tr("The same as a command"));
+    lower->addRow(tr("As a command"), command);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(pattern);
+    buttons->addStretch(1);
+    buttons->addWidget(start);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
+    layout->setSpacing(3 * grid);
+    layout->addLayout(upper);
+    layout->addLayout(lower);
+    layout->addWidget(state);
+    layout->addLayout(buttons);
+    setMinimumWidth(720);
+}
+
+QString LedsDialog::Address() const
+{
+    const QRect rect(left->value(), top->value(), columns->value(), rows->value());
+    QStringList words;
+    if (rect != QRect(QPoint(0, 0), display))
+        words.append(QStringLiteral("%1,%2,%3x%4")
+                         .arg(rect.x())
+                         .arg(rect.y())
+                         .arg(rect.width())
+                         .arg(rect.height()));
+    if (serpentine->isChecked())
+        words.append(QStringLiteral("serpentine"));
+    for (const QComboBox* box : {direction, corner, turn}) {
+        if (box->currentIndex() > 0)
+            words.append(box->currentData().toString());
+    }
+    if (order->currentIndex() > 0)
+        words.append(QStringLiteral("color-order=") + order->currentText());
+    if (gamma->value() > 1)
+        words.append(QStringLiteral("gamma=%1").arg(gamma->value()));
+    if (brightness->value() < 100)
+        words.append(QStringLiteral("brightness=%1").arg(brightness->value()));
+    if (protocol->currentIndex() > 0 && universe->value() != 1)
+        words.append(QStringLiteral("universe=%1").arg(universe->value()));
+    return QStringLiteral("%1://%2%3%4")
+        .arg(protocol->currentData().toString(), host->text().trimmed(),
+             QLatin1String(words.isEmpty() ? "" : "/"), words.join(QLatin1Char(',')));
+}
+
+void LedsDialog::SetAddress(const QString& address)
+{
+    Controller controller;
+    QString error;
+    if (!ReadAddress(&controller, address, &error) || !FitToDisplay(&controller, display, &error))
+        return;
+    const Wiring& way = controller.wiring;
+    protocol->setCurrentIndex(int(controller.protocol));
+    host->setText(address.section(QLatin1Char('/'), 2, 2).section(QLatin1Char(','), 0, 0));
+    left->setValue(controller.rect.x());
+    top->setValue(controller.rect.y());
+    columns->setValue(controller.rect.width());
+    rows->setValue(controller.rect.height());
+    direction->setCurrentIndex(way.columns ? 1 : 0);
+    serpentine->setChecked(way.serpentine);
+    corner->setCurrentIndex((way.right ? 1 : 0) + (way.bottom ? 2 : 0));
+    turn->setCurrentIndex(way.turns);
+    order->setCurrentText(controller.order);
+    gamma->setValue(controller.gamma);
+    brightness->setValue(controller.brightness);
+    universe->setValue(controller.universe);
+}
+
+Controller LedsDialog::ReadFields(QString* error) const
+{
+    Controller controller;
+    if (ReadAddress(&controller, Address(), error))
+        FitToDisplay(&controller, display, error);
+    return controller;
+}
+
+/** Settings apply at once, so that the test pattern shows what they do. */
+void LedsDialog::Change()
+{
+    Refresh();
+    QString error;
+    if (lights)
+        Open(ReadFields(&error));
+}
+
+void LedsDialog::Refresh()
+{
+    QString error;
+    const Controller controller = ReadFields(&error);
+    const bool isDdp = protocol->currentIndex() == 0;
+    universe->setEnabled(!isDdp);
+    universe->setToolTip(isDdp ? tr("DDP has no universes") : QString());
+    wiring->Draw(QSize(columns->value(), rows->value()), controller.wiring);
+    command->setText(
+        QStringLiteral("animtext play %1 --to %2")
+            .arg(scenePath.isEmpty() ? tr("sign.json") : QFileInfo(scenePath).fileName(),
+                 Address()));
+    command->setCursorPosition(0);
+    start->setEnabled(error.isEmpty());
+    start->setText(lights || lookUp >= 0 ? tr("Stop") : tr("Start"));
+    if (!error.isEmpty()) {
+        Stop();
+        state->setText(host->text().isEmpty() ? tr("Enter the controller's name or address.")
+                                              : error);
+    } else if (!lights && lookUp < 0) {
+        state->setText(host->text().isEmpty() ? tr("Sends to the multicast groups of E1.31.")
+                                              : QString());
+    }
+}
+
+/** The window does not wait for the name service. */
+void LedsDialog::LookUp()
+{
+    QString error;
+    const Controller controller = ReadFields(&error);
+    if (controller.host.isEmpty() || !QHostAddress(controller.host).isNull()) {
+        Open(controller);
+        return;
+    }
+    state->setText(tr("Looking for %1 …").arg(controller.host));
+    lookUp = QHostInfo::lookupHost(controller.host, this, &LedsDialog::Begin);
+}
+
+void LedsDialog::Begin(const QHostInfo& found)
+{
+    if (found.lookupId() != lookUp)
+        return;
+    lookUp = -1;
+    QString error;
+    const Controller controller = ReadFields(&error);
+    if (found.addresses().isEmpty()) {
+        Refresh();
+        state->setText(tr("%1 cannot be found: %2").arg(controller.host, found.errorString()));
+        return;
+    }
+    foundHost = PreferredAddress(found).toString();
+    Open(controller);
+}
+
+void LedsDialog::Open(Controller controller)
+{
+    if (!foundHost.isEmpty())
+        controller.host = foundHost;
+    if (lights)
+        lights->SetKeeps(true); // the next picture comes at once
+    lights = std::make_unique<Lights>();
+    connect(lights.get(), &Lights::Reported, state, &QLabel::setText);
+    QString error;
+    if (!lights->Add(controller, display, &error)) {
+        Stop();
+        state->setText(error);
+        return;
+    }
+    QSettings().setValue(QLatin1String(settingsKey), Address());
+    state->setText(tr("The LEDs show what the studio shows."));
+    start->setText(tr("Stop"));
+    Show(picture);
+}
+
+void LedsDialog::Stop()
+{
+    if (lookUp >= 0)
+        QHostInfo::abortHostLookup(lookUp);
+    lookUp = -1;
+    start->setText(tr("Start"));
+    state->clear();
+    if (!lights)
+        return;
+    lights.reset();
+    pattern->setChecked(false);
+}
+
+void LedsDialog::Show(const QImage& shown)
+{
+    picture = shown;
+    if (!lights)
+        return;
+    if (pattern->isChecked())
+        lights->Show(TestPattern(QString(), display, step));
+    else if (!picture.isNull())
+        lights->Show(picture);
+}
+
+void LedsDialog::Step()
+{
+    ++step;
+    Show(picture);
+}
+
+/** Who closes the window has no other way to stop. */
+void LedsDialog::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous())
+        Stop();
+    QDialog::hideEvent(event);
+}
+
+} // namespace AnimText

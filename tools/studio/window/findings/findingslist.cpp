@@ -1,0 +1,249 @@
+#include "studio/window/findings/findingslist.h"
+
+#include "studio/window/basics/style.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr int mostShown = 40;
+
+TextChange SetAttribute(const char* key, int value)
+{
+    const QString name = QLatin1String(key);
+    return [name, value](SignText* text) { text->node.attributes[name] = value; };
+}
+
+TextChange RemoveAttributes(const QStringList& keys)
+{
+    return [keys](SignText* text) {
+        for (const QString& key : keys)
+            text->node.attributes.remove(key);
+    };
+}
+
+/** What its form calls the attribute that @p finding is about; empty for none. */
+QString FieldOf(const Finding& finding)
+{
+    const QString key = finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
+    for (const Attribute& attribute : Attributes()) {
+        if (key == QLatin1String(attribute.key))
+            return Translated(attribute.name);
+    }
+    return {};
+}
+
+} // namespace
+
+Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
+{
+    const bool scrolls = MotionOf(text.node).IsScroll();
+    switch (finding.mistake) {
+    case Mistake::SpeedRange: {
+        const char* key = scrolls ? "ContinueSpeed" : "AnimationSpeed";
+        const int speed = text.node.attributes.value(QLatin1String(key)).toInt();
+        return {FindingsList::tr("Nearest speed"), SetAttribute(key, qBound(0, speed, 9))};
+    }
+    case Mistake::PlaysRange: return {FindingsList::tr("Play once"), SetAttribute("PlayTimes", 1)};
+    case Mistake::HoldRange:
+        return {FindingsList::tr("No hold"), [](SignText* edited) { edited->node.hold = 0; }};
+    case Mistake::ModeUnknown:
+        return {FindingsList::tr("Entrance effect"), SetAttribute("EffectType", 0)};
+    case Mistake::EffectUnknown:
+        return {FindingsList::tr("Typed effect"), SetAttribute("AnimationEffect", 4)};
+    case Mistake::DirectionUnknown:
+        return {FindingsList::tr("Scroll left"), SetAttribute("ContinueStyle", 0)};
+    case Mistake::AreaOutside:
+        return {FindingsList::tr("Move onto the display"), [display](SignText* edited) {
+                    SceneNode& node = edited->node;
+                    node.size = node.size.boundedTo(display);
+                    node.pos.setX(qBound(0, node.pos.x(), display.width() - node.size.width()));
+                    node.pos.setY(qBound(0, node.pos.y(), display.height() - node.size.height()));
+                }};
+    case Mistake::FileMissing:
+        if (!finding.place.endsWith(QLatin1String("PathData")) &&
+            !finding.place.endsWith(QLatin1String("DescentVector")))
+            return {};
+        [[fallthrough]];
+    case Mistake::DataMalformed:
+    case Mistake::DataLength:
+    case Mistake::DataSurplus:
+    case Mistake::OutlineMalformed:
+    case Mistake::ListLength:
+    case Mistake::ListSurplus:
+    case Mistake::RowValue:
+        return {FindingsList::tr("Make outlines again"),
+                [](SignText* edited) { edited->layout.reset(); }};
+    case Mistake::TextHigh:
+        return {FindingsList::tr("Fit the height"),
+                [](SignText* edited) { edited->source.fit = Fit::Height; }};
+    case Mistake::CharacterWide:
+        return {FindingsList::tr("Fit the area"),
+                [](SignText* edited) { edited->source.fit = Fit::Both; }};
+    case Mistake::ColorsIgnored:
+        return {FindingsList::tr("First color for all"), [](SignText* edited) {
+                    QVector<StyleRun>& runs = edited->source.text.runs;
+                    for (StyleRun& run : runs)
+                        run.color = runs.first().color;
+                }};
+    case Mistake::GradientIgnored:
+    case Mistake::PictureIgnored:
+        return {FindingsList::tr("Turn dazzle on"), SetAttribute("CheckDazzle", 1)};
+    case Mistake::StrokeIgnored:
+        return {FindingsList::tr("Remove"),
+                RemoveAttributes({QStringLiteral("Stroke"), QStringLiteral("StrokeColor")})};
+    case Mistake::ShadowIgnored:
+        return {FindingsList::tr("Remove"), RemoveAttributes({QStringLiteral("CheckShadowEffect"),
+                                                              QStringLiteral("TextShadowBox")})};
+    default: return {};
+    }
+}
+
+int TextOf(const Finding& finding, const Sign& sign)
+{
+    static const QRegularExpression place(
+        QStringLiteral("^\\$\\.pages\\[(\\d+)\\]\\.areas\\[(\\d+)\\]\\.nodes\\[(\\d+)\\]"));
+    const QRegularExpressionMatch match = place.match(finding.place);
+    if (!match.hasMatch())
+        return -1;
+    int behind = match.captured(3).toInt();
+    for (int i = 0; i < sign.texts.size(); ++i) {
+        const SignText& text = sign.texts.at(i);
+        if (text.page == match.captured(1).toInt() && text.area == match.captured(2).toInt() &&
+            behind-- == 0)
+            return i;
+    }
+    return -1;
+}
+
+FindingsList::FindingsList(QWidget* parent)
+    : QScrollArea(parent)
+    , list(new QVBoxLayout)
+{
+    auto* content = new QWidget(this);
+    content->setAutoFillBackground(true);
+    content->setBackgroundRole(QPalette::Base);
+    content->setLayout(list);
+    list->setContentsMargins(2 * grid, 2 * grid, 2 * grid, 2 * grid);
+    list->setSpacing(3 * grid);
+    setWidget(content);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAccessibleName(tr("Findings"));
+    Fill({});
+}
+
+void FindingsList::Mend(int row)
+{
+    const Row mended = rows.value(row, {0, {}, {}, {}, false});
+    if (mended.fix.change)
+        emit Mended(mended.id, mended.fix.words, mended.fix.change);
+}
+
+void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
+{
+    QList<Row> next;
+    for (const Finding& finding : findings) {
+        const Rule& rule = finding.GetRule();
+        Row row{0, {}, {}, {}, rule.severity == Severity::Error};
+        row.words = QCoreApplication::translate("Rules", rule.why);
+        const QString field = FieldOf(finding);
+        if (!field.isEmpty())
+            row.words = QStringLiteral("%1: %2").arg(field, row.words);
+        row.why =
+            tr("Found %1, expected %2.\n%3").arg(finding.found, finding.expected, finding.place);
+        const int index = TextOf(finding, sign);
+        if (index >= 0) {
+            const SignText& text = sign.texts.at(index);
+            row.id = text.id;
+            row.fix = FixFor(finding, text, sign.display);
+            if (sign.texts.size() > 1)
+                row.words = QStringLiteral("%1 · %2").arg(text.Title(), row.words);
+        }
+        next.append(row);
+    }
+    Fill(next);
+    emit CountChanged(Count());
+}
+
+void FindingsList::Fill(const QList<Row>& next)
+{
+    const auto same = [](const Row& a, const Row& b) {
+        return a.id == b.id && a.words == b.words && a.fix.words == b.fix.words;
+    };
+    const bool isSame = next.size() == rows.size() && !next.isEmpty() &&
+                        std::equal(next.begin(), next.end(), rows.begin(), same);
+    rows = next;
+    if (isSame)
+        return; // what has the focus keeps it
+    while (QLayoutItem* item = list->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    const auto say = [this](const QString& words) {
+        auto* label = new QLabel(words);
+        label->setWordWrap(true);
+        list->addWidget(label);
+        QPalette colors = label->palette();
+        colors.setColor(label->foregroundRole(), Quiet(colors));
+        label->setPalette(colors);
+    };
+    for (int i = 0; i < std::min(int(rows.size()), mostShown); ++i)
+        list->addWidget(MakeRow(i));
+    if (rows.isEmpty())
+        say(tr("No problems found"));
+    else if (rows.size() > mostShown)
+        say(tr("And %n more", nullptr, rows.size() - mostShown));
+    list->addStretch(1);
+}
+
+/** What it does on the sign, what was found on hover, and a button below where something helps. */
+QWidget* FindingsList::MakeRow(int index)
+{
+    const Row& row = rows.at(index);
+    auto* widget = new QWidget;
+    auto* mark = new QLabel(widget);
+    mark->setPixmap(
+        Icon(row.isError ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"))
+            .pixmap(16, 16));
+    auto* words = new QLabel(row.words, widget);
+    words->setWordWrap(true);
+    words->setToolTip(row.why);
+    words->setAccessibleDescription(row.why);
+    auto* layout = new QGridLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(2 * grid);
+    layout->setVerticalSpacing(grid);
+    layout->setColumnStretch(2, 1);
+    layout->addWidget(mark, 0, 0, Qt::AlignTop);
+    layout->addWidget(words, 0, 1, 1, 2);
+    widget->installEventFilter(this);
+    widget->setProperty("text", row.id);
+    if (row.fix.change) {
+        auto* button = new QPushButton(row.fix.words, widget);
+        button->setAutoDefault(true); // Return is heeded as Space is
+        button->setToolTip(row.why);
+        layout->addWidget(button, 1, 1);
+        connect(button, &QPushButton::clicked, this, [this, index] { Mend(index); });
+    }
+    return widget;
+}
+
+bool FindingsList::eventFilter(QObject* object, QEvent* event)
+{
+    const int id = object->property("text").toInt();
+    if (event->type() == QEvent::MouseButtonPress && id != 0)
+        emit Selected(id);
+    return QScrollArea::eventFilter(object, event);
+}
+
+} // namespace AnimText

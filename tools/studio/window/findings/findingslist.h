@@ -1,0 +1,66 @@
+/**
+ * @file
+ * What validating has found, with what to do about it.
+ */
+#ifndef ANIMTEXT_FINDINGSLIST_H
+#define ANIMTEXT_FINDINGSLIST_H
+
+#include "studio/window/form/attributeform.h"
+
+#include <QScrollArea>
+
+namespace AnimText {
+
+/** How one finding can be mended; without a change where that is not known. */
+struct Fix
+{
+    QString words;
+    TextChange change;
+};
+
+/** The fix for @p finding about @p text, on a display of that size. */
+Fix FixFor(const Finding& finding, const SignText& text, const QSize& display);
+
+/** The index of the text that a finding is about, in the order of the file; -1 for none. */
+int TextOf(const Finding& finding, const Sign& sign);
+
+class FindingsList : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit FindingsList(QWidget* parent = nullptr);
+
+    void Show(const QList<Finding>& findings, const Sign& sign);
+    int Count() const { return rows.size(); }
+    /** Does what is known to help against the finding in that row. */
+    void Mend(int row);
+
+signals:
+    void Selected(int id);
+    void Mended(int id, const QString& what, const AnimText::TextChange& change);
+    void CountChanged(int count);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    struct Row
+    {
+        int id; // of the text; 0 for none
+        Fix fix;
+        QString words;
+        QString why;
+        bool isError;
+    };
+
+    void Fill(const QList<Row>& next);
+    QWidget* MakeRow(int index);
+
+    QVBoxLayout* list;
+    QList<Row> rows;
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,53 @@
+/**
+ * @file
+ * All that can be set of one text, from its words to its background.
+ */
+#ifndef ANIMTEXT_INSPECTOR_H
+#define ANIMTEXT_INSPECTOR_H
+
+#include "studio/window/display/displayform.h"
+#include "studio/window/form/attributeform.h"
+#include "studio/window/form/layoutform.h"
+#include "studio/window/motion/motionpicker.h"
+#include "studio/window/text/textpanel.h"
+
+#include <QScrollArea>
+
+namespace AnimText {
+
+class Inspector : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit Inspector(Thumbnails* thumbnails, QWidget* parent = nullptr);
+
+    /** The text @p shown of @p sign; null for none, and then the display is shown. */
+    void Show(const Sign& sign, const SignText* shown);
+    void SetFindings(const QList<Finding>& findings);
+    TextPanel* Text() const { return text; }
+    MotionPicker* Motions() const { return motions; }
+    DisplayForm* Display() const { return displayForm; }
+
+signals:
+    void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    static QLabel* Heading(const QString& words);
+
+    QWidget* ofText;    // all that belongs to a text
+    QWidget* ofDisplay; // and what is shown while none is selected
+    DisplayForm* displayForm;
+    TextPanel* text;
+    MotionPicker* motions;
+    LayoutForm* layoutForm;
+    QList<AttributeForm*> forms;
+};
+
+} // namespace AnimText
+
+#endif

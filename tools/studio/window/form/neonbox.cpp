@@ -1,0 +1,83 @@
+#include "studio/window/form/neonbox.h"
+
+#include "studio/window/basics/style.h"
+#include "studio/window/motion/thumbnails.h"
+
+#include "player/player.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace AnimText {
+namespace {
+
+constexpr int borders = 28; // styles that are drawn; those above show a picture of the user's
+constexpr int rowsInSight = 8;
+constexpr QSize fieldIcon{64, 16}; // of the field, which is as low as others
+
+} // namespace
+
+NeonBox::NeonBox(Thumbnails* thumbnails, QWidget* parent)
+    : QComboBox(parent)
+    , thumbnails(thumbnails)
+{
+    for (int style = 1; style <= borders; ++style)
+        addItem(tr("Style %1").arg(style), style);
+    addItem(tr("Picture"), borders + 1);
+    for (int row = 0; row < borders; ++row) // the list does not grow as pictures arrive
+        setItemData(row, thumbnailSize + QSize(0, grid), Qt::SizeHintRole);
+    setMaxVisibleItems(rowsInSight);
+    setIconSize(fieldIcon);
+    setItemDelegate(new QStyledItemDelegate(this)); // it takes the list's size of icons
+    view()->setIconSize(thumbnailSize);
+    LetShrink(this);
+    view()->setMinimumWidth(thumbnailSize.width() + 8 * grid + // the field is narrower
+                            fontMetrics().horizontalAdvance(itemText(borders - 1)) +
+                            style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    beat.setInterval(tickLength);
+    connect(&beat, &QTimer::timeout, this, &NeonBox::ShowPictures);
+    connect(this, qOverload<int>(&QComboBox::activated), this,
+            [this](int row) { emit Chosen(itemData(row).toInt()); });
+}
+
+void NeonBox::ShowStyle(int style)
+{
+    const QSignalBlocker blocker(this);
+    setCurrentIndex(qBound(0, style - 1, borders)); // 0 is the first one, too
+    // Any style above the borders is a picture; choosing it again keeps the number.
+    setItemData(borders, qMax(borders + 1, style));
+}
+
+void NeonBox::showPopup()
+{
+    tick = 0;
+    if (thumbnails)
+        beat.start();
+    QComboBox::showPopup();
+}
+
+void NeonBox::hidePopup()
+{
+    beat.stop();
+    QComboBox::hidePopup();
+}
+
+void NeonBox::ShowPictures()
+{
+    ++tick;
+    for (int row = 0; row < borders; ++row) {
+        const QModelIndex index = model()->index(row, modelColumn(), rootModelIndex());
+        const bool isSeen = view()->viewport()->rect().intersects(view()->visualRect(index));
+        const QImage picture =
+            isSeen ? thumbnails->NeonPicture(itemData(row).toInt(), tick) : QImage();
+        if (picture.isNull())
+            continue;
+        QPixmap lit(picture.size());
+        lit.fill(Qt::black);
+        QPainter(&lit).drawImage(0, 0, picture);
+        setItemIcon(row, lit);
+    }
+}
+
+} // namespace AnimText

@@ -1,0 +1,321 @@
+#include "studio/window/motion/motionpicker.h"
+
+#include "player/player.h"
+#include "studio/window/basics/style.h"
+#include "studio/window/motion/thumbnails.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QSettings>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+namespace AnimText {
+namespace {
+
+constexpr int cardPadding = 4; // points
+constexpr double listShare = 0.45;
+const QString heightKey = QStringLiteral("motions");
+
+/** A card: the picture on black, the name below it. */
+class MotionCard : public QStyledItemDelegate
+{
+public:
+    MotionCard(const MotionModel* motions, QObject* parent)
+        : QStyledItemDelegate(parent)
+        , motions(motions)
+    {
+    }
+
+    /** All as wide as the longest name, which is never cut. */
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+    {
+        int width = thumbnailSize.width();
+        for (int row = 0; row < motions->rowCount(); ++row)
+            width =
+                qMax(width, option.fontMetrics.horizontalAdvance(TitleOf(motions->At(row))) + 2);
+        return {width + 2 * cardPadding,
+                thumbnailSize.height() + 3 * cardPadding + option.fontMetrics.height()};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        const bool isChosen = option.state & QStyle::State_Selected;
+        const QRect box = option.rect;
+        const QColor accent = option.palette.color(QPalette::Highlight);
+        if (isChosen)
+            painter->fillRect(box, accent);
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillRect(box, Mixed(accent, option.palette.color(QPalette::Base), 0.8));
+        const QRect screen(box.left() + cardPadding, box.top() + cardPadding, thumbnailSize.width(),
+                           thumbnailSize.height());
+        painter->fillRect(screen, Qt::black);
+        const QImage picture = index.data(MotionModel::PictureRole).value<QImage>();
+        // That of an earlier text stands back.
+        painter->setOpacity(index.data(MotionModel::CurrentRole).toBool() ? 1 : 0.4);
+        if (!picture.isNull())
+            painter->drawImage(screen.topLeft(), picture);
+        painter->setOpacity(1);
+        const QRect words(screen.left(), screen.bottom() + 1 + cardPadding / 2,
+                          box.right() - screen.left(),
+                          option.fontMetrics.height() + cardPadding / 2);
+        painter->setPen(
+            option.palette.color(isChosen ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(
+            words, Qt::AlignVCenter,
+            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, words.width()));
+        if (option.state & QStyle::State_HasFocus && !isChosen) {
+            painter->setPen(accent);
+            painter->drawRect(box.adjusted(0, 0, -1, -1));
+        }
+    }
+
+private:
+    const MotionModel* motions;
+};
+
+/** Below the list: drags its height. */
+class HeightHandle : public QWidget
+{
+public:
+    HeightHandle(MotionPicker* picker, const QWidget* list)
+        : QWidget(picker)
+        , picker(picker)
+        , list(list)
+    {
+        setFixedHeight(2 * grid);
+        setCursor(Qt::SplitVCursor);
+        setToolTip(MotionPicker::tr("Drag to make the list higher or lower"));
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        from = event->globalPos().y();
+        before = list->height();
+    }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (event->buttons() & Qt::LeftButton)
+            picker->SetListHeight(before + event->globalPos().y() - from);
+    }
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(Quiet(palette()));
+        for (int i = -2; i <= 2; ++i)
+            painter.drawPoint(width() / 2 + 4 * i, height() / 2);
+    }
+
+private:
+    MotionPicker* picker;
+    const QWidget* list;
+    int from = 0;
+    int before = 0;
+};
+
+/** Words out of the name, the operation, the family or what it does. */
+class MotionFilter : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void Set(const QString& wanted, const QString& ofFamily)
+    {
+        words = wanted.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        family = ofFamily;
+        invalidateFilter();
+    }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex&) const override
+    {
+        const auto* motions = static_cast<MotionModel*>(sourceModel());
+        const QModelIndex index = motions->index(row);
+        if (!family.isEmpty() && index.data(MotionModel::FamilyRole).toString() != family)
+            return false;
+        const QString all = index.data(Qt::ToolTipRole).toString() + QLatin1Char(' ') +
+                            TranslatedMotion(index.data(MotionModel::FamilyRole).toString()) +
+                            QStringLiteral(" #%1").arg(motions->At(row).number);
+        for (const QString& word : words) {
+            if (!all.contains(word, Qt::CaseInsensitive))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    QStringList words;
+    QString family;
+};
+
+} // namespace
+
+MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
+    : QWidget(parent)
+    , thumbnails(thumbnails)
+    , motions(new MotionModel(this))
+    , filtered(new MotionFilter(this))
+    , search(new QLineEdit(this))
+    , family(new QComboBox(this))
+    , list(new QListView(this))
+{
+    search->setPlaceholderText(tr("Search motions"));
+    search->setAccessibleName(tr("Search motions"));
+    search->setClearButtonEnabled(true);
+    search->installEventFilter(this);
+    family->addItem(tr("All families"));
+    for (const QString& english : motions->Families())
+        family->addItem(TranslatedMotion(english), english);
+    family->setAccessibleName(tr("Family of motions"));
+    LetShrink(family);
+    filtered->setSourceModel(motions);
+    list->setModel(filtered);
+    list->setItemDelegate(new MotionCard(motions, list));
+    list->setViewMode(QListView::IconMode);
+    list->setResizeMode(QListView::Adjust);
+    list->setMovement(QListView::Static);
+    list->setUniformItemSizes(true);
+    list->setSpacing(0);
+    list->setMouseTracking(true);
+    list->setFrameShape(QFrame::StyledPanel);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    list->setAccessibleName(tr("Motions"));
+    list->viewport()->installEventFilter(this);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(grid);
+    top->addWidget(search, 1);
+    top->addWidget(family);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(grid);
+    layout->addLayout(top);
+    layout->addWidget(list, 1);
+    layout->addWidget(new HeightHandle(this, list));
+
+    connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
+    connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);
+    connect(list, &QListView::clicked, this, &MotionPicker::Choose);
+    connect(list, &QListView::activated, this, &MotionPicker::Choose);
+    connect(list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& index) {
+                if (list->hasFocus())
+                    Choose(index);
+            });
+    chosenHeight = QSettings().value(heightKey, 0).toInt();
+    SetRoom(0);
+    beat.setInterval(tickLength);
+    connect(&beat, &QTimer::timeout, this, &MotionPicker::LookAtSight);
+}
+
+void MotionPicker::Show(const SignText& text)
+{
+    shownRow = motions->RowOf(MotionOf(text.node).IsScroll(), MotionOf(text.node).number);
+    const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
+    if (index != list->currentIndex() && index.isValid()) {
+        const QSignalBlocker blocker(list->selectionModel());
+        list->setCurrentIndex(index);
+        list->scrollTo(index);
+        list->viewport()->update();
+    }
+    if (thumbnails)
+        thumbnails->SetText(text);
+}
+
+void MotionPicker::SetRoom(int points)
+{
+    const int rows = 3 * (thumbnailSize.height() + 28);
+    list->setFixedHeight(chosenHeight > 0 ? chosenHeight : qMax(rows, int(points * listShare)));
+}
+
+void MotionPicker::SetListHeight(int points)
+{
+    chosenHeight = qBound(thumbnailSize.height() + 28, points, 2000);
+    QSettings().setValue(heightKey, chosenHeight);
+    SetRoom(0);
+}
+
+void MotionPicker::Filter()
+{
+    static_cast<MotionFilter*>(filtered)->Set(search->text(), family->currentData().toString());
+    const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
+    const QSignalBlocker blocker(list->selectionModel());
+    list->setCurrentIndex(index);
+}
+
+void MotionPicker::Choose(const QModelIndex& index)
+{
+    const int row = filtered->mapToSource(index).row();
+    if (row < 0 || row == shownRow)
+        return;
+    emit Chosen(motions->IsScroll(row), motions->At(row).number);
+}
+
+void MotionPicker::showEvent(QShowEvent*)
+{
+    if (thumbnails)
+        beat.start();
+}
+
+void MotionPicker::hideEvent(QHideEvent*)
+{
+    beat.stop();
+}
+
+/** Goes one tick on with the motions that can be seen; all others cost nothing. */
+void MotionPicker::LookAtSight()
+{
+    if (list->visibleRegion().isEmpty() || window()->isMinimized())
+        return;
+    ++tick;
+    for (int row = 0; row < filtered->rowCount(); ++row) {
+        const QModelIndex index = filtered->index(row, 0);
+        const QRect place = list->visualRect(index);
+        if (!list->viewport()->visibleRegion().intersects(place))
+            continue;
+        const int motion = filtered->mapToSource(index).row();
+        const bool scroll = motions->IsScroll(motion);
+        const int number = motions->At(motion).number;
+        const QImage picture = thumbnails->Picture(scroll, number, tick);
+        const bool isCurrent = thumbnails->IsCurrent(scroll, number);
+        if (picture.cacheKey() != index.data(MotionModel::PictureRole).value<QImage>().cacheKey() ||
+            isCurrent != index.data(MotionModel::CurrentRole).toBool())
+            motions->SetPicture(motion, picture, isCurrent);
+    }
+}
+
+/** Columns that fill the list from side to side. */
+void MotionPicker::Spread()
+{
+    QStyleOptionViewItem option;
+    option.fontMetrics = list->fontMetrics();
+    const QSize card = list->itemDelegate()->sizeHint(option, QModelIndex());
+    const int room = list->viewport()->width() - 1;
+    list->setGridSize({room / qMax(1, room / card.width()), card.height()});
+    // Once the cards are in their places.
+    QTimer::singleShot(0, list, [this] { list->scrollTo(list->currentIndex()); });
+}
+
+bool MotionPicker::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == list->viewport() && event->type() == QEvent::Resize)
+        Spread();
+    if (object == search && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return) {
+            list->setFocus();
+            if (!list->currentIndex().isValid())
+                list->setCurrentIndex(filtered->index(0, 0));
+            return true;
+        }
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+} // namespace AnimText

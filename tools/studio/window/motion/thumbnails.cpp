@@ -1,0 +1,185 @@
+#include "studio/window/motion/thumbnails.h"
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr int scrollKeys = 1000;
+constexpr int neonKeys = 2000;
+constexpr int plainEffect = 4; // of the text before a neon background: letter by letter
+constexpr int loopTicks = 90;  // of a thumbnail, with the hold at its end
+constexpr int neonTicks = 30;
+constexpr int shownUnits = 12; // of the text, from its beginning
+constexpr int quickSpeed = 7;
+
+/** The beginning of @p text, small, with another motion or a neon background. */
+SignText Sample(SignText text, int key)
+{
+    const bool neon = key >= neonKeys;
+    const bool scroll = !neon && key >= scrollKeys;
+    const int number = neon ? plainEffect : scroll ? key - scrollKeys : key;
+    StyledText& styled = text.source.text;
+    int units = std::min(shownUnits, int(styled.text.size()));
+    if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
+        --units;
+    styled.text.truncate(units);
+    if (styled.text.trimmed().isEmpty())
+        styled.text = Thumbnails::tr("Text");
+    while (styled.runs.size() > 1 && styled.runs.last().begin >= styled.text.size())
+        styled.runs.removeLast();
+    text.source.fit = Fit::Both;
+    text.source.padding = 2;
+    text.source.align = Align::Center;
+    text.source.valign = VAlign::Middle;
+    if (scroll)
+        text.source.fit = Fit::Height;
+    const QColor color = styled.runs.first().color;
+    for (StyleRun& run : styled.runs)
+        run.color = color;
+    SceneNode node;
+    node.size = thumbnailSize;
+    node.hold = 10;
+    const NodeMotion motion{scroll ? Mode::Scroll : Mode::Entrance, number};
+    node.attributes = {
+        {QStringLiteral("PlayTimes"), 1},
+        {motion.SpeedKey(), quickSpeed},
+        {QStringLiteral("Hollow"), text.node.attributes.value(QStringLiteral("Hollow"), 0)}};
+    SetMotion(&node, motion);
+    if (neon) {
+        node.hold = neonTicks;
+        node.neonEffect = key - neonKeys;
+        node.attributes[QStringLiteral("CheckNeonBg")] = 1;
+    }
+    text.node = node;
+    text.page = 0;
+    text.area = 0;
+    return text;
+}
+
+} // namespace
+
+Thumbnails::Thumbnails(const QString& plugin, QObject* parent)
+    : QObject(parent)
+    , link(new WorkerLink(plugin, WorkerLink::Haste::None))
+{
+    link->moveToThread(&thread);
+    connect(&thread, &QThread::finished, link, &QObject::deleteLater);
+    connect(link, &WorkerLink::Picture, this, &Thumbnails::TakePicture);
+    connect(link, &WorkerLink::Idle, this, [this](quint32 of) {
+        if (of == generation)
+            Finish();
+    });
+    connect(link, &WorkerLink::Died, this, [this] { Finish(); });
+    pool.setMaxThreadCount(1);
+    thread.start();
+}
+
+Thumbnails::~Thumbnails()
+{
+    pool.waitForDone();
+    thread.quit();
+    thread.wait();
+}
+
+void Thumbnails::SetText(const SignText& next)
+{
+    if (next.source == text.source && next.id == text.id &&
+        next.node.attributes.value(QStringLiteral("Hollow")) ==
+            text.node.attributes.value(QStringLiteral("Hollow")))
+        return;
+    text = next;
+    ++textNumber;
+    waiting.clear();
+    for (Loop& loop : loops)
+        loop.isAsked = false;
+}
+
+QImage Thumbnails::Picture(bool scroll, int number, int tick)
+{
+    return PictureOf(scroll ? scrollKeys + number : number, tick);
+}
+
+QImage Thumbnails::NeonPicture(int style, int tick)
+{
+    return PictureOf(neonKeys + style, tick);
+}
+
+QImage Thumbnails::PictureOf(int key, int tick)
+{
+    if (textNumber == 0)
+        return {};
+    const Loop& loop = loops[key];
+    if (loop.text != textNumber && !loop.isAsked)
+        Ask(key);
+    if (loop.pictures.isEmpty())
+        return {};
+    return loop.pictures.at(tick % loop.pictures.size());
+}
+
+bool Thumbnails::IsCurrent(bool scroll, int number) const
+{
+    return loops.value(scroll ? scrollKeys + number : number).text == textNumber;
+}
+
+void Thumbnails::Ask(int key)
+{
+    loops[key].isAsked = true;
+    waiting.append(key);
+    ++asked;
+    Next();
+}
+
+void Thumbnails::Next()
+{
+    if (current >= 0 || waiting.isEmpty())
+        return;
+    current = waiting.takeFirst();
+    currentText = textNumber;
+    made.clear();
+    pool.start([this, key = current, from = text, of = ++generation] {
+        SignText sample = Sample(from, key);
+        sample.layoutKey = LayoutKey(sample);
+        sample.layout = MakeLayout(sample);
+        Sign sign;
+        sign.display = thumbnailSize;
+        sign.texts = {sample};
+        QString error;
+        const Scene scene = folder.Put(sign, -1, &error);
+        if (!error.isEmpty()) { // the window says so
+            QMetaObject::invokeMethod(this, &Thumbnails::Finish);
+            return;
+        }
+        LoadOrder order;
+        order.generation = of;
+        order.scene = SceneToJson(scene);
+        order.path = scene.path;
+        const auto layout = sample.layout;
+        QMetaObject::invokeMethod(link, [worker = link, order, key] {
+            worker->Load(order);
+            worker->Play(0, (key >= neonKeys ? neonTicks : loopTicks) - 1);
+        });
+        QMetaObject::invokeMethod(this, [this, layout] { playing = layout; });
+    });
+}
+
+void Thumbnails::TakePicture(const TickPicture& picture)
+{
+    if (picture.generation == generation && current >= 0)
+        made.append(picture.picture);
+}
+
+void Thumbnails::Finish()
+{
+    if (current < 0)
+        return;
+    Loop& loop = loops[current];
+    if (currentText == textNumber) {
+        loop.pictures = made;
+        loop.text = textNumber;
+    }
+    current = -1;
+    Next();
+}
+
+} // namespace AnimText

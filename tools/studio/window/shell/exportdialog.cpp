@@ -1,0 +1,326 @@
+#include "studio/window/shell/exportdialog.h"
+
+#include "files/wholefile.h"
+#include "film/filmfile.h"
+#include "live/pictureview.h"
+#include "player/player.h"
+#include "studio/window/basics/style.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace AnimText {
+
+ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QString& plugin,
+                           const ExportView& view, QWidget* parent)
+    : QDialog(parent)
+    , sign(sign)
+    , scenePath(scenePath)
+    , plugin(plugin)
+    , view(view)
+    , extent(new QComboBox(this))
+    , lamps(new QCheckBox(tr("As LEDs: round lamps on black"), this))
+    , forecast(new QLabel(this))
+    , format(new QComboBox(this))
+    , output(new QLineEdit(this))
+    , scale(new QSpinBox(this))
+    , schedule(new QCheckBox(
+          tr("All pages in turn, each for its planned time, as the host plays them"), this))
+    , transparent(new QCheckBox(tr("Transparent background"), this))
+    , lossless(new QCheckBox(tr("Lossless"), this))
+    , command(new QLineEdit(this))
+    , progress(new QProgressBar(this))
+    , state(new QLabel(this))
+    , start(new QPushButton(tr("Export"), this))
+    , close(new QPushButton(tr("Close"), this))
+{
+    setWindowTitle(tr("Export a film"));
+    for (const FilmKind& kind : FilmKinds()) {
+        const QString ending = QLatin1String(kind.ending);
+        format->addItem(ending == QLatin1String("/") ? tr("Folder of PNGs")
+                        : kind.still                 ? tr("PNG, one picture")
+                                                     : ending.mid(1).toUpper(),
+                        ending);
+    }
+    scale->setRange(1, 16);
+    scale->setSuffix(tr(" ×"));
+    schedule->setChecked(view.schedule || sign.PageCount() > 1);
+    const auto seconds = [](int tick) { return SecondsText(qint64(tick) * tickLength); };
+    extent->addItem(tr("All of it"), QPoint(0, -1));
+    if (view.loopFirst >= 0)
+        extent->addItem(
+            tr("The loop, %1 to %2").arg(seconds(view.loopFirst), seconds(view.loopLast + 1)),
+            QPoint(view.loopFirst, view.loopLast));
+    if (view.tick >= 0)
+        extent->addItem(tr("This picture, tick %1").arg(view.tick), QPoint(view.tick, view.tick));
+    extent->setAccessibleName(tr("What is exported"));
+    lamps->setChecked(view.lamps);
+    output->setAccessibleName(tr("File"));
+    command->setReadOnly(true);
+    command->setFrame(false);
+    command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    command->setAccessibleName(tr("The same as a command"));
+    auto* copy = new QToolButton(this);
+    copy->setIcon(Icon(QStringLiteral("edit-copy")));
+    copy->setAutoRaise(true);
+    copy->setToolTip(tr("Copy the command"));
+    copy->setAccessibleName(tr("Copy the command"));
+    auto* browse = new QToolButton(this);
+    browse->setText(tr("…"));
+    browse->setToolTip(tr("Choose the file"));
+    browse->setAccessibleName(tr("Choose the file"));
+    state->setWordWrap(true);
+    state->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    state->setOpenExternalLinks(true);
+    state->setAccessibleName(tr("State"));
+    progress->setTextVisible(false);
+    start->setDefault(true);
+
+    const auto row = [](QWidget* first, QWidget* second) {
+        auto* layout = new QHBoxLayout;
+        layout->setSpacing(grid);
+        layout->addWidget(first, 1);
+        layout->addWidget(second);
+        return layout;
+    };
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(3 * grid);
+    form->setVerticalSpacing(2 * grid);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("Export"), extent);
+    form->addRow(tr("Format"), format);
+    form->addRow(tr("File"), row(output, browse));
+    form->addRow(tr("Magnify"), scale);
+    form->addRow(QString(), lamps);
+    form->addRow(QString(), schedule);
+    form->addRow(QString(), transparent);
+    form->addRow(QString(), lossless);
+    form->addRow(tr("Result"), forecast);
+    form->addRow(tr("As a command"), row(command, copy));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(close);
+    buttons->addWidget(start);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
+    layout->setSpacing(3 * grid);
+    layout->addLayout(form);
+    layout->addWidget(progress);
+    layout->addWidget(state);
+    layout->addLayout(buttons);
+    progress->hide();
+    state->hide();
+    setMinimumWidth(560);
+
+    const QFileInfo scene(scenePath);
+    const QString base = scenePath.isEmpty() ? QDir::home().filePath(tr("sign"))
+                                             : scene.dir().filePath(scene.completeBaseName());
+    output->setText(base + format->currentData().toString());
+    connect(format, qOverload<int>(&QComboBox::activated), this, &ExportDialog::FormatChosen);
+    connect(output, &QLineEdit::textChanged, this, [this] {
+        if (output->text() != replaced)
+            replaced.clear();
+        Refresh();
+    });
+    connect(scale, qOverload<int>(&QSpinBox::valueChanged), this, &ExportDialog::Refresh);
+    connect(extent, qOverload<int>(&QComboBox::activated), this, &ExportDialog::ExtentChosen);
+    for (QCheckBox* box : {schedule, transparent, lossless, lamps})
+        connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
+    connect(copy, &QToolButton::clicked, this,
+            [this] { QApplication::clipboard()->setText(command->text()); });
+    connect(browse, &QToolButton::clicked, this, &ExportDialog::Browse);
+    connect(start, &QPushButton::clicked, this, &ExportDialog::Begin);
+    connect(close, &QPushButton::clicked, this, &ExportDialog::reject);
+    connect(&exporting, &Export::Progress, this, [this](qint64 done, qint64 all) {
+        progress->setRange(0, int(all));
+        progress->setValue(int(done));
+        state->setText(all > 0 ? tr("Picture %1 of %2").arg(done).arg(all)
+                               : tr("Looking for the end: tick %1").arg(done));
+    });
+    connect(&exporting, &Export::Ended, this, &ExportDialog::End);
+    Refresh();
+}
+
+void ExportDialog::SetOutput(const QString& path)
+{
+    output->setText(path);
+}
+
+ExportWishes ExportDialog::Wishes() const
+{
+    ExportWishes wishes;
+    wishes.output = output->text();
+    wishes.scale = scale->value();
+    wishes.first = extent->currentData().toPoint().x();
+    wishes.last = extent->currentData().toPoint().y();
+    if (lamps->isChecked()) {
+        wishes.lamps = view.pitch;
+        // Even, for films that need even sides.
+        wishes.scale = qMax(PictureView::smallestLamp, (wishes.scale + 1) / 2 * 2);
+    }
+    wishes.schedule = schedule->isChecked();
+    wishes.transparent = transparent->isChecked() && transparent->isEnabled();
+    wishes.lossless = lossless->isChecked() && lossless->isEnabled();
+    return wishes;
+}
+
+void ExportDialog::FormatChosen()
+{
+    QString path = output->text();
+    for (const FilmKind& kind : FilmKinds()) {
+        if (path.endsWith(QLatin1String(kind.ending)))
+            path.chop(int(qstrlen(kind.ending)));
+    }
+    output->setText(path + format->currentData().toString());
+}
+
+/** One picture is a PNG, and a PNG is one picture. */
+void ExportDialog::ExtentChosen()
+{
+    const QPoint range = extent->currentData().toPoint();
+    const FilmKind* kind = FilmKindOf(output->text());
+    const bool isOne = range.x() == range.y();
+    if (isOne != (kind && kind->still)) {
+        format->setCurrentIndex(isOne ? format->findData(QStringLiteral(".png")) : 0);
+        FormatChosen();
+    }
+    Refresh();
+}
+
+/** Size and length of what will be made. */
+void ExportDialog::ShowForecast()
+{
+    const ExportWishes wishes = Wishes();
+    const QSize size = sign.display * wishes.scale;
+    const QString pixels = tr("%1 × %2 px").arg(size.width()).arg(size.height());
+    const int pictures = wishes.last >= 0 ? wishes.last - wishes.first + 1 : view.length;
+    if (wishes.last >= 0 && pictures == 1)
+        forecast->setText(pixels);
+    else if (pictures > 0 && (wishes.last >= 0 || schedule->isChecked()))
+        forecast->setText(
+            QStringLiteral("%1 · %2").arg(pixels, SecondsText(qint64(pictures) * tickLength)));
+    else if (pictures > 0) // the film lets the last page stand for one hold more
+        forecast->setText(tr("%1 · %2 and the last hold once more")
+                              .arg(pixels, SecondsText(qint64(pictures) * tickLength)));
+    else
+        forecast->setText(tr("%1 · to the end of all texts").arg(pixels));
+}
+
+/** What the format cannot do is off, and says why. */
+void ExportDialog::Refresh()
+{
+    const FilmKind* kind = FilmKindOf(output->text());
+    const int index = kind ? format->findData(QLatin1String(kind->ending)) : -1;
+    if (index >= 0)
+        format->setCurrentIndex(index);
+    transparent->setEnabled(kind && kind->transparent &&
+                            (!lossless->isChecked() || kind->losslessTransparent));
+    lossless->setEnabled(kind && kind->lossless &&
+                         (!transparent->isChecked() || kind->losslessTransparent));
+    transparent->setToolTip(transparent->isEnabled() ? QString()
+                                                     : tr("Films of this format cannot be."));
+    lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
+    const QPoint range = extent->currentData().toPoint();
+    const bool isOne = range.x() == range.y();
+    const bool suits = kind && kind->still == isOne;
+    if (kind && !suits && extent->findData(QPoint(view.tick, view.tick)) >= 0)
+        extent->setCurrentIndex(kind->still ? extent->findData(QPoint(view.tick, view.tick)) : 0);
+    ShowForecast();
+    start->setText(tr("Export"));
+    start->setEnabled(index >= 0 && (!kind->still || view.tick >= 0) && !sign.texts.isEmpty() &&
+                      !exporting.IsRunning());
+    command->setEnabled(Wishes().HasCommand());
+    command->setToolTip(command->isEnabled() ? QString()
+                                             : tr("Only the studio makes films of lamps."));
+    command->setText(
+        !command->isEnabled()
+            ? QString()
+            : RenderCommandLine(scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath,
+                                Wishes()));
+    command->setCursorPosition(0);
+}
+
+void ExportDialog::Say(const QString& words, bool isWarning)
+{
+    QPalette colors = palette();
+    if (isWarning)
+        colors.setColor(QPalette::WindowText, Warning(colors));
+    state->setPalette(colors);
+    state->setText(words);
+    state->show();
+}
+
+void ExportDialog::Browse()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Export a film"), output->text());
+    if (path.isEmpty())
+        return;
+    replaced = path; // the file dialog has asked
+    output->setText(path);
+}
+
+void ExportDialog::Begin()
+{
+    const QFileInfo there(output->text());
+    const bool isThere = there.isDir() ? !QDir(there.filePath()).isEmpty() : there.exists();
+    if (isThere && replaced != output->text()) {
+        replaced = output->text();
+        Say(tr("%1 exists already.").arg(replaced), true);
+        start->setText(tr("Replace"));
+        return;
+    }
+    QString error;
+    const Scene scene = folder.Put(sign, -1, &error);
+    if (!error.isEmpty() || !WriteWhole(scene.path, SceneToJson(scene), &error)) {
+        End(error, false);
+        return;
+    }
+    progress->setRange(0, 0);
+    progress->show();
+    replaced.clear(); // the next film asks again
+    Say(tr("Starting"), false);
+    close->setText(tr("Cancel"));
+    exporting.Start(plugin, scene.path, Wishes());
+    start->setEnabled(false);
+}
+
+void ExportDialog::End(const QString& error, bool cancelled)
+{
+    progress->hide();
+    close->setText(tr("Close"));
+    if (cancelled)
+        Say(tr("Canceled; nothing was written."), false);
+    else if (!error.isEmpty())
+        Say(error, true);
+    else
+        Say(tr("Saved %1").arg(output->text().toHtmlEscaped()) +
+                QStringLiteral("  <a href=\"%1\">%2</a>  <a href=\"%3\">%4</a>")
+                    .arg(QUrl::fromLocalFile(QFileInfo(output->text()).absoluteFilePath())
+                             .toString(QUrl::FullyEncoded),
+                         tr("Open"),
+                         QUrl::fromLocalFile(QFileInfo(output->text()).absolutePath())
+                             .toString(QUrl::FullyEncoded),
+                         tr("Show in folder")),
+            false);
+    Refresh();
+    emit Done(!cancelled && error.isEmpty());
+}
+
+void ExportDialog::reject()
+{
+    if (exporting.IsRunning())
+        exporting.Cancel();
+    else
+        QDialog::reject();
+}
+
+} // namespace AnimText

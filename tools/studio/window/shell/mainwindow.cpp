@@ -1,0 +1,643 @@
+#include "studio/window/shell/mainwindow.h"
+
+#include "studio/window/basics/style.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSettings>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace AnimText {
+namespace {
+
+/** The menu goes on calling it by its name. */
+void SetTitle(QDockWidget* dock, const QString& title)
+{
+    const QString name = dock->toggleViewAction()->text();
+    dock->setWindowTitle(title);
+    dock->toggleViewAction()->setText(name);
+}
+
+constexpr int dimmingDelay = 100; // milliseconds for which a stale picture is not marked yet
+const QColor surroundings(96, 96, 96);
+constexpr QSize largestStandardSize(1760, 1040);
+
+} // namespace
+
+MainWindow::MainWindow(const QString& plugin)
+    : plugin(plugin)
+    , recovery(&document)
+    , rehearsal(plugin)
+    , thumbnails(plugin)
+{
+    setObjectName(QStringLiteral("studio"));
+    setAcceptDrops(true);
+    setDockNestingEnabled(true);
+    dimming.setSingleShot(true);
+    dimming.setInterval(dimmingDelay);
+    MakeCentre();
+    MakeDocks();
+    MakeActions();
+    Connect();
+    setTabOrder(inspector->Text()->Editor(), view); // one Tab from typing to playing
+    for (QComboBox* box : findChildren<QComboBox*>())
+        box->installEventFilter(this);
+    // The picture is the largest thing.
+    resize((screen()->availableSize() * 0.92).boundedTo(largestStandardSize));
+    RestoreLayout();
+}
+
+MainWindow::~MainWindow()
+{
+    // What the widgets would tell while they go has nobody to hear it.
+    document.disconnect(this);
+    rehearsal.disconnect(this);
+    for (QObject* part : findChildren<QObject*>())
+        part->disconnect(this);
+}
+
+void MainWindow::MakeCentre()
+{
+    view = new DisplayView(this);
+    view->SetSurroundings(surroundings);
+    view->SetFillsRoom(true);
+    scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // the display in it has it
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(view);
+    transport = new TransportBar(&playback, this);
+    timeline = new Timeline(&playback, this);
+    // They would scroll where the keys go through time.
+    scroll->installEventFilter(this);
+    timeline->installEventFilter(this);
+
+    auto* top = new QWidget(this);
+    auto* topLayout = new QVBoxLayout(top);
+    topLayout->setContentsMargins(0, 0, 0, 0);
+    topLayout->setSpacing(0);
+    topLayout->addWidget(scroll, 1);
+    notices = new NoticeBar(top);
+    auto* bottom = new QWidget(this);
+    auto* bottomLayout = new QVBoxLayout(bottom);
+    bottomLayout->setContentsMargins(0, 0, 0, 0);
+    bottomLayout->setSpacing(0);
+    bottomLayout->addWidget(transport);
+    bottomLayout->addWidget(timeline, 1);
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setObjectName(QStringLiteral("centre"));
+    splitter->addWidget(top);
+    splitter->addWidget(bottom);
+    splitter->setStretchFactor(0, 1);
+    splitter->setCollapsible(0, false);
+    setCentralWidget(splitter);
+}
+
+void MainWindow::MakeDocks()
+{
+    scenes = new SceneList(this);
+    inspector = new Inspector(&thumbnails, this);
+    const auto dock = [this](const QString& name, const QString& title, QWidget* widget,
+                             Qt::DockWidgetArea area) {
+        auto* made = new QDockWidget(title, this);
+        made->setObjectName(name);
+        made->setWidget(widget);
+        made->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable |
+                          QDockWidget::DockWidgetFloatable);
+        addDockWidget(area, made);
+        return made;
+    };
+    auto* scene = new QWidget(this);
+    sceneTools = new QHBoxLayout;
+    sceneTools->setContentsMargins(grid, grid, grid, grid);
+    sceneTools->setSpacing(grid);
+    auto* sceneLayout = new QVBoxLayout(scene);
+    sceneLayout->setContentsMargins(0, 0, 0, 0);
+    sceneLayout->setSpacing(0);
+    sceneLayout->addWidget(scenes, 1);
+    sceneLayout->addLayout(sceneTools);
+    QDockWidget* left = dock(QStringLiteral("scene"), tr("Scene"), scene, Qt::LeftDockWidgetArea);
+    QDockWidget* right =
+        dock(QStringLiteral("text"), tr("Text"), inspector, Qt::RightDockWidgetArea);
+    findings = new FindingsList(this);
+    QDockWidget* below =
+        dock(QStringLiteral("findings"), tr("Findings"), findings, Qt::LeftDockWidgetArea);
+    connect(findings, &FindingsList::CountChanged, this, [below](int count) {
+        SetTitle(below, count == 0 ? tr("No findings") : tr("%n finding(s)", nullptr, count));
+    });
+    integrator = new IntegratorView(this);
+    dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
+        ->hide();
+    resizeDocks({left, right}, {216, 430}, Qt::Horizontal);
+    resizeDocks({left, below}, {400, 160}, Qt::Vertical);
+}
+
+void MainWindow::Connect()
+{
+    connect(&document, &Document::Replaced, this, [this] {
+        playback.Seek(0);
+        selected = document.Current().texts.isEmpty() ? 0 : document.Current().texts.first().id;
+    });
+    connect(&document, &Document::Changed, this, &MainWindow::Refresh);
+    connect(&document, &Document::StateChanged, this, &MainWindow::ShowState);
+    connect(&document, &Document::SaveEnded, this, [this](bool saved, const QString& error) {
+        if (!saved)
+            notices->Set(NoticeBar::Save, tr("Not saved: %1").arg(error),
+                         {{tr("Save as…"), [this] { SaveAs(); }}, {tr("Dismiss"), {}}});
+        else
+            notices->Set(NoticeBar::Save, QString());
+        const auto then = std::exchange(afterSave, {});
+        if (then && saved)
+            Leave(then);
+    });
+    connect(&document, &Document::DiskChanged, this, [this] {
+        notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
+                     {{tr("Load it"), [this] { LoadTheirs(); }},
+                      {tr("Keep mine"),
+                       [this] {
+                           document.KeepMine();
+                           notices->Set(NoticeBar::Save, QString()); // it would be saved now
+                       }},
+                      {tr("Save mine as…"), [this] { SaveAs(); }}});
+    });
+
+    connect(&rehearsal, &Rehearsal::Shown, this, [this](const QImage& picture) {
+        dimming.stop();
+        view->SetDimmed(false);
+        const bool isResized = view->Picture().size() != picture.size();
+        view->SetPicture(picture);
+        if (isResized)
+            LeaveLampZoom();
+    });
+    connect(&rehearsal, &Rehearsal::Stale, this, [this] {
+        timeline->SetStale(true);
+        if (!dimming.isActive())
+            dimming.start();
+    });
+    connect(&dimming, &QTimer::timeout, this, [this] { view->SetDimmed(true); });
+    connect(&rehearsal, &Rehearsal::TimingChanged, this, &MainWindow::ShowTiming);
+    connect(&rehearsal, &Rehearsal::FindingsChanged, this, [this](const QList<Finding>& list) {
+        found = list;
+        findings->Show(found, document.Current());
+        ShowFindings();
+    });
+    connect(findings, &FindingsList::Selected, this, &MainWindow::Select);
+    connect(findings, &FindingsList::Mended, this,
+            [this](int id, const QString& what, const TextChange& change) {
+                Select(id);
+                Edit(what, QString(), change);
+            });
+    connect(&rehearsal, &Rehearsal::Trouble, this,
+            [this](const QString& why) { notices->Set(NoticeBar::Trouble, why); });
+
+    playback.isReady = [this](int tick) {
+        if (rehearsal.Has(tick))
+            return true;
+        rehearsal.Look(tick);
+        return false;
+    };
+    connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
+
+    ConnectIntegrator();
+    scenes->installEventFilter(this);
+    inspector->Motions()->List()->installEventFilter(this);
+    connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
+    connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
+    connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText);
+    connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage);
+    connect(scenes, &SceneList::PageSelected, this, [this](int page) {
+        selected = 0;
+        shownPage = page;
+        Refresh();
+    });
+    connect(scenes, &SceneList::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(timeline, &Timeline::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(view, &DisplayView::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
+    connect(view, &DisplayView::Selected, this, &MainWindow::Select);
+    connect(view, &DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
+    connect(view, &DisplayView::ScaleChanged, this, &MainWindow::KeepLampsInSight);
+    connect(view, &DisplayView::PlayWanted, &playback, &Playback::Toggle);
+    connect(view, &DisplayView::Panned, this, [this](const QPoint& by) {
+        scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->value() - by.x());
+        scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->value() - by.y());
+    });
+    for (QScrollBar* bar : {scroll->horizontalScrollBar(), scroll->verticalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, view, qOverload<>(&QWidget::update)); // its rulers
+    connect(inspector->Display(), &DisplayForm::Edited, this, &MainWindow::ChangeDisplay);
+    connect(view, &DisplayView::DisplayDoubleClicked, this,
+            [this] { inspector->Text()->BeginTyping(); });
+    connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
+        Select(id);
+        Edit(tr("Area"), gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
+             [rect](SignText* text) {
+                 text->node.pos = rect.topLeft();
+                 text->node.size = rect.size();
+             });
+    });
+    connect(inspector, &Inspector::Edited, this, &MainWindow::Edit);
+    connect(transport, &TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
+    connect(transport, &TransportBar::LoopToggled, this, &MainWindow::ToggleLoop);
+}
+
+void MainWindow::ConnectIntegrator()
+{
+    connect(integrator, &IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
+    connect(integrator, &IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
+    connect(&rehearsal, &Rehearsal::Shown, this, &MainWindow::ShowCalls);
+}
+
+void MainWindow::CompareWith(const QString& library)
+{
+    compared.reset();
+    view->SetCompared(QImage());
+    if (library.isEmpty())
+        return;
+    compared = std::make_unique<Rehearsal>(library);
+    connect(&playback, &Playback::TickChanged, compared.get(), &Rehearsal::Look);
+    connect(compared.get(), &Rehearsal::Shown, this, &MainWindow::ShowCalls);
+    connect(compared.get(), &Rehearsal::Trouble, this, [this, library](const QString& why) {
+        if (!why.isEmpty())
+            notices->Set(NoticeBar::Trouble, QStringLiteral("%1: %2").arg(library, why),
+                         {{tr("Dismiss"), {}}});
+    });
+    compared->SetSign(document.Current(), part);
+    compared->Look(playback.Tick());
+}
+
+/** The calls of the tick that is looked at, and what the other library makes of it. */
+void MainWindow::ShowCalls()
+{
+    if (integrator->isVisible())
+        integrator->ShowCalls(rehearsal.Tick(), rehearsal.Calls(rehearsal.Tick()));
+    const bool bothThere = compared && compared->IsCurrent() && rehearsal.IsCurrent() &&
+                           compared->Tick() == rehearsal.Tick();
+    if (!compared)
+        return;
+    view->SetCompared(bothThere ? compared->Picture(rehearsal.Tick()) : QImage());
+    integrator->ShowDifferences(bothThere ? view->Differences() : -1);
+}
+
+void MainWindow::RestoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("docks")).toByteArray());
+    findChild<QSplitter*>(QStringLiteral("centre"))
+        ->restoreState(settings.value(QStringLiteral("centre")).toByteArray());
+    Arrange();
+    SetPitch(settings.value(QStringLiteral("pitch"), standardPitch).toDouble());
+    leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
+}
+
+void MainWindow::LoadTheirs()
+{
+    QString error;
+    if (!document.LoadTheirs(&error))
+        notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+    else
+        notices->Set(NoticeBar::Save, QString()); // what could not be saved was given up
+}
+
+bool MainWindow::Open(const QString& path)
+{
+    QString error;
+    if (!document.Open(path, &error)) {
+        notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+        return false;
+    }
+    notices->Set(NoticeBar::Trouble, QString());
+    notices->Set(NoticeBar::Disk, QString());
+    notices->Set(NoticeBar::Save, QString());
+    AddRecent(document.Path());
+    view->setFocus(); // Space plays
+    return true;
+}
+
+void MainWindow::New(const QSize& display, bool alphaBlend)
+{
+    document.New(display, alphaBlend);
+    notices->Set(NoticeBar::Disk, QString());
+    notices->Set(NoticeBar::Save, QString());
+    inspector->Text()->BeginTyping();
+}
+
+int MainWindow::CurrentPage() const
+{
+    const SignText* text = document.Current().Find(selected);
+    return text ? text->page : qBound(0, shownPage, qMax(0, document.Current().PageCount() - 1));
+}
+
+void MainWindow::Select(int id)
+{
+    if (id == selected)
+        return;
+    const int page = CurrentPage();
+    selected = id;
+    if (id == 0)
+        shownPage = page;
+    if (page != CurrentPage() && !transport->IsSchedule())
+        playback.Seek(0);
+    Refresh();
+}
+
+/** Everything shows the sign as it is now. */
+void MainWindow::Refresh()
+{
+    const Sign& sign = document.Current();
+    if (selected != 0 && !sign.Find(selected))
+        selected = sign.texts.isEmpty() ? 0 : sign.texts.last().id;
+    scenes->Show(sign);
+    scenes->Select(selected);
+    const SignText* text = sign.Find(selected);
+    inspector->Show(sign, text);
+    const QString title = text ? text->Title() : tr("Display");
+    SetTitle(findChild<QDockWidget*>(QStringLiteral("text")), title.isEmpty() ? tr("Text") : title);
+    QVector<AreaFrame> frames;
+    for (const SignText& text : sign.texts) {
+        if (text.page == CurrentPage())
+            frames.append({text.id, QRect(text.node.pos, text.node.size), text.Title()});
+    }
+    view->SetFrames(frames);
+    view->SetSelected(selected);
+    timeline->SetSelected(selected);
+    ShowFindings();
+    Rehearse();
+}
+
+/** Those about the text that is edited stand beside its fields. */
+void MainWindow::ShowFindings()
+{
+    QList<Finding> own;
+    const int index = document.Current().IndexOf(selected);
+    for (const Finding& finding : found) {
+        if (TextOf(finding, document.Current()) == index)
+            own.append(finding);
+    }
+    inspector->SetFindings(own);
+}
+
+void MainWindow::OfferLostWork()
+{
+    const QList<LostWork> lost = recovery.Find();
+    if (lost.isEmpty())
+        return;
+    const LostWork& work = lost.first();
+    const QString name = work.path.isEmpty() ? tr("a new sign") : QFileInfo(work.path).fileName();
+    notices->Set(
+        NoticeBar::Recovery,
+        tr("The studio stopped before %1 was saved (%2).")
+            .arg(name, QLocale().toString(work.when, QLocale::ShortFormat)),
+        {{tr("Restore"), [this, work] { Leave([this, work] { recovery.TakeOver(work); }); }},
+         {tr("Delete copy"), [this, work] {
+              Recovery::Drop(work);
+              OfferLostWork(); // there may be more
+          }}});
+}
+
+void MainWindow::Rehearse()
+{
+    const Sign& sign = document.Current();
+    part.schedule = transport->IsSchedule();
+    part.page = part.schedule ? -1 : CurrentPage();
+    part.calls = integrator->isVisible();
+    part.faults = part.calls ? integrator->Faults() : QVector<QPair<qint32, qint32>>();
+    if (!sign.IsLaidOut()) {
+        if (!dimming.isActive())
+            dimming.start();
+        return;
+    }
+    rehearsal.SetSign(sign, part);
+    if (compared)
+        compared->SetSign(sign, part);
+}
+
+void MainWindow::ShowTiming()
+{
+    const Timing& timing = rehearsal.GetTiming();
+    const QVector<int> ids = PagedIds(part.page);
+    QStringList titles;
+    QVector<int> plays;
+    for (int id : ids) {
+        const SignText* text = document.Current().Find(id);
+        titles.append(text->Title());
+        plays.append(text->node.attributes.value(QStringLiteral("PlayTimes")).toInt());
+    }
+    timeline->SetTiming(timing, ids, titles, plays);
+    timeline->SetStale(false);
+    playback.SetLength(timing.Ticks());
+    ShowEnds();
+}
+
+/** Times of the text that is selected, else of the page, else of the program. */
+void MainWindow::ShowEnds()
+{
+    const Timing& timing = rehearsal.GetTiming();
+    const QVector<int> ids = PagedIds(part.page);
+    if (timing.texts.size() != ids.size()) {
+        transport->ShowEnds(nullptr, QString());
+        return;
+    }
+    QMap<int, QVector<TextTime>> pages; // the texts of an area play in turn
+    int area = -1;
+    for (int i = 0; i < ids.size(); ++i) {
+        const SignText* text = document.Current().Find(ids.at(i));
+        QVector<TextTime>& own = pages[text->page];
+        if (own.isEmpty() || text->area != area) {
+            own.append(timing.texts.at(i));
+        } else {
+            own.last().told += timing.texts.at(i).told;
+            own.last().real += timing.texts.at(i).real;
+        }
+        area = text->area;
+    }
+    QStringList lines;
+    TextTime program = SideBySide({});
+    for (auto page = pages.begin(); page != pages.end(); ++page) {
+        const TextTime times = SideBySide(page.value());
+        program.told += times.told;
+        program.real += times.real;
+        lines.append(tr("Page %1: %2").arg(page.key() + 1).arg(EndsInWords(times)));
+    }
+    lines.append(tr("Program: %1").arg(EndsInWords(program)));
+    if (part.page >= 0)
+        lines.removeLast(); // the other pages have not been measured
+    const int row = ids.indexOf(selected);
+    const TextTime page = SideBySide(pages.value(CurrentPage()));
+    if (row >= 0) {
+        lines.prepend(tr("Text: %1").arg(EndsInWords(timing.texts.at(row))));
+        transport->ShowEnds(&timing.texts.at(row), lines.join(QLatin1Char('\n')));
+    } else {
+        transport->ShowEnds(part.page >= 0 || scenes->PageOfRow() >= 0 ? &page : &program,
+                            lines.join(QLatin1Char('\n')));
+    }
+}
+
+void MainWindow::ShowState()
+{
+    setWindowTitle(QStringLiteral("%1[*] — %2").arg(document.Name(), tr("Animated Text Studio")));
+    setWindowFilePath(document.Path());
+    setWindowModified(document.IsModified());
+    saveAction->setEnabled(document.IsModified() || document.Path().isEmpty());
+}
+
+void MainWindow::Edit(const QString& what, const QString& merge, const TextChange& change)
+{
+    Sign after = document.Current();
+    SignText* text = after.Find(selected);
+    if (!text)
+        return;
+    change(text);
+    document.Change(what, after,
+                    merge.isEmpty() ? merge : QStringLiteral("%1 %2").arg(selected).arg(merge));
+}
+
+void MainWindow::ChangeDisplay(int gesture)
+{
+    Sign after = document.Current();
+    ResizeDisplay(&after, inspector->Display()->Size());
+    after.alphaBlend = inspector->Display()->AlphaBlend();
+    document.Change(tr("Display"), after,
+                    gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(object)) {
+        event->ignore(); // the panel scrolls; a choice that is scrolled past must not change
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress || qobject_cast<QComboBox*>(object))
+        return QMainWindow::eventFilter(object, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    const bool isPlayKey = key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier;
+    if (qobject_cast<QAbstractItemView*>(object) && !isPlayKey)
+        return false; // lists go by their own keys
+    keyPressEvent(key);
+    return event->isAccepted();
+}
+
+/** Goes from a field back to the display, on which keys go through time. */
+bool MainWindow::LeaveField(int key)
+{
+    QWidget* field = focusWidget();
+    const bool isNumber = qobject_cast<QAbstractSpinBox*>(field) != nullptr;
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (field == view && key == Qt::Key_Escape && selected != 0) {
+        Select(0);
+        return true;
+    }
+    if (field == view || (key != Qt::Key_Escape && !(isNumber && isEnter)))
+        return false;
+    view->setFocus();
+    return true;
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (view->HandleAreaKey(event->key(), event->modifiers()) || LeaveField(event->key()))
+        return;
+    const int tick = playback.Tick();
+    const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
+    switch (event->key()) {
+    case Qt::Key_Left: playback.Seek(tick - step); break;
+    case Qt::Key_Right: playback.Seek(tick + step); break;
+    case Qt::Key_Home: playback.Seek(0); break;
+    case Qt::Key_End: playback.Seek(playback.Length() - 1); break;
+    case Qt::Key_BracketLeft: playback.Seek(timeline->PreviousMark(tick)); break;
+    case Qt::Key_BracketRight: playback.Seek(timeline->NextMark(tick)); break;
+    case Qt::Key_Space: playback.Toggle(); break;
+    case Qt::Key_J: playback.Shuttle(-1); break;
+    case Qt::Key_K: playback.SetPace(0); break;
+    case Qt::Key_L: playback.Shuttle(1); break;
+    case Qt::Key_R: ToggleLoop(); break;
+    default: QMainWindow::keyPressEvent(event);
+    }
+}
+
+void MainWindow::ToggleLoop()
+{
+    if (playback.HasLoop()) {
+        playback.ClearLoop();
+        return;
+    }
+    const QPair<int, int> page = timeline->PageAt(playback.Tick());
+    playback.SetLoop(page.first, page.second);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    // Docks are not moved while they are being laid out.
+    QMetaObject::invokeMethod(this, &MainWindow::Arrange, Qt::QueuedConnection);
+}
+
+/** Where the window is narrow, the docks become tabs, so that the display keeps its room. */
+void MainWindow::Arrange()
+{
+    constexpr int roomForDisplay = 440;
+    constexpr int roomForScene = 200;
+    const int available = isVisible() ? width() : qMin(width(), screen()->availableSize().width());
+    const bool narrow = available < roomForScene + roomForDisplay + inspector->minimumWidth();
+    if (narrow == isNarrow)
+        return;
+    isNarrow = narrow;
+    if (!narrow) {
+        restoreState(wideDocks);
+        return;
+    }
+    wideDocks = saveState();
+    auto* text = findChild<QDockWidget*>(QStringLiteral("text"));
+    for (const char* name : {"scene", "findings"}) {
+        auto* dock = findChild<QDockWidget*>(QLatin1String(name));
+        if (!dock->isFloating())
+            tabifyDockWidget(text, dock);
+    }
+    text->raise();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!mayClose && (document.IsModified() || document.IsSaving())) {
+        event->ignore();
+        Leave([this] {
+            mayClose = true;
+            close();
+        });
+        return;
+    }
+    QSettings settings;
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("docks"), isNarrow ? wideDocks : saveState());
+    settings.setValue(QStringLiteral("centre"),
+                      findChild<QSplitter*>(QStringLiteral("centre"))->saveState());
+    settings.setValue(QStringLiteral("leds"), leds->isChecked());
+    settings.setValue(QStringLiteral("pitch"), pitch);
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().toLocalFile().endsWith(QLatin1String(".json")))
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = event->mimeData()->urls().first().toLocalFile();
+    Leave([this, path] { Open(path); });
+}
+
+} // namespace AnimText

@@ -1,0 +1,163 @@
+/**
+ * @file
+ * The studio's window.
+ */
+#ifndef ANIMTEXT_MAINWINDOW_H
+#define ANIMTEXT_MAINWINDOW_H
+
+#include "studio/model/document.h"
+#include "studio/model/recovery.h"
+#include "studio/window/basics/noticebar.h"
+#include "studio/window/display/displayview.h"
+#include "studio/window/findings/findingslist.h"
+#include "studio/window/form/inspector.h"
+#include "studio/window/form/integratorview.h"
+#include "studio/window/motion/thumbnails.h"
+#include "studio/window/shell/scenelist.h"
+#include "studio/window/time/playback.h"
+#include "studio/window/time/timeline.h"
+#include "studio/window/time/transportbar.h"
+#include "studio/worker/rehearsal.h"
+
+#include <QActionGroup>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QMainWindow>
+#include <QScrollArea>
+
+namespace AnimText {
+
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** @param plugin the library that plays; empty for the one beside the program */
+    explicit MainWindow(const QString& plugin);
+    ~MainWindow() override;
+
+    /** Opens the scene @p path; says so in the window when that fails. */
+    bool Open(const QString& path);
+    void New(const QSize& display = Sign().display, bool alphaBlend = true);
+
+    Document* GetDocument() { return &document; }
+    Rehearsal* GetRehearsal() { return &rehearsal; }
+    Playback* GetPlayback() { return &playback; }
+    DisplayView* Display() const { return view; }
+    Inspector* GetInspector() const { return inspector; }
+    TransportBar* Transport() const { return transport; }
+    NoticeBar* Notices() const { return notices; }
+    FindingsList* Findings() const { return findings; }
+    /** Hidden until it is asked for. */
+    IntegratorView* Integrator() const { return integrator; }
+    Recovery* GetRecovery() { return &recovery; }
+    /** Offers what a studio has left that was killed. */
+    void OfferLostWork();
+    int Selected() const { return selected; }
+    void Select(int id);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void MakeCentre();
+    void MakeDocks();
+    void MakeActions();
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeViewMenu();
+    void MakePlayMenu();
+    void MakeHelpMenu();
+    QAction* Act(QMenu* menu, const QString& words, const QKeySequence& key, const QString& icon,
+                 const std::function<void()>& act);
+    void Connect();
+    void RestoreLayout();
+    void Arrange();
+
+    void Refresh();
+    void Rehearse();
+    void ShowTiming();
+    void ShowEnds();
+    void ShowState();
+    void LoadTheirs();
+    void ShowFindings();
+    void ConnectIntegrator();
+    void CompareWith(const QString& library);
+    void ShowCalls();
+    void Edit(const QString& what, const QString& merge, const TextChange& change);
+    void AddNewText(bool onNewPage);
+    void RemoveSelected();
+    void DuplicateSelected();
+    void ChooseNew();
+    void ChangeDisplay(int gesture);
+    void ChooseAndOpen();
+    bool Save();
+    bool SaveAs();
+    void Leave(const std::function<void()>& then);
+    void ShowExport();
+    void ShowKeys();
+    void ShowRecent();
+    void AddRecent(const QString& path);
+    void SetZoom(int zoom);
+    void ZoomBy(int steps, const QPointF& about);
+    void SetLeds(bool on);
+    void KeepLampsInSight();
+    void LeaveLampZoom();
+    void SetPitch(double diameters);
+    void ToggleLoop();
+    bool LeaveField(int key);
+    void EditWords(const char* slot);
+    /** The texts of a page, or of all for a negative one. */
+    QVector<int> PagedIds(int page) const;
+    void Rename(int id, const QString& name);
+    void PutText(int id, int page, int place);
+    void PutPage(int page, int to);
+    void ShowObjectMenu(const QPoint& global);
+    int CurrentPage() const;
+
+    const QString plugin;
+    Document document;
+    Recovery recovery;
+    Rehearsal rehearsal;
+    std::unique_ptr<Rehearsal> compared; // with another library
+    Thumbnails thumbnails;
+    Playback playback;
+    int selected = 0;  // id of a text; 0 for the display
+    int shownPage = 0; // while no text is selected
+    Part part;
+    QTimer dimming;
+    QList<Finding> found;
+    std::function<void()> afterSave; // what waits until all is saved
+    bool mayClose = false;
+    bool isNarrow = false;
+    QByteArray wideDocks; // where the docks are while the window is not narrow
+    static constexpr double standardPitch = 1.5;
+    int plainZoom = -1;           // to go back to from the lamps; negative for none
+    double pitch = standardPitch; // from lamp to lamp, in their diameters
+
+    DisplayView* view = nullptr;
+    QScrollArea* scroll = nullptr; // that it is in
+    NoticeBar* notices = nullptr;
+    TransportBar* transport = nullptr;
+    Timeline* timeline = nullptr;
+    SceneList* scenes = nullptr;
+    Inspector* inspector = nullptr;
+    FindingsList* findings = nullptr;
+    IntegratorView* integrator = nullptr;
+    QComboBox* zoomBox = nullptr;
+    QMenu* recent = nullptr;
+    QAction* leds = nullptr;
+    QAction* saveAction = nullptr;
+    QToolBar* tools = nullptr;
+    QHBoxLayout* sceneTools = nullptr;
+    QActionGroup* pitches = nullptr;
+};
+
+} // namespace AnimText
+
+#endif

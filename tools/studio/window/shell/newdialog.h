@@ -1,0 +1,33 @@
+/**
+ * @file
+ * Where the display of a new sign is chosen.
+ */
+#ifndef ANIMTEXT_NEWDIALOG_H
+#define ANIMTEXT_NEWDIALOG_H
+
+#include "studio/window/display/displayform.h"
+
+#include <QDialog>
+
+namespace AnimText {
+
+/** Starts with the display that was chosen last. */
+class NewDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit NewDialog(QWidget* parent = nullptr);
+
+    DisplayForm* Form() const { return form; }
+
+public slots:
+    void accept() override;
+
+private:
+    DisplayForm* form;
+};
+
+} // namespace AnimText
+
+#endif

@@ -1,0 +1,94 @@
+#include "studio/window/time/playback.h"
+
+#include "player/player.h"
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr int fastest = 8; // ticks to a step
+
+} // namespace
+
+Playback::Playback(QObject* parent)
+    : QObject(parent)
+{
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setInterval(tickLength);
+    connect(&timer, &QTimer::timeout, this, &Playback::Step);
+}
+
+void Playback::SetLength(int ticks)
+{
+    if (ticks == length)
+        return;
+    length = std::max(1, ticks);
+    if (hasLoop && loopBegin >= length)
+        ClearLoop();
+    loopEnd = std::min(loopEnd, length - 1);
+    emit RangeChanged();
+    Seek(tick); // it may be beyond the end now
+}
+
+void Playback::Seek(int wanted)
+{
+    const int next = std::max(0, std::min(wanted, length - 1));
+    if (next == tick)
+        return;
+    tick = next;
+    emit TickChanged(tick);
+}
+
+void Playback::SetPace(int ticks)
+{
+    if (ticks == pace)
+        return;
+    pace = ticks;
+    if (pace == 0)
+        timer.stop();
+    else
+        timer.start();
+    emit PaceChanged(pace);
+}
+
+void Playback::Toggle()
+{
+    if (!IsPlaying() && tick >= LoopEnd())
+        Seek(LoopBegin());
+    SetPace(IsPlaying() ? 0 : 1);
+}
+
+void Playback::Shuttle(int direction)
+{
+    const bool faster = pace * direction > 0;
+    SetPace(faster ? direction * std::min(fastest, std::abs(pace) * 2) : direction);
+}
+
+void Playback::SetLoop(int begin, int end)
+{
+    hasLoop = true;
+    loopBegin = std::max(0, std::min(begin, end));
+    loopEnd = std::min(length - 1, std::max(begin, end));
+    emit RangeChanged();
+}
+
+void Playback::ClearLoop()
+{
+    hasLoop = false;
+    emit RangeChanged();
+}
+
+void Playback::Step()
+{
+    int next = tick + pace;
+    if (next > LoopEnd())
+        next = LoopBegin();
+    else if (next < LoopBegin())
+        next = LoopEnd();
+    if (isReady && !isReady(next))
+        return;
+    Seek(next);
+}
+
+} // namespace AnimText

@@ -1,0 +1,462 @@
+#include "studio/window/time/timeline.h"
+
+#include "studio/window/basics/style.h"
+
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+namespace AnimText {
+namespace {
+
+constexpr int rulerHeight = 24; // points, as all here
+constexpr int rowHeight = 24;
+constexpr int titleWidth = 128;
+constexpr int rightMargin = 16;
+constexpr int inset = 4;
+constexpr double largestZoom = 64;
+constexpr int ticksUnmeasured = 60; // that there is room for while nothing is known
+
+double TicksOf(qint64 milliseconds)
+{
+    return double(milliseconds) / tickLength;
+}
+
+/** Seconds between the numbers of the ruler so that they stand apart. */
+double RulerStep(double pointsPerSecond)
+{
+    for (double step : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 30.0, 60.0, 120.0, 300.0}) {
+        if (step * pointsPerSecond >= 56)
+            return step;
+    }
+    return 600;
+}
+
+} // namespace
+
+Timeline::Timeline(Playback* playback, QWidget* parent)
+    : QAbstractScrollArea(parent)
+    , playback(playback)
+{
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Timeline"));
+    viewport()->setMouseTracking(true);
+    connect(playback, &Playback::TickChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(playback, &Playback::RangeChanged, viewport(), qOverload<>(&QWidget::update));
+}
+
+void Timeline::SetTiming(const Timing& times, const QVector<int>& textIds,
+                         const QStringList& textTitles, const QVector<int>& textPlays)
+{
+    plays = textPlays;
+    timing = times;
+    ids = textIds;
+    titles = textTitles;
+    Adjust();
+    viewport()->update();
+}
+
+void Timeline::SetStale(bool isStale)
+{
+    if (stale == isStale)
+        return;
+    stale = isStale;
+    viewport()->update();
+}
+
+void Timeline::SetSelected(int id)
+{
+    selected = id;
+    const int row = ids.indexOf(id);
+    if (row >= 0) {
+        const int top = row * rowHeight;
+        const int room = viewport()->height() - rulerHeight;
+        const int value = verticalScrollBar()->value();
+        if (top < value)
+            verticalScrollBar()->setValue(top);
+        else if (top + rowHeight > value + room)
+            verticalScrollBar()->setValue(top + rowHeight - room);
+    }
+    viewport()->update();
+}
+
+int Timeline::Ticks() const
+{
+    const int least = timing.texts.isEmpty() ? ticksUnmeasured : 1;
+    return std::max({least, timing.Ticks(), playback->Length()});
+}
+
+/** Points for the times, as far as they are seen. */
+double Timeline::Room() const
+{
+    return std::max(1, viewport()->width() - titleWidth - rightMargin);
+}
+
+double Timeline::XOf(double tick) const
+{
+    return titleWidth + tick * Room() * zoom / std::max(1, Ticks()) -
+           horizontalScrollBar()->value();
+}
+
+int Timeline::TickAt(double x) const
+{
+    return int(
+        std::floor((x - titleWidth + horizontalScrollBar()->value()) * Ticks() / (Room() * zoom)));
+}
+
+void Timeline::SetZoom(double wanted, double x)
+{
+    const double tick = (x - titleWidth + horizontalScrollBar()->value()) / zoom;
+    zoom = std::max(1.0, std::min(wanted, largestZoom));
+    Adjust();
+    horizontalScrollBar()->setValue(int(std::lround(tick * zoom - (x - titleWidth))));
+    viewport()->update();
+}
+
+void Timeline::wheelEvent(QWheelEvent* event)
+{
+    if (event->modifiers() & Qt::ControlModifier)
+        SetZoom(zoom * std::pow(2, event->angleDelta().y() / 240.0), event->position().x());
+    else
+        QAbstractScrollArea::wheelEvent(event);
+}
+
+QVector<int> Timeline::Marks() const
+{
+    QVector<int> marks{0};
+    for (const TextTime& text : timing.texts) {
+        const int from = int(TicksOf(text.from));
+        for (const PageTime& page : text.pages)
+            marks << from + page.begin << from + page.hold;
+    }
+    marks << Ticks() - 1;
+    std::sort(marks.begin(), marks.end());
+    marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
+    return marks;
+}
+
+int Timeline::NextMark(int tick) const
+{
+    const QVector<int> marks = Marks();
+    const auto next = std::upper_bound(marks.begin(), marks.end(), tick);
+    return next == marks.end() ? marks.last() : *next;
+}
+
+int Timeline::PreviousMark(int tick) const
+{
+    const QVector<int> marks = Marks();
+    const auto next = std::lower_bound(marks.begin(), marks.end(), tick);
+    return next == marks.begin() ? 0 : *(next - 1);
+}
+
+QPair<int, int> Timeline::PageAt(int tick) const
+{
+    QVector<TextTime> texts = timing.texts;
+    const int row = ids.indexOf(selected);
+    if (row > 0 && row < texts.size())
+        texts.move(row, 0); // several texts show pages at once: the selected one decides
+    for (const TextTime& text : texts) {
+        const int from = int(TicksOf(text.from));
+        for (const PageTime& page : text.pages) {
+            if (tick >= from + page.begin && tick < from + page.end)
+                return {from + page.begin, from + page.end - 1};
+        }
+    }
+    return {0, playback->Length() - 1};
+}
+
+QSize Timeline::sizeHint() const
+{
+    return {640, rulerHeight + 5 * rowHeight};
+}
+
+QSize Timeline::minimumSizeHint() const
+{
+    return {320, rulerHeight + 2 * rowHeight};
+}
+
+void Timeline::Adjust()
+{
+    const int room = viewport()->height() - rulerHeight;
+    verticalScrollBar()->setRange(0, std::max(0, int(ids.size()) * rowHeight - room));
+    verticalScrollBar()->setPageStep(std::max(1, room));
+    verticalScrollBar()->setSingleStep(rowHeight);
+    horizontalScrollBar()->setRange(0, int(Room() * (zoom - 1)));
+    horizontalScrollBar()->setPageStep(int(Room()));
+    horizontalScrollBar()->setSingleStep(rowHeight);
+}
+
+void Timeline::resizeEvent(QResizeEvent*)
+{
+    Adjust();
+}
+
+void Timeline::paintEvent(QPaintEvent*)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
+    const int offset = verticalScrollBar()->value();
+    painter.setClipRect(0, rulerHeight, viewport()->width(), viewport()->height() - rulerHeight);
+    const int first = offset / rowHeight;
+    const int last = std::min(int(ids.size()) - 1, (offset + viewport()->height()) / rowHeight);
+    for (int row = first; row <= last && row < timing.texts.size(); ++row)
+        PaintRow(&painter, row,
+                 QRect(0, rulerHeight + row * rowHeight - offset, viewport()->width(), rowHeight));
+    painter.setClipping(false);
+    PaintRuler(&painter);
+    if (rulerHeight + (ids.size() + 1) * rowHeight <= viewport()->height())
+        PaintLegend(&painter);
+
+    const double x = std::round(XOf(playback->Tick() + 0.5));
+    painter.setClipRect(titleWidth - 2 * inset, 0, viewport()->width(), viewport()->height());
+    const QColor accent = palette().color(QPalette::Text); // on every bar
+    painter.setPen(QPen(accent, 1));
+    painter.drawLine(QPointF(x, 0), QPointF(x, viewport()->height()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(accent);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(QPolygonF({QPointF(x - 5, 0), QPointF(x + 6, 0), QPointF(x + 6, 4),
+                                   QPointF(x + 0.5, 10), QPointF(x - 5, 4)}));
+}
+
+void Timeline::PaintRuler(QPainter* painter) const
+{
+    const QRect ruler(0, 0, viewport()->width(), rulerHeight);
+    painter->fillRect(ruler, palette().color(QPalette::Window));
+    const QColor quiet =
+        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.55);
+    if (playback->HasLoop()) {
+        QColor shade = palette().color(QPalette::Highlight);
+        shade.setAlpha(64);
+        const double from = XOf(playback->LoopBegin());
+        painter->fillRect(QRectF(from, 0, XOf(playback->LoopEnd() + 1) - from, rulerHeight), shade);
+    }
+    painter->setFont(TabularFont(font(), -1));
+    const double seconds = Ticks() * tickLength / 1000.0;
+    const double perSecond = (XOf(Ticks()) - XOf(0)) / std::max(0.1, seconds);
+    const double step = RulerStep(perSecond);
+    const int small = step * perSecond / 5 >= 6 ? 5 : 2;
+    for (int i = 0; i * step / small <= seconds + 0.001; ++i) {
+        const double x = std::round(XOf(TicksOf(qint64(1000 * i * step / small))));
+        if (x < titleWidth || x > viewport()->width())
+            continue;
+        const bool isNumber = i % small == 0;
+        painter->setPen(quiet);
+        painter->drawLine(QPointF(x, isNumber ? rulerHeight - 7 : rulerHeight - 4),
+                          QPointF(x, rulerHeight - 2));
+        if (isNumber)
+            painter->drawText(QPointF(x + 4, rulerHeight - 8),
+                              locale().toString(i * step / small, 'f', step < 1 ? 1 : 0));
+    }
+    painter->setPen(
+        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.85));
+    painter->drawLine(0, rulerHeight - 1, viewport()->width(), rulerHeight - 1);
+    painter->setPen(Quiet(palette()));
+    painter->drawText(QRect(inset * 2, 0, titleWidth - inset * 3, rulerHeight), Qt::AlignVCenter,
+                      tr("Seconds"));
+}
+
+/** What the colors mean, below the rows. */
+void Timeline::PaintLegend(QPainter* painter) const
+{
+    const QPair<Phase, QString> entries[]{
+        {Entrance, tr("enters")}, {Hold, tr("holds")}, {Cut, tr("cut off")}};
+    painter->setFont(TabularFont(font(), -1));
+    const QFontMetrics metrics = painter->fontMetrics();
+    const int middle = viewport()->height() - rowHeight / 2;
+    int x = 2 * inset;
+    for (const auto& entry : entries) {
+        const QRect swatch(x, middle - 4, 12, 8);
+        Fill(painter, swatch, entry.first);
+        painter->setPen(Quiet(palette()));
+        x = swatch.right() + 1 + inset;
+        painter->drawText(x, middle + metrics.ascent() / 2 - 1, entry.second);
+        x += metrics.horizontalAdvance(entry.second) + 4 * inset;
+    }
+}
+
+void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
+{
+    const QColor base = palette().color(QPalette::Base);
+    const QColor accent = palette().color(QPalette::Highlight);
+    const double strength = stale ? 0.6 : 0;
+    const double holdShare = base.lightness() < 128 ? 0.45 : 0.65; // seen on dark, too
+    if (phase == Cut) {
+        painter->fillRect(rect, Mixed(base, QColor(0, 0, 0, 0), 0.4));
+        painter->fillRect(rect, QBrush(Warning(palette()), Qt::BDiagPattern));
+    } else {
+        painter->fillRect(
+            rect, Mixed(Mixed(accent, base, phase == Entrance ? 0.1 : holdShare), base, strength));
+    }
+}
+
+void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
+{
+    const TextTime& text = timing.texts.at(row);
+    const bool isSelected = ids.value(row) == selected;
+    const QColor base = palette().color(QPalette::Base);
+    const QColor ink = palette().color(QPalette::Text);
+    const QColor accent = palette().color(QPalette::Highlight);
+    if (isSelected)
+        painter->fillRect(rect, Mixed(accent, base, 0.88));
+
+    QFont titleFont = font();
+    titleFont.setBold(isSelected);
+    painter->setFont(titleFont);
+    painter->setPen(ink);
+    painter->drawText(rect.adjusted(2 * inset, 0, 0, 0)
+                          .intersected(QRect(0, rect.top(), titleWidth - inset, rowHeight)),
+                      Qt::AlignVCenter | Qt::TextSingleLine,
+                      QFontMetrics(titleFont).elidedText(titles.value(row), Qt::ElideRight,
+                                                         titleWidth - 3 * inset));
+
+    const QRectF bar(0, rect.top() + inset, 0, rowHeight - 2 * inset);
+    painter->save();
+    painter->setClipRect(rect.adjusted(titleWidth - 1, 0, 0, 0), Qt::IntersectClip);
+    const auto block = [&](double from, double to, Phase phase) {
+        const double x = XOf(from);
+        Fill(painter, QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()), phase);
+    };
+    const double from = TicksOf(text.from);
+    // Very long times are told wrapped round.
+    const double told =
+        text.until >= 0 ? TicksOf(text.until) : from + TicksOf(std::max<qint64>(0, text.told));
+    if (text.pages.isEmpty()) {
+        const double end = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
+        if (text.ending != Ending::NothingToPlay)
+            block(from, end, Entrance);
+    }
+    const int perRun = FirstRepeat(row);
+    for (int i = 0; i < text.pages.size(); ++i) {
+        const PageTime& page = text.pages.at(i);
+        block(from + page.begin, from + page.hold, Entrance);
+        if (page.end > page.hold)
+            block(from + page.hold, from + page.end, Hold);
+        if (i < perRun)
+            continue;
+        // A repeat is lower than what is seen first, and numbered where it begins.
+        const QRectF covered(XOf(from + page.begin), bar.top(),
+                             XOf(from + page.end) - XOf(from + page.begin), 5);
+        painter->fillRect(covered, isSelected ? Mixed(accent, base, 0.88) : base);
+        const QString number = QStringLiteral("×%1").arg(i / perRun + 1);
+        painter->setFont(TabularFont(font(), -2));
+        if (i % perRun == 0 && painter->fontMetrics().horizontalAdvance(number) < covered.width()) {
+            painter->setPen(palette().color(QPalette::HighlightedText));
+            painter->drawText(
+                QRectF(covered.left() + 3, bar.top() + 5, covered.width(), bar.height() - 5),
+                Qt::AlignVCenter, number);
+        }
+    }
+    // What the host cuts off, for it was told another time.
+    const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
+    if (text.ending != Ending::NothingToPlay && real > told + 1.99) { // a tick is not missed
+        Fill(painter, QRectF(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height()), Cut);
+    }
+    if (text.ending != Ending::NothingToPlay) {
+        painter->setPen(QPen(Warning(palette()), 1));
+        const double x = std::round(XOf(told));
+        painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
+    }
+    painter->restore();
+}
+
+/** Which of its pages is the first of the second run; behind all of them for none. */
+int Timeline::FirstRepeat(int row) const
+{
+    const int pages = timing.texts.at(row).pages.size();
+    const int runs = std::max(1, plays.value(row, 1));
+    return pages % runs == 0 ? std::max(1, pages / runs) : std::max(1, pages);
+}
+
+QString Timeline::Describe(const QPoint& point) const
+{
+    const int row = (point.y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    if (point.y() < rulerHeight || row >= timing.texts.size())
+        return tr("Click or drag to go to a moment; Shift+drag loops a range; Ctrl+wheel zooms.");
+    const TextTime& text = timing.texts.at(row);
+    const int at = TickAt(point.x());
+    const double tick = at - TicksOf(text.from);
+    QString what = titles.value(row);
+    if (point.x() >= titleWidth)
+        what +=
+            QLatin1Char('\n') + tr("%1, tick %2").arg(SecondsText(qint64(at) * tickLength)).arg(at);
+    int number = 0;
+    for (const PageTime& page : text.pages) {
+        ++number;
+        if (tick < page.begin || tick >= page.end)
+            continue;
+        const bool holds = tick >= page.hold;
+        what += QLatin1Char('\n') +
+                (holds ? tr("Page %1 holds for %2") : tr("Page %1 enters for %2"))
+                    .arg((number - 1) % FirstRepeat(row) + 1)
+                    .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
+                                     qint64(tickLength)));
+    }
+    what += QLatin1Char('\n') + tr("Planned: %1").arg(SecondsText(text.told));
+    if (text.real >= 0)
+        what += QLatin1Char('\n') + tr("Needs: %1").arg(SecondsText(text.real));
+    return what;
+}
+
+bool Timeline::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        QToolTip::showText(help->globalPos(), Describe(help->pos()), viewport());
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+void Timeline::contextMenuEvent(QContextMenuEvent* event)
+{
+    const int row = (event->pos().y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    if (event->pos().y() >= rulerHeight && row < ids.size()) {
+        emit Selected(ids.at(row));
+        emit MenuWanted(event->globalPos());
+    }
+}
+
+void Timeline::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const int row = (event->pos().y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    if (event->pos().y() >= rulerHeight && row < ids.size())
+        emit Selected(ids.at(row));
+    if (event->pos().x() < titleWidth)
+        return;
+    marking = event->modifiers() & Qt::ShiftModifier;
+    markFrom = TickAt(event->pos().x());
+    playback->SetPace(0); // what is looked at stays
+    if (!marking)
+        playback->Seek(markFrom);
+}
+
+void Timeline::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!(event->buttons() & Qt::LeftButton))
+        return;
+    const int tick = TickAt(event->pos().x());
+    if (marking)
+        playback->SetLoop(markFrom, tick);
+    else if (event->pos().x() >= titleWidth - 2 * inset)
+        playback->Seek(tick);
+}
+
+void Timeline::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (marking && TickAt(event->pos().x()) == markFrom)
+        playback->ClearLoop();
+    marking = false;
+}
+
+} // namespace AnimText

@@ -1,0 +1,185 @@
+#include "studio/window/time/transportbar.h"
+
+#include "studio/window/basics/style.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace AnimText {
+namespace {
+
+constexpr int narrowWidth = 520; // points; below it there is no room for ticks and spare buttons
+
+/** Words that ask for no room: where it is short, what stands behind the last "·" is all. */
+class ShortLabel : public QLabel
+{
+public:
+    explicit ShortLabel(QWidget* parent)
+        : QLabel(parent)
+    {
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        const QRect room = contentsRect();
+        const bool isWhole = fontMetrics().horizontalAdvance(text()) <= room.width();
+        const QString words = isWhole ? text() : text().section(QStringLiteral(" · "), -1);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(room, int(Qt::AlignRight | Qt::AlignVCenter),
+                         fontMetrics().elidedText(words, Qt::ElideRight, room.width()));
+    }
+};
+
+} // namespace
+
+TransportBar::TransportBar(Playback* playback, QWidget* parent)
+    : QWidget(parent)
+    , playback(playback)
+    , time(new QLabel(this))
+    , ends(new ShortLabel(this))
+    , what(new QComboBox(this))
+{
+    auto* toStart = Button(QStringLiteral("media-skip-backward"), tr("To the start"), tr("Home"));
+    auto* back = Button(QStringLiteral("step-back"), tr("One tick back"), QStringLiteral("←"));
+    play = Button(QStringLiteral("media-playback-start"), tr("Play"), tr("Space"));
+    auto* forward = Button(QStringLiteral("step-forward"), tr("One tick on"), QStringLiteral("→"));
+    auto* toEnd = Button(QStringLiteral("media-skip-forward"), tr("To the end"), tr("End"));
+    loop = Button(QStringLiteral("media-playlist-repeat"),
+                  tr("Loop the page; Shift+drag over the timeline loops a range"), tr("R"));
+    loop->setCheckable(true);
+    spare = {toStart, toEnd}; // Home and End do the same
+    connect(toStart, &QToolButton::clicked, this, [=] { playback->Seek(0); });
+    connect(back, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() - 1); });
+    connect(play, &QToolButton::clicked, playback, &Playback::Toggle);
+    connect(forward, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() + 1); });
+    connect(toEnd, &QToolButton::clicked, this, [=] { playback->Seek(playback->Length() - 1); });
+    connect(loop, &QToolButton::clicked, this, &TransportBar::LoopToggled);
+
+    what->addItems({tr("This page"), tr("All pages")});
+    what->setAccessibleName(tr("What is played"));
+    what->setToolTip(tr("This page: all its texts, for as long as they need.\n"
+                        "All pages: in turn, each for its planned time, as the host plays them."));
+    connect(what, qOverload<int>(&QComboBox::activated), this,
+            [this](int index) { emit ScheduleChanged(index == 1); });
+
+    time->setFont(TabularFont(font(), 1));
+    time->setMinimumWidth(time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s")));
+    ends->setFont(TabularFont(font()));
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
+    layout->setSpacing(grid / 2);
+    for (QToolButton* button : {toStart, back, play, forward, toEnd, loop})
+        layout->addWidget(button);
+    layout->addSpacing(2 * grid);
+    layout->addWidget(time);
+    layout->addWidget(ends, 1);
+    layout->addSpacing(2 * grid);
+    layout->addWidget(what);
+
+    connect(playback, &Playback::TickChanged, this, &TransportBar::ShowTime);
+    connect(playback, &Playback::PaceChanged, this, &TransportBar::ShowPace);
+    connect(playback, &Playback::RangeChanged, this,
+            [=] { loop->setChecked(playback->HasLoop()); });
+    ShowTime();
+}
+
+QToolButton* TransportBar::Button(const QString& icon, const QString& name, const QString& key)
+{
+    auto* button = new QToolButton(this);
+    button->setAutoRaise(true);
+    button->setIcon(Icon(icon));
+    button->setAccessibleName(name);
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key));
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+void TransportBar::ShowTime()
+{
+    const QString seconds = SecondsText(qint64(playback->Tick()) * tickLength);
+    const QString both = tr("%1  tick %2").arg(seconds).arg(playback->Tick());
+    const bool isNarrow = width() < narrowWidth;
+    time->setText(isNarrow ? seconds : both);
+    time->setToolTip(both);
+}
+
+void TransportBar::resizeEvent(QResizeEvent*)
+{
+    for (QToolButton* button : spare)
+        button->setVisible(width() >= narrowWidth);
+    ShowTime();
+}
+
+void TransportBar::ShowPace()
+{
+    play->setIcon(Icon(playback->IsPlaying() ? QStringLiteral("media-playback-pause")
+                                             : QStringLiteral("media-playback-start")));
+    const QString name = playback->IsPlaying() ? tr("Stop") : tr("Play");
+    play->setAccessibleName(name);
+    play->setToolTip(QStringLiteral("%1 (%2)").arg(name, tr("Space")));
+}
+
+void TransportBar::SetSchedule(bool schedule)
+{
+    what->setCurrentIndex(schedule ? 1 : 0);
+}
+
+int LostPages(const TextTime& text)
+{
+    return int(std::count_if(text.pages.begin(), text.pages.end(), [&](const PageTime& page) {
+        return qint64(page.begin) * tickLength >= text.told;
+    }));
+}
+
+TextTime SideBySide(const QVector<TextTime>& texts)
+{
+    TextTime all;
+    all.ending = Ending::Finishes;
+    all.real = 0;
+    for (const TextTime& text : texts) {
+        if (text.ending == Ending::TooLong)
+            all.ending = Ending::TooLong;
+        all.told = std::max(all.told, text.told);
+        all.real = std::max(all.real, text.real);
+    }
+    return all;
+}
+
+QString EndsInWords(const TextTime& text)
+{
+    switch (text.ending) {
+    case Ending::NothingToPlay: return TransportBar::tr("nothing to play");
+    case Ending::TooLong:
+        return TransportBar::tr("planned %1 · needs longer than can be shown")
+            .arg(SecondsText(text.told));
+    default: break;
+    }
+    QString words = TransportBar::tr("planned %1 · needs %2")
+                        .arg(SecondsText(text.told), SecondsText(text.real));
+    const qint64 difference = text.real - text.told;
+    if (const int lost = LostPages(text))
+        words += TransportBar::tr(" · %n page(s) lost", nullptr, lost);
+    else if (difference >= 2 * tickLength) // a tick is not missed
+        words += TransportBar::tr(" · %1 lost").arg(SecondsText(difference));
+    else if (difference <= -2 * tickLength)
+        words += TransportBar::tr(" · %1 longer on the sign").arg(SecondsText(-difference));
+    return words;
+}
+
+void TransportBar::ShowEnds(const TextTime* text, const QString& all)
+{
+    ends->setText(text ? EndsInWords(*text) : QString());
+    ends->setToolTip(all);
+    QPalette colors = palette();
+    const bool isAlarm = text && LostPages(*text) > 0;
+    colors.setColor(QPalette::WindowText, isAlarm ? Warning(colors) : Quiet(colors));
+    ends->setPalette(colors);
+}
+
+} // namespace AnimText
