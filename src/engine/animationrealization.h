@@ -227,44 +227,60 @@ private:
         QImage picture; // Format_ARGB32
     };
 
+    // Names and order are the host's. Nothing reads painter, playFinished, initFive, auxBrush, the
+    // three gradients, strokePen, shadowEnabled, dazzleEnabled and fillImageSize.
+
+    // The node, and what it asks for.
     QPointer<HAnimationTextNode> node;
     QString text;
-    int animationEffect;
-    QSize areaSize;
-    int speed;
+    int animationEffect; // an Entrance, when effectType says so
+    QSize areaSize;      // pixels
+    int speed;           // 0 to 9
     QPainter* painter;
+
+    // Counters of the effect that plays; each effect says what it uses them for.
     int charIndex;
     int charCount;
     int moveOffset2;
     float progressF;
-    bool isDrawing;
-    int maxTextHeight;
-    int scrollOffset;
+    bool isDrawing;    // the next tick paints a frame; false: it holds the page
+    int maxTextHeight; // pixels
+    int scrollOffset;  // pixels
+
+    // The run.
     bool playFinished;
     bool runEnded;
     int playTimes;
     int holdTime; // units of 100 ms
     int initFive;
     bool paused;
-    QImage drawImage;
-    QImage stayImage;
-    int playCount;
-    int pageIndex;
-    int moveOffset;
+
+    // The frame.
+    QImage drawImage; // wraps the layer's buffer, if there is a layer
+    QImage stayImage; // wraps the dazzle layer's buffer
+    int playCount;    // finished runs
+    int pageIndex;    // from 1
+    int moveOffset;   // of the effect, as above
     DrawNeonBg* neonBg;
+
+    // The text's outlines and metrics in pixels, one entry for each character.
     QVector<QPainterPath> charPaths;
-    std::vector<std::unique_ptr<Glyph>> glyphs; // those of charPaths that were asked for
+    std::vector<std::unique_ptr<Glyph>> glyphs; // made when first painted
     TextPath textPath;
     Outline auxPath;
     QVector<int> charDescents;
     QVector<int> charWidths;
     QVector<int> charHeights;
-    QVector<int> charPositions;
+    QVector<int> charPositions; // left edges
     int totalTextWidth;
     QVector<QColor> dazzleColors;
+
+    // Where pages begin, then where the last one ends: characters, and pixels of the line.
     QList<int> pageBreaks;
     QList<int> pageOffsets;
-    int frameCount;
+    int frameCount; // its remainder leads the dazzle colors
+
+    // Paint.
     QBrush pictureBrush;
     QBrush auxBrush;
     QPen picturePen;
@@ -273,13 +289,17 @@ private:
     QRadialGradient radialGradient;
     QConicalGradient conicalGradient;
     QPen strokePen;
+
+    // Time and step, from the speed.
     int frameInterval; // ms
-    int totalHeight;
-    int stayPageIndex;
-    int stayCounter;
-    int maxTextWidth;
-    int tickCounter;
-    int stepSize;
+    int totalHeight;   // pixels, of a column
+    int stayPageIndex; // from 1
+    int stayCounter;   // ticks
+    int maxTextWidth;  // pixels
+    int tickCounter;   // ticks
+    int stepSize;      // of the effect's counters
+
+    // The node's switches.
     int effectType;
     int continueStyle;
     int neonBgEnabled;
@@ -291,16 +311,19 @@ private:
     int stroke;
     int pictureFillEnabled;
     QSize fillImageSize;
+
+    // Layers of the device, and the dazzle background.
     QImage::Format imageFormat;
     QTimer dazzleTimer;
     int stayImageReady;
-    uchar* layerBuffer;
-    void* pictureSession;
+    uchar* layerBuffer;   // the device's
+    void* pictureSession; // a number in a pointer
     int sessionDisplay;
     int sessionLayer;
-    int dazzleLayer;
-    int dazzleColorIndex;
+    int dazzleLayer;      // 0: none
+    int dazzleColorIndex; // the leading color
 
+    // Ours alone.
     qint64 layerBytes; // what the text's layer holds, which the host may have made for another
                        // format; -1 when it is not known
     bool dazzleLayerWrapped;
