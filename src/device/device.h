@@ -7,7 +7,7 @@
 
 /**
  * @file
- * What is fixed about the device: the numbers that its service takes, and its beat.
+ * Constants of the device: the numbers that its service expects, and its tick.
  */
 namespace Lw {
 namespace HNodeAnimationText {
@@ -16,7 +16,7 @@ const int tickInterval = 66;    // ms from one picture to the next
 const int writeMode = 5;        // of GetPicImageLayerPtr()
 const int sessionFlags = 16;    // of CreatePictureSession()
 const int alphaSession = 3;     // session type: 32 bits a pixel, blended by alpha
-const int keySession = 5;       // session type: 24 bits a pixel, blended by colour key
+const int keySession = 5;       // session type: 24 bits a pixel, blended by color key
 const int colourKey = 0x010201; // 0xRRGGBB
 const int scrollsLeft = 26;     // effect codes
 const int scrollsRight = 27;
@@ -34,13 +34,13 @@ inline void* Opaque(PicSession session)
     return reinterpret_cast<void*>(static_cast<quintptr>(session));
 }
 
-/** The number back again. */
+/** The number of such a pointer. */
 inline PicSession SessionHandle(void* session)
 {
     return static_cast<PicSession>(reinterpret_cast<quintptr>(session));
 }
 
-/** Lets @p timer keep the beat: Qt 5's timers are coarse and would fire every 64 ms. */
+/** Makes @p timer precise: Qt 5's default timers would fire every 64 ms. */
 inline void KeepTime(QTimer& timer)
 {
 #if QT_VERSION >= 0x050000

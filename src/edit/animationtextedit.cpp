@@ -20,7 +20,7 @@ void AnimationTextEdit::insertFromMimeData(const QMimeData* source)
     QTextEdit styled;
     styled.setFont(font());
     styled.setFontFamily(fontFamily());
-    // Without a background textBackgroundColor() answers opaque black, which would paint every
+    // Without a background textBackgroundColor() returns opaque black, which would make every
     // paste black.
     if (currentCharFormat().background().style() != Qt::NoBrush)
         styled.setTextBackgroundColor(textBackgroundColor());

@@ -11,8 +11,8 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /**
- * The editor in which a person types a node's text. What is pasted or dropped arrives as plain text
- * in the editor's own font, current family and current background, never with foreign styling.
+ * The editor for a node's text. Pasted and dropped text becomes plain text in the editor's own
+ * font, current family and current background.
  */
 class ANIMATIONTEXT_EXPORT AnimationTextEdit : public QTextEdit
 {

@@ -1,12 +1,12 @@
 // Fly-in effects: the characters of a page come in one at a time, each in a straight line from an
-// edge to its slot. The names tell where a character comes to, not from: "from left" enters at the
-// right edge and moves left, "from top" rises from below, and so on.
+// edge to its slot. The names say where a character flies to: "from left" enters at the right edge
+// and moves left, "from top" rises from below, and so on.
 #include "engine/frame.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
 
-/** What is in textPath stands in its place; the character in flight is painted by itself. */
+/** textPath holds the characters that have landed; the one in flight is painted separately. */
 void animationRealization::DrawFlight(int inFlight, double x, double y)
 {
     canvas.DrawText(textPath);
@@ -89,8 +89,8 @@ void animationRealization::LandVertically(bool landed)
 void animationRealization::FlyFromTopEffect()
 {
     const int y = maxTextHeight - moveOffset - charDescents.value(charIndex) + FrameHeight();
-    // Landing is judged on exact halves, the picture shows truncated places: a character may be
-    // seen a step past its slot for one frame.
+    // Landing is decided on exact halves, but the picture shows truncated positions. A character
+    // may be visible one step past its slot for one frame.
     const bool landed = y < ExactY(charIndex);
     if (BeginFrame()) {
         AddStanding();

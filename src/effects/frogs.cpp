@@ -1,5 +1,5 @@
-// Frog effects: a frog hops along the top edge and brings the characters one by one. Each takes
-// five frames, paced by the ticks between two frames.
+// Frog effects: a frog hops along the top edge and brings the characters one by one. Each character
+// takes five frames; the speed sets the ticks between two frames.
 #include "engine/frame.h"
 
 #include "node/attribute.h"
@@ -24,7 +24,7 @@ QString FrogFile(int number)
 {
     const QString file = QString::fromLatin1("/root/Box/image/Frog%1.png").arg(number);
 #ifdef LW_DEVICE_FILES
-    return HAppConfig::DeviceFile(file); // a desk has the device's files elsewhere
+    return HAppConfig::DeviceFile(file); // on a desktop, the device's files are elsewhere
 #else
     return file;
 #endif
@@ -62,7 +62,7 @@ void animationRealization::DrawFrog(int frame)
         BlendPicture(PictureOf(frog.picture), RestX(charIndex), 0, PictureOf(drawImage));
 }
 
-/** The characters in place, the one in work as @p drawCharacter paints it, and the frog. */
+/** The characters in place, the current one as painted by @p drawCharacter, and the frog. */
 template <typename DrawCharacter>
 void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
 {
@@ -87,12 +87,12 @@ void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
 
 void animationRealization::EffectTopWithFrogAppearsVerbatim()
 {
-    // A fifth of the character more in each frame, from its top downward.
+    // Each frame reveals another fifth of the character, from the top.
     DrawFrogFrame([&](int fifths) {
         if (!HasGlyph(charIndex) || GlyphOf(charIndex).Shape().IsEmpty())
             return;
         if (fifths < framesPerCharacter) {
-            // A pixel more at the sides and above, for the outline's own width.
+            // One more pixel on the sides and above, for the width of the outline.
             const Bounds& glyph = GlyphOf(charIndex).Box();
             const QRectF box =
                 QRectF(QPointF(glyph.left, glyph.top), QPointF(glyph.right, glyph.bottom))

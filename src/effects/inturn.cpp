@@ -1,5 +1,5 @@
 // In-turn effects: the characters of a page come in one after another, each a step behind its left
-// neighbour.
+// neighbor.
 #include "engine/frame.h"
 
 #include <cmath>
@@ -9,8 +9,8 @@ namespace HNodeAnimationText {
 
 void animationRealization::EffectInTurnUpwardZoom()
 {
-    // On its baseline every character swells until it reaches the top edge and sinks to nothing, a
-    // little after its left neighbour: a wave through grass.
+    // Each character grows on its baseline until it reaches the top edge, then shrinks to nothing,
+    // a little after its left neighbor, like a wave through grass.
     //
     //     height  2b |   .-.
     //              b | .'   '.       .'
@@ -30,7 +30,7 @@ void animationRealization::EffectInTurnUpwardZoom()
 
 void animationRealization::EffectInTurnDrop()
 {
-    //     top edge        D      the phase is the way fallen, until the baseline stops it
+    //     top edge        D      the phase is the distance fallen, until the baseline
     //                   C
     //                 B
     //     baseline  A
@@ -44,7 +44,7 @@ void animationRealization::EffectInTurnDrop()
 void animationRealization::Effect45DegreeAngleDrop()
 {
     // The baseline lies b below the top edge. A character falls tilted, bounces up tilted to 0.4 b
-    // and falls upright once more:
+    // and falls upright again:
     //
     //     y     0 | .
     //             |  .

@@ -1,4 +1,4 @@
-// Oscillating effects: the whole page stands there at once and its characters swing for a while.
+// Oscillating effects: the whole page appears at once and its characters swing for a while.
 // moveOffset is the phase.
 #include "engine/frame.h"
 
@@ -15,7 +15,7 @@ void animationRealization::WavesEffect()
 {
     const double h = FrameHeight();
     DrawPage([&](int j) {
-        // Between the top edge and the bottom edge; each character lags its left neighbour by a
+        // Between the top edge and the bottom edge; each character lags its left neighbor by a
         // step, so the crest travels to the right.
         const double d = charDescents.value(j);
         const double amplitude = 0.5 * (d - maxTextHeight + h);
@@ -32,7 +32,7 @@ void animationRealization::WavesEffect()
 void animationRealization::SwingEffect()
 {
     const double sway = std::sin(moveOffset / 20.0);
-    // The first character's width moves them all, on every page: the row sways as one.
+    // The first character's width moves them all, on every page: the row sways as a whole.
     const double shift = 0.5 * sway * charWidths.value(0);
     DrawPage([&](int j) {
         transform.translate(float(shift), 0);
@@ -59,7 +59,7 @@ void animationRealization::BeforeAfterScalEffect()
 void animationRealization::TrembleEffect()
 {
     DrawPage([&](int j) {
-        // Four statements: the order of the draws is part of the picture, and within one expression
+        // Four statements, because the order of the draws is part of the picture. In one expression
         // the compiler would choose it.
         const int xDistance = qrand() % 5;
         const int xAngle = qrand() % 8;

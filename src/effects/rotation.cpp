@@ -21,14 +21,14 @@ void animationRealization::RotationTrundleEffect()
 {
     const int w = FrameWidth();
     DrawPage([&](int j) {
-        // A character waits until its slot has rolled inside the frame.
+        // A character appears when its slot has rolled into the frame.
         if (RestX(j) - moveOffset >= 1)
             return;
         RotateAbout(charWidths.value(j) * 0.5, -charHeights.value(j) * 0.5, progressF);
         AddShapedGlyph(j, RestX(j) - moveOffset + w, RestY(j));
     });
     Advance(moveOffset, stepSize);
-    // Two turns over the width, and from nought again after each.
+    // Two turns over the width, each starting from 0.
     if (w > 0)
         progressF = float(progressF - (720.0 / w) * stepSize);
     if (progressF < -360.0f)
@@ -59,7 +59,7 @@ void animationRealization::EffectInTurnFlips()
     //     base  -----  -----  -----  -----  -----
     //             V      v
     //
-    // At more than one step a frame some join with a negative phase, a little smaller than full.
+    // With more than one step per frame, some start with a negative phase, slightly reduced.
     DrawInTurn([&](int j, int phase) {
         if (phase <= 179)
             transform.scale(1, float(-std::cos(phase / 57.3)));
@@ -74,7 +74,7 @@ void animationRealization::Effect3DHorizontalRotation()
 {
     // Two half-turns about the page's vertical axis. Characters keep their width: the row closes
     // over its middle and opens again on the other side. In the second turn the glyphs change
-    // places, so that the page reads correctly in the end.
+    // places, so the page reads correctly at the end.
     //
     //     m       0        10        20        30        41
     //          A B C D    AB CD    D C B A    DC BA    A B C D
@@ -88,7 +88,7 @@ void animationRealization::Effect3DHorizontalRotation()
     const double pw = PageWidth();
     DrawPage([&](int j) {
         const int k = j - PageStart();
-        const double q = k / pw; // a place in the row over its width in pixels: the slant
+        const double q = k / pw; // a position in the row over its width in pixels: the slant
         const double fall = (1 - q) / 10 * (m - begin);
         transform.scale(1, float(closing ? 1 - fall : q + fall));
         AddShapedGlyph(mirrored ? PageEnd() - 1 - k : j, float(GatherX(j, stretch)),
@@ -105,7 +105,7 @@ void animationRealization::EffectFlipsInto()
     const double stretch = 5.0 - (4 * m) / 360.0;
     DrawPage([&](int j) {
         // The row gathers from five times its width, while each glyph narrows to nothing, slanted,
-        // and widens again, upright in the end:
+        // and widens again, upright at the end:
         //
         //     m     0                180               360
         //        A      B      C     |   |   |      A B C

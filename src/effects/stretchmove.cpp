@@ -16,7 +16,7 @@ void animationRealization::EffectZoomIn()
         const int d = charDescents.value(j);
         const float sx = float((w - RestX(j)) / double(w));
         const int x = qMax(int(float(w) - float(t) * sx), RestX(j));
-        // The descent counts twice, here and below: each glyph ends its slope a little early.
+        // The descent counts twice, here and below, so each glyph ends its slope a little early.
         const float sy = float((h / 2 - maxTextHeight * 0.5 - d) / w);
         const int y = qMin(int(sy * float(t) + float(maxTextHeight) - float(d)), RestY(j));
         const float widening = float(t / double(w));
@@ -66,7 +66,7 @@ void animationRealization::EffectRepeatTheWhereabouts()
     const int h = FrameHeight();
     const int n = PageLength();
     DrawPage([&](int j) {
-        // n + 2 heights from the bottom edge to the top, and round again.
+        // n + 2 heights from the bottom edge to the top, then again from the bottom.
         const int r = (moveOffset + j - PageStart()) % (n + 2);
         const int d = charDescents.value(j);
         const double rise = double(d - maxTextHeight + h) / (n + 1);
@@ -82,7 +82,7 @@ void animationRealization::EffectFromBothSidesInOrderToEnlarge()
     if (BeginFrame()) {
         const int start = PageStart();
         const int end = PageEnd();
-        // Pairs from both ends towards the middle. The first one has no right member, so the page's
+        // Pairs from both ends toward the middle. The first pair has no right member, so the page's
         // last character starts together with its second.
         for (int i = 0; start + i < end && Phase(i) >= 0; ++i) {
             const int left = start + i;

@@ -1,4 +1,4 @@
-// Text zoom: the page pulses about its centre, or swells together with its mirror image.
+// Text zoom: the page pulses about its center, or grows together with its mirror image.
 #include "engine/frame.h"
 
 #include <cmath>
@@ -15,7 +15,7 @@ void animationRealization::EffectTextZoom()
         zoom.translate(float(centre), float(ExactY(PageStart())));
         zoom.scale(s, s);
         for (int j = PageStart(); j < PageEnd(); ++j) {
-            // The frame is scaled once more: glyphs grow with the square, their spacing does not.
+            // The frame is scaled again: glyphs grow with the square, their spacing does not.
             transform.reset();
             transform.scale(s, s);
             AddShapedGlyph(j, float(RestX(j) - centre), 0);

@@ -18,8 +18,8 @@ void animationRealization::WordForWordOutputEffect()
         if (IsLastPageOver())
             pageIndex = 1;
     }
-    // The frame that hands the page over also takes the next character: only the first page of a
-    // run begins with an empty frame.
+    // The frame that ends a page also takes the next character, so only the first page of a run
+    // begins with an empty frame.
     Advance(charIndex, 1);
     ++frameCount;
     if (charIndex > text.size()) {
@@ -38,12 +38,12 @@ void animationRealization::WordForWordNarrowEffect()
     AmplificationNarrow(true);
 }
 
-/** Each character grows out of nothing, or comes at double size and narrows. */
+/** Each character grows from nothing, or starts at double size and narrows. */
 void animationRealization::AmplificationNarrow(bool narrow)
 {
     if (BeginFrame()) {
         AddStanding();
-        // Up to 1.5 radians: the character is never quite at its size before it snaps to rest.
+        // Up to 1.5 radians: the character is not quite at its size when it snaps to rest.
         const double x = moveOffset / 30.0;
         const float s = float(narrow ? std::fabs(std::cos(x)) + 1.0 : std::sin(x));
         transform.reset();

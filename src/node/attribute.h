@@ -6,21 +6,21 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-// Not of a const node: hosts are free to read their store with functions that are not const.
+// The node is not const, because hosts may read their store with functions that are not const.
 
-/** The number under @p key in the host's store, read afresh; 0 without a node. */
+/** The number under @p key in the host's store, read now; 0 without a node. */
 inline int Attribute(HData* node, const char* key)
 {
     return node ? node->GetAttributeToInt(QString::fromLatin1(key)) : 0;
 }
 
-/** Whether the dazzle background is on at this moment; hosts switch it in mid-play. */
+/** Whether the dazzle background is on now; hosts switch it during play. */
 inline bool DazzleIsOn(HData* node)
 {
     return Attribute(node, "CheckDazzle") == 1;
 }
 
-/** Whether neon is on at this moment. */
+/** Whether neon is on now. */
 inline bool NeonIsOn(HData* node)
 {
     return Attribute(node, "CheckNeonBg") == 1;

@@ -1,6 +1,6 @@
-// How long a node plays, by the model that the host schedules with: ticks of 66 ms of animation,
-// and each page's hold. A few effects run a frame or more longer than the model says; the schedules
-// that hosts have made depend on the model, so it stays.
+// The planned time of a node, which the host schedules with: ticks of 66 ms of animation, and each
+// page's hold. A few effects run a frame or more longer. Existing schedules depend on this model,
+// so it must not change.
 #include "node/hanimationtextnode.h"
 
 #include "device/device.h"
@@ -48,7 +48,7 @@ qint64 CycleTicks(const Play& play, qint64 steps)
     return play.speed < 5 ? steps * Wrapped(play.TicksPerFrame()) : steps / play.Step();
 }
 
-// Every character rises or falls to its place over twice the distance from its edge to its middle.
+// Each character rises or falls to its place over twice the distance from its edge to its middle.
 qint64 VerticalFlyFrames(const Play& play, int descentFactor)
 {
     qint64 frames = 0;
@@ -60,8 +60,8 @@ qint64 VerticalFlyFrames(const Play& play, int descentFactor)
     return frames;
 }
 
-// The characters of a page start a step after one another and fall for `factor` times the height of
-// the last one's baseline.
+// The characters of a page start one step apart and fall for `factor` times the height of the last
+// one's baseline.
 qint64 DropFrames(const Play& play, double factor)
 {
     qint64 frames = 0;
@@ -86,7 +86,7 @@ qint64 SlantedZoomFrames(const Play& play)
     return frames;
 }
 
-// Ticks of animation in one run over all pages, but for the sideways fly-ins.
+// Ticks of animation in one run over all pages, except for the sideways fly-ins.
 qint64 AnimationTicks(const Play& play, int effect)
 {
     const qint64 n = play.textLength;

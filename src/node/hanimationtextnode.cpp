@@ -21,12 +21,12 @@ QString OutputDirectory()
            QString::fromLatin1("/outputpath/AnimationText/");
 }
 
-/** Opens the data file under @p key for reading; false when there is none to read. */
+/** Opens the data file under @p key for reading; false when it cannot be read. */
 bool OpenDataFile(HData& node, const char* key, QFile& file)
 {
     file.setFileName(node.GetFirstFile(QString::fromLatin1(key)));
     if (!file.exists()) {
-        // Qt 4's debug stream ends every message with a space, Qt 5's with none.
+        // Qt 4's debug stream ends every message with a space, Qt 5's does not.
         qDebug().nospace() << ">>" << key << " File is not exist!!<<" << ' ';
         return false;
     }

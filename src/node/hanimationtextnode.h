@@ -20,8 +20,8 @@ namespace HNodeAnimationText {
  * One animated text in the host's tree. It keeps no copy of an attribute: every read goes to the
  * host's store, and what is missing there reads as 0, empty or a default.
  *
- * Per-character data is indexed by the UTF-16 units of "Text". No read is const, since not every
- * host's store has reads that are.
+ * Per-character data is indexed by the UTF-16 units of "Text". Reads are not const, because some
+ * hosts' stores have no const reads.
  */
 class HAnimationTextNode : public HNeonNodeBase
 {
@@ -34,7 +34,7 @@ public:
     /** "LW_animationText_Plugin". */
     QString Type() override;
 
-    /** Play time in milliseconds; see duration.cpp. Divides the text into pages anew. */
+    /** Play time in milliseconds; see duration.cpp. Divides the text into pages again. */
     int Duration() override;
 
     QString Text();
@@ -42,12 +42,12 @@ public:
     /** 0 .. 9, larger is faster. */
     int AnimationSpeed();
 
-    /** Reads the files "PathData" and "DescentVector" anew; what cannot be read leaves empty lists.
+    /** Reads the files "PathData" and "DescentVector" again; unreadable ones leave empty lists.
      */
     void InitPainterPath();
-    /** The descent of each glyph in pixels, read anew. */
+    /** The descent of each glyph in pixels, read from the file. */
     QVector<int>& GetDescentData();
-    /** The outline of each glyph, origin at the left end of its baseline, read anew. */
+    /** The outline of each glyph, origin at the left end of its baseline, read from the file. */
     QVector<QPainterPath>& GetPainterPaths();
 
     // Metrics of the text, in pixels, from the lists "TextWidth", "TextHeight", "TextAttribute".

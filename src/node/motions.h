@@ -17,8 +17,8 @@ struct Scroll
 };
 
 /**
- * The entrance effects, by the numbers of "AnimationEffect": each is played by the engine's
- * operation of the same name.
+ * The entrance effects, by the numbers of "AnimationEffect": the engine plays each with
+ * the member of the same name.
  */
 struct Entrance
 {
@@ -57,7 +57,7 @@ struct Entrance
     };
 };
 
-/** Text that the device moves by itself, in one piece. */
+/** Text that the device moves, as one picture. */
 inline bool IsScrolledByDevice(int mode, int direction)
 {
     return mode == Mode::Scroll && (direction == Scroll::Left || direction == Scroll::Right);

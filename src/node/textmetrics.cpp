@@ -1,5 +1,5 @@
-// Widths, heights, fonts and colours of a node's characters, and its division into pages. The
-// authoring side has measured everything; single reads read the host's store afresh.
+// Widths, heights, fonts and colors of a node's characters, and its division into pages. The
+// author has measured everything; each read goes to the host's store.
 #include "node/hanimationtextnode.h"
 
 #include "text/pagedivision.h"

@@ -4,8 +4,8 @@
 #include <QtGlobal>
 
 /**
- * What hosts may see of this library, which hides the rest. Qt 4's Q_DECL_EXPORT alone would not
- * do: it is empty where Qt itself was configured to hide nothing.
+ * Exports a symbol to hosts; the library hides the rest. Qt 4's Q_DECL_EXPORT is not enough: it is
+ * empty where Qt itself was configured to hide nothing.
  */
 #if defined(__GNUC__)
 #define ANIMATIONTEXT_EXPORT __attribute__((visibility("default")))

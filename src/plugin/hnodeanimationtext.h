@@ -12,7 +12,7 @@ namespace HNodeAnimationText {
  * The plugin object: teaches the host the node type "LW_animationText_Plugin". It holds no state;
  * what it makes belongs to the caller and may outlive it.
  */
-// moc 4.8 and moc 5 answer the interface's bare name only when the base stands here unqualified.
+// moc 4.8 and moc 5 find the interface by its bare name only when the base is unqualified here.
 class HNodeAnimationText : public QObject, public INodePlugin
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
 
     /** 4. */
     int level() override;
-    /** "LW_animationText_Plugin", as the nodes' own Type() answers. */
+    /** "LW_animationText_Plugin", as the nodes' Type() returns. */
     QString type() override;
     /** @param node made by Create(); it is not checked */
     IContentRender* CreateAreaRender(HNode* node) override;

@@ -38,13 +38,13 @@ HAnimationTextRender::~HAnimationTextRender()
 {
     drawTimer.stop();
     engine->Stop();
-    // Before the session: whatever paints into its layers is the engine's.
+    // Before the session, because the engine paints into its layers.
     delete engine;
     engine = 0;
     ReleaseSession();
 }
 
-/** Whether the device moves the text by itself. */
+/** Whether the device moves the text. */
 bool HAnimationTextRender::ScrollsSideways() const
 {
     return IsScrolledByDevice(Attribute(node, "EffectType"), Attribute(node, "ContinueStyle"));
@@ -71,7 +71,7 @@ void HAnimationTextRender::Start(unsigned int newDisplayHandle)
     engine->Start();
     UpdateDraw();
     drawTimer.start(tickInterval);
-    // The device scrolls for as long as it is let; the host need not wait for it.
+    // The device scrolls until it is stopped; the host need not wait for it.
     if (ScrollsSideways())
         state = Finished;
 }
@@ -111,8 +111,7 @@ int HAnimationTextRender::renderState()
 
 void HAnimationTextRender::UpdateDraw()
 {
-    // Without a start there is no display to show anything on, though Pause() may have set the
-    // timer going.
+    // Before Start() there is no display, although Pause() may have started the timer.
     if (paused || displayHandle == 0 || !node || node->Text().isEmpty())
         return;
     if (firstTick) {

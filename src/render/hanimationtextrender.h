@@ -32,11 +32,11 @@ public:
 
     /**
      * Plays from the beginning; the first frame is painted before it returns.
-     * @param displayHandle of the display output; with 0, without a node or with a blank text there
-     *                      is nothing to play
+     * @param displayHandle of the display output; with 0, without a node or with a blank text
+     *                      nothing plays
      */
     void Start(unsigned int displayHandle) override;
-    /** Freezes the play, or lets it go on. */
+    /** Pauses or resumes. */
     void Pause() override;
     /** Releases the session; Start() makes a new one. The state stays. */
     void Stop() override;
@@ -53,7 +53,7 @@ public:
 
     /** Makes the session for @p image, scrolling or still as the attributes say. */
     void StartInit(QImage& image);
-    /** Makes a still session for @p image, for hosts that bring their own pictures. */
+    /** Makes a still session for @p image, for hosts that supply their own pictures. */
     void InitRenderSession(QImage& image);
     void SetSession(Effect* effect, QImage& image);
     /** Appends a layer. @return its index, negative on failure */

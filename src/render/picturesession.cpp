@@ -79,7 +79,7 @@ int HAnimationTextRender::LineDuration()
                              WrappingSum(Attribute(node, "ContinueSpeed"), -1));
 }
 
-/** How long the device shall scroll, which depends on what else the host plays. */
+/** How long the device scrolls, which depends on what else the host plays. */
 int HAnimationTextRender::ScheduledDuration()
 {
     HNode* const area = node->ParentNode();
@@ -87,15 +87,15 @@ int HAnimationTextRender::ScheduledDuration()
     HNode* const program = page ? page->ParentNode() : 0;
     const bool aloneInArea = ChildCount(area) == 1;
 
-    // The only node of the only page: practically for ever. The product overflows, and the device
-    // takes what is left of it.
+    // The only node of the only page scrolls practically forever. The product overflows, and the
+    // device takes what remains of it.
     if (aloneInArea && ChildCount(program) == 1)
         return WrappingProduct(LineDuration(), forEver);
 
     const int own = WrappingProduct(LineDuration(), Attribute(node, "PlayTimes"));
     if (!aloneInArea)
         return own;
-    // As long as the longest of what shares the page.
+    // As long as the longest node on the page.
     const QList<HNode*> areas = page ? page->ChildNodes() : QList<HNode*>();
     int longest = areas.isEmpty() ? 0 : areas.first()->Duration();
     for (int i = 1; i < areas.size(); ++i)
@@ -105,7 +105,7 @@ int HAnimationTextRender::ScheduledDuration()
 
 void HAnimationTextRender::StartInit(QImage& image)
 {
-    // Stop() also ends the timers; those that were ticking have to go on.
+    // Stop() also stops the timers; those that were running must continue.
     const bool ticking = drawTimer.isActive();
     const bool dazzling = engine->dazzleTimer.isActive();
     Stop();
@@ -164,7 +164,7 @@ void HAnimationTextRender::ShowLine()
     AppendDazzleLayer();
 }
 
-/** Frame by frame: neon takes the session's base layer when it is on, the text the next one. */
+/** Frame by frame. Neon, when on, has the session's base layer and the text the next one. */
 void HAnimationTextRender::ShowFrames()
 {
     QImage base = animationRealization::NewCanvas(engine->CountSize(false), imageFormat);
@@ -216,7 +216,7 @@ void HAnimationTextRender::AppendDazzleLayer()
 
 void HAnimationTextRender::SetPicLayerProperty()
 {
-    // Layers with value 0 lie at the bottom, those with 2 above, those with 1 on top. A line that
+    // Layers with value 0 are at the bottom, those with 2 above, those with 1 on top. A line that
     // scrolls is the base layer with its backgrounds appended; otherwise neon is the base and the
     // text comes after it.
     static const int values[2][4][3] = {

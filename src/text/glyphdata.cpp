@@ -15,7 +15,7 @@ namespace {
 
 typedef GlyphDataFault Fault;
 
-// A stream of big-endian numbers, read without copying; whoever reads has looked at Left().
+// A stream of big-endian numbers, read without copying. Callers check Left() before they read.
 class Bytes
 {
 public:
@@ -62,7 +62,7 @@ bool IsDrawable(double coordinate)
     return coordinate >= -maxOutlineCoordinate && coordinate <= maxOutlineCoordinate;
 }
 
-// Looks over what follows the size of an outline.
+// Checks the elements and the tail of an outline.
 Fault FaultOfElements(Bytes bytes, qint32 size)
 {
     int curveDataDue = 0;
@@ -98,7 +98,7 @@ Fault FaultOfElements(Bytes bytes, qint32 size)
     return Fault();
 }
 
-// Looks one outline over and goes on behind it, where that can be known.
+// Checks one outline and moves behind it, if its length is known.
 Fault LookOver(Bytes& bytes)
 {
     if (bytes.Left() < 4)
@@ -125,8 +125,8 @@ Fault ReadCount(Bytes& bytes, qint64* count)
     return *count > room ? Fault(Fault::CountTooLarge, 0, *count, room) : Fault();
 }
 
-// The worst of all outlines in `bytes`, and how many there are. Every fault goes to `faults`, if
-// anybody wants them.
+// The worst of all outlines in `bytes`, and how many there are. `faults`, unless null, takes
+// every fault.
 Fault::Kind LookOverAll(Bytes bytes, qint64* count, QVector<Fault>* faults)
 {
     Fault fault = ReadCount(bytes, count);
@@ -146,7 +146,7 @@ Fault::Kind LookOverAll(Bytes bytes, qint64* count, QVector<Fault>* faults)
     return worst;
 }
 
-// Outline by outline, passing over the malformed ones.
+// Outline by outline, skipping the malformed ones.
 QVector<QPainterPath> SoundOutlines(const QByteArray& bytes, int count)
 {
     QVector<QPainterPath> outlines(count);

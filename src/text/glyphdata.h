@@ -12,10 +12,9 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /*
- * The two data files of a node: a serialised QByteArray holding Base64 text whose decoding is a
- * serialised QVector, in QDataStream::Qt_4_8. Files come from anywhere, and Qt's operators trust
- * the counts that they read, so the bytes are looked over first; what is well formed reaches the
- * operators untouched.
+ * The two data files of a node: a serialized QByteArray of Base64 text, which decodes to a
+ * serialized QVector in QDataStream::Qt_4_8. Qt's operators trust the counts that they read, so the
+ * bytes are checked first; well-formed data reaches the operators unchanged.
  */
 
 /** What is wrong in the bytes of a data file, and where. */
@@ -31,7 +30,7 @@ struct GlyphDataFault
         FarOut,          ///< the element is at (x, y)
         StartOutside,    ///< the last contour begins at element number of limit elements
         UnknownFillRule, ///< number
-        // Where things end cannot be known: nothing is read.
+        // Lengths are unknown: nothing is read.
         CutOff,       ///< the bytes end in or before the outline, one of limit
         NoCount,      ///< the bytes end within the number of entries
         CountTooLarge ///< number entries are announced, for limit there are bytes
@@ -58,12 +57,12 @@ struct GlyphDataFault
     double x, y; ///< pixels
 };
 
-/** The decoded bytes of an open data file; empty when they cannot be had. */
+/** The decoded bytes of an open data file; empty when they cannot be read. */
 QByteArray ReadGlyphData(QIODevice& file);
 
 /**
- * The outlines in @p bytes. Empty when the lengths contradict the bytes; an outline that is framed
- * soundly but malformed in itself is empty and the others keep their places.
+ * The outlines in @p bytes. Empty when the lengths contradict the bytes. An outline of known length
+ * with wrong elements is empty, and the others keep their places.
  */
 QVector<QPainterPath> OutlinesFrom(const QByteArray& bytes);
 
@@ -73,7 +72,7 @@ QVector<GlyphDataFault> OutlineFaults(const QByteArray& bytes);
 /** The descents in @p bytes, in pixels; empty when the count contradicts the bytes. */
 QVector<int> DescentsFrom(const QByteArray& bytes);
 
-/** Why DescentsFrom() answers nothing; Sound when the count suits the bytes. */
+/** Why DescentsFrom() returns nothing; Sound when the count fits the bytes. */
 GlyphDataFault DescentFault(const QByteArray& bytes);
 
 } // namespace HNodeAnimationText

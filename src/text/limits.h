@@ -7,8 +7,8 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /*
- * What the sign reads and paints at most. Files and attributes come from anywhere; what lies beyond
- * is refused before it costs memory or time. Tools warn and refuse by the same numbers.
+ * The most that the sign reads and paints. Larger files and attributes are refused before they cost
+ * memory or time. The tools use the same limits.
  */
 
 /** Bytes of a data file. */
@@ -21,7 +21,7 @@ const double maxOutlineCoordinate = 1e6;
 /** Bytes of one picture that is painted into; the device's own limit for a buffer. */
 const qint64 maxCanvasBytes = qint64(256) << 20;
 
-/** Pixels of a fill picture, asked for before it is decoded where the format tells. */
+/** Pixels of a fill picture, checked before it is decoded, if the format has its size. */
 const qint64 maxPicturePixels = 64 * 1000 * 1000;
 
 /**

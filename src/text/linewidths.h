@@ -7,8 +7,8 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /**
- * The widths of a line's characters with their running sums, in pixels, so that laying out a line
- * costs time in proportion to its length. Sums wrap at 32 bits.
+ * The widths of a line's characters with their running sums, in pixels, so the time to lay out a
+ * line is proportional to its length. Sums wrap at 32 bits.
  */
 class LineWidths
 {

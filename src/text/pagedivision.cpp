@@ -20,7 +20,7 @@ void CutForward(const LineWidths& line, int length, int areaWidth, QList<int>& b
             ++count;
             continue;
         }
-        // The character that overflows opens the next page, unless it stands alone on this one.
+        // The character that overflows begins the next page, unless it is alone on this one.
         const bool alone = count - lastCut == 1;
         lastCut = alone ? count : count - 1;
         breaks.append(lastCut);
@@ -47,7 +47,7 @@ void CutBackward(const LineWidths& line, int length, int areaWidth, QList<int>& 
     }
     breaks.append(-1);
     offsets.append(0);
-    // An over-wide last character has cut a page off before itself.
+    // A last character wider than the area has begun its own page.
     if (breaks.size() >= 2 && breaks.at(0) == breaks.at(1)) {
         breaks.removeFirst();
         offsets.removeFirst();

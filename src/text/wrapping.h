@@ -6,8 +6,8 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-// Sums and products of attributes wrap at 32 bits, as they do on the device; signed overflow would
-// leave the result to the compiler.
+// Sums and products of attributes wrap at 32 bits, as they do on the device; signed overflow is
+// undefined.
 
 inline int Wrapped(qint64 value)
 {
