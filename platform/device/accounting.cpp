@@ -1,4 +1,4 @@
-// Counts of calls, misuses and what is live; and the faults that are made on demand.
+// Counters of calls, misuse and live objects, and faults on demand.
 
 #include "call.h"
 #include "sessionstore.h"
@@ -14,7 +14,7 @@ const char* const operationNames[OperationCount] = {
     "GetPicImageLayerPtr",  "SwapPicImageLayerPtr", "SetPicLayerBlend",
     "RemovePictureSession", "FreePictureSession",   "GeteffectDuration"};
 
-int failingCall[OperationCount]; // how many calls off it is; 0 none
+int failingCall[OperationCount]; // calls until it fails; 0 none
 bool failingAll[OperationCount];
 
 } // namespace

@@ -96,7 +96,7 @@ PicSession Call::AnswerHandle(PicSession answer)
 
 char* Call::AnswerBuffer(char* buffer, int index)
 {
-    // Addresses differ from run to run; which buffer it is does not.
+    // The index of the buffer; addresses differ from run to run.
     result = buffer ? index : -1;
     Log();
     return buffer;

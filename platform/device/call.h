@@ -1,7 +1,7 @@
 /**
  * @file
- * What happens around every call of the service: it is counted, it may be made to fail, and it is
- * logged once it has been answered.
+ * What happens around every call of the service: it is counted, may fail on demand, and is logged
+ * when it returns.
  */
 #ifndef TORV_CALL_H
 #define TORV_CALL_H
@@ -23,7 +23,7 @@ public:
     void SetEffect(const Effect* given);
     void SetPlacement(const PicPlacement* given);
 
-    /** The call shall fail for no fault of the caller's. */
+    /** Whether the call fails on demand. */
     bool IsFaulted() const { return faulted; }
 
     /** Counts a mistake of the caller's. */
@@ -31,7 +31,7 @@ public:
     /** Counts a request for more than there is. */
     void Refuse();
 
-    /** Each logs the call and answers its first argument. */
+    /** Each logs the call and returns its first argument. */
     int Answer(int answer);
     PicSession AnswerHandle(PicSession answer);
     /** @param index which of the layer's two buffers it is */
@@ -46,7 +46,7 @@ private:
 /** The counters of calls and misuses; those of live sessions stay 0. */
 Accounting& Counters();
 
-/** Whether this call shall fail on demand. */
+/** Whether this call fails on demand. */
 bool TakeFault(Operation operation);
 
 } // namespace Torv

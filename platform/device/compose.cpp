@@ -105,7 +105,7 @@ public:
 private:
     void Paint(const Layer& layer, bool isAboveLowest)
     {
-        // The device moves the base layer; what has been added to it stands still.
+        // The device moves the base layer; the appended layers do not move.
         const bool isBase = &layer == session.layers[0].get();
         const qint64 left = session.placement.x + (isBase ? scroll : 0);
         const qint64 top = session.placement.y;

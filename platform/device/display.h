@@ -1,7 +1,7 @@
 /**
  * @file
- * The desk's side of the emulated picture-layer service: making displays, looking at what they
- * show, counting what the plugin does to them and letting calls fail. The plugin never sees it.
+ * The control side of the emulated picture-layer service: makes displays, reads what they show,
+ * counts calls and makes them fail. The plugin never sees it.
  */
 #ifndef TORV_DISPLAY_H
 #define TORV_DISPLAY_H
@@ -32,7 +32,7 @@ enum Operation {
 /** The name of the SDK function. */
 const char* OperationName(Operation operation);
 
-/** What the service holds and what it has been asked wrongly; see Accounts(). */
+/** Live objects and misuse; see Accounts(). */
 struct Accounting
 {
     int liveSessions; ///< created and not freed
@@ -60,20 +60,20 @@ Accounting Accounts();
 /** Zeroes every counter; live sessions, layers and bytes stay as they are. */
 void ResetAccounts();
 
-/** A few lines for a person: what is live, the calls, the misuses. */
+/** A few lines to read: live objects, calls, misuse. */
 QString AccountsReport();
 
 /**
- * Lets the @p nth call (1 is the next one) of @p operation fail once; 0 takes the fault back.
- * A call that fails on demand answers 0, -1 or null and has no effect, with one exception:
- * FreePictureSession() frees the session all the same, since its caller has no second try.
+ * Lets the @p nth call (1 is the next one) of @p operation fail once; 0 cancels the fault.
+ * A call that fails on demand returns 0, -1 or null and has no effect. The exception is
+ * FreePictureSession(), which frees the session anyway, because its caller cannot try again.
  */
 void FailCall(Operation operation, int nth);
 
-/** Lets every call of @p operation fail until told otherwise. */
+/** Makes every call of @p operation fail, or stops that. */
 void FailAllCalls(Operation operation, bool fail);
 
-/** Takes back every fault that has been asked for. */
+/** Cancels all faults. */
 void ClearFaults();
 
 /** One call of the service and what became of it. */
@@ -110,15 +110,15 @@ struct CallRecord
     Effect effect = Effect();
     PicPlacement placement = PicPlacement();
 
-    qint64 result = 0; ///< what was answered; for a buffer 0 or 1, or -1 for null
+    qint64 result = 0; ///< what it returned; for a buffer 0 or 1, or -1 for null
     /**
-     * Why the call came to nothing: "fault" (on demand), "refused" (too large) or the counter of
-     * the misuse; null when it did not.
+     * Why the call had no effect: "fault" (on demand), "refused" (too large) or the counter of
+     * the misuse; null when it had one.
      */
     const char* problem = 0;
 };
 
-/** Is told of every call, once it has been answered. */
+/** Called for every call when it returns. */
 typedef void (*CallLog)(void* context, const CallRecord& call);
 
 /** Sends every call to @p log (null: none). */
@@ -127,19 +127,19 @@ void SetCallLog(CallLog log, void* context);
 /** The display's time in milliseconds. */
 typedef qint64 (*Clock)(void* context);
 
-/** Where sessions take the time at which their scrolling begins; null: it stands at 0. */
+/** The clock for the start of scrolling; null: always 0. */
 void SetClock(Clock clock, void* context);
 
 /** The time of that clock. */
 qint64 Now();
 
 /**
- * From now on, a buffer that is shown after a swap can only be read: a painter that writes into
- * the picture on the screen stops the process. Off until it is asked for.
+ * From now on, a buffer that is shown after a swap is read-only: a painter that writes into the
+ * picture on the screen stops the process. Off by default.
  */
 void GuardShownBuffers(bool guard);
 
-/** One emulated display output. Not copyable; its sessions outlive it but are shown no more. */
+/** One emulated display output. Not copyable; its sessions outlive it but are no longer shown. */
 class Display
 {
 public:

@@ -29,7 +29,7 @@ public:
 
     void Take(const Region& region)
     {
-        // Mapping anew instead of mprotect() also gives the pages back to the system.
+        // Mapping again, unlike mprotect(), also returns the pages to the system.
         void* const sealed = mmap(region.start, size_t(region.bytes), PROT_NONE,
                                   MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE | MAP_FIXED, -1, 0);
         if (sealed == MAP_FAILED) {

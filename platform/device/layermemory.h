@@ -1,7 +1,7 @@
 /**
  * @file
- * The memory of one layer. A renderer that paints into a layer after it has been freed would go
- * unnoticed on ordinary memory; here it stops at once, with the painter still on the stack.
+ * The memory of one layer. A renderer that paints into a freed layer would go unnoticed with
+ * ordinary memory; here it crashes at once, with the painter still on the stack.
  */
 #ifndef TORV_LAYERMEMORY_H
 #define TORV_LAYERMEMORY_H
@@ -24,7 +24,7 @@ public:
     /** @param index 0 or 1; null before Allocate() */
     char* Buffer(int index) const;
 
-    /** Lets a buffer be read only, or be written again. */
+    /** Makes a buffer read-only, or writable again. */
     void Protect(int index, bool readOnly) const;
 
 private:

@@ -1,6 +1,6 @@
 /**
  * @file
- * Where the device's own scrolling has moved a picture.
+ * Where the device has scrolled a picture to.
  */
 #ifndef TORV_SCROLL_H
 #define TORV_SCROLL_H
@@ -14,8 +14,8 @@ namespace Torv {
 enum ScrollCode { ScrollLeft = 26, ScrollRight = 27 };
 
 /**
- * The x of the picture's left edge in its area: a picture that scrolls comes in at one edge, leaves
- * at the other and comes in again, once every areaWidth + pictureWidth pixels.
+ * The x of the picture's left edge in its area: a scrolling picture enters at one edge, leaves
+ * at the other and enters again, once every areaWidth + pictureWidth pixels.
  * @param milliseconds since the session was shown; below 0 the picture is out of sight
  * @return 0 when the effect does not scroll
  */

@@ -4,8 +4,8 @@ namespace Torv {
 
 namespace {
 
-// A handle is the generation above the slot. Generations begin at 1, so that every session handle
-// is larger than any display handle and one taken for the other is noticed.
+// A handle is the generation above the slot. Generations begin at 1, so every session handle is
+// larger than any display handle, and a mix-up is noticed.
 const unsigned int SlotBits = 12;
 const unsigned int SlotCount = 1u << SlotBits;
 const unsigned int LastGeneration = (1u << (32 - SlotBits)) - 1;
@@ -45,7 +45,7 @@ void Layer::Swap()
 
 const char* Layer::Shown() const
 {
-    // A layer that is painted once and never swapped is seen all the same.
+    // A layer that is painted once and never swapped is visible, too.
     return swaps == 0 ? Back() : memory.Buffer(front);
 }
 

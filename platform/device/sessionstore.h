@@ -56,8 +56,8 @@ struct Session
 };
 
 /**
- * All live sessions and displays. A session's handle holds the slot that it is kept in and how
- * often the slot has been used, so the handle of a freed session finds nothing.
+ * All live sessions and displays. A session's handle holds its slot and how often the slot
+ * has been used, so the handle of a freed session finds nothing.
  */
 class SessionStore
 {

@@ -24,7 +24,8 @@ SessionStore& Store()
     return SessionStore::Instance();
 }
 
-/** The live session; null, with the mistake counted, when it is none or the call shall fail. */
+/** The live session; null, with the mistake counted, if there is none or the call fails on demand.
+ */
 Session* FindSession(Call& call, PicSession handle)
 {
     if (call.IsFaulted())
@@ -79,7 +80,7 @@ bool IsCreationSane(int type, const PicImage* image, int flags, const Effect* ef
 
 std::unique_ptr<Layer> NewLayer(int width, int height, int bytesPerLine, unsigned int pixelWord)
 {
-    // An empty picture has no rows, whatever it says of their length.
+    // An empty picture has no rows, whatever its row length.
     if (width == 0 || height == 0)
         return std::unique_ptr<Layer>(new Layer(0, 0, 0, pixelWord));
     return std::unique_ptr<Layer>(new Layer(width, height, bytesPerLine, pixelWord));
@@ -231,7 +232,7 @@ int FreePictureSession(PicSession session)
     Call call(Torv::OpFreePictureSession);
     call.session = session;
     if (call.IsFaulted()) {
-        // The caller cannot free it again: whatever the answer, the session is gone.
+        // The caller cannot free it again, so the session is freed whatever this returns.
         if (Session* const found = Store().Find(session))
             Store().Free(found);
         return call.Answer(-1);

@@ -2,7 +2,7 @@
  * The device's picture-layer service as the plugin is compiled against it.
  *
  * Integrators: this header and the library behind it stand in for the device's own SDK. Replace
- * both with the vendor's; the plugin needs nothing but the nine functions and three records below.
+ * both with the vendor's; the plugin needs only the nine functions and three records below.
  *
  * A picture session shows a stack of image layers in one rectangle of a display. Every layer has
  * two buffers: one is shown, the other is painted. A layer that has never been swapped shows the
@@ -24,7 +24,7 @@ typedef unsigned int PicDisplay;
 /** Handle of a picture session; 0 is none. */
 typedef unsigned int PicSession;
 
-/** What the device does to a session's base layer by itself: three pairs of code and duration. */
+/** How the device moves a session's base layer: three pairs of code and duration. */
 typedef struct Effect
 {
     int effect1;   /**< effect code: 0 none, 26 scroll to the left, 27 scroll to the right */
@@ -44,7 +44,7 @@ typedef struct PicImage
     const void* bits; /**< first pixel; may be null when the picture is empty */
 } PicImage;
 
-/** Where a session stands on its display, in pixels. */
+/** Where a session is on its display, in pixels. */
 typedef struct PicPlacement
 {
     int x;
@@ -60,7 +60,7 @@ typedef struct PicPlacement
 /**
  * Makes a session with one layer, layer 0, that holds a copy of @p image in both its buffers.
  * @param type 3: layers of 32 bits a pixel, blended by their alpha; 5: layers of 24 bits a pixel,
- *             blended by colour key
+ *             blended by color key
  * @param flags 16
  * @param pixelWord 0xFF010201 with type 3, 0x00010201 with type 5; the low 24 bits are the key
  * @return the session's handle, or 0 on failure; FreePictureSession() ends it
@@ -93,8 +93,8 @@ char* GetPicImageLayerPtr(PicDisplay display, PicSession session, int layer, int
 char* SwapPicImageLayerPtr(PicDisplay display, PicSession session, int layer);
 
 /**
- * Sets a layer's place in its session's stack: layers with value 0 lie at the bottom, those with 2
- * above them, those with 1 on top; among equals the higher index lies above.
+ * Sets a layer's place in its session's stack: layers with value 0 are at the bottom, those with 2
+ * above them, those with 1 on top; among equals the higher index is above.
  * @return 0, or -1 on failure
  */
 int SetPicLayerBlend(PicDisplay display, PicSession session, int layer, int value);

@@ -47,7 +47,7 @@ public:
 
     QPointer<HNode> node;
     QImage image;
-    QTimer* timer; ///< the animator's child, so that whoever counts timers finds it
+    QTimer* timer; ///< the animator's child, so that tests that count timers find it
     int interval;
     qint64 tick; ///< pictures painted since InitNode()
     std::unique_ptr<NeonBorder> border;

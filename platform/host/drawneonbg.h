@@ -32,7 +32,7 @@ public:
     virtual void InitNode(HNode* node);
 
     /**
-     * Goes on from the picture at which it stopped; does nothing without a node.
+     * Continues from the picture at which it stopped; does nothing without a node.
      * @param interval milliseconds from one picture to the next
      */
     void StartTimerDraw(int interval);

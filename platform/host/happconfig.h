@@ -8,7 +8,7 @@
 #include <QColor>
 #include <QString>
 
-/** Set where HAppConfig::DeviceFile() exists; the host's own class has no need of it. */
+/** Set where HAppConfig::DeviceFile() exists; the host's own class does not have it. */
 #define LW_DEVICE_FILES
 
 namespace Lw {
@@ -16,13 +16,13 @@ namespace Lw {
 class HAppConfig
 {
 public:
-    /** The colour 0xRRGGBB, opaque. */
+    /** The color 0xRRGGBB, opaque. */
     static QColor IntToColor(int value);
 
     /**
-     * Where a file of the device's lies on this desk: a picture of /root/Box/image/ in the folder
+     * The path on a desktop of a file of the device. A picture in /root/Box/image/ is in the folder
      * that the environment variable ANIMATIONTEXT_PICTURES names. Any other file, and every file
-     * without that variable, where the device has it.
+     * without that variable, keeps its path.
      */
     static QString DeviceFile(const QString& file);
 };

@@ -32,7 +32,7 @@ public:
     virtual int Level();
 
     QString GetAttribute(QString key) const;
-    /** The attribute as a decimal number; 0 when it is absent or no number. */
+    /** The attribute as a decimal number; 0 when it is absent or not a number. */
     int GetAttributeToInt(QString key) const;
     /** The list under @p key, owned by the store; null when there is none. */
     HList* GetList(QString key) const;
@@ -45,11 +45,11 @@ public:
     void SetList(QString key, const QList<QHash<QString, QString>>& rows);
     /** Replaces the files under @p key. @param paths full paths */
     void SetFiles(QString key, QStringList paths);
-    /** Removes whatever stands under @p key. */
+    /** Removes everything under @p key. */
     void RemoveKey(QString key);
 
 protected:
-    /** Replaces everything by what @p from holds. */
+    /** Replaces everything with a copy of @p from. */
     void CopyData(const HData& from);
 
 private:

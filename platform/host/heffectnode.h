@@ -9,7 +9,7 @@
 
 namespace Lw {
 
-/** A content node whose pages stand still for a while after they have come in. */
+/** A content node whose pages are held after they have entered. */
 class HEffectNode : public HContentNode
 {
     Q_OBJECT

@@ -76,7 +76,7 @@ QList<HNode*> HNode::ChildNodes() const
     QList<HNode*> nodes;
     const QObjectList& all = children();
     for (int i = 0; i < all.size(); ++i) {
-        // A child that is being deleted is no node any more and answers null.
+        // A child that is being deleted is no longer a node, so the cast returns null.
         if (HNode* const node = qobject_cast<HNode*>(all.at(i)))
             nodes.append(node);
     }
@@ -85,7 +85,7 @@ QList<HNode*> HNode::ChildNodes() const
 
 void HNode::AddChild(HNode* child)
 {
-    // A tree has no rings: neither this node nor what it hangs from can become its child.
+    // A tree has no cycles: neither this node nor its ancestors can become its child.
     for (const QObject* above = this; above; above = above->parent()) {
         if (above == child)
             return;

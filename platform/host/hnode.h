@@ -29,8 +29,7 @@ public:
     explicit HNode(QObject* parent = 0);
     ~HNode() override;
 
-    // Saving, sending and copying are the host's own; here they do nothing and answer false or
-    // null.
+    // Saving, sending and copying are for the host; here they do nothing and return false or null.
     virtual bool UpdateNode(QDomElement& element, QList<FileInfo>& files);
     virtual HNode* Copy();
     /** Deletes the node when control returns to the event loop. */
@@ -43,7 +42,7 @@ public:
     virtual void ControllerChange();
     virtual void InitData();
     virtual void SDKInitData(void* data);
-    /** Takes over every attribute, list and file of @p from. */
+    /** Copies every attribute, list and file of @p from. */
     virtual void ReloadAtrrbute(HNode* from);
     /** Play time in milliseconds; here the sum of the children's, 0 without any. */
     virtual int Duration();
@@ -52,7 +51,7 @@ public:
     HNode* ParentNode() const;
     /** In the order in which they were added. */
     QList<HNode*> ChildNodes() const;
-    /** Appends @p child and takes ownership of it; ignored where it would make a ring. */
+    /** Appends @p child and takes ownership of it; ignored if it would make a cycle. */
     void AddChild(HNode* child);
 };
 

@@ -16,10 +16,10 @@ public:
     /** The one manager of the process. */
     static HPluginManager* instance();
 
-    /** True: layers of 32 bits blended by alpha; false: layers of 24 bits with a colour key. */
+    /** True: layers of 32 bits blended by alpha; false: layers of 24 bits with a color key. */
     bool SuportAlphaBlend(HNode* node) const;
 
-    /** What SuportAlphaBlend() answers for every node; true until it is told. */
+    /** What SuportAlphaBlend() answers for every node; true by default. */
     void SetAlphaBlend(bool blend);
 
 private:

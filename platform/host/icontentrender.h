@@ -15,7 +15,7 @@ public:
     virtual ~IContentRender();
     /** @param displayHandle the display output; 0 is none */
     virtual void Start(unsigned int displayHandle) = 0;
-    /** Freezes the play, or lets it go on when it is frozen. */
+    /** Pauses the play, or resumes it. */
     virtual void Pause() = 0;
     virtual void Stop() = 0;
     virtual void Remove() = 0;

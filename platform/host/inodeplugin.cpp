@@ -5,7 +5,7 @@ namespace Lw {
 // Out of line, so that the host's library holds the one table of the interface's operations.
 INodePlugin::~INodePlugin() {}
 
-// Here, too: inline it would be one icon for each library that hides its symbols.
+// Out of line, too: inline, each library that hides its symbols would have its own icon.
 QIcon& INodePlugin::icon()
 {
     static QIcon none;

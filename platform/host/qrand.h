@@ -1,6 +1,6 @@
 /**
  * @file
- * Qt 6 has no qrand() any more; here it is again, with the numbers that it gave in Qt 5.15.
+ * Qt 6 has no qrand(). This one returns the numbers of Qt 5.15.
  * Only programs built with Qt 6 include it. It is in the host's library, so that a player can seed
  * what the plugin draws.
  */
@@ -14,7 +14,7 @@
 /** The thread's next number, 1 .. 2147483646. */
 int qrand();
 
-/** What the thread's numbers start from; 1 until it is called. */
+/** Seeds the thread's numbers; 1 by default. */
 void qsrand(uint seed);
 
 #endif

@@ -8,18 +8,18 @@ namespace Lw {
 
 namespace {
 
-// Shorter delays are mistakes of old drawing programs; everybody shows such pictures this long.
+// Shorter delays are mistakes of old drawing programs; all viewers show such pictures this long.
 const int ShortestDelay = 20;
 const int UsualDelay = 100;
 
-// So many pictures are skipped for one that is due; a film with more of them plays more slowly.
+// The most pictures to skip for one that is due; beyond that the film plays more slowly.
 const int MostPicturesAtOnce = 16;
 
 } // namespace
 
 NeonFilm::NeonFilm(const QString& path)
 {
-    // Anything but a regular file could keep the reader waiting for ever.
+    // Anything except a regular file could keep the reader waiting forever.
     isOver = !QFileInfo(path).isFile();
     if (isOver)
         qDebug() << "Neon picture" << path << "is ignored: no such file";
