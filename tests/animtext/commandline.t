@@ -1,0 +1,232 @@
+What all commands share: help, options and their values, how they end.
+
+  $ . "$TESTDIR/prelude.sh"
+
+Help:
+
+  $ fresh
+  $ animtext --version | grep -cx "animtext $VERSION"
+  1
+  $ animtext --help | grep trace
+    trace       prints what every tick gives the display, one JSON line each
+  $ cmp <(animtext help trace) <(animtext trace --help)
+  $ animtext trace -h --tick # wrong words after the help
+  Usage: animtext trace [options] SCENE.json
+  Plays a scene on virtual time and prints a line of JSON for each tick of 66 ms
+  and each node, tick 0 being the start: whether a new picture of the text was
+  handed to the display, the layer that shows it, its size, the SHA-1 of its rows
+  and the renderer's state (0 finished, 1 playing, 2 nothing to play); where there
+  is a dazzle background, its SHA-1.
+  
+  Options:
+    -n, --ticks N              The last tick. [100]
+        --calls                Prints every call of the device before the line of
+                               its tick.
+        --plugin FILE          The plugin library, in place of the one beside this
+                               program.
+        --seed N               What the random numbers of the trembling start
+                               from. [1]
+        --allow-missing-files  Plays on although a file that the scene names is
+                               missing.
+        --force                Plays a scene although it has errors that leave
+                               nothing to show.
+    -h, --help                 Shows this help.
+  $ animtext sheet --help | head -n 1
+  Usage: animtext sheet -o SHEET.png [options] SCENE.json* (glob)
+  $ animtext
+  ! animtext: expected a command (see animtext help)
+  [2]
+  $ animtext rendr one.json
+  ! animtext: there is no command "rendr"; did you mean render? (see animtext help)
+  [2]
+  $ animtext help trac
+  ! animtext: there is no command "trac"; did you mean trace? (see animtext help help)
+  [2]
+  $ animtext effects | grep Swing
+    6  SwingEffect                         the whole row sways sideways and leans as it goes
+  $ animtext effects | wc -l # 30 and 4, two headings, one line between
+  37
+  $ animtext effects --json | grep -c summary
+  34
+
+Options:
+
+  $ fresh
+  $ animtext trace one.json -n 2 | wc -l
+  3
+  $ animtext trace one.json -n2 | wc -l
+  3
+  $ animtext trace --ticks=2 -- one.json | wc -l
+  3
+  $ animtext trace --ticks 5 one.json --ticks 2 | wc -l # the last one counts
+  3
+  $ animtext trace
+  ! animtext: expected SCENE.json (see animtext help trace)
+  [2]
+  $ animtext trace one.json two.json
+  ! animtext: "two.json" is one word too many (see animtext help trace)
+  [2]
+  $ animtext trace one.json --tiks 3
+  ! animtext: unknown option --tiks; did you mean --ticks? (see animtext help trace)
+  [2]
+  $ animtext trace one.json -ticks 3
+  ! animtext: unknown option -ticks; did you mean --ticks? (see animtext help trace)
+  [2]
+  $ animtext trace one.json -x
+  ! animtext: unknown option -x (see animtext help trace)
+  [2]
+  $ animtext trace one.json --ticks
+  ! animtext: --ticks takes N, which is missing (see animtext help trace)
+  [2]
+  $ animtext trace one.json --ticks many
+  ! animtext: --ticks takes a whole number from 0 to 1000000000, not "many" (see animtext help trace)
+  [2]
+  $ animtext trace one.json --ticks -1
+  ! animtext: --ticks takes a whole number from 0 to 1000000000, not "-1" (see animtext help trace)
+  [2]
+  $ animtext trace one.json --ticks 1000000001
+  ! animtext: --ticks takes a whole number from 0 to 1000000000, not "1000000001" (see animtext help trace)
+  [2]
+  $ animtext trace one.json --calls=yes
+  ! animtext: --calls takes no value, not "yes" (see animtext help trace)
+  [2]
+  $ animtext trace one.json --seed -1
+  ! animtext: --seed takes a whole number from 0 to 2147483647, not "-1" (see animtext help trace)
+  [2]
+  $ animtext trace one.json --plugin ''
+  ! animtext: --plugin takes the name of a file, not an empty one (see animtext help trace)
+  [2]
+  $ animtext trace one.json --plugin none.so
+  ! animtext: there is no plugin at none.so: build the target animationtext, or name the library with --plugin or ANIMATIONTEXT_PLUGIN
+  [1]
+  $ animtext trace one.json --plugin one.json
+  ! animtext: one.json cannot be loaded: * (glob)
+  [1]
+  $ animtext sheet one.json -o a.png --columns 0
+  ! animtext: --columns takes a whole number from 1 to 50, not "0" (see animtext help sheet)
+  [2]
+  $ animtext sheet one.json -o a.png --columns 51
+  ! animtext: --columns takes a whole number from 1 to 50, not "51" (see animtext help sheet)
+  [2]
+  $ animtext soak --hours 8785
+  ! animtext: --hours takes a time with its unit, such as 24h or 90min, in hours from 0 to 8784, not "8785" (see animtext help soak)
+  [2]
+  $ animtext soak --hours 8784.1h
+  ! animtext: --hours takes a time with its unit, such as 24h or 90min, in hours from 0 to 8784, not "8784.1h" (see animtext help soak)
+  [2]
+  $ animtext soak --growth nan
+  ! animtext: --growth takes a number from 0 to 1000000, not "nan" (see animtext help soak)
+  [2]
+  $ animtext soak --growth -1
+  ! animtext: --growth takes a number from 0 to 1000000, not "-1" (see animtext help soak)
+  [2]
+
+Files:
+
+  $ fresh
+  $ animtext trace - -n 0 <one.json
+  {"tick":0,"ms":0,"node":0,"swap":true,"layer":0,"w":64,"h":32,"sha1":"0631457264ff7f8d5fb1edc2c0211992a67c73e6","state":1}
+  $ cp one.json ./-n; animtext trace --ticks 0 -- -n
+  {"tick":0,"ms":0,"node":0,"swap":true,"layer":0,"w":64,"h":32,"sha1":"0631457264ff7f8d5fb1edc2c0211992a67c73e6","state":1}
+  $ any=$'\xff.json'; [ $QT = 5 ] || any=ß.json; cp one.json $any; animtext trace $any -n 0; rm $any
+  {"tick":0,"ms":0,"node":0,"swap":true,"layer":0,"w":64,"h":32,"sha1":"0631457264ff7f8d5fb1edc2c0211992a67c73e6","state":1}
+  $ animtext trace none.json
+  ! animtext: none.json: expected a scene file, found no such file
+  [2]
+  $ animtext trace bad.json
+  ! animtext: bad.json: $.pages: expected a list, found 1
+  [2]
+  $ animtext trace - </dev/null
+  ! animtext: -:1:1: expected valid JSON, found an error: illegal value
+  [2]
+  $ animtext trace ''
+  ! animtext: expected SCENE.json, not an empty word (see animtext help trace)
+  [2]
+  $ animtext duration bad.json
+  ! animtext: bad.json: $.pages: expected a list, found 1
+  [2]
+
+Standard output that cannot be written:
+
+  $ fresh
+  $ animtext --version >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext help >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext completion fish >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext effects >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext trace one.json >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext trace one.json -n 5000 >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext soak one.json --hours 0 >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext sheet one.json -o - >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext duration one.json --table >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+  $ animtext validate one.json >/dev/full
+  ! animtext: standard output cannot be written: No space left on device
+  [1]
+
+Signals:
+
+  $ fresh
+  $ ended() { env animtext trace one.json -n 1000000000 >a & until [ -s a ]; do :; done; rm a; kill -$1 $!; wait $!; }
+  $ (set -m; ended INT) 2>/dev/null
+  [130]
+  $ (set -m; ended TERM) 2>/dev/null
+  [143]
+
+Without a display:
+
+  $ fresh
+  $ DISPLAY= QT_QPA_PLATFORM=xcb animtext author --text a -o a.json
+  a.json: one character of DejaVu Sans, 29 x 57 pixels; WordForWordOutputEffect in one page of 512 x 58
+  $ QT_QPA_PLATFORM=none QT_QPA_PLATFORMTHEME=none animtext duration one.json
+  The host is told 0.20 s (198 ms).
+  $ DISPLAY= QT_QPA_PLATFORM=xcb animtext play one.json
+  ! animtext: there is no display: run it in a desktop session, or within xvfb-run; or set QT_QPA_PLATFORM=vnc for VNC viewers, or QT_QPA_PLATFORM=linuxfb for a board's own screen, /dev/fb0
+  [1]
+  $ QT_QPA_PLATFORM=offscreen animtext play bad.json
+  ! animtext: bad.json: $.pages: expected a list, found 1
+  [2]
+  $ animtext play one.json --leds=5
+  ! animtext: --leds takes a number from 1 to 4, not "5" (see animtext help play)
+  [2]
+
+Completion:
+
+  $ fresh
+  $ . <(animtext completion bash)
+  $ completes() { COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _animtext; echo ${COMPREPLY[@]}; }
+  $ completes animtext author --dazzle r
+  radial
+  $ completes animtext s
+  set sheet soak schema
+  $ completes animtext trace --t
+  --ticks
+  $ completes animtext trace one
+  one.path one.json
+  $ commands=$(animtext --help | sed -n '/^Commands/,/^$/s/^  \([a-z]*\) .*/\1/p' | grep -v help)
+  $ for command in $commands; do animtext help $command; done >help; grep -E '.{81}' help
+  [1]
+  $ options=$(grep -oE '^ .{5}--[a-z-]+' help | cut -c 7- | sort -u); [ $(wc -w <<<$options) -gt 50 ]
+  $ for shell in bash zsh fish; do animtext completion $shell >$shell; done
+  $ for o in $options; do [[ $(<bash) = *[\ \']$o* && $(<zsh) = *\'$o* && $(<fish) = *"-l ${o#--} "* ]] || echo $o; done
+  $ animtext completion zsh | head -n 1
+  #compdef animtext
+  $ animtext completion tcsh
+  ! animtext: expected bash, zsh or fish, not "tcsh" (see animtext help completion)
+  [2]
