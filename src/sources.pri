@@ -24,6 +24,7 @@ HEADERS += \
     $$PWD/paint/picturewriter.h \
     $$PWD/paint/plane.h \
     $$PWD/paint/point.h \
+    $$PWD/paint/steadiness.h \
     $$PWD/paint/textcanvas.h \
     $$PWD/paint/textpath.h \
     $$PWD/paint/transform.h \
@@ -67,6 +68,7 @@ SOURCES += \
     $$PWD/paint/pictureblend.cpp \
     $$PWD/paint/picturewriter.cpp \
     $$PWD/paint/plane.cpp \
+    $$PWD/paint/steadiness.cpp \
     $$PWD/paint/textcanvas.cpp \
     $$PWD/paint/textpath.cpp \
     $$PWD/paint/transform.cpp \

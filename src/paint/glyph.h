@@ -3,6 +3,7 @@
 
 #include "paint/outline.h"
 #include "paint/point.h"
+#include "paint/steadiness.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -27,12 +28,8 @@ public:
      * where floats are coarse. Equal points do not count.
      */
     bool IsSpaced() const { return isSpaced; }
-    /**
-     * Whole pixels away from its origin the glyph is the same, pixel by pixel, as long as no
-     * coordinate is less than 0 or more than these: all that its curves are halved to is computed
-     * without rounding. 0 where that is nowhere.
-     */
-    Point ExactWithin() const;
+    /** How far out it is the same whole pixels away. Measured when first asked for. */
+    const Steadiness& Steady() const;
 
 private:
     Outline shape;
@@ -40,7 +37,7 @@ private:
     bool isClosed;
     bool isSpaced;
     mutable bool isMeasured;
-    mutable Point exactWithin;
+    mutable Steadiness steadiness;
 };
 
 } // namespace HNodeAnimationText

@@ -46,9 +46,9 @@ uint32_t PowerBelow(float v)
     return BitsOf(v) >> 23;
 }
 
-uint32_t PlaceKey(float low, float high, float exactWithin, float at)
+uint32_t PlaceKey(float low, float high, float steadyWithin, float at)
 {
-    if (high + at <= exactWithin)
+    if (high + at <= steadyWithin)
         return anywhere;
     if (PowerBelow(low + at) == PowerBelow(high + at))
         return betweenPowers | PowerBelow(low + at);
@@ -244,12 +244,16 @@ void GlyphCache::FindPlace(const TextPath::Item& item, const Bounds& box)
     if (box.left + x < margin || box.right + x > float(pictureWidth) - margin ||
         box.top + y < margin || box.bottom + y > float(pictureHeight) - margin)
         return;
-    const Point nowhere = {0, 0};
-    const Point exact = item.shape.IsIdentity() ? item.glyph->ExactWithin() : nowhere;
+    Point steady = {0, 0};
+    if (item.shape.IsIdentity()) {
+        const Steadiness& steadiness = item.glyph->Steady();
+        const bool isFlat = std::max(box.right + x, box.bottom + y) <= steadiness.flat;
+        steady = isFlat ? steadiness.rounded : steadiness.exact;
+    }
     if (x == float(wholeX))
-        lookedFor.x = PlaceKey(box.left, box.right, exact.x, x);
+        lookedFor.x = PlaceKey(box.left, box.right, steady.x, x);
     if (y == float(wholeY))
-        lookedFor.y = PlaceKey(box.top, box.bottom, exact.y, y);
+        lookedFor.y = PlaceKey(box.top, box.bottom, steady.y, y);
 }
 
 /** The entry of what is looked for; a new one when there is none. */
@@ -296,8 +300,10 @@ GlyphCache::Finding GlyphCache::Find(const TextPath::Item& item, bool isWinding,
         finding.next = static_cast<Direction>(entry.next);
     }
     Count(finding.image != 0);
+    const bool isLikelySeenAgain =
+        entry.image == seenOnce || (lookedFor.x == anywhere && lookedFor.y == anywhere);
     finding.isWorthKeeping =
-        entry.image == seenOnce && !(IsFull() && hits * lookupsForHit > lookups);
+        !finding.image && isLikelySeenAgain && !(IsFull() && hits * lookupsForHit > lookups);
     if (entry.image == neverSeen)
         entry.image = seenOnce;
     return finding;

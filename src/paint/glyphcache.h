@@ -11,15 +11,15 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /**
- * Pixels of glyphs that are painted again and again: kept from the second time on, used from the
- * third. Only where the device's float arithmetic gives the same pixels:
+ * Pixels of glyphs that are painted again and again: kept from the second time on, at once where
+ * they are the same at all whole pixels. Only where the device's float arithmetic gives them:
  *
  * - at the very same place, fractions included;
  * - whole pixels away, when the glyph lies within the picture and all its coordinates along an axis
- *   stay between two neighbouring powers of two. Floats lie equally dense there, so every sum, half
+ *   stay between two neighboring powers of two. Floats lie equally dense there, so every sum, half
  *   and difference is rounded alike;
- * - within the picture and whole pixels away along an axis on which nothing is rounded: the outline
- *   lies on a grid so coarse that floats hold whatever its curves are halved to.
+ * - within the picture and whole pixels away along an axis on which the outline is steady: what
+ *   floats round there does not matter (steadiness.h).
  */
 class GlyphCache
 {

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <random>
 
 using namespace Lw::HNodeAnimationText;
 
@@ -128,7 +129,7 @@ private slots:
     void aMoveAloneJoinsTheGlyphBefore();
     void glyphsOfTallPagesArePaintedAsTheirPath();
     void glyphsAreKeptWhereTheyAreTheSame();
-    void exactPlacesRoundNothing();
+    void steadyOutlinesAreTheSameWholePixelsAway();
     void whatIsKeptIsBounded();
     void clipIsThePictureInside();
     void transformOfThePainterMapsPoints();
@@ -375,71 +376,76 @@ void TestPaint::glyphsAreKeptWhereTheyAreTheSame()
     }
 }
 
-/** Whether the curve's halves, as the hairline computes them, are those of @p exact, moved. */
-bool IsMovedExactly(const Point* p, const double (*exact)[2], double x, double y, int level)
+/** What the hairline makes of a curve, relative to its place. */
+void AddLines(const Point* p, int x, int y, int level, QVector<int>& lines)
 {
-    Point halves[7] = {p[0], p[1], p[2], p[3], {0, 0}, {0, 0}, {0, 0}};
-    double e[7][2] = {};
-    std::memcpy(e, exact, sizeof(double) * 8);
-    const auto isEqual = [&](int i) {
-        return double(halves[i].x) == e[i][0] + x && double(halves[i].y) == e[i][1] + y;
-    };
-    for (int i = 0; i < 4; ++i)
-        if (!isEqual(i))
-            return false;
+    for (const Point& end : {p[0], p[3]})
+        lines << int(end.x * 64) - x * 64 << int(end.y * 64) - y * 64;
     if (level == 0 || IsFlat(p[0], p[1], p[2], p[3]))
-        return true;
+        return;
+    Point halves[7] = {p[0], p[1], p[2], p[3], {0, 0}, {0, 0}, {0, 0}};
     Halve(halves);
-    for (double* c : {&e[0][0], &e[0][1]}) { // every second number from here on
-        const double middle = (c[2] + c[4]) / 2;
-        c[12] = c[6];
-        c[2] = (c[0] + c[2]) / 2;
-        c[10] = (c[4] + c[6]) / 2;
-        c[4] = (c[2] + middle) / 2;
-        c[8] = (c[10] + middle) / 2;
-        c[6] = (c[4] + c[8]) / 2;
-    }
-    return IsMovedExactly(halves, e, x, y, level - 1) &&
-           IsMovedExactly(halves + 3, e + 3, x, y, level - 1);
+    AddLines(halves, x, y, level - 1, lines);
+    AddLines(halves + 3, x, y, level - 1, lines);
 }
 
-void TestPaint::exactPlacesRoundNothing()
+// Curves on grids, at any fraction, close to where the next 1/64 pixel begins, and almost flat.
+void TestPaint::steadyOutlinesAreTheSameWholePixelsAway()
 {
-    unsigned random = 1;
-    int isUseful = 0;
-    for (int i = 0; i < 3000; ++i) {
-        const int bitsX = i % 13, bitsY = i % 7 + 2;
+    std::mt19937 random(1);
+    const auto below = [&](int limit) { return int(random() % unsigned(limit)); };
+    int useful[2] = {};
+    for (int i = 0; i < 30000; ++i) {
         float c[8];
-        for (int k = 0; k < 8; ++k) {
-            random = random * 1664525 + 1013904223;
-            const int bits = k % 2 ? bitsY : bitsX; // behind the point of a number below 64
-            c[k] = std::ldexp(float(random >> (26 - bits)), -bits);
+        for (float& v : c) {
+            const int bits = i % 13;
+            const float onGrid = std::ldexp(float(below(64 << bits)), -bits);
+            const float anywhere = std::ldexp(float(below(1 << 22)), -16) / 3;
+            v = i % 3 == 0 ? onGrid
+                : i % 3 == 1
+                    ? anywhere
+                    : std::round(anywhere * 64) / 64 + std::ldexp(float(below(7) - 3), -8 - i % 14);
+        }
+        if (i % 4 == 3) { // just flat or just not, over a level chord
+            c[7] = c[1];
+            c[3] = c[1] + 0.25f + std::ldexp(float(below(5) - 2), -9 - i % 11);
+            c[5] = i % 8 == 3 ? c[1] : c[3];
         }
         Outline outline;
         outline.MoveTo(c[0], c[1]);
         outline.CurveTo(c[2], c[3], c[4], c[5], c[6], c[7]);
         const Glyph glyph(outline);
-        const Point within = glyph.ExactWithin();
-        const float x = std::floor(qMin(within.x, 32000.f) - glyph.Box().right);
-        const float y = std::floor(qMin(within.y, 32000.f) - glyph.Box().bottom);
-        if (x < 0 || y < 0)
-            continue;
-        ++isUseful;
-        std::vector<Point> points(4);
-        Transform().map(outline, &points[0], x, y);
-        double exact[4][2];
-        for (int k = 0; k < 8; ++k)
-            exact[k / 2][k % 2] = double(c[k]);
-        QVERIFY2(IsMovedExactly(&points[0], exact, double(x), double(y), curveHalvings),
-                 qPrintable(QString("curve %1 at %2, %3").arg(i).arg(x).arg(y)));
+        const Steadiness& steady = glyph.Steady();
+        for (const bool isExact : {true, false}) {
+            const Point within = isExact ? steady.exact : steady.rounded;
+            const float flat = isExact ? 32767 : std::min(steady.flat, 32767.f);
+            const int right = int(std::min(within.x, flat) - glyph.Box().right);
+            const int bottom = int(std::min(within.y, flat) - glyph.Box().bottom);
+            if (right < 2 || bottom < 2)
+                continue;
+            ++useful[isExact];
+            QVector<int> first;
+            for (int k = 0; k < 8; ++k) {
+                const int x = k == 0 ? right : 1 + (below(right) >> below(12));
+                const int y = k == 0 ? bottom : 1 + (below(bottom) >> below(12));
+                Point points[4];
+                Transform().map(outline, points, float(x), float(y));
+                QVector<int> lines;
+                AddLines(points, x, y, curveHalvings, lines);
+                first = k == 0 ? lines : first;
+                QVERIFY2(lines == first,
+                         qPrintable(QString("curve %1 at %2, %3").arg(i).arg(x).arg(y)));
+            }
+        }
     }
-    QVERIFY2(isUseful > 1000, qPrintable(QString::number(isUseful)));
+    QVERIFY2(useful[0] > 20000 && useful[1] > 5000,
+             qPrintable(QString("%1, %2").arg(useful[0]).arg(useful[1])));
 
     // As often as a curve is halved, each time to eighths: from 2^14 to 2^-4, of a float's 24 bits.
     Outline large;
     large.MoveTo(0, 0);
     large.CurveTo(0, 16384, 16384, -16384, 16384, 16384);
-    QCOMPARE(Glyph(large).ExactWithin().y, float(1 << 20));
+    QCOMPARE(Glyph(large).Steady().exact.y, float(1 << 20));
 }
 
 void TestPaint::whatIsKeptIsBounded()
