@@ -15,6 +15,13 @@
 #include <QGuiApplication>
 #include <QPainterPath>
 
+#if __has_include(<valgrind/callgrind.h>)
+#include <valgrind/callgrind.h>
+#else
+#define CALLGRIND_ZERO_STATS
+#define CALLGRIND_DUMP_STATS_AT(name) (void)(name)
+#endif
+
 #include <cstring>
 #include <ctime>
 
@@ -42,6 +49,13 @@ struct Page
     QString scene;
     bool alpha;        // in 32 bits a pixel, otherwise in 24
     bool fullOutlines; // as other editors write them, not on a grid of 1/64 pixel
+
+    std::string Name() const
+    {
+        return QFileInfo(scene).completeBaseName().toStdString() + (fullOutlines ? " full"
+                                                                    : alpha      ? ""
+                                                                                 : " rgb");
+    }
 };
 
 std::unique_ptr<HAnimationTextNode> NodeOf(const Page& page)
@@ -86,6 +100,13 @@ struct Show
     std::unique_ptr<HAnimationTextRender> render;
 };
 
+double Seconds()
+{
+    timespec now;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
+}
+
 struct Play
 {
     Play(const Page& page, int mode, int motion)
@@ -105,17 +126,23 @@ struct Play
     animationRealization engine{nullptr};
 };
 
-const int leastFrames = 2000;   // so many are measured ...
-const int longestRun = 1 << 15; // ... in whole runs, unless one is longer than this
+const int leastFrames = 2000;   // so many are measured, in whole runs, ...
+const double longRun = 1;       // ... but one run when it takes more seconds than this
+const int longestRun = 1 << 15; // in ticks: what does not end is cut
 
-int TicksOfRun(const Page& page, int mode, int motion)
+// How long a run takes. Callgrind, if it is there, notes what the ticks after the first one cost.
+int TicksOfRun(const Page& page, const std::string& row, int mode, int motion,
+               const Attributes& others)
 {
-    Show show(page, mode, motion, {});
+    Show show(page, mode, motion, others);
     int ticks = 1;
+    CALLGRIND_ZERO_STATS;
     while (show.render->renderState() == 1 && ticks < longestRun) {
         show.Tick();
         ++ticks;
     }
+    const std::string what = page.Name() + "/" + row + "/" + std::to_string(ticks - 1);
+    CALLGRIND_DUMP_STATS_AT(what.c_str());
     return ticks;
 }
 
@@ -125,13 +152,6 @@ void Tick(benchmark::State& state, const Page& page, int mode, int motion, const
     Show show(page, mode, motion, others);
     for (auto _ : state)
         show.Tick();
-}
-
-double Seconds()
-{
-    timespec now;
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
 }
 
 // The same of its first run, in which nothing is kept yet.
@@ -184,24 +204,24 @@ void Copy(benchmark::State& state, QSize size, int bytesPerPixel)
 
 void RegisterScene(const Page& page)
 {
-    const std::string name =
-        QFileInfo(page.scene).completeBaseName().toStdString() + (page.fullOutlines ? " full"
-                                                                  : page.alpha      ? ""
-                                                                                    : " rgb");
+    const std::string name = page.Name();
     const auto add = [&](const std::string& row, auto measure) {
         return benchmark::RegisterBenchmark((name + "/" + row).c_str(), measure);
     };
     const auto addMotion = [&](const std::string& row, int mode, int motion,
                                const Attributes& others) {
-        const int run = TicksOfRun(page, mode, motion);
+        const double begin = Seconds();
+        const int run = TicksOfRun(page, row, mode, motion, others);
+        const int frames = Seconds() - begin > longRun ? run : leastFrames;
         add(row, [=](benchmark::State& state) {
             Tick(state, page, mode, motion, others);
-        })->Iterations((leastFrames + run - 1) / run * run);
+        })->Iterations((frames + run - 1) / run * run);
     };
     if (page.fullOutlines) {
         for (const int effect : {4, waves}) { // word by word; waves
-            const int run = TicksOfRun(page, entrance, effect);
-            add("effect " + std::to_string(effect), [=](benchmark::State& state) {
+            const std::string row = "effect " + std::to_string(effect);
+            const int run = TicksOfRun(page, row, entrance, effect, {});
+            add(row, [=](benchmark::State& state) {
                 FirstRun(state, page, effect, run);
             })->UseManualTime();
         }
