@@ -3,10 +3,6 @@
 #include "animtext/shared/playoptions.h"
 #include "cli/interruption.h"
 #include "cli/progress.h"
-#include "timing/simulation.h"
-
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cstdlib>
 
@@ -61,22 +57,15 @@ QString InWords(qint64 model, const Simulation& simulation)
              Difference(model, simulation.finishedMs));
 }
 
-QByteArray ToJson(int node, int nodes, qint64 model, const Simulation* simulation)
+QByteArray JsonLine(int node, int nodes, qint64 model, const Simulation* simulation)
 {
-    // The keys stand in this order for those who read the lines by eye.
-    QByteArray json = "{";
+    Json line = Json::Object();
     if (nodes > 1)
-        json += "\"node\":" + QByteArray::number(node) + ',';
-    json += "\"duration\":" + QByteArray::number(model);
-    if (simulation) {
-        const QByteArray finished =
-            simulation->finishedMs < 0 ? "null" : QByteArray::number(simulation->finishedMs);
-        json +=
-            ",\"simulated\":{\"animationTicks\":" + QByteArray::number(simulation->animationTicks) +
-            ",\"holdTicks\":" + QByteArray::number(simulation->holdTicks) +
-            ",\"finishedMs\":" + finished + '}';
-    }
-    return json + "}\n";
+        line.Add("node", node);
+    line.Add("duration", model);
+    if (simulation)
+        line.Add("simulated", ToJson(*simulation));
+    return line.Text() + '\n';
 }
 
 QByteArray ToText(int node, int nodes, qint64 model, const Simulation* simulation)
@@ -116,7 +105,7 @@ void Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
         simulations = SimulateAll(player.get(), scene, playing.Seed());
     for (int node = 0; node < nodes; ++node) {
         const Simulation* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
-        Print(line.IsSet("json") ? ToJson(node, nodes, models.at(node), simulation)
+        Print(line.IsSet("json") ? JsonLine(node, nodes, models.at(node), simulation)
                                  : ToText(node, nodes, models.at(node), simulation));
     }
 }

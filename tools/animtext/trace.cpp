@@ -1,6 +1,7 @@
 #include "animtext/commands.h"
 #include "animtext/shared/playoptions.h"
 #include "player/callline.h"
+#include "scene/json.h"
 
 namespace AnimText {
 
@@ -40,16 +41,18 @@ QByteArray Trace::Line(int node)
     }
     const QSize size = shown.at(node).size;
     const QImage dazzle = player->DazzlePicture(node);
-    const QByteArray background =
-        dazzle.isNull() ? QByteArray() : ",\"background\":\"" + Sha1Of(dazzle) + '"';
-    return "{\"tick\":" + QByteArray::number(player->Tick()) +
-           ",\"ms\":" + QByteArray::number(player->Time()) +
-           ",\"node\":" + QByteArray::number(node) +
-           ",\"swap\":" + (player->Swapped(node) ? "true" : "false") +
-           ",\"layer\":" + QByteArray::number(layer < 0 ? 0 : layer) +
-           ",\"w\":" + QByteArray::number(size.width()) +
-           ",\"h\":" + QByteArray::number(size.height()) + ",\"sha1\":\"" + shown.at(node).sha1 +
-           "\",\"state\":" + QByteArray::number(player->State(node)) + background + "}\n";
+    Json line = Json::Object({{"tick", player->Tick()},
+                              {"ms", player->Time()},
+                              {"node", node},
+                              {"swap", player->Swapped(node)},
+                              {"layer", layer < 0 ? 0 : layer},
+                              {"w", size.width()},
+                              {"h", size.height()},
+                              {"sha1", shown.at(node).sha1},
+                              {"state", player->State(node)}});
+    if (!dazzle.isNull())
+        line.Add("background", Sha1Of(dazzle));
+    return line.Text() + '\n';
 }
 
 QByteArray Trace::TickLines()

@@ -1,78 +1,53 @@
 #include "player/callline.h"
 
+#include "scene/json.h"
+
 #include <QCryptographicHash>
 
 namespace AnimText {
 
 namespace {
 
-/** A JSON object in the making; what it holds needs no escaping. */
-class Object
+Json PixelWord(const Torv::CallRecord& call)
 {
-public:
-    Object& Add(const char* name, const QByteArray& json)
-    {
-        members += (members.isEmpty() ? "\"" : ",\"") + QByteArray(name) + "\":" + json;
-        return *this;
-    }
-    Object& Add(const char* name, qint64 number) { return Add(name, QByteArray::number(number)); }
-    QByteArray Json() const { return '{' + members + '}'; }
-
-private:
-    QByteArray members;
-};
-
-QByteArray Quoted(const QByteArray& text)
-{
-    return '"' + text + '"';
+    return "0x" + QByteArray::number(call.pixelWord, 16).rightJustified(8, '0');
 }
 
-QByteArray PixelWord(const Torv::CallRecord& call)
-{
-    return Quoted("0x" + QByteArray::number(call.pixelWord, 16).rightJustified(8, '0'));
-}
-
-QByteArray Image(const Torv::CallRecord& call)
+Json Image(const Torv::CallRecord& call)
 {
     const PicImage& image = call.image;
-    return call.hasImage ? Object()
-                               .Add("width", image.width)
-                               .Add("height", image.height)
-                               .Add("bytesPerLine", image.bytesPerLine)
-                               .Add("bits", QByteArray(image.bits ? "true" : "false"))
-                               .Json()
-                         : QByteArray("null");
+    return call.hasImage ? Json::Object({{"width", image.width},
+                                         {"height", image.height},
+                                         {"bytesPerLine", image.bytesPerLine},
+                                         {"bits", image.bits != nullptr}})
+                         : Json();
 }
 
-QByteArray EffectOf(const Torv::CallRecord& call)
+Json EffectOf(const Torv::CallRecord& call)
 {
     const Effect& effect = call.effect;
-    return call.hasEffect ? Object()
-                                .Add("effect1", effect.effect1)
-                                .Add("duration1", effect.duration1)
-                                .Add("effect2", effect.effect2)
-                                .Add("duration2", effect.duration2)
-                                .Add("effect3", effect.effect3)
-                                .Add("duration3", effect.duration3)
-                                .Json()
-                          : QByteArray("null");
+    return call.hasEffect ? Json::Object({{"effect1", effect.effect1},
+                                          {"duration1", effect.duration1},
+                                          {"effect2", effect.effect2},
+                                          {"duration2", effect.duration2},
+                                          {"effect3", effect.effect3},
+                                          {"duration3", effect.duration3}})
+                          : Json();
 }
 
-QByteArray Placement(const Torv::CallRecord& call)
+Json Placement(const Torv::CallRecord& call)
 {
     const PicPlacement& placement = call.placement;
-    return call.hasPlacement ? Object()
-                                   .Add("x", placement.x)
-                                   .Add("y", placement.y)
-                                   .Add("width", placement.width)
-                                   .Add("height", placement.height)
-                                   .Add("imageWidth", placement.imageWidth)
-                                   .Add("imageHeight", placement.imageHeight)
-                                   .Json()
-                             : QByteArray("null");
+    return call.hasPlacement ? Json::Object({{"x", placement.x},
+                                             {"y", placement.y},
+                                             {"width", placement.width},
+                                             {"height", placement.height},
+                                             {"imageWidth", placement.imageWidth},
+                                             {"imageHeight", placement.imageHeight}})
+                             : Json();
 }
 
-void AddArguments(const Torv::CallRecord& call, Object* line)
+void AddArguments(const Torv::CallRecord& call, Json* line)
 {
     switch (call.operation) {
     case Torv::OpCreatePictureSession:
@@ -101,27 +76,25 @@ void AddArguments(const Torv::CallRecord& call, Object* line)
     }
 }
 
-QByteArray Result(const Torv::CallRecord& call)
+Json Result(const Torv::CallRecord& call)
 {
     const bool isBuffer = call.operation == Torv::OpGetPicImageLayerPtr ||
                           call.operation == Torv::OpSwapPicImageLayerPtr;
-    const QByteArray number = QByteArray::number(call.result);
     if (!isBuffer)
-        return number;
-    return call.result < 0 ? QByteArray("null") : Quoted("buffer " + number);
+        return call.result;
+    return call.result < 0 ? Json() : Json("buffer " + QByteArray::number(call.result));
 }
 
 } // namespace
 
 QByteArray CallLine(const Torv::CallRecord& call)
 {
-    Object line;
-    line.Add("call", Quoted(Torv::OperationName(call.operation)));
+    Json line = Json::Object({{"call", Torv::OperationName(call.operation)}});
     AddArguments(call, &line);
     line.Add("result", Result(call));
     if (call.problem)
-        line.Add("problem", Quoted(call.problem));
-    return line.Json();
+        line.Add("problem", call.problem);
+    return line.Text();
 }
 
 QByteArray Sha1Of(const QImage& picture)

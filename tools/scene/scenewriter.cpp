@@ -1,44 +1,12 @@
+#include "scene/json.h"
 #include "scene/scene.h"
 #include "scene/schema.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 namespace AnimText {
 
 namespace {
 
-QByteArray Quoted(const QString& text)
-{
-    QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return list.mid(1, list.size() - 2);
-}
-
-QByteArray Pair(int first, int second)
-{
-    return '[' + QByteArray::number(first) + ", " + QByteArray::number(second) + ']';
-}
-
-QByteArray Value(const QVariant& value)
-{
-    if (value.userType() == QMetaType::QString)
-        return Quoted(value.toString());
-    return QByteArray::number(value.toInt());
-}
-
-/** @p items on lines of their own between @p open and @p close, which stands at @p indent. */
-QByteArray Block(char open, const QList<QByteArray>& items, char close, int indent)
-{
-    if (items.isEmpty())
-        return QByteArray() + open + close;
-    const QByteArray line = '\n' + QByteArray(indent + 2, ' ');
-    QByteArray block(1, open);
-    for (int i = 0; i < items.size(); ++i)
-        block += line + items.at(i) + (i + 1 < items.size() ? "," : "");
-    return block + '\n' + QByteArray(indent, ' ') + close;
-}
-
-QByteArray Row(const QHash<QString, QString>& row, const QStringList& order)
+Json Row(const QHash<QString, QString>& row, const QStringList& order)
 {
     QStringList fields = row.keys();
     fields.sort();
@@ -46,66 +14,62 @@ QByteArray Row(const QHash<QString, QString>& row, const QStringList& order)
         if (fields.removeOne(order.at(i)))
             fields.prepend(order.at(i));
     }
-    QList<QByteArray> pairs;
+    Json json = Json::Object({}, Json::Spaced);
     for (const QString& field : fields)
-        pairs.append(Quoted(field) + ": " + Quoted(row.value(field)));
-    return '{' + pairs.join(", ") + '}';
+        json.Add(field, row.value(field));
+    return json;
 }
 
-QByteArray Node(const SceneNode& node, int indent)
+Json Node(const SceneNode& node)
 {
-    const int inner = indent + 2;
-    QList<QByteArray> attributes;
+    Json attributes = Json::Object({}, Json::Lines);
     for (auto it = node.attributes.begin(); it != node.attributes.end(); ++it)
-        attributes.append(Quoted(it.key()) + ": " + Value(it.value()));
-
-    QList<QByteArray> lists;
+        attributes.Add(it.key(), it->userType() == QMetaType::QString ? Json(it->toString())
+                                                                      : Json(it->toInt()));
+    Json lists = Json::Object({}, Json::Lines);
     for (auto it = node.lists.begin(); it != node.lists.end(); ++it) {
         const QStringList order = RowFields(it.key());
-        QList<QByteArray> rows;
+        Json rows = Json::List({}, Json::Lines);
         for (const QHash<QString, QString>& row : it.value())
-            rows.append(Row(row, order));
-        lists.append(Quoted(it.key()) + ": " + Block('[', rows, ']', inner + 2));
+            rows.Add(Row(row, order));
+        lists.Add(it.key(), rows);
     }
-
-    QList<QByteArray> files;
+    Json files = Json::Object({}, Json::Lines);
     for (auto it = node.files.begin(); it != node.files.end(); ++it)
-        files.append(Quoted(it.key()) + ": " + Quoted(it.value()));
-
-    return Block('{',
-                 {"\"type\": " + Quoted(node.type), "\"pos\": " + Pair(node.pos.x(), node.pos.y()),
-                  "\"size\": " + Pair(node.size.width(), node.size.height()),
-                  "\"hold\": " + QByteArray::number(node.hold),
-                  "\"neonEffect\": " + QByteArray::number(node.neonEffect),
-                  "\"attributes\": " + Block('{', attributes, '}', inner),
-                  "\"lists\": " + Block('{', lists, '}', inner),
-                  "\"files\": " + Block('{', files, '}', inner)},
-                 '}', indent);
+        files.Add(it.key(), it.value());
+    return Json::Object(
+        {{"type", node.type},
+         {"pos", Json::List({node.pos.x(), node.pos.y()}, Json::Spaced)},
+         {"size", Json::List({node.size.width(), node.size.height()}, Json::Spaced)},
+         {"hold", node.hold},
+         {"neonEffect", node.neonEffect},
+         {"attributes", attributes},
+         {"lists", lists},
+         {"files", files}},
+        Json::Lines);
 }
 
 } // namespace
 
 QByteArray SceneToJson(const Scene& scene)
 {
-    QList<QByteArray> pages;
+    Json pages = Json::List({}, Json::Lines);
     for (const ScenePage& page : scene.pages) {
-        QList<QByteArray> areas;
+        Json areas = Json::List({}, Json::Lines);
         for (const SceneArea& area : page.areas) {
-            QList<QByteArray> nodes;
+            Json nodes = Json::List({}, Json::Lines);
             for (const SceneNode& node : area.nodes)
-                nodes.append(Node(node, 8));
-            areas.append("{\"nodes\": " + Block('[', nodes, ']', 6) + '}');
+                nodes.Add(Node(node));
+            areas.Add(Json::Object({{"nodes", nodes}}, Json::Spaced));
         }
-        pages.append("{\"areas\": " + Block('[', areas, ']', 4) + '}');
+        pages.Add(Json::Object({{"areas", areas}}, Json::Spaced));
     }
-    const QByteArray display = "{\"width\": " + QByteArray::number(scene.display.width()) +
-                               ", \"height\": " + QByteArray::number(scene.display.height()) + '}';
-    return Block('{',
-                 {"\"scene\": 1", "\"display\": " + display,
-                  QByteArray("\"alphaBlend\": ") + (scene.alphaBlend ? "true" : "false"),
-                  "\"pages\": " + Block('[', pages, ']', 2)},
-                 '}', 0) +
-           '\n';
+    const Json display = Json::Object(
+        {{"width", scene.display.width()}, {"height", scene.display.height()}}, Json::Spaced);
+    const Json json = Json::Object(
+        {{"scene", 1}, {"display", display}, {"alphaBlend", scene.alphaBlend}, {"pages", pages}},
+        Json::Lines);
+    return json.Text() + '\n';
 }
 
 } // namespace AnimText

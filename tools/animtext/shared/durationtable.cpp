@@ -4,7 +4,6 @@
 #include "cli/messages.h"
 #include "cli/progress.h"
 #include "scene/motion.h"
-#include "timing/simulation.h"
 
 #include <hneonnodebase.h>
 
@@ -29,7 +28,7 @@ Scene OnlyFirst(const Scene& scene)
 
 Times Measure(const Playing& playing, Scene scene, int effect, int speed)
 {
-    SceneNode& node = scene.pages.first().areas.first().nodes.first();
+    SceneNode& node = scene.At({});
     SetMotion(&node, {Mode::Entrance, effect});
     node.attributes[QStringLiteral("AnimationSpeed")] = speed;
     const std::unique_ptr<Player> player = playing.Load(scene);
@@ -44,16 +43,15 @@ Times Measure(const Playing& playing, Scene scene, int effect, int speed)
     return times;
 }
 
-QByteArray ToJson(const Motion& effect, int speed, const Times& times)
+QByteArray JsonLine(const Motion& effect, int speed, const Times& times)
 {
-    const QByteArray finished =
-        times.real.finishedMs < 0 ? "null" : QByteArray::number(times.real.finishedMs);
-    return "{\"effect\":" + QByteArray::number(effect.number) + ",\"name\":\"" + effect.name +
-           "\",\"speed\":" + QByteArray::number(speed) +
-           ",\"duration\":" + QByteArray::number(times.model) +
-           ",\"simulated\":{\"animationTicks\":" + QByteArray::number(times.real.animationTicks) +
-           ",\"holdTicks\":" + QByteArray::number(times.real.holdTicks) +
-           ",\"finishedMs\":" + finished + "}}\n";
+    return Json::Object({{"effect", effect.number},
+                         {"name", effect.name},
+                         {"speed", speed},
+                         {"duration", times.model},
+                         {"simulated", ToJson(times.real)}})
+               .Text() +
+           '\n';
 }
 
 QByteArray Cell(const Times& times)
@@ -90,6 +88,14 @@ QByteArray Heading()
 
 } // namespace
 
+Json ToJson(const Simulation& simulation)
+{
+    return Json::Object(
+        {{"animationTicks", simulation.animationTicks},
+         {"holdTicks", simulation.holdTicks},
+         {"finishedMs", simulation.finishedMs < 0 ? Json() : Json(simulation.finishedMs)}});
+}
+
 void TellDurationTable(const Playing& playing, const Scene& scene, bool json)
 {
     if (scene.Nodes().isEmpty())
@@ -110,7 +116,7 @@ void TellDurationTable(const Playing& playing, const Scene& scene, bool json)
                     QByteArray(effect.name).leftJustified(34);
         for (int speed : speeds) {
             const Times times = Measure(playing, only, effect.number, speed);
-            text += json ? ToJson(effect, speed, times) : Cell(times);
+            text += json ? JsonLine(effect, speed, times) : Cell(times);
             progress.Show(++done);
         }
         if (!json)
