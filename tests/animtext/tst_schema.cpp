@@ -27,7 +27,7 @@ QByteArray With(const Scene& scene, const Attribute& attribute, const QByteArray
 {
     const char* const lists[] = {"TextAttribute", "TextWidth", "TextHeight"};
     Scene changed = scene;
-    SceneNode& node = changed.pages[0].areas[0].nodes[0];
+    SceneNode& node = changed.At({});
     const QByteArray key = attribute.key;
     const QString mark = QStringLiteral("MARK");
     const QByteArray pos = "\"pos\": [0, 0]";

@@ -43,8 +43,8 @@ struct Sample
         scene.pages = {ScenePage{{SceneArea{{node}}}}};
     }
 
-    SceneNode& Node() { return scene.pages[0].areas[0].nodes[0]; }
-    const SceneNode& Node() const { return scene.pages[0].areas[0].nodes[0]; }
+    SceneNode& Node() { return scene.At({}); }
+    const SceneNode& Node() const { return scene.At({}); }
 
     Scene scene;
     DataFiles files;
@@ -350,7 +350,7 @@ private slots:
             return ChangeScene(
                 path,
                 [&](Scene* scene, DataFiles*, QString*) {
-                    scene->pages[0].areas[0].nodes[0].attributes[key] = value;
+                    scene->At({}).attributes[key] = value;
                     return true;
                 },
                 &error);

@@ -220,7 +220,7 @@ private slots:
         QVERIFY(player->Scenery().Session(0) && !player->Scenery().Session(1));
         QTRY_VERIFY_WITH_TIMEOUT(!player->Scenery().Session(0) && player->Scenery().Session(1),
                                  patience);
-        scene.pages.first().areas.first().nodes.first().type = "clock";
+        scene.At({}).type = "clock";
         QVERIFY(!player->Play(scene, {}, &error));
         QTRY_COMPARE_WITH_TIMEOUT(ended->size(), 1, patience);
         QVERIFY(player->Scenery().Session(1));

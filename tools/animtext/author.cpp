@@ -1,5 +1,5 @@
 #include "author/author.h"
-#include "author/places.h"
+#include "author/destination.h"
 
 #include "animtext/commands.h"
 #include "animtext/shared/authoroptions.h"
@@ -148,11 +148,11 @@ Destination ReadDestination(const CommandLine& line, const QString& path, Author
         QString error;
         if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
             throw Failure{BadInput, error};
-        for (const Place& place : Places(scene)) {
+        for (const Place& place : scene.Places()) {
             if (place.page + 1 == destination.page && place.area + 1 == destination.area) {
-                options->area = NodeAt(&scene, place).size;
+                options->area = scene.At(place).size;
                 if (!line.IsSet("pos"))
-                    options->pos = NodeAt(&scene, place).pos;
+                    options->pos = scene.At(place).pos;
                 break;
             }
         }

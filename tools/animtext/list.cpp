@@ -1,7 +1,7 @@
 #include "animtext/commands.h"
-#include "author/places.h"
 #include "cli/commandline.h"
 #include "scene/motion.h"
+#include "scene/scene.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,17 +24,14 @@ int SpeedOf(const SceneNode& node)
     return node.attributes.value(MotionOf(node).SpeedKey()).toInt();
 }
 
-QByteArray AsJson(Scene* scene)
+QByteArray AsJson(const Scene& scene)
 {
     QJsonArray texts;
-    for (const Place& place : Places(*scene)) {
-        const SceneNode& node = NodeAt(scene, place);
+    for (const Place& place : scene.Places()) {
+        const SceneNode& node = scene.At(place);
         texts.append(QJsonObject{
             {QStringLiteral("number"), texts.size() + 1},
-            {QStringLiteral("path"), QStringLiteral("$.pages[%1].areas[%2].nodes[%3]")
-                                         .arg(place.page)
-                                         .arg(place.area)
-                                         .arg(place.node)},
+            {QStringLiteral("path"), place.Path()},
             {QStringLiteral("page"), place.page + 1},
             {QStringLiteral("area"), place.area + 1},
             {QStringLiteral("text"), node.attributes.value(QStringLiteral("Text")).toString()},
@@ -47,12 +44,12 @@ QByteArray AsJson(Scene* scene)
     return QJsonDocument(texts).toJson(QJsonDocument::Indented);
 }
 
-QByteArray AsText(Scene* scene)
+QByteArray AsText(const Scene& scene)
 {
     QByteArray text;
     int number = 0;
-    for (const Place& place : Places(*scene)) {
-        const SceneNode& node = NodeAt(scene, place);
+    for (const Place& place : scene.Places()) {
+        const SceneNode& node = scene.At(place);
         QString words = node.attributes.value(QStringLiteral("Text")).toString().simplified();
         if (words.size() > longestText)
             words = words.left(longestText - 3) + QStringLiteral("...");
@@ -80,7 +77,7 @@ int List(const CommandLine& line)
     QString error;
     if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
         throw Failure{BadInput, error};
-    Print(line.IsSet("json") ? AsJson(&scene) : AsText(&scene));
+    Print(line.IsSet("json") ? AsJson(scene) : AsText(scene));
     return Done;
 }
 

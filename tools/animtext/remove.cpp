@@ -8,7 +8,7 @@ namespace {
 int Remove(const CommandLine& line)
 {
     ChangeText(line, [](Scene* scene, const Place& place, QString*) {
-        RemoveNode(scene, place);
+        scene->Remove(place);
         return true;
     });
     return Done;

@@ -1,6 +1,7 @@
 #include "animtext/commands.h"
 #include "animtext/shared/cutoff.h"
 #include "animtext/shared/savescene.h"
+#include "author/setvalue.h"
 
 namespace AnimText {
 
@@ -15,13 +16,13 @@ int Set(const CommandLine& line)
     }
     auto [changed, at] = ChangeText(line, [&](Scene* scene, const Place& place, QString* error) {
         for (const QString& setting : settings) {
-            if (!SetValue(&NodeAt(scene, place), setting.section(QLatin1Char('='), 0, 0),
+            if (!SetValue(&scene->At(place), setting.section(QLatin1Char('='), 0, 0),
                           setting.section(QLatin1Char('='), 1), error))
                 return false;
         }
         return true;
     });
-    WarnOfCut(changed, NodeAt(&changed, at));
+    WarnOfCut(changed, changed.At(at));
     return Done;
 }
 

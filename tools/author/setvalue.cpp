@@ -1,4 +1,4 @@
-#include "author/places.h"
+#include "author/setvalue.h"
 
 #include "scene/attributes.h"
 #include "scene/color.h"

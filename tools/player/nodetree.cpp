@@ -58,9 +58,8 @@ bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, 
             page->AddChild(area);
             const QList<SceneNode>& nodes = areas.at(a).nodes;
             for (int n = 0; n < nodes.size(); ++n) {
-                const QString place =
-                    QStringLiteral("$.pages[%1].areas[%2].nodes[%3]").arg(p).arg(a).arg(n);
-                Lw::HNeonNodeBase* node = CreateNode(nodes.at(n), place, plugin, error);
+                Lw::HNeonNodeBase* node =
+                    CreateNode(nodes.at(n), Place{p, a, n}.Path(), plugin, error);
                 if (!node) {
                     *error = scene.path + QStringLiteral(": ") + *error;
                     return false;

@@ -1,5 +1,7 @@
 #include "scene/duplicatekeys.h"
 
+#include "scene/place.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -24,12 +26,8 @@ struct Level
 QString PathOf(const QVector<Level>& levels)
 {
     QString path = QStringLiteral("$");
-    for (const Level& level : levels) {
-        if (level.isObject)
-            path += QLatin1Char('.') + level.key;
-        else
-            path += QStringLiteral("[%1]").arg(level.index);
-    }
+    for (const Level& level : levels)
+        path = level.isObject ? Member(path, level.key) : Item(path, level.index);
     return path;
 }
 

@@ -43,16 +43,6 @@ QString AnyRow(QString place)
 
 } // namespace
 
-QString Member(const QString& place, const QString& key)
-{
-    return place + QLatin1Char('.') + key;
-}
-
-QString Item(const QString& place, int index)
-{
-    return QStringLiteral("%1[%2]").arg(place).arg(index);
-}
-
 QByteArray WithMarksEscaped(const QByteArray& json)
 {
     const QByteArray mark("\xEF\xBB\xBF");

@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_JSONVALUES_H
 #define ANIMTEXT_JSONVALUES_H
 
+#include "scene/place.h"
 #include "scene/scenefault.h"
 
 #include <QHash>
@@ -24,10 +25,6 @@ namespace AnimText {
  * string begins with, and each character of a text counts.
  */
 QByteArray WithMarksEscaped(const QByteArray& json);
-
-/** The place of a member, and of an item of a list. */
-QString Member(const QString& place, const QString& key);
-QString Item(const QString& place, int index);
 
 /**
  * Reads values and goes on where one is wrong: that is remembered, and a standard value is answered

@@ -7,16 +7,70 @@
 
 namespace AnimText {
 
+QList<Place> Scene::Places() const
+{
+    QList<Place> places;
+    for (int p = 0; p < pages.size(); ++p) {
+        for (int a = 0; a < pages[p].areas.size(); ++a) {
+            for (int n = 0; n < pages[p].areas[a].nodes.size(); ++n)
+                places.append({p, a, n});
+        }
+    }
+    return places;
+}
+
+SceneNode& Scene::At(const Place& place)
+{
+    return pages[place.page].areas[place.area].nodes[place.node];
+}
+
+const SceneNode& Scene::At(const Place& place) const
+{
+    return pages[place.page].areas[place.area].nodes[place.node];
+}
+
+QList<SceneNode*> Scene::Nodes()
+{
+    QList<SceneNode*> nodes;
+    for (const Place& place : Places())
+        nodes.append(&At(place));
+    return nodes;
+}
+
 QList<const SceneNode*> Scene::Nodes() const
 {
     QList<const SceneNode*> nodes;
-    for (const ScenePage& page : pages) {
-        for (const SceneArea& area : page.areas) {
-            for (const SceneNode& node : area.nodes)
-                nodes.append(&node);
-        }
-    }
+    for (const Place& place : Places())
+        nodes.append(&At(place));
     return nodes;
+}
+
+bool Scene::Find(const QString& word, Place* place, QString* error) const
+{
+    const QList<Place> places = Places();
+    const int index = ReadPlace(word, place) ? places.indexOf(*place) : word.toInt() - 1;
+    if (index < 0 || index >= places.size()) {
+        *error = QStringLiteral("%1: there is no text %2; expected %3")
+                     .arg(path, word,
+                          places.isEmpty() ? QStringLiteral("a scene with texts")
+                                           : QStringLiteral("a number from 1 to %1, as animtext "
+                                                            "list shows, or a path like "
+                                                            "$.pages[0].areas[0].nodes[0]")
+                                                 .arg(places.size()));
+        return false;
+    }
+    *place = places[index];
+    return true;
+}
+
+void Scene::Remove(const Place& place)
+{
+    QList<SceneArea>& areas = pages[place.page].areas;
+    areas[place.area].nodes.removeAt(place.node);
+    if (areas[place.area].nodes.isEmpty())
+        areas.removeAt(place.area);
+    if (areas.isEmpty())
+        pages.removeAt(place.page);
 }
 
 QString Scene::FullName(const QString& file) const

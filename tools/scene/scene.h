@@ -5,6 +5,7 @@
 #ifndef ANIMTEXT_SCENE_H
 #define ANIMTEXT_SCENE_H
 
+#include "scene/place.h"
 #include "scene/scenefault.h"
 
 #include <QByteArray>
@@ -50,8 +51,21 @@ struct Scene
     bool alphaBlend = true;
     QList<ScenePage> pages;
 
+    /** The places of all nodes, in the order of the file. */
+    QList<Place> Places() const;
+    /** The node at @p place, which must be one of Places(). */
+    SceneNode& At(const Place& place);
+    const SceneNode& At(const Place& place) const;
     /** Every node, in the order of the file. */
+    QList<SceneNode*> Nodes();
     QList<const SceneNode*> Nodes() const;
+    /**
+     * The place that @p word names: its number in Places(), counted from 1, or its path, whatever
+     * follows. Returns false when there is none, and then @p error has one line on it.
+     */
+    bool Find(const QString& word, Place* place, QString* error) const;
+    /** Takes the node out, and with it an area and a page that are empty then. */
+    void Remove(const Place& place);
     /** @p file as a full path, relative names being relative to the folder of the scene's file,
         also where its path is a symbolic link to it. */
     QString FullName(const QString& file) const;

@@ -12,12 +12,8 @@ constexpr int certainHold = 40; // ticks without a picture that only a hold can 
 /** The scene with every page held for longer, so that its pages can be told apart. */
 Scene WithLongHolds(Scene scene)
 {
-    for (ScenePage& page : scene.pages) {
-        for (SceneArea& area : page.areas) {
-            for (SceneNode& node : area.nodes)
-                node.hold = std::min(std::max(0, node.hold), 1000) + longHold;
-        }
-    }
+    for (SceneNode* node : scene.Nodes())
+        node->hold = std::min(std::max(0, node->hold), 1000) + longHold;
     return scene;
 }
 

@@ -86,14 +86,10 @@ BlankScene::BlankScene(const Scene& from)
     outer << list.toBase64();
     if (outer.status() != QDataStream::Ok || !outlines.flush())
         return;
-    for (ScenePage& page : scene.pages) {
-        for (SceneArea& area : page.areas) {
-            for (SceneNode& node : area.nodes) {
-                const auto file = node.files.find(QStringLiteral("PathData"));
-                if (file != node.files.end())
-                    *file = QStringLiteral("/proc/self/fd/%1").arg(memory);
-            }
-        }
+    for (SceneNode* node : scene.Nodes()) {
+        const auto file = node->files.find(QStringLiteral("PathData"));
+        if (file != node->files.end())
+            *file = QStringLiteral("/proc/self/fd/%1").arg(memory);
     }
 }
 

@@ -8,12 +8,8 @@ namespace {
 
 Scene WithoutHolds(Scene scene)
 {
-    for (ScenePage& page : scene.pages) {
-        for (SceneArea& area : page.areas) {
-            for (SceneNode& node : area.nodes)
-                node.hold = 0;
-        }
-    }
+    for (SceneNode* node : scene.Nodes())
+        node->hold = 0;
     return scene;
 }
 

@@ -42,16 +42,21 @@ QString Expected(const Attribute& attribute)
     return words;
 }
 
-/** The first of the places where something is wrong, and how many come after it. */
-struct Places
+QString InQuotes(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+/** The first of the rows where something is wrong, and how many come after it. */
+struct BadRows
 {
     int first = -1;
     int others = 0;
 
-    void Add(int place)
+    void Add(int row)
     {
         if (first < 0)
-            first = place;
+            first = row;
         else
             ++others;
     }
@@ -71,10 +76,10 @@ int LargestAt(const QVector<int>& values)
 
 } // namespace
 
-NodeCheck::NodeCheck(const Scene& scene, const SceneNode& node, const QString& place)
+NodeCheck::NodeCheck(const Scene& scene, const Place& place)
     : scene(scene)
-    , node(node)
-    , place(place)
+    , node(scene.At(place))
+    , path(place.Path())
     , text(node.attributes.value(QStringLiteral("Text")).toString())
     , motion(MotionOf(node))
 {
@@ -85,9 +90,8 @@ QList<Finding> NodeCheck::Run()
     widths = Column("TextWidth", "text_width");
     heights = Column("TextHeight", "text_height");
     if (node.type != QLatin1String("LW_animationText_Plugin"))
-        Add(Mistake::NodeType, QStringLiteral("type"),
-            QLatin1Char('"') + node.type + QLatin1Char('"'),
-            QStringLiteral("\"LW_animationText_Plugin\""));
+        Add(Mistake::NodeType, QStringLiteral("type"), InQuotes(node.type),
+            InQuotes(SceneNode().type));
     CheckArea();
     const Attribute& hold = *FindAttribute(Home::Node, QStringLiteral("hold"));
     if (!IsInRange(hold, node.hold))
@@ -197,23 +201,23 @@ void NodeCheck::CheckLists()
         }
     }
 
-    const auto styles = node.lists.value(QStringLiteral("TextAttribute"));
+    const QString list = QStringLiteral("TextAttribute");
+    const auto styles = node.lists.value(list);
     const QString color = QStringLiteral("Color");
     // Negative numbers are opaque colors as Qt's QRgb has them; their lowest 24 bits are right.
     const Attribute& range = *FindAttribute(Home::TextAttribute, color);
     for (int i = 0; i < styles.size(); ++i) {
         if (styles[i].value(color).toInt() <= range.most)
             continue;
-        Add(Mistake::ColorRange, QStringLiteral("lists.TextAttribute[%1].Color").arg(i),
-            QStringLiteral("\"%1\"").arg(styles[i].value(color)), Expected(range));
+        AddRow(Mistake::ColorRange, list, i, color, InQuotes(styles[i].value(color)),
+               Expected(range));
         break;
     }
     for (int i = 1; i < styles.size(); ++i) {
         if (styles[i].value(color) == styles[0].value(color))
             continue;
-        Add(Mistake::ColorsIgnored, QStringLiteral("lists.TextAttribute[%1].Color").arg(i),
-            QStringLiteral("\"%1\"").arg(styles[i].value(color)),
-            QStringLiteral("\"%1\" as in the first row").arg(styles[0].value(color)));
+        AddRow(Mistake::ColorsIgnored, list, i, color, InQuotes(styles[i].value(color)),
+               InQuotes(styles[0].value(color)) + QStringLiteral(" as in the first row"));
         break;
     }
 }
@@ -223,7 +227,7 @@ void NodeCheck::CheckRows(const QString& list, const QString& field)
 {
     const bool isSize = list != QLatin1String("TextAttribute");
     const auto rows = node.lists.value(list);
-    Places bad;
+    BadRows bad;
     for (int i = 0; i < rows.size(); ++i) {
         bool isNumber = false;
         const int value = rows[i].value(field).toInt(&isNumber);
@@ -234,20 +238,19 @@ void NodeCheck::CheckRows(const QString& list, const QString& field)
     if (bad.first < 0)
         return;
     const bool given = rows[bad.first].contains(field);
-    Add(Mistake::RowValue, QStringLiteral("lists.%1[%2].%3").arg(list).arg(bad.first).arg(field),
-        (given ? QStringLiteral("\"%1\"").arg(rows[bad.first].value(field))
-               : QStringLiteral("nothing")) +
-            AndMore(bad.others),
-        isSize ? QStringLiteral("a decimal number from 0") : QStringLiteral("a decimal number"));
+    AddRow(Mistake::RowValue, list, bad.first, field,
+           (given ? InQuotes(rows[bad.first].value(field)) : QStringLiteral("nothing")) +
+               AndMore(bad.others),
+           isSize ? QStringLiteral("a decimal number from 0") : QStringLiteral("a decimal number"));
 }
 
 void NodeCheck::CheckMeasures()
 {
     const int widest = LargestAt(widths);
     if (!ScrollsSideways() && widest >= 0 && widths[widest] > node.size.width())
-        Add(Mistake::CharacterWide, QStringLiteral("lists.TextWidth[%1].text_width").arg(widest),
-            QStringLiteral("%1 pixels").arg(widths[widest]),
-            QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
+        AddRow(Mistake::CharacterWide, QStringLiteral("TextWidth"), widest,
+               QStringLiteral("text_width"), QStringLiteral("%1 pixels").arg(widths[widest]),
+               QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
     if (ScrollsSideways() && Sum(widths) > lastPaintableX)
         Add(Mistake::LineLong, QStringLiteral("lists.TextWidth"),
             QStringLiteral("a line of %1 pixels").arg(Sum(widths)),
@@ -340,7 +343,7 @@ void NodeCheck::CheckCut()
 
 void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
 {
-    Places gaps;
+    BadRows gaps;
     for (int i = 0; i < qMin(isEmpty.size(), text.size()); ++i) {
         const QChar::Category category = text.at(i).category();
         const bool unseen = text.at(i).isSpace() || category == QChar::Other_Format ||
@@ -369,8 +372,14 @@ QVector<int> NodeCheck::Column(const char* list, const char* field) const
 void NodeCheck::Add(Mistake mistake, const QString& where, const QString& found,
                     const QString& expected)
 {
-    findings.append(
-        {mistake, where.isEmpty() ? place : place + QLatin1Char('.') + where, found, expected});
+    findings.append({mistake, Member(path, where), found, expected});
+}
+
+void NodeCheck::AddRow(Mistake mistake, const QString& list, int row, const QString& field,
+                       const QString& found, const QString& expected)
+{
+    const QString place = Item(Member(QStringLiteral("lists"), list), row);
+    Add(mistake, Member(place, field), found, expected);
 }
 
 void NodeCheck::AddAttribute(Mistake mistake, const char* key, const QString& expected)

@@ -17,8 +17,7 @@ namespace AnimText {
 class NodeCheck
 {
 public:
-    /** @param place the node's place in the scene file */
-    NodeCheck(const Scene& scene, const SceneNode& node, const QString& place);
+    NodeCheck(const Scene& scene, const Place& place);
 
     QList<Finding> Run();
 
@@ -42,11 +41,13 @@ private:
     bool ScrollsSideways() const { return motion.IsSideways(); }
 
     void Add(Mistake mistake, const QString& where, const QString& found, const QString& expected);
+    void AddRow(Mistake mistake, const QString& list, int row, const QString& field,
+                const QString& found, const QString& expected);
     void AddAttribute(Mistake mistake, const char* key, const QString& expected);
 
     const Scene& scene;
     const SceneNode& node;
-    const QString place;
+    const QString path; // of the node in the scene file
     const QString text;
     const NodeMotion motion;
     QVector<int> widths;

@@ -8,15 +8,14 @@ namespace AnimText {
 namespace {
 
 /** The nodes of one area play in turn; those of other areas of its page play beside them. */
-QList<Finding> Overlaps(const ScenePage& page, const SceneNode& node, int area,
-                        const QString& place)
+QList<Finding> Overlaps(const Scene& scene, const Place& place)
 {
-    const QRect own(node.pos, node.size);
-    for (int a = 0; a < area; ++a) {
-        for (const SceneNode& other : page.areas[a].nodes) {
+    const QRect own(scene.At(place).pos, scene.At(place).size);
+    for (int a = 0; a < place.area; ++a) {
+        for (const SceneNode& other : scene.pages[place.page].areas[a].nodes) {
             const QRect both = own & QRect(other.pos, other.size);
             if (!both.isEmpty())
-                return {{Mistake::AreasOverlap, place + QStringLiteral(".pos"),
+                return {{Mistake::AreasOverlap, Member(place.Path(), QStringLiteral("pos")),
                          QStringLiteral("%1 x %2 pixels in common with areas[%3]")
                              .arg(both.width())
                              .arg(both.height())
@@ -43,16 +42,9 @@ QList<Finding> ValidateScene(const Scene& scene)
         return {{Mistake::SceneEmpty, QStringLiteral("$.pages"), QStringLiteral("no nodes"),
                  QStringLiteral("one or more")}};
     QList<Finding> findings;
-    for (int p = 0; p < scene.pages.size(); ++p) {
-        for (int a = 0; a < scene.pages[p].areas.size(); ++a) {
-            const QList<SceneNode>& nodes = scene.pages[p].areas[a].nodes;
-            for (int n = 0; n < nodes.size(); ++n) {
-                const QString place =
-                    QStringLiteral("$.pages[%1].areas[%2].nodes[%3]").arg(p).arg(a).arg(n);
-                findings += NodeCheck(scene, nodes[n], place).Run();
-                findings += Overlaps(scene.pages[p], nodes[n], a, place);
-            }
-        }
+    for (const Place& place : scene.Places()) {
+        findings += NodeCheck(scene, place).Run();
+        findings += Overlaps(scene, place);
     }
     return findings;
 }

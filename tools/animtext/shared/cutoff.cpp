@@ -54,19 +54,19 @@ public:
     CutTimes WithSpeed(int speed)
     {
         Scene other = scene;
-        other.pages[0].areas[0].nodes[0].attributes[speedKey] = speed;
+        other.At({}).attributes[speedKey] = speed;
         return Measure(other);
     }
 
     CutTimes WithHold(int hold)
     {
         Scene other = scene;
-        other.pages[0].areas[0].nodes[0].hold = hold;
+        other.At({}).hold = hold;
         return Measure(other);
     }
 
 private:
-    const SceneNode& Node() const { return scene.pages[0].areas[0].nodes[0]; }
+    const SceneNode& Node() const { return scene.At({}); }
 
     CutTimes Measure(const Scene& wanted)
     {

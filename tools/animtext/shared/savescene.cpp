@@ -26,7 +26,7 @@ QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change
     WatchForInterruption();
     QPair<Scene, Place> changed;
     SaveScene(path, [&](Scene* scene, DataFiles*, QString* error) {
-        const bool isDone = FindPlace(*scene, line.Arguments().at(1), &changed.second, error) &&
+        const bool isDone = scene->Find(line.Arguments().at(1), &changed.second, error) &&
                             change(scene, changed.second, error);
         changed.first = *scene;
         return isDone;

@@ -5,7 +5,6 @@
 #ifndef ANIMTEXT_SAVESCENE_H
 #define ANIMTEXT_SAVESCENE_H
 
-#include "author/places.h"
 #include "author/scenestore.h"
 #include "cli/commandline.h"
 

@@ -1,6 +1,5 @@
 #include "studio/model/sign.h"
 
-#include "author/places.h"
 #include "files/wholefile.h"
 #include "layout/fonts.h"
 #include "layout/glyphfiles.h"
@@ -355,9 +354,8 @@ Sign SignOf(const Scene& scene, const TextSources& sources)
     Sign sign;
     sign.display = scene.display;
     sign.alphaBlend = scene.alphaBlend;
-    Scene places = scene;
-    for (const Place& place : Places(scene)) {
-        const SceneNode& node = NodeAt(&places, place);
+    for (const Place& place : scene.Places()) {
+        const SceneNode& node = scene.At(place);
         SignText text;
         text.id = NewTextId();
         text.page = place.page;
@@ -411,13 +409,9 @@ Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles)
         return name;
     };
     Scene scene = SceneOf(sign, path, place);
-    for (ScenePage& page : scene.pages) {
-        for (SceneArea& area : page.areas) {
-            for (SceneNode& node : area.nodes) {
-                for (QString& file : node.files)
-                    file = NameIn(folder, file);
-            }
-        }
+    for (SceneNode* node : scene.Nodes()) {
+        for (QString& file : node->files)
+            file = NameIn(folder, file);
     }
     return scene;
 }

@@ -6,7 +6,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -109,16 +108,13 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
 
 int TextOf(const Finding& finding, const Sign& sign)
 {
-    static const QRegularExpression place(
-        QStringLiteral("^\\$\\.pages\\[(\\d+)\\]\\.areas\\[(\\d+)\\]\\.nodes\\[(\\d+)\\]"));
-    const QRegularExpressionMatch match = place.match(finding.place);
-    if (!match.hasMatch())
+    Place place;
+    if (!ReadPlace(finding.place, &place))
         return -1;
-    int behind = match.captured(3).toInt();
+    int behind = place.node;
     for (int i = 0; i < sign.texts.size(); ++i) {
         const SignText& text = sign.texts.at(i);
-        if (text.page == match.captured(1).toInt() && text.area == match.captured(2).toInt() &&
-            behind-- == 0)
+        if (text.page == place.page && text.area == place.area && behind-- == 0)
             return i;
     }
     return -1;

@@ -1,62 +1,6 @@
-#include "author/places.h"
-
-#include <QRegularExpression>
+#include "author/destination.h"
 
 namespace AnimText {
-
-QList<Place> Places(const Scene& scene)
-{
-    QList<Place> places;
-    for (int p = 0; p < scene.pages.size(); ++p) {
-        for (int a = 0; a < scene.pages[p].areas.size(); ++a) {
-            for (int n = 0; n < scene.pages[p].areas[a].nodes.size(); ++n)
-                places.append({p, a, n});
-        }
-    }
-    return places;
-}
-
-bool FindPlace(const Scene& scene, const QString& word, Place* place, QString* error)
-{
-    static const QRegularExpression path(
-        QStringLiteral("^\\$\\.pages\\[(\\d+)\\]\\.areas\\[(\\d+)\\]\\.nodes\\[(\\d+)\\]"));
-    const QRegularExpressionMatch match = path.match(word);
-    const QList<Place> places = Places(scene);
-    int index = word.toInt() - 1;
-    for (int i = 0; match.hasMatch() && i < places.size(); ++i) {
-        if (places[i].page == match.captured(1).toInt() &&
-            places[i].area == match.captured(2).toInt() &&
-            places[i].node == match.captured(3).toInt())
-            index = i;
-    }
-    if (index < 0 || index >= places.size()) {
-        *error = QStringLiteral("%1: there is no text %2; expected %3")
-                     .arg(scene.path, word,
-                          places.isEmpty() ? QStringLiteral("a scene with texts")
-                                           : QStringLiteral("a number from 1 to %1, as animtext "
-                                                            "list shows, or a path like "
-                                                            "$.pages[0].areas[0].nodes[0]")
-                                                 .arg(places.size()));
-        return false;
-    }
-    *place = places[index];
-    return true;
-}
-
-SceneNode& NodeAt(Scene* scene, const Place& place)
-{
-    return scene->pages[place.page].areas[place.area].nodes[place.node];
-}
-
-void RemoveNode(Scene* scene, const Place& place)
-{
-    QList<SceneArea>& areas = scene->pages[place.page].areas;
-    areas[place.area].nodes.removeAt(place.node);
-    if (areas[place.area].nodes.isEmpty())
-        areas.removeAt(place.area);
-    if (areas.isEmpty())
-        scene->pages.removeAt(place.page);
-}
 
 namespace {
 
@@ -64,9 +8,9 @@ bool Put(const SceneNode& node, const Destination& destination, Scene* scene, QS
 {
     if (!destination.instead.isEmpty()) {
         Place place;
-        if (!FindPlace(*scene, destination.instead, &place, error))
+        if (!scene->Find(destination.instead, &place, error))
             return false;
-        NodeAt(scene, place) = node;
+        scene->At(place) = node;
         return true;
     }
     const int pages = scene->pages.size();
