@@ -43,7 +43,7 @@ ShapedLine Shape(const QString& text, int pixels)
     return ShapeLine(Plain(text, Font(pixels)));
 }
 
-PlacedText Place(const QString& text, const ShapedLine& line, Arrangement arrangement,
+PlacedText Placed(const QString& text, const ShapedLine& line, Arrangement arrangement,
                  int width = 0)
 {
     Setting setting;
@@ -205,7 +205,7 @@ private slots:
                                                              {"بَبِ", {0, 2}},
                                                              {"a\u200Db", {0, 2}}};
         for (const auto& [text, firsts] : cases) {
-            const PlacedText placed = Place(text, Shape(text, 40), Arrangement::Line);
+            const PlacedText placed = Placed(text, Shape(text, 40), Arrangement::Line);
             QCOMPARE(placed.descents.size(), text.size());
             for (int i = 0; i < text.size(); ++i) {
                 const bool isFirst = firsts.contains(i);
@@ -241,7 +241,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(int, pixels);
         const QFont font = Font(pixels);
-        const PlacedText placed = Place(text, Shape(text, pixels), Arrangement::Line);
+        const PlacedText placed = Placed(text, Shape(text, pixels), Arrangement::Line);
         const int width = Sum(placed.widths);
         QCOMPARE(width, qRound(QFontMetricsF(font).horizontalAdvance(text)));
 
@@ -450,7 +450,7 @@ private slots:
     void columnStandsInItsOwnPlaces()
     {
         const ShapedLine line = Shape("fi " + arabic, 40);
-        const PlacedText placed = Place("fi " + arabic, line, Arrangement::Column, 100);
+        const PlacedText placed = Placed("fi " + arabic, line, Arrangement::Column, 100);
         for (const Cluster& cluster : line.clusters) {
             const QPainterPath& outline = placed.outlines[cluster.first];
             QCOMPARE(outline.elementCount(), cluster.shape.elementCount());
@@ -469,7 +469,7 @@ private slots:
         ShapedLine line = Shape(text, 60);
         for (Cluster& cluster : line.clusters)
             cluster.underline = Bar{5, 3};
-        const PlacedText placed = Place(text, line, Arrangement::Line);
+        const PlacedText placed = Placed(text, line, Arrangement::Line);
         const int width = Sum(placed.widths);
         const QImage shown = Painted(AtRest(placed, 0, text.size()), width);
         for (int y : {155, 156, 157}) {
