@@ -2,7 +2,7 @@
 // words of the scene file. They come from the author library, as real scenes do, and from the
 // table of what can be wrong about glyphs.
 #include "author/author.h"
-#include "scene/schema.h"
+#include "scene/attributes.h"
 #include "support/malformedglyphs.h"
 
 #include <QDir>
@@ -54,7 +54,7 @@ QByteArray SceneOf(const AuthoredNode& authored, const Sample& sample)
     node.files[QStringLiteral("PathData")] = QStringLiteral("a.path");
     node.files[QStringLiteral("DescentVector")] = QStringLiteral("a.descent");
     if (sample.fancy) {
-        for (const QString& key : NumberAttributeKeys()) {
+        for (const QString& key : KeysOf(Home::Attributes)) {
             if (!node.attributes.contains(key))
                 node.attributes[key] = 1;
         }
@@ -69,7 +69,7 @@ QByteArray SceneOf(const AuthoredNode& authored, const Sample& sample)
 
 void WriteDictionary(const QDir& folder)
 {
-    QStringList words = TextAttributeKeys() + NumberAttributeKeys() + ListKeys() + FileKeys();
+    QStringList words = KeysOf(Home::Attributes) + ListKeys() + KeysOf(Home::Files);
     for (const QString& key : ListKeys())
         words += RowFields(key);
     for (const char* word : {"scene", "display", "width", "height", "alphaBlend", "pages", "areas",

@@ -3,7 +3,6 @@
 
 #include "scene/attributes.h"
 #include "scene/catalogue.h"
-#include "scene/schema.h"
 
 #include <QtTest>
 
@@ -25,7 +24,6 @@ for name in sys.argv[2:]:
 /** @p scene with @p json for the value of @p attribute in its only node. */
 QByteArray With(const Scene& scene, const Attribute& attribute, const QByteArray& json)
 {
-    const char* const lists[] = {"TextAttribute", "TextWidth", "TextHeight"};
     Scene changed = scene;
     SceneNode& node = changed.At({});
     const QByteArray key = attribute.key;
@@ -42,7 +40,7 @@ QByteArray With(const Scene& scene, const Attribute& attribute, const QByteArray
                                             : key == "size" ? size
                                                             : '"' + key + "\": 0",
                                             '"' + key + "\": " + json);
-    default: node.lists[lists[int(attribute.home) - int(Home::TextAttribute)]][0][key] = mark;
+    default: node.lists[ListKeys()[int(attribute.home) - int(Home::TextAttribute)]][0][key] = mark;
     }
     return SceneToJson(changed).replace("\"MARK\"", json);
 }

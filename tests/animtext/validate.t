@@ -280,7 +280,7 @@ Faults of a scene file:
   $ with '"AnimationEffect": 4' '"AnimationEffect": "4"'
   error scene-unreadable at $.node.attributes.AnimationEffect: found a text, expected a whole number from -2147483648 to 2147483647
   $ with AnimationEffect AnimationEfect
-  error scene-unreadable at $.node.attributes.AnimationEfect: found an unknown key; did you mean AnimationEffect?, expected one of Text, AnimationEffect, AnimationSpeed, CheckColorGradient, CheckDazzle, CheckNeonBg, CheckPictureFills, CheckShadowEffect, ColorGradient, ContinueSpeed, ContinueStyle, EffectType, Hollow, PlayTimes, Stroke, StrokeColor, TextShadowBox
+  error scene-unreadable at $.node.attributes.AnimationEfect: found an unknown key; did you mean AnimationEffect?, expected one of AnimationEffect, AnimationSpeed, CheckColorGradient, CheckDazzle, CheckNeonBg, CheckPictureFills, CheckShadowEffect, ColorGradient, ContinueSpeed, ContinueStyle, EffectType, Hollow, PlayTimes, Stroke, StrokeColor, Text, TextShadowBox
   $ with AnimationEffect '\\u0054ext'
   error scene-unreadable at $.node.attributes.Text: found it twice, expected each key once
   $ with TextWidth TextWide
@@ -306,7 +306,7 @@ All faults at once:
   error scene-unreadable at $.alphaBlend: found null, expected true or false
   error scene-unreadable at $.pages[0].areas[0]: found 7, expected an object
   error scene-unreadable at $.pages[0].areas[1].nodes[0].size[1]: found 2.5, expected a whole number from 0 to 16384
-  error scene-unreadable at $.pages[0].areas[1].nodes[0].attributes.Texd: found an unknown key; did you mean Text?, expected one of Text, AnimationEffect, AnimationSpeed, CheckColorGradient, CheckDazzle, CheckNeonBg, CheckPictureFills, CheckShadowEffect, ColorGradient, ContinueSpeed, ContinueStyle, EffectType, Hollow, PlayTimes, Stroke, StrokeColor, TextShadowBox
+  error scene-unreadable at $.pages[0].areas[1].nodes[0].attributes.Texd: found an unknown key; did you mean Text?, expected one of AnimationEffect, AnimationSpeed, CheckColorGradient, CheckDazzle, CheckNeonBg, CheckPictureFills, CheckShadowEffect, ColorGradient, ContinueSpeed, ContinueStyle, EffectType, Hollow, PlayTimes, Stroke, StrokeColor, Text, TextShadowBox
   error scene-unreadable at $.pages[0].areas[1].nodes[0].attributes.Text: found 1, expected a text
   error scene-unreadable at $.pages[0].areas[1].nodes[0].lists.TextWidth[0].text_width: found 5 and 1 more like it, expected a text
   error scene-unreadable at $.pages[0].areas[1].nodes[0].lists.TextWidth[2]: found 8, expected an object

@@ -1,11 +1,11 @@
 #include "film/film.h"
-#include "timing/pagetimes.h"
-#include "player/plugin.h"
-#include "timing/simulation.h"
 #include "film/videofile.h"
+#include "player/plugin.h"
 #include "scene/attributes.h"
 #include "scene/catalogue.h"
 #include "testscene.h"
+#include "timing/pagetimes.h"
+#include "timing/simulation.h"
 
 #include <hneonnodebase.h>
 #include <inodeplugin.h>
@@ -330,14 +330,12 @@ private slots:
             for (const Attribute& attribute : Attributes()) {
                 const QString key = attribute.key;
                 SceneNode changed = node;
-                if (key == "hold")
-                    changed.hold = 9;
-                else if (key == "neonEffect")
-                    ++changed.neonEffect;
-                else if (attribute.home == Home::Files)
+                if (attribute.home == Home::Files)
                     changed.files.remove(key);
+                else if (attribute.field)
+                    SetNumber(&changed, attribute, NumberOf(node, attribute) + 9);
                 else if (attribute.home == Home::Attributes && key != "Text")
-                    changed.attributes[key] = node.attributes.value(key).toInt() == 0 ? 1 : 0;
+                    SetNumber(&changed, attribute, NumberOf(node, attribute) == 0 ? 1 : 0);
                 else
                     continue;
                 const bool differs = Played(changed) != before;
@@ -352,7 +350,7 @@ private slots:
         for (const Attribute& attribute : Attributes())
             if (attribute.home == Home::Attributes || attribute.home == Home::Files)
                 QVERIFY2(effective.contains(&attribute) || attribute.key == QString("Text") ||
-                             attribute.heededBy == QString("nothing"),
+                             attribute.use.heededBy == QString("nothing"),
                          attribute.key);
     }
 

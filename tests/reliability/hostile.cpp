@@ -1,7 +1,7 @@
 #include "hostile.h"
 
 #include "samples.h"
-#include "scene/schema.h"
+#include "scene/attributes.h"
 
 #include <QDebug>
 #include <QVariant>
@@ -48,7 +48,9 @@ void AddEach(const QByteArray& name, const QVector<Value>& values, const Apply& 
 
 void AddAttributes()
 {
-    for (const QString& key : AnimText::NumberAttributeKeys())
+    QStringList numbers = AnimText::KeysOf(AnimText::Home::Attributes);
+    numbers.removeAll("Text");
+    for (const QString& key : numbers)
         AddEach(key.toLatin1(),
                 QVector<QVariant>{least, -2147483640, -1, 2, 10, 65536, 2000000000, most,
                                   QVariant(), "five", "99999999999999"},
@@ -57,7 +59,7 @@ void AddAttributes()
             QVector<QString>{QString(), "   \t ", "x", QString(QChar(0xD83D)), QString(8, QChar(0)),
                              "a\n\r\nb", QString(20000, 'm')},
             [](SceneNode* node, const QString& text) { node->attributes["Text"] = text; });
-    for (const QString& key : AnimText::NumberAttributeKeys() + QStringList{"Text"})
+    for (const QString& key : numbers + QStringList{"Text"})
         Add(key.toLatin1() + " missing",
             [=](HostileScene* scene) { scene->node.attributes.remove(key); });
 }

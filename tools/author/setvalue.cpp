@@ -3,7 +3,6 @@
 #include "scene/attributes.h"
 #include "scene/color.h"
 #include "scene/motion.h"
-#include "scene/schema.h"
 #include "scene/suggest.h"
 #include "scene/times.h"
 
@@ -30,18 +29,6 @@ const QMap<QString, QString>& Aliases()
         {QStringLiteral("hollow"), QStringLiteral("Hollow")},
         {QStringLiteral("color"), QStringLiteral("Color")}};
     return aliases;
-}
-
-/** @p word as it was given for @p key of the scene file. */
-int Number(const QString& word, Home home, const QString& key, const QString& value)
-{
-    const Attribute* attribute = FindAttribute(home, key);
-    bool isNumber = false;
-    const int number = value.toInt(&isNumber);
-    if (!isNumber || !IsInRange(*attribute, number))
-        throw Fault{QStringLiteral("%1 takes a whole number, %2, not \"%3\"")
-                        .arg(word, RangeInWords(*attribute), value)};
-    return number;
 }
 
 /** Motions of one kind put characters in the same order to the same sides. */
@@ -71,9 +58,16 @@ void ChangeMotion(SceneNode* node, const QString& key, const QString& value)
     node->attributes[key] = motion->number;
 }
 
-void SetNumber(SceneNode* node, const QString& word, const QString& key, const QString& value)
+/** @p word as it was given for @p attribute. */
+void ChangeNumber(SceneNode* node, const QString& word, const Attribute& attribute,
+                  const QString& value)
 {
-    node->attributes[key] = Number(word, Home::Attributes, key, value);
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    if (!isNumber || !IsInRange(attribute, number))
+        throw Fault{QStringLiteral("%1 takes a whole number, %2, not \"%3\"")
+                        .arg(word, RangeInWords(attribute), value)};
+    SetNumber(node, attribute, number);
 }
 
 void SetColor(SceneNode* node, const QString& value)
@@ -109,16 +103,20 @@ void SetHold(SceneNode* node, const QString& value)
 
 QStringList Known()
 {
-    QStringList keys = NumberAttributeKeys() + Aliases().keys();
+    QStringList keys = KeysOf(Home::Attributes) + Aliases().keys();
     keys += {QStringLiteral("speed"), QStringLiteral("hold"), QStringLiteral("pos"),
              QStringLiteral("neonEffect"), QStringLiteral("Color")};
     keys.removeAll(QStringLiteral("EffectType"));
+    keys.removeAll(QStringLiteral("Text"));
     return keys;
 }
 
 void Set(SceneNode* node, const QString& word, const QString& value)
 {
-    const QString key = Aliases().value(word, word);
+    QString key = Aliases().value(word, word);
+    if (key == QLatin1String("speed"))
+        key = MotionOf(*node).SpeedKey();
+    const Attribute* attribute = FindAttribute(Home::Attributes, key);
     if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
         ChangeMotion(node, key, value);
     else if (key == QLatin1String("Color"))
@@ -127,12 +125,8 @@ void Set(SceneNode* node, const QString& word, const QString& value)
         SetPos(node, value);
     else if (key == QLatin1String("hold"))
         SetHold(node, value);
-    else if (key == QLatin1String("neonEffect"))
-        node->neonEffect = Number(word, Home::Node, key, value);
-    else if (key == QLatin1String("speed"))
-        SetNumber(node, word, MotionOf(*node).SpeedKey(), value);
     else if (Known().contains(key))
-        SetNumber(node, word, key, value);
+        ChangeNumber(node, word, attribute ? *attribute : *FindAttribute(Home::Node, key), value);
     else
         throw Fault{QStringLiteral("%1 cannot be set; expected one of %2%3")
                         .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()))};

@@ -10,6 +10,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
+
 namespace AnimText {
 
 struct SceneNode;
@@ -19,8 +21,8 @@ enum class Home {
     Node,          ///< a key of the node itself
     Attributes,    ///< a key of the node's "attributes"
     TextAttribute, ///< a field of a row of the list of that name, as are the next two
-    TextWidth,
     TextHeight,
+    TextWidth,
     Files ///< a key of the node's "files"
 };
 
@@ -45,36 +47,54 @@ struct Need
     int most = 0;
 };
 
-/** One row of the table. Its words are English; Translated() gives those of the program. */
-struct Attribute
+/** Who heeds an attribute. */
+struct Use
 {
-    const char* key;
-    Home home;
-    Group group;
-    ValueKind kind;
-    const char* name;    ///< a short label
-    const char* meaning; ///< what it is, in a few words
-    const char* unit;    ///< "pixels"; empty for none
-    int least, most;     ///< of a number, and of both in a pair: what makes sense on the sign
-    int standard;        ///< what the sign takes where the file says nothing; texts are then empty
-    const char* heededBy;
+    const char* heededBy = "";
     const char* elseSaid = ""; ///< why it is not heeded, where that can be
     Need needs[2] = {};        ///< both hold where it is heeded; a range without values: never
 };
 
-/** In the order in which a form shows them. */
+/** One row of the table. Its words are English; Translated() gives those of the program. */
+struct Attribute
+{
+    static constexpr int lowest = std::numeric_limits<int>::min();
+    static constexpr int highest = std::numeric_limits<int>::max();
+
+    ValueKind kind = ValueKind::Text;
+    const char* key = nullptr;
+    const char* name = nullptr;    ///< a short label
+    const char* meaning = nullptr; ///< what it is, in a few words
+    Home home = Home::Attributes;
+    Group group = Group::Text;
+    int SceneNode::*field = nullptr; ///< where the node has its number, if not in "attributes"
+    const char* unit = "";           ///< "pixels"; empty for none
+    int least = 0, most = 0;    ///< of a number, and of both in a pair: what makes sense on the
+                                ///< sign, which takes 0 where the file says nothing
+    QList<const char*> choices; ///< the names of a choice's values from its least on
+    Use use;
+};
+
+/** All of them; those of a group in the order in which a form shows them. */
 const QList<Attribute>& Attributes();
 
 /** Null when there is none. */
 const Attribute* FindAttribute(Home home, const QString& key);
 
-/** The keys of @p home, in the order of the table. */
+/** The keys of @p home, in the order in which a scene is written. */
 QStringList KeysOf(Home home);
+/** The lists with a row for each character, in that order, and the fields of the rows of one. */
+const QStringList& ListKeys();
+QStringList RowFields(const QString& list);
 
-/** The names of a choice's values from its least on; empty for other kinds. */
+/** The number that @p node has for it, in its attributes or by itself. */
+int NumberOf(const SceneNode& node, const Attribute& attribute);
+void SetNumber(SceneNode* node, const Attribute& attribute, int number);
+
+/** The names of a choice's values, in the program's language; empty for other kinds. */
 QStringList ChoicesOf(const Attribute& attribute);
 
-/** "0 to 9", "1 or more", "0 or 1", "any whole number". */
+/** "0 to 9", "1 or more", "0 or 1", "any whole number", "0 linear, 1 radial or 2 conical". */
 QString RangeInWords(const Attribute& attribute);
 /** Whether @p value is within the range. */
 bool IsInRange(const Attribute& attribute, int value);

@@ -3,7 +3,6 @@
 #include "scene/duplicatekeys.h"
 #include "scene/jsonvalues.h"
 #include "scene/scene.h"
-#include "scene/schema.h"
 #include "text/limits.h"
 
 #include <QFile>
@@ -41,22 +40,27 @@ private:
     ScenePage ReadPage(const QJsonValue& value, const QString& place);
     SceneArea ReadArea(const QJsonValue& value, const QString& place);
     SceneNode ReadNode(const QJsonValue& value, const QString& place);
-    QVariant ReadAttribute(const QString& key, const QJsonValue& value, const QString& place);
     QList<QHash<QString, QString>> ReadRows(const QString& key, const QJsonValue& value,
                                             const QString& place);
     QString ReadFileName(const QJsonValue& value, const QString& place);
+
+    /** The list that @p object has for @p key. */
+    template <typename Part>
+    QList<Part> ReadList(const QJsonObject& object, const QString& key, const QString& place,
+                         Part (Reader::*read)(const QJsonValue&, const QString&))
+    {
+        QList<Part> parts;
+        const QString at = Member(place, key);
+        const QJsonArray list = json.List(object.value(key), at);
+        for (int i = 0; i < list.size(); ++i)
+            parts.append((this->*read)(list.at(i), Item(at, i)));
+        return parts;
+    }
 
     Scene scene;
     MissingFiles missing;
     JsonValues json;
 };
-
-QVariant Reader::ReadAttribute(const QString& key, const QJsonValue& value, const QString& place)
-{
-    if (TextAttributeKeys().contains(key))
-        return json.Text(value, place);
-    return json.Int(value, place);
-}
 
 QList<QHash<QString, QString>> Reader::ReadRows(const QString& key, const QJsonValue& value,
                                                 const QString& place)
@@ -96,10 +100,9 @@ QString Reader::ReadFileName(const QJsonValue& value, const QString& place)
 
 SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
 {
-    static const QStringList known = QStringList{
-        QStringLiteral("type"),  QStringLiteral("pos"),        QStringLiteral("size"),
-        QStringLiteral("hold"),  QStringLiteral("neonEffect"), QStringLiteral("attributes"),
-        QStringLiteral("lists"), QStringLiteral("files")};
+    static const QStringList known =
+        KeysOf(Home::Node) +
+        QStringList{QStringLiteral("attributes"), QStringLiteral("lists"), QStringLiteral("files")};
     SceneNode node;
     QJsonObject object;
     if (!json.Object(value, place, known, &object))
@@ -130,20 +133,24 @@ SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
     const QPoint size = json.Pair(object.value(QStringLiteral("size")),
                                   Member(place, QStringLiteral("size")), 0, LargestSide());
     node.size = QSize(size.x(), size.y());
-    optional(QStringLiteral("hold"),
-             [&](const QJsonValue& hold, const QString& at) { node.hold = json.Int(hold, at); });
-    optional(QStringLiteral("neonEffect"), [&](const QJsonValue& effect, const QString& at) {
-        node.neonEffect = json.Int(effect, at);
-    });
-    members(QStringLiteral("attributes"), TextAttributeKeys() + NumberAttributeKeys(),
-            [&](const QString& key, const QJsonValue& attribute, const QString& at) {
-                node.attributes.insert(key, ReadAttribute(key, attribute, at));
+    for (const Attribute& attribute : Attributes()) {
+        if (attribute.field)
+            optional(QLatin1String(attribute.key),
+                     [&](const QJsonValue& number, const QString& at) {
+                         node.*attribute.field = json.Int(number, at);
+                     });
+    }
+    members(QStringLiteral("attributes"), KeysOf(Home::Attributes),
+            [&](const QString& key, const QJsonValue& read, const QString& at) {
+                const bool isText = FindAttribute(Home::Attributes, key)->kind == ValueKind::Text;
+                node.attributes[key] =
+                    isText ? QVariant(json.Text(read, at)) : QVariant(json.Int(read, at));
             });
     members(QStringLiteral("lists"), ListKeys(),
             [&](const QString& key, const QJsonValue& rows, const QString& at) {
                 node.lists.insert(key, ReadRows(key, rows, at));
             });
-    members(QStringLiteral("files"), FileKeys(),
+    members(QStringLiteral("files"), KeysOf(Home::Files),
             [&](const QString& key, const QJsonValue& name, const QString& at) {
                 node.files.insert(key, ReadFileName(name, at));
             });
@@ -152,28 +159,20 @@ SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
 
 SceneArea Reader::ReadArea(const QJsonValue& value, const QString& place)
 {
-    SceneArea area;
     const QString nodes = QStringLiteral("nodes");
     QJsonObject object;
     if (!json.Object(value, place, {nodes}, &object))
-        return area;
-    const QJsonArray list = json.List(object.value(nodes), Member(place, nodes));
-    for (int n = 0; n < list.size(); ++n)
-        area.nodes.append(ReadNode(list.at(n), Item(Member(place, nodes), n)));
-    return area;
+        return {};
+    return {ReadList(object, nodes, place, &Reader::ReadNode)};
 }
 
 ScenePage Reader::ReadPage(const QJsonValue& value, const QString& place)
 {
-    ScenePage page;
     const QString areas = QStringLiteral("areas");
     QJsonObject object;
     if (!json.Object(value, place, {areas}, &object))
-        return page;
-    const QJsonArray list = json.List(object.value(areas), Member(place, areas));
-    for (int a = 0; a < list.size(); ++a)
-        page.areas.append(ReadArea(list.at(a), Item(Member(place, areas), a)));
-    return page;
+        return {};
+    return {ReadList(object, areas, place, &Reader::ReadArea)};
 }
 
 void Reader::ReadDisplay(const QJsonValue& value, const QString& place)
@@ -213,9 +212,7 @@ Scene Reader::Read(const QJsonValue& root)
     ReadDisplay(object.value(display), Member(top, display));
     if (object.contains(alphaBlend))
         scene.alphaBlend = json.Truth(object.value(alphaBlend), Member(top, alphaBlend));
-    const QJsonArray list = json.List(object.value(pages), Member(top, pages));
-    for (int p = 0; p < list.size(); ++p)
-        scene.pages.append(ReadPage(list.at(p), Item(Member(top, pages), p)));
+    scene.pages = ReadList(object, pages, top, &Reader::ReadPage);
     return scene;
 }
 

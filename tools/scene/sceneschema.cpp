@@ -3,13 +3,10 @@
 #include "scene/attributes.h"
 #include "scene/catalogue.h"
 #include "scene/scene.h"
-#include "scene/schema.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <limits>
 
 namespace AnimText {
 
@@ -22,62 +19,44 @@ QString Words(const char* words)
 
 QJsonObject Whole(int least, int most)
 {
-    return {{QStringLiteral("type"), QStringLiteral("integer")},
-            {QStringLiteral("minimum"), least},
-            {QStringLiteral("maximum"), most}};
+    return {{"type", "integer"}, {"minimum", least}, {"maximum", most}};
 }
 
-QJsonObject ListOf(const QJsonValue& items, int count = -1)
+QJsonObject ListOf(const QJsonObject& items)
 {
-    QJsonObject list{{QStringLiteral("type"), QStringLiteral("array")},
-                     {QStringLiteral("items"), items}};
-    if (count >= 0) {
-        list[QStringLiteral("minItems")] = count;
-        list[QStringLiteral("maxItems")] = count;
-    }
-    return list;
+    return {{"type", "array"}, {"items", items}};
 }
 
-QJsonObject ObjectOf(const QJsonObject& members, const QStringList& required = {})
+QJsonObject ObjectOf(const QJsonObject& members, const QString& description)
 {
-    QJsonObject object{{QStringLiteral("type"), QStringLiteral("object")},
-                       {QStringLiteral("properties"), members},
-                       {QStringLiteral("additionalProperties"), false}};
-    if (!required.isEmpty())
-        object[QStringLiteral("required")] = QJsonArray::fromStringList(required);
-    return object;
-}
-
-QJsonObject Described(QJsonObject value, const QString& description)
-{
-    value[QStringLiteral("description")] = description;
-    return value;
+    return {{"type", "object"},
+            {"properties", members},
+            {"additionalProperties", false},
+            {"description", description}};
 }
 
 /** A whole number with a name for each of its values. */
 QJsonObject Choice(const Attribute& attribute)
 {
-    const QStringList names = ChoicesOf(attribute);
-    const bool isEffect = names.size() == Effects().size();
+    const bool isEffect = attribute.choices.size() == Effects().size();
     QJsonArray values;
-    for (int i = 0; i < names.size(); ++i) {
-        QJsonObject value{{QStringLiteral("const"), attribute.least + i},
-                          {QStringLiteral("title"), names.at(i)}};
+    for (const QString& name : ChoicesOf(attribute)) {
+        QJsonObject value{{"const", attribute.least + values.size()}, {"title", name}};
         if (isEffect)
-            value[QStringLiteral("description")] = Words(Effects().at(i).summary);
+            value["description"] = Words(Effects().at(values.size()).summary);
         values.append(value);
     }
-    return {{QStringLiteral("type"), QStringLiteral("integer")}, {QStringLiteral("oneOf"), values}};
+    return {{"type", "integer"}, {"oneOf", values}};
 }
 
 /** In rows of lists, numbers are texts. */
 QJsonObject InRow(const Attribute& attribute)
 {
-    QJsonObject value{{QStringLiteral("type"), QStringLiteral("string")}};
+    QJsonObject value{{"type", "string"}};
     if (attribute.kind == ValueKind::Flag)
-        value[QStringLiteral("enum")] = QJsonArray{QStringLiteral("0"), QStringLiteral("1")};
+        value["enum"] = QJsonArray{"0", "1"};
     else if (attribute.kind != ValueKind::Text)
-        value[QStringLiteral("pattern")] = QStringLiteral("^[0-9]{1,10}$");
+        value["pattern"] = "^[0-9]{1,10}$";
     return value;
 }
 
@@ -88,39 +67,36 @@ QJsonObject ValueOf(const Attribute& attribute)
     case ValueKind::Number:
     case ValueKind::Flag:
     case ValueKind::Color: return Whole(attribute.least, attribute.most);
-    case ValueKind::Pair: return ListOf(Whole(attribute.least, attribute.most), 2);
-    case ValueKind::File:
-        return {{QStringLiteral("type"), QStringLiteral("string")},
-                {QStringLiteral("minLength"), 1}};
+    case ValueKind::Pair: {
+        QJsonObject pair = ListOf(Whole(attribute.least, attribute.most));
+        pair["minItems"] = pair["maxItems"] = 2;
+        return pair;
+    }
+    case ValueKind::File: return {{"type", "string"}, {"minLength", 1}};
     case ValueKind::Text: break;
     }
     if (attribute.key == QLatin1String("type"))
-        return {{QStringLiteral("const"), SceneNode().type}};
-    return {{QStringLiteral("type"), QStringLiteral("string")}};
-}
-
-bool IsRow(Home home)
-{
-    return home == Home::TextAttribute || home == Home::TextWidth || home == Home::TextHeight;
+        return {{"const", SceneNode().type}};
+    return {{"type", "string"}};
 }
 
 /** The keys of @p home with what they may be. */
 QJsonObject MembersOf(Home home)
 {
+    const bool isRow = home >= Home::TextAttribute && home <= Home::TextWidth;
     QJsonObject members;
     for (const Attribute& attribute : Attributes()) {
         if (attribute.home != home)
             continue;
-        QString description = Words(attribute.meaning);
-        if (*attribute.unit)
-            description += QStringLiteral("; in ") + Words(attribute.unit);
-        description += QStringLiteral(". Heeded by: %1.").arg(Words(attribute.heededBy));
-        QJsonObject value = IsRow(home) ? InRow(attribute) : ValueOf(attribute);
-        value[QStringLiteral("title")] = Words(attribute.name);
-        const bool isNumber = value.value(QStringLiteral("type")) == QLatin1String("integer");
-        if (isNumber && IsInRange(attribute, attribute.standard))
-            value[QStringLiteral("default")] = attribute.standard;
-        members[QLatin1String(attribute.key)] = Described(value, description);
+        QJsonObject value = isRow ? InRow(attribute) : ValueOf(attribute);
+        value["title"] = Words(attribute.name);
+        const QString unit = *attribute.unit ? "; in " + Words(attribute.unit) : QString();
+        value["description"] =
+            QStringLiteral("%1%2. Heeded by: %3.")
+                .arg(Words(attribute.meaning), unit, Words(attribute.use.heededBy));
+        if (value.value("type") == QLatin1String("integer") && IsInRange(attribute, 0))
+            value["default"] = 0;
+        members[attribute.key] = value;
     }
     return members;
 }
@@ -128,46 +104,77 @@ QJsonObject MembersOf(Home home)
 QJsonObject NodeSchema()
 {
     QJsonObject lists;
-    const Home rows[] = {Home::TextAttribute, Home::TextHeight, Home::TextWidth};
-    for (int i = 0; i < ListKeys().size(); ++i)
-        lists[ListKeys().at(i)] = Described(ListOf(ObjectOf(MembersOf(rows[i]))),
-                                            QStringLiteral("a row for each character"));
+    for (int i = 0; i < ListKeys().size(); ++i) {
+        QJsonObject row = ObjectOf(MembersOf(Home(int(Home::TextAttribute) + i)), QString());
+        row.remove("description");
+        QJsonObject list = ListOf(row);
+        list["description"] = "a row for each character";
+        lists[ListKeys().at(i)] = list;
+    }
     QJsonObject members = MembersOf(Home::Node);
-    members[QStringLiteral("attributes")] = Described(
-        ObjectOf(MembersOf(Home::Attributes)), QStringLiteral("what the sign reads by its key"));
-    members[QStringLiteral("lists")] =
-        Described(ObjectOf(lists), QStringLiteral("what each character is like"));
-    members[QStringLiteral("files")] =
-        Described(ObjectOf(MembersOf(Home::Files)),
-                  QStringLiteral("names of files, relative to the scene's folder or absolute"));
-    return Described(ObjectOf(members, {QStringLiteral("size")}),
-                     QStringLiteral("a text and where it plays"));
+    members["attributes"] = ObjectOf(MembersOf(Home::Attributes), "what the sign reads by its key");
+    members["lists"] = ObjectOf(lists, "what each character is like");
+    members["files"] = ObjectOf(MembersOf(Home::Files),
+                                "names of files, relative to the scene's folder or absolute");
+    QJsonObject node = ObjectOf(members, "a text and where it plays");
+    node["required"] = QJsonArray{"size"};
+    return node;
 }
 
-QString Range(const Attribute& attribute)
-{
-    const QStringList names = ChoicesOf(attribute);
-    if (attribute.kind == ValueKind::Choice && names.size() <= 4) {
-        QStringList values;
-        for (int i = 0; i < names.size(); ++i)
-            values.append(QStringLiteral("%1 %2").arg(attribute.least + i).arg(names.at(i)));
-        return values.join(QStringLiteral(", "));
+/** All of the schema but the nodes. */
+const char frame[] = R"({
+    "$schema": "http://json-schema.org/draft-07/schema#",
+    "title": "Animated Text scene",
+    "type": "object",
+    "additionalProperties": false,
+    "required": ["scene", "display", "pages"],
+    "properties": {
+        "scene": {"description": "the version of the format", "const": 1},
+        "display": {
+            "description": "the display, all of it",
+            "type": "object",
+            "additionalProperties": false,
+            "required": ["width", "height"],
+            "properties": {"width": {"$ref": "#side"}, "height": {"$ref": "#side"}}
+        },
+        "alphaBlend": {
+            "description": "layers are blended by their alpha; else a color is transparent",
+            "type": "boolean",
+            "default": true
+        },
+        "pages": {
+            "description": "the program; its pages follow one another",
+            "type": "array",
+            "items": {"$ref": "#/definitions/page"}
+        }
+    },
+    "definitions": {
+        "page": {
+            "description": "areas that play side by side",
+            "type": "object",
+            "additionalProperties": false,
+            "required": ["areas"],
+            "properties": {"areas": {"type": "array", "items": {"$ref": "#/definitions/area"}}}
+        },
+        "area": {
+            "description": "texts that play one after another",
+            "type": "object",
+            "additionalProperties": false,
+            "required": ["nodes"],
+            "properties": {"nodes": {"type": "array", "items": {"$ref": "#/definitions/node"}}}
+        }
     }
-    if (attribute.kind == ValueKind::File)
-        return QStringLiteral("a file");
-    return attribute.kind == ValueKind::Text ? QStringLiteral("a text") : RangeInWords(attribute);
-}
+})";
 
 QString Standard(const Attribute& attribute)
 {
-    if (attribute.key == QLatin1String("size"))
-        return QStringLiteral("must be given");
-    if (attribute.key == QLatin1String("type"))
-        return SceneNode().type;
-    if (attribute.kind == ValueKind::Text || attribute.kind == ValueKind::File)
-        return QStringLiteral("none");
-    const QString number = QString::number(attribute.standard);
-    return attribute.kind == ValueKind::Pair ? number + QStringLiteral(", ") + number : number;
+    switch (attribute.kind) {
+    case ValueKind::Pair: return QLatin1String(attribute.least > 0 ? "must be given" : "0, 0");
+    case ValueKind::Text:
+    case ValueKind::File:
+        return attribute.home == Home::Node ? SceneNode().type : QStringLiteral("none");
+    default: return QStringLiteral("0");
+    }
 }
 
 QString TableOf(Home home)
@@ -178,8 +185,11 @@ QString TableOf(Home home)
         if (attribute.home == home)
             table += QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 |\n")
                          .arg(QLatin1String(attribute.key), Words(attribute.meaning),
-                              Words(attribute.unit), Range(attribute), Standard(attribute),
-                              Words(attribute.heededBy));
+                              Words(attribute.unit),
+                              attribute.kind == ValueKind::File   ? QStringLiteral("a file")
+                              : attribute.kind == ValueKind::Text ? QStringLiteral("a text")
+                                                                  : RangeInWords(attribute),
+                              Standard(attribute), Words(attribute.use.heededBy));
     }
     return table;
 }
@@ -188,40 +198,15 @@ QString TableOf(Home home)
 
 QByteArray SceneSchema()
 {
-    const auto pointer = [](const char* name) {
-        return QJsonObject{
-            {QStringLiteral("$ref"), QStringLiteral("#/definitions/") + QLatin1String(name)}};
-    };
     const Attribute& size = *FindAttribute(Home::Node, QStringLiteral("size"));
-    const QJsonObject side = Whole(1, size.most);
-    const QJsonObject display =
-        ObjectOf({{QStringLiteral("width"), Described(side, QStringLiteral("pixels"))},
-                  {QStringLiteral("height"), Described(side, QStringLiteral("pixels"))}},
-                 {QStringLiteral("width"), QStringLiteral("height")});
-    const QJsonObject area =
-        ObjectOf({{QStringLiteral("nodes"), ListOf(pointer("node"))}}, {QStringLiteral("nodes")});
-    const QJsonObject page =
-        ObjectOf({{QStringLiteral("areas"), ListOf(pointer("area"))}}, {QStringLiteral("areas")});
-    const QJsonObject blend{{QStringLiteral("type"), QStringLiteral("boolean")},
-                            {QStringLiteral("default"), true}};
-    QJsonObject schema = ObjectOf(
-        {{QStringLiteral("scene"),
-          Described({{QStringLiteral("const"), 1}}, QStringLiteral("the version of the format"))},
-         {QStringLiteral("display"), Described(display, QStringLiteral("the display, all of it"))},
-         {QStringLiteral("alphaBlend"),
-          Described(blend, QStringLiteral("layers are blended by their alpha; else a "
-                                          "color is transparent"))},
-         {QStringLiteral("pages"),
-          Described(ListOf(pointer("page")),
-                    QStringLiteral("the program; its pages follow one another"))}},
-        {QStringLiteral("scene"), QStringLiteral("display"), QStringLiteral("pages")});
-    schema[QStringLiteral("$schema")] = QStringLiteral("http://json-schema.org/draft-07/schema#");
-    schema[QStringLiteral("title")] = QStringLiteral("Animated Text scene");
-    schema[QStringLiteral("definitions")] = QJsonObject{
-        {QStringLiteral("page"), Described(page, QStringLiteral("areas that play side by side"))},
-        {QStringLiteral("area"),
-         Described(area, QStringLiteral("texts that play one after another"))},
-        {QStringLiteral("node"), NodeSchema()}};
+    QJsonObject side = Whole(1, size.most);
+    side["description"] = "pixels";
+    const QByteArray sides = QJsonDocument(side).toJson();
+    QJsonObject schema =
+        QJsonDocument::fromJson(QByteArray(frame).replace("{\"$ref\": \"#side\"}", sides)).object();
+    QJsonObject definitions = schema["definitions"].toObject();
+    definitions["node"] = NodeSchema();
+    schema["definitions"] = definitions;
     return QJsonDocument(schema).toJson();
 }
 

@@ -1,6 +1,6 @@
+#include "scene/attributes.h"
 #include "scene/json.h"
 #include "scene/scene.h"
-#include "scene/schema.h"
 
 namespace AnimText {
 

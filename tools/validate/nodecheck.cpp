@@ -1,7 +1,6 @@
 #include "validate/nodecheck.h"
 
 #include "scene/attributes.h"
-#include "scene/schema.h"
 #include "text/limits.h"
 #include "validate/datafile.h"
 
@@ -25,21 +24,6 @@ QString Words(int count, const char* one, const char* many)
 QString Size(qint64 width, int height)
 {
     return QStringLiteral("%1 x %2 pixels").arg(width).arg(height);
-}
-
-/** "0 to 9", and what the values mean where they are few: "0 left, 1 right, 2 up or 3 down". */
-QString Expected(const Attribute& attribute)
-{
-    const QStringList names = ChoicesOf(attribute);
-    if (names.isEmpty() || names.size() > 4)
-        return RangeInWords(attribute);
-    QString words;
-    for (int i = 0; i < names.size(); ++i) {
-        if (i > 0)
-            words += i + 1 < names.size() ? QStringLiteral(", ") : QStringLiteral(" or ");
-        words += QStringLiteral("%1 %2").arg(attribute.least + i).arg(names.at(i));
-    }
-    return words;
 }
 
 QString InQuotes(const QString& text)
@@ -138,7 +122,7 @@ void NodeCheck::CheckRange(Mistake mistake, const char* key)
 {
     const Attribute& attribute = *FindAttribute(Home::Attributes, QLatin1String(key));
     if (!IsInRange(attribute, Number(key)))
-        AddAttribute(mistake, key, Expected(attribute));
+        AddAttribute(mistake, key, RangeInWords(attribute));
 }
 
 void NodeCheck::CheckMode()
@@ -162,7 +146,7 @@ void NodeCheck::CheckMode()
 
 void NodeCheck::CheckFlags()
 {
-    for (const QString& key : NumberAttributeKeys()) {
+    for (const QString& key : KeysOf(Home::Attributes)) {
         const Attribute* attribute = FindAttribute(Home::Attributes, key);
         if (attribute->kind == ValueKind::Flag)
             CheckRange(Mistake::FlagValue, attribute->key);
@@ -210,7 +194,7 @@ void NodeCheck::CheckLists()
         if (styles[i].value(color).toInt() <= range.most)
             continue;
         AddRow(Mistake::ColorRange, list, i, color, InQuotes(styles[i].value(color)),
-               Expected(range));
+               RangeInWords(range));
         break;
     }
     for (int i = 1; i < styles.size(); ++i) {
@@ -259,7 +243,7 @@ void NodeCheck::CheckMeasures()
 
 void NodeCheck::CheckFiles()
 {
-    for (const QString& key : FileKeys()) {
+    for (const QString& key : KeysOf(Home::Files)) {
         const QString at = QStringLiteral("files.") + key;
         const bool isData =
             key == QLatin1String("PathData") || key == QLatin1String("DescentVector");

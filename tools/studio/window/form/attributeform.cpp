@@ -29,27 +29,6 @@ bool IsElsewhere(const Attribute& attribute)
     return isLaidOut || elsewhere.contains(QLatin1String(attribute.key));
 }
 
-int NumberOf(const SceneNode& node, const Attribute& attribute)
-{
-    const QString key = QLatin1String(attribute.key);
-    if (key == QLatin1String("hold"))
-        return node.hold;
-    if (key == QLatin1String("neonEffect"))
-        return node.neonEffect;
-    return node.attributes.value(key, attribute.standard).toInt();
-}
-
-void SetNumber(SceneNode* node, const Attribute& attribute, int number)
-{
-    const QString key = QLatin1String(attribute.key);
-    if (key == QLatin1String("hold"))
-        node->hold = number;
-    else if (key == QLatin1String("neonEffect"))
-        node->neonEffect = number;
-    else
-        node->attributes[key] = number;
-}
-
 /** Seconds are told to people where the file has tenths of them. */
 bool IsTenths(const Attribute& attribute)
 {

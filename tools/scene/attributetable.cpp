@@ -1,0 +1,245 @@
+// Every attribute with what is known of it. A new one is a row here, and nothing else.
+#include "scene/attributes.h"
+#include "scene/catalogue.h"
+#include "scene/scene.h"
+
+#include <QCoreApplication>
+
+namespace AnimText {
+
+namespace {
+
+/** A row as a sentence: Number("hold").In(&SceneNode::hold).Unit(tenths).Range(0, most). */
+struct Row : Attribute
+{
+    Row& In(Home where) { return home = where, *this; }
+    Row& In(int SceneNode::*member) { return field = member, In(Home::Node); }
+    Row& Unit(const char* words) { return unit = words, *this; }
+    Row& Range(int from, int to) { return least = from, most = to, *this; }
+    Row& For(const Use& what) { return use = what, *this; }
+    Row& Names(const QList<const char*>& names)
+    {
+        return choices = names, Range(0, int(names.size()) - 1);
+    }
+    Row& NamesOf(const QList<Motion>& motions)
+    {
+        for (const Motion& motion : motions)
+            choices.append(motion.name);
+        return Range(0, int(motions.size()) - 1);
+    }
+};
+
+class AttributeTable
+{
+    Q_DECLARE_TR_FUNCTIONS(Attributes)
+
+public:
+    static QList<Attribute> Make();
+
+private:
+    static Row Make(ValueKind kind, const char* key, const char* name, const char* meaning)
+    {
+        Row row;
+        row.kind = kind;
+        row.key = key;
+        row.name = name;
+        row.meaning = meaning;
+        row.use = {QT_TR_NOOP("every motion")};
+        return row;
+    }
+
+    static Row Text(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::Text, key, name, meaning);
+    }
+
+    static Row Number(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::Number, key, name, meaning)
+            .Range(Attribute::lowest, Attribute::highest);
+    }
+
+    static Row Choice(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::Choice, key, name, meaning);
+    }
+
+    static Row Flag(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::Flag, key, name, meaning).Range(0, 1);
+    }
+
+    static Row Color(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::Color, key, name, meaning)
+            .Unit(QT_TR_NOOP("red × 65536 + green × 256 + blue"))
+            .Range(0, 0xFFFFFF);
+    }
+
+    static Row Pair(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::Pair, key, name, meaning).In(Home::Node);
+    }
+
+    static Row File(const char* key, const char* name, const char* meaning)
+    {
+        return Make(ValueKind::File, key, name, meaning).In(Home::Files);
+    }
+
+    /** The attributes that a form shows together, in its order. */
+    static QList<Attribute> In(Group group, QList<Attribute> rows)
+    {
+        for (Attribute& row : rows)
+            row.group = group;
+        return rows;
+    }
+};
+
+// clang-format off
+QList<Attribute> AttributeTable::Make()
+{
+    constexpr int most = Attribute::highest;
+    constexpr int largestSide = 16384;     // what video and picture formats can hold
+    constexpr int farthestPlace = 1000000; // pixels
+    constexpr int lastBorder = 28;         // of the neon styles; those above show a picture
+
+    const char* const pixels = QT_TR_NOOP("pixels");
+    const char* const tenths = QT_TR_NOOP("units of 100 ms");
+    const char* const steps = QT_TR_NOOP("steps");
+    const char* const times = QT_TR_NOOP("times");
+    const char* const points = QT_TR_NOOP("points");
+
+    const Need hasDazzle{"CheckDazzle", 1, 1};
+    const Need hasNeon{"CheckNeonBg", 1, 1};
+    const Need never{"EffectType", 1, 0};
+    const Use authoring{QT_TR_NOOP("authoring tools; on the sign the outlines decide")};
+    const Use wholeText{QT_TR_NOOP("the whole text, from its first row")};
+    const Use entrance{
+        QT_TR_NOOP("entrance effects"),
+        QT_TR_NOOP("The text scrolls; only entrance effects heed this."),
+        {{"EffectType", 0, 0}}};
+    const Use scrolling{
+        QT_TR_NOOP("scrolling"),
+        QT_TR_NOOP("The text comes in by an entrance effect; only scrolling heeds this."),
+        {{"EffectType", 1, 1}}};
+    const Use dazzle{
+        QT_TR_NOOP("the dazzle background"),
+        QT_TR_NOOP("Gradients and pictures belong to the dazzle background, which is off; the text "
+                   "keeps its color."),
+        {hasDazzle}};
+    const Use dazzleGradient{
+        QT_TR_NOOP("the dazzle background with a gradient"),
+        QT_TR_NOOP("The dazzle background shows no gradient."),
+        {hasDazzle, {"CheckColorGradient", 1, 1}}};
+    const Use dazzlePicture{
+        QT_TR_NOOP("the dazzle background with a picture"),
+        QT_TR_NOOP("The dazzle background shows no picture."),
+        {hasDazzle, {"CheckPictureFills", 1, 1}}};
+    const Use neon{
+        QT_TR_NOOP("the neon background"),
+        QT_TR_NOOP("The neon background is off."),
+        {hasNeon}};
+    const Use neonPicture{
+        QT_TR_NOOP("the neon background with a style above 28"),
+        QT_TR_NOOP("The neon background shows a picture only with a style above 28."),
+        {hasNeon, {"neonEffect", lastBorder + 1, most}}};
+    const Use stroke{
+        QT_TR_NOOP("nothing"), QT_TR_NOOP("The sign outlines text in its own color."), {never}};
+    const Use shadow{
+        QT_TR_NOOP("nothing"), QT_TR_NOOP("The sign paints text without shadows."), {never}};
+
+    return In(Group::Place, {
+        Text("type", QT_TR_NOOP("Type"), QT_TR_NOOP("which plugin shows it")).In(Home::Node),
+        Pair("pos", QT_TR_NOOP("Position"),
+             QT_TR_NOOP("the area's top left corner on the display: x, y"))
+            .Unit(pixels).Range(-farthestPlace, farthestPlace),
+        Pair("size", QT_TR_NOOP("Size"),
+             QT_TR_NOOP("the area in which the text is shown: width, height"))
+            .Unit(pixels).Range(1, largestSide),
+    }) + In(Group::Text, {
+        Text("Text", QT_TR_NOOP("Text"),
+             QT_TR_NOOP("the text; each of its UTF-16 units is a character")),
+        Flag("Hollow", QT_TR_NOOP("Hollow"),
+             QT_TR_NOOP("characters are outlined, with nothing inside")),
+        Text("fontName", QT_TR_NOOP("Font"), QT_TR_NOOP("the family that the outline was made from"))
+            .In(Home::TextAttribute).For(authoring),
+        Number("fontSize", QT_TR_NOOP("Size"), QT_TR_NOOP("the size that the outline was made in"))
+            .In(Home::TextAttribute).Unit(points).Range(1, most).For(authoring),
+        Flag("bold", QT_TR_NOOP("Bold"), QT_TR_NOOP("the outline was made bold"))
+            .In(Home::TextAttribute).For(authoring),
+        Flag("italic", QT_TR_NOOP("Italic"), QT_TR_NOOP("the outline was made slanted"))
+            .In(Home::TextAttribute).For(authoring),
+        Flag("underline", QT_TR_NOOP("Underline"), QT_TR_NOOP("the outline has a bar under it"))
+            .In(Home::TextAttribute).For(authoring),
+        Color("Color", QT_TR_NOOP("Color"), QT_TR_NOOP("the color of the character"))
+            .In(Home::TextAttribute).For(wholeText),
+        Number("text_width", QT_TR_NOOP("Width"),
+               QT_TR_NOOP("how far the next character stands to the right"))
+            .In(Home::TextWidth).Unit(pixels).Range(0, most),
+        Number("text_height", QT_TR_NOOP("Height"), QT_TR_NOOP("the height of the character's line"))
+            .In(Home::TextHeight).Unit(pixels).Range(0, most),
+        File("PathData", QT_TR_NOOP("Outlines"), QT_TR_NOOP("the outlines of the characters")),
+        File("DescentVector", QT_TR_NOOP("Descents"),
+             QT_TR_NOOP("how far each character reaches below its baseline")),
+        Flag("Stroke", QT_TR_NOOP("Stroke"), QT_TR_NOOP("asks for an outline in a color of its own"))
+            .For(stroke),
+        Color("StrokeColor", QT_TR_NOOP("Stroke color"), QT_TR_NOOP("the color of that outline"))
+            .For(stroke),
+        Flag("CheckShadowEffect", QT_TR_NOOP("Shadow"), QT_TR_NOOP("asks for a shadow")).For(shadow),
+        Number("TextShadowBox", QT_TR_NOOP("Kind of shadow"), QT_TR_NOOP("how the shadow would be"))
+            .For(shadow),
+    }) + In(Group::Motion, {
+        Choice("EffectType", QT_TR_NOOP("Motion"), QT_TR_NOOP("how the text comes to be seen"))
+            .Names({QT_TR_NOOP("entrance effect"), QT_TR_NOOP("scrolling")}),
+        Choice("AnimationEffect", QT_TR_NOOP("Effect"), QT_TR_NOOP("the entrance effect"))
+            .NamesOf(Effects()).For(entrance),
+        Number("AnimationSpeed", QT_TR_NOOP("Speed"),
+               QT_TR_NOOP("the speed of the entrance effect, 9 the fastest"))
+            .Unit(steps).Range(0, 9).For(entrance),
+        Choice("ContinueStyle", QT_TR_NOOP("Direction"), QT_TR_NOOP("where the text scrolls to"))
+            .Names({QT_TR_NOOP("left"), QT_TR_NOOP("right"), QT_TR_NOOP("up"), QT_TR_NOOP("down")})
+            .For(scrolling),
+        Number("ContinueSpeed", QT_TR_NOOP("Scroll speed"),
+               QT_TR_NOOP("the speed of scrolling, 9 the fastest"))
+            .Unit(steps).Range(0, 9).For(scrolling),
+        Number("PlayTimes", QT_TR_NOOP("Repeats"), QT_TR_NOOP("how often the whole text is shown"))
+            .Unit(times).Range(1, most),
+        Number("hold", QT_TR_NOOP("Pause"),
+               QT_TR_NOOP("how long each page stands still once it has come in"))
+            .In(&SceneNode::hold).Unit(tenths).Range(0, most).For(entrance),
+    }) + In(Group::Background, {
+        Flag("CheckDazzle", QT_TR_NOOP("Dazzle"), QT_TR_NOOP("colors travel behind the text")),
+        Flag("CheckColorGradient", QT_TR_NOOP("Gradient"),
+             QT_TR_NOOP("the colors flow into one another"))
+            .For(dazzle),
+        Choice("ColorGradient", QT_TR_NOOP("Kind of gradient"),
+               QT_TR_NOOP("which way the colors flow"))
+            .Names({QT_TR_NOOP("linear"), QT_TR_NOOP("radial"), QT_TR_NOOP("conical")})
+            .For(dazzleGradient),
+        Flag("CheckPictureFills", QT_TR_NOOP("Picture"),
+             QT_TR_NOOP("a picture frames the background"))
+            .For(dazzle),
+        File("FillImage", QT_TR_NOOP("Picture file"),
+             QT_TR_NOOP("the picture that frames the background"))
+            .For(dazzlePicture),
+        Flag("CheckNeonBg", QT_TR_NOOP("Neon"), QT_TR_NOOP("lights run around the text")),
+        Number("neonEffect", QT_TR_NOOP("Neon style"),
+               QT_TR_NOOP("the style of the lights: up to 28 borders that are drawn, above them a "
+                          "picture"))
+            .In(&SceneNode::neonEffect).Range(0, most).For(neon),
+        File("NeonGifPath", QT_TR_NOOP("Neon picture"),
+             QT_TR_NOOP("the moving picture of the neon background"))
+            .For(neonPicture),
+    });
+}
+// clang-format on
+
+} // namespace
+
+const QList<Attribute>& Attributes()
+{
+    static const QList<Attribute> table = AttributeTable::Make();
+    return table;
+}
+
+} // namespace AnimText
