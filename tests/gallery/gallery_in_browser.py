@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""Opens a gallery in a headless browser: what moves, is scrubbed, found and copied, and how much it loads.
+"""Opens a gallery in a headless browser: what moves, is scrubbed, found, linked, compared, saved and
+printed, who can use it, and how much it loads.
 
-gallery_in_browser.py ANIMTEXT
+gallery_in_browser.py ANIMTEXT AXE.JS
 """
 import base64
 import io
@@ -22,6 +23,7 @@ from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import WebDriverWait
 
 ANIMTEXT = os.path.abspath(sys.argv.pop(1))
+AXE = os.path.abspath(sys.argv.pop(1))
 TEXT = "Let's go"
 
 
@@ -30,12 +32,14 @@ class Gallery(unittest.TestCase):
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory(prefix="gallery it's für uns ")
         cls.page = os.path.join(cls.folder.name, "g")
+        cls.signs = os.path.join(cls.folder.name, "signs")
+        os.mkdir(cls.signs)
         os.environ["TMPDIR"] = cls.folder.name  # the browser leaves folders behind
         subprocess.run([ANIMTEXT, "gallery", "--text", TEXT, "--hold", "5", "-o", cls.page],
                        check=True, stdout=subprocess.DEVNULL)
         options = webdriver.ChromeOptions()
         for word in ("--headless=new", "--no-sandbox", "--disable-dev-shm-usage",
-                     "--window-size=1300,1000", "--allow-file-access-from-files"):
+                     "--window-size=1300,1000"):
             options.add_argument(word)
         options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
         cls.browser = webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
@@ -46,12 +50,38 @@ class Gallery(unittest.TestCase):
         cls.folder.cleanup()
 
     def setUp(self):
-        self.browser.get("about:blank")
-        self.browser.get("file://" + self.page + "/index.html")
+        self.open()
         self.motions = self.script("return gallery.motions.map((motion) => motion.id)")
 
     def tearDown(self):
         self.assertEqual([], self.browser.get_log("browser"))
+
+    def open(self, address=""):
+        self.browser.get("about:blank")
+        self.browser.get("file://" + self.page + "/index.html" + address)
+
+    def emulate(self, width=1300, media="", **features):
+        """A screen of that width, or paper, and what the person asked the system for."""
+        for command, settings in (
+                ("setDeviceMetricsOverride", {"width": width, "height": 844, "mobile": False,
+                                              "deviceScaleFactor": 1}),
+                ("setEmulatedMedia", {"media": media, "features": [
+                    {"name": "prefers-" + name.replace("_", "-"), "value": value}
+                    for name, value in features.items()]})):
+            self.browser.execute_cdp_cmd("Emulation." + command, settings)
+        self.addCleanup(self.browser.execute_cdp_cmd, "Emulation.clearDeviceMetricsOverride", {})
+        self.addCleanup(self.browser.execute_cdp_cmd, "Emulation.setEmulatedMedia", {"features": []})
+
+    def still(self, tick):
+        """The picture at a tick, painted by the command that the view shows."""
+        words = shlex.split(self.find("#details code").text.split(" && ")[0])
+        scene = os.path.join(self.signs, "sign.json")
+        still = os.path.join(self.signs, "still.png")
+        words[words.index("sign.json")] = scene
+        for command in (words[1:], ["render", scene, "--frames", str(tick), "-o", still]):
+            subprocess.run([ANIMTEXT, *command], check=True, stdout=subprocess.DEVNULL)
+        with Image.open(still) as picture:
+            return picture.convert("RGB").tobytes()
 
     def script(self, text, *arguments):
         return self.browser.execute_script(text, *arguments)
@@ -80,12 +110,12 @@ class Gallery(unittest.TestCase):
         self.assertIn(os.path.join(self.page, "gallery.js"), first)
         # A motion in sight may begin to load before that; none other does.
         motions = os.path.join(self.page, "motions")
-        page = [path for path in first if not path.startswith(motions)]
+        page = [path for path in first if path.startswith(self.page) and not path.startswith(motions)]
         self.assertLess(sum(map(os.path.getsize, page)), 200_000)
         self.assertNotIn(os.path.join(motions, self.motions[-1] + ".js"), first)
 
     def test_only_what_is_in_sight_moves(self):
-        picture = "return document.querySelector(`#card-${arguments[0]} canvas`).dataset.picture"
+        picture = "return document.querySelector(`#card-${arguments[0]} canvas`)?.dataset.picture"
         first, last = self.motions[0], self.motions[-1]
         self.until(picture + " > 0", first)
         self.assertIsNone(self.script(picture, last))
@@ -100,7 +130,7 @@ class Gallery(unittest.TestCase):
         for motion in self.motions:
             self.script("location.hash = `${arguments[0]}-9`", motion)
             self.until("return view.motion?.id === arguments[0] && state.speed === 9 &&"
-                       "view.screen.shown > 0", motion)
+                       "view.displays[0].screen.shown > 0", motion)
             self.until("return view.tick > 2")
 
     def test_every_motion_is_found_by_its_name_and_its_family(self):
@@ -112,7 +142,7 @@ class Gallery(unittest.TestCase):
             self.assertIn(motion, self.script(visible))
             self.assertLess(len(self.script(visible)), 4)
         search.clear()
-        search.send_keys("characters drop tilted")
+        search.send_keys("drop tilted bounce")
         self.assertEqual(["Effect45DegreeAngleDrop"], self.script(visible))
         search.clear()
         self.script("const f = document.getElementById('family'); f.value = 'frogs';"
@@ -131,9 +161,9 @@ class Gallery(unittest.TestCase):
             body.send_keys(keys)
             self.assertEqual(expected, tick(), keys)
         body.send_keys(Keys.END)
-        self.assertEqual(self.script("return view.play.ticks") - 1, tick())
+        self.assertEqual(self.script("return view.ticks") - 1, tick())
         body.send_keys("l")
-        self.assertIn("radial-gradient", self.find("#big").get_attribute("style"))
+        self.assertIn("radial-gradient", self.find("#stage canvas").get_attribute("style"))
         body.send_keys(Keys.ESCAPE)
         self.assertEqual("card-WavesEffect",
                          self.script("return document.activeElement.closest('li').id"))
@@ -150,36 +180,122 @@ class Gallery(unittest.TestCase):
                 self.script("const s = document.getElementById('scrub'); s.value = arguments[0];"
                             "s.dispatchEvent(new Event('input'))", tick)
                 self.until("return view.draw()")
-                data = self.script("return document.getElementById('big').toDataURL()")
-                words = shlex.split(self.find("#command").text.split(" && ")[0])
-                scene = os.path.join(self.folder.name, "sign.json")
-                still = os.path.join(self.folder.name, "still.png")
-                words[words.index("sign.json")] = scene
-                for command in (words[1:], ["render", scene, "--frames", str(tick), "-o", still]):
-                    subprocess.run([ANIMTEXT, *command], check=True, stdout=subprocess.DEVNULL)
-                with Image.open(still) as painted, \
-                        Image.open(io.BytesIO(base64.b64decode(data[22:]))) as shown:
-                    self.assertEqual(painted.convert("RGB").tobytes(), shown.convert("RGB").tobytes())
+                data = self.script("return view.displays[0].canvas.toDataURL()")
+                with Image.open(io.BytesIO(base64.b64decode(data[22:]))) as shown:
+                    self.assertEqual(self.still(tick), shown.convert("RGB").tobytes())
 
-    def test_the_map_tells_where_told_and_real_times_part(self):
-        self.until("return document.querySelectorAll('#times td').length === 340")
-        cell = self.find("#times a[href='#FlyFromRightEffect-5']")
-        self.assertRegex(cell.get_attribute("title"), r"told [0-9.]+ s, really [0-9.]+ s, [0-9.]+ s (cut off|left over)")
-        cell.send_keys(Keys.ENTER)
+    def test_the_table_compares_planned_and_actual_times(self):
+        self.until("return document.querySelectorAll('#times td a').length === 340")
+        for link, words in (("frog-drops-6", "begins again for the last"),
+                            ("typewriter-5", "cut off"), ("scroll-left-5", "until it is stopped")):
+            cell = self.find(f"#times a[href='#{link}']")
+            self.assertRegex(cell.get_attribute("aria-label"), rf"planned [0-9.]+ s .*{words}")
+        self.find("#times a[href='#fly-to-the-right-5']").send_keys(Keys.ENTER)
         self.until("return view.motion?.id === 'FlyFromRightEffect' && state.speed === 5")
 
     def test_who_wants_less_motion_gets_posters(self):
-        self.browser.execute_cdp_cmd("Emulation.setEmulatedMedia", {
-            "features": [{"name": "prefers-reduced-motion", "value": "reduce"}]})
-        try:
-            self.browser.refresh()
-            self.assertEqual("Play all", self.find("#pause").text)
-            self.until("return performance.now() > 500")
-            self.assertEqual(0, self.script("return cards.filter((c) => c.screen.shown >= 0).length"))
-            self.find("#pause").click()
-            self.until("return cards[0].screen.shown > 0")
-        finally:
-            self.browser.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
+        self.emulate(reduced_motion="reduce")
+        self.browser.refresh()
+        self.assertEqual("Play all", self.find("#pause").text)
+        self.until("return performance.now() > 500")
+        self.assertEqual(0, self.script("return cards.filter((c) => c.screen.shown >= 0).length"))
+        with Image.open(self.page + "/posters.png") as sheet:
+            sheet = sheet.convert("RGB")
+        for motion in self.motions:
+            _, y, width, height = map(int, self.find(f"#card-{motion} svg").get_dom_attribute("viewBox").split())
+            with open(f"{self.page}/motions/{motion}.js", encoding="utf-8") as file:
+                sheets = json.loads(file.read()[len("showMotion("):-len(");\n")])["sheets"]
+            own = [Image.open(io.BytesIO(base64.b64decode(png))).convert("RGB") for png in sheets]
+            pictures = {png.crop((0, top, width, top + height)).tobytes()
+                        for png in own for top in range(0, png.height, height)}
+            self.assertIn(sheet.crop((0, y, width, y + height)).tobytes(), pictures, motion)
+        self.find("#pause").click()
+        self.until("return cards[0].screen.shown > 0")
+
+    def test_without_scripts_it_is_a_list_with_posters(self):
+        self.browser.execute_cdp_cmd("Emulation.setScriptExecutionDisabled", {"value": True})
+        self.addCleanup(self.browser.execute_cdp_cmd, "Emulation.setScriptExecutionDisabled",
+                        {"value": False})
+        self.browser.refresh()
+        self.assertEqual(34, len(self.browser.find_elements(By.CSS_SELECTOR, "#motions svg")))
+        self.assertEqual(340, len(self.browser.find_elements(By.CSS_SELECTOR, "#times td")))
+        dead = [element.tag_name for element in self.browser.find_elements(
+            By.CSS_SELECTOR, "button, input, select, a[href]:not([href='#map'], [href='#motions'])")
+                if element.is_displayed()]
+        self.assertEqual([], dead)
+
+    def test_everyone_can_use_it(self):
+        self.assertTrue(os.path.exists(AXE), f"{AXE} is missing: script/test fetches it with npm")
+        with open(AXE, encoding="utf-8") as file:
+            axe = file.read()
+        for width in (1300, 390):
+            for scheme in ("light", "dark"):
+                self.emulate(width, color_scheme=scheme, reduced_motion="reduce")
+                for address in ("", "#sway-7@4.29s", "#sway-7@4.29s&rock"):
+                    with self.subTest(width=width, scheme=scheme, address=address):
+                        self.open(address)
+                        self.until("return document.querySelectorAll('#times td a').length === 340")
+                        self.script(axe)
+                        found = self.browser.execute_async_script("axe.run({preload: false}).then(arguments[0])")
+                        self.assertEqual([], [(fault["id"], node["target"], node["failureSummary"])
+                                              for fault in found["violations"] for node in fault["nodes"]])
+                        self.assertGreater(len(found["passes"]), 20)
+                        self.assertLessEqual(self.script("return document.body.scrollWidth"), width)
+
+    def test_the_bar_hides_no_heading(self):
+        for width in (1300, 390):
+            self.emulate(width)
+            self.open("#map")
+            self.until("return document.getElementById('map-title').getBoundingClientRect().top >="
+                       "document.getElementById('controls').getBoundingClientRect().bottom")
+
+    def test_paper_holds_every_speed(self):
+        self.emulate(718, media="print")  # A4 between the browser's margins
+        self.assertTrue(self.script("const w = document.querySelector('.wide');"
+                                    "return w.scrollWidth <= w.clientWidth"))
+        self.assertFalse(self.find("#controls").is_displayed())
+
+    def test_going_back_leaves_after_any_number_of_views(self):
+        for motion in self.motions[:3]:
+            self.find(f"#card-{motion} a").send_keys(Keys.ENTER)
+            self.until("return view.motion?.id === arguments[0]", motion)
+            self.browser.switch_to.active_element.send_keys(Keys.ESCAPE)
+            self.until("return !view.motion && !location.hash")
+        self.browser.back()
+        self.assertEqual("about:blank", self.browser.current_url)
+
+    def test_a_link_leads_to_a_moment_of_two_motions(self):
+        self.open("#sway-7@4.29s&rock")
+        self.until("return view.draw()")
+        self.assertEqual([["SwingEffect", "EffectShake"], 65, 7, False], self.script(
+            "return [view.displays.map((display) => display.motion.id), view.tick, state.speed, view.playing]"))
+        tops = self.script("return view.displays.map((display) => display.canvas.getBoundingClientRect().top)")
+        self.assertEqual(tops[0], tops[1])
+        self.find("#on").click()
+        self.until("return location.hash === '#sway-7@4.36s&rock'")
+        other = self.find("#other")
+        other.send_keys("no other")
+        self.until("return location.hash === '#sway-7@4.36s'")
+        self.open("#SwingEffect-7")  # the host's name leads there, too
+        self.assertEqual("Sway", self.find("#view-name").text)
+
+    def test_a_film_is_what_the_sign_shows(self):
+        self.browser.execute_cdp_cmd("Browser.setDownloadBehavior", {
+            "behavior": "allow", "downloadPath": self.folder.name})
+        for address, tick in (("#typewriter-9", 15), ("#rise-one-by-one-0", 3000)):
+            self.open(address)
+            self.find("#film").click()
+            path = os.path.join(self.folder.name, address[1:-2] + f"-speed-{address[-1]}.apng")
+            self.until("return document.getElementById('done').textContent === 'Saved'")
+            WebDriverWait(self.browser, 60, 0.02).until(lambda _: os.path.exists(path))
+            shown = 0
+            with Image.open(path) as film:
+                for frame in range(film.n_frames):
+                    film.seek(frame)
+                    if shown <= tick * 66 < shown + film.info["duration"]:
+                        self.assertEqual(self.still(tick), film.convert("RGB").tobytes())
+                    shown += film.info["duration"]
+            self.assertEqual(self.script("return view.ticks * gallery.tick"), round(shown))
 
 
 if __name__ == "__main__":

@@ -2,8 +2,7 @@
 
 #include "files/wholefile.h"
 #include "files/wholefolder.h"
-#include "gallery/motionplay.h"
-#include "scene/catalogue.h"
+#include "gallery/page.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -26,21 +25,11 @@ namespace {
 // The fifth has a picture for every step of a motion; slower ones show the same pictures for
 // longer. Its pictures come first so that they stand in the order of the play.
 constexpr int speedsInOrder[] = {5, 4, 3, 2, 1, 0, 6, 7, 8, 9};
-constexpr int speedCount = 10;
 constexpr int posterSpeed = 5;
 
 /** Thrown where a step has failed and its reason is told already. */
 struct BrokenOff
 {
-};
-
-/** A motion at all speeds. */
-struct GalleryEntry
-{
-    const Motion* motion;
-    QString option; ///< with which `animtext author` chooses it
-    MotionPlay plays[speedCount];
-    int sheets = 0;
 };
 
 const QString manifestName = QStringLiteral("manifest.json");
@@ -114,21 +103,24 @@ QJsonObject ToJson(const GalleryEntry& entry)
     QJsonArray speeds;
     for (const MotionPlay& play : entry.plays)
         speeds.append(QJsonObject{{QStringLiteral("ticks"), play.ticks},
-                                  {QStringLiteral("told"), play.told},
-                                  {QStringLiteral("real"), play.real},
+                                  {QStringLiteral("planned"), play.told},
+                                  {QStringLiteral("actual"), play.real},
+                                  {QStringLiteral("times"), TimesInWords(play)},
                                   {QStringLiteral("pages"), ToJson(play.pages)}});
     return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},
-            {QStringLiteral("number"), entry.motion->number},
+            {QStringLiteral("title"), QLatin1String(entry.motion->title)},
             {QStringLiteral("family"), QLatin1String(entry.motion->family)},
             {QStringLiteral("summary"), QLatin1String(entry.motion->summary)},
             {QStringLiteral("option"), entry.option},
-            {QStringLiteral("sheets"), entry.sheets},
             {QStringLiteral("speeds"), speeds}};
 }
 
-/** Which picture is seen for how many ticks, pair after pair, at each speed. */
-QJsonObject RunsToJson(const GalleryEntry& entry)
+/** The pictures, and which is seen for how many ticks, pair after pair, at each speed. */
+QJsonObject PicturesToJson(const GalleryEntry& entry, const QVector<QByteArray>& pngs)
 {
+    QJsonArray sheets;
+    for (const QByteArray& png : pngs)
+        sheets.append(QString::fromLatin1(png.toBase64()));
     QJsonArray speeds;
     for (const MotionPlay& play : entry.plays) {
         QJsonArray runs;
@@ -139,6 +131,7 @@ QJsonObject RunsToJson(const GalleryEntry& entry)
         speeds.append(runs);
     }
     return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},
+            {QStringLiteral("sheets"), sheets},
             {QStringLiteral("runs"), speeds}};
 }
 
@@ -176,33 +169,42 @@ private:
     void WriteAll()
     {
         Demand(IsMade(scenes, &why) && folder.Open(OwnFiles, &why));
-        QJsonArray motions;
+        QVector<GalleryEntry> entries;
         for (const Motion& motion : Effects())
-            motions.append(WriteMotion(Mode::Entrance, motion));
+            entries.append(WriteMotion(Mode::Entrance, motion));
         for (const Motion& motion : Scrolls())
-            motions.append(WriteMotion(Mode::Scroll, motion));
+            entries.append(WriteMotion(Mode::Scroll, motion));
         Add(QStringLiteral("posters.png"), posters.Finish().value(0));
-        const QJsonObject all{{QStringLiteral("text"), options.text.text},
-                              {QStringLiteral("words"), options.words},
+        QJsonArray motions;
+        for (const GalleryEntry& entry : entries)
+            motions.append(ToJson(entry));
+        const QJsonObject all{{QStringLiteral("words"), options.words},
                               {QStringLiteral("width"), options.text.area.width()},
                               {QStringLiteral("height"), options.text.area.height()},
                               {QStringLiteral("tick"), tickLength},
                               {QStringLiteral("sheet"), PictureSheets::picturesInSheet},
                               {QStringLiteral("motions"), motions}};
         Add(QStringLiteral("motions.js"), Script("showGallery", all));
-        for (const char* name : {"index.html", "gallery.css", "gallery.js"}) {
-            QFile page(QStringLiteral(":/gallery/") + QLatin1String(name));
-            if (!page.open(QIODevice::ReadOnly))
-                qFatal("the program lacks its own %s", name);
-            Add(QLatin1String(name), page.readAll());
-        }
+        Add(QStringLiteral("index.html"),
+            FillPage(Own("index.html"), options.text.text, options.text.area, entries));
+        for (const char* name : {"gallery.css", "film.js", "view.js", "gallery.js"})
+            Add(QLatin1String(name), Own(name));
         const QJsonObject manifest{{QStringLiteral("generator"), generator},
                                    {QStringLiteral("files"), digests}};
         Demand(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &why));
         Demand(folder.Finish(&why));
     }
 
-    QJsonObject WriteMotion(Mode mode, const Motion& motion)
+    /** A file of the page. */
+    static QByteArray Own(const char* name)
+    {
+        QFile file(QStringLiteral(":/gallery/") + QLatin1String(name));
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("the program lacks its own %s", name);
+        return file.readAll();
+    }
+
+    GalleryEntry WriteMotion(Mode mode, const Motion& motion)
     {
         AuthorOptions text = options.text;
         text.mode = mode;
@@ -226,13 +228,10 @@ private:
             ++done;
         }
         const QVector<QByteArray> pngs = sheets.Finish();
-        entry.sheets = pngs.size();
-        const QString base = QStringLiteral("motions/") + QLatin1String(motion.name);
-        for (int i = 0; i < pngs.size(); ++i)
-            Add(QStringLiteral("%1-%2.png").arg(base).arg(i), pngs.at(i));
-        Add(base + QStringLiteral(".js"), Script("showMotion", RunsToJson(entry)));
-        AddPoster(pngs, PosterPicture(entry.plays[posterSpeed]));
-        return ToJson(entry);
+        Add(QStringLiteral("motions/%1.js").arg(QLatin1String(motion.name)),
+            Script("showMotion", PicturesToJson(entry, pngs)));
+        entry.poster = AddPoster(pngs, PosterPicture(entry.plays[posterSpeed]));
+        return entry;
     }
 
     /** @p authored alone on its display, its data files among those that are thrown away. */
@@ -252,13 +251,14 @@ private:
         return scene;
     }
 
-    void AddPoster(const QVector<QByteArray>& pngs, int number)
+    /** @return its number, which motions share whose posters are alike */
+    int AddPoster(const QVector<QByteArray>& pngs, int number)
     {
         const QImage sheet =
             QImage::fromData(pngs.at(number / PictureSheets::picturesInSheet), "png")
                 .convertToFormat(QImage::Format_RGB32);
         const int height = options.text.area.height();
-        posters.Add(
+        return posters.Add(
             sheet.copy(0, number % PictureSheets::picturesInSheet * height, sheet.width(), height));
     }
 

@@ -1,14 +1,13 @@
 "use strict";
 
-// What motions.js and the files in motions/ tell. They are scripts and not data, because a page
-// that was opened from a folder may load nothing else.
+// What motions.js and the files in motions/ say. They are scripts and not data, and hold their pictures,
+// because a page that was opened from a folder may read nothing else.
 let gallery = null;
-const runs = new Map(); // by motion: for each speed where its pictures begin, see showMotion()
+const plays = new Map(); // by motion: its sheets, and for each speed where its pictures begin
 
 const byId = (id) => document.getElementById(id);
 const lessMotion = matchMedia("(prefers-reduced-motion: reduce)");
 const state = { speed: 8, paused: lessMotion.matches };
-const restAfterEnd = 15; // ticks for which a play's last picture stands before it starts again
 
 function make(name, properties = {}, ...children) {
   const element = Object.assign(document.createElement(name), properties);
@@ -16,49 +15,41 @@ function make(name, properties = {}, ...children) {
   return element;
 }
 
-/** "FlyFromLeftEffect" as people say it. */
-function readable(motion) {
-  const words = motion.id
-    .replace(/^ContinueEffect/, "Scroll")
-    .replace(/Effect/, "")
-    .replace(/([a-z])([A-Z0-9])/g, "$1 $2")
-    .replace(/([0-9])([A-Z][a-z])/g, "$1 $2")
-    .replace(/^([0-9])D([A-Z])/, "$1D $2");
-  return words.charAt(0) + words.slice(1).replace(/\b[A-Z](?=[a-z])/g, (letter) => letter.toLowerCase());
-}
-
-const seconds = (ms) => (ms / 1000).toFixed(ms < 99950 ? 2 : 1);
-const inSeconds = (ticks) => seconds(ticks * gallery.tick);
+const inSeconds = (ticks) => (ticks * gallery.tick / 1000).toFixed(2);
 
 // ---------------------------------------------------------------------------- pictures
 
-/** Loads a script once and answers when it has run. */
-const scripts = new Map();
-function load(source) {
-  if (!scripts.has(source))
-    scripts.set(source, new Promise((done, failed) => {
-      document.head.append(make("script", { src: source, onload: done, onerror: failed }));
+/** Loads a motion's pictures, once. */
+const loading = new Map();
+function loadMotion({ id }) {
+  if (!loading.has(id))
+    loading.set(id, new Promise((done, failed) => {
+      document.head.append(make("script", { src: `motions/${id}.js`, onload: done, onerror: failed }));
     }));
-  return scripts.get(source);
+  return loading.get(id);
 }
 
 /** Called by the files in motions/. */
-function showMotion(told) {
-  runs.set(told.id, told.runs.map((pairs) => {
-    const pictures = [];
-    const starts = [];
-    let tick = 0;
-    for (let i = 0; i < pairs.length; i += 2) {
-      pictures.push(pairs[i]);
-      starts.push(tick);
-      tick += pairs[i + 1];
-    }
-    return { pictures, starts };
-  }));
+function showMotion({ id, sheets, runs }) {
+  plays.set(id, {
+    sheets,
+    runs: runs.map((pairs) => {
+      const pictures = [];
+      const starts = [];
+      let tick = 0;
+      for (let i = 0; i < pairs.length; i += 2) {
+        pictures.push(pairs[i]);
+        starts.push(tick);
+        tick += pairs[i + 1];
+      }
+      return { pictures, starts };
+    }),
+  });
 }
 
-/** The picture that is seen at a tick. */
-function pictureAt(run, tick) {
+/** The picture of a loaded motion that is seen at a tick; after the end, the last one. */
+function pictureAt(motion, speed, tick) {
+  const run = plays.get(motion.id).runs[speed];
   let low = 0;
   let high = run.starts.length - 1;
   while (low < high) {
@@ -72,59 +63,57 @@ function pictureAt(run, tick) {
 // Decoded sheets, the least recently used first: what is out of sight is given back.
 const sheets = new Map();
 const mostSheets = 96;
-function sheetOf(motion, number) {
-  const name = `motions/${motion.id}-${number}.png`;
+
+/** The sheet with a picture; its whenReady becomes the sheet itself. */
+function sheetOf({ id }, picture) {
+  const number = Math.floor(picture / gallery.sheet);
+  const name = `${id}-${number}`;
   let sheet = sheets.get(name);
   if (sheet) {
     sheets.delete(name);
   } else {
-    sheet = make("img", { src: name });
+    sheet = make("img", { src: `data:image/png;base64,${plays.get(id).sheets[number]}` });
     sheet.ready = false;
-    sheet.decode().then(() => { sheet.ready = true; }, () => {});
+    sheet.whenReady = sheet.decode().then(() => {
+      sheet.ready = true;
+      return sheet;
+    });
   }
   sheets.set(name, sheet);
   if (sheets.size > mostSheets) sheets.delete(sheets.keys().next().value);
   return sheet;
 }
 
-const posters = make("img", { src: "posters.png" });
-const postersReady = posters.decode();
+function paintPicture(painter, sheet, picture, y) {
+  const { width, height } = gallery;
+  painter.drawImage(sheet, 0, picture % gallery.sheet * height, width, height, 0, y, width, height);
+}
 
-/** A canvas that shows a motion, at first its poster. */
+/** A canvas that shows a motion. */
 class Screen {
-  constructor(canvas, motion, index) {
+  constructor(canvas) {
     this.canvas = canvas;
-    this.shown = -1;
-    this.show(motion, index);
+    canvas.width = gallery.width;
+    canvas.height = gallery.height;
   }
 
-  show(motion, index) {
+  show(motion) {
+    if (motion !== this.motion) this.canvas.width = gallery.width; // clears it
     this.motion = motion;
     this.shown = -1;
-    this.canvas.width = gallery.width;
-    this.canvas.height = gallery.height;
-    postersReady.then(() => {
-      if (this.shown < 0 && this.motion === motion) this.paint(posters, index);
-    });
   }
 
-  paint(sheet, row) {
-    this.canvas.getContext("2d").drawImage(sheet, 0, row * gallery.height, gallery.width,
-      gallery.height, 0, 0, gallery.width, gallery.height);
-  }
-
-  /** Answers false while the picture is still on its way; the old one stays. */
+  /** Returns false while the picture is still on its way; the old one stays. */
   draw(speed, tick) {
-    const known = runs.get(this.motion.id);
-    if (!known) {
-      load(`motions/${this.motion.id}.js`);
+    if (!plays.has(this.motion.id)) {
+      loadMotion(this.motion);
       return false;
     }
-    const picture = pictureAt(known[speed], tick);
-    const sheet = sheetOf(this.motion, Math.floor(picture / gallery.sheet));
+    const picture = pictureAt(this.motion, speed, tick);
+    const sheet = sheetOf(this.motion, picture);
     if (!sheet.ready) return false;
     if (picture !== this.shown) {
-      this.paint(sheet, picture % gallery.sheet);
+      paintPicture(this.canvas.getContext("2d"), sheet, picture, 0);
       this.shown = picture;
       this.canvas.dataset.picture = picture;
     }
@@ -136,44 +125,42 @@ class Screen {
 
 const cards = [];
 
+/** A card of the page, whose poster gives way to what moves. */
 class Card {
-  constructor(motion, index) {
+  constructor(motion) {
     this.motion = motion;
+    this.element = byId(`card-${motion.id}`);
+    this.element.card = this;
+    const heading = this.element.querySelector("h2");
+    heading.append(make("a", { href: `#${motion.slug}` }, ...heading.childNodes));
+    this.ticks = make("p", { className: "ticks" });
+    this.element.querySelector(".text").append(this.ticks);
+    const poster = this.element.querySelector("svg");
     const canvas = make("canvas");
     canvas.setAttribute("role", "img");
-    canvas.setAttribute("aria-label", `${readable(motion)}: ${motion.summary}`);
-    this.ticks = make("p", { className: "ticks" });
-    const number = motion.family === "scroll" ? "" : String(motion.number);
-    this.element = make("li", { id: `card-${motion.id}` },
-      make("div", { className: "screen" }, canvas),
-      make("div", { className: "text" },
-        make("h3", {}, make("a", { href: `#${motion.id}` },
-          make("span", { className: "number", textContent: number }), readable(motion))),
-        make("p", { textContent: motion.summary }), this.ticks));
-    this.screen = new Screen(canvas, motion, index);
-    this.words = [motion.id, readable(motion), motion.summary, motion.family, number].join(" ").toLowerCase();
+    canvas.setAttribute("aria-label", poster.getAttribute("aria-label"));
+    this.screen = new Screen(canvas);
+    this.screen.show(motion);
+    this.showFirst = () => poster.replaceWith(canvas);
+    this.words = [this.element.textContent, motion.family].join(" ").toLowerCase();
     this.inSight = false;
     this.tick = 0;
-    this.tell();
   }
 
-  tell() {
+  restart() {
+    this.tick = 0;
     const { pages, ticks } = this.motion.speeds[state.speed];
     const page = pages.length ? pages[0][1] - pages[0][0] + 1 : ticks;
     this.ticks.textContent =
       `${page} ticks ${pages.length ? "a page" : "in all"} · ${(page * gallery.tick / 1000).toFixed(1)} s`;
   }
 
-  restart() {
-    this.tick = 0;
-    this.tell();
-  }
-
   advance() {
     if (!this.inSight || this.element.hidden) return;
     const { ticks } = this.motion.speeds[state.speed];
-    if (this.screen.draw(state.speed, Math.min(this.tick, ticks - 1)))
-      this.tick = (this.tick + 1) % (ticks + restAfterEnd);
+    if (!this.screen.draw(state.speed, Math.min(this.tick, ticks - 1))) return;
+    if (!this.screen.canvas.isConnected) this.showFirst();
+    this.tick = (this.tick + 1) % (ticks + restAfterEnd);
   }
 }
 
@@ -192,7 +179,7 @@ function filter() {
     found += fits;
   }
   byId("found").textContent = found === cards.length ? "" :
-    found ? `${found} of ${cards.length} motions` : "No motion is called that. Try a family, or fewer letters.";
+    found ? `${found} of ${cards.length} motions` : "No motion has these words. Try a family, or fewer letters.";
 }
 
 function setPaused(paused) {
@@ -208,249 +195,79 @@ function setSpeed(speed) {
     byId(`${id}-shown`).textContent = speed;
   }
   for (const card of cards) card.restart();
-  if (view.motion) {
-    view.tick = 0;
-    view.tell();
-    history.replaceState(null, "", `#${view.motion.id}-${speed}`);
-  }
-}
-
-// ---------------------------------------------------------------------------- one motion at full size
-
-const view = {
-  motion: null,
-  screen: null,
-  tick: 0,
-  playing: true,
-
-  open(motion) {
-    this.motion = motion;
-    this.tick = 0;
-    this.playing = !lessMotion.matches;
-    const index = gallery.motions.indexOf(motion);
-    if (this.screen) this.screen.show(motion, index);
-    else this.screen = new Screen(byId("big"), motion, index);
-    byId("view-name").textContent = readable(motion);
-    byId("view-summary").textContent = motion.summary;
-    byId("big").setAttribute("aria-label", motion.summary);
-    this.tell();
-    if (!byId("view").open) byId("view").showModal();
-    this.fit();
-    byId("play").focus();
-  },
-
-  get play() { return this.motion.speeds[state.speed]; },
-
-  /** The largest whole zoom that there is room for. */
-  fit() {
-    const room = byId("view").clientWidth - 64;
-    const zoom = Math.max(1, Math.floor(room / gallery.width));
-    const style = byId("big").style;
-    style.width = `${zoom * gallery.width}px`;
-    style.height = `${zoom * gallery.height}px`;
-    const isLeds = byId("leds").getAttribute("aria-pressed") === "true" && zoom > 2;
-    const lamp = `radial-gradient(circle closest-side, #000 55%, #0003 85%, transparent 92%) 0 0 / ${zoom}px ${zoom}px`;
-    style.mask = style.webkitMask = isLeds ? lamp : "";
-  },
-
-  tell() {
-    const { ticks, told, real, pages } = this.play;
-    byId("scrub").max = ticks - 1;
-    const scale = 100 / Math.max(1, ticks);
-    const toldTicks = told / gallery.tick;
-    const block = (kind, from, until) => {
-      const element = make("i", { className: kind });
-      element.style.left = `${from * scale}%`;
-      element.style.width = `${Math.max(0, until - from) * scale}%`;
-      return element;
-    };
-    const blocks = pages.length ? pages.flatMap(([from, entered, until]) =>
-      [block("in", from, entered), block("held", entered, until)]) : [block("in", 0, ticks)];
-    if (real > told) blocks.push(block("cut", toldTicks, ticks));
-    byId("blocks").replaceChildren(...blocks);
-    const count = pages.length > 1 ? `${pages.length} pages · ` : "";
-    byId("facts").textContent = real < 0 ?
-      `The host is told ${seconds(told)} s; the device scrolls on for as long as the text is shown. ` +
-        `Once through takes ${inSeconds(ticks)} s.` :
-      `${count}told ${seconds(told)} s · really ${seconds(real)} s` +
-        (real > told ? ` · ${seconds(real - told)} s cut off` :
-          real < told ? ` · the last page stands ${seconds(told - real)} s longer` : "");
-    byId("command").textContent = `animtext author ${gallery.words} ${this.motion.option} --speed ` +
-      `${state.speed} -o sign.json && animtext render sign.json -o sign.gif`;
-    this.draw();
-  },
-
-  draw() {
-    const drawn = this.screen.draw(state.speed, Math.min(this.tick, this.play.ticks - 1));
-    const tick = Math.min(this.tick, this.play.ticks - 1);
-    byId("scrub").value = tick;
-    byId("scrub").setAttribute("aria-valuetext", `${inSeconds(tick)} seconds, tick ${tick}`);
-    byId("now").textContent = `${inSeconds(tick)} s · tick ${tick}`;
-    byId("play").textContent = this.playing ? "Pause" : "Play";
-    return drawn;
-  },
-
-  advance() {
-    if (this.draw() && this.playing) this.tick = (this.tick + 1) % (this.play.ticks + restAfterEnd);
-  },
-
-  go(tick) {
-    this.playing = false;
-    this.tick = Math.max(0, Math.min(this.play.ticks - 1, tick));
-    this.draw();
-  },
-
-  /** To the page before or after. */
-  turn(direction) {
-    const starts = this.play.pages.map((page) => page[0]);
-    const target = direction > 0 ? starts.find((start) => start > this.tick) :
-      starts.filter((start) => start < this.tick).pop();
-    this.go(target ?? (direction > 0 ? this.play.ticks - 1 : 0));
-  },
-};
-
-const viewKeys = {
-  " ": () => byId("play").click(),
-  ArrowLeft: (step) => view.go(view.tick - step),
-  ArrowRight: (step) => view.go(view.tick + step),
-  Home: () => view.go(0),
-  End: () => view.go(view.play.ticks - 1),
-  "[": () => view.turn(-1),
-  "]": () => view.turn(1),
-  l: () => byId("leds").click(),
-  L: () => byId("leds").click(),
-};
-
-/** Where the address leads: a motion, a motion at a speed, or the list. */
-function follow() {
-  const [, id, speed] = /^#([A-Za-z0-9]+?)(?:-([0-9]))?$/.exec(location.hash) ?? [];
-  const motion = gallery.motions.find((candidate) => candidate.id === id);
-  if (motion) {
-    view.motion = null;
-    if (speed) setSpeed(Number(speed));
-    view.open(motion);
-  } else if (byId("view").open) {
-    byId("view").close();
-  }
-}
-
-// ---------------------------------------------------------------------------- told and real times
-
-function cellColor(told, real) {
-  const part = told > 0 ? (real - told) / told : 0;
-  const strength = Math.min(1, Math.abs(part) / 0.15);
-  if (strength < 0.02) return "";
-  const hue = part < 0 ? "var(--short)" : "var(--long)";
-  return `color-mix(in srgb, hsl(${hue} 75% var(--cell)) ${Math.round(25 + 75 * strength)}%, var(--card))`;
-}
-
-function drawMap() {
-  const head = make("tr", {}, make("th", { scope: "col", textContent: "speed" }));
-  for (let speed = 0; speed < 10; ++speed)
-    head.append(make("th", { scope: "col", textContent: speed }));
-  const body = make("tbody");
-  for (const motion of gallery.motions) {
-    const row = make("tr", {}, make("th", { scope: "row", textContent: readable(motion) }));
-    motion.speeds.forEach(({ told, real }, speed) => {
-      const difference = real - told;
-      const words = real < 0 ? `told ${seconds(told)} s, the device scrolls on` :
-        `told ${seconds(told)} s, really ${seconds(real)} s, ` +
-          (difference > 0 ? `${seconds(difference)} s cut off` : `${seconds(-difference)} s left over`);
-      const link = make("a", { href: `#${motion.id}-${speed}`, title: words,
-        textContent: real < 0 ? "on" : (real / 1000).toFixed(1) });
-      link.setAttribute("aria-label", `${readable(motion)} at speed ${speed}: ${words}`);
-      if (real >= 0) link.style.background = cellColor(told, real);
-      row.append(make("td", { className: real < 0 ? "device" : "" }, link));
-    });
-    body.append(row);
-  }
-  byId("times").append(make("thead", {}, head), body);
 }
 
 // ---------------------------------------------------------------------------- the whole page
 
-/** Called by motions.js. */
-function showGallery(told) {
-  gallery = told;
-  byId("about").textContent = `“${told.text}” in ${told.motions.length} motions, ` +
-    `${told.width} × ${told.height} pixels, as the sign paints them: a tick is ${told.tick} ms.`;
-  for (const family of new Set(told.motions.map((motion) => motion.family)))
-    byId("family").append(make("option", { value: family, textContent: family }));
-  told.motions.forEach((motion, index) => {
-    const card = new Card(motion, index);
-    card.element.card = card;
-    cards.push(card);
-    byId("motions").append(card.element);
-    sight.observe(card.element);
+/** Makes every time of the table lead to its motion at that speed. */
+function linkTimes() {
+  const rows = byId("times").tBodies[0].rows;
+  gallery.motions.forEach(({ title, slug }, row) => {
+    [...rows[row].cells].slice(1).forEach((cell, speed) => {
+      const link = make("a", { href: `#${slug}-${speed}` }, ...cell.childNodes);
+      link.setAttribute("aria-label", `${title} at speed ${speed}: ${link.textContent}; ${cell.title}`);
+      cell.append(link);
+    });
   });
+}
+
+function follow() {
+  const target = readAddress(location.hash);
+  if (target) {
+    // Closing then leads back, so that views do not pile up behind the Back button.
+    if (!byId("view").open) history.replaceState("from the list", "");
+    view.open(target);
+  } else {
+    byId("view").close();
+  }
+}
+
+/** Called by motions.js. */
+function showGallery(given) {
+  gallery = given;
+  for (const motion of gallery.motions)
+    motion.slug = motion.title.toLowerCase().replace(/\W+/g, "-");
+  for (const family of new Set(gallery.motions.map((motion) => motion.family)))
+    byId("family").append(make("option", { value: family, textContent: family }));
+  for (const motion of gallery.motions) {
+    const card = new Card(motion);
+    cards.push(card);
+    sight.observe(card.element);
+    byId("other").append(make("option", { value: motion.id, textContent: motion.title }));
+  }
   setPaused(state.paused);
   setSpeed(state.speed);
   listen();
-  follow();
+  listenInView();
+  const target = readAddress(location.hash);
+  if (target) view.open(target);
+  else byId(location.hash.slice(1))?.scrollIntoView(); // again, with all that stands above it
   requestAnimationFrame(beat);
-  // The map is far down: first the motions.
-  setTimeout(drawMap);
+  setTimeout(linkTimes); // the table is far down: first the motions
 }
 
 function listen() {
-  byId("controls").addEventListener("submit", (event) => event.preventDefault());
+  const controls = byId("controls");
+  controls.hidden = false;
+  controls.addEventListener("submit", (event) => event.preventDefault());
+  // What a link leads to is not hidden below the bar, however many rows that has.
+  const measureBar = () =>
+    document.documentElement.style.setProperty("--bar", `${controls.offsetHeight}px`);
+  measureBar();
+  new ResizeObserver(measureBar).observe(controls);
   byId("search").addEventListener("input", filter);
   byId("family").addEventListener("change", filter);
   for (const id of ["speed", "view-speed"])
-    byId(id).addEventListener("input", (event) => setSpeed(Number(event.target.value)));
+    byId(id).addEventListener("input", (event) => {
+      setSpeed(Number(event.target.value));
+      if (!view.motion) return;
+      view.tick = 0;
+      view.describe();
+      view.keepAddress();
+    });
   byId("pause").addEventListener("click", () => setPaused(!state.paused));
   lessMotion.addEventListener("change", () => setPaused(lessMotion.matches));
   addEventListener("hashchange", follow);
-  addEventListener("resize", () => view.motion && view.fit());
-
-  byId("close").addEventListener("click", () => byId("view").close());
-  byId("view").addEventListener("close", () => {
-    const { motion } = view;
-    view.motion = null;
-    if (motion) {
-      history.replaceState(null, "", location.pathname + location.search);
-      byId(`card-${motion.id}`).querySelector("a").focus({ preventScroll: true });
-    }
-  });
-  byId("view").addEventListener("click", (event) => {
-    if (event.target === byId("view")) byId("view").close(); // beside it
-  });
-  byId("view").addEventListener("keydown", (event) => {
-    const act = viewKeys[event.key];
-    const isSpeed = event.target === byId("view-speed") && /Arrow|Home|End/.test(event.key);
-    if (!act || isSpeed || event.ctrlKey || event.altKey || event.metaKey) return;
-    act(event.shiftKey ? 10 : 1);
-    event.preventDefault();
-  });
-  byId("scrub").addEventListener("input", (event) => view.go(Number(event.target.value)));
-  byId("to-start").addEventListener("click", () => view.go(0));
-  byId("back").addEventListener("click", () => view.go(view.tick - 1));
-  byId("on").addEventListener("click", () => view.go(view.tick + 1));
-  byId("to-end").addEventListener("click", () => view.go(view.play.ticks - 1));
-  byId("play").addEventListener("click", () => {
-    view.playing = !view.playing;
-    if (view.playing && view.tick >= view.play.ticks - 1) view.tick = 0;
-    view.draw();
-  });
-  byId("leds").addEventListener("click", () => {
-    byId("leds").setAttribute("aria-pressed", byId("leds").getAttribute("aria-pressed") !== "true");
-    view.fit();
-  });
-  byId("copy").addEventListener("click", copyCommand);
-}
-
-async function copyCommand() {
-  const tell = (words) => {
-    byId("copy").textContent = words;
-    setTimeout(() => { byId("copy").textContent = "Copy"; }, 1500);
-  };
-  try {
-    await navigator.clipboard.writeText(byId("command").textContent);
-    tell("Copied");
-  } catch {
-    getSelection().selectAllChildren(byId("command"));
-    tell("Ctrl+C");
-  }
 }
 
 let lastTick = 0;

@@ -1,0 +1,40 @@
+/**
+ * @file
+ * What the gallery's page shows without its script: a card for each motion, and the table of times.
+ */
+#ifndef ANIMTEXT_PAGE_H
+#define ANIMTEXT_PAGE_H
+
+#include "gallery/motionplay.h"
+#include "scene/catalogue.h"
+
+#include <QByteArray>
+#include <QSize>
+
+namespace AnimText {
+
+constexpr int speedCount = 10;
+
+/** A motion at all speeds. */
+struct GalleryEntry
+{
+    const Motion* motion;
+    QString option; ///< with which `animtext author` chooses it
+    MotionPlay plays[speedCount];
+    int poster = 0; ///< which picture of posters.png, counted from its top
+};
+
+/** "planned 5.20 s · actual 5.35 s · …": what the host shows of @p play. */
+QString TimesInWords(const MotionPlay& play);
+
+/**
+ * @param page index.html, with places for what it shows
+ * @param text what all motions show
+ * @param size of their pictures, in pixels
+ */
+QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& size,
+                    const QVector<GalleryEntry>& entries);
+
+} // namespace AnimText
+
+#endif
