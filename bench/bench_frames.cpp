@@ -221,9 +221,9 @@ void RegisterScene(const Page& page)
         for (const int effect : {4, waves}) { // word by word; waves
             const std::string row = "effect " + std::to_string(effect);
             const int run = TicksOfRun(page, row, entrance, effect, {});
-            add(row, [=](benchmark::State& state) {
-                FirstRun(state, page, effect, run);
-            })->UseManualTime();
+            add(row, [=](benchmark::State& state) { FirstRun(state, page, effect, run); })
+                ->UseManualTime()
+                ->Iterations(leastFrames / run);
         }
         return;
     }
