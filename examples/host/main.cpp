@@ -1,11 +1,11 @@
-// A host in one page: loads the plugin, fills a node, plays it and looks at the display.
+// The smallest host: loads the plugin, fills nodes, plays them and saves what the display shows.
 //
 //   host SCENE.json PICTURE.png [SECONDS]
 //
-// This is all that the plugin asks of an engine. Yours has the same classes with its own insides;
-// on the sign the display is the device's, and nobody composes a picture.
-#include <display.h>       // the device: what a desk has in place of a sign
-#include <hneonnodebase.h> // the host: nodes, what they hold, and who plays them
+// Start here if you put the plugin into your own host, which has the same classes. On a sign, the
+// display belongs to the device, and nobody saves pictures.
+#include <display.h>       // the stand-in for the device
+#include <hneonnodebase.h> // the host's classes: nodes, renderers, plugins
 #include <hpluginmanager.h>
 #include <icontentrender.h>
 #include <inodeplugin.h>
@@ -32,9 +32,8 @@ int Fail(const QString& message)
     return 1;
 }
 
-// Whatever your engine keeps its programs in, this is what a node must be told: its rectangle, how
-// long its pages stand, and by key its attributes, its lists (a row a character or page) and its
-// two data files.
+// What a node needs: its area, how long its pages are held, and by key its attributes, its lists
+// (one row for each character) and its files.
 void Fill(Lw::HNeonNodeBase* node, const QJsonObject& from, const QDir& folder)
 {
     const QJsonArray pos = from["pos"].toArray(), size = from["size"].toArray();
@@ -60,7 +59,7 @@ void Fill(Lw::HNeonNodeBase* node, const QJsonObject& from, const QDir& folder)
         node->SetList(key, rows);
     }
 
-    // The plugin opens these itself, so they are full paths, and they stay while the node plays.
+    // Full paths, because the plugin opens the files itself, in Duration() and Start().
     const QJsonObject files = from["files"].toObject();
     for (const QString& key : files.keys())
         node->SetFiles(key, {folder.absoluteFilePath(files[key].toString())});
@@ -75,7 +74,7 @@ qint64 Elapsed(void* clock)
 
 int main(int argc, char** argv)
 {
-    // The plugin paints into memory and shows no window: a sign's "-platform offscreen" will do.
+    // The plugin shows no window. Without a display, set QT_QPA_PLATFORM=offscreen.
     QGuiApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
     if (words.size() < 3)
@@ -86,15 +85,14 @@ int main(int argc, char** argv)
         return Fail(words[1] + ": " + file.errorString());
     const QJsonObject scene = QJsonDocument::fromJson(file.readAll()).object();
 
-    // 1. The plugin. The loader keeps the object; it is never deleted.
+    // 1. The plugin. The loader keeps the object, so it is not deleted here.
     QPluginLoader loader(ANIMATIONTEXT_PLUGIN);
     auto* plugin = qobject_cast<Lw::INodePlugin*>(loader.instance());
     if (!plugin)
         return Fail(loader.errorString());
 
-    // 2. The nodes, in a tree of program, page, area, node, since the plugin asks for a node's
-    // place
-    //    in it. A parent owns its children, so the program's end is the end of all.
+    // 2. The nodes, in a tree of program, page, area, node. How long the device scrolls depends on
+    //    a node's place in it. A parent owns its children.
     Lw::HNode program;
     std::vector<Lw::HNeonNodeBase*> nodes;
     for (const QJsonValue pageValue : scene["pages"].toArray()) {
@@ -113,17 +111,16 @@ int main(int argc, char** argv)
     }
     if (nodes.empty())
         return Fail(words[1] + " has no node");
-    // 3. The display, and the clock by which it scrolls. Renderers ask once, when they are made,
-    //    whether its layers blend.
+    // 3. The display, and the clock by which it scrolls. A renderer asks once, when it is made,
+    //    whether layers are blended by their alpha.
     QElapsedTimer clock;
     Torv::SetClock(Elapsed, &clock);
     Torv::Display display(
         QSize(scene["display"]["width"].toInt(), scene["display"]["height"].toInt()));
     Lw::HPluginManager::instance()->SetAlphaBlend(scene["alphaBlend"].toBool(true));
 
-    // 4. A renderer for each node, ours to delete, and before its node. Start() paints the first
-    //    frame; from then on the renderer's own timer paints one every 66 ms, in this thread's
-    //    event loop and in no other thread.
+    // 4. A renderer for each node. We own it. Start() paints the first picture; then the renderer's
+    //    timer paints one every 66 ms, in this thread's event loop.
     std::vector<std::unique_ptr<Lw::IContentRender>> renderers;
     int duration = 0;
     clock.start();
@@ -133,14 +130,14 @@ int main(int argc, char** argv)
         duration = std::max(duration, node->Duration());
     }
 
-    // 5. An engine shows a node for the Duration() that it names and goes on, whether it is done
-    //    (renderState() is 0) or not. Here all play at once, as long as the longest or as told.
+    // 5. A host shows a node for its Duration() and goes on, whether renderState() is 0 (finished)
+    //    or not. Here all nodes play at once, for the longest Duration() or for SECONDS.
     if (words.size() > 3)
         duration = int(1000 * words[3].toDouble());
     QTimer::singleShot(duration, Qt::PreciseTimer, &application, &QCoreApplication::quit);
     application.exec();
 
-    // 6. What is on the display now, and the end of the play: the device's memory is given back.
+    // 6. The picture of the display, and the end: Remove() frees the device's memory.
     const QImage picture = display.Compose(clock.elapsed());
     for (const auto& renderer : renderers)
         renderer->Remove();
