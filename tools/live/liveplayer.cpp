@@ -10,7 +10,7 @@ namespace AnimText {
 
 namespace {
 
-constexpr int smoothly = 16; // milliseconds, as screens show pictures
+constexpr int smoothly = 16; // milliseconds, about one frame of a 60 Hz screen
 
 } // namespace
 
@@ -55,7 +55,7 @@ bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* 
     return false;
 }
 
-/** A new stage each time: some of what a play changes outlives a restart, dazzling colors for one.
+/** Uses a new stage each time: some state, such as the dazzle colors, would survive a restart.
  */
 bool LivePlayer::Begin(const Scene& wanted, QString* error)
 {
@@ -95,7 +95,7 @@ bool LivePlayer::Begin(const Scene& wanted, QString* error)
     return true;
 }
 
-/** Starts the timers, right after the plugin's, so that each tick comes right after theirs. */
+/** Starts the timers right after the plugin's, so that each tick follows theirs. */
 void LivePlayer::Run()
 {
     ticks.start(tickLength);
@@ -113,7 +113,7 @@ void LivePlayer::Show()
     emit Shown(shown);
 }
 
-/** What the device moves by itself is not bound to ticks. */
+/** Shows what the device moves by itself, between ticks. */
 void LivePlayer::Move()
 {
     bool moving = false;
@@ -135,7 +135,7 @@ void LivePlayer::Tick()
         Show();
 }
 
-/** The last ones of a schedule are not taken off the display, lest it goes dark. */
+/** Keeps the schedule's last texts on the display, which would go dark otherwise. */
 void LivePlayer::Change()
 {
     if (Time() < schedule.length)
@@ -193,7 +193,7 @@ void LivePlayer::SetPaused(bool wanted)
         return;
     paused = wanted;
     if (paused) {
-        // The plugin's timers begin a whole tick when they go on.
+        // The plugin's timers start with a whole tick when they continue.
         before = lastShown = Time() - Time() % tickLength;
         running.invalidate();
         for (QTimer* timer : {&ticks, &moves, &changes})
@@ -206,7 +206,7 @@ void LivePlayer::SetPaused(bool wanted)
     }
 }
 
-/** Lets every node stand still that should, and no other. */
+/** Stops the nodes that must not play now, and only these. */
 void LivePlayer::Freeze()
 {
     for (int node = 0; node < parts.size(); ++node) {

@@ -1,6 +1,6 @@
 /**
  * @file
- * A scene that plays on the wall clock, with the event loop's own timers.
+ * Plays a scene in real time, with the event loop's own timers.
  */
 #ifndef ANIMTEXT_LIVEPLAYER_H
 #define ANIMTEXT_LIVEPLAYER_H
@@ -22,25 +22,25 @@ namespace AnimText {
 
 struct LiveSettings
 {
-    bool loop = false;     ///< begins anew when everything has come to its end
-    bool schedule = false; ///< as the host plays it, by the times that it is told
+    bool loop = false;     ///< starts again when all texts have ended
+    bool schedule = false; ///< page by page for the planned times, as the host plays
     uint seed = standardSeed;
 };
 
-/** How a play has kept up with the clock. */
+/** How well playing has kept up with the clock. */
 struct Punctuality
 {
-    qint64 time = 0;     ///< milliseconds played, pauses not counted
-    qint64 due = 0;      ///< ticks up to now, the start among them
-    qint64 pictures = 0; ///< of the text, handed to the display by its first node
-    qint64 latest = 0;   ///< the most milliseconds by which the screen came after a tick
-    qint64 madeUp = 0;   ///< ticks that came later than the next one should have
+    qint64 time = 0;     ///< milliseconds played, without pauses
+    qint64 due = 0;      ///< ticks until now, the first one included
+    qint64 pictures = 0; ///< that the first node has given to the display
+    qint64 latest = 0;   ///< longest delay from a tick to the screen, milliseconds
+    qint64 madeUp = 0;   ///< ticks delivered after the next one was due
 };
 
 /**
- * The plugin's timers run in the event loop of the thread, which must not be one on virtual time.
- * What the display shows is told after every tick; where the device moves a text by itself, more
- * often. One player plays at a time.
+ * The plugin's timers run in the event loop of the thread, which must not use virtual time.
+ * Shown() is emitted after every tick, and more often where the device itself moves a text. Only
+ * one player may play at a time.
  */
 class LivePlayer : public QObject
 {
@@ -51,25 +51,25 @@ public:
     ~LivePlayer() override;
 
     /**
-     * Plays @p scene from its start. On failure answers false, with one line in @p error, and goes
-     * on with what it played before.
+     * Plays @p scene from its start. On failure it returns false, with one line in @p error, and
+     * continues with the previous scene.
      */
     bool Play(const Scene& scene, const LiveSettings& settings, QString* error);
 
-    /** The display's clock, and with it everything, stands still. */
+    /** Stops or restarts the display's clock, and everything with it. */
     void SetPaused(bool paused);
     bool IsPaused() const { return paused; }
-    /** Everything has come to its end; only without loop. Being unpaused it begins anew. */
+    /** Whether all texts have ended; never while looping. Unpausing starts the scene again. */
     bool HasEnded() const { return ended; }
 
-    /** Milliseconds since the play began, pauses not counted. */
+    /** Milliseconds since playing started, without pauses. */
     qint64 Time() const;
     const Stage& Scenery() const { return *stage; }
-    /** Since the play began, all its rounds together. */
+    /** Since playing started, over all its loops. */
     Punctuality Kept() const;
 
 signals:
-    /** What the display shows from now on; the same again where a tick has changed nothing. */
+    /** The display's picture, also when a tick has not changed it. */
     void Shown(const QImage& picture);
     void Ended();
 
@@ -94,7 +94,7 @@ private:
     struct Part
     {
         Ending ending = Ending::TooLong;
-        qint64 end = -1; // milliseconds; -1 as long as it is not known
+        qint64 end = -1; // milliseconds; -1 while unknown
         bool frozen = false;
     };
     QVector<Part> parts;
@@ -107,8 +107,8 @@ private:
     qint64 lastShown = 0; // milliseconds at the last tick
     QImage shown;
     Punctuality punctuality;
-    Punctuality earlier;  // of the rounds before
-    bool resting = false; // what finishes has finished and stands still
+    Punctuality earlier;  // of the previous loops
+    bool resting = false; // all nodes that can finish have done so, and are stopped
     bool paused = false;
     bool ended = false;
 };

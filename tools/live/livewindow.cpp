@@ -10,7 +10,7 @@ namespace {
 
 constexpr int largestStandardZoom = 8;
 
-/** The size for a picture of @p size that leaves some of the desktop to be seen. */
+/** The window size for a picture of @p size that does not cover the whole desktop. */
 QSize WindowSize(QSize size, int zoom, QSize desktop)
 {
     const QSize room = desktop * 4 / 5;
@@ -42,12 +42,12 @@ void LiveWindow::Open(const QString& title, QSize size, bool fullScreen)
     Present(fullScreen || !isOnDesktop);
 }
 
-/** A sign has no surroundings; on a desk they are grey. */
+/** Around the picture, full screen is black like a sign, and a window is gray. */
 void LiveWindow::Present(bool fullScreen)
 {
     SetSurroundings(fullScreen ? Qt::black : QColor(0x50, 0x50, 0x50));
     setCursor(fullScreen ? Qt::BlankCursor : Qt::ArrowCursor);
-    // Without a window manager nobody else makes it as large, or as small again.
+    // Without a window manager, showFullScreen() does not resize the window.
     if (fullScreen) {
         setGeometry(screen()->geometry());
         showFullScreen();

@@ -10,7 +10,7 @@
 
 namespace AnimText {
 
-/** Shows what a player shows. It fills the screen where no desktop would give it a frame. */
+/** Shows a player's picture. Without a desktop it fills the screen. */
 class LiveWindow : public PictureView
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ public:
     /** @param player outlives the window */
     explicit LiveWindow(LivePlayer* player);
 
-    /** Shows the window for pictures of @p size in their zoom, or as large as suits the screen. */
+    /** Shows the window for pictures of @p size: at the zoom that was set, or as large as the
+     * screen allows. */
     void Open(const QString& name, QSize size, bool fullScreen);
 
 protected:

@@ -14,11 +14,11 @@ namespace {
 
 constexpr int largestZoom = 64;
 constexpr double largestPitch = 4;
-constexpr int chequer = 8; // points of the desk
+constexpr int checker = 8; // logical pixels
 constexpr double leastFilled = 0.8;
 constexpr double largestSoftScale = 4;
 
-/** The largest rows in which two pictures of one size and format differ; empty when in none. */
+/** The rows in which two pictures of the same size and format differ; empty if they are equal. */
 QRect Difference(const QImage& one, const QImage& other)
 {
     const auto differ = [&](int y) {
@@ -34,10 +34,10 @@ QRect Difference(const QImage& one, const QImage& other)
     return top == one.height() ? QRect() : QRect(0, top, one.width(), bottom - top + 1);
 }
 
-/** How brightly a lamp shines in each of the @p size × @p size pixels around it, 0 .. 256. */
+/** Brightness of an LED in each of the @p size × @p size pixels around it, 0 to 256. */
 std::vector<quint32> Lamp(int size, double pitch)
 {
-    constexpr int samples = 4; // of a pixel, each way
+    constexpr int samples = 4; // per pixel and direction
     const double radius = size / pitch / 2;
     std::vector<quint32> light(size_t(size) * size_t(size));
     for (int i = 0; i < size * size * samples * samples; ++i) {
@@ -54,7 +54,7 @@ std::vector<quint32> Lamp(int size, double pitch)
     return light;
 }
 
-/** @p color, which has no alpha to speak of, at @p light of 256. */
+/** @p color, which is opaque, at the brightness @p light of 256. */
 QRgb Dimmed(QRgb color, quint32 light)
 {
     const quint32 redBlue = ((color & 0xFF00FF) * light >> 8) & 0xFF00FF;
@@ -64,7 +64,7 @@ QRgb Dimmed(QRgb color, quint32 light)
 
 QBrush Chequers(double ratio)
 {
-    const int side = std::max(1, int(std::lround(chequer * ratio)));
+    const int side = std::max(1, int(std::lround(checker * ratio)));
     QImage tile(2 * side, 2 * side, QImage::Format_RGB32);
     for (int y = 0; y < tile.height(); ++y) {
         for (int x = 0; x < tile.width(); ++x)
@@ -127,7 +127,7 @@ void PictureView::SetZoom(int wanted)
 void PictureView::SetPitch(double wanted)
 {
     pitch = wanted > 0 ? qBound(1.0, wanted, largestPitch) : 0;
-    LookChanged(); // lamps are whole
+    LookChanged(); // LEDs need a whole scale
 }
 
 void PictureView::SetFillsRoom(bool fills)
@@ -165,7 +165,8 @@ double PictureView::Scale() const
     const double fit =
         std::min(width() * ratio / picture.width(), height() * ratio / picture.height());
     const double whole = std::min(std::floor(fit), std::floor(largestZoom * ratio));
-    const bool wastesRoom = fillsRoom && whole < leastFilled * fit && pitch <= 0; // lamps are alike
+    const bool wastesRoom =
+        fillsRoom && whole < leastFilled * fit && pitch <= 0; // LEDs must look alike
     return fit < 1 || (wastesRoom && fit < largestSoftScale) ? fit : whole;
 }
 
@@ -174,7 +175,7 @@ bool PictureView::ShowsLamps() const
     return pitch > 0 && Scale() >= smallestLamp;
 }
 
-/** Where the picture stands, in the screen's own pixels from the widget's corner. */
+/** The picture's rectangle in physical pixels from the widget's corner. */
 QRect PictureView::Place() const
 {
     const double ratio = devicePixelRatioF();
@@ -209,7 +210,7 @@ QSize PictureView::minimumSizeHint() const
     return zoom > 0 ? sizeHint() : QSize(64, 16);
 }
 
-/** The pixels of @p part of the picture as squares or lamps. */
+/** The pixels of @p part of the picture as squares or LEDs. */
 QImage PictureView::Magnified(const QRect& part) const
 {
     const int size = int(std::ceil(Scale()));
@@ -232,7 +233,7 @@ QImage PictureView::Magnified(const QRect& part) const
     return large;
 }
 
-/** Paints in the screen's own pixels; the painter's origin is the widget's corner. */
+/** Paints in physical pixels; the painter's origin is the widget's corner. */
 void PictureView::Paint(QPainter* painter) const
 {
     const double ratio = devicePixelRatioF();
@@ -286,7 +287,7 @@ QImage PictureView::GrabPicture() const
 void PictureView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    // A widget may stand between two of the screen's pixels when a point has a pixel and a half.
+    // At a device pixel ratio of 1.5, a widget may start between two physical pixels.
     const QTransform device = painter.deviceTransform();
     const QTransform corner =
         QTransform::fromTranslate(std::round(device.dx()), std::round(device.dy()));

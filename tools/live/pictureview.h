@@ -1,6 +1,6 @@
 /**
  * @file
- * A widget that shows one picture, exactly: as pixels or as the lamps of a sign.
+ * A widget that shows one picture exactly, as square pixels or as a sign's round LEDs.
  */
 #ifndef ANIMTEXT_PICTUREVIEW_H
 #define ANIMTEXT_PICTUREVIEW_H
@@ -13,17 +13,17 @@
 namespace AnimText {
 
 /**
- * The pixels of @p picture, which has no alpha, as round lamps on black.
- * @param size pixels from lamp to lamp
- * @param pitch the same in diameters of a lamp, 1 .. 4
+ * Draws the pixels of @p picture, which has no alpha, as round LEDs on black.
+ * @param size pixels from LED to LED
+ * @param pitch the same in LED diameters, 1 to 4
  */
 QImage AsLamps(const QImage& picture, int size, double pitch);
 
 /**
- * Every pixel of the picture becomes a square, or a round lamp, of a whole number of the screen's
- * own pixels, so that nothing is blurred; only a picture that is to fit into less than its own size
- * is scaled down smoothly. A picture smaller than the widget stands in the middle of it, a larger
- * one at the top left. In a QScrollArea with a resizable widget, a fixed zoom scrolls.
+ * Each pixel of the picture becomes a square or a round LED of a whole number of physical pixels,
+ * so that nothing is blurred. Only a picture that must fit into less than its own size is scaled
+ * down smoothly. A picture smaller than the widget is centered; a larger one starts at the top
+ * left. In a QScrollArea with a resizable widget, a fixed zoom scrolls.
  */
 class PictureView : public QWidget
 {
@@ -34,44 +34,44 @@ public:
 
     explicit PictureView(QWidget* parent = nullptr);
 
-    /** The picture as it was given; its device pixel ratio is not looked at. */
+    /** The picture as it was set; its device pixel ratio is ignored. */
     const QImage& Picture() const { return picture; }
     void SetPicture(const QImage& picture);
 
-    /** Points of the desk to a pixel of the picture, 1 .. 64; 0 fits it into the widget. */
+    /** Logical pixels per pixel of the picture, 1 to 64; 0 fits it into the widget. */
     int Zoom() const { return zoom; }
     void SetZoom(int zoom);
-    /** The screen's own pixels to a pixel of the picture; whole unless it is to fit. */
+    /** Physical pixels per pixel of the picture; a whole number unless the picture is fitted. */
     double Scale() const;
 
     /**
-     * From lamp to lamp, in diameters of a lamp, 1 .. 4; 0 shows plain pixels, as does a scale
-     * below smallestLamp. Lamps stand on black.
+     * Distance from LED to LED in LED diameters, 1 to 4. 0 shows plain pixels, and so does a scale
+     * below smallestLamp. LEDs are shown on black.
      */
     double Pitch() const { return pitch; }
     void SetPitch(double pitch);
-    static constexpr int smallestLamp = 4; ///< the screen's own pixels from lamp to lamp
+    static constexpr int smallestLamp = 4; ///< physical pixels from LED to LED
 
     /**
-     * Whether a picture that is to fit fills the room: where whole numbers would leave a fifth of
-     * it unused, up to four times its size, its pixels become squares with soft edges.
+     * Whether a fitted picture may use the whole widget: below a scale of 4, where a whole number
+     * would leave a fifth of it unused, its pixels become squares with soft edges.
      */
     void SetFillsRoom(bool fills);
 
     void SetBeneath(Beneath beneath);
-    /** What is seen around the picture; a grey by which colours are judged right. */
+    /** The color around the picture; next to gray, colors are judged correctly. */
     void SetSurroundings(const QColor& color);
-    /** For a picture that is no longer true. */
+    /** Marks a picture that is out of date. */
     void SetDimmed(bool dimmed);
 
-    /** From the picture's coordinates, in which a pixel is 1 × 1, to the widget's. */
+    /** Maps the picture's coordinates, in pixels, to the widget's. */
     QTransform ToWidget() const;
-    /** The pixel under a point of the widget, or beyond the picture's edges. */
+    /** The pixel under @p point of the widget; it may be outside the picture. */
     QPoint PixelAt(const QPointF& point) const;
 
     /**
-     * The picture read back from what the widget paints, without what lies over it: a test compares
-     * it with Picture(). Null where lamps or a scale that is not whole leave no pixel as it is.
+     * For tests: the picture read back from the painted widget, without its overlay. Null with LEDs
+     * or a fractional scale, where no pixel is painted exactly.
      */
     QImage GrabPicture() const;
 
@@ -79,13 +79,13 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    /** Another zoom, or another scale because the widget's size changed. */
+    /** The scale has changed, with the zoom or with the widget's size. */
     void ScaleChanged(double scale);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    /** Draws over the picture, in the widget's coordinates; see ToWidget(). */
+    /** Draws over the picture in the widget's coordinates; see ToWidget(). */
     virtual void PaintOverlay(QPainter* painter);
 
 private:
@@ -96,7 +96,7 @@ private:
     void LookChanged();
 
     QImage picture;
-    QImage pixels; // the same, over what lies beneath
+    QImage pixels; // the picture on its background
     QColor surroundings;
     Beneath beneath = Beneath::Black;
     int zoom = 0;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int restTime = 50; // milliseconds without a change
 
-/** Tells a file from another, and from what it was before; empty when there is none. */
+/** A string that changes when the file changes or is replaced; empty if there is no file. */
 QString Mark(const QString& file)
 {
     struct stat state = {};
@@ -63,7 +63,7 @@ void SceneWatcher::Accept()
         *file = Mark(file.key());
 }
 
-/** Files that were replaced are no longer watched, so this is done after every change. */
+/** Called after every change, because files that were replaced are no longer watched. */
 void SceneWatcher::WatchAll()
 {
     QSet<QString> wanted;

@@ -1,6 +1,6 @@
 /**
  * @file
- * Notices when a scene changes on the disk.
+ * Notices when a scene changes on disk.
  */
 #ifndef ANIMTEXT_SCENEWATCHER_H
 #define ANIMTEXT_SCENEWATCHER_H
@@ -15,8 +15,8 @@
 namespace AnimText {
 
 /**
- * Watches a scene file and its data files, and their folders, so that a file that takes another's
- * place, or comes back, is noticed as well.
+ * Watches a scene file, its data files and their folders, so that it also notices files that are
+ * replaced or come back.
  */
 class SceneWatcher : public QObject
 {
@@ -26,15 +26,15 @@ public:
     explicit SceneWatcher(QObject* parent = nullptr);
 
     /**
-     * Watches @p scene in place of what was watched. A change since the last Changed() is not lost:
-     * what was watched before is compared with what it was then.
+     * Watches @p scene instead of the previous one. No change since the last Changed() is lost:
+     * files that were watched before are compared with their previous state.
      */
     void Watch(const Scene& scene);
-    /** Takes the files as they are now for known, say after writing them. */
+    /** Accepts the files as they are now, for example after writing them. */
     void Accept();
 
 signals:
-    /** Once for changes that come together, when they have come to rest. */
+    /** Emitted once for several changes, when no more follow. */
     void Changed();
 
 private:
@@ -43,7 +43,7 @@ private:
 
     QFileSystemWatcher watcher;
     QTimer rest;
-    QMap<QString, QString> files; // full names, and by what a file is known from another
+    QMap<QString, QString> files; // full name, and Mark() of its state
 };
 
 } // namespace AnimText

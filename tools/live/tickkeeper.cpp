@@ -9,7 +9,7 @@ namespace AnimText {
 
 namespace {
 
-constexpr qint64 longestWork = 500; // milliseconds; painting may be slower than the clock
+constexpr qint64 longestWork = 500; // milliseconds to spend on skipped ticks
 
 } // namespace
 

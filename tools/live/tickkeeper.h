@@ -13,10 +13,10 @@
 namespace AnimText {
 
 /**
- * Qt's timers leave out the ticks for which the event loop comes too late, and a play would fall
- * behind the clock for good. While this lives, timers of a tick's interval are told of these ticks
- * all the same, as soon as the loop comes round. What cannot be made up for in half a second, say
- * where painting is slower than the clock, is left out.
+ * Qt's timers skip ticks when the event loop is late, so playing would stay behind the clock for
+ * good. While this object exists, it delivers the skipped ticks to timers of a tick's interval as
+ * soon as the event loop runs again. It gives up on ticks that it cannot deliver within half a
+ * second, for example when painting is slower than the clock.
  */
 class TickKeeper : public QObject
 {
@@ -25,14 +25,14 @@ class TickKeeper : public QObject
 public:
     explicit TickKeeper(QObject* parent = nullptr);
 
-    /** Ticks that were made up for, of all timers together. */
+    /** Number of skipped ticks that were delivered, of all timers together. */
     qint64 MadeUp() const { return madeUp; }
 
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     QElapsedTimer clock;
-    QHash<int, qint64> due; // of each timer's last tick, milliseconds; restarted ones have new ids
+    QHash<int, qint64> due; // time of each timer's last tick, milliseconds, by timer id
     qint64 madeUp = 0;
     bool sending = false;
 };

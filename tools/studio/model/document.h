@@ -1,6 +1,6 @@
 /**
  * @file
- * The sign that is open: its changes and their way back, its file, its layouts.
+ * The open sign with its undo history, its file and its layouts.
  */
 #ifndef ANIMTEXT_DOCUMENT_H
 #define ANIMTEXT_DOCUMENT_H
@@ -16,55 +16,56 @@
 
 namespace AnimText {
 
-/** Opening and changing take no longer than a moment; layouts and saving go on in threads. */
+/** Opening and changing a sign return at once; laying out and saving run in threads. */
 class Document : public QObject
 {
     Q_OBJECT
 
 public:
     explicit Document(QObject* parent = nullptr);
-    /** Waits until a save that is going on has ended. */
+    /** Waits for a save that is running. */
     ~Document() override;
 
     const Sign& Current() const { return sign; }
     QUndoStack* Undo() { return &undo; }
-    /** The file that it was read from or saved to; empty for a new sign. */
+    /** The file that the sign was read from or saved to; empty for a new sign. */
     QString Path() const { return path; }
-    /** The name of the file, for people. */
+    /** The file's name, or a title for a new sign. */
     QString Name() const;
     bool IsModified() const { return !undo.isClean(); }
     /** From Save() until SaveEnded(). */
     bool IsSaving() const { return saving || !savePath.isEmpty(); }
 
     /**
-     * Makes @p after the sign, as a step that can be undone. Steps with the same @p merge that
-     * follow one another are one; an empty one stands alone.
+     * Replaces the sign with @p after, as a step that can be undone. Consecutive steps with the
+     * same
+     * @p merge become one; an empty @p merge never does.
      */
     void Change(const QString& what, Sign after, const QString& merge = QString());
 
-    /** A sign with one text, nothing written yet. */
+    /** Starts a sign with one text and no file. */
     void New(const QSize& display = Sign().display, bool alphaBlend = true);
-    /** @return false, with one line in @p error, when the scene cannot be read */
+    /** @return false, with one line in @p error, if the scene cannot be read */
     bool Open(const QString& path, QString* error);
-    /** Takes over what another studio has left; @p path is the file it is for. */
+    /** Opens a recovered sign; @p path is the file that it belongs to. */
     void Recover(const Sign& sign, const QString& path);
 
-    /** Saves once the layouts are made; SaveEnded() tells what became of it. */
+    /** Saves when the layouts are ready, and then emits SaveEnded(). */
     void Save(const QString& path);
-    /** What the file holds by now, as a step that can be undone. */
+    /** Loads the file's present content as a step that can be undone. */
     bool LoadTheirs(QString* error);
-    /** Lets the next save go over what somebody else has written to the file meanwhile. */
+    /** Lets the next save overwrite what somebody else has written to the file. */
     void KeepMine();
 
 signals:
-    /** The sign is another one. */
+    /** Another sign was opened. */
     void Replaced();
-    /** Something of it has changed; also after Replaced(), and when a layout was made. */
+    /** The sign has changed, was replaced, or has a new layout. */
     void Changed();
-    /** Path, name, or whether there is something to save. */
+    /** The path, the name or IsModified() has changed. */
     void StateChanged();
     void SaveEnded(bool saved, const QString& error);
-    /** The file holds something else than what was read from it or saved to it. */
+    /** Somebody else has changed the file since it was read or saved. */
     void DiskChanged();
 
 private:
@@ -84,24 +85,24 @@ private:
     QUndoStack undo;
     LayoutQueue layouts;
     QString path;
-    QString savePath; // where to, once the layouts are made; empty: nowhere
+    QString savePath; // target of a save that waits for layouts; empty for none
     bool saving = false;
     int revision = 0;  // counts changes
-    int opened = 0;    // revision with which the sign began
-    QByteArray onDisk; // digest of the file as it is known
-    QByteArray told;   // digest of which DiskChanged() has told
-    QTimer telling;    // of layouts
+    int opened = 0;    // revision of the sign when it was opened
+    QByteArray onDisk; // digest of the file as last read or saved
+    QByteArray told;   // digest that DiskChanged() was last emitted for
+    QTimer telling;    // delays Changed() for new layouts
     QFileSystemWatcher watcher;
     QThreadPool pool;
 };
 
-/** A digest of what the file at @p path holds; empty when there is none. */
+/** A digest of the file's content; empty if there is no file. */
 QByteArray DigestOfFile(const QString& path);
 
 /**
- * Writes @p sign to @p path in one step, data files and sources with it.
- * @param known digest of what is there; anything else that is there is kept, and an error says so;
- *        empty to write whatever is there
+ * Writes @p sign with its data files and sources to @p path, completely or not at all.
+ * @param known digest that the present file must have, otherwise this fails and keeps the file;
+ *        empty to overwrite any file
  */
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error);
 

@@ -13,7 +13,7 @@ LayoutQueue::LayoutQueue(QObject* parent)
     : QObject(parent)
     , made(rememberedBytes)
 {
-    // One thread, which stays: fonts are loaded in each anew.
+    // One permanent thread: each new thread would load the fonts again.
     pool.setMaxThreadCount(1);
     pool.setExpiryTimeout(-1);
 }

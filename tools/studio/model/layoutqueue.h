@@ -1,6 +1,6 @@
 /**
  * @file
- * Lays texts out in a thread of its own, so that long ones keep nobody waiting.
+ * Lays out texts in a thread, so that long ones do not block the window.
  */
 #ifndef ANIMTEXT_LAYOUTQUEUE_H
 #define ANIMTEXT_LAYOUTQUEUE_H
@@ -23,12 +23,12 @@ public:
     /** Waits for the text that is being laid out. */
     ~LayoutQueue() override;
 
-    /** The layout that @p text asks for, if it was made lately; else null. */
+    /** The layout of @p text if it was made recently; otherwise null. */
     std::shared_ptr<const Layout> Find(const SignText& text) const;
     void Remember(const std::shared_ptr<const Layout>& layout);
-    /** Lets the layout @p text asks for be made again. */
+    /** Forgets the layout of @p text, so that it is made again. */
     void Forget(const SignText& text) { made.remove(text.layoutKey); }
-    /** Makes it; an earlier wish for the same text is forgotten. */
+    /** Lays out @p text and emits Made(); replaces a waiting request for the same text. */
     void Ask(const SignText& text);
 
 signals:
@@ -40,8 +40,8 @@ private:
 
     QThreadPool pool;
     QList<SignText> waiting;
-    QCache<QByteArray, std::shared_ptr<const Layout>> made; // costs are bytes
-    QByteArray current;                                     // key of what is being laid out
+    QCache<QByteArray, std::shared_ptr<const Layout>> made; // cost in bytes
+    QByteArray current;                                     // key of the running layout
 };
 
 } // namespace AnimText

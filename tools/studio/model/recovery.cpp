@@ -20,7 +20,7 @@ const QString lockName = QStringLiteral("lock");
 const QString sceneName = QStringLiteral("scene.json");
 const QString aboutName = QStringLiteral("about.json");
 
-/** Unlike a scene that is saved, a copy may have mistakes. What it names comes before it. */
+/** Unlike a saved scene, a copy may have errors. Data files are written before the scene. */
 bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
 {
     const QDir dir(folder);
@@ -90,7 +90,7 @@ void Recovery::Look()
 void Recovery::Keep()
 {
     if (!document->Current().IsLaidOut())
-        return; // comes again when it is
+        return; // called again when it is
     if (!lock) {
         QDir().mkpath(folder);
         lock = std::make_unique<QLockFile>(QDir(folder).filePath(lockName));
@@ -110,7 +110,7 @@ void Recovery::Keep()
 void Recovery::TakeOver(const LostWork& work)
 {
     document->Recover(work.sign, work.path);
-    taken = work.folder; // after what the document told of itself while it was replaced
+    taken = work.folder; // set last: opening the sign has called Look()
 }
 
 QList<LostWork> Recovery::Find() const
@@ -124,7 +124,7 @@ QList<LostWork> Recovery::Find() const
         QLockFile itsLock(dir.filePath(lockName));
         itsLock.setStaleLockTime(0);
         if (!itsLock.tryLock())
-            continue; // its studio is there
+            continue; // its studio is still running
         LostWork work;
         work.folder = dir.path();
         const QString scenePath = dir.filePath(sceneName);

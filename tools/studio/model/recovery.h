@@ -1,6 +1,6 @@
 /**
  * @file
- * What has not been saved, kept so that a studio that is killed loses nothing.
+ * Keeps a copy of unsaved work, so that a studio that is killed loses nothing.
  */
 #ifndef ANIMTEXT_RECOVERY_H
 #define ANIMTEXT_RECOVERY_H
@@ -16,40 +16,40 @@
 
 namespace AnimText {
 
-/** Work that was found. */
+/** Unsaved work of a studio that has ended. */
 struct LostWork
 {
-    QString folder; ///< where it is kept
-    QString path;   ///< the file that it is for; empty for a new sign
+    QString folder; ///< folder of the copy
+    QString path;   ///< the file that it belongs to; empty for a new sign
     QDateTime when;
     Sign sign;
 };
 
 /**
- * Keeps a copy of a document that has changes, in a folder of its own below the folder of all
- * copies, a moment after each change; removes it when they are saved or given up.
+ * Writes a copy of a changed document to its own folder, half a second after each change. Removes
+ * the copy when the changes are saved or given up.
  */
 class Recovery : public QObject
 {
     Q_OBJECT
 
 public:
-    /** @param folder of all copies; empty for the user's own */
+    /** @param folder parent of the copies' folders; empty for the user's default */
     Recovery(Document* document, const QString& folder = QString(), QObject* parent = nullptr);
-    /** Gives the copy up: what was not saved then was not wanted. */
+    /** Removes the copy: the user has decided not to save. */
     ~Recovery() override;
 
-    /** What studios have left that are there no more; the latest first. */
+    /** The copies of studios that no longer run, latest first. */
     QList<LostWork> Find() const;
-    /** Makes it the document's; it stays until there is a copy of the document. */
+    /** Opens it in the document; keeps it until the document has a copy of its own. */
     void TakeOver(const LostWork& work);
-    /** Removes it for good. */
+    /** Deletes the copy. */
     static void Drop(const LostWork& work);
-    /** Keeps the copy when this object goes. */
+    /** Makes the destructor keep the copy. */
     void LeaveCopy() { leaves = true; }
 
 signals:
-    /** A copy has been made. */
+    /** The copy has been written. */
     void Kept();
 
 private:
@@ -59,7 +59,7 @@ private:
     Document* document;
     QString root;
     QString folder;
-    QString taken; // folder of what was taken over, as long as there is no other copy
+    QString taken; // folder of the restored copy until there is a new one
     std::unique_ptr<QLockFile> lock;
     QTimer delay;
     QThreadPool pool;

@@ -21,14 +21,13 @@ const QString pathData = QStringLiteral("PathData");
 const QString descentVector = QStringLiteral("DescentVector");
 const QString textKey = QStringLiteral("Text");
 
-/** The data files of our own are small; a sign's largest is 256 MiB. */
 QByteArray Content(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/** The layout that a node of @p scene came with. */
+/** The layout that is stored in the scene. */
 std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node,
                                        const QByteArray& key)
 {
@@ -41,7 +40,7 @@ std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node
             continue;
         const QString name = scene.FullName(node.files.value(key));
         layout->files[key] = name;
-        // Whoever else works in the folder may remove the file.
+        // Read now, because the file may be removed later.
         (key == pathData ? layout->outlines : layout->descents) = Content(name);
     }
     return layout;
@@ -76,7 +75,7 @@ SceneNode NodeOf(const SignText& text, const PlaceFile& placeFile)
     return node;
 }
 
-/** @p file as it is to stand in a scene of @p folder. */
+/** @p file relative to @p folder if it is below it, otherwise unchanged. */
 QString NameIn(const QDir& folder, const QString& file)
 {
     const QString near = folder.relativeFilePath(file);
@@ -192,7 +191,7 @@ void RemoveText(Sign* sign, int id)
 
 namespace {
 
-constexpr int aloneInArea = -1; // in place of an area's number
+constexpr int aloneInArea = -1; // instead of an area number
 
 using Pages = QList<QList<SignText>>;
 
@@ -206,7 +205,7 @@ Pages PagesOf(const Sign& sign)
     return pages;
 }
 
-/** Numbers pages and areas anew; texts of one area that still follow one another share it. */
+/** Renumbers pages and areas; adjacent texts of the same area stay together. */
 void SetPages(Sign* sign, const Pages& pages)
 {
     sign->texts.clear();
@@ -241,7 +240,7 @@ QPoint FreePlace(const Sign& sign, const SignText& text)
         if (isFree && display.contains(next))
             return next.topLeft();
     }
-    return old.topLeft() + QPoint(8, 8); // at least both are seen
+    return old.topLeft() + QPoint(8, 8); // offset, so that both are visible
 }
 
 } // namespace
@@ -320,7 +319,7 @@ QByteArray LayoutKey(const SignText& text)
                                QByteArray::number(node.size.width()) + ' ' +
                                QByteArray::number(node.size.height());
     TextSource source = text.source;
-    source.name.clear(); // no sign shows it
+    source.name.clear(); // does not affect the layout
     return QCryptographicHash::hash(SourcesToJson({{setting, source}}), QCryptographicHash::Sha1);
 }
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * What the studio edits: the texts of a sign as their authors wrote them.
+ * The studio's model: the texts of a sign with their styles and settings.
  */
 #ifndef ANIMTEXT_SIGN_H
 #define ANIMTEXT_SIGN_H
@@ -17,37 +17,37 @@
 
 namespace AnimText {
 
-/** What came of laying out one text; shared, and never changed. */
+/** The result of laying out one text; shared and immutable. */
 struct Layout
 {
     QString text; ///< with the spaces that were added as margins
     QMap<QString, QList<QHash<QString, QString>>> lists;
-    QMap<QString, QString> files; ///< data files that lie somewhere already, full names
+    QMap<QString, QString> files; ///< data files that exist already, full names
     QByteArray outlines;          ///< content of "PathData"
     QByteArray descents;          ///< content of "DescentVector"
     QList<UnseenCharacter> unseen;
     QStringList tornWords;
-    QStringList notes; ///< what of the wishes no sign shows
+    QStringList notes; ///< styles that no sign can show
     int pages = 1;
     int cutAbove = 0; ///< pixels
     int cutBelow = 0;
-    QString fault;  ///< why there is no layout; empty when there is one
+    QString fault;  ///< why the layout failed; empty on success
     QByteArray key; ///< LayoutKey() of what it was made from
 };
 
 /** One text of a sign. */
 struct SignText
 {
-    int id = 0;     ///< stays the same as long as the text is there
-    int page = 0;   ///< counted from 0, as areas are
-    int area = 0;   ///< within its page
-    SceneNode node; ///< its settings; what layout makes is not in it
+    int id = 0;     ///< unique and constant
+    int page = 0;   ///< from 0
+    int area = 0;   ///< within its page, from 0
+    SceneNode node; ///< its settings, without the results of the layout
     TextSource source;
-    std::shared_ptr<const Layout> layout; ///< null, or of an earlier state, while it is being made
-    QByteArray layoutKey;                 ///< of the layout that its settings ask for
+    std::shared_ptr<const Layout> layout; ///< null or outdated while a new one is being made
+    QByteArray layoutKey;                 ///< key of the layout for the present settings
 
     bool IsLaidOut() const { return layout && layout->key == layoutKey; }
-    /** Its name, or the text on one line, for people. */
+    /** Its name if it has one, otherwise the text on one line. */
     QString Title() const
     {
         return source.name.isEmpty() ? source.text.text.simplified() : source.name;
@@ -61,7 +61,7 @@ struct Sign
     bool alphaBlend = true;
     QList<SignText> texts;
 
-    /** Where the text @p id stands; -1 when there is none. */
+    /** Index of the text @p id; -1 if there is none. */
     int IndexOf(int id) const;
     SignText* Find(int id);
     const SignText* Find(int id) const;
@@ -69,56 +69,55 @@ struct Sign
     bool IsLaidOut() const;
 };
 
-/** A number for a text that no other has had in this process. */
+/** A text id that is unique in this process. */
 int NewTextId();
 
-/** A text for a new area of its own on @p page, in a common font. */
+/** A sample text in a common font, for a new area on @p page. */
 SignText NewText(const QSize& area, int page);
 
-/** Puts @p text behind those of its page, in an area of its own. */
+/** Adds @p text after the others of its page, in a new area. */
 void AddText(Sign* sign, SignText text);
-/** Takes the text out, and areas and pages that are empty then. */
+/** Removes the text, and its area and page if they become empty. */
 void RemoveText(Sign* sign, int id);
 
 /**
- * Moves the text to that place among those of @p page, in an area of its own when the page is
- * another one; PageCount() stands for a new page. A page that is empty then goes.
+ * Moves the text to index @p place of @p page, into an area of its own. If @p page is PageCount(),
+ * adds a page. Removes pages that become empty.
  */
 void MoveText(Sign* sign, int id, int page, int place);
-/** Moves a page before the one that is at @p to by now; PageCount() for the end. */
+/** Moves a page before page @p to (numbered before the move); PageCount() is the end. */
 void MovePage(Sign* sign, int page, int to);
 void RemovePage(Sign* sign, int page);
-/** Puts a copy of the page behind it; its texts have new ids. */
+/** Inserts a copy of the page after it; the copied texts get new ids. */
 void DuplicatePage(Sign* sign, int page);
-/** Puts a copy of the text behind it, where its area covers no other as far as there is room. */
+/** Inserts a copy of the text after it, in a free place of the display if there is one. */
 int DuplicateText(Sign* sign, int id);
 
-/** Gives the sign another display; areas that fill the old one fill the new one. */
+/** Changes the display's size; areas that filled the old display fill the new one. */
 void ResizeDisplay(Sign* sign, const QSize& display);
 
-/** The wishes that decide how @p text is laid out, as a key. */
+/** A key of the settings that the layout of @p text depends on. */
 QByteArray LayoutKey(const SignText& text);
 
-/** Lays @p text out. May run in any thread; needs a QGuiApplication. */
+/** Lays out @p text. Runs in any thread; needs a QGuiApplication. */
 std::shared_ptr<const Layout> MakeLayout(const SignText& text);
 
-/** The sign in the scene @p scene, as far as the scene and @p sources tell. */
+/** The sign of a scene; texts that @p sources lacks are guessed from the scene. */
 Sign SignOf(const Scene& scene, const TextSources& sources);
 
-/** Gives the data file of @p layout, with its outlines or with its descents, a place and a name. */
+/** Returns a file name for the outlines, or else for the descents, of @p layout. */
 using PlaceFile = std::function<QString(const Layout& layout, bool outlines)>;
 
 /**
- * The scene of @p sign for the file @p path. Data files whose content is not known keep their
- * names.
- * @param page the only page that is wanted; negative for all
+ * The scene of @p sign for the file @p path. Data files with unknown content keep their names.
+ * @param page the only page to include; negative for all
  */
 Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile, int page = -1);
 
-/** The same with all its pages, and with the data files to be written beside it. */
+/** The scene with all its pages, and the data files to write beside it. */
 Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles);
 
-/** The sources of the texts of @p scene, which was made from @p sign with all its pages. */
+/** The text sources of @p sign for @p scene, which was made from it with all pages. */
 TextSources SourcesOf(const Sign& sign, const Scene& scene);
 
 } // namespace AnimText

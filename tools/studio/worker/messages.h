@@ -1,6 +1,6 @@
 /**
  * @file
- * What the studio and its worker processes say to one another.
+ * The messages between the studio and its worker processes.
  */
 #ifndef ANIMTEXT_MESSAGES_STUDIO_H
 #define ANIMTEXT_MESSAGES_STUDIO_H
@@ -20,34 +20,34 @@ namespace AnimText {
 enum class Message : quint8 {
     // to the worker
     Load,    ///< LoadOrder
-    Play,    ///< first and last tick whose pictures are wanted, as qint32
-    Measure, ///< LoadOrder; Timing comes back
+    Play,    ///< first and last requested tick, as qint32
+    Measure, ///< LoadOrder; answered by Measured
     // from the worker
-    Ready,    ///< QString: why the plugin cannot be loaded; empty when it is
-    Loaded,   ///< quint32 generation, QString: why it cannot be played
+    Ready,    ///< QString: why the plugin cannot be loaded; empty on success
+    Loaded,   ///< quint32 generation, QString: why the scene cannot be played
     Picture,  ///< TickPicture
     Measured, ///< quint32 generation, Timing
-    Idle,     ///< quint32 generation: all that was wanted has been sent
+    Idle,     ///< quint32 generation: all requested pictures have been sent
 };
 
-/** A scene to be played. */
+/** A scene to play. */
 struct LoadOrder
 {
-    quint32 generation = 0;                ///< comes back with whatever is made of it
-    QByteArray scene;                      ///< the text of a scene file
-    QString path;                          ///< that its file names are relative to
-    bool schedule = false;                 ///< as the host plays it, by the times that it is told
-    bool calls = false;                    ///< whether the device's calls are wanted
-    QVector<QPair<qint32, qint32>> faults; ///< operation and which of its calls fails
+    quint32 generation = 0; ///< repeated in the answers
+    QByteArray scene;       ///< the text of a scene file
+    QString path;           ///< the file that the scene's file names are relative to
+    bool schedule = false;  ///< page by page for the planned times, as the host plays
+    bool calls = false;     ///< whether to record the device calls
+    QVector<QPair<qint32, qint32>> faults; ///< operation and number of the call that fails
 };
 
-/** What is on the display after a tick. */
+/** The display after a tick. */
 struct TickPicture
 {
     quint32 generation = 0;
     qint32 tick = 0;
-    QImage picture;   ///< null when it is that of the tick before
-    QByteArray calls; ///< of the device, a line of JSON each
+    QImage picture;   ///< null if it equals that of the previous tick
+    QByteArray calls; ///< device calls, one line of JSON each
 };
 
 QDataStream& operator<<(QDataStream& stream, const LoadOrder& order);
@@ -55,7 +55,7 @@ QDataStream& operator>>(QDataStream& stream, LoadOrder& order);
 QDataStream& operator<<(QDataStream& stream, const TickPicture& picture);
 QDataStream& operator>>(QDataStream& stream, TickPicture& picture);
 
-/** A message with its length in front, as it goes through a pipe. */
+/** A message with its length in front, ready for a pipe. */
 template <typename... Parts>
 QByteArray Packed(Message kind, const Parts&... parts)
 {
@@ -68,7 +68,7 @@ QByteArray Packed(Message kind, const Parts&... parts)
     return length + body;
 }
 
-/** Takes the first whole message out of @p bytes: its kind and what follows. */
+/** Removes the first complete message from @p bytes and returns its kind and content. */
 bool TakeMessage(QByteArray* bytes, Message* kind, QByteArray* body);
 
 template <typename... Parts>

@@ -1,6 +1,6 @@
 /**
  * @file
- * Pictures of a play by their ticks, as many as there is memory for.
+ * A cache of pictures by tick, with a memory limit.
  */
 #ifndef ANIMTEXT_PICTURECACHE_H
 #define ANIMTEXT_PICTURECACHE_H
@@ -10,7 +10,7 @@
 
 namespace AnimText {
 
-/** What is farthest from the tick that is looked at goes first. Equal neighbours cost once. */
+/** Removes the pictures farthest from the shown tick first. Equal neighbors share memory. */
 class PictureCache
 {
 public:
@@ -21,12 +21,12 @@ public:
     bool Has(int tick) const { return entries.contains(tick); }
     QImage Find(int tick) const { return entries.value(tick).picture; }
     QByteArray Calls(int tick) const { return entries.value(tick).calls; }
-    /** @param wanted the tick that is looked at */
+    /** @param wanted the tick that is shown */
     void Insert(int tick, const QImage& picture, const QByteArray& calls, int wanted);
 
-    /** Ticks from @p tick on whose pictures are all there. */
+    /** Number of consecutive ticks from @p tick on whose pictures are cached. */
     int RunFrom(int tick) const;
-    /** How many different pictures of that size there is room for; at least 4. */
+    /** Number of different pictures of that size that fit; at least 4. */
     int Room(const QSize& size) const;
     qint64 Bytes() const { return bytes; }
 
@@ -42,7 +42,7 @@ private:
     qint64 capacity;
     qint64 bytes = 0;
     QHash<int, Entry> entries;
-    QHash<qint64, int> uses; // entries by the key of their picture
+    QHash<qint64, int> uses; // number of entries by picture key
 };
 
 } // namespace AnimText

@@ -7,7 +7,7 @@
 namespace AnimText {
 namespace {
 
-constexpr int ticksUnmeasured = 150; // that are made ahead while nothing is known of the length
+constexpr int ticksUnmeasured = 150; // painted ahead while the length is unknown
 
 void RegisterTypes()
 {
@@ -96,11 +96,11 @@ void Rehearsal::Prepared(quint32 of, const LoadOrder& order, const QString& erro
     busy = false;
     if (again) {
         again = false;
-        --generation; // the same sign, which nobody has prepared yet
+        --generation; // the present sign still has to be prepared
         SetSign(sign, part);
         return;
     }
-    if (!error.isEmpty()) { // nothing is there to be played
+    if (!error.isEmpty()) { // there is nothing to play
         emit Trouble(error);
         return;
     }
@@ -126,11 +126,11 @@ void Rehearsal::Prepared(quint32 of, const LoadOrder& order, const QString& erro
     QMetaObject::invokeMethod(measurer, [link = measurer, order] { link->Measure(order); });
     const Sign checked = sign;
     pool.start([this, checked, of] {
-        // All pages, whatever is played: findings are told by the whole sign's places.
+        // All pages, because findings name places in the whole sign.
         QString error;
         const Scene scene = folder->Put(checked, -1, &error);
         if (!error.isEmpty())
-            return; // the next change will say so
+            return; // the next change reports it
         const QList<Finding> findings = ValidateScene(scene);
         QMetaObject::invokeMethod(this, [this, of, findings] {
             if (of == generation)
@@ -186,7 +186,7 @@ int Rehearsal::LastTick() const
     return IsMeasured() ? timing.Ticks() : std::max(wanted, ticksUnmeasured);
 }
 
-/** Asks for what will be looked at next, as far as it has room. */
+/** Requests the ticks that are likely to be shown next, as far as memory allows. */
 void Rehearsal::AskAhead()
 {
     if (prepared != generation || !loaded.generation)

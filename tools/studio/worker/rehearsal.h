@@ -1,6 +1,6 @@
 /**
  * @file
- * Plays whatever the document holds, in workers, and has the picture of any tick.
+ * Plays the document's sign in workers and provides the picture of any tick.
  */
 #ifndef ANIMTEXT_REHEARSAL_H
 #define ANIMTEXT_REHEARSAL_H
@@ -18,13 +18,13 @@ namespace AnimText {
 
 class SceneFolder;
 
-/** What of a sign is played, and how. */
+/** Which part of a sign to play, and how. */
 struct Part
 {
     int page = -1;                         ///< negative for all pages
-    bool schedule = false;                 ///< as the host plays it
-    bool calls = false;                    ///< keeps the device's calls
-    QVector<QPair<qint32, qint32>> faults; ///< calls of the device that fail
+    bool schedule = false;                 ///< page by page, as the host plays
+    bool calls = false;                    ///< records the device calls
+    QVector<QPair<qint32, qint32>> faults; ///< device calls to make fail
 
     bool operator==(const Part& other) const
     {
@@ -33,44 +33,44 @@ struct Part
     }
 };
 
-/** Belongs to the window's thread, and never keeps it waiting. */
+/** Lives in the window's thread and never blocks it. */
 class Rehearsal : public QObject
 {
     Q_OBJECT
 
 public:
     /**
-     * @param plugin the library to be played with; empty for the one beside the program
-     * @param cacheBytes for pictures that are kept
+     * @param plugin the plugin library; empty for the one beside the program
+     * @param cacheBytes memory limit for pictures
      */
     explicit Rehearsal(const QString& plugin, qint64 cacheBytes = 192 << 20,
                        QObject* parent = nullptr);
     ~Rehearsal() override;
 
-    /** Another sign, or another part of it; the pictures that were made are of the past. */
+    /** Sets the sign and the part to play; earlier pictures become invalid. */
     void SetSign(const Sign& sign, const Part& part);
-    /** Looks at @p tick: its picture comes at once if it is there, else as soon as it is made. */
+    /** Makes @p tick the current one; Shown() follows at once or when its picture is ready. */
     void Look(int tick);
 
     int Tick() const { return wanted; }
-    /** Whether the picture that was last told of is that of the tick that is looked at. */
+    /** Whether the last picture of Shown() is that of the current tick. */
     bool IsCurrent() const { return current; }
     QImage Picture(int tick) const { return cache.Find(tick); }
     QByteArray Calls(int tick) const { return cache.Calls(tick); }
     bool Has(int tick) const { return cache.Has(tick); }
     const Timing& GetTiming() const { return timing; }
-    /** Whether the timing is that of the sign as it is. */
+    /** Whether the timing is that of the present sign. */
     bool IsMeasured() const { return measured == generation; }
     qint64 KeptBytes() const { return cache.Bytes(); }
 
 signals:
-    /** The picture of the tick that is looked at. */
+    /** The picture of the current tick. */
     void Shown(const QImage& picture);
-    /** The picture that was shown is no longer true; the next one is being made. */
+    /** The shown picture is out of date; a new one is being made. */
     void Stale();
     void TimingChanged();
     void FindingsChanged(const QList<AnimText::Finding>& findings);
-    /** Why nothing can be shown; empty when all is well again. */
+    /** @param why why nothing can be shown; empty once it can */
     void Trouble(const QString& why);
 
 private:
@@ -97,8 +97,8 @@ private:
     quint32 measured = 0;
     int wanted = 0;
     int orderedFrom = 0;
-    int orderedTo = -1; // what the worker was last asked for
-    int deaths = 0;     // in a row, of this generation
+    int orderedTo = -1; // last tick requested from the worker
+    int deaths = 0;     // consecutive crashes in this generation
     bool current = false;
     bool busy = false; // a sign is being prepared
     bool again = false;

@@ -1,6 +1,6 @@
 /**
  * @file
- * A folder of the process's own, in which workers find the data files of what they play.
+ * A temporary folder with the data files of the scenes that workers play.
  */
 #ifndef ANIMTEXT_SCENEFOLDER_H
 #define ANIMTEXT_SCENEFOLDER_H
@@ -16,16 +16,16 @@
 
 namespace AnimText {
 
-/** May be used by several threads. Files go when no layout needs them any more. */
+/** Thread-safe. Removes files that no layout needs any more. */
 class SceneFolder
 {
     Q_DECLARE_TR_FUNCTIONS(SceneFolder)
 
 public:
     /**
-     * The scene of @p sign for a file in this folder, with its data files written.
+     * Writes the data files of @p sign and returns its scene for a file in this folder.
      * @param page negative for all pages
-     * @param error why that failed, which leaves the scene empty; kept where it succeeds
+     * @param error why it failed, and the scene is empty; unchanged on success
      */
     Scene Put(const Sign& sign, int page, QString* error);
 
@@ -36,7 +36,7 @@ private:
         QString name;
     };
 
-    const QString place = QDir::tempPath(); // where the folder is made
+    const QString place = QDir::tempPath(); // parent of the folder
     QTemporaryDir folder{TemporaryName()};
     QMutex mutex;
     QHash<const Layout*, Written> written;

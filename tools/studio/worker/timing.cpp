@@ -7,9 +7,9 @@
 namespace AnimText {
 namespace {
 
-constexpr int longest = 20 * 60 * 1000 / tickLength; // ticks that are measured
+constexpr int longest = 20 * 60 * 1000 / tickLength; // ticks to measure at most
 
-/** When a text is done, in milliseconds; negative when it never is. */
+/** Actual time of a text in milliseconds; negative if it never ends. */
 qint64 RealEnd(const NodePlay& play, const Player& player, Stage* stage, int node)
 {
     switch (play.ending) {

@@ -1,6 +1,6 @@
 /**
  * @file
- * When a sign shows what: pages, runs, and the ends that are told and that are real.
+ * When each page of a sign is shown, and the planned and actual end of each text.
  */
 #ifndef ANIMTEXT_TIMING_H
 #define ANIMTEXT_TIMING_H
@@ -17,27 +17,27 @@ namespace AnimText {
 struct TextTime
 {
     Ending ending = Ending::TooLong;
-    qint64 told = 0;         ///< what the host is told, milliseconds
-    qint64 real = -1;        ///< when it is done, milliseconds; negative when it never is
+    qint64 told = 0;         ///< planned time: what the plugin tells the host, milliseconds
+    qint64 real = -1;        ///< actual time, milliseconds; negative if it never ends
     qint64 from = 0;         ///< when the host starts it, milliseconds
-    qint64 until = -1;       ///< when the host stops it; negative: never
-    QVector<PageTime> pages; ///< of all its runs
+    qint64 until = -1;       ///< when the host stops it, milliseconds; negative for never
+    QVector<PageTime> pages; ///< of all its plays
 };
 
 struct Timing
 {
     QVector<TextTime> texts; ///< in the order of the file
-    qint64 length = 0;       ///< of all of it, milliseconds
-    bool isCut = false;      ///< it goes on for longer than was measured
+    qint64 length = 0;       ///< of the whole sign, milliseconds
+    bool isCut = false;      ///< it is longer than what was measured
 
-    /** Ticks that there are to look at, from 0; at least 1. */
+    /** Number of ticks; at least 1. */
     int Ticks() const { return int(std::max<qint64>(1, (length + tickLength - 1) / tickLength)); }
 };
 
 /**
  * Measures @p scene by playing it without outlines.
- * @param schedule as the host plays it, by the times that it is told
- * @return false when @p watch broke off or, with @p error, when it cannot be played
+ * @param schedule page by page for the planned times, as the host plays
+ * @return false if @p watch canceled or, with @p error, if the scene cannot be played
  */
 bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watch& watch,
                    Timing* timing, QString* error);

@@ -15,22 +15,22 @@
 namespace AnimText {
 
 /**
- * Starts the worker when it is first needed and again when it has crashed or hangs. Lives in a
- * thread of its own, in which its slots must be called; what it tells may go anywhere.
+ * Starts the worker when it is needed, and again after a crash or hang. Lives in its own thread, in
+ * which its slots must be called; its signals can be received in any thread.
  */
 class WorkerLink : public QObject
 {
     Q_OBJECT
 
 public:
-    enum class Haste { Full, None }; ///< whether it lets other processes go first
+    enum class Haste { Full, None }; ///< None runs the worker at low priority
 
-    /** @param plugin the library to be loaded; empty for the one beside the program */
+    /** @param plugin the plugin library; empty for the one beside the program */
     explicit WorkerLink(const QString& plugin, Haste haste = Haste::Full,
                         QObject* parent = nullptr);
     ~WorkerLink() override;
 
-    /** The program that is started with --worker; the running one unless another is named. */
+    /** Sets the program to start with --worker; the default is the running one. */
     static void SetProgram(const QString& path);
     static QString Program();
 
@@ -39,7 +39,7 @@ public slots:
     void Load(const AnimText::LoadOrder& order);
     void Play(int from, int to);
     void Measure(const AnimText::LoadOrder& order);
-    /** Ends the process; the next order starts another one. */
+    /** Ends the process; the next request starts another one. */
     void Stop();
 
 signals:
@@ -48,7 +48,7 @@ signals:
     void Picture(const AnimText::TickPicture& picture);
     void Measured(quint32 generation, const AnimText::Timing& timing);
     void Idle(quint32 generation);
-    /** The process has crashed, or was ended because it answered no more. */
+    /** The process has crashed, or was terminated because it stopped responding. */
     void Died(const QString& why);
 
 private:
@@ -62,8 +62,8 @@ private:
     Haste haste;
     QProcess* process = nullptr;
     QTimer* patience = nullptr;
-    QElapsedTimer silence; // since the last answer or wish
-    double workBefore = 0; // processor time of the process then
+    QElapsedTimer silence; // since the last answer or request
+    double workBefore = 0; // the process's processor time at that moment
     QByteArray received;
     QImage lastPicture;
     bool hangs = false;

@@ -33,7 +33,7 @@ int WorkerLoop::Run()
     return 0;
 }
 
-/** Takes in what there is to read. @return whether a whole message waits */
+/** Reads the available input. @return whether there is a complete message */
 bool WorkerLoop::Receive(bool wait)
 {
     pollfd input{STDIN_FILENO, POLLIN, 0};
@@ -116,12 +116,12 @@ void WorkerLoop::Measure(const LoadOrder& wanted)
         Send(Packed(Message::Measured, wanted.generation, timing));
 }
 
-/** Some of what a play changes outlives a restart of it, so it is loaded anew. */
+/** Loads the scene again, because some state survives a restart. */
 void WorkerLoop::Restart()
 {
     QString error;
     started = false;
-    player.reset(); // it gives the display's clock back
+    player.reset(); // releases the display's clock
     player = std::make_unique<Player>(dispatcher, plugin);
     if (!player->Load(scene, &error)) {
         last = -1;
@@ -138,10 +138,10 @@ void WorkerLoop::Restart()
     started = true;
 }
 
-/** One tick further towards what is wanted. */
+/** Plays one tick toward the requested one. */
 void WorkerLoop::Step()
 {
-    // The same tick may be wanted again, with the same calls.
+    // The same tick may be requested again, with the same calls.
     if (!started || player->Tick() != next)
         calls.clear();
     if (!started || player->Tick() > next)

@@ -1,6 +1,6 @@
 /**
  * @file
- * The worker: a process without a window that plays scenes through the plugin and sends pictures.
+ * The worker: a process without a window that plays scenes with the plugin and sends pictures.
  */
 #ifndef ANIMTEXT_WORKERLOOP_H
 #define ANIMTEXT_WORKERLOOP_H
@@ -12,14 +12,13 @@
 namespace AnimText {
 
 /**
- * Reads messages from standard input and answers on standard output, until the input ends. What is
- * wanted later breaks off what is still going on. A plugin that crashes takes this process along,
- * and no more than this.
+ * Reads requests from standard input and answers on standard output until the input ends. A new
+ * request cancels the previous one. A plugin that crashes ends only this process.
  */
 class WorkerLoop
 {
 public:
-    /** @param output the descriptor for the answers; what else is printed must go elsewhere */
+    /** @param output descriptor for the answers; nothing else may be written to it */
     WorkerLoop(VirtualDispatcher* dispatcher, const QString& pluginPath, int output);
 
     int Run();
@@ -45,12 +44,12 @@ private:
     std::unique_ptr<Player> player;
     LoadOrder order;
     Scene scene;
-    bool started = false; // the player stands at a tick of what was ordered
-    int next = 0;         // the next tick whose picture is wanted
-    int last = -1;        // and the last one
+    bool started = false; // the player is at a tick of the ordered scene
+    int next = 0;         // the next requested tick
+    int last = -1;        // the last requested tick
     int sent = -2;        // the last tick that was sent
-    QImage shown;         // its picture
-    QByteArray calls;     // of the tick at which the player stands
+    QImage shown;         // picture of that tick
+    QByteArray calls;     // device calls of the player's tick
 };
 
 } // namespace AnimText

@@ -16,10 +16,10 @@ constexpr int lowNiceness = 10;
 
 int WorkerMain(int argc, char** argv)
 {
-    // Interrupting the studio is its own affair; a worker ends when its input does.
+    // Ctrl+C ends the studio; a worker ends with its input.
     std::signal(SIGINT, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN);
-    // What a plugin prints must not come between the answers.
+    // The plugin's own output must not mix with the answers.
     const int output = dup(STDOUT_FILENO);
     dup2(STDERR_FILENO, STDOUT_FILENO);
 
@@ -32,7 +32,7 @@ int WorkerMain(int argc, char** argv)
         if (qstrcmp(argv[i], "--plugin") == 0 && i + 1 < argc)
             plugin = QString::fromLocal8Bit(argv[i + 1]);
         else if (qstrcmp(argv[i], "--no-haste") == 0 && nice(lowNiceness) == -1)
-            continue; // then it takes part as any other
+            continue; // handled with the next messages
     }
     int ownName = 1;
     QGuiApplication application(ownName, argv);

@@ -1,13 +1,13 @@
 /**
  * @file
- * The worker process from its beginning to its end.
+ * The worker process.
  */
 #ifndef ANIMTEXT_WORKERMAIN_H
 #define ANIMTEXT_WORKERMAIN_H
 
 namespace AnimText {
 
-/** Runs a worker; its words may name a library with --plugin FILE. @return the exit status */
+/** Runs a worker with an optional argument --plugin FILE. @return the exit status */
 int WorkerMain(int argc, char** argv);
 
 } // namespace AnimText
