@@ -10,7 +10,7 @@
 
 using namespace AnimText;
 
-constexpr int patience = 240000; // milliseconds; a machine may be busy with other things
+constexpr int patience = 240000; // milliseconds; the machine may be busy
 
 class TestDocument : public QObject
 {
@@ -37,17 +37,17 @@ private:
     }
 
 private slots:
-    void mergesWhatIsDoneInOneGo();
+    void mergesChangesOfOneGesture();
     void keepsSourcesBesideTheScene();
-    void savesOnlyWhatStandsStillAsSaved();
-    void tellsOfChangesOnDisk();
+    void staysModifiedAfterChangeDuringSave();
+    void reportsChangesOnDisk();
     void guessesSourcesFromStyles();
-    void killedWhileSavingLosesNothing();
-    void copiesGoWhenTheyAreNotNeeded();
-    void textsKeepTheirOrder();
+    void losesNothingWhenKilledWhileSaving();
+    void removesUnneededCopies();
+    void keepsOrderOfTexts();
 };
 
-void TestDocument::mergesWhatIsDoneInOneGo()
+void TestDocument::mergesChangesOfOneGesture()
 {
     Document document;
     document.New();
@@ -95,7 +95,7 @@ void TestDocument::keepsSourcesBesideTheScene()
     QVERIFY(Saves(&document, path));
     QVERIFY(!document.IsModified());
 
-    // Settings that need no new layout may be changed by others.
+    // Other programs may change settings that need no new layout.
     QCOMPARE(folder.Shell("animtext set sign.json 1 speed=3").status, 0);
     Document again;
     QString error;
@@ -105,21 +105,21 @@ void TestDocument::keepsSourcesBesideTheScene()
     QCOMPARE(again.Current().texts.first().node.attributes.value("AnimationSpeed").toInt(), 3);
     QVERIFY(again.Current().IsLaidOut());
 
-    // Its data files and sources go along to another folder and another name.
+    // Saving under another name takes data files and sources along.
     const QString other = folder.Path("other");
     QVERIFY(QDir().mkpath(other));
     QVERIFY(Saves(&again, other + "/moved.json"));
     QCOMPARE(folder.Shell("animtext validate other/moved.json").status, 0);
     QVERIFY(again.Open(other + "/moved.json", &error));
     QVERIFY(again.Current().texts.first().source == wanted);
-    // Layouts that nobody needs any more leave nothing behind.
+    // Data files of unused layouts are removed.
     document.Undo()->undo();
     document.KeepMine();
     QVERIFY(Saves(&document, path));
     QCOMPARE(folder.Listing().filter("sign.").size(), 4); // scene, sources, outlines, descents
 }
 
-void TestDocument::savesOnlyWhatStandsStillAsSaved()
+void TestDocument::staysModifiedAfterChangeDuringSave()
 {
     Document document;
     document.New();
@@ -137,7 +137,7 @@ void TestDocument::savesOnlyWhatStandsStillAsSaved()
     QCOMPARE(document.Path(), folder.Path("still.json"));
 }
 
-void TestDocument::tellsOfChangesOnDisk()
+void TestDocument::reportsChangesOnDisk()
 {
     Document document;
     document.New();
@@ -148,14 +148,14 @@ void TestDocument::tellsOfChangesOnDisk()
     QTRY_VERIFY_WITH_TIMEOUT(document.Current().IsLaidOut(), patience);
     QCOMPARE(folder.Shell("animtext set disk.json 1 speed=2").status, 0);
     const QByteArray theirs = folder.Read("disk.json");
-    QVERIFY(!Saves(&document, path)); // theirs is not lost without a word
+    QVERIFY(!Saves(&document, path)); // the other program's version is kept
     QCOMPARE(folder.Read("disk.json"), theirs);
     QTRY_COMPARE_WITH_TIMEOUT(changed.size(), 1, patience);
     document.KeepMine();
     QVERIFY(document.IsModified());
     QVERIFY(Saves(&document, path));
     QVERIFY(folder.Read("disk.json").contains("mine"));
-    QCOMPARE(changed.size(), 1); // its own saving is no news
+    QCOMPARE(changed.size(), 1); // its own save is not a change on disk
 }
 
 void TestDocument::guessesSourcesFromStyles()
@@ -176,10 +176,10 @@ void TestDocument::guessesSourcesFromStyles()
     QVERIFY(text.At(0).font.pixelSize() > text.At(9).font.pixelSize());
     QVERIFY(!document.Open(folder.Path("missing.json"), &error));
     QVERIFY(error.contains("missing.json"));
-    QCOMPARE(document.Current().texts.size(), 1); // what was open stays
+    QCOMPARE(document.Current().texts.size(), 1); // the open sign stays
 }
 
-void TestDocument::killedWhileSavingLosesNothing()
+void TestDocument::losesNothingWhenKilledWhileSaving()
 {
     const QString path = folder.Path("victim.json");
     const QString copies = folder.Path("copies");
@@ -205,7 +205,7 @@ void TestDocument::killedWhileSavingLosesNothing()
         QCOMPARE(lost.size(), 1);
         document.Recover(lost.first().sign, lost.first().path);
         QVERIFY(document.IsModified());
-        // At least what was kept when it last said so, and all of it.
+        // The latest reported copy or a newer one, and complete.
         const int kept = said.lastIndexOf("kept ");
         const int number = said.mid(kept + 5, said.indexOf('\n', kept) - kept - 5).toInt();
         const QString text = TextOf(document);
@@ -216,7 +216,7 @@ void TestDocument::killedWhileSavingLosesNothing()
     }
 }
 
-void TestDocument::copiesGoWhenTheyAreNotNeeded()
+void TestDocument::removesUnneededCopies()
 {
     const QString copies = folder.Path("kept");
     const auto scenes = [&] {
@@ -232,7 +232,7 @@ void TestDocument::copiesGoWhenTheyAreNotNeeded()
         QVERIFY(kept.wait(patience));
         QVERIFY(scenes());
         Document other;
-        QVERIFY(Recovery(&other, copies).Find().isEmpty()); // its studio still runs
+        QVERIFY(Recovery(&other, copies).Find().isEmpty()); // its studio is still running
         QVERIFY(Saves(&document, folder.Path("kept.json")));
         QTRY_VERIFY_WITH_TIMEOUT(!scenes(), patience);
         document.Change("Text", Written(document, "again"));
@@ -242,7 +242,7 @@ void TestDocument::copiesGoWhenTheyAreNotNeeded()
     QVERIFY(!scenes());
 }
 
-void TestDocument::textsKeepTheirOrder()
+void TestDocument::keepsOrderOfTexts()
 {
     Sign sign;
     QVector<int> ids;
@@ -265,7 +265,7 @@ void TestDocument::textsKeepTheirOrder()
     QCOMPARE(sign.PageCount(), 2);
 }
 
-/** Changes and saves for ever, and says what it has done. */
+/** Changes and saves forever, and prints what it has done. */
 static int BeVictim(const QString& path, const QString& copies)
 {
     Document document;

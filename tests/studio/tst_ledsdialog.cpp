@@ -1,4 +1,4 @@
-// The dialog by which LEDs follow the studio. Its packets stay on 127.0.0.1.
+// The dialog that sends the studio's picture to LEDs. Packets stay on 127.0.0.1.
 #include "studio/window/display/ledsdialog.h"
 #include "studio/window/shell/mainwindow.h"
 #include "table.h"
@@ -21,7 +21,7 @@ private slots:
     }
     void init() { QSettings().clear(); }
 
-    void fieldsAreTheAddress_data()
+    void fieldsMatchAddress_data()
     {
         const Table<QString> row("address");
         row("plain", "ddp://wall.local");
@@ -32,7 +32,7 @@ private slots:
             "sacn://h/1,0,15x8,top-right,color-order=BRG,gamma=2.2,brightness=40,universe=7");
     }
 
-    void fieldsAreTheAddress()
+    void fieldsMatchAddress()
     {
         QFETCH(QString, address);
         LedsDialog dialog(QSize(16, 8), "it/wall.json");
@@ -45,7 +45,7 @@ private slots:
         QCOMPARE(dialog.Address(), address);
     }
 
-    void ledsFollowUntilTheyStop()
+    void sendsUntilStopped()
     {
         QUdpSocket receiver;
         QVERIFY(receiver.bind(QHostAddress(QHostAddress::LocalHost), 0));
@@ -75,7 +75,7 @@ private slots:
             QCOMPARE(next(), QByteArray("\xFF\xFF\xFF")); // the only corner
             dialog.PatternButton()->click();
             QByteArray shown = next();
-            while (shown.endsWith('\xFF')) // the pattern's own next ones
+            while (shown.endsWith('\xFF')) // later steps of the pattern
                 shown = next();
             QCOMPARE(shown, QByteArray("\6\5\4"));
             dialog.close();
@@ -85,10 +85,10 @@ private slots:
             QVERIFY(!receiver.hasPendingDatagrams());
         }
         QCOMPARE(LedsDialog(QSize(1, 1), QString()).Address(),
-                 address + "/color-order=BGR"); // for the next time
+                 address + "/color-order=BGR"); // remembered for next time
     }
 
-    void ledsFollowTheStudio()
+    void sendsStudioPicture()
     {
         WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
         QUdpSocket receiver;
@@ -103,7 +103,7 @@ private slots:
         QVERIFY(dialog);
         dialog->SetAddress(QString("ddp://127.0.0.1:%1").arg(receiver.localPort()));
         dialog->StartButton()->click();
-        // The picture that is there, and the one of another tick.
+        // The present picture and that of another tick.
         for (int tick : {0, 20}) {
             window.GetPlayback()->Seek(tick);
             QByteArray expected;
@@ -123,12 +123,12 @@ private slots:
         }
     }
 
-    void tellsWhatIsWrong()
+    void reportsErrors()
     {
         LedsDialog dialog(QSize(16, 8), QString());
         dialog.SetAddress("ddp://host.invalid");
         dialog.StartButton()->click();
-        QTRY_VERIFY_WITH_TIMEOUT(dialog.State().contains("cannot be found"), 300000);
+        QTRY_VERIFY_WITH_TIMEOUT(dialog.State().contains("was not found"), 300000);
         QCOMPARE(dialog.StartButton()->text(), QString("Start"));
     }
 

@@ -15,7 +15,7 @@
 
 using namespace AnimText;
 
-constexpr int patience = 240000; // milliseconds; a machine may be busy with other things
+constexpr int patience = 240000; // milliseconds; the machine may be busy
 
 namespace {
 
@@ -35,7 +35,7 @@ Part PartOf(int page, bool schedule = false)
     return part;
 }
 
-/** The processes that this one has started. */
+/** The child processes of this test. */
 QVector<pid_t> Children()
 {
     QVector<pid_t> children;
@@ -87,29 +87,29 @@ private:
 
 private slots:
     void initTestCase() { WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio"); }
-    void picturesAreThoseOfTheTrace_data();
-    void picturesAreThoseOfTheTrace();
+    void picturesEqualTrace_data();
+    void picturesEqualTrace();
     void measuresPagesAndEnds();
-    void keepsNoMoreThanItMay();
-    void outlivesItsWorker();
-    void tellsOfAPluginThatWillNotLoad();
-    void callsFailOnDemand();
+    void keepsMemoryLimit();
+    void survivesWorkerCrash();
+    void reportsBrokenPlugin();
+    void makesCallsFail();
 };
 
-void TestRehearsal::picturesAreThoseOfTheTrace_data()
+void TestRehearsal::picturesEqualTrace_data()
 {
     QTest::addColumn<bool>("scroll");
     QTest::addColumn<int>("motion");
     for (const Motion& effect : Effects())
         QTest::newRow(effect.name) << false << effect.number;
     for (const Motion& scroll : Scrolls()) {
-        // Sideways, the device moves one picture: a trace has that, not the display.
+        // Sideways scrolling: the device moves one picture, so a trace has no frames to compare.
         if (scroll.number >= 2)
             QTest::newRow(scroll.name) << true << scroll.number;
     }
 }
 
-void TestRehearsal::picturesAreThoseOfTheTrace()
+void TestRehearsal::picturesEqualTrace()
 {
     QFETCH(bool, scroll);
     QFETCH(int, motion);
@@ -168,18 +168,18 @@ void TestRehearsal::measuresPagesAndEnds()
         end = page.end;
     }
     QCOMPARE(qint64(end) * tickLength, text.real);
-    // As the host plays it, a text is stopped when the told time is over.
+    // With the schedule, a text is stopped after its planned time.
     rehearsal.SetSign(sign, PartOf(-1, true));
     QVERIFY(measured.wait(patience));
     QCOMPARE(rehearsal.GetTiming().texts.first().until, text.told);
-    // So long that its time is told wrapped round; there is enough to look at all the same.
+    // So long that the planned time overflows; there must be ticks to show anyway.
     sign.texts.first().node.attributes["PlayTimes"] = 1000000;
     rehearsal.SetSign(sign, PartOf(0));
     QVERIFY(measured.wait(patience));
     QVERIFY(rehearsal.GetTiming().isCut && rehearsal.GetTiming().Ticks() > 10000);
 }
 
-void TestRehearsal::keepsNoMoreThanItMay()
+void TestRehearsal::keepsMemoryLimit()
 {
     const int each = 96 * 32 * 4;
     Rehearsal rehearsal(QString(), 10 * each);
@@ -191,7 +191,7 @@ void TestRehearsal::keepsNoMoreThanItMay()
     }
 }
 
-void TestRehearsal::outlivesItsWorker()
+void TestRehearsal::survivesWorkerCrash()
 {
     Rehearsal rehearsal((QString()));
     QSignalSpy trouble(&rehearsal, &Rehearsal::Trouble);
@@ -209,7 +209,7 @@ void TestRehearsal::outlivesItsWorker()
         QCOMPARE(told.first().toString(), QString());
 }
 
-void TestRehearsal::tellsOfAPluginThatWillNotLoad()
+void TestRehearsal::reportsBrokenPlugin()
 {
     Rehearsal rehearsal(folder.Write("noplugin.so", "no library"));
     QSignalSpy trouble(&rehearsal, &Rehearsal::Trouble);
@@ -221,7 +221,7 @@ void TestRehearsal::tellsOfAPluginThatWillNotLoad()
     QVERIFY(!rehearsal.IsCurrent());
 }
 
-void TestRehearsal::callsFailOnDemand()
+void TestRehearsal::makesCallsFail()
 {
     Rehearsal rehearsal((QString()));
     Part part = PartOf(0);

@@ -1,9 +1,9 @@
-#include "studio/window/shell/exportdialog.h"
 #include "studio/window/basics/style.h"
-#include "studio/window/shell/mainwindow.h"
-#include "studio/window/form/neonbox.h"
-#include "studio/window/shell/newdialog.h"
 #include "studio/window/basics/translating.h"
+#include "studio/window/form/neonbox.h"
+#include "studio/window/shell/exportdialog.h"
+#include "studio/window/shell/mainwindow.h"
+#include "studio/window/shell/newdialog.h"
 
 #include "testfolder.h"
 
@@ -22,7 +22,7 @@
 
 using namespace AnimText;
 
-constexpr int patience = 240000; // milliseconds; a machine may be busy with other things
+constexpr int patience = 240000; // milliseconds; the machine may be busy
 
 /** The real window, driven by keys and the mouse. */
 class TestWindow : public QObject
@@ -58,32 +58,32 @@ private slots:
     void writesChoosesScrubsUndoesSaves();
     void pastes_data();
     void pastes();
-    void keysGoWhereTheyBelong();
-    void wheelScrollsPastChoices();
-    void keysMoveInTime();
-    void staleStatesGo();
-    void writeProtectedFilesStay();
+    void routesKeys();
+    void wheelChangesNoChoices();
+    void keysMoveThroughTime();
+    void removesOutdatedNotices();
+    void keepsWriteProtectedFiles();
     void zoomsPansAndMeasures();
-    void textsAndPagesAreObjects();
-    void displaysHaveSizes();
+    void editsTextsAndPages();
+    void changesDisplaySize();
     void fitsSmallScreens();
     void mouseMovesAndSizesAreas();
     void closesWhileItPaints();
     void leavingLosesNothing();
     void speaksGerman();
-    void everythingHasAName();
-    void findingsAreMended();
-    void nothingJumpsAndTabIsShort();
-    void outlinesAreMadeAgain();
-    void saysWhatTemporaryFilesLack();
+    void everyWidgetHasAccessibleName();
+    void fixesFindings();
+    void fieldsStayInPlaceAndTabIsShort();
+    void recreatesOutlines();
+    void reportsMissingTemporaryFolder();
     void exportsAndCancels();
     void pickerGrowsAndNamesMotions();
-    void neonIsChosenByPicture();
-    void exportsPartsAndLamps();
-    void timesAreSaidInWords_data();
-    void timesAreSaidInWords();
+    void choosesNeonByPicture();
+    void exportsPartsAndLeds();
+    void describesTimes_data();
+    void describesTimes();
     void timelineStopsZoomsAndRepeats();
-    void integratorsSeeCallsFaultsAndAnotherLibrary();
+    void showsCallsFaultsAndComparison();
     void holdsThreeHundredTexts();
 };
 
@@ -99,14 +99,14 @@ void TestWindow::init()
 {
     window = std::make_unique<MainWindow>(QString());
     window->New();
-    window->resize(1600, 900); // whatever the screen's size
+    window->resize(1600, 900); // independent of the screen
     window->show();
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
 }
 
 void TestWindow::writesChoosesScrubsUndoesSaves()
 {
-    Type("Mind the gap"); // what was there is selected
+    Type("Mind the gap"); // replaces the selection
     QCOMPARE(Text().Title(), QString("Mind the gap"));
     QVERIFY(Settles());
     MotionPicker* motions = window->GetInspector()->Motions();
@@ -138,7 +138,7 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Mind the gap"));
 }
 
-/** Into "ab", of which b is bold and large; [ and ] are what is selected. */
+/** Pastes into "ab" with a bold, large b; [ and ] enclose the selection. */
 void TestWindow::pastes_data()
 {
     QTest::addColumn<QString>("selected");
@@ -146,7 +146,7 @@ void TestWindow::pastes_data()
     QTest::addColumn<QString>("html");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("words");
-    QTest::addColumn<QString>("bold"); // * for letters that are
+    QTest::addColumn<QString>("bold"); // * for bold letters
     const auto row = [](const char* name, const char* selected, const char* plain, const char* html,
                         const char* key, const char* words, const char* bold) {
         QTest::newRow(name) << selected << plain << html << key << words << bold;
@@ -211,12 +211,12 @@ void TestWindow::pastes()
     QCOMPARE(window->GetDocument()->Undo()->count(), steps + 1);
 }
 
-void TestWindow::keysGoWhereTheyBelong()
+void TestWindow::routesKeys()
 {
     TextEditor* editor = window->GetInspector()->Text()->Editor();
     QWidget* display = window->Display();
     window->activateWindow();
-    QTRY_VERIFY(editor->hasFocus()); // a new sign is typed at once
+    QTRY_VERIFY(editor->hasFocus()); // a new sign is ready for typing
     Type("one two");
     editor->moveCursor(QTextCursor::Start);
     QTest::keyClick(editor, Qt::Key_Delete, Qt::ControlModifier);
@@ -252,7 +252,7 @@ void TestWindow::keysGoWhereTheyBelong()
     QCOMPARE(editor->toPlainText(), QString());
 }
 
-void TestWindow::wheelScrollsPastChoices()
+void TestWindow::wheelChangesNoChoices()
 {
     auto* panel = window->GetInspector();
     for (QComboBox* box : window->findChildren<QComboBox*>()) {
@@ -264,7 +264,7 @@ void TestWindow::wheelScrollsPastChoices()
         for (int delta : {-120, 120, 120}) {
             QWheelEvent wheel(middle, box->mapToGlobal(middle), {}, {0, delta}, Qt::NoButton,
                               Qt::NoModifier, Qt::NoScrollPhase, false);
-            QSpontaneKeyEvent::setSpontaneous(&wheel); // else it goes to no parent
+            QSpontaneKeyEvent::setSpontaneous(&wheel); // otherwise parents do not receive it
             qApp->notify(box, &wheel);
             QCOMPARE(box->currentIndex(), before);
             if (delta < 0)
@@ -273,14 +273,14 @@ void TestWindow::wheelScrollsPastChoices()
     }
 }
 
-/** What was true of an earlier state is not said of this one. */
-void TestWindow::staleStatesGo()
+/** Notices of an earlier state are removed. */
+void TestWindow::removesOutdatedNotices()
 {
     const QString path = folder.Path("stale.json");
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
-    for (int offer : {0, 1}) { // theirs, mine
+    for (int offer : {0, 1}) { // load, keep
         Type("mine");
         folder.Write("stale.json", folder.Read("stale.json") + "\n");
         window->GetDocument()->Save(path);
@@ -306,7 +306,7 @@ void TestWindow::zoomsPansAndMeasures()
     QVERIFY(Settles());
     DisplayView* view = window->Display();
     auto* scroll = qobject_cast<QScrollArea*>(view->parentWidget()->parentWidget());
-    QVERIFY(view->Scale() * 512 > 0.8 * scroll->viewport()->width()); // it fits
+    QVERIFY(view->Scale() * 512 > 0.8 * scroll->viewport()->width()); // fills the view
     QVERIFY(view->Scale() * 512 <= scroll->viewport()->width());
     const QPointF place = view->ToWidget().map(QPointF(100.5, 20.5));
     const QPoint seen = view->mapToParent(place.toPoint());
@@ -344,11 +344,11 @@ void TestWindow::zoomsPansAndMeasures()
     const double fitted = view->Scale();
     auto* leds = window->findChild<QAction*>("leds");
     leds->setChecked(true);
-    QVERIFY(view->Scale() >= PictureView::smallestLamp); // lamps can be told apart
+    QVERIFY(view->Scale() >= PictureView::smallestLamp); // LEDs are visible
     leds->setChecked(false);
     QCOMPARE(view->Scale(), fitted);
 
-    // Lamps of a large sign are enlarged; a smaller one fits again.
+    // LEDs enlarge a large sign; a smaller one is fitted again.
     for (const QSize& display : {QSize(2048, 64), QSize(1920, 32), QSize(64, 32)}) {
         window->New(display);
         leds->setChecked(true);
@@ -362,7 +362,7 @@ void TestWindow::zoomsPansAndMeasures()
 }
 
 /** Signs as "ab c": texts a and b on the first page, c on the second. */
-void TestWindow::textsAndPagesAreObjects()
+void TestWindow::editsTextsAndPages()
 {
     const auto words = [this] {
         QString all;
@@ -397,7 +397,7 @@ void TestWindow::textsAndPagesAreObjects()
                          Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         struct Opened : SceneList
         {
-            using SceneList::dropEvent; // Qt delivers it only while something is dragged
+            using SceneList::dropEvent; // Qt calls it only during a drag
         };
         (list->*&Opened::dropEvent)(&event);
         QCoreApplication::processEvents();
@@ -408,7 +408,7 @@ void TestWindow::textsAndPagesAreObjects()
     QCOMPARE(drop("c", "Page 2 · a", false), QString("bc a"));
     QCOMPARE(drop("Page 2 · a", "Page 1 · b", false), QString("a bc"));
     QCOMPARE(drop("Page 1 · a", "c", true), QString("bc a"));
-    QCOMPARE(drop("a", "b", false), QString("abc")); // a page that is empty goes
+    QCOMPARE(drop("a", "b", false), QString("abc")); // empty pages are removed
     window->GetDocument()->Undo()->undo();
     QCOMPARE(words(), QString("bc a"));
 
@@ -424,16 +424,16 @@ void TestWindow::textsAndPagesAreObjects()
         delete menu;
         return words();
     };
-    QCOMPARE(choose("b", "To the front"), QString("cb a"));
+    QCOMPARE(choose("b", "Bring to front"), QString("cb a"));
     QCOMPARE(choose("b", "New page"), QString("c a b"));
-    QCOMPARE(choose("Page 3 · b", "Earlier"), QString("c b a"));
+    QCOMPARE(choose("Page 3 · b", "Move page up"), QString("c b a"));
     QCOMPARE(choose("Page 1 · c", "Duplicate page"), QString("c c b a"));
     QCOMPARE(choose("Page 1 · c", "Remove page"), QString("c b a"));
     QCOMPARE(choose("c", "Duplicate text"), QString("cc b a"));
     QCOMPARE(Text(1).node.pos, Text(0).node.pos + QPoint(128, 0)); // beside it
     row("b")->setText(0, "Name");
     QCOMPARE(words(), QString("cc Name a"));
-    QVERIFY(row("Page 2 · Name")); // a page goes by its first text
+    QVERIFY(row("Page 2 · Name")); // a page has the title of its first text
     QCOMPARE(Text(2).source.text.text, QString("b"));
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("named.json"));
@@ -442,7 +442,7 @@ void TestWindow::textsAndPagesAreObjects()
     QCOMPARE(words(), QString("cc Name a"));
 }
 
-void TestWindow::displaysHaveSizes()
+void TestWindow::changesDisplaySize()
 {
     for (QAction* action : window->menuBar()->actions().first()->menu()->actions()) {
         if (action->shortcut() == QKeySequence::New)
@@ -462,7 +462,7 @@ void TestWindow::displaysHaveSizes()
     QCOMPARE(window->Selected(), 0);
     QVERIFY(window->GetInspector()->Display()->isVisible());
     choose(window->GetInspector()->Display(), "1920 × 128");
-    QCOMPARE(Text().node.size, QSize(1920, 128)); // it fills the display as before
+    QCOMPARE(Text().node.size, QSize(1920, 128)); // still fills the display
     auto* width = window->GetInspector()->Display()->findChildren<NumberField*>().first();
     width->setFocus();
     width->selectAll();
@@ -479,7 +479,7 @@ void TestWindow::fitsSmallScreens()
     auto* findings = window->findChild<QDockWidget*>("findings");
     auto* timeline = window->findChild<Timeline*>();
     for (const QSize& size : {QSize(800, 480), QSize(1024, 600), QSize(1600, 900)}) {
-        // Docks that stand side by side hold it up at first.
+        // The window is wider until its docks become tabs.
         QTRY_VERIFY((window->resize(size), window->size() == size));
         QTRY_COMPARE(window->tabifiedDockWidgets(findings).isEmpty(), size.width() > 1200);
         findings->raise();
@@ -489,7 +489,7 @@ void TestWindow::fitsSmallScreens()
     }
 }
 
-void TestWindow::writeProtectedFilesStay()
+void TestWindow::keepsWriteProtectedFiles()
 {
     const QString path = folder.Path("fixed.json");
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
@@ -507,7 +507,7 @@ void TestWindow::writeProtectedFilesStay()
     QVERIFY(window->isWindowModified());
 }
 
-void TestWindow::keysMoveInTime()
+void TestWindow::keysMoveThroughTime()
 {
     QVERIFY(Settles());
     Playback* time = window->GetPlayback();
@@ -536,7 +536,7 @@ void TestWindow::keysMoveInTime()
     QCOMPARE(time->Pace(), -1);
     press(Qt::Key_K);
     QVERIFY(!time->IsPlaying());
-    // The button and the key loop the same: the page with its hold.
+    // Button and key loop the same: the page with its pause.
     time->Seek(page.hold - 1);
     for (bool byKey : {true, false}) {
         const auto toggle = [&](bool key) {
@@ -552,7 +552,7 @@ void TestWindow::keysMoveInTime()
         toggle(!byKey);
         QVERIFY(!time->HasLoop());
     }
-    // Playing goes round, and round the range where there is one.
+    // Playing loops over all ticks, or over the range if there is one.
     QVector<int> seen;
     connect(time, &Playback::TickChanged, this, [&](int tick) { seen.append(tick); });
     const auto plays = [&](int from, const QVector<int>& ticks) {
@@ -597,7 +597,7 @@ void TestWindow::mouseMovesAndSizesAreas()
     QCOMPARE(Text().node.size, QSize(300, 41));
 }
 
-/** Each way out with what was typed last: saved, given up, or not gone at all. */
+/** Closes right after typing: saves, does not save, or cancels. */
 void TestWindow::leavingLosesNothing()
 {
     const QString path = folder.Path("left.json");
@@ -611,7 +611,7 @@ void TestWindow::leavingLosesNothing()
     offer(2);
     QVERIFY(window->Notices()->Text().isEmpty());
     window->close();
-    // Its layout may not have been made by now, and is waited for.
+    // Saving waits for the layout.
     QTest::keyClick(window->Notices()->Offers().first(), Qt::Key_Return);
     QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), patience);
     QVERIFY(folder.Read("left.json").contains("stays"));
@@ -624,15 +624,16 @@ void TestWindow::leavingLosesNothing()
     window->close();
     offer(0);
     QVERIFY(failed.wait(patience));
-    QVERIFY(!failed.first().first().toBool() && window->isVisible()); // theirs is there
+    QVERIFY(!failed.first().first().toBool() &&
+            window->isVisible()); // the other program's version is kept
     window->close();
     offer(1);
     QVERIFY(!window->isVisible());
     QVERIFY(folder.Read("left.json").contains("stays"));
 }
 
-/** For those who hear the window. */
-void TestWindow::everythingHasAName()
+/** For screen readers. */
+void TestWindow::everyWidgetHasAccessibleName()
 {
     ExportDialog dialog(window->GetDocument()->Current(), QString(), QString());
     window->findChild<QDockWidget*>("integrator")->show();
@@ -671,11 +672,18 @@ void TestWindow::speaksGerman()
                                .data(Qt::ToolTipRole)
                                .toString();
     QVERIFY2(motion.contains("wie getippt"), qPrintable(motion));
+    const auto finds = [this](const QString& words) {
+        MotionPicker* picker = window->GetInspector()->Motions();
+        picker->Search()->setText(words);
+        return picker->List()->model()->index(0, 0).data().toString();
+    };
+    QCOMPARE(finds("lauftext"), QString("Nach links laufen"));
+    QCOMPARE(finds("ticker"), QString("Nach links laufen"));
     window.reset();
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
 }
 
-void TestWindow::findingsAreMended()
+void TestWindow::fixesFindings()
 {
     Sign sign = window->GetDocument()->Current();
     SignText& text = sign.texts.first();
@@ -689,7 +697,7 @@ void TestWindow::findingsAreMended()
     QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, patience);
     for (int steps = 0; list->Count() > 0 && steps < 8; ++steps) {
         const int before = list->Count();
-        list->Mend(0);
+        list->ApplyFix(0);
         QTRY_VERIFY_WITH_TIMEOUT(list->Count() < before, patience);
     }
     QCOMPARE(list->Count(), 0);
@@ -699,7 +707,7 @@ void TestWindow::findingsAreMended()
     QVERIFY(Text().source.fit == Fit::None);
 }
 
-void TestWindow::nothingJumpsAndTabIsShort()
+void TestWindow::fieldsStayInPlaceAndTabIsShort()
 {
     TextEditor* editor = window->GetInspector()->Text()->Editor();
     window->activateWindow();
@@ -737,7 +745,7 @@ void TestWindow::nothingJumpsAndTabIsShort()
         QVERIFY2(!keys->findItems(key, Qt::MatchExactly | Qt::MatchRecursive).isEmpty(), key);
 }
 
-void TestWindow::outlinesAreMadeAgain()
+void TestWindow::recreatesOutlines()
 {
     TextEditor* editor = window->GetInspector()->Text()->Editor();
     editor->insertPlainText(QString::fromUtf8("a\xF3\xBF\xBF\x80")); // no font has U+FFFC0
@@ -756,13 +764,13 @@ void TestWindow::outlinesAreMadeAgain()
     QVERIFY(window->Open(folder.Path("again.json")));
     FindingsList* list = window->Findings();
     QTRY_VERIFY_WITH_TIMEOUT(list->Count() > 0, patience);
-    list->Mend(0);
+    list->ApplyFix(0);
     QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience);
     QVERIFY(Settles());
     QVERIFY(!Text().layout->outlines.isEmpty());
 }
 
-void TestWindow::saysWhatTemporaryFilesLack()
+void TestWindow::reportsMissingTemporaryFolder()
 {
     QVERIFY(Settles());
     const QByteArray usual = qgetenv("TMPDIR");
@@ -811,7 +819,7 @@ void TestWindow::exportsAndCancels()
     QSignalSpy replaced(&again, &ExportDialog::Done);
     again.SetOutput(folder.Path("film.gif"));
     again.StartButton()->click();
-    QVERIFY(again.StartButton()->isEnabled()); // it asks
+    QVERIFY(again.StartButton()->isEnabled()); // asks before replacing
     QCOMPARE(folder.Read("film.gif"), QByteArray("another's"));
     again.StartButton()->click();
     QVERIFY(replaced.wait(patience));
@@ -852,14 +860,14 @@ void TestWindow::pickerGrowsAndNamesMotions()
     QSettings().clear();
 }
 
-void TestWindow::neonIsChosenByPicture()
+void TestWindow::choosesNeonByPicture()
 {
     auto* box = window->GetInspector()->findChild<NeonBox*>();
     window->GetInspector()->ensureWidgetVisible(box);
     box->showPopup();
     QAbstractItemView* list = box->view();
     const auto icon = [box](int row) { return box->itemIcon(row).pixmap(thumbnailSize).toImage(); };
-    for (int row : {0, 4, 12}) { // the numbers share eight looks
+    for (int row : {0, 4, 12}) { // styles repeat every eight numbers
         list->scrollTo(box->model()->index(row, 0));
         QTRY_VERIFY_WITH_TIMEOUT(!icon(row).isNull(), patience);
         QCOMPARE(icon(row).size(), thumbnailSize);
@@ -881,7 +889,7 @@ void TestWindow::neonIsChosenByPicture()
     }
 }
 
-void TestWindow::exportsPartsAndLamps()
+void TestWindow::exportsPartsAndLeds()
 {
     Type("Film");
     QVERIFY(Settles());
@@ -922,11 +930,11 @@ void TestWindow::exportsPartsAndLamps()
     QCOMPARE(on(QImage(folder.Path("part/frame-0030.png"))), seen);
 }
 
-void TestWindow::timesAreSaidInWords_data()
+void TestWindow::describesTimes_data()
 {
     QTest::addColumn<int>("told");
     QTest::addColumn<int>("real");
-    QTest::addColumn<int>("lastPage"); // tick at which it begins
+    QTest::addColumn<int>("lastPage"); // its first tick
     QTest::addColumn<QString>("words");
     QTest::newRow("as planned") << 6600 << 6600 << 50 << "planned 6.60 s · needs 6.60 s";
     QTest::newRow("a tick too long") << 6600 << 6731 << 50 << "planned 6.60 s · needs 6.73 s";
@@ -934,10 +942,10 @@ void TestWindow::timesAreSaidInWords_data()
                                << "planned 6.60 s · needs 6.73 s · 0.13 s lost";
     QTest::newRow("a page") << 6600 << 9900 << 100 << "planned 6.60 s · needs 9.90 s · 1 page lost";
     QTest::newRow("shorter") << 6600 << 3300 << 20
-                             << "planned 6.60 s · needs 3.30 s · 3.30 s longer on the sign";
+                             << "planned 6.60 s · needs 3.30 s · stays 3.30 s longer";
 }
 
-void TestWindow::timesAreSaidInWords()
+void TestWindow::describesTimes()
 {
     QFETCH(int, told);
     QFETCH(int, real);
@@ -966,7 +974,7 @@ void TestWindow::timelineStopsZoomsAndRepeats()
     const QImage repeats = timeline->grab().toImage();
     const Timing timing = window->GetRehearsal()->GetTiming();
     timeline->SetTiming(timing, {Text().id}, {Text().Title()}, {1});
-    QVERIFY(timeline->grab().toImage() != repeats); // three pages look otherwise
+    QVERIFY(timeline->grab().toImage() != repeats); // three pages look different
     window->GetPlayback()->SetPace(1);
     const QPoint at(int(timeline->XOf(20.5)), 10);
     QTest::mousePress(timeline->viewport(), Qt::LeftButton, Qt::NoModifier, at);
@@ -975,11 +983,11 @@ void TestWindow::timelineStopsZoomsAndRepeats()
     QTest::mouseRelease(timeline->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     const double width = timeline->XOf(21) - timeline->XOf(20);
     timeline->SetZoom(4, at.x());
-    QCOMPARE(timeline->TickAt(at.x()), 20); // it stays under the mouse
+    QCOMPARE(timeline->TickAt(at.x()), 20); // stays under the mouse
     QVERIFY(qAbs((timeline->XOf(21) - timeline->XOf(20)) / width - 4) < 0.01);
 }
 
-void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()
+void TestWindow::showsCallsFaultsAndComparison()
 {
     window->findChild<QDockWidget*>("integrator")->show();
     IntegratorView* view = window->Integrator();
@@ -987,7 +995,7 @@ void TestWindow::integratorsSeeCallsFaultsAndAnotherLibrary()
     QVERIFY(Settles());
     view->AddFault(Torv::OpCreatePictureSession, 1);
     QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("fault"), patience);
-    // A library against itself differs only by the fault that one of them has not got.
+    // Compared with itself, the library differs only by the injected fault.
     view->SetLibrary(ANIMTEXT_PROGRAMS "/../lib/libanimationtext.so");
     window->GetPlayback()->Seek(40);
     QTRY_VERIFY_WITH_TIMEOUT(view->findChildren<QLabel*>().last()->text().contains("No pixel"),
@@ -1028,7 +1036,7 @@ void TestWindow::closesWhileItPaints()
         Type(QString("Closing %1").arg(round));
         window->GetPlayback()->SetPace(1);
         QTRY_VERIFY_WITH_TIMEOUT(window->GetRehearsal()->IsCurrent() || round > 0, patience);
-        window = std::make_unique<MainWindow>(QString()); // the old one goes in mid-work
+        window = std::make_unique<MainWindow>(QString()); // destroys the old one while it works
         window->New();
     }
 }

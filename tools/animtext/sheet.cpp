@@ -46,8 +46,9 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
     row.title = QFileInfo(scene.path).completeBaseName();
     if (motion) {
         row.number = scrolls ? QString() : QString::number(motion->number);
-        row.title = QString::fromLatin1(motion->name);
-        row.remark = QString::fromLatin1(motion->summary);
+        row.title = QString::fromLatin1(motion->title);
+        row.remark = QStringLiteral("%1: %2").arg(QLatin1String(motion->name),
+                                                  QLatin1String(motion->summary));
     }
     const auto take = [&](int frame, const QImage& picture) {
         row.frames.append({picture, qint64(frame) * tickLength});

@@ -31,11 +31,12 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(MotionTraits)
 /** One entrance effect, or one scroll direction. */
 struct Motion
 {
-    int number;          ///< "AnimationEffect" or "ContinueStyle"
-    const char* name;    ///< the engine's operation, e.g. "SwingEffect"
-    const char* title;   ///< what people see, for operations are named after what they were for
-    const char* family;  ///< e.g. "oscillating"
-    const char* summary; ///< one line on the motion as it really looks
+    int number;           ///< "AnimationEffect" or "ContinueStyle"
+    const char* name;     ///< the host's name, e.g. "SwingEffect"; it may say something else
+    const char* title;    ///< what people see, e.g. "Sway"
+    const char* family;   ///< e.g. "sway and shake"
+    const char* summary;  ///< what people see, in one line
+    const char* synonyms; ///< other words that people search for
     MotionTraits traits = {};
 };
 
@@ -50,8 +51,14 @@ const Motion* FindScroll(int number);
 
 /** The effect of that number or name (upper and lower case alike); null when there is none. */
 const Motion* FindEffect(const QString& numberOrName);
-/** The scroll named left, right, up or down, or by its operation's name; null for none. */
+/** The scroll named left, right, up or down, or by the host's name; null for none. */
 const Motion* FindScroll(const QString& name);
+
+/**
+ * Whether every word of @p search occurs in what is known of @p motion: "#" and its number, its
+ * name, and its title, family, summary and synonyms in English and in the program's language.
+ */
+bool Matches(const Motion& motion, const QString& search);
 
 } // namespace AnimText
 

@@ -1,4 +1,4 @@
-// The studio: a window in which signs are written and timed, or, with --worker, one of its workers.
+// The studio's window or, with --worker or --export, one of its helper processes.
 #include "studio/window/basics/translating.h"
 #include "studio/window/shell/mainwindow.h"
 #include "studio/worker/exporting.h"
@@ -14,14 +14,14 @@ namespace {
 
 using namespace AnimText;
 
-/** Where windows can be shown; else says what to do and answers false. */
+/** Whether windows can be shown; otherwise prints what to do. */
 bool HasDisplay()
 {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         if (!qEnvironmentVariableIsEmpty(name))
             return true;
     }
-    std::fputs("animtext-studio: there is no display: neither DISPLAY nor WAYLAND_DISPLAY is set.\n"
+    std::fputs("animtext-studio: no display: neither DISPLAY nor WAYLAND_DISPLAY is set.\n"
                "Run it in a desktop session, over ssh -X, or with:\n"
                "  xvfb-run animtext-studio\n"
                "animtext authors, renders and checks scenes without a display.\n",
@@ -31,11 +31,11 @@ bool HasDisplay()
 
 int RunWindow(int argc, char** argv)
 {
-#if QT_VERSION < 0x060000 // later always so
+#if QT_VERSION < 0x060000 // always on since Qt 6
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
-    // Qt would take --plugin for one of its own.
+    // QApplication would take --plugin for its own option.
     QStringList words;
     for (int i = 0; i < argc; ++i)
         words.append(QString::fromLocal8Bit(argv[i]));
@@ -49,17 +49,17 @@ int RunWindow(int argc, char** argv)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QCoreApplication::translate(
-        "Studio", "A window in which animated texts are written, timed and exported."));
+        "Studio", "Designs, previews, and exports animated texts for LED signs."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption plugin(
         QStringLiteral("plugin"),
         QCoreApplication::translate("Studio",
-                                    "The plugin library, in place of the one beside this program."),
+                                    "Plugin library. Default: the one beside this program."),
         QStringLiteral("FILE"));
     parser.addOption(plugin);
     parser.addPositionalArgument(QStringLiteral("scene"),
-                                 QCoreApplication::translate("Studio", "The scene to open."),
+                                 QCoreApplication::translate("Studio", "Scene to open."),
                                  QStringLiteral("[SCENE.json]"));
     parser.process(words);
 

@@ -1,4 +1,4 @@
-// Takes the studio's screenshots for the documents: photograph-studio FOLDER [--dark]
+// Takes the studio's screenshots for the documents: photograph-studio FOLDER [--dark | --german]
 #include "studio/window/basics/translating.h"
 #include "studio/window/display/ledsdialog.h"
 #include "studio/window/shell/mainwindow.h"
@@ -42,7 +42,7 @@ QPalette Dark()
     return palette;
 }
 
-/** A text in @p area, of letters @p size pixels high, with a motion and its speed. */
+/** A text in @p area with a font of @p size pixels, a motion and its speed. */
 SignText Text(const QString& words, const QRect& area, int size, bool scroll, int motion, int speed)
 {
     SignText text = NewText(area.size(), 0);
@@ -74,7 +74,7 @@ Sign Platform()
     const StyleRun plain = where.source.text.runs.first();
     StyleRun bold = plain;
     bold.font.setBold(true);
-    bold.color = Qt::white; // which the sign does not heed
+    bold.color = Qt::white; // the sign ignores it
     where.source.text = StyledText();
     where.source.text.Append(QStringLiteral("Platform "), plain);
     where.source.text.Append(QStringLiteral("4"), bold);
@@ -98,7 +98,7 @@ public:
         window.show();
     }
 
-    /** Shows text @p index of @p sign at @p tick. */
+    /** Selects text @p index of @p sign and goes to @p tick. */
     bool Show(const Sign& sign, int index, int tick)
     {
         window.GetDocument()->Change(QStringLiteral("Sign"), sign);
@@ -146,8 +146,9 @@ private:
 int main(int argc, char** argv)
 {
     const bool dark = argc == 3 && qstrcmp(argv[2], "--dark") == 0;
-    if (argc != 2 && !dark) {
-        std::fputs("photograph-studio FOLDER [--dark]\n", stderr);
+    const bool german = argc == 3 && qstrcmp(argv[2], "--german") == 0;
+    if (argc != 2 && !dark && !german) {
+        std::fputs("photograph-studio FOLDER [--dark | --german]\n", stderr);
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -168,7 +169,7 @@ int main(int argc, char** argv)
     SignText thrice = Text(QStringLiteral("Gleis 7"), {0, 0, 320, 64}, 52, false, 4, 5);
     thrice.node.hold = 5;
     thrice.node.attributes[QStringLiteral("PlayTimes")] = 3;
-    Translate(QLocale(QLocale::English));
+    Translate(QLocale(german ? QLocale::German : QLocale::English));
     Photographer photographer(folder);
     bool all = photographer.Show(Platform(), 0, 22) &&
                photographer.Photograph(QStringLiteral("studio.png"));
@@ -190,6 +191,6 @@ int main(int argc, char** argv)
     all =
         all && dialog.grab().save(QDir(folder).filePath(QStringLiteral("studio-leds-dialog.png")));
     if (!all)
-        std::fputs("photograph-studio: no picture came\n", stderr);
+        std::fputs("photograph-studio: could not take the screenshots\n", stderr);
     return all ? 0 : 1;
 }

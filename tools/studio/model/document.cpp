@@ -9,11 +9,11 @@
 namespace AnimText {
 namespace {
 
-constexpr int tellingDelay = 50; // milliseconds from a layout until it is told of
+constexpr int tellingDelay = 50; // milliseconds from a layout to Changed()
 
 } // namespace
 
-/** From one state to the next; both share what they have in common. */
+/** One undo step; both states share their unchanged data. */
 class SignChange : public QUndoCommand
 {
 public:
@@ -61,7 +61,7 @@ bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QS
             *why = Document::tr("%1 has changed on disk").arg(path);
             return false;
         }
-        // Until the new scene stands in its place, the old one needs its own.
+        // The old scene's sources are kept until the new scene has replaced it.
         TextSources sources = ReadSources(path);
         TextSources wanted;
         for (const SceneNode* node : scene->Nodes()) {
@@ -99,7 +99,7 @@ Document::~Document()
 
 QString Document::Name() const
 {
-    return path.isEmpty() ? tr("New sign") : QFileInfo(path).fileName();
+    return path.isEmpty() ? tr("New scene") : QFileInfo(path).fileName();
 }
 
 void Document::Change(const QString& what, Sign after, const QString& merge)
@@ -112,7 +112,7 @@ void Document::Change(const QString& what, Sign after, const QString& merge)
         if (!same)
             text.layoutKey = LayoutKey(text);
         if (old && !text.layout)
-            layouts.Forget(text); // it was taken away because its files are no good
+            layouts.Forget(text); // it was reset because its files are damaged
     }
     undo.push(new SignChange(this, what, std::move(after), merge));
 }
@@ -190,7 +190,7 @@ void Document::TakeLayout(const std::shared_ptr<const Layout>& layout)
         text.layout = layout;
         taken = true;
     }
-    // Many that come one after another are told of together.
+    // Several layouts in a row cause one Changed().
     if (taken && sign.IsLaidOut()) {
         telling.stop();
         emit Changed();
@@ -214,7 +214,7 @@ void Document::SaveNow()
     savePath.clear();
     const Sign saved = sign;
     const int state = revision;
-    // What a dialog let somebody choose may be written over.
+    // The file dialog has already asked before overwriting another file.
     const QByteArray known = QFileInfo(file) == QFileInfo(path) ? onDisk : QByteArray();
     saving = true;
     emit StateChanged();
@@ -233,12 +233,12 @@ void Document::Saved(bool saved, const QString& error, const QByteArray& digest,
                      const QString& file)
 {
     saving = false;
-    if (saved && state >= opened) { // else another sign is open by now
+    if (saved && state >= opened) { // otherwise another sign has been opened
         path = QFileInfo(file).absoluteFilePath();
         onDisk = digest;
         told = digest;
         Watch();
-        // Changes that came while it was being saved are not in the file.
+        // Changes made during the save are not in the file.
         if (revision == state)
             undo.setClean();
     }
@@ -276,7 +276,7 @@ void Document::Watch()
     if (path.isEmpty())
         return;
     watcher.addPath(path);
-    // A file that is replaced whole is another file of that name.
+    // The watcher loses a file that is replaced, so the folder is watched, too.
     watcher.addPath(QFileInfo(path).absolutePath());
 }
 

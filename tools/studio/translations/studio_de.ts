@@ -71,16 +71,8 @@
         <translation>Alpha-Überblendung</translation>
     </message>
     <message>
-        <source>Other size</source>
-        <translation>Andere Größe</translation>
-    </message>
-    <message>
         <source>%1 × %2</source>
         <translation>%1 × %2</translation>
-    </message>
-    <message>
-        <source>Pictures of 32 bits with transparency. Without it, pictures of 24 bits: black lets the layers below shine through.</source>
-        <translation>Bilder mit 32 Bit und Transparenz. Ohne sie Bilder mit 24 Bit: Schwarz lässt die Ebenen darunter durchscheinen.</translation>
     </message>
     <message>
         <source>px</source>
@@ -88,7 +80,7 @@
     </message>
     <message>
         <source>Panel</source>
-        <translation>Tafel</translation>
+        <translation>Panel</translation>
     </message>
     <message>
         <source>Width</source>
@@ -97,6 +89,14 @@
     <message>
         <source>Height</source>
         <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>On: pictures have 32 bits per pixel, with transparency. Off: 24 bits per pixel; black shows the layer below.</source>
+        <translation>An: Bilder haben 32 Bit pro Pixel mit Transparenz. Aus: 24 Bit pro Pixel; Schwarz zeigt die Ebene darunter.</translation>
     </message>
 </context>
 <context>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>What the sign shows at the current tick</source>
-        <translation>Was das Schild beim gewählten Takt zeigt</translation>
+        <translation>Was das Schild im aktuellen Takt zeigt</translation>
     </message>
     <message>
         <source>x %1  y %2  ·  %3 × %4 px</source>
@@ -118,15 +118,15 @@
     <name>AnimText::Document</name>
     <message>
         <source>%1 has changed on disk</source>
-        <translation>%1 wurde auf der Platte geändert</translation>
-    </message>
-    <message>
-        <source>New sign</source>
-        <translation>Neues Schild</translation>
+        <translation>%1 wurde auf dem Datenträger geändert</translation>
     </message>
     <message>
         <source>Load from disk</source>
-        <translation>Von der Platte laden</translation>
+        <translation>Vom Datenträger laden</translation>
+    </message>
+    <message>
+        <source>New scene</source>
+        <translation>Neue Szene</translation>
     </message>
 </context>
 <context>
@@ -306,24 +306,8 @@
 <context>
     <name>AnimText::FindingsList</name>
     <message>
-        <source>Nearest speed</source>
-        <translation>Nächste Geschwindigkeit</translation>
-    </message>
-    <message>
         <source>Play once</source>
         <translation>Einmal abspielen</translation>
-    </message>
-    <message>
-        <source>No hold</source>
-        <translation>Ohne Stand</translation>
-    </message>
-    <message>
-        <source>Entrance effect</source>
-        <translation>Auftrittseffekt</translation>
-    </message>
-    <message>
-        <source>Typed effect</source>
-        <translation>Getippter Effekt</translation>
     </message>
     <message>
         <source>Scroll left</source>
@@ -331,36 +315,16 @@
     </message>
     <message>
         <source>Move onto the display</source>
-        <translation>Auf die Anzeige rücken</translation>
-    </message>
-    <message>
-        <source>Fit the height</source>
-        <translation>Der Höhe anpassen</translation>
-    </message>
-    <message>
-        <source>Fit the area</source>
-        <translation>Dem Bereich anpassen</translation>
-    </message>
-    <message>
-        <source>First color for all</source>
-        <translation>Erste Farbe für alle</translation>
-    </message>
-    <message>
-        <source>Turn dazzle on</source>
-        <translation>Farbspiel einschalten</translation>
+        <translation>In Anzeige verschieben</translation>
     </message>
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
-    <message>
-        <source>Findings</source>
-        <translation>Befunde</translation>
-    </message>
     <message numerus="yes">
         <source>And %n more</source>
         <translation>
-            <numerusform>Und %n weiterer</numerusform>
+            <numerusform>Und %n weiteres</numerusform>
             <numerusform>Und %n weitere</numerusform>
         </translation>
     </message>
@@ -371,12 +335,48 @@
 %3</translation>
     </message>
     <message>
-        <source>Make outlines again</source>
+        <source>No problems found</source>
+        <translation>Keine Probleme gefunden</translation>
+    </message>
+    <message>
+        <source>Use the nearest speed</source>
+        <translation>Tempo anpassen</translation>
+    </message>
+    <message>
+        <source>Remove the pause</source>
+        <translation>Pause entfernen</translation>
+    </message>
+    <message>
+        <source>Use an entrance effect</source>
+        <translation>Auftritt verwenden</translation>
+    </message>
+    <message>
+        <source>Use Typewriter</source>
+        <translation>Schreibmaschine nehmen</translation>
+    </message>
+    <message>
+        <source>Recreate the outlines</source>
         <translation>Umrisse neu erstellen</translation>
     </message>
     <message>
-        <source>No problems found</source>
-        <translation>Keine Probleme gefunden</translation>
+        <source>Fit height</source>
+        <translation>An Höhe anpassen</translation>
+    </message>
+    <message>
+        <source>Fit height and width</source>
+        <translation>An Höhe und Breite anpassen</translation>
+    </message>
+    <message>
+        <source>Turn on dazzle</source>
+        <translation>Farbspiel einschalten</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Use the first color</source>
+        <translation>Erste Farbe verwenden</translation>
     </message>
 </context>
 <context>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Platz</translation>
+        <translation>Platzierung</translation>
     </message>
     <message>
         <source>Background</source>
@@ -413,51 +413,19 @@
 <context>
     <name>AnimText::IntegratorView</name>
     <message>
-        <source>Calls of the device</source>
-        <translation>Aufrufe des Geräts</translation>
-    </message>
-    <message>
         <source>Call</source>
         <translation>Aufruf</translation>
     </message>
     <message>
-        <source>call </source>
-        <translation>Aufruf </translation>
-    </message>
-    <message>
-        <source>Which of its calls, from the start</source>
-        <translation>Der wievielte dieser Aufrufe seit dem Start</translation>
-    </message>
-    <message>
         <source>Compare with a library…</source>
-        <translation>Mit einer Bibliothek vergleichen …</translation>
-    </message>
-    <message>
-        <source>Plays the same with another plugin library and marks the pixels that differ</source>
-        <translation>Spielt dasselbe mit einer anderen Plugin-Bibliothek und markiert die Pixel, die sich unterscheiden</translation>
-    </message>
-    <message>
-        <source>Fails: %1</source>
-        <translation>Scheitert: %1</translation>
-    </message>
-    <message>
-        <source>No call of the device at tick %1.</source>
-        <translation>Kein Aufruf des Geräts bei Takt %1.</translation>
-    </message>
-    <message>
-        <source>No pixel differs</source>
-        <translation>Kein Pixel ist anders</translation>
+        <translation>Mit Bibliothek vergleichen …</translation>
     </message>
     <message numerus="yes">
         <source>%n pixel(s) differ</source>
         <translation>
-            <numerusform>%n Pixel ist anders</numerusform>
-            <numerusform>%n Pixel sind anders</numerusform>
+            <numerusform>%n Pixel weicht ab</numerusform>
+            <numerusform>%n Pixel weichen ab</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Another plugin library</source>
-        <translation>Eine andere Plugin-Bibliothek</translation>
     </message>
     <message>
         <source>Libraries (*.so*)</source>
@@ -468,20 +436,52 @@
         <translation>Fehlschlagen lassen</translation>
     </message>
     <message>
-        <source>Plays again from the start, and that call of the device fails</source>
-        <translation>Spielt noch einmal von vorn, und dieser Aufruf des Geräts schlägt fehl</translation>
-    </message>
-    <message>
         <source>Clear failures</source>
         <translation>Fehler aufheben</translation>
     </message>
     <message>
-        <source>Lets every call succeed again</source>
-        <translation>Lässt jeden Aufruf wieder gelingen</translation>
-    </message>
-    <message>
         <source>Stop comparing</source>
         <translation>Vergleich beenden</translation>
+    </message>
+    <message>
+        <source>Device calls</source>
+        <translation>Geräteaufrufe</translation>
+    </message>
+    <message>
+        <source>no. </source>
+        <translation>Nr. </translation>
+    </message>
+    <message>
+        <source>Number of the call, counted from the start</source>
+        <translation>Nummer des Aufrufs, ab dem Start gezählt</translation>
+    </message>
+    <message>
+        <source>Plays from the start and makes this device call fail</source>
+        <translation>Spielt von vorn und lässt diesen Geräteaufruf fehlschlagen</translation>
+    </message>
+    <message>
+        <source>Lets all device calls succeed again</source>
+        <translation>Lässt alle Geräteaufrufe wieder gelingen</translation>
+    </message>
+    <message>
+        <source>Plays the scene with a second plugin library, too, and marks the pixels that differ</source>
+        <translation>Spielt die Szene auch mit einer zweiten Plugin-Bibliothek und markiert abweichende Pixel</translation>
+    </message>
+    <message>
+        <source>Made to fail: %1</source>
+        <translation>Schlägt fehl: %1</translation>
+    </message>
+    <message>
+        <source>No device calls at tick %1</source>
+        <translation>Keine Geräteaufrufe in Takt %1</translation>
+    </message>
+    <message>
+        <source>No pixels differ</source>
+        <translation>Keine Abweichung</translation>
+    </message>
+    <message>
+        <source>Choose a plugin library</source>
+        <translation>Plugin-Bibliothek wählen</translation>
     </message>
 </context>
 <context>
@@ -520,15 +520,11 @@
     </message>
     <message>
         <source>Padding</source>
-        <translation>Rand</translation>
+        <translation>Innenabstand</translation>
     </message>
     <message>
         <source>Pages</source>
         <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>A text that scrolls has no pages.</source>
-        <translation>Ein Text, der läuft, hat keine Seiten.</translation>
     </message>
     <message>
         <source>Break pages between words</source>
@@ -540,11 +536,7 @@
     </message>
     <message>
         <source>Sizes as set</source>
-        <translation>Größen wie gesetzt</translation>
-    </message>
-    <message>
-        <source>Fit the height</source>
-        <translation>An Höhe anpassen</translation>
+        <translation>Größen wie angegeben</translation>
     </message>
     <message>
         <source>Fit height and width</source>
@@ -559,8 +551,16 @@
         <translation>Vertikal</translation>
     </message>
     <message>
-        <source>A text that scrolls sideways is not aligned.</source>
-        <translation>Ein seitlich laufender Text wird nicht ausgerichtet.</translation>
+        <source>Fit height</source>
+        <translation>An Höhe anpassen</translation>
+    </message>
+    <message>
+        <source>Text that scrolls sideways cannot be aligned.</source>
+        <translation>Seitlich laufender Text lässt sich nicht ausrichten.</translation>
+    </message>
+    <message>
+        <source>Scrolling text has no pages.</source>
+        <translation>Laufender Text hat keine Seiten.</translation>
     </message>
 </context>
 <context>
@@ -622,14 +622,6 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Every second row or column runs backwards</source>
-        <translation>Jede zweite Zeile oder Spalte läuft rückwärts</translation>
-    </message>
-    <message>
-        <source>Corners, order of the LEDs, colors and levels, each for five seconds</source>
-        <translation>Ecken, Reihenfolge der LEDs, Farben und Helligkeiten, je fünf Sekunden</translation>
-    </message>
-    <message>
         <source>Controller&apos;s name or address</source>
         <translation>Name oder Adresse des Controllers</translation>
     </message>
@@ -662,16 +654,8 @@
         <translation>Größe</translation>
     </message>
     <message>
-        <source>LEDs follow</source>
-        <translation>LEDs folgen auf</translation>
-    </message>
-    <message>
         <source>First LED</source>
         <translation>Erste LED</translation>
-    </message>
-    <message>
-        <source>Picture turned by</source>
-        <translation>Bild gedreht um</translation>
     </message>
     <message>
         <source>Color order</source>
@@ -688,10 +672,6 @@
     <message>
         <source>First universe</source>
         <translation>Erstes Universum</translation>
-    </message>
-    <message>
-        <source>The way of the data line, seen from the front</source>
-        <translation>Der Weg der Datenleitung, von vorn gesehen</translation>
     </message>
     <message>
         <source>The same as a command</source>
@@ -722,20 +702,40 @@
         <translation>Geben Sie den Namen oder die Adresse des Controllers ein.</translation>
     </message>
     <message>
-        <source>Sends to the multicast groups of E1.31.</source>
-        <translation>Sendet an die Multicast-Gruppen von E1.31.</translation>
+        <source>The LEDs show what the studio shows.</source>
+        <translation>Die LEDs zeigen, was das Studio zeigt.</translation>
     </message>
     <message>
-        <source>Looking for %1 …</source>
+        <source>Every other row or column runs in the opposite direction</source>
+        <translation>Jede zweite Zeile oder Spalte verläuft in Gegenrichtung</translation>
+    </message>
+    <message>
+        <source>Shows corners, LED order, colors, and brightness levels for five seconds each</source>
+        <translation>Zeigt Ecken, LED-Reihenfolge, Farben und Helligkeitsstufen je fünf Sekunden lang</translation>
+    </message>
+    <message>
+        <source>LEDs run along</source>
+        <translation>LEDs verlaufen in</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Path of the data line, seen from the front</source>
+        <translation>Verlauf der Datenleitung, von vorn gesehen</translation>
+    </message>
+    <message>
+        <source>No controller given: sends to the E1.31 multicast groups.</source>
+        <translation>Kein Controller angegeben: sendet an die E1.31-Multicast-Gruppen.</translation>
+    </message>
+    <message>
+        <source>Looking up %1…</source>
         <translation>%1 wird gesucht …</translation>
     </message>
     <message>
-        <source>%1 cannot be found: %2</source>
-        <translation>%1 ist nicht zu finden: %2</translation>
-    </message>
-    <message>
-        <source>The LEDs show what the studio shows.</source>
-        <translation>Die LEDs zeigen, was das Studio zeigt.</translation>
+        <source>%1 was not found: %2</source>
+        <translation>%1 wurde nicht gefunden: %2</translation>
     </message>
 </context>
 <context>
@@ -798,7 +798,7 @@
     </message>
     <message>
         <source>Add &amp;page</source>
-        <translation>Seite &amp;hinzufügen</translation>
+        <translation>&amp;Seite hinzufügen</translation>
     </message>
     <message>
         <source>Ctrl+Shift+T</source>
@@ -809,16 +809,12 @@
         <translation>Ctrl+D</translation>
     </message>
     <message>
-        <source>&amp;Write</source>
-        <translation>&amp;Schreiben</translation>
-    </message>
-    <message>
         <source>F2</source>
         <translation>F2</translation>
     </message>
     <message>
         <source>Search &amp;motions</source>
-        <translation>&amp;Bewegungen suchen</translation>
+        <translation>Bewegung &amp;suchen</translation>
     </message>
     <message>
         <source>Ctrl+M</source>
@@ -827,10 +823,6 @@
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Fit</source>
-        <translation>&amp;Einpassen</translation>
     </message>
     <message>
         <source>Ctrl+0</source>
@@ -853,24 +845,8 @@
         <translation>Ctrl+L</translation>
     </message>
     <message>
-        <source>Shows the pixels as round lamps (Ctrl+L)</source>
-        <translation>Zeigt die Pixel als runde Lampen (Strg+L)</translation>
-    </message>
-    <message>
-        <source>&amp;Pitch of the LEDs</source>
-        <translation>&amp;Abstand der LEDs</translation>
-    </message>
-    <message>
         <source>%1 diameters</source>
         <translation>%1 Durchmesser</translation>
-    </message>
-    <message>
-        <source>&amp;Chequered beneath</source>
-        <translation>&amp;Karos darunter</translation>
-    </message>
-    <message>
-        <source>Frames of all &amp;areas</source>
-        <translation>&amp;Rahmen aller Bereiche</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
@@ -878,11 +854,11 @@
     </message>
     <message>
         <source>Zoom</source>
-        <translation>Vergrößerung</translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation>Einpassen</translation>
+        <translation>Anpassen</translation>
     </message>
     <message>
         <source>%1 ×</source>
@@ -901,24 +877,12 @@
         <translation>Leertaste</translation>
     </message>
     <message>
-        <source>&amp;Backwards, then faster</source>
-        <translation>&amp;Rückwärts, dann schneller</translation>
-    </message>
-    <message>
         <source>&amp;Stop</source>
         <translation>&amp;Anhalten</translation>
     </message>
     <message>
-        <source>&amp;Forwards, then faster</source>
-        <translation>&amp;Vorwärts, dann schneller</translation>
-    </message>
-    <message>
         <source>One tick back</source>
         <translation>Einen Takt zurück</translation>
-    </message>
-    <message>
-        <source>One tick on</source>
-        <translation>Einen Takt weiter</translation>
     </message>
     <message>
         <source>Ten ticks back</source>
@@ -929,32 +893,20 @@
         <translation>Umschalt+←</translation>
     </message>
     <message>
-        <source>Ten ticks on</source>
-        <translation>Zehn Takte weiter</translation>
-    </message>
-    <message>
         <source>Shift+→</source>
         <translation>Umschalt+→</translation>
     </message>
     <message>
         <source>Previous page mark</source>
-        <translation>Vorige Seitenmarke</translation>
+        <translation>Vorherige Seitenmarke</translation>
     </message>
     <message>
         <source>Next page mark</source>
         <translation>Nächste Seitenmarke</translation>
     </message>
     <message>
-        <source>To the start</source>
-        <translation>Zum Anfang</translation>
-    </message>
-    <message>
         <source>Home</source>
         <translation>Pos1</translation>
-    </message>
-    <message>
-        <source>To the end</source>
-        <translation>Zum Ende</translation>
     </message>
     <message>
         <source>End</source>
@@ -973,20 +925,8 @@
         <translation>Animated Text Studio</translation>
     </message>
     <message>
-        <source>&lt;b&gt;Animated Text Studio %1&lt;/b&gt;&lt;p&gt;What is seen here is what the plugin paints: the same library, the same pixels as on the sign.</source>
-        <translation>&lt;b&gt;Animated Text Studio %1&lt;/b&gt;&lt;p&gt;Was hier zu sehen ist, malt das Plugin: dieselbe Bibliothek, dieselben Pixel wie auf dem Schild.</translation>
-    </message>
-    <message>
-        <source>Open a scene</source>
-        <translation>Eine Szene öffnen</translation>
-    </message>
-    <message>
         <source>Scenes (*.json)</source>
         <translation>Szenen (*.json)</translation>
-    </message>
-    <message>
-        <source>Save the scene</source>
-        <translation>Die Szene speichern</translation>
     </message>
     <message>
         <source>Save</source>
@@ -999,21 +939,6 @@
     <message>
         <source>Text</source>
         <translation>Text</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>Befunde</translation>
-    </message>
-    <message>
-        <source>No findings</source>
-        <translation>Keine Befunde</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n finding(s)</source>
-        <translation>
-            <numerusform>%n Befund</numerusform>
-            <numerusform>%n Befunde</numerusform>
-        </translation>
     </message>
     <message>
         <source>Integrator</source>
@@ -1033,27 +958,7 @@
     </message>
     <message>
         <source>%1 has changed on disk.</source>
-        <translation>%1 wurde auf der Platte geändert.</translation>
-    </message>
-    <message>
-        <source>Load it</source>
-        <translation>Laden</translation>
-    </message>
-    <message>
-        <source>Keep mine</source>
-        <translation>Meine Fassung behalten</translation>
-    </message>
-    <message>
-        <source>Save mine as…</source>
-        <translation>Meine Fassung speichern unter …</translation>
-    </message>
-    <message>
-        <source>Area</source>
-        <translation>Bereich</translation>
-    </message>
-    <message>
-        <source>a new sign</source>
-        <translation>ein neues Schild</translation>
+        <translation>%1 wurde auf dem Datenträger geändert.</translation>
     </message>
     <message>
         <source>Add page</source>
@@ -1065,7 +970,7 @@
     </message>
     <message>
         <source>Duplicate text</source>
-        <translation>Text verdoppeln</translation>
+        <translation>Text duplizieren</translation>
     </message>
     <message>
         <source>Remove text</source>
@@ -1089,7 +994,7 @@
     </message>
     <message>
         <source>Paste &amp;with styles</source>
-        <translation>Mit &amp;Stilen einfügen</translation>
+        <translation>Mit &amp;Formatierung einfügen</translation>
     </message>
     <message>
         <source>Ctrl+Shift+V</source>
@@ -1100,10 +1005,6 @@
         <translation>Ctrl+Space</translation>
     </message>
     <message>
-        <source>&amp;Loop the page, or stop looping</source>
-        <translation>Seite in &amp;Schleife spielen oder damit aufhören</translation>
-    </message>
-    <message>
         <source>&amp;New…</source>
         <translation>&amp;Neu …</translation>
     </message>
@@ -1112,16 +1013,12 @@
         <translation>Anzeige</translation>
     </message>
     <message>
-        <source>&amp;Rulers</source>
-        <translation>&amp;Lineale</translation>
-    </message>
-    <message>
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
     </message>
     <message>
         <source>Zoom (Ctrl+wheel, Ctrl+0, Ctrl++, Ctrl+-)</source>
-        <translation>Zoom (Strg+Mausrad, Ctrl+0, Ctrl++, Ctrl+-)</translation>
+        <translation>Zoom (Strg+Mausrad, Strg+0, Strg++, Strg+-)</translation>
     </message>
     <message>
         <source>&amp;Duplicate</source>
@@ -1152,28 +1049,8 @@
         <translation>Seite verschieben</translation>
     </message>
     <message>
-        <source>Earlier</source>
-        <translation>Früher</translation>
-    </message>
-    <message>
-        <source>Later</source>
-        <translation>Später</translation>
-    </message>
-    <message>
-        <source>Write</source>
-        <translation>Schreiben</translation>
-    </message>
-    <message>
         <source>Rename</source>
         <translation>Umbenennen</translation>
-    </message>
-    <message>
-        <source>To the front</source>
-        <translation>Nach vorn</translation>
-    </message>
-    <message>
-        <source>To the back</source>
-        <translation>Nach hinten</translation>
     </message>
     <message>
         <source>Move to page</source>
@@ -1188,16 +1065,8 @@
         <translation>Seite %1: %2</translation>
     </message>
     <message>
-        <source>Program: %1</source>
-        <translation>Programm: %1</translation>
-    </message>
-    <message>
         <source>Text: %1</source>
         <translation>Text: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Keys</source>
-        <translation>&amp;Tasten</translation>
     </message>
     <message>
         <source>F1</source>
@@ -1208,80 +1077,40 @@
         <translation>Tasten</translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation>Taste</translation>
-    </message>
-    <message>
-        <source>What it does</source>
-        <translation>Was sie tut</translation>
-    </message>
-    <message>
         <source>Display and fields</source>
         <translation>Anzeige und Felder</translation>
-    </message>
-    <message>
-        <source>Plays or stops, from any field</source>
-        <translation>Spielt oder hält an, aus jedem Feld</translation>
     </message>
     <message>
         <source>Alt+arrows</source>
         <translation>Alt+Pfeile</translation>
     </message>
     <message>
-        <source>Move the area; with Shift its size, with Ctrl by ten pixels</source>
-        <translation>Verschieben den Bereich; mit Umschalt seine Größe, mit Strg um zehn Pixel</translation>
-    </message>
-    <message>
         <source>Ctrl+wheel</source>
         <translation>Strg+Mausrad</translation>
-    </message>
-    <message>
-        <source>Zooms the display or the timeline</source>
-        <translation>Zoomt die Anzeige oder die Zeitleiste</translation>
     </message>
     <message>
         <source>Space+drag, middle button</source>
         <translation>Leertaste+Ziehen, mittlere Taste</translation>
     </message>
     <message>
-        <source>Pans the display</source>
-        <translation>Verschiebt die Anzeige</translation>
-    </message>
-    <message>
         <source>Ctrl while dragging</source>
         <translation>Strg beim Ziehen</translation>
-    </message>
-    <message>
-        <source>Areas do not snap</source>
-        <translation>Bereiche rasten nicht ein</translation>
     </message>
     <message>
         <source>Shift+drag</source>
         <translation>Umschalt+Ziehen</translation>
     </message>
     <message>
-        <source>Over the timeline: loops a range; over a number: steps by ten</source>
-        <translation>Über der Zeitleiste: spielt einen Bereich in Schleife; über einer Zahl: Zehnerschritte</translation>
-    </message>
-    <message>
         <source>Esc</source>
         <translation>Esc</translation>
-    </message>
-    <message>
-        <source>Leaves a field; on the display: selects no text</source>
-        <translation>Verlässt ein Feld; auf der Anzeige: wählt keinen Text</translation>
     </message>
     <message>
         <source>Return</source>
         <translation>Eingabe</translation>
     </message>
     <message>
-        <source>In a number: back to the display</source>
-        <translation>In einer Zahl: zurück zur Anzeige</translation>
-    </message>
-    <message>
         <source>%1 has unsaved changes.</source>
-        <translation>%1 hat ungespeicherte Änderungen.</translation>
+        <translation>%1 hat nicht gespeicherte Änderungen.</translation>
     </message>
     <message>
         <source>Don&apos;t save</source>
@@ -1293,11 +1122,11 @@
     </message>
     <message>
         <source>No recent scenes</source>
-        <translation>Keine letzten Szenen</translation>
+        <translation>Keine zuletzt geöffneten Szenen</translation>
     </message>
     <message>
         <source>The studio stopped before %1 was saved (%2).</source>
-        <translation>Das Studio endete, bevor %1 gespeichert war (%2).</translation>
+        <translation>Das Studio wurde beendet, bevor %1 gespeichert war (%2).</translation>
     </message>
     <message>
         <source>Restore</source>
@@ -1309,30 +1138,201 @@
     </message>
     <message>
         <source>Play on L&amp;EDs…</source>
-        <translation>Auf L&amp;EDs abspielen…</translation>
+        <translation>Auf L&amp;EDs abspielen …</translation>
+    </message>
+    <message>
+        <source>&amp;Edit text</source>
+        <translation>Text &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to window</source>
+        <translation>An &amp;Fenster anpassen</translation>
+    </message>
+    <message>
+        <source>Show the pixels as round LEDs (Ctrl+L)</source>
+        <translation>Pixel als runde LEDs anzeigen (Strg+L)</translation>
+    </message>
+    <message>
+        <source>LED &amp;pitch</source>
+        <translation>LED-&amp;Abstand</translation>
+    </message>
+    <message>
+        <source>&amp;Checkered background</source>
+        <translation>&amp;Karierter Hintergrund</translation>
+    </message>
+    <message>
+        <source>Show all &amp;areas</source>
+        <translation>Alle &amp;Bereiche anzeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;rulers</source>
+        <translation>&amp;Lineale anzeigen</translation>
+    </message>
+    <message>
+        <source>Play &amp;backward, then faster</source>
+        <translation>&amp;Rückwärts abspielen, dann schneller</translation>
+    </message>
+    <message>
+        <source>Play &amp;forward, then faster</source>
+        <translation>&amp;Vorwärts abspielen, dann schneller</translation>
+    </message>
+    <message>
+        <source>One tick forward</source>
+        <translation>Einen Takt vor</translation>
+    </message>
+    <message>
+        <source>Ten ticks forward</source>
+        <translation>Zehn Takte vor</translation>
+    </message>
+    <message>
+        <source>Go to start</source>
+        <translation>Zum Anfang</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>Zum Ende</translation>
+    </message>
+    <message>
+        <source>Turn page &amp;loop on or off</source>
+        <translation>Seiten&amp;schleife ein- oder ausschalten</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Animated Text Studio %1&lt;/b&gt;&lt;p&gt;The plugin itself paints the preview, so it shows the same pixels as the sign.</source>
+        <translation>&lt;b&gt;Animated Text Studio %1&lt;/b&gt;&lt;p&gt;Die Vorschau malt das Plugin selbst. Sie zeigt deshalb dieselben Pixel wie das Schild.</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Play or stop, from any field</source>
+        <translation>Abspielen oder anhalten, aus jedem Feld</translation>
+    </message>
+    <message>
+        <source>Move the area by 1 px. Shift: resize it. Ctrl: by 10 px</source>
+        <translation>Bereich um 1 px verschieben. Umschalt: Größe ändern. Strg: um 10 px</translation>
+    </message>
+    <message>
+        <source>Zoom the display or the timeline</source>
+        <translation>Anzeige oder Zeitleiste zoomen</translation>
+    </message>
+    <message>
+        <source>Scroll the display</source>
+        <translation>Anzeige verschieben</translation>
+    </message>
+    <message>
+        <source>Move or resize the area without snapping</source>
+        <translation>Bereich ohne Einrasten verschieben oder skalieren</translation>
+    </message>
+    <message>
+        <source>Timeline: loop a range. Number: change it in steps of 10</source>
+        <translation>Zeitleiste: Abschnitt wiederholen. Zahl: in Zehnerschritten ändern</translation>
+    </message>
+    <message>
+        <source>Leave a field. Display: clear the selection</source>
+        <translation>Feld verlassen. Anzeige: Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Number: return to the display</source>
+        <translation>Zahl: zurück zur Anzeige</translation>
+    </message>
+    <message>
+        <source>Open scene</source>
+        <translation>Szene öffnen</translation>
+    </message>
+    <message>
+        <source>Save scene</source>
+        <translation>Szene speichern</translation>
+    </message>
+    <message>
+        <source>Move page up</source>
+        <translation>Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Move page down</source>
+        <translation>Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Edit text</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>Bring to front</source>
+        <translation>In den Vordergrund</translation>
+    </message>
+    <message>
+        <source>Send to back</source>
+        <translation>In den Hintergrund</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Keine Probleme</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problem(s)</source>
+        <translation>
+            <numerusform>%n Problem</numerusform>
+            <numerusform>%n Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Load from disk</source>
+        <translation>Vom Datenträger laden</translation>
+    </message>
+    <message>
+        <source>Keep my version</source>
+        <translation>Meine Version behalten</translation>
+    </message>
+    <message>
+        <source>Save my version as…</source>
+        <translation>Meine Version speichern unter …</translation>
+    </message>
+    <message>
+        <source>Change area</source>
+        <translation>Bereich ändern</translation>
+    </message>
+    <message>
+        <source>an untitled scene</source>
+        <translation>eine unbenannte Szene</translation>
+    </message>
+    <message>
+        <source>All pages: %1</source>
+        <translation>Alle Seiten: %1</translation>
     </message>
 </context>
 <context>
     <name>AnimText::MotionPicker</name>
     <message>
         <source>Search motions</source>
-        <translation>Bewegungen suchen</translation>
+        <translation>Bewegung suchen</translation>
     </message>
     <message>
         <source>All families</source>
         <translation>Alle Familien</translation>
     </message>
     <message>
-        <source>Family of motions</source>
-        <translation>Familie von Bewegungen</translation>
-    </message>
-    <message>
         <source>Motions</source>
         <translation>Bewegungen</translation>
     </message>
     <message>
-        <source>Drag to make the list higher or lower</source>
-        <translation>Ziehen, um die Liste höher oder niedriger zu machen</translation>
+        <source>Drag to resize the list</source>
+        <translation>Ziehen, um die Höhe der Liste zu ändern</translation>
+    </message>
+    <message>
+        <source>Motion family</source>
+        <translation>Bewegungsfamilie</translation>
     </message>
 </context>
 <context>
@@ -1349,12 +1349,12 @@
 <context>
     <name>AnimText::NewDialog</name>
     <message>
-        <source>New sign</source>
-        <translation>Neues Schild</translation>
-    </message>
-    <message>
         <source>Create</source>
         <translation>Erstellen</translation>
+    </message>
+    <message>
+        <source>New scene</source>
+        <translation>Neue Szene</translation>
     </message>
 </context>
 <context>
@@ -1391,7 +1391,7 @@
     <name>AnimText::TextEditor</name>
     <message>
         <source>Paste with styles</source>
-        <translation>Mit Stilen einfügen</translation>
+        <translation>Mit Formatierung einfügen</translation>
     </message>
 </context>
 <context>
@@ -1401,20 +1401,12 @@
         <translation>Text</translation>
     </message>
     <message>
-        <source>Type the text</source>
-        <translation>Den Text tippen</translation>
-    </message>
-    <message>
         <source>Font</source>
         <translation>Schrift</translation>
     </message>
     <message>
         <source>Size</source>
         <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Size of the letters in pixels of the sign</source>
-        <translation>Größe der Zeichen in Pixeln des Schilds</translation>
     </message>
     <message>
         <source>B</source>
@@ -1453,44 +1445,52 @@
         <translation>Andere …</translation>
     </message>
     <message>
-        <source>Letters are cut: %1 px above, %2 px below.</source>
-        <translation>Zeichen sind abgeschnitten: oben %1 px, unten %2 px.</translation>
-    </message>
-    <message>
-        <source>The sign paints every character in the color of the first.</source>
-        <translation>Das Schild malt jedes Zeichen in der Farbe des ersten.</translation>
-    </message>
-    <message>
         <source>px</source>
         <translation>px</translation>
     </message>
     <message>
-        <source>Use another font for them</source>
-        <translation>Andere Schrift dafür nehmen</translation>
-    </message>
-    <message>
         <source>No installed font has them.</source>
-        <translation>Keine installierte Schrift hat sie.</translation>
+        <translation>Keine installierte Schrift enthält sie.</translation>
     </message>
     <message>
         <source>Will be missing: neither %1 nor any other installed font has it.</source>
-        <translation>Wird fehlen: weder %1 noch eine andere installierte Schrift hat es.</translation>
-    </message>
-    <message>
-        <source>Will be missing: its font has a picture instead of an outline (%1 was set).</source>
-        <translation>Wird fehlen: seine Schrift hat ein Bild statt eines Umrisses (%1 war gesetzt).</translation>
+        <translation>Wird fehlen: Weder %1 noch eine andere installierte Schrift enthält es.</translation>
     </message>
     <message>
         <source>Not in any font, will be missing: %1</source>
-        <translation>In keiner Schrift, wird fehlen: %1</translation>
-    </message>
-    <message>
-        <source>Wider than a page, will be broken: %1</source>
-        <translation>Breiter als eine Seite, wird zerteilt: %1</translation>
+        <translation>In keiner Schrift vorhanden, wird fehlen: %1</translation>
     </message>
     <message>
         <source>Color of the selection: %1</source>
         <translation>Farbe der Auswahl: %1</translation>
+    </message>
+    <message>
+        <source>Use another font for these</source>
+        <translation>Andere Schrift dafür verwenden</translation>
+    </message>
+    <message>
+        <source>Type your text</source>
+        <translation>Text eingeben</translation>
+    </message>
+    <message>
+        <source>Font size in pixels on the sign</source>
+        <translation>Schriftgröße in Pixeln auf dem Schild</translation>
+    </message>
+    <message>
+        <source>Will be missing: its font has a picture instead of an outline (font: %1).</source>
+        <translation>Wird fehlen: Die Schrift hat dafür ein Bild statt eines Umrisses (Schrift: %1).</translation>
+    </message>
+    <message>
+        <source>Wider than a page, will be split: %1</source>
+        <translation>Breiter als eine Seite, wird geteilt: %1</translation>
+    </message>
+    <message>
+        <source>Letters are cut off: %1 px at the top, %2 px at the bottom.</source>
+        <translation>Zeichen sind abgeschnitten: oben %1 px, unten %2 px.</translation>
+    </message>
+    <message>
+        <source>The sign uses the first character&apos;s color for the whole text.</source>
+        <translation>Das Schild zeigt den ganzen Text in der Farbe des ersten Zeichens.</translation>
     </message>
 </context>
 <context>
@@ -1515,28 +1515,8 @@
         <translation>%1, Takt %2</translation>
     </message>
     <message>
-        <source>enters</source>
-        <translation>tritt ein</translation>
-    </message>
-    <message>
-        <source>holds</source>
-        <translation>hält</translation>
-    </message>
-    <message>
         <source>cut off</source>
         <translation>abgeschnitten</translation>
-    </message>
-    <message>
-        <source>Click or drag to go to a moment; Shift+drag loops a range; Ctrl+wheel zooms.</source>
-        <translation>Klicken oder ziehen, um zu einem Zeitpunkt zu gehen; Umschalt+Ziehen spielt einen Bereich in Schleife; Strg+Mausrad zoomt.</translation>
-    </message>
-    <message>
-        <source>Page %1 holds for %2</source>
-        <translation>Seite %1 hält %2 lang</translation>
-    </message>
-    <message>
-        <source>Page %1 enters for %2</source>
-        <translation>Seite %1 tritt %2 lang ein</translation>
     </message>
     <message>
         <source>Planned: %1</source>
@@ -1546,13 +1526,29 @@
         <source>Needs: %1</source>
         <translation>Braucht: %1</translation>
     </message>
+    <message>
+        <source>entrance</source>
+        <translation>Auftritt</translation>
+    </message>
+    <message>
+        <source>pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Click or drag: go to that time. Shift+drag: loop a range. Ctrl+wheel: zoom.</source>
+        <translation>Klicken oder ziehen: zu diesem Zeitpunkt gehen. Umschalt+Ziehen: Abschnitt wiederholen. Strg+Mausrad: zoomen.</translation>
+    </message>
+    <message>
+        <source>Page %1: pause, %2</source>
+        <translation>Seite %1: Pause, %2</translation>
+    </message>
+    <message>
+        <source>Page %1: entrance, %2</source>
+        <translation>Seite %1: Auftritt, %2</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::TransportBar</name>
-    <message>
-        <source>To the start</source>
-        <translation>Zum Anfang</translation>
-    </message>
     <message>
         <source>Home</source>
         <translation>Pos1</translation>
@@ -1568,14 +1564,6 @@
     <message>
         <source>Space</source>
         <translation>Leertaste</translation>
-    </message>
-    <message>
-        <source>One tick on</source>
-        <translation>Einen Takt weiter</translation>
-    </message>
-    <message>
-        <source>To the end</source>
-        <translation>Zum Ende</translation>
     </message>
     <message>
         <source>End</source>
@@ -1594,34 +1582,12 @@
         <translation>Alle Seiten</translation>
     </message>
     <message>
-        <source>What is played</source>
-        <translation>Was gespielt wird</translation>
-    </message>
-    <message>
         <source>%1  tick %2</source>
         <translation>%1  Takt %2</translation>
     </message>
     <message>
         <source>Stop</source>
         <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>nothing to play</source>
-        <translation>nichts zu spielen</translation>
-    </message>
-    <message>
-        <source>Loop the page; Shift+drag over the timeline loops a range</source>
-        <translation>Seite in Schleife spielen; Umschalt+Ziehen über die Zeitleiste für einen Bereich</translation>
-    </message>
-    <message>
-        <source>This page: all its texts, for as long as they need.
-All pages: in turn, each for its planned time, as the host plays them.</source>
-        <translation>Diese Seite: alle ihre Texte, so lange sie brauchen.
-Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt.</translation>
-    </message>
-    <message>
-        <source>planned %1 · needs longer than can be shown</source>
-        <translation>geplant %1 · braucht länger, als gezeigt werden kann</translation>
     </message>
     <message>
         <source>planned %1 · needs %2</source>
@@ -1639,23 +1605,61 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <translation> · %1 verloren</translation>
     </message>
     <message>
-        <source> · %1 longer on the sign</source>
+        <source>Go to start</source>
+        <translation>Zum Anfang</translation>
+    </message>
+    <message>
+        <source>One tick forward</source>
+        <translation>Einen Takt vor</translation>
+    </message>
+    <message>
+        <source>Go to end</source>
+        <translation>Zum Ende</translation>
+    </message>
+    <message>
+        <source>Loop the page</source>
+        <translation>Seite wiederholen</translation>
+    </message>
+    <message>
+        <source>Shift+drag on the timeline loops a range</source>
+        <translation>Umschalt+Ziehen in der Zeitleiste wiederholt einen Abschnitt</translation>
+    </message>
+    <message>
+        <source>What to play</source>
+        <translation>Was abgespielt wird</translation>
+    </message>
+    <message>
+        <source>This page: until all its texts have ended.
+All pages: one after another, each for its planned time, as on the host.</source>
+        <translation>Diese Seite: bis alle ihre Texte zu Ende sind.
+Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</translation>
+    </message>
+    <message>
+        <source>this text is empty</source>
+        <translation>dieser Text ist leer</translation>
+    </message>
+    <message>
+        <source>planned %1 · too long to measure</source>
+        <translation>geplant %1 · zu lang zum Messen</translation>
+    </message>
+    <message>
+        <source> · stays %1 longer</source>
         <translation> · steht %1 länger</translation>
     </message>
 </context>
 <context>
     <name>AnimText::WorkerLink</name>
     <message>
-        <source>The plugin answered no more and was ended.</source>
-        <translation>Das Plugin antwortete nicht mehr und wurde beendet.</translation>
-    </message>
-    <message>
         <source>The plugin crashed.</source>
         <translation>Das Plugin ist abgestürzt.</translation>
     </message>
     <message>
-        <source>The worker has ended.</source>
-        <translation>Der Arbeitsprozess ist zu Ende.</translation>
+        <source>The plugin stopped responding and was terminated.</source>
+        <translation>Das Plugin reagierte nicht mehr und wurde beendet.</translation>
+    </message>
+    <message>
+        <source>The playback process ended unexpectedly.</source>
+        <translation>Der Abspielprozess wurde unerwartet beendet.</translation>
     </message>
 </context>
 <context>
@@ -2127,184 +2131,28 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
 <context>
     <name>Motions</name>
     <message>
-        <source>fly-in</source>
-        <translation>Einfliegen</translation>
-    </message>
-    <message>
-        <source>word by word</source>
-        <translation>Zeichen um Zeichen</translation>
-    </message>
-    <message>
-        <source>oscillating</source>
-        <translation>Schwingen</translation>
-    </message>
-    <message>
-        <source>rotation and flip</source>
-        <translation>Drehen und Kippen</translation>
-    </message>
-    <message>
-        <source>in turn</source>
-        <translation>Der Reihe nach</translation>
-    </message>
-    <message>
-        <source>stretch and move</source>
-        <translation>Dehnen und Ziehen</translation>
-    </message>
-    <message>
-        <source>text zoom</source>
-        <translation>Text-Zoom</translation>
-    </message>
-    <message>
         <source>frogs</source>
         <translation>Frösche</translation>
     </message>
     <message>
         <source>scroll</source>
-        <translation>Laufen</translation>
-    </message>
-    <message>
-        <source>characters fly in one by one, each from the right edge leftwards to its place</source>
-        <translation>Zeichen fliegen einzeln ein, jedes vom rechten Rand nach links an seinen Platz</translation>
-    </message>
-    <message>
-        <source>the last character first, each flies from the left edge rightwards; pages end at the right edge</source>
-        <translation>das letzte Zeichen zuerst, jedes fliegt vom linken Rand nach rechts; Seiten enden am rechten Rand</translation>
-    </message>
-    <message>
-        <source>characters rise one by one from below the bottom edge to their places</source>
-        <translation>Zeichen steigen einzeln von unter dem unteren Rand an ihre Plätze</translation>
-    </message>
-    <message>
-        <source>characters drop one by one from the top edge to their places</source>
-        <translation>Zeichen fallen einzeln vom oberen Rand an ihre Plätze</translation>
-    </message>
-    <message>
-        <source>characters appear whole, one after another, as if typed</source>
-        <translation>Zeichen erscheinen ganz, eines nach dem anderen, wie getippt</translation>
-    </message>
-    <message>
-        <source>a wave travels to the right through the row, from edge to edge of the area</source>
-        <translation>eine Welle läuft nach rechts durch die Reihe, von Rand zu Rand des Bereichs</translation>
-    </message>
-    <message>
-        <source>the whole row sways sideways and leans as it goes</source>
-        <translation>die ganze Reihe schwankt seitwärts und neigt sich dabei</translation>
-    </message>
-    <message>
-        <source>every character pulses from its own size to half as large again</source>
-        <translation>jedes Zeichen pulst von seiner Größe auf das Anderthalbfache</translation>
-    </message>
-    <message>
-        <source>every character jitters at random by a few pixels, 61 frames a page</source>
-        <translation>jedes Zeichen zittert zufällig um einige Pixel, 61 Bilder je Seite</translation>
-    </message>
-    <message>
-        <source>characters grow out of nothing at their places, one after another</source>
-        <translation>Zeichen wachsen an ihren Plätzen aus dem Nichts, eines nach dem anderen</translation>
-    </message>
-    <message>
-        <source>characters appear at double size and shrink to their own, one after another</source>
-        <translation>Zeichen erscheinen doppelt so groß und schrumpfen auf ihre Größe, eines nach dem anderen</translation>
-    </message>
-    <message>
-        <source>every character turns once clockwise about its middle</source>
-        <translation>jedes Zeichen dreht sich einmal im Uhrzeigersinn um seine Mitte</translation>
-    </message>
-    <message>
-        <source>the row rolls in from the right edge, each character spinning anticlockwise</source>
-        <translation>die Reihe rollt vom rechten Rand herein, jedes Zeichen gegen den Uhrzeigersinn kreisend</translation>
-    </message>
-    <message>
-        <source>every character turns once clockwise about the middle of its baseline</source>
-        <translation>jedes Zeichen dreht sich einmal im Uhrzeigersinn um die Mitte seiner Grundlinie</translation>
-    </message>
-    <message>
-        <source>characters stand on their heads and flip upright over the baseline, one after another</source>
-        <translation>Zeichen stehen auf dem Kopf und kippen über die Grundlinie auf, eines nach dem anderen</translation>
-    </message>
-    <message>
-        <source>characters swell upwards and sink to nothing in turn, like a wave through grass</source>
-        <translation>Zeichen schwellen der Reihe nach auf und sinken ins Nichts, wie eine Welle durch Gras</translation>
-    </message>
-    <message>
-        <source>characters drop from the top edge, each a little after its left neighbour</source>
-        <translation>Zeichen fallen vom oberen Rand, jedes ein wenig nach seinem linken Nachbarn</translation>
-    </message>
-    <message>
-        <source>characters drop tilted by 45 degrees, bounce once and settle upright, in turn</source>
-        <translation>Zeichen fallen um 45 Grad geneigt, prallen einmal ab und richten sich auf, der Reihe nach</translation>
-    </message>
-    <message>
-        <source>characters come in turn from the top of the right edge on slanted paths, widening from nothing</source>
-        <translation>Zeichen kommen der Reihe nach oben vom rechten Rand auf schrägen Bahnen und werden aus dem Nichts breiter</translation>
-    </message>
-    <message>
-        <source>a frog hops along the top edge, and under it each character appears from its top downward</source>
-        <translation>ein Frosch hüpft am oberen Rand entlang, und unter ihm erscheint jedes Zeichen von oben nach unten</translation>
-    </message>
-    <message>
-        <source>a frog hops along the top edge, and each character falls from there in five steps</source>
-        <translation>ein Frosch hüpft am oberen Rand entlang, und jedes Zeichen fällt von dort in fünf Schritten</translation>
-    </message>
-    <message>
-        <source>every character widens to the right from nothing to its full width</source>
-        <translation>jedes Zeichen wird nach rechts aus dem Nichts zu seiner vollen Breite</translation>
-    </message>
-    <message>
-        <source>characters slide in turn from the top of the right edge on slanted paths</source>
-        <translation>Zeichen gleiten der Reihe nach oben vom rechten Rand auf schrägen Bahnen herein</translation>
-    </message>
-    <message>
-        <source>every character climbs from the bottom edge to the top again and again, the right one ahead</source>
-        <translation>jedes Zeichen klettert immer wieder vom unteren Rand zum oberen, das rechte voran</translation>
+        <translation>Laufschrift</translation>
     </message>
     <message>
         <source>characters grow in pairs from both ends of the page to its middle, twice</source>
         <translation>Zeichen wachsen paarweise von beiden Enden der Seite zur Mitte, zweimal</translation>
     </message>
     <message>
-        <source>the row turns round a vertical axis in its middle, away and back</source>
-        <translation>die Reihe dreht sich um eine senkrechte Achse in ihrer Mitte, fort und zurück</translation>
-    </message>
-    <message>
-        <source>the row gathers from five times its width while slanted characters narrow and widen</source>
-        <translation>die Reihe sammelt sich aus ihrer fünffachen Breite, während schräge Zeichen schmal und breit werden</translation>
-    </message>
-    <message>
-        <source>the row gathers from five times its width while characters turn once anticlockwise</source>
-        <translation>die Reihe sammelt sich aus ihrer fünffachen Breite, während Zeichen sich einmal gegen den Uhrzeigersinn drehen</translation>
-    </message>
-    <message>
-        <source>the page pulses in and out of nothing about its middle, two and a half times</source>
-        <translation>die Seite pulst um ihre Mitte ins Nichts und zurück, zweieinhalbmal</translation>
-    </message>
-    <message>
         <source>every character rocks by up to 45 degrees, on one foot and then on the other</source>
-        <translation>jedes Zeichen wippt um bis zu 45 Grad, auf einem Fuß und dann auf dem anderen</translation>
-    </message>
-    <message>
-        <source>the line enters at the right edge and leaves at the left, moved by the device</source>
-        <translation>die Zeile kommt am rechten Rand und geht am linken, vom Gerät bewegt</translation>
-    </message>
-    <message>
-        <source>the line enters at the left edge and leaves at the right, moved by the device</source>
-        <translation>die Zeile kommt am linken Rand und geht am rechten, vom Gerät bewegt</translation>
+        <translation>jedes Zeichen wippt um bis zu 45 Grad, erst auf einem Fuß, dann auf dem anderen</translation>
     </message>
     <message>
         <source>the characters, one above another, rise from the bottom edge without end</source>
-        <translation>die Zeichen, eines über dem anderen, steigen ohne Ende vom unteren Rand</translation>
+        <translation>die Zeichen steigen übereinander vom unteren Rand auf, ohne Ende</translation>
     </message>
     <message>
         <source>the characters, one above another, sink from the top edge without end</source>
-        <translation>die Zeichen, eines über dem anderen, sinken ohne Ende vom oberen Rand</translation>
-    </message>
-    <message>
-        <source>Fly to the left</source>
-        <translation>Nach links fliegen</translation>
-    </message>
-    <message>
-        <source>Fly to the right</source>
-        <translation>Nach rechts fliegen</translation>
+        <translation>die Zeichen sinken übereinander vom oberen Rand herab, ohne Ende</translation>
     </message>
     <message>
         <source>Rise one by one</source>
@@ -2339,68 +2187,24 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <translation>Einzeln wachsen</translation>
     </message>
     <message>
-        <source>Shrink one by one</source>
-        <translation>Einzeln schrumpfen</translation>
-    </message>
-    <message>
-        <source>Spin about the middle</source>
-        <translation>Um die Mitte drehen</translation>
-    </message>
-    <message>
         <source>Roll in</source>
         <translation>Hereinrollen</translation>
     </message>
     <message>
-        <source>Spin about the baseline</source>
-        <translation>Um die Grundlinie drehen</translation>
-    </message>
-    <message>
         <source>Flip upright</source>
-        <translation>Aufrecht klappen</translation>
-    </message>
-    <message>
-        <source>Swell in turn</source>
-        <translation>Reihum anschwellen</translation>
-    </message>
-    <message>
-        <source>Drop in turn</source>
-        <translation>Reihum fallen</translation>
+        <translation>Hochklappen</translation>
     </message>
     <message>
         <source>Drop and bounce</source>
-        <translation>Fallen und abprallen</translation>
-    </message>
-    <message>
-        <source>Widen along a slant</source>
-        <translation>Schräg breiter werden</translation>
-    </message>
-    <message>
-        <source>Frog uncovers</source>
-        <translation>Frosch deckt auf</translation>
-    </message>
-    <message>
-        <source>Frog drops</source>
-        <translation>Frosch lässt fallen</translation>
+        <translation>Fallen und federn</translation>
     </message>
     <message>
         <source>Widen to the right</source>
-        <translation>Nach rechts breiter werden</translation>
-    </message>
-    <message>
-        <source>Slide along a slant</source>
-        <translation>Schräg gleiten</translation>
-    </message>
-    <message>
-        <source>Climb again and again</source>
-        <translation>Immer wieder klettern</translation>
+        <translation>Nach rechts aufziehen</translation>
     </message>
     <message>
         <source>Grow from both ends</source>
-        <translation>Von beiden Enden wachsen</translation>
-    </message>
-    <message>
-        <source>Turn the row</source>
-        <translation>Zeile drehen</translation>
+        <translation>Von außen wachsen</translation>
     </message>
     <message>
         <source>Gather and flip</source>
@@ -2411,12 +2215,8 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <translation>Sammeln und drehen</translation>
     </message>
     <message>
-        <source>Pulse the page</source>
-        <translation>Seite pulsieren</translation>
-    </message>
-    <message>
         <source>Rock</source>
-        <translation>Schaukeln</translation>
+        <translation>Wippen</translation>
     </message>
     <message>
         <source>Scroll left</source>
@@ -2434,92 +2234,356 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <source>Scroll down</source>
         <translation>Nach unten laufen</translation>
     </message>
+    <message>
+        <source>fly in</source>
+        <translation>Einfliegen</translation>
+    </message>
+    <message>
+        <source>letter by letter</source>
+        <translation>Zeichen für Zeichen</translation>
+    </message>
+    <message>
+        <source>sway and shake</source>
+        <translation>Schwingen und zittern</translation>
+    </message>
+    <message>
+        <source>spin and flip</source>
+        <translation>Drehen und klappen</translation>
+    </message>
+    <message>
+        <source>one after another</source>
+        <translation>Der Reihe nach</translation>
+    </message>
+    <message>
+        <source>stretch and slide</source>
+        <translation>Dehnen und gleiten</translation>
+    </message>
+    <message>
+        <source>zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Fly in from the right</source>
+        <translation>Von rechts einfliegen</translation>
+    </message>
+    <message>
+        <source>characters fly in from the right edge to their places, one at a time</source>
+        <translation>Zeichen fliegen einzeln vom rechten Rand an ihre Plätze</translation>
+    </message>
+    <message>
+        <source>fly left, slide, swoosh</source>
+        <translation>nach links fliegen, gleiten</translation>
+    </message>
+    <message>
+        <source>Fly in from the left</source>
+        <translation>Von links einfliegen</translation>
+    </message>
+    <message>
+        <source>characters fly in from the left edge, the last one first; pages end at the right edge</source>
+        <translation>Zeichen fliegen vom linken Rand ein, das letzte zuerst; Seiten enden am rechten Rand</translation>
+    </message>
+    <message>
+        <source>fly right, slide, swoosh, reverse, backwards</source>
+        <translation>nach rechts fliegen, gleiten, umgekehrt, rückwärts</translation>
+    </message>
+    <message>
+        <source>characters rise from below the bottom edge to their places, one at a time</source>
+        <translation>Zeichen steigen einzeln von unterhalb des unteren Randes an ihre Plätze</translation>
+    </message>
+    <message>
+        <source>fly up, from below, lift, elevator</source>
+        <translation>hochfliegen, von unten, Aufzug</translation>
+    </message>
+    <message>
+        <source>characters drop from the top edge to their places, one at a time</source>
+        <translation>Zeichen fallen einzeln vom oberen Rand an ihre Plätze</translation>
+    </message>
+    <message>
+        <source>fly down, fall, from above</source>
+        <translation>herunterfliegen, von oben</translation>
+    </message>
+    <message>
+        <source>characters appear one at a time, as if typed</source>
+        <translation>Zeichen erscheinen einzeln, wie getippt</translation>
+    </message>
+    <message>
+        <source>type, teletype, reveal, appear</source>
+        <translation>tippen, Fernschreiber, einblenden, buchstabieren</translation>
+    </message>
+    <message>
+        <source>a wave as high as the area runs through the row from left to right</source>
+        <translation>eine Welle, so hoch wie der Bereich, läuft von links nach rechts durch die Zeile</translation>
+    </message>
+    <message>
+        <source>undulate, ripple, roller coaster, up and down</source>
+        <translation>wogen, Achterbahn, auf und ab</translation>
+    </message>
+    <message>
+        <source>the whole row sways from side to side and leans as it goes</source>
+        <translation>die ganze Zeile schwankt hin und her und neigt sich dabei</translation>
+    </message>
+    <message>
+        <source>swing, lean, slant, skew, pendulum</source>
+        <translation>schwingen, neigen, schräg, kippen, Pendel</translation>
+    </message>
+    <message>
+        <source>every character grows to one and a half times its size and back</source>
+        <translation>jedes Zeichen wächst auf das Anderthalbfache und schrumpft zurück</translation>
+    </message>
+    <message>
+        <source>beat, heartbeat, throb, breathe, scale, zoom</source>
+        <translation>Herzschlag, pochen, atmen, skalieren, zoomen</translation>
+    </message>
+    <message>
+        <source>every character jitters at random by a few pixels, for 61 frames per page</source>
+        <translation>jedes Zeichen zittert zufällig um einige Pixel, 61 Bilder pro Seite</translation>
+    </message>
+    <message>
+        <source>shake, jitter, shiver, vibrate, nervous, random</source>
+        <translation>schütteln, beben, vibrieren, nervös, Zufall</translation>
+    </message>
+    <message>
+        <source>characters grow from nothing in their places, one at a time</source>
+        <translation>Zeichen wachsen an ihren Plätzen einzeln aus dem Nichts</translation>
+    </message>
+    <message>
+        <source>zoom in, enlarge, pop up, scale up</source>
+        <translation>vergrößern, einzoomen, aufploppen</translation>
+    </message>
+    <message>
+        <source>Shrink to size</source>
+        <translation>Auf Größe schrumpfen</translation>
+    </message>
+    <message>
+        <source>characters appear at double size and shrink to their own, one at a time</source>
+        <translation>Zeichen erscheinen einzeln in doppelter Größe und schrumpfen auf ihre eigene</translation>
+    </message>
+    <message>
+        <source>zoom out, stamp, reduce, scale down</source>
+        <translation>verkleinern, auszoomen, Stempel</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>every character turns clockwise once, around a point near its top</source>
+        <translation>jedes Zeichen dreht sich einmal im Uhrzeigersinn um einen Punkt an seinem oberen Ende</translation>
+    </message>
+    <message>
+        <source>rotate, turn, whirl</source>
+        <translation>rotieren, kreisen, wirbeln</translation>
+    </message>
+    <message>
+        <source>characters roll in from the right edge and turn counterclockwise</source>
+        <translation>Zeichen rollen vom rechten Rand herein und drehen sich dabei gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>rotate, spin, wheel, tumble</source>
+        <translation>rotieren, Rad, kullern, purzeln</translation>
+    </message>
+    <message>
+        <source>Spin on the baseline</source>
+        <translation>Auf dem Fuß drehen</translation>
+    </message>
+    <message>
+        <source>every character turns clockwise once, around the middle of its baseline</source>
+        <translation>jedes Zeichen dreht sich einmal im Uhrzeigersinn um die Mitte seiner Grundlinie</translation>
+    </message>
+    <message>
+        <source>characters start upside down and flip upright over the baseline, one after another</source>
+        <translation>Zeichen stehen zuerst auf dem Kopf und klappen nacheinander über die Grundlinie hoch</translation>
+    </message>
+    <message>
+        <source>mirror, turn over, unfold, somersault</source>
+        <translation>spiegeln, umklappen, aufklappen, Salto</translation>
+    </message>
+    <message>
+        <source>Stretch and sink</source>
+        <translation>Strecken und sinken</translation>
+    </message>
+    <message>
+        <source>characters stretch upward and sink to nothing in turn, like grass in the wind</source>
+        <translation>Zeichen strecken sich nacheinander nach oben und versinken, wie Gras im Wind</translation>
+    </message>
+    <message>
+        <source>grow, squash, wave, zoom, swell</source>
+        <translation>wachsen, quetschen, Welle, anschwellen</translation>
+    </message>
+    <message>
+        <source>Drop in a cascade</source>
+        <translation>Kaskade</translation>
+    </message>
+    <message>
+        <source>characters drop from the top edge, each a little after its left neighbor</source>
+        <translation>Zeichen fallen vom oberen Rand, jedes etwas später als sein linker Nachbar</translation>
+    </message>
+    <message>
+        <source>fall, rain, waterfall, domino</source>
+        <translation>herabfallen, Regen, Wasserfall, Domino</translation>
+    </message>
+    <message>
+        <source>characters tilted by 45 degrees drop in turn, bounce once and settle upright</source>
+        <translation>um 45 Grad geneigte Zeichen fallen nacheinander, federn einmal und richten sich auf</translation>
+    </message>
+    <message>
+        <source>fall, ball, jump, tilt, tumble</source>
+        <translation>hüpfen, springen, abprallen, Ball, geneigt</translation>
+    </message>
+    <message>
+        <source>Slide in and widen</source>
+        <translation>Schräg aufziehen</translation>
+    </message>
+    <message>
+        <source>characters slide in diagonally from the top right corner and widen from nothing</source>
+        <translation>Zeichen gleiten schräg von oben rechts herein und werden dabei aus dem Nichts breiter</translation>
+    </message>
+    <message>
+        <source>zoom in, diagonal, slant, stretch</source>
+        <translation>einzoomen, diagonal, strecken</translation>
+    </message>
+    <message>
+        <source>Frog uncovers letters</source>
+        <translation>Frosch deckt auf</translation>
+    </message>
+    <message>
+        <source>a frog hops along the top edge and uncovers each character from top to bottom</source>
+        <translation>ein Frosch hüpft am oberen Rand entlang und deckt jedes Zeichen von oben nach unten auf</translation>
+    </message>
+    <message>
+        <source>animal, hop, jump, reveal, cartoon, fun</source>
+        <translation>Tier, hüpfen, springen, enthüllen, Comic, lustig</translation>
+    </message>
+    <message>
+        <source>Frog drops letters</source>
+        <translation>Frosch lässt fallen</translation>
+    </message>
+    <message>
+        <source>a frog hops along the top edge and drops each character into place in five steps</source>
+        <translation>ein Frosch hüpft am oberen Rand entlang und lässt jedes Zeichen in fünf Schritten fallen</translation>
+    </message>
+    <message>
+        <source>animal, hop, jump, fall, cartoon, fun</source>
+        <translation>Tier, hüpfen, springen, Comic, lustig</translation>
+    </message>
+    <message>
+        <source>every character widens to the right, from nothing to its full width</source>
+        <translation>jedes Zeichen wird aus dem Nichts nach rechts breiter</translation>
+    </message>
+    <message>
+        <source>stretch, unfold, open, expand</source>
+        <translation>strecken, entfalten, öffnen, verbreitern</translation>
+    </message>
+    <message>
+        <source>Slide in diagonally</source>
+        <translation>Schräg hereingleiten</translation>
+    </message>
+    <message>
+        <source>characters slide in diagonally from the top right corner, one after another</source>
+        <translation>Zeichen gleiten nacheinander schräg von oben rechts herein</translation>
+    </message>
+    <message>
+        <source>slant, fly in</source>
+        <translation>diagonal, einfliegen</translation>
+    </message>
+    <message>
+        <source>Climb over and over</source>
+        <translation>Immer wieder klettern</translation>
+    </message>
+    <message>
+        <source>every character climbs from the bottom edge to the top again and again; those on the right lead</source>
+        <translation>jedes Zeichen klettert immer wieder vom unteren Rand zum oberen; die rechten voran</translation>
+    </message>
+    <message>
+        <source>rise, repeat, loop, elevator, stairs</source>
+        <translation>steigen, wiederholen, Aufzug, Treppe</translation>
+    </message>
+    <message>
+        <source>enlarge, zoom in, outside in, scale up</source>
+        <translation>vergrößern, einzoomen, von außen nach innen</translation>
+    </message>
+    <message>
+        <source>Mirror and back</source>
+        <translation>Spiegeln und zurück</translation>
+    </message>
+    <message>
+        <source>the row shrinks to its middle, opens mirrored, and returns the same way</source>
+        <translation>die Zeile schrumpft zur Mitte, öffnet sich gespiegelt und kehrt ebenso zurück</translation>
+    </message>
+    <message>
+        <source>3D, turn around, revolve, flip, spin</source>
+        <translation>3D, umdrehen, wenden, rotieren</translation>
+    </message>
+    <message>
+        <source>the row closes up from five times its width while slanted characters narrow and widen</source>
+        <translation>die Zeile rückt aus ihrer fünffachen Breite zusammen, während schräge Zeichen schmal und wieder breit werden</translation>
+    </message>
+    <message>
+        <source>converge, assemble, squeeze, 3D</source>
+        <translation>zusammenrücken, zusammenziehen, 3D</translation>
+    </message>
+    <message>
+        <source>the row closes up from five times its width while each character turns counterclockwise once</source>
+        <translation>die Zeile rückt aus ihrer fünffachen Breite zusammen, während sich jedes Zeichen einmal gegen den Uhrzeigersinn dreht</translation>
+    </message>
+    <message>
+        <source>converge, assemble, rotate, whirl</source>
+        <translation>zusammenrücken, zusammenziehen, rotieren, wirbeln</translation>
+    </message>
+    <message>
+        <source>Zoom in and out</source>
+        <translation>Ein- und auszoomen</translation>
+    </message>
+    <message>
+        <source>the page grows from nothing and shrinks back around its middle, two and a half times</source>
+        <translation>die Seite wächst zweieinhalbmal aus dem Nichts und schrumpft zurück, um ihre Mitte</translation>
+    </message>
+    <message>
+        <source>pulse, scale, blow up, pump</source>
+        <translation>pulsieren, skalieren, aufblasen, pumpen</translation>
+    </message>
+    <message>
+        <source>shake, wobble, seesaw, tilt, dance</source>
+        <translation>schaukeln, wackeln, kippeln, tanzen</translation>
+    </message>
+    <message>
+        <source>the line enters at the right edge and leaves at the left; the device moves it</source>
+        <translation>die Zeile kommt am rechten Rand herein und geht am linken hinaus; das Gerät bewegt sie</translation>
+    </message>
+    <message>
+        <source>marquee, ticker, crawl, running text, news</source>
+        <translation>Laufschrift, Lauftext, Newsticker, Nachrichten, scrollen</translation>
+    </message>
+    <message>
+        <source>the line enters at the left edge and leaves at the right; the device moves it</source>
+        <translation>die Zeile kommt am linken Rand herein und geht am rechten hinaus; das Gerät bewegt sie</translation>
+    </message>
+    <message>
+        <source>marquee, ticker, crawl, running text</source>
+        <translation>Laufschrift, Lauftext, Newsticker, scrollen</translation>
+    </message>
+    <message>
+        <source>marquee, credits, vertical</source>
+        <translation>Laufschrift, Lauftext, Abspann, senkrecht, scrollen</translation>
+    </message>
+    <message>
+        <source>marquee, vertical</source>
+        <translation>Laufschrift, Lauftext, senkrecht, scrollen</translation>
+    </message>
 </context>
 <context>
     <name>Rules</name>
     <message>
-        <source>No tool can play it.</source>
-        <translation>Kein Werkzeug kann es abspielen.</translation>
-    </message>
-    <message>
         <source>The display stays dark.</source>
         <translation>Die Anzeige bleibt dunkel.</translation>
-    </message>
-    <message>
-        <source>The host has no plugin for it and leaves it out.</source>
-        <translation>Der Host hat kein Plugin dafür und lässt es aus.</translation>
     </message>
     <message>
         <source>Nothing can be painted.</source>
         <translation>Nichts kann gemalt werden.</translation>
     </message>
     <message>
-        <source>What lies outside the display is not seen.</source>
-        <translation>Was außerhalb der Anzeige liegt, ist nicht zu sehen.</translation>
-    </message>
-    <message>
-        <source>The engine paints nothing into a picture above its limit.</source>
-        <translation>Über seiner Grenze malt das Plugin in kein Bild.</translation>
-    </message>
-    <message>
-        <source>The renderer answers that there is nothing to play.</source>
-        <translation>Der Renderer antwortet, dass es nichts zu spielen gibt.</translation>
-    </message>
-    <message>
-        <source>One empty frame is shown, for ever.</source>
-        <translation>Ein leeres Bild wird gezeigt, für immer.</translation>
-    </message>
-    <message>
-        <source>Empty frames are shown and the item never ends.</source>
-        <translation>Leere Bilder werden gezeigt, und der Eintrag endet nie.</translation>
-    </message>
-    <message>
-        <source>The motion is timed for speeds 0 to 9; others stall or leap.</source>
-        <translation>Die Bewegung ist auf die Tempi 0 bis 9 abgestimmt; andere stocken oder springen.</translation>
-    </message>
-    <message>
-        <source>The item counts as finished with its first frame.</source>
-        <translation>Der Eintrag gilt mit seinem ersten Bild als fertig.</translation>
-    </message>
-    <message>
-        <source>Pages are not held at all.</source>
-        <translation>Seiten stehen gar nicht.</translation>
-    </message>
-    <message>
-        <source>Only 1 is on; the layers are stacked as if it were on all the same.</source>
-        <translation>Nur 1 ist an; die Ebenen liegen trotzdem, als wäre es an.</translation>
-    </message>
-    <message>
         <source>Characters without a row are 0 pixels wide and high, or red.</source>
-        <translation>Zeichen ohne Zeile sind 0 Pixel breit und hoch, oder rot.</translation>
-    </message>
-    <message>
-        <source>Rows beyond the text count in its width and in the largest character.</source>
-        <translation>Zeilen jenseits des Textes zählen in seiner Breite und im größten Zeichen mit.</translation>
-    </message>
-    <message>
-        <source>What is no number counts as 0, and characters lie on one another.</source>
-        <translation>Was keine Zahl ist, zählt als 0, und Zeichen liegen aufeinander.</translation>
-    </message>
-    <message>
-        <source>Without outlines nothing is seen; without descents lines sink.</source>
-        <translation>Ohne Umrisse ist nichts zu sehen; ohne Unterlängen sinken Zeilen.</translation>
-    </message>
-    <message>
-        <source>The background stays without its picture.</source>
-        <translation>Der Hintergrund bleibt ohne sein Bild.</translation>
-    </message>
-    <message>
-        <source>The sign refuses the whole file and reads nothing from it.</source>
-        <translation>Das Schild weist die ganze Datei ab und liest nichts daraus.</translation>
-    </message>
-    <message>
-        <source>The sign refuses the outline; the character stays away.</source>
-        <translation>Das Schild weist den Umriss ab; das Zeichen bleibt weg.</translation>
-    </message>
-    <message>
-        <source>Characters without an outline stay away; without a descent they sink.</source>
-        <translation>Zeichen ohne Umriss bleiben weg; ohne Unterlänge sinken sie.</translation>
+        <translation>Zeichen ohne Zeile sind 0 Pixel breit und hoch oder rot.</translation>
     </message>
     <message>
         <source>The file may belong to another text.</source>
@@ -2530,34 +2594,6 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <translation>Das Zeichen lässt eine Lücke.</translation>
     </message>
     <message>
-        <source>The character gets a page of its own and is cut off.</source>
-        <translation>Das Zeichen bekommt eine eigene Seite und wird abgeschnitten.</translation>
-    </message>
-    <message>
-        <source>Beyond 31,999 pixels the painter needs a second picture, and it paints that one white.</source>
-        <translation>Jenseits von 31.999 Pixeln braucht der Maler ein zweites Bild, und das malt er weiß.</translation>
-    </message>
-    <message>
-        <source>Gradients belong to the dazzle background; the text keeps its colour.</source>
-        <translation>Verläufe gehören zum Farbspiel-Hintergrund; der Text behält seine Farbe.</translation>
-    </message>
-    <message>
-        <source>Pictures belong to the dazzle background; the text keeps its colour.</source>
-        <translation>Bilder gehören zum Farbspiel-Hintergrund; der Text behält seine Farbe.</translation>
-    </message>
-    <message>
-        <source>Text is outlined in its own colour.</source>
-        <translation>Text wird in seiner eigenen Farbe umrandet.</translation>
-    </message>
-    <message>
-        <source>Text is painted without shadows.</source>
-        <translation>Text wird ohne Schatten gemalt.</translation>
-    </message>
-    <message>
-        <source>The whole text has the colour of its first character.</source>
-        <translation>Der ganze Text hat die Farbe seines ersten Zeichens.</translation>
-    </message>
-    <message>
         <source>Letters are cut off at the top or bottom.</source>
         <translation>Buchstaben sind oben oder unten abgeschnitten.</translation>
     </message>
@@ -2566,19 +2602,119 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
         <translation>Ein Text verdeckt einen anderen auf derselben Seite.</translation>
     </message>
     <message>
-        <source>The sign takes the lowest 24 bits and shows another color.</source>
-        <translation>Die Anzeige nimmt die untersten 24 Bit und zeigt eine andere Farbe.</translation>
+        <source>The scene cannot be played.</source>
+        <translation>Die Szene lässt sich nicht abspielen.</translation>
+    </message>
+    <message>
+        <source>The host has no plugin for this type and skips the text.</source>
+        <translation>Der Host hat kein Plugin für diesen Typ und überspringt den Text.</translation>
+    </message>
+    <message>
+        <source>The part outside the display is not visible.</source>
+        <translation>Der Teil außerhalb der Anzeige ist nicht sichtbar.</translation>
+    </message>
+    <message>
+        <source>The picture is larger than the plugin&apos;s limit, so nothing is painted.</source>
+        <translation>Das Bild überschreitet die Grenze des Plugins, deshalb wird nichts gemalt.</translation>
+    </message>
+    <message>
+        <source>This text is empty.</source>
+        <translation>Dieser Text ist leer.</translation>
+    </message>
+    <message>
+        <source>One empty frame is shown forever.</source>
+        <translation>Ein leeres Bild bleibt für immer stehen.</translation>
+    </message>
+    <message>
+        <source>Empty frames are shown, and the text never ends.</source>
+        <translation>Es erscheinen leere Bilder, und der Text endet nie.</translation>
+    </message>
+    <message>
+        <source>Motions are made for speeds 0 to 9; at others they stall or jump.</source>
+        <translation>Bewegungen sind für Tempo 0 bis 9 gemacht; bei anderen stocken oder springen sie.</translation>
+    </message>
+    <message>
+        <source>The text counts as finished after its first frame.</source>
+        <translation>Der Text gilt schon nach dem ersten Bild als beendet.</translation>
+    </message>
+    <message>
+        <source>Each page disappears as soon as it is complete.</source>
+        <translation>Jede Seite verschwindet, sobald sie vollständig ist.</translation>
+    </message>
+    <message>
+        <source>Only 1 turns it on, but the layers are stacked as if it were on.</source>
+        <translation>Nur 1 schaltet es ein; die Ebenen liegen trotzdem so, als wäre es an.</translation>
+    </message>
+    <message>
+        <source>Surplus rows count toward the text&apos;s width and its largest character.</source>
+        <translation>Überzählige Zeilen gehen in die Breite des Textes und in sein größtes Zeichen ein.</translation>
+    </message>
+    <message>
+        <source>Non-numeric values count as 0, so characters overlap.</source>
+        <translation>Werte, die keine Zahl sind, gelten als 0; Zeichen überdecken sich.</translation>
+    </message>
+    <message>
+        <source>Without outlines the text is invisible; without descents it sits too low.</source>
+        <translation>Ohne Umrisse ist der Text unsichtbar; ohne Unterlängen sitzt er zu tief.</translation>
+    </message>
+    <message>
+        <source>The background is shown without its picture.</source>
+        <translation>Der Hintergrund wird ohne sein Bild gezeigt.</translation>
+    </message>
+    <message>
+        <source>The sign rejects the whole file.</source>
+        <translation>Das Schild weist die ganze Datei zurück.</translation>
+    </message>
+    <message>
+        <source>The sign rejects the outline, so the character is missing.</source>
+        <translation>Das Schild weist den Umriss zurück, deshalb fehlt das Zeichen.</translation>
+    </message>
+    <message>
+        <source>Characters without an outline are missing; those without a descent sit too low.</source>
+        <translation>Zeichen ohne Umriss fehlen; solche ohne Unterlänge sitzen zu tief.</translation>
+    </message>
+    <message>
+        <source>The character gets its own page and is cut off.</source>
+        <translation>Das Zeichen bekommt eine eigene Seite und wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The part beyond pixel 31,999 is painted white.</source>
+        <translation>Der Teil jenseits von Pixel 31.999 wird weiß gemalt.</translation>
+    </message>
+    <message>
+        <source>Gradients work only with the dazzle background; the text keeps its color.</source>
+        <translation>Verläufe wirken nur mit dem Farbspiel-Hintergrund; der Text behält seine Farbe.</translation>
+    </message>
+    <message>
+        <source>Pictures work only with the dazzle background; the text keeps its color.</source>
+        <translation>Bilder wirken nur mit dem Farbspiel-Hintergrund; der Text behält seine Farbe.</translation>
+    </message>
+    <message>
+        <source>The sign outlines text in its own color.</source>
+        <translation>Das Schild umrandet Text in dessen eigener Farbe.</translation>
+    </message>
+    <message>
+        <source>The sign paints text without shadows.</source>
+        <translation>Das Schild malt Text ohne Schatten.</translation>
+    </message>
+    <message>
+        <source>The whole text has the color of its first character.</source>
+        <translation>Der ganze Text hat die Farbe seines ersten Zeichens.</translation>
+    </message>
+    <message>
+        <source>The sign uses only the lowest 24 bits, which are another color.</source>
+        <translation>Das Schild nutzt nur die untersten 24 Bit; sie ergeben eine andere Farbe.</translation>
     </message>
 </context>
 <context>
     <name>SceneFolder</name>
     <message>
-        <source>Temporary file %1 cannot be written: %2.</source>
-        <translation>Die temporäre Datei %1 lässt sich nicht schreiben: %2.</translation>
+        <source>Cannot write the temporary file %1: %2.</source>
+        <translation>Die temporäre Datei %1 kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>No temporary folder can be made in %1: %2. Set TMPDIR to a folder that you may write to, and start the studio again.</source>
-        <translation>In %1 lässt sich kein temporärer Ordner anlegen: %2. Setzen Sie TMPDIR auf einen Ordner, in den Sie schreiben dürfen, und starten Sie das Studio neu.</translation>
+        <source>Cannot create a temporary folder in %1: %2. Set TMPDIR to a folder that you may write to, and restart the studio.</source>
+        <translation>In %1 kann kein temporärer Ordner angelegt werden: %2. Setzen Sie TMPDIR auf einen Ordner mit Schreibrecht und starten Sie das Studio neu.</translation>
     </message>
 </context>
 <context>
@@ -2591,16 +2727,16 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt
 <context>
     <name>Studio</name>
     <message>
-        <source>A window in which animated texts are written, timed and exported.</source>
-        <translation>Ein Fenster, in dem bewegte Texte geschrieben, getaktet und exportiert werden.</translation>
+        <source>Designs, previews, and exports animated texts for LED signs.</source>
+        <translation>Gestaltet bewegte Texte für LED-Schilder, zeigt und exportiert sie.</translation>
     </message>
     <message>
-        <source>The plugin library, in place of the one beside this program.</source>
-        <translation>Die Plugin-Bibliothek anstelle der neben diesem Programm.</translation>
+        <source>Plugin library. Default: the one beside this program.</source>
+        <translation>Plugin-Bibliothek. Standard: die neben diesem Programm.</translation>
     </message>
     <message>
-        <source>The scene to open.</source>
-        <translation>Die Szene, die geöffnet wird.</translation>
+        <source>Scene to open.</source>
+        <translation>Szene, die geöffnet wird.</translation>
     </message>
 </context>
 <context>

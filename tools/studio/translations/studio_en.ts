@@ -24,10 +24,10 @@
 <context>
     <name>AnimText::MainWindow</name>
     <message numerus="yes">
-        <source>%n finding(s)</source>
+        <source>%n problem(s)</source>
         <translation>
-            <numerusform>%n finding</numerusform>
-            <numerusform>%n findings</numerusform>
+            <numerusform>%n problem</numerusform>
+            <numerusform>%n problems</numerusform>
         </translation>
     </message>
 </context>

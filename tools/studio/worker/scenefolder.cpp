@@ -12,7 +12,7 @@ bool Write(const QString& path, const QByteArray& content, QString* error)
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush())
         return true;
     *error =
-        SceneFolder::tr("Temporary file %1 cannot be written: %2.").arg(path, file.errorString());
+        SceneFolder::tr("Cannot write the temporary file %1: %2.").arg(path, file.errorString());
     return false;
 }
 
@@ -21,13 +21,13 @@ bool Write(const QString& path, const QByteArray& content, QString* error)
 Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
 {
     const QMutexLocker locker(&mutex);
-    if (!folder.isValid()) { // its files would be files of the current folder
-        *error = tr("No temporary folder can be made in %1: %2. Set TMPDIR to a folder that you "
-                    "may write to, and start the studio again.")
+    if (!folder.isValid()) { // otherwise files would go to the current folder
+        *error = tr("Cannot create a temporary folder in %1: %2. Set TMPDIR to a folder that you "
+                    "may write to, and restart the studio.")
                      .arg(place, folder.errorString());
         return {};
     }
-    // Workers read a file when they load its scene; one generation later nobody needs it.
+    // Workers read a file when they load its scene, so it can go one generation later.
     for (auto it = written.begin(); it != written.end();) {
         if (it->layout.expired()) {
             QFile::remove(it->name + QStringLiteral(".path"));

@@ -8,19 +8,19 @@
 namespace AnimText {
 namespace {
 
-// A worker that has not answered for that long hangs. On a busy machine it may just have had no
-// turn.
+// A worker that has not answered for that long has hung. Processor time counts, because on a busy
+// machine it may just have been waiting.
 constexpr double longestWork = 20;     // seconds of processor time
 constexpr int longestSilence = 300000; // milliseconds
 constexpr int lookTime = 1000;         // milliseconds
 
-/** Seconds of processor time that the process @p id has taken. */
+/** Processor time of the process @p id in seconds. */
 double WorkOf(qint64 id)
 {
     QFile state(QStringLiteral("/proc/%1/stat").arg(id));
     if (!state.open(QIODevice::ReadOnly))
         return 0;
-    // The name in brackets may hold anything.
+    // The name in parentheses may contain spaces and parentheses.
     const QByteArray all = state.readAll();
     const QList<QByteArray> words = all.mid(all.lastIndexOf(')') + 2).split(' ');
     return (words.value(11).toDouble() + words.value(12).toDouble()) / double(sysconf(_SC_CLK_TCK));
@@ -61,7 +61,7 @@ void WorkerLink::Start()
     if (process)
         return;
     process = new QProcess(this);
-    // What the plugin says is for the terminal that the studio was started from.
+    // The plugin's messages go to the studio's terminal.
     process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     connect(process, &QProcess::readyReadStandardOutput, this, &WorkerLink::Read);
     connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
@@ -106,7 +106,7 @@ void WorkerLink::Send(const QByteArray& message)
     Expect();
 }
 
-/** Begins to wait for an answer. */
+/** Starts waiting for an answer. */
 void WorkerLink::Expect()
 {
     silence.start();
@@ -186,9 +186,9 @@ void WorkerLink::Ended()
     process->deleteLater();
     process = nullptr;
     patience->stop();
-    emit Died(hangs     ? tr("The plugin answered no more and was ended.")
+    emit Died(hangs     ? tr("The plugin stopped responding and was terminated.")
               : crashed ? tr("The plugin crashed.")
-                        : tr("The worker has ended."));
+                        : tr("The playback process ended unexpectedly."));
 }
 
 } // namespace AnimText

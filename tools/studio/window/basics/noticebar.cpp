@@ -83,7 +83,7 @@ void NoticeBar::Refresh()
     words->setText(notice.text);
     for (const Offer& offer : notice.offers) {
         auto* button = new QPushButton(offer.first, this);
-        button->setAutoDefault(true); // Return is heeded as Space is
+        button->setAutoDefault(true); // Return presses it, as Space does
         connect(button, &QPushButton::clicked, this, [this, kind, act = offer.second] {
             Set(kind, QString());
             if (act)

@@ -1,6 +1,6 @@
 /**
  * @file
- * A line above the display that tells what has happened and offers what can be done about it.
+ * A line above the display that reports an event and offers actions.
  */
 #ifndef ANIMTEXT_NOTICEBAR_H
 #define ANIMTEXT_NOTICEBAR_H
@@ -17,8 +17,8 @@
 namespace AnimText {
 
 /**
- * Shows one notice at a time, the one of the first kind that there is, over the upper edge of its
- * parent, so that nothing moves when it comes and goes.
+ * Shows one notice at a time, in the order of Kind, over the upper edge of its parent, so that
+ * nothing moves when it appears or disappears.
  */
 class NoticeBar : public QFrame
 {
@@ -27,14 +27,14 @@ class NoticeBar : public QFrame
 public:
     enum Kind { Leaving, Recovery, Disk, Save, Trouble };
 
-    using Offer = QPair<QString, std::function<void()>>; ///< words on a button and what it does
+    using Offer = QPair<QString, std::function<void()>>; ///< a button's label and action
 
     explicit NoticeBar(QWidget* parent = nullptr);
 
-    /** An empty @p text takes the notice back. */
+    /** Shows a notice; an empty @p text removes it. */
     void Set(Kind kind, const QString& text, const QList<Offer>& offers = {});
     QString Text() const { return words->text(); }
-    /** The buttons of what is shown. */
+    /** The buttons of the visible notice. */
     QList<QPushButton*> Offers() const;
 
 protected:

@@ -10,7 +10,7 @@
 namespace AnimText {
 namespace {
 
-constexpr int dragThreshold = 4; // points
+constexpr int dragThreshold = 4; // logical pixels
 constexpr int pointsPerStep = 3;
 
 } // namespace
@@ -66,13 +66,13 @@ QSize NumberField::minimumSizeHint() const
     const QSize largest = QDoubleSpinBox::minimumSizeHint();
     const int common =
         fontMetrics().horizontalAdvance(prefix() + QStringLiteral("0000") + suffix());
-    constexpr int arrows = 28; // and the frame
+    constexpr int arrows = 28; // with the frame
     return {std::min(largest.width(), common + arrows), largest.height()};
 }
 
 void NumberField::wheelEvent(QWheelEvent* event)
 {
-    // A form that is scrolled past must not change.
+    // Scrolling past a form must not change it.
     if (!hasFocus()) {
         event->ignore();
         return;
@@ -88,7 +88,7 @@ void NumberField::focusOutEvent(QFocusEvent* event)
 
 bool NumberField::eventFilter(QObject* object, QEvent* event)
 {
-    const auto* mouse = dynamic_cast<QMouseEvent*>(event); // none for other events
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event); // null for other events
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         if (mouse->button() == Qt::LeftButton && !lineEdit()->hasFocus()) {

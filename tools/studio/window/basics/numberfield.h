@@ -1,6 +1,6 @@
 /**
  * @file
- * A number that can be typed, stepped with the wheel and dragged sideways.
+ * A number that can be typed, stepped with the wheel, and dragged sideways.
  */
 #ifndef ANIMTEXT_NUMBERFIELD_H
 #define ANIMTEXT_NUMBERFIELD_H
@@ -9,7 +9,7 @@
 
 namespace AnimText {
 
-/** Whole numbers; shown as they are, or as so many of a larger unit. With Shift it steps by ten. */
+/** A whole number, shown as it is or in a larger unit. With Shift, it steps by ten. */
 class NumberField : public QDoubleSpinBox
 {
     Q_OBJECT
@@ -17,19 +17,19 @@ class NumberField : public QDoubleSpinBox
 public:
     explicit NumberField(QWidget* parent = nullptr);
 
-    /** @param perUnit how many of the number make what is shown, say 10 tenths a second */
+    /** @param perUnit how many steps make one unit, for example 10 tenths per second */
     void SetUnit(const QString& unit, int perUnit = 1);
     void SetLimits(int least, int most);
     int Number() const;
-    /** Shows @p number and tells nobody. */
+    /** Shows @p number without emitting NumberChanged(). */
     void ShowNumber(int number);
 
     void stepBy(int steps) override;
-    /** Room for common numbers, not for the largest. */
+    /** Wide enough for common numbers, not for the largest. */
     QSize minimumSizeHint() const override;
 
 signals:
-    /** @param gesture the same number as long as one drag goes on, or the wheel turns */
+    /** @param gesture identifies changes that belong to one drag or one visit to the field */
     void NumberChanged(int number, int gesture);
 
 protected:

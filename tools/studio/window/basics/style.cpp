@@ -12,8 +12,8 @@ namespace AnimText {
 namespace {
 
 /**
- * Drawings on a field of 16 by 16, in the letters of SVG paths (M, L, C, Z; absolute). What begins
- * with "*" is filled, all else are lines.
+ * Icons on a grid of 16 by 16, written as SVG paths (absolute M, L, C, Z). A path that starts with
+ * "*" is filled, the others are stroked.
  */
 const QHash<QString, QString>& Drawings()
 {
@@ -97,7 +97,7 @@ void AddTo(QPainterPath* path, const QString& letters)
     }
 }
 
-/** Draws in the colours that the palette has when it is painted. */
+/** Paints in the palette's present colors. */
 class DrawnIcon : public QIconEngine
 {
 public:
@@ -160,8 +160,7 @@ QColor Quiet(const QPalette& palette)
 
 QFont TabularFont(const QFont& font, int points)
 {
-    // Figures of the common fonts are all as wide; proportional ones are switched off where they
-    // are not.
+    // Common fonts have digits of equal width; kerning would move them.
     QFont tabular = font;
     tabular.setKerning(false);
     if (points != 0 && tabular.pointSizeF() > 0)

@@ -1,6 +1,6 @@
 /**
  * @file
- * What all parts of the window look alike in: colours out of the palette, figures, icons, times.
+ * The window's common style: colors from the palette, fonts, icons, times.
  */
 #ifndef ANIMTEXT_STYLE_H
 #define ANIMTEXT_STYLE_H
@@ -14,29 +14,29 @@
 
 namespace AnimText {
 
-constexpr int grid = 4;             ///< points; distances are multiples of it
-constexpr int markWidth = 4 * grid; ///< of what stands between a label and its field
+constexpr int grid = 4;             ///< logical pixels; distances are multiples of it
+constexpr int markWidth = 4 * grid; ///< width of the warning mark between label and field
 
-/** Lets @p box be narrower than its longest choice. */
+/** Lets @p box be narrower than its longest entry. */
 void LetShrink(QComboBox* box);
 
-/** Points for the labels of a form, so that all forms stand in line. */
+/** Width of a form's labels in logical pixels, the same for all forms. */
 int LabelWidth(const QFont& font);
 
-/** @p amount of @p b, 0 to 1, in @p a. */
+/** @p a mixed with the share @p amount, 0 to 1, of @p b. */
 QColor Mixed(const QColor& a, const QColor& b, double amount);
-/** For what goes wrong on the sign; light on dark palettes. */
+/** The color of warnings; light on dark palettes. */
 QColor Warning(const QPalette& palette);
-/** For words that stand back. */
+/** The color of secondary text. */
 QColor Quiet(const QPalette& palette);
 
-/** @p font with figures that are all as wide, @p points larger. */
+/** @p font with digits of equal width, @p points larger. */
 QFont TabularFont(const QFont& font, int points = 0);
 
-/** "3.43 s". */
+/** The time in seconds, as in "3.43 s". */
 QString SecondsText(qint64 milliseconds);
 
-/** The theme's icon, or ours where it has none; in the palette's colours at any size. */
+/** The theme's icon; if it has none, a drawn one in the palette's colors. */
 QIcon Icon(const QString& name);
 
 } // namespace AnimText

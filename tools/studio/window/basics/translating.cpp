@@ -15,7 +15,8 @@ void Install(const QLocale& locale, const QString& name, const QString& folder)
 
 } // namespace
 
-/** Resources of a library are not there by themselves; the macro wants the global namespace. */
+/** A static library's resources must be initialized by hand; Qt's macro needs the global namespace.
+ */
 static void TakeResources()
 {
 #ifdef ANIMTEXT_TRANSLATIONS
@@ -29,6 +30,6 @@ void AnimText::Translate(const QLocale& locale)
     const QString own = QStringLiteral(":/translations");
     Install(locale, QStringLiteral("qtbase"),
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    Install(QLocale(QLocale::English), QStringLiteral("studio"), own); // knows plurals
+    Install(QLocale(QLocale::English), QStringLiteral("studio"), own); // English plural forms
     Install(locale, QStringLiteral("studio"), own);
 }

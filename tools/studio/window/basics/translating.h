@@ -1,6 +1,6 @@
 /**
  * @file
- * The languages that the studio speaks.
+ * Translations of the studio.
  */
 #ifndef ANIMTEXT_TRANSLATING_H
 #define ANIMTEXT_TRANSLATING_H
@@ -10,8 +10,8 @@
 namespace AnimText {
 
 /**
- * Has the program's words, and those of Qt's dialogs, in the language of @p locale where there are
- * any. Called once, before the first window is made.
+ * Installs the translations of the program and of Qt's dialogs for @p locale, if there are any.
+ * Call it once, before creating the first window.
  */
 void Translate(const QLocale& locale);
 

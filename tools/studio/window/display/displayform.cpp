@@ -23,11 +23,11 @@ DisplayForm::DisplayForm(QWidget* parent)
     , height(new NumberField(this))
     , alpha(new QCheckBox(tr("Alpha blending"), this))
 {
-    presets->addItem(tr("Other size"));
+    presets->addItem(tr("Custom"));
     for (const QSize& panel : panels)
         presets->addItem(tr("%1 × %2").arg(panel.width()).arg(panel.height()), panel);
-    alpha->setToolTip(tr("Pictures of 32 bits with transparency. Without it, pictures of 24 bits: "
-                         "black lets the layers below shine through."));
+    alpha->setToolTip(tr("On: pictures have 32 bits per pixel, with transparency. Off: 24 bits per "
+                         "pixel; black shows the layer below."));
     for (NumberField* side : {width, height}) {
         side->SetUnit(tr("px"));
         side->SetLimits(1, longestSide);

@@ -23,11 +23,11 @@ public:
     void Show(const QSize& size, bool alphaBlend);
     QSize Size() const { return {width->Number(), height->Number()}; }
     bool AlphaBlend() const { return alpha->isChecked(); }
-    /** Panels that are common; the first choice stands for any other size. */
+    /** Common panel sizes; the first entry is any other size. */
     QComboBox* Presets() const { return presets; }
 
 signals:
-    /** @param gesture the same number as long as one drag goes on; negative for a single step */
+    /** @param gesture identifies the changes of one drag; negative for a single change */
     void Edited(int gesture);
 
 private:

@@ -11,11 +11,11 @@
 namespace AnimText {
 namespace {
 
-constexpr int reach = 6;     // points within which the mouse takes hold of an edge
-constexpr int snapReach = 6; // points within which edges attract one another
-constexpr int handle = 6;    // points
+constexpr int reach = 6;     // logical pixels from an edge at which the mouse drags it
+constexpr int snapReach = 6; // logical pixels at which edges snap to each other
+constexpr int handle = 6;    // logical pixels
 constexpr int rulerWidth = 18;
-constexpr int numberDistance = 44; // from number to number of a ruler
+constexpr int numberDistance = 44; // between the numbers of a ruler
 constexpr int wheelStep = 120;     // eighths of a degree
 
 } // namespace
@@ -85,8 +85,7 @@ const AreaFrame* DisplayView::Find(int id) const
     return nullptr;
 }
 
-/** The topmost area there; the selected one goes first, so that it can be held where two overlap.
- */
+/** The topmost area at @p point, but the selected one first: it can be dragged under another. */
 int DisplayView::FrameAt(const QPointF& point) const
 {
     const AreaFrame* chosen = Find(selected);
@@ -166,7 +165,7 @@ void DisplayView::PaintOverlay(QPainter* painter)
         PaintMeasures(painter, chosen->rect);
 }
 
-/** Along the upper or left edge of what is seen, with the extent of @p area marked. */
+/** Paints a ruler at the upper or left visible edge and marks the extent of @p area on it. */
 void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& area) const
 {
     const QRectF seen = visibleRegion().boundingRect();
@@ -214,7 +213,7 @@ void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& ar
     }
 }
 
-/** Place and size, beside the area that is dragged. */
+/** Paints position and size beside the dragged area. */
 void DisplayView::PaintMeasures(QPainter* painter, const QRect& area) const
 {
     const QString words = tr("x %1  y %2  ·  %3 × %4 px")
@@ -321,11 +320,11 @@ void DisplayView::contextMenuEvent(QContextMenuEvent* event)
 void DisplayView::wheelEvent(QWheelEvent* event)
 {
     if (!(event->modifiers() & Qt::ControlModifier)) {
-        event->ignore(); // it scrolls
+        event->ignore(); // the scroll area scrolls
         return;
     }
     wheelTurn += event->angleDelta().y();
-    const int steps = wheelTurn / wheelStep; // touchpads turn by less
+    const int steps = wheelTurn / wheelStep; // touchpads send less than a step
     wheelTurn %= wheelStep;
     if (steps != 0)
         emit ZoomWanted(steps, event->position());
@@ -366,7 +365,7 @@ void DisplayView::leaveEvent(QEvent*)
     update();
 }
 
-/** The edge of another area, or of the display, that attracts @p place; else @p place itself. */
+/** The edge of another area or of the display to snap to near @p place; otherwise @p place. */
 int DisplayView::Snapped(int place, bool horizontal) const
 {
     const QSize display = Picture().size();

@@ -1,6 +1,6 @@
 /**
  * @file
- * The display of the sign, with the areas of its texts to take hold of.
+ * The sign's display, on which the areas of its texts can be dragged.
  */
 #ifndef ANIMTEXT_DISPLAYVIEW_H
 #define ANIMTEXT_DISPLAYVIEW_H
@@ -15,7 +15,7 @@ namespace AnimText {
 /** An area on the display. */
 struct AreaFrame
 {
-    int id = 0; ///< of its text
+    int id = 0; ///< id of its text
     QRect rect; ///< pixels of the display
     QString title;
 };
@@ -27,34 +27,34 @@ class DisplayView : public PictureView
 public:
     explicit DisplayView(QWidget* parent = nullptr);
 
-    /** The lowest first. */
+    /** @param areas from bottom to top */
     void SetFrames(const QVector<AreaFrame>& areas);
     const QVector<AreaFrame>& Frames() const { return frames; }
     void SetSelected(int id);
-    /** Frames around all areas; else only around the one under the mouse. */
+    /** Frames all areas, or only the selected one and the one under the mouse. */
     void SetShowsFrames(bool all);
-    /** Rulers in pixels of the display, at the edges of what is seen; else only during a drag. */
+    /** Shows rulers in display pixels at the visible edges, always or only while dragging. */
     void SetShowsRulers(bool always);
-    /** Pixels that differ from another picture are marked; null for none. */
+    /** Marks the pixels that differ from @p other; a null image ends this. */
     void SetCompared(const QImage& other);
-    /** How many pixels differ from it. */
+    /** Number of pixels that differ. */
     int Differences() const { return differences.size(); }
 
-    /** Moves or resizes the selected area by keys: Alt and an arrow, with Shift its size. */
+    /** Handles Alt+arrow, which moves the selected area, and Alt+Shift+arrow, which resizes it. */
     bool HandleAreaKey(int key, Qt::KeyboardModifiers modifiers);
 
 signals:
     void Selected(int id);
-    /** @param gesture the same number as long as the mouse holds on */
+    /** @param gesture identifies the changes of one drag */
     void AreaChanged(int id, const QRect& rect, int gesture);
     void DisplayDoubleClicked();
-    /** Wheel with Ctrl: @p steps nearer, about the point @p about of the widget. */
+    /** Ctrl+wheel: zoom in by @p steps around the point @p about of the widget. */
     void ZoomWanted(int steps, const QPointF& about);
-    /** The display is dragged: middle button, or Space and the left one. */
+    /** The display was dragged with the middle button, or with Space and the left one. */
     void Panned(const QPoint& by);
-    /** A click with the right button; what is there is selected. */
+    /** The context menu was requested; the text under the mouse is selected. */
     void MenuWanted(const QPoint& global);
-    /** Space, and nothing was dragged. */
+    /** Space was pressed and released without dragging. */
     void PlayWanted();
 
 protected:
@@ -89,15 +89,15 @@ private:
     bool showsRulers = false;
     bool spaceHeld = false;
     bool panning = false;
-    bool hasPanned = false; // while Space was held
-    int wheelTurn = 0;      // that has not made a step yet
-    QPoint panFrom;         // of the screen
+    bool hasPanned = false; // since Space was pressed
+    int wheelTurn = 0;      // rest that is less than a step
+    QPoint panFrom;         // screen position
     bool dragging = false;
     int gesture = 0;
-    QPoint grabbed;        // where the mouse took hold, pixels of the display
-    QRect before;          // the area then
-    Qt::Edges edges;       // which of its edges it took; none for the whole
-    QVector<QLine> guides; // that the area has snapped to
+    QPoint grabbed;        // display pixel where the drag began
+    QRect before;          // the area when the drag began
+    Qt::Edges edges;       // edges that are dragged; none moves the area
+    QVector<QLine> guides; // lines that the area has snapped to
 };
 
 } // namespace AnimText

@@ -18,11 +18,11 @@ namespace AnimText {
 namespace {
 
 const char settingsKey[] = "leds";
-constexpr int mostDrawn = 8; // LEDs a side; a larger matrix is drawn by one of that size
+constexpr int mostDrawn = 8; // LEDs per side; a larger matrix is drawn with this size
 
 } // namespace
 
-/** Draws the way of the data line over the picture: a ring at the first LED, an arrow at the last.
+/** Draws the data line over the picture, from a ring at the first LED to an arrow at the last.
  */
 class WiringView : public QWidget
 {
@@ -133,12 +133,13 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     brightness->setSuffix(tr(" %"));
     universe->setRange(0, 63999);
     universe->setValue(1);
-    serpentine->setToolTip(tr("Every second row or column runs backwards"));
+    serpentine->setToolTip(tr("Every other row or column runs in the opposite direction"));
     command->setReadOnly(true);
     command->setFrame(false);
     command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     pattern->setCheckable(true);
-    pattern->setToolTip(tr("Corners, order of the LEDs, colors and levels, each for five seconds"));
+    pattern->setToolTip(
+        tr("Shows corners, LED order, colors, and brightness levels for five seconds each"));
     state->setWordWrap(true);
     start->setDefault(true);
     steps.setTimerType(Qt::PreciseTimer);
@@ -202,9 +203,9 @@ void LedsDialog::Arrange()
     rows->setAccessibleName(tr("Height"));
     row(tr("Controller"), {protocol, host});
     row(tr("Part of the display"), {left, top, new QLabel(tr("size"), this), columns, rows});
-    row(tr("LEDs follow"), {direction, serpentine});
+    row(tr("LEDs run along"), {direction, serpentine});
     row(tr("First LED"), {corner});
-    row(tr("Picture turned by"), {turn});
+    row(tr("Rotation"), {turn});
     row(tr("Color order"), {order});
     row(tr("Gamma"), {gamma});
     row(tr("Brightness"), {brightness});
@@ -213,7 +214,7 @@ void LedsDialog::Arrange()
     upper->setSpacing(4 * grid);
     upper->addLayout(form, 1);
     upper->addWidget(wiring, 0, Qt::AlignTop);
-    wiring->setToolTip(tr("The way of the data line, seen from the front"));
+    wiring->setToolTip(tr("Path of the data line, seen from the front"));
 
     auto* lower = new QFormLayout;
     command->setAccessibleName(tr("The same as a command"));
@@ -292,7 +293,7 @@ Controller LedsDialog::ReadFields(QString* error) const
     return controller;
 }
 
-/** Settings apply at once, so that the test pattern shows what they do. */
+/** Applies settings at once, so that the test pattern shows their effect. */
 void LedsDialog::Change()
 {
     Refresh();
@@ -321,12 +322,13 @@ void LedsDialog::Refresh()
         state->setText(host->text().isEmpty() ? tr("Enter the controller's name or address.")
                                               : error);
     } else if (!lights && lookUp < 0) {
-        state->setText(host->text().isEmpty() ? tr("Sends to the multicast groups of E1.31.")
-                                              : QString());
+        state->setText(host->text().isEmpty()
+                           ? tr("No controller given: sends to the E1.31 multicast groups.")
+                           : QString());
     }
 }
 
-/** The window does not wait for the name service. */
+/** Resolves the controller's name without blocking the window. */
 void LedsDialog::LookUp()
 {
     QString error;
@@ -335,7 +337,7 @@ void LedsDialog::LookUp()
         Open(controller);
         return;
     }
-    state->setText(tr("Looking for %1 …").arg(controller.host));
+    state->setText(tr("Looking up %1…").arg(controller.host));
     lookUp = QHostInfo::lookupHost(controller.host, this, &LedsDialog::Begin);
 }
 
@@ -348,7 +350,7 @@ void LedsDialog::Begin(const QHostInfo& found)
     const Controller controller = ReadFields(&error);
     if (found.addresses().isEmpty()) {
         Refresh();
-        state->setText(tr("%1 cannot be found: %2").arg(controller.host, found.errorString()));
+        state->setText(tr("%1 was not found: %2").arg(controller.host, found.errorString()));
         return;
     }
     foundHost = PreferredAddress(found).toString();
@@ -360,7 +362,7 @@ void LedsDialog::Open(Controller controller)
     if (!foundHost.isEmpty())
         controller.host = foundHost;
     if (lights)
-        lights->SetKeeps(true); // the next picture comes at once
+        lights->SetKeeps(true); // no dark gap: the next picture follows at once
     lights = std::make_unique<Lights>();
     connect(lights.get(), &Lights::Reported, state, &QLabel::setText);
     QString error;
@@ -405,7 +407,7 @@ void LedsDialog::Step()
     Show(picture);
 }
 
-/** Who closes the window has no other way to stop. */
+/** Stops, because a closed window has no other way to do it. */
 void LedsDialog::hideEvent(QHideEvent* event)
 {
     if (!event->spontaneous())

@@ -1,6 +1,6 @@
 /**
  * @file
- * Shows on LEDs what the studio shows.
+ * Sends the studio's picture to LEDs.
  */
 #ifndef ANIMTEXT_LEDSDIALOG_H
 #define ANIMTEXT_LEDSDIALOG_H
@@ -21,16 +21,16 @@ namespace AnimText {
 
 class WiringView;
 
-/** Lets the LEDs of a controller follow the studio's display: playing, scrubbed, edited. */
+/** Sends every picture of the studio's display to a controller's LEDs. */
 class LedsDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** @param scenePath the file of the sign, for the command; empty when it has none yet */
+    /** @param scenePath the sign's file, for the command; empty if it is not saved */
     LedsDialog(QSize display, const QString& scenePath, QWidget* parent = nullptr);
 
-    /** The controller as animtext play --to takes it; the fields show what it sets. */
+    /** The settings as an address for animtext play --to. */
     QString Address() const;
     void SetAddress(const QString& address);
 
@@ -40,7 +40,7 @@ public:
     QPushButton* PatternButton() const { return pattern; }
 
 public slots:
-    /** What the studio shows from now on. */
+    /** Sends @p picture while the LEDs follow. */
     void Show(const QImage& picture);
 
 protected:
@@ -60,10 +60,10 @@ private:
     const QSize display;
     const QString scenePath;
     QImage picture;
-    QTimer steps; // of the test pattern
+    QTimer steps; // ticks of the test pattern
     int step = 0;
-    int lookUp = -1;   // the request that is under way; negative: none
-    QString foundHost; // the address that the host's name has
+    int lookUp = -1;   // id of the running name lookup; negative for none
+    QString foundHost; // address of the host's name
     std::unique_ptr<Lights> lights;
 
     QComboBox* protocol;

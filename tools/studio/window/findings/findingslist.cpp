@@ -29,7 +29,7 @@ TextChange RemoveAttributes(const QStringList& keys)
     };
 }
 
-/** What its form calls the attribute that @p finding is about; empty for none. */
+/** Label of the field that @p finding is about; empty for none. */
 QString FieldOf(const Finding& finding)
 {
     const QString key = finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
@@ -49,15 +49,16 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
     case Mistake::SpeedRange: {
         const char* key = scrolls ? "ContinueSpeed" : "AnimationSpeed";
         const int speed = text.node.attributes.value(QLatin1String(key)).toInt();
-        return {FindingsList::tr("Nearest speed"), SetAttribute(key, qBound(0, speed, 9))};
+        return {FindingsList::tr("Use the nearest speed"), SetAttribute(key, qBound(0, speed, 9))};
     }
     case Mistake::PlaysRange: return {FindingsList::tr("Play once"), SetAttribute("PlayTimes", 1)};
     case Mistake::HoldRange:
-        return {FindingsList::tr("No hold"), [](SignText* edited) { edited->node.hold = 0; }};
+        return {FindingsList::tr("Remove the pause"),
+                [](SignText* edited) { edited->node.hold = 0; }};
     case Mistake::ModeUnknown:
-        return {FindingsList::tr("Entrance effect"), SetAttribute("EffectType", 0)};
+        return {FindingsList::tr("Use an entrance effect"), SetAttribute("EffectType", 0)};
     case Mistake::EffectUnknown:
-        return {FindingsList::tr("Typed effect"), SetAttribute("AnimationEffect", 4)};
+        return {FindingsList::tr("Use Typewriter"), SetAttribute("AnimationEffect", 4)};
     case Mistake::DirectionUnknown:
         return {FindingsList::tr("Scroll left"), SetAttribute("ContinueStyle", 0)};
     case Mistake::AreaOutside:
@@ -79,23 +80,23 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
     case Mistake::ListLength:
     case Mistake::ListSurplus:
     case Mistake::RowValue:
-        return {FindingsList::tr("Make outlines again"),
+        return {FindingsList::tr("Recreate the outlines"),
                 [](SignText* edited) { edited->layout.reset(); }};
     case Mistake::TextHigh:
-        return {FindingsList::tr("Fit the height"),
+        return {FindingsList::tr("Fit height"),
                 [](SignText* edited) { edited->source.fit = Fit::Height; }};
     case Mistake::CharacterWide:
-        return {FindingsList::tr("Fit the area"),
+        return {FindingsList::tr("Fit height and width"),
                 [](SignText* edited) { edited->source.fit = Fit::Both; }};
     case Mistake::ColorsIgnored:
-        return {FindingsList::tr("First color for all"), [](SignText* edited) {
+        return {FindingsList::tr("Use the first color"), [](SignText* edited) {
                     QVector<StyleRun>& runs = edited->source.text.runs;
                     for (StyleRun& run : runs)
                         run.color = runs.first().color;
                 }};
     case Mistake::GradientIgnored:
     case Mistake::PictureIgnored:
-        return {FindingsList::tr("Turn dazzle on"), SetAttribute("CheckDazzle", 1)};
+        return {FindingsList::tr("Turn on dazzle"), SetAttribute("CheckDazzle", 1)};
     case Mistake::StrokeIgnored:
         return {FindingsList::tr("Remove"),
                 RemoveAttributes({QStringLiteral("Stroke"), QStringLiteral("StrokeColor")})};
@@ -134,15 +135,15 @@ FindingsList::FindingsList(QWidget* parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAccessibleName(tr("Findings"));
+    setAccessibleName(tr("Problems"));
     Fill({});
 }
 
-void FindingsList::Mend(int row)
+void FindingsList::ApplyFix(int index)
 {
-    const Row mended = rows.value(row, {0, {}, {}, {}, false});
-    if (mended.fix.change)
-        emit Mended(mended.id, mended.fix.words, mended.fix.change);
+    const Row row = rows.value(index, {0, {}, {}, {}, false});
+    if (row.fix.change)
+        emit Fixed(row.id, row.fix.words, row.fix.change);
 }
 
 void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
@@ -180,7 +181,7 @@ void FindingsList::Fill(const QList<Row>& next)
                         std::equal(next.begin(), next.end(), rows.begin(), same);
     rows = next;
     if (isSame)
-        return; // what has the focus keeps it
+        return; // rebuilding would take the focus from a button
     while (QLayoutItem* item = list->takeAt(0)) {
         delete item->widget();
         delete item;
@@ -202,7 +203,7 @@ void FindingsList::Fill(const QList<Row>& next)
     list->addStretch(1);
 }
 
-/** What it does on the sign, what was found on hover, and a button below where something helps. */
+/** A row: the effect on the sign, a button for the fix, and the details as a tooltip. */
 QWidget* FindingsList::MakeRow(int index)
 {
     const Row& row = rows.at(index);
@@ -226,10 +227,10 @@ QWidget* FindingsList::MakeRow(int index)
     widget->setProperty("text", row.id);
     if (row.fix.change) {
         auto* button = new QPushButton(row.fix.words, widget);
-        button->setAutoDefault(true); // Return is heeded as Space is
+        button->setAutoDefault(true); // Return presses it, as Space does
         button->setToolTip(row.why);
         layout->addWidget(button, 1, 1);
-        connect(button, &QPushButton::clicked, this, [this, index] { Mend(index); });
+        connect(button, &QPushButton::clicked, this, [this, index] { ApplyFix(index); });
     }
     return widget;
 }

@@ -1,6 +1,6 @@
 /**
  * @file
- * What validating has found, with what to do about it.
+ * Lists the problems that validation has found, with buttons to fix them.
  */
 #ifndef ANIMTEXT_FINDINGSLIST_H
 #define ANIMTEXT_FINDINGSLIST_H
@@ -11,17 +11,17 @@
 
 namespace AnimText {
 
-/** How one finding can be mended; without a change where that is not known. */
+/** A way to fix a finding; without a change if none is known. */
 struct Fix
 {
     QString words;
     TextChange change;
 };
 
-/** The fix for @p finding about @p text, on a display of that size. */
+/** The fix for @p finding about @p text on a display of that size. */
 Fix FixFor(const Finding& finding, const SignText& text, const QSize& display);
 
-/** The index of the text that a finding is about, in the order of the file; -1 for none. */
+/** Index of the text that a finding is about, in file order; -1 for none. */
 int TextOf(const Finding& finding, const Sign& sign);
 
 class FindingsList : public QScrollArea
@@ -33,12 +33,12 @@ public:
 
     void Show(const QList<Finding>& findings, const Sign& sign);
     int Count() const { return rows.size(); }
-    /** Does what is known to help against the finding in that row. */
-    void Mend(int row);
+    /** Applies the fix of that row, if it has one. */
+    void ApplyFix(int index);
 
 signals:
     void Selected(int id);
-    void Mended(int id, const QString& what, const AnimText::TextChange& change);
+    void Fixed(int id, const QString& what, const AnimText::TextChange& change);
     void CountChanged(int count);
 
 protected:
@@ -47,7 +47,7 @@ protected:
 private:
     struct Row
     {
-        int id; // of the text; 0 for none
+        int id; // id of the text; 0 for none
         Fix fix;
         QString words;
         QString why;

@@ -14,7 +14,7 @@
 namespace AnimText {
 namespace {
 
-/** What the picker of motions, the text's own field and its layout take care of. */
+/** Whether the motion picker, the text field or the layout handles the attribute. */
 bool IsElsewhere(const Attribute& attribute)
 {
     static const QStringList elsewhere{QStringLiteral("Text"),
@@ -29,7 +29,7 @@ bool IsElsewhere(const Attribute& attribute)
     return isLaidOut || elsewhere.contains(QLatin1String(attribute.key));
 }
 
-/** Seconds are told to people where the file has tenths of them. */
+/** Whether the file has tenths of seconds, which are shown as seconds. */
 bool IsTenths(const Attribute& attribute)
 {
     return QLatin1String(attribute.unit) == QLatin1String("units of 100 ms");
@@ -251,7 +251,7 @@ void AttributeForm::Show(const SignText& text)
         field.show(text.node);
         QString why;
         const bool isHeeded = IsHeeded(*field.attribute, text.node, &why);
-        // What does not apply stands back, and can be set all the same.
+        // A setting that does not apply is dimmed, but can still be changed.
         QPalette colors = palette();
         if (!isHeeded) {
             const QColor quiet =
@@ -268,7 +268,7 @@ void AttributeForm::Show(const SignText& text)
         field.label->setToolTip(words);
         field.widget->setToolTip(words);
         field.widget->setAccessibleDescription(isHeeded ? QString() : why);
-        // The Tab key passes over it; a click still reaches it.
+        // Tab skips it; a click still works.
         if (!field.widget->focusProxy())
             field.widget->setFocusPolicy(isHeeded ? Qt::StrongFocus : Qt::ClickFocus);
     }

@@ -1,6 +1,6 @@
 /**
  * @file
- * The settings of a text as a form, made from the table of attributes.
+ * A form for the settings of a text, built from the table of attributes.
  */
 #ifndef ANIMTEXT_ATTRIBUTEFORM_H
 #define ANIMTEXT_ATTRIBUTEFORM_H
@@ -28,17 +28,17 @@ class AttributeForm : public QWidget
     Q_OBJECT
 
 public:
-    /** @param group the attributes that it shows, but for those that other parts of the window do
-     * @param thumbnails paints what is chosen by its picture
+    /** @param group the attributes to show, except those with a widget elsewhere
+     * @param thumbnails paints the pictures of choices
      */
     AttributeForm(Group group, Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void Show(const SignText& text);
-    /** What was found about the text that is shown. */
+    /** Shows findings about the text beside its fields. */
     void SetFindings(const QList<Finding>& findings);
 
 signals:
-    /** @param merge changes with the same one in a row are one step */
+    /** @param merge consecutive changes with the same value are one undo step */
     void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
 
 private:

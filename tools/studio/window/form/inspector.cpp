@@ -56,7 +56,7 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     section(tr("Letters"), {forms.at(0)});
     layout->addStretch(1);
     setWidget(content);
-    // All fields stand in one column.
+    // All labels are as wide as the widest, so that the fields line up.
     int widest = 0;
     const QList<QLabel*> labels = ofText->findChildren<QLabel*>();
     for (const QLabel* label : labels)
@@ -76,14 +76,14 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
             const NodeMotion old = MotionOf(edited->node);
             const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, number};
             SetMotion(&edited->node, next);
-            // The speed goes along from one kind of motion to the other.
+            // Entrances and scrolls have separate speeds; keep the one that was set.
             if (attributes.contains(old.SpeedKey()))
                 attributes[next.SpeedKey()] = attributes.value(old.SpeedKey());
         });
     });
 }
 
-/** Nothing of it is hidden at its sides, in whatever font and language. */
+/** Keeps the panel as wide as its content needs in any font and language. */
 bool Inspector::eventFilter(QObject* object, QEvent* event)
 {
     const bool answer = QScrollArea::eventFilter(object, event);

@@ -1,6 +1,6 @@
 /**
  * @file
- * All that can be set of one text, from its words to its background.
+ * All settings of one text, from its words to its background.
  */
 #ifndef ANIMTEXT_INSPECTOR_H
 #define ANIMTEXT_INSPECTOR_H
@@ -22,7 +22,7 @@ class Inspector : public QScrollArea
 public:
     explicit Inspector(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
-    /** The text @p shown of @p sign; null for none, and then the display is shown. */
+    /** Shows the text @p shown of @p sign, or the display's settings if it is null. */
     void Show(const Sign& sign, const SignText* shown);
     void SetFindings(const QList<Finding>& findings);
     TextPanel* Text() const { return text; }
@@ -39,8 +39,8 @@ protected:
 private:
     static QLabel* Heading(const QString& words);
 
-    QWidget* ofText;    // all that belongs to a text
-    QWidget* ofDisplay; // and what is shown while none is selected
+    QWidget* ofText;    // settings of a text
+    QWidget* ofDisplay; // settings of the display, while no text is selected
     DisplayForm* displayForm;
     TextPanel* text;
     MotionPicker* motions;

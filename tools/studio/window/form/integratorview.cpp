@@ -23,22 +23,22 @@ IntegratorView::IntegratorView(QWidget* parent)
     calls->setReadOnly(true);
     calls->setLineWrapMode(QPlainTextEdit::NoWrap);
     calls->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    calls->setAccessibleName(tr("Calls of the device"));
+    calls->setAccessibleName(tr("Device calls"));
     calls->setFrameShape(QFrame::NoFrame);
     for (int i = 0; i < Torv::OperationCount; ++i)
         operation->addItem(QLatin1String(Torv::OperationName(Torv::Operation(i))));
     operation->setAccessibleName(tr("Call"));
     nth->setRange(1, 10000);
-    nth->setPrefix(tr("call "));
-    nth->setAccessibleName(tr("Which of its calls, from the start"));
+    nth->setPrefix(tr("no. "));
+    nth->setAccessibleName(tr("Number of the call, counted from the start"));
     auto* fail = new QToolButton(this);
     fail->setText(tr("Make it fail"));
-    fail->setToolTip(tr("Plays again from the start, and that call of the device fails"));
+    fail->setToolTip(tr("Plays from the start and makes this device call fail"));
     clear->setText(tr("Clear failures"));
-    clear->setToolTip(tr("Lets every call succeed again"));
+    clear->setToolTip(tr("Lets all device calls succeed again"));
     library->setText(tr("Compare with a library…"));
-    library->setToolTip(tr("Plays the same with another plugin library and marks the pixels that "
-                           "differ"));
+    library->setToolTip(
+        tr("Plays the scene with a second plugin library, too, and marks the pixels that differ"));
     noLibrary->setText(tr("Stop comparing"));
     noLibrary->hide();
     differing->setFont(TabularFont(font()));
@@ -82,8 +82,8 @@ void IntegratorView::ShowFaults()
         words.append(QStringLiteral("%1 #%2")
                          .arg(QLatin1String(Torv::OperationName(Torv::Operation(fault.first))))
                          .arg(fault.second));
-    failing->setText(words.isEmpty() ? QString()
-                                     : tr("Fails: %1").arg(words.join(QStringLiteral(", "))));
+    failing->setText(
+        words.isEmpty() ? QString() : tr("Made to fail: %1").arg(words.join(QStringLiteral(", "))));
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, Warning(colors));
     failing->setPalette(colors);
@@ -92,7 +92,7 @@ void IntegratorView::ShowFaults()
 
 void IntegratorView::ShowCalls(int tick, const QByteArray& lines)
 {
-    const QString text = lines.isEmpty() ? tr("No call of the device at tick %1.").arg(tick)
+    const QString text = lines.isEmpty() ? tr("No device calls at tick %1").arg(tick)
                                          : QString::fromUtf8(lines).trimmed();
     if (calls->toPlainText() != text)
         calls->setPlainText(text);
@@ -103,14 +103,14 @@ void IntegratorView::ShowDifferences(int pixels)
     if (pixels < 0)
         differing->clear();
     else
-        differing->setText(pixels == 0 ? tr("No pixel differs")
+        differing->setText(pixels == 0 ? tr("No pixels differ")
                                        : tr("%n pixel(s) differ", nullptr, pixels));
 }
 
 void IntegratorView::ChooseLibrary()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Another plugin library"), QString(),
-                                                      tr("Libraries (*.so*)"));
+    const QString path = QFileDialog::getOpenFileName(this, tr("Choose a plugin library"),
+                                                      QString(), tr("Libraries (*.so*)"));
     if (!path.isEmpty())
         SetLibrary(path);
 }
@@ -125,7 +125,7 @@ void IntegratorView::SetLibrary(const QString& path)
 
 void IntegratorView::showEvent(QShowEvent*)
 {
-    emit FaultsChanged(); // calls are kept while somebody looks at them
+    emit FaultsChanged(); // calls are recorded only while this view is visible
 }
 
 void IntegratorView::hideEvent(QHideEvent*)

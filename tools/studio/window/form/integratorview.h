@@ -1,7 +1,7 @@
 /**
  * @file
- * What an integrator looks at: the device's calls of a tick, calls that fail, and another plugin
- * library beside the first.
+ * For integrators: the device calls of a tick, calls that are made to fail, and the comparison
+ * with another plugin library.
  */
 #ifndef ANIMTEXT_INTEGRATORVIEW_H
 #define ANIMTEXT_INTEGRATORVIEW_H
@@ -23,20 +23,20 @@ class IntegratorView : public QWidget
 public:
     explicit IntegratorView(QWidget* parent = nullptr);
 
-    /** Calls of the device that are to fail: operations and which of their calls. */
+    /** Device calls to make fail: operation and number of the call. */
     QVector<QPair<qint32, qint32>> Faults() const { return faults; }
-    /** Lets the @p nth call of @p operation fail, beside the others. */
+    /** Makes the @p nth call of @p operation fail, too. */
     void AddFault(int operation, int nth);
-    /** The device's calls of @p tick, a line of JSON each. */
+    /** Shows the device calls of @p tick, one line of JSON each. */
     void ShowCalls(int tick, const QByteArray& calls);
-    /** How many pixels differ from those of the other library; negative when there is none. */
+    /** Shows how many pixels differ from the other library; negative if there is none. */
     void ShowDifferences(int pixels);
     QString CallsText() const { return calls->toPlainText(); }
     void SetLibrary(const QString& path);
 
 signals:
     void FaultsChanged();
-    /** @param path of another library; empty for none */
+    /** @param path another library; empty for none */
     void LibraryChosen(const QString& path);
 
 protected:

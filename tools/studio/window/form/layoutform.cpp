@@ -15,10 +15,10 @@ LayoutForm::LayoutForm(QWidget* parent)
     , padding(new NumberField(this))
     , keepsWords(new QCheckBox(tr("Break pages between words"), this))
 {
-    // In the order of the enumerations.
+    // The order of the enumerations.
     align->addItems({tr("Reading start"), tr("Left"), tr("Center"), tr("Right")});
     valign->addItems({tr("Top"), tr("Middle"), tr("Bottom")});
-    fit->addItems({tr("Sizes as set"), tr("Fit the height"), tr("Fit height and width")});
+    fit->addItems({tr("Sizes as set"), tr("Fit height"), tr("Fit height and width")});
     for (QComboBox* box : {fit, align, valign})
         LetShrink(box);
     padding->SetUnit(tr("px"));
@@ -77,9 +77,9 @@ void LayoutForm::Show(const SignText& text)
 
     const bool isLine = MotionOf(text.node).IsSideways();
     align->setEnabled(!isLine);
-    align->setToolTip(isLine ? tr("A text that scrolls sideways is not aligned.") : QString());
+    align->setToolTip(isLine ? tr("Text that scrolls sideways cannot be aligned.") : QString());
     keepsWords->setEnabled(!MotionOf(text.node).IsScroll());
-    keepsWords->setToolTip(MotionOf(text.node).IsScroll() ? tr("A text that scrolls has no pages.")
+    keepsWords->setToolTip(MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.")
                                                           : QString());
     padding->setMaximum(qMax(0, (qMin(text.node.size.width(), text.node.size.height()) - 1) / 2));
 }

@@ -1,6 +1,6 @@
 /**
  * @file
- * How a text is set in its area: what the author decides and the scene file does not say.
+ * How a text is laid out in its area: size, alignment, padding, page breaks.
  */
 #ifndef ANIMTEXT_LAYOUTFORM_H
 #define ANIMTEXT_LAYOUTFORM_H

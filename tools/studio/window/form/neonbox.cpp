@@ -12,9 +12,9 @@
 namespace AnimText {
 namespace {
 
-constexpr int borders = 28; // styles that are drawn; those above show a picture of the user's
+constexpr int borders = 28; // drawn styles; those above show the user's picture
 constexpr int rowsInSight = 8;
-constexpr QSize fieldIcon{64, 16}; // of the field, which is as low as others
+constexpr QSize fieldIcon{64, 16}; // in the closed field
 
 } // namespace
 
@@ -25,14 +25,14 @@ NeonBox::NeonBox(Thumbnails* thumbnails, QWidget* parent)
     for (int style = 1; style <= borders; ++style)
         addItem(tr("Style %1").arg(style), style);
     addItem(tr("Picture"), borders + 1);
-    for (int row = 0; row < borders; ++row) // the list does not grow as pictures arrive
+    for (int row = 0; row < borders; ++row) // keeps the size when pictures arrive
         setItemData(row, thumbnailSize + QSize(0, grid), Qt::SizeHintRole);
     setMaxVisibleItems(rowsInSight);
     setIconSize(fieldIcon);
-    setItemDelegate(new QStyledItemDelegate(this)); // it takes the list's size of icons
+    setItemDelegate(new QStyledItemDelegate(this)); // it uses the list's icon size
     view()->setIconSize(thumbnailSize);
     LetShrink(this);
-    view()->setMinimumWidth(thumbnailSize.width() + 8 * grid + // the field is narrower
+    view()->setMinimumWidth(thumbnailSize.width() + 8 * grid + // wider than the field
                             fontMetrics().horizontalAdvance(itemText(borders - 1)) +
                             style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     beat.setInterval(tickLength);
@@ -44,8 +44,8 @@ NeonBox::NeonBox(Thumbnails* thumbnails, QWidget* parent)
 void NeonBox::ShowStyle(int style)
 {
     const QSignalBlocker blocker(this);
-    setCurrentIndex(qBound(0, style - 1, borders)); // 0 is the first one, too
-    // Any style above the borders is a picture; choosing it again keeps the number.
+    setCurrentIndex(qBound(0, style - 1, borders)); // 0 is the first style, too
+    // Every number above the borders means a picture; choosing it again keeps the number.
     setItemData(borders, qMax(borders + 1, style));
 }
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * Where the style of a neon background is chosen by its moving picture.
+ * Chooses the style of a neon background by its moving picture.
  */
 #ifndef ANIMTEXT_NEONBOX_H
 #define ANIMTEXT_NEONBOX_H
@@ -17,7 +17,7 @@ class NeonBox : public QComboBox
     Q_OBJECT
 
 public:
-    /** @param thumbnails paints the styles while the list is open; null for their names alone */
+    /** @param thumbnails paints the styles while the list is open; null shows only names */
     explicit NeonBox(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void ShowStyle(int style);

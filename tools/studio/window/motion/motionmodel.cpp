@@ -61,8 +61,8 @@ QVariant MotionModel::data(const QModelIndex& index, int role) const
     case PictureRole: return pictures.at(index.row()).first;
     case CurrentRole: return pictures.at(index.row()).second;
     case Qt::ToolTipRole:
-        return QStringLiteral("%1 · %2\n%3")
-            .arg(TitleOf(motion), QLatin1String(motion.name),
+        return QStringLiteral("%1 · #%2 %3\n%4")
+            .arg(TitleOf(motion), QString::number(motion.number), QLatin1String(motion.name),
                  TranslatedMotion(QLatin1String(motion.summary)));
     default: return {};
     }

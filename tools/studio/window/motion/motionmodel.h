@@ -1,6 +1,6 @@
 /**
  * @file
- * Every effect and scroll as rows of a model, with the pictures that show them.
+ * A model with a row for every effect and scroll and its moving picture.
  */
 #ifndef ANIMTEXT_MOTIONMODEL_H
 #define ANIMTEXT_MOTIONMODEL_H
@@ -13,13 +13,13 @@
 
 namespace AnimText {
 
-/** The name of a motion for people, in their language: "Typewriter". */
+/** The motion's title in the program's language, for example "Typewriter". */
 QString TitleOf(const Motion& motion);
 
-/** @p words out of the catalogue of motions, in the language of the program. */
+/** @p words from the catalogue of motions in the program's language. */
 QString TranslatedMotion(const QString& words);
 
-/** The thirty effects, and behind them the four scrolls. */
+/** The thirty effects, followed by the four scrolls. */
 class MotionModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -34,14 +34,14 @@ public:
 
     const Motion& At(int row) const;
     bool IsScroll(int row) const { return row >= Effects().size(); }
-    /** The row of an effect or a scroll; -1 when there is none. */
+    /** The row of an effect or a scroll; -1 if there is none. */
     int RowOf(bool scroll, int number) const;
     QStringList Families() const;
 
     void SetPicture(int row, const QImage& picture, bool isCurrent);
 
 private:
-    QVector<QPair<QImage, bool>> pictures; // and whether it is of the text as it is now
+    QVector<QPair<QImage, bool>> pictures; // and whether it shows the present text
 };
 
 } // namespace AnimText

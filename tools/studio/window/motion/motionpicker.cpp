@@ -15,11 +15,11 @@
 namespace AnimText {
 namespace {
 
-constexpr int cardPadding = 4; // points
+constexpr int cardPadding = 4; // logical pixels
 constexpr double listShare = 0.45;
 const QString heightKey = QStringLiteral("motions");
 
-/** A card: the picture on black, the name below it. */
+/** Paints a card: the picture on black, the title below it. */
 class MotionCard : public QStyledItemDelegate
 {
 public:
@@ -29,7 +29,7 @@ public:
     {
     }
 
-    /** All as wide as the longest name, which is never cut. */
+    /** All cards are as wide as the longest title. */
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
         int width = thumbnailSize.width();
@@ -54,7 +54,7 @@ public:
                            thumbnailSize.height());
         painter->fillRect(screen, Qt::black);
         const QImage picture = index.data(MotionModel::PictureRole).value<QImage>();
-        // That of an earlier text stands back.
+        // A picture of an earlier text is faint.
         painter->setOpacity(index.data(MotionModel::CurrentRole).toBool() ? 1 : 0.4);
         if (!picture.isNull())
             painter->drawImage(screen.topLeft(), picture);
@@ -77,7 +77,7 @@ private:
     const MotionModel* motions;
 };
 
-/** Below the list: drags its height. */
+/** A handle below the list that changes its height. */
 class HeightHandle : public QWidget
 {
 public:
@@ -88,7 +88,7 @@ public:
     {
         setFixedHeight(2 * grid);
         setCursor(Qt::SplitVCursor);
-        setToolTip(MotionPicker::tr("Drag to make the list higher or lower"));
+        setToolTip(MotionPicker::tr("Drag to resize the list"));
     }
 
 protected:
@@ -117,7 +117,7 @@ private:
     int before = 0;
 };
 
-/** Words out of the name, the operation, the family or what it does. */
+/** Leaves the motions of one family, or of all, that match what was typed. */
 class MotionFilter : public QSortFilterProxyModel
 {
 public:
@@ -125,7 +125,7 @@ public:
 
     void Set(const QString& wanted, const QString& ofFamily)
     {
-        words = wanted.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        search = wanted;
         family = ofFamily;
         invalidateFilter();
     }
@@ -133,22 +133,13 @@ public:
 protected:
     bool filterAcceptsRow(int row, const QModelIndex&) const override
     {
-        const auto* motions = static_cast<MotionModel*>(sourceModel());
-        const QModelIndex index = motions->index(row);
-        if (!family.isEmpty() && index.data(MotionModel::FamilyRole).toString() != family)
-            return false;
-        const QString all = index.data(Qt::ToolTipRole).toString() + QLatin1Char(' ') +
-                            TranslatedMotion(index.data(MotionModel::FamilyRole).toString()) +
-                            QStringLiteral(" #%1").arg(motions->At(row).number);
-        for (const QString& word : words) {
-            if (!all.contains(word, Qt::CaseInsensitive))
-                return false;
-        }
-        return true;
+        const Motion& motion = static_cast<MotionModel*>(sourceModel())->At(row);
+        return (family.isEmpty() || family == QLatin1String(motion.family)) &&
+               Matches(motion, search);
     }
 
 private:
-    QStringList words;
+    QString search;
     QString family;
 };
 
@@ -170,7 +161,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     family->addItem(tr("All families"));
     for (const QString& english : motions->Families())
         family->addItem(TranslatedMotion(english), english);
-    family->setAccessibleName(tr("Family of motions"));
+    family->setAccessibleName(tr("Motion family"));
     LetShrink(family);
     filtered->setSourceModel(motions);
     list->setModel(filtered);
@@ -268,7 +259,7 @@ void MotionPicker::hideEvent(QHideEvent*)
     beat.stop();
 }
 
-/** Goes one tick on with the motions that can be seen; all others cost nothing. */
+/** Advances the visible motions by one tick; the others cost nothing. */
 void MotionPicker::LookAtSight()
 {
     if (list->visibleRegion().isEmpty() || window()->isMinimized())
@@ -290,7 +281,7 @@ void MotionPicker::LookAtSight()
     }
 }
 
-/** Columns that fill the list from side to side. */
+/** Spreads the columns over the whole width. */
 void MotionPicker::Spread()
 {
     QStyleOptionViewItem option;
@@ -298,7 +289,7 @@ void MotionPicker::Spread()
     const QSize card = list->itemDelegate()->sizeHint(option, QModelIndex());
     const int room = list->viewport()->width() - 1;
     list->setGridSize({room / qMax(1, room / card.width()), card.height()});
-    // Once the cards are in their places.
+    // After the cards have been laid out.
     QTimer::singleShot(0, list, [this] { list->scrollTo(list->currentIndex()); });
 }
 

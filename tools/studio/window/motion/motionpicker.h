@@ -1,6 +1,6 @@
 /**
  * @file
- * Where a motion is chosen: each one moves, with the user's own text.
+ * Chooses a motion from thumbnails that move with the user's own text.
  */
 #ifndef ANIMTEXT_MOTIONPICKER_H
 #define ANIMTEXT_MOTIONPICKER_H
@@ -23,15 +23,14 @@ class MotionPicker : public QWidget
     Q_OBJECT
 
 public:
-    /** @param thumbnails moves the motions that are in sight; null for names alone */
+    /** @param thumbnails paints the visible motions; null shows only names */
     explicit MotionPicker(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void Show(const SignText& text);
-    /** Room of the panel that it is in: the list takes a share of it unless it has been dragged. */
+    /** Sets the panel's height; the list uses a share of it unless it was resized by hand. */
     void SetRoom(int points);
-    /** Of the list; kept from one start to the next. */
+    /** Sets the list's height, also for the next start. */
     void SetListHeight(int points);
-    /** The search field, and the list. */
     QLineEdit* Search() const { return search; }
     QListView* List() const { return list; }
 
@@ -56,7 +55,7 @@ private:
     QComboBox* family;
     QListView* list;
     QTimer beat;
-    int chosenHeight = 0; // points; 0 until it has been dragged
+    int chosenHeight = 0; // logical pixels; 0 until resized by hand
     int shownRow = -1;
     int tick = 0;
 };

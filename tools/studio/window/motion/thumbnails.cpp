@@ -7,13 +7,13 @@ namespace {
 
 constexpr int scrollKeys = 1000;
 constexpr int neonKeys = 2000;
-constexpr int plainEffect = 4; // of the text before a neon background: letter by letter
-constexpr int loopTicks = 90;  // of a thumbnail, with the hold at its end
+constexpr int plainEffect = 4; // shown before a neon background: Typewriter
+constexpr int loopTicks = 90;  // of a thumbnail, with the pause at its end
 constexpr int neonTicks = 30;
-constexpr int shownUnits = 12; // of the text, from its beginning
+constexpr int shownUnits = 12; // first UTF-16 units of the text
 constexpr int quickSpeed = 7;
 
-/** The beginning of @p text, small, with another motion or a neon background. */
+/** The start of @p text in a thumbnail's size, with another motion or a neon background. */
 SignText Sample(SignText text, int key)
 {
     const bool neon = key >= neonKeys;
@@ -146,7 +146,7 @@ void Thumbnails::Next()
         sign.texts = {sample};
         QString error;
         const Scene scene = folder.Put(sign, -1, &error);
-        if (!error.isEmpty()) { // the window says so
+        if (!error.isEmpty()) { // the window reports it
             QMetaObject::invokeMethod(this, &Thumbnails::Finish);
             return;
         }

@@ -1,7 +1,7 @@
 /**
  * @file
- * Small moving pictures of every motion and neon style with the user's own text, made by a worker
- * as they are looked at.
+ * Small moving pictures of every motion and neon style with the user's own text. A worker paints
+ * them on demand.
  */
 #ifndef ANIMTEXT_THUMBNAILS_H
 #define ANIMTEXT_THUMBNAILS_H
@@ -24,26 +24,26 @@ class Thumbnails : public QObject
     Q_OBJECT
 
 public:
-    /** @param plugin the library to be played with; empty for the one beside the program */
+    /** @param plugin the plugin library; empty for the one beside the program */
     explicit Thumbnails(const QString& plugin, QObject* parent = nullptr);
     ~Thumbnails() override;
 
-    /** The text that all of them show; the old pictures stay until there are new ones. */
+    /** Sets the text of all pictures; old pictures remain until new ones are ready. */
     void SetText(const SignText& text);
-    /** The picture of a motion at @p tick of its loop; null while there is none. Asks for it. */
+    /** The picture of a motion at @p tick of its loop; null until the worker has painted it. */
     QImage Picture(bool scroll, int number, int tick);
-    /** Whether that is a picture of the text as it is now. */
+    /** Whether Picture() shows the present text. */
     bool IsCurrent(bool scroll, int number) const;
-    /** As Picture(), of a neon background with the border @p style, 1 .. 28. */
+    /** Like Picture(), for a neon background with the border @p style, 1 to 28. */
     QImage NeonPicture(int style, int tick);
-    /** How many motions and styles have been asked for. */
+    /** Number of motions and styles requested so far. */
     int Asked() const { return asked; }
 
 private:
     struct Loop
     {
         QVector<QImage> pictures;
-        int text = 0; ///< which text they are of
+        int text = 0; ///< number of the text that they show
         bool isAsked = false;
     };
 
@@ -57,15 +57,15 @@ private:
     WorkerLink* link;
     SceneFolder folder;
     QThreadPool pool;
-    QHash<int, Loop> loops; // by number; scrolls from 1000 on, neon styles from 2000 on
+    QHash<int, Loop> loops; // by effect; scrolls from 1000, neon styles from 2000
     QList<int> waiting;
     SignText text;
     int textNumber = 0;
-    int current = -1; // what is being made
+    int current = -1; // the loop being painted; negative for none
     int currentText = 0;
     quint32 generation = 0;
     QVector<QImage> made;
-    std::shared_ptr<const Layout> playing; // its files stay as long as it does
+    std::shared_ptr<const Layout> playing; // keeps the layout's files
     int asked = 0;
 };
 

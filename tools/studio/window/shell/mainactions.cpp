@@ -1,4 +1,4 @@
-// What the menus, the tool bar and the keys of the window do.
+// The window's menus, tool bar and keyboard shortcuts.
 #include "studio/window/basics/style.h"
 #include "studio/window/display/ledsdialog.h"
 #include "studio/window/shell/exportdialog.h"
@@ -113,12 +113,12 @@ void MainWindow::MakeEditMenu()
         [this] { DuplicateSelected(); });
     QAction* remove =
         Act(edit, tr("Re&move"), QKeySequence::Delete, QString(), [this] { RemoveSelected(); });
-    // In a field the key is for letters.
+    // In a text field, Delete is for letters.
     remove->setShortcutContext(Qt::WidgetShortcut);
     for (QWidget* widget : QList<QWidget*>{view, scenes, timeline})
         widget->addAction(remove);
     edit->addSeparator();
-    Act(edit, tr("&Write"), QKeySequence(tr("F2")), QString(),
+    Act(edit, tr("&Edit text"), QKeySequence(tr("F2")), QString(),
         [this] { inspector->Text()->BeginTyping(); });
     Act(edit, tr("Search &motions"), QKeySequence(tr("Ctrl+M")), QString(), [this] {
         inspector->ensureWidgetVisible(inspector->Motions());
@@ -145,13 +145,13 @@ void MainWindow::MakeEditMenu()
     sceneTools->addStretch(1);
 }
 
-/** Calls "cut", "copy" or "paste" of the field that has the keyboard, else of that of the text. */
+/** Calls "cut", "copy" or "paste" of the field with the focus, otherwise of the text field. */
 void MainWindow::EditWords(const char* slot)
 {
     QWidget* focused = focusWidget();
     QWidget* field = qobject_cast<QLineEdit*>(focused);
     if (!field && focused)
-        field = focused->findChild<QLineEdit*>(); // of a number
+        field = focused->findChild<QLineEdit*>(); // inside a number field
     if (!field)
         field = inspector->Text()->Editor();
     if (field->isEnabled())
@@ -161,7 +161,7 @@ void MainWindow::EditWords(const char* slot)
 void MainWindow::MakeViewMenu()
 {
     QMenu* look = menuBar()->addMenu(tr("&View"));
-    Act(look, tr("&Fit"), QKeySequence(tr("Ctrl+0")), QString(), [this] { SetZoom(0); });
+    Act(look, tr("&Fit to window"), QKeySequence(tr("Ctrl+0")), QString(), [this] { SetZoom(0); });
     const auto middle = [this] { return QPointF(view->visibleRegion().boundingRect().center()); };
     Act(look, tr("Zoom &in"), QKeySequence::ZoomIn, QString(), [=] { ZoomBy(1, middle()); });
     Act(look, tr("Zoom &out"), QKeySequence::ZoomOut, QString(), [=] { ZoomBy(-1, middle()); });
@@ -171,9 +171,9 @@ void MainWindow::MakeViewMenu()
     leds->setCheckable(true);
     leds->setIcon(Icon(QStringLiteral("lamps")));
     leds->setShortcut(QKeySequence(tr("Ctrl+L")));
-    leds->setToolTip(tr("Shows the pixels as round lamps (Ctrl+L)"));
+    leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
     connect(leds, &QAction::toggled, this, &MainWindow::SetLeds);
-    QMenu* distances = look->addMenu(tr("&Pitch of the LEDs"));
+    QMenu* distances = look->addMenu(tr("LED &pitch"));
     pitches = new QActionGroup(this);
     for (double diameters : {1.0, 1.25, 1.5, 2.0, 3.0}) {
         QAction* action =
@@ -186,16 +186,16 @@ void MainWindow::MakeViewMenu()
         SetPitch(action->data().toDouble());
         leds->setChecked(true);
     });
-    QAction* chequered = look->addAction(tr("&Chequered beneath"));
+    QAction* chequered = look->addAction(tr("&Checkered background"));
     chequered->setCheckable(true);
     connect(chequered, &QAction::toggled, this, [this](bool on) {
         view->SetBeneath(on ? PictureView::Beneath::Chequered : PictureView::Beneath::Black);
     });
-    QAction* frames = look->addAction(tr("Frames of all &areas"));
+    QAction* frames = look->addAction(tr("Show all &areas"));
     frames->setCheckable(true);
     frames->setShortcut(QKeySequence(tr("Ctrl+F")));
     connect(frames, &QAction::toggled, view, &DisplayView::SetShowsFrames);
-    QAction* rulers = look->addAction(tr("&Rulers"));
+    QAction* rulers = look->addAction(tr("Show &rulers"));
     rulers->setCheckable(true);
     rulers->setShortcut(QKeySequence(tr("Ctrl+R")));
     connect(rulers, &QAction::toggled, view, &DisplayView::SetShowsRulers);
@@ -224,7 +224,7 @@ void MainWindow::MakeViewMenu()
 void MainWindow::MakePlayMenu()
 {
     QMenu* play = menuBar()->addMenu(tr("&Play"));
-    // The keys are the window's own, so that fields in which one types have them first.
+    // Not shortcuts: the window handles the keys, so that text fields get them first.
     const auto act = [&](const QString& words, const QString& key,
                          const std::function<void()>& does) {
         connect(play->addAction(words + QLatin1Char('\t') + key), &QAction::triggered, this, does);
@@ -234,21 +234,22 @@ void MainWindow::MakePlayMenu()
     everywhere->setShortcut(QKeySequence(tr("Ctrl+Space")));
     connect(everywhere, &QAction::triggered, &playback, &Playback::Toggle);
     addAction(everywhere);
-    act(tr("&Backwards, then faster"), QStringLiteral("J"), [this] { playback.Shuttle(-1); });
+    act(tr("Play &backward, then faster"), QStringLiteral("J"), [this] { playback.Shuttle(-1); });
     act(tr("&Stop"), QStringLiteral("K"), [this] { playback.SetPace(0); });
-    act(tr("&Forwards, then faster"), QStringLiteral("L"), [this] { playback.Shuttle(1); });
+    act(tr("Play &forward, then faster"), QStringLiteral("L"), [this] { playback.Shuttle(1); });
     play->addSeparator();
     act(tr("One tick back"), QStringLiteral("←"), [this] { playback.Seek(playback.Tick() - 1); });
-    act(tr("One tick on"), QStringLiteral("→"), [this] { playback.Seek(playback.Tick() + 1); });
+    act(tr("One tick forward"), QStringLiteral("→"),
+        [this] { playback.Seek(playback.Tick() + 1); });
     act(tr("Ten ticks back"), tr("Shift+←"), [this] { playback.Seek(playback.Tick() - 10); });
-    act(tr("Ten ticks on"), tr("Shift+→"), [this] { playback.Seek(playback.Tick() + 10); });
+    act(tr("Ten ticks forward"), tr("Shift+→"), [this] { playback.Seek(playback.Tick() + 10); });
     act(tr("Previous page mark"), QStringLiteral("["),
         [this] { playback.Seek(timeline->PreviousMark(playback.Tick())); });
     act(tr("Next page mark"), QStringLiteral("]"),
         [this] { playback.Seek(timeline->NextMark(playback.Tick())); });
-    act(tr("To the start"), tr("Home"), [this] { playback.Seek(0); });
-    act(tr("To the end"), tr("End"), [this] { playback.Seek(playback.Length() - 1); });
-    act(tr("&Loop the page, or stop looping"), QStringLiteral("R"), [this] { ToggleLoop(); });
+    act(tr("Go to start"), tr("Home"), [this] { playback.Seek(0); });
+    act(tr("Go to end"), tr("End"), [this] { playback.Seek(playback.Length() - 1); });
+    act(tr("Turn page &loop on or off"), QStringLiteral("R"), [this] { ToggleLoop(); });
     play->addSeparator();
     Act(play, tr("Play on L&EDs…"), QKeySequence(), QString(), [this] {
         auto* dialog = new LedsDialog(document.Current().display, document.Path(), this);
@@ -262,31 +263,30 @@ void MainWindow::MakePlayMenu()
 void MainWindow::MakeHelpMenu()
 {
     QMenu* help = menuBar()->addMenu(tr("&Help"));
-    Act(help, tr("&Keys"), QKeySequence(tr("F1")), QString(), [this] { ShowKeys(); });
+    Act(help, tr("&Keyboard shortcuts"), QKeySequence(tr("F1")), QString(), [this] { ShowKeys(); });
     Act(help, tr("&About"), QKeySequence(), QString(), [this] {
-        auto* box = new QMessageBox(
-            QMessageBox::NoIcon, tr("Animated Text Studio"),
-            tr("<b>Animated Text Studio %1</b><p>What is seen here is what the plugin paints: "
-               "the same library, the same pixels as on the sign.")
-                .arg(QApplication::applicationVersion()),
-            QMessageBox::Close, this);
+        auto* box = new QMessageBox(QMessageBox::NoIcon, tr("Animated Text Studio"),
+                                    tr("<b>Animated Text Studio %1</b><p>The plugin itself paints "
+                                       "the preview, so it shows the same pixels as the sign.")
+                                        .arg(QApplication::applicationVersion()),
+                                    QMessageBox::Close, this);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->setModal(false);
         box->show();
     });
 }
 
-/** All keys, out of the menus, and those of the display and the fields. */
+/** Lists all keys: those of the menus, the display and the fields. */
 void MainWindow::ShowKeys()
 {
     auto* dialog = new QDialog(this);
     dialog->setObjectName(QStringLiteral("keys"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(tr("Keys"));
+    dialog->setWindowTitle(tr("Keyboard shortcuts"));
     auto* list = new QTreeWidget(dialog);
-    list->setHeaderLabels({tr("Key"), tr("What it does")});
+    list->setHeaderLabels({tr("Keys"), tr("Action")});
     list->setRootIsDecorated(false);
-    list->setAccessibleName(tr("Keys"));
+    list->setAccessibleName(tr("Keyboard shortcuts"));
     for (const QAction* menu : menuBar()->actions()) {
         auto* group = new QTreeWidgetItem(list, {menu->text().remove(QLatin1Char('&'))});
         for (const QAction* action : menu->menu()->actions()) {
@@ -301,14 +301,14 @@ void MainWindow::ShowKeys()
     }
     auto* display = new QTreeWidgetItem(list, {tr("Display and fields")});
     const QPair<QString, QString> others[]{
-        {tr("Ctrl+Space"), tr("Plays or stops, from any field")},
-        {tr("Alt+arrows"), tr("Move the area; with Shift its size, with Ctrl by ten pixels")},
-        {tr("Ctrl+wheel"), tr("Zooms the display or the timeline")},
-        {tr("Space+drag, middle button"), tr("Pans the display")},
-        {tr("Ctrl while dragging"), tr("Areas do not snap")},
-        {tr("Shift+drag"), tr("Over the timeline: loops a range; over a number: steps by ten")},
-        {tr("Esc"), tr("Leaves a field; on the display: selects no text")},
-        {tr("Return"), tr("In a number: back to the display")},
+        {tr("Ctrl+Space"), tr("Play or stop, from any field")},
+        {tr("Alt+arrows"), tr("Move the area by 1 px. Shift: resize it. Ctrl: by 10 px")},
+        {tr("Ctrl+wheel"), tr("Zoom the display or the timeline")},
+        {tr("Space+drag, middle button"), tr("Scroll the display")},
+        {tr("Ctrl while dragging"), tr("Move or resize the area without snapping")},
+        {tr("Shift+drag"), tr("Timeline: loop a range. Number: change it in steps of 10")},
+        {tr("Esc"), tr("Leave a field. Display: clear the selection")},
+        {tr("Return"), tr("Number: return to the display")},
     };
     for (const auto& other : others)
         new QTreeWidgetItem(display, {other.first, other.second});
@@ -321,7 +321,7 @@ void MainWindow::ShowKeys()
     dialog->show();
 }
 
-/** The point of the widget stays where it is. */
+/** Zooms and keeps the pixel under @p about in place. */
 void MainWindow::ZoomBy(int steps, const QPointF& about)
 {
     const int zoom = qMax(1, int(view->Scale() / devicePixelRatioF()));
@@ -330,7 +330,7 @@ void MainWindow::ZoomBy(int steps, const QPointF& about)
     const QPointF pixel = view->ToWidget().inverted().map(about);
     const QPointF inView = view->mapToParent(about.toPoint());
     SetZoom(qBound(1, next, largestZoom));
-    QEvent layout(QEvent::LayoutRequest); // the display has its new size at once
+    QEvent layout(QEvent::LayoutRequest); // resizes the display at once
     QCoreApplication::sendEvent(scroll, &layout);
     const QPointF now = view->ToWidget().map(pixel);
     scroll->horizontalScrollBar()->setValue(qRound(now.x() - inView.x()));
@@ -340,7 +340,7 @@ void MainWindow::ZoomBy(int steps, const QPointF& about)
 void MainWindow::SetZoom(int zoom)
 {
     view->SetZoom(zoom);
-    zoom = view->Zoom(); // lamps may have asked for another
+    zoom = view->Zoom(); // LEDs may have required another
     int index = zoomBox->findData(zoom);
     if (index < 0) {
         zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
@@ -357,7 +357,7 @@ void MainWindow::SetLeds(bool on)
         LeaveLampZoom();
 }
 
-/** Back to the zoom that lamps were too small at; where they still are, they ask for it again. */
+/** Returns to the zoom from before KeepLampsInSight(), unless LEDs still need theirs. */
 void MainWindow::LeaveLampZoom()
 {
     if (plainZoom >= 0)
@@ -365,7 +365,7 @@ void MainWindow::LeaveLampZoom()
     KeepLampsInSight();
 }
 
-/** Goes nearer where lamps are wanted and would be too small to see. */
+/** Zooms in if LEDs are on and would be too small to see. */
 void MainWindow::KeepLampsInSight()
 {
     if (!leds->isChecked() || view->Picture().isNull() ||
@@ -396,7 +396,7 @@ void MainWindow::ChooseNew()
 void MainWindow::ChooseAndOpen()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open a scene"), QFileInfo(document.Path()).path(), tr("Scenes (*.json)"));
+        this, tr("Open scene"), QFileInfo(document.Path()).path(), tr("Scenes (*.json)"));
     if (!path.isEmpty())
         Leave([this, path] { Open(path); });
 }
@@ -411,7 +411,7 @@ bool MainWindow::Save()
 
 bool MainWindow::SaveAs()
 {
-    QString path = QFileDialog::getSaveFileName(this, tr("Save the scene"), document.Path(),
+    QString path = QFileDialog::getSaveFileName(this, tr("Save scene"), document.Path(),
                                                 tr("Scenes (*.json)"));
     if (path.isEmpty())
         return false;
@@ -425,7 +425,7 @@ bool MainWindow::SaveAs()
 void MainWindow::ShowExport()
 {
     ExportView seen;
-    // One page of several is not what is exported.
+    // Exporting plays all pages, so its ticks are not those of a single page.
     if (transport->IsSchedule() || document.Current().PageCount() < 2) {
         seen.tick = playback.Tick();
         seen.length = playback.Length();
@@ -442,7 +442,7 @@ void MainWindow::ShowExport()
     dialog->open();
 }
 
-/** Does @p then when the sign may go; asks first where it has changes that are not saved. */
+/** Calls @p then, but asks first if the sign has unsaved changes. */
 void MainWindow::Leave(const std::function<void()>& then)
 {
     if (document.IsSaving()) {

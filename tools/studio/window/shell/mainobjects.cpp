@@ -1,4 +1,4 @@
-// What the window does with texts and pages as a whole.
+// Adding, copying, moving and removing texts and pages.
 #include "studio/window/basics/style.h"
 #include "studio/window/shell/mainwindow.h"
 
@@ -15,7 +15,7 @@ void MainWindow::AddNewText(bool onNewPage)
     const QSize size(after.display.width(),
                      onNewPage ? after.display.height() : qMax(1, after.display.height() / 2));
     SignText text = NewText(size, page);
-    // In the half that is free, if one is.
+    // In the upper or lower half, if one is free.
     const auto covers = [&](int y) {
         const QRect area(QPoint(0, y), size);
         return std::any_of(after.texts.begin(), after.texts.end(), [&](const SignText& other) {
@@ -88,7 +88,7 @@ void MainWindow::PutPage(int page, int to)
     document.Change(tr("Move page"), after);
 }
 
-/** For the text that is selected, or the page whose row is. */
+/** Shows the context menu of the selected text or page. */
 void MainWindow::ShowObjectMenu(const QPoint& global)
 {
     auto* menu = new QMenu(this);
@@ -106,8 +106,10 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         act(tr("Add text"), [this] { AddNewText(false); });
         act(tr("Duplicate page"), [this] { DuplicateSelected(); });
         menu->addSeparator();
-        act(tr("Earlier"), [=] { PutPage(page, page - 1); })->setEnabled(page > 0);
-        act(tr("Later"), [=] { PutPage(page, page + 2); })->setEnabled(page + 1 < sign.PageCount());
+        act(tr("Move page up"), [=] { PutPage(page, page - 1); })->setEnabled(page > 0);
+        act(tr("Move page down"), [=] {
+            PutPage(page, page + 2);
+        })->setEnabled(page + 1 < sign.PageCount());
         menu->addSeparator();
         act(tr("Remove page"), [this] { RemoveSelected(); });
     } else if (text) {
@@ -116,12 +118,12 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         const int last = PagedIds(text->page).size() - 1;
         const int id = text->id;
         const int own = text->page;
-        act(tr("Write"), [this] { inspector->Text()->BeginTyping(); });
+        act(tr("Edit text"), [this] { inspector->Text()->BeginTyping(); });
         act(tr("Rename"), [=] { scenes->Rename(id); });
         act(tr("Duplicate text"), [this] { DuplicateSelected(); });
         menu->addSeparator();
-        act(tr("To the front"), [=] { PutText(id, own, last + 1); })->setEnabled(place < last);
-        act(tr("To the back"), [=] { PutText(id, own, 0); })->setEnabled(place > 0);
+        act(tr("Bring to front"), [=] { PutText(id, own, last + 1); })->setEnabled(place < last);
+        act(tr("Send to back"), [=] { PutText(id, own, 0); })->setEnabled(place > 0);
         QMenu* pages = menu->addMenu(tr("Move to page"));
         for (int to = 0; to <= sign.PageCount(); ++to) {
             const bool isNew = to == sign.PageCount();

@@ -21,7 +21,7 @@
 namespace AnimText {
 namespace {
 
-/** The menu goes on calling it by its name. */
+/** Sets the dock's title, but keeps its name in the View menu. */
 void SetTitle(QDockWidget* dock, const QString& title)
 {
     const QString name = dock->toggleViewAction()->text();
@@ -29,7 +29,7 @@ void SetTitle(QDockWidget* dock, const QString& title)
     dock->toggleViewAction()->setText(name);
 }
 
-constexpr int dimmingDelay = 100; // milliseconds for which a stale picture is not marked yet
+constexpr int dimmingDelay = 100; // milliseconds until a stale picture is dimmed
 const QColor surroundings(96, 96, 96);
 constexpr QSize largestStandardSize(1760, 1040);
 
@@ -46,40 +46,39 @@ MainWindow::MainWindow(const QString& plugin)
     setDockNestingEnabled(true);
     dimming.setSingleShot(true);
     dimming.setInterval(dimmingDelay);
-    MakeCentre();
+    MakeCenter();
     MakeDocks();
     MakeActions();
     Connect();
     setTabOrder(inspector->Text()->Editor(), view); // one Tab from typing to playing
     for (QComboBox* box : findChildren<QComboBox*>())
         box->installEventFilter(this);
-    // The picture is the largest thing.
     resize((screen()->availableSize() * 0.92).boundedTo(largestStandardSize));
     RestoreLayout();
 }
 
 MainWindow::~MainWindow()
 {
-    // What the widgets would tell while they go has nobody to hear it.
+    // The slots must not run while the widgets are destroyed.
     document.disconnect(this);
     rehearsal.disconnect(this);
     for (QObject* part : findChildren<QObject*>())
         part->disconnect(this);
 }
 
-void MainWindow::MakeCentre()
+void MainWindow::MakeCenter()
 {
     view = new DisplayView(this);
     view->SetSurroundings(surroundings);
     view->SetFillsRoom(true);
     scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus); // the display in it has it
+    scroll->setFocusPolicy(Qt::NoFocus); // the display inside has the focus
     scroll->setWidgetResizable(true);
     scroll->setWidget(view);
     transport = new TransportBar(&playback, this);
     timeline = new Timeline(&playback, this);
-    // They would scroll where the keys go through time.
+    // Both would scroll on keys that move through time.
     scroll->installEventFilter(this);
     timeline->installEventFilter(this);
 
@@ -96,7 +95,7 @@ void MainWindow::MakeCentre()
     bottomLayout->addWidget(transport);
     bottomLayout->addWidget(timeline, 1);
     auto* splitter = new QSplitter(Qt::Vertical, this);
-    splitter->setObjectName(QStringLiteral("centre"));
+    splitter->setObjectName(QStringLiteral("center"));
     splitter->addWidget(top);
     splitter->addWidget(bottom);
     splitter->setStretchFactor(0, 1);
@@ -132,9 +131,9 @@ void MainWindow::MakeDocks()
         dock(QStringLiteral("text"), tr("Text"), inspector, Qt::RightDockWidgetArea);
     findings = new FindingsList(this);
     QDockWidget* below =
-        dock(QStringLiteral("findings"), tr("Findings"), findings, Qt::LeftDockWidgetArea);
+        dock(QStringLiteral("findings"), tr("Problems"), findings, Qt::LeftDockWidgetArea);
     connect(findings, &FindingsList::CountChanged, this, [below](int count) {
-        SetTitle(below, count == 0 ? tr("No findings") : tr("%n finding(s)", nullptr, count));
+        SetTitle(below, count == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, count));
     });
     integrator = new IntegratorView(this);
     dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
@@ -163,13 +162,13 @@ void MainWindow::Connect()
     });
     connect(&document, &Document::DiskChanged, this, [this] {
         notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
-                     {{tr("Load it"), [this] { LoadTheirs(); }},
-                      {tr("Keep mine"),
+                     {{tr("Load from disk"), [this] { LoadTheirs(); }},
+                      {tr("Keep my version"),
                        [this] {
                            document.KeepMine();
-                           notices->Set(NoticeBar::Save, QString()); // it would be saved now
+                           notices->Set(NoticeBar::Save, QString()); // saving would succeed now
                        }},
-                      {tr("Save mine as…"), [this] { SaveAs(); }}});
+                      {tr("Save my version as…"), [this] { SaveAs(); }}});
     });
 
     connect(&rehearsal, &Rehearsal::Shown, this, [this](const QImage& picture) {
@@ -193,7 +192,7 @@ void MainWindow::Connect()
         ShowFindings();
     });
     connect(findings, &FindingsList::Selected, this, &MainWindow::Select);
-    connect(findings, &FindingsList::Mended, this,
+    connect(findings, &FindingsList::Fixed, this,
             [this](int id, const QString& what, const TextChange& change) {
                 Select(id);
                 Edit(what, QString(), change);
@@ -240,7 +239,7 @@ void MainWindow::Connect()
             [this] { inspector->Text()->BeginTyping(); });
     connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
         Select(id);
-        Edit(tr("Area"), gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
+        Edit(tr("Change area"), gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
              [rect](SignText* text) {
                  text->node.pos = rect.topLeft();
                  text->node.size = rect.size();
@@ -276,7 +275,7 @@ void MainWindow::CompareWith(const QString& library)
     compared->Look(playback.Tick());
 }
 
-/** The calls of the tick that is looked at, and what the other library makes of it. */
+/** Shows the calls of the current tick and the comparison with the other library. */
 void MainWindow::ShowCalls()
 {
     if (integrator->isVisible())
@@ -294,8 +293,8 @@ void MainWindow::RestoreLayout()
     const QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     restoreState(settings.value(QStringLiteral("docks")).toByteArray());
-    findChild<QSplitter*>(QStringLiteral("centre"))
-        ->restoreState(settings.value(QStringLiteral("centre")).toByteArray());
+    findChild<QSplitter*>(QStringLiteral("center"))
+        ->restoreState(settings.value(QStringLiteral("center")).toByteArray());
     Arrange();
     SetPitch(settings.value(QStringLiteral("pitch"), standardPitch).toDouble());
     leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
@@ -307,7 +306,7 @@ void MainWindow::LoadTheirs()
     if (!document.LoadTheirs(&error))
         notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
     else
-        notices->Set(NoticeBar::Save, QString()); // what could not be saved was given up
+        notices->Set(NoticeBar::Save, QString()); // the failed save no longer matters
 }
 
 bool MainWindow::Open(const QString& path)
@@ -352,7 +351,7 @@ void MainWindow::Select(int id)
     Refresh();
 }
 
-/** Everything shows the sign as it is now. */
+/** Updates all views of the sign. */
 void MainWindow::Refresh()
 {
     const Sign& sign = document.Current();
@@ -376,7 +375,7 @@ void MainWindow::Refresh()
     Rehearse();
 }
 
-/** Those about the text that is edited stand beside its fields. */
+/** Shows the findings about the selected text beside its fields. */
 void MainWindow::ShowFindings()
 {
     QList<Finding> own;
@@ -394,7 +393,8 @@ void MainWindow::OfferLostWork()
     if (lost.isEmpty())
         return;
     const LostWork& work = lost.first();
-    const QString name = work.path.isEmpty() ? tr("a new sign") : QFileInfo(work.path).fileName();
+    const QString name =
+        work.path.isEmpty() ? tr("an untitled scene") : QFileInfo(work.path).fileName();
     notices->Set(
         NoticeBar::Recovery,
         tr("The studio stopped before %1 was saved (%2).")
@@ -440,7 +440,7 @@ void MainWindow::ShowTiming()
     ShowEnds();
 }
 
-/** Times of the text that is selected, else of the page, else of the program. */
+/** Shows the times of the selected text, and of the page and all pages as a tooltip. */
 void MainWindow::ShowEnds()
 {
     const Timing& timing = rehearsal.GetTiming();
@@ -449,7 +449,7 @@ void MainWindow::ShowEnds()
         transport->ShowEnds(nullptr, QString());
         return;
     }
-    QMap<int, QVector<TextTime>> pages; // the texts of an area play in turn
+    QMap<int, QVector<TextTime>> pages; // the texts of an area play one after another
     int area = -1;
     for (int i = 0; i < ids.size(); ++i) {
         const SignText* text = document.Current().Find(ids.at(i));
@@ -470,7 +470,7 @@ void MainWindow::ShowEnds()
         program.real += times.real;
         lines.append(tr("Page %1: %2").arg(page.key() + 1).arg(EndsInWords(times)));
     }
-    lines.append(tr("Program: %1").arg(EndsInWords(program)));
+    lines.append(tr("All pages: %1").arg(EndsInWords(program)));
     if (part.page >= 0)
         lines.removeLast(); // the other pages have not been measured
     const int row = ids.indexOf(selected);
@@ -515,7 +515,7 @@ void MainWindow::ChangeDisplay(int gesture)
 bool MainWindow::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(object)) {
-        event->ignore(); // the panel scrolls; a choice that is scrolled past must not change
+        event->ignore(); // scroll the panel, but do not change a choice under the mouse
         return true;
     }
     if (event->type() != QEvent::KeyPress || qobject_cast<QComboBox*>(object))
@@ -523,12 +523,12 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event)
     auto* key = static_cast<QKeyEvent*>(event);
     const bool isPlayKey = key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier;
     if (qobject_cast<QAbstractItemView*>(object) && !isPlayKey)
-        return false; // lists go by their own keys
+        return false; // lists handle their own keys
     keyPressEvent(key);
     return event->isAccepted();
 }
 
-/** Goes from a field back to the display, on which keys go through time. */
+/** Moves the focus from a field back to the display, where keys move through time. */
 bool MainWindow::LeaveField(int key)
 {
     QWidget* field = focusWidget();
@@ -579,11 +579,11 @@ void MainWindow::ToggleLoop()
 void MainWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
-    // Docks are not moved while they are being laid out.
+    // Queued, because docks must not move during their layout.
     QMetaObject::invokeMethod(this, &MainWindow::Arrange, Qt::QueuedConnection);
 }
 
-/** Where the window is narrow, the docks become tabs, so that the display keeps its room. */
+/** Turns the docks into tabs in a narrow window, to keep room for the display. */
 void MainWindow::Arrange()
 {
     constexpr int roomForDisplay = 440;
@@ -620,8 +620,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("docks"), isNarrow ? wideDocks : saveState());
-    settings.setValue(QStringLiteral("centre"),
-                      findChild<QSplitter*>(QStringLiteral("centre"))->saveState());
+    settings.setValue(QStringLiteral("center"),
+                      findChild<QSplitter*>(QStringLiteral("center"))->saveState());
     settings.setValue(QStringLiteral("leds"), leds->isChecked());
     settings.setValue(QStringLiteral("pitch"), pitch);
     event->accept();

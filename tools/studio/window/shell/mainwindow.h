@@ -32,11 +32,11 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /** @param plugin the library that plays; empty for the one beside the program */
+    /** @param plugin the plugin library; empty for the one beside the program */
     explicit MainWindow(const QString& plugin);
     ~MainWindow() override;
 
-    /** Opens the scene @p path; says so in the window when that fails. */
+    /** Opens the scene @p path; on failure shows a notice. */
     bool Open(const QString& path);
     void New(const QSize& display = Sign().display, bool alphaBlend = true);
 
@@ -48,10 +48,10 @@ public:
     TransportBar* Transport() const { return transport; }
     NoticeBar* Notices() const { return notices; }
     FindingsList* Findings() const { return findings; }
-    /** Hidden until it is asked for. */
+    /** Hidden until the user opens it. */
     IntegratorView* Integrator() const { return integrator; }
     Recovery* GetRecovery() { return &recovery; }
-    /** Offers what a studio has left that was killed. */
+    /** Offers to restore the unsaved work of a studio that was killed. */
     void OfferLostWork();
     int Selected() const { return selected; }
     void Select(int id);
@@ -65,7 +65,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void MakeCentre();
+    void MakeCenter();
     void MakeDocks();
     void MakeActions();
     void MakeFileMenu();
@@ -112,7 +112,7 @@ private:
     void ToggleLoop();
     bool LeaveField(int key);
     void EditWords(const char* slot);
-    /** The texts of a page, or of all for a negative one. */
+    /** The texts of @p page; negative for all pages. */
     QVector<int> PagedIds(int page) const;
     void Rename(int id, const QString& name);
     void PutText(int id, int page, int place);
@@ -124,7 +124,7 @@ private:
     Document document;
     Recovery recovery;
     Rehearsal rehearsal;
-    std::unique_ptr<Rehearsal> compared; // with another library
+    std::unique_ptr<Rehearsal> compared; // plays with another library
     Thumbnails thumbnails;
     Playback playback;
     int selected = 0;  // id of a text; 0 for the display
@@ -132,16 +132,16 @@ private:
     Part part;
     QTimer dimming;
     QList<Finding> found;
-    std::function<void()> afterSave; // what waits until all is saved
+    std::function<void()> afterSave; // runs when the sign is saved
     bool mayClose = false;
     bool isNarrow = false;
-    QByteArray wideDocks; // where the docks are while the window is not narrow
+    QByteArray wideDocks; // the docks' places in a wide window
     static constexpr double standardPitch = 1.5;
-    int plainZoom = -1;           // to go back to from the lamps; negative for none
-    double pitch = standardPitch; // from lamp to lamp, in their diameters
+    int plainZoom = -1;           // zoom to return to from the LEDs; negative for none
+    double pitch = standardPitch; // from LED to LED in LED diameters
 
     DisplayView* view = nullptr;
-    QScrollArea* scroll = nullptr; // that it is in
+    QScrollArea* scroll = nullptr; // contains the view
     NoticeBar* notices = nullptr;
     TransportBar* transport = nullptr;
     Timeline* timeline = nullptr;

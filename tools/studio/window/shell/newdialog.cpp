@@ -20,7 +20,7 @@ NewDialog::NewDialog(QWidget* parent)
     : QDialog(parent)
     , form(new DisplayForm(this))
 {
-    setWindowTitle(tr("New sign"));
+    setWindowTitle(tr("New scene"));
     const QSettings settings;
     form->Show(settings.value(sizeKey, Sign().display).toSize(),
                settings.value(alphaKey, true).toBool());

@@ -1,6 +1,6 @@
 /**
  * @file
- * Where the display of a new sign is chosen.
+ * Asks for the display of a new sign.
  */
 #ifndef ANIMTEXT_NEWDIALOG_H
 #define ANIMTEXT_NEWDIALOG_H
@@ -11,7 +11,7 @@
 
 namespace AnimText {
 
-/** Starts with the display that was chosen last. */
+/** Starts with the values that were used last. */
 class NewDialog : public QDialog
 {
     Q_OBJECT

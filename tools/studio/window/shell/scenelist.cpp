@@ -8,8 +8,8 @@
 namespace AnimText {
 namespace {
 
-constexpr int idRole = Qt::UserRole;       // of a text; 0 for the display
-constexpr int pageRole = Qt::UserRole + 1; // number, for the row of a page
+constexpr int idRole = Qt::UserRole;       // id of a text; 0 for the display
+constexpr int pageRole = Qt::UserRole + 1; // number of a page, in its row
 
 QString TitleOf(const SignText& text)
 {
@@ -76,7 +76,7 @@ void SceneList::Show(const Sign& sign)
     topLevelItem(0)->setText(0, DisplayTitle(sign.display));
     for (const SignText& text : sign.texts) {
         QTreeWidgetItem* item = Find(text.id);
-        item->setText(0, TitleOf(text)); // does nothing where it is the same
+        item->setText(0, TitleOf(text));
         if (item->parent()->child(0) == item)
             item->parent()->setText(0, PageTitle(sign, text.page));
     }
@@ -126,7 +126,7 @@ QTreeWidgetItem* SceneList::Find(int id) const
 void SceneList::Select(int id)
 {
     if (id == 0 && PageOfRow() >= 0)
-        return; // the page itself is looked at
+        return; // the page itself is selected
     const QSignalBlocker blocker(this);
     if (QTreeWidgetItem* item = Find(id))
         setCurrentItem(item);
@@ -143,22 +143,22 @@ void SceneList::Rename(int id)
         editItem(item);
 }
 
-/** The sign is changed, and what is shown follows it; no row is moved by itself. */
+/** Changes the sign, which then updates the rows; moves no row itself. */
 void SceneList::dropEvent(QDropEvent* event)
 {
     const QTreeWidgetItem* moved = currentItem();
     const QTreeWidgetItem* under = itemAt(event->pos());
-    event->setDropAction(Qt::CopyAction); // else the view removes the row
+    event->setDropAction(Qt::CopyAction); // a move would remove the row
     event->accept();
     setState(QAbstractItemView::NoState);
     if (!moved || moved == topLevelItem(0))
         return;
     const bool below = under && event->pos().y() > visualItemRect(under).center().y();
     const int pages = topLevelItemCount() - 1;
-    int page = pages; // beside all rows: a new one
+    int page = pages; // below all rows: a new page
     int place = 0;
     if (IsPage(under)) {
-        // Above its own row a page's end is the one before it.
+        // Above a page's row is the end of the page before it.
         page = under->data(0, pageRole).toInt();
         place = 0;
         if (!below && page > 0 && !IsPage(moved)) {
@@ -172,7 +172,7 @@ void SceneList::dropEvent(QDropEvent* event)
     } else if (under) {
         page = 0;
     }
-    // Rows are not replaced while they are being dragged.
+    // Queued, because rows must not be replaced during the drag.
     if (IsPage(moved)) {
         const bool behind = under && (below || !IsPage(under)) && under != topLevelItem(0);
         const int from = moved->data(0, pageRole).toInt();

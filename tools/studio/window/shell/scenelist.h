@@ -1,6 +1,6 @@
 /**
  * @file
- * The display, the pages of the sign and their texts, as a tree.
+ * The sign as a tree: the display, its pages and their texts.
  */
 #ifndef ANIMTEXT_SCENELIST_H
 #define ANIMTEXT_SCENELIST_H
@@ -11,7 +11,7 @@
 
 namespace AnimText {
 
-/** Texts and pages are dragged to other places; a text is renamed with a double click. */
+/** Texts and pages can be moved by dragging; a double click renames a text. */
 class SceneList : public QTreeWidget
 {
     Q_OBJECT
@@ -23,9 +23,9 @@ public:
     static QString PageTitle(const Sign& sign, int page);
 
     void Show(const Sign& sign);
-    /** The row of the text, or of the display for 0. */
+    /** Selects the row of the text, or the display for 0. */
     void Select(int id);
-    /** The page whose own row is current; negative for none. */
+    /** The page whose row is selected; negative for none. */
     int PageOfRow() const;
     void Rename(int id);
 
@@ -33,11 +33,11 @@ signals:
     void Selected(int id);
     void PageSelected(int page);
     void Renamed(int id, const QString& name);
-    /** @param place among the texts of that page, which may be a new one */
+    /** @param place index among the texts of @p page, which may be a new page */
     void TextDropped(int id, int page, int place);
-    /** @param to the page that it comes before */
+    /** @param to the page to insert it before */
     void PageDropped(int page, int to);
-    /** @param global where the menu goes */
+    /** @param global screen position of the menu */
     void MenuWanted(const QPoint& global);
 
 protected:

@@ -5,7 +5,7 @@
 namespace AnimText {
 namespace {
 
-constexpr int sizeProperty = QTextFormat::UserProperty + 1; // pixels on the sign
+constexpr int sizeProperty = QTextFormat::UserProperty + 1; // size on the sign in pixels
 constexpr int readingSize = 20;                             // pixels
 
 } // namespace
@@ -66,7 +66,7 @@ StyledText Read(const QTextDocument& document, const StyleRun& base)
             text.Append(QStringLiteral(" "), text.runs.isEmpty() ? base : text.runs.last());
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             QString part = it.fragment().text();
-            // Soft line breaks and pictures of other programs.
+            // Soft line breaks and embedded pictures.
             part.replace(QChar::LineSeparator, QLatin1Char(' '));
             part.remove(QChar::ObjectReplacementCharacter);
             text.Append(part, StyleOf(it.fragment().charFormat(), base));

@@ -1,6 +1,6 @@
 /**
  * @file
- * Styled texts in Qt's text documents, and out of them again.
+ * Converts styled texts to Qt's text documents and back.
  */
 #ifndef ANIMTEXT_STYLEDFORMAT_H
 #define ANIMTEXT_STYLEDFORMAT_H
@@ -14,21 +14,21 @@
 namespace AnimText {
 
 /**
- * A character format that keeps all of @p run. Letters are shown at a size for reading; their own
- * in pixels goes along unseen.
- * @param common the size, in pixels, that is shown as the common one
+ * A character format that stores all of @p run. Letters are shown at a readable size; the size on
+ * the sign is stored as a property.
+ * @param common size in pixels that is shown at the reading size
  */
 QTextCharFormat FormatOf(const StyleRun& run, int common);
-/** The style that is kept in @p format; what it lacks is taken from @p base. */
+/** The style stored in @p format; @p base supplies what is missing. */
 StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base);
 
-/** Puts @p text in place of what @p cursor has selected. */
+/** Replaces the selection of @p cursor with @p text. */
 void Insert(const StyledText& text, int common, QTextCursor* cursor);
 void Write(const StyledText& text, QTextDocument* document);
-/** @param base the style of what has none, and of an empty text */
+/** @param base the style of unstyled letters and of an empty text */
 StyledText Read(const QTextDocument& document, const StyleRun& base);
 
-/** The units of @p text from @p begin up to @p end. */
+/** The UTF-16 units from @p begin to before @p end. */
 StyledText PartOf(const StyledText& text, int begin, int end);
 
 } // namespace AnimText

@@ -19,13 +19,13 @@ namespace {
 const QString ownFormat = QStringLiteral("application/x-animtext-text");
 const QByteArray ownKey = "text";
 
-/** Pictures and other formats hold no words for a sign. */
+/** Whether @p source has text, and not only pictures or other formats. */
 bool HasWords(const QMimeData* source)
 {
     return source && (source->hasFormat(ownFormat) || source->hasText() || source->hasHtml());
 }
 
-/** The words of @p source; some programs copy nothing but HTML. */
+/** The text of @p source; some programs copy only HTML. */
 QString WordsIn(const QMimeData* source)
 {
     if (source->hasText())
@@ -35,12 +35,12 @@ QString WordsIn(const QMimeData* source)
     return document.toPlainText();
 }
 
-/** Line breaks become spaces, for a sign has one line; the last one goes. */
+/** Replaces line breaks by spaces, because a sign has one line, and removes the last one. */
 StyledText OnOneLine(StyledText text)
 {
     QStringList notes;
     QString error;
-    ToOneLine(&text, &notes, &error); // what cannot be shown is named below the field
+    ToOneLine(&text, &notes, &error); // errors are shown below the field
     return text;
 }
 
@@ -49,7 +49,7 @@ StyledText OnOneLine(StyledText text)
 TextEditor::TextEditor(QWidget* parent)
     : QTextEdit(parent)
 {
-    setUndoRedoEnabled(false); // the window's own takes its place
+    setUndoRedoEnabled(false); // the window's undo is used instead
     setTabChangesFocus(true);
 }
 
@@ -119,7 +119,7 @@ void TextEditor::PasteWithStyles()
     QString error;
     if (!ParseMarkup(QStringLiteral("<html>") + source->html(), current, &text, &notes, &error))
         return;
-    // A page's black letters would be dark lamps.
+    // Black letters of a web page would be invisible on the sign.
     for (StyleRun& run : text.runs)
         run.color = current.color;
     PutIn(OnOneLine(text));
@@ -140,7 +140,7 @@ void TextEditor::contextMenuEvent(QContextMenuEvent* event)
 void TextEditor::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        return; // the sign has one line
+        return; // a sign has one line
     QTextEdit::keyPressEvent(event);
 }
 

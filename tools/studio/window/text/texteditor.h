@@ -1,6 +1,6 @@
 /**
  * @file
- * The field in which a text is typed: one line of the sign, each letter in its own style.
+ * The field for typing a text: one line in which each letter has its own style.
  */
 #ifndef ANIMTEXT_TEXTEDITOR_H
 #define ANIMTEXT_TEXTEDITOR_H
@@ -12,8 +12,8 @@
 namespace AnimText {
 
 /**
- * Pastes words in the style at the cursor. What was copied from such a field keeps its styles;
- * those of other programs come along only when they are asked for.
+ * Pastes text in the style at the cursor. Text from such a field keeps its styles; styles from
+ * other programs are pasted only on request.
  */
 class TextEditor : public QTextEdit
 {
@@ -22,17 +22,17 @@ class TextEditor : public QTextEdit
 public:
     explicit TextEditor(QWidget* parent = nullptr);
 
-    /** The style of letters that have none of their own; its size is shown as the common one. */
+    /** Sets the style of unstyled letters; its size is shown at the reading size. */
     void SetBase(const StyleRun& style) { base = style; }
-    /** All of it. */
+    /** The whole text. */
     StyledText Styled() const;
-    /** That of the first letter that is selected, or of what is typed next. */
+    /** The style of the first selected letter, or of the next one to be typed. */
     StyleRun CurrentStyle() const;
-    /** Pastes words, bold, italic, underline, sizes and fonts; the color stays the sign's. */
+    /** Pastes text with bold, italic, underline, sizes and fonts, but not its colors. */
     void PasteWithStyles();
 
 signals:
-    /** Typing before and after this are steps of their own. */
+    /** Ends an undo step of typing. */
     void StepEnded();
 
 protected:

@@ -23,11 +23,11 @@
 namespace AnimText {
 namespace {
 
-constexpr int pauseLength = 1500; // milliseconds without typing that end a step
-constexpr int mostTold = 4;       // characters or words
-constexpr int noStyling = -2;     // in place of a drag: words were typed
+constexpr int pauseLength = 1500; // milliseconds without typing that end an undo step
+constexpr int mostShown = 4;      // characters or words
+constexpr int noStyling = -2;     // typing, no style
 
-/** Colors that lamps have. */
+/** Colors that look good on LEDs. */
 const QList<QPair<QColor, const char*>> lampColors{
     {QColor(255, 160, 0), QT_TRANSLATE_NOOP("Colors", "Amber")},
     {QColor(255, 0, 0), QT_TRANSLATE_NOOP("Colors", "Red")},
@@ -53,7 +53,7 @@ QString ColorName(const QColor& color)
 QIcon ColorIcon(const QColor& color)
 {
     QPixmap pixmap(32, 32);
-    pixmap.fill(QColor(128, 128, 128)); // around it, that it is seen on any palette
+    pixmap.fill(QColor(128, 128, 128)); // a frame that is visible on any palette
     QPainter(&pixmap).fillRect(2, 2, 28, 28, color);
     return pixmap;
 }
@@ -64,7 +64,7 @@ TextPanel::TextPanel(QWidget* parent)
     : QWidget(parent)
     , editor(new TextEditor(this))
     , notes(new QLabel(this))
-    , otherFont(new QPushButton(tr("Use another font for them"), this))
+    , otherFont(new QPushButton(tr("Use another font for these"), this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -73,7 +73,7 @@ TextPanel::TextPanel(QWidget* parent)
     MakeTools(row);
     layout->addWidget(editor);
     layout->addWidget(row);
-    // Always as high, so that what is below does not jump while somebody types.
+    // A fixed height, so that the fields below do not jump while typing.
     auto* room = new QWidget(this);
     auto* below = new QHBoxLayout(room);
     below->setContentsMargins(0, 0, 0, 0);
@@ -86,7 +86,7 @@ TextPanel::TextPanel(QWidget* parent)
     connect(otherFont, &QPushButton::clicked, this, &TextPanel::UseOtherFonts);
 
     editor->setAccessibleName(tr("Text"));
-    editor->setPlaceholderText(tr("Type the text"));
+    editor->setPlaceholderText(tr("Type your text"));
     editor->setFixedHeight(88);
     editor->setFrameShape(QFrame::StyledPanel);
     QPalette dark = editor->palette();
@@ -135,7 +135,7 @@ void TextPanel::MakeTools(QWidget* row)
     size->SetUnit(tr("px"));
     size->SetLimits(4, 2000);
     size->setAccessibleName(tr("Size"));
-    size->setToolTip(tr("Size of the letters in pixels of the sign"));
+    size->setToolTip(tr("Font size in pixels on the sign"));
     bold = MakeTool(tr("B"), QKeySequence::Bold, tr("Bold"));
     italic = MakeTool(tr("I"), QKeySequence::Italic, tr("Italic"));
     underline = MakeTool(tr("U"), QKeySequence::Underline, tr("Underline"));
@@ -263,8 +263,8 @@ void TextPanel::ShowStyle()
 }
 
 /**
- * Changes the style of the selection, or of everything where nothing is selected.
- * @param drag the same number for changes that are one step; negative for one that stands alone
+ * Changes the style of the selection or, if nothing is selected, of the whole text.
+ * @param drag identifies changes that are one undo step; negative for a single change
  */
 void TextPanel::Restyle(const std::function<void(StyleRun*)>& change, int drag)
 {
@@ -297,17 +297,17 @@ void TextPanel::Tell()
     if (TextSource{text} == TextSource{shown})
         return;
     if (styling != noStyling)
-        ++gesture; // a style is a step of its own
+        ++gesture; // a style is a separate undo step
     styling = noStyling;
     shown = text;
     pause.start();
     emit Edited(text, gesture);
 }
 
-/** Styles letters that have no outline with the first font that has one. */
+/** Gives letters without an outline the first font that has one. */
 void TextPanel::UseOtherFonts()
 {
-    QHash<int, QString> found; // family by index
+    QHash<int, QString> found; // font family by index
     const QStringList families = QFontDatabase().families();
     for (const UnseenCharacter& character : unseen) {
         const auto has = [&](const QString& family) {
@@ -342,7 +342,7 @@ void TextPanel::UseOtherFonts()
     ++gesture;
 }
 
-/** What the sign will not show of it, quietly. */
+/** Shows below the field what the sign will not show. */
 void TextPanel::ShowNotes(const SignText& text)
 {
     QStringList lines;
@@ -368,8 +368,8 @@ void TextPanel::ShowNotes(const SignText& text)
             mark.format.setToolTip(
                 (character.missing
                      ? tr("Will be missing: neither %1 nor any other installed font has it.")
-                     : tr("Will be missing: its font has a picture instead of an outline (%1 was "
-                          "set)."))
+                     : tr("Will be missing: its font has a picture instead of an outline (font: "
+                          "%1)."))
                     .arg(asked));
             marks.append(mark);
             letters.append(QStringLiteral("%1 (U+%2)")
@@ -381,20 +381,21 @@ void TextPanel::ShowNotes(const SignText& text)
         if (!letters.isEmpty())
             lines.append(
                 tr("Not in any font, will be missing: %1")
-                    .arg(QStringList(letters.mid(0, mostTold)).join(QStringLiteral(", "))));
+                    .arg(QStringList(letters.mid(0, mostShown)).join(QStringLiteral(", "))));
         if (!layout.tornWords.isEmpty())
             lines.append(
-                tr("Wider than a page, will be broken: %1")
-                    .arg(QStringList(layout.tornWords.mid(0, mostTold)).join(QLatin1String(", "))));
+                tr("Wider than a page, will be split: %1")
+                    .arg(
+                        QStringList(layout.tornWords.mid(0, mostShown)).join(QLatin1String(", "))));
         if (layout.cutAbove > 0 || layout.cutBelow > 0)
-            lines.append(tr("Letters are cut: %1 px above, %2 px below.")
+            lines.append(tr("Letters are cut off: %1 px at the top, %2 px at the bottom.")
                              .arg(layout.cutAbove)
                              .arg(layout.cutBelow));
     }
     const QVector<StyleRun>& runs = text.source.text.runs;
     for (const StyleRun& run : runs) {
         if (run.color != runs.first().color) {
-            lines.append(tr("The sign paints every character in the color of the first."));
+            lines.append(tr("The sign uses the first character's color for the whole text."));
             break;
         }
     }

@@ -1,6 +1,6 @@
 /**
  * @file
- * Where a text is written and styled.
+ * The panel for writing and styling a text.
  */
 #ifndef ANIMTEXT_TEXTPANEL_H
 #define ANIMTEXT_TEXTPANEL_H
@@ -24,15 +24,15 @@ class TextPanel : public QWidget
 public:
     explicit TextPanel(QWidget* parent = nullptr);
 
-    /** Shows @p text; what is being typed stays as long as it is the same. Null for none. */
+    /** Shows @p text or, if null, nothing. Keeps the cursor while the text is the same. */
     void Show(const SignText* text);
-    /** Takes the keyboard, with all of the text selected. */
+    /** Takes the focus and selects the whole text. */
     void BeginTyping();
 
     TextEditor* Editor() const { return editor; }
 
 signals:
-    /** @param gesture the same number for what is typed in one go */
+    /** @param gesture identifies changes that are one undo step */
     void Edited(const AnimText::StyledText& text, int gesture);
 
 protected:
@@ -56,15 +56,15 @@ private:
     QToolButton* underline;
     QToolButton* color;
     QLabel* notes;
-    QPushButton* otherFont; // for letters without outlines
+    QPushButton* otherFont; // replaces fonts that lack letters
     QVector<UnseenCharacter> unseen;
     QTimer pause;
     int shownId = 0;
     StyledText shown;
     StyleRun base;
     int gesture = 0;
-    int styling = -1;     // the drag that changes a style; negative for none
-    bool filling = false; // the fields change because the cursor did
+    int styling = -1;     // gesture of a style's drag; negative for none
+    bool filling = false; // the fields are following the cursor
 };
 
 } // namespace AnimText

@@ -7,7 +7,7 @@
 namespace AnimText {
 namespace {
 
-constexpr int fastest = 8; // ticks to a step
+constexpr int fastest = 8; // ticks per step
 
 } // namespace
 
@@ -28,7 +28,7 @@ void Playback::SetLength(int ticks)
         ClearLoop();
     loopEnd = std::min(loopEnd, length - 1);
     emit RangeChanged();
-    Seek(tick); // it may be beyond the end now
+    Seek(tick); // the current tick may be beyond the end now
 }
 
 void Playback::Seek(int wanted)

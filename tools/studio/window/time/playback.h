@@ -1,6 +1,6 @@
 /**
  * @file
- * Where in time one is: the tick that is looked at, and how it moves on.
+ * The current tick and how it advances.
  */
 #ifndef ANIMTEXT_PLAYBACK_H
 #define ANIMTEXT_PLAYBACK_H
@@ -20,29 +20,29 @@ public:
     explicit Playback(QObject* parent = nullptr);
 
     int Tick() const { return tick; }
-    /** Ticks to a step: negative backwards, 0 while it stands. */
+    /** Ticks per step; negative plays backward, 0 is stopped. */
     int Pace() const { return pace; }
     bool IsPlaying() const { return pace != 0; }
     int Length() const { return length; }
-    /** The ticks that are played over and over; all of them unless a range was set. */
+    /** First and last tick of the loop; all ticks unless a range is set. */
     int LoopBegin() const { return hasLoop ? loopBegin : 0; }
     int LoopEnd() const { return hasLoop ? loopEnd : length - 1; }
     bool HasLoop() const { return hasLoop; }
 
-    /** Ticks that there are, 1 at least. */
+    /** Sets the number of ticks, at least 1. */
     void SetLength(int ticks);
-    /** Goes to that tick, or the nearest that there is. */
+    /** Goes to @p tick or the nearest one that exists. */
     void Seek(int tick);
     void SetPace(int ticks);
-    /** Plays, or stands still. */
+    /** Starts or stops playing. */
     void Toggle();
-    /** Faster in that direction, 1 or -1; from standing or the other direction at one tick a step.
+    /** Plays in @p direction, 1 or -1, at one tick per step; if it already does, twice as fast.
      */
     void Shuttle(int direction);
     void SetLoop(int begin, int end);
     void ClearLoop();
 
-    /** Asked before a step whether its picture is there; playing waits until it is. */
+    /** Returns whether the picture of @p tick is ready; playing waits for it. */
     std::function<bool(int tick)> isReady;
 
 signals:

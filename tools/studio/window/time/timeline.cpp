@@ -16,20 +16,20 @@
 namespace AnimText {
 namespace {
 
-constexpr int rulerHeight = 24; // points, as all here
+constexpr int rulerHeight = 24; // logical pixels, as all sizes here
 constexpr int rowHeight = 24;
 constexpr int titleWidth = 128;
 constexpr int rightMargin = 16;
 constexpr int inset = 4;
 constexpr double largestZoom = 64;
-constexpr int ticksUnmeasured = 60; // that there is room for while nothing is known
+constexpr int ticksUnmeasured = 60; // shown while the timing is unknown
 
 double TicksOf(qint64 milliseconds)
 {
     return double(milliseconds) / tickLength;
 }
 
-/** Seconds between the numbers of the ruler so that they stand apart. */
+/** Seconds between the ruler's numbers, so that they do not overlap. */
 double RulerStep(double pointsPerSecond)
 {
     for (double step : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 30.0, 60.0, 120.0, 300.0}) {
@@ -94,7 +94,7 @@ int Timeline::Ticks() const
     return std::max({least, timing.Ticks(), playback->Length()});
 }
 
-/** Points for the times, as far as they are seen. */
+/** Width of the visible part of the times, in logical pixels. */
 double Timeline::Room() const
 {
     return std::max(1, viewport()->width() - titleWidth - rightMargin);
@@ -162,7 +162,7 @@ QPair<int, int> Timeline::PageAt(int tick) const
     QVector<TextTime> texts = timing.texts;
     const int row = ids.indexOf(selected);
     if (row > 0 && row < texts.size())
-        texts.move(row, 0); // several texts show pages at once: the selected one decides
+        texts.move(row, 0); // of texts that play at the same time, the selected one counts
     for (const TextTime& text : texts) {
         const int from = int(TicksOf(text.from));
         for (const PageTime& page : text.pages) {
@@ -217,7 +217,7 @@ void Timeline::paintEvent(QPaintEvent*)
 
     const double x = std::round(XOf(playback->Tick() + 0.5));
     painter.setClipRect(titleWidth - 2 * inset, 0, viewport()->width(), viewport()->height());
-    const QColor accent = palette().color(QPalette::Text); // on every bar
+    const QColor accent = palette().color(QPalette::Text); // visible on every bar
     painter.setPen(QPen(accent, 1));
     painter.drawLine(QPointF(x, 0), QPointF(x, viewport()->height()));
     painter.setRenderHint(QPainter::Antialiasing);
@@ -264,11 +264,11 @@ void Timeline::PaintRuler(QPainter* painter) const
                       tr("Seconds"));
 }
 
-/** What the colors mean, below the rows. */
+/** Explains the colors below the rows. */
 void Timeline::PaintLegend(QPainter* painter) const
 {
     const QPair<Phase, QString> entries[]{
-        {Entrance, tr("enters")}, {Hold, tr("holds")}, {Cut, tr("cut off")}};
+        {Entrance, tr("entrance")}, {Hold, tr("pause")}, {Cut, tr("cut off")}};
     painter->setFont(TabularFont(font(), -1));
     const QFontMetrics metrics = painter->fontMetrics();
     const int middle = viewport()->height() - rowHeight / 2;
@@ -288,7 +288,7 @@ void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
     const QColor base = palette().color(QPalette::Base);
     const QColor accent = palette().color(QPalette::Highlight);
     const double strength = stale ? 0.6 : 0;
-    const double holdShare = base.lightness() < 128 ? 0.45 : 0.65; // seen on dark, too
+    const double holdShare = base.lightness() < 128 ? 0.45 : 0.65; // must be visible on dark, too
     if (phase == Cut) {
         painter->fillRect(rect, Mixed(base, QColor(0, 0, 0, 0), 0.4));
         painter->fillRect(rect, QBrush(Warning(palette()), Qt::BDiagPattern));
@@ -326,7 +326,7 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
         Fill(painter, QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()), phase);
     };
     const double from = TicksOf(text.from);
-    // Very long times are told wrapped round.
+    // The host's very long times overflow to negative ones.
     const double told =
         text.until >= 0 ? TicksOf(text.until) : from + TicksOf(std::max<qint64>(0, text.told));
     if (text.pages.isEmpty()) {
@@ -342,7 +342,7 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
             block(from + page.hold, from + page.end, Hold);
         if (i < perRun)
             continue;
-        // A repeat is lower than what is seen first, and numbered where it begins.
+        // Repeats are drawn flatter than the first play, with their number.
         const QRectF covered(XOf(from + page.begin), bar.top(),
                              XOf(from + page.end) - XOf(from + page.begin), 5);
         painter->fillRect(covered, isSelected ? Mixed(accent, base, 0.88) : base);
@@ -355,9 +355,9 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
                 Qt::AlignVCenter, number);
         }
     }
-    // What the host cuts off, for it was told another time.
+    // The host stops the text after its planned time and cuts off the rest.
     const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
-    if (text.ending != Ending::NothingToPlay && real > told + 1.99) { // a tick is not missed
+    if (text.ending != Ending::NothingToPlay && real > told + 1.99) { // nobody misses a single tick
         Fill(painter, QRectF(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height()), Cut);
     }
     if (text.ending != Ending::NothingToPlay) {
@@ -368,7 +368,7 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
     painter->restore();
 }
 
-/** Which of its pages is the first of the second run; behind all of them for none. */
+/** Index of the first page of the second play; the number of pages if there is none. */
 int Timeline::FirstRepeat(int row) const
 {
     const int pages = timing.texts.at(row).pages.size();
@@ -380,7 +380,7 @@ QString Timeline::Describe(const QPoint& point) const
 {
     const int row = (point.y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
     if (point.y() < rulerHeight || row >= timing.texts.size())
-        return tr("Click or drag to go to a moment; Shift+drag loops a range; Ctrl+wheel zooms.");
+        return tr("Click or drag: go to that time. Shift+drag: loop a range. Ctrl+wheel: zoom.");
     const TextTime& text = timing.texts.at(row);
     const int at = TickAt(point.x());
     const double tick = at - TicksOf(text.from);
@@ -395,7 +395,7 @@ QString Timeline::Describe(const QPoint& point) const
             continue;
         const bool holds = tick >= page.hold;
         what += QLatin1Char('\n') +
-                (holds ? tr("Page %1 holds for %2") : tr("Page %1 enters for %2"))
+                (holds ? tr("Page %1: pause, %2") : tr("Page %1: entrance, %2"))
                     .arg((number - 1) % FirstRepeat(row) + 1)
                     .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
                                      qint64(tickLength)));
@@ -436,7 +436,7 @@ void Timeline::mousePressEvent(QMouseEvent* event)
         return;
     marking = event->modifiers() & Qt::ShiftModifier;
     markFrom = TickAt(event->pos().x());
-    playback->SetPace(0); // what is looked at stays
+    playback->SetPace(0); // stay at the clicked tick
     if (!marking)
         playback->Seek(markFrom);
 }

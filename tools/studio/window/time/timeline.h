@@ -1,6 +1,6 @@
 /**
  * @file
- * The sign's time as a drawing: a row a text, with its pages, its ends, and where one is.
+ * The timeline: a row per text with its pages and its end, and the current tick.
  */
 #ifndef ANIMTEXT_TIMELINE_H
 #define ANIMTEXT_TIMELINE_H
@@ -21,34 +21,35 @@ public:
     Timeline(Playback* playback, QWidget* parent = nullptr);
 
     /**
-     * @param ids of the texts, which have the rows of @p timing in this order
-     * @param plays how often each plays; runs after the first are shown as repeats
+     * @param ids ids of the texts in the order of @p timing
+     * @param plays number of plays of each text; those after the first are drawn as repeats
      */
     void SetTiming(const Timing& timing, const QVector<int>& ids, const QStringList& titles,
                    const QVector<int>& plays);
-    /** Times longer than all of it would be in the width, 1 .. 64; the tick at @p x stays there. */
+    /** Zooms in by @p zoom, 1 to 64, relative to the whole time; the tick at @p x stays in place.
+     */
     void SetZoom(double zoom, double x);
     double Zoom() const { return zoom; }
-    /** Whether the timing is that of an earlier state. */
+    /** Marks the timing as that of an earlier state. */
     void SetStale(bool stale);
     void SetSelected(int id);
 
-    /** The first tick of the page after @p tick, or before it. */
+    /** The next mark after @p tick, or the previous one: where a page begins or is complete. */
     int NextMark(int tick) const;
     int PreviousMark(int tick) const;
-    /** First and last tick of the page at @p tick, with its hold; all of it where there is none. */
+    /** First and last tick of the page at @p tick, with its pause; all ticks if there is none. */
     QPair<int, int> PageAt(int tick) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /** From a tick to a place in the viewport and back. */
+    /** Converts ticks to x coordinates of the viewport and back. */
     double XOf(double tick) const;
     int TickAt(double x) const;
 
 signals:
     void Selected(int id);
-    /** A click with the right button; the text of its row is selected. */
+    /** The context menu was requested; the text of its row is selected. */
     void MenuWanted(const QPoint& global);
 
 protected:
@@ -82,7 +83,7 @@ private:
     double zoom = 1;
     int selected = 0;
     bool stale = false;
-    bool marking = false; // a range is being drawn
+    bool marking = false; // a range is being selected
     int markFrom = 0;
 };
 

@@ -10,9 +10,10 @@
 namespace AnimText {
 namespace {
 
-constexpr int narrowWidth = 520; // points; below it there is no room for ticks and spare buttons
+constexpr int narrowWidth = 520; // logical pixels; below it, ticks and spare buttons are hidden
 
-/** Words that ask for no room: where it is short, what stands behind the last "·" is all. */
+/** A label without a minimum width; if it is too narrow, it shows only the part after the last "·".
+ */
 class ShortLabel : public QLabel
 {
 public:
@@ -44,15 +45,17 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     , ends(new ShortLabel(this))
     , what(new QComboBox(this))
 {
-    auto* toStart = Button(QStringLiteral("media-skip-backward"), tr("To the start"), tr("Home"));
+    auto* toStart = Button(QStringLiteral("media-skip-backward"), tr("Go to start"), tr("Home"));
     auto* back = Button(QStringLiteral("step-back"), tr("One tick back"), QStringLiteral("←"));
     play = Button(QStringLiteral("media-playback-start"), tr("Play"), tr("Space"));
-    auto* forward = Button(QStringLiteral("step-forward"), tr("One tick on"), QStringLiteral("→"));
-    auto* toEnd = Button(QStringLiteral("media-skip-forward"), tr("To the end"), tr("End"));
-    loop = Button(QStringLiteral("media-playlist-repeat"),
-                  tr("Loop the page; Shift+drag over the timeline loops a range"), tr("R"));
+    auto* forward =
+        Button(QStringLiteral("step-forward"), tr("One tick forward"), QStringLiteral("→"));
+    auto* toEnd = Button(QStringLiteral("media-skip-forward"), tr("Go to end"), tr("End"));
+    loop = Button(QStringLiteral("media-playlist-repeat"), tr("Loop the page"), tr("R"));
+    loop->setToolTip(loop->toolTip() + QLatin1Char('\n') +
+                     tr("Shift+drag on the timeline loops a range"));
     loop->setCheckable(true);
-    spare = {toStart, toEnd}; // Home and End do the same
+    spare = {toStart, toEnd}; // the Home and End keys do the same
     connect(toStart, &QToolButton::clicked, this, [=] { playback->Seek(0); });
     connect(back, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() - 1); });
     connect(play, &QToolButton::clicked, playback, &Playback::Toggle);
@@ -61,9 +64,9 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     connect(loop, &QToolButton::clicked, this, &TransportBar::LoopToggled);
 
     what->addItems({tr("This page"), tr("All pages")});
-    what->setAccessibleName(tr("What is played"));
-    what->setToolTip(tr("This page: all its texts, for as long as they need.\n"
-                        "All pages: in turn, each for its planned time, as the host plays them."));
+    what->setAccessibleName(tr("What to play"));
+    what->setToolTip(tr("This page: until all its texts have ended.\nAll pages: one after another, "
+                        "each for its planned time, as on the host."));
     connect(what, qOverload<int>(&QComboBox::activated), this,
             [this](int index) { emit ScheduleChanged(index == 1); });
 
@@ -154,10 +157,9 @@ TextTime SideBySide(const QVector<TextTime>& texts)
 QString EndsInWords(const TextTime& text)
 {
     switch (text.ending) {
-    case Ending::NothingToPlay: return TransportBar::tr("nothing to play");
+    case Ending::NothingToPlay: return TransportBar::tr("this text is empty");
     case Ending::TooLong:
-        return TransportBar::tr("planned %1 · needs longer than can be shown")
-            .arg(SecondsText(text.told));
+        return TransportBar::tr("planned %1 · too long to measure").arg(SecondsText(text.told));
     default: break;
     }
     QString words = TransportBar::tr("planned %1 · needs %2")
@@ -165,10 +167,10 @@ QString EndsInWords(const TextTime& text)
     const qint64 difference = text.real - text.told;
     if (const int lost = LostPages(text))
         words += TransportBar::tr(" · %n page(s) lost", nullptr, lost);
-    else if (difference >= 2 * tickLength) // a tick is not missed
+    else if (difference >= 2 * tickLength) // nobody misses a single tick
         words += TransportBar::tr(" · %1 lost").arg(SecondsText(difference));
     else if (difference <= -2 * tickLength)
-        words += TransportBar::tr(" · %1 longer on the sign").arg(SecondsText(-difference));
+        words += TransportBar::tr(" · stays %1 longer").arg(SecondsText(-difference));
     return words;
 }
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * The keys of a player, the time, and the ends that are told and that are real.
+ * The playback buttons, the current time, and the planned and actual times.
  */
 #ifndef ANIMTEXT_TRANSPORTBAR_H
 #define ANIMTEXT_TRANSPORTBAR_H
@@ -22,9 +22,9 @@ class TransportBar : public QWidget
 public:
     explicit TransportBar(Playback* playback, QWidget* parent = nullptr);
 
-    /** @param what times as EndsInWords() has them; @param all those of text, page and program */
+    /** Shows the times of @p text; @p all, with those of page and all pages, is the tooltip. */
     void ShowEnds(const TextTime* text, const QString& all);
-    /** Whether all is played as the host does, page by page; else the page that is looked at. */
+    /** Whether all pages play as on the host; otherwise only the current page plays. */
     bool IsSchedule() const { return what->currentIndex() == 1; }
     void SetSchedule(bool schedule);
     QString EndsText() const { return ends->text(); }
@@ -42,7 +42,7 @@ private:
     void ShowPace();
 
     Playback* playback;
-    QList<QToolButton*> spare; // hidden where there is no room for them
+    QList<QToolButton*> spare; // hidden in a narrow window
     QToolButton* play;
     QToolButton* loop;
     QLabel* time;
@@ -50,13 +50,13 @@ private:
     QComboBox* what;
 };
 
-/** "planned 12.5 s · needs 12.9 s · 0.4 s lost", or what there is to say. */
+/** The planned and actual time, as in "planned 12.5 s · needs 12.9 s · 0.4 s lost". */
 QString EndsInWords(const TextTime& text);
 
-/** How many pages would begin after the host has stopped the text. */
+/** Number of pages that would begin after the host has stopped the text. */
 int LostPages(const TextTime& text);
 
-/** Texts that play side by side, as one: what is planned and needed for all of them. */
+/** The planned and actual time of texts that play at the same time, together. */
 TextTime SideBySide(const QVector<TextTime>& texts);
 
 } // namespace AnimText
