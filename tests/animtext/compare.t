@@ -110,6 +110,24 @@ Other calls:
   $ animtext compare a trace --tolerance 10s
   a and trace agree: 65 calls, 61 pictures
 
+Another background:
+
+  $ fresh_sign
+  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  $ animtext author --text ab --area 64x32 --dazzle linear --effect 7 --speed 9 -o s.json >/dev/null
+  $ other() { sed '/"tick":19/s/"background":"./"background":"-/' $1; }
+  $ animtext trace s.json -n 30 --calls >trace; animtext compare trace s.json
+  trace and the desk agree: 38 calls, 31 pictures
+  $ other trace >a; animtext compare a s.json; animtext compare trace a
+  a and the desk part: session 1, call 27, at tick 19 (1.25 s), line 46 of a: the background is another at the end of this tick
+  trace and a part: session 1, call 27, at tick 19 (1.25 s), line 46 of trace, line 46 of a: the background is another at the end of this tick
+  [1]
+  $ animtext trace s.json -n 30 >pictures; animtext compare pictures pictures
+  pictures and pictures agree: 0 calls, 31 pictures
+  $ other pictures >a; animtext compare pictures a
+  pictures and a part: session 1, call 20, at tick 19 (1.25 s), line 20 of pictures, line 20 of a: the background is another at the end of this tick
+  [1]
+
 What is no recording:
 
   $ fresh_sign

@@ -65,10 +65,17 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
             reader.Read().sessions.value(wanted.session).size() == wanted.call + 1)
             *picture = shown;
     });
+    const auto takeBackgrounds = [&] {
+        for (int node = 0; node < player->NodeCount(); ++node)
+            reader.TakeBackground(node + 1, qint64(tick) * tickLength,
+                                  QString::fromLatin1(Sha1Of(player->DazzlePicture(node))));
+    };
     player->Start(seed);
+    takeBackgrounds();
     while (!IsAsLong(reader.Read(), *recorded) && tick - lastCall < longestSilence) {
         tick = player->Tick() + 1;
         player->Advance();
+        takeBackgrounds();
         if (!goOn()) {
             *error = QStringLiteral("interrupted");
             return false;

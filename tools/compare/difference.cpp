@@ -122,6 +122,10 @@ private:
         } else if (!callA.sha1.isEmpty() && !callB.sha1.isEmpty() && callA.sha1 != callB.sha1) {
             parting->kind = Parting::Kind::Picture;
             parting->words = QStringLiteral("%1 hands over another picture").arg(callA.name);
+        } else if (!callA.background.isEmpty() && !callB.background.isEmpty() &&
+                   callA.background != callB.background) {
+            parting->kind = Parting::Kind::Background;
+            parting->words = QStringLiteral("the background is another at the end of this tick");
         } else if (tolerance >= 0 && callA.ms >= 0 && callB.ms >= 0) {
             const qint64 late = (callA.ms - callsA.first().ms) - (callB.ms - callsB.first().ms);
             if (std::abs(late) <= tolerance)

@@ -11,7 +11,7 @@ namespace AnimText {
 
 struct Parting
 {
-    enum class Kind { None, Call, Order, Argument, Picture, Time, End };
+    enum class Kind { None, Call, Order, Argument, Picture, Background, Time, End };
 
     Kind kind = Kind::None;
     int session = 0; ///< 0: a call that concerns no session

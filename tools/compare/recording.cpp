@@ -87,13 +87,17 @@ void RecordingReader::TakeTick(const QJsonObject& line, int number)
     const QString sha1 = line.value(QStringLiteral("sha1")).toString();
     const bool isNew = line.value(QStringLiteral("swap")).toBool();
     const int index = line.value(QStringLiteral("node")).toInt() + 1;
+    const QString background = line.value(QStringLiteral("background")).toString();
     if (!recording.hasCalls) {
         RecordedCall picture;
         picture.line = number;
         picture.ms = ms;
         picture.name = QStringLiteral("picture");
-        picture.sha1 = sha1;
-        if (isNew || Session(index).isEmpty())
+        picture.background = background;
+        const bool isFirst = Session(index).isEmpty();
+        if (isNew || isFirst)
+            picture.sha1 = sha1;
+        if (isNew || isFirst || Session(index).last().background != background)
             Session(index).append(picture);
         return;
     }
@@ -110,6 +114,14 @@ void RecordingReader::TakeTick(const QJsonObject& line, int number)
             break;
         }
     }
+    TakeBackground(index, ms, background);
+}
+
+void RecordingReader::TakeBackground(int index, qint64 ms, const QString& sha1)
+{
+    QVector<RecordedCall>& session = Session(index);
+    if (!session.isEmpty() && session.last().ms == ms)
+        session.last().background = sha1;
 }
 
 void DropStop(Recording* recording)

@@ -18,12 +18,13 @@ namespace AnimText {
 /** One call, or, in a trace without calls, one picture. */
 struct RecordedCall
 {
-    int line = 0;     ///< of the file; 0 when it was recorded just now
-    qint64 ms = -1;   ///< when; -1 unknown
-    QString name;     ///< of the function; "picture" for a picture alone
-    QJsonObject told; ///< arguments and result, without the handles, which no two runs share
-    QString sha1;     ///< of the picture that was handed over; empty unknown
-    int pixels = -1;  ///< the number of the file that has its pixels; -1 none
+    int line = 0;       ///< of the file; 0 when it was recorded just now
+    qint64 ms = -1;     ///< when; -1 unknown
+    QString name;       ///< of the function; "picture" for a picture alone
+    QJsonObject told;   ///< arguments and result, without the handles, which no two runs share
+    QString sha1;       ///< of the picture that was handed over; empty unknown
+    QString background; ///< of the dazzle background after this tick, told at its last call
+    int pixels = -1;    ///< the number of the file that has its pixels; -1 none
 };
 
 /** The calls by session, in the order of their creation; first those that concern no session. */
@@ -46,6 +47,9 @@ public:
     bool Take(const QByteArray& line, int number);
     /** The same for a call with what its line does not tell. */
     void TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1);
+
+    /** The background's SHA-1 at the end of the tick at @p ms; empty without one. */
+    void TakeBackground(int session, qint64 ms, const QString& sha1);
 
     const Recording& Read() const { return recording; }
 
