@@ -446,8 +446,7 @@ void CutSubpath(Outline subpath, const Rectangle& to, Outline& result)
         subpath = top.Cut(subpath);
     if (bounds.Bottom() > bottom.border)
         subpath = bottom.Cut(subpath);
-    if (subpath.Size() > 1)
-        result.Append(subpath);
+    result.Append(subpath); // unless nothing is left of it
 }
 
 Outline CutTo(const Outline& path, const Rectangle& to)
