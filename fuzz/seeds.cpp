@@ -102,8 +102,7 @@ int main(int argc, char** argv)
         options.font = QFont(QStringLiteral("DejaVu Sans"));
         options.font.setPixelSize(sample.pixels);
         options.font.setUnderline(sample.fancy);
-        options.mode = sample.scrolls ? Mode::Scroll : Mode::Entrance;
-        options.motion = sample.motion;
+        options.motion = {sample.scrolls ? Mode::Scroll : Mode::Entrance, sample.motion};
         AuthoredNode authored;
         QString error;
         if (!AuthorNode(options, &authored, &error)) {

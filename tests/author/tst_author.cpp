@@ -44,7 +44,7 @@ ShapedLine Shape(const QString& text, int pixels)
 }
 
 PlacedText Placed(const QString& text, const ShapedLine& line, Arrangement arrangement,
-                 int width = 0)
+                  int width = 0)
 {
     Setting setting;
     setting.arrangement = arrangement;
@@ -135,8 +135,7 @@ Authored Author(const Wish& wish)
     AuthorOptions options;
     options.text = wish.text;
     options.font = wish.font;
-    options.mode = wish.motion == 30 ? Mode::Scroll : Mode::Entrance;
-    options.motion = wish.motion % 30;
+    options.motion = {wish.motion == 30 ? Mode::Scroll : Mode::Entrance, wish.motion % 30};
     options.area = area;
     options.align = wish.align;
     options.valign = wish.valign;

@@ -103,7 +103,7 @@ private slots:
             QVERIFY2(line.contains(Sha1(picture)), line);
             const QImage display = shown->last().first().value<QImage>();
             QCOMPARE(window->GrabPicture(), OverBlack(display));
-            if (!player->Scenery().ScrollsSideways(0))
+            if (!player->Scenery().Motion(0).IsSideways())
                 QCOMPARE(display, player->Scenery().Compose(0));
         } while (player->Time() < 8 * 66);
     }

@@ -70,9 +70,8 @@ private:
         text.source.text.text = words;
         text.source.text.runs.first().font.setPixelSize(24);
         text.node.hold = hold;
-        text.node.attributes["EffectType"] = scroll ? 1 : 0;
-        text.node.attributes[scroll ? "ContinueStyle" : "AnimationEffect"] = motion;
-        text.node.attributes[scroll ? "ContinueSpeed" : "AnimationSpeed"] = 7;
+        SetMotion(&text.node, {scroll ? Mode::Scroll : Mode::Entrance, motion});
+        text.node.attributes[MotionOf(text.node).SpeedKey()] = 7;
         text.layoutKey = LayoutKey(text);
         text.layout = MakeLayout(text);
         AddText(&sign, text);

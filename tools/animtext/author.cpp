@@ -88,8 +88,6 @@ QByteArray Summary(const QString& path, const AuthorOptions& options, const Auth
 {
     const SceneNode& node = authored.node;
     const QHash<QString, QString> style = node.lists.value(QStringLiteral("TextAttribute")).first();
-    const bool scrolls = options.mode == Mode::Scroll;
-    const Motion& motion = (scrolls ? Scrolls() : Effects()).at(options.motion);
     const QString pages = authored.pages == 1 ? QStringLiteral("one page")
                                               : QStringLiteral("%1 pages").arg(authored.pages);
     const auto number = [](int value) { return QString::number(value); };
@@ -99,9 +97,9 @@ QByteArray Summary(const QString& path, const AuthorOptions& options, const Auth
              count == 1 ? QStringLiteral("one character")
                         : QStringLiteral("%1 characters").arg(count),
              style.value(QStringLiteral("fontName")), number(authored.textSize.width()),
-             number(authored.textSize.height()), QLatin1String(motion.name),
-             scrolls ? QStringLiteral("an area") : pages, number(node.size.width()),
-             number(node.size.height()))
+             number(authored.textSize.height()), QLatin1String(options.motion.Row()->name),
+             options.motion.IsScroll() ? QStringLiteral("an area") : pages,
+             number(node.size.width()), number(node.size.height()))
         .toUtf8();
 }
 

@@ -30,8 +30,8 @@ QVector<Scene> SoakMix(const QDir& folder, const std::function<bool()>& goOn, QS
         options.text = QString::fromLatin1(texts[i % 3]);
         options.font = QFont(QStringLiteral("DejaVu Sans"));
         options.area = area;
-        options.mode = i % motions.size() < Effects().size() ? Mode::Entrance : Mode::Scroll;
-        options.motion = motions.at(i % motions.size()).number;
+        options.motion = {i % motions.size() < Effects().size() ? Mode::Entrance : Mode::Scroll,
+                          motions.at(i % motions.size()).number};
         options.speed = i % 10;
         options.hold = i % 4 * 10;
         options.plays = 1 + i % 3;

@@ -27,10 +27,8 @@ Setting SettingFor(const AuthorOptions& options)
     setting.valign = options.valign;
     setting.padding = options.padding;
     setting.keepsWords = options.keepsWords;
-    const NodeMotion asked{options.mode, options.motion};
-    const Motion* motion = asked.Row();
-    const MotionTraits traits = motion ? motion->traits : MotionTraits();
-    if (asked.IsScroll())
+    const MotionTraits traits = options.motion.Traits();
+    if (options.motion.IsScroll())
         setting.arrangement = traits & Sideways ? Arrangement::Line : Arrangement::Column;
     else
         setting.arrangement = traits & FromEnd ? Arrangement::PagesFromEnd : Arrangement::Pages;
@@ -133,12 +131,11 @@ QList<QHash<QString, QString>> StyleRows(const StyledText& text, const QVector<i
 
 QMap<QString, QVariant> Attributes(const AuthorOptions& options)
 {
-    const NodeMotion motion{options.mode, options.motion};
     SceneNode node;
-    SetMotion(&node, motion);
+    SetMotion(&node, options.motion);
     QMap<QString, QVariant> attributes = node.attributes;
     attributes[QStringLiteral("PlayTimes")] = options.plays;
-    attributes[motion.SpeedKey()] = options.speed;
+    attributes[options.motion.SpeedKey()] = options.speed;
     if (options.hollow)
         attributes[QStringLiteral("Hollow")] = 1;
     if (options.neon >= 0)
@@ -247,7 +244,7 @@ bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* e
     for (const Cluster& cluster : line.clusters)
         advance += cluster.advance;
     authored->textSize = QSize(qRound(advance), line.ascent + line.descent);
-    if (options.mode == Mode::Entrance)
+    if (!options.motion.IsScroll())
         authored->pages = PageStartsForward(placed.widths, setting.area.width()).size() - 1;
     if (setting.arrangement != Arrangement::Column)
         MeasureCut(placed, setting.area.height(), authored);

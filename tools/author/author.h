@@ -40,10 +40,9 @@ struct AuthorOptions
     VAlign valign = VAlign::Middle;
     int padding = 0;        ///< pixels that stay free at each side of the area
     bool keepsWords = true; ///< pages end where words end
-    Mode mode = Mode::Entrance;
-    int motion = 4; ///< number of the entrance effect, or of the scroll
-    int speed = 5;  ///< 0 slowest .. 9 fastest
-    int hold = 20;  ///< how long a page stands, units of 100 ms
+    NodeMotion motion{Mode::Entrance, 4};
+    int speed = 5; ///< 0 slowest .. 9 fastest
+    int hold = 20; ///< how long a page stands, units of 100 ms
     int plays = 1;
     QPoint pos; ///< of the area on the display, pixels
     QSize area; ///< pixels; empty for one that suits the text

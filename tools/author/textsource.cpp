@@ -115,8 +115,7 @@ AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings)
     options.padding = source.padding;
     options.keepsWords = source.keepsWords;
     const NodeMotion motion = MotionOf(settings);
-    options.mode = motion.IsScroll() ? Mode::Scroll : Mode::Entrance;
-    options.motion = motion.number;
+    options.motion = {motion.IsScroll() ? Mode::Scroll : Mode::Entrance, motion.number};
     options.area = settings.size;
     return options;
 }

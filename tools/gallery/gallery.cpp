@@ -207,8 +207,7 @@ private:
     GalleryEntry WriteMotion(Mode mode, const Motion& motion)
     {
         AuthorOptions text = options.text;
-        text.mode = mode;
-        text.motion = motion.number;
+        text.motion = {mode, motion.number};
         GalleryEntry entry;
         entry.motion = &motion;
         const char* const directions[] = {"left", "right", "up", "down"};

@@ -35,7 +35,7 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     player->Start(seed);
     Show(player->Picture(), sheets, play);
 
-    const bool isDevices = player->Scenery().ScrollsSideways(0);
+    const bool isDevices = player->Scenery().Motion(0).IsSideways();
     const qint64 pass = isDevices ? ScrollPass(player->Scenery(), 0) : 0;
     const int longest = isDevices ? int(pass / tickLength) : LongestPlay(scene);
     while (player->Tick() < longest && (isDevices || player->State(0) == 1)) {

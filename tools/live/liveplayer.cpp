@@ -100,7 +100,7 @@ void LivePlayer::Run()
 {
     ticks.start(tickLength);
     for (int node = 0; node < parts.size(); ++node) {
-        if (stage->ScrollsSideways(node))
+        if (stage->Motion(node).IsSideways())
             moves.start(smoothly);
     }
     if (scheduled)
@@ -118,7 +118,7 @@ void LivePlayer::Move()
 {
     bool moving = false;
     for (int node = 0; node < parts.size(); ++node)
-        moving = moving || (stage->Session(node) && stage->ScrollsSideways(node));
+        moving = moving || (stage->Session(node) && stage->Motion(node).IsSideways());
     const QImage picture = moving ? stage->Compose(Time()) : shown;
     if (picture != shown)
         emit Shown(shown = picture);

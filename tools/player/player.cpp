@@ -62,7 +62,7 @@ void Player::Begin()
     CountSwaps();
     // A text that the device scrolls comes with its session.
     for (int node = 0; node < NodeCount(); ++node) {
-        if (stage.ScrollsSideways(node) && stage.Session(node))
+        if (stage.Motion(node).IsSideways() && stage.Session(node))
             swapped[node] = true;
     }
 }

@@ -36,9 +36,11 @@ bool Stage::Build(const Scene& scene, QString* error)
     }
     // Renderers ask for the format when they are made.
     Lw::HPluginManager::instance()->SetAlphaBlend(scene.alphaBlend);
-    for (Lw::HNeonNodeBase* node : built.nodes) {
+    const QList<const SceneNode*> nodes = scene.Nodes();
+    for (int node = 0; node < nodes.size(); ++node) {
         Part part;
-        part.render.reset(plugin->CreateAreaRender(node));
+        part.motion = MotionOf(*nodes.at(node));
+        part.render.reset(plugin->CreateAreaRender(built.nodes.at(node)));
         if (!part.render) {
             parts.clear();
             *error = scene.path + QStringLiteral(": the plugin makes no renderer for its nodes");
@@ -79,13 +81,6 @@ void Stage::StartNode(int node, uint seed)
         calls.clear();
 }
 
-bool Stage::ScrollsSideways(int node) const
-{
-    const int style = Node(node)->GetAttributeToInt(QStringLiteral("ContinueStyle"));
-    return Node(node)->GetAttributeToInt(QStringLiteral("EffectType")) == 1 &&
-           (style == 0 || style == 1);
-}
-
 /**
  * The text has layer 0. Where it stands still and a neon picture is behind it, neon takes layer 0
  * and the text the one that is appended first; if that failed, the text is shown nowhere. The
@@ -105,7 +100,7 @@ void Stage::FindLayers(int node, const QVector<Torv::CallRecord>& startCalls)
     part.textLayer = part.dazzleLayer = -1;
     if (!part.session)
         return;
-    part.textLayer = neon && !ScrollsSideways(node) ? appended.value(0, -1) : 0;
+    part.textLayer = neon && !part.motion.IsSideways() ? appended.value(0, -1) : 0;
     if (isOn("CheckDazzle"))
         part.dazzleLayer = appended.value(neon ? 1 : 0, -1);
 }

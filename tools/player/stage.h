@@ -6,6 +6,7 @@
 #define ANIMTEXT_STAGE_H
 
 #include "player/nodetree.h"
+#include "scene/motion.h"
 #include "scene/scene.h"
 
 #include <display.h>
@@ -48,8 +49,7 @@ public:
     int NodeCount() const { return tree.nodes.size(); }
     Lw::HNeonNodeBase* Node(int node) const { return tree.nodes.at(node); }
     Lw::IContentRender* Render(int node) const { return parts.at(size_t(node)).render.get(); }
-    /** Whether the device moves the node's text by itself. */
-    bool ScrollsSideways(int node) const;
+    NodeMotion Motion(int node) const { return parts.at(size_t(node)).motion; }
 
     /** The session that the node's start has made; 0 without one. */
     PicSession Session(int node) const { return parts.at(size_t(node)).session; }
@@ -74,6 +74,7 @@ private:
     struct Part
     {
         std::unique_ptr<Lw::IContentRender> render;
+        NodeMotion motion;
         PicSession session = 0;
         int textLayer = -1;
         int dazzleLayer = -1;

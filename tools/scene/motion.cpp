@@ -2,12 +2,6 @@
 
 namespace AnimText {
 
-bool NodeMotion::IsSideways() const
-{
-    const Motion* row = Row();
-    return row && row->traits & Sideways;
-}
-
 const Motion* NodeMotion::Row() const
 {
     switch (mode) {
@@ -16,6 +10,12 @@ const Motion* NodeMotion::Row() const
     case Mode::Still: break;
     }
     return nullptr;
+}
+
+MotionTraits NodeMotion::Traits() const
+{
+    const Motion* row = Row();
+    return row ? row->traits : MotionTraits();
 }
 
 QString NodeMotion::NumberKey() const

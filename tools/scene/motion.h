@@ -22,9 +22,11 @@ struct NodeMotion
 
     bool IsScroll() const { return mode == Mode::Scroll; }
     /** The device moves the whole line. */
-    bool IsSideways() const;
+    bool IsSideways() const { return Traits() & Sideways; }
     /** Its row in the catalogue; null for a still text and for unknown numbers. */
     const Motion* Row() const;
+    /** Those of its row; none where there is no row. */
+    MotionTraits Traits() const;
     /** The attribute that has the number: "AnimationEffect" or "ContinueStyle". */
     QString NumberKey() const;
     /** The attribute that has the speed: "AnimationSpeed" or "ContinueSpeed". */

@@ -62,10 +62,9 @@ Ending EndingAtStart(const Stage& stage, int node)
 {
     if (stage.Render(node)->renderState() == 2)
         return Ending::NothingToPlay;
-    if (stage.ScrollsSideways(node))
+    if (stage.Motion(node).IsSideways())
         return Ending::ScrollsOn;
-    const int mode = stage.Node(node)->GetAttributeToInt(QStringLiteral("EffectType"));
-    return mode == 0 || mode == 1 ? Ending::TooLong : Ending::StandsStill;
+    return stage.Motion(node).mode == Mode::Still ? Ending::StandsStill : Ending::TooLong;
 }
 
 BlankScene::BlankScene(const Scene& from)
@@ -124,12 +123,11 @@ QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch&
 
 qint64 ScrollPass(const Stage& stage, int node)
 {
-    Lw::HNeonNodeBase* animated = stage.Node(node);
-    const bool left = animated->GetAttributeToInt(QStringLiteral("ContinueStyle")) == 0;
-    const QSize area = animated->Size();
-    const int speed = animated->GetAttributeToInt(QStringLiteral("ContinueSpeed"));
+    const NodeMotion motion = stage.Motion(node);
+    const QSize area = stage.Node(node)->Size();
+    const int speed = stage.Node(node)->GetAttributeToInt(motion.SpeedKey());
     const qint64 crossing =
-        GeteffectDuration(area.width(), area.height(), left ? 26 : 27, speed - 1);
+        GeteffectDuration(area.width(), area.height(), 26 + motion.number, speed - 1);
     const QImage line = Torv::FrontImage(stage.Session(node), 0);
     if (crossing <= 0 || area.width() <= 0 || line.isNull())
         return 0;

@@ -118,9 +118,9 @@ void NodeCheck::CheckArea()
 }
 
 /** A finding when the attribute is beyond its range. */
-void NodeCheck::CheckRange(Mistake mistake, const char* key)
+void NodeCheck::CheckRange(Mistake mistake, const QString& key)
 {
-    const Attribute& attribute = *FindAttribute(Home::Attributes, QLatin1String(key));
+    const Attribute& attribute = *FindAttribute(Home::Attributes, key);
     if (!IsInRange(attribute, Number(key)))
         AddAttribute(mistake, key, RangeInWords(attribute));
 }
@@ -129,14 +129,12 @@ void NodeCheck::CheckMode()
 {
     if (text.isEmpty())
         AddAttribute(Mistake::TextEmpty, "Text", QStringLiteral("a text"));
-    if (motion.mode == Mode::Entrance) {
-        CheckRange(Mistake::EffectUnknown, "AnimationEffect");
-        CheckRange(Mistake::SpeedRange, "AnimationSpeed");
-    } else if (motion.IsScroll()) {
-        CheckRange(Mistake::DirectionUnknown, "ContinueStyle");
-        CheckRange(Mistake::SpeedRange, "ContinueSpeed");
-    } else {
+    if (motion.mode == Mode::Still) {
         CheckRange(Mistake::ModeUnknown, "EffectType");
+    } else {
+        CheckRange(motion.IsScroll() ? Mistake::DirectionUnknown : Mistake::EffectUnknown,
+                   motion.NumberKey());
+        CheckRange(Mistake::SpeedRange, motion.SpeedKey());
     }
     CheckRange(Mistake::PlaysRange, "PlayTimes");
     if (Number("StrokeColor") >
@@ -366,10 +364,10 @@ void NodeCheck::AddRow(Mistake mistake, const QString& list, int row, const QStr
     Add(mistake, Member(place, field), found, expected);
 }
 
-void NodeCheck::AddAttribute(Mistake mistake, const char* key, const QString& expected)
+void NodeCheck::AddAttribute(Mistake mistake, const QString& key, const QString& expected)
 {
-    const QVariant value = node.attributes.value(QLatin1String(key));
-    Add(mistake, QStringLiteral("attributes.") + QLatin1String(key),
+    const QVariant value = node.attributes.value(key);
+    Add(mistake, Member(QStringLiteral("attributes"), key),
         value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
 }
 

@@ -23,7 +23,7 @@ public:
 
 private:
     void CheckArea();
-    void CheckRange(Mistake mistake, const char* key);
+    void CheckRange(Mistake mistake, const QString& key);
     void CheckMode();
     void CheckFlags();
     void CheckIgnored();
@@ -35,15 +35,15 @@ private:
     void CheckOutlines(const QVector<bool>& isEmpty);
     void CheckCut();
 
-    bool Has(const char* flag) const { return Number(flag) == 1; }
-    int Number(const char* key) const { return node.attributes.value(QLatin1String(key)).toInt(); }
+    bool Has(const QString& flag) const { return Number(flag) == 1; }
+    int Number(const QString& key) const { return node.attributes.value(key).toInt(); }
     QVector<int> Column(const char* list, const char* field) const;
     bool ScrollsSideways() const { return motion.IsSideways(); }
 
     void Add(Mistake mistake, const QString& where, const QString& found, const QString& expected);
     void AddRow(Mistake mistake, const QString& list, int row, const QString& field,
                 const QString& found, const QString& expected);
-    void AddAttribute(Mistake mistake, const char* key, const QString& expected);
+    void AddAttribute(Mistake mistake, const QString& key, const QString& expected);
 
     const Scene& scene;
     const SceneNode& node;

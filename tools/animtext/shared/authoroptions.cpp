@@ -84,7 +84,7 @@ void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList
             base.font.setPixelSize(standardSize);
         if (!ParseMarkup(words, base, &text, notes, &error))
             throw Misuse{error};
-        const bool isColumn = options->mode == Mode::Scroll && options->motion >= 2;
+        const bool isColumn = options->motion.IsScroll() && !options->motion.IsSideways();
         if (!line.IsSet("size") && !text.sized && !isColumn)
             options->fit = Fit::Height;
     } else {
@@ -98,17 +98,16 @@ void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList
 
 void ReadPlacing(const CommandLine& line, AuthorOptions* options)
 {
-    const bool isScroll = options->mode == Mode::Scroll;
     if (line.IsSet("fit")) {
         options->fit = line.Choice("fit") == 0 ? Fit::Height : Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
             throw Misuse{QStringLiteral("--fit needs --area and excludes --size")};
-        if (isScroll && options->fit == Fit::Both)
+        if (options->motion.IsScroll() && options->fit == Fit::Both)
             throw Misuse{QStringLiteral("--fit both is for texts that stand; --scroll moves them")};
     }
     if (line.IsSet("align")) {
         options->align = Align(int(Align::Left) + line.Choice("align"));
-        if (isScroll && options->motion < 2)
+        if (options->motion.IsSideways())
             throw Misuse{QStringLiteral("--align is for texts that stand; this one scrolls "
                                         "sideways")};
     }
@@ -145,19 +144,18 @@ QStringList Directions()
 void ReadMotion(const CommandLine& line, AuthorOptions* options)
 {
     if (!line.IsSet("scroll")) {
-        options->motion = ReadEffect(line.Value("effect"));
+        options->motion.number = ReadEffect(line.Value("effect"));
         return;
     }
     if (line.IsSet("effect"))
         throw Misuse{QStringLiteral("--effect and --scroll exclude each other")};
-    options->mode = Mode::Scroll;
     const QString direction = line.Value("scroll");
     const Motion* scroll = FindScroll(direction);
     if (!scroll)
         throw Misuse{
             QStringLiteral("--scroll takes %1, not \"%2\"%3")
                 .arg(OneOf(Directions()), direction, DidYouMeanOneOf(direction, Directions()))};
-    options->motion = scroll->number;
+    options->motion = {Mode::Scroll, scroll->number};
 }
 
 /** The file that @p option names, as the scene will name it: seen from the scene's folder. */

@@ -137,10 +137,10 @@ SignText NewText(const QSize& area, int page)
     text.page = page;
     text.node.size = area;
     text.node.hold = 20;
-    text.node.attributes = {{QStringLiteral("EffectType"), 0},
-                            {QStringLiteral("AnimationEffect"), 17},
-                            {QStringLiteral("AnimationSpeed"), 6},
-                            {QStringLiteral("PlayTimes"), 1}};
+    const NodeMotion motion{Mode::Entrance, 17};
+    SetMotion(&text.node, motion);
+    text.node.attributes[motion.SpeedKey()] = 6;
+    text.node.attributes[QStringLiteral("PlayTimes")] = 1;
     QString family;
     QString error;
     if (!FindFamily(QStringLiteral("DejaVu Sans"), &family, &error))

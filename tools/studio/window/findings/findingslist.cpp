@@ -15,9 +15,8 @@ namespace {
 
 constexpr int mostShown = 40;
 
-TextChange SetAttribute(const char* key, int value)
+TextChange SetAttribute(const QString& name, int value)
 {
-    const QString name = QLatin1String(key);
     return [name, value](SignText* text) { text->node.attributes[name] = value; };
 }
 
@@ -44,23 +43,25 @@ QString FieldOf(const Finding& finding)
 
 Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
 {
-    const bool scrolls = MotionOf(text.node).IsScroll();
     switch (finding.mistake) {
     case Mistake::SpeedRange: {
-        const char* key = scrolls ? "ContinueSpeed" : "AnimationSpeed";
-        const int speed = text.node.attributes.value(QLatin1String(key)).toInt();
+        const QString key = MotionOf(text.node).SpeedKey();
+        const int speed = text.node.attributes.value(key).toInt();
         return {FindingsList::tr("Use the nearest speed"), SetAttribute(key, qBound(0, speed, 9))};
     }
-    case Mistake::PlaysRange: return {FindingsList::tr("Play once"), SetAttribute("PlayTimes", 1)};
+    case Mistake::PlaysRange:
+        return {FindingsList::tr("Play once"), SetAttribute(QStringLiteral("PlayTimes"), 1)};
     case Mistake::HoldRange:
         return {FindingsList::tr("Remove the pause"),
                 [](SignText* edited) { edited->node.hold = 0; }};
     case Mistake::ModeUnknown:
-        return {FindingsList::tr("Use an entrance effect"), SetAttribute("EffectType", 0)};
+        return {FindingsList::tr("Use an entrance effect"),
+                SetAttribute(QStringLiteral("EffectType"), 0)};
     case Mistake::EffectUnknown:
-        return {FindingsList::tr("Use Typewriter"), SetAttribute("AnimationEffect", 4)};
+        return {FindingsList::tr("Use Typewriter"),
+                SetAttribute(QStringLiteral("AnimationEffect"), 4)};
     case Mistake::DirectionUnknown:
-        return {FindingsList::tr("Scroll left"), SetAttribute("ContinueStyle", 0)};
+        return {FindingsList::tr("Scroll left"), SetAttribute(QStringLiteral("ContinueStyle"), 0)};
     case Mistake::AreaOutside:
         return {FindingsList::tr("Move onto the display"), [display](SignText* edited) {
                     SceneNode& node = edited->node;
@@ -96,7 +97,7 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
                 }};
     case Mistake::GradientIgnored:
     case Mistake::PictureIgnored:
-        return {FindingsList::tr("Turn on dazzle"), SetAttribute("CheckDazzle", 1)};
+        return {FindingsList::tr("Turn on dazzle"), SetAttribute(QStringLiteral("CheckDazzle"), 1)};
     case Mistake::StrokeIgnored:
         return {FindingsList::tr("Remove"),
                 RemoveAttributes({QStringLiteral("Stroke"), QStringLiteral("StrokeColor")})};
