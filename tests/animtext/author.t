@@ -415,6 +415,15 @@ Several texts:
   $ animtext set s.json 4 scroll=left
   ! animtext: ContinueEffectLeft sets the text in another way; lay it out anew with animtext author --replace
   [2]
+
+Letters that turn do so about their own places.
+
+  $ for where in left center; do animtext author -o turn.json --text ab --align $where >/dev/null; animtext set turn.json 1 effect=SwingEffect effect=RotationEffect && echo $where; done
+  left
+  ! animtext: RotationEffect sets the text in another way; lay it out anew with animtext author --replace
+  [2]
+  $ animtext author -o turn.json --text ab --align center --effect 11 >/dev/null; animtext set turn.json 1 effect=12; animtext set turn.json 1 effect=21; rm turn.*
+  ! animtext: EffectRightToEnlarge sets the text in another way; lay it out anew with animtext author --replace
   $ animtext set s.json 5 speed=1
   ! animtext: s.json: there is no text 5; expected a number from 1 to 4, as animtext list shows, or a path like $.pages[0].areas[0].nodes[0]
   [2]

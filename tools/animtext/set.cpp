@@ -16,7 +16,7 @@ int Set(const CommandLine& line)
     }
     auto [changed, at] = ChangeText(line, [&](Scene* scene, const Place& place, QString* error) {
         for (const QString& setting : settings) {
-            if (!SetValue(&scene->At(place), setting.section(QLatin1Char('='), 0, 0),
+            if (!SetValue(scene, place, setting.section(QLatin1Char('='), 0, 0),
                           setting.section(QLatin1Char('='), 1), error))
                 return false;
         }

@@ -5,6 +5,7 @@
 #include "scene/motion.h"
 #include "scene/suggest.h"
 #include "scene/times.h"
+#include "validate/datafile.h"
 
 #include <QColor>
 #include <QRegularExpression>
@@ -34,12 +35,32 @@ const QMap<QString, QString>& Aliases()
 /** Motions of one kind put characters in the same order to the same sides. */
 int Kind(const NodeMotion& motion)
 {
-    const Motion* row = motion.Row();
-    const MotionTraits traits = row ? row->traits : MotionTraits();
-    return motion.IsScroll() ? traits & Sideways ? 3 : 2 : traits & FromEnd ? 1 : 0;
+    return motion.IsScroll() ? motion.IsSideways() ? 3 : 2 : motion.Traits() & FromEnd ? 1 : 0;
 }
 
-void ChangeMotion(SceneNode* node, const QString& key, const QString& value)
+/**
+ * Whether a text that was laid out for another motion also suits one of these traits. Text that is
+ * aligned is out of its places where nothing turns, and ends its pages with wide spaces.
+ */
+bool Suits(MotionTraits traits, const SceneNode& node, const QString& pathFile)
+{
+    const QVector<QRectF> ink = LookIntoPathFile(pathFile).ink;
+    const auto rows = node.lists.value(QStringLiteral("TextWidth"));
+    bool isInPlace = true;
+    int widestLetter = 0;
+    int widestSpace = 0;
+    for (int i = 0; i < ink.size(); ++i) {
+        const int width = rows.value(i).value(QStringLiteral("text_width")).toInt();
+        int& widest = ink[i].isEmpty() ? widestSpace : widestLetter;
+        widest = qMax(widest, width);
+        const qreal middle = ink[i].center().x();
+        isInPlace = isInPlace && (ink[i].isEmpty() || (middle >= 0 && middle <= width));
+    }
+    return (isInPlace || !(traits & Turns)) &&
+           (widestSpace <= widestLetter || !(traits & EvenWidths));
+}
+
+void ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const QString& value)
 {
     const bool scroll = key == QLatin1String("ContinueStyle");
     bool isNumber = false;
@@ -51,7 +72,9 @@ void ChangeMotion(SceneNode* node, const QString& key, const QString& value)
         throw Fault{QStringLiteral("there is no %1 \"%2\"")
                         .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value)};
     const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, motion->number};
-    if (Kind(next) != Kind(MotionOf(*node)))
+    const NodeMotion now = MotionOf(*node);
+    const QString pathFile = scene.FullName(node->files.value(QStringLiteral("PathData")));
+    if (Kind(next) != Kind(now) || !Suits(next.Traits() & ~now.Traits(), *node, pathFile))
         throw Fault{QStringLiteral("%1 sets the text in another way; lay it out anew with "
                                    "animtext author --replace")
                         .arg(QLatin1String(motion->name))};
@@ -111,14 +134,15 @@ QStringList Known()
     return keys;
 }
 
-void Set(SceneNode* node, const QString& word, const QString& value)
+void Set(Scene* scene, const Place& place, const QString& word, const QString& value)
 {
+    SceneNode* node = &scene->At(place);
     QString key = Aliases().value(word, word);
     if (key == QLatin1String("speed"))
         key = MotionOf(*node).SpeedKey();
     const Attribute* attribute = FindAttribute(Home::Attributes, key);
     if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
-        ChangeMotion(node, key, value);
+        ChangeMotion(*scene, node, key, value);
     else if (key == QLatin1String("Color"))
         SetColor(node, value);
     else if (key == QLatin1String("pos"))
@@ -134,10 +158,11 @@ void Set(SceneNode* node, const QString& word, const QString& value)
 
 } // namespace
 
-bool SetValue(SceneNode* node, const QString& key, const QString& value, QString* error)
+bool SetValue(Scene* scene, const Place& place, const QString& key, const QString& value,
+              QString* error)
 {
     try {
-        Set(node, key, value);
+        Set(scene, place, key, value);
         return true;
     } catch (const Fault& fault) {
         *error = fault.text;

@@ -17,7 +17,8 @@ namespace AnimText {
  * the text in the same way.
  * @return false when that cannot be, and then @p error has one line on it
  */
-bool SetValue(SceneNode* node, const QString& key, const QString& value, QString* error);
+bool SetValue(Scene* scene, const Place& place, const QString& key, const QString& value,
+              QString* error);
 
 } // namespace AnimText
 
