@@ -95,7 +95,7 @@ Losses are told:
   $ loses --text abc --size 100 --area 50x60
   ! animtext: a word is wider than a page and torn: abc
   ! animtext: letters are cut off: 12 pixels above the area and 6 below; --fit height makes them fit
-  ! animtext: character-wide at $.pages[0].areas[0].nodes[0].lists.TextWidth[1].text_width: found 64 pixels, expected no more than the area's width, 50. The character gets a page of its own and is cut off.
+  ! animtext: character-wide at $.pages[0].areas[0].nodes[0].lists.TextWidth[1].text_width: found 64 pixels, expected no more than the area's width, 50. The character gets its own page and is cut off.
   $ loses --text 'a Donaudampfschifffahrt z Donaudampfer z' --area 90x40
   ! animtext: 2 words are wider than a page and torn: Donaudampfschifffahrt, Donaudampfer
   ! animtext: the sign does not show all of the text: 35.20 s are planned, it needs 38.61 s, and the last 9 % are cut off; speed 6 avoids that
@@ -107,7 +107,7 @@ Losses are told:
   $ loses --text o --size 50 --area 300x40 # its line is too high, its ink is not
   $ loses --text Gx --underline --area 300x40
   $ loses --markup --text '<font color="red">a</font>b'
-  ! animtext: colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[1].Color: found "16752640", expected "16711680" as in the first row. The whole text has the colour of its first character.
+  ! animtext: colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[1].Color: found "16752640", expected "16711680" as in the first row. The whole text has the color of its first character.
   $ loses --markup --text '<html>a<s>b</s><sup>c</sup><img src="x"></html>'
   ! animtext: left out, for no sign shows it: bars through or above letters, raised or lowered letters, pictures
 
@@ -131,14 +131,14 @@ Marked text:
   $ fresh
   $ marked() { animtext author -o a.json --markup "$@" >/dev/null; grep fontName a.json; }
   $ marked --size 40 --bold --text '<i>a</i><font size="50%">b<u>&lt;</u></font><font size="24pt" face="DejaVu Serif" color="#010203">&amp;</font>'
-  ! animtext: colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[3].Color: found "66051", expected "16752640" as in the first row. The whole text has the colour of its first character.
+  ! animtext: colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[3].Color: found "66051", expected "16752640" as in the first row. The whole text has the color of its first character.
                 {"fontName": "DejaVu Sans", "fontSize": "30", "bold": "1", "italic": "1", "underline": "0", "Color": "16752640"},
                 {"fontName": "DejaVu Sans", "fontSize": "15", "bold": "1", "italic": "0", "underline": "0", "Color": "16752640"},
                 {"fontName": "DejaVu Sans", "fontSize": "15", "bold": "1", "italic": "0", "underline": "1", "Color": "16752640"},
                 {"fontName": "DejaVu Serif", "fontSize": "24", "bold": "1", "italic": "0", "underline": "0", "Color": "66051"}
   $ marked --text '<html><body style="font-family:DejaVu Serif; font-size:12pt"><p>a</p><p><span style="font-size:32px; font-weight:600; text-decoration: underline; color:#ff0000">b</span></p></body></html>'
   ! animtext: a line break became a space
-  ! animtext: colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[2].Color: found "16711680", expected "16752640" as in the first row. The whole text has the colour of its first character.
+  ! animtext: colors-ignored at $.pages[0].areas[0].nodes[0].lists.TextAttribute[2].Color: found "16711680", expected "16752640" as in the first row. The whole text has the color of its first character.
                 {"fontName": "DejaVu Serif", "fontSize": "12", "bold": "0", "italic": "0", "underline": "0", "Color": "16752640"},
                 {"fontName": "DejaVu Serif", "fontSize": "12", "bold": "0", "italic": "0", "underline": "0", "Color": "16752640"},
                 {"fontName": "DejaVu Serif", "fontSize": "24", "bold": "1", "italic": "0", "underline": "1", "Color": "16711680"}
@@ -363,13 +363,13 @@ Several texts:
   $ author() { animtext author -o s.json "$@" >/dev/null; }
   $ author --text one --area 90x30
   $ author --text two --append --pos 0,100; jq -c .display s.json # nobody asked for another
-  ! animtext: area-outside at $.pages[0].areas[1].nodes[0].pos: found an area of 512 x 58 pixels at 0, 100, expected a place within the display of 90 x 30 pixels. What lies outside the display is not seen.
+  ! animtext: area-outside at $.pages[0].areas[1].nodes[0].pos: found an area of 512 x 58 pixels at 0, 100, expected a place within the display of 90 x 30 pixels. The part outside the display is not visible.
   {"width":90,"height":30}
   $ author --text three --page 2 --area 40x20 --pos 7,8
   ! animtext: a word is wider than a page and torn: three
-  ! animtext: area-outside at $.pages[0].areas[1].nodes[0].pos: found an area of 512 x 58 pixels at 0, 100, expected a place within the display of 90 x 30 pixels. What lies outside the display is not seen.
+  ! animtext: area-outside at $.pages[0].areas[1].nodes[0].pos: found an area of 512 x 58 pixels at 0, 100, expected a place within the display of 90 x 30 pixels. The part outside the display is not visible.
   $ author --text four --page 2 --in-area 1 --display 99x130
-  ! animtext: area-outside at $.pages[0].areas[1].nodes[0].pos: found an area of 512 x 58 pixels at 0, 100, expected a place within the display of 99 x 130 pixels. What lies outside the display is not seen.
+  ! animtext: area-outside at $.pages[0].areas[1].nodes[0].pos: found an area of 512 x 58 pixels at 0, 100, expected a place within the display of 99 x 130 pixels. The part outside the display is not visible.
   $ author --text zwei --replace 2 --area 50x30 --no-alpha
   ! animtext: a word is wider than a page and torn: zwei
   $ animtext list s.json; jq -c 'del(.pages)' s.json; jq -c '[.pages[] | [.areas[] | .nodes | length]]' s.json

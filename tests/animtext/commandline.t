@@ -43,9 +43,16 @@ Help:
   ! animtext: there is no command "trac"; did you mean trace? (see animtext help help)
   [2]
   $ animtext effects | grep Swing
-    6  SwingEffect                         the whole row sways sideways and leans as it goes
+    6  Sway                   SwingEffect                         the whole row sways from side to side and leans as it goes
   $ animtext effects | wc -l # 30 and 4, two headings, one line between
   37
+  $ animtext effects news ticker | tail -n 1
+    0  Scroll left            ContinueEffectLeft                  the line enters at the right edge and leaves at the left; the device moves it
+  $ animtext effects '#17' | wc -l
+  2
+  $ animtext effects --json zzz
+  ! animtext: no motion matches "zzz"
+  [1]
   $ animtext effects --json | grep -c summary
   34
 

@@ -230,19 +230,19 @@ A scene that shows nothing is refused in validate's words, and played all the sa
   $ fresh
   $ sed -i 's/"AnimationEffect": 4/"AnimationEffect": 99/' one.json
   $ animtext render one.json -o a.png --at 0t
-  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown and the item never ends.
+  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
   ! animtext: one.json is not played; --force plays it all the same
   [2]
   $ animtext duration one.json
-  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown and the item never ends.
+  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
   ! animtext: one.json is not played; --force plays it all the same
   [2]
   $ animtext sheet one.json -o a.png
-  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown and the item never ends.
+  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
   ! animtext: one.json is not played; --force plays it all the same
   [2]
   $ animtext render one.json -o a.png --at 0t --seconds 1 --force; ls a.png
-  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown and the item never ends.
+  ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
   a.png
 
 A folder of frames is replaced, no other:

@@ -17,7 +17,7 @@ Reports:
   warning stroke-ignored at $.pages[0].areas[0].nodes[0].attributes.Stroke
     found 1,
     expected 0
-    Text is outlined in its own colour.
+    The sign outlines text in its own color.
   [1]
   $ with '"AnimationSpeed": 12' | animtext validate --strict -
   -: 1 error, 0 warnings
@@ -25,7 +25,7 @@ Reports:
   error speed-range at $.pages[0].areas[0].nodes[0].attributes.AnimationSpeed
     found 12,
     expected 0 to 9
-    The motion is timed for speeds 0 to 9; others stall or leap.
+    Motions are made for speeds 0 to 9; at others they stall or jump.
   [2]
   $ with '"AnimationSpeed": 12' | animtext validate - one.json
   -: 1 error, 0 warnings
@@ -33,7 +33,7 @@ Reports:
   error speed-range at $.pages[0].areas[0].nodes[0].attributes.AnimationSpeed
     found 12,
     expected 0 to 9
-    The motion is timed for speeds 0 to 9; others stall or leap.
+    Motions are made for speeds 0 to 9; at others they stall or jump.
   
   one.json: no mistakes found
   [2]
@@ -57,7 +57,7 @@ Reports:
               "found": "12",
               "place": "$.pages[0].areas[0].nodes[0].attributes.AnimationSpeed",
               "severity": "error",
-              "why": "The motion is timed for speeds 0 to 9; others stall or leap."
+              "why": "Motions are made for speeds 0 to 9; at others they stall or jump."
           }
       ],
       "scene": "-",
@@ -82,7 +82,7 @@ Reports:
                   "found": "12",
                   "place": "$.pages[0].areas[0].nodes[0].attributes.AnimationSpeed",
                   "severity": "error",
-                  "why": "The motion is timed for speeds 0 to 9; others stall or leap."
+                  "why": "Motions are made for speeds 0 to 9; at others they stall or jump."
               }
           ],
           "scene": "-",

@@ -13,7 +13,7 @@ constexpr Severity warning = Severity::Warning;
 
 constexpr Rule rules[] = {
     {Mistake::SceneUnreadable, error, "scene-unreadable",
-     QT_TRANSLATE_NOOP("Rules", "The scene cannot be played.")},
+     QT_TRANSLATE_NOOP("Rules", "No tool can play it.")},
     {Mistake::SceneEmpty, warning, "scene-empty",
      QT_TRANSLATE_NOOP("Rules", "The display stays dark.")},
     {Mistake::NodeType, error, "node-type",

@@ -2602,10 +2602,6 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Ein Text verdeckt einen anderen auf derselben Seite.</translation>
     </message>
     <message>
-        <source>The scene cannot be played.</source>
-        <translation>Die Szene lässt sich nicht abspielen.</translation>
-    </message>
-    <message>
         <source>The host has no plugin for this type and skips the text.</source>
         <translation>Der Host hat kein Plugin für diesen Typ und überspringt den Text.</translation>
     </message>
@@ -2704,6 +2700,10 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     <message>
         <source>The sign uses only the lowest 24 bits, which are another color.</source>
         <translation>Das Schild nutzt nur die untersten 24 Bit; sie ergeben eine andere Farbe.</translation>
+    </message>
+    <message>
+        <source>No tool can play it.</source>
+        <translation>Kein Programm kann die Szene abspielen.</translation>
     </message>
 </context>
 <context>

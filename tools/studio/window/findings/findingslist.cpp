@@ -202,6 +202,7 @@ void FindingsList::Fill(const QList<Row>& next)
     else if (rows.size() > mostShown)
         say(tr("And %n more", nullptr, rows.size() - mostShown));
     list->addStretch(1);
+    setMinimumWidth(list->minimumSize().width()); // no button is clipped, in any language
 }
 
 /** A row: the effect on the sign, a button for the fix, and the details as a tooltip. */
