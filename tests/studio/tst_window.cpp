@@ -1,3 +1,4 @@
+#include "film/lamps.h"
 #include "studio/window/basics/style.h"
 #include "studio/window/basics/translating.h"
 #include "studio/window/form/neonbox.h"
@@ -344,7 +345,7 @@ void TestWindow::zoomsPansAndMeasures()
     const double fitted = view->Scale();
     auto* leds = window->findChild<QAction*>("leds");
     leds->setChecked(true);
-    QVERIFY(view->Scale() >= PictureView::smallestLamp); // LEDs are visible
+    QVERIFY(view->Scale() >= smallestLamp); // LEDs are visible
     leds->setChecked(false);
     QCOMPARE(view->Scale(), fitted);
 
@@ -354,8 +355,8 @@ void TestWindow::zoomsPansAndMeasures()
         leds->setChecked(true);
         QTRY_COMPARE_WITH_TIMEOUT(view->Picture().size(), display, patience);
         const bool isLarge = display.width() > 1000;
-        QTRY_COMPARE(view->Scale() > PictureView::smallestLamp, !isLarge);
-        QVERIFY(view->Scale() >= PictureView::smallestLamp);
+        QTRY_COMPARE(view->Scale() > smallestLamp, !isLarge);
+        QVERIFY(view->Scale() >= smallestLamp);
     }
     leds->setChecked(false);
     QCOMPARE(view->Zoom(), 0);

@@ -3,11 +3,16 @@
 #include "animtext/shared/playoptions.h"
 #include "cli/interruption.h"
 #include "cli/progress.h"
-#include "film/film.h"
-#include "film/filmfile.h"
+#include "film/kinds.h"
+#include "film/lamps.h"
+#include "film/writefilm.h"
 #include "player/plugin.h"
 
-#include <numeric>
+#include <QLocale>
+
+#include <algorithm>
+#include <csignal>
+#include <memory>
 #include <thread>
 
 namespace AnimText {
@@ -36,26 +41,34 @@ void CheckKind(const CommandLine& line, const FilmKind& kind)
     };
     const bool transparent = line.IsSet("transparent");
     if (transparent && line.IsSet("background"))
-        refuse("--transparent and --background exclude each other");
-    if (transparent && !kind.transparent)
+        refuse("--transparent and --background cannot be combined");
+    if (transparent && line.IsSet("leds"))
+        refuse("--transparent and --leds cannot be combined: lamps are on black");
+    if (line.IsSet("leds") && line.IsSet("scale") && line.Number("scale") < smallestLamp)
+        refuse("--leds needs a --scale of at least 4");
+    if (transparent && !kind.Has(FilmKind::Transparent))
         refuse("films that end with %1 cannot be transparent");
-    if (line.IsSet("lossless") && !kind.lossless)
+    if (line.IsSet("lossless") && !kind.Has(FilmKind::Lossless))
         refuse("films that end with %1 lose colors; take .apng, .webp or .mp4");
-    if (line.IsSet("lossless") && transparent && !kind.losslessTransparent)
+    if (line.IsSet("lossless") && transparent && !kind.Has(FilmKind::LosslessAlpha))
         refuse("transparent films that end with %1 lose colors; take .apng or .webp");
     if (line.IsSet("at") && line.IsSet("frames"))
-        refuse("--at and --frames exclude each other");
+        refuse("--at and --frames cannot be combined");
     const bool isOne =
         line.IsSet("frames") && line.Range("frames").first == line.Range("frames").second;
-    if (kind.still && !isOne && !line.IsSet("at"))
+    if (kind.Has(FilmKind::Still) && !isOne && !line.IsSet("at"))
         refuse("a PNG is one picture: say which with --at or --frames");
 }
 
 FilmSettings SettingsFor(const CommandLine& line, const FilmKind& kind, uint seed)
 {
     FilmSettings settings;
-    settings.evenSize = kind.evenSides && !line.IsSet("lossless");
+    settings.evenSize = kind.Has(FilmKind::EvenSides) && !line.IsSet("lossless");
     settings.scale = line.Number("scale");
+    if (line.IsSet("leds")) {
+        settings.pitch = line.Fraction("leds");
+        settings.scale = std::max(settings.scale, smallestLamp);
+    }
     settings.seed = seed;
     settings.schedule = line.IsSet("schedule");
     if (line.IsSet("seconds"))
@@ -87,33 +100,52 @@ QPair<int, int> RangeFor(const CommandLine& line, int frames)
     return range;
 }
 
-void Write(Film* film, QPair<int, int> range, bool lossless, const QString& output)
+Progress::Form FormOf(const CommandLine& line)
 {
-    QString error;
-    const int frames = range.second - range.first + 1;
-    const auto check = [&error](bool succeeded) {
-        StopIfInterrupted();
-        if (!succeeded)
-            throw Failure{FailedRun, error};
-    };
-    const std::unique_ptr<FilmFile> file = MakeFilmFile(output, [] { return !Interrupted(); });
-    check(file->Open({film->FrameSize(), range.first, frames, film->IsTransparent(), lossless},
-                     &error));
+    return line.IsSet("progress") ? Progress::Form::Lines : Progress::Form::Bar;
+}
+
+/** Shows how far a film is, a bar for each of its stages. */
+class Reporter
+{
+public:
+    explicit Reporter(Progress::Form form)
+        : form(form)
     {
-        Progress progress(QStringLiteral("rendering"), frames);
-        QVector<int> wanted(frames);
-        std::iota(wanted.begin(), wanted.end(), range.first);
-        const auto take = [&](int index, const QImage& picture) {
-            if (!file->Add(index, picture, &error))
-                return false;
-            progress.Show(index - range.first + 1);
-            return !Interrupted();
-        };
-        check(film->Play(wanted, take, &error));
     }
-    check(file->Finish(&error));
-    if (!file->Remark().isEmpty())
-        Warn(file->Remark());
+
+    bool Show(FilmStage now, qint64 done, qint64 total)
+    {
+        static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
+        if (!progress || now != stage) {
+            progress.reset(); // wipes its bar before there is another
+            progress = std::make_unique<Progress>(QLatin1String(names[int(now)]), total, form);
+        }
+        stage = now;
+        progress->Show(done);
+        return !Interrupted();
+    }
+
+    void Clear() { progress.reset(); }
+
+private:
+    Progress::Form form;
+    FilmStage stage = FilmStage::End;
+    std::unique_ptr<Progress> progress;
+};
+
+/** "Wrote sign.gif: 512 x 64, 14.2 s, 215 frames, 1.3 MB" */
+QString Summary(const QString& output, const FilmKind& kind, const WrittenFilm& film)
+{
+    QStringList facts{QStringLiteral("%1 x %2").arg(film.size.width()).arg(film.size.height())};
+    if (!kind.Has(FilmKind::Still)) {
+        facts += QStringLiteral("%1 s").arg(double(film.frames) * tickLength / 1000, 0, 'f', 1);
+        facts += QStringLiteral("%1 %2")
+                     .arg(film.frames)
+                     .arg(film.frames == 1 ? QStringLiteral("frame") : QStringLiteral("frames"));
+    }
+    facts += QLocale::c().formattedDataSize(film.bytes, 1, QLocale::DataSizeSIFormat);
+    return QStringLiteral("Wrote %1: %2\n").arg(output, facts.join(QStringLiteral(", ")));
 }
 
 void RenderOne(const CommandLine& line, const QString& output)
@@ -124,17 +156,25 @@ void RenderOne(const CommandLine& line, const QString& output)
     const Playing playing(line);
     const std::unique_ptr<Player> player = playing.Load(scene);
     Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()));
-    {
-        QString error;
-        Progress progress(QStringLiteral("finding the end"), 0);
-        const auto watch = [&](qint64 done, qint64) {
-            progress.Show(done);
-            return !Interrupted();
-        };
-        if (!film.Plan(watch, &error))
-            throw Failure{BadInput, error};
-    }
-    Write(&film, RangeFor(line, film.FrameCount()), line.IsSet("lossless"), output);
+    Reporter reporter(FormOf(line));
+    const FilmWatch watch = [&](FilmStage stage, qint64 done, qint64 total) {
+        return reporter.Show(stage, done, total);
+    };
+    QString error;
+    if (!film.Plan(watch, &error))
+        throw Failure{BadInput, error};
+    WrittenFilm written;
+    const bool isWritten = WriteFilm(&film, RangeFor(line, film.FrameCount()), output,
+                                     line.IsSet("lossless"), watch, &written, &error);
+    reporter.Clear();
+    StopIfInterrupted();
+    if (!isWritten)
+        throw Failure{FailedRun, error};
+    if (written.halvesColors)
+        Warn(QStringLiteral("%1: such a film stores colors at half the resolution (4:2:0), which "
+                            "blurs colored text; --lossless keeps every pixel")
+                 .arg(output));
+    Print(Summary(output, kind, written).toLocal8Bit());
 }
 
 void RenderMany(const CommandLine& line, const QString& folder)
@@ -148,11 +188,13 @@ void RenderMany(const CommandLine& line, const QString& folder)
     batch.jobs = line.IsSet("jobs") ? line.Number("jobs")
                                     : int(std::max(1U, std::thread::hardware_concurrency()));
     batch.resume = line.IsSet("resume");
+    batch.progress = FormOf(line);
     CheckKind(line, KindOf(batch.ending));
     for (const Option& option : RenderCommand().options) {
         const QString name = QLatin1String(option.name);
         static const QStringList ours{QStringLiteral("output"), QStringLiteral("as"),
-                                      QStringLiteral("jobs"), QStringLiteral("resume")};
+                                      QStringLiteral("jobs"), QStringLiteral("resume"),
+                                      QStringLiteral("progress")};
         if (!line.IsSet(option.name) || ours.contains(name))
             continue;
         const QString value = QLatin1Char('=') + line.Value(option.name);
@@ -166,6 +208,8 @@ int Render(const CommandLine& line)
 {
     const QString output = line.Value("output");
     WatchForInterruption();
+    if (line.IsSet("progress"))
+        std::signal(SIGPIPE, SIG_IGN); // so that what is unfinished goes away
     if (line.Arguments().size() > 1 || line.IsSet("as"))
         RenderMany(line, output);
     else
@@ -190,6 +234,10 @@ QVector<Option> Options()
         Option::Time("at", 1000, 0, 86400, "TIME",
                      "Writes the picture of one moment: 2.5s, or 40t for tick 40."),
         Option::Number("scale", 1, 16, "Makes each pixel a square of N by N.").Or("1"),
+        Option::Fraction("leds", 1, 4, "PITCH",
+                         "Shows round lamps on black, that many of their diameters apart. They "
+                         "need a --scale of 4 or more.")
+            .Alone("1.25"),
         Option::Color("background", "Paints this color under the display in place of black."),
         Option::Flag("transparent", "Lets through what lies behind the display. Not for MP4."),
         Option::Flag("lossless",
@@ -205,7 +253,9 @@ QVector<Option> Options()
                        "How many scenes are rendered at once; as many as there are processors "
                        "unless told."),
         Option::Flag("resume", "Leaves films that are there and newer than their scene, its "
-                               "data files, the plugin and this program.")};
+                               "data files, the plugin and this program."),
+        Option::Flag("progress", "Prints lines such as \"12 426 rendering\", for programs that "
+                                 "show how far it is.")};
 }
 
 } // namespace

@@ -34,7 +34,8 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
     settings.restAtEnd = false;
     Film film(player.get(), scene, settings);
     QString error;
-    const bool planned = film.Plan([](qint64, qint64) { return !Interrupted(); }, &error);
+    const bool planned =
+        film.Plan([](FilmStage, qint64, qint64) { return !Interrupted(); }, &error);
     StopIfInterrupted();
     if (!planned)
         throw Failure{BadInput, error};

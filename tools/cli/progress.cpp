@@ -1,5 +1,7 @@
 #include "cli/progress.h"
 
+#include "cli/output.h"
+
 #include <QByteArray>
 
 #include <cstdio>
@@ -16,9 +18,10 @@ constexpr int redrawTime = 100; // milliseconds from one drawing to the next
 
 } // namespace
 
-Progress::Progress(const QString& what, qint64 total)
+Progress::Progress(const QString& what, qint64 total, Form form)
     : what(what)
     , total(total)
+    , form(form)
     , terminal(isatty(STDERR_FILENO) == 1)
 {
     sinceStart.start();
@@ -26,16 +29,30 @@ Progress::Progress(const QString& what, qint64 total)
 
 Progress::~Progress()
 {
+    Wipe();
+}
+
+void Progress::Wipe()
+{
     if (drawn)
         std::fputs("\r\033[K", stderr);
+    drawn = false;
+    lastDone = -1;
 }
 
 void Progress::Show(qint64 done)
 {
     const qint64 now = sinceStart.elapsed();
-    if (!terminal || now < quietTime || now - lastDrawn < redrawTime)
+    const bool isSeen = form == Form::Lines || (terminal && now >= quietTime);
+    if (!isSeen || done == lastDone || (now - lastDrawn < redrawTime && done != total))
         return;
     lastDrawn = now;
+    lastDone = done;
+    if (form == Form::Lines) {
+        Print(QStringLiteral("%1 %2 %3\n").arg(done).arg(total).arg(what).toUtf8());
+        FlushOutput();
+        return;
+    }
     drawn = true;
     QString text = what + QLatin1Char(' ');
     if (total > 0) {

@@ -1,5 +1,7 @@
 #include "film/film.h"
 
+#include "film/lamps.h"
+
 #include <hneonnodebase.h>
 
 #include <QPainter>
@@ -86,8 +88,8 @@ bool Film::Plan(const FilmWatch& watch, QString* error)
         return false;
     }
     if (frameCount > ticksOfAnHour && settings.seconds <= 0) {
-        *error = QStringLiteral("%1: does not come to an end within an hour; say how much of it to "
-                                "play, for instance --seconds 60")
+        *error = QStringLiteral("%1: does not end within an hour; choose a part of it, for "
+                                "instance --seconds 60")
                      .arg(scene.path);
         return false;
     }
@@ -101,7 +103,7 @@ bool Film::FindEnd(const FilmWatch& watch, QString* error)
         return false;
     bool brokenOff = false;
     const auto look = [&](int tick) {
-        brokenOff = watch && !watch(tick, 0);
+        brokenOff = watch && !watch(FilmStage::End, tick, 0);
         return !brokenOff;
     };
     const int longest = std::min(LongestPlay(scene), ticksOfAnHour + 1);
@@ -113,10 +115,9 @@ bool Film::FindEnd(const FilmWatch& watch, QString* error)
     return true;
 }
 
-QImage Film::Picture() const
+/** @p shown, scaled to @p part, in a picture of @p size with the background. */
+QImage Film::OnBackground(const QImage& shown, QSize part, QSize size) const
 {
-    const QImage shown = player->Picture();
-    const QSize size = FrameSize();
     if (shown.size() == size && IsTransparent())
         return shown;
     QImage frame(size, IsTransparent() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
@@ -124,8 +125,17 @@ QImage Film::Picture() const
     QPainter painter(&frame);
     if (IsTransparent())
         painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(QRect(QPoint(0, 0), scene.display * settings.scale), shown);
+    painter.drawImage(QRect(QPoint(0, 0), part), shown);
     return frame;
+}
+
+QImage Film::Picture() const
+{
+    QImage shown = player->Picture();
+    if (settings.pitch > 0)
+        shown = AsLamps(OnBackground(shown, scene.display, scene.display), settings.scale,
+                        settings.pitch);
+    return OnBackground(shown, scene.display * settings.scale, FrameSize());
 }
 
 bool Film::Play(const QVector<int>& wanted,

@@ -19,6 +19,7 @@ struct FilmSettings
 {
     double seconds = 0;            ///< how much to play; 0: to the end
     int scale = 1;                 ///< each pixel becomes a square of that many
+    double pitch = 0;              ///< shows pixels as lamps, see AsLamps(); 0 for squares
     QColor background = Qt::black; ///< under the display; invalid: none
     bool schedule = false;         ///< as the host plays it, by the times that it is told
     bool restAtEnd = true;         ///< lets the last pages stand for one hold more
@@ -26,8 +27,11 @@ struct FilmSettings
     uint seed = standardSeed;
 };
 
-/** Told of the work done so far and, when it is known, of all; answers false to break off. */
-using FilmWatch = std::function<bool(qint64 done, qint64 total)>;
+/** What is being done for a film. */
+enum class FilmStage { End, Colors, Pictures };
+
+/** Learns how much is done and, where that is known, of how much; returns false to stop. */
+using FilmWatch = std::function<bool(FilmStage stage, qint64 done, qint64 total)>;
 
 /**
  * To the end means: until every node has reported itself finished, and then the pages that stand
@@ -41,8 +45,8 @@ public:
 
     /**
      * Finds the length by playing the scene, unless it is given.
-     * @return false, with one line in @p error, when the scene cannot be played, does not come to
-     *         an end within an hour, or @p watch broke off
+     * @return false, with one line in @p error, when the scene cannot be played, does not end
+     *         within an hour, or @p watch stops it
      */
     bool Plan(const FilmWatch& watch, QString* error);
 
@@ -64,6 +68,7 @@ public:
 private:
     bool FindEnd(const FilmWatch& watch, QString* error);
     int PlannedFrames(const QVector<NodePlay>& plays);
+    QImage OnBackground(const QImage& shown, QSize part, QSize size) const;
     QImage Picture() const;
     void Rest();
 

@@ -29,6 +29,16 @@ FilmProgram::~FilmProgram()
     process.waitForFinished(-1);
 }
 
+QStringList FilmProgram::Reading(QSize size, const char* pixelFormat)
+{
+    return QStringLiteral("-nostdin -v error -f rawvideo -framerate 500/33 -pix_fmt %1 -s %2x%3 "
+                          "-i pipe:0")
+        .arg(QLatin1String(pixelFormat))
+        .arg(size.width())
+        .arg(size.height())
+        .split(QLatin1Char(' '));
+}
+
 bool FilmProgram::Start(const QString& program, const QStringList& words, const QString& written,
                         QString* error)
 {
@@ -86,7 +96,12 @@ bool FilmProgram::Take(const QImage& picture, QString* error)
 {
     for (int y = 0; y < picture.height(); ++y)
         process.write(reinterpret_cast<const char*>(picture.constScanLine(y)),
-                      qint64(picture.width()) * 4);
+                      qint64(picture.width()) * picture.depth() / 8);
+    QVector<QRgb> colors = picture.colorTable();
+    while (!colors.isEmpty() && colors.size() < mostColors)
+        colors.append(0xFF000000);
+    process.write(reinterpret_cast<const char*>(colors.constData()),
+                  qint64(sizeof(QRgb)) * colors.size());
     if (!WaitUntil([this] { return process.bytesToWrite() <= mostWaiting; }, error))
         return false;
     if (process.state() == QProcess::Running)

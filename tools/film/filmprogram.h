@@ -19,15 +19,20 @@ namespace AnimText {
 class FilmProgram
 {
 public:
+    static constexpr int longestWait = 5 * 60 * 1000; ///< milliseconds
+
     /** @param patience milliseconds for which the program may stand still */
-    FilmProgram(const GoOn& goOn, int patience);
+    explicit FilmProgram(const GoOn& goOn, int patience = longestWait);
     /** Ends the program if it still runs. */
     ~FilmProgram();
+
+    /** ffmpeg's arguments for pictures on standard input, one a tick. */
+    static QStringList Reading(QSize size, const char* pixelFormat);
 
     /** @param output the file that it writes; its growth is a sign of life; may be empty */
     bool Start(const QString& program, const QStringList& words, const QString& output,
                QString* error);
-    /** Gives the program the pixels of @p picture, which have four bytes each. */
+    /** Gives the program the pixels of @p picture, and its 256 colors where it has a table. */
     bool Take(const QImage& picture, QString* error);
     /** Waits for the program's end. */
     bool Finish(QString* error);

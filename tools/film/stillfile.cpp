@@ -1,47 +1,15 @@
 #include "film/stillfile.h"
 
 #include "files/wholefile.h"
+#include "film/colortable.h"
 
 #include <QBuffer>
 #include <QFileInfo>
-#include <QHash>
 #include <QImageWriter>
-#include <QVector>
 
 namespace AnimText {
 
 namespace {
-
-/** The same picture by a table of its colours; as it is when that would be too long. */
-QImage Indexed(const QImage& picture)
-{
-    constexpr int mostColours = 256;
-    QImage indexed(picture.size(), QImage::Format_Indexed8);
-    QHash<QRgb, uchar> indices;
-    QVector<QRgb> colours;
-    QRgb lastPixel = 0;
-    uchar lastIndex = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        uchar* to = indexed.scanLine(y);
-        for (int x = 0; x < picture.width(); ++x) {
-            if (from[x] != lastPixel || colours.isEmpty()) {
-                lastPixel = from[x];
-                const auto known = indices.constFind(lastPixel);
-                if (known == indices.constEnd() && colours.size() == mostColours)
-                    return picture;
-                lastIndex = known == indices.constEnd() ? uchar(colours.size()) : *known;
-                if (known == indices.constEnd()) {
-                    indices.insert(lastPixel, lastIndex);
-                    colours.append(lastPixel);
-                }
-            }
-            to[x] = lastIndex;
-        }
-    }
-    indexed.setColorTable(colours);
-    return indexed;
-}
 
 const QString softwareMark = QStringLiteral("animtext");
 constexpr qint64 largestHead = 4096; // bytes before the pixels: with 256 colors, less than 2000
@@ -56,7 +24,9 @@ QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
     QBuffer buffer(&png);
     QImageWriter writer(&buffer, "png");
     // A quarter of the bytes to compress, and none of libpng's search for the best filter.
-    QImage indexed = Indexed(picture);
+    QImage indexed = ColorTable().Indexed(picture);
+    if (indexed.isNull())
+        indexed = picture;
     if (effort == PngEffort::Small && indexed.colorCount() == 2)
         indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
     writer.setText(QStringLiteral("Software"), softwareMark);

@@ -6,6 +6,7 @@
 #define ANIMTEXT_VIDEOFILE_H
 
 #include "film/filmprogram.h"
+#include "film/kinds.h"
 
 #include <QTemporaryFile>
 
@@ -18,37 +19,26 @@ namespace AnimText {
 class VideoFile : public FilmFile
 {
 public:
-    /**
-     * @param kind gif, apng, webp, mp4 or webm
-     * @param patience milliseconds for which ffmpeg may stand still
-     */
-    VideoFile(const QString& path, const QString& kind, const GoOn& goOn,
-              int patience = 5 * 60 * 1000);
+    /** @param patience milliseconds for which ffmpeg may stand still */
+    VideoFile(const QString& path, const FilmKind& kind, const GoOn& goOn,
+              int patience = FilmProgram::longestWait);
 
     bool Open(const FilmFormat& format, QString* error) override;
     bool Add(int frame, const QImage& picture, QString* error) override;
     bool Finish(QString* error) override;
-    QString Remark() const override;
 
 private:
-    bool Start(FilmProgram* program, const QStringList& input, const QStringList& encoding,
-               const QString& muxer, const QTemporaryFile& output, QString* error);
-    bool EncodeSpool(QString* error);
-    bool HalvesColours() const;
-    bool IsSpooled() const;
-    QStringList Encoding() const;
+    QStringList Arguments() const;
     bool Named(bool done, QString* error) const;
 
     QString path;
     QString target; // behind the links of path
-    QString kind;
+    FilmKind kind;
     GoOn goOn;
-    int patience;
     FilmFormat format;
+    Palette palette;
     QTemporaryFile unfinished;
-    QTemporaryFile spool; // every picture, until the palette is known
     FilmProgram encoder;
-    bool coloured = false;
 };
 
 } // namespace AnimText

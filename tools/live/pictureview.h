@@ -13,13 +13,6 @@
 namespace AnimText {
 
 /**
- * Draws the pixels of @p picture, which has no alpha, as round LEDs on black.
- * @param size pixels from LED to LED
- * @param pitch the same in LED diameters, 1 to 4
- */
-QImage AsLamps(const QImage& picture, int size, double pitch);
-
-/**
  * Each pixel of the picture becomes a square or a round LED of a whole number of physical pixels,
  * so that nothing is blurred. Only a picture that must fit into less than its own size is scaled
  * down smoothly. A picture smaller than the widget is centered; a larger one starts at the top
@@ -46,11 +39,10 @@ public:
 
     /**
      * Distance from LED to LED in LED diameters, 1 to 4. 0 shows plain pixels, and so does a scale
-     * below smallestLamp. LEDs are shown on black.
+     * too small for LEDs. LEDs are shown on black.
      */
     double Pitch() const { return pitch; }
     void SetPitch(double pitch);
-    static constexpr int smallestLamp = 4; ///< physical pixels from LED to LED
 
     /**
      * Whether a fitted picture may use the whole widget: below a scale of 4, where a whole number

@@ -1,7 +1,6 @@
 // The studio's window or, with --worker or --export, one of its helper processes.
 #include "studio/window/basics/translating.h"
 #include "studio/window/shell/mainwindow.h"
-#include "studio/worker/exporting.h"
 #include "studio/worker/workermain.h"
 
 #include <QApplication>
@@ -79,8 +78,6 @@ int main(int argc, char** argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--worker") == 0)
         return WorkerMain(argc, argv);
-    if (argc > 1 && qstrcmp(argv[1], "--export") == 0)
-        return ExportMain(argc, argv);
     const bool asksOnly =
         argc > 1 && (qstrcmp(argv[1], "--help") == 0 || qstrcmp(argv[1], "-h") == 0 ||
                      qstrcmp(argv[1], "--version") == 0);

@@ -75,16 +75,16 @@ public:
         setChildProcessModifier(LeaveTerminal);
 #endif
         const QStringList words{QStringLiteral("render"), QStringLiteral("-o"), job.film};
-        setStandardOutputFile(nullDevice());
         start(QCoreApplication::applicationFilePath(),
               words + options + QStringList{QStringLiteral("--"), scene});
     }
 
-    /** Tells what it said. @return whether the film is there */
+    /** Prints what it printed. @return whether the film is there */
     bool Succeeded()
     {
         const QByteArray said = readAllStandardError();
         std::fwrite(said.constData(), 1, size_t(said.size()), stderr);
+        Print(readAllStandardOutput());
         if (exitStatus() == NormalExit && error() != FailedToStart)
             return exitCode() == Done;
         Warn(QStringLiteral("%1: %2").arg(scene, errorString()));
@@ -112,7 +112,7 @@ private:
 int RunJobs(const Batch& batch, QList<Job> jobs)
 {
     constexpr int glance = 20; // milliseconds
-    Progress progress(QStringLiteral("rendering scene"), jobs.size());
+    Progress progress(QStringLiteral("rendering scene"), jobs.size(), batch.progress);
     const int all = jobs.size();
     int failed = 0;
     std::vector<std::unique_ptr<Renderer>> running;
@@ -131,6 +131,7 @@ int RunJobs(const Batch& batch, QList<Job> jobs)
                 ++it;
                 continue;
             }
+            progress.Wipe();
             failed += (*it)->Succeeded() ? 0 : 1;
             it = running.erase(it);
         }

@@ -5,6 +5,8 @@
 #ifndef ANIMTEXT_BATCH_H
 #define ANIMTEXT_BATCH_H
 
+#include "cli/progress.h"
+
 #include <QStringList>
 
 namespace AnimText {
@@ -18,6 +20,7 @@ struct Batch
     QString plugin;      ///< the library that plays
     int jobs = 1;        ///< how many at once
     bool resume = false; ///< leaves films that are newer than what they are made from
+    Progress::Form progress = Progress::Form::Bar;
 };
 
 /**

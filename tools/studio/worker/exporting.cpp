@@ -2,10 +2,45 @@
 
 #include "studio/worker/workerlink.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
+
+#include <cstdio>
 
 namespace AnimText {
 namespace {
+
+/** The program beside the studio, else the one in PATH. */
+QString RenderProgram()
+{
+    const QString name = QStringLiteral("animtext");
+    const QString beside = QFileInfo(WorkerLink::Program()).dir().filePath(name);
+    return QFileInfo(beside).isExecutable() ? beside : name;
+}
+
+QStringList RenderOptions(const ExportSettings& settings)
+{
+    QStringList options{QStringLiteral("-o"), settings.output};
+    if (settings.scale != 1)
+        options += {QStringLiteral("--scale"), QString::number(settings.scale)};
+    if (settings.schedule)
+        options += QStringLiteral("--schedule");
+    if (settings.last >= 0) {
+        options += {QStringLiteral("--frames"),
+                    QStringLiteral("%1-%2").arg(settings.first).arg(settings.last)};
+        // The window shows more than the film has that ends with the last text.
+        if (!settings.schedule)
+            options += {QStringLiteral("--seconds"), QStringLiteral("%1t").arg(settings.last + 1)};
+    }
+    if (settings.pitch > 0)
+        options += QStringLiteral("--leds=%1").arg(settings.pitch);
+    if (settings.transparent)
+        options += QStringLiteral("--transparent");
+    if (settings.lossless)
+        options += QStringLiteral("--lossless");
+    return options;
+}
 
 QString Quoted(QString word)
 {
@@ -18,29 +53,10 @@ QString Quoted(QString word)
 
 } // namespace
 
-QStringList RenderOptions(const ExportWishes& wishes)
-{
-    QStringList options{QStringLiteral("-o"), wishes.output};
-    if (wishes.scale != 1)
-        options += {QStringLiteral("--scale"), QString::number(wishes.scale)};
-    if (wishes.schedule)
-        options += QStringLiteral("--schedule");
-    if (wishes.last >= 0)
-        options += {QStringLiteral("--frames"),
-                    QStringLiteral("%1-%2").arg(wishes.first).arg(wishes.last)};
-    if (wishes.lamps > 0)
-        options += {QStringLiteral("--lamps"), QString::number(wishes.lamps)};
-    if (wishes.transparent)
-        options += QStringLiteral("--transparent");
-    if (wishes.lossless)
-        options += QStringLiteral("--lossless");
-    return options;
-}
-
-QString RenderCommandLine(const QString& scene, const ExportWishes& wishes)
+QString RenderCommandLine(const QString& scene, const ExportSettings& settings)
 {
     QStringList words{QStringLiteral("animtext"), QStringLiteral("render"), Quoted(scene)};
-    for (const QString& option : RenderOptions(wishes))
+    for (const QString& option : RenderOptions(settings))
         words.append(Quoted(option));
     return words.join(QLatin1Char(' '));
 }
@@ -48,10 +64,16 @@ QString RenderCommandLine(const QString& scene, const ExportWishes& wishes)
 Export::Export(QObject* parent)
     : QObject(parent)
 {
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    connect(&process, &QProcess::readyReadStandardOutput, this, &Export::Read);
+    connect(&process, &QProcess::readyReadStandardOutput, this, &Export::ReadProgress);
+    connect(&process, &QProcess::readyReadStandardError, this, &Export::ReadErrors);
     connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &Export::Finish);
+    connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            emit Ended(tr("The program animtext, which makes films, was not found. Install it "
+                          "beside the studio."),
+                       false);
+    });
 }
 
 Export::~Export()
@@ -59,45 +81,67 @@ Export::~Export()
     process.disconnect(this);
     if (!IsRunning())
         return;
-    process.closeWriteChannel();
+    Cancel();
     process.waitForFinished();
 }
 
-void Export::Start(const QString& plugin, const QString& scene, const ExportWishes& wishes)
+void Export::Start(const QString& plugin, const QString& path, const ExportSettings& settings)
 {
-    error.clear();
+    scene = path;
+    complaints.clear();
     cancelled = false;
-    QStringList words{QStringLiteral("--export"), scene};
+    QStringList words{QStringLiteral("render"), scene, QStringLiteral("--progress"),
+                      QStringLiteral("--force"), QStringLiteral("--allow-missing-files")};
     if (!plugin.isEmpty())
         words += {QStringLiteral("--plugin"), plugin};
-    process.start(WorkerLink::Program(), words + RenderOptions(wishes));
+    process.start(RenderProgram(), words + RenderOptions(settings));
 }
 
 void Export::Cancel()
 {
+    if (!cancelled)
+        process.terminate(); // a second time would keep it from tidying up
     cancelled = true;
-    process.closeWriteChannel(); // it ends when nobody wants its film any more
 }
 
-void Export::Read()
+void Export::ReadProgress()
 {
+    static const QRegularExpression step(QStringLiteral("^(\\d+) (\\d+) (.+)$"));
     while (process.canReadLine()) {
         const QString line = QString::fromUtf8(process.readLine()).trimmed();
-        if (line.startsWith(QLatin1String("error ")))
-            error = line.mid(6);
-        else
-            emit Progress(line.section(QLatin1Char(' '), 0, 0).toLongLong(),
-                          line.section(QLatin1Char(' '), 1, 1).toLongLong());
+        const QRegularExpressionMatch match = step.match(line);
+        if (match.hasMatch())
+            emit Progress(match.captured(1).toLongLong(), match.captured(2).toLongLong(),
+                          match.captured(3));
     }
+}
+
+/** What the program says is also for the terminal that the studio was started from. */
+void Export::ReadErrors()
+{
+    const QByteArray said = process.readAllStandardError();
+    std::fwrite(said.constData(), 1, size_t(said.size()), stderr);
+    complaints += said;
+}
+
+/** Why the program failed, in its own words; warnings may come before. */
+QString Export::Complaint() const
+{
+    const QByteArray name("animtext: ");
+    const QList<QByteArray> lines = complaints.trimmed().split('\n');
+    if (process.exitStatus() != QProcess::NormalExit || !lines.last().startsWith(name))
+        return tr("The export ended unexpectedly.");
+    QString complaint = QString::fromLocal8Bit(lines.last().mid(name.size()));
+    complaint.remove(QStringLiteral(" (see animtext help render)"));
+    return complaint.remove(scene + QStringLiteral(": ")); // nobody knows that temporary file
 }
 
 void Export::Finish()
 {
-    Read();
+    ReadProgress();
+    ReadErrors();
     const bool failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
-    if (failed && error.isEmpty())
-        error = tr("the export has ended before its time");
-    emit Ended(failed || cancelled ? error : QString(), cancelled);
+    emit Ended(failed ? Complaint() : QString(), failed && cancelled);
 }
 
 } // namespace AnimText

@@ -1,6 +1,6 @@
 /**
  * @file
- * A film of the sign, made by a process of its own.
+ * A film of the sign, made by "animtext render".
  */
 #ifndef ANIMTEXT_EXPORTING_H
 #define ANIMTEXT_EXPORTING_H
@@ -11,57 +11,53 @@
 
 namespace AnimText {
 
-/** What "animtext render" is asked for. */
-struct ExportWishes
+/** The options of "animtext render" that the studio offers. */
+struct ExportSettings
 {
-    QString output; ///< its ending tells the format; with a slash at its end a folder of PNGs
+    QString output; ///< its ending chooses the format; with a slash at its end a folder of PNGs
     int scale = 1;
     bool schedule = false;
     bool transparent = false;
     bool lossless = false;
-    int first = 0;    ///< picture that the film begins with
-    int last = -1;    ///< that it ends with; negative for the last one
-    double lamps = 0; ///< shows pixels as lamps, so many of their diameters apart; 0 for squares
-
-    /** Whether "animtext render" makes the same. */
-    bool HasCommand() const { return lamps <= 0; }
+    int first = 0;    ///< first picture of the film
+    int last = -1;    ///< last picture; negative for the end of the play
+    double pitch = 0; ///< shows pixels as lamps, that many of their diameters apart; 0 for squares
 };
 
-/** The options of "animtext render" for @p wishes, the output among them. */
-QStringList RenderOptions(const ExportWishes& wishes);
 /** The whole command for a shell. */
-QString RenderCommandLine(const QString& scene, const ExportWishes& wishes);
+QString RenderCommandLine(const QString& scene, const ExportSettings& settings);
 
-/** The process that makes the film; its words are --export SCENE and those options. */
-int ExportMain(int argc, char** argv);
-
-/** The studio's end of it. */
+/** Runs the program. */
 class Export : public QObject
 {
     Q_OBJECT
 
 public:
     explicit Export(QObject* parent = nullptr);
-    /** Breaks off. */
+    /** Cancels. */
     ~Export() override;
 
-    void Start(const QString& plugin, const QString& scene, const ExportWishes& wishes);
+    /** Makes a film of what the window shows of @p scene, whatever mistakes there are in it. */
+    void Start(const QString& plugin, const QString& scene, const ExportSettings& settings);
     bool IsRunning() const { return process.state() != QProcess::NotRunning; }
-    /** What there was of the film goes; Ended() follows. */
+    /** Nothing is left of the film; Ended() follows. */
     void Cancel();
 
 signals:
-    /** @param all 0 while it is not known */
-    void Progress(qint64 done, qint64 all);
+    /** @param total 0 while it is not known; @param stage as the program calls it */
+    void Progress(qint64 done, qint64 total, const QString& stage);
     /** @param error one line; empty when the film is there */
     void Ended(const QString& error, bool cancelled);
 
 private:
-    void Read();
+    void ReadProgress();
+    void ReadErrors();
     void Finish();
+    QString Complaint() const;
 
     QProcess process;
-    QString error;
+    QString scene;
+    QByteArray complaints;
     bool cancelled = false;
 };
 

@@ -1,8 +1,8 @@
 #include "studio/window/shell/exportdialog.h"
 
 #include "files/wholefile.h"
-#include "film/filmfile.h"
-#include "live/pictureview.h"
+#include "film/kinds.h"
+#include "film/lamps.h"
 #include "player/player.h"
 #include "studio/window/basics/style.h"
 
@@ -47,7 +47,7 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     for (const FilmKind& kind : FilmKinds()) {
         const QString ending = QLatin1String(kind.ending);
         format->addItem(ending == QLatin1String("/") ? tr("Folder of PNGs")
-                        : kind.still                 ? tr("PNG, one picture")
+                        : kind.Has(FilmKind::Still)  ? tr("PNG, one picture")
                                                      : ending.mid(1).toUpper(),
                         ending);
     }
@@ -140,12 +140,7 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     connect(browse, &QToolButton::clicked, this, &ExportDialog::Browse);
     connect(start, &QPushButton::clicked, this, &ExportDialog::Begin);
     connect(close, &QPushButton::clicked, this, &ExportDialog::reject);
-    connect(&exporting, &Export::Progress, this, [this](qint64 done, qint64 all) {
-        progress->setRange(0, int(all));
-        progress->setValue(int(done));
-        state->setText(all > 0 ? tr("Picture %1 of %2").arg(done).arg(all)
-                               : tr("Looking for the end: tick %1").arg(done));
-    });
+    connect(&exporting, &Export::Progress, this, &ExportDialog::ShowProgress);
     connect(&exporting, &Export::Ended, this, &ExportDialog::End);
     Refresh();
 }
@@ -155,22 +150,22 @@ void ExportDialog::SetOutput(const QString& path)
     output->setText(path);
 }
 
-ExportWishes ExportDialog::Wishes() const
+ExportSettings ExportDialog::Settings() const
 {
-    ExportWishes wishes;
-    wishes.output = output->text();
-    wishes.scale = scale->value();
-    wishes.first = extent->currentData().toPoint().x();
-    wishes.last = extent->currentData().toPoint().y();
+    ExportSettings settings;
+    settings.output = output->text();
+    settings.scale = scale->value();
+    settings.first = extent->currentData().toPoint().x();
+    settings.last = extent->currentData().toPoint().y();
     if (lamps->isChecked()) {
-        wishes.lamps = view.pitch;
+        settings.pitch = view.pitch;
         // Even, for films that need even sides.
-        wishes.scale = qMax(PictureView::smallestLamp, (wishes.scale + 1) / 2 * 2);
+        settings.scale = qMax(smallestLamp, (settings.scale + 1) / 2 * 2);
     }
-    wishes.schedule = schedule->isChecked();
-    wishes.transparent = transparent->isChecked() && transparent->isEnabled();
-    wishes.lossless = lossless->isChecked() && lossless->isEnabled();
-    return wishes;
+    settings.schedule = schedule->isChecked();
+    settings.transparent = transparent->isChecked() && transparent->isEnabled();
+    settings.lossless = lossless->isChecked() && lossless->isEnabled();
+    return settings;
 }
 
 void ExportDialog::FormatChosen()
@@ -189,7 +184,7 @@ void ExportDialog::ExtentChosen()
     const QPoint range = extent->currentData().toPoint();
     const FilmKind* kind = FilmKindOf(output->text());
     const bool isOne = range.x() == range.y();
-    if (isOne != (kind && kind->still)) {
+    if (isOne != (kind && kind->Has(FilmKind::Still))) {
         format->setCurrentIndex(isOne ? format->findData(QStringLiteral(".png")) : 0);
         FormatChosen();
     }
@@ -199,13 +194,13 @@ void ExportDialog::ExtentChosen()
 /** Size and length of what will be made. */
 void ExportDialog::ShowForecast()
 {
-    const ExportWishes wishes = Wishes();
-    const QSize size = sign.display * wishes.scale;
+    const ExportSettings settings = Settings();
+    const QSize size = sign.display * settings.scale;
     const QString pixels = tr("%1 × %2 px").arg(size.width()).arg(size.height());
-    const int pictures = wishes.last >= 0 ? wishes.last - wishes.first + 1 : view.length;
-    if (wishes.last >= 0 && pictures == 1)
+    const int pictures = settings.last >= 0 ? settings.last - settings.first + 1 : view.length;
+    if (settings.last >= 0 && pictures == 1)
         forecast->setText(pixels);
-    else if (pictures > 0 && (wishes.last >= 0 || schedule->isChecked()))
+    else if (pictures > 0 && (settings.last >= 0 || schedule->isChecked()))
         forecast->setText(
             QStringLiteral("%1 · %2").arg(pixels, SecondsText(qint64(pictures) * tickLength)));
     else if (pictures > 0) // the film lets the last page stand for one hold more
@@ -222,30 +217,27 @@ void ExportDialog::Refresh()
     const int index = kind ? format->findData(QLatin1String(kind->ending)) : -1;
     if (index >= 0)
         format->setCurrentIndex(index);
-    transparent->setEnabled(kind && kind->transparent &&
-                            (!lossless->isChecked() || kind->losslessTransparent));
-    lossless->setEnabled(kind && kind->lossless &&
-                         (!transparent->isChecked() || kind->losslessTransparent));
+    const bool isStill = kind && kind->Has(FilmKind::Still);
+    const bool canBoth = kind && kind->Has(FilmKind::LosslessAlpha);
+    transparent->setEnabled(kind && kind->Has(FilmKind::Transparent) && !lamps->isChecked() &&
+                            (!lossless->isChecked() || canBoth));
+    lossless->setEnabled(kind && kind->Has(FilmKind::Lossless) &&
+                         (!transparent->isChecked() || canBoth));
     transparent->setToolTip(transparent->isEnabled() ? QString()
+                            : lamps->isChecked()     ? tr("LEDs are on black.")
                                                      : tr("Films of this format cannot be."));
     lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
     const QPoint range = extent->currentData().toPoint();
     const bool isOne = range.x() == range.y();
-    const bool suits = kind && kind->still == isOne;
+    const bool suits = isStill == isOne;
     if (kind && !suits && extent->findData(QPoint(view.tick, view.tick)) >= 0)
-        extent->setCurrentIndex(kind->still ? extent->findData(QPoint(view.tick, view.tick)) : 0);
+        extent->setCurrentIndex(isStill ? extent->findData(QPoint(view.tick, view.tick)) : 0);
     ShowForecast();
     start->setText(tr("Export"));
-    start->setEnabled(index >= 0 && (!kind->still || view.tick >= 0) && !sign.texts.isEmpty() &&
+    start->setEnabled(index >= 0 && (!isStill || view.tick >= 0) && !sign.texts.isEmpty() &&
                       !exporting.IsRunning());
-    command->setEnabled(Wishes().HasCommand());
-    command->setToolTip(command->isEnabled() ? QString()
-                                             : tr("Only the studio makes films of lamps."));
-    command->setText(
-        !command->isEnabled()
-            ? QString()
-            : RenderCommandLine(scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath,
-                                Wishes()));
+    command->setText(RenderCommandLine(
+        scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath, Settings()));
     command->setCursorPosition(0);
 }
 
@@ -289,8 +281,18 @@ void ExportDialog::Begin()
     replaced.clear(); // the next film asks again
     Say(tr("Starting"), false);
     close->setText(tr("Cancel"));
-    exporting.Start(plugin, scene.path, Wishes());
     start->setEnabled(false);
+    exporting.Start(plugin, scene.path, Settings());
+}
+
+void ExportDialog::ShowProgress(qint64 done, qint64 total, const QString& stage)
+{
+    progress->setRange(0, int(total));
+    progress->setValue(int(done));
+    state->setText(total == 0 ? tr("Looking for the end: tick %1").arg(done)
+                   : stage == QLatin1String("rendering")
+                       ? tr("Picture %1 of %2").arg(done).arg(total)
+                       : tr("Counting colors: picture %1 of %2").arg(done).arg(total));
 }
 
 void ExportDialog::End(const QString& error, bool cancelled)

@@ -60,13 +60,14 @@ public slots:
     void reject() override;
 
 private:
-    ExportWishes Wishes() const;
+    ExportSettings Settings() const;
     void FormatChosen();
     void Refresh();
     void ShowForecast();
     void ExtentChosen();
     void Say(const QString& words, bool isWarning);
     void Begin();
+    void ShowProgress(qint64 done, qint64 total, const QString& stage);
     void End(const QString& error, bool cancelled);
     void Browse();
 

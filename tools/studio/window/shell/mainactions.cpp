@@ -1,4 +1,5 @@
 // The window's menus, tool bar and keyboard shortcuts.
+#include "film/lamps.h"
 #include "studio/window/basics/style.h"
 #include "studio/window/display/ledsdialog.h"
 #include "studio/window/shell/exportdialog.h"
@@ -368,12 +369,11 @@ void MainWindow::LeaveLampZoom()
 /** Zooms in if LEDs are on and would be too small to see. */
 void MainWindow::KeepLampsInSight()
 {
-    if (!leds->isChecked() || view->Picture().isNull() ||
-        view->Scale() >= PictureView::smallestLamp)
+    if (!leds->isChecked() || view->Picture().isNull() || view->Scale() >= smallestLamp)
         return;
     if (plainZoom < 0)
         plainZoom = view->Zoom();
-    SetZoom(PictureView::smallestLamp);
+    SetZoom(smallestLamp);
 }
 
 void MainWindow::SetPitch(double diameters)

@@ -21,7 +21,7 @@ constexpr int rowHeight = 24;
 constexpr int titleWidth = 128;
 constexpr int rightMargin = 16;
 constexpr int inset = 4;
-constexpr double largestZoom = 64;
+constexpr double deepestZoom = 64;
 constexpr int ticksUnmeasured = 60; // shown while the timing is unknown
 
 double TicksOf(qint64 milliseconds)
@@ -115,7 +115,7 @@ int Timeline::TickAt(double x) const
 void Timeline::SetZoom(double wanted, double x)
 {
     const double tick = (x - titleWidth + horizontalScrollBar()->value()) / zoom;
-    zoom = std::max(1.0, std::min(wanted, largestZoom));
+    zoom = std::max(1.0, std::min(wanted, deepestZoom));
     Adjust();
     horizontalScrollBar()->setValue(int(std::lround(tick * zoom - (x - titleWidth))));
     viewport()->update();
