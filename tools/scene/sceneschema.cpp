@@ -92,7 +92,7 @@ QJsonObject MembersOf(Home home)
         value["title"] = Words(attribute.name);
         const QString unit = *attribute.unit ? "; in " + Words(attribute.unit) : QString();
         value["description"] =
-            QStringLiteral("%1%2. Heeded by: %3.")
+            QStringLiteral("%1%2. Used by: %3.")
                 .arg(Words(attribute.meaning), unit, Words(attribute.use.heededBy));
         if (value.value("type") == QLatin1String("integer") && IsInRange(attribute, 0))
             value["default"] = 0;
@@ -179,7 +179,7 @@ QString Standard(const Attribute& attribute)
 
 QString TableOf(Home home)
 {
-    QString table = QStringLiteral("| key | meaning | unit | range | without it | heeded by |\n"
+    QString table = QStringLiteral("| key | meaning | unit | range | default | used by |\n"
                                    "|---|---|---|---|---|---|\n");
     for (const Attribute& attribute : Attributes()) {
         if (attribute.home == home)

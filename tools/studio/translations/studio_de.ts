@@ -782,23 +782,15 @@
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig:</translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen:</translation>
-    </message>
-    <message>
-        <source>Add &amp;text</source>
-        <translation>&amp;Text hinzufügen</translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Ctrl+T</source>
         <translation>Ctrl+T</translation>
-    </message>
-    <message>
-        <source>Add &amp;page</source>
-        <translation>&amp;Seite hinzufügen</translation>
     </message>
     <message>
         <source>Ctrl+Shift+T</source>
@@ -811,10 +803,6 @@
     <message>
         <source>F2</source>
         <translation>F2</translation>
-    </message>
-    <message>
-        <source>Search &amp;motions</source>
-        <translation>Bewegung &amp;suchen</translation>
     </message>
     <message>
         <source>Ctrl+M</source>
@@ -866,7 +854,7 @@
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>A&amp;bspielen</translation>
+        <translation>Abs&amp;pielen</translation>
     </message>
     <message>
         <source>&amp;Play or stop</source>
@@ -994,7 +982,7 @@
     </message>
     <message>
         <source>Paste &amp;with styles</source>
-        <translation>Mit &amp;Formatierung einfügen</translation>
+        <translation>Mit F&amp;ormatierung einfügen</translation>
     </message>
     <message>
         <source>Ctrl+Shift+V</source>
@@ -1158,7 +1146,7 @@
     </message>
     <message>
         <source>&amp;Checkered background</source>
-        <translation>&amp;Karierter Hintergrund</translation>
+        <translation>Ka&amp;rierter Hintergrund</translation>
     </message>
     <message>
         <source>Show all &amp;areas</source>
@@ -1166,7 +1154,7 @@
     </message>
     <message>
         <source>Show &amp;rulers</source>
-        <translation>&amp;Lineale anzeigen</translation>
+        <translation>L&amp;ineale anzeigen</translation>
     </message>
     <message>
         <source>Play &amp;backward, then faster</source>
@@ -1310,6 +1298,18 @@
     <message>
         <source>All pages: %1</source>
         <translation>Alle Seiten: %1</translation>
+    </message>
+    <message>
+        <source>Add te&amp;xt</source>
+        <translation>&amp;Text hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add pa&amp;ge</source>
+        <translation>&amp;Seite hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Search motions</source>
+        <translation>Bewegun&amp;g suchen</translation>
     </message>
 </context>
 <context>
@@ -1701,10 +1701,6 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>der Neon-Hintergrund mit einem Stil über 28</translation>
     </message>
     <message>
-        <source>authoring tools; on the sign the outlines decide</source>
-        <translation>Werkzeuge zum Schreiben; auf dem Schild entscheiden die Umrisse</translation>
-    </message>
-    <message>
         <source>the whole text, from its first row</source>
         <translation>der ganze Text, aus seiner ersten Zeile</translation>
     </message>
@@ -1733,32 +1729,8 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Rot × 65536 + Grün × 256 + Blau</translation>
     </message>
     <message>
-        <source>The text scrolls; only entrance effects heed this.</source>
-        <translation>Der Text läuft; nur Auftrittseffekte beachten dies.</translation>
-    </message>
-    <message>
-        <source>The text comes in by an entrance effect; only scrolling heeds this.</source>
-        <translation>Der Text kommt mit einem Auftrittseffekt; nur laufender Text beachtet dies.</translation>
-    </message>
-    <message>
-        <source>Gradients and pictures belong to the dazzle background, which is off; the text keeps its color.</source>
-        <translation>Verläufe und Bilder gehören zum Farbspiel-Hintergrund, der aus ist; der Text behält seine Farbe.</translation>
-    </message>
-    <message>
-        <source>The dazzle background shows no gradient.</source>
-        <translation>Der Farbspiel-Hintergrund zeigt keinen Verlauf.</translation>
-    </message>
-    <message>
-        <source>The dazzle background shows no picture.</source>
-        <translation>Der Farbspiel-Hintergrund zeigt kein Bild.</translation>
-    </message>
-    <message>
         <source>The neon background is off.</source>
         <translation>Der Neon-Hintergrund ist aus.</translation>
-    </message>
-    <message>
-        <source>The neon background shows a picture only with a style above 28.</source>
-        <translation>Der Neon-Hintergrund zeigt ein Bild nur mit einem Stil über 28.</translation>
     </message>
     <message>
         <source>The sign paints text without shadows.</source>
@@ -1781,48 +1753,24 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Hohl</translation>
     </message>
     <message>
-        <source>characters are outlined, with nothing inside</source>
-        <translation>Zeichen sind umrandet, mit nichts darin</translation>
-    </message>
-    <message>
         <source>Font</source>
         <translation>Schrift</translation>
-    </message>
-    <message>
-        <source>the family that the outline was made from</source>
-        <translation>die Familie, aus der der Umriss gemacht wurde</translation>
     </message>
     <message>
         <source>Size</source>
         <translation>Größe</translation>
     </message>
     <message>
-        <source>the size that the outline was made in</source>
-        <translation>die Größe, in der der Umriss gemacht wurde</translation>
-    </message>
-    <message>
         <source>Bold</source>
         <translation>Fett</translation>
-    </message>
-    <message>
-        <source>the outline was made bold</source>
-        <translation>der Umriss wurde fett gemacht</translation>
     </message>
     <message>
         <source>Italic</source>
         <translation>Kursiv</translation>
     </message>
     <message>
-        <source>the outline was made slanted</source>
-        <translation>der Umriss wurde schräg gemacht</translation>
-    </message>
-    <message>
         <source>Underline</source>
         <translation>Unterstrichen</translation>
-    </message>
-    <message>
-        <source>the outline has a bar under it</source>
-        <translation>der Umriss hat einen Strich unter sich</translation>
     </message>
     <message>
         <source>Color</source>
@@ -1835,10 +1783,6 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     <message>
         <source>Width</source>
         <translation>Breite</translation>
-    </message>
-    <message>
-        <source>how far the next character stands to the right</source>
-        <translation>wie weit rechts das nächste Zeichen steht</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1866,15 +1810,11 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     </message>
     <message>
         <source>Stroke</source>
-        <translation>Rand</translation>
-    </message>
-    <message>
-        <source>asks for an outline in a color of its own</source>
-        <translation>verlangt einen Umriss in eigener Farbe</translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>Stroke color</source>
-        <translation>Randfarbe</translation>
+        <translation>Konturfarbe</translation>
     </message>
     <message>
         <source>the color of that outline</source>
@@ -1885,24 +1825,12 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Schatten</translation>
     </message>
     <message>
-        <source>asks for a shadow</source>
-        <translation>verlangt einen Schatten</translation>
-    </message>
-    <message>
         <source>Kind of shadow</source>
-        <translation>Art des Schattens</translation>
-    </message>
-    <message>
-        <source>how the shadow would be</source>
-        <translation>wie der Schatten wäre</translation>
+        <translation>Schattenart</translation>
     </message>
     <message>
         <source>Motion</source>
         <translation>Bewegung</translation>
-    </message>
-    <message>
-        <source>how the text comes to be seen</source>
-        <translation>wie der Text zu sehen kommt</translation>
     </message>
     <message>
         <source>Effect</source>
@@ -1917,40 +1845,16 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Tempo</translation>
     </message>
     <message>
-        <source>the speed of the entrance effect, 9 the fastest</source>
-        <translation>das Tempo des Auftrittseffekts, 9 ist das schnellste</translation>
-    </message>
-    <message>
         <source>Direction</source>
         <translation>Richtung</translation>
-    </message>
-    <message>
-        <source>where the text scrolls to</source>
-        <translation>wohin der Text läuft</translation>
     </message>
     <message>
         <source>Scroll speed</source>
         <translation>Lauftempo</translation>
     </message>
     <message>
-        <source>the speed of scrolling, 9 the fastest</source>
-        <translation>das Tempo des laufenden Textes, 9 ist das schnellste</translation>
-    </message>
-    <message>
-        <source>how often the whole text is shown</source>
-        <translation>wie oft der ganze Text gezeigt wird</translation>
-    </message>
-    <message>
-        <source>how long each page stands still once it has come in</source>
-        <translation>wie lange jede Seite steht, wenn sie da ist</translation>
-    </message>
-    <message>
         <source>Type</source>
         <translation>Typ</translation>
-    </message>
-    <message>
-        <source>which plugin shows it</source>
-        <translation>welches Plugin ihn zeigt</translation>
     </message>
     <message>
         <source>Position</source>
@@ -1969,24 +1873,12 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Farbspiel</translation>
     </message>
     <message>
-        <source>colors travel behind the text</source>
-        <translation>Farben ziehen hinter dem Text</translation>
-    </message>
-    <message>
         <source>Gradient</source>
         <translation>Verlauf</translation>
     </message>
     <message>
-        <source>the colors flow into one another</source>
-        <translation>die Farben fließen ineinander</translation>
-    </message>
-    <message>
         <source>Kind of gradient</source>
-        <translation>Art des Verlaufs</translation>
-    </message>
-    <message>
-        <source>which way the colors flow</source>
-        <translation>wie die Farben fließen</translation>
+        <translation>Verlaufsart</translation>
     </message>
     <message>
         <source>Picture</source>
@@ -2017,16 +1909,8 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Neonstil</translation>
     </message>
     <message>
-        <source>the style of the lights: up to 28 borders that are drawn, above them a picture</source>
-        <translation>der Stil der Lichter: bis 28 gezeichnete Ränder, darüber ein Bild</translation>
-    </message>
-    <message>
         <source>Neon picture</source>
         <translation>Neonbild</translation>
-    </message>
-    <message>
-        <source>the moving picture of the neon background</source>
-        <translation>das bewegte Bild des Neon-Hintergrunds</translation>
     </message>
     <message>
         <source>entrance effect</source>
@@ -2034,31 +1918,31 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     </message>
     <message>
         <source>left</source>
-        <translation>links</translation>
+        <translation>nach links</translation>
     </message>
     <message>
         <source>right</source>
-        <translation>rechts</translation>
+        <translation>nach rechts</translation>
     </message>
     <message>
         <source>up</source>
-        <translation>hinauf</translation>
+        <translation>nach oben</translation>
     </message>
     <message>
         <source>down</source>
-        <translation>hinunter</translation>
+        <translation>nach unten</translation>
     </message>
     <message>
         <source>linear</source>
-        <translation>gerade</translation>
+        <translation>linear</translation>
     </message>
     <message>
         <source>radial</source>
-        <translation>rund</translation>
+        <translation>radial</translation>
     </message>
     <message>
         <source>conical</source>
-        <translation>kegelförmig</translation>
+        <translation>konisch</translation>
     </message>
     <message>
         <source>any whole number</source>
@@ -2083,6 +1967,122 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
+    </message>
+    <message>
+        <source>authoring tools; the sign uses the outlines</source>
+        <translation>Werkzeuge zum Gestalten; das Schild nutzt die Umrisse</translation>
+    </message>
+    <message>
+        <source>Applies only to entrance effects; this text scrolls.</source>
+        <translation>Gilt nur für Auftrittseffekte; dieser Text läuft.</translation>
+    </message>
+    <message>
+        <source>Applies only to scrolling; this text has an entrance effect.</source>
+        <translation>Gilt nur für laufenden Text; dieser Text hat einen Auftrittseffekt.</translation>
+    </message>
+    <message>
+        <source>Applies only to the dazzle background, which is off; the text keeps its color.</source>
+        <translation>Gilt nur für den Farbspiel-Hintergrund, der aus ist; der Text behält seine Farbe.</translation>
+    </message>
+    <message>
+        <source>The gradient is off.</source>
+        <translation>Der Verlauf ist aus.</translation>
+    </message>
+    <message>
+        <source>The picture is off.</source>
+        <translation>Das Bild ist aus.</translation>
+    </message>
+    <message>
+        <source>Only styles above 28 show a picture.</source>
+        <translation>Nur Stile über 28 zeigen ein Bild.</translation>
+    </message>
+    <message>
+        <source>the plugin that shows the text</source>
+        <translation>das Plugin, das den Text zeigt</translation>
+    </message>
+    <message>
+        <source>only the outlines of the characters are painted</source>
+        <translation>nur die Umrisse der Zeichen werden gemalt</translation>
+    </message>
+    <message>
+        <source>the font family of the outline</source>
+        <translation>die Schriftfamilie des Umrisses</translation>
+    </message>
+    <message>
+        <source>the font size of the outline</source>
+        <translation>die Schriftgröße des Umrisses</translation>
+    </message>
+    <message>
+        <source>the outline is bold</source>
+        <translation>der Umriss ist fett</translation>
+    </message>
+    <message>
+        <source>the outline is italic</source>
+        <translation>der Umriss ist kursiv</translation>
+    </message>
+    <message>
+        <source>the outline is underlined</source>
+        <translation>der Umriss ist unterstrichen</translation>
+    </message>
+    <message>
+        <source>the distance to the next character</source>
+        <translation>der Abstand zum nächsten Zeichen</translation>
+    </message>
+    <message>
+        <source>requests an outline in another color</source>
+        <translation>verlangt einen Umriss in anderer Farbe</translation>
+    </message>
+    <message>
+        <source>requests a shadow</source>
+        <translation>verlangt einen Schatten</translation>
+    </message>
+    <message>
+        <source>the kind of that shadow</source>
+        <translation>die Art dieses Schattens</translation>
+    </message>
+    <message>
+        <source>how the text appears</source>
+        <translation>wie der Text erscheint</translation>
+    </message>
+    <message>
+        <source>the speed of the entrance effect; 9 is fastest</source>
+        <translation>das Tempo des Auftrittseffekts; 9 ist am schnellsten</translation>
+    </message>
+    <message>
+        <source>the direction of scrolling</source>
+        <translation>die Laufrichtung</translation>
+    </message>
+    <message>
+        <source>the speed of scrolling; 9 is fastest</source>
+        <translation>das Tempo des laufenden Textes; 9 ist am schnellsten</translation>
+    </message>
+    <message>
+        <source>how many times the whole text is shown</source>
+        <translation>wie oft der ganze Text gezeigt wird</translation>
+    </message>
+    <message>
+        <source>how long each page stays after its entrance</source>
+        <translation>wie lange jede Seite nach ihrem Auftritt stehen bleibt</translation>
+    </message>
+    <message>
+        <source>colors move behind the text</source>
+        <translation>Farben ziehen hinter dem Text vorbei</translation>
+    </message>
+    <message>
+        <source>the colors blend into each other</source>
+        <translation>die Farben gehen ineinander über</translation>
+    </message>
+    <message>
+        <source>the shape of the gradient</source>
+        <translation>die Form des Verlaufs</translation>
+    </message>
+    <message>
+        <source>the style of the lights: up to 28, drawn borders; above, a picture</source>
+        <translation>der Stil der Lichter: bis 28 gezeichnete Ränder, darüber ein Bild</translation>
+    </message>
+    <message>
+        <source>the animated picture of the neon background</source>
+        <translation>das animierte Bild des Neon-Hintergrunds</translation>
     </message>
 </context>
 <context>

@@ -106,9 +106,9 @@ void MainWindow::MakeEditMenu()
             inspector->Text()->Editor()->PasteWithStyles();
     });
     edit->addSeparator();
-    QAction* add = Act(edit, tr("Add &text"), QKeySequence(tr("Ctrl+T")),
+    QAction* add = Act(edit, tr("Add te&xt"), QKeySequence(tr("Ctrl+T")),
                        QStringLiteral("list-add"), [this] { AddNewText(false); });
-    QAction* addPage = Act(edit, tr("Add &page"), QKeySequence(tr("Ctrl+Shift+T")),
+    QAction* addPage = Act(edit, tr("Add pa&ge"), QKeySequence(tr("Ctrl+Shift+T")),
                            QStringLiteral("list-add"), [this] { AddNewText(true); });
     Act(edit, tr("&Duplicate"), QKeySequence(tr("Ctrl+D")), QString(),
         [this] { DuplicateSelected(); });
@@ -121,7 +121,7 @@ void MainWindow::MakeEditMenu()
     edit->addSeparator();
     Act(edit, tr("&Edit text"), QKeySequence(tr("F2")), QString(),
         [this] { inspector->Text()->BeginTyping(); });
-    Act(edit, tr("Search &motions"), QKeySequence(tr("Ctrl+M")), QString(), [this] {
+    Act(edit, tr("&Search motions"), QKeySequence(tr("Ctrl+M")), QString(), [this] {
         inspector->ensureWidgetVisible(inspector->Motions());
         inspector->Motions()->Search()->setFocus();
     });
