@@ -79,11 +79,15 @@ Options:
   $ animtext trace one.json -ticks 3
   ! animtext: unknown option -ticks; did you mean --ticks? (see animtext help trace)
   [2]
+  $ animtext author -o a.json --text --dazzle | cut -d ' ' -f 2 # a value may look like an option
+  8
+  $ animtext author -o a.json --text -text | cut -d ' ' -f 2
+  5
   $ animtext trace one.json -x
   ! animtext: unknown option -x (see animtext help trace)
   [2]
   $ animtext trace one.json --ticks
-  ! animtext: --ticks takes N, which is missing (see animtext help trace)
+  ! animtext: Missing value after '--ticks' (see animtext help trace)
   [2]
   $ animtext trace one.json --ticks many
   ! animtext: --ticks takes a whole number from 0 to 1000000000, not "many" (see animtext help trace)
@@ -95,7 +99,7 @@ Options:
   ! animtext: --ticks takes a whole number from 0 to 1000000000, not "1000000001" (see animtext help trace)
   [2]
   $ animtext trace one.json --calls=yes
-  ! animtext: --calls takes no value, not "yes" (see animtext help trace)
+  ! animtext: Unexpected value after '--calls' (see animtext help trace)
   [2]
   $ animtext trace one.json --seed -1
   ! animtext: --seed takes a whole number from 0 to 2147483647, not "-1" (see animtext help trace)

@@ -93,6 +93,8 @@ const QVector<Command>& Commands()
                      Help,
                      CommandNames()};
         commands.append(help);
+        for (Command& command : commands)
+            command.options.append(Option::Flag("help", "Shows this help.").Letter('h'));
     }
     return commands;
 }

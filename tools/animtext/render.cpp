@@ -197,9 +197,9 @@ void RenderMany(const CommandLine& line, const QString& folder)
                                       QStringLiteral("progress")};
         if (!line.IsSet(option.name) || ours.contains(name))
             continue;
-        const QString value = QLatin1Char('=') + line.Value(option.name);
-        batch.options.append(QStringLiteral("--") + name +
-                             (option.kind == Kind::Flag ? QString() : value));
+        batch.options.append(QStringLiteral("--") + name);
+        if (option.kind != Kind::Flag)
+            batch.options.last() += QLatin1Char('=') + line.Value(option.name);
     }
     RenderAll(batch);
 }

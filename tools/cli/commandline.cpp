@@ -7,102 +7,77 @@ namespace AnimText {
 
 namespace {
 
-/** The option of that name; null for none. */
+/** The option of that name, or null. */
 const Option* FindOption(const Command& command, const QString& name)
 {
     for (const Option& option : command.options) {
         if (name == QLatin1String(option.name))
             return &option;
     }
-    return name == QLatin1String(HelpOption().name) ? &HelpOption() : nullptr;
+    return nullptr;
 }
 
-QStringList LongNames(const Command& command)
+Misuse UnknownOption(const Command& command, const QString& word)
 {
-    QStringList names{QStringLiteral("--help")};
+    QStringList names;
     for (const Option& option : command.options)
         names.append(QStringLiteral("--") + QLatin1String(option.name));
-    return names;
+    const QString meant = word.startsWith(QLatin1String("--")) ? word : QLatin1Char('-') + word;
+    return {QStringLiteral("unknown option %1%2").arg(word, DidYouMean(meant, names))};
+}
+
+/**
+ * @p words with the values of options that were given without one, for which Qt has no means.
+ * Refuses names after a single dash, which Qt would take for a letter and its value.
+ */
+QStringList WithLoneValues(const Command& command, QStringList words)
+{
+    for (int i = 0; i < words.size() && words.at(i) != QLatin1String("--"); ++i) {
+        const bool isLong = words.at(i).startsWith(QLatin1String("--"));
+        const Option* option = isLong ? FindOption(command, words.at(i).mid(2)) : nullptr;
+        const bool isAlone = i + 1 == words.size() || words.at(i + 1).startsWith(QLatin1Char('-'));
+        if (option && option->alone && isAlone)
+            words[i] += QLatin1Char('=') + QLatin1String(option->alone);
+        else if (option && option->kind != Kind::Flag)
+            ++i;
+        else if (words.at(i).startsWith(QLatin1Char('-')) &&
+                 FindOption(command, words.at(i).mid(1)))
+            throw UnknownOption(command, words.at(i));
+    }
+    return words;
 }
 
 } // namespace
 
-const Option& HelpOption()
-{
-    static const Option help = Option::Flag("help", "Shows this help.").Letter('h');
-    return help;
-}
-
 CommandLine::CommandLine(const Command& command, const QStringList& words)
     : command(command)
 {
-    QStringList rest = words;
-    bool optionsMayCome = true;
-    while (!rest.isEmpty() && !IsSet("help")) {
-        const QString word = rest.takeFirst();
-        if (optionsMayCome && word == QLatin1String("--"))
-            optionsMayCome = false;
-        else if (optionsMayCome && word.startsWith(QLatin1String("--")))
-            ReadLong(word, &rest);
-        else if (optionsMayCome && word.startsWith(QLatin1Char('-')) && word.size() > 1)
-            ReadShort(word, &rest);
-        else
-            arguments.append(word);
+    for (const Option& option : command.options) {
+        QStringList names{QLatin1String(option.name)};
+        if (option.letter)
+            names.append(QString(QLatin1Char(option.letter)));
+        parser.addOption(
+            {names, QString(), QLatin1String(option.value), QString::fromUtf8(option.standard)});
     }
-    if (!IsSet("help"))
-        Require();
-}
-
-void CommandLine::ReadLong(const QString& word, QStringList* rest)
-{
-    const int sign = word.indexOf(QLatin1Char('='));
-    const QString name = word.mid(2, sign < 0 ? -1 : sign - 2);
-    const Option* option = FindOption(command, name);
-    if (!option)
-        throw Misuse{QStringLiteral("unknown option --%1%2")
-                         .arg(name, DidYouMean(QStringLiteral("--") + name, LongNames(command)))};
-    Take(*option, sign >= 0, word.mid(sign + 1), rest);
-}
-
-void CommandLine::ReadShort(const QString& word, QStringList* rest)
-{
-    const bool isLongName = word.size() > 2 && FindOption(command, word.mid(1));
-    for (const Option& option : command.options + QVector<Option>{HelpOption()}) {
-        if (option.letter && word.at(1) == QLatin1Char(option.letter) && !isLongName) {
-            Take(option, word.size() > 2, word.mid(2), rest);
-            return;
-        }
-    }
-    throw Misuse{QStringLiteral("unknown option %1%2")
-                     .arg(word, DidYouMean(QLatin1Char('-') + word, LongNames(command)))};
-}
-
-void CommandLine::Take(const Option& option, bool hasValue, const QString& value, QStringList* rest)
-{
-    const QString name = QLatin1String(option.name);
-    if (option.kind == Kind::Flag) {
-        if (hasValue)
-            throw Misuse{QStringLiteral("--%1 takes no value, not \"%2\"").arg(name, value)};
-        given[name] = QStringList{QString()};
+    const bool isRead = parser.parse(QStringList{QString()} + WithLoneValues(command, words));
+    if (IsSet("help"))
         return;
+    const QString unknown = parser.unknownOptionNames().value(0);
+    if (!unknown.isEmpty())
+        throw UnknownOption(command, QLatin1String(unknown.size() == 1 ? "-" : "--") + unknown);
+    if (!isRead)
+        throw Misuse{parser.errorText().remove(QLatin1Char('.'))};
+    for (const Option& option : command.options) {
+        for (const QString& value : option.kind == Kind::Flag ? QStringList() : Values(option.name))
+            CheckValue(option, value);
     }
-    const bool follows =
-        !rest->isEmpty() && !(option.alone && rest->first().startsWith(QLatin1Char('-')));
-    QString taken = value;
-    if (!hasValue && follows)
-        taken = rest->takeFirst();
-    else if (!hasValue && option.alone)
-        taken = QLatin1String(option.alone);
-    else if (!hasValue)
-        throw Misuse{QStringLiteral("--%1 takes %2, which is missing")
-                         .arg(name, QLatin1String(option.value))};
-    CheckValue(option, taken);
-    given[name].append(taken);
+    Require();
 }
 
 void CommandLine::Require() const
 {
     const QString shown = QLatin1String(command.arguments);
+    const QStringList arguments = Arguments();
     if (arguments.size() > command.most)
         throw Misuse{QStringLiteral("\"%1\" is one word too many").arg(arguments.at(command.most))};
     if (arguments.size() < command.least)
@@ -116,62 +91,51 @@ void CommandLine::Require() const
     }
 }
 
-const Option& CommandLine::Find(const QString& name) const
+const Option& CommandLine::Find(const char* name) const
 {
-    const Option* option = FindOption(command, name);
-    Q_ASSERT_X(option, "CommandLine", qPrintable(name));
+    const Option* option = FindOption(command, QLatin1String(name));
+    Q_ASSERT_X(option, "CommandLine", name);
     return *option;
-}
-
-QString CommandLine::Value(const char* option) const
-{
-    const QString name = QLatin1String(option);
-    return given.contains(name) ? given.value(name).last() : QString::fromUtf8(Find(name).standard);
-}
-
-QStringList CommandLine::Values(const char* option) const
-{
-    return given.value(QLatin1String(option));
 }
 
 int CommandLine::Number(const char* option) const
 {
-    return ToNumber(Find(QLatin1String(option)), Value(option));
+    return ToNumber(Find(option), Value(option));
 }
 
 double CommandLine::Fraction(const char* option) const
 {
-    return ToFraction(Find(QLatin1String(option)), Value(option));
+    return ToFraction(Find(option), Value(option));
 }
 
 double CommandLine::Time(const char* option) const
 {
-    return ToMilliseconds(Find(QLatin1String(option)), Value(option));
+    return ToMilliseconds(Find(option), Value(option));
 }
 
 QSize CommandLine::Size(const char* option) const
 {
-    return ToSize(Find(QLatin1String(option)), Value(option));
+    return ToSize(Find(option), Value(option));
 }
 
 QPoint CommandLine::Point(const char* option) const
 {
-    return ToPoint(Find(QLatin1String(option)), Value(option));
+    return ToPoint(Find(option), Value(option));
 }
 
 QColor CommandLine::Color(const char* option) const
 {
-    return ToColor(Find(QLatin1String(option)), Value(option));
+    return ToColor(Find(option), Value(option));
 }
 
 QPair<int, int> CommandLine::Range(const char* option) const
 {
-    return ToRange(Find(QLatin1String(option)), Value(option));
+    return ToRange(Find(option), Value(option));
 }
 
 int CommandLine::Choice(const char* option) const
 {
-    return ToChoice(Find(QLatin1String(option)), Value(option));
+    return ToChoice(Find(option), Value(option));
 }
 
 } // namespace AnimText

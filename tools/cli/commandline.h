@@ -1,6 +1,6 @@
 /**
  * @file
- * The words of a command, read as its table of options says.
+ * Reads the words of a command.
  */
 #ifndef ANIMTEXT_COMMANDLINE_H
 #define ANIMTEXT_COMMANDLINE_H
@@ -9,7 +9,7 @@
 #include "cli/output.h"
 
 #include <QColor>
-#include <QMap>
+#include <QCommandLineParser>
 #include <QPoint>
 #include <QSize>
 #include <QString>
@@ -18,29 +18,29 @@
 namespace AnimText {
 
 /**
- * The options that were given, checked, and the command's arguments. Names of options are those of
- * the table; where an option was not given, its standard counts. An option that has none must be
- * asked for with IsSet() first.
+ * The options that were given, checked, and the command's arguments. Options are named as in the
+ * command's table. One that was not given has its default; where it has no default, ask IsSet()
+ * first.
  */
 class CommandLine
 {
 public:
     /**
-     * Reads the words that follow the command's name. Throws Misuse unless they are what the table
-     * says; after --help, which is an option of every command, the others are not looked at.
+     * Reads the words after the command's name. Throws Misuse unless they are what @p command
+     * expects. Words beside --help are not checked.
      */
     CommandLine(const Command& command, const QStringList& words);
 
-    bool IsSet(const char* option) const { return given.contains(QLatin1String(option)); }
-    QString Value(const char* option) const;
-    /** All that were given, of an option that may be repeated. */
-    QStringList Values(const char* option) const;
-    /** The words that belong to no option. */
-    QStringList Arguments() const { return arguments; }
+    bool IsSet(const char* option) const { return parser.isSet(QLatin1String(option)); }
+    /** The last value that was given. */
+    QString Value(const char* option) const { return parser.value(QLatin1String(option)); }
+    QStringList Values(const char* option) const { return parser.values(QLatin1String(option)); }
+    /** The words that are neither options nor their values. */
+    QStringList Arguments() const { return parser.positionalArguments(); }
 
     int Number(const char* option) const;
     double Fraction(const char* option) const;
-    /** In milliseconds. */
+    /** Milliseconds. */
     double Time(const char* option) const;
     QSize Size(const char* option) const;
     QPoint Point(const char* option) const;
@@ -51,19 +51,12 @@ public:
     int Choice(const char* option) const;
 
 private:
-    const Option& Find(const QString& name) const;
-    void ReadLong(const QString& word, QStringList* rest);
-    void ReadShort(const QString& word, QStringList* rest);
-    void Take(const Option& option, bool hasValue, const QString& value, QStringList* rest);
+    const Option& Find(const char* name) const;
     void Require() const;
 
     const Command& command;
-    QMap<QString, QStringList> given; // by the option's name; the last one counts
-    QStringList arguments;
+    QCommandLineParser parser;
 };
-
-/** --help, which every command has. */
-const Option& HelpOption();
 
 } // namespace AnimText
 

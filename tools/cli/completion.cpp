@@ -1,7 +1,5 @@
 #include "cli/help.h"
 
-#include "cli/commandline.h"
-
 namespace AnimText {
 
 namespace {
@@ -17,11 +15,6 @@ QStringList OptionWords(const Option& option)
     if (option.letter)
         names.append(ShortestName(option));
     return names;
-}
-
-QVector<Option> AllOptions(const Command& command)
-{
-    return command.options + QVector<Option>{HelpOption()};
 }
 
 /** In single quotes, as every shell reads them. */
@@ -46,7 +39,7 @@ QByteArray CompletionForBash(const QVector<Command>& commands)
     QByteArray words;
     for (const Command& command : commands) {
         QStringList names;
-        for (const Option& option : AllOptions(command)) {
+        for (const Option& option : command.options) {
             names += OptionWords(option);
             if (option.kind == Kind::Flag)
                 continue;
@@ -99,7 +92,7 @@ QByteArray CompletionForZsh(const QVector<Command>& commands)
     for (const Command& command : commands) {
         summaries += "        " + Quoted(plain(command.name) + ':' + command.summary) + '\n';
         cases += "        " + QByteArray(command.name) + ") _arguments";
-        for (const Option& option : AllOptions(command)) {
+        for (const Option& option : command.options) {
             const QByteArray action = option.kind == Kind::File ? "_files"
                                       : option.choices.isEmpty()
                                           ? " "
@@ -154,7 +147,7 @@ QByteArray CompletionForFish(const QVector<Command>& commands)
                 quoted(command.summary) + '\n';
         const QByteArray here =
             "complete -c animtext -n '__fish_seen_subcommand_from " + name + "' ";
-        for (const Option& option : AllOptions(command)) {
+        for (const Option& option : command.options) {
             text += here + "-l " + option.name;
             if (option.letter)
                 text += QByteArray(" -s ") + option.letter;

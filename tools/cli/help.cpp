@@ -1,7 +1,5 @@
 #include "cli/help.h"
 
-#include "cli/commandline.h"
-
 #include <algorithm>
 
 namespace AnimText {
@@ -63,14 +61,13 @@ QByteArray HelpText(const Command& command)
                 QStringLiteral(" %1 %2").arg(ShortestName(option), QLatin1String(option.value));
     }
     usage += QStringLiteral(" [options] ") + QLatin1String(command.arguments);
-    const QVector<Option> options = command.options + QVector<Option>{HelpOption()};
     int width = 0;
-    for (const Option& option : options)
+    for (const Option& option : command.options)
         width = std::max(width, int(Names(option).size()) + 2);
 
     QString text = QStringLiteral("%1\n%2\n\nOptions:\n")
                        .arg(usage.trimmed(), Wrapped(QString::fromUtf8(command.description), 0));
-    for (const Option& option : options) {
+    for (const Option& option : command.options) {
         QString help = QString::fromUtf8(option.help);
         if (option.standard)
             help += QStringLiteral(" [%1]").arg(QString::fromUtf8(option.standard));

@@ -1,6 +1,6 @@
 #include "cli/manual.h"
 
-#include "cli/commandline.h"
+#include "cli/output.h"
 #include "files/wholefile.h"
 
 #include <QDir>
@@ -46,8 +46,7 @@ QByteArray Synopsis(const Command& command)
         if (option.isRequired)
             text += ' ' + Bold(ShortestName(option).toUtf8()) + ' ' + Italic(option.value);
     }
-    if (!command.options.isEmpty())
-        text += " [options]";
+    text += " [options]";
     if (*command.arguments)
         text += ' ' + Italic(command.arguments);
     return text + '\n';
@@ -128,7 +127,7 @@ QByteArray ManualPage(const Command& command)
                       ".SH DESCRIPTION\n" + Plain(command.description) + "\n.SH OPTIONS\n";
     for (const Option& option : command.options)
         text += Item(option);
-    return text + Item(HelpOption()) + References({"animtext"});
+    return text + References({"animtext"});
 }
 
 void WriteManual(const QVector<Command>& commands, const QString& folder)
