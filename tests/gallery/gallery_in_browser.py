@@ -142,7 +142,7 @@ class Gallery(unittest.TestCase):
             self.assertIn(motion, self.script(visible))
             self.assertLess(len(self.script(visible)), 4)
         search.clear()
-        search.send_keys("drop tilted bounce")
+        search.send_keys("fall tilted bounce")
         self.assertEqual(["Effect45DegreeAngleDrop"], self.script(visible))
         search.clear()
         self.script("const f = document.getElementById('family'); f.value = 'frogs';"

@@ -136,7 +136,7 @@ private slots:
             QCOMPARE(screen.pixel(corner), qRgb(1, 2, 3));
             QCOMPARE(screen.pixel(corner + QPoint(1, 1)), qRgb(1, 2, 3));
         }
-        view.SetBeneath(PictureView::Beneath::Chequered);
+        view.SetBackdrop(PictureView::Backdrop::Checkered);
         QVERIFY(qRed(view.GrabPicture().pixel(0, 0)) > 100);
         QCOMPARE(view.GrabPicture().pixel(63, 16), qRgb(1, 2, 3));
         view.SetDimmed(true);

@@ -340,17 +340,17 @@ private slots:
                     continue;
                 const bool differs = Played(changed) != before;
                 QString why;
-                if (IsHeeded(attribute, node, &why) && differs)
+                if (IsUsed(attribute, node, &why) && differs)
                     effective.insert(&attribute);
                 else
                     QVERIFY2(!differs, qPrintable(key + ": " + why));
-                QCOMPARE(why.isEmpty(), IsHeeded(attribute, node));
+                QCOMPARE(why.isEmpty(), IsUsed(attribute, node));
             }
         }
         for (const Attribute& attribute : Attributes())
             if (attribute.home == Home::Attributes || attribute.home == Home::Files)
                 QVERIFY2(effective.contains(&attribute) || attribute.key == QString("Text") ||
-                             attribute.use.heededBy == QString("nothing"),
+                             attribute.use.usedBy == QString("nothing"),
                          attribute.key);
     }
 

@@ -111,6 +111,7 @@ QJsonObject ToJson(const GalleryEntry& entry)
             {QStringLiteral("title"), QLatin1String(entry.motion->title)},
             {QStringLiteral("family"), QLatin1String(entry.motion->family)},
             {QStringLiteral("summary"), QLatin1String(entry.motion->summary)},
+            {QStringLiteral("synonyms"), QLatin1String(entry.motion->synonyms)},
             {QStringLiteral("option"), entry.option},
             {QStringLiteral("speeds"), speeds}};
 }

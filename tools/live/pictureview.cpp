@@ -35,7 +35,7 @@ QRect Difference(const QImage& one, const QImage& other)
     return top == one.height() ? QRect() : QRect(0, top, one.width(), bottom - top + 1);
 }
 
-QBrush Chequers(double ratio)
+QBrush Checkers(double ratio)
 {
     const int side = std::max(1, int(std::lround(checker * ratio)));
     QImage tile(2 * side, 2 * side, QImage::Format_RGB32);
@@ -90,9 +90,9 @@ void PictureView::SetFillsRoom(bool fills)
     LookChanged();
 }
 
-void PictureView::SetBeneath(Beneath wanted)
+void PictureView::SetBackdrop(Backdrop wanted)
 {
-    beneath = wanted;
+    backdrop = wanted;
     update();
 }
 
@@ -195,8 +195,8 @@ void PictureView::Paint(QPainter* painter) const
     painter->fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * ratio), surroundings);
     if (picture.isNull() || place.isEmpty())
         return;
-    painter->fillRect(place, beneath == Beneath::Chequered && !ShowsLamps() ? Chequers(ratio)
-                                                                            : QBrush(Qt::black));
+    painter->fillRect(place, backdrop == Backdrop::Checkered && !ShowsLamps() ? Checkers(ratio)
+                                                                              : QBrush(Qt::black));
     if (Scale() < 1) {
         painter->drawImage(place.topLeft(), pixels.scaled(place.size(), Qt::IgnoreAspectRatio,
                                                           Qt::SmoothTransformation));

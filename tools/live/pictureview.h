@@ -23,7 +23,7 @@ class PictureView : public QWidget
     Q_OBJECT
 
 public:
-    enum class Beneath { Black, Chequered };
+    enum class Backdrop { Black, Checkered };
 
     explicit PictureView(QWidget* parent = nullptr);
 
@@ -50,7 +50,7 @@ public:
      */
     void SetFillsRoom(bool fills);
 
-    void SetBeneath(Beneath beneath);
+    void SetBackdrop(Backdrop backdrop);
     /** The color around the picture; next to gray, colors are judged correctly. */
     void SetSurroundings(const QColor& color);
     /** Marks a picture that is out of date. */
@@ -90,7 +90,7 @@ private:
     QImage picture;
     QImage pixels; // the picture on its background
     QColor surroundings;
-    Beneath beneath = Beneath::Black;
+    Backdrop backdrop = Backdrop::Black;
     int zoom = 0;
     double pitch = 0;
     double lastScale = 0;

@@ -108,14 +108,13 @@ bool IsInRange(const Attribute& attribute, int value)
     return value >= attribute.least && value <= attribute.most;
 }
 
-bool IsHeeded(const Attribute& attribute, const SceneNode& node, QString* why)
+bool IsUsed(const Attribute& attribute, const SceneNode& node, QString* why)
 {
-    const bool isHeeded =
-        std::all_of(std::begin(attribute.use.needs), std::end(attribute.use.needs),
-                    [&](const Need& need) { return Holds(need, node); });
-    if (!isHeeded && why)
-        *why = Translated(attribute.use.elseSaid);
-    return isHeeded;
+    const bool isUsed = std::all_of(std::begin(attribute.use.needs), std::end(attribute.use.needs),
+                                    [&](const Need& need) { return Holds(need, node); });
+    if (!isUsed && why)
+        *why = Translated(attribute.use.unusedBecause);
+    return isUsed;
 }
 
 QString Translated(const char* words)

@@ -39,7 +39,7 @@ enum class ValueKind {
     File    ///< the name of a file, relative to the scene's folder or absolute
 };
 
-/** The value of another key that an attribute needs to be heeded. */
+/** A value that another key must have for an attribute to apply. */
 struct Need
 {
     const char* key = nullptr; ///< of the node's attributes, or "neonEffect"
@@ -47,12 +47,12 @@ struct Need
     int most = 0;
 };
 
-/** Who heeds an attribute. */
+/** When an attribute applies. */
 struct Use
 {
-    const char* heededBy = "";
-    const char* elseSaid = ""; ///< why it is not heeded, where that can be
-    Need needs[2] = {};        ///< both hold where it is heeded; a range without values: never
+    const char* usedBy = "";
+    const char* unusedBecause = ""; ///< empty where it always applies
+    Need needs[2] = {};             ///< both must hold; a range without values never does
 };
 
 /** One row of the table. Its words are English; Translated() gives those of the program. */
@@ -100,10 +100,10 @@ QString RangeInWords(const Attribute& attribute);
 bool IsInRange(const Attribute& attribute, int value);
 
 /**
- * Whether the sign looks at the attribute as @p node is set. If not, @p why may take the reason, in
- * the program's language.
+ * Whether the sign uses the attribute with the other settings of @p node. If not, @p why, which may
+ * be null, gets the reason in the program's language.
  */
-bool IsHeeded(const Attribute& attribute, const SceneNode& node, QString* why = nullptr);
+bool IsUsed(const Attribute& attribute, const SceneNode& node, QString* why = nullptr);
 
 /** @p words of the table in the program's language. */
 QString Translated(const char* words);

@@ -93,7 +93,7 @@ QJsonObject MembersOf(Home home)
         const QString unit = *attribute.unit ? "; in " + Words(attribute.unit) : QString();
         value["description"] =
             QStringLiteral("%1%2. Used by: %3.")
-                .arg(Words(attribute.meaning), unit, Words(attribute.use.heededBy));
+                .arg(Words(attribute.meaning), unit, Words(attribute.use.usedBy));
         if (value.value("type") == QLatin1String("integer") && IsInRange(attribute, 0))
             value["default"] = 0;
         members[attribute.key] = value;
@@ -189,7 +189,7 @@ QString TableOf(Home home)
                               attribute.kind == ValueKind::File   ? QStringLiteral("a file")
                               : attribute.kind == ValueKind::Text ? QStringLiteral("a text")
                                                                   : RangeInWords(attribute),
-                              Standard(attribute), Words(attribute.use.heededBy));
+                              Standard(attribute), Words(attribute.use.usedBy));
     }
     return table;
 }

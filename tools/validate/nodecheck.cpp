@@ -258,7 +258,7 @@ void NodeCheck::CheckFiles()
                 QStringLiteral("the name of a data file"));
         } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
                    (key == QLatin1String("NeonGifPath") &&
-                    IsHeeded(*FindAttribute(Home::Files, key), node))) {
+                    IsUsed(*FindAttribute(Home::Files, key), node))) {
             Add(Mistake::PictureMissing, at, QStringLiteral("nothing"),
                 QStringLiteral("the name of a picture file"));
         }

@@ -142,7 +142,7 @@ class Card {
     this.screen = new Screen(canvas);
     this.screen.show(motion);
     this.showFirst = () => poster.replaceWith(canvas);
-    this.words = [this.element.textContent, motion.family].join(" ").toLowerCase();
+    this.words = [this.element.textContent, motion.family, motion.synonyms].join(" ").toLowerCase();
     this.inSight = false;
     this.tick = 0;
   }

@@ -250,10 +250,10 @@ void AttributeForm::Show(const SignText& text)
     for (const Field& field : fields) {
         field.show(text.node);
         QString why;
-        const bool isHeeded = IsHeeded(*field.attribute, text.node, &why);
+        const bool isUsed = IsUsed(*field.attribute, text.node, &why);
         // A setting that does not apply is dimmed, but can still be changed.
         QPalette colors = palette();
-        if (!isHeeded) {
+        if (!isUsed) {
             const QColor quiet =
                 Mixed(colors.color(QPalette::WindowText), colors.color(QPalette::Window), 0.55);
             colors.setColor(QPalette::WindowText, quiet);
@@ -264,13 +264,13 @@ void AttributeForm::Show(const SignText& text)
         field.widget->setPalette(colors);
         const QString meaning = QStringLiteral("%1 (%2)").arg(Translated(field.attribute->meaning),
                                                               QLatin1String(field.attribute->key));
-        const QString words = isHeeded ? meaning : meaning + QLatin1Char('\n') + why;
+        const QString words = isUsed ? meaning : meaning + QLatin1Char('\n') + why;
         field.label->setToolTip(words);
         field.widget->setToolTip(words);
-        field.widget->setAccessibleDescription(isHeeded ? QString() : why);
+        field.widget->setAccessibleDescription(isUsed ? QString() : why);
         // Tab skips it; a click still works.
         if (!field.widget->focusProxy())
-            field.widget->setFocusPolicy(isHeeded ? Qt::StrongFocus : Qt::ClickFocus);
+            field.widget->setFocusPolicy(isUsed ? Qt::StrongFocus : Qt::ClickFocus);
     }
 }
 

@@ -187,10 +187,10 @@ void MainWindow::MakeViewMenu()
         SetPitch(action->data().toDouble());
         leds->setChecked(true);
     });
-    QAction* chequered = look->addAction(tr("&Checkered background"));
-    chequered->setCheckable(true);
-    connect(chequered, &QAction::toggled, this, [this](bool on) {
-        view->SetBeneath(on ? PictureView::Beneath::Chequered : PictureView::Beneath::Black);
+    QAction* checkered = look->addAction(tr("&Checkered background"));
+    checkered->setCheckable(true);
+    connect(checkered, &QAction::toggled, this, [this](bool on) {
+        view->SetBackdrop(on ? PictureView::Backdrop::Checkered : PictureView::Backdrop::Black);
     });
     QAction* frames = look->addAction(tr("Show all &areas"));
     frames->setCheckable(true);
