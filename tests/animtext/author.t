@@ -525,6 +525,7 @@ What must not be replaced:
   ! animtext: loop.json cannot be written: Too many levels of symbolic links
   [1]
   $ ln -s new.gif link.gif; animtext render one.json -o link.gif; ls -l link.gif new.gif | cut -c 1
+  Wrote link.gif: 64 x 32, * (glob)
   l
   -
 

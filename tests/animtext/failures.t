@@ -31,7 +31,7 @@ An encoder that fails:
   $ render
   ! animtext: $PWD/old.gif cannot be written: ffprobe failed: $PWD/.old.gif*: Invalid data found when processing input (glob)
   [1]
-  $ encoder '/usr/bin/head -c 1310720 | /usr/bin/ffmpeg "$@"; /bin/cat >/dev/null'
+  $ encoder '/usr/bin/head -c 337920 | /usr/bin/ffmpeg "$@"; /bin/cat >/dev/null'
   $ render
   ! animtext: $PWD/old.gif cannot be written: the encoder wrote 10 pictures of 256 x 128 pixels in 0.65 s, where 227 of 256 x 128 in 14.982 s were due
   [1]
@@ -47,9 +47,11 @@ An encoder that fails:
   $ render 2>/dev/null; ls -A | grep -c '^[.]'
   1
   $ animtext render one.json --at 1t -o b.png; ls -A | grep -c '^[.]' # the next run removes what is left
+  Wrote b.png: 64 x 32, * (glob)
   0
   [1]
   $ mkdir mine; ln -s mine ".x.999999999@$(uname -n).unfinished.abcdef"; animtext render one.json --at 1t -o b.png
+  Wrote b.png: 64 x 32, * (glob)
   $ ls -A | grep '^[.]' # but no link: Qt would follow one that it cannot remove
   .x.999999999@* (glob)
 
@@ -57,6 +59,7 @@ A full disk:
 
   $ fresh
   $ for name in a.{gif,apng,webp,mp4,webm,png}; do echo old >$name; done; animtext render one.json --at 0 -o a/
+  Wrote a/: 64 x 32, * (glob)
   $ full() { (trap '' XFSZ; ulimit -f 1; animtext "$@"); }
   $ full render two.json --scale 8 -o a.gif
   ! animtext: $PWD/a.gif cannot be written: ffmpeg failed: File too large

@@ -102,14 +102,19 @@ Render:
 
   $ fresh
   $ animtext render one.json -o a/ --seconds 0.5 && ls a | wc -l
+  Wrote a/: 64 x 32, * (glob)
   8
   $ animtext render one.json -o a/ --seconds 0.5s && ls a | wc -l
+  Wrote a/: 64 x 32, * (glob)
   8
   $ animtext render one.json -o a/ --seconds 528ms && ls a | wc -l
+  Wrote a/: 64 x 32, * (glob)
   8
   $ animtext render one.json -o a/ --seconds 0.01 && ls a | wc -l
+  Wrote a/: 64 x 32, * (glob)
   1
   $ animtext render one.json -o a/ --frames 1-2 && ls a
+  Wrote a/: 64 x 32, * (glob)
   frame-0001.png
   frame-0002.png
   $ animtext render one.json
@@ -146,7 +151,7 @@ Render:
   ! animtext: the film has the pictures 0 to 3 and ends after 0.264 s; it has no picture 4 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --at 1t --frames 1
-  ! animtext: --at and --frames exclude each other (see animtext help render)
+  ! animtext: --at and --frames cannot be combined (see animtext help render)
   [2]
   $ animtext render one.json -o a.png
   ! animtext: a PNG is one picture: say which with --at or --frames (see animtext help render)
@@ -164,7 +169,7 @@ Render:
   ! animtext: transparent films that end with .webm lose colors; take .apng or .webp (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --transparent --background red
-  ! animtext: --transparent and --background exclude each other (see animtext help render)
+  ! animtext: --transparent and --background cannot be combined (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --background mud
   ! animtext: --background takes the name of a color or #rrggbb, not "mud" (see animtext help render)
@@ -185,7 +190,7 @@ Render:
   ! animtext: bad.json: $.pages: expected a list, found 1
   [2]
   $ animtext render endless.json -o a.gif
-  ! animtext: endless.json: does not come to an end within an hour; say how much of it to play, for instance --seconds 60
+  ! animtext: endless.json: does not end within an hour; choose a part of it, for instance --seconds 60
   [2]
 
 Sheet:
@@ -242,6 +247,7 @@ A scene that shows nothing is refused in validate's words, and played all the sa
   ! animtext: one.json is not played; --force plays it all the same
   [2]
   $ animtext render one.json -o a.png --at 0t --seconds 1 --force; ls a.png
+  Wrote a.png: 64 x 32, * (glob)
   ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
   a.png
 
@@ -249,8 +255,10 @@ A folder of frames is replaced, no other:
 
   $ fresh
   $ animtext render two.json -o same/; ls same | wc -l
+  Wrote same/: 64 x 32, * (glob)
   75
   $ animtext render one.json -o same/; ls -A same; ls -Ad .*
+  Wrote same/: 64 x 32, * (glob)
   frame-0000.png
   frame-0001.png
   frame-0002.png
@@ -284,6 +292,7 @@ A folder of frames is replaced, no other:
   ! animtext: $PWD/same cannot be written: it is write-protected; chmod u+w allows writing
   [1]
   $ chmod -R u+w same; animtext render two.json -o link/; ls same | wc -l; ls -ld link | cut -c 1
+  Wrote link/: 64 x 32, * (glob)
   75
   l
 
@@ -318,30 +327,35 @@ A still is the picture of the film at that time:
 
   $ fresh
   $ animtext render one.json -o all/; cd all; ls; cksum * | cut -c 1-8 | uniq | wc -l; cd ..
+  Wrote all/: 64 x 32, * (glob)
   frame-0000.png
   frame-0001.png
   frame-0002.png
   frame-0003.png
   4
-  $ still() { animtext render one.json -o still.png "$@" && cmp still.png all/frame-0002.png; rm still.png; }
+  $ still() { animtext render one.json -o still.png "$@" >/dev/null && cmp still.png all/frame-0002.png; rm still.png; }
   $ still --at 0.132s; still --at 0.19; still --at 2t; still --frames 2
 
 Several scenes:
 
   $ fresh
-  $ many() { animtext render one.json two.json -o many --as apng --seconds 1 --jobs 2 --scale 2 --resume; ls -A many; }
+  $ many() { animtext render one.json two.json -o many --as apng --seconds 1 --jobs 2 --scale 2 --resume | sort; ls -A many; }
   $ many; file many/one.apng
+  Wrote many/one.apng: 128 x 64, * (glob)
+  Wrote many/two.apng: 128 x 64, * (glob)
   one.apng
   two.apng
   many/one.apng: PNG image data, 128 x 64, 8-bit/color RGB, non-interlaced
   $ echo done >many/one.apng; cp many/one.apng many/two.apng; touch -d '+9 seconds' node0.descent
   $ many; cat many/two.apng; head -c 4 many/one.apng | od -c # data have changed, so one is made anew
+  Wrote many/one.apng: 128 x 64, * (glob)
   one.apng
   two.apng
   done
   0000000 211   P   N   G
   0000004
   $ animtext render bad.json one.json -o stills --as png --at 1t
+  Wrote stills/one.png: 64 x 32, * (glob)
   ! animtext: bad.json: $.pages: expected a list, found 1
   ! animtext: 1 of 2 scenes were not rendered
   ! changed a file

@@ -43,7 +43,7 @@ void CheckKind(const CommandLine& line, const FilmKind& kind)
     if (transparent && line.IsSet("background"))
         refuse("--transparent and --background cannot be combined");
     if (transparent && line.IsSet("leds"))
-        refuse("--transparent and --leds cannot be combined: lamps are on black");
+        refuse("--transparent and --leds cannot be combined: LEDs are on black");
     if (line.IsSet("leds") && line.IsSet("scale") && line.Number("scale") < smallestLamp)
         refuse("--leds needs a --scale of at least 4");
     if (transparent && !kind.Has(FilmKind::Transparent))
@@ -221,25 +221,24 @@ QVector<Option> Options()
 {
     return {
         Option::File("output", "OUT",
-                     "Where the film goes; its ending (.gif, .apng, .webp, .mp4, .webm, .png "
-                     "or /) tells the format.")
+                     "The film to write. Its ending (.gif, .apng, .webp, .mp4, .webm, .png or "
+                     "/) chooses the format.")
             .Letter('o')
             .Required(),
         Option::Time("seconds", 1000, 0.001, 86400, "TIME",
                      "Plays that long, as in 10s, 1500ms or 2min."),
         Option::Flag("schedule", "Plays as the host does: the pages, and the texts of an area, "
-                                 "one after another, each for the time that the host is told, "
-                                 "whether it is done then or not."),
+                                 "one after another, each for its planned time."),
         Option::Range("frames", "Writes only these pictures, or one, the first one being 0."),
         Option::Time("at", 1000, 0, 86400, "TIME",
                      "Writes the picture of one moment: 2.5s, or 40t for tick 40."),
         Option::Number("scale", 1, 16, "Makes each pixel a square of N by N.").Or("1"),
         Option::Fraction("leds", 1, 4, "PITCH",
-                         "Shows round lamps on black, that many of their diameters apart. They "
-                         "need a --scale of 4 or more.")
+                         "Shows each pixel as a round LED on black, that many LED diameters "
+                         "apart. --scale is then 4 or more.")
             .Alone("1.25"),
         Option::Color("background", "Paints this color under the display in place of black."),
-        Option::Flag("transparent", "Lets through what lies behind the display. Not for MP4."),
+        Option::Flag("transparent", "Makes the background transparent. Not for MP4."),
         Option::Flag("lossless",
                      "Keeps every pixel of an MP4 or WebM. Not every program plays such films."),
         Option::Choice("as", "KIND",

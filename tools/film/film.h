@@ -19,7 +19,7 @@ struct FilmSettings
 {
     double seconds = 0;            ///< how much to play; 0: to the end
     int scale = 1;                 ///< each pixel becomes a square of that many
-    double pitch = 0;              ///< shows pixels as lamps, see AsLamps(); 0 for squares
+    double pitch = 0;              ///< round LEDs, see AsLamps(); 0 for square pixels
     QColor background = Qt::black; ///< under the display; invalid: none
     bool schedule = false;         ///< as the host plays it, by the times that it is told
     bool restAtEnd = true;         ///< lets the last pages stand for one hold more

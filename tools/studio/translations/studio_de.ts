@@ -132,8 +132,12 @@
 <context>
     <name>AnimText::Export</name>
     <message>
-        <source>the export has ended before its time</source>
-        <translation>der Export endete vor der Zeit</translation>
+        <source>The program animtext, which makes films, was not found. Install it beside the studio.</source>
+        <translation>Das Programm animtext, das die Filme macht, wurde nicht gefunden. Es gehört neben das Studio.</translation>
+    </message>
+    <message>
+        <source>The export ended unexpectedly.</source>
+        <translation>Der Export wurde unerwartet beendet.</translation>
     </message>
 </context>
 <context>
@@ -291,16 +295,20 @@
         <translation>%1 · bis zum Ende aller Texte</translation>
     </message>
     <message>
-        <source>Only the studio makes films of lamps.</source>
-        <translation>Nur das Studio macht Filme mit Lampen.</translation>
-    </message>
-    <message>
         <source>Open</source>
         <translation>Öffnen</translation>
     </message>
     <message>
         <source>Show in folder</source>
         <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>LEDs are on black.</source>
+        <translation>LEDs stehen auf Schwarz.</translation>
+    </message>
+    <message>
+        <source>Counting colors: picture %1 of %2</source>
+        <translation>Farben zählen: Bild %1 von %2</translation>
     </message>
 </context>
 <context>

@@ -21,7 +21,7 @@ struct ExportSettings
     bool lossless = false;
     int first = 0;    ///< first picture of the film
     int last = -1;    ///< last picture; negative for the end of the play
-    double pitch = 0; ///< shows pixels as lamps, that many of their diameters apart; 0 for squares
+    double pitch = 0; ///< round LEDs, that many LED diameters apart; 0 for square pixels
 };
 
 /** The whole command for a shell. */
