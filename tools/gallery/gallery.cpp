@@ -211,11 +211,9 @@ private:
         text.motion = {mode, motion.number};
         GalleryEntry entry;
         entry.motion = &motion;
-        const char* const directions[] = {"left", "right", "up", "down"};
-        entry.option =
-            mode == Mode::Entrance
-                ? QStringLiteral("--effect %1").arg(QLatin1String(motion.name))
-                : QStringLiteral("--scroll %1").arg(QLatin1String(directions[motion.number]));
+        entry.option = mode == Mode::Entrance
+                           ? QStringLiteral("--effect %1").arg(QLatin1String(motion.name))
+                           : QStringLiteral("--scroll %1").arg(Directions().at(motion.number));
         PictureSheets sheets;
         for (int speed : speedsInOrder) {
             text.speed = speed;

@@ -9,26 +9,6 @@ namespace AnimText {
 
 namespace {
 
-/** A row as a sentence: Number("hold").In(&SceneNode::hold).Unit(tenths).Range(0, most). */
-struct Row : Attribute
-{
-    Row& In(Home where) { return home = where, *this; }
-    Row& In(int SceneNode::*member) { return field = member, In(Home::Node); }
-    Row& Unit(const char* words) { return unit = words, *this; }
-    Row& Range(int from, int to) { return least = from, most = to, *this; }
-    Row& For(const Use& what) { return use = what, *this; }
-    Row& Names(const QList<const char*>& names)
-    {
-        return choices = names, Range(0, int(names.size()) - 1);
-    }
-    Row& NamesOf(const QList<Motion>& motions)
-    {
-        for (const Motion& motion : motions)
-            choices.append(motion.name);
-        return Range(0, int(motions.size()) - 1);
-    }
-};
-
 class AttributeTable
 {
     Q_DECLARE_TR_FUNCTIONS(Attributes)
@@ -37,54 +17,55 @@ public:
     static QList<Attribute> Make();
 
 private:
-    static Row Make(ValueKind kind, const char* key, const char* name, const char* meaning)
+    /** A row as a sentence: Number("hold").In(&SceneNode::hold).Unit(tenths).Range(0, most). */
+    struct Row : Attribute
     {
-        Row row;
-        row.kind = kind;
-        row.key = key;
-        row.name = name;
-        row.meaning = meaning;
-        row.use = {QT_TR_NOOP("every motion")};
-        return row;
-    }
+        Row& In(Home where) { return home = where, *this; }
+        Row& In(int SceneNode::*member) { return field = member, In(Home::Node); }
+        Row& Unit(const char* words) { return unit = words, *this; }
+        Row& Range(int from, int to) { return least = from, most = to, *this; }
+        Row& For(const Use& what) { return use = what, *this; }
+        Row& Names(const QList<const char*>& names)
+        {
+            return choices = names, Range(0, int(names.size()) - 1);
+        }
+        Row& NamesOf(const QList<Motion>& motions)
+        {
+            for (const Motion& motion : motions)
+                choices.append(motion.name);
+            return Range(0, int(motions.size()) - 1);
+        }
+    };
 
-    static Row Text(const char* key, const char* name, const char* meaning)
+    template <ValueKind kindOfRow>
+    struct Of : Row
     {
-        return Make(ValueKind::Text, key, name, meaning);
-    }
-
-    static Row Number(const char* key, const char* name, const char* meaning)
-    {
-        return Make(ValueKind::Number, key, name, meaning)
-            .Range(Attribute::lowest, Attribute::highest);
-    }
-
-    static Row Choice(const char* key, const char* name, const char* meaning)
-    {
-        return Make(ValueKind::Choice, key, name, meaning);
-    }
-
-    static Row Flag(const char* key, const char* name, const char* meaning)
-    {
-        return Make(ValueKind::Flag, key, name, meaning).Range(0, 1);
-    }
-
-    static Row Color(const char* key, const char* name, const char* meaning)
-    {
-        return Make(ValueKind::Color, key, name, meaning)
-            .Unit(QT_TR_NOOP("red × 65536 + green × 256 + blue"))
-            .Range(0, 0xFFFFFF);
-    }
-
-    static Row Pair(const char* key, const char* name, const char* meaning)
-    {
-        return Make(ValueKind::Pair, key, name, meaning).In(Home::Node);
-    }
-
-    static Row File(const char* key, const char* name, const char* meaning)
-    {
-        return Make(ValueKind::File, key, name, meaning).In(Home::Files);
-    }
+        Of(const char* rowKey, const char* rowName, const char* rowMeaning)
+        {
+            kind = kindOfRow;
+            key = rowKey;
+            name = rowName;
+            meaning = rowMeaning;
+            use = {QT_TR_NOOP("every motion")};
+            switch (kind) {
+            case ValueKind::Number: Range(lowest, highest); break;
+            case ValueKind::Flag: Range(0, 1); break;
+            case ValueKind::Color:
+                Range(0, 0xFFFFFF).Unit(QT_TR_NOOP("red × 65536 + green × 256 + blue"));
+                break;
+            case ValueKind::Pair: In(Home::Node); break;
+            case ValueKind::File: In(Home::Files); break;
+            default: break;
+            }
+        }
+    };
+    using Text = Of<ValueKind::Text>;
+    using Number = Of<ValueKind::Number>;
+    using Choice = Of<ValueKind::Choice>;
+    using Flag = Of<ValueKind::Flag>;
+    using Color = Of<ValueKind::Color>;
+    using Pair = Of<ValueKind::Pair>;
+    using File = Of<ValueKind::File>;
 
     /** The attributes that a form shows together, in its order. */
     static QList<Attribute> In(Group group, QList<Attribute> rows)

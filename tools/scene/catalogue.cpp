@@ -1,7 +1,6 @@
 #include "scene/catalogue.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -166,6 +165,13 @@ const QList<Motion>& Scrolls()
     return scrolls;
 }
 
+const QStringList& Directions()
+{
+    static const QStringList directions{QStringLiteral("left"), QStringLiteral("right"),
+                                        QStringLiteral("up"), QStringLiteral("down")};
+    return directions;
+}
+
 const Motion* FindEffect(int number)
 {
     return number >= 0 && number < Effects().size() ? &Effects().at(number) : nullptr;
@@ -191,9 +197,8 @@ const Motion* FindEffect(const QString& numberOrName)
 
 const Motion* FindScroll(const QString& name)
 {
-    static const char* const directions[] = {"left", "right", "up", "down"};
     for (const Motion& motion : Scrolls()) {
-        if (name.compare(QLatin1String(directions[motion.number]), Qt::CaseInsensitive) == 0 ||
+        if (name.compare(Directions().at(motion.number), Qt::CaseInsensitive) == 0 ||
             name.compare(QLatin1String(motion.name), Qt::CaseInsensitive) == 0)
             return &motion;
     }

@@ -8,6 +8,7 @@
 #include <QFlags>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace AnimText {
 
@@ -44,6 +45,8 @@ struct Motion
 const QList<Motion>& Effects();
 /** The four scrolls, by number: left, right, up, down. */
 const QList<Motion>& Scrolls();
+/** What the command line calls the scrolls. */
+const QStringList& Directions();
 
 /** The effect or scroll of that number; null when there is none. */
 const Motion* FindEffect(int number);

@@ -135,12 +135,6 @@ int ReadEffect(const QString& word)
                      .arg(word, DidYouMeanOneOf(word, EffectNames()))};
 }
 
-QStringList Directions()
-{
-    return {QStringLiteral("left"), QStringLiteral("right"), QStringLiteral("up"),
-            QStringLiteral("down")};
-}
-
 void ReadMotion(const CommandLine& line, AuthorOptions* options)
 {
     if (!line.IsSet("scroll")) {
