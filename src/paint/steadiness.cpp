@@ -137,7 +137,7 @@ void Decisions::Flatten(const SteadyPoint* curve, int level)
 {
     if (level == 0)
         return;
-    bool isFlat;
+    bool isFlat = false;
     const float flat = FlatWithin(curve, isFlat);
     found.flat = std::min(found.flat, flat);
     if (isFlat && flat > 0) // at 0 it is not certain
