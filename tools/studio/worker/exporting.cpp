@@ -99,9 +99,11 @@ void Export::Start(const QString& plugin, const QString& path, const ExportSetti
 
 void Export::Cancel()
 {
-    if (!cancelled)
-        process.terminate(); // a second time would keep it from tidying up
+    if (cancelled)
+        return; // a second signal would keep it from tidying up
     cancelled = true;
+    process.waitForStarted(); // until then, the signal would reach a copy of the studio
+    process.terminate();
 }
 
 void Export::ReadProgress()
