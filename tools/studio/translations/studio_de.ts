@@ -235,12 +235,12 @@
         <translation>%1 gespeichert</translation>
     </message>
     <message>
-        <source>As LEDs: round lamps on black</source>
-        <translation>Als LEDs: runde Lampen auf Schwarz</translation>
+        <source>As round LEDs on black</source>
+        <translation>Als runde LEDs auf Schwarz</translation>
     </message>
     <message>
-        <source>All pages in turn, each for its planned time, as the host plays them</source>
-        <translation>Alle Seiten nacheinander, jede für ihre geplante Zeit, wie der Host sie spielt</translation>
+        <source>All pages, as the host times them</source>
+        <translation>Alle Seiten, wie der Host sie taktet</translation>
     </message>
     <message>
         <source>Transparent background</source>
