@@ -141,6 +141,8 @@ void Set(Scene* scene, const Place& place, const QString& word, const QString& v
     if (key == QLatin1String("speed"))
         key = MotionOf(*node).SpeedKey();
     const Attribute* attribute = FindAttribute(Home::Attributes, key);
+    if (!attribute)
+        attribute = FindAttribute(Home::Node, key);
     if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
         ChangeMotion(*scene, node, key, value);
     else if (key == QLatin1String("Color"))
@@ -149,8 +151,8 @@ void Set(Scene* scene, const Place& place, const QString& word, const QString& v
         SetPos(node, value);
     else if (key == QLatin1String("hold"))
         SetHold(node, value);
-    else if (Known().contains(key))
-        ChangeNumber(node, word, attribute ? *attribute : *FindAttribute(Home::Node, key), value);
+    else if (attribute && Known().contains(key))
+        ChangeNumber(node, word, *attribute, value);
     else
         throw Fault{QStringLiteral("%1 cannot be set; expected one of %2%3")
                         .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()))};

@@ -16,7 +16,9 @@ bool Holds(const Need& need, const SceneNode& node)
         return true;
     const QString key = QLatin1String(need.key);
     const Attribute* attribute = FindAttribute(Home::Attributes, key);
-    const int value = NumberOf(node, attribute ? *attribute : *FindAttribute(Home::Node, key));
+    if (!attribute)
+        attribute = FindAttribute(Home::Node, key);
+    const int value = attribute ? NumberOf(node, *attribute) : 0;
     return value >= need.least && value <= need.most;
 }
 
