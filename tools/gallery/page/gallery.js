@@ -184,7 +184,6 @@ function filter() {
 
 function setPaused(paused) {
   state.paused = paused;
-  byId("pause").setAttribute("aria-pressed", paused);
   byId("pause").textContent = paused ? "Play all" : "Pause all";
 }
 
