@@ -114,6 +114,7 @@ float Decisions::FlatWithin(const SteadyPoint* p, bool& isFlat)
     const double limit = 0.25 * length;
     const float error =
         std::max(std::max(p[0].error, p[1].error), std::max(p[2].error, p[3].error));
+    isFlat = true;
     double within[2] = {double(farthest), 0}; // if it is flat, if it is not
     for (int i = 1; i < 3; ++i) {
         const double x = p[3].x.v - p[i].x.v;
@@ -128,7 +129,7 @@ float Decisions::FlatWithin(const SteadyPoint* p, bool& isFlat)
             within[0] = std::min(within[0], margin * double(units));
         else
             within[1] = std::max(within[1], margin * double(units));
-        isFlat = (i == 1 || isFlat) && bend < limit;
+        isFlat = isFlat && bend < limit;
     }
     return float(within[isFlat ? 0 : 1]);
 }
@@ -137,7 +138,7 @@ void Decisions::Flatten(const SteadyPoint* curve, int level)
 {
     if (level == 0)
         return;
-    bool isFlat = false;
+    bool isFlat = true;
     const float flat = FlatWithin(curve, isFlat);
     found.flat = std::min(found.flat, flat);
     if (isFlat && flat > 0) // at 0 it is not certain
@@ -169,10 +170,11 @@ Steadiness Decisions::Found() const
     Steadiness steadiness = found;
     float* const all[] = {&steadiness.exact.x, &steadiness.exact.y, &steadiness.rounded.x,
                           &steadiness.rounded.y, &steadiness.flat};
-    // Errors are that small up to a power of two.
+    // Errors double at each power of two.
     for (float* within : all) {
-        int exponent;
-        *within = *within >= 1 ? (std::frexp(*within, &exponent), std::ldexp(0.5f, exponent)) : 0;
+        int exponent = 0;
+        std::frexp(*within, &exponent);
+        *within = *within >= 1 ? std::ldexp(0.5f, exponent) : 0;
     }
     return steadiness;
 }

@@ -17,15 +17,15 @@ struct Steadiness
     /** All that its curves are halved to is computed without rounding. */
     Point exact;
     /**
-     * What floats round never crosses from one 1/64 pixel to the next, in which the device computes
-     * from there on. Only as far as flat holds for both axes.
+     * Rounding carries no point from one 1/64 pixel to the next; the device computes in those from
+     * there on. Only while the coordinates of both axes are within flat.
      */
     Point rounded;
-    /** What floats round never changes where curves are taken for lines. */
+    /** Rounding does not change where curves are taken for lines. */
     float flat;
 };
 
-/** Takes about half as long as painting the outline. */
+/** Takes almost as long as painting the outline. */
 Steadiness SteadinessOf(const Outline& outline);
 
 } // namespace HNodeAnimationText
