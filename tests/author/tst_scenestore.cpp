@@ -1,8 +1,8 @@
 #include "table.h"
 #include "testfolder.h"
 
-#include "layout/glyphfiles.h"
 #include "author/scenestore.h"
+#include "layout/glyphfiles.h"
 
 #include <QPainterPath>
 
@@ -177,7 +177,9 @@ private slots:
         row("a link", "mv $1 mine; ln -s mine $1", true);
         row("linked to", "ln -s $1 mine", true);
         row("UTF-16", "printf '{\\0}\\0' >a.json", true);
-        row("leads nowhere", "ln -s none a.json", true);
+        row("a broken link", "ln -s none a.json", true);
+        row("a trace", "printf '{\"tick\":0}\\n{\"tick\":1}\\n' >trace", false);
+        row("a broken trace", "printf '{\"tick\":0}\\n{\"tick\\n' >trace", true);
         row("a pipe", "mkfifo a.json", true);
         row("too large", "truncate -s 65M a.json", true);
         row("a large film", "printf GIF89a >a.gif; truncate -s 65M a.gif", false);

@@ -143,20 +143,26 @@ private:
         // As written: a list for a program, the index of an archive.
         for (auto it = sought.begin(); it != sought.end();)
             it = content.contains(QFile::encodeName(it.key())) ? sought.erase(it) : it + 1;
-        const bool isJson = LooksLikeJson(content);
-        // Of keys that are there twice Qt's reader keeps one.
-        const QJsonDocument document = isJson && DuplicateKeys(content).isEmpty()
-                                           ? QJsonDocument::fromJson(content)
-                                           : QJsonDocument();
-        if (document.isNull()) {
+        if (!LooksLikeJson(content)) {
             // Such as JSON with comments, or a list that begins with a number.
-            if (!isJson && content.contains("\\u"))
+            if (content.contains("\\u"))
                 SearchText(Unescaped(QString::fromUtf8(content)));
-            return !isJson;
+            return true;
         }
+        const QList<QByteArray> lines = content.trimmed().split('\n'); // of a trace, say
+        return SearchJson(content) ||
+               std::all_of(lines.begin(), lines.end(),
+                           [&](const QByteArray& line) { return SearchJson(line); });
+    }
+
+    bool SearchJson(const QByteArray& json)
+    {
+        // Of keys that are there twice Qt's reader keeps one.
+        const QJsonDocument document =
+            DuplicateKeys(json).isEmpty() ? QJsonDocument::fromJson(json) : QJsonDocument();
         SearchValue(document.isArray() ? QJsonValue(document.array())
                                        : QJsonValue(document.object()));
-        return true;
+        return !document.isNull();
     }
 
     void SearchValue(const QJsonValue& value)
