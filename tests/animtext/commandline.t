@@ -8,39 +8,41 @@ Help:
   $ animtext --version | grep -cx "animtext $VERSION"
   1
   $ animtext --help | grep trace
-    trace       prints what every tick gives the display, one JSON line each
+    trace       print each tick of a play as JSON lines
   $ cmp <(animtext help trace) <(animtext trace --help)
   $ animtext trace -h --tick # wrong words after the help
   Usage: animtext trace [options] SCENE.json
-  Plays a scene on virtual time and prints a line of JSON for each tick of 66 ms
-  and each node, tick 0 being the start: whether a new picture of the text was
-  handed to the display, the layer that shows it, its size, the SHA-1 of its rows
-  and the renderer's state (0 finished, 1 playing, 2 nothing to play); where there
-  is a dazzle background, its SHA-1.
+  Plays a scene on virtual time and prints a JSON line for each text and each tick
+  of 66 ms, from tick 0: whether the display got a new picture of the text, its
+  layer, its size, the SHA-1 of its rows, and the renderer's state (0 finished, 1
+  playing, 2 nothing to play). A dazzle background adds its SHA-1.
   
   Options:
-    -n, --ticks N              The last tick. [100]
-        --calls                Prints every call of the device before the line of
-                               its tick.
-        --plugin FILE          The plugin library, in place of the one beside this
-                               program.
-        --seed N               What the random numbers of the trembling start
-                               from. [1]
-        --allow-missing-files  Plays on although a file that the scene names is
+    -n, --ticks N              Last tick. Default: 100.
+        --calls                Print the device calls of each tick before its
+                               lines.
+        --plugin FILE          Plugin library. Default: $ANIMATIONTEXT_PLUGIN, or
+                               the installed one.
+        --seed N               Seed for the tremble effect. Default: 1.
+        --allow-missing-files  Play even if files that the scene names are
                                missing.
-        --force                Plays a scene although it has errors that leave
-                               nothing to show.
-    -h, --help                 Shows this help.
+        --force                Play even if errors in the scene leave nothing to
+                               show.
+    -h, --help                 Show this help.
+  
+  Examples:
+    animtext trace sign.json --ticks 20
+    animtext trace sign.json --calls >sign.trace
   $ animtext sheet --help | head -n 1
   Usage: animtext sheet -o SHEET.png [options] SCENE.json* (glob)
   $ animtext
   ! animtext: expected a command (see animtext help)
   [2]
   $ animtext rendr one.json
-  ! animtext: there is no command "rendr"; did you mean render? (see animtext help)
+  ! animtext: unknown command "rendr"; did you mean render? (see animtext help)
   [2]
   $ animtext help trac
-  ! animtext: there is no command "trac"; did you mean trace? (see animtext help help)
+  ! animtext: unknown command "trac"; did you mean trace? (see animtext help help)
   [2]
   $ animtext effects | grep Swing
     6  Sway                   SwingEffect                         the whole row sways from side to side and leans as it goes
@@ -55,6 +57,17 @@ Help:
   [1]
   $ animtext effects --json | grep -c summary
   34
+
+Every command has two examples that work when copied. Only plays and the gallery's text are shortened:
+
+  $ fresh; mkdir sign; examples() { animtext help $1 | sed '1,/^Examples:/d; s/^  //'; }
+  $ (cd sign; eval "$(examples author)" >/dev/null; animtext trace sign.json --calls | tee sign.trace >device.log)
+  $ for command in $(animtext --help | sed -n '/^Commands/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
+  >   examples $command | sed 's/192.168.1.50/127.0.0.1/; /^animtext play/s/$/ --seconds 0.1/; /gallery/s/$/ --area 8x8 --text a/' >words
+  >   [ $(wc -l <words) = 2 ] || echo $command
+  >   [ $command = author ] || while read -r words; do rm -rf copy; cp -r sign copy; (cd copy; eval "$words") >printed 2>&1 </dev/null || { echo "$words"; cat printed; }; done <words
+  > done
+  soak
 
 Options:
 
@@ -71,7 +84,7 @@ Options:
   ! animtext: expected SCENE.json (see animtext help trace)
   [2]
   $ animtext trace one.json two.json
-  ! animtext: "two.json" is one word too many (see animtext help trace)
+  ! animtext: unexpected argument "two.json" (see animtext help trace)
   [2]
   $ animtext trace one.json --tiks 3
   ! animtext: unknown option --tiks; did you mean --ticks? (see animtext help trace)
@@ -79,9 +92,9 @@ Options:
   $ animtext trace one.json -ticks 3
   ! animtext: unknown option -ticks; did you mean --ticks? (see animtext help trace)
   [2]
-  $ animtext author -o a.json --text --dazzle | cut -d ' ' -f 2 # a value may look like an option
+  $ animtext author -o a.json --text --dazzle | cut -d ' ' -f 3 # a value may look like an option
   8
-  $ animtext author -o a.json --text -text | cut -d ' ' -f 2
+  $ animtext author -o a.json --text -text | cut -d ' ' -f 3
   5
   $ animtext trace one.json -x
   ! animtext: unknown option -x (see animtext help trace)
@@ -90,22 +103,22 @@ Options:
   ! animtext: Missing value after '--ticks' (see animtext help trace)
   [2]
   $ animtext trace one.json --ticks many
-  ! animtext: --ticks takes a whole number from 0 to 1000000000, not "many" (see animtext help trace)
+  ! animtext: --ticks is "many"; expected a whole number from 0 to 1000000000 (see animtext help trace)
   [2]
   $ animtext trace one.json --ticks -1
-  ! animtext: --ticks takes a whole number from 0 to 1000000000, not "-1" (see animtext help trace)
+  ! animtext: --ticks is "-1"; expected a whole number from 0 to 1000000000 (see animtext help trace)
   [2]
   $ animtext trace one.json --ticks 1000000001
-  ! animtext: --ticks takes a whole number from 0 to 1000000000, not "1000000001" (see animtext help trace)
+  ! animtext: --ticks is "1000000001"; expected a whole number from 0 to 1000000000 (see animtext help trace)
   [2]
   $ animtext trace one.json --calls=yes
   ! animtext: Unexpected value after '--calls' (see animtext help trace)
   [2]
   $ animtext trace one.json --seed -1
-  ! animtext: --seed takes a whole number from 0 to 2147483647, not "-1" (see animtext help trace)
+  ! animtext: --seed is "-1"; expected a whole number from 0 to 2147483647 (see animtext help trace)
   [2]
   $ animtext trace one.json --plugin ''
-  ! animtext: --plugin takes the name of a file, not an empty one (see animtext help trace)
+  ! animtext: --plugin is empty; expected a file name (see animtext help trace)
   [2]
   $ animtext trace one.json --plugin none.so
   ! animtext: there is no plugin at none.so: build the target animationtext, or name the library with --plugin or ANIMATIONTEXT_PLUGIN
@@ -114,22 +127,22 @@ Options:
   ! animtext: one.json cannot be loaded: * (glob)
   [1]
   $ animtext sheet one.json -o a.png --columns 0
-  ! animtext: --columns takes a whole number from 1 to 50, not "0" (see animtext help sheet)
+  ! animtext: --columns is "0"; expected a whole number from 1 to 50 (see animtext help sheet)
   [2]
   $ animtext sheet one.json -o a.png --columns 51
-  ! animtext: --columns takes a whole number from 1 to 50, not "51" (see animtext help sheet)
+  ! animtext: --columns is "51"; expected a whole number from 1 to 50 (see animtext help sheet)
   [2]
   $ animtext soak --hours 8785
-  ! animtext: --hours takes a time with its unit, such as 24h or 90min, in hours from 0 to 8784, not "8785" (see animtext help soak)
+  ! animtext: --hours is "8785"; expected a time with its unit, such as 24h or 90min, in hours from 0 to 8784 (see animtext help soak)
   [2]
   $ animtext soak --hours 8784.1h
-  ! animtext: --hours takes a time with its unit, such as 24h or 90min, in hours from 0 to 8784, not "8784.1h" (see animtext help soak)
+  ! animtext: --hours is "8784.1h"; expected a time with its unit, such as 24h or 90min, in hours from 0 to 8784 (see animtext help soak)
   [2]
   $ animtext soak --growth nan
-  ! animtext: --growth takes a number from 0 to 1000000, not "nan" (see animtext help soak)
+  ! animtext: --growth is "nan"; expected a number from 0 to 1000000 (see animtext help soak)
   [2]
   $ animtext soak --growth -1
-  ! animtext: --growth takes a number from 0 to 1000000, not "-1" (see animtext help soak)
+  ! animtext: --growth is "-1"; expected a number from 0 to 1000000 (see animtext help soak)
   [2]
 
 Files:
@@ -151,7 +164,7 @@ Files:
   ! animtext: -:1:1: expected valid JSON, found an error: illegal value
   [2]
   $ animtext trace ''
-  ! animtext: expected SCENE.json, not an empty word (see animtext help trace)
+  ! animtext: expected SCENE.json, not an empty argument (see animtext help trace)
   [2]
   $ animtext duration bad.json
   ! animtext: bad.json: $.pages: expected a list, found 1
@@ -161,34 +174,34 @@ Standard output that cannot be written:
 
   $ fresh
   $ animtext --version >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext help >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext completion fish >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext effects >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext trace one.json >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext trace one.json -n 5000 >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext soak one.json --hours 0 >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext sheet one.json -o - >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext duration one.json --table >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
   $ animtext validate one.json >/dev/full
-  ! animtext: standard output cannot be written: No space left on device
+  ! animtext: cannot write to standard output: No space left on device
   [1]
 
 Signals:
@@ -204,17 +217,17 @@ Without a display:
 
   $ fresh
   $ DISPLAY= QT_QPA_PLATFORM=xcb animtext author --text a -o a.json
-  a.json: one character of DejaVu Sans, 29 x 57 pixels; WordForWordOutputEffect in one page of 512 x 58
+  Wrote a.json: one character in DejaVu Sans, 29 x 57 pixels; WordForWordOutputEffect, one page of 512 x 58
   $ QT_QPA_PLATFORM=none QT_QPA_PLATFORMTHEME=none animtext duration one.json
-  The host is told 0.20 s (198 ms).
+  Planned: 0.20 s (198 ms)
   $ DISPLAY= QT_QPA_PLATFORM=xcb animtext play one.json
-  ! animtext: there is no display: run it in a desktop session, or within xvfb-run; or set QT_QPA_PLATFORM=vnc for VNC viewers, or QT_QPA_PLATFORM=linuxfb for a board's own screen, /dev/fb0
+  ! animtext: no display: run animtext in a desktop session or with xvfb-run, or set QT_QPA_PLATFORM to vnc for VNC viewers or to linuxfb for a board's own screen (/dev/fb0)
   [1]
   $ QT_QPA_PLATFORM=offscreen animtext play bad.json
   ! animtext: bad.json: $.pages: expected a list, found 1
   [2]
   $ animtext play one.json --leds=5
-  ! animtext: --leds takes a number from 1 to 4, not "5" (see animtext help play)
+  ! animtext: --leds is "5"; expected a number from 1 to 4 (see animtext help play)
   [2]
 
 Completion:
@@ -239,5 +252,5 @@ Completion:
   $ animtext completion zsh | head -n 1
   #compdef animtext
   $ animtext completion tcsh
-  ! animtext: expected bash, zsh or fish, not "tcsh" (see animtext help completion)
+  ! animtext: unknown shell "tcsh"; expected bash, zsh or fish (see animtext help completion)
   [2]

@@ -8,12 +8,12 @@ Recordings, of a desk in place of a device, and where they differ.
 What agrees:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ record log >trace
   $ animtext compare log s.json --no-times
-  log and the desk agree: 65 calls, 62 pictures
+  log and the desktop agree: 65 calls, 62 pictures
   $ animtext compare trace s.json
-  trace and the desk agree: 65 calls, 61 pictures
+  trace and the desktop agree: 65 calls, 61 pictures
   $ animtext trace s.json -n 80 --calls >longer; for b in trace longer log; do animtext compare log $b --no-times; done
   log and trace agree: 65 calls, 61 pictures
   log and longer agree: 65 calls, 62 pictures
@@ -23,14 +23,14 @@ What agrees:
   $ animtext trace s.json -n 60 >pictures; animtext compare pictures pictures
   pictures and pictures agree: 0 calls, 61 pictures
   $ animtext compare trace pictures
-  ! animtext: only one of them has calls; animtext trace --calls writes them
+  ! animtext: only one recording has calls; record both with animtext trace --calls
   [2]
   $ diff <(grep -o '"call":.*"result":[^,}]*' trace) <(sed -E 's/,"(w|h|sha1|ms)":[^,}]*//g; s/}$//' log | grep -o '"call":.*' | head -n $(grep -c call trace))
 
 A plugin that paints one pixel otherwise:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ ANIMTEXT_RECORD_PIXELS=25 FAULT=pixel record log $LIBRARIES/libfaultyplugin.so >trace
   $ ls log*.pam | wc -l; head -c 60 log-3.pam | head -n 6
   25
@@ -41,7 +41,7 @@ A plugin that paints one pixel otherwise:
   MAXVAL 255
   TUPLTYPE RGB_ALPHA
   $ animtext compare log s.json --no-times -o seen
-  log and the desk part: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr hands over another picture
+  log and the desktop differ: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr: the pictures differ
   seen/log-device.png
   seen/log-desk.png
   seen/log-difference.png
@@ -52,21 +52,21 @@ A plugin that paints one pixel otherwise:
   log-device.png
   log-difference.png
   $ animtext compare log s.json --no-times -o /proc/none
-  log and the desk part: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr hands over another picture
-  ! animtext: the folder /proc/none cannot be made: No such file or directory
+  log and the desktop differ: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr: the pictures differ
+  ! animtext: cannot create the folder /proc/none: No such file or directory
   [1]
   $ rm log-20.pam; animtext compare log s.json --no-times
-  log and the desk part: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr hands over another picture
+  log and the desktop differ: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr: the pictures differ
   ! animtext: log-20.pam: cannot be read: No such file or directory
   [2]
   $ animtext compare trace s.json
-  trace and the desk part: session 1, call 24, at tick 19 (1.25 s), line 43 of trace: SwapPicImageLayerPtr hands over another picture
+  trace and the desktop differ: session 1, call 24, at tick 19 (1.25 s), line 43 of trace: SwapPicImageLayerPtr: the pictures differ
   [1]
 
 The device's calls and no other names, for an engine may have functions of any:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ nm -D --defined-only $LIBRARIES/librecord.so | cut -d ' ' -f 3 | grep -v '^_'
   AddPictureSession
   CreatePictureSession
@@ -81,31 +81,31 @@ The device's calls and no other names, for an engine may have functions of any:
 Other calls:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ record log >trace
   $ sed -n '30,33p' log | grep -c Swap
   4
   $ sed '30s/"layer":0/"layer":1/' log >a; animtext compare a s.json --no-times
-  a and the desk part: session 1, call 30, at tick 25 (1.65 s), line 30 of a: SwapPicImageLayerPtr: layer is 1 in a, 0 in the desk
+  a and the desktop differ: session 1, call 30, at tick 25 (1.65 s), line 30 of a: SwapPicImageLayerPtr: layer is 1 in a, 0 in the desktop
   [1]
   $ sed '1s/"height":24,"bytes/"height":25,"bytes/' log >a; animtext compare a s.json --no-times
-  a and the desk part: session 1, call 1, at tick 0 (0.00 s), line 1 of a: CreatePictureSession: image.height is 25 in a, 24 in the desk
+  a and the desktop differ: session 1, call 1, at tick 0 (0.00 s), line 1 of a: CreatePictureSession: image.height is 25 in a, 24 in the desktop
   [1]
   $ sed '3s/GetPicImageLayerPtr/PicAppendImageLayer/' log >a; animtext compare a s.json --no-times
-  a and the desk part: session 1, call 3, at tick 0 (0.00 s), line 3 of a: a calls PicAppendImageLayer, the desk calls GetPicImageLayerPtr
+  a and the desktop differ: session 1, call 3, at tick 0 (0.00 s), line 3 of a: a calls PicAppendImageLayer, the desktop calls GetPicImageLayerPtr
   [1]
   $ sed '2{h;d};3G' log >a; animtext compare a s.json --no-times
-  a and the desk part: session 1, call 2, at tick 0 (0.00 s), line 2 of a: a calls GetPicImageLayerPtr, the desk calls AddPictureSession: the same in another order
+  a and the desktop differ: session 1, call 2, at tick 0 (0.00 s), line 2 of a: a calls GetPicImageLayerPtr, the desktop calls AddPictureSession: same calls in another order
   [1]
   $ head -n 20 log >a; animtext compare a log; animtext compare log a --no-times; animtext compare a s.json --no-times
-  a and log part: session 1, call 21, * line 21 of log: a ends here; log goes on with SwapPicImageLayerPtr (glob)
-  log and a part: session 1, call 21, * line 21 of log: a ends here; log goes on with SwapPicImageLayerPtr (glob)
-  a and the desk agree: 20 calls, 17 pictures
+  a and log differ: session 1, call 21, * line 21 of log: a ends here; log continues with SwapPicImageLayerPtr (glob)
+  log and a differ: session 1, call 21, * line 21 of log: a ends here; log continues with SwapPicImageLayerPtr (glob)
+  a and the desktop agree: 20 calls, 17 pictures
   $ sed '40,$d' log >a; tail -n 2 log >>a; head -n 1 log | sed -E 's,"ms":[0-9]+,"ms":99999,' >>a; animtext compare a log --no-times # not the host's end
-  a and log part: session 1, call 40, *: a calls RemovePictureSession, log calls SwapPicImageLayerPtr (glob)
+  a and log differ: session 1, call 40, *: a calls RemovePictureSession, log calls SwapPicImageLayerPtr (glob)
   [1]
   $ sed -E '30,$s/"ms":[0-9]*/"ms":9999/' trace | sed -E '1,30s/"ms":9999/"ms":0/' >a; animtext compare a trace
-  a and trace part: session 1, call 17, at tick 12 (0.79 s), line 29 of a, line 29 of trace: SwapPicImageLayerPtr comes 792 ms earlier in a than in trace, 66 are allowed
+  a and trace differ: session 1, call 17, at tick 12 (0.79 s), line 29 of a, line 29 of trace: SwapPicImageLayerPtr is 792 ms earlier in a than in trace; allowed: 66 ms
   [1]
   $ animtext compare a trace --tolerance 10s
   a and trace agree: 65 calls, 61 pictures
@@ -113,25 +113,25 @@ Other calls:
 Another background:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ animtext author --text ab --area 64x32 --dazzle linear --effect 7 --speed 9 -o s.json >/dev/null
   $ other() { sed '/"tick":19/s/"background":"./"background":"-/' $1; }
   $ animtext trace s.json -n 30 --calls >trace; animtext compare trace s.json
-  trace and the desk agree: 38 calls, 31 pictures
+  trace and the desktop agree: 38 calls, 31 pictures
   $ other trace >a; animtext compare a s.json; animtext compare trace a
-  a and the desk part: session 1, call 27, at tick 19 (1.25 s), line 46 of a: the background is another at the end of this tick
-  trace and a part: session 1, call 27, at tick 19 (1.25 s), line 46 of trace, line 46 of a: the background is another at the end of this tick
+  a and the desktop differ: session 1, call 27, at tick 19 (1.25 s), line 46 of a: the background differs at the end of this tick
+  trace and a differ: session 1, call 27, at tick 19 (1.25 s), line 46 of trace, line 46 of a: the background differs at the end of this tick
   [1]
   $ animtext trace s.json -n 30 >pictures; animtext compare pictures pictures
   pictures and pictures agree: 0 calls, 31 pictures
   $ other pictures >a; animtext compare pictures a
-  pictures and a part: session 1, call 20, at tick 19 (1.25 s), line 20 of pictures, line 20 of a: the background is another at the end of this tick
+  pictures and a differ: session 1, call 20, at tick 19 (1.25 s), line 20 of pictures, line 20 of a: the background differs at the end of this tick
   [1]
 
 What is no recording:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ animtext compare s.json s.json
   ! animtext: s.json: line 1: expected a call or a tick, as librecord and animtext trace write them
   [2]
@@ -153,7 +153,7 @@ What is no recording:
 A recording that ends:
 
   $ fresh_sign
-  s.json: 10 characters of DejaVu Sans, 103 x 24 pixels; SwingEffect in 2 pages of 96 x 24
+  Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24
   $ ANIMTEXT_RECORD_MEGABYTES=0 record log >trace; wc -c <log
   ! record: log: it has become as long as it may; nothing more is recorded
   0

@@ -95,13 +95,13 @@ Causes:
   $ mkdir ro; cp one.json node0.* ro; chmod a+x "$CRAMTMP"; chmod -R a+rwX .; chmod a-w ro; export HOME=$PWD
   $ as() { if [ $(id -u) = 0 ]; then run setpriv --reuid=65534 --regid=65534 --clear-groups "$@"; else run "$@"; fi; }
   $ as animtext set ro/one.json 1 hold=1s
-  ! animtext: $PWD/ro: nothing can be written into this folder: Permission denied
+  ! animtext: $PWD/ro: cannot write to this folder: Permission denied
   [1]
   $ as animtext author -o ro/new.json --text a
-  ! animtext: $PWD/ro: nothing can be written into this folder: Permission denied
+  ! animtext: $PWD/ro: cannot write to this folder: Permission denied
   [1]
   $ as animtext render one.json two.json -o ro/films
-  ! animtext: the folder ro/films cannot be made: Permission denied
+  ! animtext: cannot create the folder ro/films: Permission denied
   [1]
   $ chmod a-r one.json; as animtext trace one.json
   ! animtext: one.json: expected a file that can be read, found an error: Permission denied

@@ -24,10 +24,10 @@ Words that are wrong:
   ! animtext: ddp://127.0.0.1: expected the size of the matrix, such as ddp://127.0.0.1/16x16 (see animtext help play)
   [2]
   $ animtext play one.json --to ddp://127.0.0.1/8x8 --test-pattern
-  ! animtext: --test-pattern shows no scene, so one.json is one word too many (see animtext help play)
+  ! animtext: --test-pattern shows no scene; unexpected argument "one.json" (see animtext help play)
   [2]
   $ animtext play --to ddp://127.0.0.1/8x8 --test-pattern=stripes
-  ! animtext: --test-pattern takes corners, order, colors, levels or all, not "stripes" (see animtext help play)
+  ! animtext: --test-pattern is "stripes"; expected corners, order, colors, levels or all (see animtext help play)
   [2]
   $ animtext play one.json --to ddp://127.0.0.1 --zoom 4
   ! animtext: --zoom with --to needs --window (see animtext help play)

@@ -35,9 +35,9 @@ Duration:
 
   $ fresh
   $ animtext duration two.json --simulate
-  The host is told 4.16 s (4164 ms).
-  Really it is finished after 4.55 s: 60 ticks of animation and 10 ticks of holds.
-  Told 4.16 s, really 4.55 s: the last 0.39 s (9.4 %) are cut off.
+  Planned: 4.16 s (4164 ms)
+  Actual:  4.55 s (60 ticks of animation, 10 ticks of holds)
+  The sign cuts off the last 0.39 s (9.4 %).
   $ animtext duration held.json --json --simulate # a picture every tick, and a hold of 300 ms
   {"duration":498,"simulated":{"animationTicks":4,"holdTicks":5,"finishedMs":528}}
   $ animtext duration held.json --table --json | sed -n '27p;$='
@@ -85,13 +85,13 @@ Temporary files:
 
   $ fresh
   $ TMPDIR=/proc animtext soak --hours 0
-  ! animtext: no temporary folder can be made in /proc: *; TMPDIR can name another place (glob)
+  ! animtext: cannot create a temporary folder in /proc: *; set TMPDIR to another folder (glob)
   [1]
   $ TMPDIR=/proc animtext gallery -o g
-  ! animtext: no temporary folder can be made in /proc: *; TMPDIR can name another place (glob)
+  ! animtext: cannot create a temporary folder in /proc: *; set TMPDIR to another folder (glob)
   [1]
   $ TMPDIR=/none animtext soak --hours 0
-  ! animtext: no temporary folder can be made in /none: No such file or directory; TMPDIR can name another place
+  ! animtext: cannot create a temporary folder in /none: No such file or directory; set TMPDIR to another folder
   [1]
   $ unset XDG_RUNTIME_DIR; mkdir t; early() { TMPDIR=$PWD/t env animtext soak --hours 8784h >/dev/null 2>&1 & until [ "$(ls t/*/0.path)" ] 2>/dev/null; do :; done; kill -$1 $!; wait $!; echo $? $(ls t); }
   $ (set -m; early INT; early TERM) 2>/dev/null
@@ -124,55 +124,55 @@ Render:
   ! animtext: a.avi: expected a name that ends with .gif, .apng, .webp, .mp4, .webm, .png, or with / for a folder of PNGs (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --scale 17
-  ! animtext: --scale takes a whole number from 1 to 16, not "17" (see animtext help render)
+  ! animtext: --scale is "17"; expected a whole number from 1 to 16 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --seconds -1
-  ! animtext: --seconds takes a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400, not "-1" (see animtext help render)
+  ! animtext: --seconds is "-1"; expected a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --seconds 2d
-  ! animtext: --seconds takes a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400, not "2d" (see animtext help render)
+  ! animtext: --seconds is "2d"; expected a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --seconds 86401
-  ! animtext: --seconds takes a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400, not "86401" (see animtext help render)
+  ! animtext: --seconds is "86401"; expected a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --seconds 0
-  ! animtext: --seconds takes a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400, not "0" (see animtext help render)
+  ! animtext: --seconds is "0"; expected a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds from 0.001 to 86400 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --frames 2-99
-  ! animtext: the film has the pictures 0 to 3 and ends after 0.264 s; it has no picture 99 (see animtext help render)
+  ! animtext: the film has no picture 99; it has 0 to 3 and ends after 0.264 s (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --frames 2-1
-  ! animtext: --frames takes one such as 5, or the first and the last, such as 0-99, not "2-1" (see animtext help render)
+  ! animtext: --frames is "2-1"; expected a number such as 5, or a range such as 0-99 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --frames 3-
-  ! animtext: --frames takes one such as 5, or the first and the last, such as 0-99, not "3-" (see animtext help render)
+  ! animtext: --frames is "3-"; expected a number such as 5, or a range such as 0-99 (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --at 4t
-  ! animtext: the film has the pictures 0 to 3 and ends after 0.264 s; it has no picture 4 (see animtext help render)
+  ! animtext: the film has no picture 4; it has 0 to 3 and ends after 0.264 s (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --at 1t --frames 1
   ! animtext: --at and --frames cannot be combined (see animtext help render)
   [2]
   $ animtext render one.json -o a.png
-  ! animtext: a PNG is one picture: say which with --at or --frames (see animtext help render)
+  ! animtext: a PNG is one picture; choose it with --at or --frames (see animtext help render)
   [2]
   $ animtext render one.json -o a.png --frames 0-1
-  ! animtext: a PNG is one picture: say which with --at or --frames (see animtext help render)
+  ! animtext: a PNG is one picture; choose it with --at or --frames (see animtext help render)
   [2]
   $ animtext render one.json -o a.mp4 --transparent
-  ! animtext: films that end with .mp4 cannot be transparent (see animtext help render)
+  ! animtext: .mp4 films cannot be transparent (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --lossless
-  ! animtext: films that end with .gif lose colors; take .apng, .webp or .mp4 (see animtext help render)
+  ! animtext: .gif films lose colors; use .apng, .webp or .mp4 (see animtext help render)
   [2]
   $ animtext render one.json -o a.webm --lossless --transparent
-  ! animtext: transparent films that end with .webm lose colors; take .apng or .webp (see animtext help render)
+  ! animtext: transparent .webm films lose colors; use .apng or .webp (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --transparent --background red
   ! animtext: --transparent and --background cannot be combined (see animtext help render)
   [2]
   $ animtext render one.json -o a.gif --background mud
-  ! animtext: --background takes the name of a color or #rrggbb, not "mud" (see animtext help render)
+  ! animtext: --background is "mud"; expected a color name or #rrggbb (see animtext help render)
   [2]
   $ animtext render one.json ./one.json -o a
   ! animtext: one.json and ./one.json would both become one.gif; render them into two folders (see animtext help render)
@@ -181,10 +181,10 @@ Render:
   ! animtext: $PWD/none/a.gif cannot be written: No such file or directory
   [1]
   $ animtext render one.json -o none/a/
-  ! animtext: no folder can be made in $PWD/none: No such file or directory
+  ! animtext: cannot create a folder in $PWD/none: No such file or directory
   [1]
   $ animtext render one.json -o two.json/
-  ! animtext: $PWD/two.json is a file; give the folder another name
+  ! animtext: $PWD/two.json is a file; choose another name for the folder
   [1]
   $ animtext render bad.json -o a.gif
   ! animtext: bad.json: $.pages: expected a list, found 1
@@ -218,33 +218,33 @@ Data that cannot be read:
   $ cp torn node0.path
   $ for command in 'trace -n 0' 'soak --hours 0'; do animtext $command one.json; done
   ! animtext: one.json: data-malformed at $.pages[0].areas[0].nodes[0].files.PathData: found * (glob)
-  ! animtext: one.json is not played; --force plays it all the same
+  ! animtext: one.json: not played because of these errors; use --force to play it anyway
   ! animtext: one.json: data-malformed at * (glob)
-  ! animtext: one.json is not played; --force plays it all the same
+  ! animtext: one.json: not played because of these errors; use --force to play it anyway
   [2]
   $ animtext trace one.json -n 0 --force 2>/dev/null
   {"tick":0,*} (glob)
   $ sed -i s/PathData/FillImage/ one.json
   $ animtext trace one.json -n 0
   ! animtext: one.json: file-missing at $.pages[0].areas[0].nodes[0].files.PathData: found nothing, expected the name of a data file* (glob)
-  ! animtext: one.json is not played; --force plays it all the same
+  ! animtext: one.json: not played because of these errors; use --force to play it anyway
   [2]
 
-A scene that shows nothing is refused in validate's words, and played all the same by force:
+A scene that shows nothing is refused with validate's messages, and played with --force:
 
   $ fresh
   $ sed -i 's/"AnimationEffect": 4/"AnimationEffect": 99/' one.json
   $ animtext render one.json -o a.png --at 0t
   ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
-  ! animtext: one.json is not played; --force plays it all the same
+  ! animtext: one.json: not played because of these errors; use --force to play it anyway
   [2]
   $ animtext duration one.json
   ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
-  ! animtext: one.json is not played; --force plays it all the same
+  ! animtext: one.json: not played because of these errors; use --force to play it anyway
   [2]
   $ animtext sheet one.json -o a.png
   ! animtext: one.json: effect-unknown at $.pages[0].areas[0].nodes[0].attributes.AnimationEffect: found 99, expected 0 to 29. Empty frames are shown, and the text never ends.
-  ! animtext: one.json is not played; --force plays it all the same
+  ! animtext: one.json: not played because of these errors; use --force to play it anyway
   [2]
   $ animtext render one.json -o a.png --at 0t --seconds 1 --force; ls a.png
   Wrote a.png: 64 x 32, * (glob)
@@ -267,7 +267,7 @@ A folder of frames is replaced, no other:
   [2]
   $ touch same/notes.txt
   $ animtext render two.json -o same/
-  ! animtext: $PWD/same also holds notes.txt; name an empty or a new folder
+  ! animtext: $PWD/same has other contents, such as notes.txt; choose a new or empty folder
   [1]
   $ ls same
   frame-0000.png
@@ -277,11 +277,11 @@ A folder of frames is replaced, no other:
   notes.txt
   $ mv same/notes.txt same/frame-0004.png
   $ animtext render two.json -o same/
-  ! animtext: $PWD/same also holds frame-0004.png; name an empty or a new folder
+  ! animtext: $PWD/same has other contents, such as frame-0004.png; choose a new or empty folder
   [1]
   $ rm same/frame-0004.png; mkdir same/empty
   $ animtext render two.json -o same/
-  ! animtext: $PWD/same also holds empty; name an empty or a new folder
+  ! animtext: $PWD/same has other contents, such as empty; choose a new or empty folder
   [1]
   $ rmdir same/empty; chmod a-w same/frame-0002.png; ln -s same link
   $ animtext render two.json -o link/
@@ -302,25 +302,25 @@ A gallery is replaced, no other folder:
   $ gallery() { animtext gallery -o g --area 8x8 --size 8 --text $1 >/dev/null; }
   $ mkdir -p g/photos; echo mine >g/gallery.js; echo mine >g/photos/1
   $ gallery a
-  ! animtext: $PWD/g also holds gallery.js; name an empty or a new folder
+  ! animtext: $PWD/g has other contents, such as gallery.js; choose a new or empty folder
   [1]
   $ rm -r g; gallery a; gallery b; grep -o 'text a\|text .b' g/motions.js; ls -A | grep '^[.]'
   text 'b
   [1]
   $ cp -r g old; echo '/* mine */' >>g/gallery.css
   $ gallery c
-  ! animtext: $PWD/g also holds gallery.css; name an empty or a new folder
+  ! animtext: $PWD/g has other contents, such as gallery.css; choose a new or empty folder
   [1]
   $ rm -r g; mv old g; echo mine >x; forge() { jq --arg sum $(sha256sum <$1 | cut -c 1-64) ".files[\"$2\"]=\$sum" g/manifest.json >m; mv m g/manifest.json; }
   $ forge x ../x; gallery c; cat x
   mine
   $ mkdir g/mine; mv x g/mine/x; forge g/mine/x mine/x
   $ gallery d
-  ! animtext: $PWD/g also holds mine; name an empty or a new folder
+  ! animtext: $PWD/g has other contents, such as mine; choose a new or empty folder
   [1]
   $ mv g/mine/x x; rmdir g/mine; ln -s ../x g/x.js; forge x x.js
   $ gallery d
-  ! animtext: $PWD/g also holds x.js; name an empty or a new folder
+  ! animtext: $PWD/g has other contents, such as x.js; choose a new or empty folder
   [1]
 
 A still is the picture of the film at that time:

@@ -142,9 +142,9 @@ private slots:
                      lines.contains("76 76 rendering\nWrote a.gif: 64 x 32, 5.0 s, 76 frames, "),
                  lines);
         const QStringList before = files->Everything();
-        QCOMPARE(files->Shell(render + "b/ >/dev/full").errors,
-                 QByteArray("animtext: standard output cannot be written: No space left on "
-                            "device\n"));
+        QCOMPARE(
+            files->Shell(render + "b/ >/dev/full").errors,
+            QByteArray("animtext: cannot write to standard output: No space left on device\n"));
         files->Shell(render + "b/ | true"); // whoever wanted it is gone
         QCOMPARE(files->Everything(), before);
     }

@@ -114,7 +114,7 @@ A node:
 Byte order marks are characters, wherever a text has them:
 
   $ fresh
-  $ for text in $'\ufeffab' $'a\ufeffb'; do animtext author -o mark.json --text "$text"; done | cut -d ' ' -f 2,3; animtext validate --strict mark.json
+  $ for text in $'\ufeffab' $'a\ufeffb'; do animtext author -o mark.json --text "$text"; done | cut -d ' ' -f 3,4; animtext validate --strict mark.json
   3 characters
   3 characters
   mark.json: no mistakes found

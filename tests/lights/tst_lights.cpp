@@ -273,14 +273,14 @@ private slots:
     void severalControllers_data()
     {
         const Table<QString, QString> row("address", "error");
-        row("the same universe", "sacn://127.0.0.1/1x1,universe=4", "fills channels that");
+        row("the same universe", "sacn://127.0.0.1/1x1,universe=4", "uses the same channels");
         row("its free channels", "sacn://127.0.0.1/1x1,universe=4,channel=7", "");
         row("the next universe", "sacn://127.0.0.1/1x1,universe=5", "");
         row("another port", "sacn://127.0.0.1:5000/1x1", "");
-        row("the same bytes", "ddp://127.0.0.1/1x1,channel=12", "fills channels that");
+        row("the same bytes", "ddp://127.0.0.1/1x1,channel=12", "uses the same channels");
         row("the next bytes", "ddp://127.0.0.1/1x1,channel=13", "");
         row("no such host", "ddp://host.invalid", "cannot be found");
-        row("broadcast", "artnet://255.255.255.255", "--broadcast allows it");
+        row("broadcast", "artnet://255.255.255.255", "use --broadcast");
         row("multicast", "ddp://239.255.0.1", "expected sacn://");
         row("no such interface", "sacn:///1x1,interface=none0", "no network interface");
     }

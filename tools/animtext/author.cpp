@@ -20,8 +20,7 @@ namespace {
 constexpr int mostListed = 5;   // characters, or words, that are listed
 constexpr int longestWord = 40; // characters of a word that are shown
 
-/** Says which characters the sign will not show. */
-void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
+void WarnOfUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
 {
     for (const UnseenCharacter& character : unseen.mid(0, mostListed)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
@@ -38,40 +37,39 @@ void TellUnseen(const QList<UnseenCharacter>& unseen, const QString& text)
         Warn(QStringLiteral("%1 more characters leave gaps").arg(unseen.size() - mostListed));
 }
 
-/** Says what of the letters will not be seen as it should. */
-void TellLosses(const AuthoredNode& authored)
+/** Warns of words that are split and letters that are cut off. */
+void WarnOfLosses(const AuthoredNode& authored)
 {
     QStringList words;
     for (const QString& word : authored.tornWords.mid(0, mostListed))
         words.append(word.size() > longestWord ? word.left(longestWord) + QStringLiteral("...")
                                                : word);
     if (!words.isEmpty())
-        Warn(QStringLiteral("%1 wider than a page and torn: %2%3")
+        Warn(QStringLiteral("%1 wider than a page and split: %2%3")
                  .arg(authored.tornWords.size() == 1
                           ? QStringLiteral("a word is")
                           : QStringLiteral("%1 words are").arg(authored.tornWords.size()),
                       words.join(QStringLiteral(", ")),
                       authored.tornWords.size() > mostListed ? QStringLiteral(" ...") : QString()));
     if (authored.cutAbove > 0 || authored.cutBelow > 0)
-        Warn(QStringLiteral("letters are cut off: %1 pixels above the area and %2 below; --fit "
-                            "height makes them fit")
+        Warn(QStringLiteral("letters are cut off: %1 pixels above the area, %2 pixels below; --fit "
+                            "height avoids this")
                  .arg(authored.cutAbove)
                  .arg(authored.cutBelow));
 }
 
-/** Says what validating would, but for what was told by the letters themselves. */
-void TellFindings(const QString& path)
+/** Prints what validate finds, except what WarnOfUnseen() and WarnOfLosses() say better. */
+void WarnOfFindings(const QString& path)
 {
     for (const Finding& finding : ValidateScene(path)) {
-        const bool wasPlaced = finding.mistake == Mistake::AreasOverlap; // by who gave its place
+        const bool isIntended = finding.mistake == Mistake::AreasOverlap;
         if (finding.mistake != Mistake::OutlineEmpty && finding.mistake != Mistake::TextHigh &&
-            !wasPlaced)
+            !isIntended)
             Warn(finding.Line());
     }
 }
 
-/** Says how much of the text the host takes away before it is shown. */
-void TellCut(const QString& path, const AuthoredNode& authored)
+void WarnOfCutOff(const QString& path, const AuthoredNode& authored)
 {
     Scene scene;
     scene.path = path;
@@ -92,7 +90,7 @@ QByteArray Summary(const QString& path, const AuthorOptions& options, const Auth
                                               : QStringLiteral("%1 pages").arg(authored.pages);
     const auto number = [](int value) { return QString::number(value); };
     const int count = options.text.toUcs4().size();
-    return QStringLiteral("%1: %2 of %3, %4 x %5 pixels; %6 in %7 of %8 x %9\n")
+    return QStringLiteral("Wrote %1: %2 in %3, %4 x %5 pixels; %6, %7 of %8 x %9\n")
         .arg(path,
              count == 1 ? QStringLiteral("one character")
                         : QStringLiteral("%1 characters").arg(count),
@@ -108,21 +106,18 @@ QString ScenePath(const CommandLine& line)
 {
     const QString path = line.Value("output");
     if (!IsUtf8(path))
-        throw Misuse{QStringLiteral("%1: expected UTF-8, for the scene names its data files after "
-                                    "itself")
-                         .arg(path)};
+        throw Misuse{QStringLiteral("%1: the file name is not valid UTF-8").arg(path)};
     return path;
 }
 
-/** Whether the texts of a scene that is there stay. */
+/** Whether the other texts of an existing scene are kept. */
 bool Adds(const CommandLine& line)
 {
     return line.IsSet("append") || line.IsSet("page") || line.IsSet("in-area") ||
            line.IsSet("replace");
 }
 
-/** Where the text goes; its area is that of the text beside which it comes, unless one was given.
- */
+/** Where the text goes. In an existing area, @p options get its size and position by default. */
 Destination ReadDestination(const CommandLine& line, const QString& path, AuthorOptions* options)
 {
     Destination destination;
@@ -135,9 +130,9 @@ Destination ReadDestination(const CommandLine& line, const QString& path, Author
     if (line.IsSet("replace"))
         destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && (line.IsSet("page") || line.IsSet("in-area")))
-        throw Misuse{QStringLiteral("--replace excludes --page and --in-area")};
+        throw Misuse{QStringLiteral("--replace cannot be combined with --page or --in-area")};
     if (line.IsSet("replace") && destination.instead.isEmpty())
-        throw Misuse{QStringLiteral("--replace takes PLACE, not an empty word")};
+        throw Misuse{QStringLiteral("--replace is empty; expected PLACE")};
     if (line.IsSet("overwrite") && Adds(line))
         throw Misuse{QStringLiteral("--overwrite cannot be combined with --append, --page, "
                                     "--in-area or --replace")};
@@ -162,7 +157,7 @@ int WriteScene(const CommandLine& line)
 {
     QStringList notes;
     const QString path = ScenePath(line);
-    AuthorOptions options = ReadWishes(line, &notes);
+    AuthorOptions options = ReadOptions(line, &notes);
     const Destination destination = ReadDestination(line, path, &options);
     for (const QString& note : notes)
         Warn(note);
@@ -176,8 +171,8 @@ int WriteScene(const CommandLine& line)
         if (!Adds(line)) {
             const int texts = scene->Nodes().size();
             if (texts > 1 && !line.IsSet("overwrite")) {
-                *why = QStringLiteral("%1 has %2 texts: --replace PLACE changes one of them, "
-                                      "--append adds one, --overwrite leaves only the new one")
+                *why = QStringLiteral("%1 has %2 texts; use --replace PLACE to replace one, "
+                                      "--append to add one, or --overwrite to replace all")
                            .arg(path)
                            .arg(texts);
                 return false;
@@ -191,10 +186,10 @@ int WriteScene(const CommandLine& line)
         return PutAuthored(authored, destination, scene, dataFiles, why);
     };
     SaveScene(path, change);
-    TellUnseen(authored.unseen, options.text);
-    TellLosses(authored);
-    TellFindings(path);
-    TellCut(path, authored);
+    WarnOfUnseen(authored.unseen, options.text);
+    WarnOfLosses(authored);
+    WarnOfFindings(path);
+    WarnOfCutOff(path, authored);
     Print(Summary(path, options, authored));
     return Done;
 }
@@ -203,15 +198,18 @@ int WriteScene(const CommandLine& line)
 
 Command AuthorCommand()
 {
-    return {"author",
-            "lays a text out and writes the scene that shows it",
-            "",
-            0,
-            0,
-            "Lays a text out and writes the scene that shows it, with its data files beside it. "
-            "The text is --text TEXT or --text-file FILE.",
-            WishOptions(),
-            WriteScene};
+    return {
+        "author",
+        "lay out a text and write a scene that shows it",
+        "",
+        0,
+        0,
+        "Lays out the text of --text or --text-file and writes a scene that shows it, with data "
+        "files beside the scene. An existing scene with one text is replaced.",
+        LayoutOptions(),
+        WriteScene,
+        {"animtext author --text \"Platform 4\" --effect SwingEffect -o sign.json",
+         "animtext author --text \"Mind the gap\" --scroll left --page 2 -o sign.json"}};
 }
 
 } // namespace AnimText

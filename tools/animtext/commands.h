@@ -1,6 +1,6 @@
 /**
  * @file
- * The commands of animtext. To run one may throw Failure or Misuse.
+ * The commands of animtext. They throw Failure or Misuse.
  */
 #ifndef ANIMTEXT_COMMANDS_H
 #define ANIMTEXT_COMMANDS_H

@@ -15,7 +15,7 @@ namespace AnimText {
 
 namespace {
 
-/** A scene is one object, a recording has one in each line. */
+/** Whether the file is a recording rather than a scene. */
 bool IsRecording(const QString& path)
 {
     QFile file(path);
@@ -35,7 +35,7 @@ Recording Open(const QString& path)
     return recording;
 }
 
-/** Where two recordings part, in words. */
+/** Where two recordings differ, in words. */
 QString Tell(const Parting& parting, const Recording& a, const Recording& b)
 {
     const auto place = [&](const Recording& recording) {
@@ -62,7 +62,7 @@ void Keep(const QImage& picture, const QString& path)
     Print(path.toUtf8() + '\n');
 }
 
-/** A recording and a scene, and what it takes to play that on the desk. */
+/** Plays a scene on the desktop to compare it with a recording. */
 class DeskComparison
 {
 public:
@@ -74,9 +74,10 @@ public:
         , recorded(Open(log))
     {
         if (!recorded.hasCalls)
-            throw Failure{BadInput, QStringLiteral("%1 has pictures alone; animtext trace --calls "
-                                                   "writes the calls as well")
-                                        .arg(log)};
+            throw Failure{BadInput,
+                          QStringLiteral(
+                              "%1 has pictures but no calls; record it with animtext trace --calls")
+                              .arg(log)};
     }
 
     const Recording& Recorded() const { return recorded; }
@@ -94,7 +95,7 @@ public:
         return desk;
     }
 
-    /** Both pictures and their difference, where the recording has the pixels. */
+    /** Saves both pictures and their difference, if the recording has the pixels. */
     void KeepPictures(const Parting& parting)
     {
         const int number = recorded.sessions.at(parting.session).at(parting.call).pixels;
@@ -134,7 +135,8 @@ int Report(const Parting& parting, const Recording& a, const Recording& b)
                   .toUtf8());
         return Done;
     }
-    Print(QStringLiteral("%1 and %2 part: %3\n").arg(a.name, b.name, Tell(parting, a, b)).toUtf8());
+    Print(
+        QStringLiteral("%1 and %2 differ: %3\n").arg(a.name, b.name, Tell(parting, a, b)).toUtf8());
     return FailedRun;
 }
 
@@ -158,8 +160,9 @@ int Compare(const CommandLine& line)
     DropStop(&a);
     DropStop(&b);
     if (a.hasCalls != b.hasCalls)
-        throw Failure{BadInput, QStringLiteral("only one of them has calls; animtext trace --calls "
-                                               "writes them")};
+        throw Failure{BadInput,
+                      QStringLiteral(
+                          "only one recording has calls; record both with animtext trace --calls")};
     return Report(FirstParting(a, b, tolerance), a, b);
 }
 
@@ -168,22 +171,26 @@ int Compare(const CommandLine& line)
 Command CompareCommand()
 {
     return {"compare",
-            "says where two recordings, or a device and the desk, first part",
+            "find the first difference between a recording and a scene",
             "RECORDING SCENE.json|RECORDING",
             2,
             2,
-            "Says where a recording of librecord or animtext trace first parts from another one, "
-            "or from what the plugin does with a scene on the desk: a call, its order, what is "
-            "asked, a picture, a time. Ends with 1 when they part. Where the recording kept the "
-            "pixels of a picture that differs, both pictures and their difference are written.",
+            "Finds the first difference between a recording, made with librecord or animtext "
+            "trace, and what the plugin does with the scene on the desktop, or between two "
+            "recordings. Compares calls, their order, arguments, pictures and times. The exit "
+            "status is 1 if they differ. If the recording has the pixels of a picture that "
+            "differs, both pictures and their difference are saved.",
             WithShowOptions(
                 {Option::Time("tolerance", 1000, 0, 1e6, "TIME",
-                              "How far times may differ, counted from a session's first call.")
+                              "Allowed difference of times, counted from a session's first call.")
                      .Or("66ms"),
-                 Option::Flag("no-times", "Times do not matter."),
-                 Option::File("output", "DIR", "Where the pictures go; beside the first recording.")
+                 Option::Flag("no-times", "Ignore times."),
+                 Option::File("output", "DIR",
+                              "Folder for pictures. Default: beside the first recording.")
                      .Letter('o')}),
-            Compare};
+            Compare,
+            {"animtext compare device.log sign.json --no-times -o differences",
+             "animtext compare device.log sign.trace --tolerance 100ms"}};
 }
 
 } // namespace AnimText

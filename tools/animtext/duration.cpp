@@ -20,67 +20,66 @@ QString Count(int number, const QString& one, const QString& many)
     return QStringLiteral("%1 %2").arg(number).arg(number == 1 ? one : many);
 }
 
-QString Difference(qint64 model, qint64 real)
+QString Difference(qint64 planned, qint64 actual)
 {
-    const qint64 difference = real - model;
+    const qint64 difference = actual - planned;
     if (std::llabs(difference) <= tickLength)
-        return QStringLiteral("The play takes what the host is told, to a tick.");
+        return QStringLiteral("Both times agree to within a tick.");
     const QString part =
-        model > 0 ? QStringLiteral(" (%1 %)").arg(
-                        100.0 * double(std::llabs(difference)) / double(model), 0, 'f', 1)
-                  : QString();
+        planned > 0 ? QStringLiteral(" (%1 %)").arg(
+                          100.0 * double(std::llabs(difference)) / double(planned), 0, 'f', 1)
+                    : QString();
     return difference > 0
-               ? QStringLiteral("Told %1, really %2: the last %3%4 are cut off.")
-                     .arg(Seconds(model), Seconds(real), Seconds(difference), part)
-               : QStringLiteral("The play ends %1%2 before the time that the host is told, and "
-                                "begins anew until then.")
+               ? QStringLiteral("The sign cuts off the last %1%2.").arg(Seconds(difference), part)
+               : QStringLiteral(
+                     "The text ends %1%2 early and plays again until the planned time is over.")
                      .arg(Seconds(-difference), part);
 }
 
-QString InWords(qint64 model, const Simulation& simulation)
+QString InWords(qint64 planned, const Simulation& simulation)
 {
     switch (simulation.ending) {
     case Ending::ScrollsOn:
-        return QStringLiteral("It reports itself finished as soon as it starts, and the device "
-                              "scrolls on until it is stopped.");
+        return QStringLiteral("Actual: the text reports that it has finished when it starts; the "
+                              "device scrolls it until it is stopped.");
     case Ending::StandsStill:
-        return QStringLiteral("It stands still and never reports itself finished.");
-    case Ending::NothingToPlay: return QStringLiteral("There is no text to play.");
+        return QStringLiteral("Actual: the text stands still and never finishes.");
+    case Ending::NothingToPlay: return QStringLiteral("Actual: there is no text to play.");
     case Ending::TooLong:
-        return QStringLiteral("It had not finished when the simulation was broken off.");
+        return QStringLiteral("Actual: the text had not finished when the simulation stopped.");
     case Ending::Finishes: break;
     }
-    return QStringLiteral("Really it is finished after %1: %2 of animation and %3 of holds.\n%4")
+    return QStringLiteral("Actual:  %1 (%2 of animation, %3 of holds)\n%4")
         .arg(Seconds(simulation.finishedMs),
              Count(simulation.animationTicks, QStringLiteral("tick"), QStringLiteral("ticks")),
              Count(simulation.holdTicks, QStringLiteral("tick"), QStringLiteral("ticks")),
-             Difference(model, simulation.finishedMs));
+             Difference(planned, simulation.finishedMs));
 }
 
-QByteArray JsonLine(int node, int nodes, qint64 model, const Simulation* simulation)
+QByteArray JsonLine(int node, int nodes, qint64 planned, const Simulation* simulation)
 {
     Json line = Json::Object();
     if (nodes > 1)
         line.Add("node", node);
-    line.Add("duration", model);
+    line.Add("duration", planned);
     if (simulation)
         line.Add("simulated", ToJson(*simulation));
     return line.Text() + '\n';
 }
 
-QByteArray ToText(int node, int nodes, qint64 model, const Simulation* simulation)
+QByteArray ToText(int node, int nodes, qint64 planned, const Simulation* simulation)
 {
     QString text = nodes > 1 ? QStringLiteral("Node %1: ").arg(node) : QString();
-    text += QStringLiteral("the host is told %1 (%2 ms).\n").arg(Seconds(model)).arg(model);
+    text += QStringLiteral("planned: %1 (%2 ms)\n").arg(Seconds(planned)).arg(planned);
     if (simulation)
-        text += InWords(model, *simulation) + QLatin1Char('\n');
+        text += InWords(planned, *simulation) + QLatin1Char('\n');
     text[0] = text.at(0).toUpper();
     return text.toUtf8();
 }
 
 QVector<Simulation> SimulateAll(Player* player, const Scene& scene, uint seed)
 {
-    Progress progress(QStringLiteral("simulating, tick"), 0);
+    Progress progress(QStringLiteral("simulating tick"), 0);
     const auto watch = [&](int tick) {
         progress.Show(tick);
         return !Interrupted();
@@ -94,30 +93,30 @@ QVector<Simulation> SimulateAll(Player* player, const Scene& scene, uint seed)
     return simulations;
 }
 
-void Tell(const CommandLine& line, const Playing& playing, const Scene& scene)
+void PrintTimes(const CommandLine& line, const Playing& playing, const Scene& scene)
 {
     const std::unique_ptr<Player> player = playing.Load(scene);
     const int nodes = player->NodeCount();
-    const QVector<qint64> models = player->Durations();
+    const QVector<qint64> planned = player->Durations();
 
     QVector<Simulation> simulations;
     if (line.IsSet("simulate"))
         simulations = SimulateAll(player.get(), scene, playing.Seed());
     for (int node = 0; node < nodes; ++node) {
         const Simulation* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
-        Print(line.IsSet("json") ? JsonLine(node, nodes, models.at(node), simulation)
-                                 : ToText(node, nodes, models.at(node), simulation));
+        Print(line.IsSet("json") ? JsonLine(node, nodes, planned.at(node), simulation)
+                                 : ToText(node, nodes, planned.at(node), simulation));
     }
 }
 
-int TellDuration(const CommandLine& line)
+int PrintDuration(const CommandLine& line)
 {
     const Scene scene = OpenPlayableScene(line, line.Arguments().first());
     const Playing playing(line);
     if (line.IsSet("table"))
-        TellDurationTable(playing, scene, line.IsSet("json"));
+        PrintDurationTable(playing, scene, line.IsSet("json"));
     else
-        Tell(line, playing, scene);
+        PrintTimes(line, playing, scene);
     return Done;
 }
 
@@ -125,19 +124,22 @@ int TellDuration(const CommandLine& line)
 
 Command DurationCommand()
 {
-    return {"duration",
-            "tells how long the host thinks a scene plays, and how long it does",
-            "SCENE.json",
-            1,
-            1,
-            "Tells the play time that the host is told before a scene plays and, simulated, the "
-            "time that the play really takes.",
-            WithShowOptions(
-                {Option::Flag("simulate", "Plays the scene too, and tells the difference."),
-                 Option::Flag("table", "Tells both times of the scene's first text for every "
-                                       "entrance effect at speeds 0, 4, 5 and 9."),
-                 Option::Flag("json", "Prints a line of JSON for each text.")}),
-            TellDuration};
+    return {
+        "duration",
+        "print the planned and the actual time of a scene",
+        "SCENE.json",
+        1,
+        1,
+        "Prints the planned time of each text, which the host asks for before it plays a scene. "
+        "With --simulate, also prints the actual time. If the text needs longer than planned, the "
+        "sign cuts off its end.",
+        WithShowOptions(
+            {Option::Flag("simulate", "Play the scene on virtual time to find the actual time."),
+             Option::Flag("table", "Print both times of the first text for every entrance effect "
+                                   "at speeds 0, 4, 5 and 9."),
+             Option::Flag("json", "Print a JSON line for each text.")}),
+        PrintDuration,
+        {"animtext duration sign.json --simulate", "animtext duration sign.json --table"}};
 }
 
 } // namespace AnimText

@@ -77,14 +77,15 @@ Command EffectsCommand()
 {
     return {
         "effects",
-        "lists the entrance effects and scrolls",
+        "list entrance effects and scrolls",
         "[WORD...]",
         0,
         20,
-        "Lists the entrance effects and the scrolls with their numbers and names, or only those "
-        "that match every WORD, such as bounce or ticker.",
-        {Option::Flag("json", "Prints JSON, with the family and the synonyms of each.")},
+        "Lists the entrance effects and scrolls with their numbers and names, or only those that "
+        "match every WORD, such as bounce or ticker.",
+        {Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
         ListEffects,
+        {"animtext effects", "animtext effects bounce --json"},
         {QStringLiteral("bounce"), QStringLiteral("fly"), QStringLiteral("grow"),
          QStringLiteral("scroll"), QStringLiteral("spin"), QStringLiteral("ticker"),
          QStringLiteral("typewriter"), QStringLiteral("zoom")}};

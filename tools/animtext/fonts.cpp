@@ -12,7 +12,7 @@ int Fonts(const CommandLine& line)
     const QString filter = line.Arguments().value(0);
     const QStringList families = FontFamilies(filter);
     if (families.isEmpty())
-        throw Failure{FailedRun, QStringLiteral("there is no font family \"%1\"%2")
+        throw Failure{FailedRun, QStringLiteral("no installed font family contains \"%1\"%2")
                                      .arg(filter, DidYouMeanOneOf(filter, FontFamilies()))};
     Print(families.join(QLatin1Char('\n')).toUtf8() + '\n');
     return Done;
@@ -22,10 +22,15 @@ int Fonts(const CommandLine& line)
 
 Command FontsCommand()
 {
-    return {"fonts",    "lists the fonts that are installed",
-            "[FILTER]", 0,
-            1,          "Lists the installed font families, or those whose names hold FILTER.",
-            {},         Fonts};
+    return {"fonts",
+            "list installed fonts",
+            "[FILTER]",
+            0,
+            1,
+            "Lists the installed font families, or those whose names contain FILTER.",
+            {},
+            Fonts,
+            {"animtext fonts", "animtext fonts dejavu"}};
 }
 
 } // namespace AnimText

@@ -15,7 +15,7 @@ namespace {
 
 const char standardText[] = "Welcome aboard!";
 
-// What of `animtext author` makes sense for a text that is seen in every motion.
+// The options of `animtext author` that suit every motion.
 const char* const textOptions[] = {"text",      "font",  "size",   "bold", "italic",
                                    "underline", "color", "hollow", "hold", "area"};
 
@@ -25,14 +25,14 @@ bool IsTextOption(const Option& option)
                        [&](const char* name) { return qstrcmp(name, option.name) == 0; });
 }
 
-/** @p word as a shell reads it. */
+/** @p word quoted for a shell. */
 QString Quoted(QString word)
 {
     return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''")) +
            QLatin1Char('\'');
 }
 
-/** The options that `animtext author` needs for the same text, as one types them. */
+/** The options of `animtext author` for the same text, as typed. */
 QString WordsOf(const Command& command, const CommandLine& line)
 {
     QStringList words;
@@ -83,7 +83,7 @@ int MakeGallery(const CommandLine& line)
     StopIfInterrupted();
     if (!written)
         throw Failure{FailedRun, error};
-    Print(QStringLiteral("%1/index.html shows every motion at every speed; %2 MB\n")
+    Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")
               .arg(options.folder)
               .arg(double(bytes) / 1e6, 0, 'f', 1)
               .toUtf8());
@@ -94,9 +94,8 @@ int MakeGallery(const CommandLine& line)
 
 Command GalleryCommand()
 {
-    QVector<Option> own{
-        Option::File("output", "DIR", "The folder to write.").Letter('o').Required()};
-    for (Option option : WishOptions()) {
+    QVector<Option> own{Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
+    for (Option option : LayoutOptions()) {
         if (!IsTextOption(option))
             continue;
         if (qstrcmp(option.name, "text") == 0)
@@ -108,15 +107,16 @@ Command GalleryCommand()
         own.append(option);
     }
     return {"gallery",
-            "makes a web page on which every motion is seen",
+            "make a web page that shows every motion",
             "",
             0,
             0,
-            "Lets the plugin play a text in every motion at every speed and writes a folder with a "
-            "web page that shows them. The page needs no server and nothing from elsewhere: open "
-            "its index.html in any browser.",
+            "Plays a text with every motion at every speed and writes a web page that shows them. "
+            "Open index.html in any browser; the page works without a server or a network.",
             WithPlayOptions(own),
-            MakeGallery};
+            MakeGallery,
+            {"animtext gallery -o gallery",
+             "animtext gallery --text \"Platform 4\" --area 96x24 -o gallery"}};
 }
 
 } // namespace AnimText

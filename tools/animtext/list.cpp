@@ -86,13 +86,14 @@ int List(const CommandLine& line)
 Command ListCommand()
 {
     return {"list",
-            "lists the texts of a scene",
+            "list the texts in a scene",
             "SCENE.json",
             1,
             1,
-            "Lists the texts of a scene with their numbers, pages, areas, motions and times.",
-            {Option::Flag("json", "Prints a JSON list.")},
-            List};
+            "Lists the texts in a scene with their numbers, pages, areas, motions and times.",
+            {Option::Flag("json", "Print a JSON list.")},
+            List,
+            {"animtext list sign.json", "animtext list sign.json --json"}};
 }
 
 } // namespace AnimText

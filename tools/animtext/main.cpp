@@ -35,7 +35,7 @@ const Command& FindCommand(const QString& name)
             return command;
     }
     throw Misuse{
-        QStringLiteral("there is no command \"%1\"%2").arg(name, DidYouMean(name, CommandNames()))};
+        QStringLiteral("unknown command \"%1\"%2").arg(name, DidYouMean(name, CommandNames()))};
 }
 
 int Help(const CommandLine& line)
@@ -59,7 +59,7 @@ int Complete(const CommandLine& line)
     else if (shell == QLatin1String("fish"))
         Print(CompletionForFish(Commands()));
     else
-        throw Misuse{QStringLiteral("expected bash, zsh or fish, not \"%1\"").arg(shell)};
+        throw Misuse{QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
     return Done;
 }
 
@@ -69,32 +69,35 @@ const QVector<Command>& Commands()
     if (commands.isEmpty()) {
         const Command completion{
             "completion",
-            "prints the script with which a shell completes these words",
+            "print a completion script for a shell",
             "bash|zsh|fish",
             1,
             1,
-            "Prints a script for the shell that is named; its first line tells where it goes.",
+            "Prints a completion script for bash, zsh or fish. A comment at its top says how to "
+            "load it.",
             {},
             Complete,
+            {"source <(animtext completion bash)", "animtext completion zsh >_animtext"},
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
         commands = {AuthorCommand(),   ListCommand(),  SetCommand(),     RemoveCommand(),
                     TidyCommand(),     PlayCommand(),  RenderCommand(),  SheetCommand(),
                     GalleryCommand(),  TraceCommand(), CompareCommand(), DurationCommand(),
                     ValidateCommand(), SoakCommand(),  SchemaCommand(),  EffectsCommand(),
                     FontsCommand(),    completion};
-        Command help{"help",
-                     "tells of a command",
-                     "[COMMAND]",
-                     0,
-                     1,
-                     "Tells what a command does and which options it has.",
-                     {Option::File("man", "FOLDER",
-                                   "Writes the manual pages of all commands into a folder.")},
-                     Help,
-                     CommandNames()};
+        Command help{
+            "help",
+            "show help for a command",
+            "[COMMAND]",
+            0,
+            1,
+            "Shows what a command does, its options and examples.",
+            {Option::File("man", "FOLDER", "Write the man pages of all commands to a folder.")},
+            Help,
+            {"animtext help render", "animtext help --man man"},
+            CommandNames()};
         commands.append(help);
         for (Command& command : commands)
-            command.options.append(Option::Flag("help", "Shows this help.").Letter('h'));
+            command.options.append(Option::Flag("help", "Show this help.").Letter('h'));
     }
     return commands;
 }
@@ -127,7 +130,7 @@ int Run(QString name, const QStringList& words)
     }
 }
 
-int RunAndTell(const QStringList& words)
+int RunAndReport(const QStringList& words)
 {
     try {
         const int status = Run(words.value(0), words.mid(1));
@@ -149,22 +152,22 @@ int main(int argc, char** argv)
     InstallMessages();
     EndAtInterruption();
     KeepAllFileNames();
-    // The words are ours alone: Qt would take some of them, --plugin for one, for itself.
+    // QGuiApplication gets no arguments: it would take some of them, such as --plugin.
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(TextOfWord(argv[i]));
-    // Playing live makes an application of its own. No other command shows a window, so none may
-    // fail for want of a display, nor look otherwise for the desktop that it is run on.
+    // PlayLive() makes its own application. No other command shows a window, so none may
+    // fail without a display or depend on the desktop's theme.
     if (words.value(0) == QLatin1String("play"))
-        return RunAndTell(words);
+        return RunAndReport(words);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_QPA_PLATFORMTHEME");
     QCoreApplication::setEventDispatcher(new VirtualDispatcher);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
-    // Without a folder for the session, Qt makes one in TMPDIR; nothing of ours needs it.
+    // Without XDG_RUNTIME_DIR Qt makes a folder in TMPDIR, which nothing here needs.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         rmdir(QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)));
     QCoreApplication::setApplicationName(QStringLiteral("animtext"));
-    return RunAndTell(words);
+    return RunAndReport(words);
 }

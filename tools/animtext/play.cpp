@@ -16,9 +16,9 @@ namespace AnimText {
 
 namespace {
 
-constexpr int lookTime = 100; // milliseconds from one look for a signal to the next
+constexpr int lookTime = 100; // milliseconds between checks for a signal
 
-/** Plays what has changed; where that cannot be read, what was there goes on. */
+/** Plays the changed scene; if it cannot be read, the previous one continues. */
 void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
             const LiveSettings& settings)
 {
@@ -29,14 +29,14 @@ void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
         if (!player->Play(scene, settings, &error))
             throw Failure{BadInput, error};
     } catch (const Failure& failure) {
-        Warn(failure.message + QStringLiteral(" (what was read before plays on)"));
+        Warn(failure.message + QStringLiteral(" (still playing the previous version)"));
     }
 }
 
 QByteArray Report(const Punctuality& kept)
 {
-    return QStringLiteral("played %1 s, %2 ticks: %3 pictures of the first text; the screen came "
-                          "at most %4 ms late, and %5 ticks were made up for\n")
+    return QStringLiteral("played %1 s, %2 ticks: %3 pictures of the first text; screen at most %4 "
+                          "ms late, %5 ticks delivered late\n")
         .arg(double(kept.time) / 1000, 0, 'f', 1)
         .arg(kept.due)
         .arg(kept.pictures)
@@ -117,37 +117,36 @@ int PlayLive(const CommandLine& line)
 
 Command PlayCommand()
 {
-    return {
-        "play",
-        "plays a scene live in a window, as a sign or on LEDs",
-        "SCENE.json",
-        0,
-        1,
-        "Plays a scene on the clock, in a window: what the plugin paints, as the display shows "
-        "it. Space pauses, F fills the screen, Esc ends. When all is done the last picture "
-        "stays, and Space begins anew. QT_QPA_PLATFORM=linuxfb shows it on a board's screen "
-        "without a desktop, QT_QPA_PLATFORM=vnc to VNC viewers. --to shows it on LED controllers "
-        "in "
-        "the network, without a window.",
-        WithShowOptions(
-            {Option::Flag("loop", "Begins anew when all is done."),
-             Option::Flag("schedule",
-                          "Plays as the host does: the pages, and the texts of an area, one "
-                          "after another, each for the time that the host is told. Without it "
-                          "all texts play at once."),
-             Option::Flag("fullscreen", "Fills the screen."),
-             Option::Number("zoom", 1, 64,
-                            "Points of the desk to a pixel; as large as fits unless told."),
-             Option::Fraction("leds", 1, 4, "PITCH",
-                              "Shows round lamps, that many of their diameters apart.")
-                 .Alone("1.25"),
-             Option::Flag("watch", "Plays the scene anew whenever it or its data files change."),
-             Option::Time("seconds", 1000, 0.1, 86400 * 366.0, "TIME",
-                          "Ends after that long, as in 10s or 90min."),
-             Option::Flag("timing", "Tells in the end how the play has kept up with the "
-                                    "clock.")}) +
-            LightOptions(),
-        PlayLive};
+    return {"play",
+            "play a scene live in a window or on LEDs",
+            "SCENE.json",
+            0,
+            1,
+            "Plays a scene in real time, in a window. Space pauses, F switches to full screen and "
+            "Esc quits. At the end the last picture stays; press Space to play again. --to plays "
+            "on LED controllers in the network instead of in a window. Set QT_QPA_PLATFORM to "
+            "linuxfb to play on a board's own screen without a desktop, or to vnc for VNC viewers.",
+            WithShowOptions(
+                {Option::Flag("loop", "Repeat until stopped."),
+                 Option::Flag("schedule",
+                              "Play like the host: pages, and texts in an area, one after another, "
+                              "each for its planned time. Default: all texts at once."),
+                 Option::Flag("fullscreen", "Fill the screen."),
+                 Option::Number("zoom", 1, 64,
+                                "Screen pixels per display pixel. Default: as many as fit."),
+                 Option::Fraction(
+                     "leds", 1, 4, "PITCH",
+                     "Draw round LEDs, PITCH times their diameter apart. Without PITCH: 1.25.")
+                     .Alone("1.25"),
+                 Option::Flag("watch", "Restart when the scene or its data files change."),
+                 Option::Time("seconds", 1000, 0.1, 86400 * 366.0, "TIME",
+                              "Stop after this time, such as 10s or 90min. Default: no limit."),
+                 Option::Flag("timing",
+                              "Print at the end how well the play kept up with the clock.")}) +
+                LightOptions(),
+            PlayLive,
+            {"animtext play sign.json --loop --leds",
+             "animtext play sign.json --to ddp://192.168.1.50 --gamma"}};
 }
 
 } // namespace AnimText

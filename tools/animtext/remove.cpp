@@ -18,16 +18,17 @@ int Remove(const CommandLine& line)
 
 Command RemoveCommand()
 {
-    return {
-        "remove",
-        "removes a text from a scene",
-        "SCENE.json PLACE",
-        2,
-        2,
-        "Removes a text, with its data files, and an area and a page that are empty then. PLACE "
-        "is the text's number, as animtext list shows it, or its path in the file.",
-        {},
-        Remove};
+    return {"remove",
+            "remove a text from a scene",
+            "SCENE.json PLACE",
+            2,
+            2,
+            "Removes a text with its data files, and its area and page if they become empty. PLACE "
+            "is the text's number in animtext list, or its path as in animtext validate.",
+            {},
+            Remove,
+            {"animtext remove sign.json 2",
+             "animtext remove sign.json '$.pages[0].areas[0].nodes[0]'"}};
 }
 
 } // namespace AnimText

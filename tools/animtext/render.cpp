@@ -43,21 +43,21 @@ void CheckKind(const CommandLine& line, const FilmKind& kind)
     if (transparent && line.IsSet("background"))
         refuse("--transparent and --background cannot be combined");
     if (transparent && line.IsSet("leds"))
-        refuse("--transparent and --leds cannot be combined: LEDs are on black");
+        refuse("--transparent and --leds cannot be combined; LEDs are drawn on black");
     if (line.IsSet("leds") && line.IsSet("scale") && line.Number("scale") < smallestLamp)
         refuse("--leds needs a --scale of at least 4");
     if (transparent && !kind.Has(FilmKind::Transparent))
-        refuse("films that end with %1 cannot be transparent");
+        refuse("%1 films cannot be transparent");
     if (line.IsSet("lossless") && !kind.Has(FilmKind::Lossless))
-        refuse("films that end with %1 lose colors; take .apng, .webp or .mp4");
+        refuse("%1 films lose colors; use .apng, .webp or .mp4");
     if (line.IsSet("lossless") && transparent && !kind.Has(FilmKind::LosslessAlpha))
-        refuse("transparent films that end with %1 lose colors; take .apng or .webp");
+        refuse("transparent %1 films lose colors; use .apng or .webp");
     if (line.IsSet("at") && line.IsSet("frames"))
         refuse("--at and --frames cannot be combined");
     const bool isOne =
         line.IsSet("frames") && line.Range("frames").first == line.Range("frames").second;
     if (kind.Has(FilmKind::Still) && !isOne && !line.IsSet("at"))
-        refuse("a PNG is one picture: say which with --at or --frames");
+        refuse("a PNG is one picture; choose it with --at or --frames");
 }
 
 FilmSettings SettingsFor(const CommandLine& line, const FilmKind& kind, uint seed)
@@ -92,11 +92,11 @@ QPair<int, int> RangeFor(const CommandLine& line, int frames)
         range = {tick, tick};
     }
     if (range.second >= frames)
-        throw Misuse{QStringLiteral("the film has the pictures 0 to %1 and ends after %2 s; it has "
-                                    "no picture %3")
-                         .arg(frames - 1)
-                         .arg(double(frames) * tickLength / 1000)
-                         .arg(range.second)};
+        throw Misuse{
+            QStringLiteral("the film has no picture %3; it has 0 to %1 and ends after %2 s")
+                .arg(frames - 1)
+                .arg(double(frames) * tickLength / 1000)
+                .arg(range.second)};
     return range;
 }
 
@@ -118,7 +118,7 @@ public:
     {
         static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
         if (!progress || now != stage) {
-            progress.reset(); // wipes its bar before there is another
+            progress.reset(); // erases its bar before the next one
             progress = std::make_unique<Progress>(QLatin1String(names[int(now)]), total, form);
         }
         stage = now;
@@ -221,40 +221,39 @@ QVector<Option> Options()
 {
     return {
         Option::File("output", "OUT",
-                     "The film to write. Its ending (.gif, .apng, .webp, .mp4, .webm, .png or "
-                     "/) chooses the format.")
+                     "File to write. Its name ends with the format: .gif, .apng, .webp, .mp4, "
+                     ".webm or .png; or with / for a folder of PNGs.")
             .Letter('o')
             .Required(),
         Option::Time("seconds", 1000, 0.001, 86400, "TIME",
-                     "Plays that long, as in 10s, 1500ms or 2min."),
-        Option::Flag("schedule", "Plays as the host does: the pages, and the texts of an area, "
-                                 "one after another, each for its planned time."),
-        Option::Range("frames", "Writes only these pictures, or one, the first one being 0."),
+                     "Play for this time, such as 10s, 1500ms or 2min. Default: to the end."),
+        Option::Flag("schedule", "Play like the host: pages, and texts in an area, one after "
+                                 "another, each for its planned time. Default: all texts at once."),
+        Option::Range("frames", "Write only these pictures, counted from 0, or one of them."),
         Option::Time("at", 1000, 0, 86400, "TIME",
-                     "Writes the picture of one moment: 2.5s, or 40t for tick 40."),
-        Option::Number("scale", 1, 16, "Makes each pixel a square of N by N.").Or("1"),
+                     "Write the picture at this time: 2.5s, or 40t for tick 40."),
+        Option::Number("scale", 1, 16, "Film pixels per display pixel.").Or("1"),
         Option::Fraction("leds", 1, 4, "PITCH",
-                         "Shows each pixel as a round LED on black, that many LED diameters "
-                         "apart. --scale is then 4 or more.")
+                         "Draw round LEDs on black, PITCH times their diameter apart. Without "
+                         "PITCH: 1.25. The default of --scale is then 4.")
             .Alone("1.25"),
-        Option::Color("background", "Paints this color under the display in place of black."),
-        Option::Flag("transparent", "Makes the background transparent. Not for MP4."),
+        Option::Color("background", "Background color under the display. Default: black."),
+        Option::Flag("transparent", "Transparent background. Not for MP4."),
         Option::Flag("lossless",
-                     "Keeps every pixel of an MP4 or WebM. Not every program plays such films."),
+                     "Keep every pixel of an MP4 or WebM. Not all players support this."),
         Option::Choice("as", "KIND",
                        {QStringLiteral("gif"), QStringLiteral("apng"), QStringLiteral("webp"),
                         QStringLiteral("mp4"), QStringLiteral("webm"), QStringLiteral("png"),
                         QStringLiteral("frames")},
-                       "Renders each scene into the folder OUT, under its own name and as this "
-                       "kind of film; frames is a folder of PNGs.")
+                       "Render each scene into the folder OUT as gif, apng, webp, mp4, webm, png "
+                       "or frames (a folder of PNGs).")
             .Or("gif"),
         Option::Number("jobs", 1, 1000,
-                       "How many scenes are rendered at once; as many as there are processors "
-                       "unless told."),
-        Option::Flag("resume", "Leaves films that are there and newer than their scene, its "
-                               "data files, the plugin and this program."),
-        Option::Flag("progress", "Prints lines such as \"12 426 rendering\", for programs that "
-                                 "show how far it is.")};
+                       "How many scenes to render at once. Default: the number of processors."),
+        Option::Flag("resume", "Skip films that are newer than their scene, its data files, the "
+                               "plugin and this program."),
+        Option::Flag("progress",
+                     "Print progress as lines such as \"12 426 rendering\", for other programs.")};
 }
 
 } // namespace
@@ -262,18 +261,19 @@ QVector<Option> Options()
 Command RenderCommand()
 {
     return {"render",
-            "plays scenes and writes them as GIF, APNG, WebP, MP4, WebM or PNGs",
+            "render scenes as GIF, APNG, WebP, MP4, WebM or PNGs",
             "SCENE.json...",
             1,
             100000,
-            "Plays a scene on virtual time, as fast as it can be painted, and writes what the "
-            "display shows, a picture for each tick of 66 ms. Without --seconds it plays until "
-            "every text has finished and stood for one hold more; a text that the device scrolls "
-            "goes through its area once. A name that ends with a slash becomes a folder of PNGs; "
-            "all but PNGs needs the program ffmpeg. The output appears when it is whole. Several "
-            "scenes, or --as, render each scene into the folder OUT, side by side.",
+            "Plays a scene on virtual time and writes what the display shows, a picture for each "
+            "tick of 66 ms. Without --seconds it plays until every text has finished and was held "
+            "once more, or has scrolled through its area once. All formats except PNG need ffmpeg. "
+            "The output appears only when it is complete. With several scenes, or --as, each scene "
+            "is rendered into the folder OUT.",
             WithShowOptions(Options()),
-            Render};
+            Render,
+            {"animtext render sign.json -o sign.gif --scale 4",
+             "animtext render *.json --as png --at 1.5s -o stills"}};
 }
 
 } // namespace AnimText

@@ -18,14 +18,15 @@ int PrintSchema(const CommandLine& line)
 Command SchemaCommand()
 {
     return {"schema",
-            "prints what a scene file may hold, as a JSON Schema",
+            "print the JSON Schema of scene files",
             "",
             0,
             0,
-            "Prints a JSON Schema (draft 7) of scene files: editors complete and check by it, and "
-            "show what each key does.",
-            {Option::Flag("tables", "Prints the keys of a text as Markdown tables instead.")},
-            PrintSchema};
+            "Prints the JSON Schema (draft 7) of scene files. Editors use it to complete, check "
+            "and explain keys.",
+            {Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
+            PrintSchema,
+            {"animtext schema >scene.schema.json", "animtext schema --tables"}};
 }
 
 } // namespace AnimText

@@ -30,17 +30,19 @@ int Set(const CommandLine& line)
 
 Command SetCommand()
 {
-    return {"set",
-            "changes a text of a scene",
-            "SCENE.json PLACE KEY=VALUE...",
-            3,
-            1000,
-            "Changes what needs no new layout: effect, scroll, speed, hold (2s, 1500ms), "
-            "plays, pos, color, hollow, or an attribute by its name in the scene file. PLACE is "
-            "the text's number, as animtext list shows it, or its path in the file, as animtext "
-            "validate does. Another text, font or area is animtext author --replace.",
-            {},
-            Set};
+    return {
+        "set",
+        "change a text in a scene",
+        "SCENE.json PLACE KEY=VALUE...",
+        3,
+        1000,
+        "Changes settings that need no new layout: effect, scroll, speed, hold (such as 2s or "
+        "1500ms), plays, pos, color, hollow, or any number among the attributes in the scene "
+        "file. PLACE is the text's number in animtext list, or its path as in animtext "
+        "validate. To change the text, font or area, use animtext author --replace.",
+        {},
+        Set,
+        {"animtext set sign.json 1 speed=7 hold=3s", "animtext set sign.json 2 color=red plays=2"}};
 }
 
 } // namespace AnimText

@@ -15,8 +15,8 @@ namespace AnimText {
 namespace {
 
 /**
- * @p count frames of @p frames, evenly spaced. A film that comes to an end shows it; the last frame
- * of a scroll, like its first, is empty.
+ * Picks @p count of @p frames, evenly spaced, with @p toTheEnd including the last one. The last
+ * frame of a scroll is empty.
  */
 QVector<int> Spread(int frames, int count, bool toTheEnd)
 {
@@ -101,17 +101,19 @@ int DrawSheet(const CommandLine& line)
 Command SheetCommand()
 {
     return {"sheet",
-            "draws a contact sheet, a row of frames for each scene",
+            "draw a contact sheet of scenes",
             "SCENE.json...",
             1,
             1000,
-            "Draws a contact sheet: for each scene a row of frames, evenly spaced over its play.",
-            WithShowOptions({Option::File("output", "SHEET.png",
-                                          "Where the sheet goes, a PNG; - for standard output.")
-                                 .Letter('o')
-                                 .Required(),
-                             Option::Number("columns", 1, 50, "Frames in a row.").Or("6")}),
-            DrawSheet};
+            "Draws a contact sheet: a row of frames for each scene, evenly spaced in time.",
+            WithShowOptions(
+                {Option::File("output", "SHEET.png", "PNG file to write; - is standard output.")
+                     .Letter('o')
+                     .Required(),
+                 Option::Number("columns", 1, 50, "Frames per row.").Or("6")}),
+            DrawSheet,
+            {"animtext sheet sign.json -o sheet.png",
+             "animtext sheet *.json --columns 10 -o sheet.png"}};
 }
 
 } // namespace AnimText

@@ -27,17 +27,18 @@ int Tidy(const CommandLine& line)
 
 Command TidyCommand()
 {
-    return {"tidy",
-            "lists data files that no scene needs",
-            "FOLDER",
-            1,
-            1,
-            "Lists the data files in a folder that animtext or the studio wrote and that no file "
-            "names: not in the folder, nor in those directly below, nor in the one above. With "
-            "--remove it deletes them. Scenes elsewhere are not searched. When a file there cannot "
-            "be read, nothing is listed and nothing deleted.",
-            {Option::Flag("remove", "Deletes these files.")},
-            Tidy};
+    return {
+        "tidy",
+        "list data files that no scene uses",
+        "FOLDER",
+        1,
+        1,
+        "Lists the data files in FOLDER that animtext or the studio wrote and that no other file "
+        "names. It searches FOLDER, its subfolders (one level) and its parent folder; scenes "
+        "elsewhere are not searched. If a file cannot be read, it lists and deletes nothing.",
+        {Option::Flag("remove", "Delete the files.")},
+        Tidy,
+        {"animtext tidy .", "animtext tidy --remove ."}};
 }
 
 } // namespace AnimText

@@ -7,7 +7,7 @@ namespace AnimText {
 
 namespace {
 
-/** What a node's text layer shows, kept while it stays the same. */
+/** The last picture of a node's text layer. */
 struct Shown
 {
     QSize size{0, 0};
@@ -87,21 +87,21 @@ int TraceScene(const CommandLine& line)
 
 Command TraceCommand()
 {
-    return {"trace",
-            "prints what every tick gives the display, one JSON line each",
-            "SCENE.json",
-            1,
-            1,
-            "Plays a scene on virtual time and prints a line of JSON for each tick of 66 ms and "
-            "each node, tick 0 being the start: whether a new picture of the text was handed to "
-            "the display, the layer that shows it, its size, the SHA-1 of its rows and the "
-            "renderer's state (0 finished, 1 playing, 2 nothing to play); where there is a dazzle "
-            "background, its SHA-1.",
-            WithShowOptions(
-                {Option::Number("ticks", 0, 1000000000, "The last tick.").Letter('n').Or("100"),
-                 Option::Flag("calls",
-                              "Prints every call of the device before the line of its tick.")}),
-            TraceScene};
+    return {
+        "trace",
+        "print each tick of a play as JSON lines",
+        "SCENE.json",
+        1,
+        1,
+        "Plays a scene on virtual time and prints a JSON line for each text and each tick of 66 "
+        "ms, from tick 0: whether the display got a new picture of the text, its layer, its size, "
+        "the SHA-1 of its rows, and the renderer's state (0 finished, 1 playing, 2 nothing to "
+        "play). A dazzle background adds its SHA-1.",
+        WithShowOptions(
+            {Option::Number("ticks", 0, 1000000000, "Last tick.").Letter('n').Or("100"),
+             Option::Flag("calls", "Print the device calls of each tick before its lines.")}),
+        TraceScene,
+        {"animtext trace sign.json --ticks 20", "animtext trace sign.json --calls >sign.trace"}};
 }
 
 } // namespace AnimText

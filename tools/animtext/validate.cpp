@@ -27,17 +27,17 @@ int Validate(const CommandLine& line)
 
 Command ValidateCommand()
 {
-    return {
-        "validate",
-        "looks for mistakes in scenes",
-        "SCENE.json...",
-        1,
-        100000,
-        "Looks for mistakes in scenes; - is standard input. The exit status is 0 without errors, "
-        "2 with; warnings count with --strict, as 1.",
-        {Option::Flag("json", "Prints a JSON object, or a list of them for several scenes."),
-         Option::Flag("strict", "Warnings count as a failure.")},
-        Validate};
+    return {"validate",
+            "check scenes for mistakes",
+            "SCENE.json...",
+            1,
+            100000,
+            "Checks scenes for mistakes; - is standard input. The exit status is 2 if there are "
+            "errors, and with --strict 1 if there are only warnings.",
+            {Option::Flag("json", "Print a JSON object, or a list of objects for several scenes."),
+             Option::Flag("strict", "Fail on warnings, too.")},
+            Validate,
+            {"animtext validate sign.json", "animtext validate --strict --json *.json"}};
 }
 
 } // namespace AnimText

@@ -18,7 +18,7 @@ namespace {
 
 const int standardSize = 48;   // pixels
 const int standardWidth = 512; // pixels
-const int standardRows = 5;    // characters that an upright area shows
+const int standardRows = 5;    // characters in an area for vertical scrolling
 
 Setting SettingFor(const AuthorOptions& options)
 {
@@ -38,7 +38,7 @@ Setting SettingFor(const AuthorOptions& options)
     return setting;
 }
 
-/** An area that suits the text when none was asked for. */
+/** The default area. */
 QSize StandardArea(const ShapedLine& line, Setting setting)
 {
     const int height = line.ascent + line.descent + 2 * setting.padding;
@@ -59,7 +59,7 @@ bool Showable(const PlacedText& text, QString* error)
                                  qMax(qAbs(box.top()), qAbs(box.bottom())));
         if (outline.elementCount() > maxOutlineElements || !(reach <= maxOutlineCoordinate)) {
             *error = QStringLiteral("character %1 is too large for the sign: its outline has %2 "
-                                    "points and reaches %3 pixels; a smaller --size helps")
+                                    "points and reaches %3 pixels; use a smaller --size")
                          .arg(i + 1)
                          .arg(outline.elementCount())
                          .arg(reach, 0, 'f', 0);
@@ -74,8 +74,8 @@ bool Readable(const PlacedText& text, QString* error)
     const int fitting = OutlinesThatFit(text.outlines, maxDataFileSize);
     if (fitting == text.outlines.size())
         return true;
-    *error = QStringLiteral("the text is too long: the sign reads %1 MiB of outlines, which are "
-                            "its first %2 characters of %3")
+    *error = QStringLiteral("the text is too long: the sign reads %1 MiB of outlines, enough for "
+                            "the first %2 of %3 characters")
                  .arg(maxDataFileSize >> 20)
                  .arg(fitting)
                  .arg(text.outlines.size());
@@ -87,8 +87,8 @@ bool CanvasFits(const QSize& canvas, QString* error)
     const qint64 bytes = qint64(canvas.width()) * canvas.height() * 4;
     if (bytes <= maxCanvasBytes)
         return true;
-    *error = QStringLiteral("the sign would need a picture of %1 x %2 pixels, %3 MiB; it has room "
-                            "for %4 MiB")
+    *error = QStringLiteral(
+                 "the text needs a picture of %1 x %2 pixels, %3 MiB; the sign has room for %4 MiB")
                  .arg(canvas.width())
                  .arg(canvas.height())
                  .arg(bytes >> 20)
@@ -151,7 +151,7 @@ QMap<QString, QVariant> Attributes(const AuthorOptions& options)
     return attributes;
 }
 
-/** The text in its styles, at the sizes that were asked for. */
+/** The text with its styles, fitted if necessary. */
 StyledText Sized(const AuthorOptions& options, Arrangement arrangement)
 {
     StyledText text;
@@ -175,7 +175,7 @@ StyledText Sized(const AuthorOptions& options, Arrangement arrangement)
                   room);
 }
 
-/** By how much the outlines at rest reach out of an area of that height. */
+/** Measures how far outlines at rest reach out of the area. */
 void MeasureCut(const PlacedText& text, int areaHeight, AuthoredNode* authored)
 {
     const int highest = *std::max_element(text.heights.begin(), text.heights.end());
@@ -193,7 +193,7 @@ void MeasureCut(const PlacedText& text, int areaHeight, AuthoredNode* authored)
 
 bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* error)
 {
-    // Far more than anybody reads on a sign; each takes some kilobytes while it is laid out.
+    // Layout needs some kilobytes for each.
     constexpr int longestText = 200000; // UTF-16 units
     if (options.text.size() > longestText) {
         *error = QStringLiteral("the text has %1 characters; expected at most %2")
@@ -204,7 +204,7 @@ bool AuthorNode(const AuthorOptions& options, AuthoredNode* authored, QString* e
     Setting setting = SettingFor(options);
     if (!options.area.isEmpty() &&
         2 * options.padding >= qMin(options.area.width(), options.area.height())) {
-        *error = QStringLiteral("a padding of %1 pixels leaves nothing of an area of %2 x %3")
+        *error = QStringLiteral("a padding of %1 pixels leaves no room in an area of %2 x %3")
                      .arg(options.padding)
                      .arg(options.area.width())
                      .arg(options.area.height());

@@ -18,9 +18,9 @@
 namespace AnimText {
 namespace {
 
-const int digestLength = 16; // hexadecimal digits: no two texts of one folder will share them
-const int mostFiles = 5000;  // that are looked at
-const qint64 mostBytes = 256 << 20;      // of all of them
+const int digestLength = 16;             // hexadecimal digits; enough that collisions do not occur
+const int mostFiles = 5000;              // to search
+const qint64 mostBytes = 256 << 20;      // of all files
 const qint64 largestSearched = 64 << 20; // bytes; 100,000 characters take 20 MB
 
 /** Captures the digest and the suffix. */
@@ -38,24 +38,24 @@ QString NameDigest(const QByteArray& content)
         QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(digestLength));
 }
 
-/** Names that some file system takes for the same are equal in this form. */
+/** A form in which names are equal if some file system treats them as equal. */
 QString Folded(const QString& text)
 {
     QString folded = text.normalized(QString::NormalizationForm_C).toCaseFolded();
     return folded.remove(QChar(QChar::ByteOrderMark));
 }
 
-/** Whether a file of that content cannot be a scene, nor a list of names: our data, a film. */
+/** Whether a file is one of our data files or a film, which name no files. */
 bool IsData(const QByteArray& start, qint64 size)
 {
-    const bool isSerialised =
+    const bool isSerialized =
         start.size() > 4 && qFromBigEndian<quint32>(start.constData()) == size - 4;
-    return isSerialised || start.startsWith("\x89PNG") || start.startsWith("GIF8") ||
+    return isSerialized || start.startsWith("\x89PNG") || start.startsWith("GIF8") ||
            start.startsWith("\xff\xd8\xff") || start.startsWith("\x1a\x45\xdf\xa3") ||
            (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP") || start.mid(4, 4) == "ftyp";
 }
 
-/** @p text with the characters that JSON and its like write as \u and four digits. */
+/** Replaces \u and four digits, as in JSON, by the character. */
 QString Unescaped(const QString& text)
 {
     static const QRegularExpression escape(QStringLiteral("\\\\u([0-9a-fA-F]{4})"));
@@ -71,8 +71,8 @@ QString Unescaped(const QString& text)
 }
 
 /**
- * An object, or a list of strings, lists or objects, and no "[section]" of a settings file. Also
- * where it is UTF-16, which has a zero byte beside each of these characters.
+ * Whether it starts like an object or a list of strings, lists or objects, but not like a
+ * "[section]" of a settings file. Skips the zero bytes of UTF-16.
  */
 bool LooksLikeJson(const QByteArray& content)
 {
@@ -84,7 +84,7 @@ bool LooksLikeJson(const QByteArray& content)
     return start.startsWith('{') || start == "[{" || start == "[[" || start == "[\"";
 }
 
-/** Looks through files for the names of data files. */
+/** Searches files for the names of data files. */
 class Search
 {
 public:
@@ -94,10 +94,10 @@ public:
             sought.insert(name, Folded(name));
     }
 
-    /** What was not found. */
+    /** The names that were not found. */
     QStringList Unnamed() const { return sought.keys(); }
 
-    /** @return the first thing that cannot be read, with the reason, or empty */
+    /** @return the first file that cannot be searched, with the reason, or empty */
     QString LookInto(const QDir& folder)
     {
         QString doubt;
@@ -119,28 +119,27 @@ private:
             SearchText(QFileInfo(info.symLinkTarget()).fileName());
         if (!info.isFile())
             return info.exists() ? QStringLiteral("it is not a regular file")
-                                 : QStringLiteral("it leads nowhere");
+                                 : QStringLiteral("it is a broken link");
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return file.errorString();
         if (IsData(file.peek(16), file.size()))
             return QString();
         if (++files > mostFiles || file.size() > largestSearched || bytes + file.size() > mostBytes)
-            return QStringLiteral("there is too much to look at");
+            return QStringLiteral("there is too much to search");
         bytes += file.size();
         const QByteArray content = file.readAll();
         if (content.size() != file.size())
-            return file.error() == QFile::NoError ? QStringLiteral("it changes while it is read")
+            return file.error() == QFile::NoError ? QStringLiteral("it changed while it was read")
                                                   : file.errorString();
-        return SearchContent(content)
-                   ? QString()
-                   : QStringLiteral("it looks like JSON and cannot be read as such");
+        return SearchContent(content) ? QString()
+                                      : QStringLiteral("it looks like JSON but is not valid");
     }
 
-    /** @return false when names may have been overlooked */
+    /** @return false if names may have been missed */
     bool SearchContent(const QByteArray& content)
     {
-        // As written: a list for a program, the index of an archive.
+        // As bytes: file lists, archives.
         for (auto it = sought.begin(); it != sought.end();)
             it = content.contains(QFile::encodeName(it.key())) ? sought.erase(it) : it + 1;
         if (!LooksLikeJson(content)) {
@@ -188,12 +187,12 @@ private:
             it = folded.contains(*it) ? sought.erase(it) : it + 1;
     }
 
-    QMap<QString, QString> sought; // names as they are, and in the form for comparing
+    QMap<QString, QString> sought; // names and their Folded() forms
     int files = 0;
     qint64 bytes = 0;
 };
 
-/** Whether @p name is what DataFileName() made it, nobody has protected it, and it can go. */
+/** Whether DataFileName() named the file for its present content and it may be removed. */
 bool IsOurs(const QDir& folder, const QString& name)
 {
     const auto match = OurNames().match(name);
@@ -234,7 +233,7 @@ Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates)
     }
     if (!doubt.isEmpty())
         return {{}, doubt};
-    // Often somebody else's, such as /tmp: what cannot be read there is no reason to keep anything.
+    // Unreadable files in the parent folder, which may be /tmp, are no reason to keep anything.
     search.LookInto(QDir(folder.filePath(QStringLiteral(".."))));
     return {search.Unnamed(), {}};
 }

@@ -1,6 +1,6 @@
 /**
  * @file
- * The data files beside scenes: their names, and which of them nothing needs any more.
+ * The names of data files beside scenes, and which of them are unused.
  */
 #ifndef ANIMTEXT_DATAFILES_H
 #define ANIMTEXT_DATAFILES_H
@@ -13,29 +13,29 @@
 namespace AnimText {
 
 /**
- * The name for a data file of the scene at @p scenePath: the scene's own, a digest of @p content
- * and @p suffix. Other content has another name, so that a scene never meets the data of another.
- * The scene's name is cut where the whole would be too long for a file system.
+ * The name of a data file: the scene's name, a digest of @p content and @p suffix. Different
+ * content has a different name, so a scene never finds the data of another one. The scene's name is
+ * shortened if the whole would be too long for a file system.
  */
 QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix);
 
-/** The files in @p folder, links left out, whose names DataFileName() may have made. */
+/** The files in @p folder, except links, whose names look like those of DataFileName(). */
 QStringList DataFilesIn(const QDir& folder);
 
-/** Data files that nothing needs any more, or why none is certain. */
+/** Unused data files. */
 struct Unneeded
 {
     QStringList names;
-    QString doubt; ///< one line; when it is not empty, there are no names
+    QString doubt; ///< one line on why there is no certainty; names is empty then
 };
 
 /**
- * Those of @p candidates, files in @p folder, that can be removed. DataFileName() made such a file,
- * it still has that content, it is not write-protected, and no file names it in the folder, in the
- * folders directly below, or in the one above. What a file is called says nothing: a hidden file
- * or an editor's backup may be the last copy of a scene. JSON is searched in its strings and
- * everything else in its bytes. When something in the folder or below looks like JSON that cannot
- * be read, cannot be opened, or is too much to look at, everything stays.
+ * Returns the @p candidates in @p folder that can be removed: DataFileName() named them for their
+ * present content, they are not write-protected, and no file names them in the folder, in its
+ * subfolders (one level) or in its parent. All files are searched, since a hidden file or an
+ * editor's backup may be the last copy of a scene: JSON by its strings, others by their bytes.
+ * Returns none if a file in the folder or below cannot be opened, looks like JSON but is not valid,
+ * or is too large.
  */
 Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates);
 

@@ -15,7 +15,7 @@ bool Put(const SceneNode& node, const Destination& destination, Scene* scene, QS
     }
     const int pages = scene->pages.size();
     if (destination.page < 1 || destination.page > pages + 1) {
-        *error = QStringLiteral("there is no page %1; expected 1 to %2, the last a new one")
+        *error = QStringLiteral("there is no page %1; the next new page is %2")
                      .arg(destination.page)
                      .arg(pages + 1);
         return false;
@@ -23,10 +23,9 @@ bool Put(const SceneNode& node, const Destination& destination, Scene* scene, QS
     const int areas =
         destination.page > pages ? 0 : scene->pages[destination.page - 1].areas.size();
     if (destination.area < 0 || destination.area > areas) {
-        *error = QStringLiteral("there is no area %1 on page %2, which has %3")
+        *error = QStringLiteral("there is no area %1 on page %2")
                      .arg(destination.area)
-                     .arg(destination.page)
-                     .arg(areas);
+                     .arg(destination.page);
         return false;
     }
     if (destination.page > pages)
@@ -58,7 +57,7 @@ bool PutAuthored(const AuthoredNode& authored, const Destination& destination, S
     else if (scene->display.isEmpty())
         scene->display = QSize(node.pos.x() + node.size.width(), node.pos.y() + node.size.height());
     if (scene->display.isEmpty()) {
-        *error = QStringLiteral("nothing of an area of %1 x %2 pixels at %3,%4 is on a display")
+        *error = QStringLiteral("an area of %1 x %2 pixels at %3,%4 is outside the display")
                      .arg(node.size.width())
                      .arg(node.size.height())
                      .arg(node.pos.x())

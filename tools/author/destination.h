@@ -17,17 +17,18 @@ namespace AnimText {
 /** Where a new text goes. Pages and areas count from 1. */
 struct Destination
 {
-    int page = 1;    ///< one that is there, or the one after the last
-    int area = 0;    ///< one that is there, or 0 for an area of its own
-    QString instead; ///< the place of the text that it replaces, as for Scene::Find(); page and
-                     ///< area do not count then
-    QSize display; ///< its new size in pixels; empty to leave it, and in a new scene to have just
-                   ///< what is needed
+    int page = 1; ///< existing, or one more than the last for a new page
+    int area = 0; ///< existing, or 0 for a new area
+    /** Replaces this text, a place as in Scene::Find(); page and area are ignored then. */
+    QString instead;
+    /** New size of the display in pixels. Empty: unchanged, or in a new scene what the area needs.
+     */
+    QSize display;
 };
 
 /**
- * Puts @p authored into @p scene and its data files to @p dataFiles.
- * @return false when it cannot go there, and then @p error has one line on it
+ * Adds @p authored to @p scene and its data files to @p dataFiles.
+ * @return false, with one line in @p error, if the destination does not exist
  */
 bool PutAuthored(const AuthoredNode& authored, const Destination& destination, Scene* scene,
                  DataFiles* dataFiles, QString* error);

@@ -23,13 +23,13 @@ StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base, bool* size
     if (format.hasProperty(QTextFormat::ForegroundBrush))
         style.color = format.foreground().color();
     style.color.setAlpha(255);
-    // Bars through and above the letters are no part of their outlines.
+    // Outlines do not contain these bars.
     style.font.setStrikeOut(false);
     style.font.setOverline(false);
     return style;
 }
 
-/** What the sign shows nothing of. */
+/** Lists the formats that signs cannot show. */
 void NoteLosses(const QTextBlock& block, const QTextCharFormat& format, QStringList* lost)
 {
     const auto note = [lost](bool isThere, const char* what) {
@@ -64,7 +64,7 @@ StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* note
         }
     }
     if (!lost.isEmpty())
-        notes->append(QStringLiteral("left out, for no sign shows it: %1")
+        notes->append(QStringLiteral("left out because signs cannot show them: %1")
                           .arg(lost.join(QStringLiteral(", "))));
     return text;
 }

@@ -1,6 +1,6 @@
 /**
  * @file
- * The text of HTML as Qt's text editors give it.
+ * Reads HTML from Qt's text editors.
  */
 #ifndef ANIMTEXT_HTML_H
 #define ANIMTEXT_HTML_H
@@ -10,9 +10,9 @@
 namespace AnimText {
 
 /**
- * The text in @p html with its families, sizes, weights, slants, underlines and colours; where it
- * says nothing, those of @p base. Paragraphs end in line breaks. Needs a QGuiApplication.
- * @param notes takes a line on what a sign does not show and was left out
+ * The text of @p html with its families, sizes, weights, slants, underlines and colors; the others
+ * are those of @p base. Paragraphs end in line breaks. Needs a QGuiApplication.
+ * @param notes gets a line on what was left out because signs cannot show it
  */
 StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* notes);
 

@@ -11,7 +11,7 @@
 namespace AnimText {
 namespace {
 
-/** Reads the strict form. Faults go to the reader, which knows the line and the column. */
+/** Reads the tags. Raises errors in the XML reader, which knows the line and the column. */
 class MarkupReader
 {
 public:
@@ -48,7 +48,7 @@ public:
                 .arg(xml.errorString().simplified(),
                      xml.error() == QXmlStreamReader::CustomError
                          ? QString()
-                         : QStringLiteral(" Tags need their ends; &lt; stands for <, &amp; for &"));
+                         : QStringLiteral(" Close every tag; write &lt; for < and &amp; for &"));
         return false;
     }
 
@@ -66,7 +66,7 @@ private:
         case 2: style.font.setUnderline(true); break;
         case 3: break;
         default:
-            xml.raiseError(QStringLiteral("there is no tag <%1>; expected <b>, <i>, <u> or <font>")
+            xml.raiseError(QStringLiteral("unknown tag <%1>; expected <b>, <i>, <u> or <font>")
                                .arg(xml.name().toString()));
         }
         for (const QXmlStreamAttribute& attribute : xml.attributes()) {
@@ -80,7 +80,7 @@ private:
         styles.append(style);
     }
 
-    /** @return what is wrong with an attribute of <font>, or nothing */
+    /** Applies an attribute of <font>. @return what is wrong with it, or empty */
     QString Apply(const QString& name, const QString& value, StyleRun* style)
     {
         if (name == QLatin1String("face")) {
@@ -96,10 +96,10 @@ private:
             QString hint;
             return ReadColor(value, &style->color, &hint)
                        ? QString()
-                       : QStringLiteral("there is no color \"%1\"; expected a name or #rrggbb%2")
+                       : QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2")
                              .arg(value, hint);
         }
-        return QStringLiteral("<font> takes face, size and color, not %1").arg(name);
+        return QStringLiteral("unknown attribute %1; <font> takes face, size and color").arg(name);
     }
 
     QString ApplySize(const QString& value, StyleRun* style)
@@ -112,7 +112,8 @@ private:
                            : unit == QLatin1String("%") ? number * style->font.pixelSize() / 100
                                                         : number;
         if (!match.hasMatch() || qRound(size) < 1 || size > largestFontSize)
-            return QStringLiteral("size takes 32, 32px, 24pt or 150%, 1 to %1 pixels, not \"%2\"")
+            return QStringLiteral(
+                       "size is \"%2\"; expected 1 to %1 pixels, such as 32, 32px, 24pt or 150%")
                 .arg(largestFontSize)
                 .arg(value);
         style->font.setPixelSize(qRound(size));

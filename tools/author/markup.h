@@ -1,6 +1,6 @@
 /**
  * @file
- * Text with marks of style in it.
+ * Reads text with style tags.
  */
 #ifndef ANIMTEXT_MARKUP_H
 #define ANIMTEXT_MARKUP_H
@@ -10,15 +10,15 @@
 namespace AnimText {
 
 /**
- * Reads text with marks in it, in one of two forms: a few tags, strictly
+ * Reads text with tags in one of two forms: either exactly these tags,
  *
  *     <b> <i> <u> <font face="FAMILY" size="32 | 32px | 24pt | 150%" color="NAME | #rrggbb">
  *
- * with &lt; &gt; &amp; for what would be a mark; or, when it begins with "<!DOCTYPE" or "<html",
- * HTML as Qt's text editors give it, of which the same styles are taken.
- * @param base the style of what has no marks; 150% is of the size around it
- * @param notes takes a line on what had to be left out
- * @return false when it cannot be read, and then @p error has one line on it
+ * with &lt; &gt; &amp; as escapes; or, if it begins with "<!DOCTYPE" or "<html", HTML from Qt's
+ * text editors.
+ * @param base the style of text without tags; percentages refer to the enclosing size
+ * @param notes gets a line on what was left out
+ * @return false, with one line in @p error, if it cannot be read
  */
 bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, QStringList* notes,
                  QString* error);

@@ -21,7 +21,7 @@ bool Holds(const QString& path, const QByteArray& content)
            file.readAll() == content;
 }
 
-/** The files in the folder of @p scene that it names. */
+/** The files that @p scene names in its own folder. */
 QStringList NamedFiles(const Scene& scene)
 {
     const QDir folder = QFileInfo(scene.path).absoluteDir();
@@ -36,7 +36,7 @@ QStringList NamedFiles(const Scene& scene)
     return names;
 }
 
-/** The first mistake among @p after that is an error and not among @p before, or nothing. */
+/** The first error in @p after that is not in @p before, or empty. */
 QString NewMistake(const QList<Finding>& before, const QList<Finding>& after)
 {
     for (const Finding& finding : after) {
@@ -65,7 +65,7 @@ public:
     {
         Scene scene;
         scene.path = path;
-        // An empty file is where somebody made room for a scene.
+        // An empty file counts as a new scene.
         const bool isThere = QFileInfo(path).size() > 0;
         if (isThere && !ReadScene(path, &scene, error, MissingFiles::AreAccepted))
             return Storing::Refused;
@@ -124,7 +124,7 @@ private:
     const QString path;
     const QDir folder;
     const FolderLock& lock;
-    QStringList made; // files that were not there
+    QStringList made; // files that did not exist before
 };
 
 } // namespace
@@ -139,11 +139,11 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
         return Storing::Refused;
     };
     if (info.isDir())
-        return refuse(QStringLiteral("is a folder; a file name was expected"));
+        return refuse(QStringLiteral("is a folder; expected a file name"));
     if (info.suffix().toLower() != QLatin1String("json"))
         return refuse(QStringLiteral("expected a name that ends in .json"));
     if (!folder.exists())
-        return refuse(QStringLiteral("there is no folder %1").arg(folder.path()));
+        return refuse(QStringLiteral("the folder %1 does not exist").arg(folder.path()));
     QString target;
     if (!FindTarget(path, &target, error))
         return Storing::Failed;
@@ -165,7 +165,7 @@ bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* 
         return false;
     *unneeded = FindUnneeded(folder, DataFilesIn(folder));
     if (!unneeded->doubt.isEmpty()) {
-        *error = QStringLiteral("nothing is certain to be unneeded: %1").arg(unneeded->doubt);
+        *error = QStringLiteral("cannot tell which data files are unused: %1").arg(unneeded->doubt);
         return false;
     }
     for (const QString& name : removes ? unneeded->names : QStringList()) {

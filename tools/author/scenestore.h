@@ -1,6 +1,6 @@
 /**
  * @file
- * Changing a scene and its data files so that nobody ever finds half of it.
+ * Changes a scene and its data files in one step.
  */
 #ifndef ANIMTEXT_SCENESTORE_H
 #define ANIMTEXT_SCENESTORE_H
@@ -16,40 +16,39 @@
 
 namespace AnimText {
 
-/** Content of new data files by name; they lie beside the scene. */
+/** Content of new data files by name, in the scene's folder. */
 using DataFiles = QMap<QString, QByteArray>;
 
 /**
- * Changes a scene, which is empty and has no display when the file is not there yet. Answers false,
- * with one line in the error, when it will not.
+ * Changes a scene. A new scene is empty and has no display. Returns false, with one line in @p
+ * error, to refuse.
  */
 using SceneChange = std::function<bool(Scene* scene, DataFiles* dataFiles, QString* error)>;
 
 enum class Storing {
     Saved,
-    Refused, ///< what was asked for cannot be, or what is there is no scene
-    Failed,  ///< the disk did not take it
+    Refused, ///< the change is not possible, or the file is not a scene
+    Failed,  ///< writing failed
 };
 
 /**
- * Reads the scene at @p path, lets @p change work on it and writes it back, all in one step: other
- * writers in the folder wait. A symbolic link is followed; data files lie beside the file itself.
+ * Reads the scene at @p path, calls @p change and writes the scene back while other writers in the
+ * folder wait. Follows symbolic links.
  *
- * Nothing is written that no tool could read, nor anything with mistakes that were not there
- * before. The name must end in ".json", and a file that is there and is no scene stays. The data
- * files come first, the scene last and at once: killed at any moment, what stands there is the old
- * scene or the new one, and its files are there. Data files that the replaced scene named, and the
- * new one does not, are removed where FindUnneeded() finds them so. Unless Saved, @p error has one
- * line on it and nothing new is left behind. Where something cannot be looked at, so that old data
- * files stay, @p doubt says what.
+ * Refuses to write a scene that cannot be read back or has new errors, a name that does not end in
+ * ".json", and to replace a file that is not a scene. Data files are written first and the scene
+ * last, in one step, so a killed process leaves the old scene or the new one, complete. Then
+ * removes data files that only the old scene named, see FindUnneeded(). Unless Saved, @p error has
+ * one line and nothing new is left. If old data files were kept because a file could not be
+ * searched, @p doubt says which.
  */
 Storing ChangeScene(const QString& path, const SceneChange& change, QString* error,
                     QString* doubt = nullptr);
 
 /**
- * The data files in @p folder that no scene needs, such as those of a scene that was deleted or of
- * a writer that was killed. With @p removes they are deleted, while other writers wait. On failure
- * returns false with one line in @p error.
+ * Finds unused data files in @p folder, such as those of a deleted scene or a killed writer. With
+ * @p removes, deletes them while other writers wait. On failure returns false with one line in
+ * @p error.
  */
 bool TidyFolder(const QString& folder, bool removes, Unneeded* unneeded, QString* error);
 

@@ -20,7 +20,7 @@ struct Fault
     QString text;
 };
 
-/** The command line's names for what the scene file calls otherwise. */
+/** Names on the command line and in the scene file. */
 const QMap<QString, QString>& Aliases()
 {
     static const QMap<QString, QString> aliases = {
@@ -32,7 +32,7 @@ const QMap<QString, QString>& Aliases()
     return aliases;
 }
 
-/** Motions of one kind put characters in the same order to the same sides. */
+/** Motions of the same kind have the same layout. */
 int Kind(const NodeMotion& motion)
 {
     return motion.IsScroll() ? motion.IsSideways() ? 3 : 2 : motion.Traits() & FromEnd ? 1 : 0;
@@ -69,14 +69,13 @@ void ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const
                            : isNumber ? FindScroll(number)
                                       : FindScroll(value);
     if (!motion)
-        throw Fault{QStringLiteral("there is no %1 \"%2\"")
+        throw Fault{QStringLiteral("unknown %1 \"%2\"; animtext effects lists them")
                         .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value)};
     const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, motion->number};
     const NodeMotion now = MotionOf(*node);
     const QString pathFile = scene.FullName(node->files.value(QStringLiteral("PathData")));
     if (Kind(next) != Kind(now) || !Suits(next.Traits() & ~now.Traits(), *node, pathFile))
-        throw Fault{QStringLiteral("%1 sets the text in another way; lay it out anew with "
-                                   "animtext author --replace")
+        throw Fault{QStringLiteral("%1 needs another layout; use animtext author --replace")
                         .arg(QLatin1String(motion->name))};
     node->attributes[key] = motion->number;
 }
@@ -88,7 +87,7 @@ void ChangeNumber(SceneNode* node, const QString& word, const Attribute& attribu
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
     if (!isNumber || !IsInRange(attribute, number))
-        throw Fault{QStringLiteral("%1 takes a whole number, %2, not \"%3\"")
+        throw Fault{QStringLiteral("%1 is \"%3\"; expected a whole number, %2")
                         .arg(word, RangeInWords(attribute), value)};
     SetNumber(node, attribute, number);
 }
@@ -98,8 +97,8 @@ void SetColor(SceneNode* node, const QString& value)
     QColor color;
     QString hint;
     if (!ReadColor(value, &color, &hint))
-        throw Fault{QStringLiteral("there is no color \"%1\"; expected a name or #rrggbb%2")
-                        .arg(value, hint)};
+        throw Fault{
+            QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2").arg(value, hint)};
     for (auto& row : node->lists[QStringLiteral("TextAttribute")])
         row[QStringLiteral("Color")] = QString::number(int(color.rgb() & 0xFFFFFF));
 }
@@ -109,7 +108,8 @@ void SetPos(SceneNode* node, const QString& value)
     static const QRegularExpression pair(QStringLiteral("^(-?\\d{1,7}),(-?\\d{1,7})$"));
     const QRegularExpressionMatch match = pair.match(value);
     if (!match.hasMatch())
-        throw Fault{QStringLiteral("pos takes two whole numbers like 16,0, not \"%1\"").arg(value)};
+        throw Fault{
+            QStringLiteral("pos is \"%1\"; expected two whole numbers such as 16,0").arg(value)};
     node->pos = QPoint(match.captured(1).toInt(), match.captured(2).toInt());
 }
 
@@ -118,8 +118,8 @@ void SetHold(SceneNode* node, const QString& value)
     double milliseconds = 0;
     int units = 0;
     if (!ReadTime(value, &milliseconds) || !ToHoldUnits(milliseconds, &units))
-        throw Fault{QStringLiteral("hold takes a time in whole tenths of a second such as 2s or "
-                                   "1500ms, up to 100000s, not \"%1\"")
+        throw Fault{QStringLiteral("hold is \"%1\"; expected whole tenths of a second up to "
+                                   "100000s, such as 2s or 1500ms")
                         .arg(value)};
     node->hold = units;
 }

@@ -1,6 +1,6 @@
 /**
  * @file
- * Changing a setting of a text that is in a scene.
+ * Changes a setting of a text in a scene.
  */
 #ifndef ANIMTEXT_SETVALUE_H
 #define ANIMTEXT_SETVALUE_H
@@ -12,10 +12,9 @@
 namespace AnimText {
 
 /**
- * Sets what needs no new layout, by the names of the command line ("speed", "hold", "color" ...) or
- * of the scene file ("AnimationSpeed" ...). A motion can take the place of another one that sets
- * the text in the same way.
- * @return false when that cannot be, and then @p error has one line on it
+ * Sets a value that needs no new layout, by its name on the command line ("speed", "hold", "color")
+ * or in the scene file ("AnimationSpeed"). A motion can replace one with the same layout.
+ * @return false, with one line in @p error, if that is not possible
  */
 bool SetValue(Scene* scene, const Place& place, const QString& key, const QString& value,
               QString* error);

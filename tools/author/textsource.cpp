@@ -77,8 +77,7 @@ TextSource FromJson(const QJsonObject& json)
         run.font.setItalic(object.value(QStringLiteral("italic")).toBool());
         run.font.setUnderline(object.value(QStringLiteral("underline")).toBool());
         run.color = QColor(object.value(QStringLiteral("color")).toString());
-        // The first begins the text, whoever may have written the file, and they follow one
-        // another.
+        // Whoever wrote the file: the first run begins at 0, and the others follow in order.
         const QVector<StyleRun>& runs = source.text.runs;
         run.begin = runs.isEmpty() ? 0 : qMax(runs.last().begin + 1, run.begin);
         source.text.runs.append(run);
@@ -142,7 +141,7 @@ QByteArray LayoutDigest(const SceneNode& node)
     layout.size = node.size;
     layout.attributes[QStringLiteral("Text")] = node.attributes.value(QStringLiteral("Text"));
     layout.lists = node.lists;
-    // Names of data files are digests of what they hold, behind the name of their scene.
+    // The part of a data file's name after the scene's is a digest of its content.
     for (const char* key : {"PathData", "DescentVector"}) {
         const QString name = QFileInfo(node.files.value(QLatin1String(key))).fileName();
         layout.files[QLatin1String(key)] = name.section(QLatin1Char('.'), -2);

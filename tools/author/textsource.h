@@ -1,6 +1,6 @@
 /**
  * @file
- * What a text was laid out from, which a scene file does not say, kept beside the scene.
+ * The source of a text's layout, kept in a file beside the scene.
  */
 #ifndef ANIMTEXT_TEXTSOURCE_H
 #define ANIMTEXT_TEXTSOURCE_H
@@ -13,7 +13,7 @@
 
 namespace AnimText {
 
-/** A text as its author wrote it, and the wishes for its layout. */
+/** A text as its author wrote it, and the options for its layout. */
 struct TextSource
 {
     StyledText text; ///< sizes in pixels
@@ -31,24 +31,24 @@ inline bool operator!=(const TextSource& a, const TextSource& b)
     return !(a == b);
 }
 
-/** What AuthorNode() takes to lay @p source out for the motion and the area of @p settings. */
+/** Options for AuthorNode() to lay out @p source with the motion and the area of @p settings. */
 AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings);
 
-/** The source as far as the node itself tells: its text and its styles. */
+/** The source as far as the node has it: its text and its styles. */
 TextSource SourceOf(const SceneNode& node);
 
 /** Sources by the digest of the layout that was made from them. */
 using TextSources = QMap<QByteArray, TextSource>;
 
-/** Tells the layout of @p node from all others; speeds, holds and places do not count. */
+/** Identifies the layout of @p node, regardless of speed, hold and position. */
 QByteArray LayoutDigest(const SceneNode& node);
 
-/** The file in which the sources of the scene at @p scenePath are kept. */
+/** The name of the file with the sources of a scene. */
 QString SourcesName(const QString& scenePath);
-/** Empty where there is none, or it is not to be read. */
+/** Empty if the file is missing or cannot be read. */
 TextSources ReadSources(const QString& scenePath);
 QByteArray SourcesToJson(const TextSources& sources);
-/** What can be read of @p json. */
+/** Skips what cannot be read. */
 TextSources SourcesFromJson(const QByteArray& json);
 
 } // namespace AnimText

@@ -79,11 +79,11 @@ void CommandLine::Require() const
     const QString shown = QLatin1String(command.arguments);
     const QStringList arguments = Arguments();
     if (arguments.size() > command.most)
-        throw Misuse{QStringLiteral("\"%1\" is one word too many").arg(arguments.at(command.most))};
+        throw Misuse{QStringLiteral("unexpected argument \"%1\"").arg(arguments.at(command.most))};
     if (arguments.size() < command.least)
         throw Misuse{QStringLiteral("expected %1").arg(shown)};
     if (arguments.contains(QString()))
-        throw Misuse{QStringLiteral("expected %1, not an empty word").arg(shown)};
+        throw Misuse{QStringLiteral("expected %1, not an empty argument").arg(shown)};
     for (const Option& option : command.options) {
         if (option.isRequired && !IsSet(option.name))
             throw Misuse{QStringLiteral("expected %1 %2")

@@ -17,7 +17,7 @@ QStringList OptionWords(const Option& option)
     return names;
 }
 
-/** In single quotes, as every shell reads them. */
+/** In single quotes for bash and zsh. */
 QByteArray Quoted(QByteArray text)
 {
     return '\'' + text.replace("'", "'\\''") + '\'';
@@ -83,7 +83,7 @@ QByteArray CompletionForBash(const QVector<Command>& commands)
 
 QByteArray CompletionForZsh(const QVector<Command>& commands)
 {
-    // Colons and brackets end what a description is made of.
+    // Colons and brackets end a description.
     const auto plain = [](QByteArray text) {
         return text.replace("[", "\\[").replace("]", "\\]").replace(":", "\\:");
     };
@@ -136,7 +136,7 @@ QByteArray CompletionForZsh(const QVector<Command>& commands)
 
 QByteArray CompletionForFish(const QVector<Command>& commands)
 {
-    // Fish reads its own way: only \' and \\ are special in quotes.
+    // In fish, only \' and \\ are special inside quotes.
     const auto quoted = [](QByteArray text) {
         return '\'' + text.replace("\\", "\\\\").replace("'", "\\'") + '\'';
     };

@@ -14,7 +14,7 @@ namespace AnimText {
 
 namespace {
 
-// A byte that belongs to no character becomes a half of a surrogate pair, which no UTF-8 makes.
+// A byte outside valid UTF-8 becomes a lone low surrogate, which UTF-8 never produces.
 constexpr ushort strayByte = 0xDC00;
 
 bool IsStray(QChar unit)
@@ -22,7 +22,7 @@ bool IsStray(QChar unit)
     return unit.unicode() >= strayByte + 0x80 && unit.unicode() <= strayByte + 0xFF;
 }
 
-/** The text of @p bytes where all of them are UTF-8; a byte order mark is a character too. */
+/** Decodes @p bytes, keeping a byte order mark; false if they are not all UTF-8. */
 bool ReadUtf8(const char* bytes, int size, QString* text)
 {
 #if QT_VERSION < 0x060000
@@ -38,7 +38,7 @@ bool ReadUtf8(const char* bytes, int size, QString* text)
 #endif
 }
 
-/** The character that @p bytes begin with; empty when they begin with none. */
+/** The first character of @p bytes; empty if they begin with a stray byte. */
 QString FirstCharacter(const char* bytes, int size, int* length)
 {
     QString character;
@@ -60,7 +60,7 @@ QString TextOf(const char* bytes, int size)
     return text;
 }
 
-// Qt 6 takes every file name for UTF-8, and nobody can teach it otherwise.
+// Qt 6 treats every file name as UTF-8; that cannot be changed.
 #if QT_VERSION < 0x060000
 
 class FileNameCodec : public QTextCodec

@@ -1,6 +1,6 @@
 /**
  * @file
- * Names of files that are no UTF-8, as old disks have them.
+ * File names that are not UTF-8, as on old disks.
  */
 #ifndef ANIMTEXT_FILENAMES_H
 #define ANIMTEXT_FILENAMES_H
@@ -10,16 +10,15 @@
 namespace AnimText {
 
 /**
- * From now on names of files, the program's words and its messages are UTF-8, also where no locale
- * is set, as in containers; and bytes that are no UTF-8 come through a QString unchanged. With Qt 6
- * files of such names cannot be opened.
+ * Makes file names, arguments and messages UTF-8 even where no locale is set, as in containers.
+ * Bytes that are not UTF-8 survive in a QString. Qt 6 cannot open files with such names.
  */
 void KeepAllFileNames();
 
-/** A word of the command line. */
+/** An argument of main(). */
 QString TextOfWord(const char* word);
 
-/** Whether @p text came from UTF-8 alone. */
+/** Whether all of @p text came from valid UTF-8. */
 bool IsUtf8(const QString& text);
 
 } // namespace AnimText

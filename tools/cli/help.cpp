@@ -8,7 +8,7 @@ namespace {
 
 constexpr int lineLength = 80;
 
-/** @p text in lines, each but the first after @p indent blanks. */
+/** @p text in lines; each but the first begins with @p indent spaces. */
 QString Wrapped(const QString& text, int indent)
 {
     QString wrapped;
@@ -42,14 +42,11 @@ QString Names(const Option& option)
 
 QByteArray Overview(const QVector<Command>& commands)
 {
-    QByteArray text =
-        "Animated text: authors, plays and looks into scenes on an emulated display.\n"
-        "\nUsage: animtext COMMAND [options]\n\nCommands:\n";
+    QByteArray text = "Usage: animtext COMMAND [options]\nCreates, plays and checks animated-text "
+                      "scenes.\n\nCommands:\n";
     for (const Command& command : commands)
         text += "  " + QByteArray(command.name).leftJustified(12) + command.summary + '\n';
-    return text + "\nanimtext help COMMAND tells the options of a command.\n"
-                  "The plugin is taken from --plugin, else from the environment variable\n"
-                  "ANIMATIONTEXT_PLUGIN, else it is the one installed with this program.\n";
+    return text + "\nRun 'animtext help COMMAND' for its options and examples.\n";
 }
 
 QByteArray HelpText(const Command& command)
@@ -68,11 +65,12 @@ QByteArray HelpText(const Command& command)
     QString text = QStringLiteral("%1\n%2\n\nOptions:\n")
                        .arg(usage.trimmed(), Wrapped(QString::fromUtf8(command.description), 0));
     for (const Option& option : command.options) {
-        QString help = QString::fromUtf8(option.help);
-        if (option.standard)
-            help += QStringLiteral(" [%1]").arg(QString::fromUtf8(option.standard));
-        text += Names(option).leftJustified(width) + Wrapped(help, width) + QLatin1Char('\n');
+        text += Names(option).leftJustified(width) + Wrapped(HelpWithDefault(option), width) +
+                QLatin1Char('\n');
     }
+    text += QStringLiteral("\nExamples:\n");
+    for (const char* example : command.examples)
+        text += QStringLiteral("  %1\n").arg(QString::fromUtf8(example));
     return text.toUtf8();
 }
 

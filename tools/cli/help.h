@@ -1,6 +1,6 @@
 /**
  * @file
- * What is told of the commands, made from their tables.
+ * Help and shell completions, made from the tables of commands.
  */
 #ifndef ANIMTEXT_HELP_H
 #define ANIMTEXT_HELP_H
@@ -14,10 +14,10 @@ namespace AnimText {
 /** The list of commands. */
 QByteArray Overview(const QVector<Command>& commands);
 
-/** What a command does, and its options. */
+/** What a command does, its options and examples. */
 QByteArray HelpText(const Command& command);
 
-/** The script with which bash, zsh or fish completes the program's words. */
+/** The completion scripts. */
 QByteArray CompletionForBash(const QVector<Command>& commands);
 QByteArray CompletionForZsh(const QVector<Command>& commands);
 QByteArray CompletionForFish(const QVector<Command>& commands);

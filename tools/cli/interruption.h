@@ -1,6 +1,6 @@
 /**
  * @file
- * The wish that the program ends: Ctrl+C, a termination, a terminal that is closed.
+ * Requests to end the program: SIGINT (Ctrl+C), SIGTERM and SIGHUP (a closed terminal).
  */
 #ifndef ANIMTEXT_INTERRUPTION_H
 #define ANIMTEXT_INTERRUPTION_H
@@ -8,22 +8,22 @@
 namespace AnimText {
 
 /**
- * From now on the program ends at once at such a wish, with 128 and the signal's number as its
- * status: 130 after Ctrl+C, 143 when terminated.
+ * From now on such a signal ends the program at once with the status 128 + signal: 130 after
+ * Ctrl+C, 143 after SIGTERM.
  */
 void EndAtInterruption();
 
 /**
- * From now on it goes on, so that it can tidy up: the wish is what Interrupted() tells. A second
+ * From now on the first signal only sets Interrupted(), so that the program can clean up. A second
  * one still ends it at once.
  */
 void WatchForInterruption();
 bool Interrupted();
 
-/** Throws Failure when the wish is there. */
+/** Throws Failure after a signal. */
 void StopIfInterrupted();
 
-/** The exit status after the wish; 0 without one. */
+/** The exit status after a signal; 0 without one. */
 int InterruptionStatus();
 
 } // namespace AnimText

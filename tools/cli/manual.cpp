@@ -9,11 +9,11 @@ namespace AnimText {
 
 namespace {
 
-/** Text of which the formatter changes nothing. */
+/** @p text escaped for the formatter. */
 QByteArray Plain(QByteArray text)
 {
     text.replace("\\", "\\e").replace("-", "\\-");
-    // These begin a request at the start of a line.
+    // At the start of a line these begin a request.
     return text.startsWith('.') || text.startsWith('\'') ? "\\&" + text : text;
 }
 
@@ -60,15 +60,20 @@ QByteArray Item(const Option& option)
     text += Bold(QByteArray("--") + option.name);
     if (*option.value)
         text += option.alone ? " [" + Italic(option.value) + ']' : ' ' + Italic(option.value);
-    text += '\n' + Plain(option.help);
-    if (option.standard)
-        text += " [" + Plain(option.standard) + ']';
-    return text + '\n';
+    return text + '\n' + Plain(HelpWithDefault(option).toUtf8()) + '\n';
+}
+
+QByteArray Examples(const QVector<const char*>& examples)
+{
+    QByteArray text = ".SH EXAMPLES\n.EX\n";
+    for (const char* example : examples)
+        text += Plain(example) + '\n';
+    return text + ".EE\n";
 }
 
 QByteArray References(const QVector<QByteArray>& pages)
 {
-    // Names are not broken at their hyphens.
+    // No line breaks at the hyphens of names.
     QByteArray text = ".SH SEE ALSO\n.nh\n.ad l\n";
     for (const QByteArray& page : pages)
         text += (page == pages.first() ? "" : ",\n") + Bold(page) + "(1)";
@@ -79,45 +84,39 @@ QByteArray References(const QVector<QByteArray>& pages)
 
 QByteArray ManualOverview(const QVector<Command>& commands)
 {
-    QByteArray text = Head("animtext", "animated text for signs, authored and played on a desk") +
-                      ".SH SYNOPSIS\n" + Bold("animtext") + ' ' + Italic("COMMAND") +
-                      " [options]\n"
-                      ".SH DESCRIPTION\n"
-                      "Authors, plays and looks into scenes: texts that come in with an effect, "
-                      "stand and follow one another, or scroll.\n"
-                      "A scene is a JSON file beside its data files. It is played by the plugin "
-                      "that runs on the sign, so what is written and shown here is what the sign "
-                      "shows; no display is needed.\n"
-                      ".SH COMMANDS\n";
+    QByteArray text =
+        Head("animtext", "create, play and check animated text for signs") + ".SH SYNOPSIS\n" +
+        Bold("animtext") + ' ' + Italic("COMMAND") +
+        " [options]\n"
+        ".SH DESCRIPTION\n"
+        "Creates, plays and checks scenes: texts that enter with an effect and are "
+        "held page by page, or that scroll.\n"
+        "A scene is a JSON file with its data files beside it. The plugin that runs on "
+        "the sign plays it, so windows and films show what the sign will show. No "
+        "sign is needed.\n"
+        ".SH COMMANDS\n";
     QVector<QByteArray> pages;
     for (const Command& command : commands) {
         text += ".TP\n" + Bold(command.name) + '\n' + Plain(command.summary) + '\n';
         pages.append(PageName(command));
     }
-    const auto example = [](const char* words, const char* what) {
-        return QByteArray(".PP\n") + what + "\n.PP\n.EX\n" + Plain(words) + "\n.EE\n";
-    };
     return text + ".PP\n" + Bold("animtext help") + ' ' + Italic("COMMAND") +
-           " tells the options of a command; so does its manual page.\n"
+           " shows the options of a command and examples, as does its man page.\n"
            ".SH ENVIRONMENT\n"
            ".TP\n" +
-           Bold("ANIMATIONTEXT_PLUGIN") + "\nThe plugin library that plays scenes where no " +
-           Bold("--plugin") +
-           " names one, in place of the one that was installed with this program.\n"
+           Bold("ANIMATIONTEXT_PLUGIN") + "\nThe plugin library. " + Bold("--plugin") +
+           " takes precedence. Default: the installed one.\n"
            ".TP\n" +
            Bold("ANIMATIONTEXT_PICTURES") +
-           "\nThe folder with the pictures Frog1.png to Frog5.png that two of the effects show, in "
-           "place of those that were installed with this program.\n"
+           "\nThe folder with Frog1.png to Frog5.png, which two effects show. Default: the "
+           "installed one.\n"
            ".SH EXIT STATUS\n"
-           ".TP\n0\nThe command did what it was asked for.\n"
-           ".TP\n1\nIt could not, say because a disk was full; standard error tells why.\n"
-           ".TP\n2\nThe words of the command line or a scene are wrong; standard error tells "
-           "which, where, and what was expected.\n"
-           ".SH EXAMPLES\n" +
-           example("animtext author --text \"Platform 4\" --effect SwingEffect -o sign.json",
-                   "A text that swings in, as a scene:") +
-           example("animtext render sign.json -o sign.gif", "The same as a film:") +
-           example("animtext validate sign.json", "Whether the sign will show what was meant:") +
+           ".TP\n0\nSuccess.\n"
+           ".TP\n1\nThe command failed, for example because a disk was full.\n"
+           ".TP\n2\nThe command line or a scene is wrong. Standard error says what is wrong, "
+           "where, and what was expected.\n" +
+           Examples({"animtext author --text \"Platform 4\" --effect SwingEffect -o sign.json",
+                     "animtext render sign.json -o sign.gif", "animtext validate sign.json"}) +
            References(pages);
 }
 
@@ -127,7 +126,7 @@ QByteArray ManualPage(const Command& command)
                       ".SH DESCRIPTION\n" + Plain(command.description) + "\n.SH OPTIONS\n";
     for (const Option& option : command.options)
         text += Item(option);
-    return text + References({"animtext"});
+    return text + Examples(command.examples) + References({"animtext"});
 }
 
 void WriteManual(const QVector<Command>& commands, const QString& folder)

@@ -1,6 +1,6 @@
 /**
  * @file
- * Manual pages, made from the same tables as the help.
+ * Man pages, made from the tables of commands.
  */
 #ifndef ANIMTEXT_MANUAL_H
 #define ANIMTEXT_MANUAL_H
@@ -11,15 +11,14 @@
 
 namespace AnimText {
 
-/** The page animtext(1), for man's formatter. */
+/** animtext(1), in man's format. */
 QByteArray ManualOverview(const QVector<Command>& commands);
 
-/** The page animtext-COMMAND(1). */
+/** animtext-COMMAND(1). */
 QByteArray ManualPage(const Command& command);
 
 /**
- * Writes all of them into @p folder, which is made when it is missing. Throws Failure when they
- * cannot be written.
+ * Writes all pages to @p folder and creates it if necessary. Throws Failure when that fails.
  */
 void WriteManual(const QVector<Command>& commands, const QString& folder);
 

@@ -14,19 +14,19 @@ namespace {
 
 bool silent = false;
 
-void Tell(QtMsgType type, const QMessageLogContext& context, const QString& message)
+void PrintOnce(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    static QSet<QString> told;
+    static QSet<QString> printed;
     if (type == QtFatalMsg && message.contains(QLatin1String("platform plugin"))) {
         Warn(NoDisplay());
         _exit(FailedRun);
     }
-    // What leads to that end is told by it.
+    // NoDisplay() replaces what the platform plugins say.
     const bool isOfPlatform = context.category && qstrncmp(context.category, "qt.qpa.", 7) == 0;
     if (silent || isOfPlatform || message.startsWith(QLatin1String("QStandardPaths: ")) ||
-        told.contains(message))
+        printed.contains(message))
         return;
-    told.insert(message);
+    printed.insert(message);
     const QByteArray line = message.toUtf8() + '\n';
     std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
 }
@@ -35,15 +35,14 @@ void Tell(QtMsgType type, const QMessageLogContext& context, const QString& mess
 
 void InstallMessages()
 {
-    qInstallMessageHandler(Tell);
+    qInstallMessageHandler(PrintOnce);
 }
 
 QString NoDisplay()
 {
     return QStringLiteral(
-        "there is no display: run it in a desktop session, or within xvfb-run; or "
-        "set QT_QPA_PLATFORM=vnc for VNC viewers, or QT_QPA_PLATFORM=linuxfb for "
-        "a board's own screen, /dev/fb0");
+        "no display: run animtext in a desktop session or with xvfb-run, or set QT_QPA_PLATFORM to "
+        "vnc for VNC viewers or to linuxfb for a board's own screen (/dev/fb0)");
 }
 
 Silence::Silence()

@@ -1,6 +1,6 @@
 /**
  * @file
- * What the plugin and Qt have to say while they work, on standard error.
+ * Messages of the plugin and of Qt on standard error.
  */
 #ifndef ANIMTEXT_MESSAGES_H
 #define ANIMTEXT_MESSAGES_H
@@ -10,15 +10,14 @@
 namespace AnimText {
 
 /**
- * From now on each message is told once, however often it comes, and what Qt remarks on the state
- * of a desktop session, which nothing here needs, is not told.
+ * Prints each message once, and none of those about the desktop session, which nothing here needs.
  */
 void InstallMessages();
 
-/** One line for who has no display to play on: what there is to do. */
+/** The error where there is no display to open a window on. */
 QString NoDisplay();
 
-/** While it lives, nothing is told. */
+/** Suppresses messages during its lifetime. */
 class Silence
 {
 public:

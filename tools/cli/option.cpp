@@ -101,4 +101,12 @@ QString ShortestName(const Option& option)
                          : QStringLiteral("--") + QLatin1String(option.name);
 }
 
+QString HelpWithDefault(const Option& option)
+{
+    const QString help = QString::fromUtf8(option.help);
+    return option.standard
+               ? QStringLiteral("%1 Default: %2.").arg(help, QString::fromUtf8(option.standard))
+               : help;
+}
+
 } // namespace AnimText

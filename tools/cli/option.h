@@ -1,7 +1,6 @@
 /**
  * @file
- * The options of a command, as a table: help, parsing, "did you mean" and shell completion all come
- * from it.
+ * Commands and their options as tables, which parsing, help, man pages and completions use.
  */
 #ifndef ANIMTEXT_OPTION_H
 #define ANIMTEXT_OPTION_H
@@ -13,25 +12,25 @@ namespace AnimText {
 
 class CommandLine;
 
-/** What the value of an option is. */
+/** The type of an option's value. */
 enum class Kind { Flag, Text, File, Number, Fraction, Time, Size, Point, Color, Range, Choice };
 
 /** One option, made by one of the functions named after its kind. */
 struct Option
 {
     Kind kind;
-    const char* name;  ///< without its dashes
-    const char* value; ///< how the help shows the value; empty for a flag
-    const char* help;  ///< one sentence
-    double least = 0;  ///< of a number, a fraction, a side of a size, or a time in its unit
-    double most = 0;
-    int unit = 0;          ///< milliseconds in which the limits of a time count
-    QStringList choices{}; ///< the words that the value may be, or that completion offers
+    const char* name;  ///< without dashes
+    const char* value; ///< how help shows the value; empty for a flag
+    const char* help;
+    double least = 0;      ///< limit of a number, of a size's sides, or of a time in `unit`
+    double most = 0;       ///< the other limit
+    int unit = 0;          ///< of a time's limits, milliseconds
+    QStringList choices{}; ///< allowed values; for Text, words that completion offers
 
-    char letter = 0;                ///< its short name, if it has one
-    bool isRequired = false;        ///< the command does not run without it
-    const char* standard = nullptr; ///< taken when the option is not given
-    const char* alone = nullptr;    ///< taken when the option is given without a value
+    char letter = 0; ///< short name, or 0
+    bool isRequired = false;
+    const char* standard = nullptr; ///< value if the option is not given
+    const char* alone = nullptr;    ///< value if the option is given without one
 
     static Option Flag(const char* name, const char* help);
     static Option Text(const char* name, const char* value, const char* help);
@@ -40,8 +39,9 @@ struct Option
     static Option Fraction(const char* name, double least, double most, const char* value,
                            const char* help);
     /**
-     * Times are 2s, 2.5s, 1500ms, 3min, 1h, 40t (ticks); a plain number is seconds, and is refused
-     * where @p unit, in milliseconds, in which @p least and @p most count, is another one.
+     * Times are written 2s, 2.5s, 1500ms, 3min, 1h or 40t (ticks). A plain number is seconds, and
+     * is accepted only where @p unit, the unit of @p least and @p most in milliseconds, is a
+     * second.
      */
     static Option Time(const char* name, int unit, double least, double most, const char* value,
                        const char* help);
@@ -63,17 +63,21 @@ struct Option
 struct Command
 {
     const char* name;
-    const char* summary;     ///< one line for the list of commands
-    const char* arguments;   ///< how its other words are shown, e.g. "SCENE.json..."
-    int least, most;         ///< how many of these there may be
-    const char* description; ///< for its help
+    const char* summary;   ///< one line for the list of commands
+    const char* arguments; ///< how help shows the arguments, such as "SCENE.json..."
+    int least, most;       ///< number of arguments
+    const char* description;
     QVector<Option> options;
-    int (*run)(const CommandLine& line); ///< answers the exit status
-    QStringList words{};                 ///< what the arguments may be, where they are no files
+    int (*run)(const CommandLine& line); ///< returns the exit status
+    QVector<const char*> examples{};     ///< shell commands that work in the folder of sign.json
+    QStringList words{};                 ///< what the arguments may be; empty for files
 };
 
 /** "-o" or "--speed": the shortest name of an option. */
 QString ShortestName(const Option& option);
+
+/** The help of an option with its default. */
+QString HelpWithDefault(const Option& option);
 
 } // namespace AnimText
 

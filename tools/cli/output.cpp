@@ -10,7 +10,7 @@ namespace {
 
 [[noreturn]] void FailToPrint()
 {
-    throw Failure{FailedRun, QStringLiteral("standard output cannot be written: %1")
+    throw Failure{FailedRun, QStringLiteral("cannot write to standard output: %1")
                                  .arg(QString::fromLocal8Bit(std::strerror(errno)))};
 }
 
@@ -18,7 +18,7 @@ namespace {
 
 void Warn(const QString& message)
 {
-    // Names of files go out as the bytes that came in.
+    // Writes file names as the bytes they were given in.
     const QByteArray line = "animtext: " + message.toLocal8Bit() + '\n';
     std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
 }

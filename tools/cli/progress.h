@@ -1,6 +1,6 @@
 /**
  * @file
- * How far work is that takes a while.
+ * Reports progress.
  */
 #ifndef ANIMTEXT_PROGRESS_H
 #define ANIMTEXT_PROGRESS_H
@@ -11,22 +11,22 @@
 namespace AnimText {
 
 /**
- * A bar on standard error, if that is a terminal, once the work has taken a second; or, for other
- * programs, lines such as "12 909 rendering" on standard output.
+ * A bar on standard error, if that is a terminal, after one second; or, for other programs, lines
+ * such as "12 909 rendering" on standard output.
  */
 class Progress
 {
 public:
     enum class Form { Bar, Lines };
 
-    /** @param what is going on, e.g. "rendering"; @param total steps, 0 when nobody knows */
+    /** @param what the work, such as "rendering"; @param total steps, or 0 if unknown */
     Progress(const QString& what, qint64 total, Form form = Form::Bar);
-    /** Wipes the bar away. */
+    /** Erases the bar. */
     ~Progress();
 
-    /** Throws Failure when there is nobody to read the lines. */
+    /** Throws Failure if nobody reads the lines. */
     void Show(qint64 done);
-    /** Makes room for other words on the terminal; the bar comes back. */
+    /** Erases the bar so that other text can be printed; the next Show() draws it again. */
     void Wipe();
 
 private:

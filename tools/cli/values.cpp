@@ -14,11 +14,11 @@ namespace AnimText {
 
 namespace {
 
-[[noreturn]] void Takes(const Option& option, const QString& what, const QString& text,
-                        const QString& hint = QString())
+[[noreturn]] void Refuse(const Option& option, const QString& what, const QString& text,
+                         const QString& hint = QString())
 {
-    throw Misuse{QStringLiteral("--%1 takes %2, not \"%3\"%4")
-                     .arg(QLatin1String(option.name), what, text, hint)};
+    throw Misuse{QStringLiteral("--%1 is \"%2\"; expected %3%4")
+                     .arg(QLatin1String(option.name), text, what, hint)};
 }
 
 QString Limits(const Option& option)
@@ -33,7 +33,7 @@ bool IsWithin(const Option& option, double value)
     return value >= option.least && value <= option.most; // also false for "nan"
 }
 
-/** Two whole numbers; both 0 and false where @p text does not match. */
+/** Reads two whole numbers by @p pattern; false, with unspecified numbers, if @p text differs. */
 bool ReadPair(const QString& text, const char* pattern, QPoint* pair)
 {
     const QRegularExpression expression(
@@ -58,7 +58,7 @@ int ToNumber(const Option& option, const QString& text)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber || !IsWithin(option, number))
-        Takes(option, QStringLiteral("a whole number ") + Limits(option), text);
+        Refuse(option, QStringLiteral("a whole number ") + Limits(option), text);
     return number;
 }
 
@@ -67,7 +67,7 @@ double ToFraction(const Option& option, const QString& text)
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     if (!isNumber || !IsWithin(option, number))
-        Takes(option, QStringLiteral("a number ") + Limits(option), text);
+        Refuse(option, QStringLiteral("a number ") + Limits(option), text);
     return number;
 }
 
@@ -77,16 +77,16 @@ double ToMilliseconds(const Option& option, const QString& text)
     double milliseconds = 0;
     bool hasUnit = false;
     const bool isTime = ReadTime(text, &milliseconds, &hasUnit);
-    // A plain number is seconds everywhere; nobody means that where the option counts in hours.
+    // A plain number means seconds, which nobody intends where the option counts in hours.
     const bool isClear = hasUnit || option.unit == second || milliseconds == 0;
     if (!isTime || !isClear || !IsWithin(option, milliseconds / option.unit))
-        Takes(option,
-              (option.unit == second
-                   ? QStringLiteral("a time such as 2.5s, 1500ms or 40t (ticks), or a number of "
-                                    "seconds ")
-                   : QStringLiteral("a time with its unit, such as 24h or 90min, in hours ")) +
-                  Limits(option),
-              text);
+        Refuse(option,
+               (option.unit == second
+                    ? QStringLiteral("a time such as 2.5s, 1500ms or 40t (ticks), or a number of "
+                                     "seconds ")
+                    : QStringLiteral("a time with its unit, such as 24h or 90min, in hours ")) +
+                   Limits(option),
+               text);
     return milliseconds;
 }
 
@@ -95,7 +95,7 @@ QSize ToSize(const Option& option, const QString& text)
     QPoint pair;
     if (!ReadPair(text, "(\\d+)[x×](\\d+)", &pair) || !IsWithin(option, pair.x()) ||
         !IsWithin(option, pair.y()))
-        Takes(option, QStringLiteral("a size like 512x64, its sides ") + Limits(option), text);
+        Refuse(option, QStringLiteral("a size such as 512x64, each side ") + Limits(option), text);
     return {pair.x(), pair.y()};
 }
 
@@ -104,7 +104,8 @@ QPoint ToPoint(const Option& option, const QString& text)
     QPoint point;
     if (!ReadPair(text, "(-?\\d+),(-?\\d+)", &point) || !IsWithin(option, point.x()) ||
         !IsWithin(option, point.y()))
-        Takes(option, QStringLiteral("two whole numbers like 16,0, each ") + Limits(option), text);
+        Refuse(option, QStringLiteral("two whole numbers such as 16,0, each ") + Limits(option),
+               text);
     return point;
 }
 
@@ -113,7 +114,7 @@ QColor ToColor(const Option& option, const QString& text)
     QColor color;
     QString hint;
     if (!ReadColor(text, &color, &hint))
-        Takes(option, QStringLiteral("the name of a color or #rrggbb"), text, hint);
+        Refuse(option, QStringLiteral("a color name or #rrggbb"), text, hint);
     return color;
 }
 
@@ -123,8 +124,7 @@ QPair<int, int> ToRange(const Option& option, const QString& text)
     QPoint ends;
     if (!ReadPair(isOne ? text + QLatin1Char('-') + text : text, "(\\d+)-(\\d+)", &ends) ||
         ends.x() > ends.y())
-        Takes(option, QStringLiteral("one such as 5, or the first and the last, such as 0-99"),
-              text);
+        Refuse(option, QStringLiteral("a number such as 5, or a range such as 0-99"), text);
     return {ends.x(), ends.y()};
 }
 
@@ -134,20 +134,20 @@ int ToChoice(const Option& option, const QString& text)
         if (text.compare(option.choices.at(i), Qt::CaseInsensitive) == 0)
             return i;
     }
-    Takes(option, OneOf(option.choices), text, DidYouMean(text, option.choices));
+    Refuse(option, OneOf(option.choices), text, DidYouMean(text, option.choices));
 }
 
 void CheckValue(const Option& option, const QString& text)
 {
     if (option.kind != Kind::File && !IsUtf8(text))
-        throw Misuse{QStringLiteral("--%1 takes UTF-8; its value has other bytes")
-                         .arg(QLatin1String(option.name))};
+        throw Misuse{
+            QStringLiteral("the value of --%1 is not valid UTF-8").arg(QLatin1String(option.name))};
     switch (option.kind) {
     case Kind::Flag:
     case Kind::Text: break;
     case Kind::File:
         if (text.isEmpty())
-            throw Misuse{QStringLiteral("--%1 takes the name of a file, not an empty one")
+            throw Misuse{QStringLiteral("--%1 is empty; expected a file name")
                              .arg(QLatin1String(option.name))};
         break;
     case Kind::Number: ToNumber(option, text); break;

@@ -1,7 +1,6 @@
 /**
  * @file
- * Reads the values of options. Each function throws Misuse, with what the option takes, unless
- * @p text is that.
+ * Reads the values of options. Each function throws Misuse if @p text is not a value of the option.
  */
 #ifndef ANIMTEXT_VALUES_H
 #define ANIMTEXT_VALUES_H
@@ -24,7 +23,7 @@ QColor ToColor(const Option& option, const QString& text);
 QPair<int, int> ToRange(const Option& option, const QString& text);
 int ToChoice(const Option& option, const QString& text);
 
-/** Reads @p text as the option's kind. */
+/** Reads @p text as a value of the option's kind. */
 void CheckValue(const Option& option, const QString& text);
 
 /** "plain, linear or radial" */

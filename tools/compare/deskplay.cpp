@@ -83,7 +83,7 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
     }
     player->Scenery().WatchCalls(nullptr);
     *desk = reader.Read();
-    desk->name = QStringLiteral("the desk");
+    desk->name = QStringLiteral("the desktop");
     CutTo(*recorded, desk);
     return true;
 }

@@ -62,7 +62,7 @@ public:
             if (i >= callsA.size() || i >= callsB.size()) {
                 const RecordedCall& next = i < callsA.size() ? callsA.at(i) : callsB.at(i);
                 parting.kind = Parting::Kind::End;
-                parting.words = QStringLiteral("%1 ends here; %2 goes on with %3")
+                parting.words = QStringLiteral("%1 ends here; %2 continues with %3")
                                     .arg(i < callsA.size() ? b.name : a.name,
                                          i < callsA.size() ? a.name : b.name, next.name);
             } else {
@@ -114,25 +114,25 @@ private:
             parting->words =
                 QStringLiteral("%1 calls %2, %3 calls %4%5")
                     .arg(a.name, callA.name, b.name, callB.name,
-                         isOrder ? QStringLiteral(": the same in another order") : QString());
+                         isOrder ? QStringLiteral(": same calls in another order") : QString());
         } else if (callA.told != callB.told) {
             parting->kind = Parting::Kind::Argument;
             parting->words = callA.name + QStringLiteral(": ") +
                              Difference(QString(), callA.told, callB.told, a.name, b.name);
         } else if (!callA.sha1.isEmpty() && !callB.sha1.isEmpty() && callA.sha1 != callB.sha1) {
             parting->kind = Parting::Kind::Picture;
-            parting->words = QStringLiteral("%1 hands over another picture").arg(callA.name);
+            parting->words = QStringLiteral("%1: the pictures differ").arg(callA.name);
         } else if (!callA.background.isEmpty() && !callB.background.isEmpty() &&
                    callA.background != callB.background) {
             parting->kind = Parting::Kind::Background;
-            parting->words = QStringLiteral("the background is another at the end of this tick");
+            parting->words = QStringLiteral("the background differs at the end of this tick");
         } else if (tolerance >= 0 && callA.ms >= 0 && callB.ms >= 0) {
             const qint64 late = (callA.ms - callsA.first().ms) - (callB.ms - callsB.first().ms);
             if (std::abs(late) <= tolerance)
                 return;
             parting->kind = Parting::Kind::Time;
             parting->words =
-                QStringLiteral("%1 comes %2 ms %3 in %4 than in %5, %6 are allowed")
+                QStringLiteral("%1 is %2 ms %3 in %4 than in %5; allowed: %6 ms")
                     .arg(callA.name)
                     .arg(std::abs(late))
                     .arg(late > 0 ? QStringLiteral("later") : QStringLiteral("earlier"), a.name,

@@ -169,7 +169,7 @@ bool ReadRecording(const QString& path, Recording* recording, QString* error)
     recording->name = path;
     if (recording->Calls() > 0)
         return true;
-    *error = QStringLiteral("%1: there is nothing in this recording").arg(path);
+    *error = QStringLiteral("%1: the recording is empty").arg(path);
     return false;
 }
 

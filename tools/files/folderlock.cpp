@@ -13,12 +13,12 @@
 namespace AnimText {
 namespace {
 
-const int oldestLock = 30 * 1000; // ms; a scene is written in far less
-const int oldestNameless = 1000;  // ms; a lock's owner writes its name into it at once
+const int oldestLock = 30 * 1000; // ms; writing a scene takes far less
+const int oldestNameless = 1000;  // ms; an owner writes its name into the lock at once
 const int longestWait = 60 * 1000;
 const unsigned long pause = 5; // ms between two tries; QLockFile's own pauses grow to seconds
 
-/** Why a lock in @p folder failed: QLockFile keeps that to itself, so a file is tried again. */
+/** Why a lock in @p folder failed. QLockFile does not say, so this tries to write a file. */
 QString Cause(const QString& folder)
 {
     QTemporaryFile probe(UnfinishedName(folder + QStringLiteral("/lock")));
@@ -42,7 +42,7 @@ bool FolderLock::Take(QString* error)
     QElapsedTimer waited;
     waited.start();
     while (true) {
-        // Killed before it wrote its name, an owner leaves a lock that only its age tells about.
+        // An owner killed before it wrote its name leaves a lock without one.
         qint64 owner = 0;
         QString host;
         QString program;
@@ -51,13 +51,13 @@ bool FolderLock::Take(QString* error)
         if (file.tryLock(0))
             return true;
         if (file.error() != QLockFile::LockFailedError) {
-            *error = QStringLiteral("%1: nothing can be written into this folder: %2")
-                         .arg(folder, Cause(folder));
+            *error =
+                QStringLiteral("%1: cannot write to this folder: %2").arg(folder, Cause(folder));
             return false;
         }
         if (waited.elapsed() > longestWait) {
-            *error = QStringLiteral("%1: another program has been writing here for a minute; if "
-                                    "there is none, remove .animtext.lock")
+            *error = QStringLiteral("%1: another program has locked this folder for a minute; if "
+                                    "none is running, remove .animtext.lock")
                          .arg(folder);
             return false;
         }

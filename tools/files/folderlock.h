@@ -1,6 +1,6 @@
 /**
  * @file
- * The folder of a scene, held by one writer at a time.
+ * A lock on a folder of scenes.
  */
 #ifndef ANIMTEXT_FOLDERLOCK_H
 #define ANIMTEXT_FOLDERLOCK_H
@@ -11,20 +11,20 @@
 namespace AnimText {
 
 /**
- * Scenes of one folder may share data files, so whoever changes one holds the whole folder. The
- * lock is a file ".animtext.lock" in it. One that a killed writer left behind is recognised by its
- * process, or by its age, and taken over.
+ * Scenes in a folder may share data files, so a writer locks the whole folder with a file
+ * ".animtext.lock" in it. A lock that a killed writer left is recognized by its process or its age
+ * and taken over.
  */
 class FolderLock
 {
 public:
-    /** Holds @p folder once Take() has succeeded, as long as it lives. */
+    /** Holds the lock from Take() until destruction. */
     explicit FolderLock(const QString& folder);
 
-    /** Waits for its turn, a minute at most. On failure @p error has one line on it. */
+    /** Waits up to a minute. On failure returns false and sets @p error to one line. */
     bool Take(QString* error);
 
-    /** Names that were made, replaced or removed in the folder reach the disk. */
+    /** Writes the folder's directory entries to the disk. */
     void Sync() const;
 
 private:

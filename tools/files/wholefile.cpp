@@ -22,7 +22,7 @@ namespace AnimText {
 
 namespace {
 
-/** What tells unfinished files of this machine from others; processes of others cannot be seen. */
+/** Marks unfinished files of this machine; processes of other machines cannot be checked. */
 QString Mark()
 {
     return QStringLiteral("@%1.unfinished").arg(QSysInfo::machineHostName());
@@ -45,7 +45,7 @@ void Sweep(const QDir& folder)
         if (!match.hasMatch() || IsRunning(match.captured(1).toLongLong()))
             continue;
         const QString path = folder.filePath(name);
-        // In a folder for everybody, others can choose such a name too.
+        // In a shared folder, other users can choose such a name, too.
         if (QFileInfo(path).ownerId() != geteuid())
             continue;
         if (!QFile::remove(path))
@@ -53,7 +53,7 @@ void Sweep(const QDir& folder)
     }
 }
 
-/** People's own files have the rights that were there, or those that the process gives. */
+/** Keeps the permissions of a replaced file; a new file gets the process's. */
 void SetRights(const QByteArray& file, const QByteArray& replaced)
 {
     struct stat before = {};
@@ -63,7 +63,7 @@ void SetRights(const QByteArray& file, const QByteArray& replaced)
     chmod(file.constData(), isThere ? before.st_mode & 07777 : 0666 & ~mask);
 }
 
-/** Why the file at @p path must not be replaced; empty when it may be, or when there is none. */
+/** Why the file at @p path must not be replaced; empty if it may be or does not exist. */
 QString Obstacle(const QString& path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -85,7 +85,7 @@ QString WriteProtection(const QString& path)
     struct stat there = {};
     if (stat(name.constData(), &there) != 0)
         return QString::fromLocal8Bit(std::strerror(errno));
-    // The system lets root write everything, and everybody replace files in their own folder.
+    // The system would let root write everything, and owners of a folder replace its files.
     const mode_t needed = there.st_uid == geteuid() ? S_IWUSR : mode_t(S_IWUSR | S_IWGRP | S_IWOTH);
     if ((there.st_mode & needed) == 0)
         return QStringLiteral("it is write-protected; chmod u+w allows writing");
@@ -120,26 +120,26 @@ QString UnfinishedName(const QString& path)
     const QString end = QLatin1Char('.') + QString::number(QCoreApplication::applicationPid()) +
                         Mark() + QStringLiteral(".XXXXXX");
     const QString around =
-        QStringLiteral("..old"); // a dot before; what a replaced folder has behind
+        QStringLiteral("..old"); // a leading dot; the suffix of a replaced folder
     const int room = longestName - QFile::encodeName(around + end).size();
     return info.absolutePath() + QStringLiteral("/.") + Shortened(info.fileName(), room) + end;
 }
 
 bool MakeFolder(const QString& path, QString* error)
 {
-    // QDir::mkpath() does not keep the reason.
+    // QDir::mkpath() does not report the reason.
     std::error_code problem;
     std::filesystem::create_directories(QFile::encodeName(QDir::cleanPath(path)).toStdString(),
                                         problem);
     if (problem)
-        *error = QStringLiteral("the folder %1 cannot be made: %2")
+        *error = QStringLiteral("cannot create the folder %1: %2")
                      .arg(path, QString::fromLocal8Bit(problem.message().c_str()));
     return !problem;
 }
 
 QString TemporaryName()
 {
-    // Where TMPDIR names no folder, QDir::tempPath() is empty, and Qt would make folders in /.
+    // If TMPDIR is not a folder, QDir::tempPath() is empty and Qt would make folders in /.
     const QString place = QFile::decodeName(qgetenv("TMPDIR"));
     return QDir(place.isEmpty() ? QStringLiteral("/tmp") : place)
         .absoluteFilePath(QCoreApplication::applicationName() + QStringLiteral("-XXXXXX"));
@@ -148,10 +148,9 @@ QString TemporaryName()
 bool IsMade(const QTemporaryDir& folder, QString* error)
 {
     if (!folder.isValid())
-        *error =
-            QStringLiteral("no temporary folder can be made in %1: %2; TMPDIR can name another "
-                           "place")
-                .arg(QFileInfo(TemporaryName()).path(), folder.errorString());
+        *error = QStringLiteral(
+                     "cannot create a temporary folder in %1: %2; set TMPDIR to another folder")
+                     .arg(QFileInfo(TemporaryName()).path(), folder.errorString());
     return folder.isValid();
 }
 
@@ -165,8 +164,8 @@ QByteArray ReadAtMost(QFile* file, qint64 most)
 
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
 {
-    // By the system's own call: where a disk becomes full only a part is written, and why, the next
-    // attempt tells. QFile forgets to ask.
+    // When the disk fills up, write() writes a part, and only the next call returns the reason.
+    // QFile does not make that call.
     qint64 done = 0;
     while (done < content.size()) {
         const qint64 written =
@@ -205,7 +204,7 @@ bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
 
 QString RealPath(const QString& path)
 {
-    constexpr int mostLinks = 40; // as the kernel follows
+    constexpr int mostLinks = 40; // the kernel's limit
     QFileInfo file(path);
     for (int links = 0; file.isSymLink() && links < mostLinks; ++links)
         file.setFile(file.symLinkTarget());
@@ -217,7 +216,7 @@ bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* 
     const QByteArray name = QFile::encodeName(from);
     const mode_t mask = umask(0);
     umask(mask);
-    // A disk that is written later, or far away, tells here that it was full.
+    // With delayed or remote writing, fsync() is what reports a full disk.
     const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
     const bool whole = file >= 0 && fsync(file) == 0 && fchmod(file, mode & ~mask) == 0 &&
                        std::rename(name.constData(), QFile::encodeName(to).constData()) == 0;

@@ -1,7 +1,7 @@
 /**
  * @file
- * Files that appear whole or not at all. They are made under another name in the same folder, which
- * a writer that is killed leaves behind; the next writer in that folder removes it.
+ * Files that appear complete or not at all. They are written under another name in the same folder.
+ * If the writer is killed, the next writer in that folder removes the unfinished file.
  */
 #ifndef ANIMTEXT_WHOLEFILE_H
 #define ANIMTEXT_WHOLEFILE_H
@@ -20,56 +20,54 @@ constexpr int longestName = 255; ///< bytes of a file's name, in Linux' file sys
 QString Shortened(const QString& name, int most);
 
 /**
- * The name under which what will be @p path is made: a template for QTemporaryFile or
- * QTemporaryDir. Removes what killed processes of this machine left in the folder.
+ * A template for QTemporaryFile or QTemporaryDir, to be renamed to @p path when finished. Removes
+ * unfinished files in the folder whose processes on this machine were killed.
  */
 QString UnfinishedName(const QString& path);
 
 /**
- * Why the file or folder at @p path must not be changed: what protects it, or empty. Its mode
- * decides that for root too, who could change everything.
+ * Why the file or folder at @p path is write-protected, or empty. Also respects the mode for root,
+ * who could change everything.
  */
 QString WriteProtection(const QString& path);
 
 /**
- * Where a file that is written as @p path really goes: links are followed, also to a file that is
- * not there yet. Returns false, with one line in @p error, when what is there must stay: anything
- * except a regular file, and a file that is write-protected.
+ * Follows symbolic links from @p path to the file to write, which may not exist yet. Returns false,
+ * with one line in @p error, if something other than a writable regular file exists there.
  */
 bool FindTarget(const QString& path, QString* target, QString* error);
 
-/** The file that @p path leads to where it is a symbolic link, else @p path itself. */
+/** The target of @p path if it is a symbolic link, else @p path. */
 QString RealPath(const QString& path);
 
-/** Makes the folder @p path and those above it; false, with one line in @p error, when it fails. */
+/** Makes the folder @p path and its parents; false, with one line in @p error, on failure. */
 bool MakeFolder(const QString& path, QString* error);
 
 /** A template for a QTemporaryDir in TMPDIR, or in /tmp where that is not set. */
 QString TemporaryName();
 
 /**
- * Whether the system made @p folder, of that name; otherwise @p error has one line on it. Without
- * this, the names of files in it would be names in the current folder.
+ * Whether @p folder was created; otherwise @p error has one line. Check this first: in a folder
+ * without a name, files would go to the current folder.
  */
 bool IsMade(const QTemporaryDir& folder, QString* error);
 
-/** What is left to read of @p file, @p most bytes at most: a pipe hands it over in pieces. */
+/** Reads the rest of @p file, up to @p most bytes, in pieces as pipes deliver them. */
 QByteArray ReadAtMost(QFile* file, qint64 most);
 
-/** Appends all of @p content to a file that is open and has nothing buffered; on failure answers
- * false with what the system says in @p problem. */
+/** Appends @p content to an open, unbuffered file; on failure returns false and sets @p problem to
+ * the system's message. */
 bool WriteAll(QFile* file, const QByteArray& content, QString* problem);
 
 /**
- * Writes @p content to @p path, and to the disk, before it takes the place of a file that may be
- * there and that FindTarget() allows to replace. On failure answers false with one line in @p
- * error; what was there is then left.
+ * Writes @p content to the disk, then replaces the file at @p path if FindTarget() allows it. On
+ * failure returns false with one line in @p error and leaves an existing file as it was.
  */
 bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
 
 /**
- * Gives the temporary file or folder @p from the rights that people's own have, and the name @p to.
- * @p mode before the process's mask is taken off
+ * Renames the temporary file or folder @p from to @p to and sets its permissions to @p mode less
+ * the process's umask.
  */
 bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error);
 

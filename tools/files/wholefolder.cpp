@@ -14,7 +14,7 @@ namespace AnimText {
 
 namespace {
 
-/** The first name below @p folder that is neither one of @p own nor a folder of these. */
+/** The first file below @p folder that is not in @p own, or empty. */
 QString ForeignName(const QDir& folder, const QStringList& own)
 {
     QStringList known = own;
@@ -35,7 +35,7 @@ QString ForeignName(const QDir& folder, const QStringList& own)
     return QString();
 }
 
-/** Removes @p own from @p folder, and the folders that are empty then. */
+/** Removes @p own from @p folder, then the empty folders. */
 void RemoveOwn(const QDir& folder, const QStringList& own)
 {
     for (const QString& name : own) {
@@ -71,8 +71,8 @@ bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
     }
     const QString foreign = ForeignName(there, own);
     if (!foreign.isEmpty())
-        *error =
-            QStringLiteral("%1 also holds %2; name an empty or a new folder").arg(path, foreign);
+        *error = QStringLiteral("%1 has other contents, such as %2; choose a new or empty folder")
+                     .arg(path, foreign);
     return foreign.isEmpty();
 }
 
@@ -81,7 +81,7 @@ bool WholeFolder::Open(const OwnFiles& own, QString* error)
     ownFiles = own;
     const QFileInfo info(path);
     if (info.exists() && !info.isDir()) {
-        *error = QStringLiteral("%1 is a file; give the folder another name").arg(path);
+        *error = QStringLiteral("%1 is a file; choose another name for the folder").arg(path);
         return false;
     }
     if (info.exists() && !IsReplaceable(path, error))
@@ -89,7 +89,7 @@ bool WholeFolder::Open(const OwnFiles& own, QString* error)
     folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
     if (folder->isValid())
         return true;
-    *error = QStringLiteral("no folder can be made in %1: %2")
+    *error = QStringLiteral("cannot create a folder in %1: %2")
                  .arg(info.absolutePath(), QString::fromLocal8Bit(std::strerror(errno)));
     return false;
 }

@@ -1,6 +1,6 @@
 /**
  * @file
- * A folder that appears whole or not at all.
+ * A folder that appears complete or not at all.
  */
 #ifndef ANIMTEXT_WHOLEFOLDER_H
 #define ANIMTEXT_WHOLEFOLDER_H
@@ -15,7 +15,7 @@
 
 namespace AnimText {
 
-/** Stands under another name beside its place until it is finished, and goes away unless it is. */
+/** Written under another name beside its place until Finish(); otherwise removed. */
 class WholeFolder
 {
 public:
@@ -23,19 +23,19 @@ public:
 
     QString Path() const { return path; }
 
-    /** The files of a folder, as paths in it, that an earlier command wrote and may replace. */
+    /** Returns the files, as paths within a folder, that an earlier command wrote there. */
     using OwnFiles = std::function<QStringList(const QDir&)>;
 
     /**
-     * Each answers false on failure, with one line in @p error. A folder that holds anything except
-     * @p ownFiles stays as it is; Finish() looks again, for others write too.
+     * Each returns false on failure, with one line in @p error. An existing folder is replaced only
+     * if it holds nothing except @p ownFiles; Finish() checks this again.
      */
     bool Open(const OwnFiles& ownFiles, QString* error);
     /** @param name of a file, with at most one folder before it */
     bool Add(const QString& name, const QByteArray& content, QString* error);
     bool Finish(QString* error);
 
-    /** What all its files take. */
+    /** Size of all files added. */
     qint64 Bytes() const { return bytes; }
 
 private:

@@ -10,7 +10,7 @@ StyledText Fitted(const StyledText& text, Fit fit, QSize room)
 {
     if (fit == Fit::None)
         return text;
-    // The sizes in proportion to the largest, which is what is looked for.
+    // Searches for the largest size; the others are in proportion to it.
     int largest = 1;
     int smallest = largestFontSize;
     for (const StyleRun& run : text.runs) {

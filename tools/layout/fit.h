@@ -1,6 +1,6 @@
 /**
  * @file
- * Sizes that fit an area.
+ * Fits font sizes to an area.
  */
 #ifndef ANIMTEXT_FIT_H
 #define ANIMTEXT_FIT_H
@@ -14,13 +14,13 @@ namespace AnimText {
 /** What the largest size must fit. */
 enum class Fit {
     None,
-    Height, ///< the line is no higher than the area
-    Both,   ///< and, on one page, no wider
+    Height, ///< the area's height
+    Both,   ///< the area's height and width, on one page
 };
 
 /**
- * @p text at the largest sizes whose line, in all the fonts that it really uses, fits @p room. The
- * sizes keep their proportions to one another; the smallest is 4 pixels.
+ * @p text at the largest sizes that fit @p room, including fallback fonts. Sizes keep their
+ * proportions; the minimum is 4 pixels.
  */
 StyledText Fitted(const StyledText& text, Fit fit, QSize room);
 

@@ -33,25 +33,25 @@ QString DidYouMeanOneOf(const QString& word, const QStringList& known)
     return closest < 0 ? QString() : DidYouMean(known[closest], known);
 }
 
-bool FindFamily(const QString& wish, QString* family, QString* error)
+bool FindFamily(const QString& name, QString* family, QString* error)
 {
     static const QStringList generic{QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
                                      QStringLiteral("Serif"), QStringLiteral("Monospace")};
     const QStringList families = FontFamilies();
-    *family = wish;
+    *family = name;
     if (families.isEmpty()) {
         *error = QStringLiteral("no fonts are installed; apt-get install fonts-dejavu-core");
-    } else if (QFileInfo(wish).isFile()) {
-        const int id = QFontDatabase::addApplicationFont(wish);
+    } else if (QFileInfo(name).isFile()) {
+        const int id = QFontDatabase::addApplicationFont(name);
         *family = QFontDatabase::applicationFontFamilies(id).value(0);
         if (!family->isEmpty())
             return true;
-        *error = QStringLiteral("%1: no font can be read from it").arg(wish);
-    } else if ((families + generic).contains(wish, Qt::CaseInsensitive)) {
+        *error = QStringLiteral("%1: not a font file").arg(name);
+    } else if ((families + generic).contains(name, Qt::CaseInsensitive)) {
         return true;
     } else {
-        *error = QStringLiteral("there is no font family \"%1\"%2")
-                     .arg(wish, DidYouMeanOneOf(wish, families));
+        *error = QStringLiteral("unknown font family \"%1\"%2")
+                     .arg(name, DidYouMeanOneOf(name, families));
     }
     return false;
 }

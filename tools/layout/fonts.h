@@ -1,6 +1,6 @@
 /**
  * @file
- * The fonts that there are.
+ * The installed fonts.
  */
 #ifndef ANIMTEXT_FONTS_H
 #define ANIMTEXT_FONTS_H
@@ -10,19 +10,19 @@
 
 namespace AnimText {
 
-/** The installed families whose names hold @p filter, upper and lower case alike; in order. */
+/** The sorted names of installed families that contain @p filter, ignoring case. */
 QStringList FontFamilies(const QString& filter = QString());
 
 /**
- * The family that @p wish names: an installed one, one of the general names Sans, Serif and
- * Monospace, or that of a font file, which is loaded. Needs a QGuiApplication.
- * @return false when there is none, and then @p error has one line on it
+ * Finds the family for @p name: an installed family, a generic name (Sans, Serif, Monospace) or a
+ * font file, which it loads. Needs a QGuiApplication.
+ * @return false, with one line in @p error, if there is none
  */
-bool FindFamily(const QString& wish, QString* family, QString* error);
+bool FindFamily(const QString& name, QString* family, QString* error);
 
 /**
- * "; did you mean X?" with the shortest of @p known that holds @p word, else with the closest, be
- * it only to its first words, or nothing.
+ * "; did you mean X?" with the shortest of @p known that contains @p word, or else with the
+ * closest, comparing only the first words if necessary; or empty.
  */
 QString DidYouMeanOneOf(const QString& word, const QStringList& known);
 

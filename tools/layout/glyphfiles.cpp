@@ -7,7 +7,7 @@ namespace AnimText {
 namespace {
 
 template <typename T>
-QByteArray Serialised(const T& value)
+QByteArray Serialized(const T& value)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
@@ -20,12 +20,13 @@ QByteArray Serialised(const T& value)
 
 QByteArray PathFile(const QVector<QPainterPath>& outlines)
 {
-    return Serialised(Serialised(outlines).toBase64());
+    return Serialized(Serialized(outlines).toBase64());
 }
 
 int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes)
 {
-    // A length, then four characters for every three bytes; an empty outline is its size alone.
+    // A length, then Base64, which has four characters for three bytes. An empty outline is only
+    // its size.
     const qint64 room = (bytes - 4) / 4 * 3;
     qint64 taken = 4;
     int fitting = 0;
@@ -41,7 +42,7 @@ int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes)
 
 QByteArray DescentFile(const QVector<int>& descents)
 {
-    return Serialised(Serialised(descents).toBase64());
+    return Serialized(Serialized(descents).toBase64());
 }
 
 } // namespace AnimText

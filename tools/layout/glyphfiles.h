@@ -1,6 +1,6 @@
 /**
  * @file
- * The two data files of an animated text, as the node on the sign reads them.
+ * The two data files of a node.
  */
 #ifndef ANIMTEXT_GLYPHFILES_H
 #define ANIMTEXT_GLYPHFILES_H
@@ -12,12 +12,12 @@
 namespace AnimText {
 
 /**
- * The content of a "PathData" file: a serialised byte array of Base64 text, which decodes to the
- * serialised list. Numbers are big-endian, in the stream format of the device's Qt (4.8).
+ * The content of a "PathData" file: a serialized byte array of Base64 text, which decodes to the
+ * serialized list. Numbers are big-endian, in the stream format of the device's Qt (4.8).
  */
 QByteArray PathFile(const QVector<QPainterPath>& outlines);
 
-/** How many of @p outlines, from the first, a "PathData" file of @p bytes has room for. */
+/** How many of the first @p outlines fit into a "PathData" file of @p bytes. */
 int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes);
 
 /** The content of a "DescentVector" file, in the same two layers. */

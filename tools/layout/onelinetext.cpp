@@ -52,9 +52,8 @@ bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
         i += paired ? 1 : 0;
     }
     if (line.text.trimmed().isEmpty()) {
-        *error =
-            QStringLiteral("expected a text, found %1")
-                .arg(line.text.isEmpty() ? QStringLiteral("none") : QStringLiteral("only blanks"));
+        *error = line.text.isEmpty() ? QStringLiteral("the text is empty")
+                                     : QStringLiteral("the text has only spaces");
         return false;
     }
     *text = line;

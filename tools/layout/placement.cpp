@@ -12,7 +12,7 @@
 namespace AnimText {
 namespace {
 
-/** Each cluster's width, such that the line's rounded edges lie between them. */
+/** The widths of clusters between rounded edges. */
 QVector<int> ClusterWidths(const ShapedLine& line)
 {
     QVector<int> widths(line.clusters.size());
@@ -26,8 +26,8 @@ QVector<int> ClusterWidths(const ShapedLine& line)
 }
 
 /**
- * With points at 64ths of a pixel, where the sign's painter fills anyway: it then halves curves
- * without rounding and can copy a glyph that moves, and no shape moves by more than 1/128.
+ * Rounds points to 1/64 pixel, the precision of the sign's painter. The painter then divides curves
+ * without rounding and can copy moving glyphs. No point moves by more than 1/128 pixel.
  */
 QPainterPath OnGrid(QPainterPath path)
 {
@@ -52,7 +52,7 @@ QPainterPath Underlined(const QPainterPath& shape, int width, const Bar& bar)
     return both;
 }
 
-/** A place on the sign: of a cluster, or of an added space. */
+/** The place of a cluster or of an added space. */
 struct Cell
 {
     int cluster; // or -1
@@ -135,10 +135,10 @@ private:
             result.tornWords.append(word);
     }
 
-    /** @param isLast on the sign no page is turned behind this one */
+    /** @param isLast no page follows */
     void SetPage(const PageCut& page, bool isLast)
     {
-        QVector<int> members; // those that are seen, from left to right
+        QVector<int> members; // visible, from left to right
         members.reserve(page.seenEnd - page.seen);
         if (page.seen == 0 && page.seenEnd == Count()) {
             members = line.visualOrder;
@@ -167,7 +167,7 @@ private:
         }
     }
 
-    /** Where cluster @p k stands in the visual order. */
+    /** The index of cluster @p k in the visual order. */
     int Rank(int k)
     {
         if (ranks.isEmpty()) {
@@ -178,7 +178,7 @@ private:
         return ranks[k];
     }
 
-    /** The left edge of a page's text that is @p width wide. */
+    /** The left edge of a page's text of that width. */
     int LeftOf(int width) const
     {
         if (setting.arrangement == Arrangement::Line)
@@ -193,7 +193,7 @@ private:
         return FromEnd() || line.rightToLeft ? right : setting.padding;
     }
 
-    /** The outlines of @p members, given from left to right, where they are seen. */
+    /** Positions the outlines of @p members, given from left to right. */
     void SetOutlines(const QVector<int>& members, int left)
     {
         int before = -1;
@@ -208,7 +208,7 @@ private:
         }
     }
 
-    /** The places of a page in the order of the text. */
+    /** The places of a page in text order. */
     QVector<Cell> Cells(const PageCut& page, int seenWidth, int left, bool isLast) const
     {
         QVector<Cell> cells;
@@ -240,7 +240,7 @@ private:
         return cells;
     }
 
-    /** True where the sign turns the page by itself, as it does between any two letters. */
+    /** Whether the sign itself begins a page here. */
     bool IsTurnedAnyway(const PageCut& page) const
     {
         if (setting.keepsWords || setting.needsPlaces)
@@ -254,7 +254,7 @@ private:
 
     void SetColumn()
     {
-        const int middle = (setting.area.width() - widest) / 2; // where the sign begins them all
+        const int middle = (setting.area.width() - widest) / 2; // where the sign begins all of them
         for (int k = 0; k < Count(); ++k) {
             seenAt[k] = setting.align == Align::Natural ? 0 : LeftOf(widths[k]) - middle;
             outlines[k] = Underlined(line.clusters[k].shape, widths[k], line.clusters[k].underline);
@@ -262,7 +262,7 @@ private:
         }
     }
 
-    /** Appends the units of @p cell, which lies at @p x of its page. */
+    /** Appends the units of @p cell, at @p x on its page. */
     void Append(const Cell& cell, int x)
     {
         const bool isAdded = cell.cluster < 0;
@@ -280,20 +280,20 @@ private:
                 OnGrid(outlines[cell.cluster].translated(seenAt[cell.cluster] - x, 0));
     }
 
-    /** Heights and descents decide how far below the middle the baseline lies. */
+    /** Heights and descents set the baseline's distance from the middle. */
     void SetHeights()
     {
         const int height = line.ascent + line.descent;
         const int middle = setting.area.height() / 2 + height / 2 - line.descent;
-        int up = 0; // of the baseline, from where it is in the middle
+        int up = 0; // pixels that the baseline moves up from middle alignment
         if (setting.valign == VAlign::Top)
             up = middle - setting.padding - line.ascent;
         else if (setting.valign == VAlign::Bottom)
             up = middle - (setting.area.height() - setting.padding - line.descent);
         if (setting.arrangement == Arrangement::Column)
             up = 0;
-        // A higher line box that reaches as far below the baseline as it is higher leaves the
-        // letters' height above the baseline as it was; half of it moves the baseline.
+        // Adding the same amount to height and descent keeps the ascent and moves the baseline up
+        // by half of it.
         const int higher = setting.reachesTop && up > 0 ? 2 * up : 0;
         for (int& own : result.heights)
             own += own > 0 ? higher : 0;

@@ -6,7 +6,7 @@
 namespace AnimText {
 namespace {
 
-/** The pixels that the paths cover, each filled by its own rule, on a canvas for @p box. */
+/** A bitmap of @p box with the paths, each filled by its own rule. */
 QImage Coverage(const QRectF& box, std::initializer_list<QPainterPath> paths)
 {
     const QRect canvas = box.toAlignedRect().adjusted(-1, -1, 1, 1);
@@ -48,28 +48,28 @@ QPainterPath WithoutOverlaps(const QPainterPath& path)
     const int holes = DifferentPixels(wanted, Coverage(box, {ByOddEven(path)}));
     if (holes == 0)
         return path;
-    // The toolkit's path arithmetic is good but not perfect; what it answers must be the better.
+    // Qt's path arithmetic sometimes fails, so its result is used only if it is better.
     const QPainterPath simple = ByOddEven(path.simplified());
     return DifferentPixels(wanted, Coverage(box, {simple})) < holes ? simple : path;
 }
 
-QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbour)
+QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbor)
 {
-    if (path.isEmpty() || neighbour.isEmpty() ||
-        !path.boundingRect().intersects(neighbour.boundingRect()))
+    if (path.isEmpty() || neighbor.isEmpty() ||
+        !path.boundingRect().intersects(neighbor.boundingRect()))
         return path;
-    const QRectF box = path.boundingRect().united(neighbour.boundingRect());
-    const QImage wanted = Coverage(box, {path, neighbour});
+    const QRectF box = path.boundingRect().united(neighbor.boundingRect());
+    const QImage wanted = Coverage(box, {path, neighbor});
     const auto holes = [&](const QPainterPath& rest) {
         QPainterPath both;
         both.addPath(rest);
-        both.addPath(neighbour);
+        both.addPath(neighbor);
         return DifferentPixels(wanted, Coverage(box, {both}));
     };
     const int before = holes(path);
     if (before == 0)
         return path;
-    const QPainterPath rest = path.subtracted(neighbour);
+    const QPainterPath rest = path.subtracted(neighbor);
     return holes(rest) < before ? rest : path;
 }
 

@@ -1,8 +1,7 @@
 /**
  * @file
- * Outlines that may be put into one path. The engine collects the outlines of a page in one path
- * and fills it by the odd-even rule: where two of them overlap, as joined letters do, there would
- * be a hole.
+ * Removes overlaps of outlines. The engine fills all outlines of a page as one path by the odd-even
+ * rule, so overlaps, as between joined letters, would be holes.
  */
 #ifndef ANIMTEXT_SEAMS_H
 #define ANIMTEXT_SEAMS_H
@@ -11,11 +10,11 @@
 
 namespace AnimText {
 
-/** @p path so that the odd-even rule fills what its own rule fills. */
+/** @p path changed so that the odd-even rule fills the same area. */
 QPainterPath WithoutOverlaps(const QPainterPath& path);
 
-/** @p path less what @p neighbour covers of it. */
-QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbour);
+/** @p path without the area that @p neighbor covers. */
+QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbor);
 
 } // namespace AnimText
 

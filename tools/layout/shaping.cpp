@@ -14,11 +14,11 @@
 namespace AnimText {
 namespace {
 
-// Asking a line for the glyphs of one unit costs as much as the line is long. The layout is
-// therefore cut into short lines, which changes nothing in the shapes: they are made before.
+// Asking a QTextLine for the glyphs of one unit takes time linear in the line's length. The layout
+// is therefore divided into short lines, which does not change the shapes.
 const int columnsPerLine = 100;
 
-const qreal tolerance = 0.02; // pixels; the layout counts in 1/64
+const qreal tolerance = 0.02; // pixels; QTextLayout uses units of 1/64
 
 QTextOption Option(QTextOption::WrapMode wrap, Qt::LayoutDirection direction)
 {
@@ -29,10 +29,10 @@ QTextOption Option(QTextOption::WrapMode wrap, Qt::LayoutDirection direction)
     return option;
 }
 
-// That of the first letter.
+// The direction of the first letter.
 const Qt::LayoutDirection ownDirection = Qt::LayoutDirectionAuto;
 
-/** The text with its styles, not laid out yet. */
+/** A layout for the text with its styles. */
 void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* layout,
              Qt::LayoutDirection direction = ownDirection)
 {
@@ -50,7 +50,7 @@ void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* la
     layout->setTextOption(Option(wrap, direction));
 }
 
-/** The text on one line, which lives as long as its @p layout. */
+/** Lays out the text on one line. The line is valid as long as @p layout. */
 QTextLine WholeLine(const StyledText& text, QTextLayout* layout,
                     Qt::LayoutDirection direction = ownDirection)
 {
@@ -62,22 +62,22 @@ QTextLine WholeLine(const StyledText& text, QTextLayout* layout,
     return line;
 }
 
-/** Where the reading of a unit begins and ends. */
+/** The leading and the trailing edge of a unit. */
 struct Edges
 {
     qreal leading;
     qreal trailing;
 };
 
-/** @p fromRight is the text's direction; @p width answers how wide the unit is. */
+/** @param fromRight the text's direction @param width returns the unit's width */
 template <typename Width>
 Edges EdgesOf(const QTextLine& line, int unit, bool fromRight, Width width)
 {
     Edges edges{line.cursorToX(unit, QTextLine::Leading),
                 line.cursorToX(unit, QTextLine::Trailing)};
 #if QT_VERSION >= 0x060000
-    // Where words of the other direction begin, a cursor of Qt 6 stands before them, not at their
-    // first unit, and behind ligatures it may do so too. The glyph itself stands where it should.
+    // At a change of direction, and after ligatures, Qt 6 may place the cursor before the words of
+    // the other direction instead of at their first unit. The glyph's own position is right.
     const QList<QGlyphRun> glyphs = line.glyphRuns(unit, 1);
     if (!glyphs.isEmpty() && glyphs.first().isRightToLeft() != fromRight) {
         const qreal left = glyphs.first().positions().first().x();
@@ -99,13 +99,13 @@ Bar UnderlineOf(const QFont& font)
     return {qreal(qRound(metrics.underlinePos() - height / 2)), height};
 }
 
-/** A cluster where the short lines have it. */
+/** A cluster in the short lines. */
 struct PlacedCluster
 {
     int line;
-    qreal leading;  // x of the edge at which reading begins
-    qreal trailing; // x of the edge at which reading ends
-    int groups;     // of units that share a glyph
+    qreal leading;  // x of the leading edge
+    qreal trailing; // x of the trailing edge
+    int groups;     // number of groups of units that share a glyph
 
     bool RightToLeft() const { return leading > trailing; }
     qreal Left() const { return qMin(leading, trailing); }
@@ -138,7 +138,7 @@ public:
     }
 
 private:
-    /** How wide a unit is that stands among words of the other direction. */
+    /** The width of a unit among words of the other direction. */
     qreal WidthAmongTheOthers(int unit)
     {
         if (turned.text().isEmpty())
@@ -179,7 +179,7 @@ private:
             Outline(line, places[k], &result.clusters[k]);
     }
 
-    /** True when the glyph of unit @p i is the one of the unit before. */
+    /** Whether unit @p i shares its glyph with the unit before. */
     static bool SharesGlyph(const QTextLine& line, int i)
     {
         const QList<QGlyphRun> own = line.glyphRuns(i, 1);
@@ -191,9 +191,8 @@ private:
     }
 
     /**
-     * The edge at which the reading of @p place, a syllable of several glyphs, ends. The layout
-     * tells only the end of its first glyph; clusters lie side by side, so the syllable ends where
-     * the next one begins.
+     * The trailing edge of @p place, a syllable of several glyphs. The layout has only the end of
+     * its first glyph, but clusters are adjacent, so the syllable ends where the next one begins.
      */
     qreal EndOf(const PlacedCluster& place, int firstOfLine, const QTextLine& line) const
     {
@@ -218,7 +217,7 @@ private:
         cluster->advance = qAbs(place.trailing - place.leading);
         const QPointF origin(place.Left(), line.y() + line.ascent());
         cluster->shape.setFillRule(Qt::WindingFill);
-        QPainterPath single; // the one glyph of a cluster that has but one
+        QPainterPath single; // the glyph of a cluster with only one
         int parts = 0;
         QVector<QRawFont> fonts;
         bool lacksGlyph = false;
@@ -241,7 +240,7 @@ private:
             FindMissing(fonts, cluster);
     }
 
-    /** A letter whose accent is missing is there, and so is a digit with its style of emoji. */
+    /** A letter without its accent counts as present, as does a digit without its emoji style. */
     void FindMissing(const QVector<QRawFont>& fonts, Cluster* cluster) const
     {
         const int end = cluster->first + cluster->units;
@@ -268,9 +267,9 @@ private:
         auto known = glyphs.constFind(key);
         if (known == glyphs.constEnd()) {
             QPainterPath path;
-            if (glyph != 0) // the font's mark for "unknown" would look like a letter
+            if (glyph != 0) // 0 is the box for missing glyphs
                 path = font.pathForGlyph(glyph);
-            path.setFillRule(Qt::WindingFill); // what outline fonts are drawn for
+            path.setFillRule(Qt::WindingFill); // as outline fonts require
             known = glyphs.insert(key, {path, WithoutOverlaps(path)});
         }
         return *known;
@@ -289,8 +288,8 @@ private:
             return order;
         }
 
-        // Clusters that follow one another in the same direction keep together on any line that
-        // holds them all; only where such a sequence stands has to be asked of the whole line.
+        // Consecutive clusters of one direction stay together on any line, so only the position of
+        // each such sequence comes from the whole line.
         QTextLayout layout;
         const QTextLine line = WholeLine(text, &layout);
 
@@ -332,7 +331,7 @@ private:
     QVector<Bar> underlines; // by run
     ShapedLine result;
     QVector<PlacedCluster> places;
-    QTextLayout turned; // the text as if its letters ran the other way; empty until it is asked
+    QTextLayout turned; // the text in the other direction; empty until needed
     QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
 };
 

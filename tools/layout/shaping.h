@@ -1,6 +1,6 @@
 /**
  * @file
- * A text laid out in a font as one line, and the outlines of its clusters.
+ * Lays out a text as one line with the outlines of its clusters.
  */
 #ifndef ANIMTEXT_SHAPING_H
 #define ANIMTEXT_SHAPING_H
@@ -13,47 +13,44 @@
 
 namespace AnimText {
 
-/** A bar under letters. */
+/** An underline. */
 struct Bar
 {
     qreal top = 0;    ///< pixels below the baseline
-    qreal height = 0; ///< pixels; 0 for no bar
+    qreal height = 0; ///< pixels; 0: none
 };
 
 /**
- * The units of a text that the font shows as one shape: a letter, a letter with its accents, a
- * ligature, a syllable.
+ * Units of a text that have one shape: a letter, a letter with accents, a ligature or a syllable.
  */
 struct Cluster
 {
-    int first = 0;        ///< its first UTF-16 unit
-    int units = 0;        ///< how many units it has
-    qreal advance = 0;    ///< pixels, as laid out, kerning included
-    QPainterPath shape;   ///< pixels; origin at the left end of the baseline, y downward
-    Bar underline;        ///< none unless its style has one
-    QVector<int> missing; ///< UTF-16 units at which characters begin that no font has, and that
-                          ///< @c shape therefore lacks
+    int first = 0;      ///< its first UTF-16 unit
+    int units = 0;      ///< number of units
+    qreal advance = 0;  ///< pixels, including kerning
+    QPainterPath shape; ///< pixels; origin at the left end of the baseline, y downward
+    Bar underline;
+    QVector<int> missing; ///< first UTF-16 units of characters that no font has
 };
 
 /** A text as one line. */
 struct ShapedLine
 {
     QVector<Cluster> clusters; ///< in the order of the text
-    QVector<int> visualOrder;  ///< indices into @c clusters, from the left of the line to its right
+    QVector<int> visualOrder;  ///< indices into @c clusters, from left to right
     int ascent = 0;            ///< pixels above the baseline, of all fonts used
     int descent = 0;           ///< pixels below the baseline, of all fonts used
-    bool rightToLeft = false;  ///< the direction of its first letter
+    bool rightToLeft = false;  ///< direction of the first letter
 };
 
 /**
- * Lays @p text out as a whole, in one line on one baseline: ligatures, joined letters, kerning and
- * both directions of writing as the toolkit's text layout makes them, with its own fallback for
- * characters that a font lacks. The time is linear in the length of the text but for a line that
- * mixes directions, where it also grows with the square of the number of changes.
+ * Lays out @p text in one line on one baseline with Qt's text layout: ligatures, joined letters,
+ * kerning, both writing directions and fallback fonts. Takes time linear in the length of the text,
+ * plus the square of the number of changes of direction.
  */
 ShapedLine ShapeLine(const StyledText& text);
 
-/** The measures of a line, pixels. */
+/** The size of a line, pixels. */
 struct LineSize
 {
     int ascent = 0;  ///< above the baseline, of all fonts used
@@ -61,18 +58,18 @@ struct LineSize
     int width = 0;
 };
 
-/** What ShapeLine() would give, at a fraction of the time. */
+/** The size of the line of ShapeLine(), in a fraction of the time. */
 LineSize MeasureLine(const StyledText& text);
 
-/** A character of which nothing will be seen. */
+/** A character without an outline. */
 struct UnseenCharacter
 {
     int index = 0;        ///< its first UTF-16 unit
     uint codePoint = 0;   ///< 0x0 .. 0x10FFFF
-    bool missing = false; ///< no font has it; otherwise its font has pictures in place of outlines
+    bool missing = false; ///< no font has it; otherwise its font has only a picture
 };
 
-/** The characters of @p line, laid out from @p text, that ought to be seen and have no outline. */
+/** The characters of @p line, laid out from @p text, that should have an outline but do not. */
 QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& line);
 
 } // namespace AnimText

@@ -1,6 +1,6 @@
 /**
  * @file
- * A text whose characters have styles of their own.
+ * A text whose characters have styles.
  */
 #ifndef ANIMTEXT_STYLEDTEXT_H
 #define ANIMTEXT_STYLEDTEXT_H
@@ -29,20 +29,21 @@ struct StyledText
 {
     QString text;
     QVector<StyleRun> runs; ///< the first begins at 0; they follow one another
-    bool sized = false;     ///< sizes were given for parts of it
+    bool sized = false;     ///< tags set absolute sizes
 
     /** The style of unit @p index. */
     const StyleRun& At(int index) const;
-    /** Appends @p more in the style of @p run; equal neighbours become one run. */
+    /** Appends @p more in the style of @p run; equal neighbors become one run. */
     void Append(const QString& more, const StyleRun& run);
     /** All sizes times @p factor, in whole pixels, 1 at least. */
     StyledText Scaled(qreal factor) const;
 };
 
 /**
- * @p text as one line: line breaks and tabs become spaces, one line break at the end is dropped.
- * @param notes takes a line on each kind of change
- * @return false when it holds what cannot be shown, and then @p error has one line on it
+ * Replaces line breaks and tabs in @p text with spaces and drops a line break at the end.
+ * @param notes gets a line on each kind of change
+ * @return false, with one line in @p error, if @p text is blank or has characters that cannot be
+ * shown
  */
 bool ToOneLine(StyledText* text, QStringList* notes, QString* error);
 

@@ -5,8 +5,7 @@
 namespace AnimText {
 namespace {
 
-/** True for what is written to be seen: no space, no control, no mark that only steers the shaping.
- */
+/** Whether a character has ink: not a space, a control or a mark that only affects shaping. */
 bool OughtToBeSeen(uint codePoint)
 {
     switch (QChar::category(codePoint)) {

@@ -15,7 +15,7 @@ int EndOfPage(const QVector<LinePiece>& line, int begin, int width)
         if (seen && line[k].mayBegin)
             wordEnd = k;
         sum += line[k].width;
-        if (line[k].isBlank) // they may hang over
+        if (line[k].isBlank) // spaces may extend beyond the page
             continue;
         if (sum > width && k > begin)
             return wordEnd > begin ? wordEnd : k;
@@ -36,7 +36,7 @@ QVector<PageCut> CutFromBeginning(const QVector<LinePiece>& line, int width)
         int sum = 0;
         for (int k = page.begin; k < page.end; ++k)
             sum += line[k].width;
-        // Spaces at the very end are part of the text as long as there is room.
+        // Spaces at the end of the text count as long as they fit.
         const auto hides = [&] { return page.end < line.size() || sum > width; };
         while (page.seenEnd > begin + 1 && line[page.seenEnd - 1].isBlank && hides())
             sum -= line[--page.seenEnd].width;
@@ -54,7 +54,7 @@ QVector<PageCut> CutPages(const QVector<LinePiece>& line, int width, bool fromEn
 {
     if (!fromEnd)
         return CutFromBeginning(line, width);
-    // The same seen in a mirror, where the spaces between two words stand behind the other one.
+    // Mirrors the line, which puts the spaces between two words after the other word.
     const int count = line.size();
     QVector<LinePiece> mirrored(count);
     bool mayBegin = false;

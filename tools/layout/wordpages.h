@@ -1,6 +1,6 @@
 /**
  * @file
- * Pages that end where words end.
+ * Divides a line into pages between words.
  */
 #ifndef ANIMTEXT_WORDPAGES_H
 #define ANIMTEXT_WORDPAGES_H
@@ -9,15 +9,15 @@
 
 namespace AnimText {
 
-/** What stands in a line, in the order of reading. */
+/** A piece of a line, in reading order. */
 struct LinePiece
 {
     int width = 0;         ///< pixels
-    bool isBlank = false;  ///< a space, which is not seen where a page is turned
-    bool mayBegin = false; ///< a page may begin with it without tearing a word
+    bool isBlank = false;  ///< a space, which is hidden at a page break
+    bool mayBegin = false; ///< a page may begin here without splitting a word
 };
 
-/** The pieces from @c begin to @c end; those from @c seen to @c seenEnd are seen. */
+/** The pieces from @c begin to @c end, of which those from @c seen to @c seenEnd are visible. */
 struct PageCut
 {
     int begin = 0;
@@ -27,10 +27,9 @@ struct PageCut
 };
 
 /**
- * Cuts @p line into pages no wider than @p width pixels, at the last place in each where a page may
- * end, or else between any two pieces. A piece that is wider gets a page of its own. Where a page
- * is turned at spaces they belong to the page before, or, when the pages are filled @p fromEnd, to
- * the page behind.
+ * Divides @p line into pages of at most @p width pixels: at the last possible word break of each,
+ * or else between any two pieces. A wider piece gets its own page. Spaces at a break belong to the
+ * page before it or, with pages filled @p fromEnd, to the page after it.
  */
 QVector<PageCut> CutPages(const QVector<LinePiece>& line, int width, bool fromEnd);
 

@@ -104,7 +104,7 @@ bool ApplyText(Controller* controller, const QString& name, const QString& value
                       QStringLiteral("source-name"), QStringLiteral("interface")};
     for (const auto& known : numbers)
         names.append(QLatin1String(known.name));
-    return Fail(error, QStringLiteral("there is no setting \"%1\"; expected a layout or %2%3")
+    return Fail(error, QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
                            .arg(name, names.join(QStringLiteral(", ")), DidYouMean(name, names)));
 }
 
@@ -215,9 +215,10 @@ bool FitToDisplay(Controller* controller, QSize display, QString* error)
     if (controller->protocol == Protocol::Ddp)
         return true;
     if (controller->channel > 510)
-        return Fail(error, place + QStringLiteral("channel is %1; expected 1 to 510, so that the "
-                                                  "first universe has room for a pixel")
-                                       .arg(controller->channel));
+        return Fail(
+            error,
+            place + QStringLiteral("channel is %1; expected 1 to 510, to leave room for one pixel")
+                        .arg(controller->channel));
     const auto& known = protocols[int(controller->protocol)];
     const qint64 last = qint64(controller->universe) + UniverseCount(*controller) - 1;
     return (controller->universe >= known.firstUniverse && last <= known.lastUniverse) ||

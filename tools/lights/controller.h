@@ -13,10 +13,10 @@ namespace AnimText {
 
 enum class Protocol { Ddp, E131, ArtNet };
 
-/** The way of the data line through a matrix, seen from the front. */
+/** How the data line runs through a matrix, seen from the front. */
 struct Wiring
 {
-    bool columns = false;    ///< LEDs follow one another along columns, not rows
+    bool columns = false;    ///< runs along columns instead of rows
     bool serpentine = false; ///< every second row or column runs backwards
     bool right = false;      ///< the first LED is on the right
     bool bottom = false;     ///< the first LED is at the bottom
@@ -26,31 +26,31 @@ struct Wiring
 /** One controller and the part of the display that it shows. */
 struct Controller
 {
-    QString address; ///< as it was given, for messages
+    QString address; ///< as given, for messages
     Protocol protocol = Protocol::Ddp;
     QString host; ///< empty: E1.31's multicast groups
     int port = 0;
-    QRect rect; ///< of the display, pixels; empty: all of it
+    QRect rect; ///< of the display, pixels; empty: the whole display
 
     Wiring wiring;
-    QString order = QStringLiteral("RGB"); ///< in which a pixel's three channels are sent
+    QString order = QStringLiteral("RGB"); ///< of a pixel's three channels
     double gamma = 1;
     int brightness = 100; ///< percent
 
-    int universe = 1;     ///< the first one
-    int channel = 1;      ///< of the first universe or, with DDP, of all data; counted from 1
+    int universe = 1;     ///< the first universe
+    int channel = 1;      ///< the first one, in the first universe or, for DDP, in all data; from 1
     int priority = 100;   ///< E1.31: 0 to 200
-    int syncUniverse = 0; ///< E1.31: where synchronization is sent; 0: none
+    int syncUniverse = 0; ///< E1.31: for synchronization packets; 0: none
     QString source = QStringLiteral("Animated Text"); ///< E1.31: at most 63 bytes
-    int timeToLive = 1;                               ///< routers that multicast passes, and one
-    QString interface;      ///< the network interface that multicast leaves by; empty: the system's
-    bool broadcast = false; ///< whether the host may be a broadcast address
+    int timeToLive = 1;     ///< of multicast packets: 1 + number of routers
+    QString interface;      ///< for multicast; empty: the system's default
+    bool broadcast = false; ///< allow a broadcast address as host
 };
 
-/** Pixels that a universe holds: 512 channels, three a pixel. */
+/** Pixels per universe: 512 channels, three per pixel. */
 constexpr int universePixels = 170;
 
-/** The words that a layout is made of. */
+/** The words for layouts. */
 QStringList LayoutWords();
 
 /**
@@ -60,15 +60,15 @@ QStringList LayoutWords();
 bool ApplySetting(Controller* controller, const QString& setting, QString* error);
 
 /**
- * Reads PROTOCOL://HOST[:PORT][/[X,Y,]WIDTHxHEIGHT][,SETTING...]. What the address does not set
- * stays as it is in @p controller.
+ * Reads PROTOCOL://HOST[:PORT][/[X,Y,]WIDTHxHEIGHT][,SETTING...]. Other values of @p controller are
+ * unchanged. On failure returns false and sets @p error to one line.
  */
 bool ReadAddress(Controller* controller, const QString& address, QString* error);
 
-/** Gives a controller without a rectangle the whole display; false where it does not fit. */
+/** Sets an empty rectangle to the whole display; false, with an @p error, if it does not fit. */
 bool FitToDisplay(Controller* controller, QSize display, QString* error);
 
-/** How many universes the controller's pixels need; its rectangle must be known. */
+/** The number of universes for the controller's pixels; its rectangle must be set. */
 int UniverseCount(const Controller& controller);
 
 } // namespace AnimText

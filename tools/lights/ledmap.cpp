@@ -22,7 +22,7 @@ QVector<int> LedOrder(QSize size, const Wiring& wiring)
             x = matrix.width() - 1 - x;
         if (wiring.bottom)
             y = matrix.height() - 1 - y;
-        // From the matrix back to the picture that was turned.
+        // Rotates from the matrix back to the picture.
         switch (wiring.turns) {
         case 1: order.append(y + (height - 1 - x) * width); break;
         case 2: order.append(width - 1 - x + (height - 1 - y) * width); break;
@@ -54,7 +54,7 @@ LedMap::LedMap(const Controller& controller)
 
 QByteArray LedMap::Channels(const QImage& display) const
 {
-    // Premultiplied colors are those over black.
+    // Premultiplied colors are the colors over black.
     const QImage picture = display.copy(rect).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const auto* pixels = reinterpret_cast<const QRgb*>(picture.constBits());
     QByteArray channels(3 * order.size(), Qt::Uninitialized);

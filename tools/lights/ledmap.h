@@ -1,6 +1,6 @@
 /**
  * @file
- * From a picture to the channels of its LEDs.
+ * Converts a picture to LED channels.
  */
 #ifndef ANIMTEXT_LEDMAP_H
 #define ANIMTEXT_LEDMAP_H
@@ -14,20 +14,20 @@
 
 namespace AnimText {
 
-/** For each LED along the data line the pixel that it shows, as x + y * width. */
+/** The pixel of each LED along the data line, as x + y * width. */
 QVector<int> LedOrder(QSize size, const Wiring& wiring);
 
-/** What the values 0 to 255 become: brightness in percent × value to the power of gamma. */
+/** Channel levels for the values 0 to 255: brightness in percent × value to the power of gamma. */
 std::array<uchar, 256> Levels(double gamma, int brightness);
 
 /** The channels of one controller: layout, color order, gamma and brightness. */
 class LedMap
 {
 public:
-    /** The rectangle of @p controller must be known. */
+    /** The rectangle of @p controller must be set. */
     explicit LedMap(const Controller& controller);
 
-    /** Three bytes an LED, along the data line; black outside of @p display and under its alpha. */
+    /** Three bytes per LED along the data line; black outside @p display and behind its alpha. */
     QByteArray Channels(const QImage& display) const;
 
 private:

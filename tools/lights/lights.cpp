@@ -13,7 +13,7 @@ namespace AnimText {
 namespace {
 
 constexpr int timesBlack = 3;
-// Every other packet to a closed port succeeds: the refusal of one is an error of the next.
+// Every other packet to a closed port succeeds: a refusal is reported by the next send.
 constexpr int arrivedToBeBack = 30; // pictures, two seconds
 
 bool Refuse(QString* error, const QString& line)
@@ -50,12 +50,13 @@ bool LookUp(const Controller& controller, QHostAddress* host, QString* error)
                       place + QStringLiteral("is a multicast address; expected sacn://, which "
                                              "sends each universe to its own group"));
     if (IsBroadcast(*host) && !controller.broadcast)
-        return Refuse(error, place + QStringLiteral("is a broadcast address, which every device of "
-                                                    "the network receives; --broadcast allows it"));
+        return Refuse(error,
+                      place + QStringLiteral("is a broadcast address, which reaches every device "
+                                             "in the network; use --broadcast to allow it"));
     return true;
 }
 
-/** The first and the last of what a controller fills: bytes, or channels of all universes. */
+/** The first and the last byte (DDP) or channel, counted over all universes, of a controller. */
 QPair<qint64, qint64> Range(const Controller& controller)
 {
     const qint64 size = 3LL * controller.rect.width() * controller.rect.height();
@@ -118,9 +119,9 @@ std::unique_ptr<QUdpSocket> OpenSocket(const Controller& controller, const QHost
             return socket;
         }
     } else {
-        // Only a connected socket learns that nobody is there.
+        // Only a connected socket gets ICMP errors.
         socket->connectToHost(host, quint16(controller.port));
-        // Qt allows it to every socket.
+        // Qt enables broadcast on every socket.
         const int broadcast = controller.broadcast ? 1 : 0;
         if (socket->state() == QAbstractSocket::ConnectedState &&
             setsockopt(int(socket->socketDescriptor()), SOL_SOCKET, SO_BROADCAST, &broadcast,
@@ -143,7 +144,7 @@ Lights::~Lights()
     End();
 }
 
-/** Two controllers at one address must not fill the same channels. */
+/** Two controllers at one address must not use the same channels. */
 bool Lights::CheckOverlap(const Controller& controller, const QString& destination,
                           QString* error) const
 {
@@ -153,10 +154,11 @@ bool Lights::CheckOverlap(const Controller& controller, const QString& destinati
         if (output.destination == destination && mine.first <= other.second &&
             other.first <= mine.second)
             return Refuse(
-                error, controller.address +
-                           QStringLiteral(": fills channels that %1 also fills; expected another "
-                                          "host, universe or channel")
-                               .arg(output.controller.address));
+                error,
+                controller.address +
+                    QStringLiteral(
+                        ": uses the same channels as %1; choose another host, universe or channel")
+                        .arg(output.controller.address));
     }
     return true;
 }
@@ -240,11 +242,11 @@ void Lights::Send(Output* output, const QByteArray& channels, bool isLast)
     output->arrived = outcome == Sending::Done ? output->arrived + 1 : 0;
     if (outcome == Sending::Failed && !output->isGone) {
         output->isGone = true;
-        emit Reported(QStringLiteral("%1: %2; it is tried again with every picture")
+        emit Reported(QStringLiteral("%1: %2; retrying with every picture")
                           .arg(output->controller.address, why));
     } else if (output->isGone && output->arrived >= arrivedToBeBack) {
         output->isGone = false;
-        emit Reported(QStringLiteral("%1: can be reached again").arg(output->controller.address));
+        emit Reported(QStringLiteral("%1: reachable again").arg(output->controller.address));
     }
 }
 
@@ -258,7 +260,7 @@ void Lights::End()
         const bool terminates = output.controller.protocol == Protocol::E131;
         const QByteArray black(3 * output.controller.rect.width() * output.controller.rect.height(),
                                '\0');
-        // What comes with the end of a stream need not be shown, so black comes before it.
+        // Receivers may ignore the data of a packet that ends the stream, so black goes first.
         for (int i = 0; i < (terminates ? 2 : 1) * timesBlack; ++i)
             Send(&output, black, i >= timesBlack);
     }

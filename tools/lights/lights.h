@@ -23,25 +23,24 @@ namespace AnimText {
 
 enum class Sending { Done, Full, Failed };
 
-/** Hands a packet to the network without waiting; sets @p why where that fails. */
+/** Sends a packet without waiting; sets @p why on failure. */
 using Transmit = std::function<Sending(const Packet& packet, QString* why)>;
 
-/** The address of a name that was looked up, IPv4 first, which is all that most controllers have.
- */
+/** The first IPv4 address, since most controllers have only that, or else the first address. */
 QHostAddress PreferredAddress(const QHostInfo& found);
 
 /**
- * A socket for @p controller at @p host, or for multicast where that is null: it never waits, and
- * sends to broadcast addresses only where the controller allows that. Null, with one line in
- * @p error, when the system cannot give it.
+ * A socket for @p controller at @p host, or for multicast if @p host is null. It never blocks and
+ * sends to broadcast addresses only if the controller allows it. On failure returns null with one
+ * line in @p error.
  */
 std::unique_ptr<QUdpSocket> OpenSocket(const Controller& controller, const QHostAddress& host,
                                        QString* error);
 
 /**
- * The controllers that one display is shown on. Nothing here waits: where the system's buffer is
- * full, a controller misses the rest of a picture. One that cannot be reached is reported once and
- * gets every further picture. Ends dark unless told otherwise.
+ * Shows a display on controllers. Nothing here blocks: if the system's buffer is full, a controller
+ * misses the rest of a picture. An unreachable controller is reported once and still gets every
+ * picture. Turns the LEDs off at the end unless SetKeeps() is set.
  */
 class Lights : public QObject
 {
@@ -53,31 +52,30 @@ public:
     ~Lights() override;
 
     /**
-     * Looks the controller up, which may take as long as the system's name service does, and adds
-     * it. Sends nothing. On failure returns false, with one line in @p error.
+     * Resolves the host, which blocks as long as the system's name service does, and adds the
+     * controller. Sends nothing. On failure returns false with one line in @p error.
      */
     bool Add(Controller controller, QSize display, QString* error);
-    /** Adds a controller whose packets go to @p transmit; its rectangle must be known. */
+    /** Adds a controller whose packets go to @p transmit; its rectangle must be set. */
     void Add(const Controller& controller, const Transmit& transmit);
 
-    /** One line a controller: what it shows, and where its packets go. */
+    /** One line per controller: its part of the display and where its packets go. */
     QString Description() const;
 
-    /** Sends @p display to all; again every repeatTime until the next one, or controllers give up.
-     */
+    /** Sends @p display to all, and again every repeatTime, since controllers would time out. */
     void Show(const QImage& display);
     static constexpr int repeatTime = 800; ///< milliseconds; E1.31 wants 800 to 1000
 
-    /** Whether the last picture stays when this ends. */
+    /** Whether End() leaves the last picture on the LEDs. */
     void SetKeeps(bool keeps) { this->keeps = keeps; }
-    /** Sends black, several times, since packets get lost; shows nothing more. */
+    /** Sends black several times, since packets get lost. Show() does nothing afterwards. */
     void End();
 
-    /** One line: how many pictures were sent and dropped, all controllers together. */
+    /** One line: the pictures sent and dropped by all controllers. */
     QByteArray Report() const;
 
 signals:
-    /** A controller cannot be reached, or can be again; one line. */
+    /** One line: a controller is unreachable, or reachable again. */
     void Reported(const QString& line);
 
 private:
@@ -89,7 +87,7 @@ private:
         Transmit transmit;
         QString destination;
         bool isGone = false;
-        int arrived = 0; // pictures in a row since the last failure
+        int arrived = 0; // pictures since the last failure
     };
 
     void Send(Output* output, const QByteArray& channels, bool isLast);

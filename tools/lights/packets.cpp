@@ -9,13 +9,13 @@ namespace {
 
 constexpr int ddpData = 1440;        // bytes: 480 pixels, and the packet fits into Ethernet's 1500
 constexpr int ddpVersion = 0x40;     // version 1
-constexpr int ddpPush = 0x01;        // shows all that has come
+constexpr int ddpPush = 0x01;        // show the received data
 constexpr int ddpRgb = 0x0B;         // three colors of 8 bits
 constexpr int ddpDisplay = 1;        // the controller's standard output
 constexpr int artVersion = 14;       // of the protocol
 constexpr int streamTerminated = 64; // E1.31's option bit
 
-/** @p value in @p bytes bytes, the highest first. */
+/** @p value in @p bytes bytes, big-endian. */
 QByteArray Number(quint32 value, int bytes)
 {
     QByteArray number;
@@ -24,7 +24,7 @@ QByteArray Number(quint32 value, int bytes)
     return number;
 }
 
-/** A layer of E1.31: flags 7 and a length that counts itself stand before what is in it. */
+/** A layer of E1.31: flags 7 and the length, itself included, then the content. */
 QByteArray Layer(const QByteArray& content)
 {
     return Number(0x7000U | quint32(content.size() + 2), 2) + content;
@@ -36,7 +36,7 @@ QByteArray Root(quint32 vector, const QByteArray& component, const QByteArray& f
            Layer(Number(vector, 4) + component + framing);
 }
 
-/** Art-Net's operation codes have their low byte first. */
+/** Art-Net's operation codes are little-endian. */
 QByteArray ArtHead(int operation)
 {
     return QByteArray("Art-Net\0", 8) + char(operation & 0xFF) + char(operation >> 8) +
@@ -48,7 +48,7 @@ QByteArray ArtHead(int operation)
 PacketMaker::PacketMaker(const Controller& controller)
     : controller(controller)
 {
-    // The same after a restart, lest a receiver takes it for a second sender and merges the two.
+    // The same after a restart, or a receiver would merge this with the previous sender.
     static const QUuid space(QStringLiteral("{5f0d9d4e-6a43-4a4c-9c53-0d1f5b1a7e21}"));
     component = QUuid::createUuidV5(space, QSysInfo::machineUniqueId() + controller.source.toUtf8())
                     .toRfc4122();
@@ -69,7 +69,7 @@ QVector<Packet> PacketMaker::Ddp(const QByteArray& channels)
     for (int from = 0; from < channels.size(); from += ddpData) {
         const QByteArray data = channels.mid(from, ddpData);
         const bool push = from + ddpData >= channels.size();
-        sequence = sequence % 15 + 1; // 0 says that packets are not counted
+        sequence = sequence % 15 + 1; // 0 means that packets are not numbered
         packets.append({Number(quint32(ddpVersion | (push ? ddpPush : 0)), 1) +
                             Number(quint32(sequence), 1) + Number(ddpRgb, 1) +
                             Number(ddpDisplay, 1) +
@@ -80,7 +80,7 @@ QVector<Packet> PacketMaker::Ddp(const QByteArray& channels)
     return packets;
 }
 
-/** What each universe gets: whole pixels only, none of them in two universes. */
+/** The channels of each universe; no pixel is split between two. */
 QVector<QByteArray> PacketMaker::Universes(const QByteArray& channels) const
 {
     QVector<QByteArray> universes;
@@ -128,11 +128,11 @@ QVector<Packet> PacketMaker::E131(const QByteArray& channels, bool isLast)
 QVector<Packet> PacketMaker::ArtNet(const QByteArray& channels)
 {
     QVector<Packet> packets;
-    sequence = sequence % 255 + 1; // 0 says that packets are not counted
+    sequence = sequence % 255 + 1; // 0 means that packets are not numbered
     int universe = controller.universe;
     for (QByteArray data : Universes(channels)) {
         if (data.size() % 2 == 1)
-            data.append('\0'); // lengths are even
+            data.append('\0'); // lengths must be even
         packets.append({ArtHead(0x5000) + Number(quint32(sequence), 1) + Number(0, 1) +
                             Number(quint32(universe & 0xFF), 1) +
                             Number(quint32(universe >> 8), 1) + Number(quint32(data.size()), 2) +

@@ -17,18 +17,18 @@ namespace AnimText {
 struct Packet
 {
     QByteArray bytes;
-    QHostAddress group; ///< the multicast group that it goes to; null: the controller
+    QHostAddress group; ///< multicast group to send to; null: the controller
 };
 
-/** Makes the packets of one controller and counts their sequence. */
+/** Makes the packets for one controller, with sequence numbers. */
 class PacketMaker
 {
 public:
     explicit PacketMaker(const Controller& controller);
 
     /**
-     * The packets that show @p channels, the one that makes them visible last. With @p isLast,
-     * E1.31 also tells the controller that the stream ends.
+     * The packets for @p channels; the last one makes them visible. With @p isLast, E1.31 also ends
+     * the stream.
      */
     QVector<Packet> Picture(const QByteArray& channels, bool isLast = false);
 
@@ -40,7 +40,7 @@ private:
     QHostAddress Group(int universe) const;
 
     Controller controller;
-    QByteArray component; // E1.31: 16 bytes by which a receiver knows the sender again
+    QByteArray component; // E1.31: the sender's identifier, 16 bytes
     int sequence = 0;
 };
 

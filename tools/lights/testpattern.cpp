@@ -19,7 +19,7 @@ QRgb CornerColor(QSize size, int x, int y)
                   : (right ? qRgb(0, 255, 0) : qRgb(255, 0, 0));
 }
 
-/** The last pixel that is lit is red, so that the way of a row shows. */
+/** The last lit pixel is red, to show the direction. */
 QRgb OrderColor(QSize size, int x, int y, int tick)
 {
     const qint64 count = qint64(size.width()) * size.height();

@@ -1,6 +1,6 @@
 /**
  * @file
- * Pictures by which LEDs are wired right.
+ * Test patterns for setting up LEDs.
  */
 #ifndef ANIMTEXT_TESTPATTERN_H
 #define ANIMTEXT_TESTPATTERN_H

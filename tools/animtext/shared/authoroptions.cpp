@@ -18,17 +18,17 @@ namespace AnimText {
 
 namespace {
 
-constexpr int standardSize = 48; // pixels, of marked text
+constexpr int standardSize = 48; // pixels, of text with tags
 constexpr int largestSide = 16384;
-constexpr int longestTextFile = 1 << 20; // bytes of a file; its tags count too
-constexpr int most = 1000000;            // plays, holds and the like
+constexpr int longestTextFile = 1 << 20; // bytes, with tags
+constexpr int most = 1000000;            // limit of numbers without a natural one
 constexpr int lastDrawnNeon = 28;        // neon styles above show a picture
 
 QString ReadText(const CommandLine& line)
 {
     if (line.IsSet("text") == line.IsSet("text-file"))
         throw Misuse{line.IsSet("text")
-                         ? QStringLiteral("--text and --text-file exclude each other")
+                         ? QStringLiteral("--text and --text-file cannot be combined")
                          : QStringLiteral("expected --text TEXT or --text-file FILE")};
     if (line.IsSet("text"))
         return line.Value("text");
@@ -48,9 +48,9 @@ QString ReadText(const CommandLine& line)
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
     const QString text = QString::fromUtf8(bytes);
-    // What is not UTF-8 has become something else.
+    // Decoding replaces invalid bytes.
     if (text.toUtf8() != bytes)
-        throw Misuse{QStringLiteral("%1: expected UTF-8; the text has other bytes").arg(name)};
+        throw Misuse{QStringLiteral("%1: the text is not valid UTF-8").arg(name)};
     return text;
 }
 
@@ -61,7 +61,7 @@ QFont ReadFont(const CommandLine& line)
     if (!FindFamily(line.Value("font"), &family, &error)) {
         if (line.IsSet("font") || FontFamilies().isEmpty())
             throw Misuse{error};
-        family = QGuiApplication::font().family(); // the standard one is not installed here
+        family = QGuiApplication::font().family(); // the default one is not installed
     }
     QFont font(family);
     if (line.IsSet("size"))
@@ -72,7 +72,7 @@ QFont ReadFont(const CommandLine& line)
     return font;
 }
 
-/** Reads the text, with its marks, after the font, the color and the motion. */
+/** Reads the text and its tags. Needs the font, color and motion in @p options. */
 void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList* notes)
 {
     const QString words = ReadText(line);
@@ -101,15 +101,15 @@ void ReadPlacing(const CommandLine& line, AuthorOptions* options)
     if (line.IsSet("fit")) {
         options->fit = line.Choice("fit") == 0 ? Fit::Height : Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
-            throw Misuse{QStringLiteral("--fit needs --area and excludes --size")};
+            throw Misuse{QStringLiteral("--fit needs --area and cannot be combined with --size")};
         if (options->motion.IsScroll() && options->fit == Fit::Both)
-            throw Misuse{QStringLiteral("--fit both is for texts that stand; --scroll moves them")};
+            throw Misuse{
+                QStringLiteral("--fit both cannot be combined with --scroll; use --fit height")};
     }
     if (line.IsSet("align")) {
         options->align = Align(int(Align::Left) + line.Choice("align"));
         if (options->motion.IsSideways())
-            throw Misuse{QStringLiteral("--align is for texts that stand; this one scrolls "
-                                        "sideways")};
+            throw Misuse{QStringLiteral("--align cannot be combined with --scroll left or right")};
     }
     options->valign = VAlign(line.Choice("valign"));
     options->padding = line.Number("padding");
@@ -128,11 +128,11 @@ int ReadEffect(const QString& word)
 {
     if (const Motion* effect = FindEffect(word))
         return effect->number;
-    throw Misuse{QStringLiteral(
-                     "--effect takes a number from 0 to %1 or a name out of animtext effects, not "
-                     "\"%2\"%3")
-                     .arg(Effects().last().number)
-                     .arg(word, DidYouMeanOneOf(word, EffectNames()))};
+    throw Misuse{
+        QStringLiteral(
+            "--effect is \"%2\"; expected a number from 0 to %1 or a name from animtext effects%3")
+            .arg(Effects().last().number)
+            .arg(word, DidYouMeanOneOf(word, EffectNames()))};
 }
 
 void ReadMotion(const CommandLine& line, AuthorOptions* options)
@@ -142,23 +142,23 @@ void ReadMotion(const CommandLine& line, AuthorOptions* options)
         return;
     }
     if (line.IsSet("effect"))
-        throw Misuse{QStringLiteral("--effect and --scroll exclude each other")};
+        throw Misuse{QStringLiteral("--effect and --scroll cannot be combined")};
     const QString direction = line.Value("scroll");
     const Motion* scroll = FindScroll(direction);
     if (!scroll)
         throw Misuse{
-            QStringLiteral("--scroll takes %1, not \"%2\"%3")
+            QStringLiteral("--scroll is \"%2\"; expected %1%3")
                 .arg(OneOf(Directions()), direction, DidYouMeanOneOf(direction, Directions()))};
     options->motion = {Mode::Scroll, scroll->number};
 }
 
-/** The file that @p option names, as the scene will name it: seen from the scene's folder. */
+/** The file of @p option, relative to the scene's folder. */
 QString FileForScene(const CommandLine& line, const char* option)
 {
     const QString name = line.Value(option);
     const QFileInfo file(name);
     if (!file.isFile())
-        throw Misuse{QStringLiteral("--%1: there is no file %2").arg(QLatin1String(option), name)};
+        throw Misuse{QStringLiteral("--%1: %2 is not a file").arg(QLatin1String(option), name)};
     return QFileInfo(RealPath(line.Value("output")))
         .dir()
         .relativeFilePath(file.absoluteFilePath());
@@ -170,14 +170,14 @@ void ReadBackground(const CommandLine& line, AuthorOptions* options)
         options->dazzle = Dazzle(int(Dazzle::Plain) + line.Choice("dazzle"));
     if (line.IsSet("picture")) {
         if (!line.IsSet("dazzle"))
-            throw Misuse{QStringLiteral("--picture is for the dazzle background; add --dazzle")};
+            throw Misuse{QStringLiteral("--picture needs --dazzle")};
         options->picture = FileForScene(line, "picture");
     }
     if (line.IsSet("neon"))
         options->neon = line.Number("neon");
     if ((options->neon > lastDrawnNeon) != line.IsSet("neon-picture"))
-        throw Misuse{
-            QStringLiteral("--neon above %1 and --neon-picture go together").arg(lastDrawnNeon)};
+        throw Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
+                         .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
         options->neonPicture = FileForScene(line, "neon-picture");
 }
@@ -186,77 +186,81 @@ int ReadHold(const CommandLine& line)
 {
     int units = 0;
     if (!ToHoldUnits(line.Time("hold"), &units))
-        throw Misuse{QStringLiteral("--hold takes whole tenths of a second, not \"%1\"")
-                         .arg(line.Value("hold"))};
+        throw Misuse{
+            QStringLiteral("--hold is \"%1\"; expected whole tenths of a second, such as 2.5s")
+                .arg(line.Value("hold"))};
     return units;
 }
 
 } // namespace
 
-QVector<Option> WishOptions()
+QVector<Option> LayoutOptions()
 {
     const QStringList dazzles{QStringLiteral("plain"), QStringLiteral("linear"),
                               QStringLiteral("radial"), QStringLiteral("conical")};
     return {
-        Option::File("output", "SCENE.json", "The scene file to write.").Letter('o').Required(),
-        Option::Text("text", "TEXT", "The text; one line."),
+        Option::File("output", "SCENE.json", "Scene file to write.").Letter('o').Required(),
+        Option::Text("text", "TEXT", "Text to show, on one line."),
         Option::File("text-file", "FILE",
-                     "Takes the text from a UTF-8 file of at most 1 MiB, - for standard input."),
-        Option::Text("font", "FAMILY", "A font family or a font file.").Or("DejaVu Sans"),
+                     "Read the text from a UTF-8 file of up to 1 MiB; - is standard input."),
+        Option::Text("font", "FAMILY", "Font family or font file.").Or("DejaVu Sans"),
         Option::Number("size", smallestReadableSize, largestFontSize,
-                       "The font's size in pixels; as large as fits the area, or 48."),
-        Option::Flag("bold", "Bold letters."),
-        Option::Flag("italic", "Slanted letters."),
-        Option::Flag("underline", "A bar under the text."),
-        Option::Color("color", "The text's color, a name or #rrggbb.").Or("#ffa000"),
-        Option::Flag("markup",
-                     "The text has tags: <b>, <i>, <u>, <font face= size= color=>; or it is HTML "
-                     "out of an editor."),
-        Option::Flag("hollow", "Outlined letters."),
-        Option::Text("effect", "NAME|N", "The entrance effect (animtext effects lists them all).")
+                       "Font size in pixels. Default: fits the area, or 48."),
+        Option::Flag("bold", "Bold text."),
+        Option::Flag("italic", "Italic text."),
+        Option::Flag("underline", "Underlined text."),
+        Option::Color("color", "Text color: a name or #rrggbb.").Or("#ffa000"),
+        Option::Flag("markup", "Read tags in the text: <b>, <i>, <u> and <font face= size= "
+                               "color=>, or HTML from an editor."),
+        Option::Flag("hollow", "Draw only the outlines of letters."),
+        Option::Text("effect", "NAME|N",
+                     "Entrance effect, by its name or number in animtext effects.")
             .Or("4")
             .Offering(EffectNames()),
         Option::Text("scroll", "DIRECTION",
-                     "Scrolls left, right, up or down in place of an entrance.")
+                     "Scroll left, right, up or down instead of using an effect.")
             .Offering(Directions()),
-        Option::Number("speed", 0, 9, "0 slowest to 9 fastest.").Or("5"),
+        Option::Number("speed", 0, 9, "Speed, from 0 (slowest) to 9 (fastest).").Or("5"),
         Option::Time("hold", 1000, 0, most / 10, "TIME",
-                     "How long a page stands, as in 2s or 1500ms.")
+                     "How long to hold each page, such as 2s or 1500ms.")
             .Or("2s"),
-        Option::Number("plays", 1, most, "How many times the text is shown.").Or("1"),
+        Option::Number("plays", 1, most, "How many times to play the text.").Or("1"),
         Option::Size("area", largestSide,
-                     "The area's size in pixels; 512 wide and as high as the text."),
-        Option::Point("pos", "Where the area lies on the display.").Or("0,0"),
+                     "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
+        Option::Point("pos", "Position of the area on the display, in pixels.").Or("0,0"),
         Option::Choice("fit", "WHAT", {QStringLiteral("height"), QStringLiteral("both")},
-                       "As large as fits the area's height, or height and width on one page."),
-        Option::Choice("align", "WHERE",
-                       {QStringLiteral("left"), QStringLiteral("center"), QStringLiteral("right")},
-                       "Where each page's text stands; where its reading begins."),
+                       "Fit the text to the area: height, or both for height and width."),
+        Option::Choice(
+            "align", "WHERE",
+            {QStringLiteral("left"), QStringLiteral("center"), QStringLiteral("right")},
+            "Horizontal alignment: left, center or right. Default: the side where reading starts."),
         Option::Choice("valign", "WHERE",
                        {QStringLiteral("top"), QStringLiteral("middle"), QStringLiteral("bottom")},
-                       "Where the line stands between top and bottom.")
+                       "Vertical alignment: top, middle or bottom.")
             .Or("middle"),
-        Option::Number("padding", 0, largestSide, "Pixels that stay free at each side.").Or("0"),
-        Option::Flag("tear-words", "Pages end anywhere, not only where words end."),
-        Option::Size("display", largestSide, "The display's size in pixels; just what is needed."),
+        Option::Number("padding", 0, largestSide, "Free space on each side, in pixels.").Or("0"),
+        Option::Flag("tear-words", "Allow page breaks inside words."),
+        Option::Size("display", largestSide,
+                     "Size of the display in pixels. Default: the scene's, or just large enough "
+                     "for the area."),
         Option::Flag("no-alpha",
-                     "Layers of 24 bits with a color key, for devices without alpha blending."),
-        Option::Choice("dazzle", "KIND", dazzles,
-                       "A background of running colors: plain (also --dazzle alone), linear, "
-                       "radial or conical.")
+                     "Use 24-bit layers with a color key, for devices without alpha blending."),
+        Option::Choice(
+            "dazzle", "KIND", dazzles,
+            "Background of moving colors: plain, linear, radial or conical. Without KIND: plain.")
             .Alone("plain"),
-        Option::File("picture", "FILE", "A picture for the dazzle background."),
-        Option::Number("neon", 0, most, "A neon border; above 28 the pictures of --neon-picture."),
-        Option::File("neon-picture", "FILE", "An animated picture for the neon background."),
-        Option::Flag("append", "Adds the text to the scene that is there."),
+        Option::File("picture", "FILE", "Picture for the dazzle background."),
+        Option::Number("neon", 0, most, "Neon border style. Styles above 28 show --neon-picture."),
+        Option::File("neon-picture", "FILE", "Animated picture for neon styles above 28."),
+        Option::Flag("append", "Add the text to the scene instead of replacing the scene."),
         Option::Number("page", 1, most,
-                       "The page that it is added to; one more than there are makes a new one."),
+                       "Add the text to this page; one more than the last adds a page."),
         Option::Number(
             "in-area", 1, most,
-            "The area of that page that it is added to, and has its place and size from."),
+            "Add the text to this area of the page and use the area's position and size."),
         Option::Text("replace", "PLACE",
-                     "Puts it in the place of another text (animtext list numbers them)."),
-        Option::Flag("overwrite", "Makes it the only text of a scene that has several.")};
+                     "Replace this text, by its number in animtext list or its path."),
+        Option::Flag("overwrite", "Replace a scene that has several texts.")};
 }
 
 void ReadLook(const CommandLine& line, AuthorOptions* options)
@@ -267,7 +271,7 @@ void ReadLook(const CommandLine& line, AuthorOptions* options)
     options->hold = ReadHold(line);
 }
 
-AuthorOptions ReadWishes(const CommandLine& line, QStringList* notes)
+AuthorOptions ReadOptions(const CommandLine& line, QStringList* notes)
 {
     AuthorOptions options;
     ReadLook(line, &options);

@@ -1,6 +1,6 @@
 /**
  * @file
- * What an author asks for on the command line.
+ * The options of animtext author.
  */
 #ifndef ANIMTEXT_AUTHOROPTIONS_H
 #define ANIMTEXT_AUTHOROPTIONS_H
@@ -12,17 +12,16 @@
 
 namespace AnimText {
 
-/** The options of animtext author. */
-QVector<Option> WishOptions();
+QVector<Option> LayoutOptions();
 
-/** Reads the font, the color, whether letters are hollow and the hold; throws Misuse. */
+/** Reads font, color, hollow and hold; throws Misuse. */
 void ReadLook(const CommandLine& line, AuthorOptions* options);
 
 /**
- * Reads them all; throws Misuse when they do not go together.
- * @param notes takes a line on each change that the text needed
+ * Reads all options; throws Misuse if they cannot be combined.
+ * @param notes gets a line for each change that the text needed
  */
-AuthorOptions ReadWishes(const CommandLine& line, QStringList* notes);
+AuthorOptions ReadOptions(const CommandLine& line, QStringList* notes);
 
 } // namespace AnimText
 

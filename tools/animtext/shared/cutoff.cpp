@@ -17,16 +17,16 @@ namespace AnimText {
 namespace {
 
 constexpr qint64 longestPlay = 30 * 60 * 1000 / tickLength; // ticks
-constexpr qint64 mostPixels = 1000 * 1000 * 1000;           // that a play clears, in all its ticks
+constexpr qint64 mostPixels = 1000 * 1000 * 1000;           // cleared in all ticks of a play
 constexpr double mostCut = 0.05;                            // of the planned time
 constexpr int holdUnit = 100;                               // milliseconds
 constexpr int longestHold = 1000000;                        // hold units
 
-/** A play of one text, milliseconds. */
+/** Times of one play, milliseconds. */
 struct CutTimes
 {
     qint64 planned = 0;
-    qint64 real = -1; ///< -1: does not end, or not within the longest play
+    qint64 real = -1; ///< -1: not known to end
 
     qint64 Cut() const { return real - planned; }
     bool IsCut() const { return real >= 0 && double(Cut()) > mostCut * double(planned); }
@@ -42,7 +42,8 @@ public:
     {
         SceneNode plain = node;
         for (const char* background : {"CheckNeonBg", "CheckDazzle", "CheckPictureFills"})
-            plain.attributes.remove(QLatin1String(background)); // they take time, not times
+            plain.attributes.remove(
+                QLatin1String(background)); // they cost time to paint and do not change the play
         scene.pages = {ScenePage{{SceneArea{{plain}}}}};
         const qint64 pixels = qMax<qint64>(1, qint64(node.size.width()) * node.size.height());
         longest = int(qMin(longestPlay, mostPixels / pixels));
@@ -91,7 +92,7 @@ private:
     int longest = 0; // ticks
 };
 
-/** The nearest speed with which nothing to speak of is cut, or -1. */
+/** The nearest speed that avoids the cut, or -1. */
 int SpeedThatFits(Measurement* measurement)
 {
     const int own = measurement->Speed();
@@ -106,7 +107,7 @@ int SpeedThatFits(Measurement* measurement)
     return -1;
 }
 
-/** A hold with which nothing to speak of is cut, or -1: what is cut stays, the play grows. */
+/** A hold that makes the play so long that the cut is below the limit, or -1. */
 int HoldThatFits(Measurement* measurement, const CutTimes& now)
 {
     const int own = measurement->Hold();
@@ -144,12 +145,12 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
     const int speed = SpeedThatFits(&measurement);
     const int hold = speed < 0 ? HoldThatFits(&measurement, now) : -1;
     StopIfInterrupted();
-    const QString way = speed >= 0  ? QStringLiteral("speed %1 avoids that").arg(speed)
-                        : hold >= 0 ? QStringLiteral("no speed avoids that, a hold of %1s does")
-                                          .arg(double(hold) / 10, 0, 'f', 1)
-                                    : QStringLiteral("no speed avoids that; another effect does");
-    Warn(QStringLiteral("the sign does not show all of the text: %1 are planned, it needs %2, and "
-                        "the last %3 % are cut off; %4")
+    const QString way = speed >= 0 ? QStringLiteral("speed %1 avoids this").arg(speed)
+                        : hold >= 0
+                            ? QStringLiteral("no speed avoids this, but a hold of %1s does")
+                                  .arg(double(hold) / 10, 0, 'f', 1)
+                            : QStringLiteral("no speed or hold avoids this; use another effect");
+    Warn(QStringLiteral("the sign cuts off the last %3 % of this text: planned %1, needs %2; %4")
              .arg(InSeconds(now.planned), InSeconds(now.real))
              .arg(100.0 * double(now.Cut()) / double(now.real), 0, 'f', 0)
              .arg(way));

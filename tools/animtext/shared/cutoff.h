@@ -1,6 +1,6 @@
 /**
  * @file
- * What a sign does not show of a text because the host takes it away too early.
+ * Warns of texts that the host ends too early.
  */
 #ifndef ANIMTEXT_CUTOFF_H
 #define ANIMTEXT_CUTOFF_H
@@ -10,11 +10,10 @@
 namespace AnimText {
 
 /**
- * Warns when the time that the host plans for @p node of @p scene is over before its last page has
- * entered and more than 5 % of that time is missing; says which speed or hold would not. A last
- * page that stands for less than its hold is no reason: `animtext duration` shows that. Nothing is
- * said of plays beyond half an hour, or less for large areas, nor where the plugin or the node's
- * files are missing.
+ * Warns if the planned time of @p node is over before its last page has entered and is more than
+ * 5 % too short, and suggests a speed or a hold that avoids this. A last page that is held for less
+ * than its hold gives no warning. Plays longer than half an hour, or less for large areas, are not
+ * checked, nor nodes whose files are missing.
  */
 void WarnOfCut(const Scene& scene, const SceneNode& node);
 

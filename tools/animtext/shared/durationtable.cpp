@@ -15,8 +15,8 @@ constexpr int speeds[] = {0, 4, 5, 9};
 
 struct Times
 {
-    qint64 model = 0;
-    Simulation real;
+    qint64 planned = 0;
+    Simulation actual;
 };
 
 Scene OnlyFirst(const Scene& scene)
@@ -33,10 +33,10 @@ Times Measure(const Playing& playing, Scene scene, int effect, int speed)
     node.attributes[QStringLiteral("AnimationSpeed")] = speed;
     const std::unique_ptr<Player> player = playing.Load(scene);
     Times times;
-    times.model = player->Scenery().Node(0)->Duration();
+    times.planned = player->Scenery().Node(0)->Duration();
     QString error;
     const auto goOn = [](int) { return !Interrupted(); };
-    times.real = Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
+    times.actual = Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
     StopIfInterrupted();
     if (!error.isEmpty())
         throw Failure{BadInput, error};
@@ -48,8 +48,8 @@ QByteArray JsonLine(const Motion& effect, int speed, const Times& times)
     return Json::Object({{"effect", effect.number},
                          {"name", effect.name},
                          {"speed", speed},
-                         {"duration", times.model},
-                         {"simulated", ToJson(times.real)}})
+                         {"duration", times.planned},
+                         {"simulated", ToJson(times.actual)}})
                .Text() +
            '\n';
 }
@@ -59,17 +59,17 @@ QByteArray Cell(const Times& times)
     const auto seconds = [](qint64 ms) { return QByteArray::number(double(ms) / 1000, 'f', 1); };
     QByteArray real = "-";
     QByteArray difference;
-    if (times.real.finishedMs >= 0) {
-        real = seconds(times.real.finishedMs);
-        if (times.model > 0) {
-            const double ratio = double(times.real.finishedMs) / double(times.model) - 1;
+    if (times.actual.finishedMs >= 0) {
+        real = seconds(times.actual.finishedMs);
+        if (times.planned > 0) {
+            const double ratio = double(times.actual.finishedMs) / double(times.planned) - 1;
             const QByteArray percent = QByteArray::number(100 * ratio, 'f', 0);
             difference = (percent.startsWith('-') || percent == "0" ? "" : "+") + percent + '%';
             if (difference == "-0%")
                 difference = "0%";
         }
     }
-    return "  |" + seconds(times.model).rightJustified(9) + real.rightJustified(9) +
+    return "  |" + seconds(times.planned).rightJustified(9) + real.rightJustified(9) +
            difference.rightJustified(7);
 }
 
@@ -80,8 +80,8 @@ QByteArray Heading()
     for (int speed : speeds) {
         speedLine +=
             "  |" + ("speed " + QByteArray::number(speed)).rightJustified(9) + QByteArray(16, ' ');
-        columnLine += "  |" + QByteArray("model").rightJustified(9) +
-                      QByteArray("real").rightJustified(9) + QByteArray("diff").rightJustified(7);
+        columnLine += "  |" + QByteArray("planned").rightJustified(9) +
+                      QByteArray("actual").rightJustified(9) + QByteArray("diff").rightJustified(7);
     }
     return speedLine.trimmed().prepend(QByteArray(39 + 2, ' ')) + '\n' + columnLine + '\n';
 }
@@ -96,17 +96,16 @@ Json ToJson(const Simulation& simulation)
          {"finishedMs", simulation.finishedMs < 0 ? Json() : Json(simulation.finishedMs)}});
 }
 
-void TellDurationTable(const Playing& playing, const Scene& scene, bool json)
+void PrintDurationTable(const Playing& playing, const Scene& scene, bool json)
 {
     if (scene.Nodes().isEmpty())
         throw Failure{BadInput,
                       scene.path + QStringLiteral(": $.pages: expected at least one node")};
     const Silence silence;
     const Scene only = OnlyFirst(scene);
-    QByteArray text = json ? QByteArray()
-                           : "Seconds: what the host is told, what the play takes until it is "
-                             "finished, and the difference.\n\n" +
-                                 Heading();
+    QByteArray text =
+        json ? QByteArray()
+             : "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
     Progress progress(QStringLiteral("simulating"), Effects().size() * qint64(std::size(speeds)));
     WatchForInterruption();
     qint64 done = 0;

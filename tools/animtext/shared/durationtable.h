@@ -1,6 +1,6 @@
 /**
  * @file
- * The times of every entrance effect on one text, side by side.
+ * A table of the times of all entrance effects.
  */
 #ifndef ANIMTEXT_DURATIONTABLE_H
 #define ANIMTEXT_DURATIONTABLE_H
@@ -11,11 +11,10 @@
 
 namespace AnimText {
 
-/** The times of @p simulation as they are printed. */
 Json ToJson(const Simulation& simulation);
 
-/** Prints the table for the first node of @p scene, or throws Failure. */
-void TellDurationTable(const Playing& playing, const Scene& scene, bool json);
+/** Prints the table for the first node of @p scene; throws Failure. */
+void PrintDurationTable(const Playing& playing, const Scene& scene, bool json);
 
 } // namespace AnimText
 

@@ -12,7 +12,7 @@ namespace AnimText {
 
 namespace {
 
-/** The options that apply to every controller whose address does not say otherwise. */
+/** Options that set defaults for all controllers; an address overrides them. */
 const char* const settings[] = {"color-order", "gamma",    "brightness",
                                 "universe",    "priority", "sync-universe",
                                 "source-name", "ttl",      "interface"};
@@ -50,45 +50,44 @@ QVector<Controller> ReadControllers(const CommandLine& line)
 QVector<Option> LightOptions()
 {
     return {
-        Option::Text("to", "ADDRESS",
-                     "Shows the scene on an LED controller: ddp://HOST, sacn://HOST (E1.31; "
-                     "sacn:// alone for multicast) or artnet://HOST. May be repeated. "
-                     "ddp://HOST/64,0,64x32 shows that rectangle, X,Y,WIDTHxHEIGHT, of the "
-                     "display. Settings of this controller follow after commas: "
-                     "ddp://HOST/16x16,serpentine,color-order=GRB."),
-        Option::Text("layout", "WORDS",
-                     "How the LEDs are wired, with commas between the words: rows or columns, "
-                     "straight or serpentine, the corner of the first LED (top-left, top-right, "
-                     "bottom-left, bottom-right), rotate-90, rotate-180 or rotate-270. Default: "
-                     "rows,straight,top-left.")
+        Option::Text(
+            "to", "ADDRESS",
+            "Play on an LED controller: ddp://HOST, artnet://HOST, sacn://HOST for E1.31, or "
+            "sacn:// for E1.31 multicast. May be repeated. ddp://HOST/64,0,64x32 shows only that "
+            "part of the display (X,Y,WIDTHxHEIGHT). Settings for one controller follow after "
+            "commas: ddp://HOST/16x16,serpentine,color-order=GRB."),
+        Option::Text(
+            "layout", "WORDS",
+            "LED wiring, as words separated by commas: rows or columns; straight or serpentine; "
+            "the corner of the first LED (top-left, top-right, bottom-left or bottom-right); "
+            "rotate-90, rotate-180 or rotate-270. Default: rows,straight,top-left.")
             .Offering(LayoutWords()),
-        Option::Text("color-order", "ORDER",
-                     "The order in which an LED takes its colors, such as GRB. Default: RGB."),
+        Option::Text("color-order", "ORDER", "Order of color channels, such as GRB. Default: RGB."),
         Option::Fraction("gamma", 0.1, 10, "GAMMA",
-                         "Darkens middle levels as LEDs need it. Default: 1, off; 2.2 without a "
-                         "value.")
+                         "Gamma correction. Default: 1 (off). Without GAMMA: 2.2.")
             .Alone("2.2"),
-        Option::Number("brightness", 0, 100, "Brightness of the LEDs in percent. Default: 100."),
+        Option::Number("brightness", 0, 100, "LED brightness in percent. Default: 100."),
         Option::Number("universe", 0, 63999,
-                       "The first universe, of 170 pixels each; E1.31 and Art-Net. Default: 1."),
-        Option::Number("priority", 0, 200, "Priority of the source; E1.31. Default: 100."),
+                       "First universe, for E1.31 and Art-Net; each holds 170 pixels. Default: 1."),
+        Option::Number("priority", 0, 200, "Source priority, for E1.31. Default: 100."),
         Option::Number("sync-universe", 0, 63999,
-                       "The universe on which controllers are told to show a picture that is "
-                       "complete; E1.31. Default: 0, none."),
+                       "Universe for synchronization packets, for E1.31. Default: 0 (none)."),
         Option::Text("source-name", "NAME",
-                     "The name that receivers show; E1.31. Default: Animated Text."),
-        Option::Number("ttl", 1, 255,
-                       "How many networks multicast may reach: 1 is this one. Default: 1."),
+                     "Source name that receivers show, for E1.31. Default: Animated Text."),
+        Option::Number(
+            "ttl", 1, 255,
+            "How many networks multicast packets may reach; 1 is only the local one. Default: 1."),
         Option::Text("interface", "NAME",
-                     "The network interface for multicast, such as eth0. Default: the system's."),
-        Option::Flag("broadcast", "Allows hosts that are broadcast addresses."),
-        Option::Flag("keep", "Leaves the last picture on the LEDs. Without it they go dark."),
+                     "Network interface for multicast, such as eth0. Default: the system's."),
+        Option::Flag("broadcast", "Allow broadcast addresses."),
+        Option::Flag("keep",
+                     "Leave the last picture on the LEDs. Default: turn them off at the end."),
         Option::Text("test-pattern", "NAME",
-                     "Shows no scene but pictures for setting the LEDs up: corners, order, colors, "
-                     "levels, or all in turn.")
+                     "Show a test pattern instead of a scene: corners, order, colors or levels. "
+                     "Without NAME: all in turn.")
             .Alone("all")
             .Offering(TestPatterns()),
-        Option::Flag("window", "Shows the scene in a window as well, with --to.")};
+        Option::Flag("window", "Open a window too, with --to.")};
 }
 
 void CheckLightOptions(const CommandLine& line)
@@ -106,11 +105,11 @@ void CheckLightOptions(const CommandLine& line)
     if (!line.IsSet("test-pattern") && line.Arguments().isEmpty())
         throw Misuse{QStringLiteral("expected SCENE.json")};
     if (line.IsSet("test-pattern") && !line.Arguments().isEmpty())
-        throw Misuse{QStringLiteral("--test-pattern shows no scene, so %1 is one word too many")
+        throw Misuse{QStringLiteral("--test-pattern shows no scene; unexpected argument \"%1\"")
                          .arg(line.Arguments().first())};
     if (line.IsSet("test-pattern") && pattern != QLatin1String("all") &&
         !TestPatterns().contains(pattern))
-        throw Misuse{QStringLiteral("--test-pattern takes %1 or all, not \"%2\"")
+        throw Misuse{QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
                          .arg(TestPatterns().join(QStringLiteral(", ")), pattern)};
 }
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * The options that play has for LED controllers.
+ * Options of animtext play for LED controllers.
  */
 #ifndef ANIMTEXT_LIGHTOPTIONS_H
 #define ANIMTEXT_LIGHTOPTIONS_H
@@ -13,16 +13,16 @@ class Lights;
 
 QVector<Option> LightOptions();
 
-/** Throws Misuse where options are given without those that they need. */
+/** Throws Misuse if an option is set without another one that it needs. */
 void CheckLightOptions(const CommandLine& line);
 
 /**
- * Adds the controllers of --to, for a display of that size, and prints where their packets go.
- * Throws Failure where that is not possible; nothing has been sent then.
+ * Adds the controllers of --to and prints where their packets go. On an error, throws Failure
+ * before anything is sent.
  */
 void AddLights(const CommandLine& line, QSize display, Lights* lights);
 
-/** Plays the test pattern until the time is over or the program is to end. */
+/** Plays the test pattern until --seconds are over or a signal comes. */
 int PlayTestPattern(const CommandLine& line);
 
 } // namespace AnimText

@@ -10,25 +10,26 @@ namespace AnimText {
 QVector<Option> WithPlayOptions(QVector<Option> own)
 {
     return own + QVector<Option>{
-                     Option::File("plugin", "FILE",
-                                  "The plugin library, in place of the one beside this program."),
+                     Option::File(
+                         "plugin", "FILE",
+                         "Plugin library. Default: $ANIMATIONTEXT_PLUGIN, or the installed one."),
                      Option::Number("seed", 0, std::numeric_limits<int>::max(),
-                                    "What the random numbers of the trembling start from.")
+                                    "Seed for the tremble effect.")
                          .Or("1"),
                      Option::Flag("allow-missing-files",
-                                  "Plays on although a file that the scene names is missing.")};
+                                  "Play even if files that the scene names are missing.")};
 }
 
 QVector<Option> WithShowOptions(QVector<Option> own)
 {
     return WithPlayOptions(own) +
-           QVector<Option>{Option::Flag(
-               "force", "Plays a scene although it has errors that leave nothing to show.")};
+           QVector<Option>{
+               Option::Flag("force", "Play even if errors in the scene leave nothing to show.")};
 }
 
 namespace {
 
-/** Reads a scene as the options say; throws Failure when it cannot be read. */
+/** Reads a scene; throws Failure if it cannot be read. */
 Scene OpenScene(const CommandLine& line, const QString& path)
 {
     const MissingFiles missing =
@@ -40,8 +41,7 @@ Scene OpenScene(const CommandLine& line, const QString& path)
     return scene;
 }
 
-/** Reports @p findings about @p path; throws Failure for those of @p kinds, unless told to go on.
- */
+/** Prints @p findings about @p path; throws Failure for those of @p kinds unless --force is set. */
 void Judge(const CommandLine& line, const QString& path, const QList<Finding>& findings,
            const QList<Mistake>& kinds)
 {
@@ -51,8 +51,10 @@ void Judge(const CommandLine& line, const QString& path, const QList<Finding>& f
         isPlayed = isPlayed && !kinds.contains(finding.mistake);
     }
     if (!isPlayed && !line.IsSet("force") && !line.IsSet("allow-missing-files"))
-        throw Failure{BadInput,
-                      QStringLiteral("%1 is not played; --force plays it all the same").arg(path)};
+        throw Failure{
+            BadInput,
+            QStringLiteral("%1: not played because of these errors; use --force to play it anyway")
+                .arg(path)};
 }
 
 } // namespace
@@ -73,7 +75,7 @@ Scene OpenReadableScene(const CommandLine& line, const QString& path)
 
 Scene OpenPlayableScene(const CommandLine& line, const QString& path)
 {
-    // With these the display stays dark, or what it shows is not the scene.
+    // With these the display stays dark or does not show the scene.
     static const QList<Mistake> nothingToShow{Mistake::NodeType,      Mistake::AreaEmpty,
                                               Mistake::CanvasLarge,   Mistake::ModeUnknown,
                                               Mistake::EffectUnknown, Mistake::DirectionUnknown,

@@ -1,6 +1,6 @@
 /**
  * @file
- * The options and first steps that every command which plays a scene shares.
+ * Options and steps shared by the commands that play scenes.
  */
 #ifndef ANIMTEXT_PLAYOPTIONS_H
 #define ANIMTEXT_PLAYOPTIONS_H
@@ -13,32 +13,31 @@
 
 namespace AnimText {
 
-/** @p own and --plugin, --seed and --allow-missing-files. */
+/** Appends --plugin, --seed and --allow-missing-files to @p own. */
 QVector<Option> WithPlayOptions(QVector<Option> own);
 
-/** The same and --force, for the two functions below. */
+/** Also appends --force, for the two functions below. */
 QVector<Option> WithShowOptions(QVector<Option> own);
 
 /**
- * Reads a scene and its outlines. Throws Failure when these cannot be read, after it has said why,
- * unless --force or --allow-missing-files says to go on.
+ * Reads a scene. If its outlines cannot be read, prints why and throws Failure, unless --force or
+ * --allow-missing-files is set.
  */
 Scene OpenReadableScene(const CommandLine& line, const QString& path);
 
-/** The same for every error of validate that leaves nothing to show; reports the others, too. */
+/** The same for all errors that leave nothing to show. Prints other errors, too. */
 Scene OpenPlayableScene(const CommandLine& line, const QString& path);
 
-/** What a command plays with. */
+/** The plugin and the seed that a command plays with. */
 class Playing
 {
 public:
-    /** Loads the plugin that the options name; throws Failure when it cannot be loaded. */
+    /** Loads the plugin that the options name; throws Failure if it cannot be loaded. */
     explicit Playing(const CommandLine& line);
 
-    /** A player with @p scene loaded; throws Failure when that cannot be played. */
+    /** A player with @p scene loaded; throws Failure if it cannot be played. */
     std::unique_ptr<Player> Load(const Scene& scene) const;
     Lw::INodePlugin* Plugin() const { return plugin; }
-    /** What random numbers start from. */
     uint Seed() const { return seed; }
 
 private:

@@ -15,14 +15,14 @@ void SaveScene(const QString& path, const SceneChange& change)
     if (storing != Storing::Saved)
         throw Failure{storing == Storing::Refused ? BadInput : FailedRun, error};
     if (!doubt.isEmpty())
-        Warn(QStringLiteral("old data files are kept: ") + doubt);
+        Warn(QStringLiteral("kept old data files: ") + doubt);
 }
 
 QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change)
 {
     const QString path = line.Arguments().at(0);
     if (!QFileInfo::exists(path))
-        throw Failure{BadInput, path + QStringLiteral(": there is no such file")};
+        throw Failure{BadInput, path + QStringLiteral(": no such file")};
     WatchForInterruption();
     QPair<Scene, Place> changed;
     SaveScene(path, [&](Scene* scene, DataFiles*, QString* error) {

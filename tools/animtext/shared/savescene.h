@@ -1,6 +1,6 @@
 /**
  * @file
- * Changes of scene files, as the commands make them.
+ * Changes scene files.
  */
 #ifndef ANIMTEXT_SAVESCENE_H
 #define ANIMTEXT_SAVESCENE_H
@@ -12,15 +12,15 @@
 
 namespace AnimText {
 
-/** Changes the scene at @p path; throws Failure unless it was saved. @sa ChangeScene() */
+/** Calls ChangeScene(); throws Failure unless the scene was saved. */
 void SaveScene(const QString& path, const SceneChange& change);
 
-/** Changes one text; returns false with one line in @p error when it must not be saved. */
+/** Changes one text; returns false with one line in @p error to refuse. */
 using TextChange = std::function<bool(Scene* scene, const Place& place, QString* error)>;
 
 /**
- * Changes the text at the place that the second argument names, in the scene that the first names.
- * Throws Failure unless it was saved. @return the changed scene and the place
+ * Changes a text: the first argument of @p line is the scene, the second the place. Throws Failure
+ * unless the scene was saved. @return the changed scene and the place
  */
 QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change);
 
