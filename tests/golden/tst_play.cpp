@@ -1,45 +1,78 @@
-// What texts show, tick by tick, as the files beside this one tell it. With --update the files are
-// written anew; look at their difference before you keep it.
+// Plays the texts of the files beside this one and compares what they show, tick by tick. With
+// --update the files are written again; look at their difference before you keep it.
+//
+// "== TITLE: WORDS" begins a group of plays and holds what they have in common; "> WORDS # REMARK"
+// is one of them, whose words come first. The lines that follow are the outcome of all plays above
+// them, up to the outcome before. A group without ">" is one play.
 #include "script.h"
 
 #include <QDir>
 
 namespace {
 
-/** One play in a file: "== name", its scripts after "> ", and what is to be seen. */
-struct Scenario
+struct Play
 {
-    QString name, script;
-    QStringList expected;
+    QString line;   ///< "> WORDS # REMARK", or empty
+    QString script; ///< all of its words
+    QStringList outcome;
+};
+
+struct Group
+{
+    QString heading;
+    QList<Play> plays;
+};
+
+struct PlayFile
+{
+    QString path;
+    QStringList remarks; ///< above the first group
+    QList<Group> groups;
 };
 
 } // namespace
 
-Q_DECLARE_METATYPE(Scenario)
+Q_DECLARE_METATYPE(Play)
 
 namespace {
 
-QList<Scenario> Read(const QString& path)
+PlayFile Read(const QString& path)
 {
+    PlayFile content{path, {}, {}};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(path));
-    QList<Scenario> scenarios;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        if (line.startsWith("== "))
-            scenarios.append({line.mid(3), {}, {}});
-        else if (line.startsWith("> "))
-            scenarios.last().script += line.mid(2) + ' ';
-        else if (!line.isEmpty() && !line.startsWith('#'))
-            scenarios.last().expected.append(line);
+    int open = 0; // plays without their outcome, at the end of the group
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith('#')) {
+            content.remarks.append(line);
+        } else if (line.startsWith("==")) {
+            content.groups.append({line, {{"", line.section(": ", 1), {}}}});
+            open = 1;
+        } else if (line.startsWith('>')) {
+            Group& group = content.groups.last();
+            if (group.plays.first().line.isEmpty()) {
+                group.plays.clear();
+                open = 0;
+            }
+            if (!group.plays.isEmpty() && !group.plays.last().outcome.isEmpty())
+                open = 0;
+            group.plays.append(
+                {line, line.mid(2).section(" #", 0, 0) + ' ' + group.heading.section(": ", 1), {}});
+            ++open;
+        } else {
+            QList<Play>& plays = content.groups.last().plays;
+            for (int i = plays.size() - open; i < plays.size(); ++i)
+                plays[i].outcome.append(line);
+        }
     }
-    return scenarios;
+    return content;
 }
 
 /** Equal but for the last digit of what is no whole number: another processor rounds otherwise. */
 bool Same(const QString& actual, const QString& expected)
 {
-    static const QRegularExpression apart("[ ,;=\\[\\]]");
+    static const QRegularExpression apart("[ ,|]");
     const QStringList a = actual.split(apart), e = expected.split(apart);
     bool same = a.size() == e.size();
     for (int i = 0; same && i < a.size(); ++i)
@@ -48,11 +81,11 @@ bool Same(const QString& actual, const QString& expected)
     return same;
 }
 
-QStringList Files()
+QList<PlayFile> Files()
 {
-    QStringList files;
+    QList<PlayFile> files;
     for (const QString& name : QDir(GOLDEN_FOLDER).entryList({"*.play"}, QDir::Files, QDir::Name))
-        files.append(QDir(GOLDEN_FOLDER).filePath(name));
+        files.append(Read(QDir(GOLDEN_FOLDER).filePath(name)));
     return files;
 }
 
@@ -65,51 +98,49 @@ class TestPlay : public QObject
 private slots:
     void plays_data()
     {
-        QTest::addColumn<Scenario>("scenario");
-        for (const QString& path : Files())
-            for (const Scenario& scenario : Read(path))
-                QTest::newRow(qPrintable(QFileInfo(path).baseName() + ": " + scenario.name))
-                    << scenario;
+        QTest::addColumn<Play>("play");
+        for (const PlayFile& file : Files())
+            for (const Group& group : file.groups)
+                for (const Play& play : group.plays)
+                    QTest::newRow(qPrintable(QFileInfo(file.path).baseName() + ": " +
+                                             group.heading.mid(3).section(": ", 0, 0) +
+                                             play.line.mid(1)))
+                        << play;
     }
 
     void plays()
     {
-        QFETCH(Scenario, scenario);
-        const QStringList actual = Script(scenario.script).Lines();
-        for (int i = 0; i < qMax(actual.size(), scenario.expected.size()); ++i) {
-            const QString is = actual.value(i), expected = scenario.expected.value(i);
-            QVERIFY2(i < actual.size() && i < scenario.expected.size() && Same(is, expected),
-                     qPrintable(QString("\n> %1\nexpected %2\nactual   %3")
-                                    .arg(scenario.script, expected, is)));
+        QFETCH(Play, play);
+        const QStringList actual = Script(play.script).Lines();
+        for (int i = 0; i < qMax(actual.size(), play.outcome.size()); ++i) {
+            const QString is = actual.value(i), expected = play.outcome.value(i);
+            QVERIFY2(
+                i < actual.size() && i < play.outcome.size() && Same(is, expected),
+                qPrintable(
+                    QString("\n> %1\nexpected %2\nactual   %3").arg(play.script, expected, is)));
         }
     }
 };
 
-/** Writes what is seen now beneath every script. */
+/** Writes what is seen now below every play, or below several with the same outcome. */
 static void Update()
 {
-    for (const QString& path : Files()) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("cannot read %s", qPrintable(path));
-        QByteArray text;
-        QString script;
-        const auto play = [&] {
-            for (const QString& line : script.isEmpty() ? QStringList() : Script(script).Lines())
-                text += line.toUtf8() + '\n';
-            script.clear();
-        };
-        for (const QByteArray& line : file.readAll().split('\n')) {
-            if (line.startsWith("> "))
-                script += QString::fromUtf8(line.mid(2)) + ' ';
-            else if (line.startsWith("==") || line.startsWith('#'))
-                play();
-            if (line.startsWith("> ") || line.startsWith("==") || line.startsWith('#'))
-                text += (line.startsWith("==") && !text.isEmpty() ? "\n" : "") + line + '\n';
+    for (const PlayFile& file : Files()) {
+        QStringList text = file.remarks;
+        for (const Group& group : file.groups) {
+            text << "" << group.heading;
+            QStringList outcome;
+            for (const Play& play : group.plays) {
+                const QStringList now = Script(play.script).Lines();
+                if (now != outcome)
+                    text += outcome;
+                outcome = now;
+                if (!play.line.isEmpty())
+                    text += play.line;
+            }
+            text += outcome;
         }
-        play();
-        file.close();
-        WriteFile(path, text);
+        WriteFile(file.path, text.join('\n').toUtf8() + '\n');
     }
 }
 
