@@ -132,17 +132,8 @@ Options:
   $ animtext sheet one.json -o a.png --columns 51
   ! animtext: --columns is "51"; expected a whole number from 1 to 50 (see animtext help sheet)
   [2]
-  $ animtext soak --hours 8785
-  ! animtext: --hours is "8785"; expected a time with its unit, such as 24h or 90min, in hours from 0 to 8784 (see animtext help soak)
-  [2]
-  $ animtext soak --hours 8784.1h
-  ! animtext: --hours is "8784.1h"; expected a time with its unit, such as 24h or 90min, in hours from 0 to 8784 (see animtext help soak)
-  [2]
-  $ animtext soak --growth nan
-  ! animtext: --growth is "nan"; expected a number from 0 to 1000000 (see animtext help soak)
-  [2]
-  $ animtext soak --growth -1
-  ! animtext: --growth is "-1"; expected a number from 0 to 1000000 (see animtext help soak)
+  $ animtext play one.json --leds=nan
+  ! animtext: --leds is "nan"; expected a number from 1 to 4 (see animtext help play)
   [2]
 
 Files:
@@ -191,9 +182,6 @@ Standard output that cannot be written:
   $ animtext trace one.json -n 5000 >/dev/full
   ! animtext: cannot write to standard output: No space left on device
   [1]
-  $ animtext soak one.json --hours 0 >/dev/full
-  ! animtext: cannot write to standard output: No space left on device
-  [1]
   $ animtext sheet one.json -o - >/dev/full
   ! animtext: cannot write to standard output: No space left on device
   [1]
@@ -238,7 +226,7 @@ Completion:
   $ completes animtext author --dazzle r
   radial
   $ completes animtext s
-  set sheet soak schema
+  set sheet schema
   $ completes animtext trace --t
   --ticks
   $ completes animtext trace one

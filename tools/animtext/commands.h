@@ -22,7 +22,6 @@ Command RenderCommand();
 Command SchemaCommand();
 Command SetCommand();
 Command SheetCommand();
-Command SoakCommand();
 Command TidyCommand();
 Command TraceCommand();
 Command ValidateCommand();

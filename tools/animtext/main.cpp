@@ -79,11 +79,11 @@ const QVector<Command>& Commands()
             Complete,
             {"source <(animtext completion bash)", "animtext completion zsh >_animtext"},
             {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
-        commands = {AuthorCommand(),   ListCommand(),  SetCommand(),     RemoveCommand(),
-                    TidyCommand(),     PlayCommand(),  RenderCommand(),  SheetCommand(),
-                    GalleryCommand(),  TraceCommand(), CompareCommand(), DurationCommand(),
-                    ValidateCommand(), SoakCommand(),  SchemaCommand(),  EffectsCommand(),
-                    FontsCommand(),    completion};
+        commands = {AuthorCommand(),   ListCommand(),   SetCommand(),     RemoveCommand(),
+                    TidyCommand(),     PlayCommand(),   RenderCommand(),  SheetCommand(),
+                    GalleryCommand(),  TraceCommand(),  CompareCommand(), DurationCommand(),
+                    ValidateCommand(), SchemaCommand(), EffectsCommand(), FontsCommand(),
+                    completion};
         Command help{
             "help",
             "show help for a command",

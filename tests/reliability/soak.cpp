@@ -1,22 +1,28 @@
-#include "animtext/commands.h"
-#include "animtext/shared/playoptions.h"
-#include "animtext/soakmix.h"
+// Plays scenes in turn for hours of virtual time, half a minute each, and prints what is left of
+// it: sessions, layers and memory. Without a scene it plays every motion before every background,
+// at all speeds. Fails when something is left, when a call of the device was wrong, or when memory
+// grows after the first hour.
+//
+//     soak [--growth MIB] HOURS [SCENE.json...]
+//
+// --growth is how many mebibytes memory may grow; 0: not judged. Default: 1.
+#include "samples.h"
+#include "testsign.h"
+
 #include "cli/interruption.h"
+#include "cli/messages.h"
 #include "cli/progress.h"
+#include "player/player.h"
 
-#include "files/wholefile.h"
-
-#include <display.h>
-
+#include <QCommandLineParser>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <cmath>
-#include <memory>
+#include <cstdio>
 
 #include <unistd.h>
 
-namespace AnimText {
+using namespace AnimText;
 
 namespace {
 
@@ -42,14 +48,13 @@ QByteArray Mebibytes(qint64 kibibytes)
 class Soak
 {
 public:
-    Soak(const QVector<Scene>& scenes, double hours, const Playing& playing)
+    Soak(const QVector<Scene>& scenes, double hours)
         : scenes(scenes)
         , ticksWanted(qint64(std::ceil(hours * ticksPerHour)))
-        , playing(playing)
     {
     }
 
-    /** Until the time is over or somebody breaks it off. */
+    /** Until the time is over, or Ctrl+C. */
     void Run();
     QByteArray Table(double mostGrowth) const;
     bool IsSound(double mostGrowth) const;
@@ -63,7 +68,6 @@ private:
 
     QVector<Scene> scenes;
     qint64 ticksWanted;
-    Playing playing;
 
     qint64 turnsPlayed = 0;
     qint64 ticks = 0;
@@ -85,7 +89,7 @@ void Soak::Advance(Player* player, int count)
 /** As hosts do: a start, a look at the state now and then, a pause, a second start, a stop. */
 void Soak::PlayTurn(Player* player)
 {
-    player->Start(playing.Seed());
+    player->Start();
     Advance(player, turnTicks / 2);
     for (int pausing = 0; pausing < 2; ++pausing) {
         for (int node = 0; node < player->NodeCount(); ++node)
@@ -94,7 +98,7 @@ void Soak::PlayTurn(Player* player)
     }
     player->Picture();
     mostLayers = qMax(mostLayers, Torv::Accounts().liveLayers);
-    player->Start(playing.Seed());
+    player->Start();
     Advance(player, turnTicks - turnTicks / 2 - 2 * pauseTicks);
     player->Scenery().Stop();
 }
@@ -105,9 +109,11 @@ void Soak::Run()
     Progress progress(QStringLiteral("soaking, minutes"), ticksWanted * tickLength / 60000);
     while (ticks < ticksWanted && !Interrupted()) {
         {
-            const Scene& scene = scenes.at(int(turnsPlayed % scenes.size()));
-            const std::unique_ptr<Player> player = playing.Load(scene);
-            PlayTurn(player.get());
+            Player player(VirtualDispatcher::Current(), TestSign::Plugin());
+            QString error;
+            if (!player.Load(scenes.at(int(turnsPlayed % scenes.size())), &error))
+                qFatal("%s", qPrintable(error));
+            PlayTurn(&player);
         }
         ++turnsPlayed;
         accounts = Torv::Accounts();
@@ -153,54 +159,71 @@ bool Soak::IsSound(double mostGrowth) const
            accounts.Misuses() == 0 && !grows;
 }
 
-int SoakScenes(const CommandLine& line)
+/** A scene for every motion before every background, with and without alpha blending. */
+QVector<Scene> Mix(const QVector<const Sample*>& samples)
 {
     QVector<Scene> scenes;
-    for (const QString& path : line.Arguments())
-        scenes.append(OpenReadableScene(line, path));
-    WatchForInterruption(); // before there is a folder to leave behind
-    std::unique_ptr<QTemporaryDir> folder;
-    if (scenes.isEmpty()) {
-        QString error;
-        folder = std::make_unique<QTemporaryDir>(TemporaryName());
-        if (!IsMade(*folder, &error))
-            throw Failure{FailedRun, error};
-        scenes = SoakMix(
-            QDir(folder->path()), [] { return !Interrupted(); }, &error);
-        StopIfInterrupted();
-        if (scenes.isEmpty())
-            throw Failure{FailedRun, error};
+    for (int i = 0; i < BackgroundCount * motionCount; ++i) {
+        SceneNode node =
+            samples[i % samples.size()]->Node(i % motionCount, i / motionCount, i % 10);
+        node.neonEffect = i % 29;
+        node.hold = i % 4 * 10;
+        node.attributes[QStringLiteral("PlayTimes")] = 1 + i % 3;
+        node.attributes[QStringLiteral("Hollow")] = i % 5 == 0 ? 1 : 0;
+        Scene scene;
+        scene.display = node.size;
+        scene.alphaBlend = i % 2 == 0;
+        scene.pages = {ScenePage{{SceneArea{{node}}}}};
+        scenes.append(scene);
     }
-    Soak soak(scenes, line.Time("hours") / millisecondsPerHour, Playing(line));
-    soak.Run();
-    Print(soak.Table(line.Fraction("growth")));
-    StopIfInterrupted();
-    if (!soak.IsSound(line.Fraction("growth")))
-        throw Failure{FailedRun, QStringLiteral("the soak failed")};
-    return Done;
+    return scenes;
 }
 
 } // namespace
 
-Command SoakCommand()
+int main(int argc, char** argv)
 {
-    return {"soak",
-            "plays scenes for hours of virtual time and tells what is left of it",
-            "[SCENE.json...]",
-            0,
-            10000,
-            "Plays scenes in turn for hours of virtual time, half a minute each, and tells what "
-            "is left of it: sessions, layers and memory. Without a scene it plays every motion "
-            "before every background. The exit status is 1 when something is left, when a call "
-            "of the device was wrong, or when memory grows after the first hour.",
-            WithShowOptions(
-                {Option::Time("hours", int(millisecondsPerHour), 0, 24 * 366, "TIME",
-                              "How long in virtual time, as in 24h or 90min.")
-                     .Or("24h"),
-                 Option::Fraction("growth", 0, 1e6, "MIB",
-                                  "How much memory may grow after the first hour; 0: not judged.")
-                     .Or("1")}),
-            SoakScenes};
-}
+    InstallMessages();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setEventDispatcher(new CountingDispatcher);
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser line;
+    line.addOption(
+        {QStringLiteral("growth"), QString(), QStringLiteral("MIB"), QStringLiteral("1")});
+    line.process(application);
+    const QStringList words = line.positionalArguments();
+    bool isTime = false, isGrowth = false;
+    const double hours = words.value(0).toDouble(&isTime);
+    const double growth = line.value(QStringLiteral("growth")).toDouble(&isGrowth);
+    if (!isTime || !isGrowth || !(hours >= 0 && hours <= 24 * 366) || !(growth >= 0)) {
+        std::fputs("expected: soak [--growth MIB] HOURS [SCENE.json...]\n", stderr);
+        return 2;
+    }
 
-} // namespace AnimText
+    EndAtInterruption();
+    WatchForInterruption(); // before there are folders to leave behind
+    QVector<Scene> scenes;
+    for (const QString& path : words.mid(1)) {
+        QString error;
+        scenes.append(Scene());
+        if (!ReadScene(path, &scenes.last(), &error)) {
+            std::fprintf(stderr, "%s\n", qPrintable(error));
+            return 2;
+        }
+    }
+    // A text of one page, one of several, and one with characters that have no outline.
+    const QSize area(96, 24);
+    const Sample one(QStringLiteral("Hello"), area);
+    const Sample several(QStringLiteral("Platform 7 departs at noon"), area);
+    const Sample gaps(QStringLiteral("a b c"), area);
+    Soak soak(scenes.isEmpty() ? Mix({&one, &several, &gaps}) : scenes, hours);
+    soak.Run();
+    std::fputs(soak.Table(growth).constData(), stdout);
+    if (Interrupted())
+        return InterruptionStatus();
+    if (!soak.IsSound(growth)) {
+        std::fputs("The soak failed.\n", stderr);
+        return 1;
+    }
+    return 0;
+}
