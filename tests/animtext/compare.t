@@ -164,3 +164,83 @@ A recording that ends:
   $ rm -f log; run env LD_PRELOAD=$LIBRARIES/librecord.so animtext trace s.json -n 1 >trace; ls log
   ls: cannot access 'log': No such file or directory
   [2]
+
+A folder of scenes:
+
+  $ fresh
+  $ mkdir -p "Prüf 1/scenes"
+  $ animtext author --text ab --dazzle --effect 7 --area 64x32 -o "Prüf 1/scenes/Grün 1.json" >/dev/null
+  $ animtext compare --record --ticks 5 "Prüf 1"
+  Pr\xc3\xbcf 1/expected.txt: 1 scenes, 6 ticks (esc)
+  $ cp "Prüf 1/expected.txt" recorded
+  $ animtext compare "Prüf 1"
+      motion                               scenes  pictures    equal  first difference
+   7  BeforeAfterScalEffect                     1         6        6
+      all                                       1         6        6
+  
+  Ticks, sizes and states: equal in 1 of 1 scenes
+  Pictures: equal in 1 of 1 scenes
+  Backgrounds: equal in 1 of 1 scenes
+  $ with() { sed -E "$1" recorded >"Prüf 1/expected.txt"; animtext compare "Prüf 1" | sed 1d; return ${PIPESTATUS[0]}; }
+  $ with 's/( 3 1 64 32 )\w+/\1fedcba9876543210/'
+   7  BeforeAfterScalEffect                     1         6        5  Gr\xc3\xbcn 1, tick 3 (esc)
+      all                                       1         6        5
+  
+  Ticks, sizes and states: equal in 1 of 1 scenes
+  Pictures: equal in 0 of 1 scenes
+  Backgrounds: equal in 1 of 1 scenes
+  Pictures differ: Gr\xc3\xbcn 1 (esc)
+  [1]
+  $ with 's/( 3 1 64 32 )\w+/\1-/' | head -n 1 # not compared
+   7  BeforeAfterScalEffect                     1         5        5
+  $ with 's/( 3 .* 1 )\w+/\10123456789abcdef/'
+   7  BeforeAfterScalEffect                     1         6        6
+      all                                       1         6        6
+  
+  Ticks, sizes and states: equal in 1 of 1 scenes
+  Pictures: equal in 1 of 1 scenes
+  Backgrounds: equal in 0 of 1 scenes
+  Backgrounds differ: Gr\xc3\xbcn 1 (esc)
+  [1]
+  $ with 's/ \w{16}$//' # unknown backgrounds
+   7  BeforeAfterScalEffect                     1         6        6
+      all                                       1         6        6
+  
+  Ticks, sizes and states: equal in 1 of 1 scenes
+  Pictures: equal in 1 of 1 scenes
+  $ with 's/1 (\w+)$/0 \1/'
+   7  BeforeAfterScalEffect                     1         6        6
+      all                                       1         6        6
+  
+  Ticks, sizes and states: equal in 0 of 1 scenes
+  Pictures: equal in 1 of 1 scenes
+  Backgrounds: equal in 1 of 1 scenes
+  Ticks, sizes or states differ: Gr\xc3\xbcn 1 (esc)
+  [1]
+  $ with 's/ 64 / 65 /'
+   7  BeforeAfterScalEffect                     1         6        6
+      all                                       1         6        6
+  
+  Ticks, sizes and states: equal in 0 of 1 scenes
+  Pictures: equal in 1 of 1 scenes
+  Backgrounds: equal in 1 of 1 scenes
+  Ticks, sizes or states differ: Gr\xc3\xbcn 1 (esc)
+  [1]
+  $ with 's/ 3 1/ x 1/'
+  ! animtext: Pr\xc3\xbcf 1/expected.txt: line 4: expected scene, tick, 0 or 1, width, height, 16 digits of the SHA-1 or -, state (esc)
+  [2]
+  $ with s/Grün/Rot/
+  ! animtext: Pr\xc3\xbcf 1/scenes/Rot 1.json: expected a scene file, found no such file (esc)
+  [2]
+  $ animtext compare "Prüf 1/scenes"
+  ! animtext: Pr\xc3\xbcf 1/scenes/expected.txt: cannot be read: No such file or directory (esc)
+  [2]
+  $ rm Prüf*/scenes/*; animtext compare --record "Prüf 1"
+  ! animtext: Pr\xc3\xbcf 1/scenes: expected scenes, found none (esc)
+  [2]
+  $ animtext compare --record one.json two.json
+  ! animtext: --record is for a folder of scenes, the only word then (see animtext help compare)
+  [2]
+  $ animtext compare one.json
+  ! animtext: expected a folder, or what to compare one.json with (see animtext help compare)
+  [2]

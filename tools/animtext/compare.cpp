@@ -1,4 +1,5 @@
 #include "animtext/commands.h"
+#include "animtext/shared/comparefolder.h"
 #include "animtext/shared/playoptions.h"
 #include "cli/interruption.h"
 #include "compare/deskplay.h"
@@ -144,6 +145,16 @@ int Compare(const CommandLine& line)
 {
     const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Time("tolerance"));
     const QString first = line.Arguments().at(0);
+    if (line.Arguments().size() == 1) {
+        if (!QFileInfo(first).isDir())
+            throw Misuse{
+                QStringLiteral("expected a folder, or what to compare %1 with").arg(first)};
+        return CompareFolder(line, first);
+    }
+    for (const Option& option : FolderOptions())
+        if (line.IsSet(option.name))
+            throw Misuse{QStringLiteral("--%1 is for a folder of scenes, the only word then")
+                             .arg(QLatin1String(option.name))};
     const QString second = line.Arguments().at(1);
     if (!IsRecording(second)) {
         WatchForInterruption();
@@ -170,27 +181,36 @@ int Compare(const CommandLine& line)
 
 Command CompareCommand()
 {
-    return {"compare",
-            "find the first difference between a recording and a scene",
-            "RECORDING SCENE.json|RECORDING",
-            2,
-            2,
-            "Finds the first difference between a recording, made with librecord or animtext "
-            "trace, and what the plugin does with the scene on the desktop, or between two "
-            "recordings. Compares calls, their order, arguments, pictures and times. The exit "
-            "status is 1 if they differ. If the recording has the pixels of a picture that "
-            "differs, both pictures and their difference are saved.",
-            WithShowOptions(
-                {Option::Time("tolerance", 1000, 0, 1e6, "TIME",
-                              "Allowed difference of times, counted from a session's first call.")
-                     .Or("66ms"),
-                 Option::Flag("no-times", "Ignore times."),
-                 Option::File("output", "DIR",
-                              "Folder for pictures. Default: beside the first recording.")
-                     .Letter('o')}),
-            Compare,
-            {"animtext compare device.log sign.json --no-times -o differences",
-             "animtext compare device.log sign.trace --tolerance 100ms"}};
+    return {
+        "compare",
+        "find the first difference between a recording and a scene",
+        "RECORDING SCENE.json|RECORDING or FOLDER",
+        1,
+        2,
+        "Finds the first difference between a recording, made with librecord or animtext "
+        "trace, and what the plugin does with the scene on the desktop, or between two "
+        "recordings. Compares calls, their order, arguments, pictures and times. The exit "
+        "status is 1 if they differ. If the recording has the pixels of a picture that "
+        "differs, both pictures and their difference are saved. With a folder, plays the scenes "
+        "FOLDER/scenes/*.json or FOLDER/*.json and counts, motion by motion, how many pictures "
+        "are as in FOLDER/expected.txt. A line of that file is a tick: scene, tick, whether a "
+        "new picture was shown (0 or 1), its width and height, the first 16 digits of its SHA-1 "
+        "(-: not compared), the renderer's state and, if it is known, the start of the "
+        "background's SHA-1.",
+        WithShowOptions(
+            FolderOptions() +
+            QVector<Option>{
+                Option::Time("tolerance", 1000, 0, 1e6, "TIME",
+                             "Allowed difference of times, counted from a session's first call.")
+                    .Or("66ms"),
+                Option::Flag("no-times", "Ignore times."),
+                Option::File("output", "DIR",
+                             "Folder for pictures. Default: beside the first recording.")
+                    .Letter('o')}),
+        Compare,
+        {"animtext compare device.log sign.json --no-times -o differences",
+         "animtext compare device.log sign.trace --tolerance 100ms",
+         "animtext compare recorded-scenes"}};
 }
 
 } // namespace AnimText

@@ -1,68 +1,29 @@
 #include "animtext/commands.h"
 #include "animtext/shared/playoptions.h"
 #include "player/callline.h"
+#include "player/nodewatch.h"
 #include "scene/json.h"
 
 namespace AnimText {
 
 namespace {
 
-/** The last picture of a node's text layer. */
-struct Shown
-{
-    QSize size{0, 0};
-    QByteArray sha1;
-};
-
-class Trace
-{
-public:
-    explicit Trace(Player* player)
-        : player(player)
-        , shown(player->NodeCount())
-    {
-    }
-
-    QByteArray TickLines();
-
-private:
-    QByteArray Line(int node);
-
-    Player* player;
-    QVector<Shown> shown;
-};
-
-QByteArray Trace::Line(int node)
+QByteArray TickLine(Player* player, NodeWatch* watch, int node)
 {
     const int layer = player->Scenery().TextLayer(node);
-    if (player->Swapped(node) || player->Tick() == 0) {
-        const QImage picture = player->TextPicture(node);
-        shown[node] = {picture.size(), Sha1Of(picture)};
-    }
-    const QSize size = shown.at(node).size;
-    const QImage dazzle = player->DazzlePicture(node);
-    Json line = Json::Object({{"tick", player->Tick()},
+    const NodeTick now = watch->Look(node);
+    Json line = Json::Object({{"tick", now.tick},
                               {"ms", player->Time()},
                               {"node", node},
-                              {"swap", player->Swapped(node)},
+                              {"swap", now.swapped},
                               {"layer", layer < 0 ? 0 : layer},
-                              {"w", size.width()},
-                              {"h", size.height()},
-                              {"sha1", shown.at(node).sha1},
-                              {"state", player->State(node)}});
-    if (!dazzle.isNull())
-        line.Add("background", Sha1Of(dazzle));
+                              {"w", now.size.width()},
+                              {"h", now.size.height()},
+                              {"sha1", now.sha1},
+                              {"state", now.state}});
+    if (!now.background.isEmpty())
+        line.Add("background", now.background);
     return line.Text() + '\n';
-}
-
-QByteArray Trace::TickLines()
-{
-    QByteArray lines;
-    for (const Torv::CallRecord& call : player->Scenery().TakeCalls())
-        lines += CallLine(call) + '\n';
-    for (int node = 0; node < player->NodeCount(); ++node)
-        lines += Line(node);
-    return lines;
 }
 
 int TraceScene(const CommandLine& line)
@@ -74,9 +35,12 @@ int TraceScene(const CommandLine& line)
 
     player->Scenery().KeepCalls(line.IsSet("calls"));
     player->Start(playing.Seed());
-    Trace trace(player.get());
+    NodeWatch watch(player.get());
     for (;;) {
-        Print(trace.TickLines());
+        for (const Torv::CallRecord& call : player->Scenery().TakeCalls())
+            Print(CallLine(call) + '\n');
+        for (int node = 0; node < player->NodeCount(); ++node)
+            Print(TickLine(player.get(), &watch, node));
         if (player->Tick() == ticks)
             return Done;
         player->Advance();

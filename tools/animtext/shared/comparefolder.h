@@ -1,0 +1,20 @@
+/**
+ * @file
+ * The scenes of a folder against what was recorded of them.
+ */
+#ifndef ANIMTEXT_COMPAREFOLDER_H
+#define ANIMTEXT_COMPAREFOLDER_H
+
+#include "cli/commandline.h"
+
+namespace AnimText {
+
+/** The options of animtext compare that go with a folder. */
+QVector<Option> FolderOptions();
+
+/** Compares, or records. @return the exit status; throws Failure where a scene cannot be played */
+int CompareFolder(const CommandLine& line, const QString& folder);
+
+} // namespace AnimText
+
+#endif

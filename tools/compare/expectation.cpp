@@ -1,0 +1,169 @@
+#include "compare/expectation.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace AnimText {
+
+namespace {
+
+constexpr int digits = 16; // of a SHA-1
+
+bool SamePicture(const NodeTick& a, const NodeTick& b)
+{
+    return a.sha1.left(digits) == b.sha1.left(digits);
+}
+
+/** All of it but the pictures. */
+bool SamePlay(const Ticks& a, const Ticks& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const NodeTick& x, const NodeTick& y) {
+                          return x.tick == y.tick && x.swapped == y.swapped && x.size == y.size &&
+                                 x.state == y.state;
+                      });
+}
+
+} // namespace
+
+bool ReadExpectation(const QString& path, Expectation* expectation, QString* error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
+        return false;
+    }
+    static const QRegularExpression form(QStringLiteral(
+        "\\A(.*) (\\d+) ([01]) (\\d+) (\\d+) (-|[0-9a-f]{16}) ([012])(?: ([0-9a-f]{16}))?\\n?\\z"));
+    for (int number = 1; !file.atEnd(); ++number) {
+        const QRegularExpressionMatch line = form.match(QString::fromUtf8(file.readLine()));
+        if (!line.hasMatch()) {
+            *error = QStringLiteral("%1: line %2: expected scene, tick, 0 or 1, width, height, %3 "
+                                    "digits of the SHA-1 or -, state")
+                         .arg(path)
+                         .arg(number)
+                         .arg(digits);
+            return false;
+        }
+        const QByteArray sha1 = line.captured(6).toLatin1();
+        (*expectation)[line.captured(1)].append(
+            {line.captured(2).toInt(), line.captured(3) == QLatin1String("1"),
+             QSize(line.captured(4).toInt(), line.captured(5).toInt()),
+             sha1 == "-" ? QByteArray() : sha1, line.captured(7).toInt(),
+             line.captured(8).toLatin1()});
+    }
+    return true;
+}
+
+QByteArray ExpectationText(const Expectation& expectation)
+{
+    QByteArray text;
+    for (auto scene = expectation.begin(); scene != expectation.end(); ++scene)
+        for (const NodeTick& tick : *scene) {
+            QByteArrayList words{scene.key().toUtf8(),
+                                 QByteArray::number(tick.tick),
+                                 tick.swapped ? "1" : "0",
+                                 QByteArray::number(tick.size.width()),
+                                 QByteArray::number(tick.size.height()),
+                                 tick.sha1.isEmpty() ? "-" : tick.sha1.left(digits),
+                                 QByteArray::number(tick.state)};
+            if (!tick.background.isEmpty())
+                words.append(tick.background.left(digits));
+            text += words.join(' ') + '\n';
+        }
+    return text;
+}
+
+void Tally::Add(const QString& scene, const NodeMotion& motion, const Ticks& expected,
+                const Ticks& shown)
+{
+    Row added;
+    bool knowsBackground = false, sameBackground = true;
+    for (int i = 0; i < expected.size(); ++i) {
+        const NodeTick& was = expected[i];
+        const NodeTick now = shown.value(i);
+        if (!was.background.isEmpty()) {
+            knowsBackground = true;
+            sameBackground = sameBackground && now.background.left(digits) == was.background;
+        }
+        if (!was.swapped || was.sha1.isEmpty())
+            continue;
+        ++added.pictures;
+        if (SamePicture(was, now))
+            ++added.equal;
+        else if (added.firstDifference.isEmpty())
+            added.firstDifference = QStringLiteral("%1, tick %2").arg(scene).arg(was.tick);
+    }
+    Row& ofMotion = rows[{motion.mode, motion.number}];
+    ofMotion.motion = QLatin1String(motion.Row() ? motion.Row()->name : "no motion");
+    for (Row* row : {&ofMotion, &all}) {
+        ++row->scenes;
+        row->pictures += added.pictures;
+        row->equal += added.equal;
+        if (row->firstDifference.isEmpty())
+            row->firstDifference = added.firstDifference;
+    }
+    withPictures += added.pictures > 0;
+    withBackground += knowsBackground;
+    if (!SamePlay(expected, shown))
+        ticksDiffer.append(scene);
+    if (added.equal < added.pictures)
+        picturesDiffer.append(scene);
+    if (!sameBackground)
+        backgroundsDiffer.append(scene);
+}
+
+bool Tally::IsEqual() const
+{
+    return ticksDiffer.isEmpty() && picturesDiffer.isEmpty() && backgroundsDiffer.isEmpty();
+}
+
+QByteArray Tally::Table() const
+{
+    QString table;
+    const auto add = [&table](const QString& number, const QString& motion, const QString& scenes,
+                              const QString& pictures, const QString& equal, const QString& last) {
+        table += QStringLiteral("%1  %2%3%4%5%6\n")
+                     .arg(number, 2)
+                     .arg(motion, -36)
+                     .arg(scenes, 7)
+                     .arg(pictures, 10)
+                     .arg(equal, 9)
+                     .arg(last.isEmpty() ? last : QStringLiteral("  ") + last);
+    };
+    const auto addRow = [&add](const QString& number, const Row& row) {
+        add(number, row.motion, QString::number(row.scenes), QString::number(row.pictures),
+            QString::number(row.equal), row.firstDifference);
+    };
+    add(QString(), QStringLiteral("motion"), QStringLiteral("scenes"), QStringLiteral("pictures"),
+        QStringLiteral("equal"), QStringLiteral("first difference"));
+    for (auto row = rows.begin(); row != rows.end(); ++row)
+        addRow(QString::number(row.key().second), *row);
+    Row sum = all;
+    sum.motion = QStringLiteral("all");
+    sum.firstDifference.clear();
+    addRow(QString(), sum);
+
+    const auto equal = [&table](const char* what, int scenes, const QStringList& differ) {
+        table += QStringLiteral("%1: equal in %2 of %3 scenes\n")
+                     .arg(QLatin1String(what))
+                     .arg(scenes - differ.size())
+                     .arg(scenes);
+    };
+    table += QLatin1Char('\n');
+    equal("Ticks, sizes and states", all.scenes, ticksDiffer);
+    equal("Pictures", withPictures, picturesDiffer);
+    if (withBackground > 0)
+        equal("Backgrounds", withBackground, backgroundsDiffer);
+    const auto differ = [&table](const char* what, const QStringList& scenes) {
+        if (!scenes.isEmpty())
+            table += QStringLiteral("%1 differ: %2\n")
+                         .arg(QLatin1String(what), scenes.join(QStringLiteral(", ")));
+    };
+    differ("Ticks, sizes or states", ticksDiffer);
+    differ("Pictures", picturesDiffer);
+    differ("Backgrounds", backgroundsDiffer);
+    return table.toUtf8();
+}
+
+} // namespace AnimText
