@@ -6,6 +6,7 @@
 #include "studio/window/shell/mainwindow.h"
 #include "studio/window/shell/newdialog.h"
 
+#include "photograph.h"
 #include "testfolder.h"
 
 #include <QAccessible>
@@ -53,7 +54,6 @@ private:
     }
 
 private slots:
-    void initTestCase();
     void init();
     void cleanup() { window.reset(); }
     void writesChoosesScrubsUndoesSaves();
@@ -87,14 +87,6 @@ private slots:
     void showsCallsFaultsAndComparison();
     void holdsThreeHundredTexts();
 };
-
-void TestWindow::initTestCase()
-{
-    QStandardPaths::setTestModeEnabled(true);
-    QCoreApplication::setApplicationName("animtext-studio-test");
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.Path("settings"));
-    WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
-}
 
 void TestWindow::init()
 {
@@ -1042,5 +1034,20 @@ void TestWindow::closesWhileItPaints()
     }
 }
 
-QTEST_MAIN(TestWindow)
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setApplicationName("animtext-studio-test");
+    const TestFolder settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.Path("settings"));
+    WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
+    const QStringList words = QCoreApplication::arguments();
+    if (words.value(1) == "--photograph")
+        return Photograph(words.mid(2));
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // as QTEST_MAIN does
+    TestWindow test;
+    return QTest::qExec(&test, words);
+}
+
 #include "tst_window.moc"

@@ -1,15 +1,13 @@
-// Takes the studio's screenshots for the documents: photograph-studio FOLDER [--dark | --german]
+#include "photograph.h"
+
 #include "studio/window/basics/translating.h"
 #include "studio/window/display/ledsdialog.h"
 #include "studio/window/shell/mainwindow.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
-#include <QSettings>
-#include <QStandardPaths>
 #include <QStyleFactory>
-#include <QTemporaryDir>
+#include <QTest>
 
 #include <cstdio>
 
@@ -19,16 +17,6 @@ namespace {
 
 constexpr int patience = 120000; // milliseconds
 const QColor orange(255, 160, 0);
-
-template <typename Condition>
-bool WaitFor(const Condition& isTrue)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!isTrue() && clock.elapsed() < patience)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return isTrue();
-}
 
 QPalette Dark()
 {
@@ -108,10 +96,10 @@ public:
             return window.GetDocument()->Current().IsLaidOut() && rehearsal->IsCurrent() &&
                    rehearsal->IsMeasured();
         };
-        if (!WaitFor(isShown))
+        if (!QTest::qWaitFor(isShown, patience))
             return false;
         window.GetPlayback()->Seek(tick);
-        return WaitFor([&] { return isShown() && AreMotionsThere(); });
+        return QTest::qWaitFor([&] { return isShown() && AreMotionsThere(); }, patience);
     }
 
     bool Photograph(const QString& name)
@@ -143,28 +131,19 @@ private:
 
 } // namespace
 
-int main(int argc, char** argv)
+int Photograph(const QStringList& words)
 {
-    const bool dark = argc == 3 && qstrcmp(argv[2], "--dark") == 0;
-    const bool german = argc == 3 && qstrcmp(argv[2], "--german") == 0;
-    if (argc != 2 && !dark && !german) {
-        std::fputs("photograph-studio FOLDER [--dark | --german]\n", stderr);
+    const QString folder = words.value(0), look = words.value(1);
+    const bool dark = look == QLatin1String("--dark");
+    const bool german = look == QLatin1String("--german");
+    if (folder.isEmpty() || words.size() > 2 || (words.size() == 2 && !dark && !german)) {
+        std::fputs("tst_window --photograph FOLDER [--dark | --german]\n", stderr);
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int ownName = 1;
-    QApplication application(ownName, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     if (dark)
         QApplication::setPalette(Dark());
-    QStandardPaths::setTestModeEnabled(true);
-    QCoreApplication::setApplicationName(QStringLiteral("animtext-studio-photographs"));
-    const QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    WorkerLink::SetProgram(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/animtext-studio"));
-    const QString folder = QString::fromLocal8Bit(argv[1]);
 
     SignText thrice = Text(QStringLiteral("Gleis 7"), {0, 0, 320, 64}, 52, false, 4, 5);
     thrice.node.hold = 5;
@@ -191,6 +170,6 @@ int main(int argc, char** argv)
     all =
         all && dialog.grab().save(QDir(folder).filePath(QStringLiteral("studio-leds-dialog.png")));
     if (!all)
-        std::fputs("photograph-studio: could not take the screenshots\n", stderr);
+        std::fputs("tst_window: could not take the screenshots\n", stderr);
     return all ? 0 : 1;
 }
