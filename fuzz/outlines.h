@@ -5,7 +5,7 @@
 #ifndef FUZZ_OUTLINES_H
 #define FUZZ_OUTLINES_H
 
-#include "support/serialised.h"
+#include "support/serialized.h"
 #include "text/glyphdata.h"
 #include "text/limits.h"
 
@@ -39,8 +39,8 @@ inline void CheckOutlines(const QVector<QPainterPath>& outlines)
         }
     }
     // Sound data comes through as it is: written again it reads the same.
-    const QByteArray written = Serialised(outlines);
-    if (Serialised(OutlinesFrom(written)) != written)
+    const QByteArray written = Serialized(outlines);
+    if (Serialized(OutlinesFrom(written)) != written)
         std::abort();
 }
 

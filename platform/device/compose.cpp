@@ -54,14 +54,14 @@ void BlendRow32(QRgb* destination, const char* source, qint64 pixels)
         destination[i] = Over(row[i], destination[i]);
 }
 
-void BlendRow24(QRgb* destination, const char* source, qint64 pixels, unsigned int colourKey,
+void BlendRow24(QRgb* destination, const char* source, qint64 pixels, unsigned int colorKey,
                 bool isBlackTransparent)
 {
     const uchar* from = reinterpret_cast<const uchar*>(source);
     for (qint64 i = 0; i < pixels; ++i, from += 3) {
-        const unsigned int colour = unsigned(from[0]) << 16 | unsigned(from[1]) << 8 | from[2];
-        if (colour != colourKey && (colour != 0 || !isBlackTransparent))
-            destination[i] = 0xFF000000 | colour;
+        const unsigned int color = unsigned(from[0]) << 16 | unsigned(from[1]) << 8 | from[2];
+        if (color != colorKey && (color != 0 || !isBlackTransparent))
+            destination[i] = 0xFF000000 | color;
     }
 }
 
@@ -122,7 +122,7 @@ private:
             if (session.BytesPerPixel() == 4)
                 BlendRow32(to, from, pixels);
             else
-                BlendRow24(to, from, pixels, layer.colourKey, isAboveLowest);
+                BlendRow24(to, from, pixels, layer.colorKey, isAboveLowest);
         }
     }
 

@@ -33,7 +33,7 @@ struct Layer
     int width;
     int height;
     int bytesPerLine;
-    unsigned int colourKey; ///< 0xRRGGBB
+    unsigned int colorKey; ///< 0xRRGGBB
     int blend;
     int front;
     qint64 swaps;

@@ -12,13 +12,13 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-const int tickInterval = 66;    // ms from one picture to the next
-const int writeMode = 5;        // of GetPicImageLayerPtr()
-const int sessionFlags = 16;    // of CreatePictureSession()
-const int alphaSession = 3;     // session type: 32 bits a pixel, blended by alpha
-const int keySession = 5;       // session type: 24 bits a pixel, blended by color key
-const int colourKey = 0x010201; // 0xRRGGBB
-const int scrollsLeft = 26;     // effect codes
+const int tickInterval = 66;   // ms from one picture to the next
+const int writeMode = 5;       // of GetPicImageLayerPtr()
+const int sessionFlags = 16;   // of CreatePictureSession()
+const int alphaSession = 3;    // session type: 32 bits a pixel, blended by alpha
+const int keySession = 5;      // session type: 24 bits a pixel, blended by color key
+const int colorKey = 0x010201; // 0xRRGGBB
+const int scrollsLeft = 26;    // effect codes
 const int scrollsRight = 27;
 const unsigned int opaqueWord = 0xFF000000u; // above the key in an alpha session's pixel word
 

@@ -10,15 +10,15 @@ void animationRealization::EffectTextZoom()
 {
     if (BeginFrame()) {
         const float s = float(std::fabs(std::sin(moveOffset / 30.0)));
-        const double centre = PageWidth() * 0.5;
+        const double center = PageWidth() * 0.5;
         Transform zoom;
-        zoom.translate(float(centre), float(ExactY(PageStart())));
+        zoom.translate(float(center), float(ExactY(PageStart())));
         zoom.scale(s, s);
         for (int j = PageStart(); j < PageEnd(); ++j) {
             // The frame is scaled again: glyphs grow with the square, their spacing does not.
             transform.reset();
             transform.scale(s, s);
-            AddShapedGlyph(j, float(RestX(j) - centre), 0);
+            AddShapedGlyph(j, float(RestX(j) - center), 0);
         }
         canvas.DrawText(textPath, zoom);
         ShowFrame();

@@ -97,7 +97,7 @@ animationRealization::animationRealization(QObject* parent)
     , dazzleLayerWrapped(false)
     , textColor(0)
 {
-    // Once round the colour circle, ending on the colour it began with.
+    // Once round the color circle, ending on the color it began with.
     for (int i = 0; i < 30; ++i)
         dazzleColors.append(QColor::fromHsv(12 * i, 207, 255, 255));
     dazzleColors.append(QColor::fromHsv(0, 207, 255, 255));
@@ -247,7 +247,7 @@ void animationRealization::Start()
     drawImage = NewCanvas(CountSize(true), imageFormat);
     stayImage = NewCanvas(areaSize, imageFormat);
     if (!drawImage.isNull())
-        drawImage.fill(HAppConfig::IntToColor(colourKey));
+        drawImage.fill(HAppConfig::IntToColor(colorKey));
     else if (!CountSize(true).isEmpty())
         qDebug() << "Text picture is too large, nothing is painted:" << CountSize(true);
     if (!stayImage.isNull())

@@ -1,4 +1,4 @@
-// The dazzle background: colours that travel behind the text, in a layer of their own. It shares
+// The dazzle background: colors that travel behind the text, in a layer of their own. It shares
 // nothing with the text's frame but the count of frames.
 #include "engine/animationrealization.h"
 
@@ -40,7 +40,7 @@ void animationRealization::WrapDazzleLayer()
     dazzle.Repaint();
 }
 
-/** The colour that leads now; each frame hands the lead to the next one. */
+/** The color that leads now; each frame hands the lead to the next one. */
 int animationRealization::LeadingColor()
 {
     // A line that scrolls sideways is painted only once and counts no frames.

@@ -40,7 +40,7 @@ void animationRealization::DrawPage(const Shape& shape)
 }
 
 /**
- * The page's characters whose turn has come, each a step behind its left neighbour: calls @p shape
+ * The page's characters whose turn has come, each a step behind its left neighbor: calls @p shape
  * with the character and its phase. The turn goes by position whatever the step, so with larger
  * steps some join before their phase is positive.
  */
@@ -110,11 +110,11 @@ inline double animationRealization::ExactY(int j) const
     return FrameHeight() * 0.5 + maxTextHeight * 0.5 - charDescents.value(j);
 }
 
-/** The x of character j in a page that is stretched about its centre. */
+/** The x of character j in a page that is stretched about its center. */
 inline double animationRealization::GatherX(int j, double stretch) const
 {
-    const double centre = PageWidth() * 0.5;
-    return centre + (RestX(j) - centre) * stretch;
+    const double center = PageWidth() * 0.5;
+    return center + (RestX(j) - center) * stretch;
 }
 
 } // namespace HNodeAnimationText

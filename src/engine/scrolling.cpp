@@ -123,7 +123,7 @@ void animationRealization::ContinueEffectUp()
             }
             k = k + 1 < n ? k + 1 : 0;
             // By the height of the character to come, not of the one just placed: unequal
-            // neighbours overlap or gap by the difference.
+            // neighbors overlap or gap by the difference.
             scrollOffset += charHeights.value(k);
             d = p - scrollOffset;
         }

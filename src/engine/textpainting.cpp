@@ -9,7 +9,7 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-/** Clears the picture: transparent, or black where the device blends by colour key. */
+/** Clears the picture: transparent, or black where the device blends by color key. */
 void animationRealization::DrawInit()
 {
     if (!drawImage.isNull())
@@ -18,8 +18,8 @@ void animationRealization::DrawInit()
 
 void animationRealization::SetPainterBrush(int)
 {
-    // The first character's colour serves for all. Gradient, stroke and picture fill belong to the
-    // dazzle background; the text keeps its plain colour.
+    // The first character's color serves for all. Gradient, stroke and picture fill belong to the
+    // dazzle background; the text keeps its plain color.
     textColor = (node ? node->GetTextColor(0) : QColor(255, 0, 0)).rgba();
     canvas.SetHollow(hollow == 1);
     canvas.SetTranslucent(qAlpha(textColor) < 255);

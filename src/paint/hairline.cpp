@@ -15,7 +15,7 @@ enum Cap { NoCap = 0, CapBegin = 1, CapEnd = 2 };
 
 bool AreOpposite(Direction a, Direction b)
 {
-    return (a ^ b) == 1; // neighbours in the enumeration
+    return (a ^ b) == 1; // neighbors in the enumeration
 }
 
 unsigned SwappedCaps(unsigned caps)

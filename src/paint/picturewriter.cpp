@@ -8,18 +8,18 @@ namespace HNodeAnimationText {
 
 PictureWriter::PictureWriter()
     : tableFormat(Picture::Argb32)
-    , tableColour(0)
+    , tableColor(0)
     , hasTable(false)
 {
 }
 
-void PictureWriter::SetColour(Picture::Format format, uint32_t argb)
+void PictureWriter::SetColor(Picture::Format format, uint32_t argb)
 {
-    if (hasTable && tableFormat == format && tableColour == argb)
+    if (hasTable && tableFormat == format && tableColor == argb)
         return;
     hasTable = true;
     tableFormat = format;
-    tableColour = argb;
+    tableColor = argb;
     unsigned char pixel[4] = {static_cast<unsigned char>(argb >> 16 & 255),
                               static_cast<unsigned char>(argb >> 8 & 255),
                               static_cast<unsigned char>(argb & 255), 0};
@@ -62,7 +62,7 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
 
 void PictureWriter::Write(const Plane& ink, uint32_t argb, const Picture& to)
 {
-    SetColour(to.format, argb);
+    SetColor(to.format, argb);
     const int inkWidth = std::min(to.width, ink.Width());
     const size_t bytes = static_cast<size_t>(to.width) * to.BytesPerPixel();
     // Rows that follow each other without a gap are cleared together, as many as stay in the cache.

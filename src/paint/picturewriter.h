@@ -8,7 +8,7 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /**
- * Writes planes to pictures: ink in a colour, everything else 0. The tables of one colour are made
+ * Writes planes to pictures: ink in a color, everything else 0. The tables of one color are made
  * when it is first used and kept.
  */
 class PictureWriter
@@ -26,12 +26,12 @@ private:
     static const int pixelsAtOnce = 8;
     static const int mostBytes = 4 * pixelsAtOnce;
 
-    void SetColour(Picture::Format format, uint32_t argb);
+    void SetColor(Picture::Format format, uint32_t argb);
     template <int bytesPerPixel>
     void WriteRow(const Plane& ink, int y, unsigned char* row, int width) const;
 
     Picture::Format tableFormat;
-    uint32_t tableColour;
+    uint32_t tableColor;
     bool hasTable;
     uint64_t table[256 * mostBytes / sizeof(uint64_t)]; // bytes of every row of eight pixels
 };

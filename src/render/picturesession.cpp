@@ -34,7 +34,7 @@ int ChildCount(HNode* node)
 
 unsigned int HAnimationTextRender::PixelWord() const
 {
-    return colourKey | (HPluginManager::instance()->SuportAlphaBlend(node) ? opaqueWord : 0u);
+    return colorKey | (HPluginManager::instance()->SuportAlphaBlend(node) ? opaqueWord : 0u);
 }
 
 void HAnimationTextRender::SetSession(Effect* effect, QImage& image)

@@ -2,7 +2,7 @@
 #include "testscene.h"
 
 #include "scene/attributes.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 
 #include <QtTest>
 

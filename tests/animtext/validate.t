@@ -201,7 +201,7 @@ Data files:
   $ ab 'DescentVector: ""'
   error file-missing at $.node.files.DescentVector: found nothing, expected the name of a data file
   $ ab 'PathData: "torn"'
-  error data-malformed at $.node.files.PathData: found $PWD/torn: it announces 304 bytes and has 56, expected a serialised byte array of Base64 text with a serialised list in it
+  error data-malformed at $.node.files.PathData: found $PWD/torn: it announces 304 bytes and has 56, expected a serialized byte array of Base64 text with a serialized list in it
   $ ab 'PathData: "one.path"'
   error data-length at $.node.files.PathData: found 1 outline, expected one for each of 2 characters
   $ ab 'PathData: "three.path"'

@@ -190,7 +190,7 @@ void Script::WriteText()
     for (QPainterPath& glyph : glyphs)
         glyph.translate(shift, 0);
     play.text.SetGlyphs(glyphs);
-    WriteGlyphData(play.text.File("descents"), Serialised(descents));
+    WriteGlyphData(play.text.File("descents"), Serialized(descents));
     SetList(*play.text.node, "TextWidth", "text_width", widths);
     SetList(*play.text.node, "TextHeight", "text_height", heights);
 }

@@ -519,22 +519,22 @@ void TestPaint::picturesHoldTheInk()
             shape.LineTo(x + 3, 28);
         }
         for (const QImage::Format format : {QImage::Format_ARGB32, QImage::Format_RGB888})
-            for (const QRgb colour : {qRgb(1, 2, 3), qRgb(250, 0, 128), qRgb(1, 2, 3)}) {
+            for (const QRgb color : {qRgb(1, 2, 3), qRgb(250, 0, 128), qRgb(1, 2, 3)}) {
                 const bool words = format == QImage::Format_ARGB32;
                 canvas.SetSize(width, height);
                 canvas.DrawPath(shape);
-                const int padding = qGreen(colour) == 0 ? 0 : 6;
+                const int padding = qGreen(color) == 0 ? 0 : 6;
                 QByteArray row(width * (words ? 4 : 3) + padding, 'p');
                 QByteArray bits = row.repeated(height);
-                canvas.Write(colour, {words ? Picture::Argb32 : Picture::Rgb888,
-                                      reinterpret_cast<uchar*>(bits.data()), size_t(row.size()),
-                                      width, height});
+                canvas.Write(color, {words ? Picture::Argb32 : Picture::Rgb888,
+                                     reinterpret_cast<uchar*>(bits.data()), size_t(row.size()),
+                                     width, height});
                 for (int y = 0; y < height; ++y) {
                     QImage expected(width, 1, format);
                     expected.fill(0);
                     for (int x = 0; x < canvas.Ink().Width(); ++x)
                         if (canvas.Ink().Has(x, y))
-                            expected.setPixel(x, 0, colour);
+                            expected.setPixel(x, 0, color);
                     std::memcpy(row.data(), expected.constBits(), size_t(row.size() - padding));
                     QVERIFY2(bits.mid(y * row.size(), row.size()) == row,
                              qPrintable(QString("width %1 row %2").arg(width).arg(y)));

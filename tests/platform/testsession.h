@@ -12,10 +12,10 @@
 const unsigned int KeyWord = 0x00010201;
 const Effect NoEffect = {0, 0, 0, 0, 0, 66};
 
-inline QImage SolidImage(int type, QSize size, QRgb colour)
+inline QImage SolidImage(int type, QSize size, QRgb color)
 {
     QImage image(size, type == 3 ? QImage::Format_ARGB32 : QImage::Format_RGB888);
-    image.fill(QColor::fromRgba(colour));
+    image.fill(QColor::fromRgba(color));
     return image;
 }
 
@@ -34,9 +34,9 @@ inline PicSession Create(int type, const QImage& image, const QRect& area,
 /** A display with one session. */
 struct TestSession
 {
-    /** The session fills its display with one colour. */
-    explicit TestSession(int type = 3, QSize size = QSize(8, 4), QRgb colour = 0xFF102030)
-        : TestSession(size, type, SolidImage(type, size, colour), QRect(QPoint(0, 0), size))
+    /** The session fills its display with one color. */
+    explicit TestSession(int type = 3, QSize size = QSize(8, 4), QRgb color = 0xFF102030)
+        : TestSession(size, type, SolidImage(type, size, color), QRect(QPoint(0, 0), size))
     {
     }
     TestSession(QSize displaySize, int type, const QImage& image, const QRect& area,

@@ -1,4 +1,4 @@
-// What a display shows: placement, stacking, blending, the colour key and scrolling.
+// What a display shows: placement, stacking, blending, the color key and scrolling.
 
 #include "testsession.h"
 
@@ -87,7 +87,7 @@ private slots:
         };
         QCOMPARE(shown(0, 0x03F10755), 0x03F10755u); // alone: exact
         QCOMPARE(shown(0x40123456, 0x00FFFFFF), 0x40123456u);
-        QCOMPARE(shown(0x40123456, 0xFF010201), 0xFF010201u); // no colour key
+        QCOMPARE(shown(0x40123456, 0xFF010201), 0xFF010201u); // no color key
         QCOMPARE(shown(0xFF0000FF, 0x80FF0000), 0xFF80007Fu);
         QCOMPARE(shown(0x800000FF, 0x80FF0000), 0xC0AA0055u);
     }

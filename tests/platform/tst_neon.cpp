@@ -55,8 +55,8 @@ public:
 
 struct GifPicture
 {
-    char colour; ///< 'r', 'g', 'b' or '-' for transparent
-    int delay;   ///< hundredths of a second
+    char color; ///< 'r', 'g', 'b' or '-' for transparent
+    int delay;  ///< hundredths of a second
 };
 
 /** A GIF file of pictures of one pixel, whatever it says of their size. */
@@ -65,9 +65,9 @@ QByteArray Gif(const QVector<GifPicture>& pictures, const QByteArray& size = "01
     QByteArray hex = "474946383961" + size + "810000000000ff000000ff000000ff";
     for (const GifPicture& picture : pictures) {
         hex += "21f90409" + QByteArray::number(picture.delay, 16).rightJustified(2, '0') + "000000";
-        // Clear, the colour, end; three bits each.
-        const int colour = QByteArray("-rgb").indexOf(picture.colour);
-        hex += "2c00000000" + size + "000202" + QByteArray::number(0x44 + 8 * colour, 16) + "0100";
+        // Clear, the color, end; three bits each.
+        const int color = QByteArray("-rgb").indexOf(picture.color);
+        hex += "2c00000000" + size + "000202" + QByteArray::number(0x44 + 8 * color, 16) + "0100";
     }
     return QByteArray::fromHex(hex + "3b");
 }
@@ -104,7 +104,7 @@ private slots:
         // The band is 6 pixels thick; its corners are round and reach further in.
         const QRect wide(6, 18, 109, 24);
         const QRect high(18, 6, 85, 48);
-        if (style == 5) // one colour all round
+        if (style == 5) // one color all round
             QVERIFY(qAlpha(alpha[16].pixel(6, 6)) > 200);
         QByteArray play;
         int changes = 0;
@@ -184,7 +184,7 @@ private slots:
 
     void filmsKeepTheirTimes_data()
     {
-        // shown: the colour at each tick of 66 ms
+        // shown: the color at each tick of 66 ms
         // reason: why nothing is shown, told once
         const Table<QByteArray, QString, QString> row("film", "shown", "reason");
         row("each for its time", Gif({{'r', 10}, {'g', 20}}), "rrgggrrgggrggg", "");
@@ -209,12 +209,12 @@ private slots:
         if (!reason.isEmpty())
             QTest::ignoreMessage(QtDebugMsg, QRegularExpression(path + "\" is ignored: " + reason));
         Stage stage(29, QSize(40, 20), path);
-        QString colours;
+        QString colors;
         for (const QImage& picture : stage.Ticks(shown.size())) {
-            const QRgb colour = picture.pixel(20, 10);
-            colours += qRed(colour) ? 'r' : qGreen(colour) ? 'g' : qBlue(colour) ? 'b' : '-';
+            const QRgb color = picture.pixel(20, 10);
+            colors += qRed(color) ? 'r' : qGreen(color) ? 'g' : qBlue(color) ? 'b' : '-';
         }
-        QCOMPARE(colours, shown);
+        QCOMPARE(colors, shown);
         QCOMPARE(Torv::SwapCount(stage.test.session, 0) == 0, !reason.isEmpty());
     }
 

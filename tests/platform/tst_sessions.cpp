@@ -12,7 +12,7 @@
 namespace {
 
 const QRect Area(0, 0, 8, 4);
-const QImage Grey = SolidImage(3, Area.size(), 0xFF808080);
+const QImage Gray = SolidImage(3, Area.size(), 0xFF808080);
 
 /** Whether a write is stopped by the memory; it is tried in a process of its own. */
 bool IsGuarded(char* buffer)
@@ -32,7 +32,7 @@ bool IsGuarded(char* buffer)
 bool Succeeds(int operation, PicDisplay display, PicSession session, int layer = 0)
 {
     switch (operation) {
-    case Torv::OpCreatePictureSession: return FreePictureSession(Create(3, Grey, Area)) == 0;
+    case Torv::OpCreatePictureSession: return FreePictureSession(Create(3, Gray, Area)) == 0;
     case Torv::OpAddPictureSession: return AddPictureSession(display, session, 0) == 0;
     case Torv::OpPicAppendImageLayer:
         return PicAppendImageLayer(display, session, 8, 4, 32, KeyWord) > 0;
@@ -160,7 +160,7 @@ private slots:
         const TestSession test;
         const Torv::Display other(QSize(8, 4));
         const PicDisplay gone = Torv::Display(QSize(8, 4)).Handle();
-        const PicSession freed = Create(3, Grey, Area);
+        const PicSession freed = Create(3, Gray, Area);
         FreePictureSession(freed);
         const TestSession next;                               // takes the place of the freed one
         for (const PicSession session : {0u, freed, test.on}) // a display's handle is no session's

@@ -2,7 +2,7 @@
 #include "film/videofile.h"
 #include "player/plugin.h"
 #include "scene/attributes.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "testscene.h"
 #include "timing/pagetimes.h"
 #include "timing/simulation.h"

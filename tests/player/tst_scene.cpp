@@ -1,6 +1,6 @@
 #include "testscene.h"
 
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 
 #include <QtTest>
 

@@ -7,7 +7,7 @@
 #define TESTS_RECTANGLETEXT_H
 
 #include "node/hanimationtextnode.h"
-#include "serialised.h"
+#include "serialized.h"
 
 #include <QFile>
 #include <QImage>
@@ -28,7 +28,7 @@ inline void WriteFile(const QString& path, const QByteArray& bytes)
 /** A data file: a byte array that holds @p inner in Base64. */
 inline void WriteGlyphData(const QString& path, const QByteArray& inner)
 {
-    WriteFile(path, Serialised(inner.toBase64()));
+    WriteFile(path, Serialized(inner.toBase64()));
 }
 
 /** Glyph outlines of @p widths and @p heights: of unlike margins on all four sides. */
@@ -68,7 +68,7 @@ public:
         : node(new HAnimationTextNode)
     {
         SetGlyphs(RectangleGlyphs(widths, heights));
-        WriteGlyphData(File("descents"), Serialised(descents));
+        WriteGlyphData(File("descents"), Serialized(descents));
         node->SetFiles("PathData", {File("paths")});
         node->SetFiles("DescentVector", {File("descents")});
         SetList(*node, "TextWidth", "text_width", widths);
@@ -92,7 +92,7 @@ public:
 
     void SetGlyphs(const QVector<QPainterPath>& glyphs)
     {
-        WriteGlyphData(File("paths"), Serialised(glyphs));
+        WriteGlyphData(File("paths"), Serialized(glyphs));
     }
 
     QString File(const char* name) const { return directory->filePath(name); }

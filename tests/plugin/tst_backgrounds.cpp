@@ -1,4 +1,4 @@
-// What is behind the text: the dazzle colours, and the frogs that bring the characters.
+// What is behind the text: the dazzle colors, and the frogs that bring the characters.
 #include "enginefixture.h"
 #include "renderfixture.h"
 #include "table.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Whether @p color lies @p steps of 12 degrees round the colour circle. */
+/** Whether @p color lies @p steps of 12 degrees round the color circle. */
 bool LiesAt(const QColor& color, double steps)
 {
     const double apart = std::fmod(std::fabs(color.hue() - 12 * steps), 360.0);

@@ -183,7 +183,7 @@ void TestGlyphData::soundDataStaysAsItIs()
     RectangleText text = RectangleText::TwoPages();
     text.SetGlyphs(outlines);
     QCOMPARE(text.node->GetPainterPaths(), outlines);
-    QCOMPARE(Serialised(text.node->GetPainterPaths()), Serialised(outlines));
+    QCOMPARE(Serialized(text.node->GetPainterPaths()), Serialized(outlines));
 }
 
 void TestGlyphData::everyReadIsFresh()
@@ -192,7 +192,7 @@ void TestGlyphData::everyReadIsFresh()
     const QVector<QPainterPath>& outlines = text.node->GetPainterPaths();
     QCOMPARE(outlines.size(), 3);
     text.SetGlyphs(outlines.mid(0, 1));
-    WriteGlyphData(text.File("descents"), Serialised(QVector<int>{8, 9}));
+    WriteGlyphData(text.File("descents"), Serialized(QVector<int>{8, 9}));
     QCOMPARE(text.node->GetDescentData(), (QVector<int>{8, 9}));
     QCOMPARE(outlines.size(), 1); // read along
     QFile::remove(text.File("descents"));

@@ -1,4 +1,4 @@
-// Widths, heights, fonts and colours; how texts are cut into pages is in tests/golden.
+// Widths, heights, fonts and colors; how texts are cut into pages is in tests/golden.
 #include "enginefixture.h"
 #include "table.h"
 

@@ -52,7 +52,7 @@ private slots:
         QImage frames[2];
         for (int on = 0; on < 2; ++on) {
             EngineFixture play;
-            const QString later = on ? "65280" : "255"; // nor do the later characters' colours
+            const QString later = on ? "65280" : "255"; // nor do the later characters' colors
             play.text.node->SetList("TextAttribute",
                                     {{{"Color", "255"}}, {{"Color", later}}, {{"Color", later}}});
             QImage picture(3, 3, QImage::Format_RGB32);
@@ -212,8 +212,8 @@ private slots:
 
     void tailsBeginBeyondTheLimit_data()
     {
-        // colours: of the characters: g is the text's green, w white
-        const Table<int, QString> row("firstWidth", "colours");
+        // colors: of the characters: g is the text's green, w white
+        const Table<int, QString> row("firstWidth", "colors");
         row("31,998", 31998, "gggw");
         row("31,999", 31999, "ggww");
         row("32,000", 32000, "gwww");
@@ -230,13 +230,12 @@ private slots:
         play.text.SetGlyphs(glyphs);
         play.Start({});
         play.DrawFrame();
-        QString colours;
+        QString colors;
         for (int i = 0; i < 4; ++i) {
-            const QColor colour =
-                play.drawImage().pixelColor(play.charPositions().at(i), 5 * i + 1);
-            colours += colour == QColor(0, 255, 0) ? 'g' : colour == QColor(Qt::white) ? 'w' : '?';
+            const QColor color = play.drawImage().pixelColor(play.charPositions().at(i), 5 * i + 1);
+            colors += color == QColor(0, 255, 0) ? 'g' : color == QColor(Qt::white) ? 'w' : '?';
         }
-        QTEST(colours, "colours");
+        QTEST(colors, "colors");
     }
 
     // The third begins before the tail, to which the second's negative width leads back.

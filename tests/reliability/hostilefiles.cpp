@@ -95,10 +95,10 @@ void AddOuterLayers(Folder* folder, const QByteArray& inner)
         folder->Add(sample.name, sample.bytes);
     folder->Add("cut in half", sound.left(sound.size() / 2));
     folder->Add("with bytes behind", sound + QByteArray(1000, '\0'));
-    folder->AddSparse("too large a file", Serialised(quint32(300 << 20)), 300LL << 20);
-    folder->AddSparse("24 MiB of nothing", Serialised(quint32((24 << 20) - 4)), 24LL << 20);
-    folder->Add("inner count huge", File(Serialised(qint32(0x10000000)) + inner.mid(4)));
-    folder->Add("inner count 2^30 and no bytes", File(Serialised(qint32(1 << 30))));
+    folder->AddSparse("too large a file", Serialized(quint32(300 << 20)), 300LL << 20);
+    folder->AddSparse("24 MiB of nothing", Serialized(quint32((24 << 20) - 4)), 24LL << 20);
+    folder->Add("inner count huge", File(Serialized(qint32(0x10000000)) + inner.mid(4)));
+    folder->Add("inner count 2^30 and no bytes", File(Serialized(qint32(1 << 30))));
 }
 
 quint32 Crc(const QByteArray& bytes)
@@ -114,14 +114,14 @@ quint32 Crc(const QByteArray& bytes)
 
 QByteArray Chunk(const QByteArray& type, const QByteArray& data)
 {
-    return Serialised(quint32(data.size())) + type + data + Serialised(Crc(type + data));
+    return Serialized(quint32(data.size())) + type + data + Serialized(Crc(type + data));
 }
 
 /** A PNG that claims a size and has no pixels to show for it. */
 QByteArray PngClaiming(quint32 width, quint32 height)
 {
     return QByteArray("\x89PNG\r\n\x1A\n") +
-           Chunk("IHDR", Serialised(width, height) + QByteArray("\x08\x06\0\0\0", 5)) +
+           Chunk("IHDR", Serialized(width, height) + QByteArray("\x08\x06\0\0\0", 5)) +
            Chunk("IDAT", QByteArray::fromHex("789c63000000010001")) + Chunk("IEND", "");
 }
 
@@ -142,16 +142,16 @@ QList<HostileFile> HostilePathFiles(const QDir& where)
     const auto add = [&](const QByteArray& name, const QByteArray& outline,
                          Weight weight = Weight::Light) {
         // Between two sound ones, which keep their places.
-        folder.Add(name, File(Serialised(qint32(3)) + Triangle(9) + outline + Triangle(7)), weight);
+        folder.Add(name, File(Serialized(qint32(3)) + Triangle(9) + outline + Triangle(7)), weight);
     };
 
-    AddOuterLayers(&folder, Serialised(qint32(2)) + Triangle(9) + Triangle(8));
+    AddOuterLayers(&folder, Serialized(qint32(2)) + Triangle(9) + Triangle(8));
     folder.Add("descents instead", AnimText::DescentFile({1, 2, 3, 4, 5, 6}));
-    folder.Add("one outline", File(Serialised(qint32(1)) + Triangle(5)));
+    folder.Add("one outline", File(Serialized(qint32(1)) + Triangle(5)));
     folder.Add("100,000 outlines without a line",
-               File(Serialised(qint32(100000)) + QByteArray(400000, '\0')));
+               File(Serialized(qint32(100000)) + QByteArray(400000, '\0')));
     folder.Add("more outlines than characters",
-               File(Serialised(qint32(500)) + Triangle(5).repeated(500)));
+               File(Serialized(qint32(500)) + Triangle(5).repeated(500)));
     for (const Glyphs::Sample& sample : Glyphs::OutlineSamples())
         folder.Add(sample.name, File(sample.bytes),
                    sample.bytes.size() < 1 << 20 ? Weight::Light : Weight::Slow);
@@ -169,7 +169,7 @@ QList<HostileFile> HostileDescentFiles(const QDir& where)
     Folder folder(where, "descent");
     constexpr int least = std::numeric_limits<int>::min();
     constexpr int most = std::numeric_limits<int>::max();
-    AddOuterLayers(&folder, Serialised(qint32(3), qint32(4), qint32(5), qint32(6)));
+    AddOuterLayers(&folder, Serialized(qint32(3), qint32(4), qint32(5), qint32(6)));
     for (const Glyphs::Sample& sample : Glyphs::DescentSamples())
         folder.Add(sample.name, File(sample.bytes));
     folder.Add("least", AnimText::DescentFile(QVector<int>(20, least)));

@@ -5,7 +5,7 @@
 #ifndef TESTS_SAMPLES_H
 #define TESTS_SAMPLES_H
 
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "scene/scene.h"
 
 #include <QSize>

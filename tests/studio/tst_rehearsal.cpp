@@ -2,7 +2,7 @@
 #include "studio/window/display/displayview.h"
 #include "studio/worker/rehearsal.h"
 
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "testfolder.h"
 
 #include <QCryptographicHash>

@@ -6,7 +6,7 @@
 #ifndef TESTS_MALFORMEDGLYPHS_H
 #define TESTS_MALFORMEDGLYPHS_H
 
-#include "serialised.h"
+#include "serialized.h"
 
 #include <QString>
 #include <QVector>
@@ -17,13 +17,13 @@ namespace Glyphs {
 
 inline QByteArray Element(qint32 type, double x, double y)
 {
-    return Serialised(type, x, y);
+    return Serialized(type, x, y);
 }
 
 /** An outline of @p elements that says it has @p size of them. */
 inline QByteArray Sized(int size, const QByteArray& elements, qint32 start = 0, qint32 rule = 0)
 {
-    return Serialised(size) + elements + Serialised(start, rule);
+    return Serialized(size) + elements + Serialized(start, rule);
 }
 
 inline QByteArray Outline(const QByteArray& elements, qint32 start = 0, qint32 rule = 0)
@@ -48,7 +48,7 @@ inline QByteArray Polyline(int size)
 /** A data file around @p inner. */
 inline QByteArray File(const QByteArray& inner)
 {
-    return Serialised(inner.toBase64());
+    return Serialized(inner.toBase64());
 }
 
 /** The bytes within a data file. */
@@ -65,27 +65,27 @@ inline QVector<Sample> OutlineSamples()
     const QByteArray triangle = OfTypes("011"); // 72 bytes
     const QByteArray move = Element(0, 1, 2);
     const QByteArray corner = move + Element(1, 3, 4);
-    const QByteArray three = Serialised(3) + triangle.repeated(3);
+    const QByteArray three = Serialized(3) + triangle.repeated(3);
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
 
     QVector<Sample> samples{
         {"sound", three, {3, 3, 3}, ""},
         {"bytes behind", three + "more", {3, 3, 3}, ""},
-        {"none", Serialised(0), {}, ""},
-        {"without elements", Serialised(2, 0, 0), {0, 0}, ""},
+        {"none", Serialized(0), {}, ""},
+        {"without elements", Serialized(2, 0, 0), {0, 0}, ""},
         {"nothing", "", {}, "it holds no Base64 text"},
         {"half a count", three.left(3), {}, "it ends before the number of its entries"},
         {"more than bytes",
-         Serialised(55) + three.mid(4),
+         Serialized(55) + three.mid(4),
          {},
          "it announces 55 entries and has room for 54"},
         {"as many as there can be",
-         Serialised(-1) + three.mid(4),
+         Serialized(-1) + three.mid(4),
          {},
          "it announces 4294967295 entries and has room for 54"},
         {"one more than there are",
-         Serialised(4) + three.mid(4),
+         Serialized(4) + three.mid(4),
          {},
          "it ends within outline 3 of 4"},
         {"cut in an element", three.left(100), {}, "it ends within outline 1 of 3"},
@@ -93,7 +93,7 @@ inline QVector<Sample> OutlineSamples()
     };
     const auto between = [&](const char* name, const QByteArray& outline, const QVector<int>& read,
                              const QString& fault) {
-        samples.append({name, Serialised(3) + triangle + outline + triangle, read, fault});
+        samples.append({name, Serialized(3) + triangle + outline + triangle, read, fault});
     };
     const auto sound = [&](const char* name, const QByteArray& outline, int elements) {
         between(name, outline, {3, elements, 3}, "");
@@ -139,15 +139,15 @@ inline QVector<Sample> OutlineSamples()
 
 inline QVector<Sample> DescentSamples()
 {
-    const QByteArray two = Serialised(2, 4, -5);
+    const QByteArray two = Serialized(2, 4, -5);
     return {{"sound", two, {4, -5}, ""},
             {"bytes behind", two + "more", {4, -5}, ""},
-            {"none", Serialised(0), {}, ""},
+            {"none", Serialized(0), {}, ""},
             {"nothing", "", {}, "it holds no Base64 text"},
             {"half a count", two.left(2), {}, "it ends before the number of its entries"},
             {"cut", two.chopped(1), {}, "it announces 2 entries and has room for 1"},
             {"as many as there can be",
-             Serialised(-1, 4),
+             Serialized(-1, 4),
              {},
              "it announces 4294967295 entries and has room for 1"}};
 }
@@ -158,17 +158,17 @@ inline QVector<Sample> FileSamples()
     const QString noLength = "it has no length of 4 bytes at its beginning";
     return {{"empty", "", {}, noLength},
             {"three bytes", "abc", {}, noLength},
-            {"null array", Serialised(-1) + "text", {}, "it holds a null array"},
+            {"null array", Serialized(-1) + "text", {}, "it holds a null array"},
             {"length without bytes",
-             Serialised(0x7fffffff) + "QUJD",
+             Serialized(0x7fffffff) + "QUJD",
              {},
              "it announces 2147483647 bytes and has 4"},
             {"length past the end by one",
-             Serialised(5) + "QUJD",
+             Serialized(5) + "QUJD",
              {},
              "it announces 5 bytes and has 4"},
             {"no Base64",
-             Serialised(QByteArray("\x80\xff !\"#$%&'()*,-.\n\0\t", 20)),
+             Serialized(QByteArray("\x80\xff !\"#$%&'()*,-.\n\0\t", 20)),
              {},
              "it holds no Base64 text"}};
 }

@@ -8,7 +8,7 @@
 #include "cli/filenames.h"
 #include "cli/interruption.h"
 #include "files/wholefile.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "validate/validate.h"
 
 #include <QFileInfo>

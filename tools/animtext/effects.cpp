@@ -1,6 +1,6 @@
 #include "animtext/commands.h"
 #include "cli/commandline.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

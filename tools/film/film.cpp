@@ -141,7 +141,7 @@ QImage Film::Picture() const
 bool Film::Play(const QVector<int>& wanted,
                 const std::function<bool(int frame, const QImage&)>& take, QString* error)
 {
-    // Some of what a play changes outlives a restart, the dazzling colours for one.
+    // Some of what a play changes outlives a restart, the dazzling colors for one.
     if (!player->Load(scene, error))
         return false;
     if (settings.schedule)

@@ -1,7 +1,7 @@
 // Draws the five pictures of the hopping frog, Frog1.png to Frog5.png, into a folder.
 //
 // Every pixel is wholly there or not at all: what is painted over text must not depend on how a
-// processor rounds the mixing of colours.
+// processor rounds the mixing of colors.
 #include <QDir>
 #include <QImage>
 
@@ -13,7 +13,7 @@ namespace {
 constexpr int width = 32;
 constexpr int height = 24;
 
-QRgb ColourOf(char pixel)
+QRgb ColorOf(char pixel)
 {
     switch (pixel) {
     case 'o': return 0xFF174522; // outline
@@ -80,8 +80,8 @@ void Draw(QImage& image, int left, int top, Drawing rows)
 {
     for (int y = 0; rows[y]; ++y)
         for (int x = 0; rows[y][x]; ++x)
-            if (const QRgb colour = ColourOf(rows[y][x]))
-                image.setPixel(left + x, top + y, colour);
+            if (const QRgb color = ColorOf(rows[y][x]))
+                image.setPixel(left + x, top + y, color);
 }
 
 } // namespace

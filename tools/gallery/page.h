@@ -6,7 +6,7 @@
 #define ANIMTEXT_PAGE_H
 
 #include "gallery/motionplay.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 
 #include <QByteArray>
 #include <QSize>

@@ -1,7 +1,7 @@
 /**
  * @file
  * The packets of the three protocols. DDP: 3waylabs' Distributed Display Protocol. E1.31: ANSI
- * E1.31-2018, "streaming ACN". Art-Net: Artistic Licence's Art-Net 4.
+ * E1.31-2018, "streaming ACN". Art-Net: Artistic License's Art-Net 4.
  */
 #ifndef ANIMTEXT_PACKETS_H
 #define ANIMTEXT_PACKETS_H

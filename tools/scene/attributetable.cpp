@@ -1,6 +1,6 @@
 // Every attribute with what is known of it. A new one is a row here, and nothing else.
 #include "scene/attributes.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "scene/scene.h"
 
 #include <QCoreApplication>

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_MOTION_H
 #define ANIMTEXT_MOTION_H
 
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "scene/scene.h"
 
 namespace AnimText {
@@ -23,7 +23,7 @@ struct NodeMotion
     bool IsScroll() const { return mode == Mode::Scroll; }
     /** The device moves the whole line. */
     bool IsSideways() const { return Traits() & Sideways; }
-    /** Its row in the catalogue; null for a still text and for unknown numbers. */
+    /** Its row in the catalog; null for a still text and for unknown numbers. */
     const Motion* Row() const;
     /** Those of its row; none where there is no row. */
     MotionTraits Traits() const;

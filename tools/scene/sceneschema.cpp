@@ -1,7 +1,7 @@
 #include "scene/sceneschema.h"
 
 #include "scene/attributes.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "scene/scene.h"
 
 #include <QJsonArray>

@@ -273,7 +273,7 @@ void NodeCheck::CheckData(const QString& key)
     const DataFile data = holdsPaths ? LookIntoPathFile(path) : LookIntoDescentFile(path);
     if (!data.fault.isEmpty()) {
         Add(Mistake::DataMalformed, at, QStringLiteral("%1: %2").arg(path, data.fault),
-            QStringLiteral("a serialised byte array of Base64 text with a serialised list in it"));
+            QStringLiteral("a serialized byte array of Base64 text with a serialized list in it"));
         return;
     }
     const QString found = holdsPaths ? Words(data.entries, "outline", "outlines")

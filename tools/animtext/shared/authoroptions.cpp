@@ -4,7 +4,7 @@
 #include "cli/values.h"
 #include "files/wholefile.h"
 #include "layout/fonts.h"
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 #include "scene/times.h"
 
 #include <QDir>

@@ -89,7 +89,7 @@ void Export::Start(const QString& plugin, const QString& path, const ExportSetti
 {
     scene = path;
     complaints.clear();
-    cancelled = false;
+    canceled = false;
     QStringList words{QStringLiteral("render"), scene, QStringLiteral("--progress"),
                       QStringLiteral("--force"), QStringLiteral("--allow-missing-files")};
     if (!plugin.isEmpty())
@@ -99,9 +99,9 @@ void Export::Start(const QString& plugin, const QString& path, const ExportSetti
 
 void Export::Cancel()
 {
-    if (cancelled)
+    if (canceled)
         return; // a second signal would keep it from tidying up
-    cancelled = true;
+    canceled = true;
     process.waitForStarted(); // until then, the signal would reach a copy of the studio
     process.terminate();
 }
@@ -143,7 +143,7 @@ void Export::Finish()
     ReadProgress();
     ReadErrors();
     const bool failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
-    emit Ended(failed ? Complaint() : QString(), failed && cancelled);
+    emit Ended(failed ? Complaint() : QString(), failed && canceled);
 }
 
 } // namespace AnimText

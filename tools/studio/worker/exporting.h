@@ -47,7 +47,7 @@ signals:
     /** @param total 0 while it is not known; @param stage as the program calls it */
     void Progress(qint64 done, qint64 total, const QString& stage);
     /** @param error one line; empty when the film is there */
-    void Ended(const QString& error, bool cancelled);
+    void Ended(const QString& error, bool canceled);
 
 private:
     void ReadProgress();
@@ -58,7 +58,7 @@ private:
     QProcess process;
     QString scene;
     QByteArray complaints;
-    bool cancelled = false;
+    bool canceled = false;
 };
 
 } // namespace AnimText

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_MOTIONMODEL_H
 #define ANIMTEXT_MOTIONMODEL_H
 
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 
 #include <QAbstractListModel>
 #include <QImage>
@@ -16,7 +16,7 @@ namespace AnimText {
 /** The motion's title in the program's language, for example "Typewriter". */
 QString TitleOf(const Motion& motion);
 
-/** @p words from the catalogue of motions in the program's language. */
+/** @p words from the catalog of motions in the program's language. */
 QString TranslatedMotion(const QString& words);
 
 /** The thirty effects, followed by the four scrolls. */

@@ -294,11 +294,11 @@ void ExportDialog::ShowProgress(qint64 done, qint64 total, const QString& stage)
                        : tr("Counting colors: picture %1 of %2").arg(done).arg(total));
 }
 
-void ExportDialog::End(const QString& error, bool cancelled)
+void ExportDialog::End(const QString& error, bool canceled)
 {
     progress->hide();
     close->setText(tr("Close"));
-    if (cancelled)
+    if (canceled)
         Say(tr("Canceled; nothing was written."), false);
     else if (!error.isEmpty())
         Say(error, true);
@@ -313,7 +313,7 @@ void ExportDialog::End(const QString& error, bool cancelled)
                          tr("Show in folder")),
             false);
     Refresh();
-    emit Done(!cancelled && error.isEmpty());
+    emit Done(!canceled && error.isEmpty());
 }
 
 void ExportDialog::reject()

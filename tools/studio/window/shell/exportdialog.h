@@ -68,7 +68,7 @@ private:
     void Say(const QString& words, bool isWarning);
     void Begin();
     void ShowProgress(qint64 done, qint64 total, const QString& stage);
-    void End(const QString& error, bool cancelled);
+    void End(const QString& error, bool canceled);
     void Browse();
 
     Sign sign;

@@ -1,4 +1,4 @@
-#include "scene/catalogue.h"
+#include "scene/catalog.h"
 
 #include <QCoreApplication>
 
@@ -8,7 +8,7 @@ namespace AnimText {
 
 namespace {
 
-class Catalogue
+class Catalog
 {
     Q_DECLARE_TR_FUNCTIONS(Motions)
 
@@ -28,7 +28,7 @@ private:
     static constexpr const char* scroll = QT_TR_NOOP("scroll");
 };
 
-QList<Motion> Catalogue::Effects()
+QList<Motion> Catalog::Effects()
 {
     return {
         {0, "FlyFromLeftEffect", QT_TR_NOOP("Fly in from the right"), flyIn,
@@ -133,7 +133,7 @@ QList<Motion> Catalogue::Effects()
          QT_TR_NOOP("shake, wobble, seesaw, tilt, dance"), Turns}};
 }
 
-QList<Motion> Catalogue::Scrolls()
+QList<Motion> Catalog::Scrolls()
 {
     return {{0, "ContinueEffectLeft", QT_TR_NOOP("Scroll left"), scroll,
              QT_TR_NOOP(
@@ -155,13 +155,13 @@ QList<Motion> Catalogue::Scrolls()
 
 const QList<Motion>& Effects()
 {
-    static const QList<Motion> effects = Catalogue::Effects();
+    static const QList<Motion> effects = Catalog::Effects();
     return effects;
 }
 
 const QList<Motion>& Scrolls()
 {
-    static const QList<Motion> scrolls = Catalogue::Scrolls();
+    static const QList<Motion> scrolls = Catalog::Scrolls();
     return scrolls;
 }
 
@@ -210,7 +210,7 @@ bool Matches(const Motion& motion, const QString& search)
     QStringList texts{QLatin1String(motion.name),
                       QLatin1Char('#') + QString::number(motion.number)};
     for (const char* english : {motion.title, motion.family, motion.summary, motion.synonyms})
-        texts << QLatin1String(english) << Catalogue::tr(english);
+        texts << QLatin1String(english) << Catalog::tr(english);
     const QString all = texts.join(QLatin1Char('\n'));
     const QStringList words = search.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return std::all_of(words.begin(), words.end(), [&](const QString& word) {

@@ -11,7 +11,7 @@
 
 /** @p values as Qt 4.8 writes them into a stream. */
 template <typename... Values>
-QByteArray Serialised(const Values&... values)
+QByteArray Serialized(const Values&... values)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);

@@ -2,8 +2,8 @@
  * @file
  * The entrance effects and scrolls by number and name, and what the tools must know of each.
  */
-#ifndef ANIMTEXT_CATALOGUE_H
-#define ANIMTEXT_CATALOGUE_H
+#ifndef ANIMTEXT_CATALOG_H
+#define ANIMTEXT_CATALOG_H
 
 #include <QFlags>
 #include <QList>
