@@ -67,7 +67,6 @@ Every command has two examples that work when copied. Only plays and the gallery
   >   [ $(wc -l <words) = 2 ] || echo $command
   >   [ $command = author ] || while read -r words; do rm -rf copy; cp -r sign copy; (cd copy; eval "$words") >printed 2>&1 </dev/null || { echo "$words"; cat printed; }; done <words
   > done
-  soak
 
 Options:
 

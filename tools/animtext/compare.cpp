@@ -209,8 +209,7 @@ Command CompareCommand()
                     .Letter('o')}),
         Compare,
         {"animtext compare device.log sign.json --no-times -o differences",
-         "animtext compare device.log sign.trace --tolerance 100ms",
-         "animtext compare recorded-scenes"}};
+         "animtext compare --record ."}};
 }
 
 } // namespace AnimText
