@@ -45,9 +45,11 @@ void PictureWriter::WriteRow(const Plane& ink, int y, unsigned char* row, int wi
     for (int i = 0; i < whole; ++i) {
         Plane::Word word = words[i];
         unsigned char* to = row + i * Plane::wordBits * bytesPerPixel;
-        for (; word != 0; to += atOnce, word >>= pixelsAtOnce)
-            if (word & 255)
-                std::memcpy(to, eights + (word & 255) * atOnce, atOnce);
+        if (word == 0)
+            continue;
+        // A test for each byte would cost more time than it saves: text is hard to predict.
+        for (int k = 0; k < Plane::wordBits / pixelsAtOnce; ++k, to += atOnce, word >>= 8)
+            std::memcpy(to, eights + (word & 255) * atOnce, atOnce);
     }
     int rest = width - whole * Plane::wordBits;
     unsigned char* to = row + whole * Plane::wordBits * bytesPerPixel;
