@@ -30,7 +30,7 @@ static void* Next(const char* function)
     return next;
 }
 
-/* dlsym() answers a pointer to data; POSIX says that it can be called all the same. */
+/* dlsym() returns a pointer to data; POSIX says that it can be called anyway. */
 #define PASS_ON(function)                                                                          \
     static __typeof__(&(function)) next;                                                           \
     if (!next)                                                                                     \

@@ -26,7 +26,7 @@ namespace {
 
 const int lastNeonBorder = 28; // neon effects above it show pictures
 
-// Metrics come from files and attributes and can be anything. These bounds lie far beyond every
+// Metrics come from files and attributes and can have any value. These bounds are far outside every
 // picture and keep the sums of the layout within an int.
 const int metricLimit = 1 << 20;
 const int positionLimit = 1 << 28;
@@ -36,7 +36,7 @@ int Bounded(int value, int limit)
     return qBound(-limit, value, limit);
 }
 
-/** Of a bitmap that is stored from the top down, Qt's reader gives the height as negative. */
+/** Qt's reader reports a negative height for a bitmap that is stored from the top down. */
 qint64 PixelCount(const QSize& size)
 {
     return qAbs(qint64(size.width())) * qAbs(qint64(size.height()));
@@ -97,7 +97,7 @@ animationRealization::animationRealization(QObject* parent)
     , dazzleLayerWrapped(false)
     , textColor(0)
 {
-    // Once round the color circle, ending on the color it began with.
+    // Once around the color circle, ending with the first color.
     for (int i = 0; i < 30; ++i)
         dazzleColors.append(QColor::fromHsv(12 * i, 207, 255, 255));
     dazzleColors.append(QColor::fromHsv(0, 207, 255, 255));
@@ -181,8 +181,8 @@ void animationRealization::LoadFillPicture()
     // Opening a pipe would wait for a writer that may never come.
     if (QFileInfo(file).isFile()) {
         QImageReader reader(file);
-        // A few bytes can decode to gigabytes, so the size is asked for first. Some formats know it
-        // only once they are read.
+        // A few bytes can decode to gigabytes, so the size is checked first. Some formats know it
+        // only after they are read.
         QSize size = reader.size();
         if (PixelCount(size) <= maxPicturePixels) {
             picture = reader.read();
@@ -256,8 +256,8 @@ void animationRealization::Start()
 
     if (neonBgEnabled != 0) {
         neonBg->StartTimerDraw(tickInterval);
-        // The host's store may fetch a file when it is looked up. Whether it is there changes
-        // nothing here: the animator copes with one that is missing.
+        // The host's store may fetch a file when it is looked up. The result does not matter here:
+        // the animator copes with a missing file.
         if (node->GetNeonEffect() > lastNeonBorder)
             QFile::exists(node->GetFirstFile(QString::fromLatin1("NeonGifPath")));
     }
@@ -362,7 +362,7 @@ void animationRealization::SetDazzleLayer(int layer)
     dazzleLayerWrapped = false;
 }
 
-/** The session is about to go: nothing may paint into its layers any more. */
+/** The session is about to end: from now on nothing may paint into its layers. */
 void animationRealization::ForgetSession()
 {
     if (pictureSession) {

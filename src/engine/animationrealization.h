@@ -34,11 +34,11 @@ class HAnimationTextNode;
 class LineWidths;
 
 /**
- * The animation of one text: paints it frame by frame, in the picture layer that it is given or
- * else in an image of its own. Its renderer drives it with ticks of 66 ms.
+ * The animation of one text: paints it frame by frame, into its picture layer or, without one,
+ * into its own image. Its renderer drives it with ticks of 66 ms.
  *
- * Distances are pixels of the area. A page is what stands in the area at once; pages are counted
- * from 1. A run is one pass over all pages.
+ * Distances are pixels of the area. A page is the part of the text that the area shows at once;
+ * pages are counted from 1. A run is one pass over all pages.
  */
 class animationRealization : public QObject
 {
@@ -55,22 +55,22 @@ public:
     void Pause(bool pause);
     void Stop();
 
-    /** One tick: paints a frame, holds a page, or lets the tick pass, as the speed demands. */
+    /** One tick: paints a frame, holds a page, or does nothing, depending on the speed. */
     void PrepareImage();
 
     /**
-     * @param forContent true: of the picture that is painted; false: of the layer beneath it.
+     * @param forContent true: of the picture that is painted; false: of the layer below it.
      * They differ for a line that scrolls over a neon background.
      */
     QSize CountSize(bool forContent) const;
     void CountTotalHeight();
     void CountPageNum();
     void SelectPath(int forward);
-    /** Turns to the next page, which waits while a hold is due. */
+    /** Goes to the next page, or waits while a hold is due. */
     void SwapPage();
 
     /**
-     * Where frames go from now on.
+     * The target of frames from now on.
      * @param session the picture session as a number in a pointer; null: nowhere
      * @param a the display's handle  @param b the layer of the text
      */
@@ -144,7 +144,7 @@ public:
 public slots:
     /** One animation frame. */
     void DrawAndUpdateImage();
-    /** One visit of a page that is held. */
+    /** One tick of a page that is held. */
     void UpdateStayImage();
     /** One tick of the dazzle background. */
     void UpdateDazzleBackground();

@@ -1,5 +1,5 @@
-// The dazzle background: colors that travel behind the text, in a layer of their own. It shares
-// nothing with the text's frame but the count of frames.
+// The dazzle background: colors that travel behind the text, in their own layer. It shares only
+// the count of frames with the text.
 #include "engine/animationrealization.h"
 
 #include "device/device.h"
@@ -60,11 +60,11 @@ void animationRealization::DrawDazzleBackground()
         return;
 
     const Picture picture = PictureOf(stayImage);
-    // With neon on, the rim is left to its border.
+    // With neon on, the neon border paints the rim.
     const int rim = neonBgEnabled == 1 ? qMax(2, qMin(picture.width, picture.height) / 8) : 0;
     const Box within = {rim, rim, picture.width - rim, picture.height - rim};
-    // Text is read against the middle of the picture, so the colors step back there: behind light
-    // text into the dark, behind dark text into the light.
+    // The middle of the picture is behind the text, so the colors fade there: to dark behind light
+    // text, to light behind dark text.
     const DazzlePainter::Frame frame = {leading, qGray(node->GetTextColor(0).rgb()) >= 96, within};
     dazzle.SetShape(ShapeOf(gradientEnabled, gradientType));
     if (dazzle.Paint(frame, picture) && pictureFillEnabled == 1 && !within.IsEmpty())

@@ -9,12 +9,12 @@ namespace HNodeAnimationText {
 
 namespace {
 
-// Counters stop here, far beyond any picture, so that sums of a few of them stay within an int.
+// Counters stop here, far outside any picture, so sums of a few of them stay within an int.
 const int counterLimit = 1 << 29;
 
 } // namespace
 
-/** Begins a frame without ink, in the text's paint; false when there is nothing to paint on. */
+/** Begins an empty frame in the text's color; false when there is nothing to paint on. */
 bool animationRealization::BeginFrame()
 {
     textPath.Clear();
@@ -31,7 +31,7 @@ void animationRealization::EndFrame()
     ShowFrame();
 }
 
-/** What the canvas holds becomes the picture: every pixel of it, so nothing is cleared before. */
+/** Writes the canvas to the picture, every pixel of it, so nothing is cleared before. */
 void animationRealization::ShowFrame()
 {
     canvas.Write(textColor, PictureOf(drawImage));
@@ -50,7 +50,7 @@ bool animationRealization::HasGlyph(int j) const
     return j >= 0 && j < charPaths.size();
 }
 
-/** As the painter takes it, made when it is first painted: a long text starts no later for it. */
+/** Made when it is first painted, so that a long text does not start later. */
 const Glyph& animationRealization::GlyphOf(int j)
 {
     std::unique_ptr<Glyph>& glyph = glyphs[size_t(j)];
@@ -81,14 +81,14 @@ void animationRealization::AddStanding()
         AddGlyph(j, RestX(j), RestY(j));
 }
 
-/** The glyph mapped through transform, about the left end of its baseline. */
+/** The glyph mapped by transform, around the left end of its baseline. */
 void animationRealization::AddShapedGlyph(int j, double x, double y)
 {
     if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y) && transform.IsFinite())
         textPath.Add(GlyphOf(j), j, transform, float(x), float(y));
 }
 
-/** Paints the glyph by itself, with its own fill rule. */
+/** Paints the glyph alone, with its own fill rule. */
 void animationRealization::DrawGlyph(int j, double x, double y)
 {
     if (!HasGlyph(j))
@@ -97,14 +97,14 @@ void animationRealization::DrawGlyph(int j, double x, double y)
     canvas.DrawGlyph(item);
 }
 
-/** How far the k-th character of the page has come when each starts a step after the one before. */
+/** The phase of the page's k-th character when each starts one step after the previous one. */
 int animationRealization::Phase(int k) const
 {
     const qint64 phase = moveOffset - qint64(stepSize) * k;
     return static_cast<int>(qBound(qint64(-counterLimit), phase, qint64(counterLimit)));
 }
 
-/** Turns by @p degrees about a point, given relative to the glyph's origin. */
+/** Turns by @p degrees around a point relative to the glyph's origin. */
 void animationRealization::RotateAbout(double x, double y, double degrees)
 {
     transform.translate(float(x), float(y));
@@ -124,7 +124,7 @@ bool animationRealization::IsLastPageOver() const
     return pageIndex >= pageOffsets.size();
 }
 
-/** The page has come in: it is what a hold shows, and the next one waits. */
+/** The page has entered: a hold shows it, and the next page waits. */
 void animationRealization::LeavePage()
 {
     stayPageIndex = pageIndex;
@@ -139,7 +139,7 @@ void animationRealization::EndRun()
     runEnded = true;
 }
 
-/** The page has come in; true when it was the last one and the run has ended with it. */
+/** The page has entered; true if it was the last one, which ends the run. */
 bool animationRealization::HandOver(int& counter)
 {
     counter = 0;

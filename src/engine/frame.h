@@ -9,20 +9,20 @@ namespace HNodeAnimationText {
 /*
  * The frame that all effects share, as members of the engine.
  *
- * A frame collects the glyphs of the page in textPath, paints them in one go, writes the picture
- * once and advances a counter; at the end of its movement the page is handed over. An effect is its
+ * A frame collects the glyphs of the page in textPath, paints them together, writes the picture
+ * once and advances a counter. At the end of its movement the page is handed over. An effect is a
  * formula:
  *
  *     DrawPage([&](int j) {                 // for every character of the page
- *         transform.scale(...);             // shape the glyph about its origin
+ *         transform.scale(...);             // shape the glyph around its origin
  *         AddShapedGlyph(j, RestX(j), RestY(j));
  *     });
  *     Advance(moveOffset, stepSize);
  *     if (moveOffset >= 361)
  *         HandOver(moveOffset);
  *
- * Glyphs overlap by the odd-even rule, for they share one path. A picture without pixels paints
- * nothing and the counters advance all the same.
+ * Glyphs overlap by the odd-even rule, because they share one path. For a picture without pixels
+ * nothing is painted, but the counters advance.
  */
 
 /** Frame bracket and loop: calls @p shape with each character of the page, transform reset. */
@@ -41,13 +41,13 @@ void animationRealization::DrawPage(const Shape& shape)
 
 /**
  * The page's characters whose turn has come, each a step behind its left neighbor: calls @p shape
- * with the character and its phase. The turn goes by position whatever the step, so with larger
- * steps some join before their phase is positive.
+ * with the character and its phase. The turn depends on the position, not on the step, so with
+ * larger steps some start before their phase is positive.
  */
 template <typename Shape>
 void animationRealization::DrawInTurn(const Shape& shape)
 {
-    // Not by DrawPage(): GCC 4.7 may break off at a lambda that calls members within a template.
+    // Repeats DrawPage(): GCC 4.7 can crash on a lambda that calls members inside a template.
     if (!BeginFrame())
         return;
     const int start = PageStart();
@@ -86,19 +86,19 @@ inline int animationRealization::PageLength() const
     return PageEnd() - PageStart();
 }
 
-/** Of the page's characters together. */
+/** Of all characters of the page. */
 inline double animationRealization::PageWidth() const
 {
     return pageOffsets.value(pageIndex) - pageOffsets.value(pageIndex - 1);
 }
 
-/** Where character j stands once the page is in place: the page begins at the left edge. */
+/** The final x of character j: the page begins at the left edge. */
 inline int animationRealization::RestX(int j) const
 {
     return charPositions.value(j) - pageOffsets.value(pageIndex - 1);
 }
 
-/** The resting baseline. Each half is truncated by itself, so odd sizes rest half a pixel high. */
+/** The resting baseline. Each half is truncated separately, so odd sizes rest half a pixel high. */
 inline int animationRealization::RestY(int j) const
 {
     return FrameHeight() / 2 + maxTextHeight / 2 - charDescents.value(j);
@@ -110,7 +110,7 @@ inline double animationRealization::ExactY(int j) const
     return FrameHeight() * 0.5 + maxTextHeight * 0.5 - charDescents.value(j);
 }
 
-/** The x of character j in a page that is stretched about its center. */
+/** The x of character j in a page that is stretched around its center. */
 inline double animationRealization::GatherX(int j, double stretch) const
 {
     const double center = PageWidth() * 0.5;

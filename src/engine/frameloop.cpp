@@ -1,4 +1,4 @@
-// What a tick does: lets it pass, paints the next frame of the effect, or holds the finished page.
+// What a tick does: nothing, paint the next frame of the effect, or hold the finished page.
 #include "engine/animationrealization.h"
 
 #include "device/device.h"
@@ -11,7 +11,7 @@ namespace HNodeAnimationText {
 
 namespace {
 
-// Speeds are 0 .. 9. What lies outside slows down or hurries up, within what counters can hold.
+// Speeds are 0 to 9. Others are slower or faster, as far as the counters allow.
 const qint64 maxTicksPerFrame = 1 << 24;
 const qint64 maxStep = 1 << 16;
 
@@ -46,7 +46,7 @@ void animationRealization::PrepareImage()
     const qint64 ticks = qMin(qint64(6) - speed, maxTicksPerFrame);
     if (tickCounter % ticks == 0 || IsScrolledByDevice(effectType, continueStyle)) {
         stepSize = 1;
-        // From 2, not 1: at these speeds every hold after the first is one visit shorter.
+        // From 2, not 1: at these speeds every hold after the first is one tick shorter.
         DrawOrHold(ticks, 2);
     }
     tickCounter = Successor(tickCounter);
@@ -96,7 +96,7 @@ void animationRealization::WrapLayer()
         layer = QImage(layerBuffer, size.width(), size.height(), imageFormat);
     const qint64 bytes = qint64(layer.bytesPerLine()) * layer.height();
     if (layer.isNull() || (layerBytes >= 0 && bytes > layerBytes)) {
-        // The device has no buffer for this frame. The motion goes on as if it had one.
+        // The device has no buffer for this frame. The motion continues as if it had one.
         drawImage = NewCanvas(size, imageFormat);
         return;
     }
@@ -190,7 +190,7 @@ void animationRealization::AddHeldPage()
             AddGlyph(k, charPositions.value(k) - offset, middle - charDescents.value(k) + half);
         return;
     }
-    // Pages that are counted from the end of the text stand at the right edge.
+    // Pages that are counted from the end of the text are aligned to the right edge.
     const int right = drawImage.width() - offset - charWidths.value(first);
     for (int k = first; k > bound; --k)
         AddGlyph(k, right + charPositions.value(k), middle - charDescents.value(k) + half);

@@ -13,13 +13,13 @@ namespace HNodeAnimationText {
 
 namespace {
 
-// A column repeats as often as the area is high. Where its heights add up to next to nothing, a
-// frame would take very long: so many characters beyond the text are looked at, and so many
+// A column repeats until the area is full. If its heights add up to almost nothing, a frame would
+// take very long. These limit the characters beyond the text that are visited, and that are
 // painted.
 const int mostRepeated = 1 << 20;
 const int mostRepainted = 4096;
 
-// Negative heights lead a column away; from here on it does not come back into the picture.
+// Negative heights move a column away; from here on it does not return to the picture.
 const int columnEnd = 1 << 29;
 
 } // namespace
@@ -31,7 +31,7 @@ void animationRealization::ContinueEffectLeft()
 
 void animationRealization::ContinueEffectRight()
 {
-    DrawLine(); // the direction lies in the device's scroll code alone
+    DrawLine(); // the device's scroll code alone sets the direction
 }
 
 void animationRealization::DrawLine()
@@ -74,7 +74,7 @@ void animationRealization::DrawTail(int first, int end)
         return;
     auxPath.Clear();
     for (int k = first; k < end; ++k) {
-        // Where widths are negative, a character may stand before the tail: it is painted already.
+        // With negative widths, a character may be before the tail; it is already painted.
         if (charPositions.value(k) > lastPaintableX)
             auxPath.Append(GlyphOf(k).Shape(), float(charPositions.value(k) - start),
                            float(RestY(k)));
@@ -82,7 +82,7 @@ void animationRealization::DrawTail(int first, int end)
     TextCanvas tailCanvas;
     tailCanvas.SetSize(tail.width(), tail.height());
     tailCanvas.DrawPath(auxPath);
-    // White and filled, whatever the text is: the tail has always been so.
+    // White and filled, whatever the text's style: the device's tail always was.
     tailCanvas.Write(qRgb(255, 255, 255), PictureOf(tail));
 
     // Right-aligned by bytes: rows of 24 bits are padded, so this is not a distance in pixels.
@@ -93,8 +93,8 @@ void animationRealization::DrawTail(int first, int end)
 }
 
 /**
- * How many characters of the column a frame may look at. Heights that add up to nothing would never
- * end, so that is once all of them.
+ * How many characters of the column a frame may look at. If heights add up to nothing,
+ * the column would never end, so each is visited once.
  */
 int animationRealization::ColumnLength() const
 {
@@ -162,7 +162,7 @@ void animationRealization::AdvanceColumn()
 {
     Advance(charIndex, stepSize);
     progressF = progressF + float(stepSize);
-    // Back to where the repeated text stands just as the first copy stood.
+    // Back to where the repeated text is exactly where the first copy was.
     if (charIndex >= FrameHeight() + totalHeight)
         charIndex = FrameHeight();
     if (progressF >= float(totalHeight)) {

@@ -1,4 +1,4 @@
-// What text is filled and outlined with.
+// Fill and outline of the text.
 #include "engine/animationrealization.h"
 
 #include "node/attribute.h"
@@ -18,8 +18,8 @@ void animationRealization::DrawInit()
 
 void animationRealization::SetPainterBrush(int)
 {
-    // The first character's color serves for all. Gradient, stroke and picture fill belong to the
-    // dazzle background; the text keeps its plain color.
+    // The first character's color is used for all. Gradient, stroke and picture fill belong to the
+    // dazzle background.
     textColor = (node ? node->GetTextColor(0) : QColor(255, 0, 0)).rgba();
     canvas.SetHollow(hollow == 1);
     canvas.SetTranslucent(qAlpha(textColor) < 255);

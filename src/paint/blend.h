@@ -47,7 +47,7 @@ inline uint32_t Blended(uint32_t over, uint32_t under)
     return Unpremultiplied(over + TimesByte(Premultiplied(under), 255 - alpha));
 }
 
-/** The pixel at @p at as 0xAARRGGBB; without an alpha of its own it is opaque. */
+/** The pixel at @p at as 0xAARRGGBB; opaque if the format has no alpha. */
 inline uint32_t LoadPixel(Picture::Format format, const unsigned char* at)
 {
     uint32_t argb;

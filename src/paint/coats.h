@@ -41,7 +41,7 @@ public:
     size_t Bytes() const { return counts.capacity(); }
 
 private:
-    static const int most = 255; // a color changes no more long before
+    static const int most = 255; // a color stops changing long before
 
     size_t Index(int x, int y) const
     {

@@ -11,7 +11,7 @@ const int linearStops = 40;
 const int circularStops = 30;
 
 // Qt's painter, which painted these gradients before, has 1024 colors for each and takes the one at
-// the rounded 1023rd part of the way. The same is done here, so that signs look as they did.
+// the rounded 1023rd part of the way. So does this code, so signs look the same.
 const int lastColor = DazzleMap::steps - 1;
 
 // It counts along a linear gradient in 1/256 of a color, and truncates what a pixel adds.

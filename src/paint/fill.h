@@ -34,7 +34,7 @@ public:
      * is far out.
      */
     void Add(const Outline& outline, const Point* points, const Bounds& box);
-    /** Inverts all in @p plane that is inside of what was taken, and takes anew. */
+    /** Inverts the inside of the collected outlines in @p plane, and starts a new collection. */
     void InvertInside(Plane& plane);
 
     size_t Bytes() const;

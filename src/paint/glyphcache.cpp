@@ -215,7 +215,7 @@ const Bounds* GlyphCache::FindShape(const TextPath::Item& item)
     if (known.number != item.number || !(known.transform == item.shape)) {
         if (nextShape > mostShapes) {
             nextShape = 0;
-            ForgetImages(); // the numbers of shapes begin anew
+            ForgetImages(); // shapes are numbered from the start again
         }
         known.number = item.number;
         known.glyph = nextShape++ << 1 | 1;
@@ -261,7 +261,7 @@ GlyphCache::Entry& GlyphCache::EntryLookedFor()
 {
     const bool isFull = entered >= entries.size() && entries.size() < mostEntries;
     if (isFull) {
-        // The larger table begins empty: what is in use is entered again within a few frames.
+        // The larger table begins empty; entries in use return within a few frames.
         const Entry none = {0, 0, 0, noDirection, 0, neverSeen};
         entries.assign(std::max(fewestEntries, 4 * entries.size()), none);
         entered = 0;
@@ -275,7 +275,7 @@ GlyphCache::Entry& GlyphCache::EntryLookedFor()
     for (size_t i = 0; i < entriesInRow; ++i)
         if (row[i].IsSamePlace(lookedFor))
             return row[i];
-    // The oldest of the row gives way.
+    // Replace the oldest of the row.
     std::copy_backward(row, row + entriesInRow - 1, row + entriesInRow);
     row[0] = lookedFor;
     row[0].image = neverSeen;
@@ -330,7 +330,7 @@ const GlyphCache::Image& GlyphCache::Keep(const Plane& inside, const Plane& hair
     return images[static_cast<size_t>(number)];
 }
 
-/** The number of an equal image that is kept already; else of this one, kept from now on. */
+/** The number of an equal kept image; otherwise of this one, which is kept from now on. */
 int GlyphCache::NumberOf(const Image& image)
 {
     for (size_t i = 0; i < images.size(); ++i)

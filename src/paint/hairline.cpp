@@ -1,6 +1,6 @@
-// A line is painted pixel by pixel along its long axis. What makes it more than that is where lines
-// meet: a pixel painted twice is left out and one that is missing is added, by looking at the pixel
-// that the line before ended with.
+// A line is painted pixel by pixel along its long axis. Where lines meet, a pixel that would be
+// painted twice is dropped and a missing one is added, depending on the last pixel of the previous
+// line.
 #include "paint/hairline.h"
 
 #include <algorithm>
@@ -109,7 +109,7 @@ inline bool Hairline::Trace::FindPixels()
     end = (a2 + 32) >> 6;
     if (begin == end)
         return false;
-    // A short division where it will do.
+    // A short division where it is enough.
     if (Magnitude(rise) <= 0x7fff)
         step = rise * 65536 / length;
     else
@@ -265,7 +265,7 @@ bool Hairline::ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, f
 /** In float, so that numbers stay small. True when nothing is left. */
 bool Hairline::Clip(Point& a, Point& b)
 {
-    // Most lines are inside as they are.
+    // Most lines are inside already.
     if (IsInside(a) && IsInside(b))
         return false;
     if (ClipAxis(a.x, a.y, b.x, b.y, left, right) || ClipAxis(a.y, a.x, b.y, b.x, top, bottom)) {
@@ -338,7 +338,7 @@ void Hairline::PaintClipped(const Trace& trace, int32_t end)
 
 __attribute__((always_inline)) inline void Hairline::Paint(const Trace& trace)
 {
-    // A line that lost its only pixel paints one all the same: the device paints before it asks.
+    // A line that lost its only pixel still paints one: the device paints before it checks.
     const int32_t end = std::max(trace.end, trace.begin + 1);
     int32_t across = trace.across;
     if (coats ||

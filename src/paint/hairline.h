@@ -13,7 +13,8 @@ namespace HNodeAnimationText {
 /** Where a line goes along its long axis. */
 enum Direction { Downward, Upward, Rightward, Leftward };
 
-/** The outline of outlines: the device's pen of width 0, with its caps and its drop-out control. */
+/** Strokes outlines one pixel wide: the device's pen of width 0, with its caps and drop-out
+ * control. */
 class Hairline
 {
 public:

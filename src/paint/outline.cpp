@@ -68,7 +68,7 @@ bool Outline::IsWellFormed() const
 
 bool Outline::IsFinite() const
 {
-    // Sums of zeros unless a coordinate is infinite or no number.
+    // Sums of zeros unless a coordinate is infinite or not a number.
     float x = 0;
     float y = 0;
     for (size_t i = 0; i < elements.size(); ++i) {

@@ -8,8 +8,8 @@ namespace Lw {
 namespace HNodeAnimationText {
 
 /**
- * A path of lines and cubic curves in pixels, computed in float as on the device. It is what
- * QPainterPath is there: the same elements, the same answer to an empty path or a trailing move.
+ * A path of lines and cubic curves in pixels, computed in float as on the device. It behaves
+ * like QPainterPath there: the same elements, the same result for an empty path or a trailing move.
  */
 class Outline
 {
@@ -34,15 +34,16 @@ public:
     void LineTo(float x, float y) { Add(x, y, Line); }
     void CurveTo(float x1, float y1, float x2, float y2, float x, float y);
 
-    /** Takes over @p other, moved by (@p dx, @p dy); the fill rule stays. Itself is no @p other. */
+    /** Takes over @p other, moved by (@p dx, @p dy); the fill rule stays. @p other is another
+     * outline. */
     void Append(const Outline& other, float dx = 0, float dy = 0);
     Outline Translated(float dx, float dy) const;
 
-    /** Nothing in it but at most a move. */
+    /** Empty, or only a move. */
     bool IsEmpty() const;
-    /** The elements begin with a move and curves are whole: what may be painted. */
+    /** The elements begin with a move and curves are complete, so it can be painted. */
     bool IsWellFormed() const;
-    /** No coordinate is infinite or no number. */
+    /** All coordinates are finite numbers. */
     bool IsFinite() const;
     void Clear();
 

@@ -7,7 +7,7 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-/** Somebody's pixels, in one of the two formats that the device's layers have. */
+/** A view of pixels in one of the two formats of the device's layers. */
 struct Picture
 {
     enum Format {

@@ -28,7 +28,7 @@ public:
     {
     }
 
-    /** Forgets what was painted. */
+    /** Removes all ink. */
     void SetSize(int w, int h);
     void Clear();
 
@@ -48,16 +48,16 @@ public:
     bool Has(int x, int y) const { return Row(y)[x / wordBits] >> (x % wordBits) & 1; }
     /** Columns @p begin up to but without @p end. */
     void SetRun(int y, int begin, int end);
-    /** All that @p other has, too. Both have the same size. */
+    /** Adds the ink of @p other, which has the same size. */
     void Unite(const Plane& other);
-    /** What @p other has is inverted. */
+    /** Inverts the pixels where @p other has ink. */
     void Invert(const Plane& other);
 
-    /** Whoever sets bits says in which rows: @p top up to but without @p bottom. */
+    /** Call after setting bits in rows @p top to @p bottom - 1. */
     void MarkRows(int top, int bottom);
-    /** Rows without ink lie before this one ... */
+    /** First row with ink. */
     int InkTop() const { return inkTop; }
-    /** ... and from this one on. */
+    /** Row after the last with ink. */
     int InkBottom() const { return inkBottom; }
 
     size_t Bytes() const { return words.capacity() * sizeof(Word); }

@@ -8,7 +8,7 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-/** As Qt tells it of a float: within 1e-5. */
+/** As Qt compares a float with 0: within 1e-5. */
 inline bool NearlyZero(float v)
 {
     return std::fabs(v) <= 0.00001f;
@@ -40,7 +40,7 @@ struct Bounds
     template <typename T>
     Bounds(const T* points, size_t count);
 
-    /** Beyond what the device's fill computes with: it cuts the outline to the picture first. */
+    /** Outside the range of the device's fill, which clips such an outline to the picture first. */
     bool AreFar() const;
 };
 

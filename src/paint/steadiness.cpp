@@ -1,6 +1,6 @@
-// A glyph that moves by whole pixels has the same coordinates behind the point, but floats round
-// them differently at different places. How far a coordinate may be off is told in units of half
-// the distance between two neighboring floats just below the largest coordinate.
+// A glyph that moves by whole pixels keeps the fractions of its coordinates, but floats round them
+// differently at different places. The error of a coordinate is counted in units of half the
+// distance between two neighboring floats just below the largest coordinate.
 #include "paint/steadiness.h"
 
 #include "paint/curves.h"
@@ -15,14 +15,14 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const float farthest = 1 << 15;   // of coordinates that are looked at
+const float farthest = 1 << 15;   // of coordinates that are checked
 const float everywhere = 1 << 24; // from here on floats do not even hold all whole numbers
 const float units = 1 << 25;      // in the largest coordinate
 
 /** How far out floats hold what lies in such a place behind the point. */
 float ExactWithin(double v)
 {
-    const double finest = 1 << 20; // a pixel's parts that are looked at
+    const double finest = 1 << 20; // parts of a pixel that are checked
     const int64_t bits = static_cast<int64_t>(v * finest);
     if (double(bits) != v * finest)
         return 0;

@@ -18,7 +18,7 @@ bool IsPaintable(const Outline& path)
     return !path.IsEmpty() && path.IsWellFormed() && path.IsFinite();
 }
 
-/** How far from the origin points lie at most that lay so far from it before. */
+/** Upper bound of |x|, |y| after mapping points within `reach`. */
 Point ReachThrough(const Transform& t, const Point& reach)
 {
     const Point mapped = {
@@ -40,7 +40,7 @@ bool IsNear(const TextPath::Item& item, const Transform& painterTransform)
     return reach.x <= nearEnough && reach.y <= nearEnough;
 }
 
-/** Whether the glyph, painted by itself, looks as it does in a path with others. */
+/** Whether the glyph painted alone looks the same as in a path with others. */
 bool IsIndependent(const TextPath::Item& item)
 {
     return item.glyph->IsClosed() && IsNear(item, Transform());
@@ -284,7 +284,7 @@ bool TextCanvas::IsOutside(const Bounds& box) const
            box.top > float(picture.bottom + 1) || box.bottom < float(picture.top - 1);
 }
 
-/** Of the glyph whose points are there. */
+/** Strokes the glyph whose points are in `points`. */
 void TextCanvas::PaintHairline(const Outline& outline, const Bounds& box, Plane& plane,
                                Direction& direction)
 {
@@ -294,7 +294,7 @@ void TextCanvas::PaintHairline(const Outline& outline, const Bounds& box, Plane&
     direction = hairline.LastDirection();
 }
 
-/** What is kept of the glyph, now or already; without an image where it has to be painted. */
+/** The cache entry of the glyph; without an image, the glyph must be painted. */
 GlyphCache::Finding TextCanvas::FindOrKeep(const TextPath::Item& item, bool isWinding,
                                            Direction direction)
 {

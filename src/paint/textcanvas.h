@@ -16,7 +16,7 @@ namespace HNodeAnimationText {
 
 /**
  * A frame of text in one color. Paints what the device's QPainter paints without antialiasing, with
- * a brush and a pen of width 0 in that color, and writes it to a picture in one go.
+ * a brush and a pen of width 0 in that color, and writes it to a picture once.
  *
  *     canvas.SetSize(width, height);
  *     canvas.Clear();                      // for each frame
@@ -24,8 +24,8 @@ namespace HNodeAnimationText {
  *     canvas.DrawGlyph(inFlight);
  *     canvas.Write(argb, picture);
  *
- * Glyphs are painted one by one and kept for other frames where the pixels are those of the whole
- * path, painted anew; else that is what is painted.
+ * Glyphs are painted one by one and cached where that equals painting the whole path; elsewhere the
+ * whole path is painted.
  */
 class TextCanvas
 {
@@ -42,15 +42,15 @@ public:
     /** Hollow text has its outline only. From the next path on. */
     void SetHollow(bool hollow);
     /**
-     * Text in a color that lets through what is under it: each path is painted on the ones before
-     * it, and nothing is kept. For one frame, before anything is drawn.
+     * Translucent text: each path is blended over the ones before it, and nothing is cached. For
+     * one frame, before anything is drawn.
      */
     void SetTranslucent(bool translucent);
     /** Only this rectangle is painted from now on, as after QPainter::setClipRect(). */
     void SetClip(const Box& rectangle);
     void ResetClip();
 
-    /** Glyphs are told apart by their numbers until this is called. */
+    /** Forgets the numbers of the glyphs, by which they are cached. */
     void ForgetGlyphs() { cache.Forget(); }
 
     /** Fill, then outline, as one path. Not finite or not well formed: paints nothing. */
@@ -71,7 +71,7 @@ public:
 
     /** The frame's pixels with ink. */
     const Plane& Ink();
-    /** What the canvas holds, in bytes. */
+    /** The memory of the canvas, in bytes. */
     size_t Bytes() const;
 
 private:

@@ -20,7 +20,7 @@ public:
     void translate(float dx, float dy);
     void scale(float sx, float sy);
     void shear(float sh, float sv);
-    /** By @p degrees about the origin, clockwise on a picture. */
+    /** By @p degrees around the origin, clockwise on a picture. */
     void rotate(float degrees);
 
     /** In place. */
@@ -32,7 +32,7 @@ public:
 
     /** Points stay where they are. */
     bool IsIdentity() const { return kind() == None; }
-    /** No element is infinite or no number. */
+    /** All elements are finite numbers. */
     bool IsFinite() const;
     /** Maps points the same way, bit for bit. */
     bool operator==(const Transform& other) const;
