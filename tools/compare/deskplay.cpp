@@ -10,7 +10,7 @@ namespace AnimText {
 
 namespace {
 
-// A play that has come to its end asks nothing of the device any more.
+// A play that has ended makes no more calls.
 constexpr int longestSilence = 100000; // ticks
 
 void DropEnd(Recording* recorded)
@@ -32,7 +32,7 @@ bool IsAsLong(const Recording& desk, const Recording& recorded)
     return true;
 }
 
-/** What follows the last call of a session that is recorded belongs to the time after it. */
+/** Calls after the last recorded call of a session came after the recording. */
 void CutTo(const Recording& recorded, Recording* desk)
 {
     for (int i = 1; i < desk->sessions.size(); ++i)

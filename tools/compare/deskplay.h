@@ -1,6 +1,6 @@
 /**
  * @file
- * A scene played on the desk as long as a recording goes.
+ * A scene played on the desktop for the length of a recording.
  */
 #ifndef ANIMTEXT_DESKPLAY_H
 #define ANIMTEXT_DESKPLAY_H
@@ -22,9 +22,9 @@ struct PicturePlace
 };
 
 /**
- * Records what the plugin does with @p scene until there are as many calls as in @p recorded. What
- * a host ends a text with is not waited for: @p recorded loses it.
- * @param goOn    asked at every tick; false breaks off
+ * Records what the plugin does with @p scene until there are as many calls as in @p recorded. The
+ * calls with which a host ends a text are removed from @p recorded.
+ * @param goOn    called at every tick; false stops
  * @param wanted  the place of a picture that @p picture is set to
  */
 bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,

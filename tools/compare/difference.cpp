@@ -19,7 +19,7 @@ QString Text(const QJsonValue& value)
     return QString::fromUtf8(list.mid(1, list.size() - 2));
 }
 
-/** The first argument that differs, or what of a record does. */
+/** The first argument, or member of a record, that differs. */
 QString Difference(const QString& prefix, const QJsonObject& a, const QJsonObject& b,
                    const QString& nameA, const QString& nameB)
 {
@@ -77,7 +77,7 @@ public:
         return parting;
     }
 
-    /** How often a host asks is its own affair; what it is answered is not. */
+    /** How often a host asks may differ; what the calls return may not. */
     Parting Durations() const
     {
         const auto question = [](RecordedCall call) {

@@ -1,6 +1,6 @@
 /**
  * @file
- * Where two recordings first part.
+ * The first difference between two recordings.
  */
 #ifndef ANIMTEXT_DIFFERENCE_H
 #define ANIMTEXT_DIFFERENCE_H
@@ -16,7 +16,7 @@ struct Parting
     Kind kind = Kind::None;
     int session = 0; ///< 0: a call that concerns no session
     int call = 0;    ///< its index in the session
-    qint64 ms = 0;   ///< when it was in the recording that went on
+    qint64 ms = 0;   ///< its time in the recording that continues
     QString words;   ///< what differs, on one line
 };
 

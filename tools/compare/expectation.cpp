@@ -14,7 +14,7 @@ bool SamePicture(const NodeTick& a, const NodeTick& b)
     return a.sha1.left(digits) == b.sha1.left(digits);
 }
 
-/** All of it but the pictures. */
+/** Everything except the pictures. */
 bool SamePlay(const Ticks& a, const Ticks& b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),

@@ -1,6 +1,6 @@
 /**
  * @file
- * What scenes are expected to show, tick by tick, and how much of it they do.
+ * What scenes are expected to show, tick by tick, and how much of it is equal.
  */
 #ifndef ANIMTEXT_EXPECTATION_H
 #define ANIMTEXT_EXPECTATION_H

@@ -44,7 +44,7 @@ bool ReadPam(const QString& path, QImage* picture, QString* error)
 QImage DifferenceOf(const QImage& a, const QImage& b)
 {
     const QSize size = a.size().expandedTo(b.size());
-    // Where one is smaller the other stands alone.
+    // Where one is smaller, only the other shows.
     const QImage first = a.copy(QRect(QPoint(0, 0), size)).convertToFormat(QImage::Format_ARGB32);
     const QImage second = b.copy(QRect(QPoint(0, 0), size)).convertToFormat(QImage::Format_ARGB32);
     QImage difference(size, QImage::Format_RGB32);

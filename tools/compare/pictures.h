@@ -1,6 +1,6 @@
 /**
  * @file
- * Two pictures that should be the same, for people to look at.
+ * Shows the difference between two pictures.
  */
 #ifndef ANIMTEXT_PICTURES_H
 #define ANIMTEXT_PICTURES_H
@@ -10,7 +10,7 @@
 
 namespace AnimText {
 
-/** Reads a picture that librecord kept. On failure answers false, and @p error is one line. */
+/** Reads a picture that librecord kept. On failure returns false and sets @p error to one line. */
 bool ReadPam(const QString& path, QImage* picture, QString* error);
 
 /** Both pictures dimmed, with what only @p a has in red, and what only @p b has in green. */

@@ -9,7 +9,7 @@ namespace AnimText {
 
 namespace {
 
-/** A call's own arguments and result. */
+/** The arguments and the result of a call. */
 QJsonObject Told(QJsonObject line)
 {
     for (const char* key :
@@ -80,7 +80,7 @@ void RecordingReader::TakeCall(const QJsonObject& line, int number, qint64 ms, c
     Session(index).append(call);
 }
 
-/** What a trace says of a tick belongs to the calls that it told before. */
+/** A trace's line of a tick belongs to the calls before it. */
 void RecordingReader::TakeTick(const QJsonObject& line, int number)
 {
     const qint64 ms = line.value(QStringLiteral("ms")).toInt();
@@ -130,7 +130,7 @@ void DropStop(Recording* recording)
         return call.name == QLatin1String("RemovePictureSession") ||
                call.name == QLatin1String("FreePictureSession");
     };
-    int last = 0; // line of a call that is not a part of the stop
+    int last = 0; // line of a call that is not part of the stop
     for (const QVector<RecordedCall>& session : recording->sessions) {
         for (const RecordedCall& call : session)
             last = ends(call) ? last : std::max(last, call.line);

@@ -1,7 +1,6 @@
 /**
  * @file
- * What a plugin asked of the device, call by call, as librecord or `animtext trace --calls` wrote
- * it down.
+ * The calls of a plugin to the device, as librecord or `animtext trace --calls` wrote them.
  */
 #ifndef ANIMTEXT_RECORDING_H
 #define ANIMTEXT_RECORDING_H
@@ -21,9 +20,9 @@ struct RecordedCall
     int line = 0;       ///< of the file; 0 when it was recorded just now
     qint64 ms = -1;     ///< when; -1 unknown
     QString name;       ///< of the function; "picture" for a picture alone
-    QJsonObject told;   ///< arguments and result, without the handles, which no two runs share
+    QJsonObject told;   ///< arguments and result, without handles, which differ in every run
     QString sha1;       ///< of the picture that was handed over; empty unknown
-    QString background; ///< of the dazzle background after this tick, told at its last call
+    QString background; ///< of the dazzle background after this tick, in its last call
     int pixels = -1;    ///< the number of the file that has its pixels; -1 none
 };
 
@@ -43,9 +42,9 @@ struct Recording
 class RecordingReader
 {
 public:
-    /** Takes a line of JSON. @return false when it is none of a recording's */
+    /** Takes a line of JSON. @return false if it is not from a recording */
     bool Take(const QByteArray& line, int number);
-    /** The same for a call with what its line does not tell. */
+    /** The same for a call, with what its line does not have. */
     void TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1);
 
     /** The background's SHA-1 at the end of the tick at @p ms; empty without one. */
@@ -63,11 +62,11 @@ private:
 
 /**
  * Removes the calls at the end of @p recording with which a host that stops ends its sessions, and
- * remembers these sessions. When a host stops is its own affair, and a trace has no such calls.
+ * remembers these sessions. Hosts stop at any time, and a trace has no such calls.
  */
 void DropStop(Recording* recording);
 
-/** Reads the file @p path. On failure answers false, and @p error is one line. */
+/** Reads the file @p path. On failure returns false and sets @p error to one line. */
 bool ReadRecording(const QString& path, Recording* recording, QString* error);
 
 } // namespace AnimText

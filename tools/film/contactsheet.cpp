@@ -36,7 +36,7 @@ QFont Font(int pixels, bool bold)
 
 } // namespace
 
-/** The same for all rows: as large as the widest of them can have it. */
+/** One scale for all rows, as large as the widest row allows. */
 QSize ContactSheet::FrameSize() const
 {
     const bool two = rows.size() > rowsInOneColumn;
@@ -60,7 +60,7 @@ void ContactSheet::DrawRow(QPainter* painter, const SheetRow& row, QPoint corner
         painter->setFont(font);
         painter->setPen(ink);
         const QFontMetrics metrics = painter->fontMetrics();
-        // Letters of all sizes stand on the same line.
+        // Letters of all sizes have the same baseline.
         painter->drawText(line.left(), line.bottom() - 7,
                           metrics.elidedText(text, Qt::ElideRight, line.width()));
         if (!text.isEmpty())

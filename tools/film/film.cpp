@@ -60,7 +60,7 @@ int Film::PlannedFrames(const QVector<NodePlay>& plays)
         }
         case Ending::ScrollsOn: {
             const qint64 pass = ScrollPass(player->Scenery(), node);
-            // The picture after the last is the first again.
+            // The picture after the last one is the first.
             lastTick = std::max(lastTick, TicksOf(pass > 0 ? pass : animated->Duration()) - 1);
             break;
         }
@@ -141,7 +141,7 @@ QImage Film::Picture() const
 bool Film::Play(const QVector<int>& wanted,
                 const std::function<bool(int frame, const QImage&)>& take, QString* error)
 {
-    // Some of what a play changes outlives a restart, the dazzling colors for one.
+    // Some state outlives a restart, for example the dazzle colors.
     if (!player->Load(scene, error))
         return false;
     if (settings.schedule)
@@ -159,7 +159,7 @@ bool Film::Play(const QVector<int>& wanted,
     return true;
 }
 
-/** What has finished stands still from now on, if now is the time for it. */
+/** Freezes what has finished, once its last hold is over. */
 void Film::Rest()
 {
     if (player->Tick() != restTick)

@@ -14,29 +14,29 @@
 
 namespace AnimText {
 
-/** How a film is made of a play. */
+/** How to make a film from a play. */
 struct FilmSettings
 {
     double seconds = 0;            ///< how much to play; 0: to the end
     int scale = 1;                 ///< each pixel becomes a square of that many
     double pitch = 0;              ///< round LEDs, see AsLamps(); 0 for square pixels
     QColor background = Qt::black; ///< under the display; invalid: none
-    bool schedule = false;         ///< as the host plays it, by the times that it is told
-    bool restAtEnd = true;         ///< lets the last pages stand for one hold more
+    bool schedule = false;         ///< as the host plays it, by planned times
+    bool restAtEnd = true;         ///< holds the last pages once more
     bool evenSize = false;         ///< adds a column or row where a side is odd
     uint seed = standardSeed;
 };
 
-/** What is being done for a film. */
+/** The stages of making a film. */
 enum class FilmStage { End, Colors, Pictures };
 
-/** Learns how much is done and, where that is known, of how much; returns false to stop. */
+/** Receives the progress and, if known, the total; returns false to stop. */
 using FilmWatch = std::function<bool(FilmStage stage, qint64 done, qint64 total)>;
 
 /**
- * To the end means: until every node has reported itself finished, and then the pages that stand
- * there for one hold more; a text that the device scrolls, once through its area; a text that
- * stands still, for as long as the host gives it. By the host's schedule it is one showing.
+ * To the end means: until every node is finished and its last page was held once more; a text that
+ * the device scrolls, once through its area; a still text, for its planned time. With the host's
+ * schedule it is one showing.
  */
 class Film
 {
@@ -50,16 +50,16 @@ public:
      */
     bool Plan(const FilmWatch& watch, QString* error);
 
-    /** Known once planned. */
+    /** Known after Plan(). */
     int FrameCount() const { return frameCount; }
     /** Of the pictures, in pixels. */
     QSize FrameSize() const;
-    /** Whether the pictures let through what lies behind them. */
+    /** Whether the pictures are transparent where there is no text. */
     bool IsTransparent() const { return !settings.background.isValid(); }
 
     /**
-     * Plays and gives the pictures @p wanted, which are in rising order, to @p take: in
-     * QImage::Format_ARGB32, or in Format_RGB32 where there is a background. Stops when it answers
+     * Plays and passes the pictures @p wanted, in rising order, to @p take: in
+     * QImage::Format_ARGB32, or in Format_RGB32 where there is a background. Stops when it returns
      * false.
      */
     bool Play(const QVector<int>& wanted, const std::function<bool(int frame, const QImage&)>& take,
@@ -77,7 +77,7 @@ private:
     FilmSettings settings;
     Schedule schedule;
     int frameCount = 0;
-    int restTick = -1;         // from here on, what has played stands still; negative: never
+    int restTick = -1;         // from here on, finished texts are frozen; negative: never
     QVector<bool> comesToRest; // by node
 };
 

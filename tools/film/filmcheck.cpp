@@ -49,7 +49,7 @@ bool ReadWebp(const QString& path, FilmFacts* facts, QString* error)
         whole = whole && at <= file.size();
     }
     if (!whole)
-        *error = QStringLiteral("what was written is no whole WebP file");
+        *error = QStringLiteral("what was written is not a complete WebP file");
     return whole;
 }
 
@@ -90,7 +90,7 @@ bool ReadFilmFacts(const QString& path, const QString& kind, const GoOn& goOn, F
 bool HasWholeFilm(const FilmFacts& facts, const FilmFormat& format, QString* error)
 {
     const double expected = double(format.frames) * tickLength;
-    // A still has no time; where pictures that are alike become one, the time still tells.
+    // A still has no time. Where equal pictures become one, the time shows it.
     const bool inTime =
         format.frames == 1 || std::abs(facts.milliseconds - expected) < tickLength * 0.9;
     if (facts.size == format.size && facts.frames > 0 && facts.frames <= format.frames && inTime)

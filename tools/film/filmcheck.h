@@ -9,11 +9,11 @@
 
 namespace AnimText {
 
-/** What there is in a film's file. */
+/** What a film's file contains. */
 struct FilmFacts
 {
     QSize size;
-    int frames = 0; ///< formats may keep pictures that are alike as one
+    int frames = 0; ///< formats may store equal pictures once
     double milliseconds = 0;
 };
 
@@ -24,7 +24,7 @@ struct FilmFacts
 bool ReadFilmFacts(const QString& path, const QString& kind, const GoOn& goOn, FilmFacts* facts,
                    QString* error);
 
-/** Whether these are the facts of a film like @p format; says on one line in @p error what not. */
+/** Whether the facts are those of @p format; otherwise @p error has one line on what differs. */
 bool HasWholeFilm(const FilmFacts& facts, const FilmFormat& format, QString* error);
 
 } // namespace AnimText

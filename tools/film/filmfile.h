@@ -1,6 +1,6 @@
 /**
  * @file
- * Where a film goes: a file or a folder that appears whole or not at all.
+ * The output of a film: a file or a folder that appears whole or not at all.
  */
 #ifndef ANIMTEXT_FILMFILE_H
 #define ANIMTEXT_FILMFILE_H
@@ -24,13 +24,13 @@ struct Palette
     bool IsExact() const { return !exact.Colors().isEmpty(); }
 };
 
-/** What is known of a film before its first picture. */
+/** What is known about a film before its first picture. */
 struct FilmFormat
 {
     QSize size;               ///< of every picture, in pixels
     int firstFrame = 0;       ///< the number of the first picture
     int frames = 0;           ///< how many pictures will come
-    bool transparent = false; ///< whether they let through what is behind them
+    bool transparent = false; ///< whether they have transparency
     bool lossless = false;    ///< every pixel as it is, for the formats that can
     /** Finds the palette, for the formats that have one. */
     std::function<bool(Palette* palette, QString* error)> findPalette{};
@@ -39,7 +39,7 @@ struct FilmFormat
 /** Asked now and then; false stops the work. */
 using GoOn = std::function<bool()>;
 
-/** Takes the pictures of a film in their order. What is not finished leaves nothing behind. */
+/** Takes the pictures of a film in their order. An unfinished film leaves nothing behind. */
 class FilmFile
 {
 public:
@@ -48,7 +48,7 @@ public:
     /** Each returns false on failure and sets @p error to one line that names the film. */
     virtual bool Open(const FilmFormat& format, QString* error) = 0;
     virtual bool Add(int frame, const QImage& picture, QString* error) = 0;
-    /** Looks at what was written and puts the whole film in its place. */
+    /** Checks what was written and moves the complete film to its place. */
     virtual bool Finish(QString* error) = 0;
 };
 

@@ -10,8 +10,8 @@ namespace AnimText {
 
 namespace {
 
-constexpr qint64 mostWaiting = 16 << 20; // bytes that the program has not taken yet
-constexpr int glance = 50;               // milliseconds from one look at the program to the next
+constexpr qint64 mostWaiting = 16 << 20; // bytes that the program has not read yet
+constexpr int glance = 50;               // milliseconds between two checks of the program
 
 } // namespace
 
@@ -57,7 +57,7 @@ bool FilmProgram::Start(const QString& program, const QStringList& words, const 
     return false;
 }
 
-/** A number that changes as long as the program gets on. */
+/** A number that changes while the program makes progress. */
 qint64 FilmProgram::Progress() const
 {
     return (output.isEmpty() ? 0 : QFileInfo(output).size()) - process.bytesToWrite() +
@@ -124,11 +124,11 @@ bool FilmProgram::Finish(QString* error)
     return false;
 }
 
-/** What says most of @p said, on one line. */
+/** The most telling part of @p said, on one line. */
 QString FilmProgram::Complaint(const QByteArray& said)
 {
     const QString name = QFileInfo(process.program()).fileName();
-    // What follows a full disk tells less of it.
+    // Later messages are consequences of a full disk.
     for (int cause : {ENOSPC, EFBIG, EDQUOT, EIO}) {
         if (said.contains(std::strerror(cause)))
             return QStringLiteral("%1 failed: %2").arg(name, std::strerror(cause));

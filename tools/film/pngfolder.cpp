@@ -12,7 +12,7 @@ namespace AnimText {
 
 namespace {
 
-/** The pictures of a film in @p folder. Other programs also call theirs so. */
+/** The pictures of a film in @p folder. Other programs use the same names. */
 QStringList Frames(const QDir& folder)
 {
     static const QRegularExpression frame(QStringLiteral("^frame-[0-9]{4,}\\.png$"));

@@ -14,9 +14,9 @@
 namespace AnimText {
 
 /**
- * The pictures are written into a folder beside the one they are for, which takes its place in the
- * end. A folder that is there already is replaced if it holds nothing but such pictures. Each file
- * has the number of its frame. They are compressed on all processors.
+ * The pictures are written into a temporary folder, which takes the place of the named one at the
+ * end. An existing folder is replaced if it holds only such pictures. Each file has the number of
+ * its frame. They are compressed on all processors.
  */
 class PngFolder : public FilmFile
 {
@@ -39,7 +39,7 @@ private:
     FilmFormat format;
     WholeFolder folder;
     std::deque<Page> waiting;
-    QImage last; // and what has become of it: pages that stand are compressed once
+    QImage last; // and its PNG: held pages are compressed once
     std::shared_future<QByteArray> lastPng;
 };
 

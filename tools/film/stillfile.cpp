@@ -36,7 +36,7 @@ QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
 
 bool IsOurPng(const QString& path)
 {
-    // libpng would complain aloud about a file that is damaged.
+    // libpng would print messages about a damaged file.
     QFile file(path);
     const QByteArray mark = QByteArrayLiteral("tEXtSoftware\0") + softwareMark.toLatin1();
     return file.open(QIODevice::ReadOnly) && file.read(largestHead).contains(mark);

@@ -11,7 +11,7 @@
 
 namespace AnimText {
 
-/** Whether a PNG is rather to be made fast, or to be small. */
+/** Whether a PNG is made quickly or small. */
 enum class PngEffort { Fast, Small };
 
 /** @p picture as a PNG; without transparency unless it is wanted. */

@@ -14,12 +14,12 @@ namespace AnimText {
 
 /**
  * ffmpeg takes the raw pictures on its standard input and writes under another name in the same
- * folder; the file gets its own name when what was written is seen to be the whole film.
+ * folder; the file gets its name when a check has found the complete film.
  */
 class VideoFile : public FilmFile
 {
 public:
-    /** @param patience milliseconds for which ffmpeg may stand still */
+    /** @param patience milliseconds for which ffmpeg may make no progress */
     VideoFile(const QString& path, const FilmKind& kind, const GoOn& goOn,
               int patience = FilmProgram::longestWait);
 
@@ -32,7 +32,7 @@ private:
     bool Named(bool done, QString* error) const;
 
     QString path;
-    QString target; // behind the links of path
+    QString target; // path with its links followed
     FilmKind kind;
     GoOn goOn;
     FilmFormat format;

@@ -21,8 +21,8 @@ struct WrittenFilm
 };
 
 /**
- * Plays a film that is planned, and writes some of its pictures. What was at @p path is replaced
- * when all of the film is there; whatever fails leaves it as it was.
+ * Plays a planned film and writes some of its pictures. The file at @p path is replaced when the
+ * film is complete; a failure leaves it unchanged.
  * @param range the first and the last picture
  * @param path of some FilmKind
  * @param isLossless keeps every pixel, where the kind can

@@ -12,7 +12,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-// Resources of a static library are there once somebody asks for them, outside of any namespace.
+// Resources of a static library must be initialized, outside of any namespace.
 static void LoadPage()
 {
     Q_INIT_RESOURCE(page);
@@ -27,7 +27,7 @@ namespace {
 constexpr int speedsInOrder[] = {5, 4, 3, 2, 1, 0, 6, 7, 8, 9};
 constexpr int posterSpeed = 5;
 
-/** Thrown where a step has failed and its reason is told already. */
+/** Thrown where a step has failed and has set its error. */
 struct BrokenOff
 {
 };

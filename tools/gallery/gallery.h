@@ -1,6 +1,6 @@
 /**
  * @file
- * A folder with a web page on which every motion is seen.
+ * A folder with a web page that shows every motion.
  */
 #ifndef ANIMTEXT_GALLERY_H
 #define ANIMTEXT_GALLERY_H
@@ -14,23 +14,23 @@
 
 namespace AnimText {
 
-/** What is shown, and by what. */
+/** What the gallery shows. */
 struct GalleryOptions
 {
     AuthorOptions text; ///< the motion and the speed are the gallery's own
-    QString words;      ///< the options that tell `animtext author` of this text
+    QString words;      ///< the options of `animtext author` for this text
     QString folder;     ///< where the gallery goes
     uint seed = standardSeed;
 };
 
-/** Told of how many plays are done; false breaks off. */
+/** Receives the number of finished plays; false stops. */
 using GalleryWatch = std::function<bool(int done, int all)>;
 
 /**
- * Lets the plugin play every motion at every speed and writes the folder, which needs no server.
- * @param player any scene that it has is replaced
+ * Plays every motion at every speed and writes the folder, which needs no server.
+ * @param player its scene is replaced
  * @param bytes  set to the size of all its files
- * @return false, with one line in @p error; a gallery that was there is then left as it was
+ * @return false, with one line in @p error; an existing gallery is then unchanged
  */
 bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWatch& watch,
                   qint64* bytes, QString* error);

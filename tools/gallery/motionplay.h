@@ -23,16 +23,16 @@ struct PictureRun
 struct MotionPlay
 {
     QVector<PictureRun> runs;
-    QVector<PageTime> pages; ///< none where the text is not cut into pages
+    QVector<PageTime> pages; ///< empty if the text is not cut into pages
     int ticks = 0;           ///< of all runs
-    qint64 told = 0;         ///< what the host is told that it takes, milliseconds
-    qint64 real = -1;        ///< what it took until it was finished; -1: the device scrolls on
+    qint64 told = 0;         ///< planned time, milliseconds
+    qint64 real = -1;        ///< actual time until it was finished; -1: the device keeps scrolling
 };
 
 /**
  * Plays @p scene, which has one text, from its start to its end, or once through its area where the
  * device scrolls it. Its pictures are added to @p sheets.
- * @param goOn asked at every tick; false breaks off
+ * @param goOn called at every tick; false stops
  * @return false, with one line in @p error, when it cannot be played
  */
 bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,

@@ -1,6 +1,6 @@
 /**
  * @file
- * Many small pictures of one size in a few large ones, as a web page shows them best.
+ * Packs many small pictures of one size into a few large ones, for a web page.
  */
 #ifndef ANIMTEXT_PICTURESHEETS_H
 #define ANIMTEXT_PICTURESHEETS_H
@@ -15,7 +15,7 @@
 
 namespace AnimText {
 
-/** Pictures that are alike are kept once. */
+/** Equal pictures are stored once. */
 class PictureSheets
 {
 public:
@@ -24,7 +24,7 @@ public:
 
     /** The number of @p picture, which is of the same size as all others. */
     int Add(const QImage& picture);
-    /** All sheets as PNGs; nothing can be added any more. */
+    /** All sheets as PNGs; nothing can be added after that. */
     QVector<QByteArray> Finish();
 
 private:

@@ -14,7 +14,7 @@ namespace AnimText {
 
 /**
  * One JSON object: "call", the arguments by their names in torvsdk.h, "result", and, when the call
- * came to nothing, "problem". Records are objects, "pixelWord" is text in hexadecimal, and a buffer
+ * had no effect, "problem". Records are objects, "pixelWord" is text in hexadecimal, and a buffer
  * is "buffer 0", "buffer 1" or null: the lines of two runs are the same.
  */
 QByteArray CallLine(const Torv::CallRecord& call);

@@ -1,6 +1,6 @@
 /**
  * @file
- * The node tree that a host would have built: program, page, area and the nodes that play.
+ * The node tree that a host would build: program, page, area and the nodes that play.
  */
 #ifndef ANIMTEXT_NODETREE_H
 #define ANIMTEXT_NODETREE_H
@@ -28,7 +28,7 @@ struct NodeTree
 };
 
 /**
- * Builds the tree of @p scene with nodes that @p plugin creates. On failure answers false, sets
+ * Builds the tree of @p scene with nodes that @p plugin creates. On failure returns false, sets
  * @p error to one line with the place in the scene, and @p tree is left as it was.
  */
 bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, QString* error);

@@ -1,6 +1,6 @@
 /**
  * @file
- * What the nodes of a scene give the display, tick by tick.
+ * What the nodes of a scene send to the display, tick by tick.
  */
 #ifndef ANIMTEXT_NODEWATCH_H
 #define ANIMTEXT_NODEWATCH_H
@@ -26,7 +26,7 @@ public:
     /** @param player is looked at as long as this lives */
     explicit NodeWatch(Player* player);
 
-    /** The tick at which the player is; asked for once in every tick from 0. */
+    /** The player's current tick; call it once in every tick from 0. */
     NodeTick Look(int node);
 
 private:

@@ -56,11 +56,11 @@ void Player::Start(const Schedule& schedule, uint seed)
 void Player::Begin()
 {
     tick = 0;
-    // What was made just now has not been shown before.
+    // New sessions were not visible before.
     swaps = QVector<qint64>(NodeCount(), 0);
     swapped = QVector<bool>(NodeCount(), false);
     CountSwaps();
-    // A text that the device scrolls comes with its session.
+    // A text that the device scrolls appears with its session.
     for (int node = 0; node < NodeCount(); ++node) {
         if (stage.Motion(node).IsSideways() && stage.Session(node))
             swapped[node] = true;

@@ -17,7 +17,7 @@ namespace AnimText {
 /** Milliseconds from one tick of the plugin's draw timer to the next. */
 constexpr int tickLength = 66;
 
-/** What random numbers start from unless told otherwise. */
+/** The default seed of random numbers. */
 constexpr uint standardSeed = 1;
 
 /**
@@ -37,13 +37,13 @@ public:
     void Start(uint seed = standardSeed);
     /** Tick 0 of a showing in which the host starts and stops the nodes as @p schedule says. */
     void Start(const Schedule& schedule, uint seed);
-    /** Goes on to the next tick. */
+    /** Advances to the next tick. */
     void Advance();
 
     int Tick() const { return tick; }
     qint64 Time() const { return qint64(tick) * tickLength; }
 
-    /** What the host is told that each node takes, milliseconds. */
+    /** The planned time of each node, milliseconds. */
     QVector<qint64> Durations() const;
 
     Stage& Scenery() { return stage; }

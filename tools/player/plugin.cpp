@@ -11,7 +11,7 @@ namespace AnimText {
 
 namespace {
 
-/** The first of @p places that is there, as seen from the program's folder; else the last. */
+/** The first existing one of @p places, relative to the program's folder; otherwise the last. */
 QString BesideProgram(const QStringList& places)
 {
     const QDir programs(QCoreApplication::applicationDirPath());
@@ -24,7 +24,7 @@ QString BesideProgram(const QStringList& places)
     return path;
 }
 
-/** Lets the plugin find the pictures that a device would have. */
+/** Shows the plugin where the device's pictures are on a desktop. */
 void OfferPictures()
 {
     const QString shipped = BesideProgram({QStringLiteral(INSTALLED_DATA "/pictures"),
@@ -43,8 +43,8 @@ void RemoveOutputFolder()
 }
 
 /**
- * Nodes make a folder for their host's output beside the program. On a desk nothing is put there:
- * where it was not before, it is gone afterwards.
+ * Nodes make a folder for their host's output beside the program. On a desktop nothing uses it, so
+ * a new one is removed again.
  */
 void LeaveNoOutputFolder()
 {
@@ -79,7 +79,7 @@ Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
     QPluginLoader loader(file.absoluteFilePath());
     QObject* object = loader.instance();
     if (!object) {
-        // Linkers tell of missing symbols on lines of their own.
+        // Linkers print missing symbols on separate lines.
         *error =
             QStringLiteral("%1 cannot be loaded: %2").arg(path, loader.errorString().simplified());
         return nullptr;
@@ -88,7 +88,7 @@ Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
     if (plugin)
         LeaveNoOutputFolder();
     else
-        *error = QStringLiteral("%1 is a plugin, but it brings no node type").arg(path);
+        *error = QStringLiteral("%1 is a plugin, but it has no node type").arg(path);
     return plugin;
 }
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * When the host plays what: by the times that it is told, not by those that the plays take.
+ * When the host plays what: by planned times, not by actual times.
  */
 #ifndef ANIMTEXT_SCHEDULE_H
 #define ANIMTEXT_SCHEDULE_H
@@ -23,7 +23,7 @@ struct Showing
 /**
  * One showing of a program: its pages follow one another, the areas of a page play side by side and
  * the nodes of an area in turn, each for its Duration(). A page ends with its longest area; the
- * last node of the others goes on until then. What is told to take no time is not shown.
+ * last node of the others continues until then. Nodes with a planned time of 0 are not shown.
  */
 struct Schedule
 {
@@ -31,18 +31,18 @@ struct Schedule
     qint64 length = 0;         ///< milliseconds
 };
 
-/** @param durations what each node's Duration() answers, milliseconds, in the order of the file */
+/** @param durations what each node's Duration() returns, milliseconds, in the order of the file */
 Schedule HostSchedule(const Scene& scene, const QVector<qint64>& durations);
 
 class Stage;
 
-/** Starts and stops the nodes of a stage as a schedule says, on anybody's clock. */
+/** Starts and stops the nodes of a stage as a schedule says, on any clock. */
 class ScheduledPlay
 {
 public:
     ScheduledPlay(Stage* stage, const Schedule& schedule, uint seed);
 
-    /** When there is something to start or to stop, milliseconds; negative: never again. */
+    /** When there is something to start or to stop, milliseconds; negative: never. */
     qint64 NextChange() const;
     /** Does what is due at @p time: first what ends, then what begins. */
     void Change(qint64 time);

@@ -83,7 +83,7 @@ void Stage::StartNode(int node, uint seed)
 
 /**
  * The text has layer 0. Where it stands still and a neon picture is behind it, neon takes layer 0
- * and the text the one that is appended first; if that failed, the text is shown nowhere. The
+ * and the text the one that is appended first; if that failed, the text is not visible. The
  * dazzle background has the layer that is appended last.
  */
 void Stage::FindLayers(int node, const QVector<Torv::CallRecord>& startCalls)

@@ -23,7 +23,7 @@
 namespace AnimText {
 
 /**
- * Plays a scene on the clock of whatever event dispatcher its thread has. One stage plays at a
+ * Plays a scene on the clock of its thread's event dispatcher. One stage plays at a
  * time: whether layers blend by alpha is a setting of the process.
  */
 class Stage
@@ -33,12 +33,12 @@ public:
     /** Takes everything off the display first. */
     ~Stage();
 
-    /** Sets the scene up. On failure answers false and sets @p error to one line. */
+    /** Sets the scene up. On failure returns false and sets @p error to one line. */
     bool Build(const Scene& scene, QString* error);
 
     /**
      * Starts every node, in the order of the file, each after the random numbers have been seeded
-     * with @p seed: every start draws the same ones.
+     * with @p seed: every start gets the same ones.
      */
     void Start(uint seed);
     void StartNode(int node, uint seed);
@@ -65,7 +65,7 @@ public:
     void KeepCalls(bool keep);
     /** The calls since the last time. */
     QVector<Torv::CallRecord> TakeCalls();
-    /** Lets @p watch see every call as soon as it has been answered; empty: nobody. */
+    /** @p watch is called for every call when it returns; empty: none. */
     void WatchCalls(const std::function<void(const Torv::CallRecord&)>& watch);
 
 private:

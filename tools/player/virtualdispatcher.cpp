@@ -99,7 +99,7 @@ bool VirtualDispatcher::FireNext(qint64 limit)
     timer->deadline = now + std::max(Interval(1), timer->interval);
     timer->firing = true;
 
-    // The slot may stop the timer, start it anew or delete its object.
+    // The slot may stop the timer, start it again or delete its object.
     const quint64 order = timer->order;
     QTimerEvent event(timer->id);
     QCoreApplication::sendEvent(timer->object, &event);
@@ -165,7 +165,7 @@ void VirtualDispatcher::unregisterSocketNotifier(QSocketNotifier* notifier)
     notifiers.removeAll(notifier);
 }
 
-/** Tells the notifiers whose sockets are ready. @p timeout as for poll() */
+/** Activates the notifiers whose sockets are ready. @p timeout as for poll() */
 bool VirtualDispatcher::ActivateSockets(int timeout)
 {
     if (notifiers.isEmpty() && timeout == 0)

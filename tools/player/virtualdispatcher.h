@@ -21,10 +21,10 @@ namespace AnimText {
  * Timers fire in the order of their deadlines, and those with the same deadline in the order in
  * which they were started. While a timer's slot runs, Now() is the timer's deadline. A repeating
  * timer of interval 0 fires once at the time at which it is started and then every millisecond, so
- * that time always goes on.
+ * time always advances.
  *
  * An event loop that waits, say QEventLoop::exec(), jumps to the next deadline instead of sleeping;
- * only where there is nothing to come at all does it wait for other threads and for sockets.
+ * it waits for other threads and sockets only if no timer is left.
  */
 class VirtualDispatcher : public QAbstractEventDispatcher
 {
@@ -90,7 +90,7 @@ private:
     QList<QSocketNotifier*> notifiers;
     int wakeDescriptor;
     std::atomic<bool> interrupted{false};
-    // Whoever posts an event wakes the loop; what was posted before it was there is not told.
+    // Posting an event wakes the loop, but events posted before it existed do not.
     std::atomic<bool> woken{true};
 };
 

@@ -12,9 +12,9 @@ namespace AnimText {
 namespace {
 
 constexpr int deepest = 1024; // levels; Qt's reader follows no further
-constexpr int most = 20;      // keys that are told; each comes with its whole path
+constexpr int most = 20;      // keys that are reported, each with its whole path
 
-/** An object or array that is open where the scan stands. */
+/** An object or array that is open at the current position. */
 struct Level
 {
     bool isObject = false;

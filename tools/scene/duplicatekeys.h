@@ -1,6 +1,6 @@
 /**
  * @file
- * Finds keys that stand twice in one JSON object, which Qt's reader lets pass.
+ * Finds keys that occur twice in one JSON object, which Qt's reader accepts.
  */
 #ifndef ANIMTEXT_DUPLICATEKEYS_H
 #define ANIMTEXT_DUPLICATEKEYS_H
@@ -12,7 +12,7 @@ namespace AnimText {
 
 /**
  * The JSON paths of keys that their object already has, at most 20 of them.
- * @param json any bytes; what is no JSON has the keys that it seems to have
+ * @param json any bytes; in bytes that are not JSON, whatever looks like keys
  */
 QStringList DuplicateKeys(const QByteArray& json);
 

@@ -61,7 +61,7 @@ Json& Json::Append(QByteArray part)
 {
     if (!text.isEmpty())
         text += layout == Spaced ? ", " : ",";
-    // No line ends within a text: it would be escaped there.
+    // Texts contain no line ends: they are escaped there.
     text += layout == Lines ? "\n  " + part.replace('\n', "\n  ") : part;
     return *this;
 }

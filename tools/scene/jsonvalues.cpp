@@ -24,7 +24,7 @@ QString Found(const QJsonValue& value)
     return QStringLiteral("nothing");
 }
 
-/** Keys may hold anything, line breaks too. */
+/** Keys may contain anything, also line breaks. */
 QString OnOneLine(QString text)
 {
     for (QChar& character : text) {

@@ -1,6 +1,6 @@
 /**
  * @file
- * The values of a JSON file as what they should be, with everything that is wrong about them.
+ * Typed values of a JSON file, with everything that is wrong about them.
  */
 #ifndef ANIMTEXT_JSONVALUES_H
 #define ANIMTEXT_JSONVALUES_H
@@ -27,8 +27,8 @@ namespace AnimText {
 QByteArray WithMarksEscaped(const QByteArray& json);
 
 /**
- * Reads values and goes on where one is wrong: that is remembered, and a standard value is answered
- * in its place.
+ * Reads values and continues after a wrong one: it is remembered, and a default is returned
+ * instead.
  */
 class JsonValues
 {
@@ -42,7 +42,7 @@ public:
     void Add(const QString& place, const QString& expected, const QString& found);
     void Add(const QString& place, const QString& expected, const QJsonValue& found);
 
-    /** @return false when @p value is no object at all; keys that are not @p known are faults */
+    /** @return false when @p value is not an object; keys that are not @p known are faults */
     bool Object(const QJsonValue& value, const QString& place, const QStringList& known,
                 QJsonObject* object);
     QJsonArray List(const QJsonValue& value, const QString& place);

@@ -14,11 +14,11 @@ namespace AnimText {
  */
 enum class Mode { Entrance = 0, Scroll = 1, Still = 2 };
 
-/** What a node says of its motion. */
+/** A node's mode and its effect or scroll. */
 struct NodeMotion
 {
     Mode mode = Mode::Entrance;
-    int number = 0; ///< of the effect or scroll; there may be none of that number
+    int number = 0; ///< of the effect or scroll; it need not exist
 
     bool IsScroll() const { return mode == Mode::Scroll; }
     /** The device moves the whole line. */

@@ -30,7 +30,7 @@ struct SceneNode
     int neonEffect = 0;                 ///< the neon style
     QMap<QString, QVariant> attributes; ///< ints and strings
     QMap<QString, QList<QHash<QString, QString>>> lists;
-    QMap<QString, QString> files; ///< as they stand in the scene file: relative to it, or absolute
+    QMap<QString, QString> files; ///< as written in the scene file: relative to it, or absolute
 };
 
 struct SceneArea
@@ -71,11 +71,11 @@ struct Scene
     QString FullName(const QString& file) const;
 };
 
-/** What the tools do about a file that a scene names and that is not there. */
+/** Whether a missing file that a scene names is an error. */
 enum class MissingFiles { AreErrors, AreAccepted };
 
 /**
- * Reads @p path, or standard input for "-", whose data files lie in the current folder. @return
+ * Reads @p path, or standard input for "-", whose data files are in the current folder. @return
  * everything that is wrong, in the order of reading; @p scene is then left as it was
  */
 QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles missing);
@@ -83,7 +83,7 @@ QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles miss
 QList<SceneFault> ReadSceneText(const QByteArray& text, const QString& path, Scene* scene,
                                 MissingFiles missing);
 
-/** For who gives up at the first fault: answers false, and @p error is one line that tells of it.
+/** Stops at the first fault: returns false and sets @p error to one line about it.
  */
 bool ReadScene(const QString& path, Scene* scene, QString* error,
                MissingFiles missing = MissingFiles::AreErrors);

@@ -4,7 +4,7 @@ namespace AnimText {
 
 QString SceneFault::Line(const QString& path) const
 {
-    // A line and a column follow the name directly, as compilers put it.
+    // A line and a column follow the name directly, as in compilers' messages.
     QString line = path;
     if (!place.isEmpty())
         line += (place.startsWith(QLatin1Char('$')) ? QStringLiteral(": ") : QStringLiteral(":")) +

@@ -13,8 +13,8 @@ namespace AnimText {
 struct SceneFault
 {
     QString place;    ///< JSON path; line and column of a syntax error; empty for the whole file
-    QString expected; ///< what should stand there
-    QString found;    ///< what does
+    QString expected; ///< what should be there
+    QString found;    ///< what is there
     int others = 0;   ///< rows of the same list in which the same is wrong
 
     /** One line for people, with the file @p path at its beginning. */

@@ -182,7 +182,7 @@ void Reader::ReadDisplay(const QJsonValue& value, const QString& place)
     QJsonObject display;
     if (!json.Object(value, place, {width, height}, &display))
         return;
-    // One after the other: faults come in the order of reading.
+    // Separate statements, so that faults are in the order of reading.
     scene.display.setWidth(json.Int(display.value(width), Member(place, width), 1, LargestSide()));
     scene.display.setHeight(
         json.Int(display.value(height), Member(place, height), 1, LargestSide()));
@@ -201,7 +201,7 @@ Scene Reader::Read(const QJsonValue& root)
 
     const QJsonValue number = root.toObject().value(version);
     if (number.isDouble() && number.toDouble() != 1) {
-        // Another version may mean anything by its keys.
+        // In another version, keys may mean anything.
         json.Int(number, Member(top, version), 1, 1);
         return scene;
     }
@@ -259,7 +259,7 @@ QString LineAndColumn(const QByteArray& text, int offset)
 
 QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document)
 {
-    // Before anything else, for Qt's reader leaks the values of keys that stand there twice.
+    // First of all, because Qt's reader leaks the values of duplicate keys.
     JsonValues twice;
     for (const QString& place : DuplicateKeys(text))
         twice.Add(place, QStringLiteral("each key once"), QStringLiteral("it twice"));

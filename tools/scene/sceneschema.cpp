@@ -80,7 +80,7 @@ QJsonObject ValueOf(const Attribute& attribute)
     return {{"type", "string"}};
 }
 
-/** The keys of @p home with what they may be. */
+/** The keys of @p home with their types and ranges. */
 QJsonObject MembersOf(Home home)
 {
     const bool isRow = home >= Home::TextAttribute && home <= Home::TextWidth;
@@ -121,7 +121,7 @@ QJsonObject NodeSchema()
     return node;
 }
 
-/** All of the schema but the nodes. */
+/** The schema without the nodes. */
 const char frame[] = R"({
     "$schema": "http://json-schema.org/draft-07/schema#",
     "title": "Animated Text scene",

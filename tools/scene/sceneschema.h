@@ -1,6 +1,6 @@
 /**
  * @file
- * What a scene file may hold, for programs and for people; both are made from Attributes().
+ * The schema and the tables of scene files, both made from Attributes().
  */
 #ifndef ANIMTEXT_SCENESCHEMA_H
 #define ANIMTEXT_SCENESCHEMA_H
@@ -10,8 +10,8 @@
 namespace AnimText {
 
 /**
- * A JSON Schema (draft 7) of scene files, for editors. It asks for what makes sense on the sign, as
- * validate does, and not only for what can be read.
+ * A JSON Schema (draft 7) of scene files, for editors. Like validate, it
+ * requires what makes sense on the sign, not only what can be read.
  */
 QByteArray SceneSchema();
 

@@ -35,7 +35,7 @@ int EditDistance(const QString& from, const QString& to)
 
 QString Closest(const QString& word, const QStringList& known)
 {
-    // Long words are no typing errors, and comparing them all would take for ever.
+    // Long words are not typing errors, and comparing them would take forever.
     constexpr int longest = 64;
     if (word.isEmpty() || word.size() > longest)
         return QString();

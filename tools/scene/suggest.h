@@ -1,6 +1,6 @@
 /**
  * @file
- * "Did you mean": the known word that a mistyped one is nearest to.
+ * "Did you mean": the known word closest to a mistyped one.
  */
 #ifndef ANIMTEXT_SUGGEST_H
 #define ANIMTEXT_SUGGEST_H

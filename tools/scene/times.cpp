@@ -34,7 +34,7 @@ bool ToHoldUnits(double milliseconds, int* units)
     constexpr int longest = 1000000;
     const double exact = milliseconds / 100;
     const double whole = std::round(exact);
-    // 4.1 s are a hair less than 4100 ms in binary.
+    // In binary, 4.1 s is slightly less than 4100 ms.
     if (!(whole >= 0 && whole <= longest && std::abs(exact - whole) < 1e-6))
         return false;
     *units = int(whole);

@@ -9,7 +9,7 @@ constexpr int longHold = 50;    // units of 100 ms
 constexpr int certainHold = 40; // ticks without a picture that only a hold can be; none of the
                                 // speeds waits longer than 16 from one picture to the next
 
-/** The scene with every page held for longer, so that its pages can be told apart. */
+/** The scene with every page held for longer, so that holds are unmistakable. */
 Scene WithLongHolds(Scene scene)
 {
     for (SceneNode* node : scene.Nodes())

@@ -1,6 +1,6 @@
 /**
  * @file
- * When the pages of a text come, stand and go.
+ * When the pages of a text enter, are held and end.
  */
 #ifndef ANIMTEXT_PAGETIMES_H
 #define ANIMTEXT_PAGETIMES_H
@@ -27,10 +27,10 @@ struct PagedPlay
 };
 
 /**
- * Plays @p scene without outlines, twice: once with every page held for so long that pages can be
- * told apart, then as it is. The player is then at the end of the second play.
- * @param longest ticks after which the second play is broken off
- * @return false when @p watch broke off or, with @p error, when the scene cannot be played
+ * Plays @p scene without outlines, twice: once with every page held so long that holds are
+ * unmistakable, then as it is. The player is then at the end of the second play.
+ * @param longest ticks after which the second play is stopped
+ * @return false when @p watch stopped it or, with @p error, when the scene cannot be played
  */
 bool MeasurePages(Player* player, const Scene& scene, int longest, const Watch& watch,
                   PagedPlay* play, QString* error);

@@ -36,7 +36,7 @@ qint64 Number(const SceneNode& node, const char* key)
     return node.attributes.value(QLatin1String(key)).toInt();
 }
 
-/** No effect takes more frames than each character crossing the area and turning twice. */
+/** Upper bound: each character crosses the area and turns twice. */
 qint64 LongestPlay(const SceneNode& node)
 {
     const qint64 characters = node.attributes.value(QStringLiteral("Text")).toString().size() + 2;

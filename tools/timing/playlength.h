@@ -1,6 +1,6 @@
 /**
  * @file
- * How long a scene plays, found out by playing it.
+ * How long a scene plays, measured by playing it.
  */
 #ifndef ANIMTEXT_PLAYLENGTH_H
 #define ANIMTEXT_PLAYLENGTH_H
@@ -15,16 +15,16 @@
 
 namespace AnimText {
 
-/** How a node's play comes to its end. */
+/** How a node's play ends. */
 enum class Ending {
     Finishes,      ///< reports itself finished when its plays are done
     ScrollsOn,     ///< reports itself finished at once and is scrolled by the device
     StandsStill,   ///< one picture that never reports itself finished
     NothingToPlay, ///< has no text
-    TooLong        ///< had not come to its end when the watch was broken off
+    TooLong        ///< had not ended when the measurement stopped
 };
 
-/** What was seen of one node. */
+/** Measurements of one node. */
 struct NodePlay
 {
     Ending ending = Ending::TooLong;
@@ -33,20 +33,20 @@ struct NodePlay
     int ticksPerFrame = 0; ///< from one picture to the next; 0 when there was only one
 };
 
-/** How a node's play ends as far as that is seen when it begins; TooLong when it has to be seen. */
+/** How a node's play ends, if known at its start; otherwise TooLong. */
 Ending EndingAtStart(const Stage& stage, int node);
 
-/** Told of every tick; answers false to break off. */
+/** Called at every tick; returns false to stop. */
 using Watch = std::function<bool(int tick)>;
 
 /**
- * Plays the loaded scene from its start until every node has come to its end.
+ * Plays the loaded scene from its start until every node has ended.
  * @param longest the last tick to play
  */
 QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch& watch = Watch());
 
 /**
- * A scene whose characters have empty outlines. Outlines are only painted, so that it plays as the
+ * A scene whose characters have empty outlines. Outlines are only painted, so it plays like the
  * scene that it is made from does, in a small part of the time.
  */
 class BlankScene
@@ -58,10 +58,10 @@ public:
 
 private:
     Scene scene;
-    QFile outlines; // of all its nodes, in memory: nothing stays of a process that is killed
+    QFile outlines; // of all its nodes, in memory, so a killed process leaves nothing
 };
 
-/** More ticks than any play of the scene can take, as far as that can be told from its settings. */
+/** An upper bound of the ticks of a play, from the scene's settings. */
 int LongestPlay(const Scene& scene);
 
 /**

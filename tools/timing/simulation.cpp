@@ -48,7 +48,7 @@ QVector<Simulation> Simulate(Player* player, const Scene& scene, uint seed, cons
         if (simulation.ending != Ending::Finishes)
             continue;
         simulation.finishedMs = qint64(whole.at(node).finishedTick) * tickLength;
-        // Without a single play, the first look finds it finished whatever was drawn.
+        // With no plays, the first check finds it finished, whatever was drawn.
         const int plays =
             player->Scenery().Node(node)->GetAttributeToInt(QStringLiteral("PlayTimes"));
         if (plays > 0) {

@@ -12,7 +12,7 @@ using namespace Lw::HNodeAnimationText;
 namespace AnimText {
 namespace {
 
-/** Why the sign reads nothing from @p file, whose outer layer or what stands in it is empty. */
+/** Why the sign reads nothing from @p file, whose outer or inner layer is empty. */
 QString FaultOfOuterLayer(QFile* file)
 {
     const quint32 nullArray = 0xFFFFFFFFu;

@@ -1,6 +1,6 @@
 /**
  * @file
- * Looks into the data files of an animated text by the sign's own reading, and says what is wrong.
+ * Checks the data files of an animated text with the sign's own reader.
  */
 #ifndef ANIMTEXT_DATAFILE_H
 #define ANIMTEXT_DATAFILE_H
@@ -19,13 +19,13 @@ struct BadOutline
     QString fault;
 };
 
-/** What a data file holds. */
+/** The content of a data file. */
 struct DataFile
 {
     QString fault;         ///< why the sign reads nothing from it; empty when it can be read
     int entries = 0;       ///< how many outlines or descents
-    QVector<bool> isEmpty; ///< for outlines, by index: sound, and nothing to see
-    QVector<QRectF> ink;   ///< what outlines cover, about their baselines; by index
+    QVector<bool> isEmpty; ///< for outlines, by index: valid, and nothing to see
+    QVector<QRectF> ink;   ///< what outlines cover, relative to their baselines; by index
     QVector<int> descents; ///< for descents, by index
     QList<BadOutline> badOutlines;
 };

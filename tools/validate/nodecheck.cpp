@@ -31,7 +31,7 @@ QString InQuotes(const QString& text)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-/** The first of the rows where something is wrong, and how many come after it. */
+/** The first wrong row, and how many follow it. */
 struct BadRows
 {
     int first = -1;
@@ -298,7 +298,7 @@ void NodeCheck::CheckData(const QString& key)
     }
 }
 
-/** Goes by the ink of the letters at rest: a line may well be higher than the area. */
+/** Uses the ink of the letters at rest, because a line may be higher than the area. */
 void NodeCheck::CheckCut()
 {
     const bool scrollsThrough = motion.IsScroll() && !ScrollsSideways();

@@ -13,7 +13,7 @@
 
 namespace AnimText {
 
-/** Looks through one node; the findings come in the order of the scene file. */
+/** Checks one node; the findings are in the order of the scene file. */
 class NodeCheck
 {
 public:

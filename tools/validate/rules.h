@@ -1,6 +1,6 @@
 /**
  * @file
- * The kinds of mistakes that are looked for in scenes.
+ * The kinds of mistakes that validate finds.
  */
 #ifndef ANIMTEXT_RULES_H
 #define ANIMTEXT_RULES_H
@@ -46,11 +46,11 @@ enum class Mistake {
     ColorRange,
 };
 
-/** What is known of one kind of mistake. */
+/** One kind of mistake. */
 struct Rule
 {
     Mistake mistake;
-    Severity severity; ///< an error shows nothing or something wrong; a warning may be meant
+    Severity severity; ///< an error shows nothing or something wrong; a warning may be intended
     const char* code;  ///< keeps its meaning from version to version, e.g. "speed-range"
     const char* why;   ///< what it does on the sign
 };

@@ -1,6 +1,6 @@
 /**
  * @file
- * Looks for mistakes in a scene that play without an error and come out wrong on the sign.
+ * Finds mistakes in a scene that plays without an error but looks wrong on the sign.
  */
 #ifndef ANIMTEXT_VALIDATE_H
 #define ANIMTEXT_VALIDATE_H
@@ -19,10 +19,10 @@ struct Finding
 {
     Mistake mistake;
     QString place;    ///< path in the scene file, e.g. "$.pages[0].areas[0].nodes[0].hold"
-    QString found;    ///< what stands there
-    QString expected; ///< what should
+    QString found;    ///< what is there
+    QString expected; ///< what should be there
 
-    /** What is known of mistakes of its kind. */
+    /** Its kind of mistake. */
     const Rule& GetRule() const { return RuleFor(mistake); }
     /** All of it as one line for people. */
     QString Line() const;
@@ -30,7 +30,7 @@ struct Finding
 
 /**
  * The mistakes in the scene file @p path, or in standard input for "-", in the order of the file;
- * those that keep it from being read come alone. Clean scenes have none.
+ * if it cannot be read, only the reasons for that.
  */
 QList<Finding> ValidateScene(const QString& path);
 /** The same for a scene that is or will be in the file @c scene.path. */
@@ -38,10 +38,10 @@ QList<Finding> ValidateScene(const Scene& scene);
 /** Those of them that are errors: what the sign shows will be wrong, or nothing. */
 QList<Finding> ErrorsOf(const Scene& scene);
 
-/** What was found in one scene. */
+/** The findings of one scene. */
 struct Report
 {
-    QString path; ///< as it was asked for
+    QString path; ///< as given
     QList<Finding> findings;
 };
 
