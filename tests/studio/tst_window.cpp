@@ -748,6 +748,8 @@ void TestWindow::recreatesOutlines()
                         [](QLabel* note) { return note->text().contains("(U+FFFC0)"); }));
     editor->selectAll();
     Type("again");
+    FindingsList* list = window->Findings();
+    QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience); // none is left of the first text
     QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("again.json"));
     QVERIFY(ended.wait(patience));
@@ -755,7 +757,6 @@ void TestWindow::recreatesOutlines()
          folder.Listing().filter(QRegularExpression("^again.*(path|descent)$")))
         folder.Remove(name);
     QVERIFY(window->Open(folder.Path("again.json")));
-    FindingsList* list = window->Findings();
     QTRY_VERIFY_WITH_TIMEOUT(list->Count() > 0, patience);
     list->ApplyFix(0);
     QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience);
