@@ -1,5 +1,5 @@
 // What the plugin costs: starting and measuring texts of growing length, and a frame of each
-// motion. Ends with the ratio of a start of 10,000 characters to one of 1,000, which shall stay
+// motion. Ends with the ratio of a start of 10,000 characters to one of 1,000, which should stay
 // near 10.
 #include "enginefixture.h"
 

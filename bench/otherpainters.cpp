@@ -172,7 +172,7 @@ std::string Lottie(const QPainterPath& text, QSize size)
     finish();
     const QString color = QStringLiteral("\"c\":{\"a\":0,\"k\":[1,1,1,1]},"
                                          "\"o\":{\"a\":0,\"k\":100}");
-    // By a pixel from frame to frame: it would keep what stands still.
+    // Moved by a pixel from frame to frame: it would cache what does not move.
     const QString moves = QStringLiteral(
         "\"p\":{\"a\":1,\"k\":[{\"t\":0,\"s\":[0,0],\"e\":[2,0],\"i\":{\"x\":1,\"y\":1},"
         "\"o\":{\"x\":0,\"y\":0}},{\"t\":2}]}");

@@ -13,7 +13,7 @@ const int width = 70;
 const int height = 20;
 const int unit = 64;
 
-/** Takes the fuzzer's bytes from their begin; zeros when there are no more. */
+/** Reads the fuzzer's bytes in order; zeros at the end. */
 struct Bytes
 {
     const uint8_t* data;
@@ -119,7 +119,7 @@ void PaintAnything(Bytes bytes)
     canvas.DrawPath(AnyOutline(bytes));
 }
 
-/** Frames of a page painted glyph by glyph, in part from what is kept, and as one path. */
+/** Frames of a page painted glyph by glyph, partly from the cache, and as one path. */
 void ComparePages(Bytes bytes)
 {
     const std::vector<Glyph> glyphs = {Glyph(AnyOutline(bytes)), Glyph(AnyOutline(bytes))};

@@ -78,7 +78,7 @@ private slots:
                 const qint64 least = attribute.least;
                 const qint64 most = attribute.most;
                 for (qint64 number : {least - 1, least, most, most + 1}) {
-                    // Rows hold texts of digits; how many they may be is not told by those.
+                    // Rows hold texts of digits, whose range the schema does not check.
                     const bool isGood = isRow && attribute.kind != ValueKind::Flag
                                             ? number >= 0
                                             : number >= least && number <= most;

@@ -409,7 +409,7 @@ private slots:
 
     void placesFromTopToBottom()
     {
-        for (int motion : {1, 4, 5, 11, 23, 30}) { // 30 stands for scrolling
+        for (int motion : {1, 4, 5, 11, 23, 30}) { // 30 means scrolling
             for (VAlign valign : {VAlign::Top, VAlign::Middle, VAlign::Bottom}) {
                 const Authored authored =
                     Author({"Hxg Ä", Font(30), motion, Align::Natural, valign, 6});

@@ -58,7 +58,7 @@ private:
     }
 };
 
-/** Runs @p work in a process of its own and kills it right before its system call @p calls. */
+/** Runs @p work in another process and kills that right before its system call @p calls. */
 enum class Ending { Killed, Finished, Untraceable };
 template <typename Work>
 Ending RunAndKill(int calls, Work work)
@@ -86,7 +86,7 @@ Ending RunAndKill(int calls, Work work)
 
 } // namespace
 
-/** Runs @p work in a process of its own, which ends with what it answers. */
+/** Runs @p work in another process, which exits with its result. */
 template <typename Work>
 pid_t Begin(Work work)
 {
@@ -345,7 +345,7 @@ private slots:
         QCOMPARE(folder->Listing(), QStringList(file));
     }
 
-    // Mistakes that are there already do not keep others from being mended.
+    // Existing mistakes do not prevent others from being fixed.
     void oldMistakesMayStay()
     {
         const auto change = [this](const QString& key, int value) {

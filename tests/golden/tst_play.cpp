@@ -69,7 +69,7 @@ PlayFile Read(const QString& path)
     return content;
 }
 
-/** Equal but for the last digit of what is no whole number: another processor rounds otherwise. */
+/** Equal except for the last digit of fractions, which other processors round differently. */
 bool Same(const QString& actual, const QString& expected)
 {
     static const QRegularExpression apart("[ ,|]");

@@ -1,4 +1,4 @@
-// Scenes on the wall clock: what is seen is what a play on virtual time tells.
+// Scenes on the wall clock show the same as a play on virtual time.
 #include "live/livewindow.h"
 #include "live/scenewatcher.h"
 #include "player/plugin.h"

@@ -205,7 +205,7 @@ void TestPaint::transformsAreTheDevices()
     }
 }
 
-/** Glyphs one by one, in part from what is kept, against the same page as one path. */
+/** Glyphs one by one, partly from the cache, against the same page as one path. */
 struct Pages
 {
     TextCanvas canvas, plain;

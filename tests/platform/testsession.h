@@ -1,6 +1,6 @@
 /**
  * @file
- * A session on a display of its own, with everything about it easy to vary.
+ * A session on its own display, with all properties easy to vary.
  */
 #ifndef TESTS_TESTSESSION_H
 #define TESTS_TESTSESSION_H

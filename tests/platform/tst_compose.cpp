@@ -133,7 +133,7 @@ private slots:
         qint64 now = 0;
         Torv::SetClock([](void* context) { return *static_cast<qint64*>(context); }, &now);
         for (int i = 0; i < 1000; ++i) {
-            const int code = 25 + i % 3; // 25 stands still
+            const int code = 25 + i % 3; // 25 does not move
             const int width = int(upTo(200));
             const int length = int(upTo(200));
             const int duration = int(i % 10 < 5 ? upTo(INT_MAX) : upTo(20) - 3);
@@ -146,7 +146,7 @@ private slots:
                              QRect(0, 0, width, 1), {code, duration, code, INT_MAX, code, 0});
             const QRect base = QRect(left, 0, length, 1) & QRect(0, 0, width, 1);
             QCOMPARE(Painted(test.display.Compose(now + time)), base);
-            // What is appended stands still.
+            // Appended layers do not move.
             test.Append(2, 1);
             test.Paint(1, SolidImage(3, QSize(2, 1), 0x800000FF));
             QCOMPARE(Painted(test.display.Compose(now + time)),

@@ -185,7 +185,7 @@ private slots:
     void filmsKeepTheirTimes_data()
     {
         // shown: the color at each tick of 66 ms
-        // reason: why nothing is shown, told once
+        // reason: why nothing is shown, printed once
         const Table<QByteArray, QString, QString> row("film", "shown", "reason");
         row("each for its time", Gif({{'r', 10}, {'g', 20}}), "rrgggrrgggrggg", "");
         row("faster than the ticks", Gif({{'r', 3}, {'g', 3}, {'b', 3}}), "rbgrb", "");

@@ -14,7 +14,7 @@ namespace {
 const QRect Area(0, 0, 8, 4);
 const QImage Gray = SolidImage(3, Area.size(), 0xFF808080);
 
-/** Whether a write is stopped by the memory; it is tried in a process of its own. */
+/** Whether the memory refuses a write, which another process tries. */
 bool IsGuarded(char* buffer)
 {
     const pid_t child = fork();
@@ -28,7 +28,7 @@ bool IsGuarded(char* buffer)
     return WIFSIGNALED(status);
 }
 
-/** Whether the device does as it is told by @p operation. */
+/** Whether the device carries out @p operation. */
 bool Succeeds(int operation, PicDisplay display, PicSession session, int layer = 0)
 {
     switch (operation) {

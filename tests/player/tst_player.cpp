@@ -64,7 +64,7 @@ private slots:
         const Torv::Accounting accounts = Torv::Accounts();
         QCOMPARE(accounts.liveSessions, 0);
         QCOMPARE(accounts.liveLayers, 0);
-        // The blend of a layer that could not be made is set all the same.
+        // The blend of a layer that could not be made is set anyway.
         const qint64 expected = accounts.injectedFaults > 0 ? accounts.badLayer : 0;
         QVERIFY2(accounts.Misuses() == expected, qPrintable(Torv::AccountsReport()));
     }
@@ -196,7 +196,7 @@ private slots:
         QCOMPARE(node->GetHoldTime(), 7);
     }
 
-    /** Each start is seeded anew, so the first pictures of two nodes are the same. */
+    /** Each start is seeded again, so the first pictures of two nodes are equal. */
     void seedsEveryStart()
     {
         const Scene scene = files.Of({files.Node({"abcd", 8}), files.Node({"abcd", 8})});
@@ -264,7 +264,7 @@ private slots:
         }
     }
 
-    /** Two pages: areas of two nodes and of one, then one that is told no time. */
+    /** Two pages: areas of two nodes and of one, then one with a planned time of 0. */
     void playsByTheHostsSchedule()
     {
         Scene scene = files.Of({files.Node({"a"}), files.Node({"b", 4, 9, 3})});
@@ -375,7 +375,7 @@ private slots:
     }
 
 private:
-    /** The pictures of four seconds, and the time that the host is told. */
+    /** The pictures of four seconds, and the planned time. */
     QByteArray Played(const SceneNode& node)
     {
         QCryptographicHash hash(QCryptographicHash::Sha1);

@@ -1,6 +1,6 @@
 /**
  * @file
- * An engine that plays a text of rectangles into an image of its own, without a renderer.
+ * An engine that plays a text of rectangles into its own image, without a renderer.
  */
 #ifndef TESTS_ENGINEFIXTURE_H
 #define TESTS_ENGINEFIXTURE_H

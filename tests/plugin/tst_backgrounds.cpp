@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Whether @p color lies @p steps of 12 degrees round the color circle. */
+/** Whether @p color is @p steps of 12 degrees around the color circle. */
 bool LiesAt(const QColor& color, double steps)
 {
     const double apart = std::fmod(std::fabs(color.hue() - 12 * steps), 360.0);

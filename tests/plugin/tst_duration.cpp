@@ -55,7 +55,7 @@ private slots:
                                     QByteArray::number(second) + " at " + QByteArray::number(speed);
             // How many frames a model leaves out: those of the last step of a page, of a character
             // (9 and 10), or of the empty frame of a run (4). Flights from the side (0 and 1) are
-            // told by the widths before the characters and are something else entirely.
+            // told by the widths before the characters and are something else.
             const int units = effect == 9 || effect == 10 ? widths.size() : effect == 4 ? 1 : pages;
             const bool model = std::count(std::begin(models), std::end(models), effect) > 0;
             if (!model || slowFamily) {

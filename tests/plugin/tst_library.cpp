@@ -60,7 +60,7 @@ private slots:
         QFETCH(QString, answer);
         QObject* const object = loader.instance();
         void* const interface = qobject_cast<Lw::INodePlugin*>(object);
-        QVERIFY(interface && interface != object); // the second base lies elsewhere
+        QVERIFY(interface && interface != object); // the second base has another address
         QCOMPARE(object->qt_metacast(qPrintable(name)),
                      answer == "object" ? object : answer == "interface" ? interface : nullptr);
         QVERIFY(!object->qt_metacast(nullptr));
@@ -181,7 +181,7 @@ private slots:
             data.setText(text);
         editor.insertFromMimeData(text.isNull() ? nullptr : &data);
 
-        // With nothing but rich text, Qt makes the plain text of it.
+        // From rich text alone, Qt makes the plain text.
         const QString expected = html.isEmpty() || !text.isEmpty() ? text : data.text();
         QCOMPARE(editor.toPlainText(), expected);
         for (QTextBlock block = editor.document()->begin(); block.isValid(); block = block.next()) {

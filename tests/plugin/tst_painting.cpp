@@ -10,7 +10,7 @@ using Lw::HPluginManager;
 
 namespace {
 
-// A line of @p widths whose glyphs fill their advance but for a pixel at the left; 20 high, green.
+// A line of @p widths whose glyphs fill their advance except one pixel at the left; 20 high, green.
 RectangleText Line(const QVector<int>& widths)
 {
     RectangleText text(widths, QVector<int>(widths.size(), 20), {}, QSize(100, 20));
@@ -113,7 +113,7 @@ private slots:
             QVector<QPainterPath> glyphs(1);
             glyphs[0].addRect(0, -size, size - 1, size - 1);
             play.text.SetGlyphs(glyphs);
-            play.Start({{"EffectType", 1}}); // a line, which stands still
+            play.Start({{"EffectType", 1}}); // a line, which does not move
             for (int frame = 0; frame < 4; ++frame)
                 play.DrawFrame();
             QCOMPARE(PaintedBox(play.drawImage()).size(), QSize(size, size));

@@ -34,7 +34,7 @@ void Add(const QByteArray& name, const std::function<void(HostileScene*)>& apply
     bends.append({name, apply, weight});
 }
 
-/** A bend for each of @p values, under what it is told as. */
+/** A bend for each of @p values, named by its value. */
 template <typename Value, typename Apply>
 void AddEach(const QByteArray& name, const QVector<Value>& values, const Apply& apply)
 {
@@ -93,7 +93,7 @@ void AddLists()
 }
 
 /**
- * Columns that hardly grow from one character to the next, so that many lie on top of each other,
+ * Columns that hardly grow from one character to the next, so that many overlap,
  * and columns that lead away beyond all numbers.
  */
 void AddColumns()
@@ -192,7 +192,7 @@ QVector<HostileScene> HostileScenes(const QDir& folder)
 {
     static const Sample usual(QStringLiteral("Hostile signs"), QSize(64, 20));
     static const Sample large(QStringLiteral("Ab"), QSize(90, 36));
-    bends.clear(); // asked again for each row that is run by itself
+    bends.clear(); // called again for each row that runs alone
     AddAttributes();
     AddLists();
     AddColumns();

@@ -24,7 +24,7 @@ struct HostileScene
     Weight weight = Weight::Light;
 };
 
-/** A file under the name that tells what is wrong with it. */
+/** A file, named after what is wrong with it. */
 struct HostileFile
 {
     QByteArray name;

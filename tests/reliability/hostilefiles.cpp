@@ -61,7 +61,7 @@ public:
         files.append({name, path, weight});
     }
 
-    /** What is there and is no file that could be read. */
+    /** Things that exist but are not readable files. */
     void AddImpossible()
     {
         AddPath("missing", folder.filePath(QStringLiteral("none")));

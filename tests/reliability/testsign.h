@@ -56,7 +56,7 @@ public:
 
     /** From now on no message is shown, and complaints are kept; for a test's initTestCase(). */
     static void KeepComplaints();
-    /** Qt's warnings since the last call, but for those of its picture readers. */
+    /** Qt's warnings since the last call, except those of its picture readers. */
     static QStringList TakeComplaints();
 };
 

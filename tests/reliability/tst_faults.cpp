@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int ticks = 26; // of a play: a page comes in, is held, and another one begins
+constexpr int ticks = 26; // of a play: a page enters, is held, and another one begins
 constexpr int hurry = 30; // beyond the usual speeds, so that every motion gets that far
 
 /** What is seen of a play. */

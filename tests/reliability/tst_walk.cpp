@@ -29,7 +29,7 @@ struct Attribute
     QVector<int> values;
 };
 
-// Flags are 0 or 1 here: with others the device is told to stack layers that were never made.
+// Flags are 0 or 1 here: with others, the plugin stacks layers that were never made.
 const Attribute attributes[] = {
     {"EffectType", {0, 0, 0, 1, 1, 2, -1}},
     {"AnimationEffect", {0, 1, 2, 4, 8, 9, 12, 14, 17, 18, 19, 20, 24, 25, 28, 29, 30, -7}},
@@ -93,7 +93,7 @@ void TestWalk::initTestCase()
     broken.write(bytes.left(bytes.size() / 2));
 }
 
-/** A session is taken off the display it was put on; told another one, the plugin asks in vain. */
+/** A session is removed from its own display; with another display, the call fails. */
 void TestWalk::StartOn(Place& place, unsigned int handle)
 {
     const bool moves = handle != 0 && place.handle != 0 && handle != place.handle;
