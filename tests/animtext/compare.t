@@ -128,7 +128,7 @@ Another background:
   pictures and a differ: session 1, call 20, at tick 19 (1.25 s), line 20 of pictures, line 20 of a: the background differs at the end of this tick
   [1]
 
-What is no recording:
+Files that are not recordings:
 
   $ fresh_sign
   Wrote s.json: 10 characters in DejaVu Sans, 103 x 24 pixels; SwingEffect, 2 pages of 96 x 24

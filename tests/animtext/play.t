@@ -305,7 +305,7 @@ Several scenes:
   two.apng
   many/one.apng: PNG image data, 128 x 64, 8-bit/color RGB, non-interlaced
   $ echo done >many/one.apng; cp many/one.apng many/two.apng; touch -d '+9 seconds' node0.descent
-  $ many; cat many/two.apng; head -c 4 many/one.apng | od -c # data have changed, so one is made anew
+  $ many; cat many/two.apng; head -c 4 many/one.apng | od -c # its data changed, so one.apng is rendered again
   Wrote many/one.apng: 128 x 64, * (glob)
   one.apng
   two.apng

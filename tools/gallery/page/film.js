@@ -1,6 +1,6 @@
 "use strict";
 
-// Animated PNGs: the browser compresses each picture, and the parts of those files are put together here.
+// Animated PNGs: the browser compresses each picture, and this joins the chunks of its files.
 // Colors and times are exact, and a browser plays them like a GIF.
 
 const crcTable = Uint32Array.from({ length: 256 }, (_, byte) => {
