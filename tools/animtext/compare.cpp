@@ -200,7 +200,7 @@ Command CompareCommand()
         WithShowOptions(
             FolderOptions() +
             QVector<Option>{
-                Option::Time("tolerance", 1000, 0, 1e6, "TIME",
+                Option::Time("tolerance", 0, 1e6,
                              "Allowed difference of times, counted from a session's first call.")
                     .Or("66ms"),
                 Option::Flag("no-times", "Ignore times."),

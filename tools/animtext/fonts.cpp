@@ -2,6 +2,7 @@
 
 #include "animtext/commands.h"
 #include "cli/commandline.h"
+#include "scene/suggest.h"
 
 namespace AnimText {
 

@@ -139,7 +139,7 @@ Command PlayCommand()
                      "Draw round LEDs, PITCH times their diameter apart. Without PITCH: 1.25.")
                      .Alone("1.25"),
                  Option::Flag("watch", "Restart when the scene or its data files change."),
-                 Option::Time("seconds", 1000, 0.1, 86400 * 366.0, "TIME",
+                 Option::Time("seconds", 0.1, 86400 * 366.0,
                               "Stop after this time, such as 10s or 90min. Default: no limit."),
                  Option::Flag("timing",
                               "Print at the end how well the play kept up with the clock.")}) +

@@ -225,13 +225,12 @@ QVector<Option> Options()
                      ".webm or .png; or with / for a folder of PNGs.")
             .Letter('o')
             .Required(),
-        Option::Time("seconds", 1000, 0.001, 86400, "TIME",
+        Option::Time("seconds", 0.001, 86400,
                      "Play for this time, such as 10s, 1500ms or 2min. Default: to the end."),
         Option::Flag("schedule", "Play like the host: pages, and texts in an area, one after "
                                  "another, each for its planned time. Default: all texts at once."),
         Option::Range("frames", "Write only these pictures, counted from 0, or one of them."),
-        Option::Time("at", 1000, 0, 86400, "TIME",
-                     "Write the picture at this time: 2.5s, or 40t for tick 40."),
+        Option::Time("at", 0, 86400, "Write the picture at this time: 2.5s, or 40t for tick 40."),
         Option::Number("scale", 1, 16, "Film pixels per display pixel.").Or("1"),
         Option::Fraction("leds", 1, 4, "PITCH",
                          "Draw round LEDs on black, PITCH times their diameter apart. Without "

@@ -1,6 +1,5 @@
 #include "cli/commandline.h"
 
-#include "cli/values.h"
 #include "scene/suggest.h"
 
 namespace AnimText {
@@ -68,8 +67,8 @@ CommandLine::CommandLine(const Command& command, const QStringList& words)
     if (!isRead)
         throw Misuse{parser.errorText().remove(QLatin1Char('.'))};
     for (const Option& option : command.options) {
-        for (const QString& value : option.kind == Kind::Flag ? QStringList() : Values(option.name))
-            CheckValue(option, value);
+        for (const QString& value : Values(option.name))
+            ReadValue(option, value);
     }
     Require();
 }
@@ -91,51 +90,11 @@ void CommandLine::Require() const
     }
 }
 
-const Option& CommandLine::Find(const char* name) const
+QVariant CommandLine::Read(const char* name) const
 {
     const Option* option = FindOption(command, QLatin1String(name));
     Q_ASSERT_X(option, "CommandLine", name);
-    return *option;
-}
-
-int CommandLine::Number(const char* option) const
-{
-    return ToNumber(Find(option), Value(option));
-}
-
-double CommandLine::Fraction(const char* option) const
-{
-    return ToFraction(Find(option), Value(option));
-}
-
-double CommandLine::Time(const char* option) const
-{
-    return ToMilliseconds(Find(option), Value(option));
-}
-
-QSize CommandLine::Size(const char* option) const
-{
-    return ToSize(Find(option), Value(option));
-}
-
-QPoint CommandLine::Point(const char* option) const
-{
-    return ToPoint(Find(option), Value(option));
-}
-
-QColor CommandLine::Color(const char* option) const
-{
-    return ToColor(Find(option), Value(option));
-}
-
-QPair<int, int> CommandLine::Range(const char* option) const
-{
-    return ToRange(Find(option), Value(option));
-}
-
-int CommandLine::Choice(const char* option) const
-{
-    return ToChoice(Find(option), Value(option));
+    return ReadValue(*option, Value(name));
 }
 
 } // namespace AnimText

@@ -38,20 +38,22 @@ public:
     /** The words that are neither options nor their values. */
     QStringList Arguments() const { return parser.positionalArguments(); }
 
-    int Number(const char* option) const;
-    double Fraction(const char* option) const;
+    /** A number, units of 100 ms of a hold, or the index or number of what is chosen. */
+    int Number(const char* option) const { return Read(option).toInt(); }
+    double Fraction(const char* option) const { return Read(option).toDouble(); }
     /** Milliseconds. */
-    double Time(const char* option) const;
-    QSize Size(const char* option) const;
-    QPoint Point(const char* option) const;
-    QColor Color(const char* option) const;
+    double Time(const char* option) const { return Read(option).toDouble(); }
+    QSize Size(const char* option) const { return Read(option).toSize(); }
+    QPoint Point(const char* option) const { return Read(option).toPoint(); }
+    QColor Color(const char* option) const { return Read(option).value<QColor>(); }
     /** The first and the last. */
-    QPair<int, int> Range(const char* option) const;
-    /** The index of the word among the option's choices. */
-    int Choice(const char* option) const;
+    QPair<int, int> Range(const char* option) const
+    {
+        return Read(option).value<QPair<int, int>>();
+    }
 
 private:
-    const Option& Find(const char* name) const;
+    QVariant Read(const char* name) const;
     void Require() const;
 
     const Command& command;

@@ -20,12 +20,6 @@ QStringList FontFamilies(const QString& filter = QString());
  */
 bool FindFamily(const QString& name, QString* family, QString* error);
 
-/**
- * "; did you mean X?" with the shortest of @p known that contains @p word, or else with the
- * closest, comparing only the first words if necessary; or empty.
- */
-QString DidYouMeanOneOf(const QString& word, const QStringList& known);
-
 } // namespace AnimText
 
 #endif

@@ -57,4 +57,23 @@ QString DidYouMean(const QString& word, const QStringList& known)
     return closest.isEmpty() ? QString() : QStringLiteral("; did you mean %1?").arg(closest);
 }
 
+QString DidYouMeanOneOf(const QString& word, const QStringList& known)
+{
+    const QStringList holders = known.filter(word, Qt::CaseInsensitive);
+    const auto shortest =
+        std::min_element(holders.begin(), holders.end(),
+                         [](const QString& a, const QString& b) { return a.size() < b.size(); });
+    if (word.isEmpty() || shortest != holders.end())
+        return DidYouMean(word.isEmpty() ? word : *shortest, known);
+    const QString whole = DidYouMean(word, known);
+    if (!whole.isEmpty())
+        return whole;
+    QStringList beginnings;
+    const int words = word.count(QLatin1Char(' ')) + 1;
+    for (const QString& name : known)
+        beginnings.append(name.section(QLatin1Char(' '), 0, words - 1));
+    const int closest = beginnings.indexOf(Closest(word, beginnings));
+    return closest < 0 ? QString() : DidYouMean(known[closest], known);
+}
+
 } // namespace AnimText

@@ -6,7 +6,7 @@
 
 namespace AnimText {
 
-bool ReadTime(const QString& text, double* milliseconds, bool* hasUnit)
+bool ReadTime(const QString& text, double* milliseconds)
 {
     static const struct
     {
@@ -22,8 +22,6 @@ bool ReadTime(const QString& text, double* milliseconds, bool* hasUnit)
         if (!isNumber || match.captured(2) != QLatin1String(unit.name))
             continue;
         *milliseconds = number * unit.milliseconds;
-        if (hasUnit)
-            *hasUnit = *unit.name != 0;
         return true;
     }
     return false;

@@ -1,11 +1,8 @@
 #include "animtext/shared/authoroptions.h"
 
 #include "author/markup.h"
-#include "cli/values.h"
 #include "files/wholefile.h"
 #include "layout/fonts.h"
-#include "scene/catalog.h"
-#include "scene/times.h"
 
 #include <QDir>
 #include <QFile>
@@ -99,7 +96,7 @@ void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList
 void ReadPlacing(const CommandLine& line, AuthorOptions* options)
 {
     if (line.IsSet("fit")) {
-        options->fit = line.Choice("fit") == 0 ? Fit::Height : Fit::Both;
+        options->fit = line.Number("fit") == 0 ? Fit::Height : Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
             throw Misuse{QStringLiteral("--fit needs --area and cannot be combined with --size")};
         if (options->motion.IsScroll() && options->fit == Fit::Both)
@@ -107,49 +104,24 @@ void ReadPlacing(const CommandLine& line, AuthorOptions* options)
                 QStringLiteral("--fit both cannot be combined with --scroll; use --fit height")};
     }
     if (line.IsSet("align")) {
-        options->align = Align(int(Align::Left) + line.Choice("align"));
+        options->align = Align(int(Align::Left) + line.Number("align"));
         if (options->motion.IsSideways())
             throw Misuse{QStringLiteral("--align cannot be combined with --scroll left or right")};
     }
-    options->valign = VAlign(line.Choice("valign"));
+    options->valign = VAlign(line.Number("valign"));
     options->padding = line.Number("padding");
     options->keepsWords = !line.IsSet("tear-words");
-}
-
-QStringList EffectNames()
-{
-    QStringList names;
-    for (const Motion& effect : Effects())
-        names.append(QLatin1String(effect.name));
-    return names;
-}
-
-int ReadEffect(const QString& word)
-{
-    if (const Motion* effect = FindEffect(word))
-        return effect->number;
-    throw Misuse{
-        QStringLiteral(
-            "--effect is \"%2\"; expected a number from 0 to %1 or a name from animtext effects%3")
-            .arg(Effects().last().number)
-            .arg(word, DidYouMeanOneOf(word, EffectNames()))};
 }
 
 void ReadMotion(const CommandLine& line, AuthorOptions* options)
 {
     if (!line.IsSet("scroll")) {
-        options->motion.number = ReadEffect(line.Value("effect"));
+        options->motion.number = line.Number("effect");
         return;
     }
     if (line.IsSet("effect"))
         throw Misuse{QStringLiteral("--effect and --scroll cannot be combined")};
-    const QString direction = line.Value("scroll");
-    const Motion* scroll = FindScroll(direction);
-    if (!scroll)
-        throw Misuse{
-            QStringLiteral("--scroll is \"%2\"; expected %1%3")
-                .arg(OneOf(Directions()), direction, DidYouMeanOneOf(direction, Directions()))};
-    options->motion = {Mode::Scroll, scroll->number};
+    options->motion = {Mode::Scroll, line.Number("scroll")};
 }
 
 /** The file of @p option, relative to the scene's folder. */
@@ -167,7 +139,7 @@ QString FileForScene(const CommandLine& line, const char* option)
 void ReadBackground(const CommandLine& line, AuthorOptions* options)
 {
     if (line.IsSet("dazzle"))
-        options->dazzle = Dazzle(int(Dazzle::Plain) + line.Choice("dazzle"));
+        options->dazzle = Dazzle(int(Dazzle::Plain) + line.Number("dazzle"));
     if (line.IsSet("picture")) {
         if (!line.IsSet("dazzle"))
             throw Misuse{QStringLiteral("--picture needs --dazzle")};
@@ -180,16 +152,6 @@ void ReadBackground(const CommandLine& line, AuthorOptions* options)
                          .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
         options->neonPicture = FileForScene(line, "neon-picture");
-}
-
-int ReadHold(const CommandLine& line)
-{
-    int units = 0;
-    if (!ToHoldUnits(line.Time("hold"), &units))
-        throw Misuse{
-            QStringLiteral("--hold is \"%1\"; expected whole tenths of a second, such as 2.5s")
-                .arg(line.Value("hold"))};
-    return units;
 }
 
 } // namespace
@@ -213,17 +175,11 @@ QVector<Option> LayoutOptions()
         Option::Flag("markup", "Read tags in the text: <b>, <i>, <u> and <font face= size= "
                                "color=>, or HTML from an editor."),
         Option::Flag("hollow", "Draw only the outlines of letters."),
-        Option::Text("effect", "NAME|N",
-                     "Entrance effect, by its name or number in animtext effects.")
-            .Or("4")
-            .Offering(EffectNames()),
-        Option::Text("scroll", "DIRECTION",
-                     "Scroll left, right, up or down instead of using an effect.")
-            .Offering(Directions()),
+        Option::Effect("effect", "Entrance effect, by its name or number in animtext effects.")
+            .Or("4"),
+        Option::Scroll("scroll", "Scroll left, right, up or down instead of using an effect."),
         Option::Number("speed", 0, 9, "Speed, from 0 (slowest) to 9 (fastest).").Or("5"),
-        Option::Time("hold", 1000, 0, most / 10, "TIME",
-                     "How long to hold each page, such as 2s or 1500ms.")
-            .Or("2s"),
+        Option::Hold("hold", "How long to hold each page, such as 2s or 1500ms.").Or("2s"),
         Option::Number("plays", 1, most, "How many times to play the text.").Or("1"),
         Option::Size("area", largestSide,
                      "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
@@ -268,7 +224,7 @@ void ReadLook(const CommandLine& line, AuthorOptions* options)
     options->font = ReadFont(line);
     options->color = line.Color("color");
     options->hollow = line.IsSet("hollow");
-    options->hold = ReadHold(line);
+    options->hold = line.Number("hold");
 }
 
 AuthorOptions ReadOptions(const CommandLine& line, QStringList* notes)
