@@ -5,7 +5,6 @@
 #include "animtext/shared/authoroptions.h"
 #include "animtext/shared/cutoff.h"
 #include "animtext/shared/savescene.h"
-#include "cli/filenames.h"
 #include "cli/interruption.h"
 #include "files/wholefile.h"
 #include "scene/catalog.h"
@@ -101,15 +100,6 @@ QByteArray Summary(const QString& path, const AuthorOptions& options, const Auth
         .toUtf8();
 }
 
-/** The scene file to write. */
-QString ScenePath(const CommandLine& line)
-{
-    const QString path = line.Value("output");
-    if (!IsUtf8(path))
-        throw Misuse{QStringLiteral("%1: the file name is not valid UTF-8").arg(path)};
-    return path;
-}
-
 /** Whether the other texts of an existing scene are kept. */
 bool Adds(const CommandLine& line)
 {
@@ -156,7 +146,7 @@ Destination ReadDestination(const CommandLine& line, const QString& path, Author
 int WriteScene(const CommandLine& line)
 {
     QStringList notes;
-    const QString path = ScenePath(line);
+    const QString path = line.Value("output");
     AuthorOptions options = ReadOptions(line, &notes);
     const Destination destination = ReadDestination(line, path, &options);
     for (const QString& note : notes)

@@ -1,6 +1,5 @@
 #include "animtext/commands.h"
 #include "cli/commandline.h"
-#include "cli/filenames.h"
 #include "cli/help.h"
 #include "cli/interruption.h"
 #include "cli/manual.h"
@@ -11,6 +10,9 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QStandardPaths>
+#if QT_VERSION < 0x060000
+#include <QTextCodec>
+#endif
 
 #include <unistd.h>
 
@@ -151,11 +153,19 @@ int main(int argc, char** argv)
 {
     InstallMessages();
     EndAtInterruption();
-    KeepAllFileNames();
+#if QT_VERSION < 0x060000
+    // File names are UTF-8 even where no locale is set, as in containers.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
     // QGuiApplication gets no arguments: it would take some of them, such as --plugin.
     QStringList words;
-    for (int i = 1; i < argc; ++i)
-        words.append(TextOfWord(argv[i]));
+    for (int i = 1; i < argc; ++i) {
+        words.append(QString::fromUtf8(argv[i]));
+        if (words.last().toUtf8() != argv[i]) {
+            Warn(QStringLiteral("%1: expected UTF-8").arg(words.last()));
+            return BadInput;
+        }
+    }
     // PlayLive() makes its own application. No other command shows a window, so none may
     // fail without a display or depend on the desktop's theme.
     if (words.value(0) == QLatin1String("play"))

@@ -14,6 +14,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace AnimText {
 namespace {
@@ -84,6 +85,17 @@ bool LooksLikeJson(const QByteArray& content)
     return start.startsWith('{') || start == "[{" || start == "[[" || start == "[\"";
 }
 
+/** Whether Qt leaves out a file of @p folder, as its name is not UTF-8. */
+bool HasOddNames(const QDir& folder)
+{
+    std::error_code failure;
+    const std::filesystem::directory_iterator files(folder.path().toStdString(), failure);
+    return std::any_of(begin(files), end(files), [](const auto& file) {
+        const std::string name = file.path().filename().string();
+        return QString::fromStdString(name).toStdString() != name;
+    });
+}
+
 /** Searches files for the names of data files. */
 class Search
 {
@@ -103,6 +115,8 @@ public:
         QString doubt;
         if (!folder.isReadable())
             doubt = QStringLiteral("%1: it cannot be read").arg(folder.path());
+        else if (HasOddNames(folder))
+            doubt = QStringLiteral("%1: it has a file whose name is not UTF-8").arg(folder.path());
         for (const QFileInfo& file :
              folder.entryInfoList(QDir::Files | QDir::System | QDir::Hidden)) {
             const QString why = LookAt(file);
