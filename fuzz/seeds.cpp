@@ -97,15 +97,15 @@ int main(int argc, char** argv)
 
     int number = 0;
     for (const Sample& sample : samples) {
-        AuthorOptions options;
-        options.text = QString::fromUtf8(sample.text);
-        options.font = QFont(QStringLiteral("DejaVu Sans"));
-        options.font.setPixelSize(sample.pixels);
-        options.font.setUnderline(sample.fancy);
-        options.motion = {sample.scrolls ? Mode::Scroll : Mode::Entrance, sample.motion};
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPixelSize(sample.pixels);
+        font.setUnderline(sample.fancy);
+        TextSource source;
+        source.text.Append(QString::fromUtf8(sample.text), {0, font, QColor(255, 160, 0)});
+        const NodeMotion motion{sample.scrolls ? Mode::Scroll : Mode::Entrance, sample.motion};
         AuthoredNode authored;
         QString error;
-        if (!AuthorNode(options, &authored, &error)) {
+        if (!AuthorNode(source, {}, motion, &authored, &error)) {
             qWarning("fuzz-seeds: %s", qPrintable(error));
             return 1;
         }

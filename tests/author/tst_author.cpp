@@ -1,7 +1,6 @@
 // A line of text on its way to a node: its units, their outlines and their places.
 
 #include "author/author.h"
-#include "layout/placement.h"
 #include "layout/wordpages.h"
 #include "table.h"
 #include "text/glyphdata.h"
@@ -24,6 +23,9 @@ namespace {
 const QString arabic = "السلام عليكم ورحمة الله وبركاته";
 const QString mixed = "Hello שלום עולם, 12 ابجد (xyz)!";
 
+const int scrollLeft = 0;
+const int scrollUp = 2;
+
 QFont Font(int pixels)
 {
     QFont font("DejaVu Sans");
@@ -43,14 +45,11 @@ ShapedLine Shape(const QString& text, int pixels)
     return ShapeLine(Plain(text, Font(pixels)));
 }
 
-PlacedText Placed(const QString& text, const ShapedLine& line, Arrangement arrangement,
-                  int width = 0)
+PlacedText Placed(const QString& text, const ShapedLine& line, int scroll, int width = 0)
 {
     Setting setting;
-    setting.arrangement = arrangement;
-    setting.area = QSize(width, 100);
     setting.keepsWords = false;
-    return PlaceText(text, line, setting);
+    return PlaceText(text, line, setting, {Mode::Scroll, scroll}, QSize(width, 100));
 }
 
 /** First unit of each page, and the number of units, as the sign divides them. */
@@ -132,18 +131,18 @@ struct Authored : PlacedText
 
 Authored Author(const Wish& wish)
 {
-    AuthorOptions options;
-    options.text = wish.text;
-    options.font = wish.font;
-    options.motion = {wish.motion == 30 ? Mode::Scroll : Mode::Entrance, wish.motion % 30};
-    options.area = area;
-    options.align = wish.align;
-    options.valign = wish.valign;
-    options.padding = wish.padding;
-    options.keepsWords = wish.keepsWords;
+    TextSource source;
+    source.text = Plain(wish.text, wish.font);
+    source.align = wish.align;
+    source.valign = wish.valign;
+    source.padding = wish.padding;
+    source.keepsWords = wish.keepsWords;
+    SceneNode settings;
+    settings.size = area;
+    const NodeMotion motion{wish.motion == 30 ? Mode::Scroll : Mode::Entrance, wish.motion % 30};
     Authored authored;
     QString error;
-    if (!AuthorNode(options, &authored.all, &error))
+    if (!AuthorNode(source, settings, motion, &authored.all, &error))
         qFatal("%s", qPrintable(error));
     const SceneNode& node = authored.all.node;
     authored.text = node.attributes["Text"].toString();
@@ -204,7 +203,7 @@ private slots:
                                                              {"بَبِ", {0, 2}},
                                                              {"a\u200Db", {0, 2}}};
         for (const auto& [text, firsts] : cases) {
-            const PlacedText placed = Placed(text, Shape(text, 40), Arrangement::Line);
+            const PlacedText placed = Placed(text, Shape(text, 40), scrollLeft);
             QCOMPARE(placed.descents.size(), text.size());
             for (int i = 0; i < text.size(); ++i) {
                 const bool isFirst = firsts.contains(i);
@@ -240,7 +239,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(int, pixels);
         const QFont font = Font(pixels);
-        const PlacedText placed = Placed(text, Shape(text, pixels), Arrangement::Line);
+        const PlacedText placed = Placed(text, Shape(text, pixels), scrollLeft);
         const int width = Sum(placed.widths);
         QCOMPARE(width, qRound(QFontMetricsF(font).horizontalAdvance(text)));
 
@@ -449,7 +448,7 @@ private slots:
     void columnStandsInItsOwnPlaces()
     {
         const ShapedLine line = Shape("fi " + arabic, 40);
-        const PlacedText placed = Placed("fi " + arabic, line, Arrangement::Column, 100);
+        const PlacedText placed = Placed("fi " + arabic, line, scrollUp, 100);
         for (const Cluster& cluster : line.clusters) {
             const QPainterPath& outline = placed.outlines[cluster.first];
             QCOMPARE(outline.elementCount(), cluster.shape.elementCount());
@@ -468,7 +467,7 @@ private slots:
         ShapedLine line = Shape(text, 60);
         for (Cluster& cluster : line.clusters)
             cluster.underline = Bar{5, 3};
-        const PlacedText placed = Placed(text, line, Arrangement::Line);
+        const PlacedText placed = Placed(text, line, scrollLeft);
         const int width = Sum(placed.widths);
         const QImage shown = Painted(AtRest(placed, 0, text.size()), width);
         for (int y : {155, 156, 157}) {

@@ -47,14 +47,18 @@ void SetBackground(SceneNode* node, int background)
 
 Sample::Sample(const QString& text, QSize area)
 {
-    AuthorOptions options;
-    options.text = text;
-    options.font = QFont(QStringLiteral("DejaVu Sans"));
-    options.area = area;
-    options.hold = 2;
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(48);
+    TextSource source;
+    source.text.Append(text, {0, font, QColor(255, 160, 0)});
+    source.fit = Fit::Line;
+    SceneNode settings;
+    settings.size = area;
+    settings.hold = 2;
+    settings.attributes[QStringLiteral("PlayTimes")] = 1;
     AuthoredNode authored;
     QString error;
-    if (!AuthorNode(options, &authored, &error))
+    if (!AuthorNode(source, settings, {Mode::Entrance, 4}, &authored, &error))
         qFatal("%s", qPrintable(error));
     base = authored.node;
     base.files[QStringLiteral("PathData")] = File(QStringLiteral("sample.path"));

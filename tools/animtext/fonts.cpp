@@ -1,4 +1,4 @@
-#include "layout/fonts.h"
+#include "scene/fonts.h"
 
 #include "animtext/commands.h"
 #include "cli/commandline.h"

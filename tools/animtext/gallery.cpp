@@ -51,16 +51,15 @@ int MakeGallery(const CommandLine& line)
     GalleryOptions options;
     options.words = WordsOf(GalleryCommand(), line);
     options.folder = line.Value("output");
-    ReadLook(line, &options.text);
-    options.text.area = line.Size("area");
+    options.node = ReadLook(line);
+    options.node.attributes[QStringLiteral("PlayTimes")] = 1;
+    options.node.size = line.Size("area");
+    WrittenText typed = ReadWritten(line);
+    typed.words = line.Value("text");
     QString error;
     QStringList notes;
-    StyledText text;
-    text.Append(line.Value("text"), {0, options.text.font, options.text.color});
-    if (!ToOneLine(&text, &notes, &error))
+    if (!ReadText(typed, &options.text, &notes, &error))
         throw Misuse{error};
-    options.text.text = text.text;
-    options.text.styles = text.runs;
     for (const QString& note : notes)
         Warn(note);
     const Playing playing(line);
@@ -99,11 +98,11 @@ Command GalleryCommand()
         if (!IsTextOption(option))
             continue;
         if (qstrcmp(option.name, "text") == 0)
-            option = option.Or(standardText);
+            option.Or(standardText);
         if (qstrcmp(option.name, "area") == 0)
-            option = option.Or("240x48");
+            option.Or("240x48");
         if (qstrcmp(option.name, "hold") == 0)
-            option = option.Or("1s");
+            option.Or("1s");
         own.append(option);
     }
     return {"gallery",

@@ -1,56 +1,75 @@
 #include "author/destination.h"
 
+#include <QFileInfo>
+
 namespace AnimText {
 
 namespace {
 
-bool Put(const SceneNode& node, const Destination& destination, Scene* scene, QString* error)
+bool Put(const SceneNode& node, const Destination& destination, Scene* scene, Place* place,
+         QString* error)
 {
     if (!destination.instead.isEmpty()) {
-        Place place;
-        if (!scene->Find(destination.instead, &place, error))
+        if (!scene->Find(destination.instead, place, error))
             return false;
-        scene->At(place) = node;
+        scene->At(*place) = node;
         return true;
     }
     const int pages = scene->pages.size();
-    if (destination.page < 1 || destination.page > pages + 1) {
+    if (destination.page > pages + 1) {
         *error = QStringLiteral("there is no page %1; the next new page is %2")
                      .arg(destination.page)
                      .arg(pages + 1);
         return false;
     }
-    const int areas =
-        destination.page > pages ? 0 : scene->pages[destination.page - 1].areas.size();
-    if (destination.area < 0 || destination.area > areas) {
+    if (destination.page > pages)
+        scene->pages.append(ScenePage());
+    QList<SceneArea>& areas = scene->pages[destination.page - 1].areas;
+    if (destination.area > areas.size()) {
         *error = QStringLiteral("there is no area %1 on page %2")
                      .arg(destination.area)
                      .arg(destination.page);
         return false;
     }
-    if (destination.page > pages)
-        scene->pages.append(ScenePage());
-    ScenePage& page = scene->pages[destination.page - 1];
     if (destination.area == 0)
-        page.areas.append(SceneArea{{node}});
-    else
-        page.areas[destination.area - 1].nodes.append(node);
+        areas.append(SceneArea());
+    const int area = destination.area == 0 ? areas.size() - 1 : destination.area - 1;
+    *place = {destination.page - 1, area, areas[area].nodes.size()};
+    areas[area].nodes.append(node);
     return true;
 }
 
 } // namespace
 
 bool PutAuthored(const AuthoredNode& authored, const Destination& destination, Scene* scene,
-                 DataFiles* dataFiles, QString* error)
+                 DataFiles* dataFiles, Place* place, QString* error)
 {
+    if (!destination.isAdded) {
+        const int texts = scene->Nodes().size();
+        if (texts > 1 && !destination.overwrites) {
+            *error = QStringLiteral("%1 has %2 texts; use --replace PLACE to replace one, "
+                                    "--append to add one, or --overwrite to replace all")
+                         .arg(scene->path)
+                         .arg(texts);
+            return false;
+        }
+        const QString path = scene->path;
+        *scene = Scene();
+        scene->path = path;
+    }
+    if (destination.isOpaque)
+        scene->alphaBlend = false;
     SceneNode node = authored.node;
+    for (QString& picture : node.files)
+        picture =
+            QFileInfo(scene->path).dir().relativeFilePath(QFileInfo(picture).absoluteFilePath());
     const auto add = [&](const QString& key, const QByteArray& content, const QString& suffix) {
         node.files[key] = DataFileName(scene->path, content, suffix);
         dataFiles->insert(node.files[key], content);
     };
     add(QStringLiteral("PathData"), authored.pathFile, QStringLiteral("path"));
     add(QStringLiteral("DescentVector"), authored.descentFile, QStringLiteral("descent"));
-    if (!Put(node, destination, scene, error))
+    if (!Put(node, destination, scene, place, error))
         return false;
     if (!destination.display.isEmpty())
         scene->display = destination.display;

@@ -17,21 +17,26 @@ namespace AnimText {
 /** Where a new text goes. Pages and areas count from 1. */
 struct Destination
 {
-    int page = 1; ///< existing, or one more than the last for a new page
-    int area = 0; ///< existing, or 0 for a new area
+    bool isAdded = false;    ///< to the texts of the scene, which it replaces otherwise
+    bool overwrites = false; ///< it may replace several texts
+    int page = 1;            ///< existing, or one more than the last for a new page
+    int area = 0;            ///< existing, or 0 for a new area
     /** Replaces this text, a place as in Scene::Find(); page and area are ignored then. */
     QString instead;
     /** New size of the display in pixels. Empty: unchanged, or in a new scene what the area needs.
      */
     QSize display;
+    bool isOpaque = false; ///< the display's layers do not blend
 };
 
 /**
- * Adds @p authored to @p scene and its data files to @p dataFiles.
- * @return false, with one line in @p error, if the destination does not exist
+ * Puts @p authored into @p scene and its data files into @p dataFiles. Its pictures become relative
+ * to the scene's folder.
+ * @param place set to where it is
+ * @return false, with one line in @p error, if it cannot go there
  */
 bool PutAuthored(const AuthoredNode& authored, const Destination& destination, Scene* scene,
-                 DataFiles* dataFiles, QString* error);
+                 DataFiles* dataFiles, Place* place, QString* error);
 
 } // namespace AnimText
 

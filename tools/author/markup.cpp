@@ -1,8 +1,8 @@
 #include "author/markup.h"
 
 #include "author/html.h"
-#include "layout/fonts.h"
 #include "scene/color.h"
+#include "scene/fonts.h"
 #include "scene/suggest.h"
 
 #include <QRegularExpression>
@@ -140,6 +140,18 @@ bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, 
     }
     *text = StyledText();
     return MarkupReader(markup, base, text).Read(error);
+}
+
+bool ReadText(const WrittenText& written, TextSource* source, QStringList* notes, QString* error)
+{
+    StyledText& text = source->text;
+    if (!written.hasTags)
+        text.Append(written.words, written.style);
+    else if (!ParseMarkup(written.words, written.style, &text, notes, error))
+        return false;
+    if (!written.isSized && !text.sized && source->fit == Fit::None)
+        source->fit = Fit::Line;
+    return ToOneLine(&text, notes, error);
 }
 
 } // namespace AnimText

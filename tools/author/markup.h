@@ -1,11 +1,11 @@
 /**
  * @file
- * Reads text with style tags.
+ * Reads text as it was typed, with or without style tags.
  */
 #ifndef ANIMTEXT_MARKUP_H
 #define ANIMTEXT_MARKUP_H
 
-#include "layout/styledtext.h"
+#include "author/author.h"
 
 namespace AnimText {
 
@@ -22,6 +22,22 @@ namespace AnimText {
  */
 bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, QStringList* notes,
                  QString* error);
+
+/** A text as it was typed. */
+struct WrittenText
+{
+    QString words;
+    bool hasTags = false; ///< ParseMarkup() reads it
+    bool isSized = false; ///< somebody chose the size; otherwise the text is to fit the area
+    StyleRun style;       ///< of words outside of tags
+};
+
+/**
+ * Makes one line of @p written, and chooses its fit unless there is one.
+ * @param notes gets a line on each change
+ * @return false, with one line in @p error, if it cannot be shown
+ */
+bool ReadText(const WrittenText& written, TextSource* source, QStringList* notes, QString* error);
 
 } // namespace AnimText
 

@@ -61,7 +61,7 @@ public:
     {
     }
 
-    Storing Change(const SceneChange& change, QString* error, QString* doubt)
+    Storing Change(const SceneChange& change, Stored* stored, QString* error)
     {
         Scene scene;
         scene.path = path;
@@ -74,7 +74,7 @@ public:
         DataFiles dataFiles;
         if (!change(&scene, &dataFiles, error))
             return Storing::Refused;
-        const Storing storing = Write(scene, before, dataFiles, error);
+        const Storing storing = Write(scene, before, dataFiles, stored, error);
         if (storing == Storing::Saved) {
             lock.Sync();
             const QStringList named = NamedFiles(scene);
@@ -85,8 +85,7 @@ public:
             const Unneeded unneeded = FindUnneeded(folder, replaced);
             for (const QString& name : unneeded.names)
                 QFile::remove(folder.filePath(name));
-            if (doubt)
-                *doubt = unneeded.doubt;
+            stored->doubt = unneeded.doubt;
         } else {
             for (const QString& file : made)
                 QFile::remove(file);
@@ -96,7 +95,7 @@ public:
 
 private:
     Storing Write(const Scene& scene, const QList<Finding>& before, const DataFiles& dataFiles,
-                  QString* error)
+                  Stored* stored, QString* error)
     {
         for (auto file = dataFiles.begin(); file != dataFiles.end(); ++file) {
             const QString place = folder.filePath(file.key());
@@ -110,10 +109,10 @@ private:
         lock.Sync(); // the scene must not reach the disk before the files that it names
 
         const QByteArray json = SceneToJson(scene);
-        Scene read;
-        if (!ReadSceneText(json, path, &read, error, MissingFiles::AreErrors))
+        if (!ReadSceneText(json, path, &stored->scene, error, MissingFiles::AreErrors))
             return Storing::Refused;
-        const QString mistake = NewMistake(before, ValidateScene(read));
+        stored->findings = ValidateScene(stored->scene);
+        const QString mistake = NewMistake(before, stored->findings);
         if (!mistake.isEmpty()) {
             *error = QStringLiteral("%1: %2").arg(path, mistake);
             return Storing::Refused;
@@ -129,7 +128,7 @@ private:
 
 } // namespace
 
-Storing ChangeScene(const QString& path, const SceneChange& change, QString* error, QString* doubt)
+Storing ChangeScene(const QString& path, const SceneChange& change, QString* error, Stored* stored)
 {
     const QString file = RealPath(path);
     const QFileInfo info(file);
@@ -150,7 +149,8 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
     FolderLock lock(folder.absolutePath());
     if (!lock.Take(error))
         return Storing::Failed;
-    return Store(file, lock).Change(change, error, doubt);
+    Stored unused;
+    return Store(file, lock).Change(change, stored ? stored : &unused, error);
 }
 
 bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* error)

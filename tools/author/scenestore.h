@@ -7,6 +7,7 @@
 
 #include "author/datafiles.h"
 #include "scene/scene.h"
+#include "validate/validate.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -27,8 +28,17 @@ using SceneChange = std::function<bool(Scene* scene, DataFiles* dataFiles, QStri
 
 enum class Storing {
     Saved,
+    Misread, ///< the text to write cannot be read, see AuthorScene()
     Refused, ///< the change is not possible, or the file is not a scene
     Failed,  ///< writing failed
+};
+
+/** A scene that was saved. */
+struct Stored
+{
+    Scene scene;
+    QList<Finding> findings; ///< about it
+    QString doubt; ///< if old data files were kept because a file could not be searched: which one
 };
 
 /**
@@ -39,11 +49,10 @@ enum class Storing {
  * ".json", and to replace a file that is not a scene. Data files are written first and the scene
  * last, in one step, so a killed process leaves the old scene or the new one, complete. Then
  * removes data files that only the old scene named, see FindUnneeded(). Unless Saved, @p error has
- * one line and nothing new is left. If old data files were kept because a file could not be
- * searched, @p doubt says which.
+ * one line and nothing new is left.
  */
 Storing ChangeScene(const QString& path, const SceneChange& change, QString* error,
-                    QString* doubt = nullptr);
+                    Stored* stored = nullptr);
 
 /**
  * Finds unused data files in @p folder, such as those of a deleted scene or a killed writer. With

@@ -11,8 +11,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
-
 namespace AnimText {
 namespace {
 
@@ -94,29 +92,8 @@ TextSource FromJson(const QJsonObject& json)
 
 bool operator==(const TextSource& a, const TextSource& b)
 {
-    const auto alike = [](const StyleRun& x, const StyleRun& y) {
-        return x.begin == y.begin && x.font == y.font && x.color == y.color;
-    };
-    return a.text.text == b.text.text && a.name == b.name && a.fit == b.fit && a.align == b.align &&
-           a.valign == b.valign && a.padding == b.padding && a.keepsWords == b.keepsWords &&
-           std::equal(a.text.runs.begin(), a.text.runs.end(), b.text.runs.begin(),
-                      b.text.runs.end(), alike);
-}
-
-AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings)
-{
-    AuthorOptions options;
-    options.text = source.text.text;
-    options.styles = source.text.runs;
-    options.fit = source.fit;
-    options.align = source.align;
-    options.valign = source.valign;
-    options.padding = source.padding;
-    options.keepsWords = source.keepsWords;
-    const NodeMotion motion = MotionOf(settings);
-    options.motion = {motion.IsScroll() ? Mode::Scroll : Mode::Entrance, motion.number};
-    options.area = settings.size;
-    return options;
+    return static_cast<const Setting&>(a) == static_cast<const Setting&>(b) && a.text == b.text &&
+           a.name == b.name;
 }
 
 TextSource SourceOf(const SceneNode& node)

@@ -13,26 +13,11 @@
 
 namespace AnimText {
 
-/** A text as its author wrote it, and the options for its layout. */
-struct TextSource
-{
-    StyledText text; ///< sizes in pixels
-    QString name{};  ///< for people; empty for the text itself
-    Fit fit = Fit::None;
-    Align align = Align::Natural;
-    VAlign valign = VAlign::Middle;
-    int padding = 0; ///< pixels
-    bool keepsWords = true;
-};
-
 bool operator==(const TextSource& a, const TextSource& b);
 inline bool operator!=(const TextSource& a, const TextSource& b)
 {
     return !(a == b);
 }
-
-/** Options for AuthorNode() to lay out @p source with the motion and the area of @p settings. */
-AuthorOptions OptionsFor(const TextSource& source, const SceneNode& settings);
 
 /** The source as far as the node has it: its text and its styles. */
 TextSource SourceOf(const SceneNode& node);

@@ -46,6 +46,8 @@ public:
     QSize Size(const char* option) const { return Read(option).toSize(); }
     QPoint Point(const char* option) const { return Read(option).toPoint(); }
     QColor Color(const char* option) const { return Read(option).value<QColor>(); }
+    /** The family. */
+    QString Font(const char* option) const { return Read(option).toString(); }
     /** The first and the last. */
     QPair<int, int> Range(const char* option) const
     {

@@ -25,6 +25,7 @@ enum class Kind {
     Size,  ///< pixels
     Point, ///< pixels
     Color,
+    Font,   ///< an installed family, or a font file
     Range,  ///< the first number and the last
     Choice, ///< the index of the word among the option's choices
     Effect, ///< the number of an effect, given by its number or name
@@ -85,6 +86,10 @@ struct Option
     static Option Color(const char* name, const char* help)
     {
         return {Kind::Color, name, "COLOR", help};
+    }
+    static Option Font(const char* name, const char* help)
+    {
+        return {Kind::Font, name, "FAMILY", help};
     }
     static Option Range(const char* name, const char* help)
     {

@@ -2,6 +2,7 @@
 #include "cli/output.h"
 #include "scene/catalog.h"
 #include "scene/color.h"
+#include "scene/fonts.h"
 #include "scene/suggest.h"
 #include "scene/times.h"
 
@@ -130,6 +131,12 @@ QVariant ReadValue(const Option& option, const QString& text)
         if (!ReadColor(text, &color, &hint))
             Refuse(option, text, QStringLiteral("a color name or #rrggbb") + hint);
         return color;
+    }
+    case Kind::Font: {
+        QString family;
+        if (!FindFamily(text, &family, &hint))
+            throw Misuse{hint};
+        return family;
     }
     case Kind::Choice:
         for (int i = 0; i < option.choices.size(); ++i) {

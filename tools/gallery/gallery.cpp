@@ -180,14 +180,14 @@ private:
         for (const GalleryEntry& entry : entries)
             motions.append(ToJson(entry));
         const QJsonObject all{{QStringLiteral("words"), options.words},
-                              {QStringLiteral("width"), options.text.area.width()},
-                              {QStringLiteral("height"), options.text.area.height()},
+                              {QStringLiteral("width"), options.node.size.width()},
+                              {QStringLiteral("height"), options.node.size.height()},
                               {QStringLiteral("tick"), tickLength},
                               {QStringLiteral("sheet"), PictureSheets::picturesInSheet},
                               {QStringLiteral("motions"), motions}};
         Add(QStringLiteral("motions.js"), Script("showGallery", all));
         Add(QStringLiteral("index.html"),
-            FillPage(Own("index.html"), options.text.text, options.text.area, entries));
+            FillPage(Own("index.html"), options.text.text.text, options.node.size, entries));
         for (const char* name : {"gallery.css", "film.js", "view.js", "gallery.js"})
             Add(QLatin1String(name), Own(name));
         const QJsonObject manifest{{QStringLiteral("generator"), generator},
@@ -207,8 +207,8 @@ private:
 
     GalleryEntry WriteMotion(Mode mode, const Motion& motion)
     {
-        AuthorOptions text = options.text;
-        text.motion = {mode, motion.number};
+        SceneNode node = options.node;
+        const NodeMotion nodeMotion{mode, motion.number};
         GalleryEntry entry;
         entry.motion = &motion;
         entry.option = mode == Mode::Entrance
@@ -216,9 +216,9 @@ private:
                            : QStringLiteral("--scroll %1").arg(Directions().at(motion.number));
         PictureSheets sheets;
         for (int speed : speedsInOrder) {
-            text.speed = speed;
+            node.attributes[nodeMotion.SpeedKey()] = speed;
             AuthoredNode authored;
-            Demand(AuthorNode(text, &authored, &why));
+            Demand(AuthorNode(options.text, node, nodeMotion, &authored, &why));
             const Scene scene = Stage(authored);
             const auto goOn = [this] { return watch(done, all); };
             Demand(
@@ -255,7 +255,7 @@ private:
         const QImage sheet =
             QImage::fromData(pngs.at(number / PictureSheets::picturesInSheet), "png")
                 .convertToFormat(QImage::Format_RGB32);
-        const int height = options.text.area.height();
+        const int height = options.node.size.height();
         return posters.Add(
             sheet.copy(0, number % PictureSheets::picturesInSheet * height, sheet.width(), height));
     }

@@ -17,9 +17,10 @@ namespace AnimText {
 /** What the gallery shows. */
 struct GalleryOptions
 {
-    AuthorOptions text; ///< the motion and the speed are the gallery's own
-    QString words;      ///< the options of `animtext author` for this text
-    QString folder;     ///< where the gallery goes
+    TextSource text;
+    SceneNode node; ///< settings; the motion and the speed are the gallery's own
+    QString words;  ///< the options of `animtext author` for this text
+    QString folder; ///< where the gallery goes
     uint seed = standardSeed;
 };
 

@@ -62,10 +62,14 @@ struct Cell
 class Setter
 {
 public:
-    Setter(const QString& text, const ShapedLine& line, const Setting& setting)
+    Setter(const QString& text, const ShapedLine& line, const Setting& setting,
+           const NodeMotion& motion, const QSize& area)
         : text(text)
         , line(line)
         , setting(setting)
+        , motion(motion)
+        , traits(motion.Traits())
+        , area(area)
         , widths(ClusterWidths(line))
         , seenAt(line.clusters.size())
         , outlines(line.clusters.size())
@@ -75,27 +79,29 @@ public:
 
     PlacedText Set()
     {
-        switch (setting.arrangement) {
-        case Arrangement::Pages:
-        case Arrangement::PagesFromEnd: SetPages(); break;
-        case Arrangement::Line: SetPage({0, 0, Count(), Count()}, true); break;
-        case Arrangement::Column: SetColumn(); break;
-        }
+        if (motion.IsColumn())
+            SetColumn();
+        else if (motion.IsSideways())
+            SetPage({0, 0, Count(), Count()}, true);
+        else
+            SetPages();
         SetHeights();
         return result;
     }
 
 private:
     int Count() const { return line.clusters.size(); }
-    bool FromEnd() const { return setting.arrangement == Arrangement::PagesFromEnd; }
+    bool IsFromEnd() const { return traits & FromEnd; }
+    /** Spaces are added as margins, since outlines must not be shifted. */
+    bool NeedsPlaces() const { return traits & Turns; }
 
     void SetPages()
     {
-        const int room = qMax(1, setting.area.width() - 2 * setting.padding);
+        const int room = qMax(1, area.width() - 2 * setting.padding);
         const QVector<LinePiece> pieces = Pieces();
-        const QVector<PageCut> pages = CutPages(pieces, room, FromEnd());
+        const QVector<PageCut> pages = CutPages(pieces, room, IsFromEnd());
         for (int p = 0; p < pages.size(); ++p)
-            SetPage(pages[p], FromEnd() ? p == 0 : p + 1 == pages.size());
+            SetPage(pages[p], IsFromEnd() ? p == 0 : p + 1 == pages.size());
         if (!setting.keepsWords)
             return;
         for (int p = 1; p < pages.size(); ++p) {
@@ -156,8 +162,8 @@ private:
 
         const QVector<Cell> cells = Cells(page, seenWidth, left, isLast);
         int x = 0;
-        if (FromEnd()) {
-            x = setting.area.width();
+        if (IsFromEnd()) {
+            x = area.width();
             for (const Cell& cell : cells)
                 x -= cell.width;
         }
@@ -181,16 +187,16 @@ private:
     /** The left edge of a page's text of that width. */
     int LeftOf(int width) const
     {
-        if (setting.arrangement == Arrangement::Line)
+        if (motion.IsSideways())
             return 0;
-        const int right = setting.area.width() - setting.padding - width;
+        const int right = area.width() - setting.padding - width;
         switch (setting.align) {
         case Align::Left: return setting.padding;
-        case Align::Center: return (setting.area.width() - width) / 2;
+        case Align::Center: return (area.width() - width) / 2;
         case Align::Right: return right;
         case Align::Natural: break;
         }
-        return FromEnd() || line.rightToLeft ? right : setting.padding;
+        return IsFromEnd() || line.rightToLeft ? right : setting.padding;
     }
 
     /** Positions the outlines of @p members, given from left to right. */
@@ -214,27 +220,27 @@ private:
         QVector<Cell> cells;
         for (int k = page.begin; k < page.end; ++k)
             cells.append({k, k >= page.seen && k < page.seenEnd ? widths[k] : 0});
-        if (setting.arrangement == Arrangement::Line)
+        if (motion.IsSideways())
             return cells;
-        const int lead = setting.needsPlaces ? qMax(0, left) : 0;
-        int rest = setting.area.width() - seenWidth - lead;
+        const int lead = NeedsPlaces() ? qMax(0, left) : 0;
+        int rest = area.width() - seenWidth - lead;
         const bool fills = rest > 0 && (!isLast || lead > 0) && !IsTurnedAnyway(page);
         if (fills) {
-            const int most = setting.needsEvenWidths ? qMax(1, widest) : rest;
-            int at = FromEnd() ? 0 : cells.size() - 1;
-            const int turned = FromEnd() ? page.begin : page.end - 1;
+            const int most = (traits & EvenWidths) ? qMax(1, widest) : rest;
+            int at = IsFromEnd() ? 0 : cells.size() - 1;
+            const int turned = IsFromEnd() ? page.begin : page.end - 1;
             const bool hasSpace = turned < page.seen || turned >= page.seenEnd;
             if (hasSpace) {
                 cells[at].width = qMin(rest, most);
                 rest -= cells[at].width;
-            } else if (!setting.needsPlaces) {
+            } else if (!NeedsPlaces()) {
                 cells[at].width += rest;
                 rest = 0;
             }
             for (; rest > 0; rest -= cells.last().width)
                 cells.append({-1, qMin(rest, most)});
         }
-        const int most = setting.needsEvenWidths ? qMax(1, widest) : qMax(1, lead);
+        const int most = (traits & EvenWidths) ? qMax(1, widest) : qMax(1, lead);
         for (int margin = lead; margin > 0; margin -= cells.first().width)
             cells.prepend({-1, qMin(margin, most)});
         return cells;
@@ -243,18 +249,18 @@ private:
     /** Whether the sign itself begins a page here. */
     bool IsTurnedAnyway(const PageCut& page) const
     {
-        if (setting.keepsWords || setting.needsPlaces)
+        if (setting.keepsWords || NeedsPlaces())
             return false;
         int sum = 0;
         for (int k = page.begin; k < page.end; ++k)
             sum += widths[k];
-        const int next = FromEnd() ? page.begin - 1 : page.end;
-        return next < 0 || next >= Count() || sum + widths[next] > setting.area.width();
+        const int next = IsFromEnd() ? page.begin - 1 : page.end;
+        return next < 0 || next >= Count() || sum + widths[next] > area.width();
     }
 
     void SetColumn()
     {
-        const int middle = (setting.area.width() - widest) / 2; // where the sign begins all of them
+        const int middle = (area.width() - widest) / 2; // where the sign begins all of them
         for (int k = 0; k < Count(); ++k) {
             seenAt[k] = setting.align == Align::Natural ? 0 : LeftOf(widths[k]) - middle;
             outlines[k] = Underlined(line.clusters[k].shape, widths[k], line.clusters[k].underline);
@@ -284,17 +290,17 @@ private:
     void SetHeights()
     {
         const int height = line.ascent + line.descent;
-        const int middle = setting.area.height() / 2 + height / 2 - line.descent;
+        const int middle = area.height() / 2 + height / 2 - line.descent;
         int up = 0; // pixels that the baseline moves up from middle alignment
         if (setting.valign == VAlign::Top)
             up = middle - setting.padding - line.ascent;
         else if (setting.valign == VAlign::Bottom)
-            up = middle - (setting.area.height() - setting.padding - line.descent);
-        if (setting.arrangement == Arrangement::Column)
+            up = middle - (area.height() - setting.padding - line.descent);
+        if (motion.IsColumn())
             up = 0;
         // Adding the same amount to height and descent keeps the ascent and moves the baseline up
         // by half of it.
-        const int higher = setting.reachesTop && up > 0 ? 2 * up : 0;
+        const int higher = (traits & ReachesTop) && up > 0 ? 2 * up : 0;
         for (int& own : result.heights)
             own += own > 0 ? higher : 0;
         result.descents.fill(line.descent + (higher > 0 ? higher : up), result.text.size());
@@ -303,6 +309,9 @@ private:
     const QString& text;
     const ShapedLine& line;
     const Setting& setting;
+    const NodeMotion& motion;
+    const MotionTraits traits;
+    const QSize area;
     const QVector<int> widths;      // of the clusters
     QVector<int> seenAt;            // left edge of each cluster on its page
     QVector<QPainterPath> outlines; // of the clusters
@@ -313,9 +322,10 @@ private:
 
 } // namespace
 
-PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting)
+PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting,
+                     const NodeMotion& motion, const QSize& area)
 {
-    return Setter(text, line, setting).Set();
+    return Setter(text, line, setting, motion, area).Set();
 }
 
 } // namespace AnimText

@@ -5,50 +5,14 @@
 #ifndef ANIMTEXT_PLACEMENT_H
 #define ANIMTEXT_PLACEMENT_H
 
+#include "layout/setting.h"
 #include "layout/shaping.h"
+#include "scene/motion.h"
 
 #include <QSize>
 #include <QStringList>
 
 namespace AnimText {
-
-/** How the sign arranges characters at rest. */
-enum class Arrangement {
-    Pages,        ///< side by side, pages filled from the text's start
-    PagesFromEnd, ///< side by side, pages filled from the text's end
-    Line,         ///< side by side, not divided
-    Column,       ///< one below the other
-};
-
-/** Horizontal alignment of each page. */
-enum class Align {
-    Natural, ///< the side where reading starts; right with pages filled from the end
-    Left,
-    Center,
-    Right,
-};
-
-/** Vertical alignment of the line. */
-enum class VAlign { Top, Middle, Bottom };
-
-/** Settings for PlaceText(). */
-struct Setting
-{
-    Arrangement arrangement = Arrangement::Pages;
-    QSize area; ///< pixels
-    Align align = Align::Natural;
-    VAlign valign = VAlign::Middle;
-    int padding = 0;        ///< free pixels on each side of the area
-    bool keepsWords = true; ///< pages end where words end
-    /** The motion rotates or scales each character about its place, so outlines must not be
-       shifted; spaces are added as margins instead. */
-    bool needsPlaces = false;
-    /** The motion's duration depends on the widest character: no space may be wider than a letter.
-     */
-    bool needsEvenWidths = false;
-    /** The motion moves characters up until the highest one touches the top. */
-    bool reachesTop = false;
-};
 
 /**
  * The lists of a scene, with an item for each UTF-16 unit of the text. The first unit of a cluster
@@ -67,7 +31,7 @@ struct PlacedText
 };
 
 /**
- * Places @p line, laid out from @p text.
+ * Places @p line, laid out from @p text, in @p area, pixels.
  *
  * The sign gives each character a place, in text order from the left of the page, and begins a new
  * page when the next place does not fit. To end a page early, the space there is made as wide as
@@ -80,7 +44,8 @@ struct PlacedText
  * Letters begin at whole pixels, so that equal letters look equal. Areas that two neighbors cover,
  * as joined letters do, belong to one of them.
  */
-PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting);
+PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting,
+                     const NodeMotion& motion, const QSize& area);
 
 } // namespace AnimText
 

@@ -33,4 +33,13 @@ StyledText StyledText::Scaled(qreal factor) const
     return scaled;
 }
 
+bool operator==(const StyledText& a, const StyledText& b)
+{
+    return a.text == b.text && std::equal(a.runs.begin(), a.runs.end(), b.runs.begin(),
+                                          b.runs.end(), [](const StyleRun& x, const StyleRun& y) {
+                                              return x.begin == y.begin && x.font == y.font &&
+                                                     x.color == y.color;
+                                          });
+}
+
 } // namespace AnimText

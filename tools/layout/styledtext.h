@@ -39,6 +39,8 @@ struct StyledText
     StyledText Scaled(qreal factor) const;
 };
 
+bool operator==(const StyledText& a, const StyledText& b);
+
 /**
  * Replaces line breaks and tabs in @p text with spaces and drops a line break at the end.
  * @param notes gets a line on each kind of change

@@ -23,6 +23,8 @@ struct NodeMotion
     bool IsScroll() const { return mode == Mode::Scroll; }
     /** The device moves the whole line. */
     bool IsSideways() const { return Traits() & Sideways; }
+    /** It scrolls up or down: the characters stand one below the other. */
+    bool IsColumn() const { return IsScroll() && !IsSideways(); }
     /** Its row in the catalog; null for a still text and for unknown numbers. */
     const Motion* Row() const;
     /** Those of its row; none where there is no row. */

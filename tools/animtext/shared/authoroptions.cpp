@@ -1,13 +1,10 @@
 #include "animtext/shared/authoroptions.h"
 
-#include "author/markup.h"
 #include "files/wholefile.h"
-#include "layout/fonts.h"
+#include "scene/fonts.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -15,13 +12,13 @@ namespace AnimText {
 
 namespace {
 
-constexpr int standardSize = 48; // pixels, of text with tags
+constexpr int standardSize = 48; // pixels, of text that fits no area
 constexpr int largestSide = 16384;
 constexpr int longestTextFile = 1 << 20; // bytes, with tags
 constexpr int most = 1000000;            // limit of numbers without a natural one
 constexpr int lastDrawnNeon = 28;        // neon styles above show a picture
 
-QString ReadText(const CommandLine& line)
+QString ReadWords(const CommandLine& line)
 {
     if (line.IsSet("text") == line.IsSet("text-file"))
         throw Misuse{line.IsSet("text")
@@ -51,107 +48,108 @@ QString ReadText(const CommandLine& line)
     return text;
 }
 
-QFont ReadFont(const CommandLine& line)
+NodeMotion ReadMotion(const CommandLine& line)
 {
-    QString family;
-    QString error;
-    if (!FindFamily(line.Value("font"), &family, &error)) {
-        if (line.IsSet("font") || FontFamilies().isEmpty())
-            throw Misuse{error};
-        family = QGuiApplication::font().family(); // the default one is not installed
-    }
-    QFont font(family);
-    if (line.IsSet("size"))
-        font.setPixelSize(line.Number("size"));
-    font.setBold(line.IsSet("bold"));
-    font.setItalic(line.IsSet("italic"));
-    font.setUnderline(line.IsSet("underline"));
-    return font;
+    if (!line.IsSet("scroll"))
+        return {Mode::Entrance, line.Number("effect")};
+    if (line.IsSet("effect"))
+        throw Misuse{QStringLiteral("--effect and --scroll cannot be combined")};
+    return {Mode::Scroll, line.Number("scroll")};
 }
 
-/** Reads the text and its tags. Needs the font, color and motion in @p options. */
-void ReadStyledText(const CommandLine& line, AuthorOptions* options, QStringList* notes)
+Setting ReadSetting(const CommandLine& line, const NodeMotion& motion)
 {
-    const QString words = ReadText(line);
-    QString error;
-    StyledText text;
-    StyleRun base{0, options->font, options->color};
-    if (line.IsSet("markup")) {
-        if (!line.IsSet("size"))
-            base.font.setPixelSize(standardSize);
-        if (!ParseMarkup(words, base, &text, notes, &error))
-            throw Misuse{error};
-        const bool isColumn = options->motion.IsScroll() && !options->motion.IsSideways();
-        if (!line.IsSet("size") && !text.sized && !isColumn)
-            options->fit = Fit::Height;
-    } else {
-        text.Append(words, base);
-    }
-    if (!ToOneLine(&text, notes, &error))
-        throw Misuse{error};
-    options->text = text.text;
-    options->styles = text.runs;
-}
-
-void ReadPlacing(const CommandLine& line, AuthorOptions* options)
-{
+    Setting setting;
     if (line.IsSet("fit")) {
-        options->fit = line.Number("fit") == 0 ? Fit::Height : Fit::Both;
+        setting.fit = line.Number("fit") == 0 ? Fit::Height : Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
             throw Misuse{QStringLiteral("--fit needs --area and cannot be combined with --size")};
-        if (options->motion.IsScroll() && options->fit == Fit::Both)
+        if (motion.IsScroll() && setting.fit == Fit::Both)
             throw Misuse{
                 QStringLiteral("--fit both cannot be combined with --scroll; use --fit height")};
     }
     if (line.IsSet("align")) {
-        options->align = Align(int(Align::Left) + line.Number("align"));
-        if (options->motion.IsSideways())
+        setting.align = Align(int(Align::Left) + line.Number("align"));
+        if (motion.IsSideways())
             throw Misuse{QStringLiteral("--align cannot be combined with --scroll left or right")};
     }
-    options->valign = VAlign(line.Number("valign"));
-    options->padding = line.Number("padding");
-    options->keepsWords = !line.IsSet("tear-words");
+    setting.valign = VAlign(line.Number("valign"));
+    setting.padding = line.Number("padding");
+    setting.keepsWords = !line.IsSet("tear-words");
+    return setting;
 }
 
-void ReadMotion(const CommandLine& line, AuthorOptions* options)
-{
-    if (!line.IsSet("scroll")) {
-        options->motion.number = line.Number("effect");
-        return;
-    }
-    if (line.IsSet("effect"))
-        throw Misuse{QStringLiteral("--effect and --scroll cannot be combined")};
-    options->motion = {Mode::Scroll, line.Number("scroll")};
-}
-
-/** The file of @p option, relative to the scene's folder. */
-QString FileForScene(const CommandLine& line, const char* option)
+/** The file of @p option. */
+QString FileIn(const CommandLine& line, const char* option)
 {
     const QString name = line.Value(option);
-    const QFileInfo file(name);
-    if (!file.isFile())
+    if (!QFileInfo(name).isFile())
         throw Misuse{QStringLiteral("--%1: %2 is not a file").arg(QLatin1String(option), name)};
-    return QFileInfo(RealPath(line.Value("output")))
-        .dir()
-        .relativeFilePath(file.absoluteFilePath());
+    return name;
 }
 
-void ReadBackground(const CommandLine& line, AuthorOptions* options)
+void ReadBackground(const CommandLine& line, SceneNode* node)
 {
-    if (line.IsSet("dazzle"))
-        options->dazzle = Dazzle(int(Dazzle::Plain) + line.Number("dazzle"));
+    if (line.IsSet("dazzle")) {
+        node->attributes[QStringLiteral("CheckDazzle")] = 1;
+        const int gradient = line.Number("dazzle") - 1; // after "plain"
+        if (gradient >= 0) {
+            node->attributes[QStringLiteral("CheckColorGradient")] = 1;
+            node->attributes[QStringLiteral("ColorGradient")] = gradient;
+        }
+    }
     if (line.IsSet("picture")) {
         if (!line.IsSet("dazzle"))
             throw Misuse{QStringLiteral("--picture needs --dazzle")};
-        options->picture = FileForScene(line, "picture");
+        node->attributes[QStringLiteral("CheckPictureFills")] = 1;
+        node->files[QStringLiteral("FillImage")] = FileIn(line, "picture");
     }
-    if (line.IsSet("neon"))
-        options->neon = line.Number("neon");
-    if ((options->neon > lastDrawnNeon) != line.IsSet("neon-picture"))
+    if (line.IsSet("neon")) {
+        node->attributes[QStringLiteral("CheckNeonBg")] = 1;
+        node->neonEffect = line.Number("neon");
+    }
+    if ((node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"))
         throw Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
                          .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
-        options->neonPicture = FileForScene(line, "neon-picture");
+        node->files[QStringLiteral("NeonGifPath")] = FileIn(line, "neon-picture");
+}
+
+/** The settings of the text. */
+SceneNode ReadNode(const CommandLine& line)
+{
+    SceneNode node = ReadLook(line);
+    ReadBackground(line, &node);
+    if (line.IsSet("area"))
+        node.size = line.Size("area");
+    node.pos = line.Point("pos");
+    node.attributes[QStringLiteral("PlayTimes")] = line.Number("plays");
+    return node;
+}
+
+Destination ReadDestination(const CommandLine& line)
+{
+    Destination destination;
+    const bool isCounted = line.IsSet("page") || line.IsSet("in-area");
+    destination.isAdded = line.IsSet("append") || line.IsSet("replace") || isCounted;
+    destination.overwrites = line.IsSet("overwrite");
+    destination.isOpaque = line.IsSet("no-alpha");
+    if (line.IsSet("display"))
+        destination.display = line.Size("display");
+    if (line.IsSet("page"))
+        destination.page = line.Number("page");
+    if (line.IsSet("in-area"))
+        destination.area = line.Number("in-area");
+    if (line.IsSet("replace"))
+        destination.instead = line.Value("replace");
+    if (!destination.instead.isEmpty() && isCounted)
+        throw Misuse{QStringLiteral("--replace cannot be combined with --page or --in-area")};
+    if (line.IsSet("replace") && destination.instead.isEmpty())
+        throw Misuse{QStringLiteral("--replace is empty; expected PLACE")};
+    if (destination.overwrites && destination.isAdded)
+        throw Misuse{QStringLiteral("--overwrite cannot be combined with --append, --page, "
+                                    "--in-area or --replace")};
+    return destination;
 }
 
 } // namespace
@@ -165,7 +163,7 @@ QVector<Option> LayoutOptions()
         Option::Text("text", "TEXT", "Text to show, on one line."),
         Option::File("text-file", "FILE",
                      "Read the text from a UTF-8 file of up to 1 MiB; - is standard input."),
-        Option::Text("font", "FAMILY", "Font family or font file.").Or("DejaVu Sans"),
+        Option::Font("font", "Font family or font file.").Or(usualFamily),
         Option::Number("size", smallestReadableSize, largestFontSize,
                        "Font size in pixels. Default: fits the area, or 48."),
         Option::Flag("bold", "Bold text."),
@@ -219,28 +217,42 @@ QVector<Option> LayoutOptions()
         Option::Flag("overwrite", "Replace a scene that has several texts.")};
 }
 
-void ReadLook(const CommandLine& line, AuthorOptions* options)
+WrittenText ReadWritten(const CommandLine& line)
 {
-    options->font = ReadFont(line);
-    options->color = line.Color("color");
-    options->hollow = line.IsSet("hollow");
-    options->hold = line.Number("hold");
+    WrittenText written;
+    written.isSized = line.IsSet("size");
+    QFont font(line.Font("font"));
+    font.setPixelSize(written.isSized ? line.Number("size") : standardSize);
+    font.setBold(line.IsSet("bold"));
+    font.setItalic(line.IsSet("italic"));
+    font.setUnderline(line.IsSet("underline"));
+    written.style = {0, font, line.Color("color")};
+    return written;
 }
 
-AuthorOptions ReadOptions(const CommandLine& line, QStringList* notes)
+SceneNode ReadLook(const CommandLine& line)
 {
-    AuthorOptions options;
-    ReadLook(line, &options);
-    ReadMotion(line, &options);
-    ReadStyledText(line, &options, notes);
-    ReadPlacing(line, &options);
-    options.speed = line.Number("speed");
-    options.plays = line.Number("plays");
-    if (line.IsSet("area"))
-        options.area = line.Size("area");
-    options.pos = line.Point("pos");
-    ReadBackground(line, &options);
-    return options;
+    SceneNode node;
+    node.hold = line.Number("hold");
+    if (line.IsSet("hollow"))
+        node.attributes[QStringLiteral("Hollow")] = 1;
+    return node;
+}
+
+AuthorRequest ReadRequest(const CommandLine& line)
+{
+    AuthorRequest request;
+    request.path = line.Value("output");
+    request.written = ReadWritten(line);
+    request.written.words = ReadWords(line);
+    request.written.hasTags = line.IsSet("markup");
+    request.motion = ReadMotion(line);
+    request.setting = ReadSetting(line, request.motion);
+    request.node = ReadNode(line);
+    request.node.attributes[request.motion.SpeedKey()] = line.Number("speed");
+    request.hasPlace = line.IsSet("pos");
+    request.destination = ReadDestination(line);
+    return request;
 }
 
 } // namespace AnimText

@@ -5,23 +5,20 @@
 #ifndef ANIMTEXT_AUTHOROPTIONS_H
 #define ANIMTEXT_AUTHOROPTIONS_H
 
-#include "author/author.h"
+#include "author/authorscene.h"
 #include "cli/commandline.h"
-
-#include <QStringList>
 
 namespace AnimText {
 
 QVector<Option> LayoutOptions();
 
-/** Reads font, color, hollow and hold; throws Misuse. */
-void ReadLook(const CommandLine& line, AuthorOptions* options);
+/** The text's font, size and color, without its words. */
+WrittenText ReadWritten(const CommandLine& line);
+/** Hollow and hold. */
+SceneNode ReadLook(const CommandLine& line);
 
-/**
- * Reads all options; throws Misuse if they cannot be combined.
- * @param notes gets a line for each change that the text needed
- */
-AuthorOptions ReadOptions(const CommandLine& line, QStringList* notes);
+/** Reads all options; throws Misuse if they cannot be combined. */
+AuthorRequest ReadRequest(const CommandLine& line);
 
 } // namespace AnimText
 

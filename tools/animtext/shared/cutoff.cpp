@@ -1,6 +1,5 @@
 #include "animtext/shared/cutoff.h"
 
-#include "cli/interruption.h"
 #include "cli/messages.h"
 #include "cli/output.h"
 #include "player/plugin.h"
@@ -80,7 +79,7 @@ private:
         if (times.planned / tickLength > longest)
             return times;
         const NodePlay play =
-            PlayToEnd(&player, longest, standardSeed, [](int) { return !Interrupted(); }).value(0);
+            PlayToEnd(&player, longest, standardSeed, [](int) { return true; }).value(0);
         if (play.ending == Ending::Finishes)
             times.real = qint64(play.finishedTick) * tickLength;
         return times;
@@ -144,7 +143,6 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
         return;
     const int speed = SpeedThatFits(&measurement);
     const int hold = speed < 0 ? HoldThatFits(&measurement, now) : -1;
-    StopIfInterrupted();
     const QString way = speed >= 0 ? QStringLiteral("speed %1 avoids this").arg(speed)
                         : hold >= 0
                             ? QStringLiteral("no speed avoids this, but a hold of %1s does")

@@ -1,21 +1,23 @@
 #include "animtext/shared/savescene.h"
 
-#include "cli/interruption.h"
 #include "cli/output.h"
 
 #include <QFileInfo>
 
 namespace AnimText {
 
-void SaveScene(const QString& path, const SceneChange& change)
+void StopUnlessSaved(Storing storing, const QString& error)
 {
-    QString error;
-    QString doubt;
-    const Storing storing = ChangeScene(path, change, &error, &doubt);
+    if (storing == Storing::Misread)
+        throw Misuse{error};
     if (storing != Storing::Saved)
         throw Failure{storing == Storing::Refused ? BadInput : FailedRun, error};
-    if (!doubt.isEmpty())
-        Warn(QStringLiteral("kept old data files: ") + doubt);
+}
+
+void WarnOfDoubt(const Stored& stored)
+{
+    if (!stored.doubt.isEmpty())
+        Warn(QStringLiteral("kept old data files: ") + stored.doubt);
 }
 
 QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change)
@@ -23,15 +25,15 @@ QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change
     const QString path = line.Arguments().at(0);
     if (!QFileInfo::exists(path))
         throw Failure{BadInput, path + QStringLiteral(": no such file")};
-    WatchForInterruption();
-    QPair<Scene, Place> changed;
-    SaveScene(path, [&](Scene* scene, DataFiles*, QString* error) {
-        const bool isDone = scene->Find(line.Arguments().at(1), &changed.second, error) &&
-                            change(scene, changed.second, error);
-        changed.first = *scene;
-        return isDone;
-    });
-    return changed;
+    QString error;
+    Stored stored;
+    Place place;
+    const auto changeText = [&](Scene* scene, DataFiles*, QString* why) {
+        return scene->Find(line.Arguments().at(1), &place, why) && change(scene, place, why);
+    };
+    StopUnlessSaved(ChangeScene(path, changeText, &error, &stored), error);
+    WarnOfDoubt(stored);
+    return {stored.scene, place};
 }
 
 } // namespace AnimText

@@ -12,8 +12,9 @@
 
 namespace AnimText {
 
-/** Calls ChangeScene(); throws Failure unless the scene was saved. */
-void SaveScene(const QString& path, const SceneChange& change);
+/** Throws Misuse or Failure with @p error unless a scene was saved. */
+void StopUnlessSaved(Storing storing, const QString& error);
+void WarnOfDoubt(const Stored& stored);
 
 /** Changes one text; returns false with one line in @p error to refuse. */
 using TextChange = std::function<bool(Scene* scene, const Place& place, QString* error)>;

@@ -1,8 +1,8 @@
 #include "studio/model/sign.h"
 
 #include "files/wholefile.h"
-#include "layout/fonts.h"
 #include "layout/glyphfiles.h"
+#include "scene/fonts.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -143,8 +143,7 @@ SignText NewText(const QSize& area, int page)
     text.node.attributes[QStringLiteral("PlayTimes")] = 1;
     QString family;
     QString error;
-    if (!FindFamily(QStringLiteral("DejaVu Sans"), &family, &error))
-        family = QGuiApplication::font().family();
+    FindFamily(QLatin1String(usualFamily), &family, &error);
     QFont font(family);
     font.setPixelSize(qMax(8, area.height() * 5 / 8));
     text.source.text.text = QCoreApplication::translate("Sign", "Your text");
@@ -333,8 +332,10 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
         return layout;
     }
     AuthoredNode authored;
+    const NodeMotion own = MotionOf(text.node);
+    const NodeMotion motion{own.IsScroll() ? Mode::Scroll : Mode::Entrance, own.number};
     if (!ToOneLine(&source.text, &layout->notes, &layout->fault) ||
-        !AuthorNode(OptionsFor(source, text.node), &authored, &layout->fault))
+        !AuthorNode(source, text.node, motion, &authored, &layout->fault))
         return layout;
     layout->text = authored.node.attributes.value(textKey).toString();
     layout->lists = authored.node.lists;

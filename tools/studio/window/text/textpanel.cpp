@@ -218,7 +218,7 @@ void TextPanel::Show(const SignText* text)
     }
     base = text->source.text.runs.first();
     editor->SetBase(base);
-    if (text->id != shownId || !(TextSource{text->source.text} == TextSource{shown})) {
+    if (text->id != shownId || !(text->source.text == shown)) {
         const int anchor = editor->textCursor().anchor();
         const int position = editor->textCursor().position();
         filling = true;
@@ -294,7 +294,7 @@ void TextPanel::Tell()
     if (filling)
         return;
     const StyledText text = editor->Styled();
-    if (TextSource{text} == TextSource{shown})
+    if (text == shown)
         return;
     if (styling != noStyling)
         ++gesture; // a style is a separate undo step

@@ -1,9 +1,10 @@
-#include "layout/fonts.h"
+#include "scene/fonts.h"
 
 #include "scene/suggest.h"
 
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 namespace AnimText {
 
@@ -27,6 +28,9 @@ bool FindFamily(const QString& name, QString* family, QString* error)
             return true;
         *error = QStringLiteral("%1: not a font file").arg(name);
     } else if ((families + generic).contains(name, Qt::CaseInsensitive)) {
+        return true;
+    } else if (name == QLatin1String(usualFamily)) {
+        *family = QGuiApplication::font().family();
         return true;
     } else {
         *error = QStringLiteral("unknown font family \"%1\"%2")

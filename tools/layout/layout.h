@@ -1,0 +1,38 @@
+/**
+ * @file
+ * Lays out a text for the sign.
+ */
+#ifndef ANIMTEXT_LAYOUT_H
+#define ANIMTEXT_LAYOUT_H
+
+#include "layout/placement.h"
+
+#include <QByteArray>
+
+namespace AnimText {
+
+/** A text as the sign will have it, and what to warn of. */
+struct LaidOut : PlacedText
+{
+    StyledText styled;      ///< in the sizes that fit
+    QSize area;             ///< pixels
+    QSize size;             ///< of the line, pixels
+    int pages = 1;          ///< into which the sign divides the text
+    QByteArray pathFile;    ///< content for "PathData"
+    QByteArray descentFile; ///< content for "DescentVector"
+    QList<UnseenCharacter> unseen;
+    int cutAbove = 0; ///< pixels of letters at rest outside the area
+    int cutBelow = 0;
+};
+
+/**
+ * Lays out @p text in @p area, pixels, or without one in an area that fits the text. Needs a
+ * QGuiApplication.
+ * @return false, with one line in @p error, if a sign cannot show it
+ */
+bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& motion,
+            const QSize& area, LaidOut* laid, QString* error);
+
+} // namespace AnimText
+
+#endif
