@@ -1,5 +1,6 @@
+#include "files/failure.h"
 #include "film/film.h"
-#include "film/videofile.h"
+#include "film/filmfile.h"
 #include "player/plugin.h"
 #include "scene/attributes.h"
 #include "scene/catalog.h"
@@ -99,8 +100,7 @@ private slots:
         QCOMPARE(simulation.holdTicks, play.holdTicks);
         QCOMPARE(int(simulation.finishedMs), play.finished < 0 ? -1 : play.finished * 66);
 
-        Film film(player.get(), scene, FilmSettings());
-        QVERIFY2(film.Plan(FilmWatch(), &error), qPrintable(error));
+        const Film film(player.get(), scene, FilmSettings());
         QCOMPARE(film.FrameCount(), play.frames);
 
         Load(scene)->Start();
@@ -236,14 +236,10 @@ private slots:
         settings.scale = 2;
         settings.background = QColor(1, 2, 3);
         Film film(Load(scene), scene, settings);
-        QVERIFY(film.Plan(FilmWatch(), &error));
         QList<QImage> pictures;
-        const auto take = [&](int, const QImage& picture) {
-            pictures.append(picture);
-            return true;
-        };
         QCOMPARE(film.FrameCount(), 12); // the end is tick 7; played on, 11 would be as 3 again
-        QVERIFY(film.Play({0, 3, 4, 7, 8, 9, 10, 11}, take, &error));
+        film.Play({0, 3, 4, 7, 8, 9, 10, 11},
+                  [&](int, const QImage& picture) { pictures.append(picture); });
         QCOMPARE(pictures.size(), 8);
         QCOMPARE(pictures.at(0).size(), QSize(128, 64));
         QCOMPARE(pictures.at(0).pixel(2 * 40, 2 * 16), qRgb(1, 2, 3));
@@ -296,13 +292,11 @@ private slots:
         FilmSettings settings;
         settings.schedule = true;
         Film film(Load(scene), scene, settings);
-        QVERIFY(film.Plan(FilmWatch(), &error));
         const Schedule told = HostSchedule(scene, player->Durations());
         QCOMPARE(film.FrameCount(), int((told.length + 65) / 66));
         QImage end;
-        QVERIFY(film.Play(
-            {int(told.showings.at(3).until / 66)},
-            [&](int, const QImage& picture) { return end = picture, true; }, &error));
+        film.Play({int(told.showings.at(3).until / 66)},
+                  [&](int, const QImage& picture) { end = picture; });
         QCOMPARE(end.pixel(128 + 8, 16), qRgb(0xFF, 0xA0, 0x40));
         QCOMPARE(end.pixel(8, 16), qRgb(0, 0, 0));
     }
@@ -363,14 +357,19 @@ private slots:
         script.close();
         const QByteArray before = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(programs.path()) + ':' + before);
-        VideoFile film(
-            files.Path("still.webp"), *FilmKindOf("still.webp"), [] { return true; }, 100);
-        QVERIFY(film.Open({QSize(8, 8), 0, 1, false, false}, &error));
-        QVERIFY(!film.Finish(&error));
+        const FilmFilePointer film = MakeVideo(
+            files.Path("still.webp"), *FilmKindOf("still.webp"), {QSize(8, 8), 0, 1, false, false},
+            PlayPictures(), [] {}, 100);
+        QString message;
+        try {
+            film->Finish();
+        } catch (const Failure& failure) {
+            message = failure.message;
+        }
         QVERIFY2(
-            error.endsWith("still.webp cannot be written: ffmpeg has stood still for 0.1 s and "
-                           "was ended"),
-            qPrintable(error));
+            message.endsWith("still.webp cannot be written: ffmpeg has stood still for 0.1 s and "
+                             "was ended"),
+            qPrintable(message));
         qputenv("PATH", before);
     }
 

@@ -6,7 +6,7 @@
 #include "compare/difference.h"
 #include "compare/pictures.h"
 #include "files/wholefile.h"
-#include "film/stillfile.h"
+#include "film/png.h"
 
 #include <QDir>
 #include <QFile>
@@ -57,9 +57,7 @@ QString Tell(const Parting& parting, const Recording& a, const Recording& b)
 
 void Keep(const QImage& picture, const QString& path)
 {
-    QString error;
-    if (!WritePng(path, PngOf(picture, true, PngEffort::Fast), &error))
-        throw Failure{FailedRun, error};
+    WritePng(path, PngOf(picture, true));
     Print(path.toUtf8() + '\n');
 }
 

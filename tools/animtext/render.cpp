@@ -105,35 +105,6 @@ Progress::Form FormOf(const CommandLine& line)
     return line.IsSet("progress") ? Progress::Form::Lines : Progress::Form::Bar;
 }
 
-/** Shows how far a film is, a bar for each of its stages. */
-class Reporter
-{
-public:
-    explicit Reporter(Progress::Form form)
-        : form(form)
-    {
-    }
-
-    bool Show(FilmStage now, qint64 done, qint64 total)
-    {
-        static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
-        if (!progress || now != stage) {
-            progress.reset(); // erases its bar before the next one
-            progress = std::make_unique<Progress>(QLatin1String(names[int(now)]), total, form);
-        }
-        stage = now;
-        progress->Show(done);
-        return !Interrupted();
-    }
-
-    void Clear() { progress.reset(); }
-
-private:
-    Progress::Form form;
-    FilmStage stage = FilmStage::End;
-    std::unique_ptr<Progress> progress;
-};
-
 /** "Wrote sign.gif: 512 x 64, 14.2 s, 215 frames, 1.3 MB" */
 QString Summary(const QString& output, const FilmKind& kind, const WrittenFilm& film)
 {
@@ -155,21 +126,23 @@ void RenderOne(const CommandLine& line, const QString& output)
     const Scene scene = OpenPlayableScene(line, line.Arguments().first());
     const Playing playing(line);
     const std::unique_ptr<Player> player = playing.Load(scene);
-    Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()));
-    Reporter reporter(FormOf(line));
+    std::unique_ptr<Progress> progress; // of a stage
+    FilmStage current = FilmStage::End;
     const FilmWatch watch = [&](FilmStage stage, qint64 done, qint64 total) {
-        return reporter.Show(stage, done, total);
+        static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
+        if (!progress || stage != current) {
+            progress.reset(); // erases its bar before the next one
+            progress =
+                std::make_unique<Progress>(QLatin1String(names[int(stage)]), total, FormOf(line));
+        }
+        current = stage;
+        progress->Show(done);
+        StopIfInterrupted();
     };
-    QString error;
-    if (!film.Plan(watch, &error))
-        throw Failure{BadInput, error};
-    WrittenFilm written;
-    const bool isWritten = WriteFilm(&film, RangeFor(line, film.FrameCount()), output,
-                                     line.IsSet("lossless"), watch, &written, &error);
-    reporter.Clear();
-    StopIfInterrupted();
-    if (!isWritten)
-        throw Failure{FailedRun, error};
+    Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()), watch);
+    const WrittenFilm written =
+        WriteFilm(&film, RangeFor(line, film.FrameCount()), output, line.IsSet("lossless"), watch);
+    progress.reset();
     if (written.halvesColors)
         Warn(QStringLiteral("%1: such a film stores colors at half the resolution (4:2:0), which "
                             "blurs colored text; --lossless keeps every pixel")

@@ -4,7 +4,7 @@
 #include "cli/progress.h"
 #include "film/contactsheet.h"
 #include "film/film.h"
-#include "film/stillfile.h"
+#include "film/png.h"
 
 #include "scene/motion.h"
 
@@ -32,13 +32,8 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
     FilmSettings settings;
     settings.seed = playing.Seed();
     settings.restAtEnd = false;
-    Film film(player.get(), scene, settings);
-    QString error;
-    const bool planned =
-        film.Plan([](FilmStage, qint64, qint64) { return !Interrupted(); }, &error);
-    StopIfInterrupted();
-    if (!planned)
-        throw Failure{BadInput, error};
+    Film film(player.get(), scene, settings,
+              [](FilmStage, qint64, qint64) { StopIfInterrupted(); });
 
     SheetRow row;
     const Motion* motion =
@@ -51,25 +46,11 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
         row.remark = QStringLiteral("%1: %2").arg(QLatin1String(motion->name),
                                                   QLatin1String(motion->summary));
     }
-    const auto take = [&](int frame, const QImage& picture) {
+    film.Play(Spread(film.FrameCount(), columns, !scrolls), [&](int frame, const QImage& picture) {
+        StopIfInterrupted();
         row.frames.append({picture, qint64(frame) * tickLength});
-        return !Interrupted();
-    };
-    const bool played = film.Play(Spread(film.FrameCount(), columns, !scrolls), take, &error);
-    StopIfInterrupted();
-    if (!played)
-        throw Failure{FailedRun, error};
+    });
     sheet->Add(row);
-}
-
-void Save(const QImage& picture, const QString& path)
-{
-    const QByteArray png = PngOf(picture, false);
-    QString error;
-    if (path == QLatin1String("-"))
-        Print(png);
-    else if (!WritePng(path, png, &error))
-        throw Failure{FailedRun, error};
 }
 
 int DrawSheet(const CommandLine& line)
@@ -92,7 +73,11 @@ int DrawSheet(const CommandLine& line)
             progress.Show(i + 1);
         }
     }
-    Save(sheet.Draw(), output);
+    const QByteArray png = PngOf(sheet.Draw(), false);
+    if (output == QLatin1String("-"))
+        Print(png);
+    else
+        WritePng(output, png);
     return Done;
 }
 

@@ -1,24 +1,15 @@
 /**
  * @file
- * Exit statuses, errors and standard output.
+ * Errors and standard output.
  */
 #ifndef ANIMTEXT_OUTPUT_H
 #define ANIMTEXT_OUTPUT_H
 
+#include "files/failure.h"
+
 #include <QByteArray>
-#include <QString>
 
 namespace AnimText {
-
-/** Exit statuses. After a signal the status is 128 + signal. */
-enum Status { Done = 0, FailedRun = 1, BadInput = 2 };
-
-/** Thrown by a command that fails: the exit status and one line for standard error. */
-struct Failure
-{
-    Status status;
-    QString message;
-};
 
 /** Thrown if the command line is wrong. */
 struct Misuse

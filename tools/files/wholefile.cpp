@@ -100,8 +100,13 @@ bool FindTarget(const QString& path, QString* target, QString* error)
     *target = QFileInfo(RealPath(path)).absoluteFilePath();
     const QString obstacle = Obstacle(*target);
     if (!obstacle.isEmpty())
-        *error = QStringLiteral("%1 cannot be written: %2").arg(path, obstacle);
+        *error = CannotWrite(path, obstacle);
     return obstacle.isEmpty();
+}
+
+QString CannotWrite(const QString& path, const QString& problem)
+{
+    return QStringLiteral("%1 cannot be written: %2").arg(path, problem);
 }
 
 QString Shortened(const QString& name, int most)
@@ -198,7 +203,7 @@ bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
         }
         problem = QString::fromLocal8Bit(std::strerror(errno));
     }
-    *error = QStringLiteral("%1 cannot be written: %2").arg(path, problem);
+    *error = CannotWrite(path, problem);
     return false;
 }
 
@@ -221,8 +226,7 @@ bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* 
     const bool whole = file >= 0 && fsync(file) == 0 && fchmod(file, mode & ~mask) == 0 &&
                        std::rename(name.constData(), QFile::encodeName(to).constData()) == 0;
     if (!whole)
-        *error = QStringLiteral("%1 cannot be written: %2")
-                     .arg(to, QString::fromLocal8Bit(std::strerror(errno)));
+        *error = CannotWrite(to, QString::fromLocal8Bit(std::strerror(errno)));
     if (file >= 0)
         close(file);
     return whole;

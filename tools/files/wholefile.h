@@ -40,6 +40,9 @@ bool FindTarget(const QString& path, QString* target, QString* error);
 /** The target of @p path if it is a symbolic link, else @p path. */
 QString RealPath(const QString& path);
 
+/** "PATH cannot be written: PROBLEM" */
+QString CannotWrite(const QString& path, const QString& problem);
+
 /** Makes the folder @p path and its parents; false, with one line in @p error, on failure. */
 bool MakeFolder(const QString& path, QString* error);
 

@@ -66,7 +66,7 @@ bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
         protection = WriteProtection(culprit);
     }
     if (!protection.isEmpty()) {
-        *error = QStringLiteral("%1 cannot be written: %2").arg(culprit, protection);
+        *error = CannotWrite(culprit, protection);
         return false;
     }
     const QString foreign = ForeignName(there, own);
@@ -105,7 +105,7 @@ bool WholeFolder::Add(const QString& name, const QByteArray& content, QString* e
         bytes += content.size();
         return true;
     }
-    *error = QStringLiteral("%1/%2 cannot be written: %3").arg(path, name, problem);
+    *error = CannotWrite(path + QLatin1Char('/') + name, problem);
     return false;
 }
 

@@ -1,5 +1,6 @@
 #include "film/film.h"
 
+#include "files/failure.h"
 #include "film/lamps.h"
 
 #include <hneonnodebase.h>
@@ -28,11 +29,25 @@ int RoundedUpToEven(int number)
 
 } // namespace
 
-Film::Film(Player* player, const Scene& scene, const FilmSettings& settings)
+Film::Film(Player* player, const Scene& scene, const FilmSettings& settings, const FilmWatch& watch)
     : player(player)
     , scene(scene)
     , settings(settings)
 {
+    const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / tickLength)));
+    if (settings.schedule) {
+        schedule = HostSchedule(scene, player->Durations());
+        frameCount = std::max(1, TicksOf(schedule.length));
+        if (settings.seconds > 0)
+            frameCount = std::min(frameCount, wanted);
+    } else {
+        frameCount = settings.seconds > 0 ? wanted : FindEnd(watch);
+    }
+    FailUnless(frameCount <= ticksOfAnHour || settings.seconds > 0,
+               QStringLiteral("%1: does not end within an hour; choose a part of it, for instance "
+                              "--seconds 60")
+                   .arg(scene.path),
+               BadInput);
 }
 
 QSize Film::FrameSize() const
@@ -74,45 +89,18 @@ int Film::PlannedFrames(const QVector<NodePlay>& plays)
     return lastTick + 1;
 }
 
-bool Film::Plan(const FilmWatch& watch, QString* error)
-{
-    const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / tickLength)));
-    if (settings.schedule) {
-        schedule = HostSchedule(scene, player->Durations());
-        frameCount = std::max(1, TicksOf(schedule.length));
-        if (settings.seconds > 0)
-            frameCount = std::min(frameCount, wanted);
-    } else if (settings.seconds > 0) {
-        frameCount = wanted;
-    } else if (!FindEnd(watch, error)) {
-        return false;
-    }
-    if (frameCount > ticksOfAnHour && settings.seconds <= 0) {
-        *error = QStringLiteral("%1: does not end within an hour; choose a part of it, for "
-                                "instance --seconds 60")
-                     .arg(scene.path);
-        return false;
-    }
-    return true;
-}
-
-bool Film::FindEnd(const FilmWatch& watch, QString* error)
+int Film::FindEnd(const FilmWatch& watch)
 {
     const BlankScene blank(scene);
-    if (!player->Load(blank.Get(), error))
-        return false;
-    bool brokenOff = false;
+    QString error;
+    FailUnless(player->Load(blank.Get(), &error), error, BadInput);
     const auto look = [&](int tick) {
-        brokenOff = watch && !watch(FilmStage::End, tick, 0);
-        return !brokenOff;
+        if (watch)
+            watch(FilmStage::End, tick, 0);
+        return true;
     };
     const int longest = std::min(LongestPlay(scene), ticksOfAnHour + 1);
-    frameCount = PlannedFrames(PlayToEnd(player, longest, settings.seed, look));
-    if (brokenOff) {
-        *error = QStringLiteral("interrupted");
-        return false;
-    }
-    return true;
+    return PlannedFrames(PlayToEnd(player, longest, settings.seed, look));
 }
 
 /** @p shown, scaled to @p part, in a picture of @p size with the background. */
@@ -138,12 +126,12 @@ QImage Film::Picture() const
     return OnBackground(shown, scene.display * settings.scale, FrameSize());
 }
 
-bool Film::Play(const QVector<int>& wanted,
-                const std::function<bool(int frame, const QImage&)>& take, QString* error)
+void Film::Play(const QVector<int>& wanted,
+                const std::function<void(int frame, const QImage&)>& take)
 {
     // Some state outlives a restart, for example the dazzle colors.
-    if (!player->Load(scene, error))
-        return false;
+    QString error;
+    FailUnless(player->Load(scene, &error), error);
     if (settings.schedule)
         player->Start(schedule, settings.seed);
     else
@@ -153,10 +141,8 @@ bool Film::Play(const QVector<int>& wanted,
             Rest();
             player->Advance();
         }
-        if (!take(frame, Picture()))
-            return false;
+        take(frame, Picture());
     }
-    return true;
 }
 
 /** Freezes what has finished, once its last hold is over. */

@@ -30,8 +30,8 @@ struct FilmSettings
 /** The stages of making a film. */
 enum class FilmStage { End, Colors, Pictures };
 
-/** Receives the progress and, if known, the total; returns false to stop. */
-using FilmWatch = std::function<bool(FilmStage stage, qint64 done, qint64 total)>;
+/** Receives the progress and, if known, the total; throws to stop. */
+using FilmWatch = std::function<void(FilmStage stage, qint64 done, qint64 total)>;
 
 /**
  * To the end means: until every node is finished and its last page was held once more; a text that
@@ -41,16 +41,14 @@ using FilmWatch = std::function<bool(FilmStage stage, qint64 done, qint64 total)
 class Film
 {
 public:
-    Film(Player* player, const Scene& scene, const FilmSettings& settings);
-
     /**
-     * Finds the length by playing the scene, unless it is given.
-     * @return false, with one line in @p error, when the scene cannot be played, does not end
-     *         within an hour, or @p watch stops it
+     * Finds the length by playing the scene, unless it is given. Throws Failure when the scene
+     * cannot be played or does not end within an hour.
+     * @param watch called for as long as that takes
      */
-    bool Plan(const FilmWatch& watch, QString* error);
+    Film(Player* player, const Scene& scene, const FilmSettings& settings,
+         const FilmWatch& watch = FilmWatch());
 
-    /** Known after Plan(). */
     int FrameCount() const { return frameCount; }
     /** Of the pictures, in pixels. */
     QSize FrameSize() const;
@@ -59,14 +57,14 @@ public:
 
     /**
      * Plays and passes the pictures @p wanted, in rising order, to @p take: in
-     * QImage::Format_ARGB32, or in Format_RGB32 where there is a background. Stops when it returns
-     * false.
+     * QImage::Format_ARGB32, or in Format_RGB32 where there is a background. Throws Failure when
+     * the scene cannot be played.
      */
-    bool Play(const QVector<int>& wanted, const std::function<bool(int frame, const QImage&)>& take,
-              QString* error);
+    void Play(const QVector<int>& wanted,
+              const std::function<void(int frame, const QImage&)>& take);
 
 private:
-    bool FindEnd(const FilmWatch& watch, QString* error);
+    int FindEnd(const FilmWatch& watch);
     int PlannedFrames(const QVector<NodePlay>& plays);
     QImage OnBackground(const QImage& shown, QSize part, QSize size) const;
     QImage Picture() const;

@@ -1,10 +1,11 @@
 #include "film/filmcheck.h"
 
+#include "files/failure.h"
+#include "files/wholefile.h"
 #include "film/filmprogram.h"
 #include "player/player.h"
 
 #include <QFile>
-#include <QtEndian>
 
 #include <cmath>
 
@@ -14,6 +15,14 @@ namespace {
 
 constexpr int patience = 60 * 1000; // milliseconds
 
+/** What a film's file contains. */
+struct Facts
+{
+    QSize size;
+    int frames = 0; // formats may store equal pictures once
+    double milliseconds = 0;
+};
+
 quint32 Number(const QByteArray& bytes, int at, int count)
 {
     quint32 number = 0;
@@ -22,8 +31,8 @@ quint32 Number(const QByteArray& bytes, int at, int count)
     return number;
 }
 
-/** Animated WebP is unknown to ffprobe. */
-bool ReadWebp(const QString& path, FilmFacts* facts, QString* error)
+/** Animated WebP is unknown to ffprobe. @return whether the file is complete */
+bool ReadWebp(const QString& path, Facts* facts)
 {
     QFile file(path);
     bool whole = file.open(QIODevice::ReadOnly);
@@ -48,64 +57,65 @@ bool ReadWebp(const QString& path, FilmFacts* facts, QString* error)
         at += 8 + qint64(size) + size % 2;
         whole = whole && at <= file.size();
     }
-    if (!whole)
-        *error = QStringLiteral("what was written is not a complete WebP file");
     return whole;
+}
+
+/** What ffprobe said. */
+Facts FactsIn(const QByteArray& answer)
+{
+    Facts facts;
+    for (const QByteArray& line : answer.split('\n')) {
+        const QList<QByteArray> fields = line.trimmed().split(',') << "0"
+                                                                   << "0";
+        if (fields.at(0) == "stream")
+            facts.size = QSize(fields.at(1).toInt(), fields.at(2).toInt());
+        if (fields.at(0) != "packet")
+            continue;
+        ++facts.frames;
+        facts.milliseconds = std::max(facts.milliseconds,
+                                      (fields.at(1).toDouble() + fields.at(2).toDouble()) * 1000);
+    }
+    return facts;
 }
 
 } // namespace
 
-bool ReadFilmFacts(const QString& path, const QString& kind, const GoOn& goOn, FilmFacts* facts,
-                   QString* error)
+void CheckFilm(const QString& film, const QString& written, const QString& kind,
+               const FilmFormat& format, const GoOn& goOn)
 {
-    *facts = FilmFacts();
-    if (kind == QLatin1String("webp"))
-        return ReadWebp(path, facts, error);
-    FilmProgram probe(goOn, patience);
-    const QStringList words{QStringLiteral("-v"),
-                            QStringLiteral("error"),
-                            QStringLiteral("-select_streams"),
-                            QStringLiteral("v:0"),
-                            QStringLiteral("-show_entries"),
-                            QStringLiteral("packet=pts_time,duration_time:stream=width,height"),
-                            QStringLiteral("-of"),
-                            QStringLiteral("csv"),
-                            path};
-    if (!probe.Start(QStringLiteral("ffprobe"), words, QString(), error) || !probe.Finish(error))
-        return false;
-    for (const QByteArray& line : probe.Answer().split('\n')) {
-        const QList<QByteArray> fields = line.trimmed().split(',') << "0"
-                                                                   << "0";
-        if (fields.at(0) == "stream")
-            facts->size = QSize(fields.at(1).toInt(), fields.at(2).toInt());
-        if (fields.at(0) != "packet")
-            continue;
-        ++facts->frames;
-        facts->milliseconds = std::max(facts->milliseconds,
-                                       (fields.at(1).toDouble() + fields.at(2).toDouble()) * 1000);
+    Facts facts;
+    if (kind != QLatin1String("webp")) {
+        FilmProgram probe(film, goOn, patience);
+        probe.Start(QStringLiteral("ffprobe"),
+                    QStringLiteral("-v error -select_streams v:0 -show_entries "
+                                   "packet=pts_time,duration_time:stream=width,height -of csv")
+                            .split(QLatin1Char(' ')) +
+                        QStringList{written},
+                    QString());
+        facts = FactsIn(probe.Finish());
+    } else if (!ReadWebp(written, &facts)) {
+        throw Failure{
+            FailedRun,
+            CannotWrite(film, QStringLiteral("what was written is not a complete WebP file"))};
     }
-    return true;
-}
-
-bool HasWholeFilm(const FilmFacts& facts, const FilmFormat& format, QString* error)
-{
     const double expected = double(format.frames) * tickLength;
     // A still has no time. Where equal pictures become one, the time shows it.
     const bool inTime =
         format.frames == 1 || std::abs(facts.milliseconds - expected) < tickLength * 0.9;
     if (facts.size == format.size && facts.frames > 0 && facts.frames <= format.frames && inTime)
-        return true;
-    *error = QStringLiteral("the encoder wrote %1 pictures of %2 x %3 pixels in %4 s, where %5 of "
-                            "%6 x %7 in %8 s were due")
-                 .arg(facts.frames)
-                 .arg(facts.size.width())
-                 .arg(facts.size.height())
-                 .arg(facts.milliseconds / 1000)
-                 .arg(format.frames)
-                 .arg(format.size.width())
-                 .arg(format.size.height())
-                 .arg(expected / 1000);
-    return false;
+        return;
+    throw Failure{
+        FailedRun,
+        CannotWrite(film, QStringLiteral("the encoder wrote %1 pictures of %2 x %3 pixels in "
+                                         "%4 s, where %5 of %6 x %7 in %8 s were due")
+                              .arg(facts.frames)
+                              .arg(facts.size.width())
+                              .arg(facts.size.height())
+                              .arg(facts.milliseconds / 1000)
+                              .arg(format.frames)
+                              .arg(format.size.width())
+                              .arg(format.size.height())
+                              .arg(expected / 1000))};
 }
 
 } // namespace AnimText

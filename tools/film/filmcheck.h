@@ -9,23 +9,13 @@
 
 namespace AnimText {
 
-/** What a film's file contains. */
-struct FilmFacts
-{
-    QSize size;
-    int frames = 0; ///< formats may store equal pictures once
-    double milliseconds = 0;
-};
-
 /**
- * Reads the headers of every picture in the file @p path.
+ * Reads the headers of every picture in the file @p written. Throws Failure, which names @p film,
+ * unless they are those of @p format.
  * @param kind gif, apng, webp, mp4 or webm
  */
-bool ReadFilmFacts(const QString& path, const QString& kind, const GoOn& goOn, FilmFacts* facts,
-                   QString* error);
-
-/** Whether the facts are those of @p format; otherwise @p error has one line on what differs. */
-bool HasWholeFilm(const FilmFacts& facts, const FilmFormat& format, QString* error);
+void CheckFilm(const QString& film, const QString& written, const QString& kind,
+               const FilmFormat& format, const GoOn& goOn);
 
 } // namespace AnimText
 

@@ -5,24 +5,16 @@
 #ifndef ANIMTEXT_FILMFILE_H
 #define ANIMTEXT_FILMFILE_H
 
-#include "film/colortable.h"
+#include "film/kinds.h"
 
 #include <QByteArray>
-#include <QSize>
+#include <QImage>
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 namespace AnimText {
-
-/** The colors of a film whose kind has at most 256. */
-struct Palette
-{
-    ColorTable exact;  ///< all of them; empty when there are more
-    QByteArray chosen; ///< else 256, each a QRgb
-
-    bool IsExact() const { return !exact.Colors().isEmpty(); }
-};
 
 /** What is known about a film before its first picture. */
 struct FilmFormat
@@ -31,26 +23,47 @@ struct FilmFormat
     int firstFrame = 0;       ///< the number of the first picture
     int frames = 0;           ///< how many pictures will come
     bool transparent = false; ///< whether they have transparency
-    bool lossless = false;    ///< every pixel as it is, for the formats that can
-    /** Finds the palette, for the formats that have one. */
-    std::function<bool(Palette* palette, QString* error)> findPalette{};
+    bool lossless = false;    ///< every pixel as it is, for the kinds that can
 };
 
-/** Asked now and then; false stops the work. */
-using GoOn = std::function<bool()>;
+/** Called now and then; throws to stop the work. */
+using GoOn = std::function<void()>;
 
-/** Takes the pictures of a film in their order. An unfinished film leaves nothing behind. */
+/**
+ * Takes the pictures of a film in their order. An unfinished film leaves nothing behind. Everything
+ * throws Failure with a line that names the film.
+ */
 class FilmFile
 {
 public:
     virtual ~FilmFile() = default;
 
-    /** Each returns false on failure and sets @p error to one line that names the film. */
-    virtual bool Open(const FilmFormat& format, QString* error) = 0;
-    virtual bool Add(int frame, const QImage& picture, QString* error) = 0;
+    virtual void Add(int frame, const QImage& picture) = 0;
     /** Checks what was written and moves the complete film to its place. */
-    virtual bool Finish(QString* error) = 0;
+    virtual void Finish() = 0;
 };
+
+using FilmFilePointer = std::unique_ptr<FilmFile>;
+
+/** One picture, as a PNG. */
+FilmFilePointer MakeStill(const QString& path, const FilmFormat& format);
+
+/**
+ * A folder of PNGs, frame-0000.png and on; each has the number of its frame. An existing folder is
+ * replaced if it holds only such pictures.
+ */
+FilmFilePointer MakePngFolder(const QString& path, const FilmFormat& format);
+
+/** Passes pictures of a film to @p take. */
+using PlayPictures = std::function<void(const std::function<void(const QImage&)>& take)>;
+
+/**
+ * A film that the ffmpeg program encodes.
+ * @param play all pictures, for the kinds that need a palette beforehand
+ * @param patience milliseconds for which ffmpeg may make no progress
+ */
+FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
+                          const PlayPictures& play, const GoOn& goOn, int patience = 5 * 60 * 1000);
 
 } // namespace AnimText
 

@@ -1,5 +1,8 @@
 #include "film/filmprogram.h"
 
+#include "files/failure.h"
+#include "files/wholefile.h"
+
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -15,8 +18,9 @@ constexpr int glance = 50;               // milliseconds between two checks of t
 
 } // namespace
 
-FilmProgram::FilmProgram(const GoOn& goOn, int patience)
-    : goOn(goOn)
+FilmProgram::FilmProgram(const QString& film, const GoOn& goOn, int patience)
+    : film(film)
+    , goOn(goOn)
     , patience(patience)
 {
 }
@@ -39,22 +43,17 @@ QStringList FilmProgram::Reading(QSize size, const char* pixelFormat)
         .split(QLatin1Char(' '));
 }
 
-bool FilmProgram::Start(const QString& program, const QStringList& words, const QString& written,
-                        QString* error)
+void FilmProgram::Start(const QString& program, const QStringList& words, const QString& written)
 {
     const QString path = QStandardPaths::findExecutable(program);
-    if (path.isEmpty()) {
-        *error = QStringLiteral("the program %1, which films need, is not installed: apt-get "
-                                "install ffmpeg, or name a folder for PNGs")
-                     .arg(program);
-        return false;
-    }
+    if (path.isEmpty())
+        Fail(QStringLiteral("the program %1, which films need, is not installed: apt-get install "
+                            "ffmpeg, or name a folder for PNGs")
+                 .arg(program));
     output = written;
     process.start(path, words);
-    if (process.waitForStarted(-1))
-        return true;
-    *error = QStringLiteral("%1 does not start: %2").arg(program, process.errorString());
-    return false;
+    if (!process.waitForStarted(-1))
+        Fail(QStringLiteral("%1 does not start: %2").arg(program, process.errorString()));
 }
 
 /** A number that changes while the program makes progress. */
@@ -64,16 +63,13 @@ qint64 FilmProgram::Progress() const
            process.bytesAvailable();
 }
 
-bool FilmProgram::WaitUntil(const std::function<bool()>& done, QString* error)
+void FilmProgram::WaitUntil(const std::function<bool()>& done)
 {
     QElapsedTimer standing;
     standing.start();
     qint64 progress = Progress();
     while (!done() && process.state() != QProcess::NotRunning) {
-        if (!goOn()) {
-            *error = QStringLiteral("interrupted");
-            return false;
-        }
+        goOn();
         if (process.bytesToWrite() > 0)
             process.waitForBytesWritten(glance);
         else
@@ -83,59 +79,51 @@ bool FilmProgram::WaitUntil(const std::function<bool()>& done, QString* error)
             progress = now;
             standing.start();
         } else if (standing.hasExpired(patience)) {
-            *error = QStringLiteral("%1 has stood still for %2 s and was ended")
-                         .arg(QFileInfo(process.program()).fileName())
-                         .arg(patience / 1000.0);
-            return false;
+            Fail(QStringLiteral("%1 has stood still for %2 s and was ended")
+                     .arg(QFileInfo(process.program()).fileName())
+                     .arg(patience / 1000.0));
         }
     }
-    return true;
 }
 
-bool FilmProgram::Take(const QImage& picture, QString* error)
+void FilmProgram::Take(const QImage& picture)
 {
     for (int y = 0; y < picture.height(); ++y)
         process.write(reinterpret_cast<const char*>(picture.constScanLine(y)),
                       qint64(picture.width()) * picture.depth() / 8);
-    QVector<QRgb> colors = picture.colorTable();
-    while (!colors.isEmpty() && colors.size() < mostColors)
-        colors.append(0xFF000000);
-    process.write(reinterpret_cast<const char*>(colors.constData()),
-                  qint64(sizeof(QRgb)) * colors.size());
-    if (!WaitUntil([this] { return process.bytesToWrite() <= mostWaiting; }, error))
-        return false;
-    if (process.state() == QProcess::Running)
-        return true;
-    *error = Complaint(process.readAllStandardError());
-    return false;
+    WaitUntil([this] { return process.bytesToWrite() <= mostWaiting; });
+    if (process.state() != QProcess::Running)
+        Fail(process.readAllStandardError());
 }
 
-bool FilmProgram::Finish(QString* error)
+QByteArray FilmProgram::Finish()
 {
-    if (!WaitUntil([this] { return process.bytesToWrite() == 0; }, error))
-        return false;
+    WaitUntil([this] { return process.bytesToWrite() == 0; });
     process.closeWriteChannel();
-    if (!WaitUntil([] { return false; }, error))
-        return false;
+    WaitUntil([] { return false; });
     const QByteArray said = process.readAllStandardError();
-    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 && said.isEmpty())
-        return true;
-    *error = Complaint(said);
-    return false;
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0 || !said.isEmpty())
+        Fail(said);
+    return process.readAllStandardOutput();
 }
 
-/** The most telling part of @p said, on one line. */
-QString FilmProgram::Complaint(const QByteArray& said)
+void FilmProgram::Fail(const QString& problem) const
+{
+    throw Failure{FailedRun, CannotWrite(film, problem)};
+}
+
+/** With the most telling part of what the program @p said, on one line. */
+void FilmProgram::Fail(const QByteArray& said) const
 {
     const QString name = QFileInfo(process.program()).fileName();
     // Later messages are consequences of a full disk.
     for (int cause : {ENOSPC, EFBIG, EDQUOT, EIO}) {
         if (said.contains(std::strerror(cause)))
-            return QStringLiteral("%1 failed: %2").arg(name, std::strerror(cause));
+            Fail(QStringLiteral("%1 failed: %2").arg(name, std::strerror(cause)));
     }
     const QString all = QString::fromLocal8Bit(said).trimmed();
     const QString last = all.mid(all.lastIndexOf(QLatin1Char('\n')) + 1).trimmed();
-    return QStringLiteral("%1 failed: %2").arg(name, last.isEmpty() ? process.errorString() : last);
+    Fail(QStringLiteral("%1 failed: %2").arg(name, last.isEmpty() ? process.errorString() : last));
 }
 
 } // namespace AnimText

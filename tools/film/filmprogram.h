@@ -14,15 +14,17 @@ namespace AnimText {
 
 /**
  * Whatever the program says on its standard error counts as a failure: ffmpeg can end with status 0
- * after a write that failed. Its arguments must silence everything else.
+ * after a write that failed. Its arguments must silence everything else. On failure, everything
+ * throws Failure.
  */
 class FilmProgram
 {
 public:
-    static constexpr int longestWait = 5 * 60 * 1000; ///< milliseconds
-
-    /** @param patience milliseconds for which the program may make no progress */
-    explicit FilmProgram(const GoOn& goOn, int patience = longestWait);
+    /**
+     * @param film the name that errors begin with
+     * @param patience milliseconds for which the program may make no progress
+     */
+    FilmProgram(const QString& film, const GoOn& goOn, int patience);
     /** Ends the program if it still runs. */
     ~FilmProgram();
 
@@ -30,21 +32,21 @@ public:
     static QStringList Reading(QSize size, const char* pixelFormat);
 
     /** @param output the file that it writes; its growth counts as progress; may be empty */
-    bool Start(const QString& program, const QStringList& words, const QString& output,
-               QString* error);
-    /** Sends the program the pixels of @p picture, and its 256 colors where it has a table. */
-    bool Take(const QImage& picture, QString* error);
-    /** Waits for the program's end. */
-    bool Finish(QString* error);
-    QByteArray Answer() { return process.readAllStandardOutput(); }
+    void Start(const QString& program, const QStringList& words, const QString& output);
+    /** Sends the program the pixels of @p picture. */
+    void Take(const QImage& picture);
+    /** Waits for the program's end. @return what it wrote to its standard output */
+    QByteArray Finish();
 
 private:
-    bool WaitUntil(const std::function<bool()>& done, QString* error);
+    void WaitUntil(const std::function<bool()>& done);
     qint64 Progress() const;
-    QString Complaint(const QByteArray& said);
+    [[noreturn]] void Fail(const QString& problem) const;
+    [[noreturn]] void Fail(const QByteArray& said) const;
 
-    GoOn goOn;
-    int patience;
+    const QString film;
+    const GoOn goOn;
+    const int patience;
     QString output;
     QProcess process;
 };

@@ -1,82 +1,117 @@
-#include "film/videofile.h"
-
+#include "files/failure.h"
 #include "files/wholefile.h"
 #include "film/filmcheck.h"
-#include "film/palette.h"
+#include "film/filmprogram.h"
 
 #include <QFileInfo>
+#include <QSet>
+#include <QTemporaryFile>
 
 namespace AnimText {
 
-VideoFile::VideoFile(const QString& path, const FilmKind& kind, const GoOn& goOn, int patience)
-    : path(QFileInfo(path).absoluteFilePath())
-    , kind(kind)
-    , goOn(goOn)
-    , encoder(goOn, patience)
+namespace {
+
+QStringList Words(const QString& words)
 {
+    return words.split(QLatin1Char(' '));
 }
 
-QStringList VideoFile::Arguments() const
+/**
+ * ffmpeg takes the raw pictures on its standard input and writes under another name in the same
+ * folder; the file gets its name when a check has found the complete film.
+ */
+class VideoFile : public FilmFile
 {
-    const bool isIndexed = palette.IsExact();
-    QStringList words = FilmProgram::Reading(format.size, isIndexed            ? "pal8"
-                                                          : format.transparent ? "bgra"
-                                                                               : "bgr0");
-    if (!isIndexed && kind.Has(FilmKind::Palette))
-        words += QStringLiteral("-f rawvideo -pix_fmt bgra -s 16x16 -i data:image/raw;base64,%1 "
-                                "-filter_complex paletteuse=alpha_threshold=128")
-                     .arg(QString::fromLatin1(palette.chosen.toBase64()))
-                     .split(QLatin1Char(' '));
-    return words + kind.Encoding(format.transparent, format.lossless) +
-           QStringList{QStringLiteral("-f"), kind.Name(), QStringLiteral("-y"),
-                       unfinished.fileName()};
-}
-
-/** Every error names the film. */
-bool VideoFile::Named(bool done, QString* error) const
-{
-    if (!done && *error != QLatin1String("interrupted") && !error->startsWith(path))
-        *error = QStringLiteral("%1 cannot be written: %2").arg(path, *error);
-    return done;
-}
-
-bool VideoFile::Open(const FilmFormat& wanted, QString* error)
-{
-    format = wanted;
-    if (!FindTarget(path, &target, error))
-        return false;
-    unfinished.setFileTemplate(UnfinishedName(target));
-    if (!unfinished.open()) {
-        *error = unfinished.errorString();
-        return Named(false, error);
+public:
+    VideoFile(const QString& path, const FilmKind& kind, const FilmFormat& format,
+              const PlayPictures& play, const GoOn& goOn, int patience)
+        : path(QFileInfo(path).absoluteFilePath())
+        , kind(kind)
+        , format(format)
+        , goOn(goOn)
+        , patience(patience)
+        , encoder(this->path, goOn, patience)
+    {
+        unfinished.setFileTemplate(UnfinishedName(Target()));
+        if (!unfinished.open())
+            throw Failure{FailedRun, CannotWrite(this->path, unfinished.errorString())};
+        QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
+        if (kind.Has(FilmKind::Palette))
+            words += WithPalette(Palette(play));
+        words += kind.Encoding(format.transparent, format.lossless);
+        encoder.Start(QStringLiteral("ffmpeg"),
+                      words + QStringList{QStringLiteral("-f"), kind.Name(), QStringLiteral("-y"),
+                                          unfinished.fileName()},
+                      unfinished.fileName());
     }
-    const bool isStarted =
-        (!kind.Has(FilmKind::Palette) || format.findPalette(&palette, error)) &&
-        encoder.Start(QStringLiteral("ffmpeg"), Arguments(), unfinished.fileName(), error);
-    return Named(isStarted, error);
-}
 
-bool VideoFile::Add(int frame, const QImage& picture, QString* error)
-{
-    if (!palette.IsExact())
-        return Named(encoder.Take(picture, error), error);
-    const QImage indexed = palette.exact.Indexed(WithoutHalfTones(picture));
-    if (indexed.isNull())
-        *error = QStringLiteral("picture %1 has other colors when it is painted again").arg(frame);
-    return Named(!indexed.isNull() && encoder.Take(indexed, error), error);
-}
+    void Add(int, const QImage& picture) override { encoder.Take(picture); }
 
-bool VideoFile::Finish(QString* error)
+    void Finish() override
+    {
+        encoder.Finish();
+        CheckFilm(path, unfinished.fileName(), kind.Name(), format, goOn);
+        QString error;
+        FailUnless(PutInPlace(unfinished.fileName(), Target(), 0666, &error), error);
+        unfinished.setAutoRemove(false);
+    }
+
+private:
+    /** The path with its links followed. */
+    QString Target() const
+    {
+        QString target;
+        QString error;
+        FailUnless(FindTarget(path, &target, &error), error);
+        return target;
+    }
+
+    /** 256 colors, each a QRgb: all colors of the film, if those are not more. */
+    QByteArray Palette(const PlayPictures& play) const
+    {
+        FilmProgram chooser(path, goOn, patience);
+        chooser.Start(QStringLiteral("ffmpeg"),
+                      FilmProgram::Reading(format.size, "bgra") +
+                          Words(QStringLiteral("-vf palettegen=reserve_transparent=%1 "
+                                               "-f rawvideo -pix_fmt bgra pipe:1")
+                                    .arg(format.transparent ? 1 : 0)),
+                      QString());
+        QImage last;
+        play([&](const QImage& picture) {
+            if (picture != last)
+                chooser.Take(picture);
+            last = picture;
+        });
+        return chooser.Finish();
+    }
+
+    static QStringList WithPalette(const QByteArray& palette)
+    {
+        const auto* colors = reinterpret_cast<const QRgb*>(palette.constData());
+        const QSet<QRgb> distinct(colors, colors + palette.size() / int(sizeof(QRgb)));
+        // Where there is room left, every color is there, and looking for mixtures only takes time.
+        const QString dither = QLatin1String(distinct.size() < 255 ? "none" : "sierra2_4a");
+        return Words(QStringLiteral("-f rawvideo -pix_fmt bgra -s 16x16 -i "
+                                    "data:image/raw;base64,%1 "
+                                    "-filter_complex paletteuse=alpha_threshold=128:dither=%2")
+                         .arg(QString::fromLatin1(palette.toBase64()), dither));
+    }
+
+    const QString path;
+    const FilmKind kind;
+    const FilmFormat format;
+    const GoOn goOn;
+    const int patience;
+    QTemporaryFile unfinished;
+    FilmProgram encoder;
+};
+
+} // namespace
+
+FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
+                          const PlayPictures& play, const GoOn& goOn, int patience)
 {
-    FilmFacts facts;
-    const bool whole = encoder.Finish(error) &&
-                       ReadFilmFacts(unfinished.fileName(), kind.Name(), goOn, &facts, error) &&
-                       HasWholeFilm(facts, format, error);
-    if (!Named(whole, error) || !FindTarget(path, &target, error) ||
-        !PutInPlace(unfinished.fileName(), target, 0666, error))
-        return false;
-    unfinished.setAutoRemove(false);
-    return true;
+    return std::make_unique<VideoFile>(path, kind, format, play, goOn, patience);
 }
 
 } // namespace AnimText

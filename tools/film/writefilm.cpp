@@ -1,41 +1,15 @@
 #include "film/writefilm.h"
 
-#include "film/palette.h"
-#include "film/pngfolder.h"
-#include "film/stillfile.h"
-#include "film/videofile.h"
+#include "film/filmfile.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <numeric>
 
 namespace AnimText {
 
 namespace {
-
-std::unique_ptr<FilmFile> MakeFilmFile(const QString& path, const FilmKind& kind, const GoOn& goOn)
-{
-    if (kind.Has(FilmKind::Folder))
-        return std::make_unique<PngFolder>(path);
-    if (kind.Has(FilmKind::Still))
-        return std::make_unique<StillFile>(path);
-    return std::make_unique<VideoFile>(path, kind, goOn);
-}
-
-bool HasColor(const QImage& picture)
-{
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        const bool isGrey = std::all_of(row, row + picture.width(), [](QRgb pixel) {
-            return ((pixel >> 8 ^ pixel) & 0xFFFF) == 0; // red is green and green is blue
-        });
-        if (!isGrey)
-            return true;
-    }
-    return false;
-}
 
 qint64 SizeOf(const QString& path)
 {
@@ -47,41 +21,40 @@ qint64 SizeOf(const QString& path)
 
 } // namespace
 
-bool WriteFilm(Film* film, QPair<int, int> range, const QString& path, bool isLossless,
-               const FilmWatch& watch, WrittenFilm* written, QString* error)
+WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bool isLossless,
+                      const FilmWatch& watch)
 {
     const FilmKind& kind = *FilmKindOf(path);
     QVector<int> wanted(range.second - range.first + 1);
     std::iota(wanted.begin(), wanted.end(), range.first);
-    *written = WrittenFilm();
-    written->size = film->FrameSize();
-    written->frames = wanted.size();
-
-    FilmFormat format{written->size, range.first, written->frames, film->IsTransparent(),
-                      isLossless};
-    format.findPalette = [&](Palette* palette, QString* problem) {
-        return FindPalette(film, wanted, watch, palette, problem);
-    };
+    const FilmFormat format{film->FrameSize(), range.first, wanted.size(), film->IsTransparent(),
+                            isLossless};
+    FilmStage stage = FilmStage::Colors;
     int done = 0;
-    const auto goOn = [&] { return watch(FilmStage::Pictures, done, written->frames); };
-    const std::unique_ptr<FilmFile> file = MakeFilmFile(path, kind, goOn);
-    if (!file->Open(format, error))
-        return false;
-    const bool mayHalve = kind.Has(FilmKind::HalfColors) && !isLossless;
-    const auto take = [&](int frame, const QImage& picture) {
-        written->halvesColors = written->halvesColors || (mayHalve && HasColor(picture));
-        if (!file->Add(frame, picture, error))
-            return false;
-        ++done;
-        const bool isWanted = goOn();
-        if (!isWanted)
-            *error = QStringLiteral("interrupted");
-        return isWanted;
+    const auto tell = [&] { watch(stage, done, format.frames); };
+    const auto play = [&](const std::function<void(const QImage&)>& take) {
+        film->Play(wanted, [&](int, const QImage& picture) {
+            take(picture);
+            ++done;
+            tell();
+        });
     };
-    if (!film->Play(wanted, take, error) || !file->Finish(error))
-        return false;
-    written->bytes = SizeOf(path);
-    return true;
+    const FilmFilePointer file = kind.Has(FilmKind::Folder) ? MakePngFolder(path, format)
+                                 : kind.Has(FilmKind::Still)
+                                     ? MakeStill(path, format)
+                                     : MakeVideo(path, kind, format, play, tell);
+    stage = FilmStage::Pictures;
+    done = 0;
+    const bool mayHalve = kind.Has(FilmKind::HalfColors) && !isLossless;
+    bool hasColor = false;
+    film->Play(wanted, [&](int frame, const QImage& picture) {
+        hasColor = hasColor || (mayHalve && !picture.allGray());
+        file->Add(frame, picture);
+        ++done;
+        tell();
+    });
+    file->Finish();
+    return {format.size, format.frames, SizeOf(path), hasColor};
 }
 
 } // namespace AnimText

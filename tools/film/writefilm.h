@@ -21,15 +21,14 @@ struct WrittenFilm
 };
 
 /**
- * Plays a planned film and writes some of its pictures. The file at @p path is replaced when the
- * film is complete; a failure leaves it unchanged.
+ * Writes some of a film's pictures. The file at @p path is replaced when the film is complete; a
+ * failure leaves it unchanged and throws.
  * @param range the first and the last picture
  * @param path of some FilmKind
  * @param isLossless keeps every pixel, where the kind can
- * @return false, with one line in @p error, when it fails or when @p watch stops it
  */
-bool WriteFilm(Film* film, QPair<int, int> range, const QString& path, bool isLossless,
-               const FilmWatch& watch, WrittenFilm* written, QString* error);
+WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bool isLossless,
+                      const FilmWatch& watch);
 
 } // namespace AnimText
 

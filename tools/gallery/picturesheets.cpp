@@ -1,6 +1,6 @@
 #include "gallery/picturesheets.h"
 
-#include "film/stillfile.h"
+#include "film/png.h"
 
 #include <QCryptographicHash>
 #include <QPainter>

@@ -1,0 +1,31 @@
+/**
+ * @file
+ * How work ends, for whoever started the program.
+ */
+#ifndef ANIMTEXT_FAILURE_H
+#define ANIMTEXT_FAILURE_H
+
+#include <QString>
+
+namespace AnimText {
+
+/** Exit statuses. After a signal the status is 128 + signal. */
+enum Status { Done = 0, FailedRun = 1, BadInput = 2 };
+
+/** Thrown by what fails: the exit status and one line for standard error. */
+struct Failure
+{
+    Status status;
+    QString message;
+};
+
+/** Throws Failure with @p error unless it @p succeeded. */
+inline void FailUnless(bool succeeded, const QString& error, Status status = FailedRun)
+{
+    if (!succeeded)
+        throw Failure{status, error};
+}
+
+} // namespace AnimText
+
+#endif
