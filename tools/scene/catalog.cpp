@@ -151,6 +151,20 @@ QList<Motion> Catalog::Scrolls()
              QT_TR_NOOP("marquee, vertical")}};
 }
 
+const Motion* At(const QList<Motion>& motions, int number)
+{
+    return number >= 0 && number < motions.size() ? &motions.at(number) : nullptr;
+}
+
+/** The number of the motion that the host calls @p name; -1 for none. */
+int NumberOf(const QList<Motion>& motions, const QString& name)
+{
+    const auto found = std::find_if(motions.begin(), motions.end(), [&](const Motion& motion) {
+        return name.compare(QLatin1String(motion.name), Qt::CaseInsensitive) == 0;
+    });
+    return found == motions.end() ? -1 : found->number;
+}
+
 } // namespace
 
 const QList<Motion>& Effects()
@@ -174,35 +188,25 @@ const QStringList& Directions()
 
 const Motion* FindEffect(int number)
 {
-    return number >= 0 && number < Effects().size() ? &Effects().at(number) : nullptr;
+    return At(Effects(), number);
 }
 
 const Motion* FindScroll(int number)
 {
-    return number >= 0 && number < Scrolls().size() ? &Scrolls().at(number) : nullptr;
+    return At(Scrolls(), number);
 }
 
 const Motion* FindEffect(const QString& numberOrName)
 {
     bool isNumber = false;
     const int number = numberOrName.toInt(&isNumber);
-    if (isNumber)
-        return FindEffect(number);
-    for (const Motion& effect : Effects()) {
-        if (numberOrName.compare(QLatin1String(effect.name), Qt::CaseInsensitive) == 0)
-            return &effect;
-    }
-    return nullptr;
+    return At(Effects(), isNumber ? number : NumberOf(Effects(), numberOrName));
 }
 
 const Motion* FindScroll(const QString& name)
 {
-    for (const Motion& motion : Scrolls()) {
-        if (name.compare(Directions().at(motion.number), Qt::CaseInsensitive) == 0 ||
-            name.compare(QLatin1String(motion.name), Qt::CaseInsensitive) == 0)
-            return &motion;
-    }
-    return nullptr;
+    const int direction = Directions().indexOf(name.toLower());
+    return At(Scrolls(), direction >= 0 ? direction : NumberOf(Scrolls(), name));
 }
 
 bool Matches(const Motion& motion, const QString& search)

@@ -1,7 +1,10 @@
 #include "scene/jsonvalues.h"
 
+#include "scene/place.h"
 #include "scene/suggest.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -52,7 +55,7 @@ QByteArray WithMarksEscaped(const QByteArray& json)
                : json.left(start) + json.mid(start).replace(mark, "\\ufeff");
 }
 
-void JsonValues::Add(const QString& place, const QString& expected, const QString& found)
+void JsonFaults::Add(const QString& place, const QString& expected, const QString& found)
 {
     const QString kind = AnyRow(place) + QLatin1Char('\n') + expected;
     const auto known = alike.constFind(kind);
@@ -64,68 +67,97 @@ void JsonValues::Add(const QString& place, const QString& expected, const QStrin
     faults.append({OnOneLine(place), OnOneLine(expected), OnOneLine(found)});
 }
 
-void JsonValues::Add(const QString& place, const QString& expected, const QJsonValue& found)
+JsonValue::JsonValue(const QJsonValue& root, JsonFaults* faults)
+    : value(root)
+    , faults(faults)
 {
-    Add(place, expected, Found(found));
 }
 
-bool JsonValues::Object(const QJsonValue& value, const QString& place, const QStringList& known,
-                        QJsonObject* object)
+void JsonValue::Refuse(const QString& expected, const QString& found) const
 {
-    if (!value.isObject()) {
-        Add(place, QStringLiteral("an object"), value);
-        return false;
-    }
-    *object = value.toObject();
-    for (const QString& key : object->keys()) {
-        if (!known.contains(key))
-            Add(Member(place, key),
+    faults->Add(place, expected, found.isEmpty() ? Found(value) : found);
+}
+
+JsonValue JsonValue::operator[](const QString& member) const
+{
+    JsonValue there(value.toObject().value(member), faults);
+    there.place = Member(place, member);
+    there.name = member;
+    return there;
+}
+
+bool JsonValue::IsObject(const QStringList& known) const
+{
+    if (!value.isObject())
+        Refuse(QStringLiteral("an object"));
+    for (const QString& member : value.toObject().keys()) {
+        if (!known.contains(member))
+            (*this)[member].Refuse(
                 QStringLiteral("one of %1").arg(known.join(QStringLiteral(", "))),
-                QStringLiteral("an unknown key") + DidYouMean(key, known));
+                QStringLiteral("an unknown key") + DidYouMean(member, known));
     }
-    return true;
+    return value.isObject();
 }
 
-QJsonArray JsonValues::List(const QJsonValue& value, const QString& place)
+QList<JsonValue> JsonValue::Members(const QStringList& known) const
+{
+    QList<JsonValue> members;
+    if (IsThere())
+        IsObject(known);
+    const QJsonObject object = value.toObject();
+    for (const QString& member : known) {
+        if (object.contains(member))
+            members.append((*this)[member]);
+    }
+    return members;
+}
+
+QList<JsonValue> JsonValue::Items() const
 {
     if (!value.isArray())
-        Add(place, QStringLiteral("a list"), value);
-    return value.toArray();
+        Refuse(QStringLiteral("a list"));
+    QList<JsonValue> items;
+    const QJsonArray list = value.toArray();
+    for (const QJsonValue& item : list) {
+        const QString at = Item(place, items.size());
+        items.append(JsonValue(item, faults));
+        items.last().place = at;
+    }
+    return items;
 }
 
-QString JsonValues::Text(const QJsonValue& value, const QString& place)
+QString JsonValue::Text() const
 {
-    if (!value.isString())
-        Add(place, QStringLiteral("a text"), value);
+    if (!IsText())
+        Refuse(QStringLiteral("a text"));
     return value.toString();
 }
 
-bool JsonValues::Truth(const QJsonValue& value, const QString& place)
+bool JsonValue::Truth() const
 {
     if (!value.isBool())
-        Add(place, QStringLiteral("true or false"), value);
+        Refuse(QStringLiteral("true or false"));
     return value.toBool();
 }
 
-int JsonValues::Int(const QJsonValue& value, const QString& place, int least, int most)
+int JsonValue::Int(int least, int most) const
 {
     const double number = value.toDouble();
     const bool whole = value.isDouble() && std::floor(number) == number;
     if (whole && number >= least && number <= most)
         return static_cast<int>(number);
-    Add(place, QStringLiteral("a whole number from %1 to %2").arg(least).arg(most), value);
+    Refuse(QStringLiteral("a whole number from %1 to %2").arg(least).arg(most));
     return least;
 }
 
-QPoint JsonValues::Pair(const QJsonValue& value, const QString& place, int least, int most)
+QPoint JsonValue::Pair(int least, int most) const
 {
-    const QJsonArray pair = value.toArray();
-    if (!value.isArray() || pair.size() != 2) {
-        Add(place, QStringLiteral("a list of two whole numbers"), value);
+    if (value.toArray().size() != 2) {
+        Refuse(QStringLiteral("a list of two whole numbers"));
         return QPoint();
     }
-    return {Int(pair.at(0), Item(place, 0), least, most),
-            Int(pair.at(1), Item(place, 1), least, most)};
+    const QList<JsonValue> pair = Items();
+    return {pair.first().Int(least, most), pair.last().Int(least, most)};
 }
 
 } // namespace AnimText

@@ -5,12 +5,9 @@
 #ifndef ANIMTEXT_JSONVALUES_H
 #define ANIMTEXT_JSONVALUES_H
 
-#include "scene/place.h"
 #include "scene/scenefault.h"
 
 #include <QHash>
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QJsonValue>
 #include <QList>
 #include <QPoint>
@@ -26,36 +23,56 @@ namespace AnimText {
  */
 QByteArray WithMarksEscaped(const QByteArray& json);
 
-/**
- * Reads values and continues after a wrong one: it is remembered, and a default is returned
- * instead.
- */
-class JsonValues
+/** What is wrong in a JSON file. */
+class JsonFaults
 {
 public:
-    const QList<SceneFault>& Faults() const { return faults; }
+    const QList<SceneFault>& All() const { return faults; }
 
-    /**
-     * Remembers what is wrong. Rows of a list that are wrong in the same way are counted, not
-     * listed.
-     */
+    /** Rows of a list that are wrong in the same way are counted, not listed. */
     void Add(const QString& place, const QString& expected, const QString& found);
-    void Add(const QString& place, const QString& expected, const QJsonValue& found);
-
-    /** @return false when @p value is not an object; keys that are not @p known are faults */
-    bool Object(const QJsonValue& value, const QString& place, const QStringList& known,
-                QJsonObject* object);
-    QJsonArray List(const QJsonValue& value, const QString& place);
-    QString Text(const QJsonValue& value, const QString& place);
-    bool Truth(const QJsonValue& value, const QString& place);
-    int Int(const QJsonValue& value, const QString& place,
-            int least = std::numeric_limits<int>::min(),
-            int most = std::numeric_limits<int>::max());
-    QPoint Pair(const QJsonValue& value, const QString& place, int least, int most);
 
 private:
     QList<SceneFault> faults;
     QHash<QString, int> alike; // indices of faults, by what those have in common that are counted
+};
+
+/**
+ * A value and its place. Reading continues after a wrong value: it is added to the faults, and a
+ * default is returned instead.
+ */
+class JsonValue
+{
+public:
+    /** The root of a file. */
+    JsonValue(const QJsonValue& root, JsonFaults* faults);
+
+    /** The member of that name; one that need not be there. */
+    JsonValue operator[](const QString& member) const;
+    bool IsThere() const { return !value.isUndefined(); }
+    bool IsText() const { return value.isString(); }
+    /** The name of this member. */
+    const QString& Name() const { return name; }
+
+    /** Whether it is an object; members that are not @p known are faults. */
+    bool IsObject(const QStringList& known) const;
+    /** The same; those that are there. None where the object itself is not there. */
+    QList<JsonValue> Members(const QStringList& known) const;
+    QList<JsonValue> Items() const;
+    QString Text() const;
+    bool Truth() const;
+    int Int(int least = std::numeric_limits<int>::min(),
+            int most = std::numeric_limits<int>::max()) const;
+    QPoint Pair(int least, int most) const;
+
+    /** Adds a fault; @p found is the value itself where nothing is said of it. */
+    void Refuse(const QString& expected, const QString& found = QString()) const;
+
+private:
+    QJsonValue value;
+    JsonFaults* faults;
+    QString place = QStringLiteral("$");
+    QString name;
 };
 
 } // namespace AnimText

@@ -7,7 +7,9 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
@@ -23,229 +25,131 @@ int LargestSide()
     return FindAttribute(Home::Node, QStringLiteral("size"))->most;
 }
 
-class Reader
+QList<QHash<QString, QString>> ReadRows(const JsonValue& json)
 {
-public:
-    Reader(const QString& path, MissingFiles missing)
-        : missing(missing)
-    {
-        scene.path = path;
-    }
-
-    Scene Read(const QJsonValue& root);
-    const QList<SceneFault>& Faults() const { return json.Faults(); }
-
-private:
-    void ReadDisplay(const QJsonValue& value, const QString& place);
-    ScenePage ReadPage(const QJsonValue& value, const QString& place);
-    SceneArea ReadArea(const QJsonValue& value, const QString& place);
-    SceneNode ReadNode(const QJsonValue& value, const QString& place);
-    QList<QHash<QString, QString>> ReadRows(const QString& key, const QJsonValue& value,
-                                            const QString& place);
-    QString ReadFileName(const QJsonValue& value, const QString& place);
-
-    /** The list that @p object has for @p key. */
-    template <typename Part>
-    QList<Part> ReadList(const QJsonObject& object, const QString& key, const QString& place,
-                         Part (Reader::*read)(const QJsonValue&, const QString&))
-    {
-        QList<Part> parts;
-        const QString at = Member(place, key);
-        const QJsonArray list = json.List(object.value(key), at);
-        for (int i = 0; i < list.size(); ++i)
-            parts.append((this->*read)(list.at(i), Item(at, i)));
-        return parts;
-    }
-
-    Scene scene;
-    MissingFiles missing;
-    JsonValues json;
-};
-
-QList<QHash<QString, QString>> Reader::ReadRows(const QString& key, const QJsonValue& value,
-                                                const QString& place)
-{
-    const QStringList known = RowFields(key);
+    const QStringList known = RowFields(json.Name());
     QList<QHash<QString, QString>> rows;
-    const QJsonArray list = json.List(value, place);
-    for (int i = 0; i < list.size(); ++i) {
-        const QString rowPlace = Item(place, i);
-        QJsonObject object;
-        json.Object(list.at(i), rowPlace, known, &object);
+    for (const JsonValue& item : json.Items()) {
         QHash<QString, QString> row;
-        for (const QString& field : known) {
-            if (object.contains(field))
-                row.insert(field, json.Text(object.value(field), Member(rowPlace, field)));
-        }
+        for (const JsonValue& field : item.Members(known))
+            row.insert(field.Name(), field.Text());
         rows.append(row);
     }
     return rows;
 }
 
-QString Reader::ReadFileName(const QJsonValue& value, const QString& place)
+QString ReadFileName(const JsonValue& json, const Scene& scene, MissingFiles missing)
 {
-    const QString name = json.Text(value, place);
-    const QString full = scene.FullName(name);
-    if (value.isString() && missing == MissingFiles::AreErrors && !QFileInfo(full).isFile()) {
-        if (name.isEmpty())
-            json.Add(place, QStringLiteral("the name of a file"), QStringLiteral("none"));
-        else
-            json.Add(place, QStringLiteral("a file"),
-                     (QFileInfo::exists(full) ? QStringLiteral("no regular file ")
-                                              : QStringLiteral("no file ")) +
-                         full);
-    }
+    const QString name = json.Text();
+    const QFileInfo file(scene.FullName(name));
+    if (missing == MissingFiles::AreAccepted || !json.IsText() || file.isFile())
+        return name;
+    if (name.isEmpty())
+        json.Refuse("the name of a file", "none");
+    else
+        json.Refuse("a file", (file.exists() ? "no regular file " : "no file ") + file.filePath());
     return name;
 }
 
-SceneNode Reader::ReadNode(const QJsonValue& value, const QString& place)
+SceneNode ReadNode(const JsonValue& json, const Scene& scene, MissingFiles missing)
 {
     static const QStringList known =
-        KeysOf(Home::Node) +
-        QStringList{QStringLiteral("attributes"), QStringLiteral("lists"), QStringLiteral("files")};
+        KeysOf(Home::Node) + QStringList{"attributes", "lists", "files"};
     SceneNode node;
-    QJsonObject object;
-    if (!json.Object(value, place, known, &object))
+    if (!json.IsObject(known))
         return node;
-    /** Reads the member @p key, if it is there. */
-    const auto optional = [&](const QString& key, const auto& read) {
-        if (object.contains(key))
-            read(object.value(key), Member(place, key));
-    };
-    /** Reads the members of the object @p key that are among @p keys. */
-    const auto members = [&](const QString& key, const QStringList& keys, const auto& read) {
-        optional(key, [&](const QJsonValue& map, const QString& at) {
-            QJsonObject items;
-            json.Object(map, at, keys, &items);
-            for (auto it = items.begin(); it != items.end(); ++it) {
-                if (keys.contains(it.key()))
-                    read(it.key(), it.value(), Member(at, it.key()));
-            }
-        });
-    };
-
-    optional(QStringLiteral("type"),
-             [&](const QJsonValue& type, const QString& at) { node.type = json.Text(type, at); });
-    optional(QStringLiteral("pos"), [&](const QJsonValue& pos, const QString& at) {
-        const Attribute* range = FindAttribute(Home::Node, QStringLiteral("pos"));
-        node.pos = json.Pair(pos, at, range->least, range->most);
-    });
-    const QPoint size = json.Pair(object.value(QStringLiteral("size")),
-                                  Member(place, QStringLiteral("size")), 0, LargestSide());
+    if (json["type"].IsThere())
+        node.type = json["type"].Text();
+    const Attribute* range = FindAttribute(Home::Node, "pos");
+    if (json["pos"].IsThere())
+        node.pos = json["pos"].Pair(range->least, range->most);
+    const QPoint size = json["size"].Pair(0, LargestSide());
     node.size = QSize(size.x(), size.y());
     for (const Attribute& attribute : Attributes()) {
-        if (attribute.field)
-            optional(QLatin1String(attribute.key),
-                     [&](const QJsonValue& number, const QString& at) {
-                         node.*attribute.field = json.Int(number, at);
-                     });
+        if (attribute.field && json[attribute.key].IsThere())
+            node.*attribute.field = json[attribute.key].Int();
     }
-    members(QStringLiteral("attributes"), KeysOf(Home::Attributes),
-            [&](const QString& key, const QJsonValue& read, const QString& at) {
-                const bool isText = FindAttribute(Home::Attributes, key)->kind == ValueKind::Text;
-                node.attributes[key] =
-                    isText ? QVariant(json.Text(read, at)) : QVariant(json.Int(read, at));
-            });
-    members(QStringLiteral("lists"), ListKeys(),
-            [&](const QString& key, const QJsonValue& rows, const QString& at) {
-                node.lists.insert(key, ReadRows(key, rows, at));
-            });
-    members(QStringLiteral("files"), KeysOf(Home::Files),
-            [&](const QString& key, const QJsonValue& name, const QString& at) {
-                node.files.insert(key, ReadFileName(name, at));
-            });
+    for (const JsonValue& value : json["attributes"].Members(KeysOf(Home::Attributes))) {
+        const bool isText = FindAttribute(Home::Attributes, value.Name())->kind == ValueKind::Text;
+        node.attributes[value.Name()] = isText ? QVariant(value.Text()) : QVariant(value.Int());
+    }
+    for (const JsonValue& list : json["lists"].Members(ListKeys()))
+        node.lists.insert(list.Name(), ReadRows(list));
+    for (const JsonValue& file : json["files"].Members(KeysOf(Home::Files)))
+        node.files.insert(file.Name(), ReadFileName(file, scene, missing));
     return node;
 }
 
-SceneArea Reader::ReadArea(const QJsonValue& value, const QString& place)
+QSize ReadDisplay(const JsonValue& json)
 {
-    const QString nodes = QStringLiteral("nodes");
-    QJsonObject object;
-    if (!json.Object(value, place, {nodes}, &object))
-        return {};
-    return {ReadList(object, nodes, place, &Reader::ReadNode)};
+    if (!json.IsObject({"width", "height"}))
+        return QSize();
+    const QSize size{json["width"].Int(1, LargestSide()), json["height"].Int(1, LargestSide())};
+    if (qint64(size.width()) * size.height() > largestDisplay)
+        json.Refuse(QStringLiteral("at most %1 pixels").arg(largestDisplay),
+                    QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
+    return size;
 }
 
-ScenePage Reader::ReadPage(const QJsonValue& value, const QString& place)
+/** The items of the list @p name, the only member of @p json. */
+QList<JsonValue> ItemsOf(const JsonValue& json, const QString& name)
 {
-    const QString areas = QStringLiteral("areas");
-    QJsonObject object;
-    if (!json.Object(value, place, {areas}, &object))
-        return {};
-    return {ReadList(object, areas, place, &Reader::ReadArea)};
+    return json.IsObject({name}) ? json[name].Items() : QList<JsonValue>();
 }
 
-void Reader::ReadDisplay(const QJsonValue& value, const QString& place)
+/** A scene that is to be used only if there are no faults. */
+Scene ReadRoot(const QJsonValue& file, const QString& path, MissingFiles missing,
+               JsonFaults* faults)
 {
-    const QString width = QStringLiteral("width");
-    const QString height = QStringLiteral("height");
-    QJsonObject display;
-    if (!json.Object(value, place, {width, height}, &display))
-        return;
-    // Separate statements, so that faults are in the order of reading.
-    scene.display.setWidth(json.Int(display.value(width), Member(place, width), 1, LargestSide()));
-    scene.display.setHeight(
-        json.Int(display.value(height), Member(place, height), 1, LargestSide()));
-    if (qint64(scene.display.width()) * scene.display.height() > largestDisplay)
-        json.Add(place, QStringLiteral("at most %1 pixels").arg(largestDisplay),
-                 QStringLiteral("%1 × %2").arg(scene.display.width()).arg(scene.display.height()));
-}
-
-Scene Reader::Read(const QJsonValue& root)
-{
-    const QString top = QStringLiteral("$");
-    const QString version = QStringLiteral("scene");
-    const QString display = QStringLiteral("display");
-    const QString alphaBlend = QStringLiteral("alphaBlend");
-    const QString pages = QStringLiteral("pages");
-
-    const QJsonValue number = root.toObject().value(version);
-    if (number.isDouble() && number.toDouble() != 1) {
-        // In another version, keys may mean anything.
-        json.Int(number, Member(top, version), 1, 1);
+    Scene scene;
+    scene.path = path;
+    const JsonValue root(file, faults);
+    // In another version, keys may mean anything.
+    const bool isOther = file.toObject().value("scene").toDouble(1) != 1;
+    if (!isOther && !root.IsObject({"scene", "display", "alphaBlend", "pages"}))
         return scene;
+    root["scene"].Int(1, 1);
+    if (isOther)
+        return scene;
+    scene.display = ReadDisplay(root["display"]);
+    if (root["alphaBlend"].IsThere())
+        scene.alphaBlend = root["alphaBlend"].Truth();
+    for (const JsonValue& page : root["pages"].Items()) {
+        QList<SceneArea> areas;
+        for (const JsonValue& area : ItemsOf(page, "areas")) {
+            QList<SceneNode> nodes;
+            for (const JsonValue& node : ItemsOf(area, "nodes"))
+                nodes.append(ReadNode(node, scene, missing));
+            areas.append({nodes});
+        }
+        scene.pages.append({areas});
     }
-    QJsonObject object;
-    if (!json.Object(root, top, {version, display, alphaBlend, pages}, &object))
-        return scene;
-    json.Int(number, Member(top, version), 1, 1);
-    ReadDisplay(object.value(display), Member(top, display));
-    if (object.contains(alphaBlend))
-        scene.alphaBlend = json.Truth(object.value(alphaBlend), Member(top, alphaBlend));
-    scene.pages = ReadList(object, pages, top, &Reader::ReadPage);
     return scene;
-}
-
-QByteArray ReadStandardInput(QList<SceneFault>* faults)
-{
-    QFile input;
-    input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray bytes = ReadAtMost(&input, largestFile + 1);
-    if (bytes.size() > largestFile)
-        faults->append({QString(), QStringLiteral("at most %1 bytes").arg(largestFile),
-                        QStringLiteral("more")});
-    return bytes;
 }
 
 /** The content of the file @p path, or what is wrong with it. */
 QByteArray ReadBytes(const QString& path, QList<SceneFault>* faults)
 {
-    if (path == QLatin1String("-"))
-        return ReadStandardInput(faults);
-    const QString sceneFile = QStringLiteral("a scene file");
+    const bool isInput = path == QLatin1String("-");
     const QFileInfo info(path);
     QFile file(path);
-    if (!info.exists())
+    const QString sceneFile = QStringLiteral("a scene file");
+    const QString fewerBytes = QStringLiteral("at most %1 bytes").arg(largestFile);
+    if (!isInput && !info.exists())
         faults->append({QString(), sceneFile, QStringLiteral("no such file")});
-    else if (!info.isFile())
+    else if (!isInput && !info.isFile())
         faults->append({QString(), sceneFile, QStringLiteral("no regular file")});
-    else if (info.size() > largestFile)
-        faults->append({QString(), QStringLiteral("at most %1 bytes").arg(largestFile),
-                        QString::number(info.size())});
-    else if (!file.open(QIODevice::ReadOnly))
+    else if (!isInput && info.size() > largestFile)
+        faults->append({QString(), fewerBytes, QString::number(info.size())});
+    else if (isInput ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly))
         faults->append({QString(), QStringLiteral("a file that can be read"),
                         QStringLiteral("an error: %1").arg(file.errorString())});
-    return faults->isEmpty() ? file.readAll() : QByteArray();
+    if (!faults->isEmpty())
+        return QByteArray();
+    const QByteArray bytes = ReadAtMost(&file, largestFile + 1);
+    if (bytes.size() > largestFile)
+        faults->append({QString(), fewerBytes, QStringLiteral("more")});
+    return bytes;
 }
 
 /** "LINE:COLUMN" of a place in @p text, both counted from 1, columns in bytes. */
@@ -260,11 +164,11 @@ QString LineAndColumn(const QByteArray& text, int offset)
 QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document)
 {
     // First of all, because Qt's reader leaks the values of duplicate keys.
-    JsonValues twice;
+    JsonFaults twice;
     for (const QString& place : DuplicateKeys(text))
         twice.Add(place, QStringLiteral("each key once"), QStringLiteral("it twice"));
-    if (!twice.Faults().isEmpty())
-        return twice.Faults();
+    if (!twice.All().isEmpty())
+        return twice.All();
     QJsonParseError error;
     const QByteArray escaped = WithMarksEscaped(text);
     *document = QJsonDocument::fromJson(escaped, &error);
@@ -289,15 +193,16 @@ QList<SceneFault> ReadSceneText(const QByteArray& text, const QString& path, Sce
                                 MissingFiles missing)
 {
     QJsonDocument document;
-    const QList<SceneFault> faults = FaultsOfSyntax(text, &document);
-    if (!faults.isEmpty())
-        return faults;
-    Reader reader(path, missing);
-    const Scene read = reader.Read(document.isObject() ? QJsonValue(document.object())
-                                                       : QJsonValue(document.array()));
-    if (reader.Faults().isEmpty())
+    const QList<SceneFault> wrong = FaultsOfSyntax(text, &document);
+    if (!wrong.isEmpty())
+        return wrong;
+    JsonFaults faults;
+    const QJsonValue file =
+        document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
+    const Scene read = ReadRoot(file, path, missing, &faults);
+    if (faults.All().isEmpty())
         *scene = read;
-    return reader.Faults();
+    return faults.All();
 }
 
 QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles missing)

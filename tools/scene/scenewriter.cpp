@@ -6,17 +6,13 @@ namespace AnimText {
 
 namespace {
 
-Json Row(const QHash<QString, QString>& row, const QStringList& order)
+Json Row(const QHash<QString, QString>& row, const QStringList& fields)
 {
-    QStringList fields = row.keys();
-    fields.sort();
-    for (int i = order.size() - 1; i >= 0; --i) {
-        if (fields.removeOne(order.at(i)))
-            fields.prepend(order.at(i));
-    }
     Json json = Json::Object({}, Json::Spaced);
-    for (const QString& field : fields)
-        json.Add(field, row.value(field));
+    for (const QString& field : fields) {
+        if (row.contains(field))
+            json.Add(field, row.value(field));
+    }
     return json;
 }
 
@@ -28,10 +24,10 @@ Json Node(const SceneNode& node)
                                                                       : Json(it->toInt()));
     Json lists = Json::Object({}, Json::Lines);
     for (auto it = node.lists.begin(); it != node.lists.end(); ++it) {
-        const QStringList order = RowFields(it.key());
+        const QStringList fields = RowFields(it.key());
         Json rows = Json::List({}, Json::Lines);
         for (const QHash<QString, QString>& row : it.value())
-            rows.Add(Row(row, order));
+            rows.Add(Row(row, fields));
         lists.Add(it.key(), rows);
     }
     Json files = Json::Object({}, Json::Lines);

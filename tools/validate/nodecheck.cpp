@@ -1,6 +1,7 @@
 #include "validate/nodecheck.h"
 
 #include "scene/attributes.h"
+#include "scene/motion.h"
 #include "text/limits.h"
 #include "validate/datafile.h"
 
@@ -31,60 +32,77 @@ QString InQuotes(const QString& text)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-/** The first wrong row, and how many follow it. */
-struct BadRows
-{
-    int first = -1;
-    int others = 0;
-
-    void Add(int row)
-    {
-        if (first < 0)
-            first = row;
-        else
-            ++others;
-    }
-};
-
 qint64 Sum(const QVector<int>& values)
 {
     return std::accumulate(values.begin(), values.end(), qint64(0));
 }
 
-/** The first of the largest of @p values, or -1. */
-int LargestAt(const QVector<int>& values)
+class NodeCheck
 {
-    return values.isEmpty() ? -1
-                            : int(std::max_element(values.begin(), values.end()) - values.begin());
-}
+public:
+    NodeCheck(const Scene& scene, const Place& place);
 
-} // namespace
+    QList<Finding> Run();
+
+private:
+    void CheckArea();
+    void CheckRange(Mistake mistake, const QString& key);
+    void CheckMode();
+    void CheckIgnored();
+    void CheckLists();
+    void CheckRows(const QString& list, const QString& field);
+    void CheckColors();
+    void CheckMeasures();
+    void CheckFiles();
+    void CheckData(const QString& key);
+    void CheckOutlines(const QVector<bool>& isEmpty);
+    void CheckCut();
+
+    bool Has(const QString& flag) const { return Number(flag) == 1; }
+    int Number(const QString& key) const { return node.attributes.value(key).toInt(); }
+    QVector<int> Column(const char* list, const char* field) const;
+
+    void Add(Mistake mistake, const QString& where, const QString& found, const QString& expected);
+    void AddRow(Mistake mistake, const QString& list, int row, const QString& field,
+                const QString& found, const QString& expected);
+    void AddAttribute(Mistake mistake, const QString& key, const QString& expected);
+
+    const Scene& scene;
+    const SceneNode& node;
+    const QString path; // of the node in the scene file
+    const QString text;
+    const NodeMotion motion;
+    const QVector<int> widths;
+    const QVector<int> heights;
+    QVector<int> descents;
+    QVector<QRectF> ink; // of the outlines
+    QList<Finding> findings;
+};
 
 NodeCheck::NodeCheck(const Scene& scene, const Place& place)
     : scene(scene)
     , node(scene.At(place))
     , path(place.Path())
-    , text(node.attributes.value(QStringLiteral("Text")).toString())
+    , text(node.attributes.value("Text").toString())
     , motion(MotionOf(node))
+    , widths(Column("TextWidth", "text_width"))
+    , heights(Column("TextHeight", "text_height"))
 {
 }
 
 QList<Finding> NodeCheck::Run()
 {
-    widths = Column("TextWidth", "text_width");
-    heights = Column("TextHeight", "text_height");
-    if (node.type != QLatin1String("LW_animationText_Plugin"))
-        Add(Mistake::NodeType, QStringLiteral("type"), InQuotes(node.type),
-            InQuotes(SceneNode().type));
+    if (node.type != SceneNode().type)
+        Add(Mistake::NodeType, "type", InQuotes(node.type), InQuotes(SceneNode().type));
     CheckArea();
-    const Attribute& hold = *FindAttribute(Home::Node, QStringLiteral("hold"));
+    const Attribute& hold = *FindAttribute(Home::Node, "hold");
     if (!IsInRange(hold, node.hold))
-        Add(Mistake::HoldRange, QStringLiteral("hold"), QString::number(node.hold),
+        Add(Mistake::HoldRange, "hold", QString::number(node.hold),
             QStringLiteral("%1, in %2").arg(RangeInWords(hold), Translated(hold.unit)));
     CheckMode();
-    CheckFlags();
     CheckIgnored();
     CheckLists();
+    CheckColors();
     CheckMeasures();
     CheckFiles();
     CheckCut();
@@ -93,24 +111,23 @@ QList<Finding> NodeCheck::Run()
 
 void NodeCheck::CheckArea()
 {
-    const QString at = QStringLiteral("size");
     if (node.size.isEmpty()) {
-        Add(Mistake::AreaEmpty, at, Size(node.size.width(), node.size.height()),
-            QStringLiteral("1 x 1 pixels or more"));
+        Add(Mistake::AreaEmpty, "size", Size(node.size.width(), node.size.height()),
+            "1 x 1 pixels or more");
         return;
     }
     if (!QRect(QPoint(0, 0), scene.display).contains(QRect(node.pos, node.size)))
-        Add(Mistake::AreaOutside, QStringLiteral("pos"),
+        Add(Mistake::AreaOutside, "pos",
             QStringLiteral("an area of %1 at %2, %3")
                 .arg(Size(node.size.width(), node.size.height()))
                 .arg(node.pos.x())
                 .arg(node.pos.y()),
             QStringLiteral("a place within the display of %1")
                 .arg(Size(scene.display.width(), scene.display.height())));
-    const qint64 width = ScrollsSideways() ? Sum(widths) : node.size.width();
+    const qint64 width = motion.IsSideways() ? Sum(widths) : node.size.width();
     const qint64 bytes = width * node.size.height() * (scene.alphaBlend ? 4 : 3);
     if (bytes > maxCanvasBytes)
-        Add(Mistake::CanvasLarge, at,
+        Add(Mistake::CanvasLarge, "size",
             QStringLiteral("a picture of %1, %2 MiB")
                 .arg(Size(width, node.size.height()))
                 .arg(bytes >> 20),
@@ -137,17 +154,12 @@ void NodeCheck::CheckMode()
         CheckRange(Mistake::SpeedRange, motion.SpeedKey());
     }
     CheckRange(Mistake::PlaysRange, "PlayTimes");
-    if (Number("StrokeColor") >
-        FindAttribute(Home::Attributes, QStringLiteral("StrokeColor"))->most)
+    // Negative numbers are opaque colors as Qt's QRgb has them; their lowest 24 bits are right.
+    if (Number("StrokeColor") > 0)
         CheckRange(Mistake::ColorRange, "StrokeColor");
-}
-
-void NodeCheck::CheckFlags()
-{
     for (const QString& key : KeysOf(Home::Attributes)) {
-        const Attribute* attribute = FindAttribute(Home::Attributes, key);
-        if (attribute->kind == ValueKind::Flag)
-            CheckRange(Mistake::FlagValue, attribute->key);
+        if (FindAttribute(Home::Attributes, key)->kind == ValueKind::Flag)
+            CheckRange(Mistake::FlagValue, key);
     }
 }
 
@@ -159,49 +171,44 @@ void NodeCheck::CheckIgnored()
     if (Has("CheckPictureFills") && !Has("CheckDazzle"))
         AddAttribute(Mistake::PictureIgnored, "CheckPictureFills", withDazzle);
     if (Has("CheckShadowEffect"))
-        AddAttribute(Mistake::ShadowIgnored, "CheckShadowEffect", QStringLiteral("0"));
+        AddAttribute(Mistake::ShadowIgnored, "CheckShadowEffect", "0");
     if (Has("Stroke"))
-        AddAttribute(Mistake::StrokeIgnored, "Stroke", QStringLiteral("0"));
+        AddAttribute(Mistake::StrokeIgnored, "Stroke", "0");
 }
 
 void NodeCheck::CheckLists()
 {
     for (const QString& key : ListKeys()) {
         const int rows = node.lists.value(key).size();
-        const QString at = QStringLiteral("lists.") + key;
-        const QString found =
-            node.lists.contains(key) ? Words(rows, "row", "rows") : QStringLiteral("no list");
-        const QString expected = QStringLiteral("a row for each of %1")
-                                     .arg(Words(text.size(), "character", "characters"));
-        if (rows < text.size())
-            Add(Mistake::ListLength, at, found, expected);
-        else if (rows > text.size())
-            Add(Mistake::ListSurplus, at, found, expected);
+        if (rows != text.size())
+            Add(rows < text.size() ? Mistake::ListLength : Mistake::ListSurplus, "lists." + key,
+                node.lists.contains(key) ? Words(rows, "row", "rows") : "no list",
+                "a row for each of " + Words(text.size(), "character", "characters"));
         for (const QString& field : RowFields(key)) {
             if (field != QLatin1String("fontName"))
                 CheckRows(key, field);
         }
     }
+}
 
+void NodeCheck::CheckColors()
+{
     const QString list = QStringLiteral("TextAttribute");
-    const auto styles = node.lists.value(list);
     const QString color = QStringLiteral("Color");
-    // Negative numbers are opaque colors as Qt's QRgb has them; their lowest 24 bits are right.
+    const auto styles = node.lists.value(list);
     const Attribute& range = *FindAttribute(Home::TextAttribute, color);
-    for (int i = 0; i < styles.size(); ++i) {
-        if (styles[i].value(color).toInt() <= range.most)
-            continue;
-        AddRow(Mistake::ColorRange, list, i, color, InQuotes(styles[i].value(color)),
-               RangeInWords(range));
-        break;
-    }
-    for (int i = 1; i < styles.size(); ++i) {
-        if (styles[i].value(color) == styles[0].value(color))
-            continue;
-        AddRow(Mistake::ColorsIgnored, list, i, color, InQuotes(styles[i].value(color)),
-               InQuotes(styles[0].value(color)) + QStringLiteral(" as in the first row"));
-        break;
-    }
+    const auto find = [&](Mistake mistake, const QString& expected, const auto& isBad) {
+        for (int i = 0; i < styles.size(); ++i) {
+            const QString value = styles[i].value(color);
+            if (isBad(value))
+                return AddRow(mistake, list, i, color, InQuotes(value), expected);
+        }
+    };
+    find(Mistake::ColorRange, RangeInWords(range),
+         [&](const QString& value) { return value.toInt() > range.most; });
+    const QString first = styles.value(0).value(color);
+    find(Mistake::ColorsIgnored, InQuotes(first) + " as in the first row",
+         [&](const QString& value) { return value != first; });
 }
 
 /** A finding on the first row of @p list whose @p field is no number, or a size below 0. */
@@ -209,34 +216,32 @@ void NodeCheck::CheckRows(const QString& list, const QString& field)
 {
     const bool isSize = list != QLatin1String("TextAttribute");
     const auto rows = node.lists.value(list);
-    BadRows bad;
+    QVector<int> bad;
     for (int i = 0; i < rows.size(); ++i) {
         bool isNumber = false;
         const int value = rows[i].value(field).toInt(&isNumber);
-        if (isNumber && !(isSize && value < 0))
-            continue;
-        bad.Add(i);
+        if (!isNumber || (isSize && value < 0))
+            bad.append(i);
     }
-    if (bad.first < 0)
+    if (bad.isEmpty())
         return;
-    const bool given = rows[bad.first].contains(field);
-    AddRow(Mistake::RowValue, list, bad.first, field,
-           (given ? InQuotes(rows[bad.first].value(field)) : QStringLiteral("nothing")) +
-               AndMore(bad.others),
-           isSize ? QStringLiteral("a decimal number from 0") : QStringLiteral("a decimal number"));
+    const QHash<QString, QString>& row = rows[bad.first()];
+    AddRow(Mistake::RowValue, list, bad.first(), field,
+           (row.contains(field) ? InQuotes(row.value(field)) : "nothing") + AndMore(bad.size() - 1),
+           isSize ? "a decimal number from 0" : "a decimal number");
 }
 
 void NodeCheck::CheckMeasures()
 {
-    const int widest = LargestAt(widths);
-    if (!ScrollsSideways() && widest >= 0 && widths[widest] > node.size.width())
-        AddRow(Mistake::CharacterWide, QStringLiteral("TextWidth"), widest,
-               QStringLiteral("text_width"), QStringLiteral("%1 pixels").arg(widths[widest]),
-               QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
-    if (ScrollsSideways() && Sum(widths) > lastPaintableX)
-        Add(Mistake::LineLong, QStringLiteral("lists.TextWidth"),
-            QStringLiteral("a line of %1 pixels").arg(Sum(widths)),
+    const qint64 length = Sum(widths);
+    if (motion.IsSideways() && length > lastPaintableX)
+        Add(Mistake::LineLong, "lists.TextWidth", QStringLiteral("a line of %1 pixels").arg(length),
             QStringLiteral("at most %1 pixels").arg(lastPaintableX));
+    const auto widest = std::max_element(widths.begin(), widths.end());
+    if (!motion.IsSideways() && widest != widths.end() && *widest > node.size.width())
+        AddRow(Mistake::CharacterWide, "TextWidth", int(widest - widths.begin()), "text_width",
+               QStringLiteral("%1 pixels").arg(*widest),
+               QStringLiteral("no more than the area's width, %1").arg(node.size.width()));
 }
 
 void NodeCheck::CheckFiles()
@@ -268,27 +273,26 @@ void NodeCheck::CheckFiles()
 void NodeCheck::CheckData(const QString& key)
 {
     const bool holdsPaths = key == QLatin1String("PathData");
-    const QString at = QStringLiteral("files.") + key;
+    const QString at = "files." + key;
     const QString path = scene.FullName(node.files.value(key));
     const DataFile data = holdsPaths ? LookIntoPathFile(path) : LookIntoDescentFile(path);
     if (!data.fault.isEmpty()) {
         Add(Mistake::DataMalformed, at, QStringLiteral("%1: %2").arg(path, data.fault),
-            QStringLiteral("a serialized byte array of Base64 text with a serialized list in it"));
+            "a serialized byte array of Base64 text with a serialized list in it");
         return;
     }
-    const QString found = holdsPaths ? Words(data.entries, "outline", "outlines")
-                                     : Words(data.entries, "descent", "descents");
     if (data.entries != text.size())
-        Add(data.entries < text.size() ? Mistake::DataLength : Mistake::DataSurplus, at, found,
-            QStringLiteral("one for each of %1")
-                .arg(Words(text.size(), "character", "characters")));
+        Add(data.entries < text.size() ? Mistake::DataLength : Mistake::DataSurplus, at,
+            holdsPaths ? Words(data.entries, "outline", "outlines")
+                       : Words(data.entries, "descent", "descents"),
+            "one for each of " + Words(text.size(), "character", "characters"));
     if (!data.badOutlines.isEmpty()) {
         const BadOutline& bad = data.badOutlines.first();
         Add(Mistake::OutlineMalformed, at,
             QStringLiteral("outline %1: %2%3")
                 .arg(bad.index)
                 .arg(bad.fault, AndMore(data.badOutlines.size() - 1)),
-            QStringLiteral("moves, lines and curves within a million pixels"));
+            "moves, lines and curves within a million pixels");
     }
     if (holdsPaths) {
         ink = data.ink;
@@ -301,22 +305,22 @@ void NodeCheck::CheckData(const QString& key)
 /** Uses the ink of the letters at rest, because a line may be higher than the area. */
 void NodeCheck::CheckCut()
 {
-    const bool scrollsThrough = motion.IsScroll() && !ScrollsSideways();
+    const bool scrollsThrough = motion.IsScroll() && !motion.IsSideways();
     if (scrollsThrough || heights.isEmpty() || descents.size() < text.size())
         return;
     const int height = node.size.height();
+    const int highest = *std::max_element(heights.begin(), heights.end());
     qint64 above = 0;
     qint64 below = 0;
     for (int i = 0; i < qMin(ink.size(), text.size()); ++i) {
-        const qint64 baseline =
-            qint64(height / 2) + heights[LargestAt(heights)] / 2 - descents.value(i);
+        const qint64 baseline = qint64(height / 2) + highest / 2 - descents.value(i);
         if (ink[i].isEmpty())
             continue;
         above = qMax<qint64>(above, qCeil(-ink[i].top()) - baseline);
         below = qMax<qint64>(below, qCeil(ink[i].bottom()) + baseline - height);
     }
     if (above > 0 || below > 0)
-        Add(Mistake::TextHigh, QStringLiteral("files.PathData"),
+        Add(Mistake::TextHigh, "files.PathData",
             QStringLiteral("letters that reach %1 pixels above the area and %2 below it")
                 .arg(above)
                 .arg(below),
@@ -325,22 +329,21 @@ void NodeCheck::CheckCut()
 
 void NodeCheck::CheckOutlines(const QVector<bool>& isEmpty)
 {
-    BadRows gaps;
+    QVector<int> gaps;
     for (int i = 0; i < qMin(isEmpty.size(), text.size()); ++i) {
         const QChar::Category category = text.at(i).category();
         const bool unseen = text.at(i).isSpace() || category == QChar::Other_Format ||
                             category == QChar::Other_Control || text.at(i).isLowSurrogate();
         // Characters that share the outline of the one before them have no width.
-        if (!isEmpty[i] || unseen || widths.value(i) <= 0)
-            continue;
-        gaps.Add(i);
+        if (isEmpty[i] && !unseen && widths.value(i) > 0)
+            gaps.append(i);
     }
-    if (gaps.first >= 0)
-        Add(Mistake::OutlineEmpty, QStringLiteral("files.PathData"),
+    if (!gaps.isEmpty())
+        Add(Mistake::OutlineEmpty, "files.PathData",
             QStringLiteral("no outline for character %1 of the text%2")
-                .arg(gaps.first)
-                .arg(AndMore(gaps.others)),
-            QStringLiteral("an outline for all that is seen"));
+                .arg(gaps.first())
+                .arg(AndMore(gaps.size() - 1)),
+            "an outline for all that is seen");
 }
 
 QVector<int> NodeCheck::Column(const char* list, const char* field) const
@@ -369,6 +372,13 @@ void NodeCheck::AddAttribute(Mistake mistake, const QString& key, const QString&
     const QVariant value = node.attributes.value(key);
     Add(mistake, Member(QStringLiteral("attributes"), key),
         value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
+}
+
+} // namespace
+
+QList<Finding> CheckNode(const Scene& scene, const Place& place)
+{
+    return NodeCheck(scene, place).Run();
 }
 
 } // namespace AnimText

@@ -49,13 +49,10 @@ enum class Mistake {
 /** One kind of mistake. */
 struct Rule
 {
-    Mistake mistake;
     Severity severity; ///< an error shows nothing or something wrong; a warning may be intended
     const char* code;  ///< keeps its meaning from version to version, e.g. "speed-range"
     const char* why;   ///< what it does on the sign
 };
-
-constexpr int mistakeCount = int(Mistake::ColorRange) + 1;
 
 const Rule& RuleFor(Mistake mistake);
 

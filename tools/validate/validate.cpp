@@ -43,7 +43,7 @@ QList<Finding> ValidateScene(const Scene& scene)
                  QStringLiteral("one or more")}};
     QList<Finding> findings;
     for (const Place& place : scene.Places()) {
-        findings += NodeCheck(scene, place).Run();
+        findings += CheckNode(scene, place);
         findings += Overlaps(scene, place);
     }
     return findings;
