@@ -147,8 +147,9 @@ void TestRehearsal::measuresPagesAndEnds()
     QVERIFY(SaveSign(sign, folder.Path("timed.json"), QByteArray(), &error));
     const Outcome duration = folder.Shell("animtext duration timed.json --simulate --json");
     const QJsonObject told = QJsonDocument::fromJson(duration.out).object();
-    QCOMPARE(text.told, qint64(told.value("duration").toDouble()));
-    QCOMPARE(text.real, qint64(told.value("simulated").toObject().value("finishedMs").toDouble()));
+    QCOMPARE(text.planned, qint64(told.value("duration").toDouble()));
+    QCOMPARE(text.actual,
+             qint64(told.value("simulated").toObject().value("finishedMs").toDouble()));
     QCOMPARE(text.pages.size(), 2 * sign.texts.first().layout->pages);
     QSet<int> pictures;
     for (const QByteArray& line :
@@ -166,11 +167,11 @@ void TestRehearsal::measuresPagesAndEnds()
             QVERIFY(!pictures.contains(tick));
         end = page.end;
     }
-    QCOMPARE(qint64(end) * tickLength, text.real);
+    QCOMPARE(qint64(end) * tickLength, text.actual);
     // With the schedule, a text is stopped after its planned time.
     rehearsal.SetSign(sign, PartOf(-1, true));
     QVERIFY(measured.wait(patience));
-    QCOMPARE(rehearsal.GetTiming().texts.first().until, text.told);
+    QCOMPARE(rehearsal.GetTiming().texts.first().until, text.planned);
     // So long that the planned time overflows; there must be ticks to show anyway.
     sign.texts.first().node.attributes["PlayTimes"] = 1000000;
     rehearsal.SetSign(sign, PartOf(0));

@@ -926,8 +926,8 @@ void TestWindow::exportsPartsAndLeds()
 
 void TestWindow::describesTimes_data()
 {
-    QTest::addColumn<int>("told");
-    QTest::addColumn<int>("real");
+    QTest::addColumn<int>("planned");
+    QTest::addColumn<int>("actual");
     QTest::addColumn<int>("lastPage"); // its first tick
     QTest::addColumn<QString>("words");
     QTest::newRow("as planned") << 6600 << 6600 << 50 << "planned 6.60 s · needs 6.60 s";
@@ -941,14 +941,14 @@ void TestWindow::describesTimes_data()
 
 void TestWindow::describesTimes()
 {
-    QFETCH(int, told);
-    QFETCH(int, real);
+    QFETCH(int, planned);
+    QFETCH(int, actual);
     QFETCH(int, lastPage);
     Translate(QLocale("en"));
     TextTime text;
     text.ending = Ending::Finishes;
-    text.told = told;
-    text.real = real;
+    text.planned = planned;
+    text.actual = actual;
     text.pages = {{0, 5, lastPage}, {lastPage, lastPage + 5, lastPage + 9}};
     QTEST(EndsInWords(text), "words");
     TransportBar bar(window->GetPlayback());

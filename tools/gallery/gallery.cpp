@@ -103,8 +103,8 @@ QJsonObject ToJson(const GalleryEntry& entry)
     QJsonArray speeds;
     for (const MotionPlay& play : entry.plays)
         speeds.append(QJsonObject{{QStringLiteral("ticks"), play.ticks},
-                                  {QStringLiteral("planned"), play.told},
-                                  {QStringLiteral("actual"), play.real},
+                                  {QStringLiteral("planned"), play.planned},
+                                  {QStringLiteral("actual"), play.actual},
                                   {QStringLiteral("times"), TimesInWords(play)},
                                   {QStringLiteral("pages"), ToJson(play.pages)}});
     return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},

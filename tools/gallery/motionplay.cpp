@@ -31,7 +31,7 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     *play = MotionPlay();
     if (!player->Load(scene, error))
         return false;
-    play->told = player->Durations().first();
+    play->planned = player->Durations().first();
     player->Start(seed);
     Show(player->Picture(), sheets, play);
 
@@ -51,7 +51,7 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     }
     if (isDevices)
         return true;
-    play->real = player->Time();
+    play->actual = player->Time();
     if (MotionOf(*scene.Nodes().first()).mode != Mode::Entrance)
         return true;
     PagedPlay paged;

@@ -25,8 +25,8 @@ struct MotionPlay
     QVector<PictureRun> runs;
     QVector<PageTime> pages; ///< empty if the text is not cut into pages
     int ticks = 0;           ///< of all runs
-    qint64 told = 0;         ///< planned time, milliseconds
-    qint64 real = -1;        ///< actual time until it was finished; -1: the device keeps scrolling
+    qint64 planned = 0;      ///< planned time, milliseconds
+    qint64 actual = -1;      ///< actual time until it was finished; -1: the device keeps scrolling
 };
 
 /**

@@ -17,8 +17,8 @@ QString Seconds(qint64 milliseconds, int digits = 2)
 /** How much longer than planned; 0 where the display shows no difference. */
 qint64 Excess(const MotionPlay& play)
 {
-    const qint64 excess = play.real - play.told;
-    return play.real < 0 || std::llabs(excess) <= tickLength ? 0 : excess;
+    const qint64 excess = play.actual - play.planned;
+    return play.actual < 0 || std::llabs(excess) <= tickLength ? 0 : excess;
 }
 
 QString Card(const GalleryEntry& entry, const QSize& size, int posters)
@@ -48,16 +48,16 @@ QString Row(const GalleryEntry& entry)
     for (const MotionPlay& play : entry.plays) {
         const qint64 excess = Excess(play);
         const double part =
-            excess == 0 ? 0 : double(std::llabs(excess)) / double(qMax(1LL, play.told));
-        const char* const kind = play.real < 0 ? "device"
-                                 : excess > 0  ? "long"
-                                 : excess < 0  ? "short"
-                                               : "even";
+            excess == 0 ? 0 : double(std::llabs(excess)) / double(qMax(1LL, play.planned));
+        const char* const kind = play.actual < 0 ? "device"
+                                 : excess > 0    ? "long"
+                                 : excess < 0    ? "short"
+                                                 : "even";
         row += QStringLiteral("<td class=\"%1\" style=\"--part:%2%\" title=\"%3\">%4</td>")
                    .arg(QLatin1String(kind))
                    .arg(qRound(100 * qMin(1.0, part / fullColor)))
                    .arg(TimesInWords(play),
-                        play.real < 0 ? QStringLiteral("∞") : Seconds(play.real, 1));
+                        play.actual < 0 ? QStringLiteral("∞") : Seconds(play.actual, 1));
     }
     return row + QStringLiteral("</tr>\n");
 }
@@ -66,13 +66,13 @@ QString Row(const GalleryEntry& entry)
 
 QString TimesInWords(const MotionPlay& play)
 {
-    const QString planned = QStringLiteral("planned %1 s · ").arg(Seconds(play.told));
-    if (play.real < 0)
+    const QString planned = QStringLiteral("planned %1 s · ").arg(Seconds(play.planned));
+    if (play.actual < 0)
         return planned +
                QStringLiteral("the device scrolls until it is stopped, once through in %1 s")
                    .arg(Seconds(qint64(play.ticks) * tickLength));
     const qint64 excess = Excess(play);
-    QString times = planned + QStringLiteral("actual %1 s").arg(Seconds(play.real));
+    QString times = planned + QStringLiteral("actual %1 s").arg(Seconds(play.actual));
     if (excess > 0)
         times += QStringLiteral(" · the last %1 s are cut off").arg(Seconds(excess));
     if (excess < 0)

@@ -49,17 +49,17 @@ bool PlayWhole(Player* player, const Scene& scene, int last, const Watch& watch,
 } // namespace
 
 /** Pages end where nothing was painted for longer than anything except a hold can take. */
-QVector<PageTime> PageTimes(const QVector<int>& real, const QVector<int>& held, int end)
+QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held, int end)
 {
     QVector<PageTime> pages;
-    const int count = std::min(real.size(), held.size());
+    const int count = std::min(actual.size(), held.size());
     PageTime page;
     for (int i = 0; i < count; ++i) {
         const bool last = i + 1 == count;
         if (!last && held.at(i + 1) - held.at(i) < certainHold)
             continue;
-        page.hold = std::min(real.at(i) + 1, end);
-        page.end = last ? end : real.at(i + 1);
+        page.hold = std::min(actual.at(i) + 1, end);
+        page.end = last ? end : actual.at(i + 1);
         pages.append(page);
         page.begin = page.end;
     }
@@ -71,16 +71,16 @@ bool MeasurePages(Player* player, const Scene& scene, int longest, const Watch& 
 {
     const BlankScene blank(scene);
     Swaps held;
-    Swaps real;
+    Swaps actual;
     if (!PlayWhole(player, WithLongHolds(blank.Get()), 3 * longest, watch, &held, error) ||
-        !PlayWhole(player, blank.Get(), longest, watch, &real, error))
+        !PlayWhole(player, blank.Get(), longest, watch, &actual, error))
         return false;
-    play->nodes = real.nodes;
+    play->nodes = actual.nodes;
     play->pages.clear();
-    for (int node = 0; node < real.nodes.size(); ++node)
-        play->pages.append(real.nodes.at(node).ending == Ending::Finishes
-                               ? PageTimes(real.pictures.at(node), held.pictures.at(node),
-                                           real.nodes.at(node).finishedTick)
+    for (int node = 0; node < actual.nodes.size(); ++node)
+        play->pages.append(actual.nodes.at(node).ending == Ending::Finishes
+                               ? PageTimes(actual.pictures.at(node), held.pictures.at(node),
+                                           actual.nodes.at(node).finishedTick)
                                : QVector<PageTime>());
     return true;
 }

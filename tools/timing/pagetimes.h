@@ -37,11 +37,11 @@ bool MeasurePages(Player* player, const Scene& scene, int longest, const Watch& 
 
 /**
  * Divides a play into pages.
- * @param real the ticks that brought a picture, rising
+ * @param actual the ticks that brought a picture, rising
  * @param held those of the same pictures, while pages were held for longer
  * @param end  the tick at which the play is over
  */
-QVector<PageTime> PageTimes(const QVector<int>& real, const QVector<int>& held, int end);
+QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held, int end);
 
 } // namespace AnimText
 

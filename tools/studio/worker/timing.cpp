@@ -10,7 +10,7 @@ namespace {
 constexpr int longest = 20 * 60 * 1000 / tickLength; // ticks to measure at most
 
 /** Actual time of a text in milliseconds; negative if it never ends. */
-qint64 RealEnd(const NodePlay& play, const Player& player, Stage* stage, int node)
+qint64 ActualEnd(const NodePlay& play, const Player& player, Stage* stage, int node)
 {
     switch (play.ending) {
     case Ending::Finishes: return qint64(play.finishedTick) * tickLength;
@@ -39,11 +39,11 @@ bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watc
     for (int node = 0; node < play.nodes.size(); ++node) {
         TextTime text;
         text.ending = play.nodes.at(node).ending;
-        text.told = durations.at(node);
-        text.real = RealEnd(play.nodes.at(node), *player, &player->Scenery(), node);
+        text.planned = durations.at(node);
+        text.actual = ActualEnd(play.nodes.at(node), *player, &player->Scenery(), node);
         text.pages = play.pages.at(node);
         timing->isCut = timing->isCut || text.ending == Ending::TooLong;
-        timing->length = std::max({timing->length, text.told, text.real});
+        timing->length = std::max({timing->length, text.planned, text.actual});
         timing->texts.append(text);
     }
     if (schedule) {
@@ -63,7 +63,7 @@ QDataStream& operator<<(QDataStream& stream, const Timing& timing)
 {
     stream << timing.length << timing.isCut << qint32(timing.texts.size());
     for (const TextTime& text : timing.texts) {
-        stream << qint32(text.ending) << text.told << text.real << text.from << text.until
+        stream << qint32(text.ending) << text.planned << text.actual << text.from << text.until
                << qint32(text.pages.size());
         for (const PageTime& page : text.pages)
             stream << page.begin << page.hold << page.end;
@@ -80,7 +80,7 @@ QDataStream& operator>>(QDataStream& stream, Timing& timing)
         TextTime text;
         qint32 ending = 0;
         qint32 pages = 0;
-        stream >> ending >> text.told >> text.real >> text.from >> text.until >> pages;
+        stream >> ending >> text.planned >> text.actual >> text.from >> text.until >> pages;
         text.ending = Ending(ending);
         for (qint32 p = 0; p < pages && stream.status() == QDataStream::Ok; ++p) {
             PageTime page;

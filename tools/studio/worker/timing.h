@@ -17,8 +17,8 @@ namespace AnimText {
 struct TextTime
 {
     Ending ending = Ending::TooLong;
-    qint64 told = 0;         ///< planned time: what the plugin tells the host, milliseconds
-    qint64 real = -1;        ///< actual time, milliseconds; negative if it never ends
+    qint64 planned = 0;      ///< planned time: what the plugin tells the host, milliseconds
+    qint64 actual = -1;      ///< actual time, milliseconds; negative if it never ends
     qint64 from = 0;         ///< when the host starts it, milliseconds
     qint64 until = -1;       ///< when the host stops it, milliseconds; negative for never
     QVector<PageTime> pages; ///< of all its plays

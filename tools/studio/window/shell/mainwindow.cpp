@@ -457,8 +457,8 @@ void MainWindow::ShowEnds()
         if (own.isEmpty() || text->area != area) {
             own.append(timing.texts.at(i));
         } else {
-            own.last().told += timing.texts.at(i).told;
-            own.last().real += timing.texts.at(i).real;
+            own.last().planned += timing.texts.at(i).planned;
+            own.last().actual += timing.texts.at(i).actual;
         }
         area = text->area;
     }
@@ -466,8 +466,8 @@ void MainWindow::ShowEnds()
     TextTime program = SideBySide({});
     for (auto page = pages.begin(); page != pages.end(); ++page) {
         const TextTime times = SideBySide(page.value());
-        program.told += times.told;
-        program.real += times.real;
+        program.planned += times.planned;
+        program.actual += times.actual;
         lines.append(tr("Page %1: %2").arg(page.key() + 1).arg(EndsInWords(times)));
     }
     lines.append(tr("All pages: %1").arg(EndsInWords(program)));

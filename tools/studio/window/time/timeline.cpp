@@ -327,10 +327,10 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
     };
     const double from = TicksOf(text.from);
     // The host's very long times overflow to negative ones.
-    const double told =
-        text.until >= 0 ? TicksOf(text.until) : from + TicksOf(std::max<qint64>(0, text.told));
+    const double planned =
+        text.until >= 0 ? TicksOf(text.until) : from + TicksOf(std::max<qint64>(0, text.planned));
     if (text.pages.isEmpty()) {
-        const double end = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
+        const double end = text.actual >= 0 ? from + TicksOf(text.actual) : Ticks();
         if (text.ending != Ending::NothingToPlay)
             block(from, end, Entrance);
     }
@@ -356,13 +356,15 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
         }
     }
     // The host stops the text after its planned time and cuts off the rest.
-    const double real = text.real >= 0 ? from + TicksOf(text.real) : Ticks();
-    if (text.ending != Ending::NothingToPlay && real > told + 1.99) { // nobody misses a single tick
-        Fill(painter, QRectF(XOf(told), bar.top(), XOf(real) - XOf(told), bar.height()), Cut);
+    const double actual = text.actual >= 0 ? from + TicksOf(text.actual) : Ticks();
+    if (text.ending != Ending::NothingToPlay &&
+        actual > planned + 1.99) { // nobody misses a single tick
+        Fill(painter, QRectF(XOf(planned), bar.top(), XOf(actual) - XOf(planned), bar.height()),
+             Cut);
     }
     if (text.ending != Ending::NothingToPlay) {
         painter->setPen(QPen(Warning(palette()), 1));
-        const double x = std::round(XOf(told));
+        const double x = std::round(XOf(planned));
         painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
     }
     painter->restore();
@@ -400,9 +402,9 @@ QString Timeline::Describe(const QPoint& point) const
                     .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
                                      qint64(tickLength)));
     }
-    what += QLatin1Char('\n') + tr("Planned: %1").arg(SecondsText(text.told));
-    if (text.real >= 0)
-        what += QLatin1Char('\n') + tr("Needs: %1").arg(SecondsText(text.real));
+    what += QLatin1Char('\n') + tr("Planned: %1").arg(SecondsText(text.planned));
+    if (text.actual >= 0)
+        what += QLatin1Char('\n') + tr("Needs: %1").arg(SecondsText(text.actual));
     return what;
 }
 

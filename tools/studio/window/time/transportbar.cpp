@@ -136,7 +136,7 @@ void TransportBar::SetSchedule(bool schedule)
 int LostPages(const TextTime& text)
 {
     return int(std::count_if(text.pages.begin(), text.pages.end(), [&](const PageTime& page) {
-        return qint64(page.begin) * tickLength >= text.told;
+        return qint64(page.begin) * tickLength >= text.planned;
     }));
 }
 
@@ -144,12 +144,12 @@ TextTime SideBySide(const QVector<TextTime>& texts)
 {
     TextTime all;
     all.ending = Ending::Finishes;
-    all.real = 0;
+    all.actual = 0;
     for (const TextTime& text : texts) {
         if (text.ending == Ending::TooLong)
             all.ending = Ending::TooLong;
-        all.told = std::max(all.told, text.told);
-        all.real = std::max(all.real, text.real);
+        all.planned = std::max(all.planned, text.planned);
+        all.actual = std::max(all.actual, text.actual);
     }
     return all;
 }
@@ -159,12 +159,12 @@ QString EndsInWords(const TextTime& text)
     switch (text.ending) {
     case Ending::NothingToPlay: return TransportBar::tr("this text is empty");
     case Ending::TooLong:
-        return TransportBar::tr("planned %1 · too long to measure").arg(SecondsText(text.told));
+        return TransportBar::tr("planned %1 · too long to measure").arg(SecondsText(text.planned));
     default: break;
     }
     QString words = TransportBar::tr("planned %1 · needs %2")
-                        .arg(SecondsText(text.told), SecondsText(text.real));
-    const qint64 difference = text.real - text.told;
+                        .arg(SecondsText(text.planned), SecondsText(text.actual));
+    const qint64 difference = text.actual - text.planned;
     if (const int lost = LostPages(text))
         words += TransportBar::tr(" · %n page(s) lost", nullptr, lost);
     else if (difference >= 2 * tickLength) // nobody misses a single tick
