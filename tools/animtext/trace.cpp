@@ -1,17 +1,16 @@
 #include "animtext/commands.h"
 #include "animtext/shared/playoptions.h"
 #include "player/callline.h"
-#include "player/nodewatch.h"
 #include "scene/json.h"
 
 namespace AnimText {
 
 namespace {
 
-QByteArray TickLine(Player* player, NodeWatch* watch, int node)
+QByteArray TickLine(Player* player, int node)
 {
     const int layer = player->Scenery().TextLayer(node);
-    const NodeTick now = watch->Look(node);
+    const NodeTick now = player->Look(node);
     Json line = Json::Object({{"tick", now.tick},
                               {"ms", player->Time()},
                               {"node", node},
@@ -33,17 +32,15 @@ int TraceScene(const CommandLine& line)
     const Playing playing(line);
     const std::unique_ptr<Player> player = playing.Load(scene);
 
-    player->Scenery().KeepCalls(line.IsSet("calls"));
+    if (line.IsSet("calls"))
+        player->Scenery().WatchCalls(
+            [](const Torv::CallRecord& call) { Print(CallLine(call) + '\n'); });
     player->Start(playing.Seed());
-    NodeWatch watch(player.get());
-    for (;;) {
-        for (const Torv::CallRecord& call : player->Scenery().TakeCalls())
-            Print(CallLine(call) + '\n');
+    for (;; player->Advance()) {
         for (int node = 0; node < player->NodeCount(); ++node)
-            Print(TickLine(player.get(), &watch, node));
+            Print(TickLine(player.get(), node));
         if (player->Tick() == ticks)
             return Done;
-        player->Advance();
     }
 }
 

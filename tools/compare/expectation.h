@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_EXPECTATION_H
 #define ANIMTEXT_EXPECTATION_H
 
-#include "player/nodewatch.h"
+#include "player/player.h"
 #include "scene/motion.h"
 
 #include <QMap>

@@ -3,15 +3,11 @@
 #include "scene/json.h"
 
 #include <QCryptographicHash>
+#include <QHash>
 
 namespace AnimText {
 
 namespace {
-
-Json PixelWord(const Torv::CallRecord& call)
-{
-    return "0x" + QByteArray::number(call.pixelWord, 16).rightJustified(8, '0');
-}
 
 Json Image(const Torv::CallRecord& call)
 {
@@ -47,33 +43,40 @@ Json Placement(const Torv::CallRecord& call)
                              : Json();
 }
 
-void AddArguments(const Torv::CallRecord& call, Json* line)
+/** The arguments of each call, in the order of Torv::Operation. */
+const char* const arguments[Torv::OperationCount] = {
+    "type image flags effect placement pixelWord",
+    "display session reserved",
+    "display session width height bytesPerLine pixelWord",
+    "display session layer mode",
+    "display session layer",
+    "display session layer value",
+    "display session",
+    "session",
+    "length areaHeight effectCode speedIndex"};
+
+/** All arguments that any call has. */
+QHash<QByteArray, Json> Values(const Torv::CallRecord& call)
 {
-    switch (call.operation) {
-    case Torv::OpCreatePictureSession:
-        line->Add("type", call.type).Add("image", Image(call)).Add("flags", call.flags);
-        line->Add("effect", EffectOf(call)).Add("placement", Placement(call));
-        line->Add("pixelWord", PixelWord(call));
-        return;
-    case Torv::OpGeteffectDuration:
-        line->Add("length", call.length).Add("areaHeight", call.areaHeight);
-        line->Add("effectCode", call.effectCode).Add("speedIndex", call.speedIndex);
-        return;
-    case Torv::OpFreePictureSession: line->Add("session", call.session); return;
-    default: break;
-    }
-    line->Add("display", call.display).Add("session", call.session);
-    switch (call.operation) {
-    case Torv::OpAddPictureSession: line->Add("reserved", call.reserved); break;
-    case Torv::OpPicAppendImageLayer:
-        line->Add("width", call.width).Add("height", call.height);
-        line->Add("bytesPerLine", call.bytesPerLine).Add("pixelWord", PixelWord(call));
-        break;
-    case Torv::OpGetPicImageLayerPtr: line->Add("layer", call.layer).Add("mode", call.mode); break;
-    case Torv::OpSwapPicImageLayerPtr: line->Add("layer", call.layer); break;
-    case Torv::OpSetPicLayerBlend: line->Add("layer", call.layer).Add("value", call.value); break;
-    default: break;
-    }
+    return {{"display", call.display},
+            {"session", call.session},
+            {"reserved", call.reserved},
+            {"layer", call.layer},
+            {"mode", call.mode},
+            {"value", call.value},
+            {"type", call.type},
+            {"flags", call.flags},
+            {"width", call.width},
+            {"height", call.height},
+            {"bytesPerLine", call.bytesPerLine},
+            {"pixelWord", "0x" + QByteArray::number(call.pixelWord, 16).rightJustified(8, '0')},
+            {"length", call.length},
+            {"areaHeight", call.areaHeight},
+            {"effectCode", call.effectCode},
+            {"speedIndex", call.speedIndex},
+            {"image", Image(call)},
+            {"effect", EffectOf(call)},
+            {"placement", Placement(call)}};
 }
 
 Json Result(const Torv::CallRecord& call)
@@ -90,7 +93,9 @@ Json Result(const Torv::CallRecord& call)
 QByteArray CallLine(const Torv::CallRecord& call)
 {
     Json line = Json::Object({{"call", Torv::OperationName(call.operation)}});
-    AddArguments(call, &line);
+    const QHash<QByteArray, Json> values = Values(call);
+    for (const QByteArray& name : QByteArray(arguments[call.operation]).split(' '))
+        line.Add(QString::fromLatin1(name), values.value(name));
     line.Add("result", Result(call));
     if (call.problem)
         line.Add("problem", call.problem);

@@ -1,5 +1,7 @@
 #include "player/player.h"
 
+#include "player/callline.h"
+
 #include <hneonnodebase.h>
 
 namespace AnimText {
@@ -13,6 +15,7 @@ Player::Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin)
 
 Player::~Player()
 {
+    stage.WatchCalls(nullptr);
     stage.Stop();
     Torv::SetClock(nullptr, nullptr);
 }
@@ -38,6 +41,7 @@ QVector<qint64> Player::Durations() const
 
 void Player::Start(uint seed)
 {
+    tick = 0;
     origin = dispatcher->Now();
     scheduled.reset();
     stage.Start(seed);
@@ -46,6 +50,7 @@ void Player::Start(uint seed)
 
 void Player::Start(const Schedule& schedule, uint seed)
 {
+    tick = 0;
     origin = dispatcher->Now();
     stage.Stop();
     scheduled = std::make_unique<ScheduledPlay>(&stage, schedule, seed);
@@ -55,15 +60,13 @@ void Player::Start(const Schedule& schedule, uint seed)
 
 void Player::Begin()
 {
-    tick = 0;
     // New sessions were not visible before.
-    swaps = QVector<qint64>(NodeCount(), 0);
-    swapped = QVector<bool>(NodeCount(), false);
+    parts = QVector<Part>(NodeCount());
     CountSwaps();
     // A text that the device scrolls appears with its session.
     for (int node = 0; node < NodeCount(); ++node) {
         if (stage.Motion(node).IsSideways() && stage.Session(node))
-            swapped[node] = true;
+            parts[node].swapped = true;
     }
 }
 
@@ -79,31 +82,24 @@ void Player::Advance()
     CountSwaps();
 }
 
-qint64 Player::Swaps(int node) const
-{
-    const int layer = stage.TextLayer(node);
-    return layer < 0 ? 0 : Torv::SwapCount(stage.Session(node), layer);
-}
-
 void Player::CountSwaps()
 {
     for (int node = 0; node < NodeCount(); ++node) {
-        const qint64 count = Swaps(node);
-        swapped[node] = count != swaps.at(node);
-        swaps[node] = count;
+        const qint64 count = Torv::SwapCount(stage.Session(node), stage.TextLayer(node));
+        parts[node].swapped = count != parts.at(node).swaps;
+        parts[node].swaps = count;
     }
 }
 
-QImage Player::DazzlePicture(int node) const
+NodeTick Player::Look(int node)
 {
-    const int layer = stage.DazzleLayer(node);
-    return layer < 0 ? QImage() : Torv::FrontImage(stage.Session(node), layer);
-}
-
-QImage Player::TextPicture(int node) const
-{
-    const int layer = stage.TextLayer(node);
-    return layer < 0 ? QImage() : Torv::FrontImage(stage.Session(node), layer);
+    Part& part = parts[node];
+    if (part.swapped || tick == 0) {
+        const QImage picture = TextPicture(node);
+        part.size = picture.size();
+        part.sha1 = Sha1Of(picture);
+    }
+    return {tick, part.swapped, part.size, part.sha1, State(node), Sha1Of(DazzlePicture(node))};
 }
 
 } // namespace AnimText

@@ -20,6 +20,17 @@ constexpr int tickLength = 66;
 /** The default seed of random numbers. */
 constexpr uint standardSeed = 1;
 
+/** What a node sends to the display in a tick. */
+struct NodeTick
+{
+    int tick = 0;
+    bool swapped = false;  ///< a new picture of the text was handed to the display
+    QSize size{0, 0};      ///< of the picture that the display shows
+    QByteArray sha1;       ///< of its rows; empty without a picture
+    int state = 0;         ///< 0 finished, 1 playing, 2 nothing to play
+    QByteArray background; ///< SHA-1 of the dazzle background; empty without one
+};
+
 /**
  * Tick 0 is the start, tick i the moment i × 66 ms later, after everything that is due then. The
  * display's clock counts from the start.
@@ -51,20 +62,35 @@ public:
     /** 0 finished, 1 playing, 2 nothing to play. */
     int State(int node) const { return stage.Render(node)->renderState(); }
     /** Whether this tick handed a new picture of the text to the display. */
-    bool Swapped(int node) const { return swapped.at(node); }
+    bool Swapped(int node) const { return parts.at(node).swapped; }
+    /** This tick of a node; from tick 0 on, call it in every tick. */
+    NodeTick Look(int node);
     /** A copy of the picture that the node's text layer shows; null without one. */
-    QImage TextPicture(int node) const;
+    QImage TextPicture(int node) const
+    {
+        return Torv::FrontImage(stage.Session(node), stage.TextLayer(node));
+    }
     /** A copy of the node's dazzle background; null without one. */
-    QImage DazzlePicture(int node) const;
+    QImage DazzlePicture(int node) const
+    {
+        return Torv::FrontImage(stage.Session(node), stage.DazzleLayer(node));
+    }
     /** What the display shows. */
     QImage Picture() const { return stage.Compose(Time()); }
 
 private:
     Q_DISABLE_COPY(Player)
 
+    struct Part
+    {
+        qint64 swaps = 0;
+        bool swapped = false;
+        QSize size{0, 0}; // of the picture when Look() saw it last
+        QByteArray sha1;
+    };
+
     static qint64 Clock(void* player);
     void Begin();
-    qint64 Swaps(int node) const;
     void CountSwaps();
 
     VirtualDispatcher* dispatcher;
@@ -72,8 +98,7 @@ private:
     std::unique_ptr<ScheduledPlay> scheduled;
     qint64 origin = 0;
     int tick = 0;
-    QVector<qint64> swaps;
-    QVector<bool> swapped;
+    QVector<Part> parts; // one a node
 };
 
 } // namespace AnimText

@@ -16,10 +16,10 @@ Stage::Stage(Lw::INodePlugin* plugin)
 
 Stage::~Stage()
 {
+    watch = nullptr;
     Stop();
     parts.clear();
-    watch = nullptr;
-    KeepCalls(false);
+    Torv::SetCallLog(nullptr, nullptr);
 }
 
 bool Stage::Build(const Scene& scene, QString* error)
@@ -61,24 +61,13 @@ void Stage::Start(uint seed)
 
 void Stage::StartNode(int node, uint seed)
 {
-    const QList<PicSession> before = display->Sessions();
-    const int firstCall = calls.size();
+    created = 0;
+    appended.clear();
     Torv::SetCallLog(Log, this);
     qsrand(seed);
-    isStarting = true;
     Render(node)->Start(display->Handle());
-    isStarting = false;
-    KeepCalls(keepCalls);
-
-    Part& part = parts.at(size_t(node));
-    part.session = 0;
-    for (PicSession session : display->Sessions()) {
-        if (!before.contains(session))
-            part.session = session;
-    }
-    FindLayers(node, calls.mid(firstCall));
-    if (!keepCalls)
-        calls.clear();
+    parts.at(size_t(node)).session = display->Sessions().contains(created) ? created : 0;
+    FindLayers(node);
 }
 
 /**
@@ -86,15 +75,11 @@ void Stage::StartNode(int node, uint seed)
  * and the text the one that is appended first; if that failed, the text is not visible. The
  * dazzle background has the layer that is appended last.
  */
-void Stage::FindLayers(int node, const QVector<Torv::CallRecord>& startCalls)
+void Stage::FindLayers(int node)
 {
     const auto isOn = [&](const char* key) {
         return Node(node)->GetAttributeToInt(QLatin1String(key)) == 1;
     };
-    QVector<int> appended;
-    for (const Torv::CallRecord& call : startCalls)
-        if (call.operation == Torv::OpPicAppendImageLayer)
-            appended.append(int(call.result));
     const bool neon = isOn("CheckNeonBg");
     Part& part = parts.at(size_t(node));
     part.textLayer = part.dazzleLayer = -1;
@@ -119,33 +104,13 @@ void Stage::StopNode(int node)
     part.textLayer = -1;
 }
 
-void Stage::KeepCalls(bool keep)
-{
-    keepCalls = keep;
-    if (keepCalls || watch)
-        Torv::SetCallLog(Log, this);
-    else
-        Torv::SetCallLog(nullptr, nullptr);
-}
-
-QVector<Torv::CallRecord> Stage::TakeCalls()
-{
-    QVector<Torv::CallRecord> taken;
-    taken.swap(calls);
-    return taken;
-}
-
-void Stage::WatchCalls(const std::function<void(const Torv::CallRecord&)>& wanted)
-{
-    watch = wanted;
-    KeepCalls(keepCalls);
-}
-
 void Stage::Log(void* context, const Torv::CallRecord& call)
 {
     auto* stage = static_cast<Stage*>(context);
-    if (stage->keepCalls || stage->isStarting)
-        stage->calls.append(call);
+    if (call.operation == Torv::OpCreatePictureSession)
+        stage->created = PicSession(call.result);
+    if (call.operation == Torv::OpPicAppendImageLayer)
+        stage->appended.append(int(call.result));
     if (stage->watch)
         stage->watch(call);
 }

@@ -61,12 +61,8 @@ public:
     /** What the display shows at @p milliseconds of the display's clock. */
     QImage Compose(qint64 milliseconds) const { return display->Compose(milliseconds); }
 
-    /** Whether the device's calls are kept for TakeCalls(). */
-    void KeepCalls(bool keep);
-    /** The calls since the last time. */
-    QVector<Torv::CallRecord> TakeCalls();
-    /** @p watch is called for every call when it returns; empty: none. */
-    void WatchCalls(const std::function<void(const Torv::CallRecord&)>& watch);
+    /** @p wanted is called for every call of the device when it returns; empty: none. */
+    void WatchCalls(const std::function<void(const Torv::CallRecord&)>& wanted) { watch = wanted; }
 
 private:
     Q_DISABLE_COPY(Stage)
@@ -81,15 +77,14 @@ private:
     };
 
     static void Log(void* stage, const Torv::CallRecord& call);
-    void FindLayers(int node, const QVector<Torv::CallRecord>& startCalls);
+    void FindLayers(int node);
 
     Lw::INodePlugin* plugin;
     std::unique_ptr<Torv::Display> display;
     NodeTree tree;
     std::vector<Part> parts;
-    QVector<Torv::CallRecord> calls;
-    bool keepCalls = false;
-    bool isStarting = false;
+    PicSession created = 0; // by the last start
+    QVector<int> appended;  // layers, by the last start; negative: it failed
     std::function<void(const Torv::CallRecord&)> watch;
 };
 

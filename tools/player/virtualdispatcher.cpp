@@ -2,29 +2,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QSocketNotifier>
 
 #include <algorithm>
 #include <limits>
 
-#include <poll.h>
-#include <sys/eventfd.h>
-#include <unistd.h>
-
 namespace AnimText {
-
-VirtualDispatcher::VirtualDispatcher(QObject* parent)
-    : QAbstractEventDispatcher(parent)
-    , wakeDescriptor(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
-{
-    if (wakeDescriptor < 0)
-        qFatal("animtext: the system has no descriptor left for the event loop");
-}
-
-VirtualDispatcher::~VirtualDispatcher()
-{
-    close(wakeDescriptor);
-}
 
 VirtualDispatcher* VirtualDispatcher::Current()
 {
@@ -116,7 +98,6 @@ void VirtualDispatcher::AdvanceTo(qint64 time)
     do {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        ActivateSockets(0);
     } while (FireNext(limit));
     now = std::max(now, limit);
 }
@@ -129,23 +110,18 @@ bool VirtualDispatcher::processEvents(QEventLoop::ProcessEventsFlags flags)
     QCoreApplication::sendPostedEvents();
 
     const bool timersRun = !(flags & QEventLoop::X11ExcludeTimers);
-    const bool socketsRun = !(flags & QEventLoop::ExcludeSocketNotifiers);
-    if (socketsRun && !interrupted)
-        any = ActivateSockets(0) || any;
-    if (timersRun) {
-        while (!interrupted && FireNext(now))
-            any = true;
-    }
+    while (timersRun && !interrupted && FireNext(now))
+        any = true;
     if (any || interrupted || !(flags & QEventLoop::WaitForMoreEvents))
         return any;
 
     if (timersRun && FireNext(std::numeric_limits<qint64>::max()))
         return true;
     emit aboutToBlock();
-    any = ActivateSockets(-1);
+    wakes.acquire(std::max(1, wakes.available()));
     emit awake();
     QCoreApplication::sendPostedEvents();
-    return any;
+    return true;
 }
 
 #if QT_VERSION < 0x060000
@@ -155,53 +131,10 @@ bool VirtualDispatcher::hasPendingEvents()
 }
 #endif
 
-void VirtualDispatcher::registerSocketNotifier(QSocketNotifier* notifier)
-{
-    notifiers.append(notifier);
-}
-
-void VirtualDispatcher::unregisterSocketNotifier(QSocketNotifier* notifier)
-{
-    notifiers.removeAll(notifier);
-}
-
-/** Activates the notifiers whose sockets are ready. @p timeout as for poll() */
-bool VirtualDispatcher::ActivateSockets(int timeout)
-{
-    if (notifiers.isEmpty() && timeout == 0)
-        return false;
-    std::vector<pollfd> descriptors{{wakeDescriptor, POLLIN, 0}};
-    const QList<QSocketNotifier*> asked = notifiers;
-    for (QSocketNotifier* notifier : asked) {
-        short events = POLLPRI;
-        if (notifier->type() == QSocketNotifier::Read)
-            events = POLLIN;
-        else if (notifier->type() == QSocketNotifier::Write)
-            events = POLLOUT;
-        descriptors.push_back({int(notifier->socket()), events, 0});
-    }
-    if (poll(descriptors.data(), nfds_t(descriptors.size()), timeout) <= 0)
-        return false;
-
-    eventfd_t count;
-    if (descriptors.front().revents)
-        eventfd_read(wakeDescriptor, &count);
-    bool any = false;
-    for (int i = 0; i < asked.size(); ++i) {
-        const bool ready = descriptors.at(size_t(i) + 1).revents != 0;
-        if (!ready || !notifiers.contains(asked.at(i)))
-            continue;
-        QEvent event(QEvent::SockAct);
-        QCoreApplication::sendEvent(asked.at(i), &event);
-        any = true;
-    }
-    return any;
-}
-
 void VirtualDispatcher::wakeUp()
 {
     woken = true;
-    eventfd_write(wakeDescriptor, 1);
+    wakes.release();
 }
 
 void VirtualDispatcher::interrupt()

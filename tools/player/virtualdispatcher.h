@@ -7,6 +7,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QList>
+#include <QSemaphore>
 
 #include <atomic>
 #include <vector>
@@ -24,16 +25,13 @@ namespace AnimText {
  * time always advances.
  *
  * An event loop that waits, say QEventLoop::exec(), jumps to the next deadline instead of sleeping;
- * it waits for other threads and sockets only if no timer is left.
+ * it waits for other threads only if no timer is left. Sockets are not heard.
  */
 class VirtualDispatcher : public QAbstractEventDispatcher
 {
     Q_OBJECT
 
 public:
-    explicit VirtualDispatcher(QObject* parent = nullptr);
-    ~VirtualDispatcher() override;
-
     /** The dispatcher of the current thread; null when that is none of these. */
     static VirtualDispatcher* Current();
 
@@ -54,8 +52,8 @@ public:
 #endif
 
     bool processEvents(QEventLoop::ProcessEventsFlags flags) override;
-    void registerSocketNotifier(QSocketNotifier* notifier) override;
-    void unregisterSocketNotifier(QSocketNotifier* notifier) override;
+    void registerSocketNotifier(QSocketNotifier*) override {}
+    void unregisterSocketNotifier(QSocketNotifier*) override {}
     void registerTimer(int id, Interval interval, Qt::TimerType type, QObject* object) override;
     bool unregisterTimer(int id) override;
     bool unregisterTimers(QObject* object) override;
@@ -82,13 +80,11 @@ private:
 
     Timer* NextTimer();
     bool FireNext(qint64 limit);
-    bool ActivateSockets(int timeout);
 
     qint64 now = 0;
     quint64 nextOrder = 0;
     std::vector<Timer> timers;
-    QList<QSocketNotifier*> notifiers;
-    int wakeDescriptor;
+    QSemaphore wakes;
     std::atomic<bool> interrupted{false};
     // Posting an event wakes the loop, but events posted before it existed do not.
     std::atomic<bool> woken{true};

@@ -17,12 +17,11 @@ Ticks Play(const Playing& playing, const Scene& scene, int last)
 {
     const std::unique_ptr<Player> player = playing.Load(scene);
     player->Start(playing.Seed());
-    NodeWatch watch(player.get());
     Ticks ticks;
     for (;; player->Advance()) {
         StopIfInterrupted();
         for (int node = 0; node < player->NodeCount(); ++node)
-            ticks.append(watch.Look(node));
+            ticks.append(player->Look(node));
         if (player->Tick() >= last)
             return ticks;
     }
