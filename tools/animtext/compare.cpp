@@ -37,22 +37,22 @@ Recording Open(const QString& path)
 }
 
 /** Where two recordings differ, in words. */
-QString Tell(const Parting& parting, const Recording& a, const Recording& b)
+QString Tell(const Difference& difference, const Recording& a, const Recording& b)
 {
     const auto place = [&](const Recording& recording) {
-        const auto& calls = recording.sessions.value(parting.session);
-        const int line = parting.call < calls.size() ? calls.at(parting.call).line : 0;
+        const auto& calls = recording.sessions.value(difference.session);
+        const int line = difference.call < calls.size() ? calls.at(difference.call).line : 0;
         return line > 0 ? QStringLiteral(", line %1 of %2").arg(line).arg(recording.name)
                         : QString();
     };
-    const QString where = parting.session == 0
+    const QString where = difference.session == 0
                               ? QStringLiteral("before any session")
                               : QStringLiteral("session %1, call %2, at tick %3 (%4 s)")
-                                    .arg(parting.session)
-                                    .arg(parting.call + 1)
-                                    .arg(parting.ms / tickLength)
-                                    .arg(double(parting.ms) / 1000, 0, 'f', 2);
-    return where + place(a) + place(b) + QStringLiteral(": ") + parting.words;
+                                    .arg(difference.session)
+                                    .arg(difference.call + 1)
+                                    .arg(difference.ms / tickLength)
+                                    .arg(double(difference.ms) / 1000, 0, 'f', 2);
+    return where + place(a) + place(b) + QStringLiteral(": ") + difference.words;
 }
 
 void Keep(const QImage& picture, const QString& path)
@@ -95,9 +95,9 @@ public:
     }
 
     /** Saves both pictures and their difference, if the recording has the pixels. */
-    void KeepPictures(const Parting& parting)
+    void KeepPictures(const Difference& difference)
     {
-        const int number = recorded.sessions.at(parting.session).at(parting.call).pixels;
+        const int number = recorded.sessions.at(difference.session).at(difference.call).pixels;
         if (number < 0)
             return;
         QImage device;
@@ -105,7 +105,7 @@ public:
         if (!ReadPam(QStringLiteral("%1-%2.pam").arg(recorded.name).arg(number), &device, &error))
             throw Failure{BadInput, error};
         QImage desk;
-        Play({parting.session, parting.call}, &desk);
+        Play({difference.session, difference.call}, &desk);
         const QDir folder(line.IsSet("output") ? line.Value("output")
                                                : QFileInfo(recorded.name).path());
         if (!MakeFolder(folder.path(), &error))
@@ -124,9 +124,9 @@ private:
     Recording recorded;
 };
 
-int Report(const Parting& parting, const Recording& a, const Recording& b)
+int Report(const Difference& difference, const Recording& a, const Recording& b)
 {
-    if (parting.kind == Parting::Kind::None) {
+    if (difference.words.isEmpty()) {
         Print(QStringLiteral("%1 and %2 agree: %3 calls, %4 pictures\n")
                   .arg(a.name, b.name)
                   .arg(a.hasCalls ? a.Calls() : 0)
@@ -134,8 +134,9 @@ int Report(const Parting& parting, const Recording& a, const Recording& b)
                   .toUtf8());
         return Done;
     }
-    Print(
-        QStringLiteral("%1 and %2 differ: %3\n").arg(a.name, b.name, Tell(parting, a, b)).toUtf8());
+    Print(QStringLiteral("%1 and %2 differ: %3\n")
+              .arg(a.name, b.name, Tell(difference, a, b))
+              .toUtf8());
     return FailedRun;
 }
 
@@ -158,21 +159,21 @@ int Compare(const CommandLine& line)
         WatchForInterruption();
         DeskComparison comparison(line, first, second);
         const Recording desk = comparison.Play();
-        const Parting parting = FirstParting(comparison.Recorded(), desk, tolerance);
-        const int status = Report(parting, comparison.Recorded(), desk);
-        if (parting.kind == Parting::Kind::Picture)
-            comparison.KeepPictures(parting);
+        const Difference difference = FirstDifference(comparison.Recorded(), desk, tolerance);
+        const int status = Report(difference, comparison.Recorded(), desk);
+        if (difference.isPicture)
+            comparison.KeepPictures(difference);
         return status;
     }
     Recording a = Open(first);
     Recording b = Open(second);
-    DropStop(&a);
-    DropStop(&b);
+    DropStops(&a, Stops::AtEnd);
+    DropStops(&b, Stops::AtEnd);
     if (a.hasCalls != b.hasCalls)
         throw Failure{BadInput,
                       QStringLiteral(
                           "only one recording has calls; record both with animtext trace --calls")};
-    return Report(FirstParting(a, b, tolerance), a, b);
+    return Report(FirstDifference(a, b, tolerance), a, b);
 }
 
 } // namespace

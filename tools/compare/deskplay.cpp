@@ -13,16 +13,6 @@ namespace {
 // A play that has ended makes no more calls.
 constexpr int longestSilence = 100000; // ticks
 
-void DropEnd(Recording* recorded)
-{
-    for (QVector<RecordedCall>& session : recorded->sessions) {
-        while (!session.isEmpty() &&
-               (session.last().name == QLatin1String("RemovePictureSession") ||
-                session.last().name == QLatin1String("FreePictureSession")))
-            session.removeLast();
-    }
-}
-
 bool IsAsLong(const Recording& desk, const Recording& recorded)
 {
     for (int i = 1; i < recorded.sessions.size(); ++i) {
@@ -46,12 +36,11 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
                 Recording* recorded, Recording* desk, PicturePlace wanted, QImage* picture,
                 QString* error)
 {
-    DropEnd(recorded);
+    DropStops(recorded, Stops::Anywhere);
     if (!player->Load(scene, error))
         return false;
-    RecordingReader reader;
-    int lastCall = 0;
-    int tick = 0;
+    desk->name = QStringLiteral("the desktop");
+    int lastCall = 0; // its tick
     player->Scenery().WatchCalls([&](const Torv::CallRecord& call) {
         QImage shown;
         if (call.operation == Torv::OpCreatePictureSession && call.result)
@@ -59,21 +48,20 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
         if (call.operation == Torv::OpSwapPicImageLayerPtr)
             shown = Torv::FrontImage(call.session, call.layer);
         const QJsonObject line = QJsonDocument::fromJson(CallLine(call)).object();
-        reader.TakeCall(line, 0, qint64(tick) * tickLength, QString::fromLatin1(Sha1Of(shown)));
-        lastCall = tick;
+        desk->TakeCall(line, 0, player->Time(), QString::fromLatin1(Sha1Of(shown)));
+        lastCall = player->Tick();
         if (wanted.session >= 0 && picture->isNull() &&
-            reader.Read().sessions.value(wanted.session).size() == wanted.call + 1)
+            desk->sessions.value(wanted.session).size() == wanted.call + 1)
             *picture = shown;
     });
     const auto takeBackgrounds = [&] {
         for (int node = 0; node < player->NodeCount(); ++node)
-            reader.TakeBackground(node + 1, qint64(tick) * tickLength,
-                                  QString::fromLatin1(Sha1Of(player->DazzlePicture(node))));
+            desk->TakeBackground(node + 1, player->Time(),
+                                 QString::fromLatin1(Sha1Of(player->DazzlePicture(node))));
     };
     player->Start(seed);
     takeBackgrounds();
-    while (!IsAsLong(reader.Read(), *recorded) && tick - lastCall < longestSilence) {
-        tick = player->Tick() + 1;
+    while (!IsAsLong(*desk, *recorded) && player->Tick() - lastCall < longestSilence) {
         player->Advance();
         takeBackgrounds();
         if (!goOn()) {
@@ -82,8 +70,6 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
         }
     }
     player->Scenery().WatchCalls(nullptr);
-    *desk = reader.Read();
-    desk->name = QStringLiteral("the desktop");
     CutTo(*recorded, desk);
     return true;
 }

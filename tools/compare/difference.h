@@ -9,22 +9,20 @@
 
 namespace AnimText {
 
-struct Parting
+struct Difference
 {
-    enum class Kind { None, Call, Order, Argument, Picture, Background, Time, End };
-
-    Kind kind = Kind::None;
-    int session = 0; ///< 0: a call that concerns no session
-    int call = 0;    ///< its index in the session
-    qint64 ms = 0;   ///< its time in the recording that continues
-    QString words;   ///< what differs, on one line
+    QString words;          ///< what differs, on one line; empty when nothing does
+    bool isPicture = false; ///< of two equal calls
+    int session = 0;        ///< 0: a call that concerns no session
+    int call = 0;           ///< its index in the session
+    qint64 ms = 0;          ///< its time in the recording that continues
 };
 
 /**
  * The earliest difference. Times count from each session's first call.
  * @param tolerance milliseconds by which times may differ; negative: times do not matter
  */
-Parting FirstParting(const Recording& a, const Recording& b, qint64 tolerance);
+Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolerance);
 
 } // namespace AnimText
 

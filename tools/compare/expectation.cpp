@@ -9,11 +9,6 @@ namespace {
 
 constexpr int digits = 16; // of a SHA-1
 
-bool SamePicture(const NodeTick& a, const NodeTick& b)
-{
-    return a.sha1.left(digits) == b.sha1.left(digits);
-}
-
 /** Everything except the pictures. */
 bool SamePlay(const Ticks& a, const Ticks& b)
 {
@@ -74,10 +69,20 @@ QByteArray ExpectationText(const Expectation& expectation)
     return text;
 }
 
+void Tally::Aspect::Add(const QString& scene, bool isKnown, bool isEqual)
+{
+    scenes += isKnown;
+    if (!isEqual)
+        differ.append(scene);
+}
+
 void Tally::Add(const QString& scene, const NodeMotion& motion, const Ticks& expected,
                 const Ticks& shown)
 {
-    Row added;
+    Row& row = rows[{motion.mode, motion.number}];
+    row.motion = QLatin1String(motion.Row() ? motion.Row()->name : "no motion");
+    ++row.scenes;
+    int compared = 0, equal = 0;
     bool knowsBackground = false, sameBackground = true;
     for (int i = 0; i < expected.size(); ++i) {
         const NodeTick& was = expected[i];
@@ -88,34 +93,22 @@ void Tally::Add(const QString& scene, const NodeMotion& motion, const Ticks& exp
         }
         if (!was.swapped || was.sha1.isEmpty())
             continue;
-        ++added.pictures;
-        if (SamePicture(was, now))
-            ++added.equal;
-        else if (added.firstDifference.isEmpty())
-            added.firstDifference = QStringLiteral("%1, tick %2").arg(scene).arg(was.tick);
+        ++compared;
+        if (now.sha1.left(digits) == was.sha1)
+            ++equal;
+        else if (row.firstDifference.isEmpty())
+            row.firstDifference = QStringLiteral("%1, tick %2").arg(scene).arg(was.tick);
     }
-    Row& ofMotion = rows[{motion.mode, motion.number}];
-    ofMotion.motion = QLatin1String(motion.Row() ? motion.Row()->name : "no motion");
-    for (Row* row : {&ofMotion, &all}) {
-        ++row->scenes;
-        row->pictures += added.pictures;
-        row->equal += added.equal;
-        if (row->firstDifference.isEmpty())
-            row->firstDifference = added.firstDifference;
-    }
-    withPictures += added.pictures > 0;
-    withBackground += knowsBackground;
-    if (!SamePlay(expected, shown))
-        ticksDiffer.append(scene);
-    if (added.equal < added.pictures)
-        picturesDiffer.append(scene);
-    if (!sameBackground)
-        backgroundsDiffer.append(scene);
+    row.pictures += compared;
+    row.equal += equal;
+    ticks.Add(scene, true, SamePlay(expected, shown));
+    pictures.Add(scene, compared > 0, equal == compared);
+    backgrounds.Add(scene, knowsBackground, sameBackground);
 }
 
 bool Tally::IsEqual() const
 {
-    return ticksDiffer.isEmpty() && picturesDiffer.isEmpty() && backgroundsDiffer.isEmpty();
+    return ticks.differ.isEmpty() && pictures.differ.isEmpty() && backgrounds.differ.isEmpty();
 }
 
 QByteArray Tally::Table() const
@@ -137,33 +130,30 @@ QByteArray Tally::Table() const
     };
     add(QString(), QStringLiteral("motion"), QStringLiteral("scenes"), QStringLiteral("pictures"),
         QStringLiteral("equal"), QStringLiteral("first difference"));
-    for (auto row = rows.begin(); row != rows.end(); ++row)
+    Row all;
+    all.motion = QStringLiteral("all");
+    for (auto row = rows.begin(); row != rows.end(); ++row) {
         addRow(QString::number(row.key().second), *row);
-    Row sum = all;
-    sum.motion = QStringLiteral("all");
-    sum.firstDifference.clear();
-    addRow(QString(), sum);
+        all.scenes += row->scenes;
+        all.pictures += row->pictures;
+        all.equal += row->equal;
+    }
+    addRow(QString(), all);
 
-    const auto equal = [&table](const char* what, int scenes, const QStringList& differ) {
-        table += QStringLiteral("%1: equal in %2 of %3 scenes\n")
-                     .arg(QLatin1String(what))
-                     .arg(scenes - differ.size())
-                     .arg(scenes);
-    };
     table += QLatin1Char('\n');
-    equal("Ticks, sizes and states", all.scenes, ticksDiffer);
-    equal("Pictures", withPictures, picturesDiffer);
-    if (withBackground > 0)
-        equal("Backgrounds", withBackground, backgroundsDiffer);
-    const auto differ = [&table](const char* what, const QStringList& scenes) {
-        if (!scenes.isEmpty())
-            table += QStringLiteral("%1 differ: %2\n")
-                         .arg(QLatin1String(what), scenes.join(QStringLiteral(", ")));
-    };
-    differ("Ticks, sizes or states", ticksDiffer);
-    differ("Pictures", picturesDiffer);
-    differ("Backgrounds", backgroundsDiffer);
-    return table.toUtf8();
+    QString differences;
+    for (const Aspect* aspect : {&ticks, &pictures, &backgrounds}) {
+        if (aspect->scenes > 0 || aspect != &backgrounds)
+            table += QStringLiteral("%1: equal in %2 of %3 scenes\n")
+                         .arg(QLatin1String(aspect->ofAll))
+                         .arg(aspect->scenes - aspect->differ.size())
+                         .arg(aspect->scenes);
+        if (!aspect->differ.isEmpty())
+            differences +=
+                QStringLiteral("%1 differ: %2\n")
+                    .arg(QLatin1String(aspect->ofScene), aspect->differ.join(QStringLiteral(", ")));
+    }
+    return (table + differences).toUtf8();
 }
 
 } // namespace AnimText

@@ -43,11 +43,21 @@ private:
         int scenes = 0, pictures = 0, equal = 0;
         QString firstDifference;
     };
+    /** Something of a scene that is equal or not. */
+    struct Aspect
+    {
+        const char* ofAll;
+        const char* ofScene;
+        int scenes = 0;       ///< of which it is known
+        QStringList differ{}; ///< those where it is not as expected
+
+        void Add(const QString& scene, bool isKnown, bool isEqual);
+    };
 
     QMap<QPair<Mode, int>, Row> rows; ///< by the motion and its number
-    Row all;
-    int withPictures = 0, withBackground = 0;
-    QStringList ticksDiffer, picturesDiffer, backgroundsDiffer; ///< scenes
+    Aspect ticks{"Ticks, sizes and states", "Ticks, sizes or states"};
+    Aspect pictures{"Pictures", "Pictures"};
+    Aspect backgrounds{"Backgrounds", "Backgrounds"};
 };
 
 } // namespace AnimText

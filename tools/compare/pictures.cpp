@@ -1,41 +1,30 @@
 #include "compare/pictures.h"
 
 #include <QFile>
-#include <QMap>
 
-#include <algorithm>
+#include <cstdio>
 
 namespace AnimText {
 
 bool ReadPam(const QString& path, QImage* picture, QString* error)
 {
-    constexpr int largestSide = 65535;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
         return false;
     }
-    QMap<QByteArray, int> header;
-    bool isHeader = file.readLine(8).trimmed() == "P7";
-    while (isHeader && !file.atEnd()) {
-        const QByteArray line = file.readLine(80).trimmed();
-        if (line == "ENDHDR")
-            break;
-        header[line.left(line.indexOf(' '))] = line.mid(line.indexOf(' ') + 1).toInt();
-    }
-    const int width = header.value("WIDTH");
-    const int height = header.value("HEIGHT");
-    const int depth = header.value("DEPTH");
-    const qint64 size = qint64(width) * height * depth;
-    QByteArray bytes;
-    if (width > 0 && height > 0 && width <= largestSide && height <= largestSide &&
-        (depth == 3 || depth == 4) && size == file.bytesAvailable())
-        bytes = file.readAll();
-    if (bytes.isEmpty()) {
+    const QByteArray bytes = file.readAll();
+    int width = 0, height = 0, depth = 0, pixels = 0;
+    std::sscanf(bytes.constData(),
+                "P7 WIDTH %5d HEIGHT %5d DEPTH %1d MAXVAL 255 TUPLTYPE %*s ENDHDR%n", &width,
+                &height, &depth, &pixels);
+    ++pixels; // behind the end of the line
+    if (width <= 0 || height <= 0 || (depth != 3 && depth != 4) ||
+        qint64(width) * height * depth != bytes.size() - pixels) {
         *error = QStringLiteral("%1: expected a PAM picture of 24 or 32 bits").arg(path);
         return false;
     }
-    *picture = QImage(reinterpret_cast<const uchar*>(bytes.constData()), width, height,
+    *picture = QImage(reinterpret_cast<const uchar*>(bytes.constData()) + pixels, width, height,
                       width * depth, depth == 4 ? QImage::Format_RGBA8888 : QImage::Format_RGB888)
                    .convertToFormat(QImage::Format_ARGB32);
     return true;

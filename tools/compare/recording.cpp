@@ -7,19 +7,6 @@
 
 namespace AnimText {
 
-namespace {
-
-/** The arguments and the result of a call. */
-QJsonObject Told(QJsonObject line)
-{
-    for (const char* key :
-         {"call", "session", "display", "ms", "w", "h", "sha1", "pixels", "problem"})
-        line.remove(QLatin1String(key));
-    return line;
-}
-
-} // namespace
-
 int Recording::Calls() const
 {
     int calls = 0;
@@ -38,14 +25,14 @@ int Recording::Pictures() const
     return pictures;
 }
 
-QVector<RecordedCall>& RecordingReader::Session(int index)
+QVector<RecordedCall>& Recording::Session(int index)
 {
-    if (recording.sessions.size() <= index)
-        recording.sessions.resize(index + 1);
-    return recording.sessions[index];
+    if (sessions.size() <= index)
+        sessions.resize(index + 1);
+    return sessions[index];
 }
 
-bool RecordingReader::Take(const QByteArray& text, int number)
+bool Recording::Take(const QByteArray& text, int number)
 {
     const QJsonObject line = QJsonDocument::fromJson(text).object();
     if (line.contains(QStringLiteral("call")))
@@ -58,21 +45,24 @@ bool RecordingReader::Take(const QByteArray& text, int number)
     return true;
 }
 
-void RecordingReader::TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1)
+void Recording::TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1)
 {
-    recording.hasCalls = true;
+    hasCalls = true;
     RecordedCall call;
     call.line = number;
     call.ms = ms;
     call.name = line.value(QStringLiteral("call")).toString();
-    call.told = Told(line);
+    call.details = line;
+    for (const char* key :
+         {"call", "session", "display", "ms", "w", "h", "sha1", "pixels", "problem"})
+        call.details.remove(QLatin1String(key));
     call.sha1 = sha1;
     call.pixels = line.value(QStringLiteral("pixels")).toInt(-1);
     const QJsonValue result = line.value(QStringLiteral("result"));
     int index = 0;
     if (call.name == QLatin1String("CreatePictureSession")) {
-        call.told[QStringLiteral("result")] = result.toDouble() != 0;
-        index = recording.sessions.size();
+        call.details[QStringLiteral("result")] = result.toDouble() != 0;
+        index = sessions.size();
         indices[result.toDouble()] = index;
     } else if (line.contains(QStringLiteral("session"))) {
         index = indices.value(line.value(QStringLiteral("session")).toDouble());
@@ -81,59 +71,58 @@ void RecordingReader::TakeCall(const QJsonObject& line, int number, qint64 ms, c
 }
 
 /** A trace's line of a tick belongs to the calls before it. */
-void RecordingReader::TakeTick(const QJsonObject& line, int number)
+void Recording::TakeTick(const QJsonObject& line, int number)
 {
     const qint64 ms = line.value(QStringLiteral("ms")).toInt();
     const QString sha1 = line.value(QStringLiteral("sha1")).toString();
     const bool isNew = line.value(QStringLiteral("swap")).toBool();
     const int index = line.value(QStringLiteral("node")).toInt() + 1;
     const QString background = line.value(QStringLiteral("background")).toString();
-    if (!recording.hasCalls) {
+    QVector<RecordedCall>& own = Session(index);
+    if (!hasCalls) {
         RecordedCall picture;
         picture.line = number;
         picture.ms = ms;
         picture.name = QStringLiteral("picture");
         picture.background = background;
-        const bool isFirst = Session(index).isEmpty();
-        if (isNew || isFirst)
+        if (isNew || own.isEmpty())
             picture.sha1 = sha1;
-        if (isNew || isFirst || Session(index).last().background != background)
-            Session(index).append(picture);
+        if (isNew || own.isEmpty() || own.last().background != background)
+            own.append(picture);
         return;
     }
-    for (QVector<RecordedCall>& session : recording.sessions) {
+    for (QVector<RecordedCall>& session : sessions) {
         for (int i = session.size() - 1; i >= 0 && session.at(i).ms < 0; --i)
             session[i].ms = ms;
     }
-    QVector<RecordedCall>& session = Session(index);
-    for (int i = session.size() - 1; i >= 0 && isNew && session.at(i).ms == ms; --i) {
-        if (session.at(i).name == QLatin1String("SwapPicImageLayerPtr") &&
-            session.at(i).told.value(QStringLiteral("layer")) ==
+    for (int i = own.size() - 1; i >= 0 && isNew && own.at(i).ms == ms; --i) {
+        if (own.at(i).name == QLatin1String("SwapPicImageLayerPtr") &&
+            own.at(i).details.value(QStringLiteral("layer")) ==
                 line.value(QStringLiteral("layer"))) {
-            session[i].sha1 = sha1;
+            own[i].sha1 = sha1;
             break;
         }
     }
     TakeBackground(index, ms, background);
 }
 
-void RecordingReader::TakeBackground(int index, qint64 ms, const QString& sha1)
+void Recording::TakeBackground(int index, qint64 ms, const QString& sha1)
 {
     QVector<RecordedCall>& session = Session(index);
     if (!session.isEmpty() && session.last().ms == ms)
         session.last().background = sha1;
 }
 
-void DropStop(Recording* recording)
+void DropStops(Recording* recording, Stops which)
 {
     const auto ends = [](const RecordedCall& call) {
         return call.name == QLatin1String("RemovePictureSession") ||
                call.name == QLatin1String("FreePictureSession");
     };
-    int last = 0; // line of a call that is not part of the stop
+    int last = -1; // line of a call that is not part of the stop
     for (const QVector<RecordedCall>& session : recording->sessions) {
         for (const RecordedCall& call : session)
-            last = ends(call) ? last : std::max(last, call.line);
+            last = ends(call) || which == Stops::Anywhere ? last : std::max(last, call.line);
     }
     for (int i = 1; i < recording->sessions.size(); ++i) {
         QVector<RecordedCall>& session = recording->sessions[i];
@@ -151,13 +140,11 @@ bool ReadRecording(const QString& path, Recording* recording, QString* error)
         *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
         return false;
     }
-    RecordingReader reader;
-    int number = 0;
-    while (!file.atEnd()) {
+    recording->name = path;
+    for (int number = 1; !file.atEnd(); ++number) {
         const QByteArray line = file.readLine();
-        ++number;
         // A device that was switched off may have left half a line.
-        if (!reader.Take(line, number) && line.endsWith('\n')) {
+        if (!recording->Take(line, number) && line.endsWith('\n')) {
             *error = QStringLiteral("%1: line %2: expected a call or a tick, as librecord and "
                                     "animtext trace write them")
                          .arg(path)
@@ -165,8 +152,6 @@ bool ReadRecording(const QString& path, Recording* recording, QString* error)
             return false;
         }
     }
-    *recording = reader.Read();
-    recording->name = path;
     if (recording->Calls() > 0)
         return true;
     *error = QStringLiteral("%1: the recording is empty").arg(path);

@@ -17,13 +17,13 @@ namespace AnimText {
 /** One call, or, in a trace without calls, one picture. */
 struct RecordedCall
 {
-    int line = 0;       ///< of the file; 0 when it was recorded just now
-    qint64 ms = -1;     ///< when; -1 unknown
-    QString name;       ///< of the function; "picture" for a picture alone
-    QJsonObject told;   ///< arguments and result, without handles, which differ in every run
-    QString sha1;       ///< of the picture that was handed over; empty unknown
-    QString background; ///< of the dazzle background after this tick, in its last call
-    int pixels = -1;    ///< the number of the file that has its pixels; -1 none
+    int line = 0;        ///< of the file; 0 when it was recorded just now
+    qint64 ms = -1;      ///< when; -1 unknown
+    QString name;        ///< of the function; "picture" for a picture alone
+    QJsonObject details; ///< arguments and result, without handles, which differ in every run
+    QString sha1;        ///< of the picture that was handed over; empty unknown
+    QString background;  ///< of the dazzle background after this tick, in its last call
+    int pixels = -1;     ///< the number of the file that has its pixels; -1 none
 };
 
 /** The calls by session, in the order of their creation; first those that concern no session. */
@@ -32,39 +32,33 @@ struct Recording
     QString name; ///< for people
     QVector<QVector<RecordedCall>> sessions{1};
     bool hasCalls = false; ///< rather than pictures alone
-    QSet<int> stopped;     ///< sessions that the host ended; see DropStop()
+    QSet<int> stopped;     ///< sessions that the host ended; see DropStops()
 
     int Calls() const;
     int Pictures() const;
-};
 
-/** Puts the lines of a recording together. */
-class RecordingReader
-{
-public:
-    /** Takes a line of JSON. @return false if it is not from a recording */
+    /** Adds a line of JSON. @return false if it is not from a recording */
     bool Take(const QByteArray& line, int number);
     /** The same for a call, with what its line does not have. */
     void TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1);
-
-    /** The background's SHA-1 at the end of the tick at @p ms; empty without one. */
+    /** Adds the background's SHA-1 at the end of the tick at @p ms; empty without one. */
     void TakeBackground(int session, qint64 ms, const QString& sha1);
-
-    const Recording& Read() const { return recording; }
 
 private:
     void TakeTick(const QJsonObject& line, int number);
     QVector<RecordedCall>& Session(int index);
 
-    Recording recording;
-    QHash<double, int> indices; // of live sessions by their handles
+    QHash<double, int> indices; ///< of live sessions by their handles
 };
 
+/** Which sessions a host has stopped: those that nothing follows, or all that end. */
+enum class Stops { AtEnd, Anywhere };
+
 /**
- * Removes the calls at the end of @p recording with which a host that stops ends its sessions, and
- * remembers these sessions. Hosts stop at any time, and a trace has no such calls.
+ * Removes the calls with which a host stops sessions from their ends, and remembers these sessions.
+ * Hosts stop at any time, and a trace has no such calls.
  */
-void DropStop(Recording* recording);
+void DropStops(Recording* recording, Stops which);
 
 /** Reads the file @p path. On failure returns false and sets @p error to one line. */
 bool ReadRecording(const QString& path, Recording* recording, QString* error);
