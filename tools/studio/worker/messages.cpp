@@ -1,51 +1,73 @@
 #include "studio/worker/messages.h"
 
 namespace AnimText {
+namespace {
 
-QDataStream& operator<<(QDataStream& stream, const LoadOrder& order)
+constexpr int lengthSize = 4;
+
+QByteArray WithLength(const QByteArray& body)
 {
-    return stream << order.generation << order.scene << order.path << order.schedule << order.calls
-                  << order.faults;
+    QByteArray message;
+    QDataStream stream(&message, QIODevice::WriteOnly);
+    stream << body;
+    return message;
 }
 
-QDataStream& operator>>(QDataStream& stream, LoadOrder& order)
+/** The content of the first message as long as @p bytes stay; null if it is not complete. */
+QByteArray FirstBody(const QByteArray& bytes)
 {
-    return stream >> order.generation >> order.scene >> order.path >> order.schedule >>
-           order.calls >> order.faults;
-}
-
-QDataStream& operator<<(QDataStream& stream, const TickPicture& picture)
-{
-    stream << picture.generation << picture.tick << picture.calls << picture.picture.size();
-    if (!picture.picture.isNull())
-        stream.writeRawData(reinterpret_cast<const char*>(picture.picture.constBits()),
-                            int(picture.picture.sizeInBytes()));
-    return stream;
-}
-
-QDataStream& operator>>(QDataStream& stream, TickPicture& picture)
-{
-    QSize size;
-    stream >> picture.generation >> picture.tick >> picture.calls >> size;
-    picture.picture = size.isEmpty() ? QImage() : QImage(size, QImage::Format_ARGB32);
-    if (!picture.picture.isNull())
-        stream.readRawData(reinterpret_cast<char*>(picture.picture.bits()),
-                           int(picture.picture.sizeInBytes()));
-    return stream;
-}
-
-bool TakeMessage(QByteArray* bytes, Message* kind, QByteArray* body)
-{
-    constexpr int lengthSize = 4;
-    if (bytes->size() < lengthSize + 1)
-        return false;
     quint32 length = 0;
-    QDataStream(*bytes) >> length;
-    if (bytes->size() < lengthSize + qint64(length))
+    QDataStream stream(bytes);
+    stream >> length;
+    if (stream.status() != QDataStream::Ok || bytes.size() - lengthSize < qint64(length))
+        return {};
+    return QByteArray::fromRawData(bytes.constData() + lengthSize, int(length));
+}
+
+} // namespace
+
+QByteArray Packed(const Order& order)
+{
+    QByteArray body;
+    QDataStream stream(&body, QIODevice::WriteOnly);
+    stream << order;
+    return WithLength(body);
+}
+
+/** Pictures are sent as they are: to compress them would take longer. */
+QByteArray Packed(const Answer& answer)
+{
+    QByteArray body;
+    QDataStream stream(&body, QIODevice::WriteOnly);
+    stream << answer << answer.picture.size();
+    body.append(reinterpret_cast<const char*>(answer.picture.constBits()),
+                int(answer.picture.sizeInBytes()));
+    return WithLength(body);
+}
+
+bool Take(QByteArray* bytes, Order* order)
+{
+    const QByteArray body = FirstBody(*bytes);
+    if (body.isNull())
         return false;
-    *kind = Message(quint8(bytes->at(lengthSize)));
-    *body = bytes->mid(lengthSize + 1, int(length) - 1);
-    bytes->remove(0, lengthSize + int(length));
+    QDataStream stream(body);
+    stream >> *order;
+    bytes->remove(0, lengthSize + body.size());
+    return true;
+}
+
+bool Take(QByteArray* bytes, Answer* answer)
+{
+    const QByteArray body = FirstBody(*bytes);
+    if (body.isNull())
+        return false;
+    QSize size;
+    QDataStream stream(body);
+    stream >> *answer >> size;
+    answer->picture = size.isEmpty() ? QImage() : QImage(size, QImage::Format_ARGB32);
+    stream.readRawData(reinterpret_cast<char*>(answer->picture.bits()),
+                       int(answer->picture.sizeInBytes()));
+    bytes->remove(0, lengthSize + body.size());
     return true;
 }
 

@@ -10,77 +10,93 @@
 #include <QByteArray>
 #include <QDataStream>
 #include <QImage>
-#include <QMetaType>
 #include <QPair>
 #include <QString>
 #include <QVector>
 
+#include <tuple>
+
 namespace AnimText {
 
-enum class Message : quint8 {
-    // to the worker
-    Load,    ///< LoadOrder
-    Play,    ///< first and last requested tick, as qint32
-    Measure, ///< LoadOrder; answered by Measured
-    // from the worker
-    Ready,    ///< QString: why the plugin cannot be loaded; empty on success
-    Loaded,   ///< quint32 generation, QString: why the scene cannot be played
-    Picture,  ///< TickPicture
-    Measured, ///< quint32 generation, Timing
-    Idle,     ///< quint32 generation: all requested pictures have been sent
-};
-
-/** A scene to play. */
-struct LoadOrder
+/** To a worker: play a scene. It loads the scene if the generation is a new one. */
+struct Order
 {
-    quint32 generation = 0; ///< repeated in the answers
+    quint32 generation = 0; ///< from 1; repeated in the answers
     QByteArray scene;       ///< the text of a scene file
     QString path;           ///< the file that the scene's file names are relative to
     bool schedule = false;  ///< page by page for the planned times, as the host plays
     bool calls = false;     ///< whether to record the device calls
     QVector<QPair<qint32, qint32>> faults; ///< operation and number of the call that fails
+    bool measures = false;                 ///< wants the times instead of pictures
+    qint32 first = 0;                      ///< the ticks whose pictures are wanted
+    qint32 last = -1;
 };
 
-/** The display after a tick. */
-struct TickPicture
+/** From a worker. */
+struct Answer
 {
+    enum Kind {
+        Ready,    ///< before any order; error: why the plugin cannot be loaded
+        Loaded,   ///< error: why the scene cannot be played
+        Picture,  ///< the display after a tick
+        Measured, ///< the times, unless the scene cannot be played
+        Idle,     ///< all ordered pictures have been sent
+    };
+
+    qint32 kind = Ready;
     quint32 generation = 0;
+    QString error;
     qint32 tick = 0;
     QImage picture;   ///< null if it equals that of the previous tick
-    QByteArray calls; ///< device calls, one line of JSON each
+    QByteArray calls; ///< device calls of the tick, one line of JSON each
+    Timing timing;
 };
 
-QDataStream& operator<<(QDataStream& stream, const LoadOrder& order);
-QDataStream& operator>>(QDataStream& stream, LoadOrder& order);
-QDataStream& operator<<(QDataStream& stream, const TickPicture& picture);
-QDataStream& operator>>(QDataStream& stream, TickPicture& picture);
+/** What is sent of each structure. */
+inline auto Fields(Order& order)
+{
+    return std::tie(order.generation, order.scene, order.path, order.schedule, order.calls,
+                    order.faults, order.measures, order.first, order.last);
+}
+inline auto Fields(Answer& answer)
+{
+    return std::tie(answer.kind, answer.generation, answer.error, answer.tick, answer.calls,
+                    answer.timing);
+}
+inline auto Fields(Timing& timing)
+{
+    return std::tie(timing.length, timing.isCut, timing.texts);
+}
+inline auto Fields(TextTime& text)
+{
+    return std::tie(text.ending, text.planned, text.actual, text.from, text.until, text.pages);
+}
+inline auto Fields(PageTime& page)
+{
+    return std::tie(page.begin, page.hold, page.end);
+}
+
+template <typename T, typename = decltype(Fields(std::declval<T&>()))>
+QDataStream& operator<<(QDataStream& stream, T value)
+{
+    std::apply([&](auto&... field) { (void)(stream << ... << field); }, Fields(value));
+    return stream;
+}
+template <typename T, typename = decltype(Fields(std::declval<T&>()))>
+QDataStream& operator>>(QDataStream& stream, T& value)
+{
+    std::apply([&](auto&... field) { (void)(stream >> ... >> field); }, Fields(value));
+    return stream;
+}
 
 /** A message with its length in front, ready for a pipe. */
-template <typename... Parts>
-QByteArray Packed(Message kind, const Parts&... parts)
-{
-    QByteArray body;
-    QDataStream stream(&body, QIODevice::WriteOnly);
-    stream << quint8(kind);
-    (void)(stream << ... << parts);
-    QByteArray length;
-    QDataStream(&length, QIODevice::WriteOnly) << quint32(body.size());
-    return length + body;
-}
+QByteArray Packed(const Order& order);
+QByteArray Packed(const Answer& answer);
 
-/** Removes the first complete message from @p bytes and returns its kind and content. */
-bool TakeMessage(QByteArray* bytes, Message* kind, QByteArray* body);
-
-template <typename... Parts>
-void Unpack(const QByteArray& body, Parts*... parts)
-{
-    QDataStream stream(body);
-    (void)(stream >> ... >> *parts);
-}
+/** Removes the first message from @p bytes; returns false if it is not complete. */
+bool Take(QByteArray* bytes, Order* order);
+bool Take(QByteArray* bytes, Answer* answer);
 
 } // namespace AnimText
-
-Q_DECLARE_METATYPE(AnimText::TickPicture)
-Q_DECLARE_METATYPE(AnimText::LoadOrder)
 
 #endif

@@ -1,7 +1,5 @@
 #include "studio/worker/rehearsal.h"
 
-#include "studio/worker/scenefolder.h"
-
 #include <algorithm>
 
 namespace AnimText {
@@ -9,60 +7,32 @@ namespace {
 
 constexpr int ticksUnmeasured = 150; // painted ahead while the length is unknown
 
-void RegisterTypes()
-{
-    qRegisterMetaType<TickPicture>();
-    qRegisterMetaType<Timing>();
-    qRegisterMetaType<LoadOrder>();
-    qRegisterMetaType<quint32>("quint32");
-}
-
 } // namespace
 
 Rehearsal::Rehearsal(const QString& plugin, qint64 cacheBytes, QObject* parent)
     : QObject(parent)
-    , player(new WorkerLink(plugin))
-    , measurer(new WorkerLink(plugin))
-    , folder(std::make_shared<SceneFolder>())
+    , player(plugin)
+    , measurer(plugin)
     , cache(cacheBytes)
 {
-    RegisterTypes();
-    for (WorkerLink* link : {player, measurer}) {
-        link->moveToThread(&thread);
-        connect(&thread, &QThread::finished, link, &QObject::deleteLater);
-    }
-    connect(&thread, &QThread::started, player, &WorkerLink::Start);
-    connect(player, &WorkerLink::Loaded, this, &Rehearsal::TakeLoaded);
-    connect(player, &WorkerLink::Picture, this, &Rehearsal::TakePicture);
-    connect(player, &WorkerLink::Died, this, &Rehearsal::TakeDeath);
-    connect(player, &WorkerLink::Idle, this, [this](quint32 of) {
-        if (of != prepared)
-            return;
+    connect(&player, &WorkerLink::Answered, this, &Rehearsal::TakeAnswer);
+    connect(&player, &WorkerLink::Died, this, [this](const QString& why) {
         orderedTo = -1;
-        AskAhead();
+        emit Trouble(why);
     });
-    connect(player, &WorkerLink::Ready, this, [this](const QString& error) {
-        if (!error.isEmpty())
-            emit Trouble(error);
-    });
-    connect(measurer, &WorkerLink::Measured, this, [this](quint32 of, const Timing& times) {
-        if (of != generation)
-            return;
-        timing = times;
-        measured = of;
-        emit TimingChanged();
-        AskAhead();
+    connect(&measurer, &WorkerLink::Answered, this, [this](const Answer& answer) {
+        const bool isMeasured = answer.kind == Answer::Measured && answer.error.isEmpty();
+        if (isMeasured && answer.generation == generation)
+            TakeTiming(answer.timing);
     });
     pool.setMaxThreadCount(2);
     pool.setExpiryTimeout(-1);
-    thread.start();
+    player.Start();
 }
 
 Rehearsal::~Rehearsal()
 {
     pool.waitForDone();
-    thread.quit();
-    thread.wait();
 }
 
 void Rehearsal::SetSign(const Sign& next, const Part& nextPart)
@@ -70,65 +40,63 @@ void Rehearsal::SetSign(const Sign& next, const Part& nextPart)
     sign = next;
     part = nextPart;
     current = false;
-    again = busy;
     ++generation;
-    deaths = 0;
     emit Stale();
-    if (busy)
-        return;
+    if (!busy)
+        Prepare();
+}
+
+void Rehearsal::Prepare()
+{
     busy = true;
-    pool.start([this, next, nextPart, of = generation] {
+    pool.start([this, next = sign, nextPart = part, of = generation] {
         QString error;
-        const Scene scene = folder->Put(next, nextPart.page, &error);
-        LoadOrder order;
-        order.generation = of;
-        order.scene = SceneToJson(scene);
-        order.path = scene.path;
-        order.schedule = nextPart.schedule;
-        order.calls = nextPart.calls;
-        order.faults = nextPart.faults;
-        QMetaObject::invokeMethod(this, [this, of, order, error] { Prepared(of, order, error); });
+        const Scene scene = folder.Put(next, nextPart.page, &error);
+        Order prepared;
+        prepared.generation = of;
+        prepared.scene = SceneToJson(scene);
+        prepared.path = scene.path;
+        prepared.schedule = nextPart.schedule;
+        prepared.calls = nextPart.calls;
+        prepared.faults = nextPart.faults;
+        QMetaObject::invokeMethod(this, [this, prepared, error] { Prepared(prepared, error); });
     });
 }
 
-void Rehearsal::Prepared(quint32 of, const LoadOrder& order, const QString& error)
+void Rehearsal::Prepared(const Order& prepared, const QString& error)
 {
     busy = false;
-    if (again) {
-        again = false;
-        --generation; // the present sign still has to be prepared
-        SetSign(sign, part);
+    if (prepared.generation != generation) {
+        Prepare();
         return;
     }
     if (!error.isEmpty()) { // there is nothing to play
         emit Trouble(error);
         return;
     }
-    prepared = of;
-    loaded = order;
+    order = prepared;
     cache.Clear();
     orderedTo = -1;
     if (std::none_of(sign.texts.begin(), sign.texts.end(), [this](const SignText& text) {
             return part.page < 0 || text.page == part.page;
         })) {
-        timing = Timing();
-        measured = of;
+        order.scene.clear();
         QImage dark(sign.display, QImage::Format_ARGB32);
         dark.fill(Qt::transparent);
         cache.Insert(wanted, dark, QByteArray(), wanted);
-        emit TimingChanged();
+        TakeTiming(Timing());
         emit FindingsChanged({});
         Look(wanted);
         return;
     }
-    QMetaObject::invokeMethod(player, [link = player, order] { link->Load(order); });
-    Order(wanted, wanted);
-    QMetaObject::invokeMethod(measurer, [link = measurer, order] { link->Measure(order); });
-    const Sign checked = sign;
-    pool.start([this, checked, of] {
+    Ask(wanted, wanted);
+    Order measuring = order;
+    measuring.measures = true;
+    measurer.Send(measuring);
+    pool.start([this, checked = sign, of = generation] {
         // All pages, because findings name places in the whole sign.
         QString error;
-        const Scene scene = folder->Put(checked, -1, &error);
+        const Scene scene = folder.Put(checked, -1, &error);
         if (!error.isEmpty())
             return; // the next change reports it
         const QList<Finding> findings = ValidateScene(scene);
@@ -139,38 +107,38 @@ void Rehearsal::Prepared(quint32 of, const LoadOrder& order, const QString& erro
     });
 }
 
-void Rehearsal::TakeLoaded(quint32 of, const QString& error)
+void Rehearsal::TakeAnswer(const Answer& answer)
 {
-    if (of == prepared)
-        emit Trouble(error);
-}
-
-void Rehearsal::TakePicture(const TickPicture& picture)
-{
-    if (picture.generation != prepared || prepared != generation)
+    if (answer.kind == Answer::Ready && !answer.error.isEmpty())
+        emit Trouble(answer.error);
+    if (answer.generation != order.generation || order.generation != generation)
         return;
-    cache.Insert(picture.tick, picture.picture, picture.calls, wanted);
-    orderedFrom = picture.tick + 1;
-    if (picture.tick == wanted)
-        Look(wanted);
-}
-
-void Rehearsal::TakeDeath(const QString& why)
-{
-    orderedTo = -1;
-    if (++deaths > 1) {
-        emit Trouble(why);
-        return;
+    if (answer.kind == Answer::Loaded)
+        emit Trouble(answer.error);
+    if (answer.kind == Answer::Picture) {
+        cache.Insert(answer.tick, answer.picture, answer.calls, wanted);
+        orderedFrom = answer.tick + 1;
+        if (answer.tick == wanted)
+            Look(wanted);
     }
-    const LoadOrder order = loaded;
-    QMetaObject::invokeMethod(player, [link = player, order] { link->Load(order); });
-    Order(wanted, wanted);
+    if (answer.kind == Answer::Idle) {
+        orderedTo = -1;
+        AskAhead();
+    }
+}
+
+void Rehearsal::TakeTiming(const Timing& times)
+{
+    timing = times;
+    measured = generation;
+    emit TimingChanged();
+    AskAhead();
 }
 
 void Rehearsal::Look(int tick)
 {
     wanted = std::max(0, tick);
-    if (prepared != generation)
+    if (order.generation != generation)
         return;
     if (cache.Has(wanted)) {
         current = true;
@@ -181,43 +149,38 @@ void Rehearsal::Look(int tick)
     AskAhead();
 }
 
-int Rehearsal::LastTick() const
-{
-    return IsMeasured() ? timing.Ticks() : std::max(wanted, ticksUnmeasured);
-}
-
 /** Requests the ticks that are likely to be shown next, as far as memory allows. */
 void Rehearsal::AskAhead()
 {
-    if (prepared != generation || !loaded.generation)
+    if (order.generation != generation || order.scene.isEmpty())
         return;
     const int room = cache.Room(sign.display) * 3 / 4;
     const bool coming = orderedTo >= wanted && orderedFrom <= wanted;
     if (!cache.Has(wanted)) {
         if (!coming)
-            Order(std::max(0, wanted - room / 16), wanted + room / 4);
+            Ask(std::max(0, wanted - room / 16), wanted + room / 4);
         return;
     }
     if (orderedTo >= 0)
         return;
     // Ahead first, then behind.
-    const int last = std::max(wanted, LastTick());
+    const int last = std::max(wanted, IsMeasured() ? timing.Ticks() : ticksUnmeasured);
     const int ahead = wanted + cache.RunFrom(wanted);
     if (ahead <= last && ahead < wanted + room / 2) {
-        Order(ahead, std::min(last, wanted + room / 2));
+        Ask(ahead, std::min(last, wanted + room / 2));
         return;
     }
     int behind = std::max(0, wanted - room / 3);
     behind += cache.RunFrom(behind);
     if (behind < wanted)
-        Order(behind, wanted);
+        Ask(behind, wanted);
 }
 
-void Rehearsal::Order(int from, int to)
+void Rehearsal::Ask(int from, int to)
 {
-    orderedFrom = from;
-    orderedTo = to;
-    QMetaObject::invokeMethod(player, [link = player, from, to] { link->Play(from, to); });
+    orderedFrom = order.first = from;
+    orderedTo = order.last = to;
+    player.Send(order);
 }
 
 } // namespace AnimText

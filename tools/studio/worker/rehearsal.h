@@ -7,16 +7,13 @@
 
 #include "studio/model/sign.h"
 #include "studio/worker/picturecache.h"
+#include "studio/worker/scenefolder.h"
 #include "studio/worker/workerlink.h"
 #include "validate/validate.h"
 
-#include <QElapsedTimer>
-#include <QThread>
 #include <QThreadPool>
 
 namespace AnimText {
-
-class SceneFolder;
 
 /** Which part of a sign to play, and how. */
 struct Part
@@ -33,7 +30,7 @@ struct Part
     }
 };
 
-/** Lives in the window's thread and never blocks it. */
+/** Never blocks the window. */
 class Rehearsal : public QObject
 {
     Q_OBJECT
@@ -74,34 +71,29 @@ signals:
     void Trouble(const QString& why);
 
 private:
-    void Prepared(quint32 forGeneration, const LoadOrder& order, const QString& error);
-    void TakePicture(const TickPicture& picture);
-    void TakeLoaded(quint32 forGeneration, const QString& error);
-    void TakeDeath(const QString& why);
+    void Prepare();
+    void Prepared(const Order& order, const QString& error);
+    void TakeAnswer(const Answer& answer);
+    void TakeTiming(const Timing& timing);
     void AskAhead();
-    void Order(int from, int to);
-    int LastTick() const;
+    void Ask(int from, int to);
 
-    QThread thread;
-    WorkerLink* player;
-    WorkerLink* measurer;
-    std::shared_ptr<SceneFolder> folder;
+    WorkerLink player;
+    WorkerLink measurer;
+    SceneFolder folder;
     QThreadPool pool;
     PictureCache cache;
     Timing timing;
     Sign sign;
     Part part;
-    LoadOrder loaded;
+    Order order; // of the sign that was prepared last; its scene is empty if it has no texts
     quint32 generation = 0;
-    quint32 prepared = 0;
     quint32 measured = 0;
     int wanted = 0;
     int orderedFrom = 0;
     int orderedTo = -1; // last tick requested from the worker
-    int deaths = 0;     // consecutive crashes in this generation
     bool current = false;
     bool busy = false; // a sign is being prepared
-    bool again = false;
 };
 
 } // namespace AnimText

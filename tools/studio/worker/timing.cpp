@@ -59,37 +59,4 @@ bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watc
     return true;
 }
 
-QDataStream& operator<<(QDataStream& stream, const Timing& timing)
-{
-    stream << timing.length << timing.isCut << qint32(timing.texts.size());
-    for (const TextTime& text : timing.texts) {
-        stream << qint32(text.ending) << text.planned << text.actual << text.from << text.until
-               << qint32(text.pages.size());
-        for (const PageTime& page : text.pages)
-            stream << page.begin << page.hold << page.end;
-    }
-    return stream;
-}
-
-QDataStream& operator>>(QDataStream& stream, Timing& timing)
-{
-    qint32 texts = 0;
-    stream >> timing.length >> timing.isCut >> texts;
-    timing.texts.clear();
-    for (qint32 i = 0; i < texts && stream.status() == QDataStream::Ok; ++i) {
-        TextTime text;
-        qint32 ending = 0;
-        qint32 pages = 0;
-        stream >> ending >> text.planned >> text.actual >> text.from >> text.until >> pages;
-        text.ending = Ending(ending);
-        for (qint32 p = 0; p < pages && stream.status() == QDataStream::Ok; ++p) {
-            PageTime page;
-            stream >> page.begin >> page.hold >> page.end;
-            text.pages.append(page);
-        }
-        timing.texts.append(text);
-    }
-    return stream;
-}
-
 } // namespace AnimText

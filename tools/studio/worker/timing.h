@@ -7,8 +7,6 @@
 
 #include "timing/pagetimes.h"
 
-#include <QDataStream>
-#include <QMetaType>
 #include <QVector>
 
 namespace AnimText {
@@ -42,11 +40,6 @@ struct Timing
 bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watch& watch,
                    Timing* timing, QString* error);
 
-QDataStream& operator<<(QDataStream& stream, const Timing& timing);
-QDataStream& operator>>(QDataStream& stream, Timing& timing);
-
 } // namespace AnimText
-
-Q_DECLARE_METATYPE(AnimText::Timing)
 
 #endif

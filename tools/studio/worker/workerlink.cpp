@@ -39,11 +39,25 @@ WorkerLink::WorkerLink(const QString& plugin, Haste haste, QObject* parent)
     , plugin(plugin)
     , haste(haste)
 {
+    // The plugin's messages go to the studio's terminal.
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(&process, &QProcess::readyReadStandardOutput, this, &WorkerLink::Read);
+    connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+            &WorkerLink::End);
+    patience.setInterval(lookTime);
+    connect(&patience, &QTimer::timeout, this, [this] {
+        hangs = silence.elapsed() > longestSilence ||
+                WorkOf(process.processId()) - workBefore > longestWork;
+        if (hangs)
+            process.kill();
+    });
 }
 
 WorkerLink::~WorkerLink()
 {
-    Stop();
+    process.disconnect(this);
+    process.kill();
+    process.waitForFinished();
 }
 
 void WorkerLink::SetProgram(const QString& path)
@@ -58,24 +72,8 @@ QString WorkerLink::Program()
 
 void WorkerLink::Start()
 {
-    if (process)
+    if (process.state() != QProcess::NotRunning)
         return;
-    process = new QProcess(this);
-    // The plugin's messages go to the studio's terminal.
-    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    connect(process, &QProcess::readyReadStandardOutput, this, &WorkerLink::Read);
-    connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
-            &WorkerLink::Ended);
-    if (!patience) {
-        patience = new QTimer(this);
-        patience->setInterval(lookTime);
-        connect(patience, &QTimer::timeout, this, [this] {
-            hangs = silence.elapsed() > longestSilence ||
-                    WorkOf(process->processId()) - workBefore > longestWork;
-            if (hangs)
-                process->kill();
-        });
-    }
     received.clear();
     hangs = false;
     QStringList words{QStringLiteral("--worker")};
@@ -83,26 +81,21 @@ void WorkerLink::Start()
         words += {QStringLiteral("--plugin"), plugin};
     if (haste == Haste::None)
         words += QStringLiteral("--no-haste");
-    process->start(Program(), words);
+    process.start(Program(), words);
 }
 
-void WorkerLink::Stop()
+void WorkerLink::Send(const Order& next)
 {
-    if (!process)
-        return;
-    process->disconnect(this);
-    patience->stop();
-    process->closeWriteChannel();
-    process->kill();
-    process->waitForFinished();
-    delete process;
-    process = nullptr;
+    if (next.generation != order.generation)
+        deaths = 0;
+    order = next;
+    Write();
 }
 
-void WorkerLink::Send(const QByteArray& message)
+void WorkerLink::Write()
 {
     Start();
-    process->write(message);
+    process.write(Packed(order));
     Expect();
 }
 
@@ -110,85 +103,42 @@ void WorkerLink::Send(const QByteArray& message)
 void WorkerLink::Expect()
 {
     silence.start();
-    workBefore = WorkOf(process->processId());
-    patience->start();
-}
-
-void WorkerLink::Load(const LoadOrder& order)
-{
-    Send(Packed(Message::Load, order));
-}
-
-void WorkerLink::Play(int from, int to)
-{
-    Send(Packed(Message::Play, qint32(from), qint32(to)));
-}
-
-void WorkerLink::Measure(const LoadOrder& order)
-{
-    Send(Packed(Message::Measure, order));
+    workBefore = WorkOf(process.processId());
+    patience.start();
 }
 
 void WorkerLink::Read()
 {
-    received += process->readAllStandardOutput();
-    Message kind;
-    QByteArray body;
-    while (TakeMessage(&received, &kind, &body))
-        Handle(kind, body);
-}
-
-void WorkerLink::Handle(Message kind, const QByteArray& body)
-{
-    quint32 generation = 0;
-    QString text;
-    switch (kind) {
-    case Message::Ready:
-        Expect();
-        Unpack(body, &text);
-        emit Ready(text);
-        break;
-    case Message::Loaded:
-        patience->stop();
-        Unpack(body, &generation, &text);
-        emit Loaded(generation, text);
-        break;
-    case Message::Picture: {
-        Expect();
-        TickPicture picture;
-        Unpack(body, &picture);
-        if (picture.picture.isNull())
-            picture.picture = lastPicture;
-        lastPicture = picture.picture;
-        emit Picture(picture);
-        break;
-    }
-    case Message::Measured: {
-        patience->stop();
-        Timing timing;
-        Unpack(body, &generation, &timing);
-        emit Measured(generation, timing);
-        break;
-    }
-    case Message::Idle:
-        patience->stop();
-        Unpack(body, &generation);
-        emit Idle(generation);
-        break;
-    default: break;
+    received += process.readAllStandardOutput();
+    Answer answer;
+    while (Take(&received, &answer)) {
+        if (answer.kind == Answer::Picture) {
+            if (answer.picture.isNull())
+                answer.picture = lastPicture;
+            lastPicture = answer.picture;
+        }
+        if (answer.kind == Answer::Idle || answer.kind == Answer::Measured ||
+            !answer.error.isEmpty())
+            patience.stop();
+        else if (answer.kind != Answer::Ready)
+            Expect();
+        emit Answered(answer);
     }
 }
 
-void WorkerLink::Ended()
+void WorkerLink::End(int, QProcess::ExitStatus how)
 {
     Read();
-    const bool crashed = process->exitStatus() == QProcess::CrashExit;
-    process->deleteLater();
-    process = nullptr;
-    patience->stop();
-    emit Died(hangs     ? tr("The plugin stopped responding and was terminated.")
-              : crashed ? tr("The plugin crashed.")
-                        : tr("The playback process ended unexpectedly."));
+    const bool isOwed = patience.isActive();
+    patience.stop();
+    if (!isOwed)
+        return;
+    if (++deaths == 1)
+        Write();
+    else
+        emit Died(hangs ? tr("The plugin stopped responding and was terminated.")
+                  : how == QProcess::CrashExit ? tr("The plugin crashed.")
+                                               : tr("The playback process ended unexpectedly."));
 }
 
 } // namespace AnimText

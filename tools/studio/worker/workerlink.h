@@ -14,10 +14,7 @@
 
 namespace AnimText {
 
-/**
- * Starts the worker when it is needed, and again after a crash or hang. Lives in its own thread, in
- * which its slots must be called; its signals can be received in any thread.
- */
+/** Starts the worker when it is needed, and again after a crash or hang. */
 class WorkerLink : public QObject
 {
     Q_OBJECT
@@ -34,34 +31,31 @@ public:
     static void SetProgram(const QString& path);
     static QString Program();
 
-public slots:
     void Start();
-    void Load(const AnimText::LoadOrder& order);
-    void Play(int from, int to);
-    void Measure(const AnimText::LoadOrder& order);
-    /** Ends the process; the next request starts another one. */
-    void Stop();
+    /** Cancels the previous order. */
+    void Send(const Order& order);
 
 signals:
-    void Ready(const QString& pluginError);
-    void Loaded(quint32 generation, const QString& error);
-    void Picture(const AnimText::TickPicture& picture);
-    void Measured(quint32 generation, const AnimText::Timing& timing);
-    void Idle(quint32 generation);
-    /** The process has crashed, or was terminated because it stopped responding. */
+    /** Its picture is never null if it has one. */
+    void Answered(const AnimText::Answer& answer);
+    /**
+     * The process has crashed twice with orders of one generation, or was terminated because it
+     * stopped responding.
+     */
     void Died(const QString& why);
 
 private:
-    void Send(const QByteArray& message);
+    void Write();
     void Expect();
     void Read();
-    void Handle(Message kind, const QByteArray& body);
-    void Ended();
+    void End(int status, QProcess::ExitStatus how);
 
     QString plugin;
     Haste haste;
-    QProcess* process = nullptr;
-    QTimer* patience = nullptr;
+    QProcess process;
+    Order order;    // the last one
+    int deaths = 0; // with orders of its generation
+    QTimer patience;
     QElapsedTimer silence; // since the last answer or request
     double workBefore = 0; // the process's processor time at that moment
     QByteArray received;

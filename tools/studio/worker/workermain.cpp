@@ -1,16 +1,173 @@
 #include "studio/worker/workermain.h"
 
-#include "studio/worker/workerloop.h"
+#include "player/callline.h"
+#include "player/plugin.h"
+#include "studio/worker/messages.h"
 
+#include <QFile>
 #include <QGuiApplication>
 
 #include <csignal>
+#include <memory>
+#include <poll.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace AnimText {
 namespace {
 
 constexpr int lowNiceness = 10;
+
+/**
+ * Reads orders from standard input and answers until the input ends. An order cancels the previous
+ * one. A plugin that crashes ends only this process.
+ */
+class WorkerLoop
+{
+public:
+    /** @param output descriptor for the answers; nothing else may be written to it */
+    WorkerLoop(VirtualDispatcher* dispatcher, int output)
+        : dispatcher(dispatcher)
+    {
+        answers.open(output, QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+
+    void Run(const QString& pluginPath)
+    {
+        plugin = LoadPlugin(PluginPath(pluginPath), &pluginError);
+        Send(Answer::Ready, pluginError);
+        while (!ended) {
+            if (Take(&received, &order))
+                Begin();
+            else if (player && next <= order.last)
+                Step();
+            else
+                Receive(true);
+        }
+    }
+
+private:
+    /** Reads the available input. @return whether there is any that has not been handled */
+    bool Receive(bool wait)
+    {
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        while (!ended && poll(&input, 1, wait ? -1 : 0) > 0) {
+            char buffer[65536];
+            const ssize_t count = read(STDIN_FILENO, buffer, sizeof buffer);
+            ended = count <= 0;
+            received.append(buffer, int(std::max<ssize_t>(0, count)));
+            wait = false;
+        }
+        return !received.isEmpty();
+    }
+
+    void Begin()
+    {
+        next = order.first;
+        shown = QImage();
+        if (order.generation == generation && !order.measures)
+            return;
+        generation = order.measures ? 0 : order.generation;
+        started = false;
+        player.reset(); // releases the display's clock
+        QString error = pluginError;
+        Timing timing;
+        bool isDone = plugin && ReadSceneText(order.scene, order.path, &scene, &error,
+                                              MissingFiles::AreAccepted);
+        if (isDone) {
+            player = std::make_unique<Player>(dispatcher, plugin);
+            const auto watch = [this](int) { return !Receive(false) && !ended; };
+            isDone = order.measures ? MeasureTiming(player.get(), scene, order.schedule, watch,
+                                                    &timing, &error)
+                                    : player->Load(scene, &error);
+        }
+        if (order.measures || !isDone)
+            player.reset();
+        if (isDone || !error.isEmpty()) // otherwise there is another order
+            Send(order.measures ? Answer::Measured : Answer::Loaded, error, timing);
+    }
+
+    /** With a new player, because some state survives a restart. */
+    void Restart()
+    {
+        QString error;
+        if (started) {
+            player.reset();
+            player = std::make_unique<Player>(dispatcher, plugin);
+            if (!player->Load(scene, &error)) {
+                player.reset();
+                return;
+            }
+        }
+        Torv::ClearFaults();
+        for (const QPair<qint32, qint32>& fault : order.faults)
+            Torv::FailCall(Torv::Operation(fault.first), fault.second);
+        if (order.calls)
+            player->Scenery().WatchCalls(
+                [this](const Torv::CallRecord& call) { calls += CallLine(call) + '\n'; });
+        if (order.schedule)
+            player->Start(HostSchedule(scene, player->Durations()), standardSeed);
+        else
+            player->Start(standardSeed);
+        started = true;
+    }
+
+    /** Plays one tick toward the next one to send, which may be that of the last picture. */
+    void Step()
+    {
+        if (!started || player->Tick() != next)
+            calls.clear();
+        if (!started || player->Tick() > next)
+            Restart();
+        else if (player->Tick() < next)
+            player->Advance();
+        if (player && player->Tick() == next) {
+            Answer answer;
+            answer.kind = Answer::Picture;
+            answer.generation = order.generation;
+            answer.tick = next++;
+            answer.calls = calls;
+            const QImage picture = player->Picture();
+            if (picture != shown)
+                answer.picture = shown = picture;
+            Send(answer);
+            if (next > order.last)
+                Send(Answer::Idle, QString());
+        }
+        Receive(false);
+    }
+
+    void Send(Answer::Kind kind, const QString& error, const Timing& timing = {})
+    {
+        Answer answer;
+        answer.kind = kind;
+        answer.generation = order.generation;
+        answer.error = error;
+        answer.timing = timing;
+        Send(answer);
+    }
+
+    void Send(const Answer& answer)
+    {
+        const QByteArray message = Packed(answer);
+        ended = answers.write(message) != message.size() || ended;
+    }
+
+    VirtualDispatcher* dispatcher;
+    QFile answers;
+    bool ended = false;
+    QByteArray received;
+    Lw::INodePlugin* plugin = nullptr;
+    QString pluginError;
+    Order order;
+    quint32 generation = 0; // of the scene that was loaded; 0 for none
+    Scene scene;
+    std::unique_ptr<Player> player; // null if the scene cannot be played
+    bool started = false;           // the player is at a tick of the ordered scene
+    int next = 0;                   // the next tick to send
+    QImage shown;                   // the picture that was sent last for the order
+    QByteArray calls;               // device calls of the player's tick
+};
 
 } // namespace
 
@@ -31,12 +188,13 @@ int WorkerMain(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         if (qstrcmp(argv[i], "--plugin") == 0 && i + 1 < argc)
             plugin = QString::fromLocal8Bit(argv[i + 1]);
-        else if (qstrcmp(argv[i], "--no-haste") == 0 && nice(lowNiceness) == -1)
-            continue; // handled with the next messages
+        else if (qstrcmp(argv[i], "--no-haste") == 0)
+            setpriority(PRIO_PROCESS, 0, lowNiceness);
     }
     int ownName = 1;
     QGuiApplication application(ownName, argv);
-    return WorkerLoop(dispatcher, plugin, output).Run();
+    WorkerLoop(dispatcher, output).Run(plugin);
+    return 0;
 }
 
 } // namespace AnimText

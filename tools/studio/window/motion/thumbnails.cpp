@@ -61,25 +61,16 @@ SignText Sample(SignText text, int key)
 
 Thumbnails::Thumbnails(const QString& plugin, QObject* parent)
     : QObject(parent)
-    , link(new WorkerLink(plugin, WorkerLink::Haste::None))
+    , link(plugin, WorkerLink::Haste::None)
 {
-    link->moveToThread(&thread);
-    connect(&thread, &QThread::finished, link, &QObject::deleteLater);
-    connect(link, &WorkerLink::Picture, this, &Thumbnails::TakePicture);
-    connect(link, &WorkerLink::Idle, this, [this](quint32 of) {
-        if (of == generation)
-            Finish();
-    });
-    connect(link, &WorkerLink::Died, this, [this] { Finish(); });
+    connect(&link, &WorkerLink::Answered, this, &Thumbnails::TakeAnswer);
+    connect(&link, &WorkerLink::Died, this, &Thumbnails::Finish);
     pool.setMaxThreadCount(1);
-    thread.start();
 }
 
 Thumbnails::~Thumbnails()
 {
     pool.waitForDone();
-    thread.quit();
-    thread.wait();
 }
 
 void Thumbnails::SetText(const SignText& next)
@@ -150,23 +141,26 @@ void Thumbnails::Next()
             QMetaObject::invokeMethod(this, &Thumbnails::Finish);
             return;
         }
-        LoadOrder order;
+        Order order;
         order.generation = of;
         order.scene = SceneToJson(scene);
         order.path = scene.path;
-        const auto layout = sample.layout;
-        QMetaObject::invokeMethod(link, [worker = link, order, key] {
-            worker->Load(order);
-            worker->Play(0, (key >= neonKeys ? neonTicks : loopTicks) - 1);
+        order.last = (key >= neonKeys ? neonTicks : loopTicks) - 1;
+        QMetaObject::invokeMethod(this, [this, order, layout = sample.layout] {
+            playing = layout;
+            link.Send(order);
         });
-        QMetaObject::invokeMethod(this, [this, layout] { playing = layout; });
     });
 }
 
-void Thumbnails::TakePicture(const TickPicture& picture)
+void Thumbnails::TakeAnswer(const Answer& answer)
 {
-    if (picture.generation == generation && current >= 0)
-        made.append(picture.picture);
+    if (answer.generation != generation || current < 0)
+        return;
+    if (answer.kind == Answer::Picture)
+        made.append(answer.picture);
+    if (answer.kind == Answer::Idle || !answer.error.isEmpty())
+        Finish();
 }
 
 void Thumbnails::Finish()

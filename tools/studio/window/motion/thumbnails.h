@@ -11,7 +11,6 @@
 #include "studio/worker/workerlink.h"
 
 #include <QHash>
-#include <QThread>
 #include <QThreadPool>
 #include <QVector>
 
@@ -50,11 +49,10 @@ private:
     QImage PictureOf(int key, int tick);
     void Ask(int key);
     void Next();
-    void TakePicture(const TickPicture& picture);
+    void TakeAnswer(const Answer& answer);
     void Finish();
 
-    QThread thread;
-    WorkerLink* link;
+    WorkerLink link;
     SceneFolder folder;
     QThreadPool pool;
     QHash<int, Loop> loops; // by effect; scrolls from 1000, neon styles from 2000
