@@ -761,7 +761,7 @@ void TestWindow::recreatesOutlines()
     list->ApplyFix(0);
     QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience);
     QVERIFY(Settles());
-    QVERIFY(!Text().layout->outlines.isEmpty());
+    QVERIFY(!Text().layout->data.value("PathData").isEmpty());
 }
 
 void TestWindow::reportsMissingTemporaryFolder()

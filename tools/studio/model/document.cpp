@@ -11,6 +11,16 @@ namespace {
 
 constexpr int tellingDelay = 50; // milliseconds from a layout to Changed()
 
+/** A digest of the file's content; empty if there is no file. */
+QByteArray DigestOfFile(const QString& path)
+{
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+        return {};
+    return hash.result();
+}
+
 } // namespace
 
 /** One undo step; both states share their unchanged data. */
@@ -44,15 +54,6 @@ private:
     Sign after;
     QString merge;
 };
-
-QByteArray DigestOfFile(const QString& path)
-{
-    QFile file(path);
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
-        return {};
-    return hash.result();
-}
 
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error)
 {
@@ -129,11 +130,8 @@ void Document::Replace(const Sign& next, const QString& itsPath)
 {
     undo.clear();
     opened = ++revision;
-    path = itsPath;
-    onDisk = DigestOfFile(path);
-    told = onDisk;
     savePath.clear();
-    Watch();
+    Know(itsPath, DigestOfFile(itsPath));
     for (const SignText& text : next.texts) {
         if (text.layout)
             layouts.Remember(text.layout);
@@ -156,10 +154,10 @@ void Document::New(const QSize& display, bool alphaBlend)
 
 bool Document::Open(const QString& file, QString* error)
 {
-    Scene scene;
-    if (!ReadScene(file, &scene, error, MissingFiles::AreAccepted))
+    Sign read;
+    if (!ReadSign(file, &read, error))
         return false;
-    Replace(SignOf(scene, ReadSources(file)), QFileInfo(file).absoluteFilePath());
+    Replace(read, QFileInfo(file).absoluteFilePath());
     return true;
 }
 
@@ -174,10 +172,8 @@ void Document::AskForLayouts()
     for (SignText& text : sign.texts) {
         if (text.IsLaidOut())
             continue;
-        if (const auto known = layouts.Find(text))
+        if (const auto known = layouts.Ask(text))
             text.layout = known;
-        else
-            layouts.Ask(text);
     }
 }
 
@@ -222,62 +218,50 @@ void Document::SaveNow()
         QString error;
         const bool done = SaveSign(saved, file, known, &error);
         const QByteArray digest = done ? DigestOfFile(file) : QByteArray();
-        QMetaObject::invokeMethod(
-            this,
-            [this, done, error, digest, state, file] { Saved(done, error, digest, state, file); },
-            Qt::QueuedConnection);
+        const auto end = [this, done, error, digest, state, file] {
+            saving = false;
+            if (done && state >= opened) { // otherwise another sign has been opened
+                Know(QFileInfo(file).absoluteFilePath(), digest);
+                // Changes made during the save are not in the file.
+                if (revision == state)
+                    undo.setClean();
+            }
+            emit StateChanged();
+            emit SaveEnded(done, error);
+            LookAtDisk();
+        };
+        QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
     });
-}
-
-void Document::Saved(bool saved, const QString& error, const QByteArray& digest, int state,
-                     const QString& file)
-{
-    saving = false;
-    if (saved && state >= opened) { // otherwise another sign has been opened
-        path = QFileInfo(file).absoluteFilePath();
-        onDisk = digest;
-        told = digest;
-        Watch();
-        // Changes made during the save are not in the file.
-        if (revision == state)
-            undo.setClean();
-    }
-    emit StateChanged();
-    emit SaveEnded(saved, error);
-    LookAtDisk();
 }
 
 bool Document::LoadTheirs(QString* error)
 {
-    Scene scene;
-    if (!ReadScene(path, &scene, error, MissingFiles::AreAccepted))
+    Sign theirs;
+    if (!ReadSign(path, &theirs, error))
         return false;
-    onDisk = DigestOfFile(path);
-    told = onDisk;
-    undo.push(
-        new SignChange(this, tr("Load from disk"), SignOf(scene, ReadSources(path)), QString()));
+    Know(path, DigestOfFile(path));
+    undo.push(new SignChange(this, tr("Load from disk"), theirs, QString()));
     undo.setClean();
     return true;
 }
 
 void Document::KeepMine()
 {
-    onDisk = DigestOfFile(path);
-    told = onDisk;
+    Know(path, DigestOfFile(path));
     undo.resetClean();
 }
 
-void Document::Watch()
+/** Watches the file @p known, whose content has that @p digest. */
+void Document::Know(const QString& known, const QByteArray& digest)
 {
-    if (!watcher.files().isEmpty())
-        watcher.removePaths(watcher.files());
-    if (!watcher.directories().isEmpty())
-        watcher.removePaths(watcher.directories());
-    if (path.isEmpty())
-        return;
-    watcher.addPath(path);
+    path = known;
+    onDisk = reported = digest;
+    const QStringList before = watcher.files() + watcher.directories();
+    if (!before.isEmpty())
+        watcher.removePaths(before);
     // The watcher loses a file that is replaced, so the folder is watched, too.
-    watcher.addPath(QFileInfo(path).absolutePath());
+    if (!path.isEmpty())
+        watcher.addPaths({path, QFileInfo(path).absolutePath()});
 }
 
 void Document::LookAtDisk()
@@ -287,9 +271,9 @@ void Document::LookAtDisk()
     const QByteArray digest = DigestOfFile(path);
     if (!watcher.files().contains(path))
         watcher.addPath(path);
-    if (digest.isEmpty() || digest == told)
+    if (digest.isEmpty() || digest == reported)
         return;
-    told = digest;
+    reported = digest;
     emit DiskChanged();
 }
 

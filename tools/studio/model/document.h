@@ -76,9 +76,7 @@ private:
     void AskForLayouts();
     void TakeLayout(const std::shared_ptr<const Layout>& layout);
     void SaveNow();
-    void Saved(bool saved, const QString& error, const QByteArray& digest, int state,
-               const QString& file);
-    void Watch();
+    void Know(const QString& known, const QByteArray& digest);
     void LookAtDisk();
 
     Sign sign;
@@ -87,17 +85,14 @@ private:
     QString path;
     QString savePath; // target of a save that waits for layouts; empty for none
     bool saving = false;
-    int revision = 0;  // counts changes
-    int opened = 0;    // revision of the sign when it was opened
-    QByteArray onDisk; // digest of the file as last read or saved
-    QByteArray told;   // digest that DiskChanged() was last emitted for
-    QTimer telling;    // delays Changed() for new layouts
+    int revision = 0;    // counts changes
+    int opened = 0;      // revision of the sign when it was opened
+    QByteArray onDisk;   // digest of the file as last read or saved
+    QByteArray reported; // digest that DiskChanged() was last emitted for
+    QTimer telling;      // delays Changed() for new layouts
     QFileSystemWatcher watcher;
     QThreadPool pool;
 };
-
-/** A digest of the file's content; empty if there is no file. */
-QByteArray DigestOfFile(const QString& path);
 
 /**
  * Writes @p sign with its data files and sources to @p path, completely or not at all.

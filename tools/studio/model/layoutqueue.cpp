@@ -1,7 +1,5 @@
 #include "studio/model/layoutqueue.h"
 
-#include <algorithm>
-
 namespace AnimText {
 namespace {
 
@@ -23,33 +21,30 @@ LayoutQueue::~LayoutQueue()
     pool.waitForDone();
 }
 
-std::shared_ptr<const Layout> LayoutQueue::Find(const SignText& text) const
-{
-    const auto* layout = made.object(text.layoutKey);
-    return layout ? *layout : nullptr;
-}
-
 void LayoutQueue::Remember(const std::shared_ptr<const Layout>& layout)
 {
     made.insert(layout->key, new std::shared_ptr<const Layout>(layout),
-                layout->outlines.size() + layout->text.size() * 200 + 1000);
+                layout->data.value(QStringLiteral("PathData")).size() + layout->text.size() * 200 +
+                    1000);
 }
 
-void LayoutQueue::Ask(const SignText& text)
+std::shared_ptr<const Layout> LayoutQueue::Ask(const SignText& text)
 {
-    const auto same = [&](const SignText& other) { return other.id == text.id; };
-    waiting.erase(std::remove_if(waiting.begin(), waiting.end(), same), waiting.end());
-    if (text.layoutKey == current)
-        return;
-    waiting.append(text);
-    Next();
+    waiting.remove(text.id);
+    if (const auto* known = made.object(text.layoutKey))
+        return *known;
+    if (text.layoutKey != current) {
+        waiting.insert(text.id, text);
+        Next();
+    }
+    return nullptr;
 }
 
 void LayoutQueue::Next()
 {
     if (!current.isEmpty() || waiting.isEmpty())
         return;
-    const SignText text = waiting.takeFirst();
+    const SignText text = waiting.take(waiting.firstKey());
     current = text.layoutKey;
     pool.start([this, text] {
         const auto layout = MakeLayout(text);

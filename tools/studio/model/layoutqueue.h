@@ -8,7 +8,7 @@
 #include "studio/model/sign.h"
 
 #include <QCache>
-#include <QList>
+#include <QMap>
 #include <QObject>
 #include <QThreadPool>
 
@@ -23,13 +23,14 @@ public:
     /** Waits for the text that is being laid out. */
     ~LayoutQueue() override;
 
-    /** The layout of @p text if it was made recently; otherwise null. */
-    std::shared_ptr<const Layout> Find(const SignText& text) const;
     void Remember(const std::shared_ptr<const Layout>& layout);
     /** Forgets the layout of @p text, so that it is made again. */
     void Forget(const SignText& text) { made.remove(text.layoutKey); }
-    /** Lays out @p text and emits Made(); replaces a waiting request for the same text. */
-    void Ask(const SignText& text);
+    /**
+     * The layout of @p text if it was made recently; otherwise null, and Made() follows unless the
+     * text is asked for again.
+     */
+    std::shared_ptr<const Layout> Ask(const SignText& text);
 
 signals:
     void Made(std::shared_ptr<const AnimText::Layout> layout);
@@ -39,7 +40,7 @@ private:
     void Take(const std::shared_ptr<const Layout>& layout);
 
     QThreadPool pool;
-    QList<SignText> waiting;
+    QMap<int, SignText> waiting;                            // by their ids
     QCache<QByteArray, std::shared_ptr<const Layout>> made; // cost in bytes
     QByteArray current;                                     // key of the running layout
 };

@@ -128,16 +128,12 @@ QList<LostWork> Recovery::Find() const
         LostWork work;
         work.folder = dir.path();
         const QString scenePath = dir.filePath(sceneName);
-        Scene scene;
         QString error;
-        const bool isRead = QFileInfo::exists(scenePath) &&
-                            ReadScene(scenePath, &scene, &error, MissingFiles::AreAccepted);
-        if (!isRead) {
+        if (!ReadSign(scenePath, &work.sign, &error)) {
             itsLock.unlock();
             Drop(work);
             continue;
         }
-        work.sign = SignOf(scene, ReadSources(scenePath));
         work.when = QFileInfo(scenePath).lastModified();
         QFile about(dir.filePath(aboutName));
         if (about.open(QIODevice::ReadOnly))

@@ -2,6 +2,7 @@
 
 #include "files/wholefile.h"
 #include "layout/glyphfiles.h"
+#include "scene/attributes.h"
 #include "scene/fonts.h"
 
 #include <QCoreApplication>
@@ -19,13 +20,8 @@ namespace {
 
 const QString pathData = QStringLiteral("PathData");
 const QString descentVector = QStringLiteral("DescentVector");
+const QStringList dataKeys{pathData, descentVector};
 const QString textKey = QStringLiteral("Text");
-
-QByteArray Content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /** The layout that is stored in the scene. */
 std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node,
@@ -35,13 +31,14 @@ std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node
     layout->key = key;
     layout->text = node.attributes.value(textKey).toString();
     layout->lists = node.lists;
-    for (const QString& key : {pathData, descentVector}) {
+    for (const QString& key : dataKeys) {
         if (!node.files.contains(key))
             continue;
-        const QString name = scene.FullName(node.files.value(key));
-        layout->files[key] = name;
+        QFile file(scene.FullName(node.files.value(key)));
+        layout->files[key] = file.fileName();
         // Read now, because the file may be removed later.
-        (key == pathData ? layout->outlines : layout->descents) = Content(name);
+        if (file.open(QIODevice::ReadOnly))
+            layout->data[key] = file.readAll();
     }
     return layout;
 }
@@ -50,8 +47,8 @@ SceneNode WithoutLayout(SceneNode node, const Scene& scene)
 {
     node.attributes.remove(textKey);
     node.lists.clear();
-    node.files.remove(pathData);
-    node.files.remove(descentVector);
+    for (const QString& key : dataKeys)
+        node.files.remove(key);
     for (QString& file : node.files)
         file = scene.FullName(file);
     return node;
@@ -65,10 +62,9 @@ SceneNode NodeOf(const SignText& text, const PlaceFile& placeFile)
     const Layout& layout = *text.layout;
     node.attributes[textKey] = layout.text;
     node.lists = layout.lists;
-    for (const QString& key : {pathData, descentVector}) {
-        const bool outlines = key == pathData;
-        if (!(outlines ? layout.outlines : layout.descents).isEmpty())
-            node.files[key] = placeFile(layout, outlines);
+    for (const QString& key : dataKeys) {
+        if (!layout.data.value(key).isEmpty())
+            node.files[key] = placeFile(layout, key);
         else if (layout.files.contains(key))
             node.files[key] = layout.files.value(key);
     }
@@ -82,23 +78,13 @@ QString NameIn(const QDir& folder, const QString& file)
     return near.startsWith(QLatin1String("..")) ? file : near;
 }
 
-void MakeEmpty(Layout* layout)
-{
-    layout->outlines = PathFile({});
-    layout->descents = DescentFile({});
-    for (const char* list : {"TextWidth", "TextHeight", "TextAttribute"})
-        layout->lists[QLatin1String(list)] = {};
-}
-
 } // namespace
 
 int Sign::IndexOf(int id) const
 {
-    for (int i = 0; i < texts.size(); ++i) {
-        if (texts.at(i).id == id)
-            return i;
-    }
-    return -1;
+    const auto found = std::find_if(texts.begin(), texts.end(),
+                                    [id](const SignText& text) { return text.id == id; });
+    return found == texts.end() ? -1 : int(found - texts.begin());
 }
 
 SignText* Sign::Find(int id)
@@ -152,42 +138,6 @@ SignText NewText(const QSize& area, int page)
     return text;
 }
 
-void AddText(Sign* sign, SignText text)
-{
-    int behind = 0;
-    int area = 0;
-    for (int i = 0; i < sign->texts.size(); ++i) {
-        const SignText& other = sign->texts.at(i);
-        if (other.page <= text.page)
-            behind = i + 1;
-        if (other.page == text.page)
-            area = other.area + 1;
-    }
-    text.area = area;
-    sign->texts.insert(behind, text);
-}
-
-void RemoveText(Sign* sign, int id)
-{
-    const int index = sign->IndexOf(id);
-    if (index < 0)
-        return;
-    const SignText gone = sign->texts.takeAt(index);
-    const auto remains = [&](bool sameArea) {
-        return std::any_of(sign->texts.begin(), sign->texts.end(), [&](const SignText& text) {
-            return text.page == gone.page && (!sameArea || text.area == gone.area);
-        });
-    };
-    const bool pageRemains = remains(false);
-    const bool areaRemains = remains(true);
-    for (SignText& text : sign->texts) {
-        if (!pageRemains && text.page > gone.page)
-            --text.page;
-        else if (!areaRemains && text.page == gone.page && text.area > gone.area)
-            --text.area;
-    }
-}
-
 namespace {
 
 constexpr int aloneInArea = -1; // instead of an area number
@@ -224,6 +174,23 @@ void SetPages(Sign* sign, const Pages& pages)
     }
 }
 
+/** Puts @p text at index @p place of @p page, which may be a new one, in an area of its own. */
+void Insert(Pages* pages, SignText text, int page, int place)
+{
+    while (pages->size() <= page)
+        pages->append(QList<SignText>());
+    QList<SignText>& texts = (*pages)[page];
+    text.area = aloneInArea;
+    texts.insert(qBound(0, place, int(texts.size())), text);
+}
+
+/** The index of @p text within its page. */
+int PlaceOf(const Sign& sign, const SignText& text)
+{
+    return int(std::count_if(sign.texts.begin(), sign.texts.begin() + sign.IndexOf(text.id),
+                             [&](const SignText& other) { return other.page == text.page; }));
+}
+
 QPoint FreePlace(const Sign& sign, const SignText& text)
 {
     const QRect old(text.node.pos, text.node.size);
@@ -244,21 +211,32 @@ QPoint FreePlace(const Sign& sign, const SignText& text)
 
 } // namespace
 
+void AddText(Sign* sign, const SignText& text)
+{
+    Pages pages = PagesOf(*sign);
+    Insert(&pages, text, text.page, sign->texts.size());
+    SetPages(sign, pages);
+}
+
+void RemoveText(Sign* sign, int id)
+{
+    const int index = sign->IndexOf(id);
+    if (index < 0)
+        return;
+    sign->texts.removeAt(index);
+    SetPages(sign, PagesOf(*sign));
+}
+
 void MoveText(Sign* sign, int id, int page, int place)
 {
     const SignText* found = sign->Find(id);
     if (!found)
         return;
-    SignText text = *found;
+    const SignText text = *found;
+    const int from = PlaceOf(*sign, text);
     Pages pages = PagesOf(*sign);
-    const int from = sign->IndexOf(id) - sign->IndexOf(pages[text.page].first().id);
     pages[text.page].removeAt(from);
-    while (pages.size() <= page)
-        pages.append(QList<SignText>());
-    if (page == text.page && place > from)
-        --place;
-    text.area = aloneInArea;
-    pages[page].insert(qBound(0, place, int(pages[page].size())), text);
+    Insert(&pages, text, page, page == text.page && place > from ? place - 1 : place);
     SetPages(sign, pages);
 }
 
@@ -295,9 +273,9 @@ int DuplicateText(Sign* sign, int id)
     SignText copy = *text;
     copy.id = NewTextId();
     copy.node.pos = FreePlace(*sign, *text);
-    const int place = sign->IndexOf(id) + 1 - sign->IndexOf(PagesOf(*sign)[copy.page].first().id);
-    AddText(sign, copy);
-    MoveText(sign, copy.id, copy.page, place);
+    Pages pages = PagesOf(*sign);
+    Insert(&pages, copy, copy.page, PlaceOf(*sign, *text) + 1);
+    SetPages(sign, pages);
     return copy.id;
 }
 
@@ -328,7 +306,9 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
     auto layout = std::make_shared<Layout>();
     layout->key = LayoutKey(text);
     if (source.text.text.trimmed().isEmpty()) {
-        MakeEmpty(layout.get());
+        layout->data = {{pathData, PathFile({})}, {descentVector, DescentFile({})}};
+        for (const QString& list : ListKeys())
+            layout->lists[list] = {};
         return layout;
     }
     AuthoredNode authored;
@@ -339,8 +319,7 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
         return layout;
     layout->text = authored.node.attributes.value(textKey).toString();
     layout->lists = authored.node.lists;
-    layout->outlines = authored.pathFile;
-    layout->descents = authored.descentFile;
+    layout->data = {{pathData, authored.pathFile}, {descentVector, authored.descentFile}};
     layout->unseen = authored.unseen;
     layout->tornWords = authored.tornWords;
     layout->pages = authored.pages;
@@ -349,11 +328,13 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
     return layout;
 }
 
-Sign SignOf(const Scene& scene, const TextSources& sources)
+bool ReadSign(const QString& path, Sign* sign, QString* error)
 {
-    Sign sign;
-    sign.display = scene.display;
-    sign.alphaBlend = scene.alphaBlend;
+    Scene scene;
+    if (!ReadScene(path, &scene, error, MissingFiles::AreAccepted))
+        return false;
+    const TextSources sources = ReadSources(path);
+    *sign = {scene.display, scene.alphaBlend, {}};
     for (const Place& place : scene.Places()) {
         const SceneNode& node = scene.At(place);
         SignText text;
@@ -365,9 +346,9 @@ Sign SignOf(const Scene& scene, const TextSources& sources)
         text.node = WithoutLayout(node, scene);
         text.layoutKey = LayoutKey(text);
         text.layout = LayoutIn(scene, node, text.layoutKey);
-        sign.texts.append(text);
+        sign->texts.append(text);
     }
-    return sign;
+    return true;
 }
 
 Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile, int page)
@@ -397,13 +378,12 @@ Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile,
 Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles)
 {
     const QDir folder = QFileInfo(RealPath(path)).dir();
-    const auto place = [&](const Layout& layout, bool outlines) {
-        const QString key = outlines ? pathData : descentVector;
-        const QByteArray& content = outlines ? layout.outlines : layout.descents;
+    const auto place = [&](const Layout& layout, const QString& key) {
+        const QByteArray content = layout.data.value(key);
         const QFileInfo there(layout.files.value(key));
         if (layout.files.contains(key) && there.dir() == folder && there.exists())
             return there.fileName();
-        const QString suffix = outlines ? QStringLiteral("path") : QStringLiteral("descent");
+        const QString suffix = key == pathData ? QStringLiteral("path") : QStringLiteral("descent");
         const QString name = DataFileName(RealPath(path), content, suffix);
         dataFiles->insert(name, content);
         return name;

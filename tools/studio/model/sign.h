@@ -22,9 +22,8 @@ struct Layout
 {
     QString text; ///< with the spaces that were added as margins
     QMap<QString, QList<QHash<QString, QString>>> lists;
-    QMap<QString, QString> files; ///< data files that exist already, full names
-    QByteArray outlines;          ///< content of "PathData"
-    QByteArray descents;          ///< content of "DescentVector"
+    QMap<QString, QByteArray> data; ///< content of the files "PathData" and "DescentVector"
+    QMap<QString, QString> files;   ///< of these, those that exist already, full names
     QList<UnseenCharacter> unseen;
     QStringList tornWords;
     QStringList notes; ///< styles that no sign can show
@@ -76,7 +75,7 @@ int NewTextId();
 SignText NewText(const QSize& area, int page);
 
 /** Adds @p text after the others of its page, in a new area. */
-void AddText(Sign* sign, SignText text);
+void AddText(Sign* sign, const SignText& text);
 /** Removes the text, and its area and page if they become empty. */
 void RemoveText(Sign* sign, int id);
 
@@ -102,11 +101,14 @@ QByteArray LayoutKey(const SignText& text);
 /** Lays out @p text. Runs in any thread; needs a QGuiApplication. */
 std::shared_ptr<const Layout> MakeLayout(const SignText& text);
 
-/** The sign of a scene; texts that @p sources lacks are guessed from the scene. */
-Sign SignOf(const Scene& scene, const TextSources& sources);
+/**
+ * Reads a scene and the sources of its texts; what they lack is guessed from the scene.
+ * @return false, with one line in @p error, if the scene cannot be read
+ */
+bool ReadSign(const QString& path, Sign* sign, QString* error);
 
-/** Returns a file name for the outlines, or else for the descents, of @p layout. */
-using PlaceFile = std::function<QString(const Layout& layout, bool outlines)>;
+/** Returns a file name for the data @p key of @p layout. */
+using PlaceFile = std::function<QString(const Layout& layout, const QString& key)>;
 
 /**
  * The scene of @p sign for the file @p path. Data files with unknown content keep their names.

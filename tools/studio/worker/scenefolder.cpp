@@ -30,8 +30,8 @@ Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
     // Workers read a file when they load its scene, so it can go one generation later.
     for (auto it = written.begin(); it != written.end();) {
         if (it->layout.expired()) {
-            QFile::remove(it->name + QStringLiteral(".path"));
-            QFile::remove(it->name + QStringLiteral(".descent"));
+            for (const QString& file : it->files)
+                QFile::remove(file);
             it = written.erase(it);
         } else {
             ++it;
@@ -40,18 +40,18 @@ Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
     for (const SignText& text : sign.texts) {
         if (!text.layout || written.contains(text.layout.get()))
             continue;
-        const QString name = folder.filePath(QString::number(++next));
-        if (!Write(name + QStringLiteral(".path"), text.layout->outlines, error) ||
-            !Write(name + QStringLiteral(".descent"), text.layout->descents, error)) {
-            QFile::remove(name + QStringLiteral(".path"));
-            QFile::remove(name + QStringLiteral(".descent"));
-            return {};
+        Written& own = written[text.layout.get()];
+        own.layout = text.layout;
+        for (auto data = text.layout->data.begin(); data != text.layout->data.end(); ++data) {
+            own.files[data.key()] = folder.filePath(QString::number(++next));
+            if (!Write(own.files.value(data.key()), data.value(), error)) {
+                own.layout.reset(); // so that they are removed, and written again
+                return {};
+            }
         }
-        written.insert(text.layout.get(), {text.layout, name});
     }
-    const auto place = [this](const Layout& layout, bool outlines) {
-        const QString name = written.value(&layout).name;
-        return name + (outlines ? QStringLiteral(".path") : QStringLiteral(".descent"));
+    const auto place = [this](const Layout& layout, const QString& key) {
+        return written.value(&layout).files.value(key);
     };
     return SceneOf(sign, folder.filePath(QStringLiteral("scene.json")), place, page);
 }

@@ -33,7 +33,7 @@ private:
     struct Written
     {
         std::weak_ptr<const Layout> layout;
-        QString name;
+        QMap<QString, QString> files; // names by their keys in a scene
     };
 
     const QString place = QDir::tempPath(); // parent of the folder
