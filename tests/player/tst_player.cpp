@@ -5,8 +5,7 @@
 #include "scene/attributes.h"
 #include "scene/catalog.h"
 #include "testscene.h"
-#include "timing/pagetimes.h"
-#include "timing/simulation.h"
+#include "timing/playlength.h"
 
 #include <hneonnodebase.h>
 #include <inodeplugin.h>
@@ -98,7 +97,7 @@ private slots:
         const auto simulation = Simulate(player.get(), scene, 1, Watch(), &error).value(0);
         QCOMPARE(simulation.animationTicks, play.animationTicks);
         QCOMPARE(simulation.holdTicks, play.holdTicks);
-        QCOMPARE(int(simulation.finishedMs), play.finished < 0 ? -1 : play.finished * 66);
+        QCOMPARE(int(simulation.FinishedMs()), play.finished < 0 ? -1 : play.finished * 66);
 
         const Film film(player.get(), scene, FilmSettings());
         QCOMPARE(film.FrameCount(), play.frames);
@@ -114,7 +113,7 @@ private slots:
 
     void pagesEndWhereLongHoldsBegin_data()
     {
-        QTest::addColumn<QVector<int>>("real");
+        QTest::addColumn<QVector<int>>("actual");
         QTest::addColumn<QVector<int>>("held");
         QTest::addColumn<int>("end");
         QTest::addColumn<QString>("pages");
@@ -131,11 +130,11 @@ private slots:
 
     void pagesEndWhereLongHoldsBegin()
     {
-        QFETCH(QVector<int>, real);
+        QFETCH(QVector<int>, actual);
         QFETCH(QVector<int>, held);
         QFETCH(int, end);
         QString told;
-        for (const PageTime& page : PageTimes(real, held, end))
+        for (const PageTime& page : PageTimes(actual, held, end))
             told += QString("%1-%2-%3 ").arg(page.begin).arg(page.hold).arg(page.end);
         QTEST(told, "pages");
     }
@@ -255,7 +254,7 @@ private slots:
             const Scene scene = files.Of({files.Node({"abcdef", effect, 9, 3})});
             const int end = PlayToEnd(Load(scene), LongestPlay(scene), 1).value(0).finishedTick;
             QVERIFY(end > 0);
-            QCOMPARE(Simulate(player.get(), scene, 1, Watch(), &error).value(0).finishedMs,
+            QCOMPARE(Simulate(player.get(), scene, 1, Watch(), &error).value(0).FinishedMs(),
                      qint64(end) * 66);
         }
     }

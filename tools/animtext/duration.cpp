@@ -36,7 +36,7 @@ QString Difference(qint64 planned, qint64 actual)
                      .arg(Seconds(-difference), part);
 }
 
-QString InWords(qint64 planned, const Simulation& simulation)
+QString InWords(qint64 planned, const NodePlay& simulation)
 {
     switch (simulation.ending) {
     case Ending::ScrollsOn:
@@ -50,13 +50,13 @@ QString InWords(qint64 planned, const Simulation& simulation)
     case Ending::Finishes: break;
     }
     return QStringLiteral("Actual:  %1 (%2 of animation, %3 of holds)\n%4")
-        .arg(Seconds(simulation.finishedMs),
+        .arg(Seconds(simulation.FinishedMs()),
              Count(simulation.animationTicks, QStringLiteral("tick"), QStringLiteral("ticks")),
              Count(simulation.holdTicks, QStringLiteral("tick"), QStringLiteral("ticks")),
-             Difference(planned, simulation.finishedMs));
+             Difference(planned, simulation.FinishedMs()));
 }
 
-QByteArray JsonLine(int node, int nodes, qint64 planned, const Simulation* simulation)
+QByteArray JsonLine(int node, int nodes, qint64 planned, const NodePlay* simulation)
 {
     Json line = Json::Object();
     if (nodes > 1)
@@ -67,7 +67,7 @@ QByteArray JsonLine(int node, int nodes, qint64 planned, const Simulation* simul
     return line.Text() + '\n';
 }
 
-QByteArray ToText(int node, int nodes, qint64 planned, const Simulation* simulation)
+QByteArray ToText(int node, int nodes, qint64 planned, const NodePlay* simulation)
 {
     QString text = nodes > 1 ? QStringLiteral("Node %1: ").arg(node) : QString();
     text += QStringLiteral("planned: %1 (%2 ms)\n").arg(Seconds(planned)).arg(planned);
@@ -77,7 +77,7 @@ QByteArray ToText(int node, int nodes, qint64 planned, const Simulation* simulat
     return text.toUtf8();
 }
 
-QVector<Simulation> SimulateAll(Player* player, const Scene& scene, uint seed)
+QVector<NodePlay> SimulateAll(Player* player, const Scene& scene, uint seed)
 {
     Progress progress(QStringLiteral("simulating tick"), 0);
     const auto watch = [&](int tick) {
@@ -86,7 +86,7 @@ QVector<Simulation> SimulateAll(Player* player, const Scene& scene, uint seed)
     };
     WatchForInterruption();
     QString error;
-    const QVector<Simulation> simulations = Simulate(player, scene, seed, watch, &error);
+    const QVector<NodePlay> simulations = Simulate(player, scene, seed, watch, &error);
     StopIfInterrupted();
     if (simulations.isEmpty())
         throw Failure{BadInput, error};
@@ -99,11 +99,11 @@ void PrintTimes(const CommandLine& line, const Playing& playing, const Scene& sc
     const int nodes = player->NodeCount();
     const QVector<qint64> planned = player->Durations();
 
-    QVector<Simulation> simulations;
+    QVector<NodePlay> simulations;
     if (line.IsSet("simulate"))
         simulations = SimulateAll(player.get(), scene, playing.Seed());
     for (int node = 0; node < nodes; ++node) {
-        const Simulation* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
+        const NodePlay* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
         Print(line.IsSet("json") ? JsonLine(node, nodes, planned.at(node), simulation)
                                  : ToText(node, nodes, planned.at(node), simulation));
     }

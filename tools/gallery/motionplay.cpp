@@ -1,7 +1,6 @@
 #include "gallery/motionplay.h"
 
 #include "scene/motion.h"
-#include "timing/playlength.h"
 
 namespace AnimText {
 
@@ -54,14 +53,14 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     play->actual = player->Time();
     if (MotionOf(*scene.Nodes().first()).mode != Mode::Entrance)
         return true;
-    PagedPlay paged;
     const auto watch = [&](int) { return goOn(); };
-    if (!MeasurePages(player, scene, longest, watch, &paged, error)) {
+    const QVector<NodePlay> plays = MeasurePages(player, scene, longest, watch, error);
+    if (plays.isEmpty()) {
         if (error->isEmpty())
             *error = QStringLiteral("interrupted");
         return false;
     }
-    play->pages = paged.pages.first();
+    play->pages = plays.first().pages;
     return true;
 }
 

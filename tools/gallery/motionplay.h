@@ -7,7 +7,7 @@
 
 #include "gallery/picturesheets.h"
 #include "player/player.h"
-#include "timing/pagetimes.h"
+#include "timing/playlength.h"
 
 #include <functional>
 

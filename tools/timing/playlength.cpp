@@ -15,21 +15,9 @@ namespace AnimText {
 namespace {
 
 constexpr qint64 ticksOfADay = 24LL * 3600 * 1000 / tickLength;
-
-void Look(Player* player, int node, NodePlay* play)
-{
-    const bool playing = play->ending == Ending::TooLong;
-    if (player->Swapped(node)) {
-        if (playing)
-            ++play->frames;
-        if (play->ticksPerFrame == 0)
-            play->ticksPerFrame = player->Tick();
-    }
-    if (playing && player->State(node) == 0) {
-        play->ending = Ending::Finishes;
-        play->finishedTick = player->Tick();
-    }
-}
+constexpr int longHold = 50;    // units of 100 ms
+constexpr int certainHold = 40; // ticks without a picture that only a hold can be; none of the
+                                // speeds waits longer than 16 from one picture to the next
 
 qint64 Number(const SceneNode& node, const char* key)
 {
@@ -54,6 +42,21 @@ qint64 LongestPlay(const SceneNode& node)
     const qint64 plays = std::max<qint64>(1, Number(node, "PlayTimes"));
     const qint64 run = (frames + hold) * throttle;
     return plays > ticksOfADay / run ? ticksOfADay : plays * run;
+}
+
+Scene WithoutHolds(Scene scene)
+{
+    for (SceneNode* node : scene.Nodes())
+        node->hold = 0;
+    return scene;
+}
+
+/** Holds are unmistakable. */
+Scene WithLongHolds(Scene scene)
+{
+    for (SceneNode* node : scene.Nodes())
+        node->hold = std::min(std::max(0, node->hold), 1000) + longHold;
+    return scene;
 }
 
 } // namespace
@@ -104,19 +107,91 @@ QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch&
 {
     player->Start(seed);
     QVector<NodePlay> plays(player->NodeCount());
-    for (int node = 0; node < plays.size(); ++node) {
-        plays[node].ending = EndingAtStart(player->Scenery(), node);
-        plays[node].finishedTick = plays.at(node).ending == Ending::ScrollsOn ? 0 : -1;
-        plays[node].frames =
-            plays.at(node).ending == Ending::TooLong && player->Swapped(node) ? 1 : 0;
-    }
     const auto playing = [](const NodePlay& play) { return play.ending == Ending::TooLong; };
+    for (int node = 0; node < plays.size(); ++node) {
+        NodePlay& play = plays[node];
+        play.ending = EndingAtStart(player->Scenery(), node);
+        if (play.ending == Ending::ScrollsOn)
+            play.finishedTick = 0;
+        if (playing(play) && player->Swapped(node))
+            play.pictures.append(0);
+    }
     while (std::any_of(plays.begin(), plays.end(), playing) && player->Tick() < longest) {
         player->Advance();
-        for (int node = 0; node < plays.size(); ++node)
-            Look(player, node, &plays[node]);
+        for (int node = 0; node < plays.size(); ++node) {
+            NodePlay& play = plays[node];
+            if (!playing(play))
+                continue;
+            if (player->Swapped(node))
+                play.pictures.append(player->Tick());
+            if (player->State(node) == 0) {
+                play.ending = Ending::Finishes;
+                play.finishedTick = player->Tick();
+            }
+        }
         if (watch && !watch(player->Tick()))
-            break;
+            return {};
+    }
+    return plays;
+}
+
+QVector<NodePlay> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
+                           QString* error)
+{
+    const BlankScene blank(scene);
+    const int longest = LongestPlay(scene);
+    if (!player->Load(WithoutHolds(blank.Get()), error))
+        return {};
+    const QVector<NodePlay> moving = PlayToEnd(player, longest, seed, watch);
+    if (moving.isEmpty() || !player->Load(blank.Get(), error))
+        return {};
+    QVector<NodePlay> plays = PlayToEnd(player, longest, seed, watch);
+    for (int node = 0; node < plays.size(); ++node) {
+        NodePlay& play = plays[node];
+        // With no plays, the first check finds it finished, whatever was drawn.
+        const bool isPlayed =
+            player->Scenery().Node(node)->GetAttributeToInt(QStringLiteral("PlayTimes")) > 0;
+        if (play.ending == Ending::Finishes && isPlayed) {
+            const QVector<int>& pictures = moving.at(node).pictures;
+            play.animationTicks = pictures.size() * std::max(1, pictures.value(1));
+            play.holdTicks = play.finishedTick - moving.at(node).finishedTick;
+        }
+    }
+    return plays;
+}
+
+/** Pages end where nothing was painted for longer than anything except a hold can take. */
+QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held, int end)
+{
+    QVector<PageTime> pages;
+    const int count = std::min(actual.size(), held.size());
+    PageTime page;
+    for (int i = 0; i < count; ++i) {
+        const bool last = i + 1 == count;
+        if (!last && held.at(i + 1) - held.at(i) < certainHold)
+            continue;
+        page.hold = std::min(actual.at(i) + 1, end);
+        page.end = last ? end : actual.at(i + 1);
+        pages.append(page);
+        page.begin = page.end;
+    }
+    return pages;
+}
+
+QVector<NodePlay> MeasurePages(Player* player, const Scene& scene, int longest, const Watch& watch,
+                               QString* error)
+{
+    const BlankScene blank(scene);
+    if (!player->Load(WithLongHolds(blank.Get()), error))
+        return {};
+    const QVector<NodePlay> held = PlayToEnd(player, 3 * longest, standardSeed, watch);
+    if (held.isEmpty() || !player->Load(blank.Get(), error))
+        return {};
+    QVector<NodePlay> plays = PlayToEnd(player, longest, standardSeed, watch);
+    for (int node = 0; node < plays.size(); ++node) {
+        NodePlay& play = plays[node];
+        if (play.ending == Ending::Finishes)
+            play.pages = PageTimes(play.pictures, held.at(node).pictures, play.finishedTick);
     }
     return plays;
 }

@@ -24,13 +24,27 @@ enum class Ending {
     TooLong        ///< had not ended when the measurement stopped
 };
 
+/** A page's time on the display, in ticks from the start of its text. */
+struct PageTime
+{
+    int begin = 0; ///< its first picture
+    int hold = 0;  ///< the tick after its last picture
+    int end = 0;   ///< the first tick of what follows
+};
+
 /** Measurements of one node. */
 struct NodePlay
 {
     Ending ending = Ending::TooLong;
-    int finishedTick = -1; ///< the first tick after which it was finished; -1 never
-    int frames = 0;        ///< pictures of the text up to that tick
-    int ticksPerFrame = 0; ///< from one picture to the next; 0 when there was only one
+    int finishedTick = -1;   ///< the first tick after which it was finished; -1 never
+    QVector<int> pictures{}; ///< the ticks that brought a picture of the text, until it finished
+
+    QVector<PageTime> pages{}; ///< see MeasurePages()
+    int animationTicks = 0;    ///< see Simulate()
+    int holdTicks = 0;
+
+    /** When it was finished, milliseconds; -1 never. */
+    qint64 FinishedMs() const { return finishedTick < 0 ? -1 : qint64(finishedTick) * tickLength; }
 };
 
 /** How a node's play ends, if known at its start; otherwise TooLong. */
@@ -42,8 +56,37 @@ using Watch = std::function<bool(int tick)>;
 /**
  * Plays the loaded scene from its start until every node has ended.
  * @param longest the last tick to play
+ * @return one entry a node; empty if @p watch stopped it
  */
 QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch& watch = Watch());
+
+/**
+ * Plays @p scene without outlines to its end, and again without holds, to separate the ticks for
+ * which pictures were animated from those for which finished pages were held.
+ * @param player its scene is replaced
+ * @return one entry a node; empty if @p watch stopped it or, with one line in @p error, if the
+ * scene cannot be played
+ */
+QVector<NodePlay> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
+                           QString* error);
+
+/**
+ * Plays @p scene without outlines, twice: once with every page held so long that holds are
+ * unmistakable, then as it is, and divides the plays that finish into pages. The player is then at
+ * the end of the second play.
+ * @param longest ticks after which the second play is stopped
+ * @return as Simulate()
+ */
+QVector<NodePlay> MeasurePages(Player* player, const Scene& scene, int longest, const Watch& watch,
+                               QString* error);
+
+/**
+ * Divides a play into pages.
+ * @param actual the ticks that brought a picture, rising
+ * @param held   those of the same pictures, while pages were held for longer
+ * @param end    the tick at which the play is over
+ */
+QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held, int end);
 
 /**
  * A scene whose characters have empty outlines. Outlines are only painted, so it plays like the

@@ -16,7 +16,7 @@ constexpr int speeds[] = {0, 4, 5, 9};
 struct Times
 {
     qint64 planned = 0;
-    Simulation actual;
+    NodePlay actual;
 };
 
 Scene OnlyFirst(const Scene& scene)
@@ -59,10 +59,11 @@ QByteArray Cell(const Times& times)
     const auto seconds = [](qint64 ms) { return QByteArray::number(double(ms) / 1000, 'f', 1); };
     QByteArray real = "-";
     QByteArray difference;
-    if (times.actual.finishedMs >= 0) {
-        real = seconds(times.actual.finishedMs);
+    const qint64 finished = times.actual.FinishedMs();
+    if (finished >= 0) {
+        real = seconds(finished);
         if (times.planned > 0) {
-            const double ratio = double(times.actual.finishedMs) / double(times.planned) - 1;
+            const double ratio = double(finished) / double(times.planned) - 1;
             const QByteArray percent = QByteArray::number(100 * ratio, 'f', 0);
             difference = (percent.startsWith('-') || percent == "0" ? "" : "+") + percent + '%';
             if (difference == "-0%")
@@ -88,12 +89,11 @@ QByteArray Heading()
 
 } // namespace
 
-Json ToJson(const Simulation& simulation)
+Json ToJson(const NodePlay& play)
 {
-    return Json::Object(
-        {{"animationTicks", simulation.animationTicks},
-         {"holdTicks", simulation.holdTicks},
-         {"finishedMs", simulation.finishedMs < 0 ? Json() : Json(simulation.finishedMs)}});
+    return Json::Object({{"animationTicks", play.animationTicks},
+                         {"holdTicks", play.holdTicks},
+                         {"finishedMs", play.finishedTick < 0 ? Json() : Json(play.FinishedMs())}});
 }
 
 void PrintDurationTable(const Playing& playing, const Scene& scene, bool json)

@@ -7,11 +7,11 @@
 
 #include "animtext/shared/playoptions.h"
 #include "scene/json.h"
-#include "timing/simulation.h"
+#include "timing/playlength.h"
 
 namespace AnimText {
 
-Json ToJson(const Simulation& simulation);
+Json ToJson(const NodePlay& play);
 
 /** Prints the table for the first node of @p scene; throws Failure. */
 void PrintDurationTable(const Playing& playing, const Scene& scene, bool json);

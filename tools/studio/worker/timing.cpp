@@ -13,7 +13,7 @@ constexpr int longest = 20 * 60 * 1000 / tickLength; // ticks to measure at most
 qint64 ActualEnd(const NodePlay& play, const Player& player, Stage* stage, int node)
 {
     switch (play.ending) {
-    case Ending::Finishes: return qint64(play.finishedTick) * tickLength;
+    case Ending::Finishes: return play.FinishedMs();
     case Ending::ScrollsOn: {
         const qint64 pass = ScrollPass(*stage, node);
         return pass > 0 ? pass : player.Durations().at(node);
@@ -30,18 +30,19 @@ qint64 ActualEnd(const NodePlay& play, const Player& player, Stage* stage, int n
 bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watch& watch,
                    Timing* timing, QString* error)
 {
-    PagedPlay play;
-    if (!MeasurePages(player, scene, std::min(longest, LongestPlay(scene)), watch, &play, error))
+    const QVector<NodePlay> plays =
+        MeasurePages(player, scene, std::min(longest, LongestPlay(scene)), watch, error);
+    if (plays.isEmpty())
         return false;
 
     const QVector<qint64> durations = player->Durations();
     *timing = Timing();
-    for (int node = 0; node < play.nodes.size(); ++node) {
+    for (int node = 0; node < plays.size(); ++node) {
         TextTime text;
-        text.ending = play.nodes.at(node).ending;
+        text.ending = plays.at(node).ending;
         text.planned = durations.at(node);
-        text.actual = ActualEnd(play.nodes.at(node), *player, &player->Scenery(), node);
-        text.pages = play.pages.at(node);
+        text.actual = ActualEnd(plays.at(node), *player, &player->Scenery(), node);
+        text.pages = plays.at(node).pages;
         timing->isCut = timing->isCut || text.ending == Ending::TooLong;
         timing->length = std::max({timing->length, text.planned, text.actual});
         timing->texts.append(text);

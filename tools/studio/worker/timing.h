@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_TIMING_H
 #define ANIMTEXT_TIMING_H
 
-#include "timing/pagetimes.h"
+#include "timing/playlength.h"
 
 #include <QVector>
 
