@@ -120,7 +120,7 @@ private:
         for (int row = 0; row < list->model()->rowCount(); ++row) {
             const QModelIndex index = list->model()->index(row, 0);
             if (list->viewport()->rect().intersects(list->visualRect(index)) &&
-                !index.data(MotionModel::CurrentRole).toBool())
+                !index.data(MotionPicker::CurrentRole).toBool())
                 return false;
         }
         return true;

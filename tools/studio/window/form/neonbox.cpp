@@ -70,7 +70,7 @@ void NeonBox::ShowPictures()
         const QModelIndex index = model()->index(row, modelColumn(), rootModelIndex());
         const bool isSeen = view()->viewport()->rect().intersects(view()->visualRect(index));
         const QImage picture =
-            isSeen ? thumbnails->NeonPicture(itemData(row).toInt(), tick) : QImage();
+            isSeen ? thumbnails->Picture(neonThumbnails + row + 1, tick) : QImage();
         if (picture.isNull())
             continue;
         QPixmap lit(picture.size());

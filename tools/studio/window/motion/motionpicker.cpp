@@ -4,6 +4,7 @@
 #include "studio/window/basics/style.h"
 #include "studio/window/motion/thumbnails.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
@@ -19,23 +20,25 @@ constexpr int cardPadding = 4; // logical pixels
 constexpr double listShare = 0.45;
 const QString heightKey = QStringLiteral("motions");
 
+/** @p words from the catalog of motions in the program's language. */
+QString MotionWords(const char* words)
+{
+    return QCoreApplication::translate("Motions", words);
+}
+
 /** Paints a card: the picture on black, the title below it. */
 class MotionCard : public QStyledItemDelegate
 {
 public:
-    MotionCard(const MotionModel* motions, QObject* parent)
-        : QStyledItemDelegate(parent)
-        , motions(motions)
-    {
-    }
+    using QStyledItemDelegate::QStyledItemDelegate;
 
     /** All cards are as wide as the longest title. */
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
         int width = thumbnailSize.width();
-        for (int row = 0; row < motions->rowCount(); ++row)
+        for (const Motion& motion : Effects() + Scrolls())
             width =
-                qMax(width, option.fontMetrics.horizontalAdvance(TitleOf(motions->At(row))) + 2);
+                qMax(width, option.fontMetrics.horizontalAdvance(MotionWords(motion.title)) + 2);
         return {width + 2 * cardPadding,
                 thumbnailSize.height() + 3 * cardPadding + option.fontMetrics.height()};
     }
@@ -53,9 +56,9 @@ public:
         const QRect screen(box.left() + cardPadding, box.top() + cardPadding, thumbnailSize.width(),
                            thumbnailSize.height());
         painter->fillRect(screen, Qt::black);
-        const QImage picture = index.data(MotionModel::PictureRole).value<QImage>();
+        const QImage picture = index.data(MotionPicker::PictureRole).value<QImage>();
         // A picture of an earlier text is faint.
-        painter->setOpacity(index.data(MotionModel::CurrentRole).toBool() ? 1 : 0.4);
+        painter->setOpacity(index.data(MotionPicker::CurrentRole).toBool() ? 1 : 0.4);
         if (!picture.isNull())
             painter->drawImage(screen.topLeft(), picture);
         painter->setOpacity(1);
@@ -72,19 +75,15 @@ public:
             painter->drawRect(box.adjusted(0, 0, -1, -1));
         }
     }
-
-private:
-    const MotionModel* motions;
 };
 
 /** A handle below the list that changes its height. */
 class HeightHandle : public QWidget
 {
 public:
-    HeightHandle(MotionPicker* picker, const QWidget* list)
+    explicit HeightHandle(MotionPicker* picker)
         : QWidget(picker)
         , picker(picker)
-        , list(list)
     {
         setFixedHeight(2 * grid);
         setCursor(Qt::SplitVCursor);
@@ -92,15 +91,10 @@ public:
     }
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        from = event->globalPos().y();
-        before = list->height();
-    }
     void mouseMoveEvent(QMouseEvent* event) override
     {
         if (event->buttons() & Qt::LeftButton)
-            picker->SetListHeight(before + event->globalPos().y() - from);
+            picker->SetListHeight(picker->List()->mapFromGlobal(event->globalPos()).y());
     }
     void paintEvent(QPaintEvent*) override
     {
@@ -112,35 +106,6 @@ protected:
 
 private:
     MotionPicker* picker;
-    const QWidget* list;
-    int from = 0;
-    int before = 0;
-};
-
-/** Leaves the motions of one family, or of all, that match what was typed. */
-class MotionFilter : public QSortFilterProxyModel
-{
-public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
-
-    void Set(const QString& wanted, const QString& ofFamily)
-    {
-        search = wanted;
-        family = ofFamily;
-        invalidateFilter();
-    }
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex&) const override
-    {
-        const Motion& motion = static_cast<MotionModel*>(sourceModel())->At(row);
-        return (family.isEmpty() || family == QLatin1String(motion.family)) &&
-               Matches(motion, search);
-    }
-
-private:
-    QString search;
-    QString family;
 };
 
 } // namespace
@@ -148,8 +113,6 @@ private:
 MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     : QWidget(parent)
     , thumbnails(thumbnails)
-    , motions(new MotionModel(this))
-    , filtered(new MotionFilter(this))
     , search(new QLineEdit(this))
     , family(new QComboBox(this))
     , list(new QListView(this))
@@ -159,13 +122,24 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
     family->addItem(tr("All families"));
-    for (const QString& english : motions->Families())
-        family->addItem(TranslatedMotion(english), english);
+    for (const Motion& motion : Effects() + Scrolls()) {
+        auto* item = new QStandardItem(MotionWords(motion.title));
+        item->setEditable(false);
+        item->setData(MotionWords(motion.summary), Qt::AccessibleDescriptionRole);
+        item->setToolTip(QStringLiteral("%1 · #%2 %3\n%4")
+                             .arg(item->text(), QString::number(motion.number),
+                                  QLatin1String(motion.name), MotionWords(motion.summary)));
+        motions.appendRow(item);
+        if (family->findData(QLatin1String(motion.family)) < 0)
+            family->addItem(MotionWords(motion.family), QLatin1String(motion.family));
+    }
     family->setAccessibleName(tr("Motion family"));
     LetShrink(family);
-    filtered->setSourceModel(motions);
-    list->setModel(filtered);
-    list->setItemDelegate(new MotionCard(motions, list));
+    filtered.setSourceModel(&motions);
+    filtered.setFilterRole(WantedRole);
+    filtered.setFilterFixedString(QVariant(true).toString());
+    list->setModel(&filtered);
+    list->setItemDelegate(new MotionCard(list));
     list->setViewMode(QListView::IconMode);
     list->setResizeMode(QListView::Adjust);
     list->setMovement(QListView::Static);
@@ -188,7 +162,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     layout->setSpacing(grid);
     layout->addLayout(top);
     layout->addWidget(list, 1);
-    layout->addWidget(new HeightHandle(this, list));
+    layout->addWidget(new HeightHandle(this));
 
     connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
     connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);
@@ -203,18 +177,18 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     SetRoom(0);
     beat.setInterval(tickLength);
     connect(&beat, &QTimer::timeout, this, &MotionPicker::LookAtSight);
+    Filter();
 }
 
 void MotionPicker::Show(const SignText& text)
 {
-    shownRow = motions->RowOf(MotionOf(text.node).IsScroll(), MotionOf(text.node).number);
-    const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
-    if (index != list->currentIndex() && index.isValid()) {
-        const QSignalBlocker blocker(list->selectionModel());
+    const NodeMotion motion = MotionOf(text.node);
+    const bool scroll = motion.IsScroll();
+    const Motion* known = scroll ? FindScroll(motion.number) : FindEffect(motion.number);
+    shownRow = known ? (scroll ? Effects().size() : 0) + motion.number : -1;
+    const QModelIndex index = filtered.mapFromSource(motions.index(shownRow, 0));
+    if (index.isValid())
         list->setCurrentIndex(index);
-        list->scrollTo(index);
-        list->viewport()->update();
-    }
     if (thumbnails)
         thumbnails->SetText(text);
 }
@@ -234,18 +208,22 @@ void MotionPicker::SetListHeight(int points)
 
 void MotionPicker::Filter()
 {
-    static_cast<MotionFilter*>(filtered)->Set(search->text(), family->currentData().toString());
-    const QModelIndex index = filtered->mapFromSource(motions->index(shownRow));
-    const QSignalBlocker blocker(list->selectionModel());
-    list->setCurrentIndex(index);
+    const QList<Motion> all = Effects() + Scrolls();
+    for (int row = 0; row < all.size(); ++row) {
+        const Motion& motion = all.at(row);
+        const bool isOfFamily =
+            family->currentIndex() == 0 || family->currentData() == QLatin1String(motion.family);
+        motions.item(row)->setData(isOfFamily && Matches(motion, search->text()), WantedRole);
+    }
+    list->setCurrentIndex(filtered.mapFromSource(motions.index(shownRow, 0)));
 }
 
 void MotionPicker::Choose(const QModelIndex& index)
 {
-    const int row = filtered->mapToSource(index).row();
-    if (row < 0 || row == shownRow)
-        return;
-    emit Chosen(motions->IsScroll(row), motions->At(row).number);
+    const int row = filtered.mapToSource(index).row();
+    const int effects = Effects().size();
+    if (row >= 0 && row != shownRow)
+        emit Chosen(row >= effects, row >= effects ? row - effects : row);
 }
 
 void MotionPicker::showEvent(QShowEvent*)
@@ -265,19 +243,13 @@ void MotionPicker::LookAtSight()
     if (list->visibleRegion().isEmpty() || window()->isMinimized())
         return;
     ++tick;
-    for (int row = 0; row < filtered->rowCount(); ++row) {
-        const QModelIndex index = filtered->index(row, 0);
-        const QRect place = list->visualRect(index);
-        if (!list->viewport()->visibleRegion().intersects(place))
+    for (int row = 0; row < filtered.rowCount(); ++row) {
+        const QModelIndex index = filtered.index(row, 0);
+        if (!list->viewport()->visibleRegion().intersects(list->visualRect(index)))
             continue;
-        const int motion = filtered->mapToSource(index).row();
-        const bool scroll = motions->IsScroll(motion);
-        const int number = motions->At(motion).number;
-        const QImage picture = thumbnails->Picture(scroll, number, tick);
-        const bool isCurrent = thumbnails->IsCurrent(scroll, number);
-        if (picture.cacheKey() != index.data(MotionModel::PictureRole).value<QImage>().cacheKey() ||
-            isCurrent != index.data(MotionModel::CurrentRole).toBool())
-            motions->SetPicture(motion, picture, isCurrent);
+        const int motion = filtered.mapToSource(index).row();
+        filtered.setData(index, thumbnails->Picture(motion, tick), PictureRole);
+        filtered.setData(index, thumbnails->IsCurrent(motion), CurrentRole);
     }
 }
 
@@ -302,7 +274,7 @@ bool MotionPicker::eventFilter(QObject* object, QEvent* event)
         if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return) {
             list->setFocus();
             if (!list->currentIndex().isValid())
-                list->setCurrentIndex(filtered->index(0, 0));
+                list->setCurrentIndex(filtered.index(0, 0));
             return true;
         }
     }

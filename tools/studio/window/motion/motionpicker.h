@@ -6,12 +6,12 @@
 #define ANIMTEXT_MOTIONPICKER_H
 
 #include "studio/model/sign.h"
-#include "studio/window/motion/motionmodel.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
+#include <QStandardItemModel>
 #include <QTimer>
 
 namespace AnimText {
@@ -23,6 +23,8 @@ class MotionPicker : public QWidget
     Q_OBJECT
 
 public:
+    enum Role { PictureRole = Qt::UserRole, CurrentRole, WantedRole };
+
     /** @param thumbnails paints the visible motions; null shows only names */
     explicit MotionPicker(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
@@ -49,8 +51,8 @@ private:
     void Spread();
 
     Thumbnails* thumbnails;
-    MotionModel* motions;
-    QSortFilterProxyModel* filtered;
+    QStandardItemModel motions; // the effects, followed by the scrolls
+    QSortFilterProxyModel filtered;
     QLineEdit* search;
     QComboBox* family;
     QListView* list;

@@ -5,8 +5,6 @@
 namespace AnimText {
 namespace {
 
-constexpr int scrollKeys = 1000;
-constexpr int neonKeys = 2000;
 constexpr int plainEffect = 4; // shown before a neon background: Typewriter
 constexpr int loopTicks = 90;  // of a thumbnail, with the pause at its end
 constexpr int neonTicks = 30;
@@ -14,11 +12,11 @@ constexpr int shownUnits = 12; // first UTF-16 units of the text
 constexpr int quickSpeed = 7;
 
 /** The start of @p text in a thumbnail's size, with another motion or a neon background. */
-SignText Sample(SignText text, int key)
+SignText Sample(SignText text, int shown)
 {
-    const bool neon = key >= neonKeys;
-    const bool scroll = !neon && key >= scrollKeys;
-    const int number = neon ? plainEffect : scroll ? key - scrollKeys : key;
+    const bool neon = shown >= neonThumbnails;
+    const bool scroll = !neon && shown >= Effects().size();
+    const int number = neon ? plainEffect : scroll ? shown - Effects().size() : shown;
     StyledText& styled = text.source.text;
     int units = std::min(shownUnits, int(styled.text.size()));
     if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
@@ -48,7 +46,7 @@ SignText Sample(SignText text, int key)
     SetMotion(&node, motion);
     if (neon) {
         node.hold = neonTicks;
-        node.neonEffect = key - neonKeys;
+        node.neonEffect = shown - neonThumbnails;
         node.attributes[QStringLiteral("CheckNeonBg")] = 1;
     }
     text.node = node;
@@ -82,43 +80,19 @@ void Thumbnails::SetText(const SignText& next)
     text = next;
     ++textNumber;
     waiting.clear();
-    for (Loop& loop : loops)
-        loop.isAsked = false;
 }
 
-QImage Thumbnails::Picture(bool scroll, int number, int tick)
-{
-    return PictureOf(scroll ? scrollKeys + number : number, tick);
-}
-
-QImage Thumbnails::NeonPicture(int style, int tick)
-{
-    return PictureOf(neonKeys + style, tick);
-}
-
-QImage Thumbnails::PictureOf(int key, int tick)
+QImage Thumbnails::Picture(int motion, int tick)
 {
     if (textNumber == 0)
         return {};
-    const Loop& loop = loops[key];
-    if (loop.text != textNumber && !loop.isAsked)
-        Ask(key);
-    if (loop.pictures.isEmpty())
-        return {};
-    return loop.pictures.at(tick % loop.pictures.size());
-}
-
-bool Thumbnails::IsCurrent(bool scroll, int number) const
-{
-    return loops.value(scroll ? scrollKeys + number : number).text == textNumber;
-}
-
-void Thumbnails::Ask(int key)
-{
-    loops[key].isAsked = true;
-    waiting.append(key);
-    ++asked;
-    Next();
+    Loop& loop = loops[motion];
+    if (loop.asked != textNumber) {
+        loop.asked = textNumber;
+        waiting.append(motion);
+        Next();
+    }
+    return loop.pictures.isEmpty() ? QImage() : loop.pictures.at(tick % loop.pictures.size());
 }
 
 void Thumbnails::Next()
@@ -128,8 +102,8 @@ void Thumbnails::Next()
     current = waiting.takeFirst();
     currentText = textNumber;
     made.clear();
-    pool.start([this, key = current, from = text, of = ++generation] {
-        SignText sample = Sample(from, key);
+    pool.start([this, motion = current, from = text, of = ++generation] {
+        SignText sample = Sample(from, motion);
         sample.layoutKey = LayoutKey(sample);
         sample.layout = MakeLayout(sample);
         Sign sign;
@@ -145,7 +119,7 @@ void Thumbnails::Next()
         order.generation = of;
         order.scene = SceneToJson(scene);
         order.path = scene.path;
-        order.last = (key >= neonKeys ? neonTicks : loopTicks) - 1;
+        order.last = (motion >= neonThumbnails ? neonTicks : loopTicks) - 1;
         QMetaObject::invokeMethod(this, [this, order, layout = sample.layout] {
             playing = layout;
             link.Send(order);

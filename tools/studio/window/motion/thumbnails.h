@@ -17,6 +17,7 @@
 namespace AnimText {
 
 constexpr QSize thumbnailSize{160, 40}; ///< pixels
+constexpr int neonThumbnails = 1000;
 
 class Thumbnails : public QObject
 {
@@ -29,25 +30,23 @@ public:
 
     /** Sets the text of all pictures; old pictures remain until new ones are ready. */
     void SetText(const SignText& text);
-    /** The picture of a motion at @p tick of its loop; null until the worker has painted it. */
-    QImage Picture(bool scroll, int number, int tick);
+    /**
+     * The picture of @p motion at @p tick of its loop; null until the worker has painted it.
+     * @param motion an effect's number; a scroll's, after the effects; or neonThumbnails and a
+     * neon background's border style, 1 to 28
+     */
+    QImage Picture(int motion, int tick);
     /** Whether Picture() shows the present text. */
-    bool IsCurrent(bool scroll, int number) const;
-    /** Like Picture(), for a neon background with the border @p style, 1 to 28. */
-    QImage NeonPicture(int style, int tick);
-    /** Number of motions and styles requested so far. */
-    int Asked() const { return asked; }
+    bool IsCurrent(int motion) const { return loops.value(motion).text == textNumber; }
 
 private:
     struct Loop
     {
         QVector<QImage> pictures;
-        int text = 0; ///< number of the text that they show
-        bool isAsked = false;
+        int text = 0;  ///< number of the text that they show
+        int asked = 0; ///< number of the text that they were requested for
     };
 
-    QImage PictureOf(int key, int tick);
-    void Ask(int key);
     void Next();
     void TakeAnswer(const Answer& answer);
     void Finish();
@@ -55,7 +54,7 @@ private:
     WorkerLink link;
     SceneFolder folder;
     QThreadPool pool;
-    QHash<int, Loop> loops; // by effect; scrolls from 1000, neon styles from 2000
+    QHash<int, Loop> loops; // by motion
     QList<int> waiting;
     SignText text;
     int textNumber = 0;
@@ -64,7 +63,6 @@ private:
     quint32 generation = 0;
     QVector<QImage> made;
     std::shared_ptr<const Layout> playing; // keeps the layout's files
-    int asked = 0;
 };
 
 } // namespace AnimText
