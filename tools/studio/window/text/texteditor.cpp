@@ -2,13 +2,12 @@
 
 #include "author/markup.h"
 #include "author/textsource.h"
-#include "studio/window/text/styledformat.h"
-
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
+#include <QTextBlock>
 #include <QTextDocumentFragment>
 
 #include <memory>
@@ -18,6 +17,8 @@ namespace {
 
 const QString ownFormat = QStringLiteral("application/x-animtext-text");
 const QByteArray ownKey = "text";
+constexpr int sizeProperty = QTextFormat::UserProperty + 1; // size on the sign in pixels
+constexpr int readingSize = 20;                             // pixels
 
 /** Whether @p source has text, and not only pictures or other formats. */
 bool HasWords(const QMimeData* source)
@@ -44,6 +45,54 @@ StyledText OnOneLine(StyledText text)
     return text;
 }
 
+/**
+ * A character format that stores all of @p run. Letters are shown at a readable size; the size on
+ * the sign is stored as a property.
+ * @param common size in pixels that is shown at the reading size
+ */
+QTextCharFormat FormatOf(const StyleRun& run, int common)
+{
+    QTextCharFormat format;
+    QFont font = run.font;
+    const int size = run.font.pixelSize();
+    font.setPixelSize(qBound(10, qRound(size * double(readingSize) / qMax(1, common)), 48));
+    format.setFont(font);
+    format.setForeground(run.color);
+    format.setProperty(sizeProperty, size);
+    return format;
+}
+
+/** The style stored in @p format; @p base supplies what is missing. */
+StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base)
+{
+    StyleRun run = base;
+    run.begin = 0;
+    if (!format.hasProperty(sizeProperty))
+        return run;
+    QFont font(format.font().family());
+    font.setBold(format.font().bold());
+    font.setItalic(format.font().italic());
+    font.setUnderline(format.font().underline());
+    font.setPixelSize(qMax(1, format.intProperty(sizeProperty)));
+    run.font = font;
+    run.color = format.foreground().color();
+    return run;
+}
+
+/** Replaces the selection of @p cursor with @p text. */
+void Insert(const StyledText& text, int common, QTextCursor* cursor)
+{
+    cursor->beginEditBlock();
+    cursor->removeSelectedText();
+    for (int i = 0; i < text.runs.size(); ++i) {
+        const int begin = text.runs.at(i).begin;
+        const int end = i + 1 < text.runs.size() ? text.runs.at(i + 1).begin : text.text.size();
+        cursor->setCharFormat(FormatOf(text.runs.at(i), common));
+        cursor->insertText(text.text.mid(begin, end - begin), FormatOf(text.runs.at(i), common));
+    }
+    cursor->endEditBlock();
+}
+
 } // namespace
 
 TextEditor::TextEditor(QWidget* parent)
@@ -55,7 +104,28 @@ TextEditor::TextEditor(QWidget* parent)
 
 StyledText TextEditor::Styled() const
 {
-    return Read(*document(), base);
+    StyledText text;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        if (block != document()->begin())
+            text.Append(QStringLiteral(" "), text.runs.isEmpty() ? base : text.runs.last());
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            QString part = it.fragment().text();
+            // Soft line breaks and embedded pictures.
+            part.replace(QChar::LineSeparator, QLatin1Char(' '));
+            part.remove(QChar::ObjectReplacementCharacter);
+            text.Append(part, StyleOf(it.fragment().charFormat(), base));
+        }
+    }
+    if (text.runs.isEmpty())
+        text.runs = {StyleOf(document()->begin().charFormat(), base)};
+    return text;
+}
+
+void TextEditor::SetStyled(const StyledText& text)
+{
+    QTextCursor cursor(document());
+    cursor.select(QTextCursor::Document);
+    Insert(text, base.font.pixelSize(), &cursor);
 }
 
 StyleRun TextEditor::CurrentStyle() const
@@ -66,7 +136,7 @@ StyleRun TextEditor::CurrentStyle() const
     return StyleOf(cursor.charFormat(), base);
 }
 
-void TextEditor::PutIn(const StyledText& text)
+void TextEditor::Paste(const StyledText& text)
 {
     emit StepEnded();
     QTextCursor cursor = textCursor();
@@ -80,7 +150,9 @@ QMimeData* TextEditor::createMimeDataFromSelection() const
 {
     const QTextCursor cursor = textCursor();
     TextSource source;
-    source.text = PartOf(Styled(), cursor.selectionStart(), cursor.selectionEnd());
+    const StyledText all = Styled();
+    for (int i = cursor.selectionStart(); i < cursor.selectionEnd(); ++i)
+        source.text.Append(all.text.mid(i, 1), all.At(i));
     auto* data = new QMimeData;
     data->setText(source.text.text);
     data->setHtml(cursor.selection().toHtml());
@@ -103,7 +175,7 @@ void TextEditor::insertFromMimeData(const QMimeData* source)
         text = own.value(ownKey).text;
     else
         text.Append(WordsIn(source), CurrentStyle());
-    PutIn(OnOneLine(text));
+    Paste(OnOneLine(text));
 }
 
 void TextEditor::PasteWithStyles()
@@ -122,7 +194,7 @@ void TextEditor::PasteWithStyles()
     // Black letters of a web page would be invisible on the sign.
     for (StyleRun& run : text.runs)
         run.color = current.color;
-    PutIn(OnOneLine(text));
+    Paste(OnOneLine(text));
 }
 
 void TextEditor::contextMenuEvent(QContextMenuEvent* event)

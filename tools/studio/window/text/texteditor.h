@@ -26,6 +26,7 @@ public:
     void SetBase(const StyleRun& style) { base = style; }
     /** The whole text. */
     StyledText Styled() const;
+    void SetStyled(const StyledText& text);
     /** The style of the first selected letter, or of the next one to be typed. */
     StyleRun CurrentStyle() const;
     /** Pastes text with bold, italic, underline, sizes and fonts, but not its colors. */
@@ -44,7 +45,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void PutIn(const StyledText& text);
+    void Paste(const StyledText& text);
 
     StyleRun base;
 };

@@ -1,22 +1,17 @@
 #include "studio/window/text/textpanel.h"
 
 #include "studio/window/basics/style.h"
-#include "studio/window/text/styledformat.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
 #include <QFontDatabase>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QRawFont>
-#include <QTextBlock>
 #include <QToolTip>
 #include <QVBoxLayout>
-#include <QWidgetAction>
 
 #include <algorithm>
 
@@ -56,6 +51,25 @@ QIcon ColorIcon(const QColor& color)
     pixmap.fill(QColor(128, 128, 128)); // a frame that is visible on any palette
     QPainter(&pixmap).fillRect(2, 2, 28, 28, color);
     return pixmap;
+}
+
+/** @p text with its units in other styles. */
+StyledText Restyled(const StyledText& text,
+                    const std::function<void(int unit, StyleRun* run)>& change)
+{
+    StyledText styled;
+    styled.sized = text.sized;
+    for (int i = 0; i < text.text.size(); ++i) {
+        StyleRun run = text.At(i);
+        change(i, &run);
+        styled.Append(text.text.mid(i, 1), run);
+    }
+    return styled;
+}
+
+int UnitsOf(const UnseenCharacter& character)
+{
+    return QChar::requiresSurrogates(character.codePoint) ? 2 : 1;
 }
 
 } // namespace
@@ -110,16 +124,25 @@ TextPanel::TextPanel(QWidget* parent)
     connect(editor, &QTextEdit::selectionChanged, this, &TextPanel::ShowStyle);
 }
 
-QToolButton* TextPanel::MakeTool(const QString& words, const QKeySequence& key, const QString& name)
+/** Makes a button that turns a property of the font on and off. */
+QToolButton* TextPanel::MakeFace(const QString& letter, const QKeySequence& key,
+                                 const QString& name, bool (QFont::*has)() const,
+                                 void (QFont::*set)(bool))
 {
     auto* button = new QToolButton(this);
-    button->setText(words);
+    button->setText(letter);
     button->setCheckable(true);
     button->setAutoRaise(true);
     button->setFixedWidth(28);
     button->setShortcut(key);
     button->setAccessibleName(name);
     button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key.toString(QKeySequence::NativeText)));
+    QFont font = button->font();
+    (font.*set)(true);
+    button->setFont(font);
+    connect(button, &QToolButton::clicked, this,
+            [this, set](bool on) { Restyle([=](StyleRun* run) { (run->font.*set)(on); }); });
+    faces.append({button, has});
     return button;
 }
 
@@ -136,18 +159,6 @@ void TextPanel::MakeTools(QWidget* row)
     size->SetLimits(4, 2000);
     size->setAccessibleName(tr("Size"));
     size->setToolTip(tr("Font size in pixels on the sign"));
-    bold = MakeTool(tr("B"), QKeySequence::Bold, tr("Bold"));
-    italic = MakeTool(tr("I"), QKeySequence::Italic, tr("Italic"));
-    underline = MakeTool(tr("U"), QKeySequence::Underline, tr("Underline"));
-    QFont font = bold->font();
-    font.setBold(true);
-    bold->setFont(font);
-    font.setBold(false);
-    font.setItalic(true);
-    italic->setFont(font);
-    font.setItalic(false);
-    font.setUnderline(true);
-    underline->setFont(font);
     color = new QToolButton(row);
     color->setAutoRaise(true);
     color->setPopupMode(QToolButton::InstantPopup);
@@ -158,20 +169,17 @@ void TextPanel::MakeTools(QWidget* row)
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(grid / 2);
-    layout->addWidget(bold);
-    layout->addWidget(italic);
-    layout->addWidget(underline);
+    layout->addWidget(
+        MakeFace(tr("B"), QKeySequence::Bold, tr("Bold"), &QFont::bold, &QFont::setBold));
+    layout->addWidget(
+        MakeFace(tr("I"), QKeySequence::Italic, tr("Italic"), &QFont::italic, &QFont::setItalic));
+    layout->addWidget(MakeFace(tr("U"), QKeySequence::Underline, tr("Underline"), &QFont::underline,
+                               &QFont::setUnderline));
     layout->addWidget(color);
     layout->addSpacing(grid);
     layout->addWidget(family, 1);
     layout->addWidget(size);
 
-    connect(bold, &QToolButton::clicked, this,
-            [this](bool on) { Restyle([on](StyleRun* run) { run->font.setBold(on); }); });
-    connect(italic, &QToolButton::clicked, this,
-            [this](bool on) { Restyle([on](StyleRun* run) { run->font.setItalic(on); }); });
-    connect(underline, &QToolButton::clicked, this,
-            [this](bool on) { Restyle([on](StyleRun* run) { run->font.setUnderline(on); }); });
     connect(family, &QFontComboBox::currentFontChanged, this, [this](const QFont& font) {
         if (!filling)
             Restyle([&](StyleRun* run) { run->font.setFamily(font.family()); });
@@ -202,29 +210,18 @@ void TextPanel::FillColors()
     color->setMenu(menu);
 }
 
-void TextPanel::Show(const SignText* text)
+void TextPanel::Show(const SignText* wanted)
 {
-    setEnabled(text != nullptr);
-    if (!text) {
-        filling = true;
-        shown = StyledText();
-        shownId = 0;
-        editor->clear();
-        editor->setExtraSelections({});
-        notes->hide();
-        otherFont->hide();
-        filling = false;
-        return;
-    }
-    base = text->source.text.runs.first();
-    editor->SetBase(base);
-    if (text->id != shownId || !(text->source.text == shown)) {
+    setEnabled(wanted != nullptr);
+    const SignText text = wanted ? *wanted : SignText();
+    editor->SetBase(text.source.text.runs.value(0));
+    if (text.id != shownId || !(text.source.text == shown)) {
         const int anchor = editor->textCursor().anchor();
         const int position = editor->textCursor().position();
         filling = true;
-        shown = text->source.text;
-        Write(shown, editor->document());
-        if (text->id == shownId) {
+        shown = text.source.text;
+        editor->SetStyled(shown);
+        if (text.id == shownId) {
             const int last = shown.text.size();
             QTextCursor cursor = editor->textCursor();
             cursor.setPosition(qMin(anchor, last));
@@ -233,11 +230,11 @@ void TextPanel::Show(const SignText* text)
         } else {
             ++gesture;
         }
-        shownId = text->id;
+        shownId = text.id;
         filling = false;
         ShowStyle();
     }
-    ShowNotes(*text);
+    ShowNotes(text);
 }
 
 void TextPanel::BeginTyping()
@@ -252,9 +249,8 @@ void TextPanel::ShowStyle()
         return;
     const StyleRun style = editor->CurrentStyle();
     filling = true;
-    bold->setChecked(style.font.bold());
-    italic->setChecked(style.font.italic());
-    underline->setChecked(style.font.underline());
+    for (const auto& face : faces)
+        face.first->setChecked((style.font.*face.second)());
     family->setCurrentFont(QFont(style.font.family()));
     size->ShowNumber(style.font.pixelSize());
     color->setIcon(ColorIcon(style.color));
@@ -274,14 +270,10 @@ void TextPanel::Restyle(const std::function<void(StyleRun*)>& change, int drag)
     QTextCursor cursor = editor->textCursor();
     const int begin = cursor.hasSelection() ? cursor.selectionStart() : 0;
     const int end = cursor.hasSelection() ? cursor.selectionEnd() : shown.text.size();
-    StyledText styled;
-    styled.sized = shown.sized;
-    for (int i = 0; i < shown.text.size(); ++i) {
-        StyleRun run = shown.At(i);
-        if (i >= begin && i < end)
-            change(&run);
-        styled.Append(shown.text.mid(i, 1), run);
-    }
+    StyledText styled = Restyled(shown, [&](int unit, StyleRun* run) {
+        if (unit >= begin && unit < end)
+            change(run);
+    });
     if (styled.runs.isEmpty()) {
         styled.runs = shown.runs;
         change(&styled.runs.first());
@@ -307,7 +299,7 @@ void TextPanel::Tell()
 /** Gives letters without an outline the first font that has one. */
 void TextPanel::UseOtherFonts()
 {
-    QHash<int, QString> found; // font family by index
+    QHash<int, QString> found; // font family by unit
     const QStringList families = QFontDatabase().families();
     for (const UnseenCharacter& character : unseen) {
         const auto has = [&](const QString& family) {
@@ -320,85 +312,69 @@ void TextPanel::UseOtherFonts()
                    !raw.pathForGlyph(glyphs.first()).isEmpty();
         };
         const auto family = std::find_if(families.begin(), families.end(), has);
-        if (family != families.end())
-            found.insert(character.index, *family);
+        for (int i = 0; family != families.end() && i < UnitsOf(character); ++i)
+            found.insert(character.index + i, *family);
     }
     if (found.isEmpty()) {
         notes->setText(notes->text() + QLatin1Char('\n') + tr("No installed font has them."));
         otherFont->hide();
         return;
     }
-    StyledText styled;
-    styled.sized = shown.sized;
-    for (int i = 0; i < shown.text.size(); ++i) {
-        StyleRun run = shown.At(i);
-        const bool isSecond = i > 0 && shown.text.at(i).isLowSurrogate();
-        if (found.contains(isSecond ? i - 1 : i))
-            run.font.setFamily(found.value(isSecond ? i - 1 : i));
-        styled.Append(shown.text.mid(i, 1), run);
-    }
     ++gesture;
-    emit Edited(styled, gesture);
+    const auto change = [&](int unit, StyleRun* run) {
+        run->font.setFamily(found.value(unit, run->font.family()));
+    };
+    emit Edited(Restyled(shown, change), gesture);
     ++gesture;
+}
+
+/** Underlines @p character, which the sign will not show, and says why. */
+QTextEdit::ExtraSelection TextPanel::MarkOf(const UnseenCharacter& character) const
+{
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = QTextCursor(editor->document());
+    mark.cursor.setPosition(character.index);
+    mark.cursor.setPosition(character.index + UnitsOf(character), QTextCursor::KeepAnchor);
+    mark.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+    mark.format.setUnderlineColor(QColor(255, 80, 80));
+    const QString why =
+        character.missing
+            ? tr("Will be missing: neither %1 nor any other installed font has it.")
+            : tr("Will be missing: its font has a picture instead of an outline (font: %1).");
+    mark.format.setToolTip(why.arg(shown.At(character.index).font.family()));
+    return mark;
 }
 
 /** Shows below the field what the sign will not show. */
 void TextPanel::ShowNotes(const SignText& text)
 {
+    const Layout layout = text.IsLaidOut() ? *text.layout : Layout();
+    unseen = layout.unseen;
     QStringList lines;
+    QStringList letters;
     QList<QTextEdit::ExtraSelection> marks;
-    if (text.IsLaidOut()) {
-        const Layout& layout = *text.layout;
-        if (!layout.fault.isEmpty())
-            lines.append(layout.fault);
-        QStringList letters;
-        unseen = QVector<UnseenCharacter>(layout.unseen.begin(), layout.unseen.end());
-        for (const UnseenCharacter& character : layout.unseen) {
-            QTextEdit::ExtraSelection mark;
-            mark.cursor = QTextCursor(editor->document());
-            const int last = shown.text.size();
-            mark.cursor.setPosition(qMin(character.index, last));
-            mark.cursor.setPosition(
-                qMin(character.index + (QChar::requiresSurrogates(character.codePoint) ? 2 : 1),
-                     last),
-                QTextCursor::KeepAnchor);
-            mark.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-            mark.format.setUnderlineColor(QColor(255, 80, 80));
-            const QString asked = shown.At(character.index).font.family();
-            mark.format.setToolTip(
-                (character.missing
-                     ? tr("Will be missing: neither %1 nor any other installed font has it.")
-                     : tr("Will be missing: its font has a picture instead of an outline (font: "
-                          "%1)."))
-                    .arg(asked));
-            marks.append(mark);
-            letters.append(QStringLiteral("%1 (U+%2)")
-                               .arg(QString::fromUcs4(&character.codePoint, 1),
-                                    QString::number(character.codePoint, 16)
-                                        .toUpper()
-                                        .rightJustified(4, QLatin1Char('0'))));
-        }
-        if (!letters.isEmpty())
-            lines.append(
-                tr("Not in any font, will be missing: %1")
-                    .arg(QStringList(letters.mid(0, mostShown)).join(QStringLiteral(", "))));
-        if (!layout.tornWords.isEmpty())
-            lines.append(
-                tr("Wider than a page, will be split: %1")
-                    .arg(
-                        QStringList(layout.tornWords.mid(0, mostShown)).join(QLatin1String(", "))));
-        if (layout.cutAbove > 0 || layout.cutBelow > 0)
-            lines.append(tr("Letters are cut off: %1 px at the top, %2 px at the bottom.")
-                             .arg(layout.cutAbove)
-                             .arg(layout.cutBelow));
+    for (const UnseenCharacter& character : unseen) {
+        marks.append(MarkOf(character));
+        letters.append(QString::fromUcs4(&character.codePoint, 1) +
+                       QString::asprintf(" (U+%04X)", character.codePoint));
     }
+    const auto few = [](const QStringList& words) {
+        return QStringList(words.mid(0, mostShown)).join(QStringLiteral(", "));
+    };
+    if (!layout.fault.isEmpty())
+        lines.append(layout.fault);
+    if (!letters.isEmpty())
+        lines.append(tr("Not in any font, will be missing: %1").arg(few(letters)));
+    if (!layout.tornWords.isEmpty())
+        lines.append(tr("Wider than a page, will be split: %1").arg(few(layout.tornWords)));
+    if (layout.cutAbove > 0 || layout.cutBelow > 0)
+        lines.append(tr("Letters are cut off: %1 px at the top, %2 px at the bottom.")
+                         .arg(layout.cutAbove)
+                         .arg(layout.cutBelow));
     const QVector<StyleRun>& runs = text.source.text.runs;
-    for (const StyleRun& run : runs) {
-        if (run.color != runs.first().color) {
-            lines.append(tr("The sign uses the first character's color for the whole text."));
-            break;
-        }
-    }
+    if (std::any_of(runs.begin(), runs.end(),
+                    [&](const StyleRun& run) { return run.color != runs.first().color; }))
+        lines.append(tr("The sign uses the first character's color for the whole text."));
     otherFont->setVisible(!marks.isEmpty());
     editor->setExtraSelections(marks);
     notes->setText(lines.join(QLatin1Char('\n')));

@@ -40,10 +40,12 @@ protected:
 
 private:
     void MakeTools(QWidget* row);
-    QToolButton* MakeTool(const QString& words, const QKeySequence& key, const QString& name);
+    QToolButton* MakeFace(const QString& letter, const QKeySequence& key, const QString& name,
+                          bool (QFont::*has)() const, void (QFont::*set)(bool));
     void FillColors();
     void Restyle(const std::function<void(StyleRun*)>& change, int drag = -1);
     void ShowStyle();
+    QTextEdit::ExtraSelection MarkOf(const UnseenCharacter& character) const;
     void ShowNotes(const SignText& text);
     void UseOtherFonts();
     void Tell();
@@ -51,17 +53,14 @@ private:
     TextEditor* editor;
     QFontComboBox* family;
     NumberField* size;
-    QToolButton* bold;
-    QToolButton* italic;
-    QToolButton* underline;
+    QVector<QPair<QToolButton*, bool (QFont::*)() const>> faces; // bold, italic, underline
     QToolButton* color;
     QLabel* notes;
     QPushButton* otherFont; // replaces fonts that lack letters
-    QVector<UnseenCharacter> unseen;
+    QList<UnseenCharacter> unseen;
     QTimer pause;
     int shownId = 0;
     StyledText shown;
-    StyleRun base;
     int gesture = 0;
     int styling = -1;     // gesture of a style's drag; negative for none
     bool filling = false; // the fields are following the cursor
