@@ -6,9 +6,7 @@
 
 #include <QFileInfo>
 #include <QFontDatabase>
-#include <QFormLayout>
 #include <QHBoxLayout>
-#include <QHideEvent>
 #include <QPainter>
 #include <QSettings>
 #include <QVBoxLayout>
@@ -81,20 +79,9 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     : QDialog(parent)
     , display(display)
     , scenePath(scenePath)
-    , protocol(new QComboBox(this))
     , host(new QLineEdit(this))
-    , left(new QSpinBox(this))
-    , top(new QSpinBox(this))
-    , columns(new QSpinBox(this))
-    , rows(new QSpinBox(this))
-    , direction(new QComboBox(this))
     , serpentine(new QCheckBox(tr("Serpentine"), this))
-    , corner(new QComboBox(this))
-    , turn(new QComboBox(this))
-    , order(new QComboBox(this))
     , gamma(new QDoubleSpinBox(this))
-    , brightness(new QSpinBox(this))
-    , universe(new QSpinBox(this))
     , wiring(new WiringView(this))
     , command(new QLineEdit(this))
     , state(new QLabel(this))
@@ -102,41 +89,10 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     , start(new QPushButton(this))
 {
     setWindowTitle(tr("Play on LEDs"));
-    protocol->addItem(QStringLiteral("DDP"), QStringLiteral("ddp"));
-    protocol->addItem(QStringLiteral("E1.31 (sACN)"), QStringLiteral("sacn"));
-    protocol->addItem(QStringLiteral("Art-Net"), QStringLiteral("artnet"));
-    host->setPlaceholderText(tr("Name or address, such as wall.local"));
-    direction->addItem(tr("Rows"), QStringLiteral("rows"));
-    direction->addItem(tr("Columns"), QStringLiteral("columns"));
-    corner->addItem(tr("Top left"), QStringLiteral("top-left"));
-    corner->addItem(tr("Top right"), QStringLiteral("top-right"));
-    corner->addItem(tr("Bottom left"), QStringLiteral("bottom-left"));
-    corner->addItem(tr("Bottom right"), QStringLiteral("bottom-right"));
-    for (int degrees : {0, 90, 180, 270})
-        turn->addItem(tr("%1°").arg(degrees), QStringLiteral("rotate-%1").arg(degrees));
-    order->addItems({QStringLiteral("RGB"), QStringLiteral("RBG"), QStringLiteral("GRB"),
-                     QStringLiteral("GBR"), QStringLiteral("BRG"), QStringLiteral("BGR")});
-    left->setMaximum(display.width() - 1);
-    top->setMaximum(display.height() - 1);
-    columns->setRange(1, display.width());
-    rows->setRange(1, display.height());
-    columns->setValue(display.width());
-    rows->setValue(display.height());
-    for (QSpinBox* box : {left, top, columns, rows})
-        box->setSuffix(tr(" px"));
-    gamma->setRange(1, 4);
-    gamma->setSingleStep(0.1);
-    gamma->setDecimals(1);
-    gamma->setSpecialValueText(tr("Off"));
-    brightness->setRange(0, 100);
-    brightness->setValue(100);
-    brightness->setSuffix(tr(" %"));
-    universe->setRange(0, 63999);
-    universe->setValue(1);
-    serpentine->setToolTip(tr("Every other row or column runs in the opposite direction"));
     command->setReadOnly(true);
     command->setFrame(false);
     command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    command->setAccessibleName(tr("The same as a command"));
     pattern->setCheckable(true);
     pattern->setToolTip(
         tr("Shows corners, LED order, colors, and brightness levels for five seconds each"));
@@ -144,12 +100,31 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     start->setDefault(true);
     steps.setTimerType(Qt::PreciseTimer);
     steps.setInterval(tickLength);
-    Arrange();
+
+    auto* upper = new QHBoxLayout;
+    upper->setSpacing(4 * grid);
+    upper->addLayout(MakeForm(), 1);
+    upper->addWidget(wiring, 0, Qt::AlignTop);
+    wiring->setToolTip(tr("Path of the data line, seen from the front"));
+    auto* lower = new QFormLayout;
+    lower->addRow(tr("As a command"), command);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(pattern);
+    buttons->addStretch(1);
+    buttons->addWidget(start);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
+    layout->setSpacing(3 * grid);
+    layout->addLayout(upper);
+    layout->addLayout(lower);
+    layout->addWidget(state);
+    layout->addLayout(buttons);
+    setMinimumWidth(720);
     SetAddress(QSettings().value(QLatin1String(settingsKey)).toString());
 
-    for (QComboBox* box : {protocol, direction, corner, turn, order})
+    for (QComboBox* box : findChildren<QComboBox*>())
         connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &LedsDialog::Change);
-    for (QSpinBox* box : {left, top, columns, rows, brightness, universe})
+    for (QSpinBox* box : findChildren<QSpinBox*>())
         connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &LedsDialog::Change);
     connect(gamma, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LedsDialog::Change);
     connect(serpentine, &QCheckBox::toggled, this, &LedsDialog::Change);
@@ -165,7 +140,10 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
             LookUp();
         Refresh();
     });
-    connect(&steps, &QTimer::timeout, this, &LedsDialog::Step);
+    connect(&steps, &QTimer::timeout, this, [this] {
+        ++step;
+        Show(picture);
+    });
     connect(pattern, &QPushButton::toggled, this, [this](bool on) {
         step = 0;
         if (on)
@@ -176,10 +154,32 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
             LookUp();
         Show(picture);
     });
+    // A closed window has no other way to stop.
+    connect(this, &QDialog::finished, this, &LedsDialog::Stop);
     Refresh();
 }
 
-void LedsDialog::Arrange()
+/** @param choices labels with words for the address */
+QComboBox* LedsDialog::MakeChoice(const QList<QPair<QString, QString>>& choices)
+{
+    auto* box = new QComboBox(this);
+    for (const auto& choice : choices)
+        box->addItem(choice.first, choice.second);
+    return box;
+}
+
+QSpinBox* LedsDialog::MakeNumber(const QString& name, int least, int most, int value,
+                                 const QString& unit)
+{
+    auto* box = new QSpinBox(this);
+    box->setAccessibleName(name);
+    box->setRange(least, most);
+    box->setValue(value);
+    box->setSuffix(unit);
+    return box;
+}
+
+QFormLayout* LedsDialog::MakeForm()
 {
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(3 * grid);
@@ -196,41 +196,45 @@ void LedsDialog::Arrange()
             layout->addStretch(1);
         form->addRow(label, layout);
     };
+    protocol = MakeChoice({{QStringLiteral("DDP"), QStringLiteral("ddp")},
+                           {QStringLiteral("E1.31 (sACN)"), QStringLiteral("sacn")},
+                           {QStringLiteral("Art-Net"), QStringLiteral("artnet")}});
+    host->setPlaceholderText(tr("Name or address, such as wall.local"));
     host->setAccessibleName(tr("Controller's name or address"));
-    left->setAccessibleName(tr("Left edge"));
-    top->setAccessibleName(tr("Top edge"));
-    columns->setAccessibleName(tr("Width"));
-    rows->setAccessibleName(tr("Height"));
     row(tr("Controller"), {protocol, host});
+    left = MakeNumber(tr("Left edge"), 0, display.width() - 1, 0, tr(" px"));
+    top = MakeNumber(tr("Top edge"), 0, display.height() - 1, 0, tr(" px"));
+    columns = MakeNumber(tr("Width"), 1, display.width(), display.width(), tr(" px"));
+    rows = MakeNumber(tr("Height"), 1, display.height(), display.height(), tr(" px"));
     row(tr("Part of the display"), {left, top, new QLabel(tr("size"), this), columns, rows});
+    direction = MakeChoice(
+        {{tr("Rows"), QStringLiteral("rows")}, {tr("Columns"), QStringLiteral("columns")}});
+    serpentine->setToolTip(tr("Every other row or column runs in the opposite direction"));
     row(tr("LEDs run along"), {direction, serpentine});
+    corner = MakeChoice({{tr("Top left"), QStringLiteral("top-left")},
+                         {tr("Top right"), QStringLiteral("top-right")},
+                         {tr("Bottom left"), QStringLiteral("bottom-left")},
+                         {tr("Bottom right"), QStringLiteral("bottom-right")}});
     row(tr("First LED"), {corner});
+    turn = MakeChoice({});
+    for (int degrees : {0, 90, 180, 270})
+        turn->addItem(tr("%1°").arg(degrees), QStringLiteral("rotate-%1").arg(degrees));
     row(tr("Rotation"), {turn});
+    order = MakeChoice({});
+    for (const char* letters : {"RGB", "RBG", "GRB", "GBR", "BRG", "BGR"})
+        order->addItem(QLatin1String(letters),
+                       QStringLiteral("color-order=") + QLatin1String(letters));
     row(tr("Color order"), {order});
+    gamma->setRange(1, 4);
+    gamma->setSingleStep(0.1);
+    gamma->setDecimals(1);
+    gamma->setSpecialValueText(tr("Off"));
     row(tr("Gamma"), {gamma});
+    brightness = MakeNumber(QString(), 0, 100, 100, tr(" %"));
     row(tr("Brightness"), {brightness});
+    universe = MakeNumber(QString(), 0, 63999, 1, QString());
     row(tr("First universe"), {universe});
-    auto* upper = new QHBoxLayout;
-    upper->setSpacing(4 * grid);
-    upper->addLayout(form, 1);
-    upper->addWidget(wiring, 0, Qt::AlignTop);
-    wiring->setToolTip(tr("Path of the data line, seen from the front"));
-
-    auto* lower = new QFormLayout;
-    command->setAccessibleName(tr("The same as a command"));
-    lower->addRow(tr("As a command"), command);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(pattern);
-    buttons->addStretch(1);
-    buttons->addWidget(start);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
-    layout->setSpacing(3 * grid);
-    layout->addLayout(upper);
-    layout->addLayout(lower);
-    layout->addWidget(state);
-    layout->addLayout(buttons);
-    setMinimumWidth(720);
+    return form;
 }
 
 QString LedsDialog::Address() const
@@ -245,12 +249,10 @@ QString LedsDialog::Address() const
                          .arg(rect.height()));
     if (serpentine->isChecked())
         words.append(QStringLiteral("serpentine"));
-    for (const QComboBox* box : {direction, corner, turn}) {
+    for (const QComboBox* box : {direction, corner, turn, order}) {
         if (box->currentIndex() > 0)
             words.append(box->currentData().toString());
     }
-    if (order->currentIndex() > 0)
-        words.append(QStringLiteral("color-order=") + order->currentText());
     if (gamma->value() > 1)
         words.append(QStringLiteral("gamma=%1").arg(gamma->value()));
     if (brightness->value() < 100)
@@ -399,20 +401,6 @@ void LedsDialog::Show(const QImage& shown)
         lights->Show(TestPattern(QString(), display, step));
     else if (!picture.isNull())
         lights->Show(picture);
-}
-
-void LedsDialog::Step()
-{
-    ++step;
-    Show(picture);
-}
-
-/** Stops, because a closed window has no other way to do it. */
-void LedsDialog::hideEvent(QHideEvent* event)
-{
-    if (!event->spontaneous())
-        Stop();
-    QDialog::hideEvent(event);
 }
 
 } // namespace AnimText

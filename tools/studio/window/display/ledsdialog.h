@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDoubleSpinBox>
+#include <QFormLayout>
 #include <QHostInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,11 +44,10 @@ public slots:
     /** Sends @p picture while the LEDs follow. */
     void Show(const QImage& picture);
 
-protected:
-    void hideEvent(QHideEvent* event) override;
-
 private:
-    void Arrange();
+    QComboBox* MakeChoice(const QList<QPair<QString, QString>>& choices);
+    QSpinBox* MakeNumber(const QString& name, int least, int most, int value, const QString& unit);
+    QFormLayout* MakeForm();
     Controller ReadFields(QString* error) const;
     void Change();
     void Refresh();
@@ -55,7 +55,6 @@ private:
     void Begin(const QHostInfo& found);
     void Open(Controller controller);
     void Stop();
-    void Step();
 
     const QSize display;
     const QString scenePath;
