@@ -17,6 +17,7 @@ constexpr int handle = 6;    // logical pixels
 constexpr int rulerWidth = 18;
 constexpr int numberDistance = 44; // between the numbers of a ruler
 constexpr int wheelStep = 120;     // eighths of a degree
+const QColor magenta(255, 0, 160); // of marks that no sign has
 
 } // namespace
 
@@ -29,15 +30,10 @@ DisplayView::DisplayView(QWidget* parent)
     setAccessibleDescription(tr("What the sign shows at the current tick"));
 }
 
-void DisplayView::SetFrames(const QVector<AreaFrame>& areas)
+void DisplayView::SetFrames(const QVector<AreaFrame>& areas, int chosen)
 {
     frames = areas;
-    update();
-}
-
-void DisplayView::SetSelected(int id)
-{
-    selected = id;
+    selected = chosen;
     update();
 }
 
@@ -55,25 +51,18 @@ void DisplayView::SetShowsRulers(bool always)
 
 void DisplayView::SetCompared(const QImage& other)
 {
-    compared = other;
-    FindDifferences();
-    update();
-}
-
-void DisplayView::FindDifferences()
-{
     differences.clear();
     const QImage& mine = Picture();
-    if (compared.isNull() || compared.size() != mine.size())
-        return;
-    for (int y = 0; y < mine.height(); ++y) {
+    const int height = other.size() == mine.size() ? mine.height() : 0;
+    for (int y = 0; y < height; ++y) {
         const auto* a = reinterpret_cast<const QRgb*>(mine.constScanLine(y));
-        const auto* b = reinterpret_cast<const QRgb*>(compared.constScanLine(y));
+        const auto* b = reinterpret_cast<const QRgb*>(other.constScanLine(y));
         for (int x = 0; x < mine.width(); ++x) {
             if (a[x] != b[x])
                 differences.append(QPoint(x, y));
         }
     }
+    update();
 }
 
 const AreaFrame* DisplayView::Find(int id) const
@@ -127,17 +116,13 @@ void DisplayView::PaintOverlay(QPainter* painter)
     const QTransform map = ToWidget();
     const QColor accent = palette().color(QPalette::Highlight);
     painter->setRenderHint(QPainter::Antialiasing, false);
-    if (!differences.isEmpty()) {
-        for (const QPoint& pixel : differences)
-            painter->fillRect(map.mapRect(QRectF(pixel, QSizeF(1, 1))).adjusted(-1, -1, 1, 1),
-                              QColor(255, 0, 160));
-    }
+    for (const QPoint& pixel : differences)
+        painter->fillRect(map.mapRect(QRectF(pixel, QSizeF(1, 1))).adjusted(-1, -1, 1, 1), magenta);
     for (const AreaFrame& frame : frames) {
         const bool isSelected = frame.id == selected;
         if (!isSelected && frame.id != hovered && !showsAll)
             continue;
-        const bool isQuiet = isSelected && hovered == 0 && !hasFocus() && !showsAll;
-        if (isQuiet)
+        if (isSelected && hovered == 0 && !hasFocus() && !showsAll)
             continue;
         const QRectF rect = map.mapRect(QRectF(frame.rect)).adjusted(-1, -1, 0, 0);
         painter->setPen(QPen(isSelected ? accent : QColor(160, 160, 160, 160), 1,
@@ -153,7 +138,7 @@ void DisplayView::PaintOverlay(QPainter* painter)
             painter->drawRect(
                 QRectF(corner.x() - handle / 2.0, corner.y() - handle / 2.0, handle, handle));
     }
-    painter->setPen(QPen(QColor(255, 0, 160), 1));
+    painter->setPen(magenta);
     for (const QLine& guide : guides)
         painter->drawLine(map.map(QLineF(guide)));
     const AreaFrame* chosen = Find(selected);
@@ -173,25 +158,14 @@ void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& ar
     const double scale = map.m11();
     const QRectF band(seen.topLeft(), horizontal ? QSizeF(seen.width(), rulerWidth)
                                                  : QSizeF(rulerWidth, seen.height()));
-    const auto place = [&](double pixel) {
-        return horizontal ? map.map(QPointF(pixel, 0)).x() : map.map(QPointF(0, pixel)).y();
-    };
-    const auto line = [&](double at, double length) {
-        painter->drawLine(horizontal ? QLineF(at, band.bottom() - length, at, band.bottom())
-                                     : QLineF(band.right() - length, at, band.right(), at));
-    };
-    const auto stretch = [&](double from, double to) {
-        return horizontal ? QRectF(from, band.top(), to - from, rulerWidth)
-                          : QRectF(band.left(), from, rulerWidth, to - from);
-    };
     painter->fillRect(band, palette().color(QPalette::Window));
     if (!area.isEmpty()) {
         QColor accent = palette().color(QPalette::Highlight);
         accent.setAlpha(90);
-        const int first = horizontal ? area.x() : area.y();
+        const QRectF extent = map.mapRect(QRectF(area));
         painter->fillRect(
-            stretch(place(first), place(first + (horizontal ? area.width() : area.height()))) &
-                band,
+            band & (horizontal ? QRectF(extent.left(), band.top(), extent.width(), rulerWidth)
+                               : QRectF(band.left(), extent.top(), rulerWidth, extent.height())),
             accent);
     }
     painter->setPen(palette().color(QPalette::WindowText));
@@ -203,13 +177,16 @@ void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& ar
         step = i % 3 == 1 ? step / 2 * 5 : step * 2;
     const int side = horizontal ? Picture().width() : Picture().height();
     for (int pixel = 0; pixel <= side; pixel += step) {
-        const double at = std::round(place(pixel)) + 0.5;
-        line(at, rulerWidth / 2.0);
-        if (horizontal)
+        const QPointF place = map.map(QPointF(pixel, pixel));
+        const double at = std::round(horizontal ? place.x() : place.y()) + 0.5;
+        if (horizontal) {
+            painter->drawLine(QLineF(at, band.center().y(), at, band.bottom()));
             painter->drawText(QPointF(at + 3, band.bottom() - 4), QString::number(pixel));
-        else
+        } else {
+            painter->drawLine(QLineF(band.center().x(), at, band.right(), at));
             painter->drawText(QRectF(band.left() + 1, at + 1, rulerWidth - 2, numberDistance),
                               int(Qt::AlignHCenter | Qt::TextWrapAnywhere), QString::number(pixel));
+        }
     }
 }
 
@@ -273,7 +250,12 @@ void DisplayView::mouseMoveEvent(QMouseEvent* event)
     const QPointF point = event->localPos();
     if (dragging) {
         const bool snaps = !(event->modifiers() & Qt::ControlModifier);
-        const QRect rect = Dragged(PixelAt(point) - grabbed, snaps);
+        const QPoint by = PixelAt(point) - grabbed;
+        guides.clear();
+        const auto across = Dragged(before.x(), before.x() + before.width(), true, by.x(), snaps);
+        const auto down = Dragged(before.y(), before.y() + before.height(), false, by.y(), snaps);
+        const QRect rect(across.first, down.first, across.second - across.first,
+                         down.second - down.first);
         const AreaFrame* frame = Find(selected);
         if (frame && frame->rect != rect)
             emit AreaChanged(selected, rect, gesture);
@@ -286,14 +268,13 @@ void DisplayView::mouseMoveEvent(QMouseEvent* event)
         update();
     }
     const Qt::Edges at = EdgesAt(point);
+    const bool sideways = at & (Qt::LeftEdge | Qt::RightEdge);
     if (at == (Qt::LeftEdge | Qt::TopEdge) || at == (Qt::RightEdge | Qt::BottomEdge))
         setCursor(Qt::SizeFDiagCursor);
-    else if (at == (Qt::RightEdge | Qt::TopEdge) || at == (Qt::LeftEdge | Qt::BottomEdge))
+    else if (sideways && at & (Qt::TopEdge | Qt::BottomEdge))
         setCursor(Qt::SizeBDiagCursor);
-    else if (at & (Qt::LeftEdge | Qt::RightEdge))
-        setCursor(Qt::SizeHorCursor);
     else if (at)
-        setCursor(Qt::SizeVerCursor);
+        setCursor(sideways ? Qt::SizeHorCursor : Qt::SizeVerCursor);
     else if (under != 0)
         setCursor(Qt::SizeAllCursor);
     else
@@ -365,8 +346,11 @@ void DisplayView::leaveEvent(QEvent*)
     update();
 }
 
-/** The edge of another area or of the display to snap to near @p place; otherwise @p place. */
-int DisplayView::Snapped(int place, bool horizontal) const
+/**
+ * The edge of another area or of the display to snap to near @p place, which gets a guide;
+ * otherwise @p place.
+ */
+int DisplayView::Snapped(int place, bool horizontal)
 {
     const QSize display = Picture().size();
     const int side = horizontal ? display.width() : display.height();
@@ -379,53 +363,34 @@ int DisplayView::Snapped(int place, bool horizontal) const
         else
             magnets << frame.rect.top() << frame.rect.top() + frame.rect.height();
     }
-    const double scale = ToWidget().m11();
-    const int near = qMax(1, int(snapReach / qMax(0.01, scale)));
-    int best = place;
-    int distance = near + 1;
-    for (int magnet : magnets) {
-        if (qAbs(magnet - place) < distance) {
-            distance = qAbs(magnet - place);
-            best = magnet;
-        }
-    }
+    const int near = qMax(1, int(snapReach / qMax(0.01, ToWidget().m11())));
+    const int best = *std::min_element(magnets.begin(), magnets.end(), [&](int one, int other) {
+        return qAbs(one - place) < qAbs(other - place);
+    });
+    if (best == place || qAbs(best - place) > near)
+        return place;
+    guides.append(horizontal ? QLine(best, 0, best, display.height())
+                             : QLine(0, best, display.width(), best));
     return best;
 }
 
-QRect DisplayView::Dragged(const QPoint& by, bool snaps)
+/** The extent of the dragged area in one direction, from @p begin to @p end before. */
+QPair<int, int> DisplayView::Dragged(int begin, int end, bool horizontal, int by, bool snaps)
 {
-    guides.clear();
-    const QSize display = Picture().size();
-    int left = before.left();
-    int top = before.top();
-    int right = left + before.width();
-    int bottom = top + before.height();
-    const auto snapped = [&](int place, bool horizontal) {
-        const int to = snaps ? Snapped(place, horizontal) : place;
-        if (snaps && to != place)
-            guides.append(horizontal ? QLine(to, 0, to, display.height())
-                                     : QLine(0, to, display.width(), to));
-        return to;
+    const auto moved = [&](int place) {
+        return snaps ? Snapped(place + by, horizontal) : place + by;
     };
     if (!edges) {
-        const auto moved = [&](int first, int last, int d, bool horizontal) {
-            const int begin = snapped(first + d, horizontal);
-            if (begin != first + d)
-                return begin - first;
-            return snapped(last + d, horizontal) - last;
-        };
-        const QPoint shift(moved(left, right, by.x(), true), moved(top, bottom, by.y(), false));
-        return before.translated(shift);
+        int shift = moved(begin) - begin;
+        if (shift == by)
+            shift = moved(end) - end;
+        return {begin + shift, end + shift};
     }
-    if (edges & Qt::LeftEdge)
-        left = qMin(right - 1, snapped(left + by.x(), true));
-    if (edges & Qt::RightEdge)
-        right = qMax(left + 1, snapped(right + by.x(), true));
-    if (edges & Qt::TopEdge)
-        top = qMin(bottom - 1, snapped(top + by.y(), false));
-    if (edges & Qt::BottomEdge)
-        bottom = qMax(top + 1, snapped(bottom + by.y(), false));
-    return {left, top, right - left, bottom - top};
+    if (edges & (horizontal ? Qt::LeftEdge : Qt::TopEdge))
+        begin = qMin(end - 1, moved(begin));
+    if (edges & (horizontal ? Qt::RightEdge : Qt::BottomEdge))
+        end = qMax(begin + 1, moved(end));
+    return {begin, end};
 }
 
 bool DisplayView::HandleAreaKey(int key, Qt::KeyboardModifiers modifiers)
@@ -433,15 +398,13 @@ bool DisplayView::HandleAreaKey(int key, Qt::KeyboardModifiers modifiers)
     const AreaFrame* frame = Find(selected);
     if (!frame || !(modifiers & Qt::AltModifier))
         return false;
-    const int step = modifiers & Qt::ControlModifier ? 10 : 1;
-    QPoint by;
-    switch (key) {
-    case Qt::Key_Left: by = {-step, 0}; break;
-    case Qt::Key_Right: by = {step, 0}; break;
-    case Qt::Key_Up: by = {0, -step}; break;
-    case Qt::Key_Down: by = {0, step}; break;
-    default: return false;
-    }
+    const QMap<int, QPoint> ways{{Qt::Key_Left, {-1, 0}},
+                                 {Qt::Key_Right, {1, 0}},
+                                 {Qt::Key_Up, {0, -1}},
+                                 {Qt::Key_Down, {0, 1}}};
+    if (!ways.contains(key))
+        return false;
+    const QPoint by = ways.value(key) * (modifiers & Qt::ControlModifier ? 10 : 1);
     QRect rect = frame->rect;
     if (modifiers & Qt::ShiftModifier)
         rect.setSize(QSize(qMax(1, rect.width() + by.x()), qMax(1, rect.height() + by.y())));

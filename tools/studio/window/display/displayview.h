@@ -17,7 +17,6 @@ struct AreaFrame
 {
     int id = 0; ///< id of its text
     QRect rect; ///< pixels of the display
-    QString title;
 };
 
 class DisplayView : public PictureView
@@ -27,10 +26,11 @@ class DisplayView : public PictureView
 public:
     explicit DisplayView(QWidget* parent = nullptr);
 
-    /** @param areas from bottom to top */
-    void SetFrames(const QVector<AreaFrame>& areas);
-    const QVector<AreaFrame>& Frames() const { return frames; }
-    void SetSelected(int id);
+    /**
+     * @param areas from bottom to top
+     * @param chosen id of the selected text; 0 for none
+     */
+    void SetFrames(const QVector<AreaFrame>& areas, int chosen);
     /** Frames all areas, or only the selected one and the one under the mouse. */
     void SetShowsFrames(bool all);
     /** Shows rulers in display pixels at the visible edges, always or only while dragging. */
@@ -73,9 +73,8 @@ private:
     const AreaFrame* Find(int id) const;
     int FrameAt(const QPointF& point) const;
     Qt::Edges EdgesAt(const QPointF& point) const;
-    QRect Dragged(const QPoint& by, bool snaps);
-    int Snapped(int place, bool horizontal) const;
-    void FindDifferences();
+    QPair<int, int> Dragged(int begin, int end, bool horizontal, int by, bool snaps);
+    int Snapped(int place, bool horizontal);
     void PaintRuler(QPainter* painter, bool horizontal, const QRect& area) const;
     void PaintMeasures(QPainter* painter, const QRect& area) const;
 
@@ -83,7 +82,6 @@ private:
     int selected = 0;
     int hovered = 0;
     bool showsAll = false;
-    QImage compared;
     QVector<QPoint> differences;
 
     bool showsRulers = false;

@@ -366,10 +366,9 @@ void MainWindow::Refresh()
     QVector<AreaFrame> frames;
     for (const SignText& text : sign.texts) {
         if (text.page == CurrentPage())
-            frames.append({text.id, QRect(text.node.pos, text.node.size), text.Title()});
+            frames.append({text.id, QRect(text.node.pos, text.node.size)});
     }
-    view->SetFrames(frames);
-    view->SetSelected(selected);
+    view->SetFrames(frames, selected);
     timeline->SetSelected(selected);
     ShowFindings();
     Rehearse();
