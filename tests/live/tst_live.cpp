@@ -2,6 +2,7 @@
 #include "live/livewindow.h"
 #include "live/scenewatcher.h"
 #include "player/plugin.h"
+#include "seenin.h"
 #include "testscene.h"
 
 #include <QApplication>
@@ -102,7 +103,7 @@ private slots:
             const QByteArray& line = trace.at(int(qMax(pictures, 1LL)) - 1);
             QVERIFY2(line.contains(Sha1(picture)), line);
             const QImage display = shown->last().first().value<QImage>();
-            QCOMPARE(window->GrabPicture(), OverBlack(display));
+            QCOMPARE(SeenIn(window.get()), OverBlack(display));
             if (!player->Scenery().Motion(0).IsSideways())
                 QCOMPARE(display, player->Scenery().Compose(0));
         } while (player->Time() < 8 * 66);

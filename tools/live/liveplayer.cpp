@@ -4,15 +4,70 @@
 
 #include <hneonnodebase.h>
 
+#include <QCoreApplication>
+#include <QHash>
+#include <QTimerEvent>
+
 #include <algorithm>
 
 namespace AnimText {
 
 namespace {
 
-constexpr int smoothly = 16; // milliseconds, about one frame of a 60 Hz screen
+constexpr int smoothly = 16;        // milliseconds, about one frame of a 60 Hz screen
+constexpr qint64 longestWork = 500; // milliseconds to spend on skipped ticks
 
 } // namespace
+
+/**
+ * Qt's timers skip ticks when the event loop is late, so playing would stay behind the clock for
+ * good. While this object exists, it delivers the skipped ticks to timers of a tick's interval as
+ * soon as the event loop runs again, except to those of @p player itself. It gives up on ticks that
+ * it cannot deliver within half a second, for example when painting is slower than the clock.
+ */
+class TickKeeper : public QObject
+{
+public:
+    explicit TickKeeper(QObject* player)
+        : QObject(player)
+    {
+        clock.start();
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* timer = event->type() == QEvent::Timer ? qobject_cast<QTimer*>(object) : nullptr;
+        if (!timer || sending || timer->interval() != tickLength || timer->parent() == parent())
+            return false;
+        const qint64 now = clock.elapsed();
+        const int id = timer->timerId();
+        const auto last = due.constFind(id);
+        qint64 mine = last != due.constEnd() ? *last + tickLength : now;
+        sending = true;
+        // A slot may stop its timer.
+        while (now - mine >= tickLength && timer->timerId() == id) {
+            if (clock.elapsed() - now > longestWork) {
+                mine = now;
+                break;
+            }
+            QTimerEvent missed(id);
+            QCoreApplication::sendEvent(timer, &missed);
+            mine += tickLength;
+            ++madeUp;
+        }
+        sending = false;
+        due.insert(id, mine);
+        return false;
+    }
+
+    qint64 madeUp = 0; ///< skipped ticks that were delivered, of all timers together
+
+private:
+    QElapsedTimer clock;
+    QHash<int, qint64> due; // time of each timer's last tick, milliseconds, by timer id
+    bool sending = false;
+};
 
 LivePlayer::LivePlayer(Lw::INodePlugin* plugin, QObject* parent)
     : QObject(parent)
@@ -45,19 +100,9 @@ qint64 LivePlayer::Time() const
     return before + (running.isValid() ? running.elapsed() : 0);
 }
 
-bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* error)
-{
-    const LiveSettings last = settings;
-    settings = wishes;
-    if (Begin(wanted, error))
-        return true;
-    settings = last;
-    return false;
-}
-
 /** Uses a new stage each time: some state, such as the dazzle colors, would survive a restart.
  */
-bool LivePlayer::Begin(const Scene& wanted, QString* error)
+bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* error)
 {
     auto next = std::make_unique<Stage>(plugin);
     if (!next->Build(wanted, error))
@@ -65,6 +110,7 @@ bool LivePlayer::Begin(const Scene& wanted, QString* error)
     scheduled.reset();
     stage = std::move(next);
     scene = wanted;
+    settings = wishes;
     paused = ended = resting = false;
     before = lastShown = 0;
     punctuality = earlier = Punctuality();
@@ -174,7 +220,7 @@ void LivePlayer::End()
 {
     QString error;
     const Punctuality kept = Kept();
-    if (settings.loop && Begin(scene, &error)) {
+    if (settings.loop && Play(scene, settings, &error)) {
         earlier = kept;
         return;
     }
@@ -188,7 +234,7 @@ void LivePlayer::SetPaused(bool wanted)
 {
     QString error;
     if (ended && !wanted)
-        Begin(scene, &error);
+        Play(scene, settings, &error);
     if (!stage || paused == wanted)
         return;
     paused = wanted;
@@ -225,7 +271,7 @@ Punctuality LivePlayer::Kept() const
     kept.time += Time();
     kept.due += Time() / tickLength + 1;
     kept.latest = std::max(kept.latest, punctuality.latest);
-    kept.madeUp += keeper ? keeper->MadeUp() : 0;
+    kept.madeUp += keeper ? keeper->madeUp : 0;
     if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
         kept.pictures += Torv::SwapCount(stage->Session(0), stage->TextLayer(0));
     return kept;

@@ -5,7 +5,6 @@
 #ifndef ANIMTEXT_LIVEPLAYER_H
 #define ANIMTEXT_LIVEPLAYER_H
 
-#include "live/tickkeeper.h"
 #include "player/schedule.h"
 #include "player/stage.h"
 #include "timing/playlength.h"
@@ -19,6 +18,8 @@
 #include <memory>
 
 namespace AnimText {
+
+class TickKeeper;
 
 struct LiveSettings
 {
@@ -75,7 +76,6 @@ signals:
 
 private:
     static qint64 Clock(void* player);
-    bool Begin(const Scene& wanted, QString* error);
     void Run();
     void Show();
     void Move();

@@ -90,9 +90,9 @@ void PictureView::SetFillsRoom(bool fills)
     LookChanged();
 }
 
-void PictureView::SetBackdrop(Backdrop wanted)
+void PictureView::SetCheckered(bool wanted)
 {
-    backdrop = wanted;
+    checkered = wanted;
     update();
 }
 
@@ -195,8 +195,7 @@ void PictureView::Paint(QPainter* painter) const
     painter->fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * ratio), surroundings);
     if (picture.isNull() || place.isEmpty())
         return;
-    painter->fillRect(place, backdrop == Backdrop::Checkered && !ShowsLamps() ? Checkers(ratio)
-                                                                              : QBrush(Qt::black));
+    painter->fillRect(place, checkered && !ShowsLamps() ? Checkers(ratio) : QBrush(Qt::black));
     if (Scale() < 1) {
         painter->drawImage(place.topLeft(), pixels.scaled(place.size(), Qt::IgnoreAspectRatio,
                                                           Qt::SmoothTransformation));
@@ -217,25 +216,6 @@ void PictureView::Paint(QPainter* painter) const
     if (dimmed)
         painter->fillRect(
             place, QColor(surroundings.red(), surroundings.green(), surroundings.blue(), 140));
-}
-
-QImage PictureView::GrabPicture() const
-{
-    if (picture.isNull() || Scale() != std::floor(Scale()) || ShowsLamps())
-        return QImage();
-    QImage screen(Place().marginsAdded(QMargins(0, 0, Place().x(), Place().y())).size(),
-                  QImage::Format_RGB32);
-    QPainter painter(&screen);
-    painter.setClipRect(screen.rect());
-    Paint(&painter);
-    painter.end();
-    const int scale = int(Scale());
-    QImage read(picture.size(), QImage::Format_RGB32);
-    for (int y = 0; y < read.height(); ++y) {
-        for (int x = 0; x < read.width(); ++x)
-            read.setPixel(x, y, screen.pixel(Place().topLeft() + QPoint(x, y) * scale));
-    }
-    return read;
 }
 
 void PictureView::paintEvent(QPaintEvent* event)

@@ -23,8 +23,6 @@ class PictureView : public QWidget
     Q_OBJECT
 
 public:
-    enum class Backdrop { Black, Checkered };
-
     explicit PictureView(QWidget* parent = nullptr);
 
     /** The picture as it was set; its device pixel ratio is ignored. */
@@ -50,7 +48,8 @@ public:
      */
     void SetFillsRoom(bool fills);
 
-    void SetBackdrop(Backdrop backdrop);
+    /** Shows transparent pixels over a pattern instead of over black. */
+    void SetCheckered(bool checkered);
     /** The color around the picture; next to gray, colors are judged correctly. */
     void SetSurroundings(const QColor& color);
     /** Marks a picture that is out of date. */
@@ -60,12 +59,6 @@ public:
     QTransform ToWidget() const;
     /** The pixel under @p point of the widget; it may be outside the picture. */
     QPoint PixelAt(const QPointF& point) const;
-
-    /**
-     * For tests: the picture read back from the painted widget, without its overlay. Null with LEDs
-     * or a fractional scale, where no pixel is painted exactly.
-     */
-    QImage GrabPicture() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -90,10 +83,10 @@ private:
     QImage picture;
     QImage pixels; // the picture on its background
     QColor surroundings;
-    Backdrop backdrop = Backdrop::Black;
     int zoom = 0;
     double pitch = 0;
     double lastScale = 0;
+    bool checkered = false;
     bool dimmed = false;
     bool fillsRoom = false;
 };

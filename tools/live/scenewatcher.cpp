@@ -51,8 +51,11 @@ void SceneWatcher::Watch(const Scene& scene)
     names.remove(QString());
     QMap<QString, QString> watched;
     for (const QString& name : names)
-        watched.insert(name, files.contains(name) ? files.value(name) : Mark(name));
+        watched.insert(name, files.value(name, Mark(name)));
     files = watched;
+    const QStringList old = watcher.files() + watcher.directories();
+    if (!old.isEmpty())
+        watcher.removePaths(old);
     WatchAll();
     rest.start();
 }
@@ -66,20 +69,11 @@ void SceneWatcher::Accept()
 /** Called after every change, because files that were replaced are no longer watched. */
 void SceneWatcher::WatchAll()
 {
-    QSet<QString> wanted;
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        wanted.insert(QFileInfo(file.key()).absolutePath());
-        if (!file->isEmpty())
-            wanted.insert(file.key());
-    }
-    const QStringList all = watcher.files() + watcher.directories();
-    QSet<QString> watched(all.begin(), all.end());
-    const QStringList old = (watched - wanted).values();
-    const QStringList missing = (wanted - watched).values();
-    if (!old.isEmpty())
-        watcher.removePaths(old);
-    if (!missing.isEmpty())
-        watcher.addPaths(missing);
+    QStringList paths;
+    for (auto file = files.begin(); file != files.end(); ++file)
+        paths << file.key() << QFileInfo(file.key()).absolutePath();
+    if (!paths.isEmpty())
+        watcher.addPaths(paths); // skips those that are watched or do not exist
 }
 
 void SceneWatcher::Compare()

@@ -189,9 +189,7 @@ void MainWindow::MakeViewMenu()
     });
     QAction* checkered = look->addAction(tr("&Checkered background"));
     checkered->setCheckable(true);
-    connect(checkered, &QAction::toggled, this, [this](bool on) {
-        view->SetBackdrop(on ? PictureView::Backdrop::Checkered : PictureView::Backdrop::Black);
-    });
+    connect(checkered, &QAction::toggled, view, &PictureView::SetCheckered);
     QAction* frames = look->addAction(tr("Show all &areas"));
     frames->setCheckable(true);
     frames->setShortcut(QKeySequence(tr("Ctrl+F")));
