@@ -12,6 +12,7 @@ constexpr int lastE131Universe = 63999;
 constexpr int lastArtNetUniverse = 32767;
 constexpr int longestSource = 63; // bytes; a zero ends the 64 of the field
 constexpr int mostChannels = 1000000;
+constexpr int universePixels = 170; // of three channels
 
 const struct
 {
@@ -73,41 +74,6 @@ bool ApplyLayout(Wiring* wiring, const QString& word, QString* error)
                                 DidYouMean(word, LayoutWords())));
 }
 
-bool ApplyText(Controller* controller, const QString& name, const QString& value, QString* error)
-{
-    if (name == QLatin1String("color-order")) {
-        controller->order = value.toUpper();
-        QString sorted = controller->order;
-        std::sort(sorted.begin(), sorted.end());
-        return sorted == QLatin1String("BGR") ||
-               Fail(error, QStringLiteral("color-order is \"%1\"; expected the letters R, G and B "
-                                          "in any order")
-                               .arg(value));
-    }
-    if (name == QLatin1String("gamma")) {
-        controller->gamma = value.toDouble();
-        return (controller->gamma >= 0.1 && controller->gamma <= 10) ||
-               Fail(error, QStringLiteral("gamma is \"%1\"; expected 0.1 to 10").arg(value));
-    }
-    if (name == QLatin1String("source-name")) {
-        controller->source = value;
-        return (!value.isEmpty() && value.toUtf8().size() <= longestSource) ||
-               Fail(error, QStringLiteral("source-name has %1 bytes; expected 1 to %2")
-                               .arg(value.toUtf8().size())
-                               .arg(longestSource));
-    }
-    if (name == QLatin1String("interface")) {
-        controller->interface = value;
-        return true;
-    }
-    QStringList names{QStringLiteral("color-order"), QStringLiteral("gamma"),
-                      QStringLiteral("source-name"), QStringLiteral("interface")};
-    for (const auto& known : numbers)
-        names.append(QLatin1String(known.name));
-    return Fail(error, QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
-                           .arg(name, names.join(QStringLiteral(", ")), DidYouMean(name, names)));
-}
-
 /** Takes the rectangle from the front of @p words; empty when there is none. */
 QRect TakeRect(QStringList* words)
 {
@@ -140,26 +106,54 @@ bool ApplySetting(Controller* controller, const QString& setting, QString* error
     const QString value = setting.section(QLatin1Char('='), 1);
     if (name == setting)
         return ApplyLayout(&controller->wiring, setting, error);
+    const auto check = [&](bool isGood, const QString& expected) {
+        return isGood ||
+               Fail(error, QStringLiteral("%1 is \"%2\"; expected %3").arg(name, value, expected));
+    };
+    if (name == QLatin1String("color-order")) {
+        controller->order = value.toUpper();
+        QString sorted = controller->order;
+        std::sort(sorted.begin(), sorted.end());
+        return check(sorted == QLatin1String("BGR"),
+                     QStringLiteral("the letters R, G and B in any order"));
+    }
+    if (name == QLatin1String("gamma")) {
+        controller->gamma = value.toDouble();
+        return check(controller->gamma >= 0.1 && controller->gamma <= 10,
+                     QStringLiteral("0.1 to 10"));
+    }
+    if (name == QLatin1String("source-name")) {
+        controller->source = value;
+        return check(!value.isEmpty() && value.toUtf8().size() <= longestSource,
+                     QStringLiteral("1 to %1 bytes").arg(longestSource));
+    }
+    if (name == QLatin1String("interface")) {
+        controller->interface = value;
+        return true;
+    }
+    QStringList names{QStringLiteral("color-order"), QStringLiteral("gamma"),
+                      QStringLiteral("source-name"), QStringLiteral("interface")};
     for (const auto& known : numbers) {
-        if (name != QLatin1String(known.name))
+        names.append(QLatin1String(known.name));
+        if (name != names.last())
             continue;
         bool isNumber = false;
         const int number = value.toInt(&isNumber);
         controller->*known.value = number;
-        return (isNumber && number >= known.least && number <= known.most) ||
-               Fail(error, QStringLiteral("%1 is \"%2\"; expected %3 to %4")
-                               .arg(name, value)
-                               .arg(known.least)
-                               .arg(known.most));
+        return check(isNumber && number >= known.least && number <= known.most,
+                     QStringLiteral("%1 to %2").arg(known.least).arg(known.most));
     }
-    return ApplyText(controller, name, value, error);
+    return Fail(error, QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
+                           .arg(name, names.join(QStringLiteral(", ")), DidYouMean(name, names)));
 }
 
 bool ReadAddress(Controller* controller, const QString& address, QString* error)
 {
     static const QRegularExpression pattern(QStringLiteral(
         "^([a-z]+)://(\\[[^\\]]+\\]|[^:/,\\[\\]\\s]*)(?::(\\d{1,5}))?(?:[/,](.*))?$"));
-    const QString place = address.isEmpty() ? QString() : address + QStringLiteral(": ");
+    const auto fail = [&](const QString& why) {
+        return Fail(error, address.isEmpty() ? why : address + QStringLiteral(": ") + why);
+    };
     const auto match = pattern.match(address);
     controller->address = address;
     controller->port = 0;
@@ -170,64 +164,72 @@ bool ReadAddress(Controller* controller, const QString& address, QString* error)
         controller->port = match.captured(3).isEmpty() ? known.port : match.captured(3).toInt();
     }
     if (!match.hasMatch() || controller->port < 1 || controller->port > 65535)
-        return Fail(error, place + QStringLiteral("expected ddp://HOST, sacn://HOST, sacn:// for "
-                                                  "multicast, or artnet://HOST; the host may be "
-                                                  "followed by :PORT, 1 to 65535"));
+        return fail(QStringLiteral("expected ddp://HOST, sacn://HOST, sacn:// for multicast, or "
+                                   "artnet://HOST; the host may be followed by :PORT, 1 to 65535"));
     controller->host = match.captured(2).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
     if (controller->host.isEmpty() && controller->protocol != Protocol::E131)
-        return Fail(error, place + QStringLiteral("expected the controller's name or address; "
-                                                  "only sacn:// works without one"));
+        return fail(QStringLiteral(
+            "expected the controller's name or address; only sacn:// works without one"));
     QStringList words = match.captured(4).split(QLatin1Char(','), Qt::SkipEmptyParts);
     const bool startsWithNumber = !words.isEmpty() && words.first().at(0).isDigit();
     controller->rect = TakeRect(&words);
     if (startsWithNumber && controller->rect.isEmpty())
-        return Fail(error, place + QStringLiteral("expected a rectangle of the display after the "
-                                                  "host, such as 64,0,64x32 or 64x32"));
+        return fail(QStringLiteral(
+            "expected a rectangle of the display after the host, such as 64,0,64x32 or 64x32"));
     for (const QString& word : words) {
         if (!ApplySetting(controller, word, error))
-            return Fail(error, place + *error);
+            return fail(*error);
     }
     return true;
 }
 
-int UniverseCount(const Controller& controller)
+qint64 ChannelOf(const Controller& controller, qint64 led)
 {
-    const int pixels = controller.rect.width() * controller.rect.height();
+    if (controller.protocol == Protocol::Ddp)
+        return controller.channel - 1 + 3 * led;
     const int inFirst = (513 - controller.channel) / 3;
-    return 1 + (std::max(0, pixels - inFirst) + universePixels - 1) / universePixels;
+    if (led < inFirst)
+        return 512LL * controller.universe + controller.channel - 1 + 3 * led;
+    led -= inFirst;
+    return 512 * (controller.universe + 1 + led / universePixels) + 3 * (led % universePixels);
+}
+
+int LastUniverse(const Controller& controller)
+{
+    const qint64 leds = qint64(controller.rect.width()) * controller.rect.height();
+    return int(ChannelOf(controller, leds - 1) / 512);
 }
 
 bool FitToDisplay(Controller* controller, QSize display, QString* error)
 {
-    const QString place = controller->address + QStringLiteral(": ");
+    const auto fail = [&](const QString& why) {
+        return Fail(error, controller->address + QStringLiteral(": ") + why);
+    };
     if (controller->rect.isEmpty())
         controller->rect = QRect(QPoint(0, 0), display);
     const QRect& rect = controller->rect;
     if (!QRect(QPoint(0, 0), display).contains(rect))
-        return Fail(error, place + QStringLiteral("%1x%2 at %3,%4 is not inside the display, which "
-                                                  "is %5x%6")
-                                       .arg(rect.width())
-                                       .arg(rect.height())
-                                       .arg(rect.x())
-                                       .arg(rect.y())
-                                       .arg(display.width())
-                                       .arg(display.height()));
+        return fail(QStringLiteral("%1x%2 at %3,%4 is not inside the display, which is %5x%6")
+                        .arg(rect.width())
+                        .arg(rect.height())
+                        .arg(rect.x())
+                        .arg(rect.y())
+                        .arg(display.width())
+                        .arg(display.height()));
     if (controller->protocol == Protocol::Ddp)
         return true;
     if (controller->channel > 510)
-        return Fail(
-            error,
-            place + QStringLiteral("channel is %1; expected 1 to 510, to leave room for one pixel")
+        return fail(QStringLiteral("channel is %1; expected 1 to 510, to leave room for one pixel")
                         .arg(controller->channel));
     const auto& known = protocols[int(controller->protocol)];
-    const qint64 last = qint64(controller->universe) + UniverseCount(*controller) - 1;
+    const int last = LastUniverse(*controller);
     return (controller->universe >= known.firstUniverse && last <= known.lastUniverse) ||
-           Fail(error, place + QStringLiteral("needs the universes %1 to %2; %3 has %4 to %5")
-                                   .arg(controller->universe)
-                                   .arg(last)
-                                   .arg(QLatin1String(known.name))
-                                   .arg(known.firstUniverse)
-                                   .arg(known.lastUniverse));
+           fail(QStringLiteral("needs the universes %1 to %2; %3 has %4 to %5")
+                    .arg(controller->universe)
+                    .arg(last)
+                    .arg(QLatin1String(known.name))
+                    .arg(known.firstUniverse)
+                    .arg(known.lastUniverse));
 }
 
 } // namespace AnimText

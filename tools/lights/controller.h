@@ -47,9 +47,6 @@ struct Controller
     bool broadcast = false; ///< allow a broadcast address as host
 };
 
-/** Pixels per universe: 512 channels, three per pixel. */
-constexpr int universePixels = 170;
-
 /** The words for layouts. */
 QStringList LayoutWords();
 
@@ -68,8 +65,14 @@ bool ReadAddress(Controller* controller, const QString& address, QString* error)
 /** Sets an empty rectangle to the whole display; false, with an @p error, if it does not fit. */
 bool FitToDisplay(Controller* controller, QSize display, QString* error);
 
-/** The number of universes for the controller's pixels; its rectangle must be set. */
-int UniverseCount(const Controller& controller);
+/**
+ * The first channel of the controller's LED @p led, counted over all universes of 512 channels; for
+ * DDP, its first byte.
+ */
+qint64 ChannelOf(const Controller& controller, qint64 led);
+
+/** The universe of the controller's last LED; its rectangle must be set. */
+int LastUniverse(const Controller& controller);
 
 } // namespace AnimText
 

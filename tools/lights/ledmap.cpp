@@ -33,21 +33,15 @@ QVector<int> LedOrder(QSize size, const Wiring& wiring)
     return order;
 }
 
-std::array<uchar, 256> Levels(double gamma, int brightness)
-{
-    std::array<uchar, 256> levels{};
-    for (size_t value = 0; value < levels.size(); ++value)
-        levels[value] =
-            uchar(std::lround(255.0 * brightness / 100 * std::pow(double(value) / 255, gamma)));
-    return levels;
-}
-
 LedMap::LedMap(const Controller& controller)
     : rect(controller.rect)
     , order(LedOrder(controller.rect.size(), controller.wiring))
     , shifts()
-    , levels(Levels(controller.gamma, controller.brightness))
+    , levels()
 {
+    for (size_t value = 0; value < levels.size(); ++value)
+        levels[value] = uchar(std::lround(255.0 * controller.brightness / 100 *
+                                          std::pow(double(value) / 255, controller.gamma)));
     for (int i = 0; i < 3; ++i)
         shifts[size_t(i)] = 8 * QStringLiteral("BGR").indexOf(controller.order.at(i));
 }

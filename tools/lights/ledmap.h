@@ -17,9 +17,6 @@ namespace AnimText {
 /** The pixel of each LED along the data line, as x + y * width. */
 QVector<int> LedOrder(QSize size, const Wiring& wiring);
 
-/** Channel levels for the values 0 to 255: brightness in percent × value to the power of gamma. */
-std::array<uchar, 256> Levels(double gamma, int brightness);
-
 /** The channels of one controller: layout, color order, gamma and brightness. */
 class LedMap
 {

@@ -37,38 +37,23 @@ bool IsBroadcast(const QHostAddress& host)
 
 bool LookUp(const Controller& controller, QHostAddress* host, QString* error)
 {
-    const QString place = controller.address + QStringLiteral(": ");
     if (controller.host.isEmpty())
         return true;
+    const auto refuse = [&](const QString& why) {
+        return Refuse(error, controller.address + QStringLiteral(": ") + why);
+    };
     const QHostInfo info = QHostInfo::fromName(controller.host);
-    if (info.addresses().isEmpty())
-        return Refuse(error, place + QStringLiteral("\"%1\" cannot be found: %2")
-                                         .arg(controller.host, info.errorString()));
     *host = PreferredAddress(info);
+    if (host->isNull())
+        return refuse(
+            QStringLiteral("\"%1\" cannot be found: %2").arg(controller.host, info.errorString()));
     if (host->isMulticast())
-        return Refuse(error,
-                      place + QStringLiteral("is a multicast address; expected sacn://, which "
-                                             "sends each universe to its own group"));
+        return refuse(QStringLiteral("is a multicast address; expected sacn://, which sends each "
+                                     "universe to its own group"));
     if (IsBroadcast(*host) && !controller.broadcast)
-        return Refuse(error,
-                      place + QStringLiteral("is a broadcast address, which reaches every device "
-                                             "in the network; use --broadcast to allow it"));
+        return refuse(QStringLiteral("is a broadcast address, which reaches every device in the "
+                                     "network; use --broadcast to allow it"));
     return true;
-}
-
-/** The first and the last byte (DDP) or channel, counted over all universes, of a controller. */
-QPair<qint64, qint64> Range(const Controller& controller)
-{
-    const qint64 size = 3LL * controller.rect.width() * controller.rect.height();
-    if (controller.protocol == Protocol::Ddp)
-        return {controller.channel - 1, controller.channel - 2 + size};
-    const qint64 first = 512LL * controller.universe;
-    const int pixels = int(size / 3) - (513 - controller.channel) / 3;
-    const int count = UniverseCount(controller);
-    return {first + controller.channel - 1,
-            pixels <= 0
-                ? first + controller.channel - 2 + size
-                : first + 512LL * (count - 1) + 3LL * (pixels - universePixels * (count - 2)) - 1};
 }
 
 Transmit Through(const std::shared_ptr<QUdpSocket>& socket, quint16 port)
@@ -144,25 +129,6 @@ Lights::~Lights()
     End();
 }
 
-/** Two controllers at one address must not use the same channels. */
-bool Lights::CheckOverlap(const Controller& controller, const QString& destination,
-                          QString* error) const
-{
-    const auto mine = Range(controller);
-    for (const Output& output : outputs) {
-        const auto other = Range(output.controller);
-        if (output.destination == destination && mine.first <= other.second &&
-            other.first <= mine.second)
-            return Refuse(
-                error,
-                controller.address +
-                    QStringLiteral(
-                        ": uses the same channels as %1; choose another host, universe or channel")
-                        .arg(output.controller.address));
-    }
-    return true;
-}
-
 bool Lights::Add(Controller controller, QSize display, QString* error)
 {
     QHostAddress host;
@@ -171,8 +137,20 @@ bool Lights::Add(Controller controller, QSize display, QString* error)
     const QString destination =
         host.isNull() ? QStringLiteral("multicast port %1").arg(controller.port)
                       : QStringLiteral("%1 port %2").arg(host.toString()).arg(controller.port);
-    if (!CheckOverlap(controller, destination, error))
-        return false;
+    const auto last = [](const Controller& of) {
+        return ChannelOf(of, qint64(of.rect.width()) * of.rect.height() - 1) + 2;
+    };
+    for (const Output& output : outputs) {
+        const Controller& other = output.controller;
+        if (output.destination == destination && ChannelOf(controller, 0) <= last(other) &&
+            ChannelOf(other, 0) <= last(controller))
+            return Refuse(
+                error,
+                controller.address +
+                    QStringLiteral(
+                        ": uses the same channels as %1; choose another host, universe or channel")
+                        .arg(other.address));
+    }
     const std::shared_ptr<QUdpSocket> socket = OpenSocket(controller, host, error);
     if (!socket)
         return false;
@@ -201,7 +179,7 @@ QString Lights::Description() const
         if (controller.protocol != Protocol::Ddp)
             line += QStringLiteral(", universes %1 to %2")
                         .arg(controller.universe)
-                        .arg(controller.universe + UniverseCount(controller) - 1);
+                        .arg(LastUniverse(controller));
         lines += line + QLatin1Char('\n');
     }
     return lines;

@@ -91,8 +91,6 @@ private:
     };
 
     void Send(Output* output, const QByteArray& channels, bool isLast);
-    bool CheckOverlap(const Controller& controller, const QString& destination,
-                      QString* error) const;
 
     std::vector<Output> outputs;
     QImage last;

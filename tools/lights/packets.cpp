@@ -16,7 +16,7 @@ constexpr int artVersion = 14;       // of the protocol
 constexpr int streamTerminated = 64; // E1.31's option bit
 
 /** @p value in @p bytes bytes, big-endian. */
-QByteArray Number(quint32 value, int bytes)
+QByteArray Number(int value, int bytes)
 {
     QByteArray number;
     for (int i = bytes - 1; i >= 0; --i)
@@ -27,10 +27,10 @@ QByteArray Number(quint32 value, int bytes)
 /** A layer of E1.31: flags 7 and the length, itself included, then the content. */
 QByteArray Layer(const QByteArray& content)
 {
-    return Number(0x7000U | quint32(content.size() + 2), 2) + content;
+    return Number(0x7000 | (content.size() + 2), 2) + content;
 }
 
-QByteArray Root(quint32 vector, const QByteArray& component, const QByteArray& framing)
+QByteArray Root(int vector, const QByteArray& component, const QByteArray& framing)
 {
     return Number(0x0010, 2) + Number(0, 2) + QByteArray("ASC-E1.17\0\0\0", 12) +
            Layer(Number(vector, 4) + component + framing);
@@ -70,11 +70,10 @@ QVector<Packet> PacketMaker::Ddp(const QByteArray& channels)
         const QByteArray data = channels.mid(from, ddpData);
         const bool push = from + ddpData >= channels.size();
         sequence = sequence % 15 + 1; // 0 means that packets are not numbered
-        packets.append({Number(quint32(ddpVersion | (push ? ddpPush : 0)), 1) +
-                            Number(quint32(sequence), 1) + Number(ddpRgb, 1) +
-                            Number(ddpDisplay, 1) +
-                            Number(quint32(controller.channel - 1 + from), 4) +
-                            Number(quint32(data.size()), 2) + data,
+        packets.append({Number(ddpVersion | (push ? ddpPush : 0), 1) + Number(sequence, 1) +
+                            Number(ddpRgb, 1) + Number(ddpDisplay, 1) +
+                            Number(controller.channel - 1 + from, 4) + Number(data.size(), 2) +
+                            data,
                         QHostAddress()});
     }
     return packets;
@@ -108,19 +107,19 @@ QVector<Packet> PacketMaker::E131(const QByteArray& channels, bool isLast)
     for (const QByteArray& data : Universes(channels)) {
         const QByteArray properties =
             Layer(Number(0x02, 1) + Number(0xA1, 1) + Number(0, 2) + Number(1, 2) +
-                  Number(quint32(data.size() + 1), 2) + Number(0, 1) + data);
-        const QByteArray framing = Layer(
-            Number(2, 4) + controller.source.toUtf8().leftJustified(64, '\0') +
-            Number(quint32(controller.priority), 1) + Number(quint32(controller.syncUniverse), 2) +
-            Number(quint32(sequence), 1) + Number(isLast ? streamTerminated : 0, 1) +
-            Number(quint32(universe), 2) + properties);
+                  Number(data.size() + 1, 2) + Number(0, 1) + data);
+        const QByteArray framing =
+            Layer(Number(2, 4) + controller.source.toUtf8().leftJustified(64, '\0') +
+                  Number(controller.priority, 1) + Number(controller.syncUniverse, 2) +
+                  Number(sequence, 1) + Number(isLast ? streamTerminated : 0, 1) +
+                  Number(universe, 2) + properties);
         packets.append({Root(4, component, framing), Group(universe)});
         ++universe;
     }
     if (controller.syncUniverse > 0)
         packets.append({Root(8, component,
-                             Layer(Number(1, 4) + Number(quint32(sequence), 1) +
-                                   Number(quint32(controller.syncUniverse), 2) + Number(0, 2))),
+                             Layer(Number(1, 4) + Number(sequence, 1) +
+                                   Number(controller.syncUniverse, 2) + Number(0, 2))),
                         Group(controller.syncUniverse)});
     return packets;
 }
@@ -133,10 +132,9 @@ QVector<Packet> PacketMaker::ArtNet(const QByteArray& channels)
     for (QByteArray data : Universes(channels)) {
         if (data.size() % 2 == 1)
             data.append('\0'); // lengths must be even
-        packets.append({ArtHead(0x5000) + Number(quint32(sequence), 1) + Number(0, 1) +
-                            Number(quint32(universe & 0xFF), 1) +
-                            Number(quint32(universe >> 8), 1) + Number(quint32(data.size()), 2) +
-                            data,
+        packets.append({ArtHead(0x5000) + Number(sequence, 1) + Number(0, 1) +
+                            Number(universe & 0xFF, 1) + Number(universe >> 8, 1) +
+                            Number(data.size(), 2) + data,
                         QHostAddress()});
         ++universe;
     }
