@@ -63,6 +63,70 @@
         <source>y </source>
         <translation>y </translation>
     </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Sizes as set</source>
+        <translation>Größen wie angegeben</translation>
+    </message>
+    <message>
+        <source>Fit height</source>
+        <translation>An Höhe anpassen</translation>
+    </message>
+    <message>
+        <source>Fit height and width</source>
+        <translation>An Höhe und Breite anpassen</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reading start</source>
+        <translation>Leseanfang</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Text that scrolls sideways cannot be aligned.</source>
+        <translation>Seitlich laufender Text lässt sich nicht ausrichten.</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Padding</source>
+        <translation>Innenabstand</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Break pages between words</source>
+        <translation>Seiten zwischen Wörtern umbrechen</translation>
+    </message>
+    <message>
+        <source>Scrolling text has no pages.</source>
+        <translation>Laufender Text hat keine Seiten.</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::DisplayForm</name>
@@ -490,85 +554,6 @@
     <message>
         <source>Choose a plugin library</source>
         <translation>Plugin-Bibliothek wählen</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::LayoutForm</name>
-    <message>
-        <source>Left</source>
-        <translation>Links</translation>
-    </message>
-    <message>
-        <source>Center</source>
-        <translation>Mitte</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Rechts</translation>
-    </message>
-    <message>
-        <source>Top</source>
-        <translation>Oben</translation>
-    </message>
-    <message>
-        <source>Middle</source>
-        <translation>Mitte</translation>
-    </message>
-    <message>
-        <source>Bottom</source>
-        <translation>Unten</translation>
-    </message>
-    <message>
-        <source>px</source>
-        <translation>px</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Padding</source>
-        <translation>Innenabstand</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>Break pages between words</source>
-        <translation>Seiten zwischen Wörtern umbrechen</translation>
-    </message>
-    <message>
-        <source>Reading start</source>
-        <translation>Leseanfang</translation>
-    </message>
-    <message>
-        <source>Sizes as set</source>
-        <translation>Größen wie angegeben</translation>
-    </message>
-    <message>
-        <source>Fit height and width</source>
-        <translation>An Höhe und Breite anpassen</translation>
-    </message>
-    <message>
-        <source>Horizontal</source>
-        <translation>Horizontal</translation>
-    </message>
-    <message>
-        <source>Vertical</source>
-        <translation>Vertikal</translation>
-    </message>
-    <message>
-        <source>Fit height</source>
-        <translation>An Höhe anpassen</translation>
-    </message>
-    <message>
-        <source>Text that scrolls sideways cannot be aligned.</source>
-        <translation>Seitlich laufender Text lässt sich nicht ausrichten.</translation>
-    </message>
-    <message>
-        <source>Scrolling text has no pages.</source>
-        <translation>Laufender Text hat keine Seiten.</translation>
     </message>
 </context>
 <context>

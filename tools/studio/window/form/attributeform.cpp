@@ -1,15 +1,14 @@
 #include "studio/window/form/attributeform.h"
 
-#include "studio/window/basics/numberfield.h"
 #include "studio/window/basics/style.h"
 #include "studio/window/form/neonbox.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QFileDialog>
-#include <QLineEdit>
+#include <QGridLayout>
+#include <QToolButton>
 
 namespace AnimText {
 namespace {
@@ -29,265 +28,291 @@ bool IsElsewhere(const Attribute& attribute)
     return isLaidOut || elsewhere.contains(QLatin1String(attribute.key));
 }
 
-/** Whether the file has tenths of seconds, which are shown as seconds. */
-bool IsTenths(const Attribute& attribute)
-{
-    return QLatin1String(attribute.unit) == QLatin1String("units of 100 ms");
-}
-
 QString UnitOf(const Attribute& attribute)
 {
-    if (IsTenths(attribute))
-        return AttributeForm::tr("s");
-    if (QLatin1String(attribute.unit) == QLatin1String("pixels"))
-        return AttributeForm::tr("px");
-    if (QLatin1String(attribute.unit) == QLatin1String("times"))
-        return AttributeForm::tr("×");
-    if (QLatin1String(attribute.unit) == QLatin1String("steps"))
-        return AttributeForm::tr("of %1").arg(attribute.most);
-    return Translated(attribute.unit);
+    const QByteArray unit = attribute.unit;
+    return unit == "units of 100 ms" ? AttributeForm::tr("s")
+           : unit == "pixels"        ? AttributeForm::tr("px")
+           : unit == "times"         ? AttributeForm::tr("×")
+           : unit == "steps"         ? AttributeForm::tr("of %1").arg(attribute.most)
+                                     : Translated(attribute.unit);
+}
+
+template <typename Value>
+TextSetting SettingOf(const QString& name, Value TextSource::*member)
+{
+    return {name, QString(), [member](const SignText& text) { return int(text.source.*member); },
+            [member](SignText* text, int number) { text->source.*member = Value(number); }};
 }
 
 } // namespace
 
-AttributeForm::AttributeForm(Group group, Thumbnails* thumbnails, QWidget* parent)
+QString KeyOf(const Finding& finding)
+{
+    return finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
+}
+
+AttributeForm::AttributeForm(QWidget* parent)
     : QWidget(parent)
-    , thumbnails(thumbnails)
+    , table(new QGridLayout(this))
 {
-    auto* layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(grid);
-    layout->setVerticalSpacing(grid);
-    layout->setColumnMinimumWidth(0, LabelWidth(font()));
-    layout->setColumnStretch(2, 1);
+    table->setContentsMargins(0, 0, 0, 0);
+    table->setSpacing(grid);
+    table->setColumnMinimumWidth(0, LabelWidth(font()));
+    table->setColumnMinimumWidth(1, markWidth);
+    table->setColumnStretch(2, 1);
+}
+
+void AttributeForm::AddAttributes(Group group, Thumbnails* thumbnails)
+{
     for (const Attribute& attribute : Attributes()) {
-        if (attribute.group == group && !IsElsewhere(attribute))
-            AddField(attribute, layout);
+        if (attribute.group != group || IsElsewhere(attribute))
+            continue;
+        const TextSetting setting{
+            Translated(attribute.name), QLatin1String(attribute.key),
+            [&attribute](const SignText& text) { return NumberOf(text.node, attribute); },
+            [&attribute](SignText* text, int number) {
+                SetNumber(&text->node, attribute, number);
+            }};
+        const QString meaning =
+            QStringLiteral("%1 (%2)").arg(Translated(attribute.meaning), setting.key);
+        AddRow(setting, FieldOf(attribute, setting, thumbnails), meaning,
+               [&attribute](const SignText& text) {
+                   QString why;
+                   IsUsed(attribute, text.node, &why);
+                   return why;
+               });
     }
 }
 
-void AttributeForm::AddField(const Attribute& attribute, QGridLayout* layout)
+QWidget* AttributeForm::FieldOf(const Attribute& attribute, const TextSetting& setting,
+                                Thumbnails* thumbnails)
 {
-    Field field;
-    field.attribute = &attribute;
-    field.label = new QLabel(Translated(attribute.name), this);
-    field.mark = new QLabel(this);
-    field.mark->setFixedWidth(markWidth);
-    field.widget = MakeWidget(attribute, &field);
-    field.widget->setAccessibleName(Translated(attribute.name));
-    field.label->setBuddy(field.widget);
-    const int row = layout->rowCount();
-    layout->addWidget(field.label, row, 0);
-    layout->addWidget(field.mark, row, 1);
-    layout->addWidget(field.widget, row, 2);
-    fields.append(field);
-}
-
-QWidget* AttributeForm::MakeWidget(const Attribute& attribute, Field* field)
-{
-    if (QLatin1String(attribute.key) == QLatin1String("neonEffect"))
-        return MakeNeon(attribute, field);
+    if (setting.key == QLatin1String("neonEffect"))
+        return MakeNeon(setting, thumbnails);
     switch (attribute.kind) {
-    case ValueKind::Pair: return MakePair(attribute, field);
-    case ValueKind::File: return MakeFile(attribute, field);
-    case ValueKind::Color: return MakeColor(attribute, field);
-    case ValueKind::Choice: {
-        auto* box = new QComboBox(this);
-        for (const QString& choice : ChoicesOf(attribute))
-            box->addItem(choice);
-        LetShrink(box);
-        field->show = [box, &attribute](const SceneNode& node) {
-            const QSignalBlocker blocker(box);
-            box->setCurrentIndex(NumberOf(node, attribute) - attribute.least);
-        };
-        connect(box, qOverload<int>(&QComboBox::activated), this, [this, &attribute](int index) {
-            Tell(attribute, -1, [&attribute, index](SceneNode* node) {
-                SetNumber(node, attribute, attribute.least + index);
-            });
-        });
-        return box;
-    }
-    case ValueKind::Flag: {
-        auto* box = new QCheckBox(this);
-        field->show = [box, &attribute](const SceneNode& node) {
-            const QSignalBlocker blocker(box);
-            box->setChecked(NumberOf(node, attribute) == 1);
-        };
-        connect(box, &QCheckBox::clicked, this, [this, &attribute](bool on) {
-            Tell(attribute, -1,
-                 [&attribute, on](SceneNode* node) { SetNumber(node, attribute, on ? 1 : 0); });
-        });
-        return box;
-    }
-    default: return MakeNumber(attribute, field);
+    case ValueKind::Pair: return MakePair(attribute, setting);
+    case ValueKind::File: return MakeFile(setting);
+    case ValueKind::Color: return MakeColor(setting);
+    case ValueKind::Choice: return MakeChoice(setting, ChoicesOf(attribute), attribute.least);
+    case ValueKind::Flag: return MakeFlag(setting, QString());
+    default: // the file has tenths of seconds, which are shown as seconds
+        return MakeNumber(setting, UnitOf(attribute), attribute.least,
+                          qMin(attribute.most, 1000000),
+                          qstrcmp(attribute.unit, "units of 100 ms") == 0 ? 10 : 1);
     }
 }
 
-QWidget* AttributeForm::MakeNeon(const Attribute& attribute, Field* field)
+void AttributeForm::AddLayout()
 {
-    auto* box = new NeonBox(thumbnails, this);
-    field->show = [box, &attribute](const SceneNode& node) {
-        box->ShowStyle(NumberOf(node, attribute));
+    const auto always = [](const SignText&) { return QString(); };
+    const auto add = [this](const TextSetting& setting, QWidget* field, const auto& unused) {
+        AddRow(setting, field, QString(), unused);
     };
-    connect(box, &NeonBox::Chosen, this, [this, &attribute](int style) {
-        Tell(attribute, -1,
-             [&attribute, style](SceneNode* node) { SetNumber(node, attribute, style); });
+    // The choices are in the order of the enumerations.
+    const TextSetting fit = SettingOf(tr("Size"), &TextSource::fit);
+    add(fit, MakeChoice(fit, {tr("Sizes as set"), tr("Fit height"), tr("Fit height and width")}),
+        always);
+    const TextSetting align = SettingOf(tr("Horizontal"), &TextSource::align);
+    add(align, MakeChoice(align, {tr("Reading start"), tr("Left"), tr("Center"), tr("Right")}),
+        [](const SignText& text) {
+            return MotionOf(text.node).IsSideways()
+                       ? tr("Text that scrolls sideways cannot be aligned.")
+                       : QString();
+        });
+    const TextSetting valign = SettingOf(tr("Vertical"), &TextSource::valign);
+    add(valign, MakeChoice(valign, {tr("Top"), tr("Middle"), tr("Bottom")}), always);
+    const TextSetting padding = SettingOf(tr("Padding"), &TextSource::padding);
+    auto* pixels = MakeNumber(padding, tr("px"), 0, 1000);
+    fills.prepend([pixels](const SignText& text) {
+        const int side = qMin(text.node.size.width(), text.node.size.height());
+        pixels->SetLimits(0, qMax(0, (side - 1) / 2));
     });
-    return box;
+    add(padding, pixels, always);
+    const TextSetting pages = SettingOf(tr("Pages"), &TextSource::keepsWords);
+    add(pages, MakeFlag(pages, tr("Break pages between words")), [](const SignText& text) {
+        return MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.") : QString();
+    });
 }
 
-QWidget* AttributeForm::MakeNumber(const Attribute& attribute, Field* field)
+void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const QString& meaning,
+                           const std::function<QString(const SignText&)>& unused)
+{
+    const auto* box = qobject_cast<QCheckBox*>(field);
+    const bool namesItself = box && !box->text().isEmpty();
+    auto* label = new QLabel(setting.name, this);
+    label->setBuddy(field);
+    label->setHidden(namesItself);
+    auto* mark = new QLabel(this);
+    field->setAccessibleName(setting.name);
+    const int row = table->rowCount();
+    table->addWidget(label, row, 0);
+    table->addWidget(mark, row, 1);
+    table->addWidget(field, row, namesItself ? 0 : 2, 1, namesItself ? 3 : 1);
+    rows.append({setting.key, meaning, label, mark, field, unused});
+}
+
+NumberField* AttributeForm::MakeNumber(const TextSetting& setting, const QString& unit, int least,
+                                       int most, int perUnit)
 {
     auto* number = new NumberField(this);
-    number->SetUnit(UnitOf(attribute), IsTenths(attribute) ? 10 : 1);
-    number->SetLimits(attribute.least, qMin(attribute.most, 1000000));
-    field->show = [number, &attribute](const SceneNode& node) {
-        number->ShowNumber(NumberOf(node, attribute));
-    };
-    connect(number, &NumberField::NumberChanged, this, [this, &attribute](int value, int gesture) {
-        Tell(attribute, gesture,
-             [&attribute, value](SceneNode* node) { SetNumber(node, attribute, value); });
-    });
+    number->SetUnit(unit, perUnit);
+    number->SetLimits(least, most);
+    fills.append([=](const SignText& text) { number->ShowNumber(setting.read(text)); });
+    connect(number, &NumberField::NumberChanged, this,
+            [=](int value, int gesture) { Tell(setting, value, gesture); });
     return number;
 }
 
-QWidget* AttributeForm::MakePair(const Attribute& attribute, Field* field)
+QWidget* AttributeForm::MakeChoice(const TextSetting& setting, const QStringList& choices,
+                                   int least)
+{
+    auto* box = new QComboBox(this);
+    box->addItems(choices);
+    LetShrink(box);
+    fills.append([=](const SignText& text) { box->setCurrentIndex(setting.read(text) - least); });
+    connect(box, qOverload<int>(&QComboBox::activated), this,
+            [=](int index) { Tell(setting, least + index); });
+    return box;
+}
+
+QWidget* AttributeForm::MakeFlag(const TextSetting& setting, const QString& words)
+{
+    auto* box = new QCheckBox(words, this);
+    fills.append([=](const SignText& text) { box->setChecked(setting.read(text) == 1); });
+    connect(box, &QCheckBox::clicked, this, [=](bool on) { Tell(setting, on ? 1 : 0); });
+    return box;
+}
+
+QWidget* AttributeForm::MakeNeon(const TextSetting& setting, Thumbnails* thumbnails)
+{
+    auto* box = new NeonBox(thumbnails, this);
+    fills.append([=](const SignText& text) { box->ShowStyle(setting.read(text)); });
+    connect(box, qOverload<int>(&QComboBox::activated), this,
+            [=] { Tell(setting, box->currentData().toInt()); });
+    return box;
+}
+
+QWidget* AttributeForm::MakePair(const Attribute& attribute, const TextSetting& setting)
 {
     auto* pair = new QWidget(this);
-    auto* layout = new QGridLayout(pair);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(grid);
-    const bool isSize = QLatin1String(attribute.key) == QLatin1String("size");
-    for (int i = 0; i < 2; ++i) {
-        auto* number = new NumberField(pair);
-        const QString side =
-            isSize ? (i == 0 ? tr("Width") : tr("Height")) : (i == 0 ? tr("Left") : tr("Top"));
-        number->setAccessibleName(side);
-        number->setToolTip(side);
-        number->setPrefix(isSize ? (i == 0 ? tr("w ") : tr("h ")) : (i == 0 ? tr("x ") : tr("y ")));
-        number->SetUnit(UnitOf(attribute));
-        number->SetLimits(attribute.least, attribute.most);
-        layout->addWidget(number, 0, i);
-        connect(number, &NumberField::NumberChanged, this,
-                [this, &attribute, isSize, i](int value, int gesture) {
-                    Tell(attribute, gesture, [isSize, i, value](SceneNode* node) {
-                        if (isSize)
-                            (i == 0 ? node->size.rwidth() : node->size.rheight()) = value;
-                        else
-                            (i == 0 ? node->pos.rx() : node->pos.ry()) = value;
-                    });
-                });
-        const auto before = field->show;
-        field->show = [before, number, isSize, i](const SceneNode& node) {
-            if (before)
-                before(node);
-            const QPoint pos = isSize ? QPoint(node.size.width(), node.size.height()) : node.pos;
-            number->ShowNumber(i == 0 ? pos.x() : pos.y());
-        };
+    auto* line = new QHBoxLayout(pair);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(grid);
+    const auto add = [&](const QString& name, const QString& prefix,
+                         int& (*side)(SceneNode & node)) {
+        const TextSetting own{setting.name, prefix, // x and y are two undo steps
+
+                              [side](SignText text) { return side(text.node); },
+                              [side](SignText* text, int number) { side(text->node) = number; }};
+        auto* number = MakeNumber(own, UnitOf(attribute), attribute.least, attribute.most);
+        number->setAccessibleName(name);
+        number->setToolTip(name);
+        number->setPrefix(prefix);
+        line->addWidget(number);
+    };
+    if (setting.key == QLatin1String("size")) {
+        add(tr("Width"), tr("w "), [](SceneNode& n) -> int& { return n.size.rwidth(); });
+        add(tr("Height"), tr("h "), [](SceneNode& n) -> int& { return n.size.rheight(); });
+    } else {
+        add(tr("Left"), tr("x "), [](SceneNode& n) -> int& { return n.pos.rx(); });
+        add(tr("Top"), tr("y "), [](SceneNode& n) -> int& { return n.pos.ry(); });
     }
-    pair->setFocusProxy(layout->itemAt(0)->widget());
+    pair->setFocusProxy(line->itemAt(0)->widget());
     return pair;
 }
 
-QWidget* AttributeForm::MakeFile(const Attribute& attribute, Field* field)
+QWidget* AttributeForm::MakeFile(const TextSetting& setting)
 {
-    const QString key = QLatin1String(attribute.key);
     auto* button = new QToolButton(this);
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    field->show = [button, key](const SceneNode& node) {
-        const QString file = node.files.value(key);
+    fills.append([button, key = setting.key](const SignText& text) {
+        const QString file = text.node.files.value(key);
         button->setText(file.isEmpty() ? tr("Choose…") : QFileInfo(file).fileName());
-    };
-    connect(button, &QToolButton::clicked, this, [this, &attribute, key] {
+    });
+    connect(button, &QToolButton::clicked, this, [=] {
         const QString file = QFileDialog::getOpenFileName(
-            this, Translated(attribute.name), QString(),
+            this, setting.name, QString(),
             tr("Pictures (*.png *.jpg *.jpeg *.gif *.bmp);;All files (*)"));
         if (!file.isEmpty())
-            Tell(attribute, -1, [key, file](SceneNode* node) { node->files[key] = file; });
+            emit Edited(setting.name, QString(),
+                        [=](SignText* text) { text->node.files[setting.key] = file; });
     });
     return button;
 }
 
-QWidget* AttributeForm::MakeColor(const Attribute& attribute, Field* field)
+QWidget* AttributeForm::MakeColor(const TextSetting& setting)
 {
     auto* button = new QToolButton(this);
     button->setAutoRaise(true);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    field->show = [button, &attribute](const SceneNode& node) {
+    fills.append([=](const SignText& text) {
         QPixmap pixmap(32, 16);
-        const QColor color = QColor::fromRgb(QRgb(NumberOf(node, attribute)));
+        const QColor color = QColor::fromRgb(QRgb(setting.read(text)));
         pixmap.fill(color);
         button->setIcon(pixmap);
         button->setText(color.name());
-    };
-    connect(button, &QToolButton::clicked, this, [this, &attribute] {
+    });
+    connect(button, &QToolButton::clicked, this, [=] {
         auto* dialog = new QColorDialog(this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        connect(
-            dialog, &QColorDialog::colorSelected, this, [this, &attribute](const QColor& color) {
-                const int number = int(color.rgb() & 0xFFFFFF);
-                Tell(attribute, -1,
-                     [&attribute, number](SceneNode* node) { SetNumber(node, attribute, number); });
-            });
+        connect(dialog, &QColorDialog::colorSelected, this,
+                [=](const QColor& color) { Tell(setting, int(color.rgb() & 0xFFFFFF)); });
         dialog->show();
     });
     return button;
 }
 
-void AttributeForm::Tell(const Attribute& attribute, int gesture,
-                         const std::function<void(SceneNode*)>& set)
+void AttributeForm::Tell(const TextSetting& setting, int number, int gesture)
 {
-    const QString merge =
-        gesture < 0 ? QString()
-                    : QStringLiteral("%1 %2").arg(QLatin1String(attribute.key)).arg(gesture);
-    emit Edited(Translated(attribute.name), merge, [set](SignText* text) { set(&text->node); });
+    emit Edited(setting.name,
+                gesture < 0
+                    ? QString()
+                    : QStringLiteral("%1 %2 %3").arg(setting.name, setting.key).arg(gesture),
+                [=](SignText* text) { setting.write(text, number); });
 }
 
 void AttributeForm::Show(const SignText& text)
 {
-    for (const Field& field : fields) {
-        field.show(text.node);
-        QString why;
-        const bool isUsed = IsUsed(*field.attribute, text.node, &why);
+    for (const auto& fill : fills)
+        fill(text);
+    for (const Row& row : rows) {
+        const QString why = row.unused(text);
         // A setting that does not apply is dimmed, but can still be changed.
         QPalette colors = palette();
-        if (!isUsed) {
+        if (!why.isEmpty()) {
             const QColor quiet =
                 Mixed(colors.color(QPalette::WindowText), colors.color(QPalette::Window), 0.55);
-            colors.setColor(QPalette::WindowText, quiet);
-            colors.setColor(QPalette::Text, quiet);
-            colors.setColor(QPalette::ButtonText, quiet);
+            for (QPalette::ColorRole role :
+                 {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+                colors.setColor(role, quiet);
         }
-        field.label->setPalette(colors);
-        field.widget->setPalette(colors);
-        const QString meaning = QStringLiteral("%1 (%2)").arg(Translated(field.attribute->meaning),
-                                                              QLatin1String(field.attribute->key));
-        const QString words = isUsed ? meaning : meaning + QLatin1Char('\n') + why;
-        field.label->setToolTip(words);
-        field.widget->setToolTip(words);
-        field.widget->setAccessibleDescription(isUsed ? QString() : why);
+        const QString words = (QStringList(row.meaning) << why).join(QLatin1Char('\n')).trimmed();
+        for (QWidget* widget : {static_cast<QWidget*>(row.label), row.field}) {
+            widget->setPalette(colors);
+            widget->setToolTip(words);
+        }
+        row.field->setAccessibleDescription(why);
         // Tab skips it; a click still works.
-        if (!field.widget->focusProxy())
-            field.widget->setFocusPolicy(isUsed ? Qt::StrongFocus : Qt::ClickFocus);
+        if (!row.field->focusProxy())
+            row.field->setFocusPolicy(why.isEmpty() ? Qt::StrongFocus : Qt::ClickFocus);
     }
 }
 
 void AttributeForm::SetFindings(const QList<Finding>& findings)
 {
-    for (const Field& field : fields) {
+    for (const Row& row : rows) {
         QStringList words;
         for (const Finding& finding : findings) {
-            const QString last =
-                finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
-            if (last == QLatin1String(field.attribute->key))
+            if (KeyOf(finding) == row.key)
                 words.append(tr("Found %1, expected %2. %3")
                                  .arg(finding.found, finding.expected,
                                       QCoreApplication::translate("Rules", finding.GetRule().why)));
         }
-        field.mark->setToolTip(words.join(QLatin1Char('\n')));
-        field.mark->setPixmap(
+        row.mark->setToolTip(words.join(QLatin1Char('\n')));
+        row.mark->setPixmap(
             words.isEmpty() ? QPixmap() : Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
     }
 }

@@ -1,17 +1,17 @@
 /**
  * @file
- * A form for the settings of a text, built from the table of attributes.
+ * A form for settings of a text.
  */
 #ifndef ANIMTEXT_ATTRIBUTEFORM_H
 #define ANIMTEXT_ATTRIBUTEFORM_H
 
 #include "scene/attributes.h"
 #include "studio/model/sign.h"
+#include "studio/window/basics/numberfield.h"
 #include "validate/validate.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QToolButton>
 #include <QWidget>
 
 #include <functional>
@@ -23,15 +23,30 @@ class Thumbnails;
 /** Changes the text that is edited. */
 using TextChange = std::function<void(SignText* text)>;
 
+/** A number of a text. */
+struct TextSetting
+{
+    QString name;
+    QString key; ///< in the scene file, if it is there
+    std::function<int(const SignText& text)> read;
+    std::function<void(SignText* text, int number)> write;
+};
+
+/** Rows of a label, a mark for findings, and a field. */
 class AttributeForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** @param group the attributes to show, except those with a widget elsewhere
+    explicit AttributeForm(QWidget* parent = nullptr);
+
+    /**
+     * Adds the attributes of @p group, except those with a widget elsewhere.
      * @param thumbnails paints the pictures of choices
      */
-    AttributeForm(Group group, Thumbnails* thumbnails, QWidget* parent = nullptr);
+    void AddAttributes(Group group, Thumbnails* thumbnails);
+    /** Adds how a text is laid out in its area. */
+    void AddLayout();
 
     void Show(const SignText& text);
     /** Shows findings about the text beside its fields. */
@@ -42,27 +57,37 @@ signals:
     void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
 
 private:
-    struct Field
+    struct Row
     {
-        const Attribute* attribute;
+        QString key;
+        QString meaning;
         QLabel* label;
-        QWidget* widget;
         QLabel* mark;
-        std::function<void(const SceneNode&)> show;
+        QWidget* field;
+        std::function<QString(const SignText&)> unused; // why a text does not use it
     };
 
-    void AddField(const Attribute& attribute, QGridLayout* layout);
-    QWidget* MakeWidget(const Attribute& attribute, Field* field);
-    QWidget* MakeNeon(const Attribute& attribute, Field* field);
-    QWidget* MakeNumber(const Attribute& attribute, Field* field);
-    QWidget* MakePair(const Attribute& attribute, Field* field);
-    QWidget* MakeFile(const Attribute& attribute, Field* field);
-    QWidget* MakeColor(const Attribute& attribute, Field* field);
-    void Tell(const Attribute& attribute, int gesture, const std::function<void(SceneNode*)>& set);
+    void AddRow(const TextSetting& setting, QWidget* field, const QString& meaning,
+                const std::function<QString(const SignText&)>& unused);
+    QWidget* FieldOf(const Attribute& attribute, const TextSetting& setting,
+                     Thumbnails* thumbnails);
+    NumberField* MakeNumber(const TextSetting& setting, const QString& unit, int least, int most,
+                            int perUnit = 1);
+    QWidget* MakeChoice(const TextSetting& setting, const QStringList& choices, int least = 0);
+    QWidget* MakeFlag(const TextSetting& setting, const QString& words);
+    QWidget* MakeNeon(const TextSetting& setting, Thumbnails* thumbnails);
+    QWidget* MakePair(const Attribute& attribute, const TextSetting& setting);
+    QWidget* MakeFile(const TextSetting& setting);
+    QWidget* MakeColor(const TextSetting& setting);
+    void Tell(const TextSetting& setting, int number, int gesture = -1);
 
-    Thumbnails* thumbnails;
-    QList<Field> fields;
+    QGridLayout* table;
+    QList<Row> rows;
+    QList<std::function<void(const SignText&)>> fills; // show a text in the fields
 };
+
+/** The key of the setting that @p finding is about. */
+QString KeyOf(const Finding& finding);
 
 } // namespace AnimText
 

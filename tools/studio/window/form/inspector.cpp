@@ -15,7 +15,6 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     , displayForm(new DisplayForm)
     , text(new TextPanel)
     , motions(new MotionPicker(thumbnails))
-    , layoutForm(new LayoutForm)
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -26,35 +25,43 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     both->setContentsMargins(3 * grid, 2 * grid, 3 * grid, 3 * grid);
     both->addWidget(ofDisplay);
     both->addWidget(ofText, 1);
-    auto* display = new QVBoxLayout(ofDisplay);
-    display->setContentsMargins(0, 0, 0, 0);
-    display->setSpacing(grid);
-    display->addWidget(Heading(tr("Display")));
-    display->addWidget(displayForm);
-    display->addStretch(1);
-    auto* layout = new QVBoxLayout(ofText);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(grid);
-    const auto section = [&](const QString& words, const QList<QWidget*>& parts) {
+    for (QWidget* part : {ofDisplay, ofText}) {
+        auto* layout = new QVBoxLayout(part);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(grid);
+    }
+    const auto section = [](QWidget* part, const QString& words, const QList<QWidget*>& widgets) {
+        auto* layout = static_cast<QVBoxLayout*>(part->layout());
         if (layout->count() > 0)
             layout->addSpacing(3 * grid);
-        layout->addWidget(Heading(words));
-        for (QWidget* part : parts)
-            layout->addWidget(part);
+        auto* heading = new QLabel(words);
+        QFont bold = heading->font();
+        bold.setBold(true);
+        heading->setFont(bold);
+        layout->addWidget(heading);
+        for (QWidget* widget : widgets)
+            layout->addWidget(widget);
     };
-    for (Group group : {Group::Text, Group::Motion, Group::Place, Group::Background}) {
-        auto* form = new AttributeForm(group, thumbnails);
-        forms.append(form);
-        connect(form, &AttributeForm::Edited, this, &Inspector::Edited);
-    }
-    connect(layoutForm, &LayoutForm::Edited, this, &Inspector::Edited);
-    section(tr("Text"), {text});
-    section(tr("Motion"), {motions, forms.at(1)});
-    section(tr("Layout"), {layoutForm});
-    section(tr("Place"), {forms.at(2)});
-    section(tr("Background"), {forms.at(3)});
-    section(tr("Letters"), {forms.at(0)});
-    layout->addStretch(1);
+    const auto form = [&] {
+        forms.append(new AttributeForm);
+        connect(forms.last(), &AttributeForm::Edited, this, &Inspector::Edited);
+        return forms.last();
+    };
+    const auto attributes = [&](Group group) {
+        AttributeForm* made = form();
+        made->AddAttributes(group, thumbnails);
+        return made;
+    };
+    section(ofText, tr("Text"), {text});
+    section(ofText, tr("Motion"), {motions, attributes(Group::Motion)});
+    section(ofText, tr("Layout"), {form()});
+    forms.last()->AddLayout();
+    section(ofText, tr("Place"), {attributes(Group::Place)});
+    section(ofText, tr("Background"), {attributes(Group::Background)});
+    section(ofText, tr("Letters"), {attributes(Group::Text)});
+    section(ofDisplay, tr("Display"), {displayForm});
+    for (QWidget* part : {ofDisplay, ofText})
+        static_cast<QVBoxLayout*>(part->layout())->addStretch(1);
     setWidget(content);
     // All labels are as wide as the widest, so that the fields line up.
     int widest = 0;
@@ -99,15 +106,6 @@ void Inspector::resizeEvent(QResizeEvent* event)
     motions->SetRoom(viewport()->height());
 }
 
-QLabel* Inspector::Heading(const QString& words)
-{
-    auto* label = new QLabel(words);
-    QFont bold = label->font();
-    bold.setBold(true);
-    label->setFont(bold);
-    return label;
-}
-
 void Inspector::Show(const Sign& sign, const SignText* shown)
 {
     ofText->setVisible(shown != nullptr);
@@ -118,7 +116,6 @@ void Inspector::Show(const Sign& sign, const SignText* shown)
         return;
     }
     motions->Show(*shown);
-    layoutForm->Show(*shown);
     for (AttributeForm* form : forms)
         form->Show(*shown);
 }

@@ -7,7 +7,6 @@
 
 #include "studio/window/display/displayform.h"
 #include "studio/window/form/attributeform.h"
-#include "studio/window/form/layoutform.h"
 #include "studio/window/motion/motionpicker.h"
 #include "studio/window/text/textpanel.h"
 
@@ -37,14 +36,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    static QLabel* Heading(const QString& words);
-
     QWidget* ofText;    // settings of a text
     QWidget* ofDisplay; // settings of the display, while no text is selected
     DisplayForm* displayForm;
     TextPanel* text;
     MotionPicker* motions;
-    LayoutForm* layoutForm;
     QList<AttributeForm*> forms;
 };
 

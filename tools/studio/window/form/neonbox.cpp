@@ -37,13 +37,10 @@ NeonBox::NeonBox(Thumbnails* thumbnails, QWidget* parent)
                             style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     beat.setInterval(tickLength);
     connect(&beat, &QTimer::timeout, this, &NeonBox::ShowPictures);
-    connect(this, qOverload<int>(&QComboBox::activated), this,
-            [this](int row) { emit Chosen(itemData(row).toInt()); });
 }
 
 void NeonBox::ShowStyle(int style)
 {
-    const QSignalBlocker blocker(this);
     setCurrentIndex(qBound(0, style - 1, borders)); // 0 is the first style, too
     // Every number above the borders means a picture; choosing it again keeps the number.
     setItemData(borders, qMax(borders + 1, style));

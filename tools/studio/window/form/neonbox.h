@@ -12,6 +12,7 @@ namespace AnimText {
 
 class Thumbnails;
 
+/** The data of its items are the styles. */
 class NeonBox : public QComboBox
 {
     Q_OBJECT
@@ -23,9 +24,6 @@ public:
     void ShowStyle(int style);
     void showPopup() override;
     void hidePopup() override;
-
-signals:
-    void Chosen(int style);
 
 private:
     void ShowPictures();
