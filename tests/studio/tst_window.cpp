@@ -4,7 +4,6 @@
 #include "studio/window/form/neonbox.h"
 #include "studio/window/shell/exportdialog.h"
 #include "studio/window/shell/mainwindow.h"
-#include "studio/window/shell/newdialog.h"
 
 #include "photograph.h"
 #include "testfolder.h"
@@ -331,7 +330,7 @@ void TestWindow::zoomsPansAndMeasures()
     QVERIFY(!window->GetPlayback()->IsPlaying());
     QCOMPARE(QRect(Text().node.pos, Text().node.size), area);
 
-    view->SetZoom(0);
+    QTest::keyClick(view, Qt::Key_0, Qt::ControlModifier);
     const double fitted = view->Scale();
     auto* leds = window->findChild<QAction*>("leds");
     leds->setChecked(true);
@@ -439,13 +438,13 @@ void TestWindow::changesDisplaySize()
         if (action->shortcut() == QKeySequence::New)
             action->trigger();
     }
-    auto* dialog = window->findChild<NewDialog*>();
+    auto* dialog = window->findChild<QDialog*>("new");
     QVERIFY(dialog);
     const auto choose = [](DisplayForm* form, const char* panel) {
         form->Presets()->setCurrentText(panel);
         emit form->Presets()->activated(form->Presets()->currentIndex());
     };
-    choose(dialog->Form(), "128 × 32");
+    choose(dialog->findChild<DisplayForm*>(), "128 × 32");
     dialog->accept();
     QCOMPARE(window->GetDocument()->Current().display, QSize(128, 32));
     QCOMPARE(Text().node.size, QSize(128, 32));

@@ -762,10 +762,6 @@
         <translation>&amp;Exportieren …</translation>
     </message>
     <message>
-        <source>Ctrl+E</source>
-        <translation>Ctrl+E</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
@@ -782,32 +778,8 @@
         <translation>&amp;Wiederholen</translation>
     </message>
     <message>
-        <source>Ctrl+T</source>
-        <translation>Ctrl+T</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+T</source>
-        <translation>Ctrl+Shift+T</translation>
-    </message>
-    <message>
-        <source>Ctrl+D</source>
-        <translation>Ctrl+D</translation>
-    </message>
-    <message>
-        <source>F2</source>
-        <translation>F2</translation>
-    </message>
-    <message>
-        <source>Ctrl+M</source>
-        <translation>Ctrl+M</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>Ctrl+0</source>
-        <translation>Ctrl+0</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
@@ -822,16 +794,8 @@
         <translation>&amp;LEDs</translation>
     </message>
     <message>
-        <source>Ctrl+L</source>
-        <translation>Ctrl+L</translation>
-    </message>
-    <message>
         <source>%1 diameters</source>
         <translation>%1 Durchmesser</translation>
-    </message>
-    <message>
-        <source>Ctrl+F</source>
-        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -978,10 +942,6 @@
         <translation>Mit F&amp;ormatierung einfügen</translation>
     </message>
     <message>
-        <source>Ctrl+Shift+V</source>
-        <translation>Ctrl+Shift+V</translation>
-    </message>
-    <message>
         <source>Ctrl+Space</source>
         <translation>Ctrl+Space</translation>
     </message>
@@ -992,10 +952,6 @@
     <message>
         <source>Display</source>
         <translation>Anzeige</translation>
-    </message>
-    <message>
-        <source>Ctrl+R</source>
-        <translation>Ctrl+R</translation>
     </message>
     <message>
         <source>Zoom (Ctrl+wheel, Ctrl+0, Ctrl++, Ctrl+-)</source>
@@ -1048,10 +1004,6 @@
     <message>
         <source>Text: %1</source>
         <translation>Text: %1</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation>F1</translation>
     </message>
     <message>
         <source>Keys</source>
@@ -1304,6 +1256,14 @@
         <source>&amp;Search motions</source>
         <translation>Bewegun&amp;g suchen</translation>
     </message>
+    <message>
+        <source>New scene</source>
+        <translation>Neue Szene</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Erstellen</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::MotionPicker</name>
@@ -1337,17 +1297,6 @@
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::NewDialog</name>
-    <message>
-        <source>Create</source>
-        <translation>Erstellen</translation>
-    </message>
-    <message>
-        <source>New scene</source>
-        <translation>Neue Szene</translation>
     </message>
 </context>
 <context>

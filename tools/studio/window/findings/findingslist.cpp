@@ -15,23 +15,10 @@ namespace {
 
 constexpr int mostShown = 40;
 
-TextChange SetAttribute(const QString& name, int value)
-{
-    return [name, value](SignText* text) { text->node.attributes[name] = value; };
-}
-
-TextChange RemoveAttributes(const QStringList& keys)
-{
-    return [keys](SignText* text) {
-        for (const QString& key : keys)
-            text->node.attributes.remove(key);
-    };
-}
-
 /** Label of the field that @p finding is about; empty for none. */
 QString FieldOf(const Finding& finding)
 {
-    const QString key = finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
+    const QString key = KeyOf(finding);
     for (const Attribute& attribute : Attributes()) {
         if (key == QLatin1String(attribute.key))
             return Translated(attribute.name);
@@ -43,25 +30,35 @@ QString FieldOf(const Finding& finding)
 
 Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
 {
+    const auto set = [](const QString& words, const QString& key, int value) {
+        return Fix{words, [=](SignText* edited) { edited->node.attributes[key] = value; }};
+    };
+    const auto remove = [](const char* key, const char* other) {
+        return Fix{FindingsList::tr("Remove"), [=](SignText* edited) {
+                       edited->node.attributes.remove(QLatin1String(key));
+                       edited->node.attributes.remove(QLatin1String(other));
+                   }};
+    };
+    const auto fit = [](const QString& words, Fit wanted) {
+        return Fix{words, [=](SignText* edited) { edited->source.fit = wanted; }};
+    };
     switch (finding.mistake) {
     case Mistake::SpeedRange: {
         const QString key = MotionOf(text.node).SpeedKey();
-        const int speed = text.node.attributes.value(key).toInt();
-        return {FindingsList::tr("Use the nearest speed"), SetAttribute(key, qBound(0, speed, 9))};
+        return set(FindingsList::tr("Use the nearest speed"), key,
+                   qBound(0, text.node.attributes.value(key).toInt(), 9));
     }
     case Mistake::PlaysRange:
-        return {FindingsList::tr("Play once"), SetAttribute(QStringLiteral("PlayTimes"), 1)};
+        return set(FindingsList::tr("Play once"), QStringLiteral("PlayTimes"), 1);
     case Mistake::HoldRange:
         return {FindingsList::tr("Remove the pause"),
                 [](SignText* edited) { edited->node.hold = 0; }};
     case Mistake::ModeUnknown:
-        return {FindingsList::tr("Use an entrance effect"),
-                SetAttribute(QStringLiteral("EffectType"), 0)};
+        return set(FindingsList::tr("Use an entrance effect"), QStringLiteral("EffectType"), 0);
     case Mistake::EffectUnknown:
-        return {FindingsList::tr("Use Typewriter"),
-                SetAttribute(QStringLiteral("AnimationEffect"), 4)};
+        return set(FindingsList::tr("Use Typewriter"), QStringLiteral("AnimationEffect"), 4);
     case Mistake::DirectionUnknown:
-        return {FindingsList::tr("Scroll left"), SetAttribute(QStringLiteral("ContinueStyle"), 0)};
+        return set(FindingsList::tr("Scroll left"), QStringLiteral("ContinueStyle"), 0);
     case Mistake::AreaOutside:
         return {FindingsList::tr("Move onto the display"), [display](SignText* edited) {
                     SceneNode& node = edited->node;
@@ -70,8 +67,8 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
                     node.pos.setY(qBound(0, node.pos.y(), display.height() - node.size.height()));
                 }};
     case Mistake::FileMissing:
-        if (!finding.place.endsWith(QLatin1String("PathData")) &&
-            !finding.place.endsWith(QLatin1String("DescentVector")))
+        if (KeyOf(finding) != QLatin1String("PathData") &&
+            KeyOf(finding) != QLatin1String("DescentVector"))
             return {};
         [[fallthrough]];
     case Mistake::DataMalformed:
@@ -83,12 +80,8 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
     case Mistake::RowValue:
         return {FindingsList::tr("Recreate the outlines"),
                 [](SignText* edited) { edited->layout.reset(); }};
-    case Mistake::TextHigh:
-        return {FindingsList::tr("Fit height"),
-                [](SignText* edited) { edited->source.fit = Fit::Height; }};
-    case Mistake::CharacterWide:
-        return {FindingsList::tr("Fit height and width"),
-                [](SignText* edited) { edited->source.fit = Fit::Both; }};
+    case Mistake::TextHigh: return fit(FindingsList::tr("Fit height"), Fit::Height);
+    case Mistake::CharacterWide: return fit(FindingsList::tr("Fit height and width"), Fit::Both);
     case Mistake::ColorsIgnored:
         return {FindingsList::tr("Use the first color"), [](SignText* edited) {
                     QVector<StyleRun>& runs = edited->source.text.runs;
@@ -97,13 +90,9 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
                 }};
     case Mistake::GradientIgnored:
     case Mistake::PictureIgnored:
-        return {FindingsList::tr("Turn on dazzle"), SetAttribute(QStringLiteral("CheckDazzle"), 1)};
-    case Mistake::StrokeIgnored:
-        return {FindingsList::tr("Remove"),
-                RemoveAttributes({QStringLiteral("Stroke"), QStringLiteral("StrokeColor")})};
-    case Mistake::ShadowIgnored:
-        return {FindingsList::tr("Remove"), RemoveAttributes({QStringLiteral("CheckShadowEffect"),
-                                                              QStringLiteral("TextShadowBox")})};
+        return set(FindingsList::tr("Turn on dazzle"), QStringLiteral("CheckDazzle"), 1);
+    case Mistake::StrokeIgnored: return remove("Stroke", "StrokeColor");
+    case Mistake::ShadowIgnored: return remove("CheckShadowEffect", "TextShadowBox");
     default: return {};
     }
 }
@@ -137,23 +126,26 @@ FindingsList::FindingsList(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAccessibleName(tr("Problems"));
-    Fill({});
+    Show({}, {});
 }
 
 void FindingsList::ApplyFix(int index)
 {
-    const Row row = rows.value(index, {0, {}, {}, {}, false});
-    if (row.fix.change)
-        emit Fixed(row.id, row.fix.words, row.fix.change);
+    const Row row = rows.value(index);
+    if (!row.fix.change)
+        return;
+    emit Selected(row.id);
+    emit Edited(row.fix.words, QString(), row.fix.change);
 }
 
 void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
 {
-    QList<Row> next;
+    QList<Row> before = rows;
+    rows.clear();
     for (const Finding& finding : findings) {
-        const Rule& rule = finding.GetRule();
-        Row row{0, {}, {}, {}, rule.severity == Severity::Error};
-        row.words = QCoreApplication::translate("Rules", rule.why);
+        Row row;
+        row.words = QCoreApplication::translate("Rules", finding.GetRule().why);
+        row.isError = finding.GetRule().severity == Severity::Error;
         const QString field = FieldOf(finding);
         if (!field.isEmpty())
             row.words = QStringLiteral("%1: %2").arg(field, row.words);
@@ -167,40 +159,30 @@ void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
             if (sign.texts.size() > 1)
                 row.words = QStringLiteral("%1 · %2").arg(text.Title(), row.words);
         }
-        next.append(row);
+        rows.append(row);
     }
-    Fill(next);
-    emit CountChanged(Count());
-}
-
-void FindingsList::Fill(const QList<Row>& next)
-{
+    emit CountChanged(rows.size());
     const auto same = [](const Row& a, const Row& b) {
         return a.id == b.id && a.words == b.words && a.fix.words == b.fix.words;
     };
-    const bool isSame = next.size() == rows.size() && !next.isEmpty() &&
-                        std::equal(next.begin(), next.end(), rows.begin(), same);
-    rows = next;
-    if (isSame)
+    if (std::equal(rows.begin(), rows.end(), before.begin(), before.end(), same) && list->count())
         return; // rebuilding would take the focus from a button
     while (QLayoutItem* item = list->takeAt(0)) {
         delete item->widget();
         delete item;
     }
-    const auto say = [this](const QString& words) {
-        auto* label = new QLabel(words);
+    for (int i = 0; i < std::min(int(rows.size()), mostShown); ++i)
+        list->addWidget(MakeRow(i));
+    if (rows.isEmpty() || rows.size() > mostShown) {
+        auto* label =
+            new QLabel(rows.isEmpty() ? tr("No problems found")
+                                      : tr("And %n more", nullptr, rows.size() - mostShown));
         label->setWordWrap(true);
         list->addWidget(label);
         QPalette colors = label->palette();
         colors.setColor(label->foregroundRole(), Quiet(colors));
         label->setPalette(colors);
-    };
-    for (int i = 0; i < std::min(int(rows.size()), mostShown); ++i)
-        list->addWidget(MakeRow(i));
-    if (rows.isEmpty())
-        say(tr("No problems found"));
-    else if (rows.size() > mostShown)
-        say(tr("And %n more", nullptr, rows.size() - mostShown));
+    }
     list->addStretch(1);
     setMinimumWidth(list->minimumSize().width()); // no button is clipped, in any language
 }

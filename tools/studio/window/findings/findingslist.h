@@ -38,7 +38,8 @@ public:
 
 signals:
     void Selected(int id);
-    void Fixed(int id, const QString& what, const AnimText::TextChange& change);
+    /** Follows Selected() with its text. */
+    void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
     void CountChanged(int count);
 
 protected:
@@ -47,14 +48,13 @@ protected:
 private:
     struct Row
     {
-        int id; // id of the text; 0 for none
+        int id = 0; // id of the text; 0 for none
         Fix fix;
         QString words;
         QString why;
-        bool isError;
+        bool isError = false;
     };
 
-    void Fill(const QList<Row>& next);
     QWidget* MakeRow(int index);
 
     QVBoxLayout* list;

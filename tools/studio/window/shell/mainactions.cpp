@@ -4,10 +4,10 @@
 #include "studio/window/display/ledsdialog.h"
 #include "studio/window/shell/exportdialog.h"
 #include "studio/window/shell/mainwindow.h"
-#include "studio/window/shell/newdialog.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -30,19 +30,16 @@ constexpr int largestZoom = 16;
 
 } // namespace
 
-QAction* MainWindow::Act(QMenu* menu, const QString& words, const QKeySequence& key,
-                         const QString& icon, const std::function<void()>& act)
+QAction* MainWindow::Act(QMenu* menu, const Entry& entry, const std::function<void()>& act)
 {
-    QAction* action = menu->addAction(words);
-    action->setShortcut(key);
-    if (!icon.isEmpty())
-        action->setIcon(Icon(icon));
-    QString name = words;
-    name.remove(QLatin1Char('&'));
-    name.remove(QStringLiteral("…"));
-    action->setToolTip(key.isEmpty() ? name
-                                     : QStringLiteral("%1 (%2)").arg(
-                                           name, key.toString(QKeySequence::NativeText)));
+    QAction* action = menu->addAction(entry.words);
+    action->setShortcut(entry.key);
+    if (entry.icon)
+        action->setIcon(Icon(QLatin1String(entry.icon)));
+    QString name = entry.words;
+    name.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+    const QString key = entry.key.toString(QKeySequence::NativeText);
+    action->setToolTip(key.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, key));
     connect(action, &QAction::triggered, this, act);
     return action;
 }
@@ -63,24 +60,22 @@ void MainWindow::MakeActions()
 void MainWindow::MakeFileMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    QAction* fresh = Act(file, tr("&New…"), QKeySequence::New, QStringLiteral("document-new"),
-                         [this] { Leave([this] { ChooseNew(); }); });
-    QAction* open = Act(file, tr("&Open…"), QKeySequence::Open, QStringLiteral("document-open"),
-                        [this] { ChooseAndOpen(); });
+    tools->addAction(Act(file, {tr("&New…"), QKeySequence::New, "document-new"},
+                         [this] { Leave([this] { ChooseNew(); }); }));
+    tools->addAction(Act(file, {tr("&Open…"), QKeySequence::Open, "document-open"},
+                         [this] { ChooseAndOpen(); }));
     recent = file->addMenu(tr("Open &recent"));
     connect(recent, &QMenu::aboutToShow, this, &MainWindow::ShowRecent);
     file->addSeparator();
-    saveAction = Act(file, tr("&Save"), QKeySequence::Save, QStringLiteral("document-save"),
-                     [this] { Save(); });
-    Act(file, tr("Save &as…"), QKeySequence::SaveAs, QString(), [this] { SaveAs(); });
-    file->addSeparator();
-    QAction* film = Act(file, tr("&Export…"), QKeySequence(tr("Ctrl+E")),
-                        QStringLiteral("document-export"), [this] { ShowExport(); });
-    film->setObjectName(QStringLiteral("export"));
-    file->addSeparator();
-    Act(file, tr("&Quit"), QKeySequence::Quit, QString(), [this] { close(); });
-    tools->addActions({fresh, open, saveAction});
+    saveAction = Act(file, {tr("&Save"), QKeySequence::Save, "document-save"}, [this] { Save(); });
+    tools->addAction(saveAction);
     tools->addSeparator();
+    Act(file, {tr("Save &as…"), QKeySequence::SaveAs}, [this] { SaveAs(); });
+    file->addSeparator();
+    exportAction = Act(file, {tr("&Export…"), Qt::CTRL | Qt::Key_E, "document-export"},
+                       [this] { ShowExport(); });
+    file->addSeparator();
+    Act(file, {tr("&Quit"), QKeySequence::Quit}, [this] { close(); });
 }
 
 void MainWindow::MakeEditMenu()
@@ -93,57 +88,57 @@ void MainWindow::MakeEditMenu()
     redo->setShortcut(QKeySequence::Redo);
     redo->setIcon(Icon(QStringLiteral("edit-redo")));
     edit->addActions({undo, redo});
-    tools->addActions({undo, redo});
     edit->addSeparator();
-    Act(edit, tr("Cu&t"), QKeySequence::Cut, QStringLiteral("edit-cut"),
-        [this] { EditWords("cut"); });
-    Act(edit, tr("&Copy"), QKeySequence::Copy, QStringLiteral("edit-copy"),
-        [this] { EditWords("copy"); });
-    Act(edit, tr("&Paste"), QKeySequence::Paste, QStringLiteral("edit-paste"),
-        [this] { EditWords("paste"); });
-    Act(edit, tr("Paste &with styles"), QKeySequence(tr("Ctrl+Shift+V")), QString(), [this] {
+    Act(edit, {tr("Cu&t"), QKeySequence::Cut, "edit-cut"}, [this] { EditWords("cut"); });
+    Act(edit, {tr("&Copy"), QKeySequence::Copy, "edit-copy"}, [this] { EditWords("copy"); });
+    Act(edit, {tr("&Paste"), QKeySequence::Paste, "edit-paste"}, [this] { EditWords("paste"); });
+    Act(edit, {tr("Paste &with styles"), Qt::CTRL | Qt::SHIFT | Qt::Key_V}, [this] {
         if (inspector->Text()->isEnabled())
             inspector->Text()->Editor()->PasteWithStyles();
     });
     edit->addSeparator();
-    QAction* add = Act(edit, tr("Add te&xt"), QKeySequence(tr("Ctrl+T")),
-                       QStringLiteral("list-add"), [this] { AddNewText(false); });
-    QAction* addPage = Act(edit, tr("Add pa&ge"), QKeySequence(tr("Ctrl+Shift+T")),
-                           QStringLiteral("list-add"), [this] { AddNewText(true); });
-    Act(edit, tr("&Duplicate"), QKeySequence(tr("Ctrl+D")), QString(),
-        [this] { DuplicateSelected(); });
+    QAction* add = Act(edit, {tr("Add te&xt"), Qt::CTRL | Qt::Key_T, "list-add"},
+                       [this] { AddNewText(false); });
+    QAction* addPage = Act(edit, {tr("Add pa&ge"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, "list-add"},
+                           [this] { AddNewText(true); });
+    Act(edit, {tr("&Duplicate"), Qt::CTRL | Qt::Key_D}, [this] { DuplicateSelected(); });
     QAction* remove =
-        Act(edit, tr("Re&move"), QKeySequence::Delete, QString(), [this] { RemoveSelected(); });
+        Act(edit, {tr("Re&move"), QKeySequence::Delete}, [this] { RemoveSelected(); });
     // In a text field, Delete is for letters.
     remove->setShortcutContext(Qt::WidgetShortcut);
     for (QWidget* widget : QList<QWidget*>{view, scenes, timeline})
         widget->addAction(remove);
     edit->addSeparator();
-    Act(edit, tr("&Edit text"), QKeySequence(tr("F2")), QString(),
-        [this] { inspector->Text()->BeginTyping(); });
-    Act(edit, tr("&Search motions"), QKeySequence(tr("Ctrl+M")), QString(), [this] {
+    Act(edit, {tr("&Edit text"), Qt::Key_F2}, [this] { inspector->Text()->BeginTyping(); });
+    Act(edit, {tr("&Search motions"), Qt::CTRL | Qt::Key_M}, [this] {
         inspector->ensureWidgetVisible(inspector->Motions());
         inspector->Motions()->Search()->setFocus();
     });
+    tools->addActions({undo, redo});
     tools->addSeparator();
-    tools->addAction(add);
-    auto* film = findChild<QAction*>(QStringLiteral("export"));
-    tools->addAction(film);
-    for (QAction* action : {add, film})
-        static_cast<QToolButton*>(tools->widgetForAction(action))
-            ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    for (QAction* action : {add, addPage}) {
+    tools->addActions({add, exportAction});
+    for (QAction* action : {add, exportAction})
+        ShowText(action);
+    for (const auto& shown : {qMakePair(add, tr("Text")), qMakePair(addPage, tr("Page"))}) {
         auto* button = new QToolButton(this);
-        button->setText(action == add ? tr("Text") : tr("Page"));
-        button->setIcon(action->icon());
-        button->setToolTip(action->toolTip());
-        button->setAccessibleName(action->iconText());
-        connect(button, &QToolButton::clicked, action, &QAction::trigger);
+        button->setText(shown.second);
+        button->setIcon(shown.first->icon());
+        button->setToolTip(shown.first->toolTip());
+        button->setAccessibleName(shown.first->iconText());
+        connect(button, &QToolButton::clicked, shown.first, &QAction::trigger);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setAutoRaise(true);
         sceneTools->addWidget(button);
     }
     sceneTools->addStretch(1);
+}
+
+/** Shows the words of @p action beside its icon in the tool bar. */
+QToolButton* MainWindow::ShowText(QAction* action)
+{
+    auto* button = static_cast<QToolButton*>(tools->widgetForAction(action));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    return button;
 }
 
 /** Calls "cut", "copy" or "paste" of the field with the focus, otherwise of the text field. */
@@ -162,18 +157,22 @@ void MainWindow::EditWords(const char* slot)
 void MainWindow::MakeViewMenu()
 {
     QMenu* look = menuBar()->addMenu(tr("&View"));
-    Act(look, tr("&Fit to window"), QKeySequence(tr("Ctrl+0")), QString(), [this] { SetZoom(0); });
+    Act(look, {tr("&Fit to window"), Qt::CTRL | Qt::Key_0}, [this] { SetZoom(0); });
     const auto middle = [this] { return QPointF(view->visibleRegion().boundingRect().center()); };
-    Act(look, tr("Zoom &in"), QKeySequence::ZoomIn, QString(), [=] { ZoomBy(1, middle()); });
-    Act(look, tr("Zoom &out"), QKeySequence::ZoomOut, QString(), [=] { ZoomBy(-1, middle()); });
+    Act(look, {tr("Zoom &in"), QKeySequence::ZoomIn}, [=] { ZoomBy(1, middle()); });
+    Act(look, {tr("Zoom &out"), QKeySequence::ZoomOut}, [=] { ZoomBy(-1, middle()); });
     look->addSeparator();
-    leds = look->addAction(tr("&LEDs"));
+    const auto toggle = [&](const QString& words, const QKeySequence& key, const auto& act) {
+        QAction* action = look->addAction(words);
+        action->setCheckable(true);
+        action->setShortcut(key);
+        connect(action, &QAction::toggled, view, act);
+        return action;
+    };
+    leds = toggle(tr("&LEDs"), Qt::CTRL | Qt::Key_L, [this] { ShowZoom(); });
     leds->setObjectName(QStringLiteral("leds"));
-    leds->setCheckable(true);
     leds->setIcon(Icon(QStringLiteral("lamps")));
-    leds->setShortcut(QKeySequence(tr("Ctrl+L")));
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
-    connect(leds, &QAction::toggled, this, &MainWindow::SetLeds);
     QMenu* distances = look->addMenu(tr("LED &pitch"));
     pitches = new QActionGroup(this);
     for (double diameters : {1.0, 1.25, 1.5, 2.0, 3.0}) {
@@ -183,21 +182,14 @@ void MainWindow::MakeViewMenu()
         action->setData(diameters);
         pitches->addAction(action);
     }
-    connect(pitches, &QActionGroup::triggered, this, [this](const QAction* action) {
-        SetPitch(action->data().toDouble());
+    pitches->actions().at(2)->setChecked(true);
+    connect(pitches, &QActionGroup::triggered, this, [this] {
         leds->setChecked(true);
+        ShowZoom();
     });
-    QAction* checkered = look->addAction(tr("&Checkered background"));
-    checkered->setCheckable(true);
-    connect(checkered, &QAction::toggled, view, &PictureView::SetCheckered);
-    QAction* frames = look->addAction(tr("Show all &areas"));
-    frames->setCheckable(true);
-    frames->setShortcut(QKeySequence(tr("Ctrl+F")));
-    connect(frames, &QAction::toggled, view, &DisplayView::SetShowsFrames);
-    QAction* rulers = look->addAction(tr("Show &rulers"));
-    rulers->setCheckable(true);
-    rulers->setShortcut(QKeySequence(tr("Ctrl+R")));
-    connect(rulers, &QAction::toggled, view, &DisplayView::SetShowsRulers);
+    toggle(tr("&Checkered background"), QKeySequence(), &PictureView::SetCheckered);
+    toggle(tr("Show all &areas"), Qt::CTRL | Qt::Key_F, &DisplayView::SetShowsFrames);
+    toggle(tr("Show &rulers"), Qt::CTRL | Qt::Key_R, &DisplayView::SetShowsRulers);
     look->addSeparator();
     look->addActions(createPopupMenu()->actions());
 
@@ -208,14 +200,13 @@ void MainWindow::MakeViewMenu()
     zoomBox->setAccessibleName(tr("Zoom"));
     zoomBox->setToolTip(tr("Zoom (Ctrl+wheel, Ctrl+0, Ctrl++, Ctrl+-)"));
     zoomBox->addItem(tr("Fit"), 0);
-    for (int zoom : {1, 2, 3, 4, 6, 8, 12, 16})
-        zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
+    for (int times = 1; times <= largestZoom; ++times)
+        zoomBox->addItem(tr("%1 ×").arg(times), times);
     connect(zoomBox, qOverload<int>(&QComboBox::activated), this,
             [this] { SetZoom(zoomBox->currentData().toInt()); });
     tools->addWidget(zoomBox);
     tools->addAction(leds);
-    auto* button = static_cast<QToolButton*>(tools->widgetForAction(leds));
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    QToolButton* button = ShowText(leds);
     button->setPopupMode(QToolButton::MenuButtonPopup);
     button->setMenu(distances);
 }
@@ -224,33 +215,38 @@ void MainWindow::MakePlayMenu()
 {
     QMenu* play = menuBar()->addMenu(tr("&Play"));
     // Not shortcuts: the window handles the keys, so that text fields get them first.
-    const auto act = [&](const QString& words, const QString& key,
+    const auto act = [&](const QString& words, const QKeySequence& key, const QString& keyName,
                          const std::function<void()>& does) {
-        connect(play->addAction(words + QLatin1Char('\t') + key), &QAction::triggered, this, does);
+        playKeys[key] = play->addAction(words + QLatin1Char('\t') + keyName);
+        connect(playKeys[key], &QAction::triggered, this, does);
     };
-    act(tr("&Play or stop"), tr("Space"), [this] { playback.Toggle(); });
+    const auto by = [this](int ticks) {
+        return [this, ticks] { playback.Seek(playback.Tick() + ticks); };
+    };
+    act(tr("&Play or stop"), Qt::Key_Space, tr("Space"), [this] { playback.Toggle(); });
     auto* everywhere = new QAction(this);
-    everywhere->setShortcut(QKeySequence(tr("Ctrl+Space")));
+    everywhere->setShortcut(Qt::CTRL | Qt::Key_Space);
     connect(everywhere, &QAction::triggered, &playback, &Playback::Toggle);
     addAction(everywhere);
-    act(tr("Play &backward, then faster"), QStringLiteral("J"), [this] { playback.Shuttle(-1); });
-    act(tr("&Stop"), QStringLiteral("K"), [this] { playback.SetPace(0); });
-    act(tr("Play &forward, then faster"), QStringLiteral("L"), [this] { playback.Shuttle(1); });
+    act(tr("Play &backward, then faster"), Qt::Key_J, QStringLiteral("J"),
+        [this] { playback.Shuttle(-1); });
+    act(tr("&Stop"), Qt::Key_K, QStringLiteral("K"), [this] { playback.SetPace(0); });
+    act(tr("Play &forward, then faster"), Qt::Key_L, QStringLiteral("L"),
+        [this] { playback.Shuttle(1); });
     play->addSeparator();
-    act(tr("One tick back"), QStringLiteral("←"), [this] { playback.Seek(playback.Tick() - 1); });
-    act(tr("One tick forward"), QStringLiteral("→"),
-        [this] { playback.Seek(playback.Tick() + 1); });
-    act(tr("Ten ticks back"), tr("Shift+←"), [this] { playback.Seek(playback.Tick() - 10); });
-    act(tr("Ten ticks forward"), tr("Shift+→"), [this] { playback.Seek(playback.Tick() + 10); });
-    act(tr("Previous page mark"), QStringLiteral("["),
+    act(tr("One tick back"), Qt::Key_Left, QStringLiteral("←"), by(-1));
+    act(tr("One tick forward"), Qt::Key_Right, QStringLiteral("→"), by(1));
+    act(tr("Ten ticks back"), Qt::SHIFT | Qt::Key_Left, tr("Shift+←"), by(-10));
+    act(tr("Ten ticks forward"), Qt::SHIFT | Qt::Key_Right, tr("Shift+→"), by(10));
+    act(tr("Previous page mark"), Qt::Key_BracketLeft, QStringLiteral("["),
         [this] { playback.Seek(timeline->PreviousMark(playback.Tick())); });
-    act(tr("Next page mark"), QStringLiteral("]"),
+    act(tr("Next page mark"), Qt::Key_BracketRight, QStringLiteral("]"),
         [this] { playback.Seek(timeline->NextMark(playback.Tick())); });
-    act(tr("Go to start"), tr("Home"), [this] { playback.Seek(0); });
-    act(tr("Go to end"), tr("End"), [this] { playback.Seek(playback.Length() - 1); });
-    act(tr("Turn page &loop on or off"), QStringLiteral("R"), [this] { ToggleLoop(); });
+    act(tr("Go to start"), Qt::Key_Home, tr("Home"), [this] { playback.Seek(0); });
+    act(tr("Go to end"), Qt::Key_End, tr("End"), [this] { playback.Seek(playback.Length() - 1); });
+    act(tr("Turn page &loop on or off"), Qt::Key_R, QStringLiteral("R"), [this] { ToggleLoop(); });
     play->addSeparator();
-    Act(play, tr("Play on L&EDs…"), QKeySequence(), QString(), [this] {
+    Act(play, {tr("Play on L&EDs…")}, [this] {
         auto* dialog = new LedsDialog(document.Current().display, document.Path(), this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         connect(&rehearsal, &Rehearsal::Shown, dialog, &LedsDialog::Show);
@@ -262,8 +258,8 @@ void MainWindow::MakePlayMenu()
 void MainWindow::MakeHelpMenu()
 {
     QMenu* help = menuBar()->addMenu(tr("&Help"));
-    Act(help, tr("&Keyboard shortcuts"), QKeySequence(tr("F1")), QString(), [this] { ShowKeys(); });
-    Act(help, tr("&About"), QKeySequence(), QString(), [this] {
+    Act(help, {tr("&Keyboard shortcuts"), Qt::Key_F1}, [this] { ShowKeys(); });
+    Act(help, {tr("&About")}, [this] {
         auto* box = new QMessageBox(QMessageBox::NoIcon, tr("Animated Text Studio"),
                                     tr("<b>Animated Text Studio %1</b><p>The plugin itself paints "
                                        "the preview, so it shows the same pixels as the sign.")
@@ -275,13 +271,19 @@ void MainWindow::MakeHelpMenu()
     });
 }
 
+QDialog* MainWindow::MakeDialog(const QString& name, const QString& title)
+{
+    auto* dialog = new QDialog(this);
+    dialog->setObjectName(name);
+    dialog->setWindowTitle(title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    return dialog;
+}
+
 /** Lists all keys: those of the menus, the display and the fields. */
 void MainWindow::ShowKeys()
 {
-    auto* dialog = new QDialog(this);
-    dialog->setObjectName(QStringLiteral("keys"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(tr("Keyboard shortcuts"));
+    auto* dialog = MakeDialog(QStringLiteral("keys"), tr("Keyboard shortcuts"));
     auto* list = new QTreeWidget(dialog);
     list->setHeaderLabels({tr("Keys"), tr("Action")});
     list->setRootIsDecorated(false);
@@ -336,58 +338,59 @@ void MainWindow::ZoomBy(int steps, const QPointF& about)
     scroll->verticalScrollBar()->setValue(qRound(now.y() - inView.y()));
 }
 
-void MainWindow::SetZoom(int zoom)
+void MainWindow::SetZoom(int wanted)
 {
+    zoom = wanted;
+    ShowZoom();
+}
+
+/** Zooms as the user wants; but LEDs that would be too small to see are enlarged. */
+void MainWindow::ShowZoom()
+{
+    const QSignalBlocker blocker(view);
+    view->SetPitch(leds->isChecked() ? Pitch() : 0);
     view->SetZoom(zoom);
-    zoom = view->Zoom(); // LEDs may have required another
-    int index = zoomBox->findData(zoom);
-    if (index < 0) {
-        zoomBox->addItem(tr("%1 ×").arg(zoom), zoom);
-        index = zoomBox->count() - 1;
-    }
-    zoomBox->setCurrentIndex(index);
+    if (AreLedsTooSmall())
+        view->SetZoom(smallestLamp);
+    zoomBox->setCurrentIndex(zoomBox->findData(view->Zoom()));
 }
 
-void MainWindow::SetLeds(bool on)
+bool MainWindow::AreLedsTooSmall() const
 {
-    view->SetPitch(on ? pitch : 0);
-    KeepLampsInSight();
-    if (!on)
-        LeaveLampZoom();
+    return leds->isChecked() && !view->Picture().isNull() && view->Scale() < smallestLamp;
 }
 
-/** Returns to the zoom from before KeepLampsInSight(), unless LEDs still need theirs. */
-void MainWindow::LeaveLampZoom()
+double MainWindow::Pitch() const
 {
-    if (plainZoom >= 0)
-        SetZoom(std::exchange(plainZoom, -1));
-    KeepLampsInSight();
+    return pitches->checkedAction()->data().toDouble();
 }
 
-/** Zooms in if LEDs are on and would be too small to see. */
-void MainWindow::KeepLampsInSight()
-{
-    if (!leds->isChecked() || view->Picture().isNull() || view->Scale() >= smallestLamp)
-        return;
-    if (plainZoom < 0)
-        plainZoom = view->Zoom();
-    SetZoom(smallestLamp);
-}
-
-void MainWindow::SetPitch(double diameters)
-{
-    pitch = diameters;
-    for (QAction* action : pitches->actions())
-        action->setChecked(qFuzzyCompare(action->data().toDouble(), pitch));
-    SetLeds(leds->isChecked());
-}
-
+/** Asks for the display of a new sign; starts with the values that were used last. */
 void MainWindow::ChooseNew()
 {
-    auto* dialog = new NewDialog(this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this,
-            [this, dialog] { New(dialog->Form()->Size(), dialog->Form()->AlphaBlend()); });
+    auto* dialog = MakeDialog(QStringLiteral("new"), tr("New scene"));
+    auto* form = new DisplayForm(dialog);
+    const QString sizeKey = QStringLiteral("newDisplay");
+    const QString alphaKey = QStringLiteral("newAlpha");
+    const QSettings settings;
+    form->Show(settings.value(sizeKey, Sign().display).toSize(),
+               settings.value(alphaKey, true).toBool());
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, dialog);
+    buttons->addButton(tr("Create"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    connect(dialog, &QDialog::accepted, this, [=] {
+        QSettings used;
+        used.setValue(sizeKey, form->Size());
+        used.setValue(alphaKey, form->AlphaBlend());
+        New(form->Size(), form->AlphaBlend());
+    });
+    auto* layout = new QVBoxLayout(dialog);
+    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
+    layout->setSpacing(4 * grid);
+    layout->addWidget(form);
+    layout->addStretch(1);
+    layout->addWidget(buttons);
     dialog->open();
 }
 
@@ -433,7 +436,7 @@ void MainWindow::ShowExport()
         }
     }
     seen.schedule = transport->IsSchedule();
-    seen.pitch = pitch;
+    seen.pitch = Pitch();
     seen.lamps = leds->isChecked();
     auto* dialog = new ExportDialog(document.Current(), document.Path(), plugin, seen, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

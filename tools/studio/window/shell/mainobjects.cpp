@@ -8,84 +8,79 @@
 
 namespace AnimText {
 
-void MainWindow::AddNewText(bool onNewPage)
+void MainWindow::Change(const QString& what, const std::function<void(Sign*)>& change,
+                        const QString& merge)
 {
     Sign after = document.Current();
-    const int page = onNewPage ? after.PageCount() : CurrentPage();
-    const QSize size(after.display.width(),
-                     onNewPage ? after.display.height() : qMax(1, after.display.height() / 2));
-    SignText text = NewText(size, page);
-    // In the upper or lower half, if one is free.
-    const auto covers = [&](int y) {
-        const QRect area(QPoint(0, y), size);
-        return std::any_of(after.texts.begin(), after.texts.end(), [&](const SignText& other) {
-            return other.page == page && area.intersects(QRect(other.node.pos, other.node.size));
-        });
-    };
-    const int lower = after.display.height() - size.height();
-    if (covers(0) && !covers(lower))
-        text.node.pos.setY(lower);
-    AddText(&after, text);
-    selected = text.id;
-    document.Change(onNewPage ? tr("Add page") : tr("Add text"), after);
+    change(&after);
+    document.Change(what, after, merge);
+}
+
+void MainWindow::AddNewText(bool onNewPage)
+{
+    Change(onNewPage ? tr("Add page") : tr("Add text"), [=](Sign* sign) {
+        const int page = onNewPage ? sign->PageCount() : CurrentPage();
+        const int height = sign->display.height();
+        const QSize size(sign->display.width(), onNewPage ? height : qMax(1, height / 2));
+        SignText text = NewText(size, page);
+        // In the upper or lower half, if one is free.
+        const auto covers = [&](int y) {
+            const QRect area(QPoint(0, y), size);
+            return std::any_of(sign->texts.begin(), sign->texts.end(), [&](const SignText& other) {
+                return other.page == page &&
+                       area.intersects(QRect(other.node.pos, other.node.size));
+            });
+        };
+        const int lower = height - size.height();
+        if (covers(0) && !covers(lower))
+            text.node.pos.setY(lower);
+        AddText(sign, text);
+        selected = text.id;
+    });
     inspector->Text()->BeginTyping();
 }
 
 void MainWindow::DuplicateSelected()
 {
-    Sign after = document.Current();
     const int page = scenes->PageOfRow();
-    if (page >= 0) {
-        DuplicatePage(&after, page);
-        document.Change(tr("Duplicate page"), after);
-        return;
-    }
-    const int copy = DuplicateText(&after, selected);
-    if (copy == 0)
-        return;
-    selected = copy;
-    document.Change(tr("Duplicate text"), after);
+    if (page >= 0)
+        Change(tr("Duplicate page"), [page](Sign* sign) { DuplicatePage(sign, page); });
+    else if (document.Current().Find(selected))
+        Change(tr("Duplicate text"),
+               [this](Sign* sign) { selected = DuplicateText(sign, selected); });
 }
 
 void MainWindow::RemoveSelected()
 {
-    Sign after = document.Current();
     const int page = scenes->PageOfRow();
-    if (page >= 0) {
-        RemovePage(&after, page);
-        document.Change(tr("Remove page"), after);
-        return;
-    }
-    const int index = after.IndexOf(selected);
-    if (index < 0)
-        return;
-    RemoveText(&after, selected);
-    selected = after.texts.isEmpty() ? 0 : after.texts.at(qMin(index, after.texts.size() - 1)).id;
-    document.Change(tr("Remove text"), after);
+    const int index = document.Current().IndexOf(selected);
+    if (page >= 0)
+        Change(tr("Remove page"), [page](Sign* sign) { RemovePage(sign, page); });
+    else if (index >= 0)
+        Change(tr("Remove text"), [this, index](Sign* sign) {
+            RemoveText(sign, selected);
+            selected = sign->texts.value(qMin(index, sign->texts.size() - 1)).id;
+        });
 }
 
 void MainWindow::Rename(int id, const QString& name)
 {
-    Sign after = document.Current();
-    SignText* text = after.Find(id);
-    if (!text || text->Title() == name)
-        return;
-    text->source.name = name == text->source.text.text.simplified() ? QString() : name;
-    document.Change(tr("Rename text"), after);
+    const SignText* text = document.Current().Find(id);
+    if (text && text->Title() != name)
+        Change(tr("Rename text"), [&](Sign* sign) {
+            TextSource& source = sign->Find(id)->source;
+            source.name = name == source.text.text.simplified() ? QString() : name;
+        });
 }
 
 void MainWindow::PutText(int id, int page, int place)
 {
-    Sign after = document.Current();
-    MoveText(&after, id, page, place);
-    document.Change(tr("Move text"), after);
+    Change(tr("Move text"), [=](Sign* sign) { MoveText(sign, id, page, place); });
 }
 
 void MainWindow::PutPage(int page, int to)
 {
-    Sign after = document.Current();
-    MovePage(&after, page, to);
-    document.Change(tr("Move page"), after);
+    Change(tr("Move page"), [=](Sign* sign) { MovePage(sign, page, to); });
 }
 
 /** Shows the context menu of the selected text or page. */
@@ -97,47 +92,44 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
     const Sign& sign = document.Current();
     const int page = scenes->PageOfRow();
     const SignText* text = sign.Find(selected);
-    const auto act = [menu, this](const QString& words, const std::function<void()>& does) {
-        QAction* action = menu->addAction(words);
-        connect(action, &QAction::triggered, this, does);
-        return action;
-    };
     if (page >= 0) {
-        act(tr("Add text"), [this] { AddNewText(false); });
-        act(tr("Duplicate page"), [this] { DuplicateSelected(); });
+        Act(menu, {tr("Add text")}, [this] { AddNewText(false); });
+        Act(menu, {tr("Duplicate page")}, [this] { DuplicateSelected(); });
         menu->addSeparator();
-        act(tr("Move page up"), [=] { PutPage(page, page - 1); })->setEnabled(page > 0);
-        act(tr("Move page down"), [=] {
+        Act(menu, {tr("Move page up")}, [=] { PutPage(page, page - 1); })->setEnabled(page > 0);
+        Act(menu, {tr("Move page down")}, [=] {
             PutPage(page, page + 2);
         })->setEnabled(page + 1 < sign.PageCount());
         menu->addSeparator();
-        act(tr("Remove page"), [this] { RemoveSelected(); });
+        Act(menu, {tr("Remove page")}, [this] { RemoveSelected(); });
     } else if (text) {
-        const int first = sign.IndexOf(PagedIds(text->page).first());
-        const int place = sign.IndexOf(text->id) - first;
-        const int last = PagedIds(text->page).size() - 1;
+        const QVector<int> ids = PagedIds(text->page);
         const int id = text->id;
         const int own = text->page;
-        act(tr("Edit text"), [this] { inspector->Text()->BeginTyping(); });
-        act(tr("Rename"), [=] { scenes->Rename(id); });
-        act(tr("Duplicate text"), [this] { DuplicateSelected(); });
+        Act(menu, {tr("Edit text")}, [this] { inspector->Text()->BeginTyping(); });
+        Act(menu, {tr("Rename")}, [=] { scenes->Rename(id); });
+        Act(menu, {tr("Duplicate text")}, [this] { DuplicateSelected(); });
         menu->addSeparator();
-        act(tr("Bring to front"), [=] { PutText(id, own, last + 1); })->setEnabled(place < last);
-        act(tr("Send to back"), [=] { PutText(id, own, 0); })->setEnabled(place > 0);
+        Act(menu, {tr("Bring to front")}, [=] {
+            PutText(id, own, INT_MAX);
+        })->setEnabled(id != ids.last());
+        Act(menu, {tr("Send to back")}, [=] {
+            PutText(id, own, 0);
+        })->setEnabled(id != ids.first());
         QMenu* pages = menu->addMenu(tr("Move to page"));
-        for (int to = 0; to <= sign.PageCount(); ++to) {
-            const bool isNew = to == sign.PageCount();
-            QAction* action = pages->addAction(isNew ? tr("New page")
-                                                     : SceneList::PageTitle(sign, to).replace(
-                                                           QLatin1Char('&'), QLatin1String("&&")));
-            action->setEnabled(to != own && !(isNew && last == 0));
-            connect(action, &QAction::triggered, this, [=] { PutText(id, to, INT_MAX); });
+        for (int to = 0; to < sign.PageCount(); ++to) {
+            QString title = SceneList::PageTitle(sign, to);
+            title.replace(QLatin1Char('&'), QLatin1String("&&"));
+            Act(pages, {title}, [=] { PutText(id, to, INT_MAX); })->setEnabled(to != own);
         }
+        Act(pages, {tr("New page")}, [=, to = sign.PageCount()] {
+            PutText(id, to, 0);
+        })->setEnabled(ids.size() > 1);
         menu->addSeparator();
-        act(tr("Remove text"), [this] { RemoveSelected(); });
+        Act(menu, {tr("Remove text")}, [this] { RemoveSelected(); });
     } else {
-        act(tr("Add text"), [this] { AddNewText(false); });
-        act(tr("Add page"), [this] { AddNewText(true); });
+        Act(menu, {tr("Add text")}, [this] { AddNewText(false); });
+        Act(menu, {tr("Add page")}, [this] { AddNewText(true); });
     }
     menu->popup(global);
 }

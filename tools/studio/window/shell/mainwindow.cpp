@@ -145,17 +145,16 @@ void MainWindow::MakeDocks()
 void MainWindow::Connect()
 {
     connect(&document, &Document::Replaced, this, [this] {
+        notices->Set(NoticeBar::Disk, QString());
+        notices->Set(NoticeBar::Save, QString());
         playback.Seek(0);
         selected = document.Current().texts.isEmpty() ? 0 : document.Current().texts.first().id;
     });
     connect(&document, &Document::Changed, this, &MainWindow::Refresh);
     connect(&document, &Document::StateChanged, this, &MainWindow::ShowState);
     connect(&document, &Document::SaveEnded, this, [this](bool saved, const QString& error) {
-        if (!saved)
-            notices->Set(NoticeBar::Save, tr("Not saved: %1").arg(error),
-                         {{tr("Save as…"), [this] { SaveAs(); }}, {tr("Dismiss"), {}}});
-        else
-            notices->Set(NoticeBar::Save, QString());
+        notices->Set(NoticeBar::Save, saved ? QString() : tr("Not saved: %1").arg(error),
+                     {{tr("Save as…"), [this] { SaveAs(); }}, {tr("Dismiss"), {}}});
         const auto then = std::exchange(afterSave, {});
         if (then && saved)
             Leave(then);
@@ -177,7 +176,7 @@ void MainWindow::Connect()
         const bool isResized = view->Picture().size() != picture.size();
         view->SetPicture(picture);
         if (isResized)
-            LeaveLampZoom();
+            ShowZoom();
     });
     connect(&rehearsal, &Rehearsal::Stale, this, [this] {
         timeline->SetStale(true);
@@ -192,11 +191,7 @@ void MainWindow::Connect()
         ShowFindings();
     });
     connect(findings, &FindingsList::Selected, this, &MainWindow::Select);
-    connect(findings, &FindingsList::Fixed, this,
-            [this](int id, const QString& what, const TextChange& change) {
-                Select(id);
-                Edit(what, QString(), change);
-            });
+    connect(findings, &FindingsList::Edited, this, &MainWindow::Edit);
     connect(&rehearsal, &Rehearsal::Trouble, this,
             [this](const QString& why) { notices->Set(NoticeBar::Trouble, why); });
 
@@ -208,7 +203,9 @@ void MainWindow::Connect()
     };
     connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
 
-    ConnectIntegrator();
+    connect(integrator, &IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
+    connect(integrator, &IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
+    connect(&rehearsal, &Rehearsal::Shown, this, &MainWindow::ShowCalls);
     scenes->installEventFilter(this);
     inspector->Motions()->List()->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
@@ -226,7 +223,10 @@ void MainWindow::Connect()
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
-    connect(view, &DisplayView::ScaleChanged, this, &MainWindow::KeepLampsInSight);
+    connect(view, &DisplayView::ScaleChanged, this, [this] {
+        if (AreLedsTooSmall())
+            ShowZoom();
+    });
     connect(view, &DisplayView::PlayWanted, &playback, &Playback::Toggle);
     connect(view, &DisplayView::Panned, this, [this](const QPoint& by) {
         scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->value() - by.x());
@@ -234,7 +234,15 @@ void MainWindow::Connect()
     });
     for (QScrollBar* bar : {scroll->horizontalScrollBar(), scroll->verticalScrollBar()})
         connect(bar, &QScrollBar::valueChanged, view, qOverload<>(&QWidget::update)); // its rulers
-    connect(inspector->Display(), &DisplayForm::Edited, this, &MainWindow::ChangeDisplay);
+    connect(inspector->Display(), &DisplayForm::Edited, this, [this](int gesture) {
+        Change(
+            tr("Display"),
+            [this](Sign* sign) {
+                ResizeDisplay(sign, inspector->Display()->Size());
+                sign->alphaBlend = inspector->Display()->AlphaBlend();
+            },
+            gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
+    });
     connect(view, &DisplayView::DisplayDoubleClicked, this,
             [this] { inspector->Text()->BeginTyping(); });
     connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
@@ -248,13 +256,6 @@ void MainWindow::Connect()
     connect(inspector, &Inspector::Edited, this, &MainWindow::Edit);
     connect(transport, &TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
     connect(transport, &TransportBar::LoopToggled, this, &MainWindow::ToggleLoop);
-}
-
-void MainWindow::ConnectIntegrator()
-{
-    connect(integrator, &IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
-    connect(integrator, &IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
-    connect(&rehearsal, &Rehearsal::Shown, this, &MainWindow::ShowCalls);
 }
 
 void MainWindow::CompareWith(const QString& library)
@@ -280,10 +281,10 @@ void MainWindow::ShowCalls()
 {
     if (integrator->isVisible())
         integrator->ShowCalls(rehearsal.Tick(), rehearsal.Calls(rehearsal.Tick()));
-    const bool bothThere = compared && compared->IsCurrent() && rehearsal.IsCurrent() &&
-                           compared->Tick() == rehearsal.Tick();
     if (!compared)
         return;
+    const bool bothThere =
+        compared->IsCurrent() && rehearsal.IsCurrent() && compared->Tick() == rehearsal.Tick();
     view->SetCompared(bothThere ? compared->Picture(rehearsal.Tick()) : QImage());
     integrator->ShowDifferences(bothThere ? view->Differences() : -1);
 }
@@ -296,7 +297,10 @@ void MainWindow::RestoreLayout()
     findChild<QSplitter*>(QStringLiteral("center"))
         ->restoreState(settings.value(QStringLiteral("center")).toByteArray());
     Arrange();
-    SetPitch(settings.value(QStringLiteral("pitch"), standardPitch).toDouble());
+    for (QAction* action : pitches->actions()) {
+        if (action->data() == settings.value(QStringLiteral("pitch")).toDouble())
+            action->setChecked(true);
+    }
     leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
 }
 
@@ -317,8 +321,6 @@ bool MainWindow::Open(const QString& path)
         return false;
     }
     notices->Set(NoticeBar::Trouble, QString());
-    notices->Set(NoticeBar::Disk, QString());
-    notices->Set(NoticeBar::Save, QString());
     AddRecent(document.Path());
     view->setFocus(); // Space plays
     return true;
@@ -327,8 +329,6 @@ bool MainWindow::Open(const QString& path)
 void MainWindow::New(const QSize& display, bool alphaBlend)
 {
     document.New(display, alphaBlend);
-    notices->Set(NoticeBar::Disk, QString());
-    notices->Set(NoticeBar::Save, QString());
     inspector->Text()->BeginTyping();
 }
 
@@ -436,51 +436,50 @@ void MainWindow::ShowTiming()
     timeline->SetTiming(timing, ids, titles, plays);
     timeline->SetStale(false);
     playback.SetLength(timing.Ticks());
-    ShowEnds();
+    ShowEnds(ids);
 }
 
 /** Shows the times of the selected text, and of the page and all pages as a tooltip. */
-void MainWindow::ShowEnds()
+void MainWindow::ShowEnds(const QVector<int>& ids)
 {
     const Timing& timing = rehearsal.GetTiming();
-    const QVector<int> ids = PagedIds(part.page);
     if (timing.texts.size() != ids.size()) {
         transport->ShowEnds(nullptr, QString());
         return;
     }
-    QMap<int, QVector<TextTime>> pages; // the texts of an area play one after another
-    int area = -1;
+    QStringList lines;
+    const TextTime* shown = nullptr;
+    QMap<int, QMap<int, TextTime>> pages; // the texts of an area play one after another
     for (int i = 0; i < ids.size(); ++i) {
         const SignText* text = document.Current().Find(ids.at(i));
-        QVector<TextTime>& own = pages[text->page];
-        if (own.isEmpty() || text->area != area) {
-            own.append(timing.texts.at(i));
+        const TextTime& time = timing.texts.at(i);
+        QMap<int, TextTime>& areas = pages[text->page];
+        if (!areas.contains(text->area)) {
+            areas[text->area] = time;
         } else {
-            own.last().planned += timing.texts.at(i).planned;
-            own.last().actual += timing.texts.at(i).actual;
+            areas[text->area].planned += time.planned;
+            areas[text->area].actual += time.actual;
         }
-        area = text->area;
+        if (text->id == selected) {
+            lines.append(tr("Text: %1").arg(EndsInWords(time)));
+            shown = &time;
+        }
     }
-    QStringList lines;
     TextTime program = SideBySide({});
-    for (auto page = pages.begin(); page != pages.end(); ++page) {
-        const TextTime times = SideBySide(page.value());
+    TextTime page = program;
+    for (auto own = pages.begin(); own != pages.end(); ++own) {
+        const TextTime times = SideBySide(own->values().toVector());
         program.planned += times.planned;
         program.actual += times.actual;
-        lines.append(tr("Page %1: %2").arg(page.key() + 1).arg(EndsInWords(times)));
+        lines.append(tr("Page %1: %2").arg(own.key() + 1).arg(EndsInWords(times)));
+        if (own.key() == CurrentPage())
+            page = times;
     }
-    lines.append(tr("All pages: %1").arg(EndsInWords(program)));
-    if (part.page >= 0)
-        lines.removeLast(); // the other pages have not been measured
-    const int row = ids.indexOf(selected);
-    const TextTime page = SideBySide(pages.value(CurrentPage()));
-    if (row >= 0) {
-        lines.prepend(tr("Text: %1").arg(EndsInWords(timing.texts.at(row))));
-        transport->ShowEnds(&timing.texts.at(row), lines.join(QLatin1Char('\n')));
-    } else {
-        transport->ShowEnds(part.page >= 0 || scenes->PageOfRow() >= 0 ? &page : &program,
-                            lines.join(QLatin1Char('\n')));
-    }
+    if (part.page < 0) // otherwise, the other pages have not been measured
+        lines.append(tr("All pages: %1").arg(EndsInWords(program)));
+    if (!shown)
+        shown = part.page >= 0 || scenes->PageOfRow() >= 0 ? &page : &program;
+    transport->ShowEnds(shown, lines.join(QLatin1Char('\n')));
 }
 
 void MainWindow::ShowState()
@@ -493,22 +492,10 @@ void MainWindow::ShowState()
 
 void MainWindow::Edit(const QString& what, const QString& merge, const TextChange& change)
 {
-    Sign after = document.Current();
-    SignText* text = after.Find(selected);
-    if (!text)
-        return;
-    change(text);
-    document.Change(what, after,
-                    merge.isEmpty() ? merge : QStringLiteral("%1 %2").arg(selected).arg(merge));
-}
-
-void MainWindow::ChangeDisplay(int gesture)
-{
-    Sign after = document.Current();
-    ResizeDisplay(&after, inspector->Display()->Size());
-    after.alphaBlend = inspector->Display()->AlphaBlend();
-    document.Change(tr("Display"), after,
-                    gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
+    if (document.Current().Find(selected))
+        Change(
+            what, [&](Sign* sign) { change(sign->Find(selected)); },
+            merge.isEmpty() ? merge : QStringLiteral("%1 %2").arg(selected).arg(merge));
 }
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event)
@@ -530,15 +517,13 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event)
 /** Moves the focus from a field back to the display, where keys move through time. */
 bool MainWindow::LeaveField(int key)
 {
-    QWidget* field = focusWidget();
-    const bool isNumber = qobject_cast<QAbstractSpinBox*>(field) != nullptr;
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (field == view && key == Qt::Key_Escape && selected != 0) {
-        Select(0);
-        return true;
-    }
-    if (field == view || (key != Qt::Key_Escape && !(isNumber && isEnter)))
+    const bool leaves = key == Qt::Key_Escape ||
+                        (isEnter && qobject_cast<QAbstractSpinBox*>(focusWidget()) != nullptr);
+    if (!leaves || (focusWidget() == view && selected == 0))
         return false;
+    if (focusWidget() == view)
+        Select(0);
     view->setFocus();
     return true;
 }
@@ -547,22 +532,11 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 {
     if (view->HandleAreaKey(event->key(), event->modifiers()) || LeaveField(event->key()))
         return;
-    const int tick = playback.Tick();
-    const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
-    switch (event->key()) {
-    case Qt::Key_Left: playback.Seek(tick - step); break;
-    case Qt::Key_Right: playback.Seek(tick + step); break;
-    case Qt::Key_Home: playback.Seek(0); break;
-    case Qt::Key_End: playback.Seek(playback.Length() - 1); break;
-    case Qt::Key_BracketLeft: playback.Seek(timeline->PreviousMark(tick)); break;
-    case Qt::Key_BracketRight: playback.Seek(timeline->NextMark(tick)); break;
-    case Qt::Key_Space: playback.Toggle(); break;
-    case Qt::Key_J: playback.Shuttle(-1); break;
-    case Qt::Key_K: playback.SetPace(0); break;
-    case Qt::Key_L: playback.Shuttle(1); break;
-    case Qt::Key_R: ToggleLoop(); break;
-    default: QMainWindow::keyPressEvent(event);
-    }
+    const int shift = int(event->modifiers() & Qt::ShiftModifier);
+    if (QAction* action = playKeys.value(event->key() | shift, playKeys.value(event->key())))
+        action->trigger();
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::ToggleLoop()
@@ -589,11 +563,10 @@ void MainWindow::Arrange()
     constexpr int roomForScene = 200;
     const int available = isVisible() ? width() : qMin(width(), screen()->availableSize().width());
     const bool narrow = available < roomForScene + roomForDisplay + inspector->minimumWidth();
-    if (narrow == isNarrow)
+    if (narrow != wideDocks.isEmpty())
         return;
-    isNarrow = narrow;
     if (!narrow) {
-        restoreState(wideDocks);
+        restoreState(std::exchange(wideDocks, {}));
         return;
     }
     wideDocks = saveState();
@@ -618,11 +591,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("docks"), isNarrow ? wideDocks : saveState());
+    settings.setValue(QStringLiteral("docks"), wideDocks.isEmpty() ? saveState() : wideDocks);
     settings.setValue(QStringLiteral("center"),
                       findChild<QSplitter*>(QStringLiteral("center"))->saveState());
     settings.setValue(QStringLiteral("leds"), leds->isChecked());
-    settings.setValue(QStringLiteral("pitch"), pitch);
+    settings.setValue(QStringLiteral("pitch"), Pitch());
     event->accept();
 }
 

@@ -50,7 +50,6 @@ public:
     FindingsList* Findings() const { return findings; }
     /** Hidden until the user opens it. */
     IntegratorView* Integrator() const { return integrator; }
-    Recovery* GetRecovery() { return &recovery; }
     /** Offers to restore the unsaved work of a studio that was killed. */
     void OfferLostWork();
     int Selected() const { return selected; }
@@ -73,8 +72,15 @@ private:
     void MakeViewMenu();
     void MakePlayMenu();
     void MakeHelpMenu();
-    QAction* Act(QMenu* menu, const QString& words, const QKeySequence& key, const QString& icon,
-                 const std::function<void()>& act);
+    /** What a menu shows of an action. */
+    struct Entry
+    {
+        QString words;
+        QKeySequence key{};
+        const char* icon = nullptr;
+    };
+    QAction* Act(QMenu* menu, const Entry& entry, const std::function<void()>& act);
+    QToolButton* ShowText(QAction* action);
     void Connect();
     void RestoreLayout();
     void Arrange();
@@ -82,33 +88,33 @@ private:
     void Refresh();
     void Rehearse();
     void ShowTiming();
-    void ShowEnds();
+    void ShowEnds(const QVector<int>& ids);
     void ShowState();
     void LoadTheirs();
     void ShowFindings();
-    void ConnectIntegrator();
     void CompareWith(const QString& library);
     void ShowCalls();
+    void Change(const QString& what, const std::function<void(Sign*)>& change,
+                const QString& merge = QString());
     void Edit(const QString& what, const QString& merge, const TextChange& change);
     void AddNewText(bool onNewPage);
     void RemoveSelected();
     void DuplicateSelected();
     void ChooseNew();
-    void ChangeDisplay(int gesture);
     void ChooseAndOpen();
     bool Save();
     bool SaveAs();
     void Leave(const std::function<void()>& then);
     void ShowExport();
+    QDialog* MakeDialog(const QString& name, const QString& title);
     void ShowKeys();
     void ShowRecent();
     void AddRecent(const QString& path);
     void SetZoom(int zoom);
     void ZoomBy(int steps, const QPointF& about);
-    void SetLeds(bool on);
-    void KeepLampsInSight();
-    void LeaveLampZoom();
-    void SetPitch(double diameters);
+    void ShowZoom();
+    bool AreLedsTooSmall() const;
+    double Pitch() const;
     void ToggleLoop();
     bool LeaveField(int key);
     void EditWords(const char* slot);
@@ -134,11 +140,8 @@ private:
     QList<Finding> found;
     std::function<void()> afterSave; // runs when the sign is saved
     bool mayClose = false;
-    bool isNarrow = false;
-    QByteArray wideDocks; // the docks' places in a wide window
-    static constexpr double standardPitch = 1.5;
-    int plainZoom = -1;           // zoom to return to from the LEDs; negative for none
-    double pitch = standardPitch; // from LED to LED in LED diameters
+    QByteArray wideDocks; // their places in a wide window, while this one is narrow
+    int zoom = 0;         // as chosen; 0 fits the window
 
     DisplayView* view = nullptr;
     QScrollArea* scroll = nullptr; // contains the view
@@ -153,9 +156,11 @@ private:
     QMenu* recent = nullptr;
     QAction* leds = nullptr;
     QAction* saveAction = nullptr;
+    QAction* exportAction = nullptr;
     QToolBar* tools = nullptr;
     QHBoxLayout* sceneTools = nullptr;
-    QActionGroup* pitches = nullptr;
+    QActionGroup* pitches = nullptr; // from LED to LED in LED diameters
+    QHash<QKeySequence, QAction*> playKeys;
 };
 
 } // namespace AnimText
