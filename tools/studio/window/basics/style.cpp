@@ -7,13 +7,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-/** The resource is in a library, where nobody else asks for it. Outside of namespaces, as Qt wants.
- */
-static void LoadIcons()
-{
-    Q_INIT_RESOURCE(icons);
-}
-
 namespace AnimText {
 namespace {
 
@@ -68,6 +61,13 @@ QColor Quiet(const QPalette& palette)
     return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.4);
 }
 
+void SetInk(QWidget* widget, const QColor& color)
+{
+    QPalette colors = widget->palette();
+    colors.setColor(widget->foregroundRole(), color);
+    widget->setPalette(colors);
+}
+
 QFont TabularFont(const QFont& font, int points)
 {
     // Common fonts have digits of equal width; kerning would move them.
@@ -98,7 +98,6 @@ QString SecondsText(qint64 milliseconds)
 
 QIcon Icon(const QString& name)
 {
-    LoadIcons();
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     file.open(QIODevice::ReadOnly);
     return QIcon::fromTheme(name, QIcon(new OwnIcon(file.readAll())));

@@ -30,6 +30,9 @@ QColor Warning(const QPalette& palette);
 /** The color of secondary text. */
 QColor Quiet(const QPalette& palette);
 
+/** Gives the text of @p widget a color. */
+void SetInk(QWidget* widget, const QColor& color);
+
 /** @p font with digits of equal width, @p points larger. */
 QFont TabularFont(const QFont& font, int points = 0);
 

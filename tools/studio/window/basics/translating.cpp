@@ -15,18 +15,8 @@ void Install(const QLocale& locale, const QString& name, const QString& folder)
 
 } // namespace
 
-/** A static library's resources must be initialized by hand; Qt's macro needs the global namespace.
- */
-static void TakeResources()
-{
-#ifdef ANIMTEXT_TRANSLATIONS
-    Q_INIT_RESOURCE(translations);
-#endif
-}
-
 void AnimText::Translate(const QLocale& locale)
 {
-    TakeResources();
     const QString own = QStringLiteral(":/translations");
     Install(locale, QStringLiteral("qtbase"),
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));

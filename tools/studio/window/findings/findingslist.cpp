@@ -179,9 +179,7 @@ void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
                                       : tr("And %n more", nullptr, rows.size() - mostShown));
         label->setWordWrap(true);
         list->addWidget(label);
-        QPalette colors = label->palette();
-        colors.setColor(label->foregroundRole(), Quiet(colors));
-        label->setPalette(colors);
+        SetInk(label, Quiet(label->palette()));
     }
     list->addStretch(1);
     setMinimumWidth(list->minimumSize().width()); // no button is clipped, in any language

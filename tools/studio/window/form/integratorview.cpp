@@ -84,9 +84,7 @@ void IntegratorView::ShowFaults()
                          .arg(fault.second));
     failing->setText(
         words.isEmpty() ? QString() : tr("Made to fail: %1").arg(words.join(QStringLiteral(", "))));
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, Warning(colors));
-    failing->setPalette(colors);
+    SetInk(failing, Warning(palette()));
     clear->setEnabled(!faults.isEmpty());
 }
 

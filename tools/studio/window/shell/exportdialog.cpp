@@ -27,27 +27,13 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     , scenePath(scenePath)
     , plugin(plugin)
     , view(view)
-    , extent(new QComboBox(this))
-    , lamps(new QCheckBox(tr("As round LEDs on black"), this))
-    , forecast(new QLabel(this))
-    , format(new QComboBox(this))
-    , output(new QLineEdit(this))
-    , scale(new QSpinBox(this))
-    , schedule(new QCheckBox(tr("All pages, as the host times them"), this))
-    , transparent(new QCheckBox(tr("Transparent background"), this))
-    , lossless(new QCheckBox(tr("Lossless"), this))
-    , command(new QLineEdit(this))
-    , progress(new QProgressBar(this))
-    , state(new QLabel(this))
-    , start(new QPushButton(tr("Export"), this))
-    , close(new QPushButton(tr("Close"), this))
 {
     setWindowTitle(tr("Export a film"));
     for (const FilmKind& kind : FilmKinds()) {
         const QString ending = QLatin1String(kind.ending);
-        format->addItem(ending == QLatin1String("/") ? tr("Folder of PNGs")
-                        : kind.Has(FilmKind::Still)  ? tr("PNG, one picture")
-                                                     : ending.mid(1).toUpper(),
+        format->addItem(kind.Has(FilmKind::Folder)  ? tr("Folder of PNGs")
+                        : kind.Has(FilmKind::Still) ? tr("PNG, one picture")
+                                                    : ending.mid(1).toUpper(),
                         ending);
     }
     scale->setRange(1, 16);
@@ -68,43 +54,63 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     command->setFrame(false);
     command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     command->setAccessibleName(tr("The same as a command"));
-    auto* copy = new QToolButton(this);
-    copy->setIcon(Icon(QStringLiteral("edit-copy")));
-    copy->setAutoRaise(true);
-    copy->setToolTip(tr("Copy the command"));
-    copy->setAccessibleName(tr("Copy the command"));
-    auto* browse = new QToolButton(this);
-    browse->setText(tr("…"));
-    browse->setToolTip(tr("Choose the file"));
-    browse->setAccessibleName(tr("Choose the file"));
     state->setWordWrap(true);
     state->setTextInteractionFlags(Qt::TextBrowserInteraction);
     state->setOpenExternalLinks(true);
     state->setAccessibleName(tr("State"));
     progress->setTextVisible(false);
     start->setDefault(true);
+    LayOut();
 
-    const auto row = [](QWidget* first, QWidget* second) {
-        auto* layout = new QHBoxLayout;
-        layout->setSpacing(grid);
-        layout->addWidget(first, 1);
-        layout->addWidget(second);
-        return layout;
-    };
+    const QFileInfo scene(scenePath);
+    const QString base = scenePath.isEmpty() ? QDir::home().filePath(tr("sign"))
+                                             : scene.dir().filePath(scene.completeBaseName());
+    output->setText(base + format->currentData().toString());
+    connect(format, qOverload<int>(&QComboBox::activated), this, &ExportDialog::FormatChosen);
+    connect(output, &QLineEdit::textChanged, this, &ExportDialog::Refresh);
+    connect(scale, qOverload<int>(&QSpinBox::valueChanged), this, &ExportDialog::Refresh);
+    connect(extent, qOverload<int>(&QComboBox::activated), this, &ExportDialog::ExtentChosen);
+    for (QCheckBox* box : {schedule, transparent, lossless, lamps})
+        connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
+    connect(start, &QPushButton::clicked, this, &ExportDialog::Begin);
+    connect(close, &QPushButton::clicked, this, &ExportDialog::reject);
+    connect(&exporting, &Export::Progress, this, &ExportDialog::ShowProgress);
+    connect(&exporting, &Export::Ended, this, &ExportDialog::End);
+    Refresh();
+}
+
+void ExportDialog::LayOut()
+{
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(3 * grid);
     form->setVerticalSpacing(2 * grid);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    const auto withButton = [this](QWidget* field, const QString& words) {
+        auto* button = new QToolButton(this);
+        button->setToolTip(words);
+        button->setAccessibleName(words);
+        auto* layout = new QHBoxLayout;
+        layout->setSpacing(grid);
+        layout->addWidget(field, 1);
+        layout->addWidget(button);
+        return qMakePair(layout, button);
+    };
+    const auto file = withButton(output, tr("Choose the file"));
+    file.second->setText(tr("…"));
+    connect(file.second, &QToolButton::clicked, this, &ExportDialog::Browse);
+    const auto line = withButton(command, tr("Copy the command"));
+    line.second->setIcon(Icon(QStringLiteral("edit-copy")));
+    line.second->setAutoRaise(true);
+    connect(line.second, &QToolButton::clicked, this,
+            [this] { QApplication::clipboard()->setText(command->text()); });
     form->addRow(tr("Export"), extent);
     form->addRow(tr("Format"), format);
-    form->addRow(tr("File"), row(output, browse));
+    form->addRow(tr("File"), file.first);
     form->addRow(tr("Magnify"), scale);
-    form->addRow(QString(), lamps);
-    form->addRow(QString(), schedule);
-    form->addRow(QString(), transparent);
-    form->addRow(QString(), lossless);
+    for (QCheckBox* box : {lamps, schedule, transparent, lossless})
+        form->addRow(QString(), box);
     form->addRow(tr("Result"), forecast);
-    form->addRow(tr("As a command"), row(command, copy));
+    form->addRow(tr("As a command"), line.first);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(close);
@@ -119,34 +125,6 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     progress->hide();
     state->hide();
     setMinimumWidth(560);
-
-    const QFileInfo scene(scenePath);
-    const QString base = scenePath.isEmpty() ? QDir::home().filePath(tr("sign"))
-                                             : scene.dir().filePath(scene.completeBaseName());
-    output->setText(base + format->currentData().toString());
-    connect(format, qOverload<int>(&QComboBox::activated), this, &ExportDialog::FormatChosen);
-    connect(output, &QLineEdit::textChanged, this, [this] {
-        if (output->text() != replaced)
-            replaced.clear();
-        Refresh();
-    });
-    connect(scale, qOverload<int>(&QSpinBox::valueChanged), this, &ExportDialog::Refresh);
-    connect(extent, qOverload<int>(&QComboBox::activated), this, &ExportDialog::ExtentChosen);
-    for (QCheckBox* box : {schedule, transparent, lossless, lamps})
-        connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
-    connect(copy, &QToolButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(command->text()); });
-    connect(browse, &QToolButton::clicked, this, &ExportDialog::Browse);
-    connect(start, &QPushButton::clicked, this, &ExportDialog::Begin);
-    connect(close, &QPushButton::clicked, this, &ExportDialog::reject);
-    connect(&exporting, &Export::Progress, this, &ExportDialog::ShowProgress);
-    connect(&exporting, &Export::Ended, this, &ExportDialog::End);
-    Refresh();
-}
-
-void ExportDialog::SetOutput(const QString& path)
-{
-    output->setText(path);
 }
 
 ExportSettings ExportDialog::Settings() const
@@ -177,63 +155,65 @@ void ExportDialog::FormatChosen()
     output->setText(path + format->currentData().toString());
 }
 
-/** One picture is a PNG, and a PNG is one picture. */
-void ExportDialog::ExtentChosen()
+bool ExportDialog::IsOnePicture() const
 {
     const QPoint range = extent->currentData().toPoint();
+    return range.x() == range.y();
+}
+
+void ExportDialog::ExtentChosen()
+{
     const FilmKind* kind = FilmKindOf(output->text());
-    const bool isOne = range.x() == range.y();
-    if (isOne != (kind && kind->Has(FilmKind::Still))) {
-        format->setCurrentIndex(isOne ? format->findData(QStringLiteral(".png")) : 0);
+    if (IsOnePicture() != (kind && kind->Has(FilmKind::Still))) {
+        format->setCurrentIndex(IsOnePicture() ? format->findData(QStringLiteral(".png")) : 0);
         FormatChosen();
     }
     Refresh();
 }
 
 /** Size and length of what will be made. */
-void ExportDialog::ShowForecast()
+QString ExportDialog::ForecastOf(const ExportSettings& settings) const
 {
-    const ExportSettings settings = Settings();
     const QSize size = sign.display * settings.scale;
     const QString pixels = tr("%1 × %2 px").arg(size.width()).arg(size.height());
-    const int pictures = settings.last >= 0 ? settings.last - settings.first + 1 : view.length;
-    if (settings.last >= 0 && pictures == 1)
-        forecast->setText(pixels);
-    else if (pictures > 0 && (settings.last >= 0 || schedule->isChecked()))
-        forecast->setText(
-            QStringLiteral("%1 · %2").arg(pixels, SecondsText(qint64(pictures) * tickLength)));
-    else if (pictures > 0) // the film lets the last page stand for one hold more
-        forecast->setText(tr("%1 · %2 and the last hold once more")
-                              .arg(pixels, SecondsText(qint64(pictures) * tickLength)));
-    else
-        forecast->setText(tr("%1 · to the end of all texts").arg(pixels));
+    const bool isPart = settings.last >= 0;
+    const int pictures = isPart ? settings.last - settings.first + 1 : view.length;
+    if (isPart && pictures == 1)
+        return pixels;
+    if (pictures == 0)
+        return tr("%1 · to the end of all texts").arg(pixels);
+    const QString seconds = SecondsText(qint64(pictures) * tickLength);
+    if (isPart || settings.schedule)
+        return QStringLiteral("%1 · %2").arg(pixels, seconds);
+    // The film lets the last page stand for one hold more.
+    return tr("%1 · %2 and the last hold once more").arg(pixels, seconds);
 }
 
 /** What the format cannot do is off, and says why. */
 void ExportDialog::Refresh()
 {
+    if (output->text() != replaced)
+        replaced.clear();
     const FilmKind* kind = FilmKindOf(output->text());
-    const int index = kind ? format->findData(QLatin1String(kind->ending)) : -1;
-    if (index >= 0)
-        format->setCurrentIndex(index);
-    const bool isStill = kind && kind->Has(FilmKind::Still);
-    const bool canBoth = kind && kind->Has(FilmKind::LosslessAlpha);
-    transparent->setEnabled(kind && kind->Has(FilmKind::Transparent) && !lamps->isChecked() &&
+    const auto has = [kind](FilmKind::Trait trait) { return kind && kind->Has(trait); };
+    if (kind)
+        format->setCurrentIndex(format->findData(QLatin1String(kind->ending)));
+    const bool canBoth = has(FilmKind::LosslessAlpha);
+    transparent->setEnabled(has(FilmKind::Transparent) && !lamps->isChecked() &&
                             (!lossless->isChecked() || canBoth));
-    lossless->setEnabled(kind && kind->Has(FilmKind::Lossless) &&
-                         (!transparent->isChecked() || canBoth));
+    lossless->setEnabled(has(FilmKind::Lossless) && (!transparent->isChecked() || canBoth));
     transparent->setToolTip(transparent->isEnabled() ? QString()
                             : lamps->isChecked()     ? tr("LEDs are on black.")
                                                      : tr("Films of this format cannot be."));
     lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
-    const QPoint range = extent->currentData().toPoint();
-    const bool isOne = range.x() == range.y();
-    const bool suits = isStill == isOne;
-    if (kind && !suits && extent->findData(QPoint(view.tick, view.tick)) >= 0)
-        extent->setCurrentIndex(isStill ? extent->findData(QPoint(view.tick, view.tick)) : 0);
-    ShowForecast();
+    // One picture is a PNG, and a PNG is one picture.
+    const bool isStill = has(FilmKind::Still);
+    const int picture = extent->findData(QPoint(view.tick, view.tick));
+    if (kind && isStill != IsOnePicture() && picture >= 0)
+        extent->setCurrentIndex(isStill ? picture : 0);
+    forecast->setText(ForecastOf(Settings()));
     start->setText(tr("Export"));
-    start->setEnabled(index >= 0 && (!isStill || view.tick >= 0) && !sign.texts.isEmpty() &&
+    start->setEnabled(kind && (!isStill || picture >= 0) && !sign.texts.isEmpty() &&
                       !exporting.IsRunning());
     command->setText(RenderCommandLine(
         scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath, Settings()));
@@ -242,10 +222,7 @@ void ExportDialog::Refresh()
 
 void ExportDialog::Say(const QString& words, bool isWarning)
 {
-    QPalette colors = palette();
-    if (isWarning)
-        colors.setColor(QPalette::WindowText, Warning(colors));
-    state->setPalette(colors);
+    SetInk(state, isWarning ? Warning(palette()) : palette().color(QPalette::WindowText));
     state->setText(words);
     state->show();
 }
@@ -278,7 +255,7 @@ void ExportDialog::Begin()
     progress->setRange(0, 0);
     progress->show();
     replaced.clear(); // the next film asks again
-    Say(tr("Starting"), false);
+    Say(tr("Starting"));
     close->setText(tr("Cancel"));
     start->setEnabled(false);
     exporting.Start(plugin, scene.path, Settings());
@@ -298,20 +275,19 @@ void ExportDialog::End(const QString& error, bool canceled)
 {
     progress->hide();
     close->setText(tr("Close"));
+    const auto link = [](const QString& path, const QString& words) {
+        return QStringLiteral("  <a href=\"%1\">%2</a>")
+            .arg(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded), words);
+    };
+    const QFileInfo made(output->text());
     if (canceled)
-        Say(tr("Canceled; nothing was written."), false);
+        Say(tr("Canceled; nothing was written."));
     else if (!error.isEmpty())
         Say(error, true);
     else
         Say(tr("Saved %1").arg(output->text().toHtmlEscaped()) +
-                QStringLiteral("  <a href=\"%1\">%2</a>  <a href=\"%3\">%4</a>")
-                    .arg(QUrl::fromLocalFile(QFileInfo(output->text()).absoluteFilePath())
-                             .toString(QUrl::FullyEncoded),
-                         tr("Open"),
-                         QUrl::fromLocalFile(QFileInfo(output->text()).absolutePath())
-                             .toString(QUrl::FullyEncoded),
-                         tr("Show in folder")),
-            false);
+            link(made.absoluteFilePath(), tr("Open")) +
+            link(made.absolutePath(), tr("Show in folder")));
     Refresh();
     emit Done(!canceled && error.isEmpty());
 }

@@ -42,8 +42,7 @@ public:
                  const ExportView& view = ExportView(), QWidget* parent = nullptr);
 
     /** Where the film goes; its ending chooses the format. */
-    void SetOutput(const QString& path);
-    QString Output() const { return output->text(); }
+    void SetOutput(const QString& path) { output->setText(path); }
     QString Command() const { return command->text(); }
     /** All, the range, or the picture that is looked at. */
     QComboBox* Extent() const { return extent; }
@@ -60,40 +59,41 @@ public slots:
     void reject() override;
 
 private:
+    void LayOut();
     ExportSettings Settings() const;
+    bool IsOnePicture() const;
     void FormatChosen();
-    void Refresh();
-    void ShowForecast();
     void ExtentChosen();
-    void Say(const QString& words, bool isWarning);
+    void Refresh();
+    QString ForecastOf(const ExportSettings& settings) const;
+    void Say(const QString& words, bool isWarning = false);
+    void Browse();
     void Begin();
     void ShowProgress(qint64 done, qint64 total, const QString& stage);
     void End(const QString& error, bool canceled);
-    void Browse();
 
-    Sign sign;
-    QString scenePath;
-    QString plugin;
+    const Sign sign;
+    const QString scenePath;
+    const QString plugin;
+    const ExportView view;
     SceneFolder folder;
     Export exporting;
-
-    ExportView view;
-
-    QComboBox* extent;
-    QCheckBox* lamps;
-    QLabel* forecast;
-    QComboBox* format;
-    QLineEdit* output;
-    QSpinBox* scale;
-    QCheckBox* schedule;
-    QCheckBox* transparent;
-    QCheckBox* lossless;
-    QLineEdit* command;
     QString replaced; // the file that may be replaced, as its user has said
-    QProgressBar* progress;
-    QLabel* state;
-    QPushButton* start;
-    QPushButton* close;
+
+    QComboBox* extent = new QComboBox(this); // its data are the first and the last picture
+    QComboBox* format = new QComboBox(this);
+    QLineEdit* output = new QLineEdit(this);
+    QSpinBox* scale = new QSpinBox(this);
+    QCheckBox* lamps = new QCheckBox(tr("As round LEDs on black"), this);
+    QCheckBox* schedule = new QCheckBox(tr("All pages, as the host times them"), this);
+    QCheckBox* transparent = new QCheckBox(tr("Transparent background"), this);
+    QCheckBox* lossless = new QCheckBox(tr("Lossless"), this);
+    QLabel* forecast = new QLabel(this);
+    QLineEdit* command = new QLineEdit(this);
+    QProgressBar* progress = new QProgressBar(this);
+    QLabel* state = new QLabel(this);
+    QPushButton* close = new QPushButton(tr("Close"), this);
+    QPushButton* start = new QPushButton(tr("Export"), this);
 };
 
 } // namespace AnimText

@@ -210,8 +210,8 @@ void MainWindow::Connect()
     inspector->Motions()->List()->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
     connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
-    connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText);
-    connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage);
+    connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText, Qt::QueuedConnection);
+    connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage, Qt::QueuedConnection);
     connect(scenes, &SceneList::PageSelected, this, [this](int page) {
         selected = 0;
         shownPage = page;

@@ -5,25 +5,27 @@
 #include <QContextMenuEvent>
 #include <QDropEvent>
 
+#include <climits>
+
 namespace AnimText {
 namespace {
 
-constexpr int idRole = Qt::UserRole;       // id of a text; 0 for the display
-constexpr int pageRole = Qt::UserRole + 1; // number of a page, in its row
+constexpr int idRole = Qt::UserRole;       // id of a text; 0 in the other rows
+constexpr int pageRole = Qt::UserRole + 1; // number of a page; negative for the display
+
+int IdOf(const QTreeWidgetItem* item)
+{
+    return item ? item->data(0, idRole).toInt() : 0;
+}
+
+int PageOf(const QTreeWidgetItem* item)
+{
+    return item ? item->data(0, pageRole).toInt() : -1;
+}
 
 QString TitleOf(const SignText& text)
 {
     return text.Title().isEmpty() ? SceneList::tr("(empty text)") : text.Title();
-}
-
-QString DisplayTitle(const QSize& size)
-{
-    return SceneList::tr("Display %1 × %2").arg(size.width()).arg(size.height());
-}
-
-bool IsPage(const QTreeWidgetItem* item)
-{
-    return item && item->data(0, pageRole).isValid();
 }
 
 } // namespace
@@ -42,14 +44,14 @@ SceneList::SceneList(QWidget* parent)
     setEditTriggers(QAbstractItemView::DoubleClicked);
     setAccessibleName(tr("Pages and texts"));
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (IsPage(item))
-            emit PageSelected(item->data(0, pageRole).toInt());
+        if (PageOfRow() >= 0)
+            emit PageSelected(PageOfRow());
         else if (item)
-            emit Selected(item->data(0, idRole).toInt());
+            emit Selected(IdOf(item));
     });
     connect(this, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (item->data(0, idRole).toInt() != 0)
-            emit Renamed(item->data(0, idRole).toInt(), item->text(0).simplified());
+        if (IdOf(item) != 0)
+            emit Renamed(IdOf(item), item->text(0).simplified());
     });
 }
 
@@ -70,57 +72,47 @@ void SceneList::Show(const Sign& sign)
         wanted.append({text.page, text.id});
     if (wanted != shown || topLevelItemCount() == 0) {
         shown = wanted;
-        Rebuild(sign);
-        return;
+        Rebuild();
     }
-    topLevelItem(0)->setText(0, DisplayTitle(sign.display));
+    topLevelItem(0)->setText(
+        0, tr("Display %1 × %2").arg(sign.display.width()).arg(sign.display.height()));
     for (const SignText& text : sign.texts) {
         QTreeWidgetItem* item = Find(text.id);
         item->setText(0, TitleOf(text));
-        if (item->parent()->child(0) == item)
-            item->parent()->setText(0, PageTitle(sign, text.page));
+        item->parent()->setText(0, PageTitle(sign, text.page));
     }
 }
 
-void SceneList::Rebuild(const Sign& sign)
+void SceneList::Rebuild()
 {
-    const int current = currentItem() ? currentItem()->data(0, idRole).toInt() : 0;
+    const int current = IdOf(currentItem());
     clear();
-    auto* display = new QTreeWidgetItem(this, {DisplayTitle(sign.display)});
-    display->setData(0, idRole, 0);
-    display->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-    QTreeWidgetItem* page = nullptr;
-    int number = -1;
-    for (const SignText& text : sign.texts) {
-        if (text.page != number) {
-            number = text.page;
-            page = new QTreeWidgetItem(this, {PageTitle(sign, number)});
-            page->setData(0, pageRole, number);
-            page->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
-                           Qt::ItemIsDropEnabled);
+    const auto add = [](QTreeWidgetItem* parent, int page, int id, Qt::ItemFlags flags) {
+        auto* item = new QTreeWidgetItem(parent);
+        item->setData(0, pageRole, page);
+        item->setData(0, idRole, id);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | flags);
+        return item;
+    };
+    QTreeWidgetItem* page = add(invisibleRootItem(), -1, 0, {});
+    for (const QPair<int, int>& text : shown) {
+        if (text.first != PageOf(page)) {
+            page = add(invisibleRootItem(), text.first, 0,
+                       Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled);
             page->setForeground(0, Quiet(palette()));
         }
-        auto* item = new QTreeWidgetItem(page, {TitleOf(text)});
-        item->setData(0, idRole, text.id);
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
-                       Qt::ItemIsEditable);
+        add(page, text.first, text.second, Qt::ItemIsDragEnabled | Qt::ItemIsEditable);
     }
     expandAll();
     Select(current);
 }
 
-QTreeWidgetItem* SceneList::Find(int id) const
+QTreeWidgetItem* SceneList::Find(int id)
 {
-    for (int page = 0; page < topLevelItemCount(); ++page) {
-        QTreeWidgetItem* top = topLevelItem(page);
-        if (id == 0 && !IsPage(top))
-            return top;
-        for (int i = 0; i < top->childCount(); ++i) {
-            if (top->child(i)->data(0, idRole).toInt() == id)
-                return top->child(i);
-        }
-    }
-    return nullptr;
+    QTreeWidgetItemIterator item(this);
+    while (*item && IdOf(*item) != id)
+        ++item;
+    return *item;
 }
 
 void SceneList::Select(int id)
@@ -134,7 +126,7 @@ void SceneList::Select(int id)
 
 int SceneList::PageOfRow() const
 {
-    return IsPage(currentItem()) ? currentItem()->data(0, pageRole).toInt() : -1;
+    return IdOf(currentItem()) == 0 ? PageOf(currentItem()) : -1;
 }
 
 void SceneList::Rename(int id)
@@ -143,48 +135,28 @@ void SceneList::Rename(int id)
         editItem(item);
 }
 
-/** Changes the sign, which then updates the rows; moves no row itself. */
+/** Moves no row itself: the sign is changed, which then updates the rows. */
 void SceneList::dropEvent(QDropEvent* event)
 {
     const QTreeWidgetItem* moved = currentItem();
-    const QTreeWidgetItem* under = itemAt(event->pos());
+    QTreeWidgetItem* under = itemAt(event->pos());
     event->setDropAction(Qt::CopyAction); // a move would remove the row
     event->accept();
     setState(QAbstractItemView::NoState);
-    if (!moved || moved == topLevelItem(0))
+    const bool isPage = IdOf(moved) == 0;
+    if (isPage && PageOf(moved) < 0)
         return;
+    const bool isText = IdOf(under) != 0;
     const bool below = under && event->pos().y() > visualItemRect(under).center().y();
-    const int pages = topLevelItemCount() - 1;
-    int page = pages; // below all rows: a new page
-    int place = 0;
-    if (IsPage(under)) {
-        // Above a page's row is the end of the page before it.
-        page = under->data(0, pageRole).toInt();
-        place = 0;
-        if (!below && page > 0 && !IsPage(moved)) {
-            --page;
-            place = topLevelItem(1 + page)->childCount();
-        }
-    } else if (under && under->parent()) {
-        page = under->parent()->data(0, pageRole).toInt();
-        place =
-            under->parent()->indexOfChild(const_cast<QTreeWidgetItem*>(under)) + (below ? 1 : 0);
-    } else if (under) {
-        page = 0;
-    }
-    // Queued, because rows must not be replaced during the drag.
-    if (IsPage(moved)) {
-        const bool behind = under && (below || !IsPage(under)) && under != topLevelItem(0);
-        const int from = moved->data(0, pageRole).toInt();
-        const int to = page + (behind ? 1 : 0);
-        QMetaObject::invokeMethod(
-            this, [this, from, to] { emit PageDropped(from, to); }, Qt::QueuedConnection);
-    } else {
-        const int id = moved->data(0, idRole).toInt();
-        QMetaObject::invokeMethod(
-            this, [this, id, page, place] { emit TextDropped(id, page, place); },
-            Qt::QueuedConnection);
-    }
+    const int page = under ? PageOf(under) : topLevelItemCount() - 1; // below all rows: a new one
+    if (isPage)
+        emit PageDropped(PageOf(moved), qMax(0, page + (isText || below ? 1 : 0)));
+    else if (isText)
+        emit TextDropped(IdOf(moved), page, under->parent()->indexOfChild(under) + (below ? 1 : 0));
+    else if (under && !below && page > 0) // above a page's row is the end of the page before it
+        emit TextDropped(IdOf(moved), page - 1, INT_MAX);
+    else
+        emit TextDropped(IdOf(moved), qMax(0, page), 0);
 }
 
 void SceneList::contextMenuEvent(QContextMenuEvent* event)

@@ -33,6 +33,7 @@ signals:
     void Selected(int id);
     void PageSelected(int page);
     void Renamed(int id, const QString& name);
+    // Rows must not be replaced during a drag: connect these queued.
     /** @param place index among the texts of @p page, which may be a new page */
     void TextDropped(int id, int page, int place);
     /** @param to the page to insert it before */
@@ -45,8 +46,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    void Rebuild(const Sign& sign);
-    QTreeWidgetItem* Find(int id) const;
+    void Rebuild();
+    QTreeWidgetItem* Find(int id);
 
     QVector<QPair<int, int>> shown; // page and id of each text
 };
