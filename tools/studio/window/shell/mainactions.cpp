@@ -15,7 +15,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
-#include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -46,7 +45,6 @@ QAction* MainWindow::Act(QMenu* menu, const Entry& entry, const std::function<vo
 
 void MainWindow::MakeActions()
 {
-    tools = addToolBar(tr("Tools"));
     tools->setObjectName(QStringLiteral("tools"));
     tools->setMovable(false);
     tools->setIconSize(QSize(20, 20));

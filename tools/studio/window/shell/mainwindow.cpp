@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDateTime>
-#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
@@ -13,7 +12,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
-#include <QSplitter>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -68,78 +66,56 @@ MainWindow::~MainWindow()
 
 void MainWindow::MakeCenter()
 {
-    view = new DisplayView(this);
     view->SetSurroundings(surroundings);
     view->SetFillsRoom(true);
-    scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus); // the display inside has the focus
     scroll->setWidgetResizable(true);
     scroll->setWidget(view);
-    transport = new TransportBar(&playback, this);
-    timeline = new Timeline(&playback, this);
     // Both would scroll on keys that move through time.
     scroll->installEventFilter(this);
     timeline->installEventFilter(this);
-
-    auto* top = new QWidget(this);
-    auto* topLayout = new QVBoxLayout(top);
-    topLayout->setContentsMargins(0, 0, 0, 0);
-    topLayout->setSpacing(0);
-    topLayout->addWidget(scroll, 1);
-    notices = new NoticeBar(top);
     auto* bottom = new QWidget(this);
-    auto* bottomLayout = new QVBoxLayout(bottom);
-    bottomLayout->setContentsMargins(0, 0, 0, 0);
-    bottomLayout->setSpacing(0);
-    bottomLayout->addWidget(transport);
-    bottomLayout->addWidget(timeline, 1);
-    auto* splitter = new QSplitter(Qt::Vertical, this);
-    splitter->setObjectName(QStringLiteral("center"));
-    splitter->addWidget(top);
-    splitter->addWidget(bottom);
-    splitter->setStretchFactor(0, 1);
-    splitter->setCollapsible(0, false);
-    setCentralWidget(splitter);
+    auto* layout = new QVBoxLayout(bottom);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(transport);
+    layout->addWidget(timeline, 1);
+    center->setObjectName(QStringLiteral("center"));
+    center->addWidget(scroll);
+    center->addWidget(bottom);
+    center->setStretchFactor(0, 1);
+    center->setCollapsible(0, false);
+    setCentralWidget(center);
 }
 
 void MainWindow::MakeDocks()
 {
-    scenes = new SceneList(this);
-    inspector = new Inspector(&thumbnails, this);
-    const auto dock = [this](const QString& name, const QString& title, QWidget* widget,
-                             Qt::DockWidgetArea area) {
-        auto* made = new QDockWidget(title, this);
-        made->setObjectName(name);
-        made->setWidget(widget);
-        made->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable |
-                          QDockWidget::DockWidgetFloatable);
-        addDockWidget(area, made);
-        return made;
+    const auto add = [this](QDockWidget* dock, const QString& name, QWidget* widget,
+                            Qt::DockWidgetArea area) {
+        dock->setObjectName(name);
+        dock->setWidget(widget);
+        addDockWidget(area, dock);
     };
-    auto* scene = new QWidget(this);
-    sceneTools = new QHBoxLayout;
+    auto* pages = new QWidget(this);
+    auto* layout = new QVBoxLayout(pages);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(scenes, 1);
+    layout->addLayout(sceneTools);
     sceneTools->setContentsMargins(grid, grid, grid, grid);
     sceneTools->setSpacing(grid);
-    auto* sceneLayout = new QVBoxLayout(scene);
-    sceneLayout->setContentsMargins(0, 0, 0, 0);
-    sceneLayout->setSpacing(0);
-    sceneLayout->addWidget(scenes, 1);
-    sceneLayout->addLayout(sceneTools);
-    QDockWidget* left = dock(QStringLiteral("scene"), tr("Scene"), scene, Qt::LeftDockWidgetArea);
-    QDockWidget* right =
-        dock(QStringLiteral("text"), tr("Text"), inspector, Qt::RightDockWidgetArea);
-    findings = new FindingsList(this);
-    QDockWidget* below =
-        dock(QStringLiteral("findings"), tr("Problems"), findings, Qt::LeftDockWidgetArea);
-    connect(findings, &FindingsList::CountChanged, this, [below](int count) {
-        SetTitle(below, count == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, count));
+    add(sceneDock, QStringLiteral("scene"), pages, Qt::LeftDockWidgetArea);
+    add(textDock, QStringLiteral("text"), inspector, Qt::RightDockWidgetArea);
+    add(findingsDock, QStringLiteral("findings"), findings, Qt::LeftDockWidgetArea);
+    connect(findings, &FindingsList::CountChanged, this, [this](int count) {
+        SetTitle(findingsDock,
+                 count == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, count));
     });
-    integrator = new IntegratorView(this);
-    dock(QStringLiteral("integrator"), tr("Integrator"), integrator, Qt::BottomDockWidgetArea)
-        ->hide();
-    resizeDocks({left, right}, {216, 430}, Qt::Horizontal);
-    resizeDocks({left, below}, {400, 160}, Qt::Vertical);
+    add(integratorDock, QStringLiteral("integrator"), integrator, Qt::BottomDockWidgetArea);
+    integratorDock->hide();
+    resizeDocks({sceneDock, textDock}, {216, 430}, Qt::Horizontal);
+    resizeDocks({sceneDock, findingsDock}, {400, 160}, Qt::Vertical);
 }
 
 void MainWindow::Connect()
@@ -294,8 +270,7 @@ void MainWindow::RestoreLayout()
     const QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     restoreState(settings.value(QStringLiteral("docks")).toByteArray());
-    findChild<QSplitter*>(QStringLiteral("center"))
-        ->restoreState(settings.value(QStringLiteral("center")).toByteArray());
+    center->restoreState(settings.value(QStringLiteral("center")).toByteArray());
     Arrange();
     for (QAction* action : pitches->actions()) {
         if (action->data() == settings.value(QStringLiteral("pitch")).toDouble())
@@ -362,7 +337,7 @@ void MainWindow::Refresh()
     const SignText* text = sign.Find(selected);
     inspector->Show(sign, text);
     const QString title = text ? text->Title() : tr("Display");
-    SetTitle(findChild<QDockWidget*>(QStringLiteral("text")), title.isEmpty() ? tr("Text") : title);
+    SetTitle(textDock, title.isEmpty() ? tr("Text") : title);
     QVector<AreaFrame> frames;
     for (const SignText& text : sign.texts) {
         if (text.page == CurrentPage())
@@ -570,13 +545,11 @@ void MainWindow::Arrange()
         return;
     }
     wideDocks = saveState();
-    auto* text = findChild<QDockWidget*>(QStringLiteral("text"));
-    for (const char* name : {"scene", "findings"}) {
-        auto* dock = findChild<QDockWidget*>(QLatin1String(name));
+    for (QDockWidget* dock : {sceneDock, findingsDock}) {
         if (!dock->isFloating())
-            tabifyDockWidget(text, dock);
+            tabifyDockWidget(textDock, dock);
     }
-    text->raise();
+    textDock->raise();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -592,8 +565,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     QSettings settings;
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("docks"), wideDocks.isEmpty() ? saveState() : wideDocks);
-    settings.setValue(QStringLiteral("center"),
-                      findChild<QSplitter*>(QStringLiteral("center"))->saveState());
+    settings.setValue(QStringLiteral("center"), center->saveState());
     settings.setValue(QStringLiteral("leds"), leds->isChecked());
     settings.setValue(QStringLiteral("pitch"), Pitch());
     event->accept();

@@ -21,9 +21,12 @@
 
 #include <QActionGroup>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QHBoxLayout>
 #include <QMainWindow>
 #include <QScrollArea>
+#include <QSplitter>
+#include <QToolBar>
 
 namespace AnimText {
 
@@ -143,22 +146,28 @@ private:
     QByteArray wideDocks; // their places in a wide window, while this one is narrow
     int zoom = 0;         // as chosen; 0 fits the window
 
-    DisplayView* view = nullptr;
-    QScrollArea* scroll = nullptr; // contains the view
-    NoticeBar* notices = nullptr;
-    TransportBar* transport = nullptr;
-    Timeline* timeline = nullptr;
-    SceneList* scenes = nullptr;
-    Inspector* inspector = nullptr;
-    FindingsList* findings = nullptr;
-    IntegratorView* integrator = nullptr;
+    // In the order of Tab.
+    QSplitter* center = new QSplitter(Qt::Vertical, this);
+    DisplayView* view = new DisplayView(this);
+    QScrollArea* scroll = new QScrollArea(this); // contains the view
+    TransportBar* transport = new TransportBar(&playback, this);
+    Timeline* timeline = new Timeline(&playback, this);
+    NoticeBar* notices = new NoticeBar(scroll);
+    SceneList* scenes = new SceneList(this);
+    QHBoxLayout* sceneTools = new QHBoxLayout;
+    Inspector* inspector = new Inspector(&thumbnails, this);
+    FindingsList* findings = new FindingsList(this);
+    IntegratorView* integrator = new IntegratorView(this);
+    QDockWidget* sceneDock = new QDockWidget(tr("Scene"), this);
+    QDockWidget* textDock = new QDockWidget(tr("Text"), this);
+    QDockWidget* findingsDock = new QDockWidget(tr("Problems"), this);
+    QDockWidget* integratorDock = new QDockWidget(tr("Integrator"), this);
+    QToolBar* tools = addToolBar(tr("Tools"));
     QComboBox* zoomBox = nullptr;
     QMenu* recent = nullptr;
     QAction* leds = nullptr;
     QAction* saveAction = nullptr;
     QAction* exportAction = nullptr;
-    QToolBar* tools = nullptr;
-    QHBoxLayout* sceneTools = nullptr;
     QActionGroup* pitches = nullptr; // from LED to LED in LED diameters
     QHash<QKeySequence, QAction*> playKeys;
 };
