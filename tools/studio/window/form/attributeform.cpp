@@ -39,7 +39,7 @@ QString UnitOf(const Attribute& attribute)
 }
 
 template <typename Value>
-TextSetting SettingOf(const QString& name, Value TextSource::*member)
+TextSetting SettingOf(const QString& name, Value Setting::*member)
 {
     return {name, QString(), [member](const SignText& text) { return int(text.source.*member); },
             [member](SignText* text, int number) { text->source.*member = Value(number); }};
