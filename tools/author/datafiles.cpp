@@ -1,14 +1,11 @@
 #include "author/datafiles.h"
 
 #include "files/wholefile.h"
-#include "scene/duplicatekeys.h"
 
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QMap>
 #include <QRegularExpression>
 #include <QtEndian>
@@ -39,11 +36,14 @@ QString NameDigest(const QByteArray& content)
         QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().left(digestLength));
 }
 
-/** A form in which names are equal if some file system treats them as equal. */
-QString Folded(const QString& text)
+/**
+ * What every file has in it that names the data file @p name: its end, as far as nothing writes it
+ * in another way, in lower case. Only JSON can write it in other ways, by escapes.
+ */
+QByteArray EndOf(const QString& name)
 {
-    QString folded = text.normalized(QString::NormalizationForm_C).toCaseFolded();
-    return folded.remove(QChar(QChar::ByteOrderMark));
+    static const QRegularExpression end(QStringLiteral("[a-z0-9_-]*\\.[^.]*\\.[^.]*$"));
+    return end.match(name.toLower()).captured().toLatin1();
 }
 
 /** Whether a file is one of our data files or a film, which name no files. */
@@ -54,21 +54,6 @@ bool IsData(const QByteArray& start, qint64 size)
     return isSerialized || start.startsWith("\x89PNG") || start.startsWith("GIF8") ||
            start.startsWith("\xff\xd8\xff") || start.startsWith("\x1a\x45\xdf\xa3") ||
            (start.startsWith("RIFF") && start.mid(8, 4) == "WEBP") || start.mid(4, 4) == "ftyp";
-}
-
-/** Replaces \u and four digits, as in JSON, by the character. */
-QString Unescaped(const QString& text)
-{
-    static const QRegularExpression escape(QStringLiteral("\\\\u([0-9a-fA-F]{4})"));
-    QString plain;
-    int end = 0;
-    for (auto it = escape.globalMatch(text); it.hasNext();) {
-        const auto match = it.next();
-        plain += text.mid(end, match.capturedStart() - end);
-        plain += QChar(match.captured(1).toUShort(nullptr, 16));
-        end = match.capturedEnd();
-    }
-    return plain + text.mid(end);
 }
 
 /**
@@ -96,6 +81,11 @@ bool HasOddNames(const QDir& folder)
     });
 }
 
+bool IsJson(const QByteArray& content)
+{
+    return !QJsonDocument::fromJson(content).isNull();
+}
+
 /** Searches files for the names of data files. */
 class Search
 {
@@ -103,7 +93,7 @@ public:
     explicit Search(const QStringList& candidates)
     {
         for (const QString& name : candidates)
-            sought.insert(name, Folded(name));
+            sought.insert(name, EndOf(name));
     }
 
     /** The names that were not found. */
@@ -130,7 +120,7 @@ private:
     QString LookAt(const QFileInfo& info)
     {
         if (info.isSymLink())
-            SearchText(QFileInfo(info.symLinkTarget()).fileName());
+            SearchText(info.symLinkTarget().toUtf8());
         if (!info.isFile())
             return info.exists() ? QStringLiteral("it is not a regular file")
                                  : QStringLiteral("it is a broken link");
@@ -146,62 +136,25 @@ private:
         if (content.size() != file.size())
             return file.error() == QFile::NoError ? QStringLiteral("it changed while it was read")
                                                   : file.errorString();
-        return SearchContent(content) ? QString()
-                                      : QStringLiteral("it looks like JSON but is not valid");
-    }
-
-    /** @return false if names may have been missed */
-    bool SearchContent(const QByteArray& content)
-    {
-        // As bytes: file lists, archives.
-        for (auto it = sought.begin(); it != sought.end();)
-            it = content.contains(QFile::encodeName(it.key())) ? sought.erase(it) : it + 1;
-        if (!LooksLikeJson(content)) {
-            // Such as JSON with comments, or a list that begins with a number.
-            if (content.contains("\\u"))
-                SearchText(Unescaped(QString::fromUtf8(content)));
-            return true;
-        }
+        SearchText(content);
         const QList<QByteArray> lines = content.trimmed().split('\n'); // of a trace, say
-        return SearchJson(content) ||
-               std::all_of(lines.begin(), lines.end(),
-                           [&](const QByteArray& line) { return SearchJson(line); });
+        return !LooksLikeJson(content) || IsJson(content) ||
+                       std::all_of(lines.begin(), lines.end(), IsJson)
+                   ? QString()
+                   : QStringLiteral("it looks like JSON but is not valid");
     }
 
-    bool SearchJson(const QByteArray& json)
+    void SearchText(const QByteArray& content)
     {
-        // Of keys that are there twice Qt's reader keeps one.
-        const QJsonDocument document =
-            DuplicateKeys(json).isEmpty() ? QJsonDocument::fromJson(json) : QJsonDocument();
-        SearchValue(document.isArray() ? QJsonValue(document.array())
-                                       : QJsonValue(document.object()));
-        return !document.isNull();
-    }
-
-    void SearchValue(const QJsonValue& value)
-    {
-        if (value.isString())
-            SearchText(value.toString());
-        const QJsonArray items = value.toArray();
-        for (const auto& item : items)
-            SearchValue(item);
-        const QJsonObject object = value.toObject();
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            SearchText(it.key());
-            SearchValue(it.value());
+        const QByteArray text = content.toLower();
+        const bool mayEscape = text.contains("\\u");
+        for (auto it = sought.begin(); it != sought.end();) {
+            const bool isNamed = text.contains(mayEscape ? it->mid(it->indexOf('.')) : *it);
+            it = isNamed ? sought.erase(it) : it + 1;
         }
     }
 
-    void SearchText(const QString& text)
-    {
-        if (!text.contains(QLatin1Char('.')))
-            return;
-        const QString folded = Folded(text);
-        for (auto it = sought.begin(); it != sought.end();)
-            it = folded.contains(*it) ? sought.erase(it) : it + 1;
-    }
-
-    QMap<QString, QString> sought; // names and their Folded() forms
+    QMap<QString, QByteArray> sought; // names and their ends
     int files = 0;
     qint64 bytes = 0;
 };

@@ -33,7 +33,7 @@ struct Unneeded
  * Returns the @p candidates in @p folder that can be removed: DataFileName() named them for their
  * present content, they are not write-protected, and no file names them in the folder, in its
  * subfolders (one level) or in its parent. All files are searched, since a hidden file or an
- * editor's backup may be the last copy of a scene: JSON by its strings, others by their bytes.
+ * editor's backup may be the last copy of a scene.
  * Returns none if a file in the folder or below cannot be opened, looks like JSON but is not valid,
  * or is too large.
  */

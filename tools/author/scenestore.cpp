@@ -77,11 +77,8 @@ public:
         const Storing storing = Write(scene, before, dataFiles, stored, error);
         if (storing == Storing::Saved) {
             lock.Sync();
-            const QStringList named = NamedFiles(scene);
-            replaced.erase(
-                std::remove_if(replaced.begin(), replaced.end(),
-                               [&](const QString& name) { return named.contains(name); }),
-                replaced.end());
+            for (const QString& name : NamedFiles(scene))
+                replaced.removeAll(name);
             const Unneeded unneeded = FindUnneeded(folder, replaced);
             for (const QString& name : unneeded.names)
                 QFile::remove(folder.filePath(name));
