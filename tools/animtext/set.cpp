@@ -16,11 +16,11 @@ int Set(const CommandLine& line)
     }
     auto [changed, at] = ChangeText(line, [&](Scene* scene, const Place& place, QString* error) {
         for (const QString& setting : settings) {
-            if (!SetValue(scene, place, setting.section(QLatin1Char('='), 0, 0),
-                          setting.section(QLatin1Char('='), 1), error))
-                return false;
+            if (error->isEmpty())
+                *error = SetValue(scene, place, setting.section(QLatin1Char('='), 0, 0),
+                                  setting.section(QLatin1Char('='), 1));
         }
-        return true;
+        return error->isEmpty();
     });
     WarnOfCut(changed, changed.At(at));
     return Done;

@@ -14,12 +14,6 @@
 namespace AnimText {
 namespace {
 
-/** What is wrong with a value. */
-struct Fault
-{
-    QString text;
-};
-
 /** Names on the command line and in the scene file. */
 const QMap<QString, QString>& Aliases()
 {
@@ -60,7 +54,7 @@ bool Suits(MotionTraits traits, const SceneNode& node, const QString& pathFile)
            (widestSpace <= widestLetter || !(traits & EvenWidths));
 }
 
-void ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const QString& value)
+QString ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const QString& value)
 {
     const bool scroll = key == QLatin1String("ContinueStyle");
     bool isNumber = false;
@@ -69,59 +63,63 @@ void ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const
                            : isNumber ? FindScroll(number)
                                       : FindScroll(value);
     if (!motion)
-        throw Fault{QStringLiteral("unknown %1 \"%2\"; animtext effects lists them")
-                        .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value)};
+        return QStringLiteral("unknown %1 \"%2\"; animtext effects lists them")
+            .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value);
     const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, motion->number};
     const NodeMotion now = MotionOf(*node);
     const QString pathFile = scene.FullName(node->files.value(QStringLiteral("PathData")));
     if (Kind(next) != Kind(now) || !Suits(next.Traits() & ~now.Traits(), *node, pathFile))
-        throw Fault{QStringLiteral("%1 needs another layout; use animtext author --replace")
-                        .arg(QLatin1String(motion->name))};
+        return QStringLiteral("%1 needs another layout; use animtext author --replace")
+            .arg(QLatin1String(motion->name));
     node->attributes[key] = motion->number;
+    return QString();
 }
 
 /** @p word as it was given for @p attribute. */
-void ChangeNumber(SceneNode* node, const QString& word, const Attribute& attribute,
-                  const QString& value)
+QString ChangeNumber(SceneNode* node, const QString& word, const Attribute& attribute,
+                     const QString& value)
 {
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
     if (!isNumber || !IsInRange(attribute, number))
-        throw Fault{QStringLiteral("%1 is \"%3\"; expected a whole number, %2")
-                        .arg(word, RangeInWords(attribute), value)};
+        return QStringLiteral("%1 is \"%3\"; expected a whole number, %2")
+            .arg(word, RangeInWords(attribute), value);
     SetNumber(node, attribute, number);
+    return QString();
 }
 
-void SetColor(SceneNode* node, const QString& value)
+QString SetColor(SceneNode* node, const QString& value)
 {
     QColor color;
     QString hint;
     if (!ReadColor(value, &color, &hint))
-        throw Fault{
-            QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2").arg(value, hint)};
+        return QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2")
+            .arg(value, hint);
     for (auto& row : node->lists[QStringLiteral("TextAttribute")])
         row[QStringLiteral("Color")] = QString::number(int(color.rgb() & 0xFFFFFF));
+    return QString();
 }
 
-void SetPos(SceneNode* node, const QString& value)
+QString SetPos(SceneNode* node, const QString& value)
 {
     static const QRegularExpression pair(QStringLiteral("^(-?\\d{1,7}),(-?\\d{1,7})$"));
     const QRegularExpressionMatch match = pair.match(value);
     if (!match.hasMatch())
-        throw Fault{
-            QStringLiteral("pos is \"%1\"; expected two whole numbers such as 16,0").arg(value)};
+        return QStringLiteral("pos is \"%1\"; expected two whole numbers such as 16,0").arg(value);
     node->pos = QPoint(match.captured(1).toInt(), match.captured(2).toInt());
+    return QString();
 }
 
-void SetHold(SceneNode* node, const QString& value)
+QString SetHold(SceneNode* node, const QString& value)
 {
     double milliseconds = 0;
     int units = 0;
     if (!ReadTime(value, &milliseconds) || !ToHoldUnits(milliseconds, &units))
-        throw Fault{QStringLiteral("hold is \"%1\"; expected whole tenths of a second up to "
-                                   "100000s, such as 2s or 1500ms")
-                        .arg(value)};
+        return QStringLiteral("hold is \"%1\"; expected whole tenths of a second up to "
+                              "100000s, such as 2s or 1500ms")
+            .arg(value);
     node->hold = units;
+    return QString();
 }
 
 QStringList Known()
@@ -134,7 +132,9 @@ QStringList Known()
     return keys;
 }
 
-void Set(Scene* scene, const Place& place, const QString& word, const QString& value)
+} // namespace
+
+QString SetValue(Scene* scene, const Place& place, const QString& word, const QString& value)
 {
     SceneNode* node = &scene->At(place);
     QString key = Aliases().value(word, word);
@@ -144,32 +144,17 @@ void Set(Scene* scene, const Place& place, const QString& word, const QString& v
     if (!attribute)
         attribute = FindAttribute(Home::Node, key);
     if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
-        ChangeMotion(*scene, node, key, value);
-    else if (key == QLatin1String("Color"))
-        SetColor(node, value);
-    else if (key == QLatin1String("pos"))
-        SetPos(node, value);
-    else if (key == QLatin1String("hold"))
-        SetHold(node, value);
-    else if (attribute && Known().contains(key))
-        ChangeNumber(node, word, *attribute, value);
-    else
-        throw Fault{QStringLiteral("%1 cannot be set; expected one of %2%3")
-                        .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()))};
-}
-
-} // namespace
-
-bool SetValue(Scene* scene, const Place& place, const QString& key, const QString& value,
-              QString* error)
-{
-    try {
-        Set(scene, place, key, value);
-        return true;
-    } catch (const Fault& fault) {
-        *error = fault.text;
-        return false;
-    }
+        return ChangeMotion(*scene, node, key, value);
+    if (key == QLatin1String("Color"))
+        return SetColor(node, value);
+    if (key == QLatin1String("pos"))
+        return SetPos(node, value);
+    if (key == QLatin1String("hold"))
+        return SetHold(node, value);
+    if (attribute && Known().contains(key))
+        return ChangeNumber(node, word, *attribute, value);
+    return QStringLiteral("%1 cannot be set; expected one of %2%3")
+        .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()));
 }
 
 } // namespace AnimText

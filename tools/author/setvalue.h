@@ -14,10 +14,9 @@ namespace AnimText {
 /**
  * Sets a value that needs no new layout, by its name on the command line ("speed", "hold", "color")
  * or in the scene file ("AnimationSpeed"). A motion can replace one with the same layout.
- * @return false, with one line in @p error, if that is not possible
+ * @return one line on why that is not possible, or empty
  */
-bool SetValue(Scene* scene, const Place& place, const QString& key, const QString& value,
-              QString* error);
+QString SetValue(Scene* scene, const Place& place, const QString& word, const QString& value);
 
 } // namespace AnimText
 
