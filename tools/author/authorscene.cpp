@@ -1,6 +1,94 @@
 #include "author/authorscene.h"
 
+#include <QFileInfo>
+
 namespace AnimText {
+
+namespace {
+
+bool Put(const SceneNode& node, const Destination& destination, Scene* scene, Place* place,
+         QString* error)
+{
+    if (!destination.instead.isEmpty()) {
+        if (!scene->Find(destination.instead, place, error))
+            return false;
+        scene->At(*place) = node;
+        return true;
+    }
+    const int pages = scene->pages.size();
+    if (destination.page > pages + 1) {
+        *error = QStringLiteral("there is no page %1; the next new page is %2")
+                     .arg(destination.page)
+                     .arg(pages + 1);
+        return false;
+    }
+    if (destination.page > pages)
+        scene->pages.append(ScenePage());
+    QList<SceneArea>& areas = scene->pages[destination.page - 1].areas;
+    if (destination.area > areas.size()) {
+        *error = QStringLiteral("there is no area %1 on page %2")
+                     .arg(destination.area)
+                     .arg(destination.page);
+        return false;
+    }
+    if (destination.area == 0)
+        areas.append(SceneArea());
+    const int area = destination.area == 0 ? areas.size() - 1 : destination.area - 1;
+    *place = {destination.page - 1, area, areas[area].nodes.size()};
+    areas[area].nodes.append(node);
+    return true;
+}
+
+/**
+ * Puts @p authored into @p scene and its data files into @p dataFiles; its pictures become relative
+ * to the scene's folder. Sets @p place to where it is.
+ */
+bool PutAuthored(const AuthoredNode& authored, const Destination& destination, Scene* scene,
+                 DataFiles* dataFiles, Place* place, QString* error)
+{
+    if (!destination.isAdded) {
+        const int texts = scene->Nodes().size();
+        if (texts > 1 && !destination.overwrites) {
+            *error = QStringLiteral("%1 has %2 texts; use --replace PLACE to replace one, "
+                                    "--append to add one, or --overwrite to replace all")
+                         .arg(scene->path)
+                         .arg(texts);
+            return false;
+        }
+        const QString path = scene->path;
+        *scene = Scene();
+        scene->path = path;
+    }
+    if (destination.isOpaque)
+        scene->alphaBlend = false;
+    SceneNode node = authored.node;
+    for (QString& picture : node.files)
+        picture =
+            QFileInfo(scene->path).dir().relativeFilePath(QFileInfo(picture).absoluteFilePath());
+    const auto add = [&](const QString& key, const QByteArray& content, const QString& suffix) {
+        node.files[key] = DataFileName(scene->path, content, suffix);
+        dataFiles->insert(node.files[key], content);
+    };
+    add(QStringLiteral("PathData"), authored.pathFile, QStringLiteral("path"));
+    add(QStringLiteral("DescentVector"), authored.descentFile, QStringLiteral("descent"));
+    if (!Put(node, destination, scene, place, error))
+        return false;
+    if (!destination.display.isEmpty())
+        scene->display = destination.display;
+    else if (scene->display.isEmpty())
+        scene->display = QSize(node.pos.x() + node.size.width(), node.pos.y() + node.size.height());
+    if (scene->display.isEmpty()) {
+        *error = QStringLiteral("an area of %1 x %2 pixels at %3,%4 is outside the display")
+                     .arg(node.size.width())
+                     .arg(node.size.height())
+                     .arg(node.pos.x())
+                     .arg(node.pos.y());
+        return false;
+    }
+    return true;
+}
+
+} // namespace
 
 Storing AuthorScene(const AuthorRequest& request, AuthoredScene* authored, QString* error)
 {

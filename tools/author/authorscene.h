@@ -5,10 +5,25 @@
 #ifndef ANIMTEXT_AUTHORSCENE_H
 #define ANIMTEXT_AUTHORSCENE_H
 
-#include "author/destination.h"
 #include "author/markup.h"
+#include "author/scenestore.h"
 
 namespace AnimText {
+
+/** Where a new text goes. Pages and areas count from 1. */
+struct Destination
+{
+    bool isAdded = false;    ///< to the texts of the scene, which it replaces otherwise
+    bool overwrites = false; ///< it may replace several texts
+    int page = 1;            ///< existing, or one more than the last for a new page
+    int area = 0;            ///< existing, or 0 for a new area
+    /** Replaces this text, a place as in Scene::Find(); page and area are ignored then. */
+    QString instead;
+    /** New size of the display in pixels. Empty: unchanged, or in a new scene what the area needs.
+     */
+    QSize display;
+    bool isOpaque = false; ///< the display's layers do not blend
+};
 
 /** What is asked for. */
 struct AuthorRequest
