@@ -112,6 +112,35 @@ void MeasureCut(LaidOut* laid)
     }
 }
 
+/** Whether a character has ink: not a space, a control or a mark that only affects shaping. */
+bool OughtToBeSeen(uint codePoint)
+{
+    const QChar::Category category = QChar::category(codePoint);
+    const bool isSpace = category >= QChar::Separator_Space && category <= QChar::Other_Format;
+    const bool variationSelector = (codePoint >= 0xFE00 && codePoint <= 0xFE0F) ||
+                                   (codePoint >= 0xE0100 && codePoint <= 0xE01EF);
+    const bool filler = codePoint == 0x034F || codePoint == 0x115F || codePoint == 0x1160 ||
+                        codePoint == 0x2800 || codePoint == 0x3164 || codePoint == 0xFFA0;
+    return !isSpace && !variationSelector && !filler;
+}
+
+/** The characters of @p line, laid out from @p text, that should have an outline but do not. */
+QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& line)
+{
+    QList<UnseenCharacter> unseen;
+    for (const Cluster& cluster : line.clusters) {
+        QVector<int> places = cluster.missing;
+        if (places.isEmpty() && cluster.shape.isEmpty())
+            places.append(cluster.first);
+        for (int place : places) {
+            const uint codePoint = text.mid(place, 2).toUcs4().value(0);
+            if (OughtToBeSeen(codePoint))
+                unseen.append({place, codePoint, !cluster.missing.isEmpty()});
+        }
+    }
+    return unseen;
+}
+
 } // namespace
 
 bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& motion,

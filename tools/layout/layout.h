@@ -11,6 +11,14 @@
 
 namespace AnimText {
 
+/** A character without an outline. */
+struct UnseenCharacter
+{
+    int index = 0;        ///< its first UTF-16 unit
+    uint codePoint = 0;   ///< 0x0 .. 0x10FFFF
+    bool missing = false; ///< no font has it; otherwise its font has only a picture
+};
+
 /** A text as the sign will have it, and what to warn of. */
 struct LaidOut : PlacedText
 {

@@ -73,8 +73,11 @@ public:
         , widths(ClusterWidths(line))
         , seenAt(line.clusters.size())
         , outlines(line.clusters.size())
+        , ranks(line.clusters.size())
     {
         widest = widths.isEmpty() ? 0 : *std::max_element(widths.begin(), widths.end());
+        for (int i = 0; i < Count(); ++i)
+            ranks[line.visualOrder[i]] = i;
     }
 
     PlacedText Set()
@@ -100,12 +103,9 @@ private:
         const int room = qMax(1, area.width() - 2 * setting.padding);
         const QVector<LinePiece> pieces = Pieces();
         const QVector<PageCut> pages = CutPages(pieces, room, IsFromEnd());
-        for (int p = 0; p < pages.size(); ++p)
+        for (int p = 0; p < pages.size(); ++p) {
             SetPage(pages[p], IsFromEnd() ? p == 0 : p + 1 == pages.size());
-        if (!setting.keepsWords)
-            return;
-        for (int p = 1; p < pages.size(); ++p) {
-            if (!pieces[pages[p].seen].mayBegin)
+            if (setting.keepsWords && p > 0 && !pieces[pages[p].seen].mayBegin)
                 NoteTornWord(pieces, pages[p].seen);
         }
     }
@@ -144,16 +144,10 @@ private:
     /** @param isLast no page follows */
     void SetPage(const PageCut& page, bool isLast)
     {
-        QVector<int> members; // visible, from left to right
-        members.reserve(page.seenEnd - page.seen);
-        if (page.seen == 0 && page.seenEnd == Count()) {
-            members = line.visualOrder;
-        } else {
-            for (int k = page.seen; k < page.seenEnd; ++k)
-                members.append(k);
-            std::sort(members.begin(), members.end(),
-                      [this](int a, int b) { return Rank(a) < Rank(b); });
-        }
+        QVector<int> members(page.seenEnd - page.seen); // visible, from left to right
+        std::iota(members.begin(), members.end(), page.seen);
+        std::sort(members.begin(), members.end(),
+                  [this](int a, int b) { return ranks[a] < ranks[b]; });
         int seenWidth = 0;
         for (int k : members)
             seenWidth += widths[k];
@@ -171,17 +165,6 @@ private:
             Append(cell, x);
             x += cell.width;
         }
-    }
-
-    /** The index of cluster @p k in the visual order. */
-    int Rank(int k)
-    {
-        if (ranks.isEmpty()) {
-            ranks.resize(Count());
-            for (int i = 0; i < Count(); ++i)
-                ranks[line.visualOrder[i]] = i;
-        }
-        return ranks[k];
     }
 
     /** The left edge of a page's text of that width. */
@@ -315,7 +298,7 @@ private:
     const QVector<int> widths;      // of the clusters
     QVector<int> seenAt;            // left edge of each cluster on its page
     QVector<QPainterPath> outlines; // of the clusters
-    QVector<int> ranks;
+    QVector<int> ranks;             // of the clusters in the visual order
     int widest = 0;
     PlacedText result;
 };

@@ -10,6 +10,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <numeric>
 
 namespace AnimText {
 namespace {
@@ -19,15 +20,6 @@ namespace {
 const int columnsPerLine = 100;
 
 const qreal tolerance = 0.02; // pixels; QTextLayout uses units of 1/64
-
-QTextOption Option(QTextOption::WrapMode wrap, Qt::LayoutDirection direction)
-{
-    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setTextDirection(direction);
-    option.setWrapMode(wrap);
-    option.setFlags(QTextOption::IncludeTrailingSpaces);
-    return option;
-}
 
 // The direction of the first letter.
 const Qt::LayoutDirection ownDirection = Qt::LayoutDirectionAuto;
@@ -47,7 +39,11 @@ void Prepare(const StyledText& text, QTextOption::WrapMode wrap, QTextLayout* la
     layout->setText(text.text);
     layout->setFont(text.runs.first().font);
     layout->setFormats(formats);
-    layout->setTextOption(Option(wrap, direction));
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(direction);
+    option.setWrapMode(wrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout->setTextOption(option);
 }
 
 /** Lays out the text on one line. The line is valid as long as @p layout. */
@@ -278,15 +274,11 @@ private:
     /** The clusters from left to right. */
     QVector<int> VisualOrder() const
     {
-        QVector<int> order;
-        order.reserve(places.size());
-        const bool mixed = std::any_of(places.begin(), places.end(),
-                                       [](const PlacedCluster& p) { return p.RightToLeft(); });
-        if (!mixed) {
-            for (int i = 0; i < places.size(); ++i)
-                order.append(i);
+        QVector<int> order(places.size());
+        std::iota(order.begin(), order.end(), 0);
+        if (std::none_of(places.begin(), places.end(),
+                         [](const PlacedCluster& p) { return p.RightToLeft(); }))
             return order;
-        }
 
         // Consecutive clusters of one direction stay together on any line, so only the position of
         // each such sequence comes from the whole line.
@@ -312,9 +304,10 @@ private:
         }
         std::stable_sort(sequences.begin(), sequences.end(),
                          [](const Sequence& a, const Sequence& b) { return a.left < b.left; });
+        auto next = order.begin();
         for (const Sequence& s : sequences) {
             for (int i = s.begin; i < s.end; ++i)
-                order.append(places[s.begin].RightToLeft() ? s.begin + s.end - 1 - i : i);
+                *next++ = places[s.begin].RightToLeft() ? s.begin + s.end - 1 - i : i;
         }
         return order;
     }

@@ -61,17 +61,6 @@ struct LineSize
 /** The size of the line of ShapeLine(), in a fraction of the time. */
 LineSize MeasureLine(const StyledText& text);
 
-/** A character without an outline. */
-struct UnseenCharacter
-{
-    int index = 0;        ///< its first UTF-16 unit
-    uint codePoint = 0;   ///< 0x0 .. 0x10FFFF
-    bool missing = false; ///< no font has it; otherwise its font has only a picture
-};
-
-/** The characters of @p line, laid out from @p text, that should have an outline but do not. */
-QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& line);
-
 } // namespace AnimText
 
 #endif
