@@ -55,20 +55,17 @@ public:
 private:
     void Open()
     {
-        static const QStringList tags{QStringLiteral("b"), QStringLiteral("i"), QStringLiteral("u"),
-                                      QStringLiteral("font")};
         StyleRun style = styles.last();
         const bool isOuter = styles.size() == 1 && xml.name() == QLatin1String("text");
-        switch (isOuter ? -2 : tags.indexOf(xml.name().toString())) {
-        case -2: break;
-        case 0: style.font.setBold(true); break;
-        case 1: style.font.setItalic(true); break;
-        case 2: style.font.setUnderline(true); break;
-        case 3: break;
-        default:
+        if (xml.name() == QLatin1String("b"))
+            style.font.setBold(true);
+        else if (xml.name() == QLatin1String("i"))
+            style.font.setItalic(true);
+        else if (xml.name() == QLatin1String("u"))
+            style.font.setUnderline(true);
+        else if (!isOuter && xml.name() != QLatin1String("font"))
             xml.raiseError(QStringLiteral("unknown tag <%1>; expected <b>, <i>, <u> or <font>")
                                .arg(xml.name().toString()));
-        }
         for (const QXmlStreamAttribute& attribute : xml.attributes()) {
             const QString fault =
                 xml.name() == QLatin1String("font")

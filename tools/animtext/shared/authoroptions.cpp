@@ -6,8 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
-
 namespace AnimText {
 
 namespace {
@@ -28,9 +26,8 @@ QString ReadWords(const CommandLine& line)
         return line.Value("text");
 
     const QString name = line.Value("text-file");
-    const bool isStandardInput = name == QLatin1String("-");
-    QFile file(name);
-    if (!(isStandardInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
+    QFile file(name == QLatin1String("-") ? QStringLiteral("/dev/stdin") : name);
+    if (!file.open(QIODevice::ReadOnly))
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
     QByteArray bytes = ReadAtMost(&file, longestTextFile + 1);
     if (file.error() != QFileDevice::NoError)

@@ -29,8 +29,10 @@ struct CutTimes
 
     qint64 Cut() const { return real - planned; }
     bool IsCut() const { return real >= 0 && double(Cut()) > mostCut * double(planned); }
+    bool IsEnough() const { return real >= 0 && !IsCut(); }
 };
 
+/** Plays one text with other speeds and holds. */
 class Measurement
 {
 public:
@@ -38,6 +40,8 @@ public:
         : player(VirtualDispatcher::Current(), plugin)
         , scene(from)
         , speedKey(MotionOf(node).SpeedKey())
+        , speed(node.attributes.value(speedKey).toInt())
+        , hold(node.hold)
     {
         SceneNode plain = node;
         for (const char* background : {"CheckNeonBg", "CheckDazzle", "CheckPictureFills"})
@@ -48,31 +52,13 @@ public:
         longest = int(qMin(longestPlay, mostPixels / pixels));
     }
 
-    int Speed() const { return Node().attributes.value(speedKey).toInt(); }
-    int Hold() const { return Node().hold; }
-
-    CutTimes WithSpeed(int speed)
+    CutTimes With(int otherSpeed, int otherHold)
     {
-        Scene other = scene;
-        other.At({}).attributes[speedKey] = speed;
-        return Measure(other);
-    }
-
-    CutTimes WithHold(int hold)
-    {
-        Scene other = scene;
-        other.At({}).hold = hold;
-        return Measure(other);
-    }
-
-private:
-    const SceneNode& Node() const { return scene.At({}); }
-
-    CutTimes Measure(const Scene& wanted)
-    {
+        scene.At({}).attributes[speedKey] = otherSpeed;
+        scene.At({}).hold = otherHold;
         CutTimes times;
         QString error;
-        const BlankScene blank(wanted);
+        const BlankScene blank(scene);
         if (!player.Load(blank.Get(), &error))
             return times;
         times.planned = player.Durations().value(0);
@@ -85,43 +71,44 @@ private:
         return times;
     }
 
+    /** The nearest speed that avoids the cut, or -1. */
+    int SpeedThatFits()
+    {
+        for (int distance = 1; distance <= 9; ++distance) {
+            for (int other : {speed - distance, speed + distance}) {
+                if (other >= 0 && other <= 9 && With(other, hold).IsEnough())
+                    return other;
+            }
+        }
+        return -1;
+    }
+
+    /** A hold that makes the play so long that the cut is below the limit, or -1. */
+    int HoldThatFits(const CutTimes& now)
+    {
+        const qint64 perUnit = With(speed, hold + 1).planned - now.planned;
+        if (perUnit <= 0)
+            return -1;
+        const double growth = double(now.Cut()) / mostCut - double(now.planned);
+        double other = hold + std::ceil(growth / double(perUnit));
+        for (int tries = 0; tries < 3 && other <= longestHold;
+             ++tries, other = std::ceil(other * 1.1)) {
+            if (With(speed, int(other)).IsEnough())
+                return int(other);
+        }
+        return -1;
+    }
+
+    CutTimes Now() { return With(speed, hold); }
+
+private:
     Player player;
     Scene scene;
-    QString speedKey;
+    const QString speedKey;
+    const int speed;
+    const int hold;
     int longest = 0; // ticks
 };
-
-/** The nearest speed that avoids the cut, or -1. */
-int SpeedThatFits(Measurement* measurement)
-{
-    const int own = measurement->Speed();
-    for (int distance = 1; distance <= 9; ++distance) {
-        for (int speed : {own - distance, own + distance}) {
-            const CutTimes times =
-                speed >= 0 && speed <= 9 ? measurement->WithSpeed(speed) : CutTimes();
-            if (times.real >= 0 && !times.IsCut())
-                return speed;
-        }
-    }
-    return -1;
-}
-
-/** A hold that makes the play so long that the cut is below the limit, or -1. */
-int HoldThatFits(Measurement* measurement, const CutTimes& now)
-{
-    const int own = measurement->Hold();
-    const qint64 perUnit = measurement->WithHold(own + 1).planned - now.planned;
-    if (perUnit <= 0)
-        return -1;
-    const double growth = double(now.Cut()) / mostCut - double(now.planned);
-    double hold = own + std::ceil(growth / double(perUnit));
-    for (int tries = 0; tries < 3 && hold <= longestHold; ++tries, hold = std::ceil(hold * 1.1)) {
-        const CutTimes times = measurement->WithHold(int(hold));
-        if (times.real >= 0 && !times.IsCut())
-            return int(hold);
-    }
-    return -1;
-}
 
 QString InSeconds(qint64 milliseconds)
 {
@@ -138,11 +125,11 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
         return;
     const Silence silence;
     Measurement measurement(scene, node, plugin);
-    const CutTimes now = measurement.WithHold(node.hold);
+    const CutTimes now = measurement.Now();
     if (!now.IsCut() || now.Cut() <= qint64(node.hold) * holdUnit)
         return;
-    const int speed = SpeedThatFits(&measurement);
-    const int hold = speed < 0 ? HoldThatFits(&measurement, now) : -1;
+    const int speed = measurement.SpeedThatFits();
+    const int hold = speed < 0 ? measurement.HoldThatFits(now) : -1;
     const QString way = speed >= 0 ? QStringLiteral("speed %1 avoids this").arg(speed)
                         : hold >= 0
                             ? QStringLiteral("no speed avoids this, but a hold of %1s does")
