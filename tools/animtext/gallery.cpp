@@ -53,7 +53,6 @@ int MakeGallery(const CommandLine& line)
     options.folder = line.Value("output");
     options.node = ReadLook(line);
     options.node.attributes[QStringLiteral("PlayTimes")] = 1;
-    options.node.size = line.Size("area");
     WrittenText typed = ReadWritten(line);
     typed.words = line.Value("text");
     QString error;

@@ -4,15 +4,6 @@ namespace AnimText {
 
 namespace {
 
-QList<QHash<QString, QString>> Rows(const QString& field, const QVector<int>& values)
-{
-    QList<QHash<QString, QString>> rows;
-    rows.reserve(values.size());
-    for (int value : values)
-        rows.append({{field, QString::number(value)}});
-    return rows;
-}
-
 QHash<QString, QString> StyleRow(const StyleRun& style)
 {
     const auto number = [](int value) { return QString::number(value); };
@@ -23,18 +14,6 @@ QHash<QString, QString> StyleRow(const StyleRun& style)
             {QStringLiteral("italic"), number(style.font.italic() ? 1 : 0)},
             {QStringLiteral("underline"), number(style.font.underline() ? 1 : 0)},
             {QStringLiteral("Color"), number(int(style.color.rgb() & 0xFFFFFF))}};
-}
-
-QList<QHash<QString, QString>> StyleRows(const LaidOut& laid)
-{
-    QVector<QHash<QString, QString>> styles;
-    for (const StyleRun& run : laid.styled.runs)
-        styles.append(StyleRow(run));
-    QList<QHash<QString, QString>> rows;
-    rows.reserve(laid.source.size());
-    for (int unit : laid.source)
-        rows.append(styles[int(&laid.styled.At(unit) - laid.styled.runs.constData())]);
-    return rows;
 }
 
 } // namespace
@@ -49,10 +28,18 @@ bool AuthorNode(const TextSource& source, const SceneNode& settings, const NodeM
     node.size = authored->area;
     SetMotion(&node, motion);
     node.attributes[QStringLiteral("Text")] = authored->text;
-    node.lists[QStringLiteral("TextWidth")] = Rows(QStringLiteral("text_width"), authored->widths);
-    node.lists[QStringLiteral("TextHeight")] =
-        Rows(QStringLiteral("text_height"), authored->heights);
-    node.lists[QStringLiteral("TextAttribute")] = StyleRows(*authored);
+    QVector<QHash<QString, QString>> styles;
+    for (const StyleRun& run : authored->styled.runs)
+        styles.append(StyleRow(run));
+    for (int i = 0; i < authored->text.size(); ++i) {
+        const StyleRun& style = authored->styled.At(authored->source[i]);
+        node.lists[QStringLiteral("TextAttribute")].append(
+            styles[int(&style - authored->styled.runs.constData())]);
+        node.lists[QStringLiteral("TextHeight")].append(
+            {{QStringLiteral("text_height"), QString::number(authored->heights[i])}});
+        node.lists[QStringLiteral("TextWidth")].append(
+            {{QStringLiteral("text_width"), QString::number(authored->widths[i])}});
+    }
     return true;
 }
 

@@ -94,7 +94,7 @@ QVariant CommandLine::Read(const char* name) const
 {
     const Option* option = FindOption(command, QLatin1String(name));
     Q_ASSERT_X(option, "CommandLine", name);
-    return ReadValue(*option, Value(name));
+    return option->standard || IsSet(name) ? ReadValue(*option, Value(name)) : QVariant();
 }
 
 } // namespace AnimText

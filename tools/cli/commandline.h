@@ -19,8 +19,8 @@ namespace AnimText {
 
 /**
  * The options that were given, checked, and the command's arguments. Options are named as in the
- * command's table. One that was not given has its default; where it has no default, ask IsSet()
- * first.
+ * command's table. One that was not given has its default; where it has no default, it is 0 or
+ * empty.
  */
 class CommandLine
 {

@@ -32,7 +32,12 @@ StyledText Fitted(const StyledText& text, bool fitsWidth, const QSize& room)
         largest = qMax(largest, run.font.pixelSize());
         smallest = qMin(smallest, run.font.pixelSize());
     }
-    const auto at = [&](int size) { return text.Scaled(qreal(size) / largest); };
+    const auto at = [&](int size) {
+        StyledText scaled = text;
+        for (StyleRun& run : scaled.runs)
+            run.font.setPixelSize(qMax(1, qRound(run.font.pixelSize() * (qreal(size) / largest))));
+        return scaled;
+    };
     const auto fits = [&](int size) {
         const LineSize line = MeasureLine(at(size));
         return line.ascent + line.descent <= room.height() &&

@@ -3,6 +3,9 @@
 #include <QImage>
 #include <QPainter>
 
+#include <functional>
+#include <numeric>
+
 namespace AnimText {
 namespace {
 
@@ -23,10 +26,9 @@ int DifferentPixels(const QImage& a, const QImage& b)
 {
     int count = 0;
     for (int y = 0; y < a.height(); ++y) {
-        const uchar* rowA = a.constScanLine(y);
-        const uchar* rowB = b.constScanLine(y);
-        for (int x = 0; x < a.width(); ++x)
-            count += rowA[x] != rowB[x] ? 1 : 0;
+        const uchar* row = a.constScanLine(y);
+        count += std::inner_product(row, row + a.width(), b.constScanLine(y), 0, std::plus<>(),
+                                    std::not_equal_to<>());
     }
     return count;
 }

@@ -25,14 +25,6 @@ void StyledText::Append(const QString& more, const StyleRun& run)
     text += more;
 }
 
-StyledText StyledText::Scaled(qreal factor) const
-{
-    StyledText scaled = *this;
-    for (StyleRun& run : scaled.runs)
-        run.font.setPixelSize(qMax(1, qRound(run.font.pixelSize() * factor)));
-    return scaled;
-}
-
 bool operator==(const StyledText& a, const StyledText& b)
 {
     return a.text == b.text && std::equal(a.runs.begin(), a.runs.end(), b.runs.begin(),

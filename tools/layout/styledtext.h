@@ -35,8 +35,6 @@ struct StyledText
     const StyleRun& At(int index) const;
     /** Appends @p more in the style of @p run; equal neighbors become one run. */
     void Append(const QString& more, const StyleRun& run);
-    /** All sizes times @p factor, in whole pixels, 1 at least. */
-    StyledText Scaled(qreal factor) const;
 };
 
 bool operator==(const StyledText& a, const StyledText& b);

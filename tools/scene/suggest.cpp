@@ -31,8 +31,10 @@ int EditDistance(const QString& from, const QString& to)
     return row[to.size()];
 }
 
-} // namespace
-
+/**
+ * The one of @p known that takes the fewest changed, added, dropped or swapped letters to come from
+ * @p word, upper and lower case alike; empty when even that one is too far away to be meant.
+ */
 QString Closest(const QString& word, const QStringList& known)
 {
     // Long words are not typing errors, and comparing them would take forever.
@@ -50,6 +52,8 @@ QString Closest(const QString& word, const QStringList& known)
     }
     return best;
 }
+
+} // namespace
 
 QString DidYouMean(const QString& word, const QStringList& known)
 {

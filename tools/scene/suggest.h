@@ -10,12 +10,6 @@
 
 namespace AnimText {
 
-/**
- * The one of @p known that takes the fewest changed, added, dropped or swapped letters to come from
- * @p word, upper and lower case alike; empty when even that one is too far away to be meant.
- */
-QString Closest(const QString& word, const QStringList& known);
-
 /** "; did you mean X?" for the closest word, or nothing. */
 QString DidYouMean(const QString& word, const QStringList& known);
 

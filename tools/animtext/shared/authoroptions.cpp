@@ -27,9 +27,9 @@ QString ReadWords(const CommandLine& line)
 
     const QString name = line.Value("text-file");
     QFile file(name == QLatin1String("-") ? QStringLiteral("/dev/stdin") : name);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
-    QByteArray bytes = ReadAtMost(&file, longestTextFile + 1);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = ReadAtMost(&file, longestTextFile + 1);
     if (file.error() != QFileDevice::NoError)
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
     if (bytes.size() > longestTextFile)
@@ -87,13 +87,11 @@ QString FileIn(const CommandLine& line, const char* option)
 
 void ReadBackground(const CommandLine& line, SceneNode* node)
 {
-    if (line.IsSet("dazzle")) {
+    if (line.IsSet("dazzle"))
         node->attributes[QStringLiteral("CheckDazzle")] = 1;
-        const int gradient = line.Number("dazzle") - 1; // after "plain"
-        if (gradient >= 0) {
-            node->attributes[QStringLiteral("CheckColorGradient")] = 1;
-            node->attributes[QStringLiteral("ColorGradient")] = gradient;
-        }
+    if (const int gradient = line.Number("dazzle")) { // 0 is plain
+        node->attributes[QStringLiteral("CheckColorGradient")] = 1;
+        node->attributes[QStringLiteral("ColorGradient")] = gradient - 1;
     }
     if (line.IsSet("picture")) {
         if (!line.IsSet("dazzle"))
@@ -101,27 +99,14 @@ void ReadBackground(const CommandLine& line, SceneNode* node)
         node->attributes[QStringLiteral("CheckPictureFills")] = 1;
         node->files[QStringLiteral("FillImage")] = FileIn(line, "picture");
     }
-    if (line.IsSet("neon")) {
+    if (line.IsSet("neon"))
         node->attributes[QStringLiteral("CheckNeonBg")] = 1;
-        node->neonEffect = line.Number("neon");
-    }
+    node->neonEffect = line.Number("neon");
     if ((node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"))
         throw Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
                          .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
         node->files[QStringLiteral("NeonGifPath")] = FileIn(line, "neon-picture");
-}
-
-/** The settings of the text. */
-SceneNode ReadNode(const CommandLine& line)
-{
-    SceneNode node = ReadLook(line);
-    ReadBackground(line, &node);
-    if (line.IsSet("area"))
-        node.size = line.Size("area");
-    node.pos = line.Point("pos");
-    node.attributes[QStringLiteral("PlayTimes")] = line.Number("plays");
-    return node;
 }
 
 Destination ReadDestination(const CommandLine& line)
@@ -131,14 +116,10 @@ Destination ReadDestination(const CommandLine& line)
     destination.isAdded = line.IsSet("append") || line.IsSet("replace") || isCounted;
     destination.overwrites = line.IsSet("overwrite");
     destination.isOpaque = line.IsSet("no-alpha");
-    if (line.IsSet("display"))
-        destination.display = line.Size("display");
-    if (line.IsSet("page"))
-        destination.page = line.Number("page");
-    if (line.IsSet("in-area"))
-        destination.area = line.Number("in-area");
-    if (line.IsSet("replace"))
-        destination.instead = line.Value("replace");
+    destination.display = line.Size("display");
+    destination.page = qMax(1, line.Number("page"));
+    destination.area = line.Number("in-area");
+    destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && isCounted)
         throw Misuse{QStringLiteral("--replace cannot be combined with --page or --in-area")};
     if (line.IsSet("replace") && destination.instead.isEmpty())
@@ -230,6 +211,7 @@ WrittenText ReadWritten(const CommandLine& line)
 SceneNode ReadLook(const CommandLine& line)
 {
     SceneNode node;
+    node.size = line.Size("area");
     node.hold = line.Number("hold");
     if (line.IsSet("hollow"))
         node.attributes[QStringLiteral("Hollow")] = 1;
@@ -245,8 +227,11 @@ AuthorRequest ReadRequest(const CommandLine& line)
     request.written.hasTags = line.IsSet("markup");
     request.motion = ReadMotion(line);
     request.setting = ReadSetting(line, request.motion);
-    request.node = ReadNode(line);
+    request.node = ReadLook(line);
+    ReadBackground(line, &request.node);
+    request.node.pos = line.Point("pos");
     request.node.attributes[request.motion.SpeedKey()] = line.Number("speed");
+    request.node.attributes[QStringLiteral("PlayTimes")] = line.Number("plays");
     request.hasPlace = line.IsSet("pos");
     request.destination = ReadDestination(line);
     return request;

@@ -14,7 +14,7 @@ QVector<Option> LayoutOptions();
 
 /** The text's font, size and color, without its words. */
 WrittenText ReadWritten(const CommandLine& line);
-/** Hollow and hold. */
+/** Area, hollow and hold. */
 SceneNode ReadLook(const CommandLine& line);
 
 /** Reads all options; throws Misuse if they cannot be combined. */
