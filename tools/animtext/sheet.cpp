@@ -26,7 +26,7 @@ QVector<int> Spread(int frames, int count, bool toTheEnd)
     return picked;
 }
 
-void AddRow(const Playing& playing, const Scene& scene, int columns, ContactSheet* sheet)
+SheetRow RowOf(const Playing& playing, const Scene& scene, int columns)
 {
     const std::unique_ptr<Player> player = playing.Load(scene);
     FilmSettings settings;
@@ -50,7 +50,7 @@ void AddRow(const Playing& playing, const Scene& scene, int columns, ContactShee
         StopIfInterrupted();
         row.frames.append({picture, qint64(frame) * tickLength});
     });
-    sheet->Add(row);
+    return row;
 }
 
 int DrawSheet(const CommandLine& line)
@@ -65,15 +65,15 @@ int DrawSheet(const CommandLine& line)
     const Playing playing(line);
 
     WatchForInterruption();
-    ContactSheet sheet;
+    QVector<SheetRow> rows;
     {
         Progress progress(QStringLiteral("playing scene"), scenes.size());
         for (int i = 0; i < scenes.size(); ++i) {
-            AddRow(playing, scenes.at(i), line.Number("columns"), &sheet);
+            rows.append(RowOf(playing, scenes.at(i), line.Number("columns")));
             progress.Show(i + 1);
         }
     }
-    const QByteArray png = PngOf(sheet.Draw(), false);
+    const QByteArray png = PngOf(DrawContactSheet(rows), false);
     if (output == QLatin1String("-"))
         Print(png);
     else

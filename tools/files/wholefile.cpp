@@ -53,16 +53,6 @@ void Sweep(const QDir& folder)
     }
 }
 
-/** Keeps the permissions of a replaced file; a new file gets the process's. */
-void SetRights(const QByteArray& file, const QByteArray& replaced)
-{
-    struct stat before = {};
-    const mode_t mask = umask(0);
-    umask(mask);
-    const bool isThere = stat(replaced.constData(), &before) == 0;
-    chmod(file.constData(), isThere ? before.st_mode & 07777 : 0666 & ~mask);
-}
-
 /** Why the file at @p path must not be replaced; empty if it may be or does not exist. */
 QString Obstacle(const QString& path)
 {
@@ -193,17 +183,13 @@ bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
     QString problem;
     if (!file.open())
         problem = file.errorString();
-    else if (WriteAll(&file, content, &problem)) {
-        const QByteArray from = QFile::encodeName(file.fileName());
-        const QByteArray to = QFile::encodeName(target);
-        SetRights(from, to);
-        if (fsync(file.handle()) == 0 && std::rename(from.constData(), to.constData()) == 0) {
-            file.setAutoRemove(false);
-            return true;
-        }
-        problem = QString::fromLocal8Bit(std::strerror(errno));
+    else if (WriteAll(&file, content, &problem) &&
+             PutInPlace(file.fileName(), target, 0666, error)) {
+        file.setAutoRemove(false);
+        return true;
     }
-    *error = CannotWrite(path, problem);
+    if (!problem.isEmpty())
+        *error = CannotWrite(path, problem);
     return false;
 }
 
@@ -219,12 +205,16 @@ QString RealPath(const QString& path)
 bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error)
 {
     const QByteArray name = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
     const mode_t mask = umask(0);
     umask(mask);
+    struct stat before = {};
+    const bool replaces = stat(target.constData(), &before) == 0;
     // With delayed or remote writing, fsync() is what reports a full disk.
     const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
-    const bool whole = file >= 0 && fsync(file) == 0 && fchmod(file, mode & ~mask) == 0 &&
-                       std::rename(name.constData(), QFile::encodeName(to).constData()) == 0;
+    const bool whole = file >= 0 && fsync(file) == 0 &&
+                       fchmod(file, replaces ? before.st_mode & 07777 : mode & ~mask) == 0 &&
+                       std::rename(name.constData(), target.constData()) == 0;
     if (!whole)
         *error = CannotWrite(to, QString::fromLocal8Bit(std::strerror(errno)));
     if (file >= 0)

@@ -69,8 +69,8 @@ bool WriteAll(QFile* file, const QByteArray& content, QString* problem);
 bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
 
 /**
- * Renames the temporary file or folder @p from to @p to and sets its permissions to @p mode less
- * the process's umask.
+ * Writes the temporary file or folder @p from to the disk and renames it to @p to. It gets the
+ * permissions of what it replaces; otherwise @p mode less the process's umask.
  */
 bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error);
 

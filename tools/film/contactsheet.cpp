@@ -34,25 +34,7 @@ QFont Font(int pixels, bool bold)
     return font;
 }
 
-} // namespace
-
-/** One scale for all rows, as large as the widest row allows. */
-QSize ContactSheet::FrameSize() const
-{
-    const bool two = rows.size() > rowsInOneColumn;
-    QSize largest(1, 1);
-    int columns = 1;
-    for (const SheetRow& row : rows) {
-        columns = std::max(columns, int(row.frames.size()));
-        for (const SheetFrame& frame : row.frames)
-            largest = largest.expandedTo(frame.picture.size());
-    }
-    const int width = ((two ? widestInTwo : widestRow) - (columns - 1) * gap) / columns;
-    return largest.scaled(std::max(24, width), highestFrame, Qt::KeepAspectRatio)
-        .expandedTo(QSize(1, 1));
-}
-
-void ContactSheet::DrawRow(QPainter* painter, const SheetRow& row, QPoint corner, QSize frame) const
+void DrawRow(QPainter* painter, const SheetRow& row, QPoint corner, QSize frame)
 {
     const int width = row.frames.size() * (frame.width() + gap) - gap;
     QRect line(corner, QSize(width, titleHeight));
@@ -89,19 +71,28 @@ void ContactSheet::DrawRow(QPainter* painter, const SheetRow& row, QPoint corner
     }
 }
 
-QImage ContactSheet::Draw() const
+} // namespace
+
+QImage DrawContactSheet(const QVector<SheetRow>& rows)
 {
-    const QSize frame = FrameSize();
-    int frames = 1;
-    for (const SheetRow& row : rows)
-        frames = std::max(frames, int(row.frames.size()));
     const int columns = rows.size() > rowsInOneColumn ? 2 : 1;
-    const int lines = (rows.size() + columns - 1) / columns;
+    const int lines = std::max(1, (rows.size() + columns - 1) / columns);
+    QSize largest(1, 1);
+    int frames = 1;
+    for (const SheetRow& row : rows) {
+        frames = std::max(frames, int(row.frames.size()));
+        for (const SheetFrame& frame : row.frames)
+            largest = largest.expandedTo(frame.picture.size());
+    }
+    // One scale for all rows, as large as the widest row allows.
+    const int room = (columns == 2 ? widestInTwo : widestRow) - (frames - 1) * gap;
+    const QSize frame =
+        largest.scaled(std::max(24, room / frames), highestFrame, Qt::KeepAspectRatio)
+            .expandedTo(QSize(1, 1));
     const int rowWidth = frames * (frame.width() + gap) - gap;
     const int rowHeight = titleHeight + frame.height() + timeHeight;
     QImage sheet(2 * margin + columns * (rowWidth + columnGap) - columnGap,
-                 2 * margin + std::max(1, lines) * (rowHeight + rowGap) - rowGap,
-                 QImage::Format_RGB32);
+                 2 * margin + lines * (rowHeight + rowGap) - rowGap, QImage::Format_RGB32);
     sheet.fill(paper);
     QPainter painter(&sheet);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing, false);

@@ -9,8 +9,6 @@
 #include <QString>
 #include <QVector>
 
-class QPainter;
-
 namespace AnimText {
 
 struct SheetFrame
@@ -27,19 +25,8 @@ struct SheetRow
     QVector<SheetFrame> frames;
 };
 
-/** Collects rows and draws them below one another, many of them in two columns. */
-class ContactSheet
-{
-public:
-    void Add(const SheetRow& row) { rows.append(row); }
-    QImage Draw() const;
-
-private:
-    QSize FrameSize() const;
-    void DrawRow(QPainter* painter, const SheetRow& row, QPoint corner, QSize frame) const;
-
-    QVector<SheetRow> rows;
-};
+/** Draws the rows below one another, many of them in two columns. */
+QImage DrawContactSheet(const QVector<SheetRow>& rows);
 
 } // namespace AnimText
 
