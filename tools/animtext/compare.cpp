@@ -31,8 +31,7 @@ Recording Open(const QString& path)
 {
     Recording recording;
     QString error;
-    if (!ReadRecording(path, &recording, &error))
-        throw Failure{BadInput, error};
+    FailUnless(ReadRecording(path, &recording, &error), error, BadInput);
     return recording;
 }
 
@@ -72,11 +71,9 @@ public:
         , player(VirtualDispatcher::Current(), playing.Plugin())
         , recorded(Open(log))
     {
-        if (!recorded.hasCalls)
-            throw Failure{BadInput,
-                          QStringLiteral(
-                              "%1 has pictures but no calls; record it with animtext trace --calls")
-                              .arg(log)};
+        FailUnless(recorded.hasCalls,
+                   log + " has pictures but no calls; record it with animtext trace --calls",
+                   BadInput);
     }
 
     const Recording& Recorded() const { return recorded; }
@@ -89,8 +86,7 @@ public:
             &player, scene, playing.Seed(), [] { return !Interrupted(); }, &recorded, &desk, wanted,
             picture, &error);
         StopIfInterrupted();
-        if (!played)
-            throw Failure{BadInput, error};
+        FailUnless(played, error, BadInput);
         return desk;
     }
 
@@ -102,14 +98,14 @@ public:
             return;
         QImage device;
         QString error;
-        if (!ReadPam(QStringLiteral("%1-%2.pam").arg(recorded.name).arg(number), &device, &error))
-            throw Failure{BadInput, error};
+        FailUnless(
+            ReadPam(QStringLiteral("%1-%2.pam").arg(recorded.name).arg(number), &device, &error),
+            error, BadInput);
         QImage desk;
         Play({difference.session, difference.call}, &desk);
         const QDir folder(line.IsSet("output") ? line.Value("output")
                                                : QFileInfo(recorded.name).path());
-        if (!MakeFolder(folder.path(), &error))
-            throw Failure{FailedRun, error};
+        FailUnless(MakeFolder(folder.path(), &error), error);
         const QString base = folder.filePath(QFileInfo(recorded.name).completeBaseName());
         Keep(device, base + QStringLiteral("-device.png"));
         Keep(desk, base + QStringLiteral("-desk.png"));
@@ -169,10 +165,8 @@ int Compare(const CommandLine& line)
     Recording b = Open(second);
     DropStops(&a, Stops::AtEnd);
     DropStops(&b, Stops::AtEnd);
-    if (a.hasCalls != b.hasCalls)
-        throw Failure{BadInput,
-                      QStringLiteral(
-                          "only one recording has calls; record both with animtext trace --calls")};
+    FailUnless(a.hasCalls == b.hasCalls,
+               "only one recording has calls; record both with animtext trace --calls", BadInput);
     return Report(FirstDifference(a, b, tolerance), a, b);
 }
 

@@ -88,8 +88,7 @@ QVector<NodePlay> SimulateAll(Player* player, const Scene& scene, uint seed)
     QString error;
     const QVector<NodePlay> simulations = Simulate(player, scene, seed, watch, &error);
     StopIfInterrupted();
-    if (simulations.isEmpty())
-        throw Failure{BadInput, error};
+    FailUnless(!simulations.isEmpty(), error, BadInput);
     return simulations;
 }
 

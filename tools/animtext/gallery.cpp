@@ -79,8 +79,7 @@ int MakeGallery(const CommandLine& line)
         written = WriteGallery(options, &player, watch, &bytes, &error);
     }
     StopIfInterrupted();
-    if (!written)
-        throw Failure{FailedRun, error};
+    FailUnless(written, error);
     Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")
               .arg(options.folder)
               .arg(double(bytes) / 1e6, 0, 'f', 1)

@@ -26,8 +26,7 @@ void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
         const Scene scene = OpenPlayableScene(line, line.Arguments().first());
         watcher->Watch(scene);
         QString error;
-        if (!player->Play(scene, settings, &error))
-            throw Failure{BadInput, error};
+        FailUnless(player->Play(scene, settings, &error), error, BadInput);
     } catch (const Failure& failure) {
         Warn(failure.message + QStringLiteral(" (still playing the previous version)"));
     }
@@ -56,8 +55,7 @@ int PlayLive(const CommandLine& line)
     char* words[] = {name, nullptr};
     const QApplication application(count, words);
     QCoreApplication::setApplicationName(QLatin1String(name));
-    if (!QGuiApplication::primaryScreen())
-        throw Failure{FailedRun, NoDisplay()};
+    FailUnless(QGuiApplication::primaryScreen(), NoDisplay());
 
     if (line.IsSet("test-pattern"))
         return PlayTestPattern(line);
@@ -103,8 +101,7 @@ int PlayLive(const CommandLine& line)
 
     QString error;
     shown.start();
-    if (!player.Play(scene, settings, &error))
-        throw Failure{BadInput, error};
+    FailUnless(player.Play(scene, settings, &error), error, BadInput);
     QApplication::exec();
     lights.End();
     if (line.IsSet("timing"))

@@ -157,7 +157,7 @@ void RenderMany(const CommandLine& line, const QString& folder)
     batch.scenes = line.Arguments();
     batch.folder = folder;
     batch.ending = kind == QLatin1String("frames") ? QStringLiteral("/") : QLatin1Char('.') + kind;
-    batch.plugin = PluginPath(line.IsSet("plugin") ? line.Value("plugin") : QString());
+    batch.plugin = PluginPath(line.Value("plugin"));
     batch.jobs = line.IsSet("jobs") ? line.Number("jobs")
                                     : int(std::max(1U, std::thread::hardware_concurrency()));
     batch.resume = line.IsSet("resume");

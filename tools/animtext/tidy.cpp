@@ -16,8 +16,7 @@ int Tidy(const CommandLine& line)
     WatchForInterruption();
     Unneeded unneeded;
     QString error;
-    if (!TidyFolder(folder, removes, &unneeded, &error))
-        throw Failure{FailedRun, error};
+    FailUnless(TidyFolder(folder, removes, &unneeded, &error), error);
     for (const QString& name : unneeded.names)
         Print((removes ? "removed " : "") + QDir(folder).filePath(name).toLocal8Bit() + '\n');
     return Done;

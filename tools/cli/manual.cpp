@@ -134,12 +134,10 @@ void WriteManual(const QVector<Command>& commands, const QString& folder)
     const auto write = [&folder](const QByteArray& name, const QByteArray& page) {
         const QString path = QDir(folder).filePath(QString::fromLatin1(name) + QLatin1String(".1"));
         QString error;
-        if (!WriteWhole(path, page, &error))
-            throw Failure{FailedRun, error};
+        FailUnless(WriteWhole(path, page, &error), error);
     };
     QString error;
-    if (!MakeFolder(folder, &error))
-        throw Failure{FailedRun, error};
+    FailUnless(MakeFolder(folder, &error), error);
     write("animtext", ManualOverview(commands));
     for (const Command& command : commands)
         write(PageName(command), ManualPage(command));

@@ -18,8 +18,6 @@
 #include <memory>
 #include <vector>
 
-#include <unistd.h>
-
 namespace AnimText {
 
 namespace {
@@ -64,49 +62,29 @@ bool IsDone(const Job& job, const QString& plugin)
     });
 }
 
-/** Gets no signal from the terminal, so that one wish to end it comes once: from here. */
-class Renderer : public QProcess
+/** Starts without the terminal, so that one wish to end it comes once: from here. */
+std::unique_ptr<QProcess> Start(const Job& job, const QStringList& options)
 {
-public:
-    Renderer(const Job& job, const QStringList& options)
-        : scene(job.scene)
-    {
-#if QT_VERSION >= 0x060000
-        setChildProcessModifier(LeaveTerminal);
-#endif
-        const QStringList words{QStringLiteral("render"), QStringLiteral("-o"), job.film};
-        start(QCoreApplication::applicationFilePath(),
-              words + options + QStringList{QStringLiteral("--"), scene});
-    }
+    auto renderer = std::make_unique<QProcess>();
+    renderer->setObjectName(job.scene);
+    renderer->start("setsid",
+                    QStringList{QCoreApplication::applicationFilePath(), "render", "-o", job.film} +
+                        options + QStringList{"--", job.scene});
+    return renderer;
+}
 
-    /** Prints what it printed. @return whether the film is there */
-    bool Succeeded()
-    {
-        const QByteArray said = readAllStandardError();
-        std::fwrite(said.constData(), 1, size_t(said.size()), stderr);
-        Print(readAllStandardOutput());
-        if (exitStatus() == NormalExit && error() != FailedToStart)
-            return exitCode() == Done;
-        Warn(QStringLiteral("%1: %2").arg(scene, errorString()));
-        return false;
-    }
-
-#if QT_VERSION < 0x060000
-protected:
-    void setupChildProcess() override
-    {
-        LeaveTerminal();
-    }
-#endif
-
-private:
-    static void LeaveTerminal()
-    {
-        setpgid(0, 0);
-    }
-
-    QString scene;
-};
+/** Prints what it printed. @return whether the film is there */
+bool Succeeded(QProcess* renderer)
+{
+    const QByteArray said = renderer->readAllStandardError();
+    std::fwrite(said.constData(), 1, size_t(said.size()), stderr);
+    Print(renderer->readAllStandardOutput());
+    if (renderer->exitStatus() == QProcess::NormalExit &&
+        renderer->error() != QProcess::FailedToStart)
+        return renderer->exitCode() == Done;
+    Warn(QStringLiteral("%1: %2").arg(renderer->objectName(), renderer->errorString()));
+    return false;
+}
 
 /** Runs the jobs. @return how many failed */
 int RunJobs(const Batch& batch, QList<Job> jobs)
@@ -115,10 +93,10 @@ int RunJobs(const Batch& batch, QList<Job> jobs)
     Progress progress(QStringLiteral("rendering scene"), jobs.size(), batch.progress);
     const int all = jobs.size();
     int failed = 0;
-    std::vector<std::unique_ptr<Renderer>> running;
+    std::vector<std::unique_ptr<QProcess>> running;
     while (!running.empty() || !jobs.isEmpty()) {
         while (!jobs.isEmpty() && int(running.size()) < batch.jobs)
-            running.push_back(std::make_unique<Renderer>(jobs.takeFirst(), batch.options));
+            running.push_back(Start(jobs.takeFirst(), batch.options));
         if (Interrupted()) {
             for (const auto& renderer : running)
                 renderer->terminate();
@@ -126,14 +104,12 @@ int RunJobs(const Batch& batch, QList<Job> jobs)
                 renderer->waitForFinished(-1);
             StopIfInterrupted();
         }
-        for (auto it = running.begin(); it != running.end();) {
-            if (!(*it)->waitForFinished(glance) && (*it)->state() != QProcess::NotRunning) {
-                ++it;
+        for (size_t i = running.size(); i-- > 0;) {
+            if (!running[i]->waitForFinished(glance) && running[i]->state() != QProcess::NotRunning)
                 continue;
-            }
             progress.Wipe();
-            failed += (*it)->Succeeded() ? 0 : 1;
-            it = running.erase(it);
+            failed += Succeeded(running[i].get()) ? 0 : 1;
+            running.erase(running.begin() + ptrdiff_t(i));
         }
         progress.Show(all - jobs.size() - int(running.size()));
     }
@@ -146,17 +122,15 @@ void RenderAll(const Batch& batch)
 {
     QList<Job> jobs = PlanJobs(batch);
     QString error;
-    if (!MakeFolder(batch.folder, &error))
-        throw Failure{FailedRun, error};
+    FailUnless(MakeFolder(batch.folder, &error), error);
     if (batch.resume) {
         const auto isDone = [&](const Job& job) { return IsDone(job, batch.plugin); };
         jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());
     }
     const int failed = RunJobs(batch, jobs);
-    if (failed > 0)
-        throw Failure{FailedRun, QStringLiteral("%1 of %2 scenes were not rendered")
-                                     .arg(failed)
-                                     .arg(batch.scenes.size())};
+    FailUnless(
+        failed == 0,
+        QStringLiteral("%1 of %2 scenes were not rendered").arg(failed).arg(batch.scenes.size()));
 }
 
 } // namespace AnimText

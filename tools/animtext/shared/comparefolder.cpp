@@ -56,12 +56,10 @@ int CompareFolder(const CommandLine& line, const QString& folder)
     if (records)
         for (const QFileInfo& scene : scenes.entryInfoList({QStringLiteral("*.json")}, QDir::Files))
             expected.insert(scene.completeBaseName(), {});
-    else if (!ReadExpectation(file, &expected, &error))
-        throw Failure{BadInput, error};
-    if (expected.isEmpty())
-        throw Failure{
-            BadInput,
-            QStringLiteral("%1: expected scenes, found none").arg(records ? scenes.path() : file)};
+    else
+        FailUnless(ReadExpectation(file, &expected, &error), error, BadInput);
+    FailUnless(!expected.isEmpty(),
+               (records ? scenes.path() : file) + ": expected scenes, found none", BadInput);
 
     WatchForInterruption();
     const Playing playing(line);
@@ -84,8 +82,7 @@ int CompareFolder(const CommandLine& line, const QString& folder)
         Print(tally.Table());
         return tally.IsEqual() ? Done : FailedRun;
     }
-    if (!WriteWhole(file, ExpectationText(expected), &error))
-        throw Failure{FailedRun, error};
+    FailUnless(WriteWhole(file, ExpectationText(expected), &error), error);
     Print(QStringLiteral("%1: %2 scenes, %3 ticks\n").arg(file).arg(played).arg(ticks).toUtf8());
     return Done;
 }

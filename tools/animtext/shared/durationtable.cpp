@@ -38,8 +38,7 @@ Times Measure(const Playing& playing, Scene scene, int effect, int speed)
     const auto goOn = [](int) { return !Interrupted(); };
     times.actual = Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
     StopIfInterrupted();
-    if (!error.isEmpty())
-        throw Failure{BadInput, error};
+    FailUnless(error.isEmpty(), error, BadInput);
     return times;
 }
 
@@ -98,9 +97,8 @@ Json ToJson(const NodePlay& play)
 
 void PrintDurationTable(const Playing& playing, const Scene& scene, bool json)
 {
-    if (scene.Nodes().isEmpty())
-        throw Failure{BadInput,
-                      scene.path + QStringLiteral(": $.pages: expected at least one node")};
+    FailUnless(!scene.Nodes().isEmpty(), scene.path + ": $.pages: expected at least one node",
+               BadInput);
     const Silence silence;
     const Scene only = OnlyFirst(scene);
     QByteArray text =

@@ -119,8 +119,7 @@ void AddLights(const CommandLine& line, QSize display, Lights* lights)
     lights->SetKeeps(line.IsSet("keep"));
     for (const Controller& controller : ReadControllers(line)) {
         QString error;
-        if (!lights->Add(controller, display, &error))
-            throw Failure{BadInput, error};
+        FailUnless(lights->Add(controller, display, &error), error, BadInput);
     }
     Print(lights->Description().toUtf8());
     FlushOutput();

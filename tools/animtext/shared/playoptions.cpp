@@ -36,8 +36,7 @@ Scene OpenScene(const CommandLine& line, const QString& path)
         line.IsSet("allow-missing-files") ? MissingFiles::AreAccepted : MissingFiles::AreErrors;
     Scene scene;
     QString error;
-    if (!ReadScene(path, &scene, &error, missing))
-        throw Failure{BadInput, error};
+    FailUnless(ReadScene(path, &scene, &error, missing), error, BadInput);
     return scene;
 }
 
@@ -50,11 +49,11 @@ void Judge(const CommandLine& line, const QString& path, const QList<Finding>& f
         Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
         isPlayed = isPlayed && !kinds.contains(finding.mistake);
     }
-    if (!isPlayed && !line.IsSet("force") && !line.IsSet("allow-missing-files"))
-        throw Failure{
-            BadInput,
-            QStringLiteral("%1: not played because of these errors; use --force to play it anyway")
-                .arg(path)};
+    FailUnless(
+        isPlayed || line.IsSet("force") || line.IsSet("allow-missing-files"),
+        QStringLiteral("%1: not played because of these errors; use --force to play it anyway")
+            .arg(path),
+        BadInput);
 }
 
 } // namespace
@@ -88,19 +87,16 @@ Scene OpenPlayableScene(const CommandLine& line, const QString& path)
 Playing::Playing(const CommandLine& line)
     : seed(uint(line.Number("seed")))
 {
-    const QString named = line.IsSet("plugin") ? line.Value("plugin") : QString();
     QString error;
-    plugin = LoadPlugin(PluginPath(named), &error);
-    if (!plugin)
-        throw Failure{FailedRun, error};
+    plugin = LoadPlugin(PluginPath(line.Value("plugin")), &error);
+    FailUnless(plugin, error);
 }
 
 std::unique_ptr<Player> Playing::Load(const Scene& scene) const
 {
     auto player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
     QString error;
-    if (!player->Load(scene, &error))
-        throw Failure{BadInput, error};
+    FailUnless(player->Load(scene, &error), error, BadInput);
     return player;
 }
 
