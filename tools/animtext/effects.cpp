@@ -16,17 +16,14 @@ namespace {
 QJsonArray ToJson(const QList<Motion>& motions)
 {
     QJsonArray array;
-    for (const Motion& motion : motions) {
-        const QStringList synonyms =
-            QString::fromLatin1(motion.synonyms).split(QLatin1String(", "));
-        array.append(
-            QJsonObject{{QStringLiteral("number"), motion.number},
-                        {QStringLiteral("title"), QLatin1String(motion.title)},
-                        {QStringLiteral("name"), QLatin1String(motion.name)},
-                        {QStringLiteral("family"), QLatin1String(motion.family)},
-                        {QStringLiteral("summary"), QLatin1String(motion.summary)},
-                        {QStringLiteral("synonyms"), QJsonArray::fromStringList(synonyms)}});
-    }
+    for (const Motion& motion : motions)
+        array.append(QJsonObject{
+            {"number", motion.number},
+            {"title", motion.title},
+            {"name", motion.name},
+            {"family", motion.family},
+            {"summary", motion.summary},
+            {"synonyms", QJsonArray::fromStringList(QString(motion.synonyms).split(", "))}});
     return array;
 }
 
@@ -34,14 +31,14 @@ QByteArray ToTable(const char* heading, const QList<Motion>& motions)
 {
     if (motions.isEmpty())
         return QByteArray();
-    const auto line = [](const QByteArray& number, const char* title, const char* name,
+    const auto line = [](const QString& number, const char* title, const char* name,
                          const char* summary) {
-        return number.rightJustified(3) + "  " + QByteArray(title).leftJustified(23) +
-               QByteArray(name).leftJustified(36) + summary + '\n';
+        return QString::asprintf("%3s  %-23s%-36s%s\n", qPrintable(number), title, name, summary)
+            .toUtf8();
     };
     QByteArray table = line("no", heading, "name", "what people see");
     for (const Motion& motion : motions)
-        table += line(QByteArray::number(motion.number), motion.title, motion.name, motion.summary);
+        table += line(QString::number(motion.number), motion.title, motion.name, motion.summary);
     return table;
 }
 
@@ -61,9 +58,7 @@ int ListEffects(const CommandLine& line)
     if (effects.isEmpty() && scrolls.isEmpty())
         throw Failure{FailedRun, QStringLiteral("no motion matches \"%1\"").arg(search)};
     if (line.IsSet("json")) {
-        Print(QJsonDocument(QJsonObject{{QStringLiteral("effects"), ToJson(effects)},
-                                        {QStringLiteral("scrolls"), ToJson(scrolls)}})
-                  .toJson());
+        Print(QJsonDocument({{"effects", ToJson(effects)}, {"scrolls", ToJson(scrolls)}}).toJson());
         return Done;
     }
     const QByteArray gap = effects.isEmpty() || scrolls.isEmpty() ? "" : "\n";
@@ -86,9 +81,7 @@ Command EffectsCommand()
         {Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
         ListEffects,
         {"animtext effects", "animtext effects bounce --json"},
-        {QStringLiteral("bounce"), QStringLiteral("fly"), QStringLiteral("grow"),
-         QStringLiteral("scroll"), QStringLiteral("spin"), QStringLiteral("ticker"),
-         QStringLiteral("typewriter"), QStringLiteral("zoom")}};
+        {"bounce", "fly", "grow", "scroll", "spin", "ticker", "typewriter", "zoom"}};
 }
 
 } // namespace AnimText

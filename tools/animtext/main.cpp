@@ -4,6 +4,7 @@
 #include "cli/interruption.h"
 #include "cli/manual.h"
 #include "cli/messages.h"
+#include "cli/values.h"
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
 
@@ -19,6 +20,8 @@
 namespace {
 
 using namespace AnimText;
+
+const QStringList shells{"bash", "zsh", "fish"};
 
 const QVector<Command>& Commands();
 
@@ -54,14 +57,11 @@ int Help(const CommandLine& line)
 int Complete(const CommandLine& line)
 {
     const QString shell = line.Arguments().first();
-    if (shell == QLatin1String("bash"))
-        Print(CompletionForBash(Commands()));
-    else if (shell == QLatin1String("zsh"))
-        Print(CompletionForZsh(Commands()));
-    else if (shell == QLatin1String("fish"))
-        Print(CompletionForFish(Commands()));
-    else
-        throw Misuse{QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
+    if (!shells.contains(shell))
+        throw Misuse{QStringLiteral("unknown shell \"%1\"; expected %2").arg(shell, OneOf(shells))};
+    Print(shell == "bash"  ? CompletionForBash(Commands())
+          : shell == "zsh" ? CompletionForZsh(Commands())
+                           : CompletionForFish(Commands()));
     return Done;
 }
 
@@ -80,7 +80,7 @@ const QVector<Command>& Commands()
             {},
             Complete,
             {"source <(animtext completion bash)", "animtext completion zsh >_animtext"},
-            {QStringLiteral("bash"), QStringLiteral("zsh"), QStringLiteral("fish")}};
+            shells};
         commands = {AuthorCommand(),   ListCommand(),   SetCommand(),     RemoveCommand(),
                     TidyCommand(),     PlayCommand(),   RenderCommand(),  SheetCommand(),
                     GalleryCommand(),  TraceCommand(),  CompareCommand(), DurationCommand(),
@@ -104,15 +104,6 @@ const QVector<Command>& Commands()
     return commands;
 }
 
-int RunCommand(const Command& command, const QStringList& words)
-{
-    const CommandLine line(command, words);
-    if (!line.IsSet("help"))
-        return command.run(line);
-    Print(HelpText(command));
-    return Done;
-}
-
 int Run(QString name, const QStringList& words)
 {
     if (name.isEmpty())
@@ -125,7 +116,11 @@ int Run(QString name, const QStringList& words)
         name = QStringLiteral("help");
     const Command& command = FindCommand(name);
     try {
-        return RunCommand(command, words);
+        const CommandLine line(command, words);
+        if (!line.IsSet("help"))
+            return command.run(line);
+        Print(HelpText(command));
+        return Done;
     } catch (const Misuse& misuse) {
         throw Failure{BadInput, QStringLiteral("%1 (see animtext help %2)")
                                     .arg(misuse.message, QLatin1String(command.name))};

@@ -23,62 +23,51 @@ QByteArray Quoted(QByteArray text)
     return '\'' + text.replace("'", "'\\''") + '\'';
 }
 
-QStringList CommandNames(const QVector<Command>& commands)
-{
-    QStringList names;
-    for (const Command& command : commands)
-        names.append(QLatin1String(command.name));
-    return names;
-}
-
 } // namespace
 
 QByteArray CompletionForBash(const QVector<Command>& commands)
 {
+    QStringList commandNames;
     QByteArray values;
     QByteArray words;
     for (const Command& command : commands) {
-        QStringList names;
+        const QByteArray name = command.name;
+        commandNames.append(name);
+        QStringList options;
         for (const Option& option : command.options) {
-            names += OptionWords(option);
+            const QStringList own = OptionWords(option);
+            options += own;
             if (option.kind == Kind::Flag)
                 continue;
-            QByteArray patterns;
-            for (const QString& name : OptionWords(option))
-                patterns += (patterns.isEmpty() ? "" : "|") + QByteArray(command.name) + ':' +
-                            name.toUtf8();
             const QByteArray offer = option.kind == Kind::File
                                          ? "compgen -f"
                                          : "compgen -W " + Quoted(Joined(option.choices));
-            values += "        " + patterns + ") mapfile -t COMPREPLY < <(" + offer +
-                      " -- \"$current\"); return ;;\n";
+            values += "        " + name + ':' + own.join("|" + name + ':').toUtf8() +
+                      ") mapfile -t COMPREPLY < <(" + offer + " -- \"$current\"); return ;;\n";
         }
-        words +=
-            "        " + QByteArray(command.name) + ":-*) words=" + Quoted(Joined(names)) + " ;;\n";
+        words += "        " + name + ":-*) words=" + Quoted(Joined(options)) + " ;;\n";
         if (!command.words.isEmpty())
-            words += "        " + QByteArray(command.name) +
-                     ":*) words=" + Quoted(Joined(command.words)) + " ;;\n";
+            words += "        " + name + ":*) words=" + Quoted(Joined(command.words)) + " ;;\n";
     }
-    return "# bash completion for animtext: source <(animtext completion bash)\n"
-           "_animtext() {\n"
-           "    local current=${COMP_WORDS[COMP_CWORD]} words=\n"
-           "    if ((COMP_CWORD == 1)); then\n"
-           "        mapfile -t COMPREPLY < <(compgen -W " +
-           Quoted(Joined(CommandNames(commands) +
-                         QStringList{QStringLiteral("--help"), QStringLiteral("--version")})) +
-           " -- \"$current\")\n"
-           "        return\n"
-           "    fi\n"
-           "    case ${COMP_WORDS[1]}:${COMP_WORDS[COMP_CWORD - 1]} in\n" +
-           values +
-           "    esac\n"
-           "    case ${COMP_WORDS[1]}:$current in\n" +
-           words +
-           "        *) mapfile -t COMPREPLY < <(compgen -f -- \"$current\"); return ;;\n"
-           "    esac\n"
-           "    mapfile -t COMPREPLY < <(compgen -W \"$words\" -- \"$current\")\n"
-           "}\n"
-           "complete -o filenames -F _animtext animtext\n";
+    return QByteArray(R"(# bash completion for animtext: source <(animtext completion bash)
+_animtext() {
+    local current=${COMP_WORDS[COMP_CWORD]} words=
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W '@commands@ --help --version' -- "$current")
+        return
+    fi
+    case ${COMP_WORDS[1]}:${COMP_WORDS[COMP_CWORD - 1]} in
+@values@    esac
+    case ${COMP_WORDS[1]}:$current in
+@words@        *) mapfile -t COMPREPLY < <(compgen -f -- "$current"); return ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+}
+complete -o filenames -F _animtext animtext
+)")
+        .replace("@commands@", Joined(commandNames))
+        .replace("@values@", values)
+        .replace("@words@", words);
 }
 
 QByteArray CompletionForZsh(const QVector<Command>& commands)
@@ -87,51 +76,48 @@ QByteArray CompletionForZsh(const QVector<Command>& commands)
     const auto plain = [](QByteArray text) {
         return text.replace("[", "\\[").replace("]", "\\]").replace(":", "\\:");
     };
+    const auto offer = [](const QStringList& words) { return '(' + Joined(words) + ')'; };
     QByteArray summaries;
     QByteArray cases;
     for (const Command& command : commands) {
         summaries += "        " + Quoted(plain(command.name) + ':' + command.summary) + '\n';
         cases += "        " + QByteArray(command.name) + ") _arguments";
         for (const Option& option : command.options) {
-            const QByteArray action = option.kind == Kind::File ? "_files"
-                                      : option.choices.isEmpty()
-                                          ? " "
-                                          : '(' + Joined(option.choices) + ')';
+            const bool isFlag = option.kind == Kind::Flag;
+            QByteArray action = option.choices.isEmpty() ? " " : offer(option.choices);
+            if (option.kind == Kind::File)
+                action = "_files";
+            QByteArray text = '[' + plain(option.help) + ']';
+            if (!isFlag)
+                text += (option.alone ? "::" : ":") + plain(option.value) + ':' + action;
             for (const QString& name : OptionWords(option)) {
-                const bool isFlag = option.kind == Kind::Flag;
-                const char* const join = isFlag                                 ? ""
-                                         : name.startsWith(QLatin1String("--")) ? "="
-                                                                                : "+";
-                cases += " \\\n            " +
-                         Quoted(name.toUtf8() + join + '[' + plain(option.help) + ']' +
-                                (isFlag ? QByteArray()
-                                        : (option.alone ? "::" : ":") + plain(option.value) + ':' +
-                                              action));
+                const char* const join = isFlag ? "" : name.startsWith("--") ? "=" : "+";
+                cases += " \\\n            " + Quoted(name.toUtf8() + join + text);
             }
         }
-        const QByteArray rest =
-            command.words.isEmpty() ? QByteArray("_files") : '(' + Joined(command.words) + ')';
+        const QByteArray rest = command.words.isEmpty() ? "_files" : offer(command.words);
         cases +=
             " \\\n            " + Quoted("*:" + plain(command.arguments) + ':' + rest) + " ;;\n";
     }
-    return "#compdef animtext\n"
-           "# zsh completion for animtext: animtext completion zsh >_animtext, in your $fpath\n"
-           "_animtext() {\n"
-           "    local -a commands=(\n" +
-           summaries +
-           "    )\n"
-           "    if ((CURRENT == 2)); then\n"
-           "        _describe command commands\n"
-           "        return\n"
-           "    fi\n"
-           "    local command=$words[2]\n"
-           "    shift words\n"
-           "    ((CURRENT--))\n"
-           "    case $command in\n" +
-           cases +
-           "    esac\n"
-           "}\n"
-           "compdef _animtext animtext\n";
+    return QByteArray(R"(#compdef animtext
+# zsh completion for animtext: animtext completion zsh >_animtext, in your $fpath
+_animtext() {
+    local -a commands=(
+@summaries@    )
+    if ((CURRENT == 2)); then
+        _describe command commands
+        return
+    fi
+    local command=$words[2]
+    shift words
+    ((CURRENT--))
+    case $command in
+@cases@    esac
+}
+compdef _animtext animtext
+)")
+        .replace("@summaries@", summaries)
+        .replace("@cases@", cases);
 }
 
 QByteArray CompletionForFish(const QVector<Command>& commands)

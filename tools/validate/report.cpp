@@ -3,7 +3,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextStream>
 
 #include <algorithm>
 
@@ -15,10 +14,10 @@ QString Name(Severity severity)
     return severity == Severity::Error ? QStringLiteral("error") : QStringLiteral("warning");
 }
 
-QString Counted(int count, Severity severity)
+QString Counted(const Report& report, Severity severity)
 {
-    return QStringLiteral("%1 %2%3").arg(count).arg(Name(severity),
-                                                    QLatin1String(count == 1 ? "" : "s"));
+    const int count = Count(report.findings, severity);
+    return QStringLiteral("%1 %2%3").arg(count).arg(Name(severity), count == 1 ? "" : "s");
 }
 
 QJsonObject AsJson(const Report& report)
@@ -26,17 +25,17 @@ QJsonObject AsJson(const Report& report)
     QJsonArray list;
     for (const Finding& finding : report.findings) {
         const Rule& rule = finding.GetRule();
-        list.append(QJsonObject{{QStringLiteral("code"), QLatin1String(rule.code)},
-                                {QStringLiteral("severity"), Name(rule.severity)},
-                                {QStringLiteral("place"), finding.place},
-                                {QStringLiteral("found"), finding.found},
-                                {QStringLiteral("expected"), finding.expected},
-                                {QStringLiteral("why"), QLatin1String(rule.why)}});
+        list.append(QJsonObject{{"code", rule.code},
+                                {"severity", Name(rule.severity)},
+                                {"place", finding.place},
+                                {"found", finding.found},
+                                {"expected", finding.expected},
+                                {"why", rule.why}});
     }
-    return {{QStringLiteral("scene"), report.path},
-            {QStringLiteral("errors"), Count(report.findings, Severity::Error)},
-            {QStringLiteral("warnings"), Count(report.findings, Severity::Warning)},
-            {QStringLiteral("findings"), list}};
+    return {{"scene", report.path},
+            {"errors", Count(report.findings, Severity::Error)},
+            {"warnings", Count(report.findings, Severity::Warning)},
+            {"findings", list}};
 }
 
 } // namespace
@@ -50,21 +49,17 @@ int Count(const QList<Finding>& findings, Severity severity)
 
 QByteArray ReportAsText(const Report& report)
 {
-    QString text;
-    QTextStream out(&text);
-    if (report.findings.isEmpty()) {
-        out << report.path << ": no mistakes found\n";
-        return text.toUtf8();
-    }
-    out << report.path << ": " << Counted(Count(report.findings, Severity::Error), Severity::Error)
-        << ", " << Counted(Count(report.findings, Severity::Warning), Severity::Warning) << '\n';
+    if (report.findings.isEmpty())
+        return report.path.toUtf8() + ": no mistakes found\n";
+    QString text =
+        QStringLiteral("%1: %2, %3\n")
+            .arg(report.path, Counted(report, Severity::Error), Counted(report, Severity::Warning));
     for (const Finding& finding : report.findings) {
         const Rule& rule = finding.GetRule();
-        out << '\n' << Name(rule.severity) << ' ' << rule.code;
-        if (!finding.place.isEmpty())
-            out << " at " << finding.place;
-        out << "\n  found " << finding.found << ",\n  expected " << finding.expected << "\n  "
-            << rule.why << '\n';
+        text += QStringLiteral("\n%1 %2%3\n  found %4,\n  expected %5\n  %6\n")
+                    .arg(Name(rule.severity), rule.code,
+                         finding.place.isEmpty() ? "" : " at " + finding.place, finding.found,
+                         finding.expected, rule.why);
     }
     return text.toUtf8();
 }
