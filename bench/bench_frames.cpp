@@ -58,34 +58,33 @@ struct Page
     }
 };
 
-std::unique_ptr<HAnimationTextNode> NodeOf(const Page& page)
+typedef std::vector<std::pair<const char*, int>> Attributes;
+
+std::unique_ptr<HAnimationTextNode> NodeOf(const Page& page, int mode, int motion,
+                                           const Attributes& others = {})
 {
     HPluginManager::instance()->SetAlphaBlend(page.alpha);
     std::unique_ptr<HAnimationTextNode> node = NodeOfScene(page.scene);
     if (page.fullOutlines)
         node->SetFiles("PathData", {FullOutlines(*node, page.scene + ".full")});
+    Attributes attributes{{"EffectType", mode},       {"AnimationEffect", motion},
+                          {"ContinueStyle", motion},  {"AnimationSpeed", fastest},
+                          {"ContinueSpeed", fastest}, {"PlayTimes", 1}};
+    attributes.insert(attributes.end(), others.begin(), others.end());
+    for (const auto& attribute : attributes)
+        node->SetAttribute(attribute.first, attribute.second);
+    node->SetHoldTime(0);
     return node;
 }
-
-typedef std::vector<std::pair<const char*, int>> Attributes;
 
 // Whole ticks, of whatever has a timer: the text, its backgrounds and the device's swaps.
 struct Show
 {
     Show(const Page& page, int mode, int motion, const Attributes& others)
-        : node(NodeOf(page))
+        : node(NodeOf(page, mode, motion, others))
         , display(node->Size())
+        , render(new HAnimationTextRender(node.get()))
     {
-        node->SetAttribute("EffectType", mode);
-        node->SetAttribute("AnimationEffect", motion);
-        node->SetAttribute("ContinueStyle", motion);
-        node->SetAttribute("AnimationSpeed", fastest);
-        node->SetAttribute("ContinueSpeed", fastest);
-        node->SetAttribute("PlayTimes", 1);
-        for (const auto& other : others)
-            node->SetAttribute(other.first, other.second);
-        node->SetHoldTime(0);
-        render.reset(new HAnimationTextRender(node.get()));
         render->Start(display.Handle());
     }
 
@@ -109,15 +108,9 @@ double Seconds()
 
 struct Play
 {
-    Play(const Page& page, int mode, int motion)
-        : node(NodeOf(page))
+    Play(const Page& page, int motion)
+        : node(NodeOf(page, entrance, motion))
     {
-        node->SetAttribute("EffectType", mode);
-        node->SetAttribute("AnimationEffect", motion);
-        node->SetAttribute("ContinueStyle", motion);
-        node->SetAttribute("AnimationSpeed", fastest);
-        node->SetAttribute("ContinueSpeed", fastest);
-        node->SetHoldTime(0);
         engine.Init(node.get());
         engine.Start();
     }
@@ -169,7 +162,7 @@ void FirstRun(benchmark::State& state, const Page& page, int motion, int ticks)
 // The frame that a hold paints, after the last one of an entrance.
 void Hold(benchmark::State& state, const Page& page)
 {
-    Play play(page, entrance, heldPage);
+    Play play(page, heldPage);
     const int length = play.node->Text().size();
     for (auto _ : state) {
         for (int i = 0; i <= length; ++i)
@@ -182,7 +175,7 @@ void Hold(benchmark::State& state, const Page& page)
 
 void Start(benchmark::State& state, const Page& page)
 {
-    Play play(page, entrance, 0);
+    Play play(page, 0);
     for (auto _ : state) {
         play.engine.Init(play.node.get());
         play.engine.Start();
@@ -240,7 +233,7 @@ void RegisterScene(const Page& page)
     add("hold", [=](benchmark::State& state) { Hold(state, page); })->UseManualTime();
     add("start", [=](benchmark::State& state) { Start(state, page); });
 
-    const auto node = NodeOf(page);
+    const auto node = NodeOf(page, entrance, 0);
     const QSize size = node->Size();
     add("memcpy", [=](benchmark::State& state) { Copy(state, size, page.alpha ? 4 : 3); });
 #ifdef BENCH_OTHER_PAINTERS

@@ -40,35 +40,24 @@ void WithQt(QImage& picture, const QPainterPath& text)
     painter.drawPath(text);
 }
 
-// Calls the target's operation for each element.
-template <typename Target>
-void Trace(const QPainterPath& path, Target target)
+// Calls the operation of each element.
+template <typename Move, typename Line, typename Curve>
+void Trace(const QPainterPath& path, Move move, Line line, Curve curve)
 {
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element& e = path.elementAt(i);
-        if (e.type == QPainterPath::MoveToElement) {
-            target.Move(e);
-        } else if (e.type == QPainterPath::LineToElement) {
-            target.Line(e);
-        } else if (e.type == QPainterPath::CurveToElement) {
-            target.Curve(e, path.elementAt(i + 1), path.elementAt(i + 2));
+        if (e.isMoveTo()) {
+            move(e);
+        } else if (e.isLineTo()) {
+            line(e);
+        } else if (e.isCurveTo()) {
+            curve(e, path.elementAt(i + 1), path.elementAt(i + 2));
             i += 2;
         }
     }
 }
 
 #ifdef BENCH_CAIRO
-struct CairoTarget
-{
-    cairo_t* cairo;
-    void Move(QPointF p) { cairo_move_to(cairo, p.x(), p.y()); }
-    void Line(QPointF p) { cairo_line_to(cairo, p.x(), p.y()); }
-    void Curve(QPointF a, QPointF b, QPointF p)
-    {
-        cairo_curve_to(cairo, a.x(), a.y(), b.x(), b.y(), p.x(), p.y());
-    }
-};
-
 void WithCairo(QImage& picture, const QPainterPath& text)
 {
     cairo_surface_t* surface =
@@ -79,7 +68,12 @@ void WithCairo(QImage& picture, const QPainterPath& text)
     cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_EVEN_ODD);
     cairo_set_source_rgb(cairo, 1, 1, 1);
     cairo_set_line_width(cairo, 1);
-    Trace(text, CairoTarget{cairo});
+    Trace(
+        text, [&](QPointF p) { cairo_move_to(cairo, p.x(), p.y()); },
+        [&](QPointF p) { cairo_line_to(cairo, p.x(), p.y()); },
+        [&](QPointF a, QPointF b, QPointF p) {
+            cairo_curve_to(cairo, a.x(), a.y(), b.x(), b.y(), p.x(), p.y());
+        });
     cairo_fill_preserve(cairo);
     cairo_stroke(cairo);
     cairo_destroy(cairo);
@@ -88,17 +82,6 @@ void WithCairo(QImage& picture, const QPainterPath& text)
 #endif
 
 #ifdef BENCH_AGG
-struct AggTarget
-{
-    agg::path_storage& path;
-    void Move(QPointF p) { path.move_to(p.x(), p.y()); }
-    void Line(QPointF p) { path.line_to(p.x(), p.y()); }
-    void Curve(QPointF a, QPointF b, QPointF p)
-    {
-        path.curve4(a.x(), a.y(), b.x(), b.y(), p.x(), p.y());
-    }
-};
-
 void WithAgg(QImage& picture, const QPainterPath& text)
 {
     agg::rendering_buffer buffer(picture.bits(), unsigned(picture.width()),
@@ -106,7 +89,12 @@ void WithAgg(QImage& picture, const QPainterPath& text)
     agg::pixfmt_bgra32 format(buffer);
     agg::renderer_base<agg::pixfmt_bgra32> base(format);
     agg::path_storage path;
-    Trace(text, AggTarget{path});
+    Trace(
+        text, [&](QPointF p) { path.move_to(p.x(), p.y()); },
+        [&](QPointF p) { path.line_to(p.x(), p.y()); },
+        [&](QPointF a, QPointF b, QPointF p) {
+            path.curve4(a.x(), a.y(), b.x(), b.y(), p.x(), p.y());
+        });
     agg::conv_curve<agg::path_storage> curves(path);
     agg::conv_stroke<agg::conv_curve<agg::path_storage>> outline(curves);
     outline.width(1);
@@ -126,49 +114,33 @@ void WithAgg(QImage& picture, const QPainterPath& text)
 // A Lottie animation of two frames whose shapes are the text's contours.
 std::string Lottie(const QPainterPath& text, QSize size)
 {
-    QStringList shapes;
-    QStringList vertices, in, out;
     const auto pair = [](QPointF p) { return QStringLiteral("[%1,%2]").arg(p.x()).arg(p.y()); };
+    QStringList shapes, vertices, in, out;
     const auto finish = [&] {
         if (!vertices.isEmpty())
             shapes.append(QStringLiteral("{\"ty\":\"sh\",\"ks\":{\"a\":0,\"k\":{\"c\":true,"
                                          "\"v\":[%1],\"i\":[%2],\"o\":[%3]}}}")
                               .arg(vertices.join(','), in.join(','), out.join(',')));
-        vertices.clear();
-        in.clear();
-        out.clear();
-    };
-    struct Shape
-    {
-        std::function<void(QPointF, QPointF)> add; // a vertex, and its handle behind it
-        std::function<void(QPointF)> leave;        // the handle ahead of the last vertex
-        std::function<void()> finish;
-        QPointF* last;
-        void Move(QPointF p)
-        {
-            finish();
-            add(p, {});
-            *last = p;
-        }
-        void Line(QPointF p)
-        {
-            add(p, {});
-            *last = p;
-        }
-        void Curve(QPointF a, QPointF b, QPointF p)
-        {
-            leave(a - *last);
-            add(p, b - p);
-            *last = p;
-        }
+        vertices = in = out = QStringList();
     };
     QPointF last;
-    Trace(text, Shape{[&](QPointF p, QPointF behind) {
-                          vertices.append(pair(p));
-                          in.append(pair(behind));
-                          out.append(pair({}));
-                      },
-                      [&](QPointF ahead) { out.last() = pair(ahead); }, finish, &last});
+    const auto add = [&](QPointF vertex, QPointF handle = {}) {
+        vertices.append(pair(vertex));
+        in.append(pair(handle));
+        out.append(pair({}));
+        last = vertex;
+    };
+    Trace(
+        text,
+        [&](QPointF p) {
+            finish();
+            add(p);
+        },
+        [&](QPointF p) { add(p); },
+        [&](QPointF a, QPointF b, QPointF p) {
+            out.last() = pair(a - last);
+            add(p, b - p);
+        });
     finish();
     const QString color = QStringLiteral("\"c\":{\"a\":0,\"k\":[1,1,1,1]},"
                                          "\"o\":{\"a\":0,\"k\":100}");
