@@ -964,7 +964,7 @@ void TestWindow::timelineStopsZoomsAndRepeats()
     auto* timeline = window->findChild<Timeline*>();
     const QImage repeats = timeline->grab().toImage();
     const Timing timing = window->GetRehearsal()->GetTiming();
-    timeline->SetTiming(timing, {Text().id}, {Text().Title()}, {1});
+    timeline->SetRows({{Text().id, Text().Title(), 1, timing.texts.first()}}, timing.Ticks());
     QVERIFY(timeline->grab().toImage() != repeats); // three pages look different
     window->GetPlayback()->SetPace(1);
     const QPoint at(int(timeline->XOf(20.5)), 10);

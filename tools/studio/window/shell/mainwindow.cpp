@@ -155,7 +155,7 @@ void MainWindow::Connect()
             ShowZoom();
     });
     connect(&rehearsal, &Rehearsal::Stale, this, [this] {
-        timeline->SetStale(true);
+        timeline->MarkStale();
         if (!dimming.isActive())
             dimming.start();
     });
@@ -401,15 +401,13 @@ void MainWindow::ShowTiming()
 {
     const Timing& timing = rehearsal.GetTiming();
     const QVector<int> ids = PagedIds(part.page);
-    QStringList titles;
-    QVector<int> plays;
-    for (int id : ids) {
-        const SignText* text = document.Current().Find(id);
-        titles.append(text->Title());
-        plays.append(text->node.attributes.value(QStringLiteral("PlayTimes")).toInt());
+    QVector<TimelineRow> rows;
+    for (int i = 0; i < qMin(ids.size(), timing.texts.size()); ++i) {
+        const SignText* text = document.Current().Find(ids.at(i));
+        const int plays = text->node.attributes.value(QStringLiteral("PlayTimes")).toInt();
+        rows.append({text->id, text->Title(), plays, timing.texts.at(i)});
     }
-    timeline->SetTiming(timing, ids, titles, plays);
-    timeline->SetStale(false);
+    timeline->SetRows(rows, timing.Ticks());
     playback.SetLength(timing.Ticks());
     ShowEnds(ids);
 }

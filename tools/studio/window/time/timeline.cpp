@@ -39,6 +39,14 @@ double RulerStep(double pointsPerSecond)
     return 600;
 }
 
+/** Number of the row's pages before its second play. */
+int PagesPerPlay(const TimelineRow& row)
+{
+    const int pages = row.time.pages.size();
+    const int plays = std::max(1, row.plays);
+    return std::max(1, pages % plays == 0 ? pages / plays : pages);
+}
+
 } // namespace
 
 Timeline::Timeline(Playback* playback, QWidget* parent)
@@ -48,50 +56,44 @@ Timeline::Timeline(Playback* playback, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Timeline"));
+    setMinimumSize(320, rulerHeight + 2 * rowHeight);
     viewport()->setMouseTracking(true);
     connect(playback, &Playback::TickChanged, viewport(), qOverload<>(&QWidget::update));
     connect(playback, &Playback::RangeChanged, viewport(), qOverload<>(&QWidget::update));
 }
 
-void Timeline::SetTiming(const Timing& times, const QVector<int>& textIds,
-                         const QStringList& textTitles, const QVector<int>& textPlays)
+void Timeline::SetRows(const QVector<TimelineRow>& texts, int ticks)
 {
-    plays = textPlays;
-    timing = times;
-    ids = textIds;
-    titles = textTitles;
+    rows = texts;
+    signTicks = ticks;
+    stale = false;
     Adjust();
     viewport()->update();
 }
 
-void Timeline::SetStale(bool isStale)
+void Timeline::MarkStale()
 {
-    if (stale == isStale)
-        return;
-    stale = isStale;
+    stale = true;
     viewport()->update();
 }
 
 void Timeline::SetSelected(int id)
 {
     selected = id;
-    const int row = ids.indexOf(id);
-    if (row >= 0) {
-        const int top = row * rowHeight;
+    const auto isChosen = [id](const TimelineRow& row) { return row.id == id; };
+    const auto row = std::find_if(rows.begin(), rows.end(), isChosen);
+    if (row != rows.end()) {
+        const int top = int(row - rows.begin()) * rowHeight;
         const int room = viewport()->height() - rulerHeight;
-        const int value = verticalScrollBar()->value();
-        if (top < value)
-            verticalScrollBar()->setValue(top);
-        else if (top + rowHeight > value + room)
-            verticalScrollBar()->setValue(top + rowHeight - room);
+        QScrollBar* bar = verticalScrollBar();
+        bar->setValue(qBound(top + rowHeight - room, bar->value(), top));
     }
     viewport()->update();
 }
 
 int Timeline::Ticks() const
 {
-    const int least = timing.texts.isEmpty() ? ticksUnmeasured : 1;
-    return std::max({least, timing.Ticks(), playback->Length()});
+    return std::max({rows.isEmpty() ? ticksUnmeasured : 1, signTicks, playback->Length()});
 }
 
 /** Width of the visible part of the times, in logical pixels. */
@@ -132,9 +134,9 @@ void Timeline::wheelEvent(QWheelEvent* event)
 QVector<int> Timeline::Marks() const
 {
     QVector<int> marks{0};
-    for (const TextTime& text : timing.texts) {
-        const int from = int(TicksOf(text.from));
-        for (const PageTime& page : text.pages)
+    for (const TimelineRow& row : rows) {
+        const int from = int(TicksOf(row.time.from));
+        for (const PageTime& page : row.time.pages)
             marks << from + page.begin << from + page.hold;
     }
     marks << Ticks() - 1;
@@ -159,13 +161,13 @@ int Timeline::PreviousMark(int tick) const
 
 QPair<int, int> Timeline::PageAt(int tick) const
 {
-    QVector<TextTime> texts = timing.texts;
-    const int row = ids.indexOf(selected);
-    if (row > 0 && row < texts.size())
-        texts.move(row, 0); // of texts that play at the same time, the selected one counts
-    for (const TextTime& text : texts) {
-        const int from = int(TicksOf(text.from));
-        for (const PageTime& page : text.pages) {
+    // Of texts that play at the same time, the selected one counts.
+    QVector<TimelineRow> order = rows;
+    std::stable_partition(order.begin(), order.end(),
+                          [this](const TimelineRow& row) { return row.id == selected; });
+    for (const TimelineRow& row : order) {
+        const int from = int(TicksOf(row.time.from));
+        for (const PageTime& page : row.time.pages) {
             if (tick >= from + page.begin && tick < from + page.end)
                 return {from + page.begin, from + page.end - 1};
         }
@@ -178,15 +180,10 @@ QSize Timeline::sizeHint() const
     return {640, rulerHeight + 5 * rowHeight};
 }
 
-QSize Timeline::minimumSizeHint() const
-{
-    return {320, rulerHeight + 2 * rowHeight};
-}
-
 void Timeline::Adjust()
 {
     const int room = viewport()->height() - rulerHeight;
-    verticalScrollBar()->setRange(0, std::max(0, int(ids.size()) * rowHeight - room));
+    verticalScrollBar()->setRange(0, std::max(0, int(rows.size()) * rowHeight - room));
     verticalScrollBar()->setPageStep(std::max(1, room));
     verticalScrollBar()->setSingleStep(rowHeight);
     horizontalScrollBar()->setRange(0, int(Room() * (zoom - 1)));
@@ -205,14 +202,14 @@ void Timeline::paintEvent(QPaintEvent*)
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
     const int offset = verticalScrollBar()->value();
     painter.setClipRect(0, rulerHeight, viewport()->width(), viewport()->height() - rulerHeight);
-    const int first = offset / rowHeight;
-    const int last = std::min(int(ids.size()) - 1, (offset + viewport()->height()) / rowHeight);
-    for (int row = first; row <= last && row < timing.texts.size(); ++row)
-        PaintRow(&painter, row,
-                 QRect(0, rulerHeight + row * rowHeight - offset, viewport()->width(), rowHeight));
+    for (int i = 0; i < rows.size(); ++i) {
+        const int top = rulerHeight + i * rowHeight - offset;
+        if (top + rowHeight > rulerHeight && top < viewport()->height())
+            PaintRow(&painter, rows.at(i), QRect(0, top, viewport()->width(), rowHeight));
+    }
     painter.setClipping(false);
     PaintRuler(&painter);
-    if (rulerHeight + (ids.size() + 1) * rowHeight <= viewport()->height())
+    if (rulerHeight + (rows.size() + 1) * rowHeight <= viewport()->height())
         PaintLegend(&painter);
 
     const double x = std::round(XOf(playback->Tick() + 0.5));
@@ -298,10 +295,10 @@ void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
     }
 }
 
-void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
+void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& rect) const
 {
-    const TextTime& text = timing.texts.at(row);
-    const bool isSelected = ids.value(row) == selected;
+    const TextTime& text = row.time;
+    const bool isSelected = row.id == selected;
     const QColor base = palette().color(QPalette::Base);
     const QColor ink = palette().color(QPalette::Text);
     const QColor accent = palette().color(QPalette::Highlight);
@@ -312,11 +309,11 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
     titleFont.setBold(isSelected);
     painter->setFont(titleFont);
     painter->setPen(ink);
-    painter->drawText(rect.adjusted(2 * inset, 0, 0, 0)
-                          .intersected(QRect(0, rect.top(), titleWidth - inset, rowHeight)),
-                      Qt::AlignVCenter | Qt::TextSingleLine,
-                      QFontMetrics(titleFont).elidedText(titles.value(row), Qt::ElideRight,
-                                                         titleWidth - 3 * inset));
+    painter->drawText(
+        rect.adjusted(2 * inset, 0, 0, 0)
+            .intersected(QRect(0, rect.top(), titleWidth - inset, rowHeight)),
+        Qt::AlignVCenter | Qt::TextSingleLine,
+        QFontMetrics(titleFont).elidedText(row.title, Qt::ElideRight, titleWidth - 3 * inset));
 
     const QRectF bar(0, rect.top() + inset, 0, rowHeight - 2 * inset);
     painter->save();
@@ -334,21 +331,22 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
         if (text.ending != Ending::NothingToPlay)
             block(from, end, Entrance);
     }
-    const int perRun = FirstRepeat(row);
+    const int perPlay = PagesPerPlay(row);
     for (int i = 0; i < text.pages.size(); ++i) {
         const PageTime& page = text.pages.at(i);
         block(from + page.begin, from + page.hold, Entrance);
         if (page.end > page.hold)
             block(from + page.hold, from + page.end, Hold);
-        if (i < perRun)
+        if (i < perPlay)
             continue;
         // Repeats are drawn flatter than the first play, with their number.
         const QRectF covered(XOf(from + page.begin), bar.top(),
                              XOf(from + page.end) - XOf(from + page.begin), 5);
         painter->fillRect(covered, isSelected ? Mixed(accent, base, 0.88) : base);
-        const QString number = QStringLiteral("×%1").arg(i / perRun + 1);
+        const QString number = QStringLiteral("×%1").arg(i / perPlay + 1);
         painter->setFont(TabularFont(font(), -2));
-        if (i % perRun == 0 && painter->fontMetrics().horizontalAdvance(number) < covered.width()) {
+        if (i % perPlay == 0 &&
+            painter->fontMetrics().horizontalAdvance(number) < covered.width()) {
             painter->setPen(palette().color(QPalette::HighlightedText));
             painter->drawText(
                 QRectF(covered.left() + 3, bar.top() + 5, covered.width(), bar.height() - 5),
@@ -370,23 +368,22 @@ void Timeline::PaintRow(QPainter* painter, int row, const QRect& rect) const
     painter->restore();
 }
 
-/** Index of the first page of the second play; the number of pages if there is none. */
-int Timeline::FirstRepeat(int row) const
+/** The row at @p point; null for none. */
+const TimelineRow* Timeline::RowAt(const QPoint& point) const
 {
-    const int pages = timing.texts.at(row).pages.size();
-    const int runs = std::max(1, plays.value(row, 1));
-    return pages % runs == 0 ? std::max(1, pages / runs) : std::max(1, pages);
+    const int row = (point.y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
+    return point.y() >= rulerHeight && row < rows.size() ? &rows.at(row) : nullptr;
 }
 
 QString Timeline::Describe(const QPoint& point) const
 {
-    const int row = (point.y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
-    if (point.y() < rulerHeight || row >= timing.texts.size())
+    const TimelineRow* row = RowAt(point);
+    if (!row)
         return tr("Click or drag: go to that time. Shift+drag: loop a range. Ctrl+wheel: zoom.");
-    const TextTime& text = timing.texts.at(row);
+    const TextTime& text = row->time;
     const int at = TickAt(point.x());
     const double tick = at - TicksOf(text.from);
-    QString what = titles.value(row);
+    QString what = row->title;
     if (point.x() >= titleWidth)
         what +=
             QLatin1Char('\n') + tr("%1, tick %2").arg(SecondsText(qint64(at) * tickLength)).arg(at);
@@ -398,7 +395,7 @@ QString Timeline::Describe(const QPoint& point) const
         const bool holds = tick >= page.hold;
         what += QLatin1Char('\n') +
                 (holds ? tr("Page %1: pause, %2") : tr("Page %1: entrance, %2"))
-                    .arg((number - 1) % FirstRepeat(row) + 1)
+                    .arg((number - 1) % PagesPerPlay(*row) + 1)
                     .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
                                      qint64(tickLength)));
     }
@@ -420,9 +417,8 @@ bool Timeline::viewportEvent(QEvent* event)
 
 void Timeline::contextMenuEvent(QContextMenuEvent* event)
 {
-    const int row = (event->pos().y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
-    if (event->pos().y() >= rulerHeight && row < ids.size()) {
-        emit Selected(ids.at(row));
+    if (const TimelineRow* row = RowAt(event->pos())) {
+        emit Selected(row->id);
         emit MenuWanted(event->globalPos());
     }
 }
@@ -431,9 +427,8 @@ void Timeline::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    const int row = (event->pos().y() - rulerHeight + verticalScrollBar()->value()) / rowHeight;
-    if (event->pos().y() >= rulerHeight && row < ids.size())
-        emit Selected(ids.at(row));
+    if (const TimelineRow* row = RowAt(event->pos()))
+        emit Selected(row->id);
     if (event->pos().x() < titleWidth)
         return;
     marking = event->modifiers() & Qt::ShiftModifier;

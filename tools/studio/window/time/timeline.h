@@ -9,9 +9,17 @@
 #include "studio/worker/timing.h"
 
 #include <QAbstractScrollArea>
-#include <QStringList>
 
 namespace AnimText {
+
+/** A text and its times. */
+struct TimelineRow
+{
+    int id = 0;
+    QString title;
+    int plays = 1; ///< those after the first are drawn as repeats
+    TextTime time;
+};
 
 class Timeline : public QAbstractScrollArea
 {
@@ -20,18 +28,14 @@ class Timeline : public QAbstractScrollArea
 public:
     Timeline(Playback* playback, QWidget* parent = nullptr);
 
-    /**
-     * @param ids ids of the texts in the order of @p timing
-     * @param plays number of plays of each text; those after the first are drawn as repeats
-     */
-    void SetTiming(const Timing& timing, const QVector<int>& ids, const QStringList& titles,
-                   const QVector<int>& plays);
+    /** @param ticks the sign's length */
+    void SetRows(const QVector<TimelineRow>& texts, int ticks);
+    /** Marks the rows as those of an earlier state, until there are others. */
+    void MarkStale();
     /** Zooms in by @p zoom, 1 to 64, relative to the whole time; the tick at @p x stays in place.
      */
     void SetZoom(double zoom, double x);
     double Zoom() const { return zoom; }
-    /** Marks the timing as that of an earlier state. */
-    void SetStale(bool stale);
     void SetSelected(int id);
 
     /** The next mark after @p tick, or the previous one: where a page begins or is complete. */
@@ -41,7 +45,6 @@ public:
     QPair<int, int> PageAt(int tick) const;
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
     /** Converts ticks to x coordinates of the viewport and back. */
     double XOf(double tick) const;
@@ -64,22 +67,20 @@ protected:
 
 private:
     void PaintRuler(QPainter* painter) const;
-    void PaintRow(QPainter* painter, int row, const QRect& rect) const;
+    void PaintRow(QPainter* painter, const TimelineRow& row, const QRect& rect) const;
     enum Phase { Entrance, Hold, Cut };
-    int FirstRepeat(int row) const;
     double Room() const;
     void PaintLegend(QPainter* painter) const;
     void Fill(QPainter* painter, const QRectF& rect, Phase phase) const;
+    const TimelineRow* RowAt(const QPoint& point) const;
     QString Describe(const QPoint& point) const;
     int Ticks() const;
     QVector<int> Marks() const;
     void Adjust();
 
     Playback* playback;
-    Timing timing;
-    QVector<int> ids;
-    QStringList titles;
-    QVector<int> plays;
+    QVector<TimelineRow> rows;
+    int signTicks = 1;
     double zoom = 1;
     int selected = 0;
     bool stale = false;
