@@ -8,9 +8,6 @@ namespace AnimText {
 
 NoticeBar::NoticeBar(QWidget* parent)
     : QFrame(parent)
-    , icon(new QLabel(this))
-    , words(new QLabel(this))
-    , buttons(new QHBoxLayout)
 {
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
@@ -18,6 +15,7 @@ NoticeBar::NoticeBar(QWidget* parent)
     words->setForegroundRole(QPalette::ToolTipText);
     words->setWordWrap(true);
     words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* icon = new QLabel(this);
     icon->setPixmap(Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
@@ -27,8 +25,7 @@ NoticeBar::NoticeBar(QWidget* parent)
     buttons->setSpacing(grid);
     layout->addLayout(buttons);
     setAccessibleName(tr("Notice"));
-    if (parent)
-        parent->installEventFilter(this);
+    parent->installEventFilter(this);
     hide();
 }
 
@@ -41,7 +38,7 @@ bool NoticeBar::eventFilter(QObject* object, QEvent* event)
 
 void NoticeBar::Place()
 {
-    if (isHidden() || !parentWidget())
+    if (isHidden())
         return;
     const int width = parentWidget()->width();
     layout()->activate();
@@ -74,21 +71,17 @@ void NoticeBar::Refresh()
         delete item;
     }
     setVisible(!notices.isEmpty());
-    if (notices.isEmpty()) {
-        words->clear();
-        return;
-    }
-    const Kind kind = notices.firstKey();
-    const Notice notice = notices.first();
-    words->setText(notice.text);
-    for (const Offer& offer : notice.offers) {
+    words->setText(notices.isEmpty() ? QString() : notices.first().text);
+    const QList<Offer> offers = notices.isEmpty() ? QList<Offer>() : notices.first().offers;
+    for (const Offer& offer : offers) {
         auto* button = new QPushButton(offer.first, this);
         button->setAutoDefault(true); // Return presses it, as Space does
-        connect(button, &QPushButton::clicked, this, [this, kind, act = offer.second] {
-            Set(kind, QString());
-            if (act)
-                act();
-        });
+        connect(button, &QPushButton::clicked, this,
+                [this, kind = notices.firstKey(), act = offer.second] {
+                    Set(kind, QString());
+                    if (act)
+                        act();
+                });
         buttons->addWidget(button);
     }
     Place();

@@ -29,7 +29,7 @@ public:
 
     using Offer = QPair<QString, std::function<void()>>; ///< a button's label and action
 
-    explicit NoticeBar(QWidget* parent = nullptr);
+    explicit NoticeBar(QWidget* parent);
 
     /** Shows a notice; an empty @p text removes it. */
     void Set(Kind kind, const QString& text, const QList<Offer>& offers = {});
@@ -51,9 +51,8 @@ private:
     void Place();
 
     QMap<Kind, Notice> notices;
-    QLabel* icon;
-    QLabel* words;
-    QHBoxLayout* buttons;
+    QLabel* words = new QLabel(this);
+    QHBoxLayout* buttons = new QHBoxLayout;
 };
 
 } // namespace AnimText

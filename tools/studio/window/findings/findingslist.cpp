@@ -26,8 +26,7 @@ QString FieldOf(const Finding& finding)
     return {};
 }
 
-} // namespace
-
+/** The fix for @p finding about @p text on a display of that size. */
 Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
 {
     const auto set = [](const QString& words, const QString& key, int value) {
@@ -97,19 +96,21 @@ Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
     }
 }
 
-int TextOf(const Finding& finding, const Sign& sign)
+/** The text that @p finding is about; null for none. */
+const SignText* TextOf(const Finding& finding, const Sign& sign)
 {
     Place place;
     if (!ReadPlace(finding.place, &place))
-        return -1;
+        return nullptr;
     int behind = place.node;
-    for (int i = 0; i < sign.texts.size(); ++i) {
-        const SignText& text = sign.texts.at(i);
+    for (const SignText& text : sign.texts) {
         if (text.page == place.page && text.area == place.area && behind-- == 0)
-            return i;
+            return &text;
     }
-    return -1;
+    return nullptr;
 }
+
+} // namespace
 
 FindingsList::FindingsList(QWidget* parent)
     : QScrollArea(parent)
@@ -131,11 +132,21 @@ FindingsList::FindingsList(QWidget* parent)
 
 void FindingsList::ApplyFix(int index)
 {
-    const Row row = rows.value(index);
+    const Row row = rows.at(index);
     if (!row.fix.change)
         return;
     emit Selected(row.id);
     emit Edited(row.fix.words, QString(), row.fix.change);
+}
+
+QList<Finding> FindingsList::Of(int id) const
+{
+    QList<Finding> own;
+    for (const Row& row : rows) {
+        if (row.id == id)
+            own.append(row.finding);
+    }
+    return own;
 }
 
 void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
@@ -143,21 +154,17 @@ void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
     QList<Row> before = rows;
     rows.clear();
     for (const Finding& finding : findings) {
-        Row row;
-        row.words = QCoreApplication::translate("Rules", finding.GetRule().why);
-        row.isError = finding.GetRule().severity == Severity::Error;
+        Row row{finding, 0, {}, QCoreApplication::translate("Rules", finding.GetRule().why), {}};
         const QString field = FieldOf(finding);
         if (!field.isEmpty())
             row.words = QStringLiteral("%1: %2").arg(field, row.words);
         row.why =
             tr("Found %1, expected %2.\n%3").arg(finding.found, finding.expected, finding.place);
-        const int index = TextOf(finding, sign);
-        if (index >= 0) {
-            const SignText& text = sign.texts.at(index);
-            row.id = text.id;
-            row.fix = FixFor(finding, text, sign.display);
+        if (const SignText* text = TextOf(finding, sign)) {
+            row.id = text->id;
+            row.fix = FixFor(finding, *text, sign.display);
             if (sign.texts.size() > 1)
-                row.words = QStringLiteral("%1 · %2").arg(text.Title(), row.words);
+                row.words = QStringLiteral("%1 · %2").arg(text->Title(), row.words);
         }
         rows.append(row);
     }
@@ -191,8 +198,9 @@ QWidget* FindingsList::MakeRow(int index)
     const Row& row = rows.at(index);
     auto* widget = new QWidget;
     auto* mark = new QLabel(widget);
+    const bool isError = row.finding.GetRule().severity == Severity::Error;
     mark->setPixmap(
-        Icon(row.isError ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"))
+        Icon(isError ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"))
             .pixmap(16, 16));
     auto* words = new QLabel(row.words, widget);
     words->setWordWrap(true);

@@ -18,12 +18,6 @@ struct Fix
     TextChange change;
 };
 
-/** The fix for @p finding about @p text on a display of that size. */
-Fix FixFor(const Finding& finding, const SignText& text, const QSize& display);
-
-/** Index of the text that a finding is about, in file order; -1 for none. */
-int TextOf(const Finding& finding, const Sign& sign);
-
 class FindingsList : public QScrollArea
 {
     Q_OBJECT
@@ -32,6 +26,8 @@ public:
     explicit FindingsList(QWidget* parent = nullptr);
 
     void Show(const QList<Finding>& findings, const Sign& sign);
+    /** The findings about the text @p id. */
+    QList<Finding> Of(int id) const;
     int Count() const { return rows.size(); }
     /** Applies the fix of that row, if it has one. */
     void ApplyFix(int index);
@@ -48,11 +44,11 @@ protected:
 private:
     struct Row
     {
-        int id = 0; // id of the text; 0 for none
+        Finding finding;
+        int id; // id of the text; 0 for none
         Fix fix;
         QString words;
         QString why;
-        bool isError = false;
     };
 
     QWidget* MakeRow(int index);

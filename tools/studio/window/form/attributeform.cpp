@@ -16,16 +16,12 @@ namespace {
 /** Whether the motion picker, the text field or the layout handles the attribute. */
 bool IsElsewhere(const Attribute& attribute)
 {
-    static const QStringList elsewhere{QStringLiteral("Text"),
-                                       QStringLiteral("PathData"),
-                                       QStringLiteral("DescentVector"),
-                                       QStringLiteral("EffectType"),
-                                       QStringLiteral("AnimationEffect"),
-                                       QStringLiteral("ContinueStyle"),
-                                       QStringLiteral("type")};
+    static const QSet<QByteArray> elsewhere{"Text",       "PathData",        "DescentVector",
+                                            "EffectType", "AnimationEffect", "ContinueStyle",
+                                            "type"};
     const bool isLaidOut = attribute.home == Home::TextAttribute ||
                            attribute.home == Home::TextWidth || attribute.home == Home::TextHeight;
-    return isLaidOut || elsewhere.contains(QLatin1String(attribute.key));
+    return isLaidOut || elsewhere.contains(attribute.key);
 }
 
 QString UnitOf(const Attribute& attribute)
@@ -74,14 +70,14 @@ void AttributeForm::AddAttributes(Group group, Thumbnails* thumbnails)
             [&attribute](SignText* text, int number) {
                 SetNumber(&text->node, attribute, number);
             }};
-        const QString meaning =
-            QStringLiteral("%1 (%2)").arg(Translated(attribute.meaning), setting.key);
-        AddRow(setting, FieldOf(attribute, setting, thumbnails), meaning,
+        AddRow(setting, FieldOf(attribute, setting, thumbnails),
                [&attribute](const SignText& text) {
                    QString why;
                    IsUsed(attribute, text.node, &why);
                    return why;
                });
+        rows.last().meaning =
+            QStringLiteral("%1 (%2)").arg(Translated(attribute.meaning), setting.key);
     }
 }
 
@@ -105,38 +101,33 @@ QWidget* AttributeForm::FieldOf(const Attribute& attribute, const TextSetting& s
 
 void AttributeForm::AddLayout()
 {
-    const auto always = [](const SignText&) { return QString(); };
-    const auto add = [this](const TextSetting& setting, QWidget* field, const auto& unused) {
-        AddRow(setting, field, QString(), unused);
-    };
     // The choices are in the order of the enumerations.
     const TextSetting fit = SettingOf(tr("Size"), &TextSource::fit);
-    add(fit, MakeChoice(fit, {tr("Sizes as set"), tr("Fit height"), tr("Fit height and width")}),
-        always);
+    AddRow(fit,
+           MakeChoice(fit, {tr("Sizes as set"), tr("Fit height"), tr("Fit height and width")}));
     const TextSetting align = SettingOf(tr("Horizontal"), &TextSource::align);
-    add(align, MakeChoice(align, {tr("Reading start"), tr("Left"), tr("Center"), tr("Right")}),
-        [](const SignText& text) {
-            return MotionOf(text.node).IsSideways()
-                       ? tr("Text that scrolls sideways cannot be aligned.")
-                       : QString();
-        });
+    AddRow(align, MakeChoice(align, {tr("Reading start"), tr("Left"), tr("Center"), tr("Right")}),
+           [](const SignText& text) {
+               return MotionOf(text.node).IsSideways()
+                          ? tr("Text that scrolls sideways cannot be aligned.")
+                          : QString();
+           });
     const TextSetting valign = SettingOf(tr("Vertical"), &TextSource::valign);
-    add(valign, MakeChoice(valign, {tr("Top"), tr("Middle"), tr("Bottom")}), always);
+    AddRow(valign, MakeChoice(valign, {tr("Top"), tr("Middle"), tr("Bottom")}));
     const TextSetting padding = SettingOf(tr("Padding"), &TextSource::padding);
     auto* pixels = MakeNumber(padding, tr("px"), 0, 1000);
     fills.prepend([pixels](const SignText& text) {
         const int side = qMin(text.node.size.width(), text.node.size.height());
         pixels->SetLimits(0, qMax(0, (side - 1) / 2));
     });
-    add(padding, pixels, always);
+    AddRow(padding, pixels);
     const TextSetting pages = SettingOf(tr("Pages"), &TextSource::keepsWords);
-    add(pages, MakeFlag(pages, tr("Break pages between words")), [](const SignText& text) {
+    AddRow(pages, MakeFlag(pages, tr("Break pages between words")), [](const SignText& text) {
         return MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.") : QString();
     });
 }
 
-void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const QString& meaning,
-                           const std::function<QString(const SignText&)>& unused)
+void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const Unused& unused)
 {
     const auto* box = qobject_cast<QCheckBox*>(field);
     const bool namesItself = box && !box->text().isEmpty();
@@ -149,7 +140,7 @@ void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const QSt
     table->addWidget(label, row, 0);
     table->addWidget(mark, row, 1);
     table->addWidget(field, row, namesItself ? 0 : 2, 1, namesItself ? 3 : 1);
-    rows.append({setting.key, meaning, label, mark, field, unused});
+    rows.append({setting.key, QString(), label, mark, field, unused});
 }
 
 NumberField* AttributeForm::MakeNumber(const TextSetting& setting, const QString& unit, int least,
@@ -279,7 +270,7 @@ void AttributeForm::Show(const SignText& text)
     for (const auto& fill : fills)
         fill(text);
     for (const Row& row : rows) {
-        const QString why = row.unused(text);
+        const QString why = row.unused ? row.unused(text) : QString();
         // A setting that does not apply is dimmed, but can still be changed.
         QPalette colors = palette();
         if (!why.isEmpty()) {

@@ -57,6 +57,8 @@ signals:
     void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
 
 private:
+    /** Why a text does not use a setting; empty if it does. */
+    using Unused = std::function<QString(const SignText& text)>;
     struct Row
     {
         QString key;
@@ -64,11 +66,10 @@ private:
         QLabel* label;
         QLabel* mark;
         QWidget* field;
-        std::function<QString(const SignText&)> unused; // why a text does not use it
+        Unused unused;
     };
 
-    void AddRow(const TextSetting& setting, QWidget* field, const QString& meaning,
-                const std::function<QString(const SignText&)>& unused);
+    void AddRow(const TextSetting& setting, QWidget* field, const Unused& unused = {});
     QWidget* FieldOf(const Attribute& attribute, const TextSetting& setting,
                      Thumbnails* thumbnails);
     NumberField* MakeNumber(const TextSetting& setting, const QString& unit, int least, int most,

@@ -10,10 +10,6 @@ namespace AnimText {
 
 Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     : QScrollArea(parent)
-    , ofText(new QWidget)
-    , ofDisplay(new QWidget)
-    , displayForm(new DisplayForm)
-    , text(new TextPanel)
     , motions(new MotionPicker(thumbnails))
 {
     setWidgetResizable(true);

@@ -36,10 +36,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* ofText;    // settings of a text
-    QWidget* ofDisplay; // settings of the display, while no text is selected
-    DisplayForm* displayForm;
-    TextPanel* text;
+    QWidget* ofText = new QWidget;    // settings of a text
+    QWidget* ofDisplay = new QWidget; // settings of the display, while no text is selected
+    DisplayForm* displayForm = new DisplayForm;
+    TextPanel* text = new TextPanel;
     MotionPicker* motions;
     QList<AttributeForm*> forms;
 };

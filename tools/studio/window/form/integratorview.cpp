@@ -11,14 +11,6 @@ namespace AnimText {
 
 IntegratorView::IntegratorView(QWidget* parent)
     : QWidget(parent)
-    , calls(new QPlainTextEdit(this))
-    , operation(new QComboBox(this))
-    , nth(new QSpinBox(this))
-    , failing(new QLabel(this))
-    , clear(new QToolButton(this))
-    , library(new QToolButton(this))
-    , noLibrary(new QToolButton(this))
-    , differing(new QLabel(this))
 {
     calls->setReadOnly(true);
     calls->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -58,25 +50,20 @@ IntegratorView::IntegratorView(QWidget* parent)
 
     connect(fail, &QToolButton::clicked, this,
             [this] { AddFault(operation->currentIndex(), nth->value()); });
-    connect(clear, &QToolButton::clicked, this, [this] {
-        faults.clear();
-        ShowFaults();
-        emit FaultsChanged();
+    connect(clear, &QToolButton::clicked, this, [this] { SetFaults({}); });
+    connect(library, &QToolButton::clicked, this, [this] {
+        const QString path = QFileDialog::getOpenFileName(this, tr("Choose a plugin library"),
+                                                          QString(), tr("Libraries (*.so*)"));
+        if (!path.isEmpty())
+            SetLibrary(path);
     });
-    connect(library, &QToolButton::clicked, this, &IntegratorView::ChooseLibrary);
     connect(noLibrary, &QToolButton::clicked, this, [this] { SetLibrary(QString()); });
-    ShowFaults();
+    SetFaults({});
 }
 
-void IntegratorView::AddFault(int failed, int which)
+void IntegratorView::SetFaults(const QVector<QPair<qint32, qint32>>& wanted)
 {
-    faults.append({failed, which});
-    ShowFaults();
-    emit FaultsChanged();
-}
-
-void IntegratorView::ShowFaults()
-{
+    faults = wanted;
     QStringList words;
     for (const QPair<qint32, qint32>& fault : faults)
         words.append(QStringLiteral("%1 #%2")
@@ -86,6 +73,7 @@ void IntegratorView::ShowFaults()
         words.isEmpty() ? QString() : tr("Made to fail: %1").arg(words.join(QStringLiteral(", "))));
     SetInk(failing, Warning(palette()));
     clear->setEnabled(!faults.isEmpty());
+    emit FaultsChanged();
 }
 
 void IntegratorView::ShowCalls(int tick, const QByteArray& lines)
@@ -98,19 +86,9 @@ void IntegratorView::ShowCalls(int tick, const QByteArray& lines)
 
 void IntegratorView::ShowDifferences(int pixels)
 {
-    if (pixels < 0)
-        differing->clear();
-    else
-        differing->setText(pixels == 0 ? tr("No pixels differ")
-                                       : tr("%n pixel(s) differ", nullptr, pixels));
-}
-
-void IntegratorView::ChooseLibrary()
-{
-    const QString path = QFileDialog::getOpenFileName(this, tr("Choose a plugin library"),
-                                                      QString(), tr("Libraries (*.so*)"));
-    if (!path.isEmpty())
-        SetLibrary(path);
+    differing->setText(pixels < 0    ? QString()
+                       : pixels == 0 ? tr("No pixels differ")
+                                     : tr("%n pixel(s) differ", nullptr, pixels));
 }
 
 void IntegratorView::SetLibrary(const QString& path)

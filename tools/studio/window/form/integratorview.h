@@ -25,8 +25,11 @@ public:
 
     /** Device calls to make fail: operation and number of the call. */
     QVector<QPair<qint32, qint32>> Faults() const { return faults; }
-    /** Makes the @p nth call of @p operation fail, too. */
-    void AddFault(int operation, int nth);
+    /** Makes call number @p which of the operation @p failed fail, too. */
+    void AddFault(int failed, int which)
+    {
+        SetFaults(faults + QVector<QPair<qint32, qint32>>{{failed, which}});
+    }
     /** Shows the device calls of @p tick, one line of JSON each. */
     void ShowCalls(int tick, const QByteArray& calls);
     /** Shows how many pixels differ from the other library; negative if there is none. */
@@ -44,18 +47,17 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void ShowFaults();
-    void ChooseLibrary();
+    void SetFaults(const QVector<QPair<qint32, qint32>>& wanted);
 
     QVector<QPair<qint32, qint32>> faults;
-    QPlainTextEdit* calls;
-    QComboBox* operation;
-    QSpinBox* nth;
-    QLabel* failing;
-    QToolButton* clear;
-    QToolButton* library;
-    QToolButton* noLibrary;
-    QLabel* differing;
+    QPlainTextEdit* calls = new QPlainTextEdit(this);
+    QComboBox* operation = new QComboBox(this);
+    QSpinBox* nth = new QSpinBox(this);
+    QLabel* failing = new QLabel(this);
+    QToolButton* clear = new QToolButton(this);
+    QToolButton* library = new QToolButton(this);
+    QToolButton* noLibrary = new QToolButton(this);
+    QLabel* differing = new QLabel(this);
 };
 
 } // namespace AnimText

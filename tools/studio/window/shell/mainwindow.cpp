@@ -162,9 +162,8 @@ void MainWindow::Connect()
     connect(&dimming, &QTimer::timeout, this, [this] { view->SetDimmed(true); });
     connect(&rehearsal, &Rehearsal::TimingChanged, this, &MainWindow::ShowTiming);
     connect(&rehearsal, &Rehearsal::FindingsChanged, this, [this](const QList<Finding>& list) {
-        found = list;
-        findings->Show(found, document.Current());
-        ShowFindings();
+        findings->Show(list, document.Current());
+        inspector->SetFindings(findings->Of(selected));
     });
     connect(findings, &FindingsList::Selected, this, &MainWindow::Select);
     connect(findings, &FindingsList::Edited, this, &MainWindow::Edit);
@@ -193,7 +192,9 @@ void MainWindow::Connect()
         shownPage = page;
         Refresh();
     });
-    connect(scenes, &SceneList::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(scenes, &SceneList::customContextMenuRequested, this, [this](const QPoint& point) {
+        ShowObjectMenu(scenes->viewport()->mapToGlobal(point));
+    });
     connect(timeline, &Timeline::MenuWanted, this, &MainWindow::ShowObjectMenu);
     connect(view, &DisplayView::MenuWanted, this, &MainWindow::ShowObjectMenu);
     connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
@@ -219,8 +220,7 @@ void MainWindow::Connect()
             },
             gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
     });
-    connect(view, &DisplayView::DisplayDoubleClicked, this,
-            [this] { inspector->Text()->BeginTyping(); });
+    connect(view, &DisplayView::DisplayDoubleClicked, inspector->Text(), &TextPanel::BeginTyping);
     connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
         Select(id);
         Edit(tr("Change area"), gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
@@ -345,20 +345,8 @@ void MainWindow::Refresh()
     }
     view->SetFrames(frames, selected);
     timeline->SetSelected(selected);
-    ShowFindings();
+    inspector->SetFindings(findings->Of(selected));
     Rehearse();
-}
-
-/** Shows the findings about the selected text beside its fields. */
-void MainWindow::ShowFindings()
-{
-    QList<Finding> own;
-    const int index = document.Current().IndexOf(selected);
-    for (const Finding& finding : found) {
-        if (TextOf(finding, document.Current()) == index)
-            own.append(finding);
-    }
-    inspector->SetFindings(own);
 }
 
 void MainWindow::OfferLostWork()

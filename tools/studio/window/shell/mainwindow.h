@@ -94,7 +94,6 @@ private:
     void ShowEnds(const QVector<int>& ids);
     void ShowState();
     void LoadTheirs();
-    void ShowFindings();
     void CompareWith(const QString& library);
     void ShowCalls();
     void Change(const QString& what, const std::function<void(Sign*)>& change,
@@ -140,7 +139,6 @@ private:
     int shownPage = 0; // while no text is selected
     Part part;
     QTimer dimming;
-    QList<Finding> found;
     std::function<void()> afterSave; // runs when the sign is saved
     bool mayClose = false;
     QByteArray wideDocks; // their places in a wide window, while this one is narrow

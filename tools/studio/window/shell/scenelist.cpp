@@ -2,7 +2,6 @@
 
 #include "studio/window/basics/style.h"
 
-#include <QContextMenuEvent>
 #include <QDropEvent>
 
 #include <climits>
@@ -41,6 +40,7 @@ SceneList::SceneList(QWidget* parent)
     setItemsExpandable(false);
     setExpandsOnDoubleClick(false);
     setDragDropMode(QAbstractItemView::InternalMove);
+    setContextMenuPolicy(Qt::CustomContextMenu);
     setEditTriggers(QAbstractItemView::DoubleClicked);
     setAccessibleName(tr("Pages and texts"));
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
@@ -157,11 +157,6 @@ void SceneList::dropEvent(QDropEvent* event)
         emit TextDropped(IdOf(moved), page - 1, INT_MAX);
     else
         emit TextDropped(IdOf(moved), qMax(0, page), 0);
-}
-
-void SceneList::contextMenuEvent(QContextMenuEvent* event)
-{
-    emit MenuWanted(event->globalPos());
 }
 
 } // namespace AnimText

@@ -38,12 +38,9 @@ signals:
     void TextDropped(int id, int page, int place);
     /** @param to the page to insert it before */
     void PageDropped(int page, int to);
-    /** @param global screen position of the menu */
-    void MenuWanted(const QPoint& global);
 
 protected:
     void dropEvent(QDropEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void Rebuild();
