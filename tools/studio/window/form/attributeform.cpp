@@ -48,15 +48,26 @@ QString KeyOf(const Finding& finding)
     return finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
 }
 
-AttributeForm::AttributeForm(QWidget* parent)
-    : QWidget(parent)
-    , table(new QGridLayout(this))
+AttributeForm::AttributeForm()
 {
     table->setContentsMargins(0, 0, 0, 0);
     table->setSpacing(grid);
     table->setColumnMinimumWidth(0, LabelWidth(font()));
     table->setColumnMinimumWidth(1, markWidth);
     table->setColumnStretch(2, 1);
+}
+
+void AttributeForm::AddSection(const QString& heading, QWidget* widget)
+{
+    auto* label = new QLabel(heading, this);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    if (table->count() > 0)
+        table->setRowMinimumHeight(table->rowCount(), 3 * grid);
+    table->addWidget(label, table->rowCount(), 0, 1, 3);
+    if (widget)
+        table->addWidget(widget, table->rowCount(), 0, 1, 3);
 }
 
 void AttributeForm::AddAttributes(Group group, Thumbnails* thumbnails)

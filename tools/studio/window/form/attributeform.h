@@ -32,14 +32,16 @@ struct TextSetting
     std::function<void(SignText* text, int number)> write;
 };
 
-/** Rows of a label, a mark for findings, and a field. */
+/** Sections with rows of a label, a mark for findings, and a field. */
 class AttributeForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit AttributeForm(QWidget* parent = nullptr);
+    AttributeForm();
 
+    /** Adds a heading and, below it, @p widget, which takes the whole width. */
+    void AddSection(const QString& heading, QWidget* widget = nullptr);
     /**
      * Adds the attributes of @p group, except those with a widget elsewhere.
      * @param thumbnails paints the pictures of choices
@@ -82,7 +84,7 @@ private:
     QWidget* MakeColor(const TextSetting& setting);
     void Tell(const TextSetting& setting, int number, int gesture = -1);
 
-    QGridLayout* table;
+    QGridLayout* table = new QGridLayout(this);
     QList<Row> rows;
     QList<std::function<void(const SignText&)>> fills; // show a text in the fields
 };

@@ -20,55 +20,23 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     auto* both = new QVBoxLayout(content);
     both->setContentsMargins(3 * grid, 2 * grid, 3 * grid, 3 * grid);
     both->addWidget(ofDisplay);
-    both->addWidget(ofText, 1);
-    for (QWidget* part : {ofDisplay, ofText}) {
-        auto* layout = new QVBoxLayout(part);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->setSpacing(grid);
-    }
-    const auto section = [](QWidget* part, const QString& words, const QList<QWidget*>& widgets) {
-        auto* layout = static_cast<QVBoxLayout*>(part->layout());
-        if (layout->count() > 0)
-            layout->addSpacing(3 * grid);
-        auto* heading = new QLabel(words);
-        QFont bold = heading->font();
-        bold.setBold(true);
-        heading->setFont(bold);
-        layout->addWidget(heading);
-        for (QWidget* widget : widgets)
-            layout->addWidget(widget);
-    };
-    const auto form = [&] {
-        forms.append(new AttributeForm);
-        connect(forms.last(), &AttributeForm::Edited, this, &Inspector::Edited);
-        return forms.last();
-    };
-    const auto attributes = [&](Group group) {
-        AttributeForm* made = form();
-        made->AddAttributes(group, thumbnails);
-        return made;
-    };
-    section(ofText, tr("Text"), {text});
-    section(ofText, tr("Motion"), {motions, attributes(Group::Motion)});
-    section(ofText, tr("Layout"), {form()});
-    forms.last()->AddLayout();
-    section(ofText, tr("Place"), {attributes(Group::Place)});
-    section(ofText, tr("Background"), {attributes(Group::Background)});
-    section(ofText, tr("Letters"), {attributes(Group::Text)});
-    section(ofDisplay, tr("Display"), {displayForm});
-    for (QWidget* part : {ofDisplay, ofText})
-        static_cast<QVBoxLayout*>(part->layout())->addStretch(1);
+    both->addWidget(ofText);
+    both->addStretch(1);
+    ofDisplay->AddSection(tr("Display"), displayForm);
+    ofText->AddSection(tr("Text"), text);
+    ofText->AddSection(tr("Motion"), motions);
+    ofText->AddAttributes(Group::Motion, thumbnails);
+    ofText->AddSection(tr("Layout"));
+    ofText->AddLayout();
+    ofText->AddSection(tr("Place"));
+    ofText->AddAttributes(Group::Place, thumbnails);
+    ofText->AddSection(tr("Background"));
+    ofText->AddAttributes(Group::Background, thumbnails);
+    ofText->AddSection(tr("Letters"));
+    ofText->AddAttributes(Group::Text, thumbnails);
     setWidget(content);
-    // All labels are as wide as the widest, so that the fields line up.
-    int widest = 0;
-    const QList<QLabel*> labels = ofText->findChildren<QLabel*>();
-    for (const QLabel* label : labels)
-        widest = qMax(widest, label->buddy() ? label->sizeHint().width() : 0);
-    for (QLabel* label : labels) {
-        if (label->buddy())
-            label->setMinimumWidth(widest);
-    }
 
+    connect(ofText, &AttributeForm::Edited, this, &Inspector::Edited);
     connect(text, &TextPanel::Edited, this, [this](const StyledText& styled, int gesture) {
         emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),
                     [styled](SignText* edited) { edited->source.text = styled; });
@@ -112,14 +80,7 @@ void Inspector::Show(const Sign& sign, const SignText* shown)
         return;
     }
     motions->Show(*shown);
-    for (AttributeForm* form : forms)
-        form->Show(*shown);
-}
-
-void Inspector::SetFindings(const QList<Finding>& findings)
-{
-    for (AttributeForm* form : forms)
-        form->SetFindings(findings);
+    ofText->Show(*shown);
 }
 
 } // namespace AnimText

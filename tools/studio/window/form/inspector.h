@@ -23,7 +23,7 @@ public:
 
     /** Shows the text @p shown of @p sign, or the display's settings if it is null. */
     void Show(const Sign& sign, const SignText* shown);
-    void SetFindings(const QList<Finding>& findings);
+    void SetFindings(const QList<Finding>& findings) { ofText->SetFindings(findings); }
     TextPanel* Text() const { return text; }
     MotionPicker* Motions() const { return motions; }
     DisplayForm* Display() const { return displayForm; }
@@ -36,12 +36,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* ofText = new QWidget;    // settings of a text
-    QWidget* ofDisplay = new QWidget; // settings of the display, while no text is selected
+    AttributeForm* ofText = new AttributeForm; // settings of a text
+    AttributeForm* ofDisplay =
+        new AttributeForm; // settings of the display, while no text is selected
     DisplayForm* displayForm = new DisplayForm;
     TextPanel* text = new TextPanel;
     MotionPicker* motions;
-    QList<AttributeForm*> forms;
 };
 
 } // namespace AnimText

@@ -99,14 +99,4 @@ void IntegratorView::SetLibrary(const QString& path)
     emit LibraryChosen(path);
 }
 
-void IntegratorView::showEvent(QShowEvent*)
-{
-    emit FaultsChanged(); // calls are recorded only while this view is visible
-}
-
-void IntegratorView::hideEvent(QHideEvent*)
-{
-    emit FaultsChanged();
-}
-
 } // namespace AnimText

@@ -42,10 +42,6 @@ signals:
     /** @param path another library; empty for none */
     void LibraryChosen(const QString& path);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-
 private:
     void SetFaults(const QVector<QPair<qint32, qint32>>& wanted);
 

@@ -197,11 +197,10 @@ void MainWindow::MakeViewMenu()
     zoomBox = new QComboBox(this);
     zoomBox->setAccessibleName(tr("Zoom"));
     zoomBox->setToolTip(tr("Zoom (Ctrl+wheel, Ctrl+0, Ctrl++, Ctrl+-)"));
-    zoomBox->addItem(tr("Fit"), 0);
+    zoomBox->addItem(tr("Fit"));
     for (int times = 1; times <= largestZoom; ++times)
-        zoomBox->addItem(tr("%1 ×").arg(times), times);
-    connect(zoomBox, qOverload<int>(&QComboBox::activated), this,
-            [this] { SetZoom(zoomBox->currentData().toInt()); });
+        zoomBox->addItem(tr("%1 ×").arg(times));
+    connect(zoomBox, qOverload<int>(&QComboBox::activated), this, &MainWindow::SetZoom);
     tools->addWidget(zoomBox);
     tools->addAction(leds);
     QToolButton* button = ShowText(leds);
@@ -222,10 +221,7 @@ void MainWindow::MakePlayMenu()
         return [this, ticks] { playback.Seek(playback.Tick() + ticks); };
     };
     act(tr("&Play or stop"), Qt::Key_Space, tr("Space"), [this] { playback.Toggle(); });
-    auto* everywhere = new QAction(this);
-    everywhere->setShortcut(Qt::CTRL | Qt::Key_Space);
-    connect(everywhere, &QAction::triggered, &playback, &Playback::Toggle);
-    addAction(everywhere);
+    playKeys[Qt::Key_Space]->setShortcut(Qt::CTRL | Qt::Key_Space); // from any field
     act(tr("Play &backward, then faster"), Qt::Key_J, QStringLiteral("J"),
         [this] { playback.Shuttle(-1); });
     act(tr("&Stop"), Qt::Key_K, QStringLiteral("K"), [this] { playback.SetPace(0); });
@@ -264,7 +260,6 @@ void MainWindow::MakeHelpMenu()
                                         .arg(QApplication::applicationVersion()),
                                     QMessageBox::Close, this);
         box->setAttribute(Qt::WA_DeleteOnClose);
-        box->setModal(false);
         box->show();
     });
 }
@@ -289,13 +284,12 @@ void MainWindow::ShowKeys()
     for (const QAction* menu : menuBar()->actions()) {
         auto* group = new QTreeWidgetItem(list, {menu->text().remove(QLatin1Char('&'))});
         for (const QAction* action : menu->menu()->actions()) {
-            QString words = action->text().remove(QLatin1Char('&'));
-            QString key = action->shortcut().toString(QKeySequence::NativeText);
-            if (key.isEmpty())
-                key = words.section(QLatin1Char('\t'), 1);
-            words = words.section(QLatin1Char('\t'), 0, 0);
+            const QStringList parts =
+                action->text().remove(QLatin1Char('&')).split(QLatin1Char('\t'));
+            const QString key =
+                parts.value(1, action->shortcut().toString(QKeySequence::NativeText));
             if (!key.isEmpty())
-                new QTreeWidgetItem(group, {key, words});
+                new QTreeWidgetItem(group, {key, parts.first()});
         }
     }
     auto* display = new QTreeWidgetItem(list, {tr("Display and fields")});
@@ -350,7 +344,7 @@ void MainWindow::ShowZoom()
     view->SetZoom(zoom);
     if (AreLedsTooSmall())
         view->SetZoom(smallestLamp);
-    zoomBox->setCurrentIndex(zoomBox->findData(view->Zoom()));
+    zoomBox->setCurrentIndex(view->Zoom());
 }
 
 bool MainWindow::AreLedsTooSmall() const

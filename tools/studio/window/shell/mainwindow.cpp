@@ -179,6 +179,9 @@ void MainWindow::Connect()
     connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
 
     connect(integrator, &IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
+    // Calls are recorded only while they are visible.
+    connect(integratorDock, &QDockWidget::visibilityChanged, this, &MainWindow::Rehearse,
+            Qt::QueuedConnection);
     connect(integrator, &IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
     connect(&rehearsal, &Rehearsal::Shown, this, &MainWindow::ShowCalls);
     scenes->installEventFilter(this);
