@@ -1,4 +1,4 @@
-// The studio's window or, with --worker or --export, one of its helper processes.
+// The studio's window or, with --worker, one of its helper processes.
 #include "studio/window/basics/translating.h"
 #include "studio/window/shell/mainwindow.h"
 #include "studio/worker/workermain.h"
@@ -76,12 +76,10 @@ int RunWindow(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    if (argc > 1 && qstrcmp(argv[1], "--worker") == 0)
+    const QByteArray word = argc > 1 ? argv[1] : "";
+    if (word == "--worker")
         return WorkerMain(argc, argv);
-    const bool asksOnly =
-        argc > 1 && (qstrcmp(argv[1], "--help") == 0 || qstrcmp(argv[1], "-h") == 0 ||
-                     qstrcmp(argv[1], "--version") == 0);
-    if (asksOnly)
+    if (word == "--help" || word == "-h" || word == "--version")
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (!HasDisplay())
         return 1;

@@ -2,8 +2,6 @@
 
 #include "studio/window/basics/style.h"
 
-#include <QEvent>
-
 namespace AnimText {
 
 NoticeBar::NoticeBar(QWidget* parent)
@@ -25,25 +23,11 @@ NoticeBar::NoticeBar(QWidget* parent)
     buttons->setSpacing(grid);
     layout->addLayout(buttons);
     setAccessibleName(tr("Notice"));
-    parent->installEventFilter(this);
+    auto* over = new QVBoxLayout(parent);
+    over->setContentsMargins(0, 0, 0, 0);
+    over->addWidget(this);
+    over->addStretch(1);
     hide();
-}
-
-bool NoticeBar::eventFilter(QObject* object, QEvent* event)
-{
-    if (object == parent() && event->type() == QEvent::Resize)
-        Place();
-    return QFrame::eventFilter(object, event);
-}
-
-void NoticeBar::Place()
-{
-    if (isHidden())
-        return;
-    const int width = parentWidget()->width();
-    layout()->activate();
-    setGeometry(0, 0, width, hasHeightForWidth() ? heightForWidth(width) : sizeHint().height());
-    raise();
 }
 
 void NoticeBar::Set(Kind kind, const QString& text, const QList<Offer>& offers)
@@ -84,7 +68,6 @@ void NoticeBar::Refresh()
                 });
         buttons->addWidget(button);
     }
-    Place();
 }
 
 } // namespace AnimText

@@ -29,6 +29,7 @@ public:
 
     using Offer = QPair<QString, std::function<void()>>; ///< a button's label and action
 
+    /** @param parent without a layout */
     explicit NoticeBar(QWidget* parent);
 
     /** Shows a notice; an empty @p text removes it. */
@@ -36,9 +37,6 @@ public:
     QString Text() const { return words->text(); }
     /** The buttons of the visible notice. */
     QList<QPushButton*> Offers() const;
-
-protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     struct Notice
@@ -48,7 +46,6 @@ private:
     };
 
     void Refresh();
-    void Place();
 
     QMap<Kind, Notice> notices;
     QLabel* words = new QLabel(this);

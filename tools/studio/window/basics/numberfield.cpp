@@ -89,42 +89,31 @@ void NumberField::focusOutEvent(QFocusEvent* event)
 bool NumberField::eventFilter(QObject* object, QEvent* event)
 {
     const auto* mouse = dynamic_cast<QMouseEvent*>(event); // null for other events
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        if (mouse->button() == Qt::LeftButton && !lineEdit()->hasFocus()) {
-            pressed = true;
-            dragging = false;
-            pressX = mouse->globalX();
-            pressNumber = Number();
-            ++gesture;
-            return true;
+    const bool begins = event->type() == QEvent::MouseButtonPress &&
+                        mouse->button() == Qt::LeftButton && !lineEdit()->hasFocus();
+    if (begins) {
+        pressed = true;
+        dragging = false;
+        pressX = mouse->globalX();
+        pressNumber = Number();
+        ++gesture;
+    } else if (pressed && event->type() == QEvent::MouseMove) {
+        const int way = mouse->globalX() - pressX;
+        dragging = dragging || std::abs(way) > dragThreshold;
+        const int tens = mouse->modifiers() & Qt::ShiftModifier ? 10 : 1;
+        if (dragging)
+            setValue(double(pressNumber + tens * (way / pointsPerStep)) / perUnit);
+    } else if (pressed && event->type() == QEvent::MouseButtonRelease) {
+        pressed = false;
+        ++gesture;
+        if (!dragging) {
+            setFocus(Qt::MouseFocusReason);
+            selectAll();
         }
-        break;
-    case QEvent::MouseMove:
-        if (pressed) {
-            const int way = mouse->globalX() - pressX;
-            dragging = dragging || std::abs(way) > dragThreshold;
-            if (dragging) {
-                const int tens = mouse->modifiers() & Qt::ShiftModifier ? 10 : 1;
-                setValue(double(pressNumber + tens * (way / pointsPerStep)) / perUnit);
-            }
-            return true;
-        }
-        break;
-    case QEvent::MouseButtonRelease:
-        if (pressed) {
-            pressed = false;
-            ++gesture;
-            if (!dragging) {
-                setFocus(Qt::MouseFocusReason);
-                selectAll();
-            }
-            return true;
-        }
-        break;
-    default: break;
+    } else {
+        return QDoubleSpinBox::eventFilter(object, event);
     }
-    return QDoubleSpinBox::eventFilter(object, event);
+    return true;
 }
 
 } // namespace AnimText

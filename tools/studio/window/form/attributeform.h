@@ -94,6 +94,4 @@ QString KeyOf(const Finding& finding);
 
 } // namespace AnimText
 
-Q_DECLARE_METATYPE(AnimText::TextChange)
-
 #endif

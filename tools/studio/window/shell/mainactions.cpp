@@ -5,7 +5,6 @@
 #include "studio/window/shell/exportdialog.h"
 #include "studio/window/shell/mainwindow.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -15,17 +14,14 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
-#include <QToolButton>
 #include <QTreeWidget>
-#include <QVBoxLayout>
-
-#include <utility>
 
 namespace AnimText {
 namespace {
 
 constexpr int mostRecent = 8;
 constexpr int largestZoom = 16;
+constexpr double standardPitch = 1.5;
 
 } // namespace
 
@@ -68,7 +64,7 @@ void MainWindow::MakeFileMenu()
     saveAction = Act(file, {tr("&Save"), QKeySequence::Save, "document-save"}, [this] { Save(); });
     tools->addAction(saveAction);
     tools->addSeparator();
-    Act(file, {tr("Save &as…"), QKeySequence::SaveAs}, [this] { SaveAs(); });
+    Act(file, {tr("Save &as…"), QKeySequence::SaveAs}, [this] { Save(true); });
     file->addSeparator();
     exportAction = Act(file, {tr("&Export…"), Qt::CTRL | Qt::Key_E, "document-export"},
                        [this] { ShowExport(); });
@@ -178,9 +174,10 @@ void MainWindow::MakeViewMenu()
             distances->addAction(tr("%1 diameters").arg(locale().toString(diameters)));
         action->setCheckable(true);
         action->setData(diameters);
+        action->setChecked(diameters ==
+                           QSettings().value(QStringLiteral("pitch"), standardPitch).toDouble());
         pitches->addAction(action);
     }
-    pitches->actions().at(2)->setChecked(true);
     connect(pitches, &QActionGroup::triggered, this, [this] {
         leds->setChecked(true);
         ShowZoom();
@@ -342,19 +339,15 @@ void MainWindow::ShowZoom()
     const QSignalBlocker blocker(view);
     view->SetPitch(leds->isChecked() ? Pitch() : 0);
     view->SetZoom(zoom);
-    if (AreLedsTooSmall())
+    if (leds->isChecked() && !view->Picture().isNull() && view->Scale() < smallestLamp)
         view->SetZoom(smallestLamp);
     zoomBox->setCurrentIndex(view->Zoom());
 }
 
-bool MainWindow::AreLedsTooSmall() const
-{
-    return leds->isChecked() && !view->Picture().isNull() && view->Scale() < smallestLamp;
-}
-
 double MainWindow::Pitch() const
 {
-    return pitches->checkedAction()->data().toDouble();
+    const QAction* chosen = pitches->checkedAction(); // null if the settings were edited
+    return chosen ? chosen->data().toDouble() : standardPitch;
 }
 
 /** Asks for the display of a new sign; starts with the values that were used last. */
@@ -394,24 +387,18 @@ void MainWindow::ChooseAndOpen()
         Leave([this, path] { Open(path); });
 }
 
-bool MainWindow::Save()
+bool MainWindow::Save(bool elsewhere)
 {
-    if (document.Path().isEmpty())
-        return SaveAs();
-    document.Save(document.Path());
-    return true;
-}
-
-bool MainWindow::SaveAs()
-{
-    QString path = QFileDialog::getSaveFileName(this, tr("Save scene"), document.Path(),
-                                                tr("Scenes (*.json)"));
-    if (path.isEmpty())
-        return false;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".json");
+    QString path = document.Path();
+    if (elsewhere || path.isEmpty()) {
+        path = QFileDialog::getSaveFileName(this, tr("Save scene"), path, tr("Scenes (*.json)"));
+        if (path.isEmpty())
+            return false;
+        if (QFileInfo(path).suffix().isEmpty())
+            path += QStringLiteral(".json");
+        AddRecent(path);
+    }
     document.Save(path);
-    AddRecent(path);
     return true;
 }
 

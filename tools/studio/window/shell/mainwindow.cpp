@@ -2,9 +2,7 @@
 
 #include "studio/window/basics/style.h"
 
-#include <QAction>
 #include <QCloseEvent>
-#include <QDateTime>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
@@ -12,7 +10,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -130,7 +127,7 @@ void MainWindow::Connect()
     connect(&document, &Document::StateChanged, this, &MainWindow::ShowState);
     connect(&document, &Document::SaveEnded, this, [this](bool saved, const QString& error) {
         notices->Set(NoticeBar::Save, saved ? QString() : tr("Not saved: %1").arg(error),
-                     {{tr("Save as…"), [this] { SaveAs(); }}, {tr("Dismiss"), {}}});
+                     {{tr("Save as…"), [this] { Save(true); }}, {tr("Dismiss"), {}}});
         const auto then = std::exchange(afterSave, {});
         if (then && saved)
             Leave(then);
@@ -143,7 +140,7 @@ void MainWindow::Connect()
                            document.KeepMine();
                            notices->Set(NoticeBar::Save, QString()); // saving would succeed now
                        }},
-                      {tr("Save my version as…"), [this] { SaveAs(); }}});
+                      {tr("Save my version as…"), [this] { Save(true); }}});
     });
 
     connect(&rehearsal, &Rehearsal::Shown, this, [this](const QImage& picture) {
@@ -204,7 +201,7 @@ void MainWindow::Connect()
     connect(view, &DisplayView::Selected, this, &MainWindow::Select);
     connect(view, &DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
     connect(view, &DisplayView::ScaleChanged, this, [this] {
-        if (AreLedsTooSmall())
+        if (leds->isChecked())
             ShowZoom();
     });
     connect(view, &DisplayView::PlayWanted, &playback, &Playback::Toggle);
@@ -275,10 +272,6 @@ void MainWindow::RestoreLayout()
     restoreState(settings.value(QStringLiteral("docks")).toByteArray());
     center->restoreState(settings.value(QStringLiteral("center")).toByteArray());
     Arrange();
-    for (QAction* action : pitches->actions()) {
-        if (action->data() == settings.value(QStringLiteral("pitch")).toDouble())
-            action->setChecked(true);
-    }
     leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
 }
 

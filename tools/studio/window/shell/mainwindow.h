@@ -104,8 +104,8 @@ private:
     void DuplicateSelected();
     void ChooseNew();
     void ChooseAndOpen();
-    bool Save();
-    bool SaveAs();
+    /** @return false if the user has canceled */
+    bool Save(bool elsewhere = false);
     void Leave(const std::function<void()>& then);
     void ShowExport();
     QDialog* MakeDialog(const QString& name, const QString& title);
@@ -115,7 +115,6 @@ private:
     void SetZoom(int zoom);
     void ZoomBy(int steps, const QPointF& about);
     void ShowZoom();
-    bool AreLedsTooSmall() const;
     double Pitch() const;
     void ToggleLoop();
     bool LeaveField(int key);
