@@ -155,7 +155,8 @@ int main(int argc, char** argv)
     // QGuiApplication gets no arguments: it would take some of them, such as --plugin.
     QStringList words;
     for (int i = 1; i < argc; ++i) {
-        words.append(QString::fromUtf8(argv[i]));
+        // A byte order mark is a character of a text; Qt drops it at the beginning.
+        words.append(QString::fromUtf8(QByteArray(argv[i]).prepend('-')).mid(1));
         if (words.last().toUtf8() != argv[i]) {
             Warn(QStringLiteral("%1: expected UTF-8").arg(words.last()));
             return BadInput;
