@@ -4,7 +4,6 @@
 #include "cli/interruption.h"
 #include "cli/manual.h"
 #include "cli/messages.h"
-#include "cli/values.h"
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
 
@@ -58,7 +57,7 @@ int Complete(const CommandLine& line)
 {
     const QString shell = line.Arguments().first();
     if (!shells.contains(shell))
-        throw Misuse{QStringLiteral("unknown shell \"%1\"; expected %2").arg(shell, OneOf(shells))};
+        throw Misuse{QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
     Print(shell == "bash"  ? CompletionForBash(Commands())
           : shell == "zsh" ? CompletionForZsh(Commands())
                            : CompletionForFish(Commands()));
