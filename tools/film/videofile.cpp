@@ -16,6 +16,21 @@ QStringList Words(const QString& words)
     return words.split(QLatin1Char(' '));
 }
 
+constexpr int paletteSize = 256; // colors
+
+/** Adds the colors of @p picture to @p known, up to too many. @return whether any is new */
+bool HasNewColors(const QImage& picture, QSet<QRgb>* known)
+{
+    const int before = known->size();
+    for (int y = 0; y < picture.height() && known->size() <= paletteSize; ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x)
+            if (x == 0 || row[x] != row[x - 1])
+                known->insert(row[x]);
+    }
+    return known->size() > before || before > paletteSize;
+}
+
 /**
  * ffmpeg takes the raw pictures on its standard input and writes under another name in the same
  * folder; the file gets its name when a check has found the complete film.
@@ -76,11 +91,11 @@ private:
                                                "-f rawvideo -pix_fmt bgra pipe:1")
                                     .arg(format.transparent ? 1 : 0)),
                       QString());
-        QImage last;
+        // The choice among few colors takes long, and does not depend on how often each is seen.
+        QSet<QRgb> known;
         play([&](const QImage& picture) {
-            if (picture != last)
+            if (HasNewColors(picture, &known))
                 chooser.Take(picture);
-            last = picture;
         });
         return chooser.Finish();
     }
