@@ -53,15 +53,14 @@ StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* note
     StyledText text;
     QStringList lost;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block != document.begin())
-            text.Append(QStringLiteral("\n"), text.runs.isEmpty() ? base : text.runs.last());
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             NoteLosses(block, fragment.charFormat(), &lost);
-            QString part = fragment.text();
-            part.remove(QChar::ObjectReplacementCharacter);
-            text.Append(part, StyleOf(fragment.charFormat(), base, &text.sized));
+            const StyleRun style = StyleOf(fragment.charFormat(), base, &text.sized);
+            text.Append(fragment.text().remove(QChar::ObjectReplacementCharacter), style);
         }
+        if (block.next().isValid())
+            text.Append(QStringLiteral("\n"), text.runs.isEmpty() ? base : text.runs.last());
     }
     if (!lost.isEmpty())
         notes->append(QStringLiteral("left out because signs cannot show them: %1")

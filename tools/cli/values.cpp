@@ -109,16 +109,13 @@ QVariant ReadValue(const Option& option, const QString& text)
             throw Misuse{QStringLiteral("--%1 is empty; expected a file name")
                              .arg(QLatin1String(option.name))};
         break;
-    case Kind::Number: {
-        const int number = text.toInt(&isNumber);
-        if (!isNumber || !IsWithin(option, number))
-            Refuse(option, text, QStringLiteral("a whole number ") + Limits(option));
-        return number;
-    }
+    case Kind::Number:
     case Kind::Fraction: {
-        const double number = text.toDouble(&isNumber);
+        const bool isWhole = option.kind == Kind::Number;
+        const double number = isWhole ? text.toInt(&isNumber) : text.toDouble(&isNumber);
         if (!isNumber || !IsWithin(option, number))
-            Refuse(option, text, QStringLiteral("a number ") + Limits(option));
+            Refuse(option, text,
+                   QLatin1String(isWhole ? "a whole number " : "a number ") + Limits(option));
         return number;
     }
     case Kind::Time:

@@ -67,7 +67,8 @@ struct Edges
 
 /** @param fromRight the text's direction @param width returns the unit's width */
 template <typename Width>
-Edges EdgesOf(const QTextLine& line, int unit, bool fromRight, Width width)
+Edges EdgesOf(const QTextLine& line, int unit, [[maybe_unused]] bool fromRight,
+              [[maybe_unused]] Width width)
 {
     Edges edges{line.cursorToX(unit, QTextLine::Leading),
                 line.cursorToX(unit, QTextLine::Trailing)};
@@ -79,9 +80,6 @@ Edges EdgesOf(const QTextLine& line, int unit, bool fromRight, Width width)
         const qreal left = glyphs.first().positions().first().x();
         edges = fromRight ? Edges{left, left + width()} : Edges{left + width(), left};
     }
-#else
-    Q_UNUSED(fromRight)
-    Q_UNUSED(width)
 #endif
     return edges;
 }
@@ -113,8 +111,6 @@ public:
     explicit Shaper(const StyledText& text)
         : text(text)
     {
-        for (const StyleRun& run : text.runs)
-            underlines.append(UnderlineOf(run.font));
     }
 
     ShapedLine Shape()
@@ -161,7 +157,7 @@ private:
             Cluster cluster;
             cluster.first = i;
             cluster.units = 1;
-            cluster.underline = underlines[int(&text.At(i) - text.runs.constData())];
+            cluster.underline = UnderlineOf(text.At(i).font);
             result.clusters.append(cluster);
             const Edges edges =
                 EdgesOf(line, i, result.rightToLeft, [&] { return WidthAmongTheOthers(i); });
@@ -321,7 +317,6 @@ private:
     }
 
     const StyledText& text;
-    QVector<Bar> underlines; // by run
     ShapedLine result;
     QVector<PlacedCluster> places;
     QTextLayout turned; // the text in the other direction; empty until needed

@@ -53,12 +53,16 @@ QString Closest(const QString& word, const QStringList& known)
     return best;
 }
 
+QString Question(const QString& meant)
+{
+    return meant.isEmpty() ? QString() : QStringLiteral("; did you mean %1?").arg(meant);
+}
+
 } // namespace
 
 QString DidYouMean(const QString& word, const QStringList& known)
 {
-    const QString closest = Closest(word, known);
-    return closest.isEmpty() ? QString() : QStringLiteral("; did you mean %1?").arg(closest);
+    return Question(Closest(word, known));
 }
 
 QString DidYouMeanOneOf(const QString& word, const QStringList& known)
@@ -67,17 +71,16 @@ QString DidYouMeanOneOf(const QString& word, const QStringList& known)
     const auto shortest =
         std::min_element(holders.begin(), holders.end(),
                          [](const QString& a, const QString& b) { return a.size() < b.size(); });
-    if (word.isEmpty() || shortest != holders.end())
-        return DidYouMean(word.isEmpty() ? word : *shortest, known);
-    const QString whole = DidYouMean(word, known);
+    if (shortest != holders.end())
+        return Question(word.isEmpty() ? QString() : *shortest);
+    const QString whole = Closest(word, known);
     if (!whole.isEmpty())
-        return whole;
+        return Question(whole);
     QStringList beginnings;
     const int words = word.count(QLatin1Char(' ')) + 1;
     for (const QString& name : known)
         beginnings.append(name.section(QLatin1Char(' '), 0, words - 1));
-    const int closest = beginnings.indexOf(Closest(word, beginnings));
-    return closest < 0 ? QString() : DidYouMean(known[closest], known);
+    return Question(known.value(beginnings.indexOf(Closest(word, beginnings))));
 }
 
 } // namespace AnimText
