@@ -18,14 +18,13 @@ QStringList UnseenWords(const LaidOut& text)
     for (const UnseenCharacter& character : text.unseen.mid(0, mostListed)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
         const bool isMark = QChar::category(character.codePoint) <= QChar::Mark_Enclosing;
-        words.append(
-            QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
-                .arg(text.styled.text.left(character.index).toUcs4().size() + 1)
-                .arg(QString::fromUcs4(&character.codePoint, 1),
-                     code.rightJustified(4, QLatin1Char('0')),
-                     isMark ? QStringLiteral("is left out") : QStringLiteral("leaves a gap"),
-                     character.missing ? QStringLiteral("no installed font has it")
-                                       : QStringLiteral("its font has a picture, no outline")));
+        words.append(QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
+                         .arg(text.styled.text.left(character.index).toUcs4().size() + 1)
+                         .arg(QString::fromUcs4(&character.codePoint, 1),
+                              code.rightJustified(4, QLatin1Char('0')),
+                              isMark ? "is left out" : "leaves a gap",
+                              character.missing ? "no installed font has it"
+                                                : "its font has a picture, no outline"));
     }
     if (text.unseen.size() > mostListed)
         words.append(
@@ -39,16 +38,14 @@ QStringList LossesInWords(const LaidOut& text)
     QStringList lines;
     QStringList words;
     for (const QString& word : text.tornWords.mid(0, mostListed))
-        words.append(word.size() > longestWord ? word.left(longestWord) + QStringLiteral("...")
-                                               : word);
+        words.append(word.size() > longestWord ? word.left(longestWord) + "..." : word);
     if (!words.isEmpty())
-        lines.append(
-            QStringLiteral("%1 wider than a page and split: %2%3")
-                .arg(text.tornWords.size() == 1
-                         ? QStringLiteral("a word is")
-                         : QStringLiteral("%1 words are").arg(text.tornWords.size()),
-                     words.join(QStringLiteral(", ")),
-                     text.tornWords.size() > mostListed ? QStringLiteral(" ...") : QString()));
+        lines.append(QStringLiteral("%1 wider than a page and split: %2%3")
+                         .arg(text.tornWords.size() == 1
+                                  ? "a word is"
+                                  : QStringLiteral("%1 words are").arg(text.tornWords.size()),
+                              words.join(", "),
+                              text.tornWords.size() > mostListed ? " ..." : QString()));
     if (text.cutAbove > 0 || text.cutBelow > 0)
         lines.append(QStringLiteral("letters are cut off: %1 pixels above the area, %2 pixels "
                                     "below; --fit height avoids this")
@@ -74,17 +71,14 @@ QByteArray Summary(const QString& path, const AuthoredNode& text)
 {
     const SceneNode& node = text.node;
     const NodeMotion motion = MotionOf(node);
-    const QString pages =
-        text.pages == 1 ? QStringLiteral("one page") : QStringLiteral("%1 pages").arg(text.pages);
+    const QString pages = text.pages == 1 ? "one page" : QStringLiteral("%1 pages").arg(text.pages);
     const auto number = [](int value) { return QString::number(value); };
     const int count = text.styled.text.toUcs4().size();
     return QStringLiteral("Wrote %1: %2 in %3, %4 x %5 pixels; %6, %7 of %8 x %9\n")
-        .arg(path,
-             count == 1 ? QStringLiteral("one character")
-                        : QStringLiteral("%1 characters").arg(count),
+        .arg(path, count == 1 ? "one character" : QStringLiteral("%1 characters").arg(count),
              text.styled.runs.first().font.family(), number(text.size.width()),
              number(text.size.height()), QLatin1String(motion.Row()->name),
-             motion.IsScroll() ? QStringLiteral("an area") : pages, number(node.size.width()),
+             motion.IsScroll() ? "an area" : pages, number(node.size.width()),
              number(node.size.height()))
         .toUtf8();
 }

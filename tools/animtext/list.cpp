@@ -16,7 +16,7 @@ constexpr int longestText = 40; // characters of a text that are listed
 QString MotionName(const SceneNode& node)
 {
     const Motion* motion = MotionOf(node).Row();
-    return motion ? QLatin1String(motion->name) : QStringLiteral("unknown");
+    return motion ? QString(motion->name) : "unknown";
 }
 
 int SpeedOf(const SceneNode& node)
@@ -29,17 +29,16 @@ QByteArray AsJson(const Scene& scene)
     QJsonArray texts;
     for (const Place& place : scene.Places()) {
         const SceneNode& node = scene.At(place);
-        texts.append(QJsonObject{
-            {QStringLiteral("number"), texts.size() + 1},
-            {QStringLiteral("path"), place.Path()},
-            {QStringLiteral("page"), place.page + 1},
-            {QStringLiteral("area"), place.area + 1},
-            {QStringLiteral("text"), node.attributes.value(QStringLiteral("Text")).toString()},
-            {QStringLiteral("motion"), MotionName(node)},
-            {QStringLiteral("speed"), SpeedOf(node)},
-            {QStringLiteral("hold"), node.hold},
-            {QStringLiteral("pos"), QJsonArray{node.pos.x(), node.pos.y()}},
-            {QStringLiteral("size"), QJsonArray{node.size.width(), node.size.height()}}});
+        texts.append(QJsonObject{{"number", texts.size() + 1},
+                                 {"path", place.Path()},
+                                 {"page", place.page + 1},
+                                 {"area", place.area + 1},
+                                 {"text", node.attributes.value("Text").toString()},
+                                 {"motion", MotionName(node)},
+                                 {"speed", SpeedOf(node)},
+                                 {"hold", node.hold},
+                                 {"pos", QJsonArray{node.pos.x(), node.pos.y()}},
+                                 {"size", QJsonArray{node.size.width(), node.size.height()}}});
     }
     return QJsonDocument(texts).toJson(QJsonDocument::Indented);
 }
@@ -50,9 +49,9 @@ QByteArray AsText(const Scene& scene)
     int number = 0;
     for (const Place& place : scene.Places()) {
         const SceneNode& node = scene.At(place);
-        QString words = node.attributes.value(QStringLiteral("Text")).toString().simplified();
+        QString words = node.attributes.value("Text").toString().simplified();
         if (words.size() > longestText)
-            words = words.left(longestText - 3) + QStringLiteral("...");
+            words = words.left(longestText - 3) + "...";
         text += QStringLiteral("%1  page %2 area %3  %4 x %5 at %6,%7  %8, speed %9")
                     .arg(++number, 3)
                     .arg(place.page + 1)

@@ -69,8 +69,8 @@ bool PutAuthored(const AuthoredNode& authored, const Destination& destination, S
         node.files[key] = DataFileName(scene->path, content, suffix);
         dataFiles->insert(node.files[key], content);
     };
-    add(QStringLiteral("PathData"), authored.pathFile, QStringLiteral("path"));
-    add(QStringLiteral("DescentVector"), authored.descentFile, QStringLiteral("descent"));
+    add("PathData", authored.pathFile, "path");
+    add("DescentVector", authored.descentFile, "descent");
     if (!Put(node, destination, scene, place, error))
         return false;
     if (!destination.display.isEmpty())

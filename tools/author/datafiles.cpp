@@ -42,7 +42,7 @@ QString NameDigest(const QByteArray& content)
  */
 QByteArray EndOf(const QString& name)
 {
-    static const QRegularExpression end(QStringLiteral("[a-z0-9_-]*\\.[^.]*\\.[^.]*$"));
+    static const QRegularExpression end("[a-z0-9_-]*\\.[^.]*\\.[^.]*$");
     return end.match(name.toLower()).captured().toLatin1();
 }
 
@@ -122,26 +122,25 @@ private:
         if (info.isSymLink())
             SearchText(info.symLinkTarget().toUtf8());
         if (!info.isFile())
-            return info.exists() ? QStringLiteral("it is not a regular file")
-                                 : QStringLiteral("it is a broken link");
+            return info.exists() ? "it is not a regular file" : "it is a broken link";
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return file.errorString();
         if (IsData(file.peek(16), file.size()))
             return QString();
         if (++files > mostFiles || file.size() > largestSearched || bytes + file.size() > mostBytes)
-            return QStringLiteral("there is too much to search");
+            return "there is too much to search";
         bytes += file.size();
         const QByteArray content = file.readAll();
         if (content.size() != file.size())
-            return file.error() == QFile::NoError ? QStringLiteral("it changed while it was read")
+            return file.error() == QFile::NoError ? "it changed while it was read"
                                                   : file.errorString();
         SearchText(content);
         const QList<QByteArray> lines = content.trimmed().split('\n'); // of a trace, say
         return !LooksLikeJson(content) || IsJson(content) ||
                        std::all_of(lines.begin(), lines.end(), IsJson)
                    ? QString()
-                   : QStringLiteral("it looks like JSON but is not valid");
+                   : "it looks like JSON but is not valid";
     }
 
     void SearchText(const QByteArray& content)
@@ -201,7 +200,7 @@ Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates)
     if (!doubt.isEmpty())
         return {{}, doubt};
     // Unreadable files in the parent folder, which may be /tmp, are no reason to keep anything.
-    search.LookInto(QDir(folder.filePath(QStringLiteral(".."))));
+    search.LookInto(QDir(folder.filePath("..")));
     return {search.Unnamed(), {}};
 }
 

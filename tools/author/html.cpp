@@ -60,11 +60,11 @@ StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* note
             text.Append(fragment.text().remove(QChar::ObjectReplacementCharacter), style);
         }
         if (block.next().isValid())
-            text.Append(QStringLiteral("\n"), text.runs.isEmpty() ? base : text.runs.last());
+            text.Append("\n", text.runs.isEmpty() ? base : text.runs.last());
     }
     if (!lost.isEmpty())
-        notes->append(QStringLiteral("left out because signs cannot show them: %1")
-                          .arg(lost.join(QStringLiteral(", "))));
+        notes->append(
+            QStringLiteral("left out because signs cannot show them: %1").arg(lost.join(", ")));
     return text;
 }
 

@@ -17,7 +17,7 @@ class MarkupReader
 public:
     MarkupReader(const QString& markup, const StyleRun& base, StyledText* text)
         : markup(markup)
-        , xml(opening + markup + QStringLiteral("</text>"))
+        , xml(opening + markup + "</text>")
         , text(text)
     {
         styles.append(base);
@@ -32,9 +32,7 @@ public:
             case QXmlStreamReader::Characters:
                 text->Append(xml.text().toString(), styles.last());
                 break;
-            case QXmlStreamReader::DTD:
-                xml.raiseError(QStringLiteral("unexpected <!DOCTYPE"));
-                break;
+            case QXmlStreamReader::DTD: xml.raiseError("unexpected <!DOCTYPE"); break;
             default: break;
             }
         }
@@ -48,7 +46,7 @@ public:
                 .arg(xml.errorString().simplified(),
                      xml.error() == QXmlStreamReader::CustomError
                          ? QString()
-                         : QStringLiteral(" Close every tag; write &lt; for < and &amp; for &"));
+                         : " Close every tag; write &lt; for < and &amp; for &");
         return false;
     }
 
@@ -56,19 +54,19 @@ private:
     void Open()
     {
         StyleRun style = styles.last();
-        const bool isOuter = styles.size() == 1 && xml.name() == QLatin1String("text");
-        if (xml.name() == QLatin1String("b"))
+        const bool isOuter = styles.size() == 1 && xml.name() == "text";
+        if (xml.name() == "b")
             style.font.setBold(true);
-        else if (xml.name() == QLatin1String("i"))
+        else if (xml.name() == "i")
             style.font.setItalic(true);
-        else if (xml.name() == QLatin1String("u"))
+        else if (xml.name() == "u")
             style.font.setUnderline(true);
-        else if (!isOuter && xml.name() != QLatin1String("font"))
+        else if (!isOuter && xml.name() != "font")
             xml.raiseError(QStringLiteral("unknown tag <%1>; expected <b>, <i>, <u> or <font>")
                                .arg(xml.name().toString()));
         for (const QXmlStreamAttribute& attribute : xml.attributes()) {
             const QString fault =
-                xml.name() == QLatin1String("font")
+                xml.name() == "font"
                     ? Apply(attribute.name().toString(), attribute.value().toString(), &style)
                     : QStringLiteral("<%1> takes no attributes").arg(xml.name().toString());
             if (!fault.isEmpty())
@@ -80,16 +78,16 @@ private:
     /** Applies an attribute of <font>. @return what is wrong with it, or empty */
     QString Apply(const QString& name, const QString& value, StyleRun* style)
     {
-        if (name == QLatin1String("face")) {
+        if (name == "face") {
             QString family;
             QString fault;
             if (FindFamily(value, &family, &fault))
                 style->font.setFamily(family);
             return fault;
         }
-        if (name == QLatin1String("size"))
+        if (name == "size")
             return ApplySize(value, style);
-        if (name == QLatin1String("color")) {
+        if (name == "color") {
             QString hint;
             return ReadColor(value, &style->color, &hint)
                        ? QString()
@@ -101,24 +99,24 @@ private:
 
     QString ApplySize(const QString& value, StyleRun* style)
     {
-        static const QRegularExpression form(QStringLiteral("^(\\d{1,6})(px|pt|%|)$"));
+        static const QRegularExpression form("^(\\d{1,6})(px|pt|%|)$");
         const QRegularExpressionMatch match = form.match(value);
         const QString unit = match.captured(2);
         const qreal number = match.captured(1).toInt();
-        const qreal size = unit == QLatin1String("pt")  ? number * 96 / 72
-                           : unit == QLatin1String("%") ? number * style->font.pixelSize() / 100
-                                                        : number;
+        const qreal size = unit == "pt"  ? number * 96 / 72
+                           : unit == "%" ? number * style->font.pixelSize() / 100
+                                         : number;
         if (!match.hasMatch() || qRound(size) < 1 || size > largestFontSize)
             return QStringLiteral(
                        "size is \"%2\"; expected 1 to %1 pixels, such as 32, 32px, 24pt or 150%")
                 .arg(largestFontSize)
                 .arg(value);
         style->font.setPixelSize(qRound(size));
-        text->sized = text->sized || unit != QLatin1String("%");
+        text->sized = text->sized || unit != "%";
         return QString();
     }
 
-    const QString opening = QStringLiteral("<text>");
+    const QString opening = "<text>";
     const QString markup;
     QXmlStreamReader xml;
     QVector<StyleRun> styles; // the innermost last
@@ -131,7 +129,7 @@ bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, 
                  QString* error)
 {
     const QString start = markup.trimmed().left(9).toLower();
-    if (start.startsWith(QLatin1String("<html")) || start == QLatin1String("<!doctype")) {
+    if (start.startsWith("<html") || start == "<!doctype") {
         *text = FromHtml(markup, base, notes);
         return true;
     }

@@ -135,9 +135,9 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
         return Storing::Refused;
     };
     if (info.isDir())
-        return refuse(QStringLiteral("is a folder; expected a file name"));
-    if (info.suffix().toLower() != QLatin1String("json"))
-        return refuse(QStringLiteral("expected a name that ends in .json"));
+        return refuse("is a folder; expected a file name");
+    if (info.suffix().toLower() != "json")
+        return refuse("expected a name that ends in .json");
     if (!folder.exists())
         return refuse(QStringLiteral("the folder %1 does not exist").arg(folder.path()));
     QString target;

@@ -17,12 +17,11 @@ namespace {
 /** Names on the command line and in the scene file. */
 const QMap<QString, QString>& Aliases()
 {
-    static const QMap<QString, QString> aliases = {
-        {QStringLiteral("effect"), QStringLiteral("AnimationEffect")},
-        {QStringLiteral("scroll"), QStringLiteral("ContinueStyle")},
-        {QStringLiteral("plays"), QStringLiteral("PlayTimes")},
-        {QStringLiteral("hollow"), QStringLiteral("Hollow")},
-        {QStringLiteral("color"), QStringLiteral("Color")}};
+    static const QMap<QString, QString> aliases = {{"effect", "AnimationEffect"},
+                                                   {"scroll", "ContinueStyle"},
+                                                   {"plays", "PlayTimes"},
+                                                   {"hollow", "Hollow"},
+                                                   {"color", "Color"}};
     return aliases;
 }
 
@@ -39,12 +38,12 @@ int Kind(const NodeMotion& motion)
 bool Suits(MotionTraits traits, const SceneNode& node, const QString& pathFile)
 {
     const QVector<QRectF> ink = LookIntoPathFile(pathFile).ink;
-    const auto rows = node.lists.value(QStringLiteral("TextWidth"));
+    const auto rows = node.lists.value("TextWidth");
     bool isInPlace = true;
     int widestLetter = 0;
     int widestSpace = 0;
     for (int i = 0; i < ink.size(); ++i) {
-        const int width = rows.value(i).value(QStringLiteral("text_width")).toInt();
+        const int width = rows.value(i).value("text_width").toInt();
         int& widest = ink[i].isEmpty() ? widestSpace : widestLetter;
         widest = qMax(widest, width);
         const qreal middle = ink[i].center().x();
@@ -56,7 +55,7 @@ bool Suits(MotionTraits traits, const SceneNode& node, const QString& pathFile)
 
 QString ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const QString& value)
 {
-    const bool scroll = key == QLatin1String("ContinueStyle");
+    const bool scroll = key == "ContinueStyle";
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
     const Motion* motion = !scroll    ? FindEffect(value)
@@ -64,10 +63,10 @@ QString ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, co
                                       : FindScroll(value);
     if (!motion)
         return QStringLiteral("unknown %1 \"%2\"; animtext effects lists them")
-            .arg(scroll ? QStringLiteral("scroll") : QStringLiteral("effect"), value);
+            .arg(scroll ? "scroll" : "effect", value);
     const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, motion->number};
     const NodeMotion now = MotionOf(*node);
-    const QString pathFile = scene.FullName(node->files.value(QStringLiteral("PathData")));
+    const QString pathFile = scene.FullName(node->files.value("PathData"));
     if (Kind(next) != Kind(now) || !Suits(next.Traits() & ~now.Traits(), *node, pathFile))
         return QStringLiteral("%1 needs another layout; use animtext author --replace")
             .arg(QLatin1String(motion->name));
@@ -95,14 +94,14 @@ QString SetColor(SceneNode* node, const QString& value)
     if (!ReadColor(value, &color, &hint))
         return QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2")
             .arg(value, hint);
-    for (auto& row : node->lists[QStringLiteral("TextAttribute")])
-        row[QStringLiteral("Color")] = QString::number(int(color.rgb() & 0xFFFFFF));
+    for (auto& row : node->lists["TextAttribute"])
+        row["Color"] = QString::number(int(color.rgb() & 0xFFFFFF));
     return QString();
 }
 
 QString SetPos(SceneNode* node, const QString& value)
 {
-    static const QRegularExpression pair(QStringLiteral("^(-?\\d{1,7}),(-?\\d{1,7})$"));
+    static const QRegularExpression pair("^(-?\\d{1,7}),(-?\\d{1,7})$");
     const QRegularExpressionMatch match = pair.match(value);
     if (!match.hasMatch())
         return QStringLiteral("pos is \"%1\"; expected two whole numbers such as 16,0").arg(value);
@@ -125,10 +124,9 @@ QString SetHold(SceneNode* node, const QString& value)
 QStringList Known()
 {
     QStringList keys = KeysOf(Home::Attributes) + Aliases().keys();
-    keys += {QStringLiteral("speed"), QStringLiteral("hold"), QStringLiteral("pos"),
-             QStringLiteral("neonEffect"), QStringLiteral("Color")};
-    keys.removeAll(QStringLiteral("EffectType"));
-    keys.removeAll(QStringLiteral("Text"));
+    keys += {"speed", "hold", "pos", "neonEffect", "Color"};
+    keys.removeAll("EffectType");
+    keys.removeAll("Text");
     return keys;
 }
 
@@ -138,23 +136,23 @@ QString SetValue(Scene* scene, const Place& place, const QString& word, const QS
 {
     SceneNode* node = &scene->At(place);
     QString key = Aliases().value(word, word);
-    if (key == QLatin1String("speed"))
+    if (key == "speed")
         key = MotionOf(*node).SpeedKey();
     const Attribute* attribute = FindAttribute(Home::Attributes, key);
     if (!attribute)
         attribute = FindAttribute(Home::Node, key);
-    if (key == QLatin1String("AnimationEffect") || key == QLatin1String("ContinueStyle"))
+    if (key == "AnimationEffect" || key == "ContinueStyle")
         return ChangeMotion(*scene, node, key, value);
-    if (key == QLatin1String("Color"))
+    if (key == "Color")
         return SetColor(node, value);
-    if (key == QLatin1String("pos"))
+    if (key == "pos")
         return SetPos(node, value);
-    if (key == QLatin1String("hold"))
+    if (key == "hold")
         return SetHold(node, value);
     if (attribute && Known().contains(key))
         return ChangeNumber(node, word, *attribute, value);
     return QStringLiteral("%1 cannot be set; expected one of %2%3")
-        .arg(word, Known().join(QStringLiteral(", ")), DidYouMean(word, Known()));
+        .arg(word, Known().join(", "), DidYouMean(word, Known()));
 }
 
 } // namespace AnimText

@@ -24,7 +24,7 @@ int Number(const QHash<QString, QString>& row, const char* field)
 StyleRun StyleOf(const QHash<QString, QString>& row)
 {
     StyleRun run;
-    run.font = QFont(row.value(QStringLiteral("fontName")));
+    run.font = QFont(row.value("fontName"));
     run.font.setPixelSize(qMax(1, qRound(Number(row, "fontSize") * 96 / 72.0)));
     run.font.setBold(Number(row, "bold") == 1);
     run.font.setItalic(Number(row, "italic") == 1);
@@ -37,21 +37,21 @@ QJsonObject ToJson(const TextSource& source)
 {
     QJsonArray runs;
     for (const StyleRun& run : source.text.runs)
-        runs.append(QJsonObject{{QStringLiteral("begin"), run.begin},
-                                {QStringLiteral("font"), run.font.family()},
-                                {QStringLiteral("size"), run.font.pixelSize()},
-                                {QStringLiteral("bold"), run.font.bold()},
-                                {QStringLiteral("italic"), run.font.italic()},
-                                {QStringLiteral("underline"), run.font.underline()},
-                                {QStringLiteral("color"), run.color.name()}});
-    return {{QStringLiteral("text"), source.text.text},
-            {QStringLiteral("name"), source.name},
-            {QStringLiteral("runs"), runs},
-            {QStringLiteral("fit"), int(source.fit)},
-            {QStringLiteral("align"), int(source.align)},
-            {QStringLiteral("valign"), int(source.valign)},
-            {QStringLiteral("padding"), source.padding},
-            {QStringLiteral("keepsWords"), source.keepsWords}};
+        runs.append(QJsonObject{{"begin", run.begin},
+                                {"font", run.font.family()},
+                                {"size", run.font.pixelSize()},
+                                {"bold", run.font.bold()},
+                                {"italic", run.font.italic()},
+                                {"underline", run.font.underline()},
+                                {"color", run.color.name()}});
+    return {{"text", source.text.text},
+            {"name", source.name},
+            {"runs", runs},
+            {"fit", int(source.fit)},
+            {"align", int(source.align)},
+            {"valign", int(source.valign)},
+            {"padding", source.padding},
+            {"keepsWords", source.keepsWords}};
 }
 
 template <typename Enumeration>
@@ -63,28 +63,28 @@ Enumeration OneOf(const QJsonValue& value, Enumeration last)
 TextSource FromJson(const QJsonObject& json)
 {
     TextSource source;
-    source.text.text = json.value(QStringLiteral("text")).toString();
-    source.name = json.value(QStringLiteral("name")).toString();
-    for (const auto& value : json.value(QStringLiteral("runs")).toArray()) {
+    source.text.text = json.value("text").toString();
+    source.name = json.value("name").toString();
+    for (const auto& value : json.value("runs").toArray()) {
         const QJsonObject object = value.toObject();
         StyleRun run;
-        run.begin = object.value(QStringLiteral("begin")).toInt();
-        run.font = QFont(object.value(QStringLiteral("font")).toString());
-        run.font.setPixelSize(qMax(1, object.value(QStringLiteral("size")).toInt()));
-        run.font.setBold(object.value(QStringLiteral("bold")).toBool());
-        run.font.setItalic(object.value(QStringLiteral("italic")).toBool());
-        run.font.setUnderline(object.value(QStringLiteral("underline")).toBool());
-        run.color = QColor(object.value(QStringLiteral("color")).toString());
+        run.begin = object.value("begin").toInt();
+        run.font = QFont(object.value("font").toString());
+        run.font.setPixelSize(qMax(1, object.value("size").toInt()));
+        run.font.setBold(object.value("bold").toBool());
+        run.font.setItalic(object.value("italic").toBool());
+        run.font.setUnderline(object.value("underline").toBool());
+        run.color = QColor(object.value("color").toString());
         // Whoever wrote the file: the first run begins at 0, and the others follow in order.
         const QVector<StyleRun>& runs = source.text.runs;
         run.begin = runs.isEmpty() ? 0 : qMax(runs.last().begin + 1, run.begin);
         source.text.runs.append(run);
     }
-    source.fit = OneOf(json.value(QStringLiteral("fit")), Fit::Both);
-    source.align = OneOf(json.value(QStringLiteral("align")), Align::Right);
-    source.valign = OneOf(json.value(QStringLiteral("valign")), VAlign::Bottom);
-    source.padding = qMax(0, json.value(QStringLiteral("padding")).toInt());
-    source.keepsWords = json.value(QStringLiteral("keepsWords")).toBool(true);
+    source.fit = OneOf(json.value("fit"), Fit::Both);
+    source.align = OneOf(json.value("align"), Align::Right);
+    source.valign = OneOf(json.value("valign"), VAlign::Bottom);
+    source.padding = qMax(0, json.value("padding").toInt());
+    source.keepsWords = json.value("keepsWords").toBool(true);
     return source;
 }
 
@@ -99,8 +99,8 @@ bool operator==(const TextSource& a, const TextSource& b)
 TextSource SourceOf(const SceneNode& node)
 {
     TextSource source;
-    const QString text = node.attributes.value(QStringLiteral("Text")).toString();
-    const auto rows = node.lists.value(QStringLiteral("TextAttribute"));
+    const QString text = node.attributes.value("Text").toString();
+    const auto rows = node.lists.value("TextAttribute");
     StyleRun style = StyleOf(rows.value(0));
     for (int i = 0; i < text.size(); ++i) {
         if (i < rows.size())
@@ -116,7 +116,7 @@ QByteArray LayoutDigest(const SceneNode& node)
 {
     SceneNode layout;
     layout.size = node.size;
-    layout.attributes[QStringLiteral("Text")] = node.attributes.value(QStringLiteral("Text"));
+    layout.attributes["Text"] = node.attributes.value("Text");
     layout.lists = node.lists;
     // The part of a data file's name after the scene's is a digest of its content.
     for (const char* key : {"PathData", "DescentVector"}) {
@@ -132,7 +132,7 @@ QByteArray LayoutDigest(const SceneNode& node)
 
 QString SourcesName(const QString& scenePath)
 {
-    const QString suffix = QStringLiteral(".sources");
+    const QString suffix = ".sources";
     return Shortened(QFileInfo(scenePath).completeBaseName(), longestName - suffix.size()) + suffix;
 }
 
@@ -149,16 +149,14 @@ QByteArray SourcesToJson(const TextSources& sources)
     QJsonObject json;
     for (auto source = sources.begin(); source != sources.end(); ++source)
         json.insert(QString::fromLatin1(source.key()), ToJson(source.value()));
-    return QJsonDocument(QJsonObject{{QStringLiteral("sources"), json}}).toJson();
+    return QJsonDocument(QJsonObject{{"sources", json}}).toJson();
 }
 
 TextSources SourcesFromJson(const QByteArray& json)
 {
     TextSources sources;
-    const QJsonObject list = QJsonDocument::fromJson(WithMarksEscaped(json))
-                                 .object()
-                                 .value(QStringLiteral("sources"))
-                                 .toObject();
+    const QJsonObject list =
+        QJsonDocument::fromJson(WithMarksEscaped(json)).object().value("sources").toObject();
     for (auto it = list.begin(); it != list.end(); ++it) {
         const TextSource source = FromJson(it.value().toObject());
         if (!source.text.runs.isEmpty())

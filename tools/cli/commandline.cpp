@@ -20,8 +20,8 @@ Misuse UnknownOption(const Command& command, const QString& word)
 {
     QStringList names;
     for (const Option& option : command.options)
-        names.append(QStringLiteral("--") + QLatin1String(option.name));
-    const QString meant = word.startsWith(QLatin1String("--")) ? word : QLatin1Char('-') + word;
+        names.append("--" + QLatin1String(option.name));
+    const QString meant = word.startsWith("--") ? word : QLatin1Char('-') + word;
     return {QStringLiteral("unknown option %1%2").arg(word, DidYouMean(meant, names))};
 }
 
@@ -31,8 +31,8 @@ Misuse UnknownOption(const Command& command, const QString& word)
  */
 QStringList WithLoneValues(const Command& command, QStringList words)
 {
-    for (int i = 0; i < words.size() && words.at(i) != QLatin1String("--"); ++i) {
-        const bool isLong = words.at(i).startsWith(QLatin1String("--"));
+    for (int i = 0; i < words.size() && words.at(i) != "--"; ++i) {
+        const bool isLong = words.at(i).startsWith("--");
         const Option* option = isLong ? FindOption(command, words.at(i).mid(2)) : nullptr;
         const bool isAlone = i + 1 == words.size() || words.at(i + 1).startsWith(QLatin1Char('-'));
         if (option && option->alone && isAlone)

@@ -51,13 +51,13 @@ QByteArray Overview(const QVector<Command>& commands)
 
 QByteArray HelpText(const Command& command)
 {
-    QString usage = QStringLiteral("Usage: animtext ") + QLatin1String(command.name);
+    QString usage = "Usage: animtext " + QLatin1String(command.name);
     for (const Option& option : command.options) {
         if (option.isRequired)
             usage +=
                 QStringLiteral(" %1 %2").arg(ShortestName(option), QLatin1String(option.value));
     }
-    usage += QStringLiteral(" [options] ") + QLatin1String(command.arguments);
+    usage += " [options] " + QLatin1String(command.arguments);
     int width = 0;
     for (const Option& option : command.options)
         width = std::max(width, int(Names(option).size()) + 2);
@@ -68,7 +68,7 @@ QByteArray HelpText(const Command& command)
         text += Names(option).leftJustified(width) + Wrapped(HelpWithDefault(option), width) +
                 QLatin1Char('\n');
     }
-    text += QStringLiteral("\nExamples:\n");
+    text += "\nExamples:\n";
     for (const char* example : command.examples)
         text += QStringLiteral("  %1\n").arg(QString::fromUtf8(example));
     return text.toUtf8();

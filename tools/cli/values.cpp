@@ -36,23 +36,21 @@ bool IsWithin(const Option& option, double value)
 /** "plain, linear or radial" */
 QString OneOf(const QStringList& words)
 {
-    return QStringList(words.mid(0, words.size() - 1)).join(QStringLiteral(", ")) +
-           QStringLiteral(" or ") + words.last();
+    return QStringList(words.mid(0, words.size() - 1)).join(", ") + " or " + words.last();
 }
 
 QVariant ToTime(const Option& option, const QString& text)
 {
     double milliseconds = 0;
     if (!ReadTime(text, &milliseconds) || !IsWithin(option, milliseconds / 1000))
-        Refuse(
-            option, text,
-            QStringLiteral("a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds ") +
-                Limits(option));
+        Refuse(option, text,
+               "a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds " +
+                   Limits(option));
     int units = 0;
     if (option.kind == Kind::Time)
         return milliseconds;
     if (!ToHoldUnits(milliseconds, &units))
-        Refuse(option, text, QStringLiteral("whole tenths of a second, such as 2.5s"));
+        Refuse(option, text, "whole tenths of a second, such as 2.5s");
     return units;
 }
 
@@ -80,8 +78,8 @@ QVariant ToPair(const Option& option, const QString& text)
     if (isWithin)
         return QPoint(pair.first, pair.second);
     Refuse(option, text,
-           (option.kind == Kind::Size ? QStringLiteral("a size such as 512x64, each side ")
-                                      : QStringLiteral("two whole numbers such as 16,0, each ")) +
+           (option.kind == Kind::Size ? "a size such as 512x64, each side "
+                                      : "two whole numbers such as 16,0, each ") +
                Limits(option));
 }
 
@@ -91,7 +89,7 @@ QVariant ToRange(const Option& option, const QString& text)
     const bool isOne = !text.contains(QLatin1Char('-'));
     if (!ReadPair(isOne ? text + QLatin1Char('-') + text : text, "(\\d+)-(\\d+)", &ends) ||
         ends.first > ends.second)
-        Refuse(option, text, QStringLiteral("a number such as 5, or a range such as 0-99"));
+        Refuse(option, text, "a number such as 5, or a range such as 0-99");
     return QVariant::fromValue(ends);
 }
 
@@ -126,7 +124,7 @@ QVariant ReadValue(const Option& option, const QString& text)
     case Kind::Color: {
         QColor color;
         if (!ReadColor(text, &color, &hint))
-            Refuse(option, text, QStringLiteral("a color name or #rrggbb") + hint);
+            Refuse(option, text, "a color name or #rrggbb" + hint);
         return color;
     }
     case Kind::Font: {

@@ -36,7 +36,7 @@ bool operator==(const StyledText& a, const StyledText& b)
 
 bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
 {
-    static const QString lineBreaks = QStringLiteral("\n\v\f\r\u0085\u2028\u2029");
+    static const QString lineBreaks = "\n\v\f\r\u0085\u2028\u2029";
     StyledText line;
     line.sized = text->sized;
     int breaks = 0;
@@ -63,21 +63,19 @@ bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
                                   .rightJustified(4, QLatin1Char('0')));
             return false;
         }
-        line.Append(isBreak || isTab ? QStringLiteral(" ") : units.mid(i, paired ? 2 : 1),
-                    text->At(i));
+        line.Append(isBreak || isTab ? " " : units.mid(i, paired ? 2 : 1), text->At(i));
         i += paired ? 1 : 0;
     }
     if (line.text.trimmed().isEmpty()) {
-        *error = line.text.isEmpty() ? QStringLiteral("the text is empty")
-                                     : QStringLiteral("the text has only spaces");
+        *error = line.text.isEmpty() ? "the text is empty" : "the text has only spaces";
         return false;
     }
     *text = line;
     if (breaks > 0)
-        notes->append(breaks == 1 ? QStringLiteral("a line break became a space")
+        notes->append(breaks == 1 ? "a line break became a space"
                                   : QStringLiteral("%1 line breaks became spaces").arg(breaks));
     if (tabs > 0)
-        notes->append(tabs == 1 ? QStringLiteral("a tab became a space")
+        notes->append(tabs == 1 ? "a tab became a space"
                                 : QStringLiteral("%1 tabs became spaces").arg(tabs));
     return true;
 }

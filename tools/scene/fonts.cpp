@@ -15,12 +15,11 @@ QStringList FontFamilies(const QString& filter)
 
 bool FindFamily(const QString& name, QString* family, QString* error)
 {
-    static const QStringList generic{QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
-                                     QStringLiteral("Serif"), QStringLiteral("Monospace")};
+    static const QStringList generic{"Sans", "Sans Serif", "Serif", "Monospace"};
     const QStringList families = FontFamilies();
     *family = name;
     if (families.isEmpty()) {
-        *error = QStringLiteral("no fonts are installed; apt-get install fonts-dejavu-core");
+        *error = "no fonts are installed; apt-get install fonts-dejavu-core";
     } else if (QFileInfo(name).isFile()) {
         const int id = QFontDatabase::addApplicationFont(name);
         *family = QFontDatabase::applicationFontFamilies(id).value(0);

@@ -19,14 +19,13 @@ constexpr int lastDrawnNeon = 28;        // neon styles above show a picture
 QString ReadWords(const CommandLine& line)
 {
     if (line.IsSet("text") == line.IsSet("text-file"))
-        throw Misuse{line.IsSet("text")
-                         ? QStringLiteral("--text and --text-file cannot be combined")
-                         : QStringLiteral("expected --text TEXT or --text-file FILE")};
+        throw Misuse{line.IsSet("text") ? "--text and --text-file cannot be combined"
+                                        : "expected --text TEXT or --text-file FILE"};
     if (line.IsSet("text"))
         return line.Value("text");
 
     const QString name = line.Value("text-file");
-    QFile file(name == QLatin1String("-") ? QStringLiteral("/dev/stdin") : name);
+    QFile file(name == "-" ? "/dev/stdin" : name);
     QByteArray bytes;
     if (file.open(QIODevice::ReadOnly))
         bytes = ReadAtMost(&file, longestTextFile + 1);
@@ -50,7 +49,7 @@ NodeMotion ReadMotion(const CommandLine& line)
     if (!line.IsSet("scroll"))
         return {Mode::Entrance, line.Number("effect")};
     if (line.IsSet("effect"))
-        throw Misuse{QStringLiteral("--effect and --scroll cannot be combined")};
+        throw Misuse{"--effect and --scroll cannot be combined"};
     return {Mode::Scroll, line.Number("scroll")};
 }
 
@@ -60,15 +59,14 @@ Setting ReadSetting(const CommandLine& line, const NodeMotion& motion)
     if (line.IsSet("fit")) {
         setting.fit = line.Number("fit") == 0 ? Fit::Height : Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
-            throw Misuse{QStringLiteral("--fit needs --area and cannot be combined with --size")};
+            throw Misuse{"--fit needs --area and cannot be combined with --size"};
         if (motion.IsScroll() && setting.fit == Fit::Both)
-            throw Misuse{
-                QStringLiteral("--fit both cannot be combined with --scroll; use --fit height")};
+            throw Misuse{"--fit both cannot be combined with --scroll; use --fit height"};
     }
     if (line.IsSet("align")) {
         setting.align = Align(int(Align::Left) + line.Number("align"));
         if (motion.IsSideways())
-            throw Misuse{QStringLiteral("--align cannot be combined with --scroll left or right")};
+            throw Misuse{"--align cannot be combined with --scroll left or right"};
     }
     setting.valign = VAlign(line.Number("valign"));
     setting.padding = line.Number("padding");
@@ -88,25 +86,25 @@ QString FileIn(const CommandLine& line, const char* option)
 void ReadBackground(const CommandLine& line, SceneNode* node)
 {
     if (line.IsSet("dazzle"))
-        node->attributes[QStringLiteral("CheckDazzle")] = 1;
+        node->attributes["CheckDazzle"] = 1;
     if (const int gradient = line.Number("dazzle")) { // 0 is plain
-        node->attributes[QStringLiteral("CheckColorGradient")] = 1;
-        node->attributes[QStringLiteral("ColorGradient")] = gradient - 1;
+        node->attributes["CheckColorGradient"] = 1;
+        node->attributes["ColorGradient"] = gradient - 1;
     }
     if (line.IsSet("picture")) {
         if (!line.IsSet("dazzle"))
-            throw Misuse{QStringLiteral("--picture needs --dazzle")};
-        node->attributes[QStringLiteral("CheckPictureFills")] = 1;
-        node->files[QStringLiteral("FillImage")] = FileIn(line, "picture");
+            throw Misuse{"--picture needs --dazzle"};
+        node->attributes["CheckPictureFills"] = 1;
+        node->files["FillImage"] = FileIn(line, "picture");
     }
     if (line.IsSet("neon"))
-        node->attributes[QStringLiteral("CheckNeonBg")] = 1;
+        node->attributes["CheckNeonBg"] = 1;
     node->neonEffect = line.Number("neon");
     if ((node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"))
         throw Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
                          .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
-        node->files[QStringLiteral("NeonGifPath")] = FileIn(line, "neon-picture");
+        node->files["NeonGifPath"] = FileIn(line, "neon-picture");
 }
 
 Destination ReadDestination(const CommandLine& line)
@@ -121,12 +119,12 @@ Destination ReadDestination(const CommandLine& line)
     destination.area = line.Number("in-area");
     destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && isCounted)
-        throw Misuse{QStringLiteral("--replace cannot be combined with --page or --in-area")};
+        throw Misuse{"--replace cannot be combined with --page or --in-area"};
     if (line.IsSet("replace") && destination.instead.isEmpty())
-        throw Misuse{QStringLiteral("--replace is empty; expected PLACE")};
+        throw Misuse{"--replace is empty; expected PLACE"};
     if (destination.overwrites && destination.isAdded)
-        throw Misuse{QStringLiteral("--overwrite cannot be combined with --append, --page, "
-                                    "--in-area or --replace")};
+        throw Misuse{"--overwrite cannot be combined with --append, --page, "
+                     "--in-area or --replace"};
     return destination;
 }
 
@@ -134,8 +132,7 @@ Destination ReadDestination(const CommandLine& line)
 
 QVector<Option> LayoutOptions()
 {
-    const QStringList dazzles{QStringLiteral("plain"), QStringLiteral("linear"),
-                              QStringLiteral("radial"), QStringLiteral("conical")};
+    const QStringList dazzles{"plain", "linear", "radial", "conical"};
     return {
         Option::File("output", "SCENE.json", "Scene file to write.").Letter('o').Required(),
         Option::Text("text", "TEXT", "Text to show, on one line."),
@@ -160,14 +157,12 @@ QVector<Option> LayoutOptions()
         Option::Size("area", largestSide,
                      "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
         Option::Point("pos", "Position of the area on the display, in pixels.").Or("0,0"),
-        Option::Choice("fit", "WHAT", {QStringLiteral("height"), QStringLiteral("both")},
+        Option::Choice("fit", "WHAT", {"height", "both"},
                        "Fit the text to the area: height, or both for height and width."),
         Option::Choice(
-            "align", "WHERE",
-            {QStringLiteral("left"), QStringLiteral("center"), QStringLiteral("right")},
+            "align", "WHERE", {"left", "center", "right"},
             "Horizontal alignment: left, center or right. Default: the side where reading starts."),
-        Option::Choice("valign", "WHERE",
-                       {QStringLiteral("top"), QStringLiteral("middle"), QStringLiteral("bottom")},
+        Option::Choice("valign", "WHERE", {"top", "middle", "bottom"},
                        "Vertical alignment: top, middle or bottom.")
             .Or("middle"),
         Option::Number("padding", 0, largestSide, "Free space on each side, in pixels.").Or("0"),
@@ -214,7 +209,7 @@ SceneNode ReadLook(const CommandLine& line)
     node.size = line.Size("area");
     node.hold = line.Number("hold");
     if (line.IsSet("hollow"))
-        node.attributes[QStringLiteral("Hollow")] = 1;
+        node.attributes["Hollow"] = 1;
     return node;
 }
 
@@ -231,7 +226,7 @@ AuthorRequest ReadRequest(const CommandLine& line)
     ReadBackground(line, &request.node);
     request.node.pos = line.Point("pos");
     request.node.attributes[request.motion.SpeedKey()] = line.Number("speed");
-    request.node.attributes[QStringLiteral("PlayTimes")] = line.Number("plays");
+    request.node.attributes["PlayTimes"] = line.Number("plays");
     request.hasPlace = line.IsSet("pos");
     request.destination = ReadDestination(line);
     return request;

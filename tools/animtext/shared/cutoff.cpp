@@ -130,11 +130,10 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
         return;
     const int speed = measurement.SpeedThatFits();
     const int hold = speed < 0 ? measurement.HoldThatFits(now) : -1;
-    const QString way = speed >= 0 ? QStringLiteral("speed %1 avoids this").arg(speed)
-                        : hold >= 0
-                            ? QStringLiteral("no speed avoids this, but a hold of %1s does")
-                                  .arg(double(hold) / 10, 0, 'f', 1)
-                            : QStringLiteral("no speed or hold avoids this; use another effect");
+    const QString way = speed >= 0  ? QStringLiteral("speed %1 avoids this").arg(speed)
+                        : hold >= 0 ? QStringLiteral("no speed avoids this, but a hold of %1s does")
+                                          .arg(double(hold) / 10, 0, 'f', 1)
+                                    : "no speed or hold avoids this; use another effect";
     Warn(QStringLiteral("the sign cuts off the last %3 % of this text: planned %1, needs %2; %4")
              .arg(InSeconds(now.planned), InSeconds(now.real))
              .arg(100.0 * double(now.Cut()) / double(now.real), 0, 'f', 0)

@@ -17,14 +17,14 @@ void StopUnlessSaved(Storing storing, const QString& error)
 void WarnOfDoubt(const Stored& stored)
 {
     if (!stored.doubt.isEmpty())
-        Warn(QStringLiteral("kept old data files: ") + stored.doubt);
+        Warn("kept old data files: " + stored.doubt);
 }
 
 QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change)
 {
     const QString path = line.Arguments().at(0);
     if (!QFileInfo::exists(path))
-        throw Failure{BadInput, path + QStringLiteral(": no such file")};
+        throw Failure{BadInput, path + ": no such file"};
     QString error;
     Stored stored;
     Place place;
