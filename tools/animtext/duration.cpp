@@ -15,9 +15,9 @@ QString Seconds(qint64 milliseconds)
     return QStringLiteral("%1 s").arg(double(milliseconds) / 1000, 0, 'f', 2);
 }
 
-QString Count(int number, const QString& one, const QString& many)
+QString Ticks(int number)
 {
-    return QStringLiteral("%1 %2").arg(number).arg(number == 1 ? one : many);
+    return QStringLiteral("%1 tick%2").arg(number).arg(number == 1 ? "" : "s");
 }
 
 QString Difference(qint64 planned, qint64 actual)
@@ -25,35 +25,30 @@ QString Difference(qint64 planned, qint64 actual)
     const qint64 difference = actual - planned;
     if (std::llabs(difference) <= tickLength)
         return QStringLiteral("Both times agree to within a tick.");
-    const QString part =
-        planned > 0 ? QStringLiteral(" (%1 %)").arg(
-                          100.0 * double(std::llabs(difference)) / double(planned), 0, 'f', 1)
-                    : QString();
-    return difference > 0
-               ? QStringLiteral("The sign cuts off the last %1%2.").arg(Seconds(difference), part)
-               : QStringLiteral(
-                     "The text ends %1%2 early and plays again until the planned time is over.")
-                     .arg(Seconds(-difference), part);
+    QString length = Seconds(std::llabs(difference));
+    if (planned > 0)
+        length += QString::asprintf(" (%.1f %%)",
+                                    100.0 * double(std::llabs(difference)) / double(planned));
+    return QString(difference > 0
+                       ? "The sign cuts off the last %1."
+                       : "The text ends %1 early and plays again until the planned time is over.")
+        .arg(length);
 }
 
 QString InWords(qint64 planned, const NodePlay& simulation)
 {
     switch (simulation.ending) {
     case Ending::ScrollsOn:
-        return QStringLiteral("Actual: the text reports that it has finished when it starts; the "
-                              "device scrolls it until it is stopped.");
-    case Ending::StandsStill:
-        return QStringLiteral("Actual: the text stands still and never finishes.");
-    case Ending::NothingToPlay: return QStringLiteral("Actual: there is no text to play.");
-    case Ending::TooLong:
-        return QStringLiteral("Actual: the text had not finished when the simulation stopped.");
+        return "Actual: the text reports that it has finished when it starts; the device scrolls "
+               "it until it is stopped.";
+    case Ending::StandsStill: return "Actual: the text stands still and never finishes.";
+    case Ending::NothingToPlay: return "Actual: there is no text to play.";
+    case Ending::TooLong: return "Actual: the text had not finished when the simulation stopped.";
     case Ending::Finishes: break;
     }
     return QStringLiteral("Actual:  %1 (%2 of animation, %3 of holds)\n%4")
-        .arg(Seconds(simulation.FinishedMs()),
-             Count(simulation.animationTicks, QStringLiteral("tick"), QStringLiteral("ticks")),
-             Count(simulation.holdTicks, QStringLiteral("tick"), QStringLiteral("ticks")),
-             Difference(planned, simulation.FinishedMs()));
+        .arg(Seconds(simulation.FinishedMs()), Ticks(simulation.animationTicks),
+             Ticks(simulation.holdTicks), Difference(planned, simulation.FinishedMs()));
 }
 
 QByteArray JsonLine(int node, int nodes, qint64 planned, const NodePlay* simulation)
@@ -80,14 +75,14 @@ QByteArray ToText(int node, int nodes, qint64 planned, const NodePlay* simulatio
 QVector<NodePlay> SimulateAll(Player* player, const Scene& scene, uint seed)
 {
     Progress progress(QStringLiteral("simulating tick"), 0);
-    const auto watch = [&](int tick) {
-        progress.Show(tick);
-        return !Interrupted();
-    };
     WatchForInterruption();
     QString error;
+    const auto watch = [&](int tick) {
+        progress.Show(tick);
+        StopIfInterrupted();
+        return true;
+    };
     const QVector<NodePlay> simulations = Simulate(player, scene, seed, watch, &error);
-    StopIfInterrupted();
     FailUnless(!simulations.isEmpty(), error, BadInput);
     return simulations;
 }
@@ -97,14 +92,13 @@ void PrintTimes(const CommandLine& line, const Playing& playing, const Scene& sc
     const std::unique_ptr<Player> player = playing.Load(scene);
     const int nodes = player->NodeCount();
     const QVector<qint64> planned = player->Durations();
-
     QVector<NodePlay> simulations;
     if (line.IsSet("simulate"))
         simulations = SimulateAll(player.get(), scene, playing.Seed());
     for (int node = 0; node < nodes; ++node) {
         const NodePlay* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
-        Print(line.IsSet("json") ? JsonLine(node, nodes, planned.at(node), simulation)
-                                 : ToText(node, nodes, planned.at(node), simulation));
+        const auto print = line.IsSet("json") ? JsonLine : ToText;
+        Print(print(node, nodes, planned.at(node), simulation));
     }
 }
 

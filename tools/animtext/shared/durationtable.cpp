@@ -7,6 +7,8 @@
 
 #include <hneonnodebase.h>
 
+#include <cmath>
+
 namespace AnimText {
 
 namespace {
@@ -18,13 +20,6 @@ struct Times
     qint64 planned = 0;
     NodePlay actual;
 };
-
-Scene OnlyFirst(const Scene& scene)
-{
-    Scene only = scene;
-    only.pages = {ScenePage{{SceneArea{{*scene.Nodes().first()}}}}};
-    return only;
-}
 
 Times Measure(const Playing& playing, Scene scene, int effect, int speed)
 {
@@ -53,37 +48,36 @@ QByteArray JsonLine(const Motion& effect, int speed, const Times& times)
            '\n';
 }
 
-QByteArray Cell(const Times& times)
+QString Cell(const QString& planned, const QString& actual, const QString& difference)
 {
-    const auto seconds = [](qint64 ms) { return QByteArray::number(double(ms) / 1000, 'f', 1); };
-    QByteArray real = "-";
-    QByteArray difference;
-    const qint64 finished = times.actual.FinishedMs();
-    if (finished >= 0) {
-        real = seconds(finished);
-        if (times.planned > 0) {
-            const double ratio = double(finished) / double(times.planned) - 1;
-            const QByteArray percent = QByteArray::number(100 * ratio, 'f', 0);
-            difference = (percent.startsWith('-') || percent == "0" ? "" : "+") + percent + '%';
-            if (difference == "-0%")
-                difference = "0%";
-        }
-    }
-    return "  |" + seconds(times.planned).rightJustified(9) + real.rightJustified(9) +
-           difference.rightJustified(7);
+    return QStringLiteral("  |%1%2%3").arg(planned, 9).arg(actual, 9).arg(difference, 7);
 }
 
-QByteArray Heading()
+QString Cell(const Times& times)
 {
-    QByteArray speedLine(39, ' ');
-    QByteArray columnLine = " no  " + QByteArray("effect").leftJustified(34);
-    for (int speed : speeds) {
-        speedLine +=
-            "  |" + ("speed " + QByteArray::number(speed)).rightJustified(9) + QByteArray(16, ' ');
-        columnLine += "  |" + QByteArray("planned").rightJustified(9) +
-                      QByteArray("actual").rightJustified(9) + QByteArray("diff").rightJustified(7);
+    const auto seconds = [](qint64 ms) { return QString::number(double(ms) / 1000, 'f', 1); };
+    if (times.actual.FinishedMs() < 0)
+        return Cell(seconds(times.planned), "-", "");
+    QString difference;
+    if (times.planned > 0) {
+        const double ratio = double(times.actual.FinishedMs()) / double(times.planned) - 1;
+        const long percent = std::lround(100 * ratio);
+        difference = QString::asprintf(percent == 0 ? "%ld%%" : "%+ld%%", percent);
     }
-    return speedLine.trimmed().prepend(QByteArray(39 + 2, ' ')) + '\n' + columnLine + '\n';
+    return Cell(seconds(times.planned), seconds(times.actual.FinishedMs()), difference);
+}
+
+QString Heading()
+{
+    QString speedLine(39, ' ');
+    QString columnLine = QStringLiteral(" no  %1").arg("effect", -34);
+    for (int speed : speeds) {
+        speedLine += QStringLiteral("  |%1").arg(QStringLiteral("speed %1").arg(speed), 9);
+        if (speed != speeds[std::size(speeds) - 1])
+            speedLine += QString(16, ' ');
+        columnLine += Cell("planned", "actual", "diff");
+    }
+    return speedLine + '\n' + columnLine + '\n';
 }
 
 } // namespace
@@ -92,7 +86,7 @@ Json ToJson(const NodePlay& play)
 {
     return Json::Object({{"animationTicks", play.animationTicks},
                          {"holdTicks", play.holdTicks},
-                         {"finishedMs", play.finishedTick < 0 ? Json() : Json(play.FinishedMs())}});
+                         {"FinishedMs()", play.finishedTick < 0 ? Json() : Json(play.FinishedMs())}});
 }
 
 void PrintDurationTable(const Playing& playing, const Scene& scene, bool json)
@@ -100,26 +94,26 @@ void PrintDurationTable(const Playing& playing, const Scene& scene, bool json)
     FailUnless(!scene.Nodes().isEmpty(), scene.path + ": $.pages: expected at least one node",
                BadInput);
     const Silence silence;
-    const Scene only = OnlyFirst(scene);
-    QByteArray text =
-        json ? QByteArray()
-             : "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
+    Scene only = scene;
+    only.pages = {ScenePage{{SceneArea{{*scene.Nodes().first()}}}}};
+    QString text;
+    if (!json)
+        text = "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
     Progress progress(QStringLiteral("simulating"), Effects().size() * qint64(std::size(speeds)));
     WatchForInterruption();
     qint64 done = 0;
     for (const Motion& effect : Effects()) {
         if (!json)
-            text += QByteArray::number(effect.number).rightJustified(3) + "  " +
-                    QByteArray(effect.name).leftJustified(34);
+            text += QStringLiteral("%1  %2").arg(effect.number, 3).arg(effect.name, -34);
         for (int speed : speeds) {
             const Times times = Measure(playing, only, effect.number, speed);
-            text += json ? JsonLine(effect, speed, times) : Cell(times);
+            text += json ? QString(JsonLine(effect, speed, times)) : Cell(times);
             progress.Show(++done);
         }
         if (!json)
             text += '\n';
     }
-    Print(text);
+    Print(text.toUtf8());
 }
 
 } // namespace AnimText
