@@ -82,9 +82,9 @@ public:
     {
         Recording desk;
         QString error;
-        const bool played = PlayOnDesk(
-            &player, scene, playing.Seed(), [] { return !Interrupted(); }, &recorded, &desk, wanted,
-            picture, &error);
+        const auto goOn = [] { return !Interrupted(); };
+        const bool played = PlayOnDesk(&player, scene, playing.Seed(), goOn, &recorded, &desk,
+                                       wanted, picture, &error);
         StopIfInterrupted();
         FailUnless(played, error, BadInput);
         return desk;

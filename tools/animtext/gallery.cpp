@@ -6,23 +6,19 @@
 #include "cli/interruption.h"
 #include "cli/progress.h"
 
-#include <algorithm>
-#include <iterator>
+#include <QMap>
 
 namespace AnimText {
 
 namespace {
 
-const char standardText[] = "Welcome aboard!";
-
 // The options of `animtext author` that suit every motion.
-const char* const textOptions[] = {"text",      "font",  "size",   "bold", "italic",
-                                   "underline", "color", "hollow", "hold", "area"};
+const QStringList textOptions{"text",      "font",  "size",   "bold", "italic",
+                              "underline", "color", "hollow", "hold", "area"};
 
 bool IsTextOption(const Option& option)
 {
-    return std::any_of(std::begin(textOptions), std::end(textOptions),
-                       [&](const char* name) { return qstrcmp(name, option.name) == 0; });
+    return textOptions.contains(option.name);
 }
 
 /** @p word quoted for a shell. */
@@ -66,18 +62,16 @@ int MakeGallery(const CommandLine& line)
 
     WatchForInterruption();
     qint64 bytes = 0;
-    bool written = false;
-    {
-        Player player(VirtualDispatcher::Current(), playing.Plugin());
-        std::unique_ptr<Progress> progress;
-        const auto watch = [&](int done, int all) {
-            if (!progress)
-                progress = std::make_unique<Progress>(QStringLiteral("playing"), all);
-            progress->Show(done);
-            return !Interrupted();
-        };
-        written = WriteGallery(options, &player, watch, &bytes, &error);
-    }
+    Player player(VirtualDispatcher::Current(), playing.Plugin());
+    std::unique_ptr<Progress> progress;
+    const auto watch = [&](int done, int all) {
+        if (!progress)
+            progress = std::make_unique<Progress>(QStringLiteral("playing"), all);
+        progress->Show(done);
+        return !Interrupted();
+    };
+    const bool written = WriteGallery(options, &player, watch, &bytes, &error);
+    progress.reset();
     StopIfInterrupted();
     FailUnless(written, error);
     Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")
@@ -92,16 +86,11 @@ int MakeGallery(const CommandLine& line)
 Command GalleryCommand()
 {
     QVector<Option> own{Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
-    for (Option option : LayoutOptions()) {
-        if (!IsTextOption(option))
-            continue;
-        if (qstrcmp(option.name, "text") == 0)
-            option.Or(standardText);
-        if (qstrcmp(option.name, "area") == 0)
-            option.Or("240x48");
-        if (qstrcmp(option.name, "hold") == 0)
-            option.Or("1s");
-        own.append(option);
+    const QMap<QString, const char*> standards{
+        {"text", "Welcome aboard!"}, {"area", "240x48"}, {"hold", "1s"}};
+    for (const Option& option : LayoutOptions()) {
+        if (IsTextOption(option))
+            own.append(option.Or(standards.value(option.name, option.standard)));
     }
     return {"gallery",
             "make a web page that shows every motion",

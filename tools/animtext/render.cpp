@@ -35,29 +35,37 @@ const FilmKind& KindOf(const QString& output)
 /** Throws Misuse when films of that kind cannot be what the options ask for. */
 void CheckKind(const CommandLine& line, const FilmKind& kind)
 {
-    const auto refuse = [&](const char* what) {
-        throw Misuse{
-            QString::fromLatin1(what).replace(QStringLiteral("%1"), QLatin1String(kind.ending))};
-    };
+    const QString films = kind.ending + QStringLiteral(" films");
     const bool transparent = line.IsSet("transparent");
-    if (transparent && line.IsSet("background"))
-        refuse("--transparent and --background cannot be combined");
-    if (transparent && line.IsSet("leds"))
-        refuse("--transparent and --leds cannot be combined; LEDs are drawn on black");
-    if (line.IsSet("leds") && line.IsSet("scale") && line.Number("scale") < smallestLamp)
-        refuse("--leds needs a --scale of at least 4");
-    if (transparent && !kind.Has(FilmKind::Transparent))
-        refuse("%1 films cannot be transparent");
-    if (line.IsSet("lossless") && !kind.Has(FilmKind::Lossless))
-        refuse("%1 films lose colors; use .apng, .webp or .mp4");
-    if (line.IsSet("lossless") && transparent && !kind.Has(FilmKind::LosslessAlpha))
-        refuse("transparent %1 films lose colors; use .apng or .webp");
-    if (line.IsSet("at") && line.IsSet("frames"))
-        refuse("--at and --frames cannot be combined");
+    const bool lossless = line.IsSet("lossless");
+    const bool leds = line.IsSet("leds");
     const bool isOne =
-        line.IsSet("frames") && line.Range("frames").first == line.Range("frames").second;
-    if (kind.Has(FilmKind::Still) && !isOne && !line.IsSet("at"))
-        refuse("a PNG is one picture; choose it with --at or --frames");
+        line.IsSet("at") ||
+        (line.IsSet("frames") && line.Range("frames").first == line.Range("frames").second);
+    const struct
+    {
+        bool isWrong;
+        QString why;
+    } checks[] = {
+        {transparent && line.IsSet("background"),
+         "--transparent and --background cannot be combined"},
+        {transparent && leds,
+         "--transparent and --leds cannot be combined; LEDs are drawn on black"},
+        {leds && line.IsSet("scale") && line.Number("scale") < smallestLamp,
+         "--leds needs a --scale of at least 4"},
+        {transparent && !kind.Has(FilmKind::Transparent), films + " cannot be transparent"},
+        {lossless && !kind.Has(FilmKind::Lossless),
+         films + " lose colors; use .apng, .webp or .mp4"},
+        {lossless && transparent && !kind.Has(FilmKind::LosslessAlpha),
+         "transparent " + films + " lose colors; use .apng or .webp"},
+        {line.IsSet("at") && line.IsSet("frames"), "--at and --frames cannot be combined"},
+        {kind.Has(FilmKind::Still) && !isOne,
+         "a PNG is one picture; choose it with --at or --frames"},
+    };
+    for (const auto& check : checks) {
+        if (check.isWrong)
+            throw Misuse{check.why};
+    }
 }
 
 FilmSettings SettingsFor(const CommandLine& line, const FilmKind& kind, uint seed)
@@ -111,9 +119,7 @@ QString Summary(const QString& output, const FilmKind& kind, const WrittenFilm& 
     QStringList facts{QStringLiteral("%1 x %2").arg(film.size.width()).arg(film.size.height())};
     if (!kind.Has(FilmKind::Still)) {
         facts += QStringLiteral("%1 s").arg(double(film.frames) * tickLength / 1000, 0, 'f', 1);
-        facts += QStringLiteral("%1 %2")
-                     .arg(film.frames)
-                     .arg(film.frames == 1 ? QStringLiteral("frame") : QStringLiteral("frames"));
+        facts += QStringLiteral("%1 frame%2").arg(film.frames).arg(film.frames == 1 ? "" : "s");
     }
     facts += QLocale::c().formattedDataSize(film.bytes, 1, QLocale::DataSizeSIFormat);
     return QStringLiteral("Wrote %1: %2\n").arg(output, facts.join(QStringLiteral(", ")));
@@ -164,13 +170,10 @@ void RenderMany(const CommandLine& line, const QString& folder)
     batch.progress = FormOf(line);
     CheckKind(line, KindOf(batch.ending));
     for (const Option& option : RenderCommand().options) {
-        const QString name = QLatin1String(option.name);
-        static const QStringList ours{QStringLiteral("output"), QStringLiteral("as"),
-                                      QStringLiteral("jobs"), QStringLiteral("resume"),
-                                      QStringLiteral("progress")};
-        if (!line.IsSet(option.name) || ours.contains(name))
+        static const QStringList ours{"output", "as", "jobs", "resume", "progress"};
+        if (!line.IsSet(option.name) || ours.contains(option.name))
             continue;
-        batch.options.append(QStringLiteral("--") + name);
+        batch.options.append(QStringLiteral("--") + option.name);
         if (option.kind != Kind::Flag)
             batch.options.last() += QLatin1Char('=') + line.Value(option.name);
     }
@@ -213,10 +216,7 @@ QVector<Option> Options()
         Option::Flag("transparent", "Transparent background. Not for MP4."),
         Option::Flag("lossless",
                      "Keep every pixel of an MP4 or WebM. Not all players support this."),
-        Option::Choice("as", "KIND",
-                       {QStringLiteral("gif"), QStringLiteral("apng"), QStringLiteral("webp"),
-                        QStringLiteral("mp4"), QStringLiteral("webm"), QStringLiteral("png"),
-                        QStringLiteral("frames")},
+        Option::Choice("as", "KIND", {"gif", "apng", "webp", "mp4", "webm", "png", "frames"},
                        "Render each scene into the folder OUT as gif, apng, webp, mp4, webm, png "
                        "or frames (a folder of PNGs).")
             .Or("gif"),

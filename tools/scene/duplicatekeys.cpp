@@ -54,47 +54,29 @@ QStringList DuplicateKeys(const QByteArray& json)
     QStringList twice;
     QVector<Level> levels;
     bool keyComes = false;
-    for (int i = 0; i < json.size(); ++i) {
-        switch (json.at(i)) {
-        case '{':
-        case '[': {
-            Level level;
-            level.isObject = json.at(i) == '{';
-            keyComes = level.isObject;
-            levels.append(level);
-            if (levels.size() > deepest)
-                return twice;
-            break;
-        }
-        case '}':
-        case ']':
+    for (int i = 0; i < json.size() && levels.size() <= deepest && twice.size() < most; ++i) {
+        const char c = json.at(i);
+        if (c == '{' || c == '[') {
+            keyComes = c == '{';
+            levels.append({keyComes, 0, QString(), {}});
+        } else if (c == '}' || c == ']') {
             if (!levels.isEmpty())
                 levels.removeLast();
             keyComes = false;
-            break;
-        case ',':
-            if (levels.isEmpty())
-                break;
+        } else if (c == ',' && !levels.isEmpty()) {
             keyComes = levels.last().isObject;
             ++levels.last().index;
-            break;
-        case '"': {
-            const int end = EndOfString(json, i);
-            if (keyComes) {
-                Level& object = levels.last();
-                object.key = Unescaped(json.mid(i, end - i + 1));
-                if (object.keys.contains(object.key)) {
-                    twice.append(PathOf(levels));
-                    if (twice.size() == most)
-                        return twice;
-                }
-                object.keys.insert(object.key);
-                keyComes = false;
-            }
-            i = end;
-            break;
-        }
-        default: break;
+        } else if (c == '"') {
+            const int start = i;
+            i = EndOfString(json, start);
+            if (!keyComes)
+                continue;
+            Level& object = levels.last();
+            object.key = Unescaped(json.mid(start, i - start + 1));
+            if (object.keys.contains(object.key))
+                twice.append(PathOf(levels));
+            object.keys.insert(object.key);
+            keyComes = false;
         }
     }
     return twice;

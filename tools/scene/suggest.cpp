@@ -10,25 +10,22 @@ namespace {
 
 int EditDistance(const QString& from, const QString& to)
 {
-    QVector<int> beforeLast(to.size() + 1);
-    QVector<int> last(to.size() + 1);
-    QVector<int> row(to.size() + 1);
-    for (int column = 0; column <= to.size(); ++column)
-        row[column] = column;
-    for (int i = 1; i <= from.size(); ++i) {
-        beforeLast = last;
-        last = row;
-        row[0] = i;
-        for (int j = 1; j <= to.size(); ++j) {
+    QVector<QVector<int>> distance(from.size() + 1, QVector<int>(to.size() + 1));
+    for (int i = 0; i <= from.size(); ++i) {
+        for (int j = 0; j <= to.size(); ++j) {
+            distance[i][j] = i + j; // where one of them is empty
+            if (i == 0 || j == 0)
+                continue;
             const int change = from.at(i - 1) == to.at(j - 1) ? 0 : 1;
-            row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + change});
+            distance[i][j] = std::min(
+                {distance[i - 1][j] + 1, distance[i][j - 1] + 1, distance[i - 1][j - 1] + change});
             const bool swapped =
                 i > 1 && j > 1 && from.at(i - 1) == to.at(j - 2) && from.at(i - 2) == to.at(j - 1);
             if (swapped)
-                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+                distance[i][j] = std::min(distance[i][j], distance[i - 2][j - 2] + 1);
         }
     }
-    return row[to.size()];
+    return distance[from.size()][to.size()];
 }
 
 /**

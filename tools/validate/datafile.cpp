@@ -22,13 +22,13 @@ QString FaultOfOuterLayer(QFile* file)
     file->seek(0);
     const QByteArray head = file->read(4);
     if (head.size() < 4)
-        return QStringLiteral("it has no length of 4 bytes at its beginning");
+        return "it has no length of 4 bytes at its beginning";
     const quint32 length = qFromBigEndian<quint32>(head.constData());
     if (length == nullArray)
-        return QStringLiteral("it holds a null array");
+        return "it holds a null array";
     if (length > size - 4)
         return QStringLiteral("it announces %1 bytes and has %2").arg(length).arg(size - 4);
-    return QStringLiteral("it holds no Base64 text");
+    return "it holds no Base64 text";
 }
 
 /** The bytes inside both layers of the file, or a fault. */
@@ -50,37 +50,23 @@ QByteArray Unwrapped(const QString& path, QString* fault)
 
 QString InWords(const GlyphDataFault& fault)
 {
+    using F = GlyphDataFault;
+    const QString element = QStringLiteral("element %1").arg(fault.element);
+    const QString number = QString::number(fault.number);
+    const QString limit = QString::number(fault.limit);
     switch (fault.kind) {
-    case GlyphDataFault::Sound: break;
-    case GlyphDataFault::TooManyElements:
-        return QStringLiteral("%1 elements, more than %2").arg(fault.number).arg(fault.limit);
-    case GlyphDataFault::UnknownElement:
-        return QStringLiteral("element %1 has the unknown type %2")
-            .arg(fault.element)
-            .arg(fault.number);
-    case GlyphDataFault::NoMoveFirst: return QStringLiteral("it does not begin with a move");
-    case GlyphDataFault::BrokenCurve:
-        return QStringLiteral("the curve before element %1 is broken").arg(fault.element);
-    case GlyphDataFault::FarOut:
-        return QStringLiteral("element %1 is at (%2, %3)")
-            .arg(fault.element)
-            .arg(fault.x, 0, 'g', 9)
-            .arg(fault.y, 0, 'g', 9);
-    case GlyphDataFault::StartOutside:
-        return QStringLiteral("its last contour begins at element %1 of %2")
-            .arg(fault.number)
-            .arg(fault.limit);
-    case GlyphDataFault::UnknownFillRule:
-        return QStringLiteral("it has the unknown fill rule %1").arg(fault.number);
-    case GlyphDataFault::CutOff:
-        return QStringLiteral("it ends within outline %1 of %2")
-            .arg(fault.outline)
-            .arg(fault.limit);
-    case GlyphDataFault::NoCount: return QStringLiteral("it ends before the number of its entries");
-    case GlyphDataFault::CountTooLarge:
-        return QStringLiteral("it announces %1 entries and has room for %2")
-            .arg(fault.number)
-            .arg(fault.limit);
+    case F::Sound: break;
+    case F::TooManyElements: return number + " elements, more than " + limit;
+    case F::UnknownElement: return element + " has the unknown type " + number;
+    case F::NoMoveFirst: return "it does not begin with a move";
+    case F::BrokenCurve: return "the curve before " + element + " is broken";
+    case F::FarOut: return element + QString::asprintf(" is at (%.9g, %.9g)", fault.x, fault.y);
+    case F::StartOutside: return "its last contour begins at element " + number + " of " + limit;
+    case F::UnknownFillRule: return "it has the unknown fill rule " + number;
+    case F::CutOff:
+        return QStringLiteral("it ends within outline %1 of %2").arg(fault.outline).arg(limit);
+    case F::NoCount: return "it ends before the number of its entries";
+    case F::CountTooLarge: return "it announces " + number + " entries and has room for " + limit;
     }
     return QString();
 }

@@ -46,10 +46,9 @@ QVector<Option> FolderOptions()
 int CompareFolder(const CommandLine& line, const QString& folder)
 {
     const QDir dir(folder);
-    const QDir scenes(dir.exists(QStringLiteral("scenes")) ? dir.filePath(QStringLiteral("scenes"))
-                                                           : folder);
-    const QString file = line.IsSet("expected") ? line.Value("expected")
-                                                : dir.filePath(QStringLiteral("expected.txt"));
+    const QDir scenes(dir.exists("scenes") ? dir.filePath("scenes") : folder);
+    const QString file =
+        line.IsSet("expected") ? line.Value("expected") : dir.filePath("expected.txt");
     const bool records = line.IsSet("record");
     Expectation expected;
     QString error;

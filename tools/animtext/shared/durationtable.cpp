@@ -86,7 +86,7 @@ Json ToJson(const NodePlay& play)
 {
     return Json::Object({{"animationTicks", play.animationTicks},
                          {"holdTicks", play.holdTicks},
-                         {"FinishedMs()", play.finishedTick < 0 ? Json() : Json(play.FinishedMs())}});
+                         {"finishedMs", play.finishedTick < 0 ? Json() : Json(play.FinishedMs())}});
 }
 
 void PrintDurationTable(const Playing& playing, const Scene& scene, bool json)

@@ -101,14 +101,16 @@ void CheckLightOptions(const CommandLine& line)
             throw Misuse{
                 QStringLiteral("--%1 with --to needs --window").arg(QLatin1String(option))};
     }
-    const QString pattern = line.Value("test-pattern");
-    if (!line.IsSet("test-pattern") && line.Arguments().isEmpty())
-        throw Misuse{QStringLiteral("expected SCENE.json")};
-    if (line.IsSet("test-pattern") && !line.Arguments().isEmpty())
+    if (!line.IsSet("test-pattern")) {
+        if (line.Arguments().isEmpty())
+            throw Misuse{QStringLiteral("expected SCENE.json")};
+        return;
+    }
+    if (!line.Arguments().isEmpty())
         throw Misuse{QStringLiteral("--test-pattern shows no scene; unexpected argument \"%1\"")
                          .arg(line.Arguments().first())};
-    if (line.IsSet("test-pattern") && pattern != QLatin1String("all") &&
-        !TestPatterns().contains(pattern))
+    const QString pattern = line.Value("test-pattern");
+    if (pattern != QLatin1String("all") && !TestPatterns().contains(pattern))
         throw Misuse{QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
                          .arg(TestPatterns().join(QStringLiteral(", ")), pattern)};
 }
