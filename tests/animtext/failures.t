@@ -33,7 +33,7 @@ An encoder that fails:
   [1]
   $ encoder '/usr/bin/head -c 1310720 | /usr/bin/ffmpeg "$@"; /bin/cat >/dev/null'
   $ render
-  ! animtext: $PWD/old.gif cannot be written: the encoder wrote 10 pictures of 256 x 128 pixels in 0.65 s, where 227 of 256 x 128 in 14.982 s were due
+  ! animtext: $PWD/old.gif cannot be written: the encoder wrote 10 pictures in 0.65 s, where 227 in 14.982 s were due
   [1]
   $ encoder 'kill -INT $PPID; /bin/cat >/dev/null; while :; do :; done'
   $ render

@@ -3,19 +3,6 @@
 
 namespace AnimText {
 
-namespace {
-
-int Remove(const CommandLine& line)
-{
-    ChangeText(line, [](Scene* scene, const Place& place, QString*) {
-        scene->Remove(place);
-        return true;
-    });
-    return Done;
-}
-
-} // namespace
-
 Command RemoveCommand()
 {
     return {"remove",
@@ -26,7 +13,13 @@ Command RemoveCommand()
             "Removes a text with its data files, and its area and page if they become empty. PLACE "
             "is the text's number in animtext list, or its path as in animtext validate.",
             {},
-            Remove,
+            [](const CommandLine& line) {
+                ChangeText(line, [](Scene* scene, const Place& place, QString*) {
+                    scene->Remove(place);
+                    return true;
+                });
+                return int(Done);
+            },
             {"animtext remove sign.json 2",
              "animtext remove sign.json '$.pages[0].areas[0].nodes[0]'"}};
 }

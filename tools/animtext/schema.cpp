@@ -5,16 +5,6 @@
 
 namespace AnimText {
 
-namespace {
-
-int PrintSchema(const CommandLine& line)
-{
-    Print(line.IsSet("tables") ? SceneTables() : SceneSchema());
-    return Done;
-}
-
-} // namespace
-
 Command SchemaCommand()
 {
     return {"schema",
@@ -25,7 +15,10 @@ Command SchemaCommand()
             "Prints the JSON Schema (draft 7) of scene files. Editors use it to complete, check "
             "and explain keys.",
             {Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
-            PrintSchema,
+            [](const CommandLine& line) {
+                Print(line.IsSet("tables") ? SceneTables() : SceneSchema());
+                return int(Done);
+            },
             {"animtext schema >scene.schema.json", "animtext schema --tables"}};
 }
 

@@ -29,31 +29,32 @@ QVector<Option> WithShowOptions(QVector<Option> own)
 
 namespace {
 
-/** Reads a scene; throws Failure if it cannot be read. */
-Scene OpenScene(const CommandLine& line, const QString& path)
+/**
+ * Reads a scene, and prints those of its errors that @p isTold. Throws Failure if it cannot be read
+ * or has errors of the @p kinds that leave nothing to show, unless --force is set.
+ */
+Scene Open(const CommandLine& line, const QString& path, const QList<Mistake>& kinds,
+           bool (*isTold)(const Finding& finding))
 {
-    const MissingFiles missing =
-        line.IsSet("allow-missing-files") ? MissingFiles::AreAccepted : MissingFiles::AreErrors;
+    const bool mayMiss = line.IsSet("allow-missing-files");
     Scene scene;
     QString error;
-    FailUnless(ReadScene(path, &scene, &error, missing), error, BadInput);
-    return scene;
-}
-
-/** Prints @p findings about @p path; throws Failure for those of @p kinds unless --force is set. */
-void Judge(const CommandLine& line, const QString& path, const QList<Finding>& findings,
-           const QList<Mistake>& kinds)
-{
+    FailUnless(ReadScene(path, &scene, &error,
+                         mayMiss ? MissingFiles::AreAccepted : MissingFiles::AreErrors),
+               error, BadInput);
     bool isPlayed = true;
-    for (const Finding& finding : findings) {
+    for (const Finding& finding : ErrorsOf(scene)) {
+        if (!isTold(finding))
+            continue;
         Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
         isPlayed = isPlayed && !kinds.contains(finding.mistake);
     }
     FailUnless(
-        isPlayed || line.IsSet("force") || line.IsSet("allow-missing-files"),
+        isPlayed || line.IsSet("force") || mayMiss,
         QStringLiteral("%1: not played because of these errors; use --force to play it anyway")
             .arg(path),
         BadInput);
+    return scene;
 }
 
 } // namespace
@@ -61,15 +62,10 @@ void Judge(const CommandLine& line, const QString& path, const QList<Finding>& f
 Scene OpenReadableScene(const CommandLine& line, const QString& path)
 {
     static const QList<Mistake> unreadable{Mistake::FileMissing, Mistake::DataMalformed};
-    const Scene scene = OpenScene(line, path);
-    QList<Finding> findings;
-    for (const Finding& finding : ErrorsOf(scene)) {
-        if (unreadable.contains(finding.mistake) &&
-            finding.place.endsWith(QLatin1String(".files.PathData")))
-            findings.append(finding);
-    }
-    Judge(line, path, findings, unreadable);
-    return scene;
+    return Open(line, path, unreadable, [](const Finding& finding) {
+        return unreadable.contains(finding.mistake) &&
+               finding.place.endsWith(QLatin1String(".files.PathData"));
+    });
 }
 
 Scene OpenPlayableScene(const CommandLine& line, const QString& path)
@@ -79,9 +75,7 @@ Scene OpenPlayableScene(const CommandLine& line, const QString& path)
                                               Mistake::CanvasLarge,   Mistake::ModeUnknown,
                                               Mistake::EffectUnknown, Mistake::DirectionUnknown,
                                               Mistake::FileMissing,   Mistake::DataMalformed};
-    const Scene scene = OpenScene(line, path);
-    Judge(line, path, ErrorsOf(scene), nothingToShow);
-    return scene;
+    return Open(line, path, nothingToShow, [](const Finding&) { return true; });
 }
 
 Playing::Playing(const CommandLine& line)
