@@ -59,7 +59,7 @@ QString Obstacle(const QString& path)
     const QByteArray name = QFile::encodeName(path);
     struct stat there = {};
     if (stat(name.constData(), &there) != 0)
-        return errno == ENOENT ? QString() : QString::fromLocal8Bit(std::strerror(errno));
+        return errno == ENOENT ? QString() : SystemError();
     if (S_ISDIR(there.st_mode))
         return QStringLiteral("it is a folder");
     if (!S_ISREG(there.st_mode))
@@ -69,19 +69,23 @@ QString Obstacle(const QString& path)
 
 } // namespace
 
+QString SystemError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
 QString WriteProtection(const QString& path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat there = {};
     if (stat(name.constData(), &there) != 0)
-        return QString::fromLocal8Bit(std::strerror(errno));
+        return SystemError();
     // The system would let root write everything, and owners of a folder replace its files.
     const mode_t needed = there.st_uid == geteuid() ? S_IWUSR : mode_t(S_IWUSR | S_IWGRP | S_IWOTH);
     if ((there.st_mode & needed) == 0)
         return QStringLiteral("it is write-protected; chmod u+w allows writing");
     if (faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0)
-        return QStringLiteral("it is write-protected: %1")
-            .arg(QString::fromLocal8Bit(std::strerror(errno)));
+        return QStringLiteral("it is write-protected: %1").arg(SystemError());
     return QString();
 }
 
@@ -166,7 +170,7 @@ bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
         const qint64 written =
             ::write(file->handle(), content.constData() + done, size_t(content.size() - done));
         if (written < 0 && errno != EINTR) {
-            *problem = QString::fromLocal8Bit(std::strerror(errno));
+            *problem = SystemError();
             return false;
         }
         done += qMax<qint64>(0, written);
@@ -216,7 +220,7 @@ bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* 
                        fchmod(file, replaces ? before.st_mode & 07777 : mode & ~mask) == 0 &&
                        std::rename(name.constData(), target.constData()) == 0;
     if (!whole)
-        *error = CannotWrite(to, QString::fromLocal8Bit(std::strerror(errno)));
+        *error = CannotWrite(to, SystemError());
     if (file >= 0)
         close(file);
     return whole;

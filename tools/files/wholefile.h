@@ -40,6 +40,9 @@ bool FindTarget(const QString& path, QString* target, QString* error);
 /** The target of @p path if it is a symbolic link, else @p path. */
 QString RealPath(const QString& path);
 
+/** What the system says of the last call that failed. */
+QString SystemError();
+
 /** "PATH cannot be written: PROBLEM" */
 QString CannotWrite(const QString& path, const QString& problem);
 

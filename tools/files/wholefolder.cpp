@@ -6,9 +6,7 @@
 #include <QFileInfo>
 #include <QSet>
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace AnimText {
 
@@ -17,19 +15,15 @@ namespace {
 /** The first file below @p folder that is not in @p own, or empty. */
 QString ForeignName(const QDir& folder, const QStringList& own)
 {
-    QStringList known = own;
-    for (const QString& name : own) {
-        for (int slash = name.indexOf(QLatin1Char('/')); slash > 0;
-             slash = name.indexOf(QLatin1Char('/'), slash + 1))
-            known.append(name.left(slash));
-    }
-    const QSet<QString> all(known.begin(), known.end());
+    QSet<QString> known(own.begin(), own.end());
+    for (const QString& name : own)
+        known.insert(name.section(QLatin1Char('/'), 0, 0));
     QDirIterator entries(folder.path(),
                          QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
     while (entries.hasNext()) {
         const QString name = folder.relativeFilePath(entries.next());
-        if (entries.fileInfo().isSymLink() || !all.contains(name))
+        if (entries.fileInfo().isSymLink() || !known.contains(name))
             return name;
     }
     return QString();
@@ -56,24 +50,22 @@ WholeFolder::WholeFolder(const QString& path)
 bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
 {
     const QDir there(at);
+    QString culprit = path;
     QString protection = WriteProtection(at);
     if (protection.isEmpty() && !there.isReadable())
         protection = QStringLiteral("it cannot be read");
     const QStringList own = protection.isEmpty() ? ownFiles(there) : QStringList();
-    QString culprit = path;
     for (int i = 0; i < own.size() && protection.isEmpty(); ++i) {
         culprit = there.filePath(own.at(i));
         protection = WriteProtection(culprit);
     }
-    if (!protection.isEmpty()) {
+    const QString foreign = protection.isEmpty() ? ForeignName(there, own) : QString();
+    if (!protection.isEmpty())
         *error = CannotWrite(culprit, protection);
-        return false;
-    }
-    const QString foreign = ForeignName(there, own);
-    if (!foreign.isEmpty())
+    else if (!foreign.isEmpty())
         *error = QStringLiteral("%1 has other contents, such as %2; choose a new or empty folder")
                      .arg(path, foreign);
-    return foreign.isEmpty();
+    return protection.isEmpty() && foreign.isEmpty();
 }
 
 bool WholeFolder::Open(const OwnFiles& own, QString* error)
@@ -89,8 +81,8 @@ bool WholeFolder::Open(const OwnFiles& own, QString* error)
     folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
     if (folder->isValid())
         return true;
-    *error = QStringLiteral("cannot create a folder in %1: %2")
-                 .arg(info.absolutePath(), QString::fromLocal8Bit(std::strerror(errno)));
+    *error =
+        QStringLiteral("cannot create a folder in %1: %2").arg(info.absolutePath(), SystemError());
     return false;
 }
 
@@ -116,8 +108,7 @@ bool WholeFolder::Finish(QString* error)
     if (replaces && !IsReplaceable(path, error))
         return false;
     if (replaces && std::rename(QFile::encodeName(path), QFile::encodeName(old)) != 0) {
-        *error = QStringLiteral("%1 cannot be replaced: %2")
-                     .arg(path, QString::fromLocal8Bit(std::strerror(errno)));
+        *error = QStringLiteral("%1 cannot be replaced: %2").arg(path, SystemError());
         return false;
     }
     if (!PutInPlace(folder->path(), path, 0777, error)) {

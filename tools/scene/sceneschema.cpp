@@ -12,11 +12,6 @@ namespace AnimText {
 
 namespace {
 
-QString Words(const char* words)
-{
-    return QString::fromUtf8(words);
-}
-
 QJsonObject Whole(int least, int most)
 {
     return {{"type", "integer"}, {"minimum", least}, {"maximum", most}};
@@ -43,7 +38,7 @@ QJsonObject Choice(const Attribute& attribute)
     for (const QString& name : ChoicesOf(attribute)) {
         QJsonObject value{{"const", attribute.least + values.size()}, {"title", name}};
         if (isEffect)
-            value["description"] = Words(Effects().at(values.size()).summary);
+            value["description"] = Effects().at(values.size()).summary;
         values.append(value);
     }
     return {{"type", "integer"}, {"oneOf", values}};
@@ -89,11 +84,10 @@ QJsonObject MembersOf(Home home)
         if (attribute.home != home)
             continue;
         QJsonObject value = isRow ? InRow(attribute) : ValueOf(attribute);
-        value["title"] = Words(attribute.name);
-        const QString unit = *attribute.unit ? "; in " + Words(attribute.unit) : QString();
+        value["title"] = attribute.name;
+        const QString unit = *attribute.unit ? QString("; in ") + attribute.unit : QString();
         value["description"] =
-            QStringLiteral("%1%2. Used by: %3.")
-                .arg(Words(attribute.meaning), unit, Words(attribute.use.usedBy));
+            QStringLiteral("%1%2. Used by: %3.").arg(attribute.meaning, unit, attribute.use.usedBy);
         if (value.value("type") == QLatin1String("integer") && IsInRange(attribute, 0))
             value["default"] = 0;
         members[attribute.key] = value;
@@ -166,30 +160,24 @@ const char frame[] = R"({
     }
 })";
 
-QString Standard(const Attribute& attribute)
-{
-    switch (attribute.kind) {
-    case ValueKind::Pair: return QLatin1String(attribute.least > 0 ? "must be given" : "0, 0");
-    case ValueKind::Text:
-    case ValueKind::File:
-        return attribute.home == Home::Node ? SceneNode().type : QStringLiteral("none");
-    default: return QStringLiteral("0");
-    }
-}
-
 QString TableOf(Home home)
 {
-    QString table = QStringLiteral("| key | meaning | unit | range | default | used by |\n"
-                                   "|---|---|---|---|---|---|\n");
+    QString table = "| key | meaning | unit | range | default | used by |\n"
+                    "|---|---|---|---|---|---|\n";
     for (const Attribute& attribute : Attributes()) {
-        if (attribute.home == home)
-            table += QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 |\n")
-                         .arg(QLatin1String(attribute.key), Words(attribute.meaning),
-                              Words(attribute.unit),
-                              attribute.kind == ValueKind::File   ? QStringLiteral("a file")
-                              : attribute.kind == ValueKind::Text ? QStringLiteral("a text")
-                                                                  : RangeInWords(attribute),
-                              Standard(attribute), Words(attribute.use.usedBy));
+        if (attribute.home != home)
+            continue;
+        QString range = RangeInWords(attribute);
+        QString standard = "0";
+        if (attribute.kind == ValueKind::Pair)
+            standard = attribute.least > 0 ? "must be given" : "0, 0";
+        if (attribute.kind == ValueKind::Text || attribute.kind == ValueKind::File) {
+            range = attribute.kind == ValueKind::File ? "a file" : "a text";
+            standard = home == Home::Node ? SceneNode().type : "none";
+        }
+        table += QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 |\n")
+                     .arg(attribute.key, attribute.meaning, attribute.unit, range, standard,
+                          attribute.use.usedBy);
     }
     return table;
 }
@@ -212,16 +200,16 @@ QByteArray SceneSchema()
 
 QByteArray SceneTables()
 {
+    const std::pair<const char*, Home> tables[] = {
+        {"A node", Home::Node},
+        {"Its \"attributes\"", Home::Attributes},
+        {"Its \"lists\": rows of \"TextWidth\"", Home::TextWidth},
+        {"Rows of \"TextHeight\"", Home::TextHeight},
+        {"Rows of \"TextAttribute\"", Home::TextAttribute},
+        {"Its \"files\"", Home::Files}};
     QString text;
-    const auto add = [&](const char* heading, Home home) {
-        text += QStringLiteral("### %1\n\n%2\n").arg(QLatin1String(heading), TableOf(home));
-    };
-    add("A node", Home::Node);
-    add("Its \"attributes\"", Home::Attributes);
-    add("Its \"lists\": rows of \"TextWidth\"", Home::TextWidth);
-    add("Rows of \"TextHeight\"", Home::TextHeight);
-    add("Rows of \"TextAttribute\"", Home::TextAttribute);
-    add("Its \"files\"", Home::Files);
+    for (const auto& [heading, home] : tables)
+        text += QStringLiteral("### %1\n\n%2\n").arg(heading, TableOf(home));
     return text.toUtf8();
 }
 
