@@ -88,7 +88,7 @@ Command GalleryCommand()
     QVector<Option> own{Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
     const QMap<QString, const char*> standards{
         {"text", "Welcome aboard!"}, {"area", "240x48"}, {"hold", "1s"}};
-    for (const Option& option : LayoutOptions()) {
+    for (Option option : LayoutOptions()) {
         if (IsTextOption(option))
             own.append(option.Or(standards.value(option.name, option.standard)));
     }

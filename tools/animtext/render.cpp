@@ -6,14 +6,12 @@
 #include "film/kinds.h"
 #include "film/lamps.h"
 #include "film/writefilm.h"
-#include "player/plugin.h"
 
 #include <QLocale>
 
 #include <algorithm>
 #include <csignal>
 #include <memory>
-#include <thread>
 
 namespace AnimText {
 
@@ -156,40 +154,33 @@ void RenderOne(const CommandLine& line, const QString& output)
     Print(Summary(output, kind, written).toLocal8Bit());
 }
 
-void RenderMany(const CommandLine& line, const QString& folder)
+void RenderMany(const CommandLine& line)
 {
     const QString kind = line.Value("as");
-    Batch batch;
-    batch.scenes = line.Arguments();
-    batch.folder = folder;
-    batch.ending = kind == QLatin1String("frames") ? QStringLiteral("/") : QLatin1Char('.') + kind;
-    batch.plugin = PluginPath(line.Value("plugin"));
-    batch.jobs = line.IsSet("jobs") ? line.Number("jobs")
-                                    : int(std::max(1U, std::thread::hardware_concurrency()));
-    batch.resume = line.IsSet("resume");
-    batch.progress = FormOf(line);
-    CheckKind(line, KindOf(batch.ending));
+    const QString ending =
+        kind == QLatin1String("frames") ? QStringLiteral("/") : QLatin1Char('.') + kind;
+    CheckKind(line, KindOf(ending));
+    QStringList options;
     for (const Option& option : RenderCommand().options) {
         static const QStringList ours{"output", "as", "jobs", "resume", "progress"};
         if (!line.IsSet(option.name) || ours.contains(option.name))
             continue;
-        batch.options.append(QStringLiteral("--") + option.name);
+        options.append(QStringLiteral("--") + option.name);
         if (option.kind != Kind::Flag)
-            batch.options.last() += QLatin1Char('=') + line.Value(option.name);
+            options.last() += QLatin1Char('=') + line.Value(option.name);
     }
-    RenderAll(batch);
+    RenderAll(line, ending, options, FormOf(line));
 }
 
 int Render(const CommandLine& line)
 {
-    const QString output = line.Value("output");
     WatchForInterruption();
     if (line.IsSet("progress"))
         std::signal(SIGPIPE, SIG_IGN); // so that what is unfinished goes away
     if (line.Arguments().size() > 1 || line.IsSet("as"))
-        RenderMany(line, output);
+        RenderMany(line);
     else
-        RenderOne(line, output);
+        RenderOne(line, line.Value("output"));
     return Done;
 }
 

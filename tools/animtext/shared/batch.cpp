@@ -1,9 +1,8 @@
 #include "animtext/shared/batch.h"
 
 #include "cli/interruption.h"
-#include "cli/output.h"
-#include "cli/progress.h"
 #include "files/wholefile.h"
+#include "player/plugin.h"
 #include "scene/scene.h"
 
 #include <QCoreApplication>
@@ -16,6 +15,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <thread>
 #include <vector>
 
 namespace AnimText {
@@ -28,18 +28,19 @@ struct Job
     QString film;
 };
 
-QList<Job> PlanJobs(const Batch& batch)
+QList<Job> PlanJobs(const CommandLine& line, const QString& ending)
 {
+    const QDir folder(line.Value("output"));
     QList<Job> jobs;
     QMap<QString, QString> sceneOf;
-    for (const QString& scene : batch.scenes) {
-        const QString name = QFileInfo(scene).completeBaseName() + batch.ending;
+    for (const QString& scene : line.Arguments()) {
+        const QString name = QFileInfo(scene).completeBaseName() + ending;
         if (sceneOf.contains(name))
             throw Misuse{
                 QStringLiteral("%1 and %2 would both become %3; render them into two folders")
                     .arg(sceneOf.value(name), scene, name)};
         sceneOf.insert(name, scene);
-        jobs.append({scene, QDir(batch.folder).filePath(name)});
+        jobs.append({scene, folder.filePath(name)});
     }
     return jobs;
 }
@@ -86,17 +87,17 @@ bool Succeeded(QProcess* renderer)
     return false;
 }
 
-/** Runs the jobs. @return how many failed */
-int RunJobs(const Batch& batch, QList<Job> jobs)
+/** Runs the jobs, @p most of them at once. @return how many failed */
+int RunJobs(QList<Job> jobs, int most, const QStringList& options, Progress::Form form)
 {
     constexpr int glance = 20; // milliseconds
-    Progress progress(QStringLiteral("rendering scene"), jobs.size(), batch.progress);
+    Progress progress(QStringLiteral("rendering scene"), jobs.size(), form);
     const int all = jobs.size();
     int failed = 0;
     std::vector<std::unique_ptr<QProcess>> running;
     while (!running.empty() || !jobs.isEmpty()) {
-        while (!jobs.isEmpty() && int(running.size()) < batch.jobs)
-            running.push_back(Start(jobs.takeFirst(), batch.options));
+        while (!jobs.isEmpty() && int(running.size()) < most)
+            running.push_back(Start(jobs.takeFirst(), options));
         if (Interrupted()) {
             for (const auto& renderer : running)
                 renderer->terminate();
@@ -118,19 +119,23 @@ int RunJobs(const Batch& batch, QList<Job> jobs)
 
 } // namespace
 
-void RenderAll(const Batch& batch)
+void RenderAll(const CommandLine& line, const QString& ending, const QStringList& options,
+               Progress::Form form)
 {
-    QList<Job> jobs = PlanJobs(batch);
+    QList<Job> jobs = PlanJobs(line, ending);
     QString error;
-    FailUnless(MakeFolder(batch.folder, &error), error);
-    if (batch.resume) {
-        const auto isDone = [&](const Job& job) { return IsDone(job, batch.plugin); };
+    FailUnless(MakeFolder(line.Value("output"), &error), error);
+    if (line.IsSet("resume")) {
+        const QString plugin = PluginPath(line.Value("plugin"));
+        const auto isDone = [&](const Job& job) { return IsDone(job, plugin); };
         jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());
     }
-    const int failed = RunJobs(batch, jobs);
-    FailUnless(
-        failed == 0,
-        QStringLiteral("%1 of %2 scenes were not rendered").arg(failed).arg(batch.scenes.size()));
+    const int most = line.IsSet("jobs") ? line.Number("jobs")
+                                        : int(std::max(1U, std::thread::hardware_concurrency()));
+    const int failed = RunJobs(jobs, most, options, form);
+    FailUnless(failed == 0, QStringLiteral("%1 of %2 scenes were not rendered")
+                                .arg(failed)
+                                .arg(line.Arguments().size()));
 }
 
 } // namespace AnimText

@@ -5,29 +5,18 @@
 #ifndef ANIMTEXT_BATCH_H
 #define ANIMTEXT_BATCH_H
 
+#include "cli/commandline.h"
 #include "cli/progress.h"
-
-#include <QStringList>
 
 namespace AnimText {
 
-struct Batch
-{
-    QStringList scenes;
-    QString folder;      ///< where the films go
-    QString ending;      ///< of every film, see FilmKind
-    QStringList options; ///< of animtext render, for each of them
-    QString plugin;      ///< the library that plays
-    int jobs = 1;        ///< how many at once
-    bool resume = false; ///< leaves films that are newer than what they are made from
-    Progress::Form progress = Progress::Form::Bar;
-};
-
 /**
- * Renders all of them. One that fails tells its errors and does not keep the others. Throws Failure
- * unless all films are there in the end.
+ * Renders the scenes of @p line into its folder, as films whose names have that @p ending, see
+ * FilmKind, and with these @p options of animtext render. One that fails tells its errors and does
+ * not keep the others. Throws Failure unless all films are there in the end.
  */
-void RenderAll(const Batch& batch);
+void RenderAll(const CommandLine& line, const QString& ending, const QStringList& options,
+               Progress::Form form);
 
 } // namespace AnimText
 
