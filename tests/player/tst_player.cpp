@@ -252,11 +252,14 @@ private slots:
     {
         for (int effect = 0; effect < Effects().size(); ++effect) {
             const Scene scene = files.Of({files.Node({"abcdef", effect, 9, 3})});
-            const int end = PlayToEnd(Load(scene), LongestPlay(scene), 1).value(0).finishedTick;
+            const int end = PlayToEnd(Load(scene), ticksOfADay, 1).value(0).finishedTick;
             QVERIFY(end > 0);
             QCOMPARE(Simulate(player.get(), scene, 1, Watch(), &error).value(0).FinishedMs(),
                      qint64(end) * 66);
         }
+        Load(files.Of({files.Node({"abc", 30})}));
+        QCOMPARE(PlayToEnd(player.get(), ticksOfADay, 1).value(0).ending, Ending::TooLong);
+        QCOMPARE(player->Tick(), 0); // an effect that does not exist is not waited for
     }
 
     /** Two pages: areas of two nodes and of one, then one with a planned time of 0. */

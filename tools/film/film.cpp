@@ -99,8 +99,7 @@ int Film::FindEnd(const FilmWatch& watch)
             watch(FilmStage::End, tick, 0);
         return true;
     };
-    const int longest = std::min(LongestPlay(scene), ticksOfAnHour + 1);
-    return PlannedFrames(PlayToEnd(player, longest, settings.seed, look));
+    return PlannedFrames(PlayToEnd(player, ticksOfAnHour + 1, settings.seed, look));
 }
 
 /** @p shown, scaled to @p part, in a picture of @p size with the background. */

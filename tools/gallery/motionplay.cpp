@@ -6,18 +6,11 @@ namespace AnimText {
 
 namespace {
 
-void Show(const QImage& picture, PictureSheets* sheets, MotionPlay* play)
+/** Adds a tick in which @p picture is seen. */
+void Show(int picture, MotionPlay* play)
 {
-    const int number = sheets->Add(picture);
-    if (play->runs.isEmpty() || play->runs.last().picture != number)
-        play->runs.append({number, 0});
-    ++play->runs.last().ticks;
-    ++play->ticks;
-}
-
-/** The same picture for one tick more. */
-void ShowOn(MotionPlay* play)
-{
+    if (play->runs.isEmpty() || play->runs.last().picture != picture)
+        play->runs.append({picture, 0});
     ++play->runs.last().ticks;
     ++play->ticks;
 }
@@ -32,11 +25,12 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
         return false;
     play->planned = player->Durations().first();
     player->Start(seed);
-    Show(player->Picture(), sheets, play);
+    int shown = sheets->Add(player->Picture());
+    Show(shown, play);
 
     const bool isDevices = player->Scenery().Motion(0).IsSideways();
     const qint64 pass = isDevices ? ScrollPass(player->Scenery(), 0) : 0;
-    const int longest = isDevices ? int(pass / tickLength) : LongestPlay(scene);
+    const int longest = isDevices ? int(pass / tickLength) : ticksOfADay;
     while (player->Tick() < longest && (isDevices || player->State(0) == 1)) {
         player->Advance();
         if (!goOn()) {
@@ -44,9 +38,8 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
             return false;
         }
         if (isDevices || player->Swapped(0))
-            Show(player->Picture(), sheets, play);
-        else
-            ShowOn(play);
+            shown = sheets->Add(player->Picture());
+        Show(shown, play);
     }
     if (isDevices)
         return true;

@@ -14,35 +14,9 @@ namespace AnimText {
 
 namespace {
 
-constexpr qint64 ticksOfADay = 24LL * 3600 * 1000 / tickLength;
 constexpr int longHold = 50;    // units of 100 ms
 constexpr int certainHold = 40; // ticks without a picture that only a hold can be; none of the
                                 // speeds waits longer than 16 from one picture to the next
-
-qint64 Number(const SceneNode& node, const char* key)
-{
-    return node.attributes.value(QLatin1String(key)).toInt();
-}
-
-/** Upper bound: each character crosses the area and turns twice. */
-qint64 LongestPlay(const SceneNode& node)
-{
-    const qint64 characters = node.attributes.value(QStringLiteral("Text")).toString().size() + 2;
-    qint64 sizes = 0;
-    for (const char* key : {"TextWidth", "TextHeight"}) {
-        for (const QHash<QString, QString>& row : node.lists.value(QLatin1String(key))) {
-            for (const QString& value : row)
-                sizes += std::max(0, value.toInt());
-        }
-    }
-    const qint64 frames =
-        characters * (qint64(node.size.width()) + 3 * node.size.height() + 1000) + 2 * sizes;
-    const qint64 hold = characters * (std::max(0, node.hold) * 100LL / tickLength + 20);
-    const qint64 throttle = 16;
-    const qint64 plays = std::max<qint64>(1, Number(node, "PlayTimes"));
-    const qint64 run = (frames + hold) * throttle;
-    return plays > ticksOfADay / run ? ticksOfADay : plays * run;
-}
 
 Scene WithoutHolds(Scene scene)
 {
@@ -95,38 +69,30 @@ BlankScene::BlankScene(const Scene& from)
     }
 }
 
-int LongestPlay(const Scene& scene)
-{
-    qint64 longest = 1;
-    for (const SceneNode* node : scene.Nodes())
-        longest = std::max(longest, LongestPlay(*node));
-    return int(std::min(longest, ticksOfADay));
-}
-
 QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch& watch)
 {
     player->Start(seed);
     QVector<NodePlay> plays(player->NodeCount());
-    const auto playing = [](const NodePlay& play) { return play.ending == Ending::TooLong; };
+    QList<int> playing; // that can end
     for (int node = 0; node < plays.size(); ++node) {
-        NodePlay& play = plays[node];
-        play.ending = EndingAtStart(player->Scenery(), node);
-        if (play.ending == Ending::ScrollsOn)
-            play.finishedTick = 0;
-        if (playing(play) && player->Swapped(node))
-            play.pictures.append(0);
+        plays[node].ending = EndingAtStart(player->Scenery(), node);
+        if (plays.at(node).ending == Ending::ScrollsOn)
+            plays[node].finishedTick = 0;
+        if (plays.at(node).ending != Ending::TooLong || !player->Scenery().Motion(node).Row())
+            continue;
+        playing.append(node);
+        if (player->Swapped(node))
+            plays[node].pictures.append(0);
     }
-    while (std::any_of(plays.begin(), plays.end(), playing) && player->Tick() < longest) {
+    while (!playing.isEmpty() && player->Tick() < longest) {
         player->Advance();
-        for (int node = 0; node < plays.size(); ++node) {
-            NodePlay& play = plays[node];
-            if (!playing(play))
-                continue;
+        for (int node : QList<int>(playing)) {
             if (player->Swapped(node))
-                play.pictures.append(player->Tick());
+                plays[node].pictures.append(player->Tick());
             if (player->State(node) == 0) {
-                play.ending = Ending::Finishes;
-                play.finishedTick = player->Tick();
+                plays[node].ending = Ending::Finishes;
+                plays[node].finishedTick = player->Tick();
+                playing.removeOne(node);
             }
         }
         if (watch && !watch(player->Tick()))
@@ -139,13 +105,12 @@ QVector<NodePlay> Simulate(Player* player, const Scene& scene, uint seed, const 
                            QString* error)
 {
     const BlankScene blank(scene);
-    const int longest = LongestPlay(scene);
     if (!player->Load(WithoutHolds(blank.Get()), error))
         return {};
-    const QVector<NodePlay> moving = PlayToEnd(player, longest, seed, watch);
+    const QVector<NodePlay> moving = PlayToEnd(player, ticksOfADay, seed, watch);
     if (moving.isEmpty() || !player->Load(blank.Get(), error))
         return {};
-    QVector<NodePlay> plays = PlayToEnd(player, longest, seed, watch);
+    QVector<NodePlay> plays = PlayToEnd(player, ticksOfADay, seed, watch);
     for (int node = 0; node < plays.size(); ++node) {
         NodePlay& play = plays[node];
         // With no plays, the first check finds it finished, whatever was drawn.

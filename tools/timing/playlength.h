@@ -53,8 +53,11 @@ Ending EndingAtStart(const Stage& stage, int node);
 /** Called at every tick; returns false to stop. */
 using Watch = std::function<bool(int tick)>;
 
+constexpr int ticksOfADay = 24 * 3600 * 1000 / tickLength;
+
 /**
- * Plays the loaded scene from its start until every node has ended.
+ * Plays the loaded scene from its start until every node has ended that can: a motion that does not
+ * exist shows empty pictures forever.
  * @param longest the last tick to play
  * @return one entry a node; empty if @p watch stopped it
  */
@@ -103,9 +106,6 @@ private:
     Scene scene;
     QFile outlines; // of all its nodes, in memory, so a killed process leaves nothing
 };
-
-/** An upper bound of the ticks of a play, from the scene's settings. */
-int LongestPlay(const Scene& scene);
 
 /**
  * What the device needs to scroll a node's text once through its area, until the area is empty

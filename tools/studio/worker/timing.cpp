@@ -30,8 +30,7 @@ qint64 ActualEnd(const NodePlay& play, const Player& player, Stage* stage, int n
 bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watch& watch,
                    Timing* timing, QString* error)
 {
-    const QVector<NodePlay> plays =
-        MeasurePages(player, scene, std::min(longest, LongestPlay(scene)), watch, error);
+    const QVector<NodePlay> plays = MeasurePages(player, scene, longest, watch, error);
     if (plays.isEmpty())
         return false;
 
