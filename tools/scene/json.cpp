@@ -15,18 +15,14 @@ QByteArray Quoted(const QString& text)
 
 } // namespace
 
-Json::Json()
-    : text("null")
-{
-}
-
 Json::Json(const QString& text)
     : text(Quoted(text))
 {
 }
 
 Json::Json(const char* brackets, Layout layout)
-    : brackets(brackets)
+    : text("")
+    , brackets(brackets)
     , layout(layout)
 {
 }

@@ -26,7 +26,7 @@ public:
     };
     using Members = std::initializer_list<std::pair<const char*, Json>>;
 
-    Json(); ///< null
+    Json() = default; ///< null
     Json(const QString& text);
     Json(const QByteArray& utf8)
         : Json(QString::fromUtf8(utf8))
@@ -59,8 +59,8 @@ private:
     Json(const char* brackets, Layout layout);
     Json& Append(QByteArray part);
 
-    QByteArray text;     // of an object or a list: what is between its brackets
-    QByteArray brackets; // empty for other values
+    QByteArray text = "null"; // of an object or a list: what is between its brackets
+    QByteArray brackets;      // empty for other values
     Layout layout = Dense;
 };
 

@@ -49,16 +49,6 @@ QList<Finding> ValidateScene(const Scene& scene)
     return findings;
 }
 
-QList<Finding> ErrorsOf(const Scene& scene)
-{
-    QList<Finding> errors;
-    for (const Finding& finding : ValidateScene(scene)) {
-        if (finding.GetRule().severity == Severity::Error)
-            errors.append(finding);
-    }
-    return errors;
-}
-
 QList<Finding> ValidateScene(const QString& path)
 {
     Scene scene;

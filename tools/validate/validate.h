@@ -35,8 +35,6 @@ struct Finding
 QList<Finding> ValidateScene(const QString& path);
 /** The same for a scene that is or will be in the file @c scene.path. */
 QList<Finding> ValidateScene(const Scene& scene);
-/** Those of them that are errors: what the sign shows will be wrong, or nothing. */
-QList<Finding> ErrorsOf(const Scene& scene);
 
 /** The findings of one scene. */
 struct Report

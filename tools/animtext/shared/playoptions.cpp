@@ -43,8 +43,8 @@ Scene Open(const CommandLine& line, const QString& path, const QList<Mistake>& k
                          mayMiss ? MissingFiles::AreAccepted : MissingFiles::AreErrors),
                error, BadInput);
     bool isPlayed = true;
-    for (const Finding& finding : ErrorsOf(scene)) {
-        if (!isTold(finding))
+    for (const Finding& finding : ValidateScene(scene)) {
+        if (finding.GetRule().severity != Severity::Error || !isTold(finding))
             continue;
         Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
         isPlayed = isPlayed && !kinds.contains(finding.mistake);
