@@ -147,27 +147,8 @@ public:
     {
     }
 
-    bool Write(QString* error)
-    {
-        try {
-            WriteAll();
-        } catch (const BrokenOff&) {
-            *error = why;
-            return false;
-        }
-        return true;
-    }
-
-    qint64 Bytes() const { return folder.Bytes(); }
-
-private:
-    void Demand(bool succeeded)
-    {
-        if (!succeeded)
-            throw BrokenOff();
-    }
-
-    void WriteAll()
+    /** Throws. */
+    void Write()
     {
         Demand(IsMade(scenes, &why) && folder.Open(OwnFiles, &why));
         QVector<GalleryEntry> entries;
@@ -194,6 +175,16 @@ private:
                                    {QStringLiteral("files"), digests}};
         Demand(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &why));
         Demand(folder.Finish(&why));
+    }
+
+    qint64 Bytes() const { return folder.Bytes(); }
+    QString Error() const { return why; }
+
+private:
+    void Demand(bool succeeded)
+    {
+        if (!succeeded)
+            throw BrokenOff();
     }
 
     /** A file of the page. */
@@ -285,9 +276,14 @@ bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWa
 {
     LoadPage();
     GalleryWriter writer(options, player, watch);
-    const bool succeeded = writer.Write(error);
+    try {
+        writer.Write();
+    } catch (const BrokenOff&) {
+        *error = writer.Error();
+        return false;
+    }
     *bytes = writer.Bytes();
-    return succeeded;
+    return true;
 }
 
 } // namespace AnimText
