@@ -25,17 +25,7 @@ double ProcessorTime()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-/** Of the process @p id in all its threads, in milliseconds. */
-double ProcessorTimeOf(pid_t id)
-{
-    clockid_t clock{};
-    timespec time{};
-    if (clock_getcpuclockid(id, &clock) != 0 || clock_gettime(clock, &time) != 0)
-        return 0;
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
-
-/** Of this process and of those that it has started. */
+/** Of this process and of those that it has started, in milliseconds. */
 double AllProcessorTime()
 {
     double all = ProcessorTimeOf(getpid());
@@ -49,7 +39,7 @@ double AllProcessorTime()
                 all += ProcessorTimeOf(child.toInt());
         }
     }
-    return all;
+    return 1e3 * all;
 }
 
 /** The longest that one event has kept the window, in milliseconds. */

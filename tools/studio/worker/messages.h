@@ -18,18 +18,34 @@
 
 namespace AnimText {
 
+/** Which part of a sign to play, and how. */
+struct Part
+{
+    qint32 page = -1;      ///< negative for all pages
+    bool schedule = false; ///< page by page for the planned times, as the host plays
+    bool calls = false;    ///< records the device calls
+    QVector<QPair<qint32, qint32>> faults{}; ///< operation and number of the call to make fail
+};
+
 /** To a worker: play a scene. It loads the scene if the generation is a new one. */
 struct Order
 {
     quint32 generation = 0; ///< from 1; repeated in the answers
     QByteArray scene;       ///< the text of a scene file
     QString path;           ///< the file that the scene's file names are relative to
-    bool schedule = false;  ///< page by page for the planned times, as the host plays
-    bool calls = false;     ///< whether to record the device calls
-    QVector<QPair<qint32, qint32>> faults; ///< operation and number of the call that fails
-    bool measures = false;                 ///< wants the times instead of pictures
-    qint32 first = 0;                      ///< the ticks whose pictures are wanted
+    Part part;              ///< the scene has only its page
+    bool measures = false;  ///< wants the times instead of pictures
+    qint32 first = 0;       ///< the ticks whose pictures are wanted
     qint32 last = -1;
+};
+
+/** A picture that is sent as it is: to compress it would take longer. */
+struct RawPicture : QImage
+{
+    RawPicture(const QImage& picture = QImage())
+        : QImage(picture)
+    {
+    }
 };
 
 /** From a worker. */
@@ -47,21 +63,25 @@ struct Answer
     quint32 generation = 0;
     QString error;
     qint32 tick = 0;
-    QImage picture;   ///< null if it equals that of the previous tick
-    QByteArray calls; ///< device calls of the tick, one line of JSON each
+    RawPicture picture; ///< null if it equals that of the previous tick
+    QByteArray calls;   ///< device calls of the tick, one line of JSON each
     Timing timing;
 };
 
 /** What is sent of each structure. */
+inline auto Fields(Part& part)
+{
+    return std::tie(part.page, part.schedule, part.calls, part.faults);
+}
 inline auto Fields(Order& order)
 {
-    return std::tie(order.generation, order.scene, order.path, order.schedule, order.calls,
-                    order.faults, order.measures, order.first, order.last);
+    return std::tie(order.generation, order.scene, order.path, order.part, order.measures,
+                    order.first, order.last);
 }
 inline auto Fields(Answer& answer)
 {
-    return std::tie(answer.kind, answer.generation, answer.error, answer.tick, answer.calls,
-                    answer.timing);
+    return std::tie(answer.kind, answer.generation, answer.error, answer.tick, answer.picture,
+                    answer.calls, answer.timing);
 }
 inline auto Fields(Timing& timing)
 {
@@ -75,6 +95,14 @@ inline auto Fields(PageTime& page)
 {
     return std::tie(page.begin, page.hold, page.end);
 }
+
+inline bool operator==(Part a, Part b)
+{
+    return Fields(a) == Fields(b);
+}
+
+QDataStream& operator<<(QDataStream& stream, const RawPicture& picture);
+QDataStream& operator>>(QDataStream& stream, RawPicture& picture);
 
 template <typename T, typename = decltype(Fields(std::declval<T&>()))>
 QDataStream& operator<<(QDataStream& stream, T value)
@@ -90,12 +118,30 @@ QDataStream& operator>>(QDataStream& stream, T& value)
 }
 
 /** A message with its length in front, ready for a pipe. */
-QByteArray Packed(const Order& order);
-QByteArray Packed(const Answer& answer);
+template <typename T>
+QByteArray Packed(const T& message)
+{
+    QByteArray body;
+    QDataStream stream(&body, QIODevice::WriteOnly);
+    stream << message;
+    QByteArray length;
+    QDataStream(&length, QIODevice::WriteOnly) << quint32(body.size());
+    return length + body;
+}
 
 /** Removes the first message from @p bytes; returns false if it is not complete. */
-bool Take(QByteArray* bytes, Order* order);
-bool Take(QByteArray* bytes, Answer* answer);
+template <typename T>
+bool Take(QByteArray* bytes, T* message)
+{
+    quint32 length = 0;
+    QDataStream stream(*bytes);
+    stream >> length;
+    if (stream.status() != QDataStream::Ok || stream.device()->bytesAvailable() < qint64(length))
+        return false;
+    stream >> *message;
+    bytes->remove(0, int(sizeof length + length));
+    return true;
+}
 
 } // namespace AnimText
 

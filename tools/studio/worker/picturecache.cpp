@@ -25,12 +25,8 @@ void PictureCache::Insert(int tick, const QImage& picture, const QByteArray& cal
         bytes += picture.sizeInBytes();
     bytes += calls.size();
     while (bytes > capacity && entries.size() > 1) {
-        int farthest = tick;
-        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
-            if (qAbs(entry.key() - wanted) > qAbs(farthest - wanted))
-                farthest = entry.key();
-        }
-        Remove(farthest);
+        const bool isFirst = wanted - entries.firstKey() > entries.lastKey() - wanted;
+        Remove(isFirst ? entries.firstKey() : entries.lastKey());
     }
 }
 

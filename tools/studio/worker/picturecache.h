@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QImage>
+#include <QMap>
 
 namespace AnimText {
 
@@ -41,7 +42,7 @@ private:
 
     qint64 capacity;
     qint64 bytes = 0;
-    QHash<int, Entry> entries;
+    QMap<int, Entry> entries;
     QHash<qint64, int> uses; // number of entries by picture key
 };
 

@@ -56,9 +56,7 @@ void Rehearsal::Prepare()
         prepared.generation = of;
         prepared.scene = SceneToJson(scene);
         prepared.path = scene.path;
-        prepared.schedule = nextPart.schedule;
-        prepared.calls = nextPart.calls;
-        prepared.faults = nextPart.faults;
+        prepared.part = nextPart;
         QMetaObject::invokeMethod(this, [this, prepared, error] { Prepared(prepared, error); });
     });
 }

@@ -15,21 +15,6 @@
 
 namespace AnimText {
 
-/** Which part of a sign to play, and how. */
-struct Part
-{
-    int page = -1;                         ///< negative for all pages
-    bool schedule = false;                 ///< page by page, as the host plays
-    bool calls = false;                    ///< records the device calls
-    QVector<QPair<qint32, qint32>> faults; ///< device calls to make fail
-
-    bool operator==(const Part& other) const
-    {
-        return page == other.page && schedule == other.schedule && calls == other.calls &&
-               faults == other.faults;
-    }
-};
-
 /** Never blocks the window. */
 class Rehearsal : public QObject
 {

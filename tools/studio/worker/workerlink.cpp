@@ -1,9 +1,8 @@
 #include "studio/worker/workerlink.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
-#include <unistd.h>
+#include <ctime>
 
 namespace AnimText {
 namespace {
@@ -14,18 +13,6 @@ constexpr double longestWork = 20;     // seconds of processor time
 constexpr int longestSilence = 300000; // milliseconds
 constexpr int lookTime = 1000;         // milliseconds
 
-/** Processor time of the process @p id in seconds. */
-double WorkOf(qint64 id)
-{
-    QFile state(QStringLiteral("/proc/%1/stat").arg(id));
-    if (!state.open(QIODevice::ReadOnly))
-        return 0;
-    // The name in parentheses may contain spaces and parentheses.
-    const QByteArray all = state.readAll();
-    const QList<QByteArray> words = all.mid(all.lastIndexOf(')') + 2).split(' ');
-    return (words.value(11).toDouble() + words.value(12).toDouble()) / double(sysconf(_SC_CLK_TCK));
-}
-
 QString& ProgramPath()
 {
     static QString path;
@@ -33,6 +20,15 @@ QString& ProgramPath()
 }
 
 } // namespace
+
+double ProcessorTimeOf(qint64 id)
+{
+    clockid_t clock{};
+    timespec time{};
+    if (clock_getcpuclockid(pid_t(id), &clock) != 0 || clock_gettime(clock, &time) != 0)
+        return 0;
+    return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
+}
 
 WorkerLink::WorkerLink(const QString& plugin, Haste haste, QObject* parent)
     : QObject(parent)
@@ -47,7 +43,7 @@ WorkerLink::WorkerLink(const QString& plugin, Haste haste, QObject* parent)
     patience.setInterval(lookTime);
     connect(&patience, &QTimer::timeout, this, [this] {
         hangs = silence.elapsed() > longestSilence ||
-                WorkOf(process.processId()) - workBefore > longestWork;
+                ProcessorTimeOf(process.processId()) - workBefore > longestWork;
         if (hangs)
             process.kill();
     });
@@ -103,7 +99,7 @@ void WorkerLink::Write()
 void WorkerLink::Expect()
 {
     silence.start();
-    workBefore = WorkOf(process.processId());
+    workBefore = ProcessorTimeOf(process.processId());
     patience.start();
 }
 

@@ -14,6 +14,9 @@
 
 namespace AnimText {
 
+/** Seconds of all threads of the process @p id; 0 if there is none. */
+double ProcessorTimeOf(qint64 id);
+
 /** Starts the worker when it is needed, and again after a crash or hang. */
 class WorkerLink : public QObject
 {

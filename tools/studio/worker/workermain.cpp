@@ -77,7 +77,7 @@ private:
         if (isDone) {
             player = std::make_unique<Player>(dispatcher, plugin);
             const auto watch = [this](int) { return !Receive(false) && !ended; };
-            isDone = order.measures ? MeasureTiming(player.get(), scene, order.schedule, watch,
+            isDone = order.measures ? MeasureTiming(player.get(), scene, order.part.schedule, watch,
                                                     &timing, &error)
                                     : player->Load(scene, &error);
         }
@@ -100,12 +100,12 @@ private:
             }
         }
         Torv::ClearFaults();
-        for (const QPair<qint32, qint32>& fault : order.faults)
+        for (const QPair<qint32, qint32>& fault : order.part.faults)
             Torv::FailCall(Torv::Operation(fault.first), fault.second);
-        if (order.calls)
+        if (order.part.calls)
             player->Scenery().WatchCalls(
                 [this](const Torv::CallRecord& call) { calls += CallLine(call) + '\n'; });
-        if (order.schedule)
+        if (order.part.schedule)
             player->Start(HostSchedule(scene, player->Durations()), standardSeed);
         else
             player->Start(standardSeed);
