@@ -45,6 +45,21 @@ private slots:
         QCOMPARE(dialog.Address(), address);
     }
 
+    void tabGoesDownThroughTheRows()
+    {
+        LedsDialog dialog(QSize(16, 8), QString());
+        dialog.show();
+        QWidget* first = dialog.findChildren<QComboBox*>().first();
+        int row = 0; // pixels
+        for (QWidget* field = first; field != &dialog; field = field->nextInFocusChain()) {
+            if (field->parent() != &dialog || !(field->focusPolicy() & Qt::TabFocus))
+                continue;
+            const int middle = field->mapTo(&dialog, field->rect().center()).y();
+            QVERIFY2(middle > row - 8, qPrintable(field->accessibleName()));
+            row = middle;
+        }
+    }
+
     void sendsUntilStopped()
     {
         QUdpSocket receiver;

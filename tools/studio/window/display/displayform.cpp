@@ -18,10 +18,6 @@ const QList<QSize> panels{{64, 32},  {128, 32},  {128, 64},  {192, 64},   {256, 
 
 DisplayForm::DisplayForm(QWidget* parent)
     : QWidget(parent)
-    , presets(new QComboBox(this))
-    , width(new NumberField(this))
-    , height(new NumberField(this))
-    , alpha(new QCheckBox(tr("Alpha blending"), this))
 {
     presets->addItem(tr("Custom"));
     for (const QSize& panel : panels)
@@ -54,9 +50,7 @@ DisplayForm::DisplayForm(QWidget* parent)
         const QSize size = presets->currentData().toSize();
         if (!size.isValid())
             return;
-        width->ShowNumber(size.width());
-        height->ShowNumber(size.height());
-        Refresh();
+        Show(size, AlphaBlend());
         emit Edited(-1);
     });
     connect(alpha, &QCheckBox::clicked, this, [this] { emit Edited(-1); });

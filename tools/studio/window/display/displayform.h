@@ -33,10 +33,10 @@ signals:
 private:
     void Refresh();
 
-    QComboBox* presets;
-    NumberField* width;
-    NumberField* height;
-    QCheckBox* alpha;
+    QComboBox* presets = new QComboBox(this);
+    NumberField* width = new NumberField(this);
+    NumberField* height = new NumberField(this);
+    QCheckBox* alpha = new QCheckBox(tr("Alpha blending"), this);
 };
 
 } // namespace AnimText

@@ -18,75 +18,63 @@ namespace {
 const char settingsKey[] = "leds";
 constexpr int mostDrawn = 8; // LEDs per side; a larger matrix is drawn with this size
 
-} // namespace
-
-/** Draws the data line over the picture, from a ring at the first LED to an arrow at the last.
- */
-class WiringView : public QWidget
+/** Draws the data line over the picture, from a ring at the first LED to an arrow at the last. */
+QPixmap WiringPicture(QSize size, const Wiring& wiring, const QColor& color, double ratio)
 {
-public:
-    explicit WiringView(QWidget* parent)
-        : QWidget(parent)
-    {
-        setFixedSize(56 * grid, 56 * grid);
-    }
-
-    void Draw(QSize matrix, const Wiring& wanted)
-    {
-        size = matrix.boundedTo(QSize(mostDrawn, mostDrawn));
-        wiring = wanted;
-        update();
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const double pitch =
-            std::min(double(width()) / size.width(), double(height()) / size.height());
-        const QPointF corner((width() - pitch * size.width()) / 2,
-                             (height() - pitch * size.height()) / 2);
-        QPolygonF line;
-        for (int pixel : LedOrder(size, wiring))
-            line.append(corner +
-                        pitch * QPointF(pixel % size.width() + 0.5, pixel / size.width() + 0.5));
-        painter.fillRect(QRectF(corner, pitch * QSizeF(size)), Qt::black);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0x60, 0x60, 0x60));
-        for (const QPointF& led : line)
-            painter.drawEllipse(led, pitch / 4, pitch / 4);
-        const QColor color = palette().color(QPalette::Highlight);
-        painter.setPen(QPen(color, 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPolyline(line);
-        painter.drawEllipse(line.first(), pitch / 3, pitch / 3);
-        if (line.size() < 2)
-            return;
+    constexpr int side = 56 * grid;
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    size = size.boundedTo(QSize(mostDrawn, mostDrawn));
+    const double pitch = double(side) / std::max(size.width(), size.height());
+    const QPointF corner((side - pitch * size.width()) / 2, (side - pitch * size.height()) / 2);
+    QPolygonF line;
+    for (int pixel : LedOrder(size, wiring))
+        line.append(corner +
+                    pitch * QPointF(pixel % size.width() + 0.5, pixel / size.width() + 0.5));
+    painter.fillRect(QRectF(corner, pitch * QSizeF(size)), Qt::black);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x60, 0x60, 0x60));
+    for (const QPointF& led : line)
+        painter.drawEllipse(led, pitch / 4, pitch / 4);
+    painter.setPen(QPen(color, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(line);
+    painter.drawEllipse(line.first(), pitch / 3, pitch / 3);
+    if (line.size() > 1) {
         painter.translate(line.last());
         painter.rotate(-QLineF(line.at(line.size() - 2), line.last()).angle());
         painter.setBrush(color);
         const QPointF head[] = {{0, 0}, {-pitch / 2, pitch / 4}, {-pitch / 2, -pitch / 4}};
         painter.drawPolygon(head, 3);
     }
+    return picture;
+}
 
-private:
-    QSize size{1, 1};
-    Wiring wiring;
-};
+/** @param choices labels with words for the address */
+void Fill(QComboBox* box, const QList<QPair<QString, QString>>& choices)
+{
+    for (const auto& choice : choices)
+        box->addItem(choice.first, choice.second);
+}
+
+void SetNumber(QSpinBox* box, const QString& name, int least, int most, int value,
+               const QString& unit)
+{
+    box->setAccessibleName(name);
+    box->setRange(least, most);
+    box->setValue(value);
+    box->setSuffix(unit);
+}
+
+} // namespace
 
 LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     : QDialog(parent)
     , display(display)
     , scenePath(scenePath)
-    , host(new QLineEdit(this))
-    , serpentine(new QCheckBox(tr("Serpentine"), this))
-    , gamma(new QDoubleSpinBox(this))
-    , wiring(new WiringView(this))
-    , command(new QLineEdit(this))
-    , state(new QLabel(this))
-    , pattern(new QPushButton(tr("Show test pattern"), this))
-    , start(new QPushButton(this))
 {
     setWindowTitle(tr("Play on LEDs"));
     command->setReadOnly(true);
@@ -159,26 +147,6 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     Refresh();
 }
 
-/** @param choices labels with words for the address */
-QComboBox* LedsDialog::MakeChoice(const QList<QPair<QString, QString>>& choices)
-{
-    auto* box = new QComboBox(this);
-    for (const auto& choice : choices)
-        box->addItem(choice.first, choice.second);
-    return box;
-}
-
-QSpinBox* LedsDialog::MakeNumber(const QString& name, int least, int most, int value,
-                                 const QString& unit)
-{
-    auto* box = new QSpinBox(this);
-    box->setAccessibleName(name);
-    box->setRange(least, most);
-    box->setValue(value);
-    box->setSuffix(unit);
-    return box;
-}
-
 QFormLayout* LedsDialog::MakeForm()
 {
     auto* form = new QFormLayout;
@@ -196,31 +164,29 @@ QFormLayout* LedsDialog::MakeForm()
             layout->addStretch(1);
         form->addRow(label, layout);
     };
-    protocol = MakeChoice({{QStringLiteral("DDP"), QStringLiteral("ddp")},
-                           {QStringLiteral("E1.31 (sACN)"), QStringLiteral("sacn")},
-                           {QStringLiteral("Art-Net"), QStringLiteral("artnet")}});
+    Fill(protocol, {{QStringLiteral("DDP"), QStringLiteral("ddp")},
+                    {QStringLiteral("E1.31 (sACN)"), QStringLiteral("sacn")},
+                    {QStringLiteral("Art-Net"), QStringLiteral("artnet")}});
     host->setPlaceholderText(tr("Name or address, such as wall.local"));
     host->setAccessibleName(tr("Controller's name or address"));
     row(tr("Controller"), {protocol, host});
-    left = MakeNumber(tr("Left edge"), 0, display.width() - 1, 0, tr(" px"));
-    top = MakeNumber(tr("Top edge"), 0, display.height() - 1, 0, tr(" px"));
-    columns = MakeNumber(tr("Width"), 1, display.width(), display.width(), tr(" px"));
-    rows = MakeNumber(tr("Height"), 1, display.height(), display.height(), tr(" px"));
+    SetNumber(left, tr("Left edge"), 0, display.width() - 1, 0, tr(" px"));
+    SetNumber(top, tr("Top edge"), 0, display.height() - 1, 0, tr(" px"));
+    SetNumber(columns, tr("Width"), 1, display.width(), display.width(), tr(" px"));
+    SetNumber(rows, tr("Height"), 1, display.height(), display.height(), tr(" px"));
     row(tr("Part of the display"), {left, top, new QLabel(tr("size"), this), columns, rows});
-    direction = MakeChoice(
-        {{tr("Rows"), QStringLiteral("rows")}, {tr("Columns"), QStringLiteral("columns")}});
+    Fill(direction,
+         {{tr("Rows"), QStringLiteral("rows")}, {tr("Columns"), QStringLiteral("columns")}});
     serpentine->setToolTip(tr("Every other row or column runs in the opposite direction"));
     row(tr("LEDs run along"), {direction, serpentine});
-    corner = MakeChoice({{tr("Top left"), QStringLiteral("top-left")},
-                         {tr("Top right"), QStringLiteral("top-right")},
-                         {tr("Bottom left"), QStringLiteral("bottom-left")},
-                         {tr("Bottom right"), QStringLiteral("bottom-right")}});
+    Fill(corner, {{tr("Top left"), QStringLiteral("top-left")},
+                  {tr("Top right"), QStringLiteral("top-right")},
+                  {tr("Bottom left"), QStringLiteral("bottom-left")},
+                  {tr("Bottom right"), QStringLiteral("bottom-right")}});
     row(tr("First LED"), {corner});
-    turn = MakeChoice({});
     for (int degrees : {0, 90, 180, 270})
         turn->addItem(tr("%1°").arg(degrees), QStringLiteral("rotate-%1").arg(degrees));
     row(tr("Rotation"), {turn});
-    order = MakeChoice({});
     for (const char* letters : {"RGB", "RBG", "GRB", "GBR", "BRG", "BGR"})
         order->addItem(QLatin1String(letters),
                        QStringLiteral("color-order=") + QLatin1String(letters));
@@ -230,9 +196,9 @@ QFormLayout* LedsDialog::MakeForm()
     gamma->setDecimals(1);
     gamma->setSpecialValueText(tr("Off"));
     row(tr("Gamma"), {gamma});
-    brightness = MakeNumber(QString(), 0, 100, 100, tr(" %"));
+    SetNumber(brightness, QString(), 0, 100, 100, tr(" %"));
     row(tr("Brightness"), {brightness});
-    universe = MakeNumber(QString(), 0, 63999, 1, QString());
+    SetNumber(universe, QString(), 0, 63999, 1, QString());
     row(tr("First universe"), {universe});
     return form;
 }
@@ -311,7 +277,8 @@ void LedsDialog::Refresh()
     const bool isDdp = protocol->currentIndex() == 0;
     universe->setEnabled(!isDdp);
     universe->setToolTip(isDdp ? tr("DDP has no universes") : QString());
-    wiring->Draw(QSize(columns->value(), rows->value()), controller.wiring);
+    wiring->setPixmap(WiringPicture(QSize(columns->value(), rows->value()), controller.wiring,
+                                    palette().color(QPalette::Highlight), devicePixelRatioF()));
     command->setText(
         QStringLiteral("animtext play %1 --to %2")
             .arg(scenePath.isEmpty() ? tr("sign.json") : QFileInfo(scenePath).fileName(),

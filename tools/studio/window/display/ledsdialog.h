@@ -20,8 +20,6 @@
 
 namespace AnimText {
 
-class WiringView;
-
 /** Sends every picture of the studio's display to a controller's LEDs. */
 class LedsDialog : public QDialog
 {
@@ -45,8 +43,6 @@ public slots:
     void Show(const QImage& picture);
 
 private:
-    QComboBox* MakeChoice(const QList<QPair<QString, QString>>& choices);
-    QSpinBox* MakeNumber(const QString& name, int least, int most, int value, const QString& unit);
     QFormLayout* MakeForm();
     Controller ReadFields(QString* error) const;
     void Change();
@@ -65,25 +61,26 @@ private:
     QString foundHost; // address of the host's name
     std::unique_ptr<Lights> lights;
 
-    QComboBox* protocol;
-    QLineEdit* host;
-    QSpinBox* left;
-    QSpinBox* top;
-    QSpinBox* columns;
-    QSpinBox* rows;
-    QComboBox* direction;
-    QCheckBox* serpentine;
-    QComboBox* corner;
-    QComboBox* turn;
-    QComboBox* order;
-    QDoubleSpinBox* gamma;
-    QSpinBox* brightness;
-    QSpinBox* universe;
-    WiringView* wiring;
-    QLineEdit* command;
-    QLabel* state;
-    QPushButton* pattern;
-    QPushButton* start;
+    // In the order of the Tab key.
+    QComboBox* protocol = new QComboBox(this);
+    QLineEdit* host = new QLineEdit(this);
+    QSpinBox* left = new QSpinBox(this);
+    QSpinBox* top = new QSpinBox(this);
+    QSpinBox* columns = new QSpinBox(this);
+    QSpinBox* rows = new QSpinBox(this);
+    QComboBox* direction = new QComboBox(this);
+    QCheckBox* serpentine = new QCheckBox(tr("Serpentine"), this);
+    QComboBox* corner = new QComboBox(this);
+    QComboBox* turn = new QComboBox(this);
+    QComboBox* order = new QComboBox(this);
+    QDoubleSpinBox* gamma = new QDoubleSpinBox(this);
+    QSpinBox* brightness = new QSpinBox(this);
+    QSpinBox* universe = new QSpinBox(this);
+    QLabel* wiring = new QLabel(this); // a picture of it
+    QLineEdit* command = new QLineEdit(this);
+    QLabel* state = new QLabel(this);
+    QPushButton* pattern = new QPushButton(tr("Show test pattern"), this);
+    QPushButton* start = new QPushButton(this);
 };
 
 } // namespace AnimText

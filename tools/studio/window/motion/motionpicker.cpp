@@ -113,9 +113,6 @@ private:
 MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     : QWidget(parent)
     , thumbnails(thumbnails)
-    , search(new QLineEdit(this))
-    , family(new QComboBox(this))
-    , list(new QListView(this))
 {
     search->setPlaceholderText(tr("Search motions"));
     search->setAccessibleName(tr("Search motions"));

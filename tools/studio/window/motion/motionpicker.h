@@ -53,9 +53,9 @@ private:
     Thumbnails* thumbnails;
     QStandardItemModel motions; // the effects, followed by the scrolls
     QSortFilterProxyModel filtered;
-    QLineEdit* search;
-    QComboBox* family;
-    QListView* list;
+    QLineEdit* search = new QLineEdit(this);
+    QComboBox* family = new QComboBox(this);
+    QListView* list = new QListView(this);
     QTimer beat;
     int chosenHeight = 0; // logical pixels; 0 until resized by hand
     int shownRow = -1;

@@ -76,9 +76,6 @@ int UnitsOf(const UnseenCharacter& character)
 
 TextPanel::TextPanel(QWidget* parent)
     : QWidget(parent)
-    , editor(new TextEditor(this))
-    , notes(new QLabel(this))
-    , otherFont(new QPushButton(tr("Use another font for these"), this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -148,13 +145,11 @@ QToolButton* TextPanel::MakeFace(const QString& letter, const QKeySequence& key,
 
 void TextPanel::MakeTools(QWidget* row)
 {
-    family = new QFontComboBox(row);
     family->setAccessibleName(tr("Font"));
     family->setToolTip(tr("Font"));
     family->setFontFilters(QFontComboBox::ScalableFonts);
     family->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     family->setMinimumContentsLength(8);
-    size = new NumberField(row);
     size->SetUnit(tr("px"));
     size->SetLimits(4, 2000);
     size->setAccessibleName(tr("Size"));

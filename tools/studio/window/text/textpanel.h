@@ -50,13 +50,13 @@ private:
     void UseOtherFonts();
     void Tell();
 
-    TextEditor* editor;
-    QFontComboBox* family;
-    NumberField* size;
+    TextEditor* editor = new TextEditor(this);
     QVector<QPair<QToolButton*, bool (QFont::*)() const>> faces; // bold, italic, underline
     QToolButton* color;
-    QLabel* notes;
-    QPushButton* otherFont; // replaces fonts that lack letters
+    QLabel* notes = new QLabel(this);
+    QPushButton* otherFont = new QPushButton(tr("Use another font for these"), this);
+    QFontComboBox* family = new QFontComboBox(this);
+    NumberField* size = new NumberField(this);
     QList<UnseenCharacter> unseen;
     QTimer pause;
     int shownId = 0;

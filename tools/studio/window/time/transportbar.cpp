@@ -41,27 +41,28 @@ protected:
 TransportBar::TransportBar(Playback* playback, QWidget* parent)
     : QWidget(parent)
     , playback(playback)
-    , time(new QLabel(this))
     , ends(new ShortLabel(this))
-    , what(new QComboBox(this))
 {
-    auto* toStart = Button(QStringLiteral("media-skip-backward"), tr("Go to start"), tr("Home"));
-    auto* back = Button(QStringLiteral("step-back"), tr("One tick back"), QStringLiteral("←"));
-    play = Button(QStringLiteral("media-playback-start"), tr("Play"), tr("Space"));
-    auto* forward =
-        Button(QStringLiteral("step-forward"), tr("One tick forward"), QStringLiteral("→"));
-    auto* toEnd = Button(QStringLiteral("media-skip-forward"), tr("Go to end"), tr("End"));
-    loop = Button(QStringLiteral("media-playlist-repeat"), tr("Loop the page"), tr("R"));
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
+    layout->setSpacing(grid / 2);
+    const auto by = [playback](int ticks) {
+        return [=] { playback->Seek(playback->Tick() + ticks); };
+    };
+    // The Home and End keys do the same as the spare buttons.
+    spare.append(Add(QStringLiteral("media-skip-backward"), tr("Go to start"), tr("Home"),
+                     [=] { playback->Seek(0); }));
+    Add(QStringLiteral("step-back"), tr("One tick back"), QStringLiteral("←"), by(-1));
+    play = Add(QStringLiteral("media-playback-start"), tr("Play"), tr("Space"),
+               [=] { playback->Toggle(); });
+    Add(QStringLiteral("step-forward"), tr("One tick forward"), QStringLiteral("→"), by(1));
+    spare.append(Add(QStringLiteral("media-skip-forward"), tr("Go to end"), tr("End"),
+                     [=] { playback->Seek(playback->Length() - 1); }));
+    loop = Add(QStringLiteral("media-playlist-repeat"), tr("Loop the page"), tr("R"),
+               [this] { emit LoopToggled(); });
     loop->setToolTip(loop->toolTip() + QLatin1Char('\n') +
                      tr("Shift+drag on the timeline loops a range"));
     loop->setCheckable(true);
-    spare = {toStart, toEnd}; // the Home and End keys do the same
-    connect(toStart, &QToolButton::clicked, this, [=] { playback->Seek(0); });
-    connect(back, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() - 1); });
-    connect(play, &QToolButton::clicked, playback, &Playback::Toggle);
-    connect(forward, &QToolButton::clicked, this, [=] { playback->Seek(playback->Tick() + 1); });
-    connect(toEnd, &QToolButton::clicked, this, [=] { playback->Seek(playback->Length() - 1); });
-    connect(loop, &QToolButton::clicked, this, &TransportBar::LoopToggled);
 
     what->addItems({tr("This page"), tr("All pages")});
     what->setAccessibleName(tr("What to play"));
@@ -74,11 +75,6 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     time->setMinimumWidth(time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s")));
     ends->setFont(TabularFont(font()));
 
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
-    layout->setSpacing(grid / 2);
-    for (QToolButton* button : {toStart, back, play, forward, toEnd, loop})
-        layout->addWidget(button);
     layout->addSpacing(2 * grid);
     layout->addWidget(time);
     layout->addWidget(ends, 1);
@@ -92,7 +88,8 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     ShowTime();
 }
 
-QToolButton* TransportBar::Button(const QString& icon, const QString& name, const QString& key)
+QToolButton* TransportBar::Add(const QString& icon, const QString& name, const QString& key,
+                               const std::function<void()>& act)
 {
     auto* button = new QToolButton(this);
     button->setAutoRaise(true);
@@ -100,6 +97,8 @@ QToolButton* TransportBar::Button(const QString& icon, const QString& name, cons
     button->setAccessibleName(name);
     button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key));
     button->setFocusPolicy(Qt::TabFocus);
+    connect(button, &QToolButton::clicked, this, act);
+    layout()->addWidget(button);
     return button;
 }
 

@@ -13,6 +13,8 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include <functional>
+
 namespace AnimText {
 
 class TransportBar : public QWidget
@@ -37,7 +39,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QToolButton* Button(const QString& icon, const QString& name, const QString& key);
+    QToolButton* Add(const QString& icon, const QString& name, const QString& key,
+                     const std::function<void()>& act);
     void ShowTime();
     void ShowPace();
 
@@ -45,9 +48,9 @@ private:
     QList<QToolButton*> spare; // hidden in a narrow window
     QToolButton* play;
     QToolButton* loop;
-    QLabel* time;
+    QLabel* time = new QLabel(this);
     QLabel* ends;
-    QComboBox* what;
+    QComboBox* what = new QComboBox(this);
 };
 
 /** The planned and actual time, as in "planned 12.5 s · needs 12.9 s · 0.4 s lost". */
