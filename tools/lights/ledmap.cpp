@@ -1,33 +1,26 @@
 #include "lights/ledmap.h"
 
+#include <QTransform>
+
 #include <cmath>
 
 namespace AnimText {
 
 QVector<int> LedOrder(QSize size, const Wiring& wiring)
 {
-    const int width = size.width();
-    const int height = size.height();
-    const QSize matrix = wiring.turns % 2 == 0 ? size : size.transposed();
-    const int length = wiring.columns ? matrix.height() : matrix.width();
+    // Numbers every pixel, and turns the numbers as the matrix and its data line are turned.
+    QImage numbers(size, QImage::Format_ARGB32);
+    for (int i = 0; i < size.width() * size.height(); ++i)
+        numbers.setPixel(i % size.width(), i / size.width(), QRgb(i));
+    numbers = numbers.transformed(QTransform().rotate(90 * wiring.turns))
+                  .mirrored(wiring.right, wiring.bottom);
+    if (wiring.columns)
+        numbers = numbers.transformed(QTransform().rotate(90)).mirrored(true, false);
     QVector<int> order;
-    order.reserve(width * height);
-    for (int led = 0; led < width * height; ++led) {
-        const int line = led / length;
-        const int along =
-            wiring.serpentine && line % 2 == 1 ? length - 1 - led % length : led % length;
-        int x = wiring.columns ? line : along;
-        int y = wiring.columns ? along : line;
-        if (wiring.right)
-            x = matrix.width() - 1 - x;
-        if (wiring.bottom)
-            y = matrix.height() - 1 - y;
-        // Rotates from the matrix back to the picture.
-        switch (wiring.turns) {
-        case 1: order.append(y + (height - 1 - x) * width); break;
-        case 2: order.append(width - 1 - x + (height - 1 - y) * width); break;
-        case 3: order.append(width - 1 - y + x * width); break;
-        default: order.append(x + y * width);
+    for (int y = 0; y < numbers.height(); ++y) {
+        for (int x = 0; x < numbers.width(); ++x) {
+            const bool back = wiring.serpentine && y % 2 == 1;
+            order.append(int(numbers.pixel(back ? numbers.width() - 1 - x : x, y)));
         }
     }
     return order;
