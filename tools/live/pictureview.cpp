@@ -164,29 +164,6 @@ QSize PictureView::minimumSizeHint() const
     return zoom > 0 ? sizeHint() : QSize(64, 16);
 }
 
-/** The pixels of @p part of the picture as squares or LEDs. */
-QImage PictureView::Magnified(const QRect& part) const
-{
-    const int size = int(std::ceil(Scale()));
-    if (ShowsLamps())
-        return AsLamps(pixels.copy(part), size, pitch);
-    QImage large(part.size() * size, pixels.format());
-    for (int y = 0; y < part.height(); ++y) {
-        const auto* from =
-            reinterpret_cast<const QRgb*>(pixels.constScanLine(part.y() + y)) + part.x();
-        for (int row = 0; row < size; ++row) {
-            auto* to = reinterpret_cast<QRgb*>(large.scanLine(y * size + row));
-            if (row > 0) {
-                std::memcpy(to, large.constScanLine(y * size), size_t(large.bytesPerLine()));
-                continue;
-            }
-            for (int x = 0; x < part.width(); ++x, to += size)
-                std::fill(to, to + size, from[x]);
-        }
-    }
-    return large;
-}
-
 /** Paints in physical pixels; the painter's origin is the widget's corner. */
 void PictureView::Paint(QPainter* painter) const
 {
@@ -209,9 +186,16 @@ void PictureView::Paint(QPainter* painter) const
             picture.rect();
         const QRectF target(QPointF(place.topLeft()) + QPointF(part.topLeft()) * scale,
                             QSizeF(part.size()) * scale);
-        painter->setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
-        if (!seen.isEmpty() && !part.isEmpty())
-            painter->drawImage(target, Magnified(part));
+        const bool isWhole = scale == std::floor(scale);
+        if (seen.isEmpty() || part.isEmpty())
+            return;
+        QImage squares = pixels.copy(part);
+        if (ShowsLamps())
+            squares = AsLamps(squares, int(scale), pitch);
+        else if (!isWhole) // only their edges become soft
+            squares = squares.scaled(squares.size() * int(std::ceil(scale)));
+        painter->setRenderHint(QPainter::SmoothPixmapTransform, !isWhole);
+        painter->drawImage(target, squares);
     }
     if (dimmed)
         painter->fillRect(

@@ -77,7 +77,6 @@ private:
     bool ShowsLamps() const;
     QRect Place() const;
     void Paint(QPainter* painter) const;
-    QImage Magnified(const QRect& part) const;
     void LookChanged();
 
     QImage picture;
