@@ -93,14 +93,12 @@ QVector<QByteArray> PacketMaker::Universes(const QByteArray& channels) const
     return universes;
 }
 
-QHostAddress PacketMaker::Group(int universe) const
-{
-    return controller.host.isEmpty() ? QHostAddress(0xEFFF0000U | quint32(universe))
-                                     : QHostAddress();
-}
-
 QVector<Packet> PacketMaker::E131(const QByteArray& channels, bool isLast)
 {
+    const auto group = [this](int universe) {
+        return controller.host.isEmpty() ? QHostAddress(0xEFFF0000U | quint32(universe))
+                                         : QHostAddress();
+    };
     QVector<Packet> packets;
     sequence = (sequence + 1) % 256;
     int universe = controller.universe;
@@ -113,14 +111,14 @@ QVector<Packet> PacketMaker::E131(const QByteArray& channels, bool isLast)
                   Number(controller.priority, 1) + Number(controller.syncUniverse, 2) +
                   Number(sequence, 1) + Number(isLast ? streamTerminated : 0, 1) +
                   Number(universe, 2) + properties);
-        packets.append({Root(4, component, framing), Group(universe)});
+        packets.append({Root(4, component, framing), group(universe)});
         ++universe;
     }
     if (controller.syncUniverse > 0)
         packets.append({Root(8, component,
                              Layer(Number(1, 4) + Number(sequence, 1) +
                                    Number(controller.syncUniverse, 2) + Number(0, 2))),
-                        Group(controller.syncUniverse)});
+                        group(controller.syncUniverse)});
     return packets;
 }
 

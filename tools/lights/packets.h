@@ -37,7 +37,6 @@ private:
     QVector<Packet> E131(const QByteArray& channels, bool isLast);
     QVector<Packet> ArtNet(const QByteArray& channels);
     QVector<QByteArray> Universes(const QByteArray& channels) const;
-    QHostAddress Group(int universe) const;
 
     Controller controller;
     QByteArray component; // E1.31: the sender's identifier, 16 bytes

@@ -48,9 +48,10 @@ QBrush Checkers(double ratio)
 
 } // namespace
 
-PictureView::PictureView(QWidget* parent)
+PictureView::PictureView(QWidget* parent, bool fillsRoom)
     : QWidget(parent)
     , surroundings(0x50, 0x50, 0x50)
+    , fillsRoom(fillsRoom)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -82,12 +83,6 @@ void PictureView::SetPitch(double wanted)
 {
     pitch = wanted > 0 ? qBound(1.0, wanted, largestPitch) : 0;
     LookChanged(); // LEDs need a whole scale
-}
-
-void PictureView::SetFillsRoom(bool fills)
-{
-    fillsRoom = fills;
-    LookChanged();
 }
 
 void PictureView::SetCheckered(bool wanted)

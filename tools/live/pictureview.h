@@ -23,7 +23,11 @@ class PictureView : public QWidget
     Q_OBJECT
 
 public:
-    explicit PictureView(QWidget* parent = nullptr);
+    /**
+     * @param fillsRoom whether a fitted picture may use the whole widget: below a scale of 4, where
+     * a whole number would leave a fifth of it unused, its pixels become squares with soft edges
+     */
+    explicit PictureView(QWidget* parent = nullptr, bool fillsRoom = false);
 
     /** The picture as it was set; its device pixel ratio is ignored. */
     const QImage& Picture() const { return picture; }
@@ -41,12 +45,6 @@ public:
      */
     double Pitch() const { return pitch; }
     void SetPitch(double pitch);
-
-    /**
-     * Whether a fitted picture may use the whole widget: below a scale of 4, where a whole number
-     * would leave a fifth of it unused, its pixels become squares with soft edges.
-     */
-    void SetFillsRoom(bool fills);
 
     /** Shows transparent pixels over a pattern instead of over black. */
     void SetCheckered(bool checkered);
@@ -87,7 +85,7 @@ private:
     double lastScale = 0;
     bool checkered = false;
     bool dimmed = false;
-    bool fillsRoom = false;
+    const bool fillsRoom;
 };
 
 } // namespace AnimText

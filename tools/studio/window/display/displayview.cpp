@@ -22,7 +22,7 @@ const QColor magenta(255, 0, 160); // of marks that no sign has
 } // namespace
 
 DisplayView::DisplayView(QWidget* parent)
-    : PictureView(parent)
+    : PictureView(parent, true)
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -64,7 +64,6 @@ MainWindow::~MainWindow()
 void MainWindow::MakeCenter()
 {
     view->SetSurroundings(surroundings);
-    view->SetFillsRoom(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus); // the display inside has the focus
     scroll->setWidgetResizable(true);

@@ -20,12 +20,6 @@ const QByteArray ownKey = "text";
 constexpr int sizeProperty = QTextFormat::UserProperty + 1; // size on the sign in pixels
 constexpr int readingSize = 20;                             // pixels
 
-/** Whether @p source has text, and not only pictures or other formats. */
-bool HasWords(const QMimeData* source)
-{
-    return source && (source->hasFormat(ownFormat) || source->hasText() || source->hasHtml());
-}
-
 /** The text of @p source; some programs copy only HTML. */
 QString WordsIn(const QMimeData* source)
 {
@@ -160,14 +154,15 @@ QMimeData* TextEditor::createMimeDataFromSelection() const
     return data;
 }
 
+/** Whether @p source has text, and not only pictures or other formats. */
 bool TextEditor::canInsertFromMimeData(const QMimeData* source) const
 {
-    return HasWords(source);
+    return source && (source->hasFormat(ownFormat) || source->hasText() || source->hasHtml());
 }
 
 void TextEditor::insertFromMimeData(const QMimeData* source)
 {
-    if (!HasWords(source))
+    if (!canInsertFromMimeData(source))
         return;
     const TextSources own = SourcesFromJson(source->data(ownFormat));
     StyledText text;

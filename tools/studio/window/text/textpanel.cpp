@@ -375,9 +375,7 @@ void TextPanel::ShowNotes(const SignText& text)
     notes->setText(lines.join(QLatin1Char('\n')));
     notes->setToolTip(notes->text());
     notes->setVisible(!lines.isEmpty());
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, Warning(palette()));
-    notes->setPalette(colors);
+    SetInk(notes, Warning(palette()));
 }
 
 bool TextPanel::eventFilter(QObject* object, QEvent* event)

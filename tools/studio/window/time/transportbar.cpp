@@ -155,12 +155,10 @@ TextTime SideBySide(const QVector<TextTime>& texts)
 
 QString EndsInWords(const TextTime& text)
 {
-    switch (text.ending) {
-    case Ending::NothingToPlay: return TransportBar::tr("this text is empty");
-    case Ending::TooLong:
+    if (text.ending == Ending::NothingToPlay)
+        return TransportBar::tr("this text is empty");
+    if (text.ending == Ending::TooLong)
         return TransportBar::tr("planned %1 · too long to measure").arg(SecondsText(text.planned));
-    default: break;
-    }
     QString words = TransportBar::tr("planned %1 · needs %2")
                         .arg(SecondsText(text.planned), SecondsText(text.actual));
     const qint64 difference = text.actual - text.planned;
@@ -177,10 +175,7 @@ void TransportBar::ShowEnds(const TextTime* text, const QString& all)
 {
     ends->setText(text ? EndsInWords(*text) : QString());
     ends->setToolTip(all);
-    QPalette colors = palette();
-    const bool isAlarm = text && LostPages(*text) > 0;
-    colors.setColor(QPalette::WindowText, isAlarm ? Warning(colors) : Quiet(colors));
-    ends->setPalette(colors);
+    SetInk(ends, text && LostPages(*text) > 0 ? Warning(palette()) : Quiet(palette()));
 }
 
 } // namespace AnimText
