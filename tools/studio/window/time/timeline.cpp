@@ -284,14 +284,13 @@ void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
 {
     const QColor base = palette().color(QPalette::Base);
     const QColor accent = palette().color(QPalette::Highlight);
-    const double strength = stale ? 0.6 : 0;
     const double holdShare = base.lightness() < 128 ? 0.45 : 0.65; // must be visible on dark, too
     if (phase == Cut) {
         painter->fillRect(rect, Mixed(base, QColor(0, 0, 0, 0), 0.4));
         painter->fillRect(rect, QBrush(Warning(palette()), Qt::BDiagPattern));
     } else {
-        painter->fillRect(
-            rect, Mixed(Mixed(accent, base, phase == Entrance ? 0.1 : holdShare), base, strength));
+        const QColor color = Mixed(accent, base, phase == Entrance ? 0.1 : holdShare);
+        painter->fillRect(rect, Mixed(color, base, stale ? 0.6 : 0));
     }
 }
 
@@ -300,37 +299,36 @@ void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& 
     const TextTime& text = row.time;
     const bool isSelected = row.id == selected;
     const QColor base = palette().color(QPalette::Base);
-    const QColor ink = palette().color(QPalette::Text);
-    const QColor accent = palette().color(QPalette::Highlight);
-    if (isSelected)
-        painter->fillRect(rect, Mixed(accent, base, 0.88));
-
+    const QColor background =
+        isSelected ? Mixed(palette().color(QPalette::Highlight), base, 0.88) : base;
+    painter->fillRect(rect, background);
     QFont titleFont = font();
     titleFont.setBold(isSelected);
     painter->setFont(titleFont);
-    painter->setPen(ink);
-    painter->drawText(
-        rect.adjusted(2 * inset, 0, 0, 0)
-            .intersected(QRect(0, rect.top(), titleWidth - inset, rowHeight)),
-        Qt::AlignVCenter | Qt::TextSingleLine,
-        QFontMetrics(titleFont).elidedText(row.title, Qt::ElideRight, titleWidth - 3 * inset));
+    painter->setPen(palette().color(QPalette::Text));
+    const QRect title(2 * inset, rect.top(), titleWidth - 3 * inset, rowHeight);
+    painter->drawText(title, Qt::AlignVCenter | Qt::TextSingleLine,
+                      painter->fontMetrics().elidedText(row.title, Qt::ElideRight, title.width()));
+    if (text.ending == Ending::NothingToPlay)
+        return;
 
-    const QRectF bar(0, rect.top() + inset, 0, rowHeight - 2 * inset);
     painter->save();
     painter->setClipRect(rect.adjusted(titleWidth - 1, 0, 0, 0), Qt::IntersectClip);
-    const auto block = [&](double from, double to, Phase phase) {
-        const double x = XOf(from);
-        Fill(painter, QRectF(x, bar.top(), std::max(1.0, XOf(to) - x - 1), bar.height()), phase);
+    const auto stretch = [&](double begin, double end) {
+        return QRectF(XOf(begin), rect.top() + inset, XOf(end) - XOf(begin), rowHeight - 2 * inset);
+    };
+    const auto block = [&](double begin, double end, Phase phase) {
+        QRectF bar = stretch(begin, end);
+        bar.setWidth(std::max(1.0, bar.width() - 1));
+        Fill(painter, bar, phase);
     };
     const double from = TicksOf(text.from);
+    const double actual = text.actual >= 0 ? from + TicksOf(text.actual) : Ticks();
     // The host's very long times overflow to negative ones.
     const double planned =
         text.until >= 0 ? TicksOf(text.until) : from + TicksOf(std::max<qint64>(0, text.planned));
-    if (text.pages.isEmpty()) {
-        const double end = text.actual >= 0 ? from + TicksOf(text.actual) : Ticks();
-        if (text.ending != Ending::NothingToPlay)
-            block(from, end, Entrance);
-    }
+    if (text.pages.isEmpty())
+        block(from, actual, Entrance);
     const int perPlay = PagesPerPlay(row);
     for (int i = 0; i < text.pages.size(); ++i) {
         const PageTime& page = text.pages.at(i);
@@ -340,31 +338,20 @@ void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& 
         if (i < perPlay)
             continue;
         // Repeats are drawn flatter than the first play, with their number.
-        const QRectF covered(XOf(from + page.begin), bar.top(),
-                             XOf(from + page.end) - XOf(from + page.begin), 5);
-        painter->fillRect(covered, isSelected ? Mixed(accent, base, 0.88) : base);
+        const QRectF bar = stretch(from + page.begin, from + page.end);
+        painter->fillRect(QRectF(bar.topLeft(), QSizeF(bar.width(), 5)), background);
         const QString number = QStringLiteral("×%1").arg(i / perPlay + 1);
         painter->setFont(TabularFont(font(), -2));
-        if (i % perPlay == 0 &&
-            painter->fontMetrics().horizontalAdvance(number) < covered.width()) {
-            painter->setPen(palette().color(QPalette::HighlightedText));
-            painter->drawText(
-                QRectF(covered.left() + 3, bar.top() + 5, covered.width(), bar.height() - 5),
-                Qt::AlignVCenter, number);
-        }
+        painter->setPen(palette().color(QPalette::HighlightedText));
+        if (i % perPlay == 0 && painter->fontMetrics().horizontalAdvance(number) < bar.width())
+            painter->drawText(bar.adjusted(3, 5, 3, 0), Qt::AlignVCenter, number);
     }
     // The host stops the text after its planned time and cuts off the rest.
-    const double actual = text.actual >= 0 ? from + TicksOf(text.actual) : Ticks();
-    if (text.ending != Ending::NothingToPlay &&
-        actual > planned + 1.99) { // nobody misses a single tick
-        Fill(painter, QRectF(XOf(planned), bar.top(), XOf(actual) - XOf(planned), bar.height()),
-             Cut);
-    }
-    if (text.ending != Ending::NothingToPlay) {
-        painter->setPen(QPen(Warning(palette()), 1));
-        const double x = std::round(XOf(planned));
-        painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
-    }
+    if (actual > planned + 1.99) // nobody misses a single tick
+        Fill(painter, stretch(planned, actual), Cut);
+    painter->setPen(QPen(Warning(palette()), 1));
+    const double x = std::round(XOf(planned));
+    painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
     painter->restore();
 }
 
