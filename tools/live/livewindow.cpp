@@ -10,17 +10,6 @@ namespace {
 
 constexpr int largestStandardZoom = 8;
 
-/** The window size for a picture of @p size that does not cover the whole desktop. */
-QSize WindowSize(QSize size, int zoom, QSize desktop)
-{
-    const QSize room = desktop * 4 / 5;
-    if (zoom == 0)
-        zoom = qBound(1, qMin(room.width() / size.width(), room.height() / size.height()),
-                      largestStandardZoom);
-    const QSize wanted = size * zoom;
-    return wanted.boundedTo(room);
-}
-
 } // namespace
 
 LiveWindow::LiveWindow(LivePlayer* player)
@@ -36,7 +25,10 @@ LiveWindow::LiveWindow(LivePlayer* player)
 void LiveWindow::Open(const QString& title, QSize size, bool fullScreen)
 {
     name = title;
-    windowSize = WindowSize(size, Zoom(), screen()->availableSize());
+    const QSize room = screen()->availableSize() * 4 / 5; // leaves some of the desktop
+    const int fitting = qMin(room.width() / size.width(), room.height() / size.height());
+    const int zoom = Zoom() > 0 ? Zoom() : qBound(1, fitting, largestStandardZoom);
+    windowSize = (size * zoom).boundedTo(room);
     resize(windowSize);
     TellState();
     Present(fullScreen || !isOnDesktop);

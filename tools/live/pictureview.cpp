@@ -22,17 +22,13 @@ constexpr double largestSoftScale = 4;
 /** The rows in which two pictures of the same size and format differ; empty if they are equal. */
 QRect Difference(const QImage& one, const QImage& other)
 {
-    const auto differ = [&](int y) {
-        return std::memcmp(one.constScanLine(y), other.constScanLine(y),
-                           size_t(one.width()) * size_t(one.depth()) / 8) != 0;
-    };
-    int top = 0;
-    while (top < one.height() && !differ(top))
-        ++top;
-    int bottom = one.height() - 1;
-    while (bottom > top && !differ(bottom))
-        --bottom;
-    return top == one.height() ? QRect() : QRect(0, top, one.width(), bottom - top + 1);
+    QRect rows;
+    for (int y = 0; y < one.height(); ++y) {
+        if (std::memcmp(one.constScanLine(y), other.constScanLine(y),
+                        size_t(one.width()) * size_t(one.depth()) / 8) != 0)
+            rows |= QRect(0, y, one.width(), 1);
+    }
+    return rows;
 }
 
 QBrush Checkers(double ratio)

@@ -179,10 +179,9 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
 
 void MotionPicker::Show(const SignText& text)
 {
-    const NodeMotion motion = MotionOf(text.node);
-    const bool scroll = motion.IsScroll();
-    const Motion* known = scroll ? FindScroll(motion.number) : FindEffect(motion.number);
-    shownRow = known ? (scroll ? Effects().size() : 0) + motion.number : -1;
+    const Motion* motion = MotionOf(text.node).Row();
+    const bool scroll = MotionOf(text.node).IsScroll();
+    shownRow = motion ? (scroll ? Effects().size() : 0) + motion->number : -1;
     const QModelIndex index = filtered.mapFromSource(motions.index(shownRow, 0));
     if (index.isValid())
         list->setCurrentIndex(index);

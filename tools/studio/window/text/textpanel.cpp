@@ -80,10 +80,8 @@ TextPanel::TextPanel(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(grid);
-    auto* row = new QWidget(this);
-    MakeTools(row);
     layout->addWidget(editor);
-    layout->addWidget(row);
+    layout->addLayout(MakeTools());
     // A fixed height, so that the fields below do not jump while typing.
     auto* room = new QWidget(this);
     auto* below = new QHBoxLayout(room);
@@ -143,7 +141,7 @@ QToolButton* TextPanel::MakeFace(const QString& letter, const QKeySequence& key,
     return button;
 }
 
-void TextPanel::MakeTools(QWidget* row)
+QLayout* TextPanel::MakeTools()
 {
     family->setAccessibleName(tr("Font"));
     family->setToolTip(tr("Font"));
@@ -154,15 +152,14 @@ void TextPanel::MakeTools(QWidget* row)
     size->SetLimits(4, 2000);
     size->setAccessibleName(tr("Size"));
     size->setToolTip(tr("Font size in pixels on the sign"));
-    color = new QToolButton(row);
+    color = new QToolButton(this);
     color->setAutoRaise(true);
     color->setPopupMode(QToolButton::InstantPopup);
     color->setAccessibleName(tr("Color"));
     color->setToolTip(tr("Color of the selection"));
     FillColors();
 
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = new QHBoxLayout;
     layout->setSpacing(grid / 2);
     layout->addWidget(
         MakeFace(tr("B"), QKeySequence::Bold, tr("Bold"), &QFont::bold, &QFont::setBold));
@@ -182,6 +179,7 @@ void TextPanel::MakeTools(QWidget* row)
     connect(size, &NumberField::NumberChanged, this, [this](int pixels, int drag) {
         Restyle([&](StyleRun* run) { run->font.setPixelSize(pixels); }, drag);
     });
+    return layout;
 }
 
 void TextPanel::FillColors()

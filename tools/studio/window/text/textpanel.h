@@ -39,7 +39,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void MakeTools(QWidget* row);
+    QLayout* MakeTools();
     QToolButton* MakeFace(const QString& letter, const QKeySequence& key, const QString& name,
                           bool (QFont::*has)() const, void (QFont::*set)(bool));
     void FillColors();
