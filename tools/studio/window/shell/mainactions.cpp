@@ -16,6 +16,8 @@
 #include <QSettings>
 #include <QTreeWidget>
 
+#include <cmath>
+
 namespace AnimText {
 namespace {
 
@@ -39,25 +41,17 @@ QAction* MainWindow::Act(QMenu* menu, const Entry& entry, const std::function<vo
     return action;
 }
 
-void MainWindow::MakeActions()
-{
-    tools->setObjectName(QStringLiteral("tools"));
-    tools->setMovable(false);
-    tools->setIconSize(QSize(20, 20));
-    MakeFileMenu();
-    MakeEditMenu();
-    MakeViewMenu();
-    MakePlayMenu();
-    MakeHelpMenu();
-}
-
 void MainWindow::MakeFileMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
     tools->addAction(Act(file, {tr("&New…"), QKeySequence::New, "document-new"},
                          [this] { Leave([this] { ChooseNew(); }); }));
-    tools->addAction(Act(file, {tr("&Open…"), QKeySequence::Open, "document-open"},
-                         [this] { ChooseAndOpen(); }));
+    tools->addAction(Act(file, {tr("&Open…"), QKeySequence::Open, "document-open"}, [this] {
+        const QString path = QFileDialog::getOpenFileName(
+            this, tr("Open scene"), QFileInfo(document.Path()).path(), tr("Scenes (*.json)"));
+        if (!path.isEmpty())
+            Leave([this, path] { Open(path); });
+    }));
     recent = file->addMenu(tr("Open &recent"));
     connect(recent, &QMenu::aboutToShow, this, &MainWindow::ShowRecent);
     file->addSeparator();
@@ -115,11 +109,9 @@ void MainWindow::MakeEditMenu()
         ShowText(action);
     for (const auto& shown : {qMakePair(add, tr("Text")), qMakePair(addPage, tr("Page"))}) {
         auto* button = new QToolButton(this);
+        button->setDefaultAction(shown.first);
         button->setText(shown.second);
-        button->setIcon(shown.first->icon());
-        button->setToolTip(shown.first->toolTip());
         button->setAccessibleName(shown.first->iconText());
-        connect(button, &QToolButton::clicked, shown.first, &QAction::trigger);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setAutoRaise(true);
         sceneTools->addWidget(button);
@@ -314,9 +306,8 @@ void MainWindow::ShowKeys()
 /** Zooms and keeps the pixel under @p about in place. */
 void MainWindow::ZoomBy(int steps, const QPointF& about)
 {
-    const int zoom = qMax(1, int(view->Scale() / devicePixelRatioF()));
-    const bool isBetween = view->Scale() / devicePixelRatioF() > zoom; // fitted
-    const int next = zoom + steps + (isBetween && steps < 0 ? 1 : 0);
+    const double scale = view->Scale() / devicePixelRatioF();
+    const int next = int(steps > 0 ? std::floor(scale) : std::ceil(scale)) + steps;
     const QPointF pixel = view->ToWidget().inverted().map(about);
     const QPointF inView = view->mapToParent(about.toPoint());
     SetZoom(qBound(1, next, largestZoom));
@@ -379,14 +370,6 @@ void MainWindow::ChooseNew()
     dialog->open();
 }
 
-void MainWindow::ChooseAndOpen()
-{
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open scene"), QFileInfo(document.Path()).path(), tr("Scenes (*.json)"));
-    if (!path.isEmpty())
-        Leave([this, path] { Open(path); });
-}
-
 bool MainWindow::Save(bool elsewhere)
 {
     QString path = document.Path();
@@ -427,20 +410,17 @@ void MainWindow::Leave(const std::function<void()>& then)
 {
     if (document.IsSaving()) {
         afterSave = then;
-        return;
-    }
-    if (!document.IsModified()) {
+    } else if (!document.IsModified()) {
         then();
-        return;
+    } else {
+        const auto save = [this, then] {
+            if (Save())
+                afterSave = then;
+        };
+        notices->Set(NoticeBar::Leaving, tr("%1 has unsaved changes.").arg(document.Name()),
+                     {{tr("Save"), save}, {tr("Don't save"), then}, {tr("Cancel"), {}}});
+        notices->Offers().first()->setFocus();
     }
-    const auto save = [this, then] {
-        afterSave = then;
-        if (!Save())
-            afterSave = {};
-    };
-    notices->Set(NoticeBar::Leaving, tr("%1 has unsaved changes.").arg(document.Name()),
-                 {{tr("Save"), save}, {tr("Don't save"), then}, {tr("Cancel"), {}}});
-    notices->Offers().first()->setFocus();
 }
 
 void MainWindow::ShowRecent()

@@ -103,7 +103,7 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         menu->addSeparator();
         Act(menu, {tr("Remove page")}, [this] { RemoveSelected(); });
     } else if (text) {
-        const QVector<int> ids = PagedIds(text->page);
+        const QList<SignText> all = TextsOf(text->page);
         const int id = text->id;
         const int own = text->page;
         Act(menu, {tr("Edit text")}, [this] { inspector->Text()->BeginTyping(); });
@@ -112,10 +112,10 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         menu->addSeparator();
         Act(menu, {tr("Bring to front")}, [=] {
             PutText(id, own, INT_MAX);
-        })->setEnabled(id != ids.last());
+        })->setEnabled(id != all.last().id);
         Act(menu, {tr("Send to back")}, [=] {
             PutText(id, own, 0);
-        })->setEnabled(id != ids.first());
+        })->setEnabled(id != all.first().id);
         QMenu* pages = menu->addMenu(tr("Move to page"));
         for (int to = 0; to < sign.PageCount(); ++to) {
             QString title = SceneList::PageTitle(sign, to);
@@ -124,7 +124,7 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         }
         Act(pages, {tr("New page")}, [=, to = sign.PageCount()] {
             PutText(id, to, 0);
-        })->setEnabled(ids.size() > 1);
+        })->setEnabled(all.size() > 1);
         menu->addSeparator();
         Act(menu, {tr("Remove text")}, [this] { RemoveSelected(); });
     } else {
@@ -134,14 +134,13 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
     menu->popup(global);
 }
 
-QVector<int> MainWindow::PagedIds(int page) const
+QList<SignText> MainWindow::TextsOf(int page) const
 {
-    QVector<int> ids;
-    for (const SignText& text : document.Current().texts) {
-        if (page < 0 || text.page == page)
-            ids.append(text.id);
-    }
-    return ids;
+    QList<SignText> texts = document.Current().texts;
+    const auto isElsewhere = [page](const SignText& text) { return text.page != page; };
+    if (page >= 0)
+        texts.erase(std::remove_if(texts.begin(), texts.end(), isElsewhere), texts.end());
+    return texts;
 }
 
 } // namespace AnimText

@@ -43,13 +43,22 @@ MainWindow::MainWindow(const QString& plugin)
     dimming.setInterval(dimmingDelay);
     MakeCenter();
     MakeDocks();
-    MakeActions();
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeViewMenu();
+    MakePlayMenu();
+    MakeHelpMenu();
     Connect();
     setTabOrder(inspector->Text()->Editor(), view); // one Tab from typing to playing
     for (QComboBox* box : findChildren<QComboBox*>())
         box->installEventFilter(this);
     resize((screen()->availableSize() * 0.92).boundedTo(largestStandardSize));
-    RestoreLayout();
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("docks")).toByteArray());
+    center->restoreState(settings.value(QStringLiteral("center")).toByteArray());
+    leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
+    Arrange();
 }
 
 MainWindow::~MainWindow()
@@ -71,6 +80,9 @@ void MainWindow::MakeCenter()
     // Both would scroll on keys that move through time.
     scroll->installEventFilter(this);
     timeline->installEventFilter(this);
+    tools->setObjectName(QStringLiteral("tools"));
+    tools->setMovable(false);
+    tools->setIconSize(QSize(20, 20));
     auto* bottom = new QWidget(this);
     auto* layout = new QVBoxLayout(bottom);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -264,16 +276,6 @@ void MainWindow::ShowCalls()
     integrator->ShowDifferences(bothThere ? view->Differences() : -1);
 }
 
-void MainWindow::RestoreLayout()
-{
-    const QSettings settings;
-    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
-    restoreState(settings.value(QStringLiteral("docks")).toByteArray());
-    center->restoreState(settings.value(QStringLiteral("center")).toByteArray());
-    Arrange();
-    leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
-}
-
 void MainWindow::LoadTheirs()
 {
     QString error;
@@ -334,10 +336,8 @@ void MainWindow::Refresh()
     const QString title = text ? text->Title() : tr("Display");
     SetTitle(textDock, title.isEmpty() ? tr("Text") : title);
     QVector<AreaFrame> frames;
-    for (const SignText& text : sign.texts) {
-        if (text.page == CurrentPage())
-            frames.append({text.id, QRect(text.node.pos, text.node.size)});
-    }
+    for (const SignText& text : TextsOf(CurrentPage()))
+        frames.append({text.id, QRect(text.node.pos, text.node.size)});
     view->SetFrames(frames, selected);
     timeline->SetSelected(selected);
     inspector->SetFindings(findings->Of(selected));
@@ -383,40 +383,41 @@ void MainWindow::Rehearse()
 void MainWindow::ShowTiming()
 {
     const Timing& timing = rehearsal.GetTiming();
-    const QVector<int> ids = PagedIds(part.page);
+    const QList<SignText> texts = TextsOf(part.page);
     QVector<TimelineRow> rows;
-    for (int i = 0; i < qMin(ids.size(), timing.texts.size()); ++i) {
-        const SignText* text = document.Current().Find(ids.at(i));
-        const int plays = text->node.attributes.value(QStringLiteral("PlayTimes")).toInt();
-        rows.append({text->id, text->Title(), plays, timing.texts.at(i)});
+    for (int i = 0; i < qMin(texts.size(), timing.texts.size()); ++i) {
+        const SignText& text = texts.at(i);
+        const int plays = text.node.attributes.value(QStringLiteral("PlayTimes")).toInt();
+        rows.append({text.id, text.Title(), plays, timing.texts.at(i)});
     }
     timeline->SetRows(rows, timing.Ticks());
     playback.SetLength(timing.Ticks());
-    ShowEnds(ids);
+    ShowEnds();
 }
 
 /** Shows the times of the selected text, and of the page and all pages as a tooltip. */
-void MainWindow::ShowEnds(const QVector<int>& ids)
+void MainWindow::ShowEnds()
 {
     const Timing& timing = rehearsal.GetTiming();
-    if (timing.texts.size() != ids.size()) {
+    const QList<SignText> texts = TextsOf(part.page);
+    if (timing.texts.size() != texts.size()) {
         transport->ShowEnds(nullptr, QString());
         return;
     }
     QStringList lines;
     const TextTime* shown = nullptr;
     QMap<int, QMap<int, TextTime>> pages; // the texts of an area play one after another
-    for (int i = 0; i < ids.size(); ++i) {
-        const SignText* text = document.Current().Find(ids.at(i));
+    for (int i = 0; i < texts.size(); ++i) {
+        const SignText& text = texts.at(i);
         const TextTime& time = timing.texts.at(i);
-        QMap<int, TextTime>& areas = pages[text->page];
-        if (!areas.contains(text->area)) {
-            areas[text->area] = time;
+        QMap<int, TextTime>& areas = pages[text.page];
+        if (!areas.contains(text.area)) {
+            areas[text.area] = time;
         } else {
-            areas[text->area].planned += time.planned;
-            areas[text->area].actual += time.actual;
+            areas[text.area].planned += time.planned;
+            areas[text.area].actual += time.actual;
         }
-        if (text->id == selected) {
+        if (text.id == selected) {
             lines.append(tr("Text: %1").arg(EndsInWords(time)));
             shown = &time;
         }

@@ -69,7 +69,6 @@ protected:
 private:
     void MakeCenter();
     void MakeDocks();
-    void MakeActions();
     void MakeFileMenu();
     void MakeEditMenu();
     void MakeViewMenu();
@@ -85,13 +84,12 @@ private:
     QAction* Act(QMenu* menu, const Entry& entry, const std::function<void()>& act);
     QToolButton* ShowText(QAction* action);
     void Connect();
-    void RestoreLayout();
     void Arrange();
 
     void Refresh();
     void Rehearse();
     void ShowTiming();
-    void ShowEnds(const QVector<int>& ids);
+    void ShowEnds();
     void ShowState();
     void LoadTheirs();
     void CompareWith(const QString& library);
@@ -103,7 +101,6 @@ private:
     void RemoveSelected();
     void DuplicateSelected();
     void ChooseNew();
-    void ChooseAndOpen();
     /** @return false if the user has canceled */
     bool Save(bool elsewhere = false);
     void Leave(const std::function<void()>& then);
@@ -120,7 +117,7 @@ private:
     bool LeaveField(int key);
     void EditWords(const char* slot);
     /** The texts of @p page; negative for all pages. */
-    QVector<int> PagedIds(int page) const;
+    QList<SignText> TextsOf(int page) const;
     void Rename(int id, const QString& name);
     void PutText(int id, int page, int place);
     void PutPage(int page, int to);
