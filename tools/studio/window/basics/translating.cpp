@@ -4,22 +4,16 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-namespace {
-
-void Install(const QLocale& locale, const QString& name, const QString& folder)
-{
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(locale, name, QStringLiteral("_"), folder))
-        QCoreApplication::installTranslator(translator);
-}
-
-} // namespace
-
 void AnimText::Translate(const QLocale& locale)
 {
+    const auto install = [](const QLocale& spoken, const QString& name, const QString& folder) {
+        auto* translator = new QTranslator(QCoreApplication::instance());
+        if (translator->load(spoken, name, QStringLiteral("_"), folder))
+            QCoreApplication::installTranslator(translator);
+    };
     const QString own = QStringLiteral(":/translations");
-    Install(locale, QStringLiteral("qtbase"),
+    install(locale, QStringLiteral("qtbase"),
             QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    Install(QLocale(QLocale::English), QStringLiteral("studio"), own); // English plural forms
-    Install(locale, QStringLiteral("studio"), own);
+    install(QLocale(QLocale::English), QStringLiteral("studio"), own); // English plural forms
+    install(locale, QStringLiteral("studio"), own);
 }
