@@ -7,7 +7,7 @@
 #include <QColorDialog>
 #include <QCoreApplication>
 #include <QFileDialog>
-#include <QGridLayout>
+#include <QSet>
 #include <QToolButton>
 
 namespace AnimText {

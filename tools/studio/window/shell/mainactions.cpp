@@ -24,6 +24,12 @@ namespace {
 constexpr int mostRecent = 8;
 constexpr int largestZoom = 16;
 constexpr double standardPitch = 1.5;
+constexpr int shift = int(Qt::SHIFT);
+
+QKeySequence Ctrl(int key)
+{
+    return int(Qt::CTRL) | key;
+}
 
 } // namespace
 
@@ -60,8 +66,8 @@ void MainWindow::MakeFileMenu()
     tools->addSeparator();
     Act(file, {tr("Save &as…"), QKeySequence::SaveAs}, [this] { Save(true); });
     file->addSeparator();
-    exportAction = Act(file, {tr("&Export…"), Qt::CTRL | Qt::Key_E, "document-export"},
-                       [this] { ShowExport(); });
+    exportAction =
+        Act(file, {tr("&Export…"), Ctrl(Qt::Key_E), "document-export"}, [this] { ShowExport(); });
     file->addSeparator();
     Act(file, {tr("&Quit"), QKeySequence::Quit}, [this] { close(); });
 }
@@ -80,16 +86,16 @@ void MainWindow::MakeEditMenu()
     Act(edit, {tr("Cu&t"), QKeySequence::Cut, "edit-cut"}, [this] { EditWords("cut"); });
     Act(edit, {tr("&Copy"), QKeySequence::Copy, "edit-copy"}, [this] { EditWords("copy"); });
     Act(edit, {tr("&Paste"), QKeySequence::Paste, "edit-paste"}, [this] { EditWords("paste"); });
-    Act(edit, {tr("Paste &with styles"), Qt::CTRL | Qt::SHIFT | Qt::Key_V}, [this] {
+    Act(edit, {tr("Paste &with styles"), Ctrl(shift | Qt::Key_V)}, [this] {
         if (inspector->Text()->isEnabled())
             inspector->Text()->Editor()->PasteWithStyles();
     });
     edit->addSeparator();
-    QAction* add = Act(edit, {tr("Add te&xt"), Qt::CTRL | Qt::Key_T, "list-add"},
-                       [this] { AddNewText(false); });
-    QAction* addPage = Act(edit, {tr("Add pa&ge"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, "list-add"},
+    QAction* add =
+        Act(edit, {tr("Add te&xt"), Ctrl(Qt::Key_T), "list-add"}, [this] { AddNewText(false); });
+    QAction* addPage = Act(edit, {tr("Add pa&ge"), Ctrl(shift | Qt::Key_T), "list-add"},
                            [this] { AddNewText(true); });
-    Act(edit, {tr("&Duplicate"), Qt::CTRL | Qt::Key_D}, [this] { DuplicateSelected(); });
+    Act(edit, {tr("&Duplicate"), Ctrl(Qt::Key_D)}, [this] { DuplicateSelected(); });
     QAction* remove =
         Act(edit, {tr("Re&move"), QKeySequence::Delete}, [this] { RemoveSelected(); });
     // In a text field, Delete is for letters.
@@ -98,7 +104,7 @@ void MainWindow::MakeEditMenu()
         widget->addAction(remove);
     edit->addSeparator();
     Act(edit, {tr("&Edit text"), Qt::Key_F2}, [this] { inspector->Text()->BeginTyping(); });
-    Act(edit, {tr("&Search motions"), Qt::CTRL | Qt::Key_M}, [this] {
+    Act(edit, {tr("&Search motions"), Ctrl(Qt::Key_M)}, [this] {
         inspector->ensureWidgetVisible(inspector->Motions());
         inspector->Motions()->Search()->setFocus();
     });
@@ -143,7 +149,7 @@ void MainWindow::EditWords(const char* slot)
 void MainWindow::MakeViewMenu()
 {
     QMenu* look = menuBar()->addMenu(tr("&View"));
-    Act(look, {tr("&Fit to window"), Qt::CTRL | Qt::Key_0}, [this] { SetZoom(0); });
+    Act(look, {tr("&Fit to window"), Ctrl(Qt::Key_0)}, [this] { SetZoom(0); });
     const auto middle = [this] { return QPointF(view->visibleRegion().boundingRect().center()); };
     Act(look, {tr("Zoom &in"), QKeySequence::ZoomIn}, [=] { ZoomBy(1, middle()); });
     Act(look, {tr("Zoom &out"), QKeySequence::ZoomOut}, [=] { ZoomBy(-1, middle()); });
@@ -155,7 +161,7 @@ void MainWindow::MakeViewMenu()
         connect(action, &QAction::toggled, view, act);
         return action;
     };
-    leds = toggle(tr("&LEDs"), Qt::CTRL | Qt::Key_L, [this] { ShowZoom(); });
+    leds = toggle(tr("&LEDs"), Ctrl(Qt::Key_L), [this] { ShowZoom(); });
     leds->setObjectName(QStringLiteral("leds"));
     leds->setIcon(Icon(QStringLiteral("lamps")));
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
@@ -175,8 +181,8 @@ void MainWindow::MakeViewMenu()
         ShowZoom();
     });
     toggle(tr("&Checkered background"), QKeySequence(), &PictureView::SetCheckered);
-    toggle(tr("Show all &areas"), Qt::CTRL | Qt::Key_F, &DisplayView::SetShowsFrames);
-    toggle(tr("Show &rulers"), Qt::CTRL | Qt::Key_R, &DisplayView::SetShowsRulers);
+    toggle(tr("Show all &areas"), Ctrl(Qt::Key_F), &DisplayView::SetShowsFrames);
+    toggle(tr("Show &rulers"), Ctrl(Qt::Key_R), &DisplayView::SetShowsRulers);
     look->addSeparator();
     look->addActions(createPopupMenu()->actions());
 
@@ -210,7 +216,7 @@ void MainWindow::MakePlayMenu()
         return [this, ticks] { playback.Seek(playback.Tick() + ticks); };
     };
     act(tr("&Play or stop"), Qt::Key_Space, tr("Space"), [this] { playback.Toggle(); });
-    playKeys[Qt::Key_Space]->setShortcut(Qt::CTRL | Qt::Key_Space); // from any field
+    playKeys[Qt::Key_Space]->setShortcut(Ctrl(Qt::Key_Space)); // from any field
     act(tr("Play &backward, then faster"), Qt::Key_J, QStringLiteral("J"),
         [this] { playback.Shuttle(-1); });
     act(tr("&Stop"), Qt::Key_K, QStringLiteral("K"), [this] { playback.SetPace(0); });
@@ -219,8 +225,8 @@ void MainWindow::MakePlayMenu()
     play->addSeparator();
     act(tr("One tick back"), Qt::Key_Left, QStringLiteral("←"), by(-1));
     act(tr("One tick forward"), Qt::Key_Right, QStringLiteral("→"), by(1));
-    act(tr("Ten ticks back"), Qt::SHIFT | Qt::Key_Left, tr("Shift+←"), by(-10));
-    act(tr("Ten ticks forward"), Qt::SHIFT | Qt::Key_Right, tr("Shift+→"), by(10));
+    act(tr("Ten ticks back"), shift | Qt::Key_Left, tr("Shift+←"), by(-10));
+    act(tr("Ten ticks forward"), shift | Qt::Key_Right, tr("Shift+→"), by(10));
     act(tr("Previous page mark"), Qt::Key_BracketLeft, QStringLiteral("["),
         [this] { playback.Seek(timeline->PreviousMark(playback.Tick())); });
     act(tr("Next page mark"), Qt::Key_BracketRight, QStringLiteral("]"),
