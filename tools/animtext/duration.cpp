@@ -5,7 +5,7 @@
 #include "cli/progress.h"
 #include "scene/json.h"
 #include "scene/motion.h"
-#include "timing/simulation.h"
+#include "timing/playlength.h"
 
 #include <hneonnodebase.h>
 
