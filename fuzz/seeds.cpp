@@ -109,10 +109,10 @@ int main(int argc, char** argv)
             qWarning("fuzz-seeds: %s", qPrintable(error));
             return 1;
         }
-        Write(folder, "pathfile", number, authored.pathFile);
-        Write(folder, "pathdata", number, Inner(authored.pathFile));
-        Write(folder, "descentfile", number, authored.descentFile);
-        Write(folder, "descentdata", number, Inner(authored.descentFile));
+        Write(folder, "pathfile", number, authored.data["PathData"]);
+        Write(folder, "pathdata", number, Inner(authored.data["PathData"]));
+        Write(folder, "descentfile", number, authored.data["DescentVector"]);
+        Write(folder, "descentdata", number, Inner(authored.data["DescentVector"]));
         Write(folder, "scene", number, SceneOf(authored, sample));
         ++number;
     }

@@ -1,6 +1,7 @@
 // A line of text on its way to a node: its units, their outlines and their places.
 
 #include "author/author.h"
+#include "layout/placement.h"
 #include "layout/wordpages.h"
 #include "table.h"
 #include "text/glyphdata.h"
@@ -150,8 +151,8 @@ Authored Author(const Wish& wish)
         authored.widths.append(row["text_width"].toInt());
     for (const auto& row : node.lists["TextHeight"])
         authored.heights.append(row["text_height"].toInt());
-    QBuffer paths(&authored.all.pathFile);
-    QBuffer descents(&authored.all.descentFile);
+    QBuffer paths(&authored.all.data["PathData"]);
+    QBuffer descents(&authored.all.data["DescentVector"]);
     paths.open(QIODevice::ReadOnly);
     descents.open(QIODevice::ReadOnly);
     authored.outlines =

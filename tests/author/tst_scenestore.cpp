@@ -35,9 +35,9 @@ struct Sample
             node.lists["TextHeight"].append({{"text_height", "12"}});
             node.lists["TextAttribute"].append(style);
         }
-        Add(&node, path, "PathData", PathFile(QVector<QPainterPath>(text.size(), box)), "path");
-        Add(&node, path, "DescentVector", DescentFile(QVector<int>(text.size(), text[0].unicode())),
-            "descent");
+        Add(&node, path, "PathData", PathFile(QVector<QPainterPath>(text.size(), box)));
+        Add(&node, path, "DescentVector",
+            DescentFile(QVector<int>(text.size(), text[0].unicode())));
         scene.path = path;
         scene.display = node.size;
         scene.pages = {ScenePage{{SceneArea{{node}}}}};
@@ -50,10 +50,9 @@ struct Sample
     DataFiles files;
 
 private:
-    void Add(SceneNode* node, const QString& path, const char* key, const QByteArray& content,
-             const char* suffix)
+    void Add(SceneNode* node, const QString& path, const char* key, const QByteArray& content)
     {
-        node->files[key] = DataFileName(path, content, suffix);
+        node->files[key] = DataFileName(path, key, content);
         files[node->files[key]] = content;
     }
 };

@@ -63,8 +63,8 @@ Sample::Sample(const QString& text, QSize area)
     base = authored.node;
     base.files[QStringLiteral("PathData")] = File(QStringLiteral("sample.path"));
     base.files[QStringLiteral("DescentVector")] = File(QStringLiteral("sample.descent"));
-    WriteFile(File(QStringLiteral("sample.path")), authored.pathFile);
-    WriteFile(File(QStringLiteral("sample.descent")), authored.descentFile);
+    WriteFile(File(QStringLiteral("sample.path")), authored.data["PathData"]);
+    WriteFile(File(QStringLiteral("sample.descent")), authored.data["DescentVector"]);
 }
 
 SceneNode Sample::Node(int motion, int background, int speed) const

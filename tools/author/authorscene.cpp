@@ -65,12 +65,10 @@ bool PutAuthored(const AuthoredNode& authored, const Destination& destination, S
     for (QString& picture : node.files)
         picture =
             QFileInfo(scene->path).dir().relativeFilePath(QFileInfo(picture).absoluteFilePath());
-    const auto add = [&](const QString& key, const QByteArray& content, const QString& suffix) {
-        node.files[key] = DataFileName(scene->path, content, suffix);
-        dataFiles->insert(node.files[key], content);
-    };
-    add("PathData", authored.pathFile, "path");
-    add("DescentVector", authored.descentFile, "descent");
+    for (auto file = authored.data.begin(); file != authored.data.end(); ++file) {
+        node.files[file.key()] = DataFileName(scene->path, file.key(), file.value());
+        dataFiles->insert(node.files[file.key()], file.value());
+    }
     if (!Put(node, destination, scene, place, error))
         return false;
     if (!destination.display.isEmpty())

@@ -171,9 +171,10 @@ bool IsOurs(const QDir& folder, const QString& name)
 
 } // namespace
 
-QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix)
+QString DataFileName(const QString& scenePath, const QString& key, const QByteArray& content)
 {
-    const QString end = QLatin1Char('.') + NameDigest(content) + QLatin1Char('.') + suffix;
+    const QString end =
+        "." + NameDigest(content) + QLatin1String(key == "PathData" ? ".path" : ".descent");
     const QString base = QFileInfo(scenePath).completeBaseName();
     return Shortened(base, longestName - end.size()) + end;
 }

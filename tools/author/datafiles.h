@@ -13,11 +13,12 @@
 namespace AnimText {
 
 /**
- * The name of a data file: the scene's name, a digest of @p content and @p suffix. Different
- * content has a different name, so a scene never finds the data of another one. The scene's name is
- * shortened if the whole would be too long for a file system.
+ * The name of a data file: the scene's name, a digest of @p content and a suffix for @p key, which
+ * is "PathData" or "DescentVector". Different content has a different name, so a scene never finds
+ * the data of another one. The scene's name is shortened if the whole would be too long for a file
+ * system.
  */
-QString DataFileName(const QString& scenePath, const QByteArray& content, const QString& suffix);
+QString DataFileName(const QString& scenePath, const QString& key, const QByteArray& content);
 
 /** The files in @p folder, except links, whose names look like those of DataFileName(). */
 QStringList DataFilesIn(const QDir& folder);

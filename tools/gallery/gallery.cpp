@@ -230,11 +230,9 @@ private:
         scene.path = scenes.filePath(QStringLiteral("scene.json"));
         scene.display = authored.node.size;
         SceneNode node = authored.node;
-        const QPair<const char*, QByteArray> files[] = {{"PathData", authored.pathFile},
-                                                        {"DescentVector", authored.descentFile}};
-        for (const auto& [key, content] : files) {
-            node.files[QLatin1String(key)] = scenes.filePath(QLatin1String(key));
-            Demand(WriteWhole(scenes.filePath(QLatin1String(key)), content, &why));
+        for (auto file = authored.data.begin(); file != authored.data.end(); ++file) {
+            node.files[file.key()] = scenes.filePath(file.key());
+            Demand(WriteWhole(node.files[file.key()], file.value(), &why));
         }
         scene.pages.append(ScenePage{{SceneArea{{node}}}});
         return scene;

@@ -1,6 +1,7 @@
 #include "layout/layout.h"
 
 #include "layout/glyphfiles.h"
+#include "layout/placement.h"
 #include "text/limits.h"
 #include "text/pagedivision.h"
 
@@ -69,19 +70,19 @@ QSize StandardArea(const ShapedLine& line, int padding, bool isColumn)
     return QSize(qMax(standardWidth, widest + 2 * padding), height + height % 2);
 }
 
-/** Why the sign cannot show a text that needs a picture of @p width pixels; empty if it can. */
-QString Obstacle(const LaidOut& laid, qint64 width)
+/** Why the sign cannot show a text that needs a picture of that size; empty if it can. */
+QString Obstacle(const PlacedText& text, qint64 width, int height)
 {
-    const qint64 bytes = width * laid.area.height() * 4;
+    const qint64 bytes = width * height * 4;
     if (bytes > maxCanvasBytes)
         return QStringLiteral("the text needs a picture of %1 x %2 pixels, %3 MiB; the sign has "
                               "room for %4 MiB")
             .arg(width)
-            .arg(laid.area.height())
+            .arg(height)
             .arg(bytes >> 20)
             .arg(maxCanvasBytes >> 20);
-    for (int i = 0; i < laid.outlines.size(); ++i) {
-        const QPainterPath& outline = laid.outlines[i];
+    for (int i = 0; i < text.outlines.size(); ++i) {
+        const QPainterPath& outline = text.outlines[i];
         const QRectF box = outline.controlPointRect();
         const qreal reach = qMax(qMax(qAbs(box.left()), qAbs(box.right())),
                                  qMax(qAbs(box.top()), qAbs(box.bottom())));
@@ -92,23 +93,23 @@ QString Obstacle(const LaidOut& laid, qint64 width)
                 .arg(outline.elementCount())
                 .arg(reach, 0, 'f', 0);
     }
-    const int fitting = OutlinesThatFit(laid.outlines, maxDataFileSize);
-    if (fitting < laid.outlines.size())
+    const int fitting = OutlinesThatFit(text.outlines, maxDataFileSize);
+    if (fitting < text.outlines.size())
         return QStringLiteral("the text is too long: the sign reads %1 MiB of outlines, enough for "
                               "the first %2 of %3 characters")
             .arg(maxDataFileSize >> 20)
             .arg(fitting)
-            .arg(laid.outlines.size());
+            .arg(text.outlines.size());
     return QString();
 }
 
 /** Measures how far outlines at rest reach out of the area. */
-void MeasureCut(LaidOut* laid)
+void MeasureCut(const PlacedText& text, LaidOut* laid)
 {
-    const int highest = *std::max_element(laid->heights.begin(), laid->heights.end());
+    const int highest = *std::max_element(text.heights.begin(), text.heights.end());
     const int height = laid->area.height();
-    const int baseline = height / 2 + highest / 2 - laid->descents.first();
-    for (const QPainterPath& outline : laid->outlines) {
+    const int baseline = height / 2 + highest / 2 - text.descents.first();
+    for (const QPainterPath& outline : text.outlines) {
         const QRectF ink = outline.boundingRect();
         if (ink.isEmpty())
             continue;
@@ -146,6 +147,35 @@ QList<UnseenCharacter> UnseenCharacters(const QString& text, const ShapedLine& l
     return unseen;
 }
 
+QHash<QString, QString> StyleRow(const StyleRun& style)
+{
+    const auto number = [](int value) { return QString::number(value); };
+    const int points = qMax(1, qRound(style.font.pixelSize() * 72 / 96.0));
+    return {{QStringLiteral("fontName"), style.font.family()},
+            {QStringLiteral("fontSize"), number(points)},
+            {QStringLiteral("bold"), number(style.font.bold() ? 1 : 0)},
+            {QStringLiteral("italic"), number(style.font.italic() ? 1 : 0)},
+            {QStringLiteral("underline"), number(style.font.underline() ? 1 : 0)},
+            {QStringLiteral("Color"), number(int(style.color.rgb() & 0xFFFFFF))}};
+}
+
+void MakeRows(const PlacedText& text, LaidOut* laid)
+{
+    QVector<QHash<QString, QString>> styles;
+    for (const StyleRun& run : laid->styled.runs)
+        styles.append(StyleRow(run));
+    QList<QHash<QString, QString>> looks;
+    QList<QHash<QString, QString>> heights;
+    QList<QHash<QString, QString>> widths;
+    for (int i = 0; i < text.text.size(); ++i) {
+        const StyleRun& run = laid->styled.At(text.source[i]);
+        looks.append(styles[int(&run - laid->styled.runs.constData())]);
+        heights.append({{QStringLiteral("text_height"), QString::number(text.heights[i])}});
+        widths.append({{QStringLiteral("text_width"), QString::number(text.widths[i])}});
+    }
+    laid->lists = {{"TextAttribute", looks}, {"TextHeight", heights}, {"TextWidth", widths}};
+}
+
 } // namespace
 
 bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& motion,
@@ -170,21 +200,25 @@ bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& mo
     laid->styled = isFitted ? Fitted(text, setting.fit == Fit::Both, room) : text;
     const ShapedLine line = ShapeLine(laid->styled);
     laid->area = area.isEmpty() ? StandardArea(line, setting.padding, motion.IsColumn()) : area;
-    static_cast<PlacedText&>(*laid) = PlaceText(text.text, line, setting, motion, laid->area);
-    const qint64 width = std::accumulate(laid->widths.begin(), laid->widths.end(), qint64(0));
-    *error = Obstacle(*laid, motion.IsSideways() ? width : laid->area.width());
+    const PlacedText placed = PlaceText(text.text, line, setting, motion, laid->area);
+    const qint64 width = std::accumulate(placed.widths.begin(), placed.widths.end(), qint64(0));
+    *error =
+        Obstacle(placed, motion.IsSideways() ? width : laid->area.width(), laid->area.height());
     if (!error->isEmpty())
         return false;
-    laid->pathFile = PathFile(laid->outlines);
-    laid->descentFile = DescentFile(laid->descents);
+    laid->text = placed.text;
+    MakeRows(placed, laid);
+    laid->data = {{"PathData", PathFile(placed.outlines)},
+                  {"DescentVector", DescentFile(placed.descents)}};
+    laid->tornWords = placed.tornWords;
     qreal advance = 0;
     for (const Cluster& cluster : line.clusters)
         advance += cluster.advance;
     laid->size = QSize(qRound(advance), line.ascent + line.descent);
     if (!motion.IsScroll())
-        laid->pages = PageStartsForward(laid->widths, laid->area.width()).size() - 1;
+        laid->pages = PageStartsForward(placed.widths, laid->area.width()).size() - 1;
     if (!motion.IsColumn())
-        MeasureCut(laid);
+        MeasureCut(placed, laid);
     laid->unseen = UnseenCharacters(text.text, line);
     return true;
 }

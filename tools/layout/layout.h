@@ -5,9 +5,17 @@
 #ifndef ANIMTEXT_LAYOUT_H
 #define ANIMTEXT_LAYOUT_H
 
-#include "layout/placement.h"
+#include "layout/setting.h"
+#include "layout/styledtext.h"
+#include "scene/motion.h"
 
 #include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QSize>
+#include <QString>
+#include <QStringList>
 
 namespace AnimText {
 
@@ -20,16 +28,19 @@ struct UnseenCharacter
 };
 
 /** A text as the sign will have it, and what to warn of. */
-struct LaidOut : PlacedText
+struct LaidOut
 {
-    StyledText styled;      ///< in the sizes that fit
-    QSize area;             ///< pixels
-    QSize size;             ///< of the line, pixels
-    int pages = 1;          ///< into which the sign divides the text
-    QByteArray pathFile;    ///< content for "PathData"
-    QByteArray descentFile; ///< content for "DescentVector"
+    StyledText styled; ///< in the sizes that fit
+    QString text;      ///< with spaces added as margins
+    /** The lists of a scene, with a row for each UTF-16 unit of @c text. */
+    QMap<QString, QList<QHash<QString, QString>>> lists;
+    QMap<QString, QByteArray> data; ///< content of the files "PathData" and "DescentVector"
+    QSize area;                     ///< pixels
+    QSize size;                     ///< of the line, pixels
+    int pages = 1;                  ///< into which the sign divides the text
     QList<UnseenCharacter> unseen;
-    int cutAbove = 0; ///< pixels of letters at rest outside the area
+    QStringList tornWords; ///< words that are wider than a page
+    int cutAbove = 0;      ///< pixels of letters at rest outside the area
     int cutBelow = 0;
 };
 

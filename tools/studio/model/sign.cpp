@@ -311,20 +311,10 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
             layout->lists[list] = {};
         return layout;
     }
-    AuthoredNode authored;
     const NodeMotion own = MotionOf(text.node);
     const NodeMotion motion{own.IsScroll() ? Mode::Scroll : Mode::Entrance, own.number};
-    if (!ToOneLine(&source.text, &layout->notes, &layout->fault) ||
-        !AuthorNode(source, text.node, motion, &authored, &layout->fault))
-        return layout;
-    layout->text = authored.node.attributes.value(textKey).toString();
-    layout->lists = authored.node.lists;
-    layout->data = {{pathData, authored.pathFile}, {descentVector, authored.descentFile}};
-    layout->unseen = authored.unseen;
-    layout->tornWords = authored.tornWords;
-    layout->pages = authored.pages;
-    layout->cutAbove = authored.cutAbove;
-    layout->cutBelow = authored.cutBelow;
+    if (ToOneLine(&source.text, &layout->notes, &layout->fault))
+        LayOut(source.text, source, motion, text.node.size, layout.get(), &layout->fault);
     return layout;
 }
 
@@ -383,8 +373,7 @@ Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles)
         const QFileInfo there(layout.files.value(key));
         if (layout.files.contains(key) && there.dir() == folder && there.exists())
             return there.fileName();
-        const QString suffix = key == pathData ? QStringLiteral("path") : QStringLiteral("descent");
-        const QString name = DataFileName(RealPath(path), content, suffix);
+        const QString name = DataFileName(RealPath(path), key, content);
         dataFiles->insert(name, content);
         return name;
     };

@@ -18,20 +18,12 @@
 namespace AnimText {
 
 /** The result of laying out one text; shared and immutable. */
-struct Layout
+struct Layout : LaidOut
 {
-    QString text; ///< with the spaces that were added as margins
-    QMap<QString, QList<QHash<QString, QString>>> lists;
-    QMap<QString, QByteArray> data; ///< content of the files "PathData" and "DescentVector"
-    QMap<QString, QString> files;   ///< of these, those that exist already, full names
-    QList<UnseenCharacter> unseen;
-    QStringList tornWords;
-    QStringList notes; ///< styles that no sign can show
-    int pages = 1;
-    int cutAbove = 0; ///< pixels
-    int cutBelow = 0;
-    QString fault;  ///< why the layout failed; empty on success
-    QByteArray key; ///< LayoutKey() of what it was made from
+    QMap<QString, QString> files; ///< of the data, those that exist already, full names
+    QStringList notes;            ///< styles that no sign can show
+    QString fault;                ///< why the layout failed; empty on success
+    QByteArray key;               ///< LayoutKey() of what it was made from
 };
 
 /** One text of a sign. */
