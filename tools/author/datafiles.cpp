@@ -76,7 +76,7 @@ bool HasOddNames(const QDir& folder)
     std::error_code failure;
     const std::filesystem::directory_iterator files(folder.path().toStdString(), failure);
     return std::any_of(begin(files), end(files), [](const auto& file) {
-        const std::string name = file.path().filename().string();
+        const std::string name = file.path().string();
         return QString::fromStdString(name).toStdString() != name;
     });
 }

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstdio>
+
 namespace AnimText {
 
 namespace {
@@ -25,9 +27,10 @@ QString ReadWords(const CommandLine& line)
         return line.Value("text");
 
     const QString name = line.Value("text-file");
-    QFile file(name == "-" ? "/dev/stdin" : name);
+    QFile file(name);
     QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly))
+    // Standard input may be a socket, which has no name to open.
+    if (name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))
         bytes = ReadAtMost(&file, longestTextFile + 1);
     if (file.error() != QFileDevice::NoError)
         throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
