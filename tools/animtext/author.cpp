@@ -91,9 +91,8 @@ int WriteScene(const CommandLine& line)
     const Storing storing = AuthorScene(request, &authored, &error);
     for (const QString& note : authored.notes)
         Warn(note);
-    StopUnlessSaved(storing, error);
+    EndSaving(storing, authored.stored, error);
     const QByteArray summary = Summary(request.path, authored.text);
-    WarnOfDoubt(authored.stored);
     for (const QString& words : UnseenWords(authored.text) + LossesInWords(authored.text) +
                                     FindingsInWords(authored.stored.findings))
         Warn(words);

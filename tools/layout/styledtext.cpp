@@ -38,7 +38,6 @@ bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
 {
     static const QString lineBreaks = "\n\v\f\r\u0085\u2028\u2029";
     StyledText line;
-    line.sized = text->sized;
     int breaks = 0;
     int tabs = 0;
     const QString& units = text->text;

@@ -25,11 +25,11 @@ constexpr int longestHold = 1000000;                        // hold units
 struct CutTimes
 {
     qint64 planned = 0;
-    qint64 real = -1; ///< -1: not known to end
+    qint64 actual = -1; ///< -1: not known to end
 
-    qint64 Cut() const { return real - planned; }
-    bool IsCut() const { return real >= 0 && double(Cut()) > mostCut * double(planned); }
-    bool IsEnough() const { return real >= 0 && !IsCut(); }
+    qint64 Cut() const { return actual - planned; }
+    bool IsCut() const { return actual >= 0 && double(Cut()) > mostCut * double(planned); }
+    bool IsEnough() const { return actual >= 0 && !IsCut(); }
 };
 
 /** Plays one text with other speeds and holds. */
@@ -64,10 +64,9 @@ public:
         times.planned = player.Durations().value(0);
         if (times.planned / tickLength > longest)
             return times;
-        const NodePlay play =
-            PlayToEnd(&player, longest, standardSeed, [](int) { return true; }).value(0);
+        const NodePlay play = PlayToEnd(&player, longest, standardSeed).value(0);
         if (play.ending == Ending::Finishes)
-            times.real = qint64(play.finishedTick) * tickLength;
+            times.actual = play.FinishedMs();
         return times;
     }
 
@@ -135,8 +134,8 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
                                           .arg(double(hold) / 10, 0, 'f', 1)
                                     : "no speed or hold avoids this; use another effect";
     Warn(QStringLiteral("the sign cuts off the last %3 % of this text: planned %1, needs %2; %4")
-             .arg(InSeconds(now.planned), InSeconds(now.real))
-             .arg(100.0 * double(now.Cut()) / double(now.real), 0, 'f', 0)
+             .arg(InSeconds(now.planned), InSeconds(now.actual))
+             .arg(100.0 * double(now.Cut()) / double(now.actual), 0, 'f', 0)
              .arg(way));
 }
 

@@ -6,16 +6,12 @@
 
 namespace AnimText {
 
-void StopUnlessSaved(Storing storing, const QString& error)
+void EndSaving(Storing storing, const Stored& stored, const QString& error)
 {
     if (storing == Storing::Misread)
         throw Misuse{error};
     if (storing != Storing::Saved)
         throw Failure{storing == Storing::Refused ? BadInput : FailedRun, error};
-}
-
-void WarnOfDoubt(const Stored& stored)
-{
     if (!stored.doubt.isEmpty())
         Warn("kept old data files: " + stored.doubt);
 }
@@ -31,8 +27,8 @@ QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change
     const auto changeText = [&](Scene* scene, DataFiles*, QString* why) {
         return scene->Find(line.Arguments().at(1), &place, why) && change(scene, place, why);
     };
-    StopUnlessSaved(ChangeScene(path, changeText, &error, &stored), error);
-    WarnOfDoubt(stored);
+    const Storing storing = ChangeScene(path, changeText, &error, &stored);
+    EndSaving(storing, stored, error);
     return {stored.scene, place};
 }
 

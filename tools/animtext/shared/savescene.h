@@ -12,9 +12,9 @@
 
 namespace AnimText {
 
-/** Throws Misuse or Failure with @p error unless a scene was saved. */
-void StopUnlessSaved(Storing storing, const QString& error);
-void WarnOfDoubt(const Stored& stored);
+/** Throws Misuse or Failure with @p error unless a scene was saved; warns of files that were kept.
+ */
+void EndSaving(Storing storing, const Stored& stored, const QString& error);
 
 /** Changes one text; returns false with one line in @p error to refuse. */
 using TextChange = std::function<bool(Scene* scene, const Place& place, QString* error)>;

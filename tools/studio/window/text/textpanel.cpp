@@ -58,7 +58,6 @@ StyledText Restyled(const StyledText& text,
                     const std::function<void(int unit, StyleRun* run)>& change)
 {
     StyledText styled;
-    styled.sized = text.sized;
     for (int i = 0; i < text.text.size(); ++i) {
         StyleRun run = text.At(i);
         change(i, &run);
