@@ -38,7 +38,7 @@ QString Difference(qint64 planned, qint64 actual)
 {
     const qint64 difference = actual - planned;
     if (std::llabs(difference) <= tickLength)
-        return QStringLiteral("Both times agree to within a tick.");
+        return "Both times agree to within a tick.";
     QString length = Seconds(std::llabs(difference));
     if (planned > 0)
         length += QString::asprintf(" (%.1f %%)",
@@ -88,7 +88,7 @@ QByteArray ToText(int node, int nodes, qint64 planned, const NodePlay* simulatio
 
 QVector<NodePlay> SimulateAll(Player* player, const Scene& scene, uint seed)
 {
-    Progress progress(QStringLiteral("simulating tick"), 0);
+    Progress progress("simulating tick", 0);
     WatchForInterruption();
     QString error;
     const auto watch = [&](int tick) {
@@ -194,7 +194,7 @@ void PrintTable(const Playing& playing, const Scene& scene, bool json)
     QString text;
     if (!json)
         text = "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
-    Progress progress(QStringLiteral("simulating"), Effects().size() * qint64(std::size(speeds)));
+    Progress progress("simulating", Effects().size() * qint64(std::size(speeds)));
     WatchForInterruption();
     qint64 done = 0;
     for (const Motion& effect : Effects()) {

@@ -24,8 +24,7 @@ bool IsTextOption(const Option& option)
 /** @p word quoted for a shell. */
 QString Quoted(QString word)
 {
-    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''")) +
-           QLatin1Char('\'');
+    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), "'\\''") + QLatin1Char('\'');
 }
 
 /** The options of `animtext author` for the same text, as typed. */
@@ -66,7 +65,7 @@ int MakeGallery(const CommandLine& line)
     std::unique_ptr<Progress> progress;
     const auto watch = [&](int done, int all) {
         if (!progress)
-            progress = std::make_unique<Progress>(QStringLiteral("playing"), all);
+            progress = std::make_unique<Progress>("playing", all);
         progress->Show(done);
         return !Interrupted();
     };

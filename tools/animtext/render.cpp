@@ -27,7 +27,7 @@ const FilmKind& KindOf(const QString& output)
     endings.removeLast();
     throw Misuse{
         QStringLiteral("%1: expected a name that ends with %2, or with / for a folder of PNGs")
-            .arg(output, endings.join(QStringLiteral(", ")))};
+            .arg(output, endings.join(", "))};
 }
 
 /** Throws Misuse when films of that kind cannot be what the options ask for. */
@@ -120,7 +120,7 @@ QString Summary(const QString& output, const FilmKind& kind, const WrittenFilm& 
         facts += QStringLiteral("%1 frame%2").arg(film.frames).arg(film.frames == 1 ? "" : "s");
     }
     facts += QLocale::c().formattedDataSize(film.bytes, 1, QLocale::DataSizeSIFormat);
-    return QStringLiteral("Wrote %1: %2\n").arg(output, facts.join(QStringLiteral(", ")));
+    return QStringLiteral("Wrote %1: %2\n").arg(output, facts.join(", "));
 }
 
 void RenderOne(const CommandLine& line, const QString& output)

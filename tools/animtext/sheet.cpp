@@ -67,7 +67,7 @@ int DrawSheet(const CommandLine& line)
     WatchForInterruption();
     QVector<SheetRow> rows;
     {
-        Progress progress(QStringLiteral("playing scene"), scenes.size());
+        Progress progress("playing scene", scenes.size());
         for (int i = 0; i < scenes.size(); ++i) {
             rows.append(RowOf(playing, scenes.at(i), line.Number("columns")));
             progress.Show(i + 1);

@@ -21,12 +21,12 @@ const unsigned long pause = 5; // ms between two tries; QLockFile's own pauses g
 /** Why a lock in @p folder failed. QLockFile does not say, so this tries to write a file. */
 QString Cause(const QString& folder)
 {
-    QTemporaryFile probe(UnfinishedName(folder + QStringLiteral("/lock")));
-    QString problem;
+    QTemporaryFile probe(UnfinishedName(folder + "/lock"));
+    QString problem = "it cannot be locked";
     if (!probe.open())
         return probe.errorString();
-    return WriteAll(&probe, QByteArray(1, '\n'), &problem) ? QStringLiteral("it cannot be locked")
-                                                           : problem;
+    WriteAll(&probe, "\n", &problem);
+    return problem;
 }
 
 } // namespace

@@ -53,20 +53,6 @@ void Sweep(const QDir& folder)
     }
 }
 
-/** Why the file at @p path must not be replaced; empty if it may be or does not exist. */
-QString Obstacle(const QString& path)
-{
-    const QByteArray name = QFile::encodeName(path);
-    struct stat there = {};
-    if (stat(name.constData(), &there) != 0)
-        return errno == ENOENT ? QString() : SystemError();
-    if (S_ISDIR(there.st_mode))
-        return QStringLiteral("it is a folder");
-    if (!S_ISREG(there.st_mode))
-        return QStringLiteral("it is not a regular file");
-    return WriteProtection(path);
-}
-
 } // namespace
 
 QString SystemError()
@@ -83,7 +69,7 @@ QString WriteProtection(const QString& path)
     // The system would let root write everything, and owners of a folder replace its files.
     const mode_t needed = there.st_uid == geteuid() ? S_IWUSR : mode_t(S_IWUSR | S_IWGRP | S_IWOTH);
     if ((there.st_mode & needed) == 0)
-        return QStringLiteral("it is write-protected; chmod u+w allows writing");
+        return "it is write-protected; chmod u+w allows writing";
     if (faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0)
         return QStringLiteral("it is write-protected: %1").arg(SystemError());
     return QString();
@@ -92,7 +78,14 @@ QString WriteProtection(const QString& path)
 bool FindTarget(const QString& path, QString* target, QString* error)
 {
     *target = QFileInfo(RealPath(path)).absoluteFilePath();
-    const QString obstacle = Obstacle(*target);
+    struct stat there = {};
+    QString obstacle;
+    if (stat(QFile::encodeName(*target).constData(), &there) != 0)
+        obstacle = errno == ENOENT ? QString() : SystemError();
+    else if (!S_ISREG(there.st_mode))
+        obstacle = S_ISDIR(there.st_mode) ? "it is a folder" : "it is not a regular file";
+    else
+        obstacle = WriteProtection(*target);
     if (!obstacle.isEmpty())
         *error = CannotWrite(path, obstacle);
     return obstacle.isEmpty();

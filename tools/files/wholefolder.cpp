@@ -53,7 +53,7 @@ bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
     QString culprit = path;
     QString protection = WriteProtection(at);
     if (protection.isEmpty() && !there.isReadable())
-        protection = QStringLiteral("it cannot be read");
+        protection = "it cannot be read";
     const QStringList own = protection.isEmpty() ? ownFiles(there) : QStringList();
     for (int i = 0; i < own.size() && protection.isEmpty(); ++i) {
         culprit = there.filePath(own.at(i));

@@ -28,7 +28,7 @@ constexpr int highestFrame = 200;
 
 QFont Font(int pixels, bool bold)
 {
-    QFont font(QStringLiteral("DejaVu Sans"));
+    QFont font("DejaVu Sans");
     font.setPixelSize(pixels);
     font.setBold(bold);
     return font;

@@ -22,11 +22,6 @@ int TicksOf(qint64 milliseconds)
     return int(std::min<qint64>(ticks, ticksOfAnHour + 1));
 }
 
-int RoundedUpToEven(int number)
-{
-    return number + number % 2;
-}
-
 } // namespace
 
 Film::Film(Player* player, const Scene& scene, const FilmSettings& settings, const FilmWatch& watch)
@@ -53,9 +48,8 @@ Film::Film(Player* player, const Scene& scene, const FilmSettings& settings, con
 QSize Film::FrameSize() const
 {
     const QSize size = scene.display * settings.scale;
-    if (!settings.evenSize)
-        return size;
-    return {RoundedUpToEven(size.width()), RoundedUpToEven(size.height())};
+    const QSize odd(size.width() % 2, size.height() % 2);
+    return settings.evenSize ? size + odd : size;
 }
 
 int Film::PlannedFrames(const QVector<NodePlay>& plays)

@@ -80,7 +80,7 @@ void CheckFilm(const QString& film, const QString& written, const QString& kind,
             QStringLiteral(
                 "-v error -select_streams v:0 -show_entries packet=pts_time,duration_time -of csv")
                 .split(QLatin1Char(' '));
-        probe.Start(QStringLiteral("ffprobe"), words << written, QString());
+        probe.Start("ffprobe", words << written, QString());
         facts = FactsIn(probe.Finish());
     } else {
         FailUnless(ReadWebp(written, &facts),

@@ -11,7 +11,7 @@ namespace AnimText {
 
 namespace {
 
-const QString softwareMark = QStringLiteral("animtext");
+const QString softwareMark = "animtext";
 constexpr int mostColors = 256;      // in a table
 constexpr qint64 largestHead = 4096; // bytes before the pixels: with 256 colors, less than 2000
 
@@ -56,7 +56,7 @@ QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
     QImage indexed = Indexed(picture);
     if (effort == PngEffort::Small && indexed.colorCount() == 2)
         indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
-    writer.setText(QStringLiteral("Software"), softwareMark);
+    writer.setText("Software", softwareMark);
     writer.setCompression(effort == PngEffort::Small ? 67 : 11); // levels 6 and 1 of zlib
     return writer.write(indexed) ? png : QByteArray();
 }

@@ -41,7 +41,7 @@ private:
 /** The pictures of a film in @p folder. Other programs use the same names. */
 QStringList Frames(const QDir& folder)
 {
-    static const QRegularExpression frame(QStringLiteral("^frame-[0-9]{4,}\\.png$"));
+    static const QRegularExpression frame("^frame-[0-9]{4,}\\.png$");
     QStringList names;
     for (const QString& name : folder.entryList(QDir::Files | QDir::NoSymLinks).filter(frame)) {
         if (IsOurPng(folder.filePath(name)))

@@ -47,8 +47,7 @@ QStringList KeysOf(Home home)
 
 const QStringList& ListKeys()
 {
-    static const QStringList keys{QStringLiteral("TextAttribute"), QStringLiteral("TextHeight"),
-                                  QStringLiteral("TextWidth")};
+    static const QStringList keys{"TextAttribute", "TextHeight", "TextWidth"};
     return keys;
 }
 

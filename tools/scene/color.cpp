@@ -8,13 +8,13 @@ namespace AnimText {
 
 bool ReadColor(const QString& text, QColor* color, QString* hint)
 {
-    static const QRegularExpression digits(QStringLiteral("^#([0-9a-fA-F]{3}){1,2}$"));
+    static const QRegularExpression digits("^#([0-9a-fA-F]{3}){1,2}$");
     const bool isHex = text.startsWith(QLatin1Char('#'));
     *color = QColor(text);
     if (color->isValid() && color->alpha() == 255 && (!isHex || digits.match(text).hasMatch()))
         return true;
     QStringList names = QColor::colorNames();
-    names.removeOne(QStringLiteral("transparent"));
+    names.removeOne("transparent");
     *hint = color->isValid() && color->alpha() < 255 ? QStringLiteral("; it must be opaque")
                                                      : DidYouMean(text, names);
     return false;

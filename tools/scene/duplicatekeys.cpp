@@ -25,7 +25,7 @@ struct Level
 
 QString PathOf(const QVector<Level>& levels)
 {
-    QString path = QStringLiteral("$");
+    QString path = "$";
     for (const Level& level : levels)
         path = level.isObject ? Member(path, level.key) : Item(path, level.index);
     return path;

@@ -16,15 +16,15 @@ namespace {
 QString Found(const QJsonValue& value)
 {
     switch (value.type()) {
-    case QJsonValue::Null: return QStringLiteral("null");
+    case QJsonValue::Null: return "null";
     case QJsonValue::Bool: return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
     case QJsonValue::Double: return QString::number(value.toDouble(), 'g', 12);
-    case QJsonValue::String: return QStringLiteral("a text");
+    case QJsonValue::String: return "a text";
     case QJsonValue::Array: return QStringLiteral("a list of %1").arg(value.toArray().size());
-    case QJsonValue::Object: return QStringLiteral("an object");
+    case QJsonValue::Object: return "an object";
     case QJsonValue::Undefined: break;
     }
-    return QStringLiteral("nothing");
+    return "nothing";
 }
 
 /** Keys may contain anything, also line breaks. */
@@ -40,8 +40,8 @@ QString OnOneLine(QString text)
 /** @p place without the numbers of the rows of a list. */
 QString AnyRow(QString place)
 {
-    static const QRegularExpression row(QStringLiteral("(\\.lists\\.[^.\\[]*)\\[\\d+\\]"));
-    return place.replace(row, QStringLiteral("\\1"));
+    static const QRegularExpression row("(\\.lists\\.[^.\\[]*)\\[\\d+\\]");
+    return place.replace(row, "\\1");
 }
 
 } // namespace
@@ -89,12 +89,11 @@ JsonValue JsonValue::operator[](const QString& member) const
 bool JsonValue::IsObject(const QStringList& known) const
 {
     if (!value.isObject())
-        Refuse(QStringLiteral("an object"));
+        Refuse("an object");
     for (const QString& member : value.toObject().keys()) {
         if (!known.contains(member))
-            (*this)[member].Refuse(
-                QStringLiteral("one of %1").arg(known.join(QStringLiteral(", "))),
-                QStringLiteral("an unknown key") + DidYouMean(member, known));
+            (*this)[member].Refuse(QStringLiteral("one of %1").arg(known.join(", ")),
+                                   QStringLiteral("an unknown key") + DidYouMean(member, known));
     }
     return value.isObject();
 }
@@ -115,7 +114,7 @@ QList<JsonValue> JsonValue::Members(const QStringList& known) const
 QList<JsonValue> JsonValue::Items() const
 {
     if (!value.isArray())
-        Refuse(QStringLiteral("a list"));
+        Refuse("a list");
     QList<JsonValue> items;
     const QJsonArray list = value.toArray();
     for (const QJsonValue& item : list) {
@@ -129,14 +128,14 @@ QList<JsonValue> JsonValue::Items() const
 QString JsonValue::Text() const
 {
     if (!IsText())
-        Refuse(QStringLiteral("a text"));
+        Refuse("a text");
     return value.toString();
 }
 
 bool JsonValue::Truth() const
 {
     if (!value.isBool())
-        Refuse(QStringLiteral("true or false"));
+        Refuse("true or false");
     return value.toBool();
 }
 
@@ -153,7 +152,7 @@ int JsonValue::Int(int least, int most) const
 QPoint JsonValue::Pair(int least, int most) const
 {
     if (value.toArray().size() != 2) {
-        Refuse(QStringLiteral("a list of two whole numbers"));
+        Refuse("a list of two whole numbers");
         return QPoint();
     }
     const QList<JsonValue> pair = Items();

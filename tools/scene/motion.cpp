@@ -30,7 +30,7 @@ QString NodeMotion::SpeedKey() const
 
 NodeMotion MotionOf(const SceneNode& node)
 {
-    const int mode = node.attributes.value(QStringLiteral("EffectType")).toInt();
+    const int mode = node.attributes.value("EffectType").toInt();
     NodeMotion motion;
     motion.mode = mode == 0 ? Mode::Entrance : mode == 1 ? Mode::Scroll : Mode::Still;
     motion.number = node.attributes.value(motion.NumberKey()).toInt();

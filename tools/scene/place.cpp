@@ -17,7 +17,7 @@ bool operator==(const Place& a, const Place& b)
 bool ReadPlace(const QString& path, Place* place)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^\\$\\.pages\\[(\\d+)\\]\\.areas\\[(\\d+)\\]\\.nodes\\[(\\d+)\\]"));
+        "^\\$\\.pages\\[(\\d+)\\]\\.areas\\[(\\d+)\\]\\.nodes\\[(\\d+)\\]");
     const QRegularExpressionMatch match = pattern.match(path);
     *place = {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()};
     return match.hasMatch();

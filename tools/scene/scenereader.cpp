@@ -22,7 +22,7 @@ constexpr qint64 largestFile = qint64(256) << 20;
 
 int LargestSide()
 {
-    return FindAttribute(Home::Node, QStringLiteral("size"))->most;
+    return FindAttribute(Home::Node, "size")->most;
 }
 
 QList<QHash<QString, QString>> ReadRows(const JsonValue& json)
@@ -133,22 +133,22 @@ QByteArray ReadBytes(const QString& path, QList<SceneFault>* faults)
     const bool isInput = path == QLatin1String("-");
     const QFileInfo info(path);
     QFile file(path);
-    const QString sceneFile = QStringLiteral("a scene file");
+    const QString sceneFile = "a scene file";
     const QString fewerBytes = QStringLiteral("at most %1 bytes").arg(largestFile);
     if (!isInput && !info.exists())
-        faults->append({QString(), sceneFile, QStringLiteral("no such file")});
+        faults->append({QString(), sceneFile, "no such file"});
     else if (!isInput && !info.isFile())
-        faults->append({QString(), sceneFile, QStringLiteral("no regular file")});
+        faults->append({QString(), sceneFile, "no regular file"});
     else if (!isInput && info.size() > largestFile)
         faults->append({QString(), fewerBytes, QString::number(info.size())});
     else if (isInput ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly))
-        faults->append({QString(), QStringLiteral("a file that can be read"),
+        faults->append({QString(), "a file that can be read",
                         QStringLiteral("an error: %1").arg(file.errorString())});
     if (!faults->isEmpty())
         return QByteArray();
     const QByteArray bytes = ReadAtMost(&file, largestFile + 1);
     if (bytes.size() > largestFile)
-        faults->append({QString(), fewerBytes, QStringLiteral("more")});
+        faults->append({QString(), fewerBytes, "more"});
     return bytes;
 }
 
@@ -166,7 +166,7 @@ QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document
     // First of all, because Qt's reader leaks the values of duplicate keys.
     JsonFaults twice;
     for (const QString& place : DuplicateKeys(text))
-        twice.Add(place, QStringLiteral("each key once"), QStringLiteral("it twice"));
+        twice.Add(place, "each key once", "it twice");
     if (!twice.All().isEmpty())
         return twice.All();
     QJsonParseError error;
@@ -175,7 +175,7 @@ QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document
     if (error.error == QJsonParseError::NoError)
         return {};
     const int offset = qBound(0, error.offset, escaped.size());
-    return {{LineAndColumn(escaped, offset), QStringLiteral("valid JSON"),
+    return {{LineAndColumn(escaped, offset), "valid JSON",
              QStringLiteral("an error: %1").arg(error.errorString())}};
 }
 

@@ -186,7 +186,7 @@ QString TableOf(Home home)
 
 QByteArray SceneSchema()
 {
-    const Attribute& size = *FindAttribute(Home::Node, QStringLiteral("size"));
+    const Attribute& size = *FindAttribute(Home::Node, "size");
     QJsonObject side = Whole(1, size.most);
     side["description"] = "pixels";
     const QByteArray sides = QJsonDocument(side).toJson();

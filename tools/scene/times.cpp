@@ -14,7 +14,7 @@ bool ReadTime(const QString& text, double* milliseconds)
         double milliseconds;
     } units[] = {{"", 1000}, {"ms", 1}, {"s", 1000}, {"min", 60000}, {"h", 3600000}, {"t", 66}};
     static const QRegularExpression pattern(
-        QRegularExpression::anchoredPattern(QStringLiteral("(-?[0-9.]+) ?([a-z]*)")));
+        QRegularExpression::anchoredPattern("(-?[0-9.]+) ?([a-z]*)"));
     const auto match = pattern.match(text);
     bool isNumber = false;
     const double number = match.captured(1).toDouble(&isNumber);

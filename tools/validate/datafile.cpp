@@ -37,7 +37,7 @@ QByteArray Unwrapped(const QString& path, QString* fault)
     QFile file(path);
     QByteArray bytes;
     if (!QFileInfo(path).isFile()) {
-        *fault = QStringLiteral("it is no regular file");
+        *fault = "it is no regular file";
     } else if (!file.open(QIODevice::ReadOnly)) {
         *fault = QStringLiteral("it cannot be read: %1").arg(file.errorString());
     } else {

@@ -107,7 +107,7 @@ private:
     void CheckMode()
     {
         if (text.isEmpty())
-            AddAttribute(Mistake::TextEmpty, "Text", QStringLiteral("a text"));
+            AddAttribute(Mistake::TextEmpty, "Text", "a text");
         if (motion.mode == Mode::Still) {
             CheckRange(Mistake::ModeUnknown, "EffectType");
         } else {
@@ -127,7 +127,7 @@ private:
 
     void CheckIgnored()
     {
-        const QString withDazzle = QStringLiteral("0, or \"CheckDazzle\" 1 beside it");
+        const QString withDazzle = "0, or \"CheckDazzle\" 1 beside it";
         if (Has("CheckColorGradient") && !Has("CheckDazzle"))
             AddAttribute(Mistake::GradientIgnored, "CheckColorGradient", withDazzle);
         if (Has("CheckPictureFills") && !Has("CheckDazzle"))
@@ -155,8 +155,8 @@ private:
 
     void CheckColors()
     {
-        const QString list = QStringLiteral("TextAttribute");
-        const QString color = QStringLiteral("Color");
+        const QString list = "TextAttribute";
+        const QString color = "Color";
         const auto styles = node.lists.value(list);
         const Attribute& range = *FindAttribute(Home::TextAttribute, color);
         const auto find = [&](Mistake mistake, const QString& expected, const auto& isBad) {
@@ -218,18 +218,15 @@ private:
             if (!name.isEmpty()) {
                 const QString path = scene.FullName(name);
                 if (!QFileInfo::exists(path))
-                    Add(Mistake::FileMissing, at, QStringLiteral("no file %1").arg(path),
-                        QStringLiteral("a file"));
+                    Add(Mistake::FileMissing, at, QStringLiteral("no file %1").arg(path), "a file");
                 else if (isData)
                     CheckData(key);
             } else if (node.files.contains(key) || (isData && !text.isEmpty())) {
-                Add(Mistake::FileMissing, at, QStringLiteral("nothing"),
-                    QStringLiteral("the name of a data file"));
+                Add(Mistake::FileMissing, at, "nothing", "the name of a data file");
             } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
                        (key == QLatin1String("NeonGifPath") &&
                         IsUsed(*FindAttribute(Home::Files, key), node))) {
-                Add(Mistake::PictureMissing, at, QStringLiteral("nothing"),
-                    QStringLiteral("the name of a picture file"));
+                Add(Mistake::PictureMissing, at, "nothing", "the name of a picture file");
             }
         }
     }
@@ -326,14 +323,14 @@ private:
     void AddRow(Mistake mistake, const QString& list, int row, const QString& field,
                 const QString& found, const QString& expected)
     {
-        const QString place = Item(Member(QStringLiteral("lists"), list), row);
+        const QString place = Item(Member("lists", list), row);
         Add(mistake, Member(place, field), found, expected);
     }
 
     void AddAttribute(Mistake mistake, const QString& key, const QString& expected)
     {
         const QVariant value = node.attributes.value(key);
-        Add(mistake, Member(QStringLiteral("attributes"), key),
+        Add(mistake, Member("attributes", key),
             value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
     }
 

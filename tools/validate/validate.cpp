@@ -15,12 +15,12 @@ QList<Finding> Overlaps(const Scene& scene, const Place& place)
         for (const SceneNode& other : scene.pages[place.page].areas[a].nodes) {
             const QRect both = own & QRect(other.pos, other.size);
             if (!both.isEmpty())
-                return {{Mistake::AreasOverlap, Member(place.Path(), QStringLiteral("pos")),
+                return {{Mistake::AreasOverlap, Member(place.Path(), "pos"),
                          QStringLiteral("%1 x %2 pixels in common with areas[%3]")
                              .arg(both.width())
                              .arg(both.height())
                              .arg(a),
-                         QStringLiteral("areas side by side")}};
+                         "areas side by side"}};
         }
     }
     return {};
@@ -39,8 +39,7 @@ QString Finding::Line() const
 QList<Finding> ValidateScene(const Scene& scene)
 {
     if (scene.Nodes().isEmpty())
-        return {{Mistake::SceneEmpty, QStringLiteral("$.pages"), QStringLiteral("no nodes"),
-                 QStringLiteral("one or more")}};
+        return {{Mistake::SceneEmpty, "$.pages", "no nodes", "one or more"}};
     QList<Finding> findings;
     for (const Place& place : scene.Places()) {
         findings += CheckNode(scene, place);

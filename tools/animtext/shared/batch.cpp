@@ -91,7 +91,7 @@ bool Succeeded(QProcess* renderer)
 int RunJobs(QList<Job> jobs, int most, const QStringList& options, Progress::Form form)
 {
     constexpr int glance = 20; // milliseconds
-    Progress progress(QStringLiteral("rendering scene"), jobs.size(), form);
+    Progress progress("rendering scene", jobs.size(), form);
     const int all = jobs.size();
     int failed = 0;
     std::vector<std::unique_ptr<QProcess>> running;

@@ -53,7 +53,7 @@ int CompareFolder(const CommandLine& line, const QString& folder)
     Expectation expected;
     QString error;
     if (records)
-        for (const QFileInfo& scene : scenes.entryInfoList({QStringLiteral("*.json")}, QDir::Files))
+        for (const QFileInfo& scene : scenes.entryInfoList({"*.json"}, QDir::Files))
             expected.insert(scene.completeBaseName(), {});
     else
         FailUnless(ReadExpectation(file, &expected, &error), error, BadInput);
@@ -62,7 +62,7 @@ int CompareFolder(const CommandLine& line, const QString& folder)
 
     WatchForInterruption();
     const Playing playing(line);
-    Progress progress(QStringLiteral("playing, scenes"), expected.size());
+    Progress progress("playing, scenes", expected.size());
     Tally tally;
     int played = 0, ticks = 0;
     for (auto scene = expected.begin(); scene != expected.end(); ++scene) {

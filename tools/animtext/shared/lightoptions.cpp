@@ -28,12 +28,11 @@ QVector<Controller> ReadControllers(const CommandLine& line)
     };
     for (const QString& words : line.Values("layout")) {
         for (const QString& word : words.split(QLatin1Char(','), Qt::SkipEmptyParts))
-            apply(QStringLiteral("--layout: "), word.section(QLatin1Char('='), 0, 0));
+            apply("--layout: ", word.section(QLatin1Char('='), 0, 0));
     }
     for (const char* option : settings) {
         if (line.IsSet(option))
-            apply(QStringLiteral("--"),
-                  QStringLiteral("%1=%2").arg(QLatin1String(option), line.Value(option)));
+            apply("--", QStringLiteral("%1=%2").arg(QLatin1String(option), line.Value(option)));
     }
     QVector<Controller> controllers;
     for (const QString& address : line.Values("to")) {
@@ -103,7 +102,7 @@ void CheckLightOptions(const CommandLine& line)
     }
     if (!line.IsSet("test-pattern")) {
         if (line.Arguments().isEmpty())
-            throw Misuse{QStringLiteral("expected SCENE.json")};
+            throw Misuse{"expected SCENE.json"};
         return;
     }
     if (!line.Arguments().isEmpty())
@@ -112,7 +111,7 @@ void CheckLightOptions(const CommandLine& line)
     const QString pattern = line.Value("test-pattern");
     if (pattern != QLatin1String("all") && !TestPatterns().contains(pattern))
         throw Misuse{QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
-                         .arg(TestPatterns().join(QStringLiteral(", ")), pattern)};
+                         .arg(TestPatterns().join(", "), pattern)};
 }
 
 void AddLights(const CommandLine& line, QSize display, Lights* lights)
