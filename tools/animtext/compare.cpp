@@ -51,7 +51,7 @@ QString Tell(const Difference& difference, const Recording& a, const Recording& 
                                     .arg(difference.call + 1)
                                     .arg(difference.ms / tickLength)
                                     .arg(double(difference.ms) / 1000, 0, 'f', 2);
-    return where + place(a) + place(b) + QStringLiteral(": ") + difference.words;
+    return where + place(a) + place(b) + ": " + difference.words;
 }
 
 void Keep(const QImage& picture, const QString& path)
@@ -59,66 +59,6 @@ void Keep(const QImage& picture, const QString& path)
     WritePng(path, PngOf(picture, true));
     Print(path.toUtf8() + '\n');
 }
-
-/** Plays a scene on the desktop to compare it with a recording. */
-class DeskComparison
-{
-public:
-    DeskComparison(const CommandLine& line, const QString& log, const QString& scenePath)
-        : line(line)
-        , scene(OpenPlayableScene(line, scenePath))
-        , playing(line)
-        , player(VirtualDispatcher::Current(), playing.Plugin())
-        , recorded(Open(log))
-    {
-        FailUnless(recorded.hasCalls,
-                   log + " has pictures but no calls; record it with animtext trace --calls",
-                   BadInput);
-    }
-
-    const Recording& Recorded() const { return recorded; }
-
-    Recording Play(PicturePlace wanted = {}, QImage* picture = nullptr)
-    {
-        Recording desk;
-        QString error;
-        const auto goOn = [] { return !Interrupted(); };
-        const bool played = PlayOnDesk(&player, scene, playing.Seed(), goOn, &recorded, &desk,
-                                       wanted, picture, &error);
-        StopIfInterrupted();
-        FailUnless(played, error, BadInput);
-        return desk;
-    }
-
-    /** Saves both pictures and their difference, if the recording has the pixels. */
-    void KeepPictures(const Difference& difference)
-    {
-        const int number = recorded.sessions.at(difference.session).at(difference.call).pixels;
-        if (number < 0)
-            return;
-        QImage device;
-        QString error;
-        FailUnless(
-            ReadPam(QStringLiteral("%1-%2.pam").arg(recorded.name).arg(number), &device, &error),
-            error, BadInput);
-        QImage desk;
-        Play({difference.session, difference.call}, &desk);
-        const QDir folder(line.IsSet("output") ? line.Value("output")
-                                               : QFileInfo(recorded.name).path());
-        FailUnless(MakeFolder(folder.path(), &error), error);
-        const QString base = folder.filePath(QFileInfo(recorded.name).completeBaseName());
-        Keep(device, base + QStringLiteral("-device.png"));
-        Keep(desk, base + QStringLiteral("-desk.png"));
-        Keep(DifferenceOf(device, desk), base + QStringLiteral("-difference.png"));
-    }
-
-private:
-    const CommandLine& line;
-    Scene scene;
-    Playing playing;
-    Player player;
-    Recording recorded;
-};
 
 int Report(const Difference& difference, const Recording& a, const Recording& b)
 {
@@ -136,6 +76,52 @@ int Report(const Difference& difference, const Recording& a, const Recording& b)
     return FailedRun;
 }
 
+/**
+ * Plays a scene on the desktop to compare it with a recording. Saves both pictures that differ, and
+ * their difference, if the recording has the pixels.
+ */
+int CompareWithScene(const CommandLine& line, const QString& log, const QString& scenePath,
+                     qint64 tolerance)
+{
+    WatchForInterruption();
+    const Scene scene = OpenPlayableScene(line, scenePath);
+    const Playing playing(line);
+    Player player(VirtualDispatcher::Current(), playing.Plugin());
+    Recording recorded = Open(log);
+    FailUnless(recorded.hasCalls,
+               log + " has pictures but no calls; record it with animtext trace --calls", BadInput);
+    QString error;
+    const auto play = [&](PicturePlace wanted, QImage* picture) {
+        Recording desk;
+        const auto goOn = [] { return !Interrupted(); };
+        const bool played = PlayOnDesk(&player, scene, playing.Seed(), goOn, &recorded, &desk,
+                                       wanted, picture, &error);
+        StopIfInterrupted();
+        FailUnless(played, error, BadInput);
+        return desk;
+    };
+    const Recording played = play({}, nullptr);
+    const Difference difference = FirstDifference(recorded, played, tolerance);
+    const int status = Report(difference, recorded, played);
+    const int number = difference.isPicture
+                           ? recorded.sessions.at(difference.session).at(difference.call).pixels
+                           : -1;
+    if (number < 0)
+        return status;
+    QImage device;
+    QImage desk;
+    const QString pixels = QStringLiteral("%1-%2.pam").arg(log).arg(number);
+    FailUnless(ReadPam(pixels, &device, &error), error, BadInput);
+    play({difference.session, difference.call}, &desk);
+    const QDir folder(line.IsSet("output") ? line.Value("output") : QFileInfo(log).path());
+    FailUnless(MakeFolder(folder.path(), &error), error);
+    const QString base = folder.filePath(QFileInfo(log).completeBaseName());
+    Keep(device, base + "-device.png");
+    Keep(desk, base + "-desk.png");
+    Keep(DifferenceOf(device, desk), base + "-difference.png");
+    return status;
+}
+
 int Compare(const CommandLine& line)
 {
     const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Time("tolerance"));
@@ -151,16 +137,8 @@ int Compare(const CommandLine& line)
             throw Misuse{QStringLiteral("--%1 is for a folder of scenes, the only word then")
                              .arg(QLatin1String(option.name))};
     const QString second = line.Arguments().at(1);
-    if (!IsRecording(second)) {
-        WatchForInterruption();
-        DeskComparison comparison(line, first, second);
-        const Recording desk = comparison.Play();
-        const Difference difference = FirstDifference(comparison.Recorded(), desk, tolerance);
-        const int status = Report(difference, comparison.Recorded(), desk);
-        if (difference.isPicture)
-            comparison.KeepPictures(difference);
-        return status;
-    }
+    if (!IsRecording(second))
+        return CompareWithScene(line, first, second, tolerance);
     Recording a = Open(first);
     Recording b = Open(second);
     DropStops(&a, Stops::AtEnd);
