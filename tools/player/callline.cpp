@@ -9,40 +9,6 @@ namespace AnimText {
 
 namespace {
 
-Json Image(const Torv::CallRecord& call)
-{
-    const PicImage& image = call.image;
-    return call.hasImage ? Json::Object({{"width", image.width},
-                                         {"height", image.height},
-                                         {"bytesPerLine", image.bytesPerLine},
-                                         {"bits", image.bits != nullptr}})
-                         : Json();
-}
-
-Json EffectOf(const Torv::CallRecord& call)
-{
-    const Effect& effect = call.effect;
-    return call.hasEffect ? Json::Object({{"effect1", effect.effect1},
-                                          {"duration1", effect.duration1},
-                                          {"effect2", effect.effect2},
-                                          {"duration2", effect.duration2},
-                                          {"effect3", effect.effect3},
-                                          {"duration3", effect.duration3}})
-                          : Json();
-}
-
-Json Placement(const Torv::CallRecord& call)
-{
-    const PicPlacement& placement = call.placement;
-    return call.hasPlacement ? Json::Object({{"x", placement.x},
-                                             {"y", placement.y},
-                                             {"width", placement.width},
-                                             {"height", placement.height},
-                                             {"imageWidth", placement.imageWidth},
-                                             {"imageHeight", placement.imageHeight}})
-                             : Json();
-}
-
 /** The arguments of each call, in the order of Torv::Operation. */
 const char* const arguments[Torv::OperationCount] = {
     "type image flags effect placement pixelWord",
@@ -58,6 +24,9 @@ const char* const arguments[Torv::OperationCount] = {
 /** All arguments that any call has. */
 QHash<QByteArray, Json> Values(const Torv::CallRecord& call)
 {
+    const PicImage& image = call.image;
+    const Effect& effect = call.effect;
+    const PicPlacement& placement = call.placement;
     return {{"display", call.display},
             {"session", call.session},
             {"reserved", call.reserved},
@@ -74,9 +43,26 @@ QHash<QByteArray, Json> Values(const Torv::CallRecord& call)
             {"areaHeight", call.areaHeight},
             {"effectCode", call.effectCode},
             {"speedIndex", call.speedIndex},
-            {"image", Image(call)},
-            {"effect", EffectOf(call)},
-            {"placement", Placement(call)}};
+            {"image", !call.hasImage ? Json()
+                                     : Json::Object({{"width", image.width},
+                                                     {"height", image.height},
+                                                     {"bytesPerLine", image.bytesPerLine},
+                                                     {"bits", image.bits != nullptr}})},
+            {"effect", !call.hasEffect ? Json()
+                                       : Json::Object({{"effect1", effect.effect1},
+                                                       {"duration1", effect.duration1},
+                                                       {"effect2", effect.effect2},
+                                                       {"duration2", effect.duration2},
+                                                       {"effect3", effect.effect3},
+                                                       {"duration3", effect.duration3}})},
+            {"placement", !call.hasPlacement
+                              ? Json()
+                              : Json::Object({{"x", placement.x},
+                                              {"y", placement.y},
+                                              {"width", placement.width},
+                                              {"height", placement.height},
+                                              {"imageWidth", placement.imageWidth},
+                                              {"imageHeight", placement.imageHeight}})}};
 }
 
 Json Result(const Torv::CallRecord& call)

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 
 namespace AnimText {
 
@@ -59,23 +60,14 @@ int VirtualDispatcher::remainingTime(int id)
     return -1;
 }
 
-VirtualDispatcher::Timer* VirtualDispatcher::NextTimer()
-{
-    Timer* next = nullptr;
-    for (Timer& timer : timers) {
-        if (timer.firing)
-            continue;
-        if (!next || timer.deadline < next->deadline ||
-            (timer.deadline == next->deadline && timer.order < next->order))
-            next = &timer;
-    }
-    return next;
-}
-
 bool VirtualDispatcher::FireNext(qint64 limit)
 {
-    Timer* timer = NextTimer();
-    if (!timer || timer->deadline > limit)
+    const auto timer =
+        std::min_element(timers.begin(), timers.end(), [](const Timer& a, const Timer& b) {
+            return std::tie(a.firing, a.deadline, a.order) <
+                   std::tie(b.firing, b.deadline, b.order);
+        });
+    if (timer == timers.end() || timer->firing || timer->deadline > limit)
         return false;
     now = std::max(now, timer->deadline);
     timer->deadline = now + std::max(Interval(1), timer->interval);

@@ -78,7 +78,6 @@ private:
         bool firing;   // its slot runs, perhaps with a loop of its own inside
     };
 
-    Timer* NextTimer();
     bool FireNext(qint64 limit);
 
     qint64 now = 0;
