@@ -65,7 +65,7 @@ int Report(const Difference& difference, const Recording& a, const Recording& b)
     if (difference.words.isEmpty()) {
         Print(QStringLiteral("%1 and %2 agree: %3 calls, %4 pictures\n")
                   .arg(a.name, b.name)
-                  .arg(a.hasCalls ? a.Calls() : 0)
+                  .arg(a.hasCalls ? a.All().size() : 0)
                   .arg(std::min(a.Pictures(), b.Pictures()))
                   .toUtf8());
         return Done;

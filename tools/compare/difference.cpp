@@ -24,15 +24,11 @@ bool AreKnownAndDiffer(const QString& sha1, const QString& other)
     return !sha1.isEmpty() && !other.isEmpty() && sha1 != other;
 }
 
-class Comparison
+struct Comparison
 {
-public:
-    Comparison(const Recording& a, const Recording& b, qint64 tolerance)
-        : a(a)
-        , b(b)
-        , tolerance(tolerance)
-    {
-    }
+    const Recording& a;
+    const Recording& b;
+    qint64 tolerance;
 
     Difference Session(int index) const
     {
@@ -73,7 +69,6 @@ public:
         return {};
     }
 
-private:
     Difference At(int i, const Calls& callsA, const Calls& callsB) const
     {
         if (i >= callsA.size() || i >= callsB.size()) {
@@ -129,17 +124,13 @@ private:
         }
         return QString();
     }
-
-    const Recording& a;
-    const Recording& b;
-    qint64 tolerance;
 };
 
 } // namespace
 
 Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolerance)
 {
-    const Comparison comparison(a, b, tolerance);
+    const Comparison comparison{a, b, tolerance};
     Difference first = comparison.Durations();
     for (int index = 1; index < std::max(a.sessions.size(), b.sessions.size()); ++index) {
         const Difference found = comparison.Session(index);

@@ -7,22 +7,19 @@
 
 namespace AnimText {
 
-int Recording::Calls() const
+QVector<RecordedCall> Recording::All() const
 {
-    int calls = 0;
+    QVector<RecordedCall> all;
     for (const QVector<RecordedCall>& session : sessions)
-        calls += session.size();
-    return calls;
+        all += session;
+    return all;
 }
 
 int Recording::Pictures() const
 {
-    int pictures = 0;
-    for (const QVector<RecordedCall>& session : sessions) {
-        for (const RecordedCall& call : session)
-            pictures += call.sha1.isEmpty() ? 0 : 1;
-    }
-    return pictures;
+    const QVector<RecordedCall> all = All();
+    return int(std::count_if(all.begin(), all.end(),
+                             [](const RecordedCall& call) { return !call.sha1.isEmpty(); }));
 }
 
 QVector<RecordedCall>& Recording::Session(int index)
@@ -120,10 +117,8 @@ void DropStops(Recording* recording, Stops which)
                call.name == QLatin1String("FreePictureSession");
     };
     int last = -1; // line of a call that is not part of the stop
-    for (const QVector<RecordedCall>& session : recording->sessions) {
-        for (const RecordedCall& call : session)
-            last = ends(call) || which == Stops::Anywhere ? last : std::max(last, call.line);
-    }
+    for (const RecordedCall& call : recording->All())
+        last = ends(call) || which == Stops::Anywhere ? last : std::max(last, call.line);
     for (int i = 1; i < recording->sessions.size(); ++i) {
         QVector<RecordedCall>& session = recording->sessions[i];
         while (!session.isEmpty() && ends(session.last()) && session.last().line > last) {
@@ -152,7 +147,7 @@ bool ReadRecording(const QString& path, Recording* recording, QString* error)
             return false;
         }
     }
-    if (recording->Calls() > 0)
+    if (!recording->All().isEmpty())
         return true;
     *error = QStringLiteral("%1: the recording is empty").arg(path);
     return false;

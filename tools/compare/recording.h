@@ -34,7 +34,8 @@ struct Recording
     bool hasCalls = false; ///< rather than pictures alone
     QSet<int> stopped;     ///< sessions that the host ended; see DropStops()
 
-    int Calls() const;
+    /** The calls of all sessions. */
+    QVector<RecordedCall> All() const;
     int Pictures() const;
 
     /** Adds a line of JSON. @return false if it is not from a recording */

@@ -136,16 +136,18 @@ QJsonObject PicturesToJson(const GalleryEntry& entry, const QVector<QByteArray>&
             {QStringLiteral("runs"), speeds}};
 }
 
-class GalleryWriter
+struct GalleryWriter
 {
-public:
-    GalleryWriter(const GalleryOptions& options, Player* player, const GalleryWatch& watch)
-        : options(options)
-        , player(player)
-        , watch(watch)
-        , folder(options.folder)
-    {
-    }
+    const GalleryOptions& options;
+    Player* player;
+    GalleryWatch watch;
+    WholeFolder folder{options.folder};
+    QTemporaryDir scenes{TemporaryName()};
+    PictureSheets posters{};
+    QJsonObject digests{}; // of the files in the folder
+    QString why{};
+    int done = 0;
+    const int all = speedCount * (Effects().size() + Scrolls().size());
 
     /** Throws. */
     void Write()
@@ -177,10 +179,6 @@ public:
         Demand(folder.Finish(&why));
     }
 
-    qint64 Bytes() const { return folder.Bytes(); }
-    QString Error() const { return why; }
-
-private:
     void Demand(bool succeeded)
     {
         if (!succeeded)
@@ -254,17 +252,6 @@ private:
         Demand(folder.Add(name, content, &why));
         digests.insert(name, Digest(content));
     }
-
-    const GalleryOptions& options;
-    Player* player;
-    GalleryWatch watch;
-    WholeFolder folder;
-    QTemporaryDir scenes{TemporaryName()};
-    PictureSheets posters;
-    QJsonObject digests; // of the files in the folder
-    QString why;
-    int done = 0;
-    const int all = speedCount * (Effects().size() + Scrolls().size());
 };
 
 } // namespace
@@ -273,14 +260,14 @@ bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWa
                   qint64* bytes, QString* error)
 {
     LoadPage();
-    GalleryWriter writer(options, player, watch);
+    GalleryWriter writer{options, player, watch};
     try {
         writer.Write();
     } catch (const BrokenOff&) {
-        *error = writer.Error();
+        *error = writer.why;
         return false;
     }
-    *bytes = writer.Bytes();
+    *bytes = writer.folder.Bytes();
     return true;
 }
 
