@@ -347,20 +347,18 @@ Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile,
     scene.path = path;
     scene.display = sign.display;
     scene.alphaBlend = sign.alphaBlend;
-    int lastPage = -1;
-    int lastArea = -1;
-    for (const SignText& text : sign.texts) {
-        if (page >= 0 && text.page != page)
+    for (const QList<SignText>& texts : PagesOf(sign)) {
+        if (texts.isEmpty() || (page >= 0 && texts.first().page != page))
             continue;
-        if (text.page != lastPage) {
-            scene.pages.append(ScenePage());
-            lastArea = -1;
+        ScenePage written;
+        int area = -1; // the one that was written last
+        for (const SignText& text : texts) {
+            if (text.area != area)
+                written.areas.append(SceneArea());
+            area = text.area;
+            written.areas.last().nodes.append(NodeOf(text, placeFile));
         }
-        if (text.area != lastArea)
-            scene.pages.last().areas.append(SceneArea());
-        lastPage = text.page;
-        lastArea = text.area;
-        scene.pages.last().areas.last().nodes.append(NodeOf(text, placeFile));
+        scene.pages.append(written);
     }
     return scene;
 }
