@@ -10,10 +10,10 @@ Schedule HostSchedule(const Scene& scene, const QVector<qint64>& durations)
 {
     Schedule schedule;
     int node = 0;
-    for (int page = 0; page < scene.pages.size(); ++page) {
+    for (const ScenePage& page : scene.pages) {
         const qint64 pageStart = schedule.length;
         QVector<int> lastOfAreas; // of each area
-        for (const SceneArea& area : scene.pages.at(page).areas) {
+        for (const SceneArea& area : page.areas) {
             qint64 time = pageStart;
             int last = -1;
             for (int i = 0; i < area.nodes.size(); ++i, ++node) {
@@ -21,7 +21,7 @@ Schedule HostSchedule(const Scene& scene, const QVector<qint64>& durations)
                 if (end == time)
                     continue;
                 last = schedule.showings.size();
-                schedule.showings.append({node, page, time, end});
+                schedule.showings.append({node, time, end});
                 time = end;
             }
             if (last >= 0)

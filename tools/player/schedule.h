@@ -15,7 +15,6 @@ namespace AnimText {
 struct Showing
 {
     int node; ///< in the order of the file
-    int page;
     qint64 from;
     qint64 until;
 };

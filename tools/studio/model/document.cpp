@@ -80,8 +80,7 @@ bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QS
     return ChangeScene(path, change, error) == Storing::Saved;
 }
 
-Document::Document(QObject* parent)
-    : QObject(parent)
+Document::Document()
 {
     connect(&layouts, &LayoutQueue::Made, this, &Document::TakeLayout);
     connect(&undo, &QUndoStack::cleanChanged, this, &Document::StateChanged);

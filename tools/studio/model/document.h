@@ -22,7 +22,7 @@ class Document : public QObject
     Q_OBJECT
 
 public:
-    explicit Document(QObject* parent = nullptr);
+    Document();
     /** Waits for a save that is running. */
     ~Document() override;
 

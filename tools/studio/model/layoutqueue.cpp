@@ -7,9 +7,8 @@ constexpr int rememberedBytes = 64 << 20;
 
 } // namespace
 
-LayoutQueue::LayoutQueue(QObject* parent)
-    : QObject(parent)
-    , made(rememberedBytes)
+LayoutQueue::LayoutQueue()
+    : made(rememberedBytes)
 {
     // One permanent thread: each new thread would load the fonts again.
     pool.setMaxThreadCount(1);

@@ -19,7 +19,7 @@ class LayoutQueue : public QObject
     Q_OBJECT
 
 public:
-    explicit LayoutQueue(QObject* parent = nullptr);
+    LayoutQueue();
     /** Waits for the text that is being laid out. */
     ~LayoutQueue() override;
 

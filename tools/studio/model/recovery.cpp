@@ -47,9 +47,8 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
 
 } // namespace
 
-Recovery::Recovery(Document* document, const QString& below, QObject* parent)
-    : QObject(parent)
-    , document(document)
+Recovery::Recovery(Document* document, const QString& below)
+    : document(document)
     , root(!below.isEmpty() ? below
                             : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                                   QStringLiteral("/recovery"))
@@ -66,7 +65,7 @@ Recovery::Recovery(Document* document, const QString& below, QObject* parent)
 Recovery::~Recovery()
 {
     pool.waitForDone();
-    if (leaves || !lock)
+    if (!lock)
         return;
     lock->unlock();
     QDir(folder).removeRecursively();

@@ -35,7 +35,7 @@ class Recovery : public QObject
 
 public:
     /** @param folder parent of the copies' folders; empty for the user's default */
-    Recovery(Document* document, const QString& folder = QString(), QObject* parent = nullptr);
+    explicit Recovery(Document* document, const QString& folder = QString());
     /** Removes the copy: the user has decided not to save. */
     ~Recovery() override;
 
@@ -45,8 +45,6 @@ public:
     void TakeOver(const LostWork& work);
     /** Deletes the copy. */
     static void Drop(const LostWork& work);
-    /** Makes the destructor keep the copy. */
-    void LeaveCopy() { leaves = true; }
 
 signals:
     /** The copy has been written. */
@@ -63,7 +61,6 @@ private:
     std::unique_ptr<QLockFile> lock;
     QTimer delay;
     QThreadPool pool;
-    bool leaves = false;
 };
 
 } // namespace AnimText

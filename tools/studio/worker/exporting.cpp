@@ -61,8 +61,7 @@ QString RenderCommandLine(const QString& scene, const ExportSettings& settings)
     return words.join(QLatin1Char(' '));
 }
 
-Export::Export(QObject* parent)
-    : QObject(parent)
+Export::Export()
 {
     connect(&process, &QProcess::readyReadStandardOutput, this, &Export::ReadProgress);
     connect(&process, &QProcess::readyReadStandardError, this, &Export::ReadErrors);

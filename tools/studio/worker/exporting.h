@@ -33,7 +33,7 @@ class Export : public QObject
     Q_OBJECT
 
 public:
-    explicit Export(QObject* parent = nullptr);
+    Export();
     /** Cancels. */
     ~Export() override;
 

@@ -9,9 +9,8 @@ constexpr int ticksUnmeasured = 150; // painted ahead while the length is unknow
 
 } // namespace
 
-Rehearsal::Rehearsal(const QString& plugin, qint64 cacheBytes, QObject* parent)
-    : QObject(parent)
-    , player(plugin)
+Rehearsal::Rehearsal(const QString& plugin, qint64 cacheBytes)
+    : player(plugin)
     , measurer(plugin)
     , cache(cacheBytes)
 {

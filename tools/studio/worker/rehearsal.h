@@ -25,8 +25,7 @@ public:
      * @param plugin the plugin library; empty for the one beside the program
      * @param cacheBytes memory limit for pictures
      */
-    explicit Rehearsal(const QString& plugin, qint64 cacheBytes = 192 << 20,
-                       QObject* parent = nullptr);
+    explicit Rehearsal(const QString& plugin, qint64 cacheBytes = 192 << 20);
     ~Rehearsal() override;
 
     /** Sets the sign and the part to play; earlier pictures become invalid. */

@@ -30,9 +30,8 @@ double ProcessorTimeOf(qint64 id)
     return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
 }
 
-WorkerLink::WorkerLink(const QString& plugin, Haste haste, QObject* parent)
-    : QObject(parent)
-    , plugin(plugin)
+WorkerLink::WorkerLink(const QString& plugin, Haste haste)
+    : plugin(plugin)
     , haste(haste)
 {
     // The plugin's messages go to the studio's terminal.

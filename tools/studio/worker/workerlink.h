@@ -26,8 +26,7 @@ public:
     enum class Haste { Full, None }; ///< None runs the worker at low priority
 
     /** @param plugin the plugin library; empty for the one beside the program */
-    explicit WorkerLink(const QString& plugin, Haste haste = Haste::Full,
-                        QObject* parent = nullptr);
+    explicit WorkerLink(const QString& plugin, Haste haste = Haste::Full);
     ~WorkerLink() override;
 
     /** Sets the program to start with --worker; the default is the running one. */
