@@ -128,12 +128,13 @@ void WorkerLink::End(int, QProcess::ExitStatus how)
     patience.stop();
     if (!isOwed)
         return;
-    if (++deaths == 1)
+    if (++deaths == 1) {
         Write();
-    else
-        emit Died(hangs ? tr("The plugin stopped responding and was terminated.")
-                  : how == QProcess::CrashExit ? tr("The plugin crashed.")
-                                               : tr("The playback process ended unexpectedly."));
+        return;
+    }
+    emit Died(hangs                        ? tr("The plugin stopped responding and was terminated.")
+              : how == QProcess::CrashExit ? tr("The plugin crashed.")
+                                           : tr("The playback process ended unexpectedly."));
 }
 
 } // namespace AnimText
