@@ -45,6 +45,23 @@ private slots:
         QCOMPARE(dialog.Address(), address);
     }
 
+    void showsWiringBeforeHost()
+    {
+        LedsDialog dialog(QSize(16, 8), QString());
+        const auto picture = [&dialog] {
+            QImage found;
+            for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+                const QPixmap shown = label->pixmap(Qt::ReturnByValue);
+                found = shown.isNull() ? found : shown.toImage();
+            }
+            return found;
+        };
+        const QImage rows = picture();
+        QVERIFY(!rows.isNull());
+        dialog.findChild<QCheckBox*>()->setChecked(true);
+        QVERIFY(picture() != rows);
+    }
+
     void tabGoesDownThroughTheRows()
     {
         LedsDialog dialog(QSize(16, 8), QString());

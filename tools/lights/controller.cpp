@@ -167,9 +167,6 @@ bool ReadAddress(Controller* controller, const QString& address, QString* error)
         return fail(QStringLiteral("expected ddp://HOST, sacn://HOST, sacn:// for multicast, or "
                                    "artnet://HOST; the host may be followed by :PORT, 1 to 65535"));
     controller->host = match.captured(2).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
-    if (controller->host.isEmpty() && controller->protocol != Protocol::E131)
-        return fail(QStringLiteral(
-            "expected the controller's name or address; only sacn:// works without one"));
     QStringList words = match.captured(4).split(QLatin1Char(','), Qt::SkipEmptyParts);
     const bool startsWithNumber = !words.isEmpty() && words.first().at(0).isDigit();
     controller->rect = TakeRect(&words);
@@ -180,6 +177,10 @@ bool ReadAddress(Controller* controller, const QString& address, QString* error)
         if (!ApplySetting(controller, word, error))
             return fail(*error);
     }
+    // The last check, so that a dialog can show the wiring before anybody has named a host.
+    if (controller->host.isEmpty() && controller->protocol != Protocol::E131)
+        return fail(QStringLiteral(
+            "expected the controller's name or address; only sacn:// works without one"));
     return true;
 }
 
