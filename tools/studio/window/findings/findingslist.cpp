@@ -26,76 +26,6 @@ QString FieldOf(const Finding& finding)
     return {};
 }
 
-/** The fix for @p finding about @p text on a display of that size. */
-Fix FixFor(const Finding& finding, const SignText& text, const QSize& display)
-{
-    const auto set = [](const QString& words, const QString& key, int value) {
-        return Fix{words, [=](SignText* edited) { edited->node.attributes[key] = value; }};
-    };
-    const auto remove = [](const char* key, const char* other) {
-        return Fix{FindingsList::tr("Remove"), [=](SignText* edited) {
-                       edited->node.attributes.remove(QLatin1String(key));
-                       edited->node.attributes.remove(QLatin1String(other));
-                   }};
-    };
-    const auto fit = [](const QString& words, Fit wanted) {
-        return Fix{words, [=](SignText* edited) { edited->source.fit = wanted; }};
-    };
-    switch (finding.mistake) {
-    case Mistake::SpeedRange: {
-        const QString key = MotionOf(text.node).SpeedKey();
-        return set(FindingsList::tr("Use the nearest speed"), key,
-                   qBound(0, text.node.attributes.value(key).toInt(), 9));
-    }
-    case Mistake::PlaysRange:
-        return set(FindingsList::tr("Play once"), QStringLiteral("PlayTimes"), 1);
-    case Mistake::HoldRange:
-        return {FindingsList::tr("Remove the pause"),
-                [](SignText* edited) { edited->node.hold = 0; }};
-    case Mistake::ModeUnknown:
-        return set(FindingsList::tr("Use an entrance effect"), QStringLiteral("EffectType"), 0);
-    case Mistake::EffectUnknown:
-        return set(FindingsList::tr("Use Typewriter"), QStringLiteral("AnimationEffect"), 4);
-    case Mistake::DirectionUnknown:
-        return set(FindingsList::tr("Scroll left"), QStringLiteral("ContinueStyle"), 0);
-    case Mistake::AreaOutside:
-        return {FindingsList::tr("Move onto the display"), [display](SignText* edited) {
-                    SceneNode& node = edited->node;
-                    node.size = node.size.boundedTo(display);
-                    node.pos.setX(qBound(0, node.pos.x(), display.width() - node.size.width()));
-                    node.pos.setY(qBound(0, node.pos.y(), display.height() - node.size.height()));
-                }};
-    case Mistake::FileMissing:
-        if (KeyOf(finding) != QLatin1String("PathData") &&
-            KeyOf(finding) != QLatin1String("DescentVector"))
-            return {};
-        [[fallthrough]];
-    case Mistake::DataMalformed:
-    case Mistake::DataLength:
-    case Mistake::DataSurplus:
-    case Mistake::OutlineMalformed:
-    case Mistake::ListLength:
-    case Mistake::ListSurplus:
-    case Mistake::RowValue:
-        return {FindingsList::tr("Recreate the outlines"),
-                [](SignText* edited) { edited->layout.reset(); }};
-    case Mistake::TextHigh: return fit(FindingsList::tr("Fit height"), Fit::Height);
-    case Mistake::CharacterWide: return fit(FindingsList::tr("Fit height and width"), Fit::Both);
-    case Mistake::ColorsIgnored:
-        return {FindingsList::tr("Use the first color"), [](SignText* edited) {
-                    QVector<StyleRun>& runs = edited->source.text.runs;
-                    for (StyleRun& run : runs)
-                        run.color = runs.first().color;
-                }};
-    case Mistake::GradientIgnored:
-    case Mistake::PictureIgnored:
-        return set(FindingsList::tr("Turn on dazzle"), QStringLiteral("CheckDazzle"), 1);
-    case Mistake::StrokeIgnored: return remove("Stroke", "StrokeColor");
-    case Mistake::ShadowIgnored: return remove("CheckShadowEffect", "TextShadowBox");
-    default: return {};
-    }
-}
-
 /** The text that @p finding is about; null for none. */
 const SignText* TextOf(const Finding& finding, const Sign& sign)
 {
@@ -130,6 +60,69 @@ FindingsList::FindingsList(QWidget* parent)
     Show({}, {});
 }
 
+FindingsList::Fix FindingsList::FixFor(const Finding& finding, const QSize& display)
+{
+    const auto set = [](const QString& words, const char* key, int value) {
+        return Fix{words,
+                   [=](SignText* edited) { edited->node.attributes[QLatin1String(key)] = value; }};
+    };
+    const auto remove = [](const char* key, const char* other) {
+        return Fix{tr("Remove"), [=](SignText* edited) {
+                       edited->node.attributes.remove(QLatin1String(key));
+                       edited->node.attributes.remove(QLatin1String(other));
+                   }};
+    };
+    const auto fit = [](const QString& words, Fit wanted) {
+        return Fix{words, [=](SignText* edited) { edited->source.fit = wanted; }};
+    };
+    switch (finding.mistake) {
+    case Mistake::SpeedRange:
+        return {tr("Use the nearest speed"), [](SignText* edited) {
+                    QVariant& speed = edited->node.attributes[MotionOf(edited->node).SpeedKey()];
+                    speed = qBound(0, speed.toInt(), 9);
+                }};
+    case Mistake::PlaysRange: return set(tr("Play once"), "PlayTimes", 1);
+    case Mistake::HoldRange:
+        return {tr("Remove the pause"), [](SignText* edited) { edited->node.hold = 0; }};
+    case Mistake::ModeUnknown: return set(tr("Use an entrance effect"), "EffectType", 0);
+    case Mistake::EffectUnknown: return set(tr("Use Typewriter"), "AnimationEffect", 4);
+    case Mistake::DirectionUnknown: return set(tr("Scroll left"), "ContinueStyle", 0);
+    case Mistake::AreaOutside:
+        return {tr("Move onto the display"), [display](SignText* edited) {
+                    SceneNode& node = edited->node;
+                    node.size = node.size.boundedTo(display);
+                    node.pos.setX(qBound(0, node.pos.x(), display.width() - node.size.width()));
+                    node.pos.setY(qBound(0, node.pos.y(), display.height() - node.size.height()));
+                }};
+    case Mistake::FileMissing:
+        if (KeyOf(finding) != QLatin1String("PathData") &&
+            KeyOf(finding) != QLatin1String("DescentVector"))
+            return {};
+        [[fallthrough]];
+    case Mistake::DataMalformed:
+    case Mistake::DataLength:
+    case Mistake::DataSurplus:
+    case Mistake::OutlineMalformed:
+    case Mistake::ListLength:
+    case Mistake::ListSurplus:
+    case Mistake::RowValue:
+        return {tr("Recreate the outlines"), [](SignText* edited) { edited->layout.reset(); }};
+    case Mistake::TextHigh: return fit(tr("Fit height"), Fit::Height);
+    case Mistake::CharacterWide: return fit(tr("Fit height and width"), Fit::Both);
+    case Mistake::ColorsIgnored:
+        return {tr("Use the first color"), [](SignText* edited) {
+                    QVector<StyleRun>& runs = edited->source.text.runs;
+                    for (StyleRun& run : runs)
+                        run.color = runs.first().color;
+                }};
+    case Mistake::GradientIgnored:
+    case Mistake::PictureIgnored: return set(tr("Turn on dazzle"), "CheckDazzle", 1);
+    case Mistake::StrokeIgnored: return remove("Stroke", "StrokeColor");
+    case Mistake::ShadowIgnored: return remove("CheckShadowEffect", "TextShadowBox");
+    default: return {};
+    }
+}
+
 void FindingsList::ApplyFix(int index)
 {
     const Row row = rows.at(index);
@@ -162,7 +155,7 @@ void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
             tr("Found %1, expected %2.\n%3").arg(finding.found, finding.expected, finding.place);
         if (const SignText* text = TextOf(finding, sign)) {
             row.id = text->id;
-            row.fix = FixFor(finding, *text, sign.display);
+            row.fix = FixFor(finding, sign.display);
             if (sign.texts.size() > 1)
                 row.words = QStringLiteral("%1 · %2").arg(text->Title(), row.words);
         }

@@ -11,13 +11,6 @@
 
 namespace AnimText {
 
-/** A way to fix a finding; without a change if none is known. */
-struct Fix
-{
-    QString words;
-    TextChange change;
-};
-
 class FindingsList : public QScrollArea
 {
     Q_OBJECT
@@ -42,6 +35,12 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    /** A way to fix a finding; without a change if none is known. */
+    struct Fix
+    {
+        QString words;
+        TextChange change;
+    };
     struct Row
     {
         Finding finding;
@@ -51,6 +50,8 @@ private:
         QString why;
     };
 
+    /** The fix for @p finding on a display of that size. */
+    static Fix FixFor(const Finding& finding, const QSize& display);
     QWidget* MakeRow(int index);
 
     QVBoxLayout* list;
