@@ -73,6 +73,7 @@ private slots:
     void speaksGerman();
     void everyWidgetHasAccessibleName();
     void fixesFindings();
+    void fieldsFollowTheArea();
     void fieldsStayInPlaceAndTabIsShort();
     void recreatesOutlines();
     void reportsMissingTemporaryFolder();
@@ -695,6 +696,21 @@ void TestWindow::fixesFindings()
     QCOMPARE(Text().node.attributes.value("AnimationSpeed").toInt(), 9);
     QVERIFY(!Text().node.attributes.contains("Stroke"));
     QVERIFY(Text().source.fit == Fit::None);
+}
+
+void TestWindow::fieldsFollowTheArea()
+{
+    Sign sign = window->GetDocument()->Current();
+    sign.texts.first().node.size = QSize(512, 8); // has no room for the padding of the next
+    window->GetDocument()->Change("Low", sign);
+    sign.texts.first().node.size = QSize(512, 64);
+    sign.texts.first().source.padding = 20;
+    window->GetDocument()->Change("High", sign);
+    for (const NumberField* number : window->GetInspector()->findChildren<NumberField*>()) {
+        if (number->accessibleName() == "Padding")
+            QCOMPARE(number->Number(), 20);
+    }
+    QCOMPARE(window->GetDocument()->Undo()->count(), 2);
 }
 
 void TestWindow::fieldsStayInPlaceAndTabIsShort()
