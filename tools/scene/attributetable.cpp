@@ -187,7 +187,7 @@ QList<Attribute> AttributeTable::Make()
         Number("PlayTimes", QT_TR_NOOP("Repeats"),
                QT_TR_NOOP("how many times the whole text is shown"))
             .Unit(times).Range(1, most),
-        Number("hold", QT_TR_NOOP("Pause"),
+        Number("hold", QT_TR_NOOP("Hold"),
                QT_TR_NOOP("how long each page stays after its entrance"))
             .In(&SceneNode::hold).Unit(tenths).Range(0, most).For(entrance),
     }) + In(Group::Background, {

@@ -415,8 +415,8 @@
         <translation>Tempo anpassen</translation>
     </message>
     <message>
-        <source>Remove the pause</source>
-        <translation>Pause entfernen</translation>
+        <source>Remove the hold</source>
+        <translation>Haltezeit entfernen</translation>
     </message>
     <message>
         <source>Use an entrance effect</source>
@@ -1473,16 +1473,16 @@
         <translation>Auftritt</translation>
     </message>
     <message>
-        <source>pause</source>
-        <translation>Pause</translation>
+        <source>hold</source>
+        <translation>Haltezeit</translation>
     </message>
     <message>
         <source>Click or drag: go to that time. Shift+drag: loop a range. Ctrl+wheel: zoom.</source>
         <translation>Klicken oder ziehen: zu diesem Zeitpunkt gehen. Umschalt+Ziehen: Abschnitt wiederholen. Strg+Mausrad: zoomen.</translation>
     </message>
     <message>
-        <source>Page %1: pause, %2</source>
-        <translation>Seite %1: Pause, %2</translation>
+        <source>Page %1: hold, %2</source>
+        <translation>Seite %1: Haltezeit, %2</translation>
     </message>
     <message>
         <source>Page %1: entrance, %2</source>
@@ -1907,8 +1907,8 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
         <translation>Wiederholungen</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>Pause</translation>
+        <source>Hold</source>
+        <translation>Haltezeit</translation>
     </message>
     <message>
         <source>authoring tools; the sign uses the outlines</source>

@@ -83,7 +83,7 @@ FindingsList::Fix FindingsList::FixFor(const Finding& finding, const QSize& disp
                 }};
     case Mistake::PlaysRange: return set(tr("Play once"), "PlayTimes", 1);
     case Mistake::HoldRange:
-        return {tr("Remove the pause"), [](SignText* edited) { edited->node.hold = 0; }};
+        return {tr("Remove the hold"), [](SignText* edited) { edited->node.hold = 0; }};
     case Mistake::ModeUnknown: return set(tr("Use an entrance effect"), "EffectType", 0);
     case Mistake::EffectUnknown: return set(tr("Use Typewriter"), "AnimationEffect", 4);
     case Mistake::DirectionUnknown: return set(tr("Scroll left"), "ContinueStyle", 0);

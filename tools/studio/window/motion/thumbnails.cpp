@@ -6,7 +6,7 @@ namespace AnimText {
 namespace {
 
 constexpr int plainEffect = 4; // shown before a neon background: Typewriter
-constexpr int loopTicks = 90;  // of a thumbnail, with the pause at its end
+constexpr int loopTicks = 90;  // of a thumbnail, with the hold at its end
 constexpr int neonTicks = 30;
 constexpr int shownUnits = 12; // first UTF-16 units of the text
 constexpr int quickSpeed = 7;

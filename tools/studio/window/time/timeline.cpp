@@ -265,7 +265,7 @@ void Timeline::PaintRuler(QPainter* painter) const
 void Timeline::PaintLegend(QPainter* painter) const
 {
     const QPair<Phase, QString> entries[]{
-        {Entrance, tr("entrance")}, {Hold, tr("pause")}, {Cut, tr("cut off")}};
+        {Entrance, tr("entrance")}, {Hold, tr("hold")}, {Cut, tr("cut off")}};
     painter->setFont(TabularFont(font(), -1));
     const QFontMetrics metrics = painter->fontMetrics();
     const int middle = viewport()->height() - rowHeight / 2;
@@ -381,7 +381,7 @@ QString Timeline::Describe(const QPoint& point) const
             continue;
         const bool holds = tick >= page.hold;
         what += QLatin1Char('\n') +
-                (holds ? tr("Page %1: pause, %2") : tr("Page %1: entrance, %2"))
+                (holds ? tr("Page %1: hold, %2") : tr("Page %1: entrance, %2"))
                     .arg((number - 1) % PagesPerPlay(*row) + 1)
                     .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
                                      qint64(tickLength)));

@@ -41,7 +41,7 @@ public:
     /** The next mark after @p tick, or the previous one: where a page begins or is complete. */
     int NextMark(int tick) const;
     int PreviousMark(int tick) const;
-    /** First and last tick of the page at @p tick, with its pause; all ticks if there is none. */
+    /** First and last tick of the page at @p tick, with its hold; all ticks if there is none. */
     QPair<int, int> PageAt(int tick) const;
 
     QSize sizeHint() const override;
