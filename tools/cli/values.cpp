@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QPair>
+#include <QPoint>
 #include <QRegularExpression>
 #include <QSize>
 

@@ -4,6 +4,7 @@
 #include "files/wholefile.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QHash>
 #include <QImageWriter>
 

@@ -9,6 +9,7 @@
 #include <QHelpEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QPainterPath>
 #include <QRawFont>
 #include <QToolTip>
 #include <QVBoxLayout>
