@@ -7,6 +7,7 @@
 
 #include "player/player.h"
 
+#include <QDataStream>
 #include <QFile>
 #include <QString>
 #include <QVector>
@@ -30,6 +31,15 @@ struct PageTime
     int begin = 0; ///< its first picture
     int hold = 0;  ///< the tick after its last picture
     int end = 0;   ///< the first tick of what follows
+
+    friend QDataStream& operator<<(QDataStream& stream, const PageTime& page)
+    {
+        return stream << page.begin << page.hold << page.end;
+    }
+    friend QDataStream& operator>>(QDataStream& stream, PageTime& page)
+    {
+        return stream >> page.begin >> page.hold >> page.end;
+    }
 };
 
 /** Measurements of one node. */

@@ -91,10 +91,6 @@ inline auto Fields(TextTime& text)
 {
     return std::tie(text.ending, text.planned, text.actual, text.from, text.until, text.pages);
 }
-inline auto Fields(PageTime& page)
-{
-    return std::tie(page.begin, page.hold, page.end);
-}
 
 inline bool operator==(Part a, Part b)
 {
