@@ -90,7 +90,8 @@ struct Show
 
     void Tick()
     {
-        AnimText::VirtualDispatcher* const clock = AnimText::VirtualDispatcher::Current();
+        AnimText::player::VirtualDispatcher* const clock =
+            AnimText::player::VirtualDispatcher::Current();
         clock->AdvanceTo(clock->Now() + 66);
     }
 
@@ -251,7 +252,7 @@ void RegisterScene(const Page& page)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QCoreApplication::setEventDispatcher(new AnimText::VirtualDispatcher);
+    QCoreApplication::setEventDispatcher(new AnimText::player::VirtualDispatcher);
     QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (argc < 2) {

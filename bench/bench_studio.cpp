@@ -28,7 +28,7 @@ double ProcessorTime()
 /** Of this process and of those that it has started, in milliseconds. */
 double AllProcessorTime()
 {
-    double all = ProcessorTimeOf(getpid());
+    double all = studio::worker::ProcessorTimeOf(getpid());
     const QDir tasks(QStringLiteral("/proc/self/task"));
     for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         QFile children(tasks.filePath(task + QStringLiteral("/children")));
@@ -36,7 +36,7 @@ double AllProcessorTime()
             continue;
         for (const QByteArray& child : children.readAll().simplified().split(' ')) {
             if (!child.isEmpty())
-                all += ProcessorTimeOf(child.toInt());
+                all += studio::worker::ProcessorTimeOf(child.toInt());
         }
     }
     return 1e3 * all;
@@ -108,13 +108,13 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("animtext-studio-bench"));
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    WorkerLink::SetProgram(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/animtext-studio"));
-    MainWindow window((QString()));
+    studio::worker::WorkerLink::SetProgram(QCoreApplication::applicationDirPath() +
+                                           QStringLiteral("/animtext-studio"));
+    studio::window::shell::MainWindow window((QString()));
     window.New();
     window.show();
-    Document* document = window.GetDocument();
-    Rehearsal* rehearsal = window.GetRehearsal();
+    studio::model::Document* document = window.GetDocument();
+    studio::worker::Rehearsal* rehearsal = window.GetRehearsal();
     const auto shown = [&] { return document->Current().IsLaidOut() && rehearsal->IsCurrent(); };
     const auto settled = [&] { return shown() && rehearsal->IsMeasured(); };
     WaitFor([&] { return window.isVisible() && shown(); });
@@ -127,7 +127,7 @@ int main(int argc, char** argv)
     WaitFor(settled);
     application.Reset();
     for (int i = 0; i < 40; ++i) {
-        Sign sign = document->Current();
+        studio::model::Sign sign = document->Current();
         sign.texts.first().source.text.text =
             forty.left(39) + QChar(QLatin1Char('a').unicode() + i % 26);
         sign.texts.first().node.attributes[QStringLiteral("AnimationEffect")] = i % 30;
@@ -151,7 +151,8 @@ int main(int argc, char** argv)
                 qPrintable(application.what));
     application.Reset();
     int ticks = 0;
-    QObject::connect(window.GetPlayback(), &Playback::TickChanged, [&] { ++ticks; });
+    QObject::connect(window.GetPlayback(), &studio::window::time::Playback::TickChanged,
+                     [&] { ++ticks; });
     window.GetPlayback()->SetPace(1);
     QElapsedTimer playing;
     playing.start();

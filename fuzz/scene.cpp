@@ -42,20 +42,20 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     static MemoryFile* const file = new MemoryFile;
-    AnimText::Scene scene;
+    AnimText::scene::Scene scene;
     QString error;
     const auto read = [&](const void* bytes, size_t count) {
-        return AnimText::ReadScene(file->Holding(bytes, count), &scene, &error,
-                                   AnimText::MissingFiles::AreAccepted);
+        return AnimText::scene::ReadScene(file->Holding(bytes, count), &scene, &error,
+                                          AnimText::scene::MissingFiles::AreAccepted);
     };
     if (!read(data, size)) {
         if (error.isEmpty() || error.contains(QLatin1Char('\n')))
             std::abort(); // an error is one line
         return 0;
     }
-    const QByteArray written = AnimText::SceneToJson(scene);
+    const QByteArray written = AnimText::scene::SceneToJson(scene);
     if (!read(written.constData(), static_cast<size_t>(written.size())) ||
-        AnimText::SceneToJson(scene) != written)
+        AnimText::scene::SceneToJson(scene) != written)
         std::abort();
     return 0;
 }

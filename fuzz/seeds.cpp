@@ -48,30 +48,31 @@ QByteArray Inner(const QByteArray& file)
     return QByteArray::fromBase64(file.mid(4));
 }
 
-QByteArray SceneOf(const AuthoredNode& authored, const Sample& sample)
+QByteArray SceneOf(const author::AuthoredNode& authored, const Sample& sample)
 {
-    SceneNode node = authored.node;
+    scene::SceneNode node = authored.node;
     node.files[QStringLiteral("PathData")] = QStringLiteral("a.path");
     node.files[QStringLiteral("DescentVector")] = QStringLiteral("a.descent");
     if (sample.fancy) {
-        for (const QString& key : KeysOf(Home::Attributes)) {
+        for (const QString& key : scene::KeysOf(scene::Home::Attributes)) {
             if (!node.attributes.contains(key))
                 node.attributes[key] = 1;
         }
         node.pos = QPoint(-3, 4);
     }
-    Scene scene;
+    scene::Scene scene;
     scene.display = QSize(64, 32);
     scene.alphaBlend = !sample.fancy;
-    scene.pages = {ScenePage{{SceneArea{{node}}}}};
-    return SceneToJson(scene);
+    scene.pages = {scene::ScenePage{{scene::SceneArea{{node}}}}};
+    return scene::SceneToJson(scene);
 }
 
 void WriteDictionary(const QDir& folder)
 {
-    QStringList words = KeysOf(Home::Attributes) + ListKeys() + KeysOf(Home::Files);
-    for (const QString& key : ListKeys())
-        words += RowFields(key);
+    QStringList words = scene::KeysOf(scene::Home::Attributes) + scene::ListKeys() +
+                        scene::KeysOf(scene::Home::Files);
+    for (const QString& key : scene::ListKeys())
+        words += scene::RowFields(key);
     for (const char* word : {"scene", "display", "width", "height", "alphaBlend", "pages", "areas",
                              "nodes", "type", "pos", "size", "hold", "neonEffect", "attributes",
                              "lists", "files", "true", "-2147483648", "1e999"})
@@ -100,12 +101,13 @@ int main(int argc, char** argv)
         QFont font(QStringLiteral("DejaVu Sans"));
         font.setPixelSize(sample.pixels);
         font.setUnderline(sample.fancy);
-        TextSource source;
+        author::TextSource source;
         source.text.Append(QString::fromUtf8(sample.text), {0, font, QColor(255, 160, 0)});
-        const NodeMotion motion{sample.scrolls ? Mode::Scroll : Mode::Entrance, sample.motion};
-        AuthoredNode authored;
+        const scene::NodeMotion motion{sample.scrolls ? scene::Mode::Scroll : scene::Mode::Entrance,
+                                       sample.motion};
+        author::AuthoredNode authored;
         QString error;
-        if (!AuthorNode(source, {}, motion, &authored, &error)) {
+        if (!author::AuthorNode(source, {}, motion, &authored, &error)) {
             qWarning("fuzz-seeds: %s", qPrintable(error));
             return 1;
         }

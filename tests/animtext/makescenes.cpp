@@ -17,11 +17,11 @@ int main()
     QPainterPath box, far;
     box.addRect(0, -10, 8, 10);
     far.addRect(0, 0, 2e6, 1);
-    scenes.Write("one.path", PathFile({box}));
-    scenes.Write("three.path", PathFile({box, box, box}));
-    scenes.Write("far.path", PathFile({box, far}));
-    scenes.Write("gap.path", PathFile({box, QPainterPath()}));
-    scenes.Write("torn", PathFile({box, box}).left(60));
+    scenes.Write("one.path", layout::PathFile({box}));
+    scenes.Write("three.path", layout::PathFile({box, box, box}));
+    scenes.Write("far.path", layout::PathFile({box, far}));
+    scenes.Write("gap.path", layout::PathFile({box, QPainterPath()}));
+    scenes.Write("torn", layout::PathFile({box, box}).left(60));
     for (const QString& name : scenes.Listing())
         if (!QFile::copy(scenes.Path(name), name))
             qFatal("cannot write %s", qPrintable(name));

@@ -22,27 +22,30 @@ for name in sys.argv[2:]:
 )";
 
 /** @p scene with @p json for the value of @p attribute in its only node. */
-QByteArray With(const Scene& scene, const Attribute& attribute, const QByteArray& json)
+QByteArray With(const scene::Scene& scene, const scene::Attribute& attribute,
+                const QByteArray& json)
 {
-    Scene changed = scene;
-    SceneNode& node = changed.At({});
+    scene::Scene changed = scene;
+    scene::SceneNode& node = changed.At({});
     const QByteArray key = attribute.key;
     const QString mark = QStringLiteral("MARK");
     const QByteArray pos = "\"pos\": [0, 0]";
     const QByteArray size = "\"size\": [64, 32]";
     switch (attribute.home) {
-    case Home::Attributes: node.attributes[key] = mark; break;
-    case Home::Files: node.files[key] = mark; break;
-    case Home::Node:
-        return SceneToJson(changed).replace(key == "type"
-                                                ? "\"type\": \"" + node.type.toUtf8() + '"'
-                                            : key == "pos"  ? pos
-                                            : key == "size" ? size
-                                                            : '"' + key + "\": 0",
-                                            '"' + key + "\": " + json);
-    default: node.lists[ListKeys()[int(attribute.home) - int(Home::TextAttribute)]][0][key] = mark;
+    case scene::Home::Attributes: node.attributes[key] = mark; break;
+    case scene::Home::Files: node.files[key] = mark; break;
+    case scene::Home::Node:
+        return scene::SceneToJson(changed).replace(key == "type"
+                                                       ? "\"type\": \"" + node.type.toUtf8() + '"'
+                                                   : key == "pos"  ? pos
+                                                   : key == "size" ? size
+                                                                   : '"' + key + "\": 0",
+                                                   '"' + key + "\": " + json);
+    default:
+        node.lists[scene::ListKeys()[int(attribute.home) - int(scene::Home::TextAttribute)]][0]
+                  [key] = mark;
     }
-    return SceneToJson(changed).replace("\"MARK\"", json);
+    return scene::SceneToJson(changed).replace("\"MARK\"", json);
 }
 
 } // namespace
@@ -55,21 +58,23 @@ private slots:
     /** Accepts what can be read and is in its range, and nothing else. */
     void judgesAsTheTableDoes()
     {
-        const Scene scene = files.Of({files.Node({})});
+        const scene::Scene scene = files.Of({files.Node({})});
         QMap<QString, bool> expected;
         const auto add = [&](const QString& name, const QByteArray& json, bool isGood) {
-            Scene read;
+            scene::Scene read;
             const bool isRead =
-                ReadSceneText(json, "x", &read, MissingFiles::AreAccepted).isEmpty();
+                scene::ReadSceneText(json, "x", &read, scene::MissingFiles::AreAccepted).isEmpty();
             expected.insert(files.Write(name + ".json", json), isRead && isGood);
         };
-        for (const Attribute& attribute : Attributes()) {
-            const bool isRow = attribute.home != Home::Node && attribute.home != Home::Attributes;
+        for (const scene::Attribute& attribute : scene::Attributes()) {
+            const bool isRow =
+                attribute.home != scene::Home::Node && attribute.home != scene::Home::Attributes;
             const bool isNumber = attribute.least != attribute.most;
             const auto value = [&](const QByteArray& json, bool isGood) {
-                const QByteArray written = attribute.kind == ValueKind::Pair ? "[1, " + json + ']'
-                                           : isRow && json != "true"         ? '"' + json + '"'
-                                                                             : json;
+                const QByteArray written = attribute.kind == scene::ValueKind::Pair
+                                               ? "[1, " + json + ']'
+                                           : isRow && json != "true" ? '"' + json + '"'
+                                                                     : json;
                 add(QString("%1-%2").arg(attribute.key, QString::fromLatin1(json.toHex())),
                     With(scene, attribute, written), isGood);
             };
@@ -79,7 +84,7 @@ private slots:
                 const qint64 most = attribute.most;
                 for (qint64 number : {least - 1, least, most, most + 1}) {
                     // Rows hold texts of digits, whose range the schema does not check.
-                    const bool isGood = isRow && attribute.kind != ValueKind::Flag
+                    const bool isGood = isRow && attribute.kind != scene::ValueKind::Flag
                                             ? number >= 0
                                             : number >= least && number <= most;
                     value(QByteArray::number(number), isGood);
@@ -90,7 +95,7 @@ private slots:
                 value(isRow ? "name" : "\"name\"", true);
             }
         }
-        const QByteArray good = SceneToJson(scene);
+        const QByteArray good = scene::SceneToJson(scene);
         const auto change = [&](const char* from, const char* to) {
             add(QByteArray(from).toHex(), QByteArray(good).replace(from, to), true);
         };
@@ -108,9 +113,9 @@ private slots:
         change("\"size\"", "\"Size\"");
         change("\"text_width\"", "\"TextWidth\"");
         change("\"PathData\"", "\"PathDate\"");
-        for (int effect = 0; effect < Effects().size(); ++effect)
-            add(QString::number(effect), SceneToJson(files.Of({files.Node({"abc", effect})})),
-                true);
+        for (int effect = 0; effect < scene::Effects().size(); ++effect)
+            add(QString::number(effect),
+                scene::SceneToJson(files.Of({files.Node({"abc", effect})})), true);
 
         files.Write("judge.py", judge);
         const Outcome outcome = files.Shell("animtext schema > schema && "

@@ -15,7 +15,7 @@
 
 #include <numeric>
 
-Q_DECLARE_METATYPE(AnimText::Align)
+Q_DECLARE_METATYPE(AnimText::layout::Align)
 
 using namespace AnimText;
 
@@ -34,23 +34,24 @@ QFont Font(int pixels)
     return font;
 }
 
-StyledText Plain(const QString& text, const QFont& font)
+layout::StyledText Plain(const QString& text, const QFont& font)
 {
-    StyledText plain;
+    layout::StyledText plain;
     plain.Append(text, {0, font, Qt::red});
     return plain;
 }
 
-ShapedLine Shape(const QString& text, int pixels)
+layout::ShapedLine Shape(const QString& text, int pixels)
 {
-    return ShapeLine(Plain(text, Font(pixels)));
+    return layout::ShapeLine(Plain(text, Font(pixels)));
 }
 
-PlacedText Placed(const QString& text, const ShapedLine& line, int scroll, int width = 0)
+layout::PlacedText Placed(const QString& text, const layout::ShapedLine& line, int scroll,
+                          int width = 0)
 {
-    Setting setting;
+    layout::Setting setting;
     setting.keepsWords = false;
-    return PlaceText(text, line, setting, {Mode::Scroll, scroll}, QSize(width, 100));
+    return layout::PlaceText(text, line, setting, {scene::Mode::Scroll, scroll}, QSize(width, 100));
 }
 
 /** First unit of each page, and the number of units, as the sign divides them. */
@@ -66,7 +67,7 @@ int Sum(const QVector<int>& values)
 }
 
 /** The units from @p begin to @p end at rest on a page, in one path as the engine collects them. */
-QPainterPath AtRest(const PlacedText& text, int begin, int end)
+QPainterPath AtRest(const layout::PlacedText& text, int begin, int end)
 {
     QPainterPath all;
     int x = 0;
@@ -117,35 +118,36 @@ struct Wish
     QString text;
     QFont font;
     int motion; // 30 for the first scroll
-    Align align;
-    VAlign valign;
+    layout::Align align;
+    layout::VAlign valign;
     int padding;
     bool keepsWords = true;
 };
 
 /** An authored text as the sign will have it. */
-struct Authored : PlacedText
+struct Authored : layout::PlacedText
 {
     QVector<int> starts; // of the pages, and the number of units
-    AuthoredNode all;
+    author::AuthoredNode all;
 };
 
 Authored Author(const Wish& wish)
 {
-    TextSource source;
+    author::TextSource source;
     source.text = Plain(wish.text, wish.font);
     source.align = wish.align;
     source.valign = wish.valign;
     source.padding = wish.padding;
     source.keepsWords = wish.keepsWords;
-    SceneNode settings;
+    scene::SceneNode settings;
     settings.size = area;
-    const NodeMotion motion{wish.motion == 30 ? Mode::Scroll : Mode::Entrance, wish.motion % 30};
+    const scene::NodeMotion motion{wish.motion == 30 ? scene::Mode::Scroll : scene::Mode::Entrance,
+                                   wish.motion % 30};
     Authored authored;
     QString error;
-    if (!AuthorNode(source, settings, motion, &authored.all, &error))
+    if (!author::AuthorNode(source, settings, motion, &authored.all, &error))
         qFatal("%s", qPrintable(error));
-    const SceneNode& node = authored.all.node;
+    const scene::SceneNode& node = authored.all.node;
     authored.text = node.attributes["Text"].toString();
     for (const auto& row : node.lists["TextWidth"])
         authored.widths.append(row["text_width"].toInt());
@@ -177,8 +179,8 @@ private slots:
         const auto line = [](const QString& text) {
             QStringList notes;
             QString error;
-            StyledText styled = Plain(text, Font(10));
-            const bool accepted = ToOneLine(&styled, &notes, &error);
+            layout::StyledText styled = Plain(text, Font(10));
+            const bool accepted = layout::ToOneLine(&styled, &notes, &error);
             return accepted == error.isEmpty()
                        ? (accepted ? styled.text : "") + QString::number(notes.size())
                        : QString("contradiction");
@@ -204,7 +206,7 @@ private slots:
                                                              {"بَبِ", {0, 2}},
                                                              {"a\u200Db", {0, 2}}};
         for (const auto& [text, firsts] : cases) {
-            const PlacedText placed = Placed(text, Shape(text, 40), scrollLeft);
+            const layout::PlacedText placed = Placed(text, Shape(text, 40), scrollLeft);
             QCOMPARE(placed.descents.size(), text.size());
             for (int i = 0; i < text.size(); ++i) {
                 const bool isFirst = firsts.contains(i);
@@ -240,7 +242,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(int, pixels);
         const QFont font = Font(pixels);
-        const PlacedText placed = Placed(text, Shape(text, pixels), scrollLeft);
+        const layout::PlacedText placed = Placed(text, Shape(text, pixels), scrollLeft);
         const int width = Sum(placed.widths);
         QCOMPARE(width, qRound(QFontMetricsF(font).horizontalAdvance(text)));
 
@@ -256,7 +258,7 @@ private slots:
 
     void pagesEndWhereWordsEnd_data()
     {
-        const Table<QString, int, Align, int> row("text", "motion", "align", "padding");
+        const Table<QString, int, layout::Align, int> row("text", "motion", "align", "padding");
         const QPair<const char*, QString> texts[] = {
             {"Latin", "Abfahrt nach Zürich HB  um 14:05 von Gleis 7, Halt in Aarau"},
             {"hyphens", "Dampf-schiff-fahrts-gesell-schafts-kapitän"},
@@ -265,11 +267,11 @@ private slots:
         for (const auto& [name, text] : texts) {
             for (int motion : {4, 1, 11, 24, 28}) {
                 const QString all = QString("%1 %2 ").arg(name).arg(motion);
-                row(all, text, motion, Align::Natural, 0);
-                row(all + "left", text, motion, Align::Left, 7);
-                row(all + "center", text, motion, Align::Center, 0);
-                row(all + "center within 30", text, motion, Align::Center, 30);
-                row(all + "right", text, motion, Align::Right, 5);
+                row(all, text, motion, layout::Align::Natural, 0);
+                row(all + "left", text, motion, layout::Align::Left, 7);
+                row(all + "center", text, motion, layout::Align::Center, 0);
+                row(all + "center within 30", text, motion, layout::Align::Center, 30);
+                row(all + "right", text, motion, layout::Align::Right, 5);
             }
         }
     }
@@ -280,11 +282,12 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(int, motion);
-        QFETCH(Align, align);
+        QFETCH(layout::Align, align);
         QFETCH(int, padding);
         const QFont font = Font(40);
         const int room = area.width() - 2 * padding;
-        const Authored authored = Author({text, font, motion, align, VAlign::Middle, padding});
+        const Authored authored =
+            Author({text, font, motion, align, layout::VAlign::Middle, padding});
         const bool fromEnd = motion == 1;
         const bool rightToLeft = text.isRightToLeft();
         QVERIFY(authored.tornWords.isEmpty());
@@ -317,12 +320,12 @@ private slots:
             before = page;
             all += page;
 
-            Align seen = align;
-            if (align == Align::Natural)
-                seen = fromEnd || rightToLeft ? Align::Right : Align::Left;
-            const int left = seen == Align::Left    ? padding
-                             : seen == Align::Right ? area.width() - padding - advance(page)
-                                                    : (area.width() - advance(page)) / 2;
+            layout::Align seen = align;
+            if (align == layout::Align::Natural)
+                seen = fromEnd || rightToLeft ? layout::Align::Right : layout::Align::Left;
+            const int left = seen == layout::Align::Left    ? padding
+                             : seen == layout::Align::Right ? area.width() - padding - advance(page)
+                                                            : (area.width() - advance(page)) / 2;
             const int first = fromEnd ? area.width() - pageWidth : 0;
             const QImage shown =
                 Painted(AtRest(authored, begin, end).translated(first, 0), area.width());
@@ -345,8 +348,8 @@ private slots:
             const bool turns =
                 QVector<int>{7, 9, 10, 11, 12, 13, 17, 18, 21, 24, 26, 27, 28, 29}.contains(motion);
             for (const QString text : {"Hallo Welt, hier und dort", "漢字仮名交文は語間無し"}) {
-                const Authored authored =
-                    Author({text, Font(40), motion, Align::Center, VAlign::Middle, 0});
+                const Authored authored = Author(
+                    {text, Font(40), motion, layout::Align::Center, layout::VAlign::Middle, 0});
                 QVERIFY(authored.starts.size() > 2);
                 int odd = 0;
                 for (int i = 0; i < authored.text.size(); ++i) {
@@ -360,8 +363,8 @@ private slots:
                 QCOMPARE(odd == 0, turns);
                 QCOMPARE(authored.text != text, turns);
                 const bool even = motion == 21 || motion == 24;
-                const Authored left =
-                    Author({text, Font(40), motion, Align::Left, VAlign::Middle, 0});
+                const Authored left = Author(
+                    {text, Font(40), motion, layout::Align::Left, layout::VAlign::Middle, 0});
                 const int widest = *std::max_element(left.widths.begin(), left.widths.end());
                 QVERIFY(text[0] != 'H' || even == (widest == left.widths[left.text.indexOf('W')]));
             }
@@ -392,14 +395,14 @@ private slots:
         QFETCH(QString, forward);
         QFETCH(QString, fromEnd);
         for (bool isFromEnd : {false, true}) {
-            QVector<LinePiece> line;
+            QVector<layout::LinePiece> line;
             for (int i = 0; i < text.size(); ++i)
                 line.append({text[i] == 'W'   ? 50
                              : text[i] == ' ' ? 5
                                               : 10,
                              text[i] == ' ', i > 0 && text[i] != ' ' && text[i - 1] == ' '});
             QString cut;
-            for (const PageCut& page : CutPages(line, 40, isFromEnd))
+            for (const layout::PageCut& page : layout::CutPages(line, 40, isFromEnd))
                 cut += text.mid(page.begin, page.seen - page.begin) + '(' +
                        text.mid(page.seen, page.seenEnd - page.seen) + ')' +
                        text.mid(page.seenEnd, page.end - page.seenEnd);
@@ -410,20 +413,22 @@ private slots:
     void placesFromTopToBottom()
     {
         for (int motion : {1, 4, 5, 11, 23, 30}) { // 30 means scrolling
-            for (VAlign valign : {VAlign::Top, VAlign::Middle, VAlign::Bottom}) {
+            for (layout::VAlign valign :
+                 {layout::VAlign::Top, layout::VAlign::Middle, layout::VAlign::Bottom}) {
                 const Authored authored =
-                    Author({"Hxg Ä", Font(30), motion, Align::Natural, valign, 6});
+                    Author({"Hxg Ä", Font(30), motion, layout::Align::Natural, valign, 6});
                 const int height =
                     *std::max_element(authored.heights.begin(), authored.heights.end());
                 const int baseline = area.height() / 2 + height / 2 - authored.descents[0];
-                const LineSize line = MeasureLine(Plain("Hxg", Font(30)));
+                const layout::LineSize line = layout::MeasureLine(Plain("Hxg", Font(30)));
                 const int middle = (area.height() - line.ascent - line.descent) / 2;
-                const int top = valign == VAlign::Top ? 6
-                                : valign == VAlign::Middle
+                const int top = valign == layout::VAlign::Top ? 6
+                                : valign == layout::VAlign::Middle
                                     ? middle
                                     : area.height() - 6 - line.ascent - line.descent;
                 QVERIFY(qAbs(baseline - line.ascent - top) <= 1);
-                if (valign == VAlign::Top && (motion == 5 || motion == 23)) // waves up to the top
+                if (valign == layout::VAlign::Top &&
+                    (motion == 5 || motion == 23)) // waves up to the top
                     QCOMPARE(height - authored.descents[0], line.ascent);
                 if (motion == 11) // turns about the letters' middle
                     QCOMPARE(height, line.ascent + line.descent);
@@ -434,23 +439,23 @@ private slots:
     void wideWordsAreTorn()
     {
         const Authored authored = Author({"in Donaudampfschifffahrtsgesellschaft an W", Font(40), 4,
-                                          Align::Natural, VAlign::Middle, 0});
+                                          layout::Align::Natural, layout::VAlign::Middle, 0});
         QCOMPARE(authored.tornWords, QStringList("Donaudampfschifffahrtsgesellschaft"));
         QCOMPARE(authored.text.mid(authored.starts[1]).left(5), QString("Donau"));
-        const Authored torn = Author({"aaaa bbbb cccc dddd eeee ffff", Font(40), 4, Align::Natural,
-                                      VAlign::Middle, 0, false});
+        const Authored torn = Author({"aaaa bbbb cccc dddd eeee ffff", Font(40), 4,
+                                      layout::Align::Natural, layout::VAlign::Middle, 0, false});
         QVERIFY(torn.tornWords.isEmpty());
         QVERIFY(torn.text.at(torn.starts[1] - 1) != ' ' && torn.text.at(torn.starts[1]) != ' ');
-        QCOMPARE(torn.outlines, Author({"aaaa bbbb cccc dddd eeee ffff", Font(40), 4, Align::Left,
-                                        VAlign::Middle, 0, false})
+        QCOMPARE(torn.outlines, Author({"aaaa bbbb cccc dddd eeee ffff", Font(40), 4,
+                                        layout::Align::Left, layout::VAlign::Middle, 0, false})
                                     .outlines);
     }
 
     void columnStandsInItsOwnPlaces()
     {
-        const ShapedLine line = Shape("fi " + arabic, 40);
-        const PlacedText placed = Placed("fi " + arabic, line, scrollUp, 100);
-        for (const Cluster& cluster : line.clusters) {
+        const layout::ShapedLine line = Shape("fi " + arabic, 40);
+        const layout::PlacedText placed = Placed("fi " + arabic, line, scrollUp, 100);
+        for (const layout::Cluster& cluster : line.clusters) {
             const QPainterPath& outline = placed.outlines[cluster.first];
             QCOMPARE(outline.elementCount(), cluster.shape.elementCount());
             for (int i = 0; i < outline.elementCount(); ++i) {
@@ -465,10 +470,10 @@ private slots:
     void underlineHasNoGap()
     {
         const QString text = "gy fi " + arabic;
-        ShapedLine line = Shape(text, 60);
-        for (Cluster& cluster : line.clusters)
-            cluster.underline = Bar{5, 3};
-        const PlacedText placed = Placed(text, line, scrollLeft);
+        layout::ShapedLine line = Shape(text, 60);
+        for (layout::Cluster& cluster : line.clusters)
+            cluster.underline = layout::Bar{5, 3};
+        const layout::PlacedText placed = Placed(text, line, scrollLeft);
         const int width = Sum(placed.widths);
         const QImage shown = Painted(AtRest(placed, 0, text.size()), width);
         for (int y : {155, 156, 157}) {

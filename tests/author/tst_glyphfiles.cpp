@@ -48,18 +48,18 @@ private slots:
         path.closeSubpath();
         QPainterPath bend;
         bend.cubicTo(1, 0, 1, 1, 0, 1);
-        const QByteArray paths = PathFile({path, QPainterPath(), bend});
+        const QByteArray paths = layout::PathFile({path, QPainterPath(), bend});
         QCOMPARE(paths, Wrapped(Count(3) + triangle + Count(0) + curve));
         for (int count = 0; count <= 3; ++count) {
             const QVector<QPainterPath> outlines =
                 QVector<QPainterPath>{path, {}, bend}.mid(0, count);
-            const int size = PathFile(outlines).size();
-            QCOMPARE(OutlinesThatFit({path, {}, bend}, size), count);
-            QCOMPARE(OutlinesThatFit(outlines, size - 4), qMax(0, count - 1));
+            const int size = layout::PathFile(outlines).size();
+            QCOMPARE(layout::OutlinesThatFit({path, {}, bend}, size), count);
+            QCOMPARE(layout::OutlinesThatFit(outlines, size - 4), qMax(0, count - 1));
         }
-        const QByteArray descents = DescentFile({8, -1, 0});
+        const QByteArray descents = layout::DescentFile({8, -1, 0});
         QCOMPARE(descents, Wrapped(QByteArray::fromHex("0000000300000008ffffffff00000000")));
-        QCOMPARE(PathFile({}), Wrapped(Count(0)));
+        QCOMPARE(layout::PathFile({}), Wrapped(Count(0)));
     }
 };
 

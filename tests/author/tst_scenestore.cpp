@@ -21,7 +21,7 @@ struct Sample
 {
     Sample(const QString& path, const QString& text)
     {
-        SceneNode node;
+        scene::SceneNode node;
         node.size = QSize(100, 20);
         node.hold = 1;
         node.attributes = {{"Text", text}, {"AnimationEffect", 4}, {"PlayTimes", 1}};
@@ -35,24 +35,25 @@ struct Sample
             node.lists["TextHeight"].append({{"text_height", "12"}});
             node.lists["TextAttribute"].append(style);
         }
-        Add(&node, path, "PathData", PathFile(QVector<QPainterPath>(text.size(), box)));
+        Add(&node, path, "PathData", layout::PathFile(QVector<QPainterPath>(text.size(), box)));
         Add(&node, path, "DescentVector",
-            DescentFile(QVector<int>(text.size(), text[0].unicode())));
+            layout::DescentFile(QVector<int>(text.size(), text[0].unicode())));
         scene.path = path;
         scene.display = node.size;
-        scene.pages = {ScenePage{{SceneArea{{node}}}}};
+        scene.pages = {scene::ScenePage{{scene::SceneArea{{node}}}}};
     }
 
-    SceneNode& Node() { return scene.At({}); }
-    const SceneNode& Node() const { return scene.At({}); }
+    scene::SceneNode& Node() { return scene.At({}); }
+    const scene::SceneNode& Node() const { return scene.At({}); }
 
-    Scene scene;
-    DataFiles files;
+    scene::Scene scene;
+    author::DataFiles files;
 
 private:
-    void Add(SceneNode* node, const QString& path, const char* key, const QByteArray& content)
+    void Add(scene::SceneNode* node, const QString& path, const char* key,
+             const QByteArray& content)
     {
-        node->files[key] = DataFileName(path, key, content);
+        node->files[key] = author::DataFileName(path, key, content);
         files[node->files[key]] = content;
     }
 };
@@ -115,8 +116,8 @@ private slots:
     void replacedFilesGo()
     {
         const Sample second(path, "second");
-        QCOMPARE(Save(Sample(path, "first")), Storing::Saved);
-        QCOMPARE(Save(second), Storing::Saved);
+        QCOMPARE(Save(Sample(path, "first")), author::Storing::Saved);
+        QCOMPARE(Save(second), author::Storing::Saved);
         QVERIFY(Holds("sign.json", second));
         QCOMPARE(folder->Listing(), second.files.keys() + QStringList("sign.json"));
     }
@@ -158,11 +159,11 @@ private slots:
                 QDir().mkpath(folder->Path("signs")));
         path = folder->Path("signs/sign.json");
         const Sample first(path, "first");
-        QCOMPARE(Save(first), Storing::Saved);
+        QCOMPARE(Save(first), author::Storing::Saved);
         const QString name = first.Node().files["DescentVector"];
         const bool isPartial = content.contains("gn%1") || content.contains("SIGN");
         folder->Write(file, content.arg(isPartial ? name.mid(4) : name).toUtf8());
-        QCOMPARE(Save(Sample(path, "second")), Storing::Saved);
+        QCOMPARE(Save(Sample(path, "second")), author::Storing::Saved);
         QCOMPARE(QFile::exists(folder->Path("signs/" + name)), stays);
     }
 
@@ -189,13 +190,13 @@ private slots:
         QFETCH(QString, obstacle);
         QFETCH(bool, stays);
         const Sample first(path, "first");
-        QCOMPARE(Save(first), Storing::Saved);
+        QCOMPARE(Save(first), author::Storing::Saved);
         const QString name = first.Node().files["DescentVector"];
         QProcess shell;
         shell.setWorkingDirectory(folder->Path(""));
         shell.start("/bin/sh", {"-c", obstacle, "sh", name});
         QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
-        QCOMPARE(Save(Sample(path, "second")), Storing::Saved);
+        QCOMPARE(Save(Sample(path, "second")), author::Storing::Saved);
         QCOMPARE(folder->Listing().contains(name), stays);
     }
 
@@ -225,7 +226,7 @@ private slots:
             path = folder->Path(name + ".json");
             for (const char* text : {"first", "second"}) {
                 const Sample sample(path, text);
-                QVERIFY2(Save(sample) == Storing::Saved, qPrintable(error));
+                QVERIFY2(Save(sample) == author::Storing::Saved, qPrintable(error));
                 QVERIFY2(Holds(name + ".json", sample), qPrintable(name));
                 QCOMPARE(folder->Listing().size(), 3);
             }
@@ -234,34 +235,35 @@ private slots:
 
     void tidiesWhatNoSceneNames()
     {
-        QCOMPARE(Save(Sample(path, "first")), Storing::Saved);
+        QCOMPARE(Save(Sample(path, "first")), author::Storing::Saved);
         Sample orphan(folder->Path("gone.json"), "orphan");
         const QStringList before = folder->Listing();
         for (auto file = orphan.files.begin(); file != orphan.files.end(); ++file)
             folder->Write(file.key(), file.value());
         folder->Write("mine.path", "mine");
-        Unneeded unneeded;
-        QVERIFY(TidyFolder(folder->Path(""), false, &unneeded, &error));
+        author::Unneeded unneeded;
+        QVERIFY(author::TidyFolder(folder->Path(""), false, &unneeded, &error));
         QCOMPARE(unneeded.names, orphan.files.keys());
         folder->Write("torn.json", "{");
-        QVERIFY(!TidyFolder(folder->Path(""), true, &unneeded, &error));
+        QVERIFY(!author::TidyFolder(folder->Path(""), true, &unneeded, &error));
         QVERIFY2(error.contains("torn.json"), qPrintable(error));
         QCOMPARE(folder->Listing().size(), before.size() + 4);
         folder->Remove("torn.json");
         folder->Remove("mine.path");
-        QVERIFY(TidyFolder(folder->Path(""), true, &unneeded, &error));
+        QVERIFY(author::TidyFolder(folder->Path(""), true, &unneeded, &error));
         QCOMPARE(folder->Listing(), before);
     }
 
     void damagedFileIsWrittenAnew()
     {
         const Sample sample(path, "text");
-        QCOMPARE(Save(sample), Storing::Saved);
+        QCOMPARE(Save(sample), author::Storing::Saved);
         Sample refused = sample; // which removes none that was there
         refused.scene.display.setWidth(16385);
         for (const Sample& again : {sample, refused}) {
             folder->Write(sample.files.firstKey(), QByteArray(sample.files.first().size(), 'A'));
-            QCOMPARE(Save(again) == Storing::Saved, again.scene.display == sample.scene.display);
+            QCOMPARE(Save(again) == author::Storing::Saved,
+                     again.scene.display == sample.scene.display);
             QVERIFY(Holds("sign.json", sample));
         }
     }
@@ -274,13 +276,13 @@ private slots:
         const QStringList obstacles = after.files.keys() + QStringList{"none/sign.json", "."};
         for (const QString& obstacle : obstacles) {
             init();
-            QCOMPARE(Save(before), Storing::Saved);
+            QCOMPARE(Save(before), author::Storing::Saved);
             const QStringList listing = folder->Listing();
             if (after.files.contains(obstacle)) // a folder where a file should be
                 QVERIFY(QDir().mkdir(folder->Path(obstacle)));
             else
                 path = folder->Path(obstacle);
-            QVERIFY(Save(after) != Storing::Saved);
+            QVERIFY(Save(after) != author::Storing::Saved);
             QVERIFY2(error.startsWith(folder->Path("")) && !error.contains('\n'),
                      qPrintable(error));
             QCOMPARE(folder->Listing(), listing);
@@ -294,10 +296,10 @@ private slots:
         const Sample before(path, "before");
         Sample after(path, "after");
         after.scene.pages += after.scene.pages + after.scene.pages;
-        QCOMPARE(Save(before), Storing::Saved);
+        QCOMPARE(Save(before), author::Storing::Saved);
         const QStringList listing = folder->Listing();
         const int outlines = qMax(after.files.first().size(), after.files.last().size());
-        const int largest = SceneToJson(after.scene).size();
+        const int largest = scene::SceneToJson(after.scene).size();
         QVERIFY(outlines < largest);
         for (int room : {0, 1, outlines - 1, outlines, largest - 1}) {
             const int storing = End(Begin([&] {
@@ -306,7 +308,7 @@ private slots:
                 setrlimit(RLIMIT_FSIZE, &limit);
                 return Save(after);
             }));
-            QVERIFY2(storing == int(Storing::Failed), qPrintable(QString::number(room)));
+            QVERIFY2(storing == int(author::Storing::Failed), qPrintable(QString::number(room)));
             QVERIFY(Holds("sign.json", before));
             folder->Remove(".animtext.lock");
             QCOMPARE(folder->Listing(), listing);
@@ -338,7 +340,7 @@ private slots:
             sample.Node().lists["TextWidth"].removeLast();
         else
             sample.scene.display.setWidth(width);
-        QCOMPARE(Save(sample), Storing::Refused);
+        QCOMPARE(Save(sample), author::Storing::Refused);
         QVERIFY2(error.contains(complaint) && error.startsWith(path), qPrintable(error));
         QCOMPARE(folder->Read(file), content);
         QCOMPARE(folder->Listing(), QStringList(file));
@@ -348,20 +350,20 @@ private slots:
     void oldMistakesMayStay()
     {
         const auto change = [this](const QString& key, int value) {
-            return ChangeScene(
+            return author::ChangeScene(
                 path,
-                [&](Scene* scene, DataFiles*, QString*) {
+                [&](scene::Scene* scene, author::DataFiles*, QString*) {
                     scene->At({}).attributes[key] = value;
                     return true;
                 },
                 &error);
         };
         Sample sample(path, "text");
-        QCOMPARE(Save(sample), Storing::Saved);
+        QCOMPARE(Save(sample), author::Storing::Saved);
         sample.Node().attributes["AnimationSpeed"] = 12;
-        folder->Write("sign.json", SceneToJson(sample.scene));
-        QCOMPARE(change("PlayTimes", 3), Storing::Saved);
-        QCOMPARE(change("AnimationEffect", -1), Storing::Refused);
+        folder->Write("sign.json", scene::SceneToJson(sample.scene));
+        QCOMPARE(change("PlayTimes", 3), author::Storing::Saved);
+        QCOMPARE(change("AnimationEffect", -1), author::Storing::Refused);
         QVERIFY(folder->Read("sign.json").contains("\"PlayTimes\": 3"));
     }
 
@@ -375,9 +377,9 @@ private slots:
             path = real;
             const Sample sample(real, text);
             path = folder->Path("link.json");
-            QCOMPARE(Save(sample), Storing::Saved);
-            Scene read;
-            QVERIFY2(ReadScene(path, &read, &error), qPrintable(error));
+            QCOMPARE(Save(sample), author::Storing::Saved);
+            scene::Scene read;
+            QVERIFY2(scene::ReadScene(path, &read, &error), qPrintable(error));
             QVERIFY(Holds("real/sign.json", sample));
             QCOMPARE(QDir(folder->Path("real")).entryList(QDir::Files | QDir::Hidden).size(), 3);
         }
@@ -391,9 +393,9 @@ private slots:
         for (int i = 0; i < writers; ++i) {
             children.append(Begin([&] {
                 Sample own(path, QString(QChar('a' + i)));
-                return ChangeScene(
+                return author::ChangeScene(
                     path,
-                    [&](Scene* scene, DataFiles* files, QString*) {
+                    [&](scene::Scene* scene, author::DataFiles* files, QString*) {
                         scene->display = own.scene.display;
                         scene->pages += own.scene.pages;
                         *files = own.files;
@@ -403,11 +405,11 @@ private slots:
             }));
         }
         for (pid_t child : children)
-            QCOMPARE(End(child), int(Storing::Saved));
-        Scene scene;
-        QVERIFY2(ReadScene(path, &scene, &error), qPrintable(error));
+            QCOMPARE(End(child), int(author::Storing::Saved));
+        scene::Scene scene;
+        QVERIFY2(scene::ReadScene(path, &scene, &error), qPrintable(error));
         QStringList texts;
-        for (const SceneNode* node : scene.Nodes())
+        for (const scene::SceneNode* node : scene.Nodes())
             texts.append(node->attributes["Text"].toString());
         texts.sort();
         QCOMPARE(texts.join(""), QString("abcdefghijkl"));
@@ -421,9 +423,9 @@ private slots:
         QCOMPARE(End(dead), 0);
         const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
         folder->Write(".animtext.lock", QByteArray::number(dead) + "\ntst\n" + host + '\n');
-        QCOMPARE(Save(Sample(path, "one")), Storing::Saved);
+        QCOMPARE(Save(Sample(path, "one")), author::Storing::Saved);
         Age(folder->Write(".animtext.lock", ""));
-        QCOMPARE(Save(Sample(path, "two")), Storing::Saved);
+        QCOMPARE(Save(Sample(path, "two")), author::Storing::Saved);
         QVERIFY(!folder->Listing().contains(".animtext.lock"));
     }
 
@@ -436,9 +438,10 @@ private slots:
         for (; ending == Ending::Killed && calls < 10000; ++calls) {
             if (calls > 0 && folder->Listing().contains(".animtext.lock"))
                 Age(folder->Path(".animtext.lock"));
-            QCOMPARE(Save(before), Storing::Saved);
-            Unneeded unneeded;
-            QVERIFY2(TidyFolder(folder->Path(""), true, &unneeded, &error), qPrintable(error));
+            QCOMPARE(Save(before), author::Storing::Saved);
+            author::Unneeded unneeded;
+            QVERIFY2(author::TidyFolder(folder->Path(""), true, &unneeded, &error),
+                     qPrintable(error));
             QCOMPARE(folder->Listing(), before.files.keys() + QStringList("sign.json"));
             ending = RunAndKill(calls, [&] { Save(after); });
             if (ending == Ending::Untraceable)
@@ -455,19 +458,19 @@ private:
     bool Holds(const QString& name, const Sample& sample) const
     {
         const QString at = name.section('/', 0, -2, QString::SectionIncludeTrailingSep);
-        bool holds = folder->Read(name) == SceneToJson(sample.scene);
+        bool holds = folder->Read(name) == scene::SceneToJson(sample.scene);
         for (auto file = sample.files.begin(); file != sample.files.end(); ++file)
             holds = holds && folder->Read(at + file.key()) == file.value();
         return holds;
     }
-    Storing Save(const Sample& sample)
+    author::Storing Save(const Sample& sample)
     {
-        const auto change = [&](Scene* scene, DataFiles* files, QString*) {
+        const auto change = [&](scene::Scene* scene, author::DataFiles* files, QString*) {
             *scene = sample.scene;
             *files = sample.files;
             return true;
         };
-        return ChangeScene(path, change, &error);
+        return author::ChangeScene(path, change, &error);
     }
     static void Age(const QString& file)
     {

@@ -147,7 +147,7 @@ static void Update()
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QCoreApplication::setEventDispatcher(new AnimText::VirtualDispatcher);
+    QCoreApplication::setEventDispatcher(new AnimText::player::VirtualDispatcher);
     QGuiApplication application(argc, argv);
     Torv::GuardShownBuffers(true); // a painter that writes into what is shown stops the process
     if (application.arguments().contains("--update")) {

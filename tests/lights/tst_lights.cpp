@@ -21,19 +21,19 @@ namespace {
 const QSize display(64, 32);
 
 /** An address on a display of 64 × 32; @p error says why there is none. */
-Controller Read(const QString& address, QString* error)
+lights::Controller Read(const QString& address, QString* error)
 {
-    Controller controller;
+    lights::Controller controller;
     error->clear();
-    if (ReadAddress(&controller, address, error))
-        FitToDisplay(&controller, display, error);
+    if (lights::ReadAddress(&controller, address, error))
+        lights::FitToDisplay(&controller, display, error);
     return controller;
 }
 
-Controller Read(const QString& address)
+lights::Controller Read(const QString& address)
 {
     QString error;
-    const Controller controller = Read(address, &error);
+    const lights::Controller controller = Read(address, &error);
     if (!error.isEmpty())
         qFatal("%s", qPrintable(error));
     return controller;
@@ -64,19 +64,19 @@ void Fill(QByteArray* header, char letter, int value)
 /** Takes the network's place: keeps what is sent, and fails as @p outcomes says. */
 struct Network
 {
-    QVector<Packet> packets;
+    QVector<lights::Packet> packets;
     QString outcomes; ///< a packet each: "." arrives, "o" meets a full buffer, "x" nobody
 
-    Transmit Taker()
+    lights::Transmit Taker()
     {
-        return [this](const Packet& packet, QString* why) {
+        return [this](const lights::Packet& packet, QString* why) {
             const QChar outcome = outcomes.isEmpty() ? '.' : outcomes.at(0);
             outcomes.remove(0, 1);
             *why = outcome == 'x' ? "nobody" : "";
             packets.append(packet);
-            return outcome == 'x'   ? Sending::Failed
-                   : outcome == 'o' ? Sending::Full
-                                    : Sending::Done;
+            return outcome == 'x'   ? lights::Sending::Failed
+                   : outcome == 'o' ? lights::Sending::Full
+                                    : lights::Sending::Done;
         };
     }
 };
@@ -122,7 +122,8 @@ private slots:
         QImage picture = Plain(Qt::black);
         for (int i = 0; i < 6; ++i)
             picture.setPixel(4 + i % 3, 2 + i / 3, qRgb('a' + i, 0, 0));
-        const QByteArray channels = LedMap(Read("ddp://h/4,2,3x2" + layout)).Channels(picture);
+        const QByteArray channels =
+            lights::LedMap(Read("ddp://h/4,2,3x2" + layout)).Channels(picture);
         QString found;
         for (int i = 0; i < channels.size(); i += 3)
             found += QChar(channels.at(i));
@@ -144,7 +145,8 @@ private slots:
     {
         QFETCH(QString, setting);
         QFETCH(QColor, color);
-        QTEST(LedMap(Read("ddp://h/1x1" + setting)).Channels(Plain(color)).toHex(), "channels");
+        QTEST(lights::LedMap(Read("ddp://h/1x1" + setting)).Channels(Plain(color)).toHex(),
+              "channels");
     }
 
     // Two pictures: every field of every packet, and the channels in their places.
@@ -169,16 +171,16 @@ private slots:
         QFETCH(QByteArray, sync);
         QFETCH(QString, parts);
         QString error;
-        Controller controller;
-        QVERIFY2(ReadAddress(&controller, address, &error), qPrintable(error));
-        const bool isDdp = controller.protocol == Protocol::Ddp;
+        lights::Controller controller;
+        QVERIFY2(lights::ReadAddress(&controller, address, &error), qPrintable(error));
+        const bool isDdp = controller.protocol == lights::Protocol::Ddp;
         const QStringList places = parts.split(' ');
         QByteArray channels;
         for (int i = 0; i < 3 * controller.rect.width() * controller.rect.height(); ++i)
             channels.append(char(i % 251 + 1));
-        PacketMaker maker(controller);
+        lights::PacketMaker maker(controller);
         for (int picture = 0; picture < 2; ++picture) {
-            const QVector<Packet> sent = maker.Picture(channels);
+            const QVector<lights::Packet> sent = maker.Picture(channels);
             QCOMPARE(sent.size(), places.size() + (sync.isEmpty() ? 0 : 1));
             QByteArray all;
             for (int i = 0; i < sent.size(); ++i) {
@@ -224,7 +226,7 @@ private slots:
         QFETCH(int, offset);
         QFETCH(int, lowest);
         QFETCH(int, count);
-        PacketMaker maker(Read(address));
+        lights::PacketMaker maker(Read(address));
         for (int i = 0; i < 600; ++i)
             QCOMPARE(int(uchar(maker.Picture("abc").first().bytes.at(offset))),
                      lowest + (i + 1 - lowest) % count);
@@ -289,7 +291,7 @@ private slots:
     {
         QFETCH(QString, address);
         QFETCH(QString, error);
-        Lights lights;
+        lights::Lights lights;
         QString told;
         QVERIFY(lights.Add(Read("sacn://127.0.0.1/16x32,channel=1"), display, &told));
         QVERIFY(lights.Add(Read("ddp://127.0.0.1/2x2"), display, &told));
@@ -301,11 +303,11 @@ private slots:
     void prefersIPv4()
     {
         QHostInfo found;
-        QVERIFY(PreferredAddress(found).isNull());
+        QVERIFY(lights::PreferredAddress(found).isNull());
         found.setAddresses({QHostAddress("::1"), QHostAddress("127.0.0.1")});
-        QCOMPARE(PreferredAddress(found), QHostAddress("127.0.0.1"));
+        QCOMPARE(lights::PreferredAddress(found), QHostAddress("127.0.0.1"));
         found.setAddresses({QHostAddress("::1")});
-        QCOMPARE(PreferredAddress(found), QHostAddress("::1"));
+        QCOMPARE(lights::PreferredAddress(found), QHostAddress("::1"));
     }
 
     // Asks the sockets; sends nothing.
@@ -313,14 +315,15 @@ private slots:
     {
         QString error;
         const QString lo = QNetworkInterface::interfaceFromIndex(1).name();
-        const auto group = OpenSocket(Read("sacn:///1x1,ttl=7,interface=" + lo), {}, &error);
+        const auto group =
+            lights::OpenSocket(Read("sacn:///1x1,ttl=7,interface=" + lo), {}, &error);
         QVERIFY2(group, qPrintable(error));
         QCOMPARE(group->socketOption(QAbstractSocket::MulticastTtlOption).toInt(), 7);
         QCOMPARE(group->multicastInterface().name(), lo);
         for (bool allowed : {false, true}) {
-            Controller controller = Read("artnet://127.0.0.1:7001");
+            lights::Controller controller = Read("artnet://127.0.0.1:7001");
             controller.broadcast = allowed;
-            const auto one = OpenSocket(controller, QHostAddress("127.0.0.1"), &error);
+            const auto one = lights::OpenSocket(controller, QHostAddress("127.0.0.1"), &error);
             QVERIFY2(one, qPrintable(error));
             QCOMPARE(one->peerAddress(), QHostAddress("127.0.0.1"));
             QCOMPARE(one->peerPort(), quint16(7001));
@@ -349,11 +352,11 @@ private slots:
         QFETCH(int, packets);
         QFETCH(QString, outcomes);
         Network network{{}, outcomes};
-        Lights lights;
+        lights::Lights lights;
         lights.SetKeeps(true);
         lights.Add(Read("ddp://h/64x16"), network.Taker());
         QStringList reports;
-        connect(&lights, &Lights::Reported, [&](const QString& line) {
+        connect(&lights, &lights::Lights::Reported, [&](const QString& line) {
             reports.append(line.contains("nobody")  ? "gone"
                            : line.contains("again") ? "back"
                                                     : line);
@@ -369,19 +372,19 @@ private slots:
     void repeatsWhatStands()
     {
         Network network;
-        Lights lights;
+        lights::Lights lights;
         lights.Add(Read("ddp://h/1x1"), network.Taker());
-        auto* time = VirtualDispatcher::Current();
+        auto* time = player::VirtualDispatcher::Current();
         time->AdvanceTo(time->Now() + 9999);
         QCOMPARE(network.packets.size(), 0);
         lights.Show(Plain(Qt::red));
-        time->AdvanceTo(time->Now() + 2 * Lights::repeatTime);
+        time->AdvanceTo(time->Now() + 2 * lights::Lights::repeatTime);
         QCOMPARE(network.packets.size(), 3);
         QCOMPARE(network.packets.last().bytes.mid(10).toHex(), QByteArray("ff0000"));
         // Counted from the last picture.
-        time->AdvanceTo(time->Now() + Lights::repeatTime - 1);
+        time->AdvanceTo(time->Now() + lights::Lights::repeatTime - 1);
         lights.Show(Plain(Qt::red));
-        time->AdvanceTo(time->Now() + Lights::repeatTime - 1);
+        time->AdvanceTo(time->Now() + lights::Lights::repeatTime - 1);
         QCOMPARE(network.packets.size(), 4);
     }
 
@@ -401,14 +404,14 @@ private slots:
         QFETCH(bool, keeps);
         Network network;
         {
-            Lights lights;
+            lights::Lights lights;
             lights.SetKeeps(keeps);
             lights.Add(Read(address), network.Taker());
             if (shown)
                 lights.Show(Plain(Qt::red));
         }
         QStringList sent;
-        for (const Packet& packet : network.packets)
+        for (const lights::Packet& packet : network.packets)
             sent.append(packet.bytes.endsWith(QByteArray("\xFF\0\0", 3))             ? "red"
                         : packet.bytes.size() == 129 && packet.bytes.at(112) == 0x40 ? "end"
                         : packet.bytes.endsWith(QByteArray(3, '\0'))                 ? "black"
@@ -433,7 +436,7 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(int, tick);
-        const QImage picture = TestPattern(name, QSize(4, 2), tick);
+        const QImage picture = lights::TestPattern(name, QSize(4, 2), tick);
         const QHash<QRgb, QChar> names{{qRgb(0, 0, 0), '.'},
                                        {qRgb(255, 0, 0), 'r'},
                                        {qRgb(0, 255, 0), 'g'},
@@ -495,13 +498,13 @@ private slots:
             QCOMPARE(pictures.takeLast(), black);
         QVector<QByteArray> film;
         if (options.contains("pattern")) {
-            const QImage pattern = TestPattern("colors", display, 0);
-            film.append(LedMap(Read("ddp://h/rotate-180")).Channels(pattern));
+            const QImage pattern = lights::TestPattern("colors", display, 0);
+            film.append(lights::LedMap(Read("ddp://h/rotate-180")).Channels(pattern));
         } else {
             QCOMPARE(files.Shell("animtext render one.json -o film/").status, 0);
             for (const char* name : {"0000", "0001", "0002", "0003"})
                 film.append(
-                    LedMap(Read("ddp://h"))
+                    lights::LedMap(Read("ddp://h"))
                         .Channels(QImage(files.Path(QString("film/frame-%1.png").arg(name)))));
         }
         QCOMPARE(pictures.first(), film.first());
@@ -520,7 +523,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
+    QCoreApplication::setEventDispatcher(new player::VirtualDispatcher);
     QGuiApplication application(argc, argv);
     TestLights test;
     return QTest::qExec(&test, argc, argv);

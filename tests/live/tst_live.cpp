@@ -51,7 +51,7 @@ QImage OnScreen(const QByteArray& file)
 
 } // namespace
 
-Q_DECLARE_METATYPE(SceneNode)
+Q_DECLARE_METATYPE(scene::SceneNode)
 
 class TestLive : public QObject
 {
@@ -60,16 +60,16 @@ class TestLive : public QObject
 private slots:
     void initTestCase()
     {
-        plugin = LoadPlugin(PluginPath(), &error);
+        plugin = player::LoadPlugin(player::PluginPath(), &error);
         QVERIFY2(plugin, qPrintable(error));
     }
 
     void init()
     {
-        player = std::make_unique<LivePlayer>(plugin);
-        window = std::make_unique<LiveWindow>(player.get());
-        ended = std::make_unique<QSignalSpy>(player.get(), &LivePlayer::Ended);
-        shown = std::make_unique<QSignalSpy>(player.get(), &LivePlayer::Shown);
+        player = std::make_unique<live::LivePlayer>(plugin);
+        window = std::make_unique<live::LiveWindow>(player.get());
+        ended = std::make_unique<QSignalSpy>(player.get(), &live::LivePlayer::Ended);
+        shown = std::make_unique<QSignalSpy>(player.get(), &live::LivePlayer::Shown);
     }
 
     void cleanup()
@@ -81,7 +81,7 @@ private slots:
 
     void showsWhatTraceTells_data()
     {
-        QTest::addColumn<SceneNode>("node");
+        QTest::addColumn<scene::SceneNode>("node");
         QTest::newRow("wave") << files.Node({"abc", 5, 9});
         QTest::newRow("tremble") << files.Node({"abc", 8, 9});
         QTest::newRow("up") << files.Node({}, {{"EffectType", 1}, {"ContinueStyle", 2}});
@@ -90,8 +90,8 @@ private slots:
 
     void showsWhatTraceTells()
     {
-        QFETCH(SceneNode, node);
-        const Scene scene = files.Of({node});
+        QFETCH(scene::SceneNode, node);
+        const scene::Scene scene = files.Of({node});
         const QByteArrayList trace =
             files.Shell("animtext trace -n 999 " + files.Save(scene)).out.split('\n');
         QVERIFY(player->Play(scene, {}, &error));
@@ -129,7 +129,7 @@ private slots:
 
     void obeysItsKeys()
     {
-        const Scene scene = files.Of({files.Node({"abc", 5, 9, 0, 1000000})});
+        const scene::Scene scene = files.Of({files.Node({"abc", 5, 9, 0, 1000000})});
         QVERIFY(player->Play(scene, {}, &error));
         window->Open("scene", scene.display, false);
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
@@ -144,7 +144,7 @@ private slots:
         QCOMPARE(time % 66, 0);
         QCOMPARE(player->Scenery().Compose(time), picture);
         bool moves = false;
-        connect(player.get(), &LivePlayer::Shown, this,
+        connect(player.get(), &live::LivePlayer::Shown, this,
                 [&](const QImage& next) { moves = moves || next != picture; });
         QTest::keyClick(window.get(), Qt::Key_Space);
         QTRY_VERIFY_WITH_TIMEOUT(moves && player->Time() > time + 2 * 66, patience);
@@ -159,7 +159,7 @@ private slots:
 
     void comesToItsEnd_data()
     {
-        QTest::addColumn<SceneNode>("node");
+        QTest::addColumn<scene::SceneNode>("node");
         QTest::addColumn<bool>("schedule");
         QTest::addColumn<int>("ticks");
         const TextWishes three{"abc", 4, 9, 2};
@@ -173,10 +173,10 @@ private slots:
 
     void comesToItsEnd()
     {
-        QFETCH(SceneNode, node);
+        QFETCH(scene::SceneNode, node);
         QFETCH(bool, schedule);
         QFETCH(int, ticks);
-        LiveSettings settings;
+        live::LiveSettings settings;
         settings.schedule = schedule;
         QVERIFY(player->Play(files.Of({node}), settings, &error));
         QVERIFY(ended->wait(patience));
@@ -197,7 +197,7 @@ private slots:
         const QImage first = player->Scenery().Compose(0);
         QVector<QImage> firsts;
         qint64 before = -1;
-        connect(player.get(), &LivePlayer::Shown, this, [&] {
+        connect(player.get(), &live::LivePlayer::Shown, this, [&] {
             const qint64 now = player->Time();
             if (now < before || (now == 0 && before == 0)) // where there is nothing to play
                 firsts.append(player->Scenery().Compose(0));
@@ -214,8 +214,8 @@ private slots:
     /** Two pages, one after another; a text that cannot be played leaves what there was. */
     void playsByTheHostsSchedule()
     {
-        Scene scene = files.Of({files.Node({"a", 4, 9, 2}), files.Node({"b", 4, 9, 2})});
-        LiveSettings settings;
+        scene::Scene scene = files.Of({files.Node({"a", 4, 9, 2}), files.Node({"b", 4, 9, 2})});
+        live::LiveSettings settings;
         settings.schedule = true;
         QVERIFY(player->Play(scene, settings, &error));
         QVERIFY(player->Scenery().Session(0) && !player->Scenery().Session(1));
@@ -243,12 +243,12 @@ private slots:
     void noticesChanges()
     {
         TestScenes folder;
-        SceneNode node = folder.Node({});
+        scene::SceneNode node = folder.Node({});
         node.files["PathData"] = folder.Write("node.path", folder.Read(node.files["PathData"]));
-        Scene scene = folder.Of({node});
+        scene::Scene scene = folder.Of({node});
         folder.Save(scene);
-        SceneWatcher watcher;
-        QSignalSpy changed(&watcher, &SceneWatcher::Changed);
+        live::SceneWatcher watcher;
+        QSignalSpy changed(&watcher, &live::SceneWatcher::Changed);
         watcher.Watch(scene);
         QFETCH(bool, changes);
         for (int again = 0; again < 2; ++again) {
@@ -274,7 +274,7 @@ private slots:
                      {"-displayfd", "1", "-screen", "0", "128x96x24", "-fbdir", files.Path(".")});
         QVERIFY2(screen.waitForReadyRead(patience), "no Xvfb");
         const QString display = ":" + screen.readLine().trimmed();
-        const Scene scene = files.Of({files.Node({"abc", 4, 9, 1000})});
+        const scene::Scene scene = files.Of({files.Node({"abc", 4, 9, 1000})});
         files.Save(scene);
         QCOMPARE(files.Shell("animtext render scene.json -o end.png --at 10t").status, 0);
         const QImage end(files.Path("end.png"));
@@ -304,8 +304,8 @@ private:
     TestScenes files;
     QString error;
     Lw::INodePlugin* plugin = nullptr;
-    std::unique_ptr<LivePlayer> player;
-    std::unique_ptr<LiveWindow> window;
+    std::unique_ptr<live::LivePlayer> player;
+    std::unique_ptr<live::LiveWindow> window;
     std::unique_ptr<QSignalSpy> ended, shown;
 };
 

@@ -22,7 +22,7 @@ QImage Sample(QSize size, QImage::Format format)
     return picture.convertToFormat(format);
 }
 
-class FramedView : public PictureView
+class FramedView : public live::PictureView
 {
 public:
     QRectF frame;
@@ -102,7 +102,7 @@ private slots:
         QImage picture(2, 1, QImage::Format_RGB32);
         picture.fill(qRgb(200, 100, 0));
         picture.setPixel(1, 0, qRgb(0, 0, 0));
-        PictureView view;
+        live::PictureView view;
         view.SetPicture(picture);
         view.SetPitch(1.25);
         view.resize(40, 20);
@@ -119,8 +119,8 @@ private slots:
     void repaintsWhatChanges()
     {
         QImage picture = Sample({64, 17}, QImage::Format_ARGB32);
-        PictureView view;
-        QSignalSpy scales(&view, &PictureView::ScaleChanged);
+        live::PictureView view;
+        QSignalSpy scales(&view, &live::PictureView::ScaleChanged);
         view.resize(130, 40);
         view.SetPicture(picture);
         view.show();

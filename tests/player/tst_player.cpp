@@ -50,7 +50,7 @@ class TestPlayer : public QObject
 private slots:
     void initTestCase()
     {
-        plugin = LoadPlugin(PluginPath(), &error);
+        plugin = player::LoadPlugin(player::PluginPath(), &error);
         QVERIFY2(plugin, qPrintable(error));
     }
 
@@ -91,15 +91,16 @@ private slots:
     void playsTickByTick()
     {
         QFETCH(Play, play);
-        const Scene scene = files.Of({files.Node({"abc", 4, play.speed, play.hold, play.plays},
-                                                 {{"EffectType", play.effectType}})});
+        const scene::Scene scene = files.Of({files.Node(
+            {"abc", 4, play.speed, play.hold, play.plays}, {{"EffectType", play.effectType}})});
         Load(scene);
-        const auto simulation = Simulate(player.get(), scene, 1, Watch(), &error).value(0);
+        const auto simulation =
+            timing::Simulate(player.get(), scene, 1, timing::Watch(), &error).value(0);
         QCOMPARE(simulation.animationTicks, play.animationTicks);
         QCOMPARE(simulation.holdTicks, play.holdTicks);
         QCOMPARE(int(simulation.FinishedMs()), play.finished < 0 ? -1 : play.finished * 66);
 
-        const Film film(player.get(), scene, FilmSettings());
+        const film::Film film(player.get(), scene, film::FilmSettings());
         QCOMPARE(film.FrameCount(), play.frames);
 
         Load(scene)->Start();
@@ -134,7 +135,7 @@ private slots:
         QFETCH(QVector<int>, held);
         QFETCH(int, end);
         QString told;
-        for (const PageTime& page : PageTimes(actual, held, end))
+        for (const timing::PageTime& page : timing::PageTimes(actual, held, end))
             told += QString("%1-%2-%3 ").arg(page.begin).arg(page.hold).arg(page.end);
         QTEST(told, "pages");
     }
@@ -172,9 +173,9 @@ private slots:
 
     void keepsNodesApart()
     {
-        SceneNode small = files.Node({"ab", 4, 9, 7, 1, QSize(48, 24)});
+        scene::SceneNode small = files.Node({"ab", 4, 9, 7, 1, QSize(48, 24)});
         small.pos = QPoint(64, 0);
-        Scene scene = files.Of({files.Node({}), files.Node({"  "}), small});
+        scene::Scene scene = files.Of({files.Node({}), files.Node({"  "}), small});
         scene.display = QSize(112, 32);
         Load(scene)->Start();
         player->Advance();
@@ -198,7 +199,7 @@ private slots:
     /** Each start is seeded again, so the first pictures of two nodes are equal. */
     void seedsEveryStart()
     {
-        const Scene scene = files.Of({files.Node({"abcd", 8}), files.Node({"abcd", 8})});
+        const scene::Scene scene = files.Of({files.Node({"abcd", 8}), files.Node({"abcd", 8})});
         QList<QImage> pictures;
         for (uint seed : {1, 1, 2}) {
             Load(scene)->Start(seed);
@@ -212,15 +213,15 @@ private slots:
     /** What played before is gone, half of the new scene is not there. */
     void refusesWhatCannotPlay()
     {
-        SceneNode clock = files.Node({});
+        scene::SceneNode clock = files.Node({});
         clock.type = "clock";
-        const QMap<QString, Scene> faults{
+        const QMap<QString, scene::Scene> faults{
             {"$.pages[0].areas[0].nodes[1].type: expected LW_animationText_Plugin",
              files.Of({files.Node({}), clock})},
             {"$.pages: expected at least one node", files.Of({})}};
         for (const QString& expected : faults.keys()) {
             Load(files.Of({files.Node({})}))->Start();
-            const Scene bad = faults.value(expected);
+            const scene::Scene bad = faults.value(expected);
             QVERIFY(!player->Load(bad, &error));
             QVERIFY2(error.startsWith(bad.path + ": " + expected), qPrintable(error));
             QCOMPARE(Torv::Accounts().liveSessions, 0);
@@ -230,11 +231,11 @@ private slots:
 
     void filmRestsOnTheLastPage()
     {
-        const Scene scene = files.Of({files.Node({"abc", 4, 9, 2})});
-        FilmSettings settings;
+        const scene::Scene scene = files.Of({files.Node({"abc", 4, 9, 2})});
+        film::FilmSettings settings;
         settings.scale = 2;
         settings.background = QColor(1, 2, 3);
-        Film film(Load(scene), scene, settings);
+        film::Film film(Load(scene), scene, settings);
         QList<QImage> pictures;
         QCOMPARE(film.FrameCount(), 12); // the end is tick 7; played on, 11 would be as 3 again
         film.Play({0, 3, 4, 7, 8, 9, 10, 11},
@@ -250,32 +251,36 @@ private slots:
     /** Ends are looked for without outlines. */
     void findsTheSameEndWithoutOutlines()
     {
-        for (int effect = 0; effect < Effects().size(); ++effect) {
-            const Scene scene = files.Of({files.Node({"abcdef", effect, 9, 3})});
-            const int end = PlayToEnd(Load(scene), ticksOfADay, 1).value(0).finishedTick;
+        for (int effect = 0; effect < scene::Effects().size(); ++effect) {
+            const scene::Scene scene = files.Of({files.Node({"abcdef", effect, 9, 3})});
+            const int end =
+                timing::PlayToEnd(Load(scene), timing::ticksOfADay, 1).value(0).finishedTick;
             QVERIFY(end > 0);
-            QCOMPARE(Simulate(player.get(), scene, 1, Watch(), &error).value(0).FinishedMs(),
+            QCOMPARE(timing::Simulate(player.get(), scene, 1, timing::Watch(), &error)
+                         .value(0)
+                         .FinishedMs(),
                      qint64(end) * 66);
         }
         Load(files.Of({files.Node({"abc", 30})}));
-        QCOMPARE(PlayToEnd(player.get(), ticksOfADay, 1).value(0).ending, Ending::TooLong);
+        QCOMPARE(timing::PlayToEnd(player.get(), timing::ticksOfADay, 1).value(0).ending,
+                 timing::Ending::TooLong);
         QCOMPARE(player->Tick(), 0); // an effect that does not exist is not waited for
     }
 
     /** Two pages: areas of two nodes and of one, then one with a planned time of 0. */
     void playsByTheHostsSchedule()
     {
-        Scene scene = files.Of({files.Node({"a"}), files.Node({"b", 4, 9, 3})});
+        scene::Scene scene = files.Of({files.Node({"a"}), files.Node({"b", 4, 9, 3})});
         scene.display = QSize(192, 32);
-        SceneNode right = files.Node({"a"});
+        scene::SceneNode right = files.Node({"a"});
         right.pos = QPoint(64, 0);
-        scene.pages.first().areas.append(SceneArea{{right}});
-        SceneNode last = files.Node({"ab", 4, 9, 3});
+        scene.pages.first().areas.append(scene::SceneArea{{right}});
+        scene::SceneNode last = files.Node({"ab", 4, 9, 3});
         last.pos = QPoint(128, 0);
-        scene.pages.append(ScenePage{{SceneArea{{last, files.Node({" "})}}}});
-        const Schedule schedule = HostSchedule(scene, {100, 300, 150, 200, 0});
+        scene.pages.append(scene::ScenePage{{scene::SceneArea{{last, files.Node({" "})}}}});
+        const player::Schedule schedule = player::HostSchedule(scene, {100, 300, 150, 200, 0});
         QStringList showings;
-        for (const Showing& showing : schedule.showings)
+        for (const player::Showing& showing : schedule.showings)
             showings.append(
                 QString("%1: %2-%3").arg(showing.node).arg(showing.from).arg(showing.until));
         QCOMPARE(showings.join(", "), QString("0: 0-100, 2: 0-400, 1: 100-400, 3: 400-600"));
@@ -291,10 +296,10 @@ private slots:
         }
         QCOMPARE(shown.join(' '), QString("02 02 12 12 12 12 12 3 3 3 "));
 
-        FilmSettings settings;
+        film::FilmSettings settings;
         settings.schedule = true;
-        Film film(Load(scene), scene, settings);
-        const Schedule told = HostSchedule(scene, player->Durations());
+        film::Film film(Load(scene), scene, settings);
+        const player::Schedule told = player::HostSchedule(scene, player->Durations());
         QCOMPARE(film.FrameCount(), int((told.length + 65) / 66));
         QImage end;
         film.Play({int(told.showings.at(3).until / 66)},
@@ -309,7 +314,7 @@ private slots:
         QImage red(8, 8, QImage::Format_RGB32);
         red.fill(Qt::red);
         red.save(files.Path("red.png"));
-        QSet<const Attribute*> effective;
+        QSet<const scene::Attribute*> effective;
         for (const QMap<QString, QVariant>& more :
              QList<QMap<QString, QVariant>>{{},
                                             {{"EffectType", 1}},
@@ -319,32 +324,33 @@ private slots:
                                             {{"CheckDazzle", 1}, {"CheckPictureFills", 1}},
                                             {{"CheckNeonBg", 1}},
                                             {{"CheckNeonBg", 1}, {"neonEffect", 28}}}) {
-            SceneNode node = files.Node({"abcdef", 5, 7, 1}, more);
+            scene::SceneNode node = files.Node({"abcdef", 5, 7, 1}, more);
             node.neonEffect = node.attributes.take("neonEffect").toInt() + 1;
             node.files["FillImage"] = node.files["NeonGifPath"] = files.Path("red.png");
             const QByteArray before = Played(node);
-            for (const Attribute& attribute : Attributes()) {
+            for (const scene::Attribute& attribute : scene::Attributes()) {
                 const QString key = attribute.key;
-                SceneNode changed = node;
-                if (attribute.home == Home::Files)
+                scene::SceneNode changed = node;
+                if (attribute.home == scene::Home::Files)
                     changed.files.remove(key);
                 else if (attribute.field)
-                    SetNumber(&changed, attribute, NumberOf(node, attribute) + 9);
-                else if (attribute.home == Home::Attributes && key != "Text")
-                    SetNumber(&changed, attribute, NumberOf(node, attribute) == 0 ? 1 : 0);
+                    scene::SetNumber(&changed, attribute, scene::NumberOf(node, attribute) + 9);
+                else if (attribute.home == scene::Home::Attributes && key != "Text")
+                    scene::SetNumber(&changed, attribute,
+                                     scene::NumberOf(node, attribute) == 0 ? 1 : 0);
                 else
                     continue;
                 const bool differs = Played(changed) != before;
                 QString why;
-                if (IsUsed(attribute, node, &why) && differs)
+                if (scene::IsUsed(attribute, node, &why) && differs)
                     effective.insert(&attribute);
                 else
                     QVERIFY2(!differs, qPrintable(key + ": " + why));
-                QCOMPARE(why.isEmpty(), IsUsed(attribute, node));
+                QCOMPARE(why.isEmpty(), scene::IsUsed(attribute, node));
             }
         }
-        for (const Attribute& attribute : Attributes())
-            if (attribute.home == Home::Attributes || attribute.home == Home::Files)
+        for (const scene::Attribute& attribute : scene::Attributes())
+            if (attribute.home == scene::Home::Attributes || attribute.home == scene::Home::Files)
                 QVERIFY2(effective.contains(&attribute) || attribute.key == QString("Text") ||
                              attribute.use.usedBy == QString("nothing"),
                          attribute.key);
@@ -359,13 +365,13 @@ private slots:
         script.close();
         const QByteArray before = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(programs.path()) + ':' + before);
-        const FilmFilePointer film = MakeVideo(
-            files.Path("still.webp"), *FilmKindOf("still.webp"), {QSize(8, 8), 0, 1, false, false},
-            PlayPictures(), [] {}, 100);
+        const film::FilmFilePointer film = film::MakeVideo(
+            files.Path("still.webp"), *film::FilmKindOf("still.webp"),
+            {QSize(8, 8), 0, 1, false, false}, film::PlayPictures(), [] {}, 100);
         QString message;
         try {
             film->Finish();
-        } catch (const Failure& failure) {
+        } catch (const files::Failure& failure) {
             message = failure.message;
         }
         QVERIFY2(
@@ -377,7 +383,7 @@ private slots:
 
 private:
     /** The pictures of four seconds, and the planned time. */
-    QByteArray Played(const SceneNode& node)
+    QByteArray Played(const scene::SceneNode& node)
     {
         QCryptographicHash hash(QCryptographicHash::Sha1);
         for (Load(files.Of({node}))->Start(); player->Tick() < 60; player->Advance()) {
@@ -388,9 +394,9 @@ private:
         return hash.result() + QByteArray::number(player->Durations().first());
     }
 
-    Player* Load(const Scene& scene)
+    player::Player* Load(const scene::Scene& scene)
     {
-        player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
+        player = std::make_unique<player::Player>(player::VirtualDispatcher::Current(), plugin);
         if (!player->Load(scene, &error))
             qFatal("%s", qPrintable(error));
         return player.get();
@@ -399,12 +405,12 @@ private:
     TestScenes files;
     QString error;
     Lw::INodePlugin* plugin = nullptr;
-    std::unique_ptr<Player> player;
+    std::unique_ptr<player::Player> player;
 };
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
+    QCoreApplication::setEventDispatcher(new player::VirtualDispatcher);
     QGuiApplication application(argc, argv);
     TestPlayer test;
     return QTest::qExec(&test, argc, argv);

@@ -32,35 +32,37 @@ private slots:
     {
         files.Write("good.json", good);
         const QString path = files.Path("good.json");
-        Scene scene;
+        scene::Scene scene;
         scene.display = QSize(7, 7);
         QString error;
-        QVERIFY(!ReadScene(path, &scene, &error)); // the file of the paths is missing
+        QVERIFY(!scene::ReadScene(path, &scene, &error)); // the file of the paths is missing
         QVERIFY2(error.startsWith(path + ": $.pages[0].areas[0].nodes[0].files.PathData: expected"),
                  qPrintable(error));
         QCOMPARE(scene.display, QSize(7, 7)); // left as it was
-        QVERIFY2(ReadScene(path, &scene, &error, MissingFiles::AreAccepted), qPrintable(error));
+        QVERIFY2(scene::ReadScene(path, &scene, &error, scene::MissingFiles::AreAccepted),
+                 qPrintable(error));
         files.Write("paths", "x");
-        QVERIFY2(ReadScene(path, &scene, &error), qPrintable(error));
+        QVERIFY2(scene::ReadScene(path, &scene, &error), qPrintable(error));
         const auto dense = [](QByteArray json) { return json.replace(' ', "").replace('\n', ""); };
-        QCOMPARE(dense(SceneToJson(scene)), dense(good));
+        QCOMPARE(dense(scene::SceneToJson(scene)), dense(good));
         QCOMPARE(scene.FullName(scene.Nodes().first()->files.value("PathData")),
                  files.Path("paths"));
     }
 
     void comesBackAsItWasWritten()
     {
-        SceneNode node = files.Node({"a\"b\\c\n\tŻ𝄞", 8, 3, -1, 2});
+        scene::SceneNode node = files.Node({"a\"b\\c\n\tŻ𝄞", 8, 3, -1, 2});
         node.pos = QPoint(-3, 5);
         node.neonEffect = 30;
-        Scene scene = files.Of({node, files.Node({})});
+        scene::Scene scene = files.Of({node, files.Node({})});
         scene.alphaBlend = false;
-        scene.pages.append(ScenePage());
-        scene.pages.append(ScenePage{{SceneArea(), SceneArea{{files.Node({})}}}});
-        Scene back;
+        scene.pages.append(scene::ScenePage());
+        scene.pages.append(
+            scene::ScenePage{{scene::SceneArea(), scene::SceneArea{{files.Node({})}}}});
+        scene::Scene back;
         QString error;
-        QVERIFY2(ReadScene(files.Save(scene), &back, &error), qPrintable(error));
-        QCOMPARE(SceneToJson(back), SceneToJson(scene));
+        QVERIFY2(scene::ReadScene(files.Save(scene), &back, &error), qPrintable(error));
+        QCOMPARE(scene::SceneToJson(back), scene::SceneToJson(scene));
         QCOMPARE(back.alphaBlend, false);
         QCOMPARE(back.pages.at(2).areas.at(1).nodes.size(), 1);
         QCOMPARE(back.Nodes().first()->attributes, node.attributes);
@@ -68,15 +70,15 @@ private slots:
 
     void findsMotions()
     {
-        for (const Motion& effect : Effects()) {
-            QCOMPARE(FindEffect(QString::number(effect.number)), &effect);
-            QCOMPARE(FindEffect(QString(effect.name).toUpper()), &effect);
+        for (const scene::Motion& effect : scene::Effects()) {
+            QCOMPARE(scene::FindEffect(QString::number(effect.number)), &effect);
+            QCOMPARE(scene::FindEffect(QString(effect.name).toUpper()), &effect);
         }
         for (const char* word : {"30", "-1", ""})
-            QVERIFY2(!FindEffect(word), word);
-        QCOMPARE(FindScroll("Up")->number, 2);
-        QCOMPARE(FindScroll("continueeffectdown")->number, 3);
-        QVERIFY(!FindScroll("sideways"));
+            QVERIFY2(!scene::FindEffect(word), word);
+        QCOMPARE(scene::FindScroll("Up")->number, 2);
+        QCOMPARE(scene::FindScroll("continueeffectdown")->number, 3);
+        QVERIFY(!scene::FindScroll("sideways"));
     }
 
 private:

@@ -22,7 +22,7 @@ class TestVirtualDispatcher : public QObject
 private slots:
     void init()
     {
-        dispatcher = VirtualDispatcher::Current();
+        dispatcher = player::VirtualDispatcher::Current();
         owner = std::make_unique<QObject>();
         timers.clear();
         actions.clear();
@@ -142,7 +142,7 @@ private:
         return timer;
     }
 
-    VirtualDispatcher* dispatcher = nullptr;
+    player::VirtualDispatcher* dispatcher = nullptr;
     qint64 origin = 0;
     std::unique_ptr<QObject> owner;
     QHash<QString, QPointer<QTimer>> timers;
@@ -152,7 +152,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
+    QCoreApplication::setEventDispatcher(new player::VirtualDispatcher);
     QCoreApplication application(argc, argv);
     TestVirtualDispatcher test;
     return QTest::qExec(&test, argc, argv);

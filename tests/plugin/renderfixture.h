@@ -28,7 +28,8 @@ const int tickInterval = 66; // ms
 /** Lets @p ticks of the renderers' timers pass. */
 inline void PassTicks(int ticks)
 {
-    AnimText::VirtualDispatcher* const clock = AnimText::VirtualDispatcher::Current();
+    AnimText::player::VirtualDispatcher* const clock =
+        AnimText::player::VirtualDispatcher::Current();
     clock->AdvanceTo(clock->Now() + ticks * tickInterval);
 }
 
@@ -97,7 +98,7 @@ public:
     {
         Torv::SetCallLog(
             [](void* fixture, const Torv::CallRecord& call) {
-                static_cast<RenderFixture*>(fixture)->log.append(AnimText::CallLine(call));
+                static_cast<RenderFixture*>(fixture)->log.append(AnimText::player::CallLine(call));
             },
             this);
     }
@@ -138,7 +139,7 @@ public:
 #define TEST_MAIN_ON_VIRTUAL_TIME(TestClass)                                                       \
     int main(int argc, char** argv)                                                                \
     {                                                                                              \
-        QCoreApplication::setEventDispatcher(new AnimText::VirtualDispatcher);                     \
+        QCoreApplication::setEventDispatcher(new AnimText::player::VirtualDispatcher);             \
         QGuiApplication application(argc, argv);                                                   \
         TestClass test;                                                                            \
         return QTest::qExec(&test, argc, argv);                                                    \

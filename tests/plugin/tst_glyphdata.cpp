@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-using AnimText::DataFile;
+using AnimText::validate::DataFile;
 
 Q_DECLARE_METATYPE(Glyphs::Sample)
 
@@ -63,7 +63,7 @@ void TestGlyphData::malformedOutlinesAreEmptyAndTold()
     QCOMPARE(text.node->GetDescentData(), (QVector<int>{4, 5, 3}));
     QCOMPARE(messages.Taken(), QStringList());
 
-    const DataFile look = AnimText::LookIntoPathFile(text.File("paths"));
+    const DataFile look = AnimText::validate::LookIntoPathFile(text.File("paths"));
     QCOMPARE(look.entries, sample.read.size());
     const bool oneIsBad = !sample.read.isEmpty() && !sample.fault.isEmpty();
     QCOMPARE(look.badOutlines.size(), oneIsBad ? 1 : 0);
@@ -82,7 +82,7 @@ void TestGlyphData::wrongCountsLeaveNoDescents()
     WriteFile(text.File("descents"), Glyphs::File(sample.bytes));
     QCOMPARE(text.node->GetDescentData(), sample.read);
     QCOMPARE(text.node->GetPainterPaths().size(), 3);
-    const DataFile look = AnimText::LookIntoDescentFile(text.File("descents"));
+    const DataFile look = AnimText::validate::LookIntoDescentFile(text.File("descents"));
     QCOMPARE(look.fault, sample.fault);
     QCOMPARE(look.entries, sample.read.size());
 }
@@ -96,8 +96,8 @@ void TestGlyphData::brokenFilesLeaveNothing()
     text.node->InitPainterPath();
     QCOMPARE(text.node->GetPainterPaths().size(), 0);
     QCOMPARE(text.node->GetDescentData().size(), 0);
-    QCOMPARE(AnimText::LookIntoPathFile(text.File("paths")).fault, sample.fault);
-    QCOMPARE(AnimText::LookIntoDescentFile(text.File("descents")).fault, sample.fault);
+    QCOMPARE(AnimText::validate::LookIntoPathFile(text.File("paths")).fault, sample.fault);
+    QCOMPARE(AnimText::validate::LookIntoDescentFile(text.File("descents")).fault, sample.fault);
 }
 
 void TestGlyphData::absentAndOddFilesLeaveNothing_data()
@@ -159,7 +159,7 @@ void TestGlyphData::absentAndOddFilesLeaveNothing()
             {"pipe", "it is no regular file"},
             {"enormous", "it has 268435457 bytes, more than 268435456"}};
         if (faults.contains(how))
-            QCOMPARE(AnimText::LookIntoPathFile(path).fault, faults.value(how));
+            QCOMPARE(AnimText::validate::LookIntoPathFile(path).fault, faults.value(how));
     };
     spoil(paths, "PathData", "paths");
     spoil(descents, "DescentVector", "descents");

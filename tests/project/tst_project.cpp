@@ -1,5 +1,5 @@
-// Rules of the project that no compiler knows: who includes whom, what Qt 4.8 does not have, and
-// the build that integrators use.
+// Rules of the project that no compiler knows: who includes whom, which namespace a file is in,
+// what Qt 4.8 does not have, and the build that integrators use.
 #include "table.h"
 
 #include <QDirIterator>
@@ -132,6 +132,28 @@ private slots:
                     QRegularExpression::anchoredPattern(file.isEmpty() ? other : own);
                 if (!QRegularExpression(allowed).match(file.isEmpty() ? name : file).hasMatch())
                     wrong.append(Place(source, match.capturedStart()) + " includes " + name);
+            }
+        }
+        QVERIFY(seen > 0);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+    }
+
+    void namespacesFollowFolders()
+    {
+        const QRegularExpression opens("^namespace (AnimText[\\w:]*) \\{\n([^\n]*)",
+                                       QRegularExpression::MultilineOption);
+        const QRegularExpression declares("^(class|struct) \\w+;$");
+        int seen = 0;
+        QStringList wrong;
+        for (const Source& source : Sources({"tools"})) {
+            const QString folder = "AnimText" + QFileInfo(source.path).path().mid(strlen("tools"));
+            for (auto it = opens.globalMatch(source.text); it.hasNext(); ++seen) {
+                const QRegularExpressionMatch match = it.next();
+                // What another folder defines may be declared in its namespace.
+                if (match.captured(1) != QString(folder).replace("/", "::") &&
+                    !declares.match(match.captured(2)).hasMatch())
+                    wrong.append(Place(source, match.capturedStart()) + " opens " +
+                                 match.captured(1));
             }
         }
         QVERIFY(seen > 0);

@@ -10,7 +10,7 @@
 #include <limits>
 #include <random>
 
-using AnimText::SceneNode;
+using AnimText::scene::SceneNode;
 
 namespace {
 
@@ -48,7 +48,7 @@ void AddEach(const QByteArray& name, const QVector<Value>& values, const Apply& 
 
 void AddAttributes()
 {
-    QStringList numbers = AnimText::KeysOf(AnimText::Home::Attributes);
+    QStringList numbers = AnimText::scene::KeysOf(AnimText::scene::Home::Attributes);
     numbers.removeAll("Text");
     for (const QString& key : numbers)
         AddEach(key.toLatin1(),
@@ -66,7 +66,7 @@ void AddAttributes()
 
 void AddLists()
 {
-    for (const QString& list : AnimText::ListKeys()) {
+    for (const QString& list : AnimText::scene::ListKeys()) {
         Add(list.toLatin1() + " missing",
             [=](HostileScene* scene) { scene->node.lists.remove(list); });
         // -1: one row less than there are
@@ -84,7 +84,7 @@ void AddLists()
                 [=](SceneNode* node, const QString& value) {
                     for (Row& row : node->lists[list]) {
                         row.clear();
-                        for (const QString& field : AnimText::RowFields(list))
+                        for (const QString& field : AnimText::scene::RowFields(list))
                             if (!value.isNull())
                                 row[field] = value;
                     }

@@ -18,7 +18,7 @@ enum class Weight { Light, Slow };
 struct HostileScene
 {
     QByteArray name; ///< what is wrong with it
-    AnimText::SceneNode node;
+    AnimText::scene::SceneNode node;
     bool alphaBlend = true;
     QString frogs; ///< folder of the frogs' pictures; empty: none
     Weight weight = Weight::Light;

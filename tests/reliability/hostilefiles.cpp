@@ -146,7 +146,7 @@ QList<HostileFile> HostilePathFiles(const QDir& where)
     };
 
     AddOuterLayers(&folder, Serialized(qint32(2)) + Triangle(9) + Triangle(8));
-    folder.Add("descents instead", AnimText::DescentFile({1, 2, 3, 4, 5, 6}));
+    folder.Add("descents instead", AnimText::layout::DescentFile({1, 2, 3, 4, 5, 6}));
     folder.Add("one outline", File(Serialized(qint32(1)) + Triangle(5)));
     folder.Add("100,000 outlines without a line",
                File(Serialized(qint32(100000)) + QByteArray(400000, '\0')));
@@ -172,11 +172,12 @@ QList<HostileFile> HostileDescentFiles(const QDir& where)
     AddOuterLayers(&folder, Serialized(qint32(3), qint32(4), qint32(5), qint32(6)));
     for (const Glyphs::Sample& sample : Glyphs::DescentSamples())
         folder.Add(sample.name, File(sample.bytes));
-    folder.Add("least", AnimText::DescentFile(QVector<int>(20, least)));
-    folder.Add("most", AnimText::DescentFile(QVector<int>(20, most)));
-    folder.Add("least and most", AnimText::DescentFile({least, most, 0, -1, least, most, 1, 0}));
-    folder.Add("only one", AnimText::DescentFile({3}));
-    folder.Add("100,000 of them", AnimText::DescentFile(QVector<int>(100000, 3)));
+    folder.Add("least", AnimText::layout::DescentFile(QVector<int>(20, least)));
+    folder.Add("most", AnimText::layout::DescentFile(QVector<int>(20, most)));
+    folder.Add("least and most",
+               AnimText::layout::DescentFile({least, most, 0, -1, least, most, 1, 0}));
+    folder.Add("only one", AnimText::layout::DescentFile({3}));
+    folder.Add("100,000 of them", AnimText::layout::DescentFile(QVector<int>(100000, 3)));
     return folder.files;
 }
 

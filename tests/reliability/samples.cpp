@@ -19,8 +19,8 @@ void WriteFile(const QString& path, const QByteArray& bytes)
 
 QByteArray RowName(int motion, int background)
 {
-    const Motion& told =
-        motion < firstScroll ? Effects().at(motion) : Scrolls().at(motion - firstScroll);
+    const scene::Motion& told = motion < firstScroll ? scene::Effects().at(motion)
+                                                     : scene::Scrolls().at(motion - firstScroll);
     QByteArray name = QByteArray::number(told.number) + ' ' + told.name;
     if (background & WithNeon)
         name += ", neon";
@@ -29,7 +29,7 @@ QByteArray RowName(int motion, int background)
     return name;
 }
 
-void SetMotion(SceneNode* node, int motion, int speed)
+void SetMotion(scene::SceneNode* node, int motion, int speed)
 {
     const bool scrolls = motion >= firstScroll;
     node->attributes[QStringLiteral("EffectType")] = scrolls ? 1 : 0;
@@ -39,7 +39,7 @@ void SetMotion(SceneNode* node, int motion, int speed)
     node->attributes[QStringLiteral("ContinueSpeed")] = speed;
 }
 
-void SetBackground(SceneNode* node, int background)
+void SetBackground(scene::SceneNode* node, int background)
 {
     node->attributes[QStringLiteral("CheckNeonBg")] = background & WithNeon ? 1 : 0;
     node->attributes[QStringLiteral("CheckDazzle")] = background & WithDazzle ? 1 : 0;
@@ -49,16 +49,16 @@ Sample::Sample(const QString& text, QSize area)
 {
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(48);
-    TextSource source;
+    author::TextSource source;
     source.text.Append(text, {0, font, QColor(255, 160, 0)});
-    source.fit = Fit::Line;
-    SceneNode settings;
+    source.fit = layout::Fit::Line;
+    scene::SceneNode settings;
     settings.size = area;
     settings.hold = 2;
     settings.attributes[QStringLiteral("PlayTimes")] = 1;
-    AuthoredNode authored;
+    author::AuthoredNode authored;
     QString error;
-    if (!AuthorNode(source, settings, {Mode::Entrance, 4}, &authored, &error))
+    if (!author::AuthorNode(source, settings, {scene::Mode::Entrance, 4}, &authored, &error))
         qFatal("%s", qPrintable(error));
     base = authored.node;
     base.files[QStringLiteral("PathData")] = File(QStringLiteral("sample.path"));
@@ -67,9 +67,9 @@ Sample::Sample(const QString& text, QSize area)
     WriteFile(File(QStringLiteral("sample.descent")), authored.data["DescentVector"]);
 }
 
-SceneNode Sample::Node(int motion, int background, int speed) const
+scene::SceneNode Sample::Node(int motion, int background, int speed) const
 {
-    SceneNode node = base;
+    scene::SceneNode node = base;
     SetMotion(&node, motion, speed);
     SetBackground(&node, background);
     return node;

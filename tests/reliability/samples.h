@@ -13,8 +13,8 @@
 #include <QTemporaryDir>
 
 /** The entrance effects by number and, after them, the scrolls left, right, up and down. */
-inline const int firstScroll = AnimText::Effects().size();
-inline const int motionCount = firstScroll + AnimText::Scrolls().size();
+inline const int firstScroll = AnimText::scene::Effects().size();
+inline const int motionCount = firstScroll + AnimText::scene::Scrolls().size();
 constexpr int trembleEffect = 8; // the one motion with random numbers
 
 /** Bits. */
@@ -24,8 +24,8 @@ enum Background { NoBackground = 0, WithNeon = 1, WithDazzle = 2, BackgroundCoun
 QByteArray RowName(int motion, int background);
 
 /** Sets the attributes that choose the motion, and its speed. */
-void SetMotion(AnimText::SceneNode* node, int motion, int speed);
-void SetBackground(AnimText::SceneNode* node, int background);
+void SetMotion(AnimText::scene::SceneNode* node, int motion, int speed);
+void SetBackground(AnimText::scene::SceneNode* node, int background);
 
 /** A text with its data files, which last as long as the sample. */
 class Sample
@@ -34,12 +34,12 @@ public:
     /** @param area in pixels; the letters are as high as fits */
     Sample(const QString& text, QSize area);
 
-    AnimText::SceneNode Node(int motion, int background, int speed) const;
+    AnimText::scene::SceneNode Node(int motion, int background, int speed) const;
     QString File(const QString& name) const { return folder.filePath(name); }
 
 private:
     QTemporaryDir folder;
-    AnimText::SceneNode base;
+    AnimText::scene::SceneNode base;
 };
 
 #endif

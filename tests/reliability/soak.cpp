@@ -27,7 +27,7 @@ using namespace AnimText;
 namespace {
 
 constexpr double millisecondsPerHour = 3600.0 * 1000;
-constexpr double ticksPerHour = millisecondsPerHour / tickLength;
+constexpr double ticksPerHour = millisecondsPerHour / player::tickLength;
 constexpr int turnTicks = 455; // half a minute: then the next scene
 constexpr int pauseTicks = 20; // once in a turn
 
@@ -48,7 +48,7 @@ QByteArray Mebibytes(qint64 kibibytes)
 class Soak
 {
 public:
-    Soak(const QVector<Scene>& scenes, double hours)
+    Soak(const QVector<scene::Scene>& scenes, double hours)
         : scenes(scenes)
         , ticksWanted(qint64(std::ceil(hours * ticksPerHour)))
     {
@@ -60,13 +60,13 @@ public:
     bool IsSound(double mostGrowth) const;
 
 private:
-    void PlayTurn(Player* player);
-    void Advance(Player* player, int count);
+    void PlayTurn(player::Player* player);
+    void Advance(player::Player* player, int count);
 
     bool IsGrowthKnown() const { return memoryAtHour >= 0 && double(ticks) > ticksPerHour; }
     qint64 Growth() const { return memoryAtEnd - memoryAtHour; }
 
-    QVector<Scene> scenes;
+    QVector<scene::Scene> scenes;
     qint64 ticksWanted;
 
     qint64 turnsPlayed = 0;
@@ -79,7 +79,7 @@ private:
     Torv::Accounting accounts = {};
 };
 
-void Soak::Advance(Player* player, int count)
+void Soak::Advance(player::Player* player, int count)
 {
     for (int i = 0; i < count; ++i)
         player->Advance();
@@ -87,7 +87,7 @@ void Soak::Advance(Player* player, int count)
 }
 
 /** As hosts do: a start, a look at the state now and then, a pause, a second start, a stop. */
-void Soak::PlayTurn(Player* player)
+void Soak::PlayTurn(player::Player* player)
 {
     player->Start();
     Advance(player, turnTicks / 2);
@@ -106,10 +106,11 @@ void Soak::PlayTurn(Player* player)
 void Soak::Run()
 {
     Torv::ResetAccounts();
-    Progress progress(QStringLiteral("soaking, minutes"), ticksWanted * tickLength / 60000);
-    while (ticks < ticksWanted && !Interrupted()) {
+    cli::Progress progress(QStringLiteral("soaking, minutes"),
+                           ticksWanted * player::tickLength / 60000);
+    while (ticks < ticksWanted && !cli::Interrupted()) {
         {
-            Player player(VirtualDispatcher::Current(), TestSign::Plugin());
+            player::Player player(player::VirtualDispatcher::Current(), TestSign::Plugin());
             QString error;
             if (!player.Load(scenes.at(int(turnsPlayed % scenes.size())), &error))
                 qFatal("%s", qPrintable(error));
@@ -122,7 +123,7 @@ void Soak::Run()
         memoryAtEnd = ResidentMemory();
         if (memoryAtHour < 0 && double(ticks) >= ticksPerHour)
             memoryAtHour = memoryAtEnd;
-        progress.Show(ticks * tickLength / 60000);
+        progress.Show(ticks * player::tickLength / 60000);
     }
 }
 
@@ -160,20 +161,20 @@ bool Soak::IsSound(double mostGrowth) const
 }
 
 /** A scene for every motion before every background, with and without alpha blending. */
-QVector<Scene> Mix(const QVector<const Sample*>& samples)
+QVector<scene::Scene> Mix(const QVector<const Sample*>& samples)
 {
-    QVector<Scene> scenes;
+    QVector<scene::Scene> scenes;
     for (int i = 0; i < BackgroundCount * motionCount; ++i) {
-        SceneNode node =
+        scene::SceneNode node =
             samples[i % samples.size()]->Node(i % motionCount, i / motionCount, i % 10);
         node.neonEffect = i % 29;
         node.hold = i % 4 * 10;
         node.attributes[QStringLiteral("PlayTimes")] = 1 + i % 3;
         node.attributes[QStringLiteral("Hollow")] = i % 5 == 0 ? 1 : 0;
-        Scene scene;
+        scene::Scene scene;
         scene.display = node.size;
         scene.alphaBlend = i % 2 == 0;
-        scene.pages = {ScenePage{{SceneArea{{node}}}}};
+        scene.pages = {scene::ScenePage{{scene::SceneArea{{node}}}}};
         scenes.append(scene);
     }
     return scenes;
@@ -183,7 +184,7 @@ QVector<Scene> Mix(const QVector<const Sample*>& samples)
 
 int main(int argc, char** argv)
 {
-    InstallMessages();
+    cli::InstallMessages();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setEventDispatcher(new CountingDispatcher);
     const QGuiApplication application(argc, argv);
@@ -200,13 +201,13 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    EndAtInterruption();
-    WatchForInterruption(); // before there are folders to leave behind
-    QVector<Scene> scenes;
+    cli::EndAtInterruption();
+    cli::WatchForInterruption(); // before there are folders to leave behind
+    QVector<scene::Scene> scenes;
     for (const QString& path : words.mid(1)) {
         QString error;
-        scenes.append(Scene());
-        if (!ReadScene(path, &scenes.last(), &error)) {
+        scenes.append(scene::Scene());
+        if (!scene::ReadScene(path, &scenes.last(), &error)) {
             std::fprintf(stderr, "%s\n", qPrintable(error));
             return 2;
         }
@@ -219,8 +220,8 @@ int main(int argc, char** argv)
     Soak soak(scenes.isEmpty() ? Mix({&one, &several, &gaps}) : scenes, hours);
     soak.Run();
     std::fputs(soak.Table(growth).constData(), stdout);
-    if (Interrupted())
-        return InterruptionStatus();
+    if (cli::Interrupted())
+        return cli::InterruptionStatus();
     if (!soak.IsSound(growth)) {
         std::fputs("The soak failed.\n", stderr);
         return 1;

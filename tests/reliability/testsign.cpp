@@ -60,7 +60,8 @@ Lw::INodePlugin* TestSign::Plugin()
 {
     static Lw::INodePlugin* const plugin = [] {
         QString error;
-        Lw::INodePlugin* const loaded = AnimText::LoadPlugin(AnimText::PluginPath(), &error);
+        Lw::INodePlugin* const loaded =
+            AnimText::player::LoadPlugin(AnimText::player::PluginPath(), &error);
         if (!loaded)
             qFatal("%s", qPrintable(error));
         return loaded;
@@ -70,16 +71,16 @@ Lw::INodePlugin* TestSign::Plugin()
 
 void TestSign::Tick(int count)
 {
-    Dispatcher()->AdvanceTo(Dispatcher()->Now() + qint64(count) * AnimText::tickLength);
+    Dispatcher()->AdvanceTo(Dispatcher()->Now() + qint64(count) * AnimText::player::tickLength);
 }
 
-std::unique_ptr<Lw::HNeonNodeBase> TestSign::NewNode(const AnimText::SceneNode& from)
+std::unique_ptr<Lw::HNeonNodeBase> TestSign::NewNode(const AnimText::scene::SceneNode& from)
 {
-    AnimText::Scene scene;
+    AnimText::scene::Scene scene;
     scene.pages = {{{{{from}}}}};
-    AnimText::NodeTree tree;
+    AnimText::player::NodeTree tree;
     QString error;
-    if (!AnimText::BuildNodeTree(scene, Plugin(), &tree, &error))
+    if (!AnimText::player::BuildNodeTree(scene, Plugin(), &tree, &error))
         qFatal("%s", qPrintable(error));
     Lw::HNeonNodeBase* const node = tree.nodes.first();
     node->setParent(nullptr);

@@ -26,7 +26,7 @@
 
 /** Virtual time that knows how many QTimers run; Qt's own timers, say its font cache's, are none.
  */
-class CountingDispatcher : public AnimText::VirtualDispatcher
+class CountingDispatcher : public AnimText::player::VirtualDispatcher
 {
 public:
     int LiveTimers() const { return live.size(); }
@@ -51,7 +51,7 @@ public:
     static void Tick(int count = 1);
 
     /** A node of the plugin's with everything that @p from says; the caller owns it. */
-    static std::unique_ptr<Lw::HNeonNodeBase> NewNode(const AnimText::SceneNode& from);
+    static std::unique_ptr<Lw::HNeonNodeBase> NewNode(const AnimText::scene::SceneNode& from);
     static std::unique_ptr<Lw::IContentRender> NewRender(Lw::HNode* node);
 
     /** From now on no message is shown, and complaints are kept; for a test's initTestCase(). */

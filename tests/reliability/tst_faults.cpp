@@ -46,13 +46,14 @@ private slots:
 
 private:
     /** A renderer's first play, with a fault, and its second one. */
-    QVector<Play> PlayTwice(const AnimText::SceneNode& scene, Torv::Operation fault, int nth);
+    QVector<Play> PlayTwice(const AnimText::scene::SceneNode& scene, Torv::Operation fault,
+                            int nth);
 
     Sample sample{QStringLiteral("Wow up"), QSize(64, 20)};
     Torv::Display display{QSize(64, 20)};
 };
 
-QVector<Play> TestFaults::PlayTwice(const AnimText::SceneNode& scene, Torv::Operation fault,
+QVector<Play> TestFaults::PlayTwice(const AnimText::scene::SceneNode& scene, Torv::Operation fault,
                                     int nth)
 {
     const auto node = TestSign::NewNode(scene);
@@ -90,7 +91,7 @@ void TestFaults::eachCallMayFailOnce()
 {
     QFETCH(int, motion);
     QFETCH(int, background);
-    const AnimText::SceneNode scene = sample.Node(motion, background, hurry);
+    const AnimText::scene::SceneNode scene = sample.Node(motion, background, hurry);
     const QVector<Play> sound = PlayTwice(scene, Torv::OpCreatePictureSession, 0);
     QCOMPARE(sound[0].accounts.Misuses(), qint64(0));
     QVERIFY(QSet<uint>(sound[1].pictures.begin(), sound[1].pictures.end()).size() > 1);

@@ -31,43 +31,47 @@ QPalette Dark()
 }
 
 /** A text in @p area with a font of @p size pixels, a motion and its speed. */
-SignText Text(const QString& words, const QRect& area, int size, bool scroll, int motion, int speed)
+studio::model::SignText Text(const QString& words, const QRect& area, int size, bool scroll,
+                             int motion, int speed)
 {
-    SignText text = NewText(area.size(), 0);
-    StyleRun run = text.source.text.runs.first();
+    studio::model::SignText text = studio::model::NewText(area.size(), 0);
+    layout::StyleRun run = text.source.text.runs.first();
     run.font.setPixelSize(size);
     run.color = orange;
-    text.source.text = StyledText();
+    text.source.text = layout::StyledText();
     text.source.text.Append(words, run);
     text.node.pos = area.topLeft();
-    SetMotion(&text.node, {scroll ? Mode::Scroll : Mode::Entrance, motion});
-    text.node.attributes[MotionOf(text.node).SpeedKey()] = speed;
-    text.layoutKey = LayoutKey(text);
+    scene::SetMotion(&text.node, {scroll ? scene::Mode::Scroll : scene::Mode::Entrance, motion});
+    text.node.attributes[scene::MotionOf(text.node).SpeedKey()] = speed;
+    text.layoutKey = studio::model::LayoutKey(text);
     return text;
 }
 
-Sign SignOf(const QSize& display, const QList<SignText>& texts)
+studio::model::Sign SignOf(const QSize& display, const QList<studio::model::SignText>& texts)
 {
-    Sign sign;
+    studio::model::Sign sign;
     sign.display = display;
-    for (const SignText& text : texts)
-        AddText(&sign, text);
+    for (const studio::model::SignText& text : texts)
+        studio::model::AddText(&sign, text);
     return sign;
 }
 
-Sign Platform()
+studio::model::Sign Platform()
 {
-    SignText where = Text(QStringLiteral("Platform 4"), {0, 0, 336, 96}, 56, false, 5, 6);
-    SignText when = Text(QStringLiteral("Zürich 14:05"), {336, 0, 176, 48}, 26, false, 17, 7);
-    const StyleRun plain = where.source.text.runs.first();
-    StyleRun bold = plain;
+    studio::model::SignText where =
+        Text(QStringLiteral("Platform 4"), {0, 0, 336, 96}, 56, false, 5, 6);
+    studio::model::SignText when =
+        Text(QStringLiteral("Zürich 14:05"), {336, 0, 176, 48}, 26, false, 17, 7);
+    const layout::StyleRun plain = where.source.text.runs.first();
+    layout::StyleRun bold = plain;
     bold.font.setBold(true);
     bold.color = Qt::white; // the sign ignores it
-    where.source.text = StyledText();
+    where.source.text = layout::StyledText();
     where.source.text.Append(QStringLiteral("Platform "), plain);
     where.source.text.Append(QStringLiteral("4"), bold);
-    where.layoutKey = LayoutKey(where);
-    SignText next = Text(QStringLiteral("Mind the gap"), {0, 0, 512, 96}, 64, false, 4, 5);
+    where.layoutKey = studio::model::LayoutKey(where);
+    studio::model::SignText next =
+        Text(QStringLiteral("Mind the gap"), {0, 0, 512, 96}, 64, false, 4, 5);
     next.page = 1;
     return SignOf({512, 96}, {where, when,
                               Text(QStringLiteral("calling at Thalwil, Zug and Luzern"),
@@ -87,11 +91,11 @@ public:
     }
 
     /** Selects text @p index of @p sign and goes to @p tick. */
-    bool Show(const Sign& sign, int index, int tick)
+    bool Show(const studio::model::Sign& sign, int index, int tick)
     {
         window.GetDocument()->Change(QStringLiteral("Sign"), sign);
         window.Select(window.GetDocument()->Current().texts.at(index).id);
-        Rehearsal* rehearsal = window.GetRehearsal();
+        studio::worker::Rehearsal* rehearsal = window.GetRehearsal();
         const auto isShown = [&] {
             return window.GetDocument()->Current().IsLaidOut() && rehearsal->IsCurrent() &&
                    rehearsal->IsMeasured();
@@ -111,7 +115,7 @@ public:
         return saved;
     }
 
-    MainWindow window{QString()};
+    studio::window::shell::MainWindow window{QString()};
 
 private:
     bool AreMotionsThere() const
@@ -120,7 +124,7 @@ private:
         for (int row = 0; row < list->model()->rowCount(); ++row) {
             const QModelIndex index = list->model()->index(row, 0);
             if (list->viewport()->rect().intersects(list->visualRect(index)) &&
-                !index.data(MotionPicker::CurrentRole).toBool())
+                !index.data(studio::window::motion::MotionPicker::CurrentRole).toBool())
                 return false;
         }
         return true;
@@ -145,10 +149,11 @@ int Photograph(const QStringList& words)
     if (dark)
         QApplication::setPalette(Dark());
 
-    SignText thrice = Text(QStringLiteral("Gleis 7"), {0, 0, 320, 64}, 52, false, 4, 5);
+    studio::model::SignText thrice =
+        Text(QStringLiteral("Gleis 7"), {0, 0, 320, 64}, 52, false, 4, 5);
     thrice.node.hold = 5;
     thrice.node.attributes[QStringLiteral("PlayTimes")] = 3;
-    Translate(QLocale(german ? QLocale::German : QLocale::English));
+    studio::window::basics::Translate(QLocale(german ? QLocale::German : QLocale::English));
     Photographer photographer(folder);
     bool all = photographer.Show(Platform(), 0, 22) &&
                photographer.Photograph(QStringLiteral("studio.png"));
@@ -164,7 +169,7 @@ int Photograph(const QStringList& words)
               SignOf({96, 32}, {Text(QStringLiteral("Gleis 7"), {0, 0, 96, 32}, 24, false, 6, 6)}),
               0, 20) &&
           photographer.Photograph(QStringLiteral("studio-leds.png"));
-    LedsDialog dialog(QSize(16, 16), QStringLiteral("hello.json"));
+    studio::window::display::LedsDialog dialog(QSize(16, 16), QStringLiteral("hello.json"));
     dialog.SetAddress(QStringLiteral("ddp://wall.local/serpentine,bottom-left,brightness=40"));
     dialog.show();
     all =

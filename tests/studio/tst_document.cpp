@@ -19,19 +19,19 @@ class TestDocument : public QObject
 private:
     TestFolder folder;
 
-    static Sign Written(const Document& document, const QString& text)
+    static studio::model::Sign Written(const studio::model::Document& document, const QString& text)
     {
-        Sign sign = document.Current();
+        studio::model::Sign sign = document.Current();
         sign.texts.first().source.text.text = text;
         return sign;
     }
-    static QString TextOf(const Document& document, int index = 0)
+    static QString TextOf(const studio::model::Document& document, int index = 0)
     {
         return document.Current().texts.at(index).Title();
     }
-    static bool Saves(Document* document, const QString& path)
+    static bool Saves(studio::model::Document* document, const QString& path)
     {
-        QSignalSpy ended(document, &Document::SaveEnded);
+        QSignalSpy ended(document, &studio::model::Document::SaveEnded);
         document->Save(path);
         return ended.wait(patience) && ended.first().at(0).toBool();
     }
@@ -49,7 +49,7 @@ private slots:
 
 void TestDocument::mergesChangesOfOneGesture()
 {
-    Document document;
+    studio::model::Document document;
     document.New();
     const QString before = TextOf(document);
     for (const char* text : {"a", "ab", "abc"})
@@ -71,25 +71,25 @@ void TestDocument::mergesChangesOfOneGesture()
 
 void TestDocument::keepsSourcesBesideTheScene()
 {
-    Document document;
+    studio::model::Document document;
     document.New();
-    Sign sign = document.Current();
-    TextSource& source = sign.texts.first().source;
-    const StyleRun run = source.text.runs.first();
-    source.text = StyledText();
+    studio::model::Sign sign = document.Current();
+    author::TextSource& source = sign.texts.first().source;
+    const layout::StyleRun run = source.text.runs.first();
+    source.text = layout::StyledText();
     source.text.Append("Mind ", run);
-    StyleRun bold = run;
+    layout::StyleRun bold = run;
     bold.font.setBold(true);
     bold.font.setPixelSize(23);
     bold.color = QColor(1, 2, 3);
     source.text.Append("the gap", bold);
-    source.align = Align::Right;
-    source.valign = VAlign::Bottom;
+    source.align = layout::Align::Right;
+    source.valign = layout::VAlign::Bottom;
     source.padding = 3;
-    source.fit = Fit::Both;
+    source.fit = layout::Fit::Both;
     source.keepsWords = false;
-    const TextSource wanted = source;
-    AddText(&sign, NewText(QSize(100, 30), 1));
+    const author::TextSource wanted = source;
+    studio::model::AddText(&sign, studio::model::NewText(QSize(100, 30), 1));
     document.Change("Text", sign);
     const QString path = folder.Path("sign.json");
     QVERIFY(Saves(&document, path));
@@ -97,7 +97,7 @@ void TestDocument::keepsSourcesBesideTheScene()
 
     // Other programs may change settings that need no new layout.
     QCOMPARE(folder.Shell("animtext set sign.json 1 speed=3").status, 0);
-    Document again;
+    studio::model::Document again;
     QString error;
     QVERIFY2(again.Open(path, &error), qPrintable(error));
     QCOMPARE(again.Current().texts.size(), 2);
@@ -121,11 +121,11 @@ void TestDocument::keepsSourcesBesideTheScene()
 
 void TestDocument::staysModifiedAfterChangeDuringSave()
 {
-    Document document;
+    studio::model::Document document;
     document.New();
     document.Change("Text", Written(document, "one"), "text 1");
     QTRY_VERIFY_WITH_TIMEOUT(document.Current().IsLaidOut(), patience);
-    QSignalSpy ended(&document, &Document::SaveEnded);
+    QSignalSpy ended(&document, &studio::model::Document::SaveEnded);
     document.Save(folder.Path("still.json"));
     QVERIFY(document.IsSaving());
     document.Change("Text", Written(document, "two"), "text 1");
@@ -139,11 +139,11 @@ void TestDocument::staysModifiedAfterChangeDuringSave()
 
 void TestDocument::reportsChangesOnDisk()
 {
-    Document document;
+    studio::model::Document document;
     document.New();
     const QString path = folder.Path("disk.json");
     QVERIFY(Saves(&document, path));
-    QSignalSpy changed(&document, &Document::DiskChanged);
+    QSignalSpy changed(&document, &studio::model::Document::DiskChanged);
     document.Change("Text", Written(document, "mine"));
     QTRY_VERIFY_WITH_TIMEOUT(document.Current().IsLaidOut(), patience);
     QCOMPARE(folder.Shell("animtext set disk.json 1 speed=2").status, 0);
@@ -165,10 +165,10 @@ void TestDocument::guessesSourcesFromStyles()
                         "'<b>Gleis 7</b> <font size=\"24\" color=\"red\">nach <u>Z</u></font>'")
                  .status,
              0);
-    Document document;
+    studio::model::Document document;
     QString error;
     QVERIFY(document.Open(folder.Path("styled.json"), &error));
-    const StyledText& text = document.Current().texts.first().source.text;
+    const layout::StyledText& text = document.Current().texts.first().source.text;
     QCOMPARE(text.text.trimmed(), QString("Gleis 7 nach Z"));
     QVERIFY(text.At(0).font.bold() && !text.At(8).font.bold());
     QVERIFY(text.At(13).font.underline() && !text.At(12).font.underline());
@@ -195,13 +195,13 @@ void TestDocument::losesNothingWhenKilledWhileSaving()
         QVERIFY(said.count('\n') >= words);
 
         QString error;
-        Document saved;
+        studio::model::Document saved;
         if (said.contains("saved"))
             QVERIFY2(saved.Open(path, &error), qPrintable(error));
         QCOMPARE(folder.Shell("test ! -e victim.json || animtext validate victim.json").status, 0);
-        Document document;
-        const Recovery recovery(&document, copies);
-        const QList<LostWork> lost = recovery.Find();
+        studio::model::Document document;
+        const studio::model::Recovery recovery(&document, copies);
+        const QList<studio::model::LostWork> lost = recovery.Find();
         QCOMPARE(lost.size(), 1);
         document.Recover(lost.first().sign, lost.first().path);
         QVERIFY(document.IsModified());
@@ -211,7 +211,7 @@ void TestDocument::losesNothingWhenKilledWhileSaving()
         const QString text = TextOf(document);
         QVERIFY2(text.startsWith("text ") && text.mid(5).toInt() >= number, qPrintable(text));
         QVERIFY(document.Current().IsLaidOut());
-        Recovery::Drop(lost.first());
+        studio::model::Recovery::Drop(lost.first());
         QVERIFY(recovery.Find().isEmpty());
     }
 }
@@ -223,16 +223,18 @@ void TestDocument::removesUnneededCopies()
         QDirIterator all(copies, {"scene.json"}, QDir::Files, QDirIterator::Subdirectories);
         return all.hasNext();
     };
-    Document document;
+    studio::model::Document document;
     {
-        Recovery recovery(&document, copies);
-        QSignalSpy kept(&recovery, &Recovery::Kept);
+        studio::model::Recovery recovery(&document, copies);
+        QSignalSpy kept(&recovery, &studio::model::Recovery::Kept);
         document.New();
         document.Change("Text", Written(document, "kept"));
         QVERIFY(kept.wait(patience));
         QVERIFY(scenes());
-        Document other;
-        QVERIFY(Recovery(&other, copies).Find().isEmpty()); // its studio is still running
+        studio::model::Document other;
+        QVERIFY(studio::model::Recovery(&other, copies)
+                    .Find()
+                    .isEmpty()); // its studio is still running
         QVERIFY(Saves(&document, folder.Path("kept.json")));
         QTRY_VERIFY_WITH_TIMEOUT(!scenes(), patience);
         document.Change("Text", Written(document, "again"));
@@ -244,32 +246,32 @@ void TestDocument::removesUnneededCopies()
 
 void TestDocument::keepsOrderOfTexts()
 {
-    Sign sign;
+    studio::model::Sign sign;
     QVector<int> ids;
     for (int page : {0, 1, 0, 2}) {
-        AddText(&sign, NewText(QSize(64, 32), page));
+        studio::model::AddText(&sign, studio::model::NewText(QSize(64, 32), page));
         ids.append(0);
     }
     const auto places = [&] {
         QStringList list;
-        for (const SignText& text : sign.texts)
+        for (const studio::model::SignText& text : sign.texts)
             list.append(QString("%1.%2").arg(text.page).arg(text.area));
         return list.join(' ');
     };
     QCOMPARE(places(), QString("0.0 0.1 1.0 2.0"));
-    RemoveText(&sign, sign.texts.at(0).id);
+    studio::model::RemoveText(&sign, sign.texts.at(0).id);
     QCOMPARE(places(), QString("0.0 1.0 2.0"));
-    RemoveText(&sign, sign.texts.at(1).id);
+    studio::model::RemoveText(&sign, sign.texts.at(1).id);
     QCOMPARE(places(), QString("0.0 1.0"));
-    RemoveText(&sign, 0);
+    studio::model::RemoveText(&sign, 0);
     QCOMPARE(sign.PageCount(), 2);
 }
 
 /** Changes and saves forever, and prints what it has done. */
 static int BeVictim(const QString& path, const QString& copies)
 {
-    Document document;
-    Recovery recovery(&document, copies);
+    studio::model::Document document;
+    studio::model::Recovery recovery(&document, copies);
     int number = 0;
     const auto say = [](const QByteArray& line) {
         QFile out;
@@ -277,18 +279,18 @@ static int BeVictim(const QString& path, const QString& copies)
             out.write(line + '\n');
     };
     const auto change = [&] {
-        Sign sign = document.Current();
+        studio::model::Sign sign = document.Current();
         sign.texts.first().source.text.text = QString("text %1").arg(++number);
         document.Change("Text", sign);
     };
     document.New();
     change();
-    QObject::connect(&recovery, &Recovery::Kept, [&] {
+    QObject::connect(&recovery, &studio::model::Recovery::Kept, [&] {
         say("kept " + QByteArray::number(number));
         document.Save(path);
         change();
     });
-    QObject::connect(&document, &Document::SaveEnded, [&](bool saved) {
+    QObject::connect(&document, &studio::model::Document::SaveEnded, [&](bool saved) {
         say(saved ? "saved" : "failed");
         change();
     });

@@ -35,7 +35,7 @@ private slots:
     void fieldsMatchAddress()
     {
         QFETCH(QString, address);
-        LedsDialog dialog(QSize(16, 8), "it/wall.json");
+        studio::window::display::LedsDialog dialog(QSize(16, 8), "it/wall.json");
         QVERIFY(!dialog.StartButton()->isEnabled()); // no controller yet
         dialog.SetAddress(address);
         QCOMPARE(dialog.Address(), address);
@@ -47,7 +47,7 @@ private slots:
 
     void showsWiringBeforeHost()
     {
-        LedsDialog dialog(QSize(16, 8), QString());
+        studio::window::display::LedsDialog dialog(QSize(16, 8), QString());
         const auto picture = [&dialog] {
             QImage found;
             for (const QLabel* label : dialog.findChildren<QLabel*>()) {
@@ -64,7 +64,7 @@ private slots:
 
     void tabGoesDownThroughTheRows()
     {
-        LedsDialog dialog(QSize(16, 8), QString());
+        studio::window::display::LedsDialog dialog(QSize(16, 8), QString());
         dialog.show();
         QWidget* first = dialog.findChildren<QComboBox*>().first();
         int row = 0; // pixels
@@ -92,7 +92,7 @@ private slots:
         QImage picture(1, 1, QImage::Format_RGB32);
         picture.fill(qRgb(1, 2, 3));
         {
-            LedsDialog dialog(QSize(1, 1), QString());
+            studio::window::display::LedsDialog dialog(QSize(1, 1), QString());
             dialog.show();
             dialog.SetAddress(address);
             dialog.Show(picture);
@@ -116,22 +116,22 @@ private slots:
             dialog.Show(picture);
             QVERIFY(!receiver.hasPendingDatagrams());
         }
-        QCOMPARE(LedsDialog(QSize(1, 1), QString()).Address(),
+        QCOMPARE(studio::window::display::LedsDialog(QSize(1, 1), QString()).Address(),
                  address + "/color-order=BGR"); // remembered for next time
     }
 
     void sendsStudioPicture()
     {
-        WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
+        studio::worker::WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
         QUdpSocket receiver;
         QVERIFY(receiver.bind(QHostAddress(QHostAddress::LocalHost), 0));
-        MainWindow window{QString()};
+        studio::window::shell::MainWindow window{QString()};
         window.New();
         QTRY_VERIFY_WITH_TIMEOUT(!window.Display()->Picture().isNull(), 300000);
         for (QAction* action : window.findChildren<QAction*>())
             if (action->text().contains("on L&EDs"))
                 action->trigger();
-        auto* dialog = window.findChild<LedsDialog*>();
+        auto* dialog = window.findChild<studio::window::display::LedsDialog*>();
         QVERIFY(dialog);
         dialog->SetAddress(QString("ddp://127.0.0.1:%1").arg(receiver.localPort()));
         dialog->StartButton()->click();
@@ -141,7 +141,7 @@ private slots:
             QByteArray expected;
             QByteArray found = "none";
             const auto isThere = [&] {
-                expected = LedMap(Whole(window.Display()->Picture().size()))
+                expected = lights::LedMap(Whole(window.Display()->Picture().size()))
                                .Channels(window.Display()->Picture());
                 while (receiver.hasPendingDatagrams()) {
                     QByteArray packet(2000, '\0');
@@ -157,7 +157,7 @@ private slots:
 
     void reportsErrors()
     {
-        LedsDialog dialog(QSize(16, 8), QString());
+        studio::window::display::LedsDialog dialog(QSize(16, 8), QString());
         dialog.SetAddress("ddp://host.invalid");
         dialog.StartButton()->click();
         QTRY_VERIFY_WITH_TIMEOUT(dialog.State().contains("was not found"), 300000);
@@ -165,9 +165,9 @@ private slots:
     }
 
 private:
-    static Controller Whole(QSize size)
+    static lights::Controller Whole(QSize size)
     {
-        Controller controller;
+        lights::Controller controller;
         controller.rect = QRect(QPoint(0, 0), size);
         return controller;
     }

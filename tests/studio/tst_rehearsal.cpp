@@ -27,9 +27,9 @@ QByteArray Sha1(const QImage& picture)
     return hash.result().toHex();
 }
 
-Part PartOf(int page, bool schedule = false)
+studio::worker::Part PartOf(int page, bool schedule = false)
 {
-    Part part;
+    studio::worker::Part part;
     part.page = page;
     part.schedule = schedule;
     return part;
@@ -62,30 +62,34 @@ private:
     TestFolder folder;
 
     /** A sign of one text that fills the display. */
-    static Sign OneText(const QString& words, bool scroll, int motion, int hold = 5)
+    static studio::model::Sign OneText(const QString& words, bool scroll, int motion, int hold = 5)
     {
-        Sign sign;
+        studio::model::Sign sign;
         sign.display = QSize(96, 32);
-        SignText text = NewText(sign.display, 0);
+        studio::model::SignText text = studio::model::NewText(sign.display, 0);
         text.source.text.text = words;
         text.source.text.runs.first().font.setPixelSize(24);
         text.node.hold = hold;
-        SetMotion(&text.node, {scroll ? Mode::Scroll : Mode::Entrance, motion});
-        text.node.attributes[MotionOf(text.node).SpeedKey()] = 7;
-        text.layoutKey = LayoutKey(text);
-        text.layout = MakeLayout(text);
-        AddText(&sign, text);
+        scene::SetMotion(&text.node,
+                         {scroll ? scene::Mode::Scroll : scene::Mode::Entrance, motion});
+        text.node.attributes[scene::MotionOf(text.node).SpeedKey()] = 7;
+        text.layoutKey = studio::model::LayoutKey(text);
+        text.layout = studio::model::MakeLayout(text);
+        studio::model::AddText(&sign, text);
         return sign;
     }
-    static bool IsShown(Rehearsal* rehearsal, int tick)
+    static bool IsShown(studio::worker::Rehearsal* rehearsal, int tick)
     {
-        QSignalSpy shown(rehearsal, &Rehearsal::Shown);
+        QSignalSpy shown(rehearsal, &studio::worker::Rehearsal::Shown);
         rehearsal->Look(tick);
         return !shown.isEmpty() || rehearsal->IsCurrent() || shown.wait(patience);
     }
 
 private slots:
-    void initTestCase() { WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio"); }
+    void initTestCase()
+    {
+        studio::worker::WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
+    }
     void picturesEqualTrace_data();
     void picturesEqualTrace();
     void measuresPagesAndEnds();
@@ -99,9 +103,9 @@ void TestRehearsal::picturesEqualTrace_data()
 {
     QTest::addColumn<bool>("scroll");
     QTest::addColumn<int>("motion");
-    for (const Motion& effect : Effects())
+    for (const scene::Motion& effect : scene::Effects())
         QTest::newRow(effect.name) << false << effect.number;
-    for (const Motion& scroll : Scrolls()) {
+    for (const scene::Motion& scroll : scene::Scrolls()) {
         // Sideways scrolling: the device moves one picture, so a trace has no frames to compare.
         if (scroll.number >= 2)
             QTest::newRow(scroll.name) << true << scroll.number;
@@ -112,15 +116,16 @@ void TestRehearsal::picturesEqualTrace()
 {
     QFETCH(bool, scroll);
     QFETCH(int, motion);
-    const Sign sign = OneText("Züge ab", scroll, motion);
+    const studio::model::Sign sign = OneText("Züge ab", scroll, motion);
     QString error;
-    QVERIFY2(SaveSign(sign, folder.Path("traced.json"), QByteArray(), &error), qPrintable(error));
+    QVERIFY2(studio::model::SaveSign(sign, folder.Path("traced.json"), QByteArray(), &error),
+             qPrintable(error));
     const Outcome trace = folder.Shell("animtext trace traced.json --ticks 40");
     QVERIFY2(trace.status == 0, trace.errors);
 
-    Rehearsal rehearsal((QString()));
-    DisplayView view;
-    connect(&rehearsal, &Rehearsal::Shown, &view, &PictureView::SetPicture);
+    studio::worker::Rehearsal rehearsal((QString()));
+    studio::window::display::DisplayView view;
+    connect(&rehearsal, &studio::worker::Rehearsal::Shown, &view, &live::PictureView::SetPicture);
     rehearsal.SetSign(sign, PartOf(0));
     QVector<QByteArray> told;
     for (const QByteArray& line : trace.out.split('\n')) {
@@ -136,15 +141,15 @@ void TestRehearsal::picturesEqualTrace()
 
 void TestRehearsal::measuresPagesAndEnds()
 {
-    Sign sign = OneText("WWWWWWW", false, 4);
+    studio::model::Sign sign = OneText("WWWWWWW", false, 4);
     sign.texts.first().node.attributes["PlayTimes"] = 2;
-    Rehearsal rehearsal((QString()));
-    QSignalSpy measured(&rehearsal, &Rehearsal::TimingChanged);
+    studio::worker::Rehearsal rehearsal((QString()));
+    QSignalSpy measured(&rehearsal, &studio::worker::Rehearsal::TimingChanged);
     rehearsal.SetSign(sign, PartOf(0));
     QVERIFY(measured.wait(patience));
-    const TextTime text = rehearsal.GetTiming().texts.first();
+    const studio::worker::TextTime text = rehearsal.GetTiming().texts.first();
     QString error;
-    QVERIFY(SaveSign(sign, folder.Path("timed.json"), QByteArray(), &error));
+    QVERIFY(studio::model::SaveSign(sign, folder.Path("timed.json"), QByteArray(), &error));
     const Outcome duration = folder.Shell("animtext duration timed.json --simulate --json");
     const QJsonObject told = QJsonDocument::fromJson(duration.out).object();
     QCOMPARE(text.planned, qint64(told.value("duration").toDouble()));
@@ -159,7 +164,7 @@ void TestRehearsal::measuresPagesAndEnds()
             pictures.insert(tick.value("tick").toInt());
     }
     int end = 0;
-    for (const PageTime& page : text.pages) {
+    for (const timing::PageTime& page : text.pages) {
         QCOMPARE(page.begin, end);
         QVERIFY(page.hold > page.begin);
         QVERIFY(pictures.contains(page.begin) && pictures.contains(page.hold - 1));
@@ -167,7 +172,7 @@ void TestRehearsal::measuresPagesAndEnds()
             QVERIFY(!pictures.contains(tick));
         end = page.end;
     }
-    QCOMPARE(qint64(end) * tickLength, text.actual);
+    QCOMPARE(qint64(end) * player::tickLength, text.actual);
     // With the schedule, a text is stopped after its planned time.
     rehearsal.SetSign(sign, PartOf(-1, true));
     QVERIFY(measured.wait(patience));
@@ -182,7 +187,7 @@ void TestRehearsal::measuresPagesAndEnds()
 void TestRehearsal::keepsMemoryLimit()
 {
     const int each = 96 * 32 * 4;
-    Rehearsal rehearsal(QString(), 10 * each);
+    studio::worker::Rehearsal rehearsal(QString(), 10 * each);
     rehearsal.SetSign(OneText("Moving on", false, 6, 0), PartOf(0));
     for (int tick : {60, 59, 0, 30, 60}) {
         QVERIFY(IsShown(&rehearsal, tick));
@@ -193,8 +198,8 @@ void TestRehearsal::keepsMemoryLimit()
 
 void TestRehearsal::survivesWorkerCrash()
 {
-    Rehearsal rehearsal((QString()));
-    QSignalSpy trouble(&rehearsal, &Rehearsal::Trouble);
+    studio::worker::Rehearsal rehearsal((QString()));
+    QSignalSpy trouble(&rehearsal, &studio::worker::Rehearsal::Trouble);
     rehearsal.SetSign(OneText("Again", false, 5), PartOf(0));
     QVERIFY(IsShown(&rehearsal, 5));
     const QByteArray before = Sha1(rehearsal.Picture(5));
@@ -211,8 +216,8 @@ void TestRehearsal::survivesWorkerCrash()
 
 void TestRehearsal::reportsBrokenPlugin()
 {
-    Rehearsal rehearsal(folder.Write("noplugin.so", "no library"));
-    QSignalSpy trouble(&rehearsal, &Rehearsal::Trouble);
+    studio::worker::Rehearsal rehearsal(folder.Write("noplugin.so", "no library"));
+    QSignalSpy trouble(&rehearsal, &studio::worker::Rehearsal::Trouble);
     QVERIFY(trouble.wait(patience));
     QVERIFY(trouble.first().first().toString().contains("noplugin.so"));
     rehearsal.SetSign(OneText("Nothing", false, 4), PartOf(0));
@@ -223,8 +228,8 @@ void TestRehearsal::reportsBrokenPlugin()
 
 void TestRehearsal::makesCallsFail()
 {
-    Rehearsal rehearsal((QString()));
-    Part part = PartOf(0);
+    studio::worker::Rehearsal rehearsal((QString()));
+    studio::worker::Part part = PartOf(0);
     part.calls = true;
     part.faults = {{Torv::OpSwapPicImageLayerPtr, 2}};
     rehearsal.SetSign(OneText("Calls", false, 4), part);

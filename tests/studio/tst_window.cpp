@@ -32,7 +32,7 @@ class TestWindow : public QObject
 
 private:
     TestFolder folder;
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<studio::window::shell::MainWindow> window;
 
     void Type(const QString& words)
     {
@@ -47,7 +47,7 @@ private:
             },
             patience);
     }
-    const SignText& Text(int index = 0) const
+    const studio::model::SignText& Text(int index = 0) const
     {
         return window->GetDocument()->Current().texts.at(index);
     }
@@ -90,7 +90,7 @@ private slots:
 
 void TestWindow::init()
 {
-    window = std::make_unique<MainWindow>(QString());
+    window = std::make_unique<studio::window::shell::MainWindow>(QString());
     window->New();
     window->resize(1600, 900); // independent of the screen
     window->show();
@@ -102,12 +102,12 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     Type("Mind the gap"); // replaces the selection
     QCOMPARE(Text().Title(), QString("Mind the gap"));
     QVERIFY(Settles());
-    MotionPicker* motions = window->GetInspector()->Motions();
+    studio::window::motion::MotionPicker* motions = window->GetInspector()->Motions();
     QTest::keyClicks(motions->Search(), "waves");
     QCOMPARE(motions->List()->model()->rowCount(), 1);
     QTest::mouseClick(motions->List()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       motions->List()->visualRect(motions->List()->model()->index(0, 0)).center());
-    QCOMPARE(MotionOf(Text().node).number, 5);
+    QCOMPARE(scene::MotionOf(Text().node).number, 5);
     QVERIFY(Settles());
     QVERIFY(window->GetPlayback()->Length() > 20);
     window->GetPlayback()->Seek(11);
@@ -115,17 +115,17 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     QCOMPARE(window->Display()->Picture(), window->GetRehearsal()->Picture(11));
 
     const QString path = folder.Path("sign.json");
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
     QVERIFY(!window->isWindowModified());
     window->GetDocument()->Undo()->undo();
-    QCOMPARE(MotionOf(Text().node).number, 17);
+    QCOMPARE(scene::MotionOf(Text().node).number, 17);
     window->GetDocument()->Undo()->undo();
     QVERIFY(Text().Title() != "Mind the gap"); // typing was one step
     QVERIFY(!window->GetDocument()->Undo()->canUndo());
     QVERIFY(window->Open(path));
-    QCOMPARE(MotionOf(Text().node).number, 5);
+    QCOMPARE(scene::MotionOf(Text().node).number, 5);
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Mind the gap"));
 }
 
@@ -157,16 +157,16 @@ void TestWindow::pastes()
     QFETCH(QString, selected);
     QFETCH(QString, plain);
     QFETCH(QString, html);
-    Sign sign = window->GetDocument()->Current();
-    StyledText& text = sign.texts.first().source.text;
-    StyleRun large = text.runs.first();
+    studio::model::Sign sign = window->GetDocument()->Current();
+    layout::StyledText& text = sign.texts.first().source.text;
+    layout::StyleRun large = text.runs.first();
     large.begin = 1;
     large.font.setBold(true);
     large.font.setPixelSize(56);
     text.text = "ab";
     text.runs.append(large);
     window->GetDocument()->Change("Text", sign);
-    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    studio::window::text::TextEditor* editor = window->GetInspector()->Text()->Editor();
     QTextCursor cursor = editor->textCursor();
     cursor.setPosition(selected.indexOf('['));
     cursor.setPosition(selected.indexOf(']') - 1, QTextCursor::KeepAnchor);
@@ -191,7 +191,7 @@ void TestWindow::pastes()
     QTEST(Text().source.text.text, "words");
     QString bold;
     for (int i = 0; i < Text().source.text.text.size(); ++i) {
-        const StyleRun& run = Text().source.text.At(i);
+        const layout::StyleRun& run = Text().source.text.At(i);
         bold += QLatin1Char(run.font.bold() ? '*' : '-');
         QCOMPARE(run.font.family(), large.font.family());
         QCOMPARE(run.color, large.color);
@@ -204,7 +204,7 @@ void TestWindow::pastes()
 
 void TestWindow::routesKeys()
 {
-    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    studio::window::text::TextEditor* editor = window->GetInspector()->Text()->Editor();
     QWidget* display = window->Display();
     window->activateWindow();
     QTRY_VERIFY(editor->hasFocus()); // a new sign is ready for typing
@@ -214,7 +214,7 @@ void TestWindow::routesKeys()
     QCOMPARE(Text().source.text.text, QString("two"));
     QTest::keyClick(editor, Qt::Key_Space, Qt::ControlModifier);
     QVERIFY(window->GetPlayback()->IsPlaying());
-    auto* speed = window->GetInspector()->findChild<NumberField*>();
+    auto* speed = window->GetInspector()->findChild<studio::window::basics::NumberField*>();
     const QList<QPair<QWidget*, Qt::Key>> ways{
         {editor, Qt::Key_Escape},
         {speed, Qt::Key_Return},
@@ -225,14 +225,15 @@ void TestWindow::routesKeys()
         QTest::keyClick(way.first, way.second);
         QVERIFY2(display->hasFocus(), way.first->metaObject()->className());
     }
-    for (QWidget* list : {static_cast<QWidget*>(window->findChild<SceneList*>()), display}) {
+    for (QWidget* list :
+         {static_cast<QWidget*>(window->findChild<studio::window::shell::SceneList*>()), display}) {
         window->GetPlayback()->SetPace(0);
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Space);
         QVERIFY2(window->GetPlayback()->IsPlaying(), list->metaObject()->className());
     }
     const QString path = folder.Path("keys.json");
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
     editor->setFocus();
@@ -268,7 +269,7 @@ void TestWindow::wheelChangesNoChoices()
 void TestWindow::removesOutdatedNotices()
 {
     const QString path = folder.Path("stale.json");
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
     for (int offer : {0, 1}) { // load, keep
@@ -295,7 +296,7 @@ void TestWindow::removesOutdatedNotices()
 void TestWindow::zoomsPansAndMeasures()
 {
     QVERIFY(Settles());
-    DisplayView* view = window->Display();
+    studio::window::display::DisplayView* view = window->Display();
     auto* scroll = qobject_cast<QScrollArea*>(view->parentWidget()->parentWidget());
     QVERIFY(view->Scale() * 512 > 0.8 * scroll->viewport()->width()); // fills the view
     QVERIFY(view->Scale() * 512 <= scroll->viewport()->width());
@@ -335,7 +336,7 @@ void TestWindow::zoomsPansAndMeasures()
     const double fitted = view->Scale();
     auto* leds = window->findChild<QAction*>("leds");
     leds->setChecked(true);
-    QVERIFY(view->Scale() >= smallestLamp); // LEDs are visible
+    QVERIFY(view->Scale() >= film::smallestLamp); // LEDs are visible
     leds->setChecked(false);
     QCOMPARE(view->Scale(), fitted);
 
@@ -345,8 +346,8 @@ void TestWindow::zoomsPansAndMeasures()
         leds->setChecked(true);
         QTRY_COMPARE_WITH_TIMEOUT(view->Picture().size(), display, patience);
         const bool isLarge = display.width() > 1000;
-        QTRY_COMPARE(view->Scale() > smallestLamp, !isLarge);
-        QVERIFY(view->Scale() >= smallestLamp);
+        QTRY_COMPARE(view->Scale() > film::smallestLamp, !isLarge);
+        QVERIFY(view->Scale() >= film::smallestLamp);
     }
     leds->setChecked(false);
     QCOMPARE(view->Zoom(), 0);
@@ -358,25 +359,25 @@ void TestWindow::editsTextsAndPages()
     const auto words = [this] {
         QString all;
         int page = 0;
-        for (const SignText& text : window->GetDocument()->Current().texts) {
+        for (const studio::model::SignText& text : window->GetDocument()->Current().texts) {
             all += text.page != page ? " " : "";
             page = text.page;
             all += text.Title();
         }
         return all;
     };
-    Sign sign = window->GetDocument()->Current();
+    studio::model::Sign sign = window->GetDocument()->Current();
     sign.texts.clear();
     for (const auto& text : QList<QPair<QString, int>>{{"a", 0}, {"b", 0}, {"c", 1}}) {
-        SignText made = NewText({128, 32}, text.second);
+        studio::model::SignText made = studio::model::NewText({128, 32}, text.second);
         made.source.text.text = text.first;
-        AddText(&sign, made);
+        studio::model::AddText(&sign, made);
     }
     window->GetDocument()->Change("Sign", sign);
     QCOMPARE(words(), QString("ab c"));
     QTRY_COMPARE_WITH_TIMEOUT(window->Findings()->Count(), 1, patience); // b covers a
 
-    auto* list = window->findChild<SceneList*>();
+    auto* list = window->findChild<studio::window::shell::SceneList*>();
     const auto row = [&](const QString& title) {
         return list->findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0);
     };
@@ -386,9 +387,9 @@ void TestWindow::editsTextsAndPages()
         const QMimeData data;
         QDropEvent event(QPointF(rect.left() + 4, below ? rect.bottom() : rect.top()),
                          Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        struct Opened : SceneList
+        struct Opened : studio::window::shell::SceneList
         {
-            using SceneList::dropEvent; // Qt calls it only during a drag
+            using studio::window::shell::SceneList::dropEvent; // Qt calls it only during a drag
         };
         (list->*&Opened::dropEvent)(&event);
         QCoreApplication::processEvents();
@@ -426,7 +427,7 @@ void TestWindow::editsTextsAndPages()
     QCOMPARE(words(), QString("cc Name a"));
     QVERIFY(row("Page 2 · Name")); // a page has the title of its first text
     QCOMPARE(Text(2).source.text.text, QString("b"));
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("named.json"));
     QVERIFY(ended.wait(patience));
     QVERIFY(window->Open(folder.Path("named.json")));
@@ -441,11 +442,11 @@ void TestWindow::changesDisplaySize()
     }
     auto* dialog = window->findChild<QDialog*>("new");
     QVERIFY(dialog);
-    const auto choose = [](DisplayForm* form, const char* panel) {
+    const auto choose = [](studio::window::display::DisplayForm* form, const char* panel) {
         form->Presets()->setCurrentText(panel);
         emit form->Presets()->activated(form->Presets()->currentIndex());
     };
-    choose(dialog->findChild<DisplayForm*>(), "128 × 32");
+    choose(dialog->findChild<studio::window::display::DisplayForm*>(), "128 × 32");
     dialog->accept();
     QCOMPARE(window->GetDocument()->Current().display, QSize(128, 32));
     QCOMPARE(Text().node.size, QSize(128, 32));
@@ -454,7 +455,10 @@ void TestWindow::changesDisplaySize()
     QVERIFY(window->GetInspector()->Display()->isVisible());
     choose(window->GetInspector()->Display(), "1920 × 128");
     QCOMPARE(Text().node.size, QSize(1920, 128)); // still fills the display
-    auto* width = window->GetInspector()->Display()->findChildren<NumberField*>().first();
+    auto* width = window->GetInspector()
+                      ->Display()
+                      ->findChildren<studio::window::basics::NumberField*>()
+                      .first();
     width->setFocus();
     width->selectAll();
     QTest::keyClicks(width, "64\r");
@@ -468,7 +472,7 @@ void TestWindow::changesDisplaySize()
 void TestWindow::fitsSmallScreens()
 {
     auto* findings = window->findChild<QDockWidget*>("findings");
-    auto* timeline = window->findChild<Timeline*>();
+    auto* timeline = window->findChild<studio::window::time::Timeline*>();
     for (const QSize& size : {QSize(800, 480), QSize(1024, 600), QSize(1600, 900)}) {
         // The window is wider until its docks become tabs.
         QTRY_VERIFY((window->resize(size), window->size() == size));
@@ -483,7 +487,7 @@ void TestWindow::fitsSmallScreens()
 void TestWindow::keepsWriteProtectedFiles()
 {
     const QString path = folder.Path("fixed.json");
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
     const QByteArray before = folder.Read("fixed.json");
@@ -501,7 +505,7 @@ void TestWindow::keepsWriteProtectedFiles()
 void TestWindow::keysMoveThroughTime()
 {
     QVERIFY(Settles());
-    Playback* time = window->GetPlayback();
+    studio::window::time::Playback* time = window->GetPlayback();
     window->Display()->setFocus();
     const auto press = [&](int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(window->Display(), Qt::Key(key), modifiers);
@@ -514,7 +518,7 @@ void TestWindow::keysMoveThroughTime()
     QCOMPARE(press(Qt::Key_Left), 0);
     const int last = press(Qt::Key_End);
     QCOMPARE(last, time->Length() - 1);
-    const PageTime page = window->GetRehearsal()->GetTiming().texts.first().pages.first();
+    const timing::PageTime page = window->GetRehearsal()->GetTiming().texts.first().pages.first();
     QCOMPARE(press(Qt::Key_BracketLeft), page.hold);
     QCOMPARE(press(Qt::Key_BracketLeft), 0);
     QCOMPARE(press(Qt::Key_BracketRight), page.hold);
@@ -545,7 +549,8 @@ void TestWindow::keysMoveThroughTime()
     }
     // Playing loops over all ticks, or over the range if there is one.
     QVector<int> seen;
-    connect(time, &Playback::TickChanged, this, [&](int tick) { seen.append(tick); });
+    connect(time, &studio::window::time::Playback::TickChanged, this,
+            [&](int tick) { seen.append(tick); });
     const auto plays = [&](int from, const QVector<int>& ticks) {
         time->Seek(from);
         seen.clear();
@@ -562,7 +567,7 @@ void TestWindow::keysMoveThroughTime()
 void TestWindow::mouseMovesAndSizesAreas()
 {
     QVERIFY(Settles());
-    DisplayView* view = window->Display();
+    studio::window::display::DisplayView* view = window->Display();
     const auto at = [&](int x, int y) { return view->ToWidget().map(QPointF(x, y)).toPoint(); };
     const auto drag = [&](QPoint from, QPoint to, Qt::KeyboardModifiers modifiers) {
         QTest::mousePress(view, Qt::LeftButton, Qt::NoModifier, at(from.x(), from.y()));
@@ -592,7 +597,7 @@ void TestWindow::mouseMovesAndSizesAreas()
 void TestWindow::leavingLosesNothing()
 {
     const QString path = folder.Path("left.json");
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
     const auto offer = [&](int index) { window->Notices()->Offers().at(index)->click(); };
@@ -609,7 +614,7 @@ void TestWindow::leavingLosesNothing()
 
     init();
     QVERIFY(window->Open(path));
-    QSignalSpy failed(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy failed(window->GetDocument(), &studio::model::Document::SaveEnded);
     Type("mine");
     folder.Write("left.json", folder.Read("left.json") + "\n");
     window->close();
@@ -626,7 +631,8 @@ void TestWindow::leavingLosesNothing()
 /** For screen readers. */
 void TestWindow::everyWidgetHasAccessibleName()
 {
-    ExportDialog dialog(window->GetDocument()->Current(), QString(), QString());
+    studio::window::shell::ExportDialog dialog(window->GetDocument()->Current(), QString(),
+                                               QString());
     window->findChild<QDockWidget*>("integrator")->show();
     QStringList nameless;
     for (const QWidget* widget :
@@ -651,7 +657,7 @@ void TestWindow::everyWidgetHasAccessibleName()
 void TestWindow::speaksGerman()
 {
     window.reset();
-    Translate(QLocale("de_AT"));
+    studio::window::basics::Translate(QLocale("de_AT"));
     init();
     QCOMPARE(window->menuBar()->actions().first()->text(), QString("&Datei"));
     QCOMPARE(Text().Title(), QString("Ihr Text"));
@@ -664,7 +670,7 @@ void TestWindow::speaksGerman()
                                .toString();
     QVERIFY2(motion.contains("wie getippt"), qPrintable(motion));
     const auto finds = [this](const QString& words) {
-        MotionPicker* picker = window->GetInspector()->Motions();
+        studio::window::motion::MotionPicker* picker = window->GetInspector()->Motions();
         picker->Search()->setText(words);
         return picker->List()->model()->index(0, 0).data().toString();
     };
@@ -676,15 +682,15 @@ void TestWindow::speaksGerman()
 
 void TestWindow::fixesFindings()
 {
-    Sign sign = window->GetDocument()->Current();
-    SignText& text = sign.texts.first();
+    studio::model::Sign sign = window->GetDocument()->Current();
+    studio::model::SignText& text = sign.texts.first();
     text.node.pos = QPoint(100, -8);
     text.node.attributes["AnimationSpeed"] = 12;
     text.node.attributes["PlayTimes"] = 0;
     text.node.attributes["Stroke"] = 1;
     text.source.text.runs.first().font.setPixelSize(56); // a line of 66 pixels, its ink in 64
     window->GetDocument()->Change("Settings", sign);
-    FindingsList* list = window->Findings();
+    studio::window::findings::FindingsList* list = window->Findings();
     QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, patience);
     for (int steps = 0; list->Count() > 0 && steps < 8; ++steps) {
         const int before = list->Count();
@@ -695,18 +701,19 @@ void TestWindow::fixesFindings()
     QCOMPARE(Text().node.pos, QPoint(0, 0));
     QCOMPARE(Text().node.attributes.value("AnimationSpeed").toInt(), 9);
     QVERIFY(!Text().node.attributes.contains("Stroke"));
-    QVERIFY(Text().source.fit == Fit::None);
+    QVERIFY(Text().source.fit == layout::Fit::None);
 }
 
 void TestWindow::fieldsFollowTheArea()
 {
-    Sign sign = window->GetDocument()->Current();
+    studio::model::Sign sign = window->GetDocument()->Current();
     sign.texts.first().node.size = QSize(512, 8); // has no room for the padding of the next
     window->GetDocument()->Change("Low", sign);
     sign.texts.first().node.size = QSize(512, 64);
     sign.texts.first().source.padding = 20;
     window->GetDocument()->Change("High", sign);
-    for (const NumberField* number : window->GetInspector()->findChildren<NumberField*>()) {
+    for (const studio::window::basics::NumberField* number :
+         window->GetInspector()->findChildren<studio::window::basics::NumberField*>()) {
         if (number->accessibleName() == "Padding")
             QCOMPARE(number->Number(), 20);
     }
@@ -715,7 +722,7 @@ void TestWindow::fieldsFollowTheArea()
 
 void TestWindow::fieldsStayInPlaceAndTabIsShort()
 {
-    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    studio::window::text::TextEditor* editor = window->GetInspector()->Text()->Editor();
     window->activateWindow();
     QTRY_VERIFY(editor->hasFocus());
     QTest::keyClick(editor, Qt::Key_Tab);
@@ -723,9 +730,10 @@ void TestWindow::fieldsStayInPlaceAndTabIsShort()
     QTest::keyClick(window->Display(), Qt::Key_Backtab, Qt::ShiftModifier);
     QVERIFY(editor->hasFocus());
     // Scroll speed does not apply to an entrance effect.
-    const QList<NumberField*> numbers = window->GetInspector()->findChildren<NumberField*>();
+    const QList<studio::window::basics::NumberField*> numbers =
+        window->GetInspector()->findChildren<studio::window::basics::NumberField*>();
     int quiet = 0;
-    for (const NumberField* number : numbers)
+    for (const studio::window::basics::NumberField* number : numbers)
         quiet += number->isVisible() && !(number->focusPolicy() & Qt::TabFocus) ? 1 : 0;
     QVERIFY(quiet > 0 && quiet < numbers.size());
 
@@ -736,7 +744,8 @@ void TestWindow::fieldsStayInPlaceAndTabIsShort()
     };
     QVERIFY(Settles());
     const QList<QPoint> before = places();
-    window->Notices()->Set(NoticeBar::Save, "Something happened", {{"Dismiss", {}}});
+    window->Notices()->Set(studio::window::basics::NoticeBar::Save, "Something happened",
+                           {{"Dismiss", {}}});
     editor->insertPlainText(QString::fromUtf8("\xF3\xBF\xBF\x80"));
     QVERIFY(Settles());
     QCoreApplication::processEvents();
@@ -753,7 +762,7 @@ void TestWindow::fieldsStayInPlaceAndTabIsShort()
 
 void TestWindow::recreatesOutlines()
 {
-    TextEditor* editor = window->GetInspector()->Text()->Editor();
+    studio::window::text::TextEditor* editor = window->GetInspector()->Text()->Editor();
     editor->insertPlainText(QString::fromUtf8("a\xF3\xBF\xBF\x80")); // no font has U+FFFC0
     QVERIFY(Settles());
     const QList<QLabel*> notes = window->GetInspector()->Text()->findChildren<QLabel*>();
@@ -761,9 +770,9 @@ void TestWindow::recreatesOutlines()
                         [](QLabel* note) { return note->text().contains("(U+FFFC0)"); }));
     editor->selectAll();
     Type("again");
-    FindingsList* list = window->Findings();
+    studio::window::findings::FindingsList* list = window->Findings();
     QTRY_COMPARE_WITH_TIMEOUT(list->Count(), 0, patience); // none is left of the first text
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("again.json"));
     QVERIFY(ended.wait(patience));
     for (const QString& name :
@@ -782,9 +791,9 @@ void TestWindow::reportsMissingTemporaryFolder()
     QVERIFY(Settles());
     const QByteArray usual = qgetenv("TMPDIR");
     qputenv("TMPDIR", "/proc");
-    const Sign sign = window->GetDocument()->Current();
-    window = std::make_unique<MainWindow>(QString());
-    ExportDialog dialog(sign, QString(), QString());
+    const studio::model::Sign sign = window->GetDocument()->Current();
+    window = std::make_unique<studio::window::shell::MainWindow>(QString());
+    studio::window::shell::ExportDialog dialog(sign, QString(), QString());
     if (usual.isEmpty())
         qunsetenv("TMPDIR");
     else
@@ -793,7 +802,7 @@ void TestWindow::reportsMissingTemporaryFolder()
     window->show();
     QTRY_VERIFY_WITH_TIMEOUT(window->Notices()->Text().contains("/proc:"), patience);
     QVERIFY(window->Notices()->isVisible());
-    QSignalSpy done(&dialog, &ExportDialog::Done);
+    QSignalSpy done(&dialog, &studio::window::shell::ExportDialog::Done);
     dialog.SetOutput(folder.Path("none.gif"));
     dialog.StartButton()->click();
     QVERIFY(done.value(0).value(0) == false);
@@ -803,12 +812,13 @@ void TestWindow::exportsAndCancels()
 {
     Type("Film");
     QVERIFY(Settles());
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("it's.json"));
     QVERIFY(ended.wait(patience));
     for (const char* name : {"film.gif", "frames/"}) {
-        ExportDialog dialog(window->GetDocument()->Current(), folder.Path("it's.json"), QString());
-        QSignalSpy done(&dialog, &ExportDialog::Done);
+        studio::window::shell::ExportDialog dialog(window->GetDocument()->Current(),
+                                                   folder.Path("it's.json"), QString());
+        QSignalSpy done(&dialog, &studio::window::shell::ExportDialog::Done);
         dialog.SetOutput(folder.Path(name) + (QString(name).endsWith('/') ? "/" : ""));
         dialog.StartButton()->click();
         QVERIFY(done.wait(patience));
@@ -822,8 +832,9 @@ void TestWindow::exportsAndCancels()
                  made);
     }
     folder.Write("film.gif", "another's");
-    ExportDialog again(window->GetDocument()->Current(), QString(), QString());
-    QSignalSpy replaced(&again, &ExportDialog::Done);
+    studio::window::shell::ExportDialog again(window->GetDocument()->Current(), QString(),
+                                              QString());
+    QSignalSpy replaced(&again, &studio::window::shell::ExportDialog::Done);
     again.SetOutput(folder.Path("film.gif"));
     again.StartButton()->click();
     QVERIFY(again.StartButton()->isEnabled()); // asks before replacing
@@ -831,10 +842,10 @@ void TestWindow::exportsAndCancels()
     again.StartButton()->click();
     QVERIFY(replaced.wait(patience));
     QVERIFY(folder.Read("film.gif").startsWith("GIF"));
-    Sign endless = window->GetDocument()->Current();
+    studio::model::Sign endless = window->GetDocument()->Current();
     endless.texts.first().node.attributes["PlayTimes"] = 400;
-    ExportDialog dialog(endless, QString(), QString());
-    QSignalSpy done(&dialog, &ExportDialog::Done);
+    studio::window::shell::ExportDialog dialog(endless, QString(), QString());
+    QSignalSpy done(&dialog, &studio::window::shell::ExportDialog::Done);
     dialog.SetOutput(folder.Path("never.mp4"));
     dialog.StartButton()->click();
     QTRY_VERIFY_WITH_TIMEOUT(!dialog.StartButton()->isEnabled(), patience);
@@ -848,7 +859,7 @@ void TestWindow::exportsAndCancels()
 
 void TestWindow::pickerGrowsAndNamesMotions()
 {
-    MotionPicker* picker = window->GetInspector()->Motions();
+    studio::window::motion::MotionPicker* picker = window->GetInspector()->Motions();
     const int before = picker->List()->height();
     window->resize(1600, 1300);
     QTRY_VERIFY(picker->List()->height() > before * 5 / 4);
@@ -863,24 +874,27 @@ void TestWindow::pickerGrowsAndNamesMotions()
     picker->SetListHeight(333);
     window->resize(1600, 900);
     QTRY_COMPARE(picker->List()->height(), 333);
-    QCOMPARE(MotionPicker(nullptr).List()->maximumHeight(), 333); // the next start too
+    QCOMPARE(studio::window::motion::MotionPicker(nullptr).List()->maximumHeight(),
+             333); // the next start too
     QSettings().clear();
 }
 
 void TestWindow::choosesNeonByPicture()
 {
-    auto* box = window->GetInspector()->findChild<NeonBox*>();
+    auto* box = window->GetInspector()->findChild<studio::window::form::NeonBox*>();
     window->GetInspector()->ensureWidgetVisible(box);
     box->showPopup();
     QAbstractItemView* list = box->view();
-    const auto icon = [box](int row) { return box->itemIcon(row).pixmap(thumbnailSize).toImage(); };
+    const auto icon = [box](int row) {
+        return box->itemIcon(row).pixmap(studio::window::motion::thumbnailSize).toImage();
+    };
     for (int row : {0, 4, 12}) { // styles repeat every eight numbers
         list->scrollTo(box->model()->index(row, 0));
         QTRY_VERIFY_WITH_TIMEOUT(!icon(row).isNull(), patience);
-        QCOMPARE(icon(row).size(), thumbnailSize);
+        QCOMPARE(icon(row).size(), studio::window::motion::thumbnailSize);
     }
     list->scrollTo(box->model()->index(0, 0)); // both move: at times they look alike
-    const QRect border(0, 0, thumbnailSize.width(), 2);
+    const QRect border(0, 0, studio::window::motion::thumbnailSize.width(), 2);
     QTRY_VERIFY_WITH_TIMEOUT(icon(0).copy(border) != icon(4).copy(border), patience);
     box->hidePopup();
     box->setFocus();
@@ -889,7 +903,7 @@ void TestWindow::choosesNeonByPicture()
     QTest::keyClick(box, Qt::Key_Up);
     QCOMPARE(Text().node.neonEffect, 28);
     for (int style : {0, 1, 28, 29, 40}) {
-        Sign sign = window->GetDocument()->Current();
+        studio::model::Sign sign = window->GetDocument()->Current();
         sign.texts.first().node.neonEffect = style;
         window->GetDocument()->Change("Neon", sign);
         QCOMPARE(box->currentIndex(), qBound(0, style - 1, 28));
@@ -903,14 +917,15 @@ void TestWindow::exportsPartsAndLeds()
     QVERIFY(Settles());
     window->GetPlayback()->Seek(30);
     QVERIFY(Settles());
-    ExportView view;
+    studio::window::shell::ExportView view;
     view.tick = 30;
     view.loopFirst = 28;
     view.loopLast = 32;
     view.length = window->GetPlayback()->Length();
     const auto exports = [&](int extent, bool lamps, const char* name) {
-        ExportDialog dialog(window->GetDocument()->Current(), QString(), QString(), view);
-        QSignalSpy done(&dialog, &ExportDialog::Done);
+        studio::window::shell::ExportDialog dialog(window->GetDocument()->Current(), QString(),
+                                                   QString(), view);
+        QSignalSpy done(&dialog, &studio::window::shell::ExportDialog::Done);
         dialog.SetOutput(folder.Path(name));
         dialog.Extent()->setCurrentIndex(extent);
         emit dialog.Extent()->activated(extent);
@@ -932,7 +947,7 @@ void TestWindow::exportsPartsAndLeds()
     const QImage seen = on(window->Display()->Picture());
     QCOMPARE(on(QImage(folder.Path("one.png"))), seen);
     QCOMPARE(exports(2, true, "lamps.png"), QString("2048 × 256 px"));
-    QCOMPARE(on(QImage(folder.Path("lamps.png"))), AsLamps(seen, 4, 1.5));
+    QCOMPARE(on(QImage(folder.Path("lamps.png"))), film::AsLamps(seen, 4, 1.5));
     QCOMPARE(exports(1, false, "part/"), QString("512 × 64 px · 0.33 s"));
     QCOMPARE(QDir(folder.Path("part")).entryList(QDir::Files).size(), 5);
     QCOMPARE(on(QImage(folder.Path("part/frame-0030.png"))), seen);
@@ -958,29 +973,29 @@ void TestWindow::describesTimes()
     QFETCH(int, planned);
     QFETCH(int, actual);
     QFETCH(int, lastPage);
-    Translate(QLocale("en"));
-    TextTime text;
-    text.ending = Ending::Finishes;
+    studio::window::basics::Translate(QLocale("en"));
+    studio::worker::TextTime text;
+    text.ending = timing::Ending::Finishes;
     text.planned = planned;
     text.actual = actual;
     text.pages = {{0, 5, lastPage}, {lastPage, lastPage + 5, lastPage + 9}};
-    QTEST(EndsInWords(text), "words");
-    TransportBar bar(window->GetPlayback());
+    QTEST(studio::window::time::EndsInWords(text), "words");
+    studio::window::time::TransportBar bar(window->GetPlayback());
     bar.ShowEnds(&text, QString());
     const QColor color = bar.findChildren<QLabel*>().at(1)->palette().color(QPalette::WindowText);
-    QCOMPARE(color == Warning(bar.palette()), lastPage == 100);
+    QCOMPARE(color == studio::window::basics::Warning(bar.palette()), lastPage == 100);
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
 }
 
 void TestWindow::timelineStopsZoomsAndRepeats()
 {
-    Sign sign = window->GetDocument()->Current();
+    studio::model::Sign sign = window->GetDocument()->Current();
     sign.texts.first().node.attributes["PlayTimes"] = 3;
     window->GetDocument()->Change("Repeats", sign);
     QVERIFY(Settles());
-    auto* timeline = window->findChild<Timeline*>();
+    auto* timeline = window->findChild<studio::window::time::Timeline*>();
     const QImage repeats = timeline->grab().toImage();
-    const Timing timing = window->GetRehearsal()->GetTiming();
+    const studio::worker::Timing timing = window->GetRehearsal()->GetTiming();
     timeline->SetRows({{Text().id, Text().Title(), 1, timing.texts.first()}}, timing.Ticks());
     QVERIFY(timeline->grab().toImage() != repeats); // three pages look different
     window->GetPlayback()->SetPace(1);
@@ -998,7 +1013,7 @@ void TestWindow::timelineStopsZoomsAndRepeats()
 void TestWindow::showsCallsFaultsAndComparison()
 {
     window->findChild<QDockWidget*>("integrator")->show();
-    IntegratorView* view = window->Integrator();
+    studio::window::form::IntegratorView* view = window->Integrator();
     QTRY_VERIFY_WITH_TIMEOUT(view->CallsText().contains("CreatePictureSession"), patience);
     QVERIFY(Settles());
     view->AddFault(Torv::OpCreatePictureSession, 1);
@@ -1013,13 +1028,13 @@ void TestWindow::showsCallsFaultsAndComparison()
 
 void TestWindow::holdsThreeHundredTexts()
 {
-    Sign sign;
+    studio::model::Sign sign;
     sign.display = QSize(512, 512);
     for (int i = 0; i < 300; ++i) {
-        SignText text = NewText(QSize(100, 16), 0);
+        studio::model::SignText text = studio::model::NewText(QSize(100, 16), 0);
         text.node.pos = QPoint(100 * (i % 5), 8 * (i / 5));
         text.source.text.text = QString("Text %1").arg(i);
-        AddText(&sign, text);
+        studio::model::AddText(&sign, text);
     }
     window->GetDocument()->Change("Many", sign);
     QVERIFY(QTest::qWaitFor(
@@ -1030,7 +1045,7 @@ void TestWindow::holdsThreeHundredTexts()
         patience));
     window->Select(window->GetDocument()->Current().texts.at(299).id);
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Text 299"));
-    QSignalSpy ended(window->GetDocument(), &Document::SaveEnded);
+    QSignalSpy ended(window->GetDocument(), &studio::model::Document::SaveEnded);
     window->GetDocument()->Save(folder.Path("many.json"));
     QVERIFY(ended.wait(patience));
     QVERIFY(window->Open(folder.Path("many.json")));
@@ -1044,7 +1059,8 @@ void TestWindow::closesWhileItPaints()
         Type(QString("Closing %1").arg(round));
         window->GetPlayback()->SetPace(1);
         QTRY_VERIFY_WITH_TIMEOUT(window->GetRehearsal()->IsCurrent() || round > 0, patience);
-        window = std::make_unique<MainWindow>(QString()); // destroys the old one while it works
+        window = std::make_unique<studio::window::shell::MainWindow>(
+            QString()); // destroys the old one while it works
         window->New();
     }
 }
@@ -1056,7 +1072,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName("animtext-studio-test");
     const TestFolder settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.Path("settings"));
-    WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
+    studio::worker::WorkerLink::SetProgram(ANIMTEXT_PROGRAMS "/animtext-studio");
     const QStringList words = QCoreApplication::arguments();
     if (words.value(1) == "--photograph")
         return Photograph(words.mid(2));

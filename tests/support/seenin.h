@@ -5,7 +5,7 @@
 #include "live/pictureview.h"
 
 /** The upper left corner of each of the picture's pixels, read back from the painted widget. */
-inline QImage SeenIn(AnimText::PictureView* view)
+inline QImage SeenIn(AnimText::live::PictureView* view)
 {
     const QImage screen = view->grab().toImage();
     QImage seen(view->Picture().size(), QImage::Format_RGB32);

@@ -31,16 +31,16 @@ class TestScenes : public TestFolder
 {
 public:
     /** A node of these wishes, with @p more attributes. */
-    SceneNode Node(const TextWishes& wishes, const QMap<QString, QVariant>& more = {})
+    scene::SceneNode Node(const TextWishes& wishes, const QMap<QString, QVariant>& more = {})
     {
         const int count = wishes.text.size();
         QPainterPath glyph;
         glyph.addRect(2, testDescent - testHeight + 2, wishes.width - 4, testHeight - 4);
         const QString base = QString("node%1").arg(nodes++);
-        Write(base + ".path", PathFile(QVector<QPainterPath>(count, glyph)));
-        Write(base + ".descent", DescentFile(QVector<int>(count, testDescent)));
+        Write(base + ".path", layout::PathFile(QVector<QPainterPath>(count, glyph)));
+        Write(base + ".descent", layout::DescentFile(QVector<int>(count, testDescent)));
 
-        SceneNode node;
+        scene::SceneNode node;
         node.size = wishes.area;
         node.hold = wishes.hold;
         node.attributes = {{"Text", wishes.text},
@@ -64,21 +64,21 @@ public:
     }
 
     /** A scene of @p list in one area. */
-    Scene Of(const QList<SceneNode>& list) const
+    scene::Scene Of(const QList<scene::SceneNode>& list) const
     {
-        Scene scene;
+        scene::Scene scene;
         scene.path = Path("scene.json");
         scene.display = QSize(1, 1);
-        for (const SceneNode& node : list)
+        for (const scene::SceneNode& node : list)
             scene.display = scene.display.expandedTo(node.size);
-        scene.pages = {ScenePage{{SceneArea{list}}}};
+        scene.pages = {scene::ScenePage{{scene::SceneArea{list}}}};
         return scene;
     }
 
     /** Writes the scene. @return its path */
-    QString Save(const Scene& scene, const QString& name = "scene.json")
+    QString Save(const scene::Scene& scene, const QString& name = "scene.json")
     {
-        return Write(name, SceneToJson(scene));
+        return Write(name, scene::SceneToJson(scene));
     }
 
 private:

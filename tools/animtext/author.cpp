@@ -5,17 +5,17 @@
 #include "animtext/shared/cutoff.h"
 #include "animtext/shared/savescene.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
 constexpr int mostListed = 5;   // characters, or words, that are listed
 constexpr int longestWord = 40; // characters of a word that are shown
 
-QStringList UnseenWords(const LaidOut& text)
+QStringList UnseenWords(const layout::LaidOut& text)
 {
     QStringList words;
-    for (const UnseenCharacter& character : text.unseen.mid(0, mostListed)) {
+    for (const layout::UnseenCharacter& character : text.unseen.mid(0, mostListed)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
         const bool isMark = QChar::category(character.codePoint) <= QChar::Mark_Enclosing;
         words.append(QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
@@ -33,7 +33,7 @@ QStringList UnseenWords(const LaidOut& text)
 }
 
 /** What the author should know of words that are split and letters that are cut off. */
-QStringList LossesInWords(const LaidOut& text)
+QStringList LossesInWords(const layout::LaidOut& text)
 {
     QStringList lines;
     QStringList words;
@@ -55,22 +55,22 @@ QStringList LossesInWords(const LaidOut& text)
 }
 
 /** What validate finds, except what the lines above say better. */
-QStringList FindingsInWords(const QList<Finding>& findings)
+QStringList FindingsInWords(const QList<validate::Finding>& findings)
 {
     QStringList lines;
-    for (const Finding& finding : findings) {
-        const bool isIntended = finding.mistake == Mistake::AreasOverlap;
-        if (finding.mistake != Mistake::OutlineEmpty && finding.mistake != Mistake::TextHigh &&
-            !isIntended)
+    for (const validate::Finding& finding : findings) {
+        const bool isIntended = finding.mistake == validate::Mistake::AreasOverlap;
+        if (finding.mistake != validate::Mistake::OutlineEmpty &&
+            finding.mistake != validate::Mistake::TextHigh && !isIntended)
             lines.append(finding.Line());
     }
     return lines;
 }
 
-QByteArray Summary(const QString& path, const AuthoredNode& text)
+QByteArray Summary(const QString& path, const author::AuthoredNode& text)
 {
-    const SceneNode& node = text.node;
-    const NodeMotion motion = MotionOf(node);
+    const scene::SceneNode& node = text.node;
+    const scene::NodeMotion motion = scene::MotionOf(node);
     const QString pages = text.pages == 1 ? "one page" : QStringLiteral("%1 pages").arg(text.pages);
     const auto number = [](int value) { return QString::number(value); };
     const int count = text.styled.text.toUcs4().size();
@@ -83,27 +83,27 @@ QByteArray Summary(const QString& path, const AuthoredNode& text)
         .toUtf8();
 }
 
-int WriteScene(const CommandLine& line)
+int WriteScene(const cli::CommandLine& line)
 {
-    const AuthorRequest request = ReadRequest(line);
-    AuthoredScene authored;
+    const author::AuthorRequest request = shared::ReadRequest(line);
+    author::AuthoredScene authored;
     QString error;
-    const Storing storing = AuthorScene(request, &authored, &error);
+    const author::Storing storing = author::AuthorScene(request, &authored, &error);
     for (const QString& note : authored.notes)
-        Warn(note);
-    EndSaving(storing, authored.stored, error);
+        cli::Warn(note);
+    shared::EndSaving(storing, authored.stored, error);
     const QByteArray summary = Summary(request.path, authored.text);
     for (const QString& words : UnseenWords(authored.text) + LossesInWords(authored.text) +
                                     FindingsInWords(authored.stored.findings))
-        Warn(words);
-    WarnOfCut(authored.stored.scene, authored.stored.scene.At(authored.place));
-    Print(summary);
-    return Done;
+        cli::Warn(words);
+    shared::WarnOfCut(authored.stored.scene, authored.stored.scene.At(authored.place));
+    cli::Print(summary);
+    return files::Done;
 }
 
 } // namespace
 
-Command AuthorCommand()
+cli::Command AuthorCommand()
 {
     return {
         "author",
@@ -113,10 +113,10 @@ Command AuthorCommand()
         0,
         "Lays out the text of --text or --text-file and writes a scene that shows it, with data "
         "files beside the scene. An existing scene with one text is replaced.",
-        LayoutOptions(),
+        shared::LayoutOptions(),
         WriteScene,
         {"animtext author --text \"Platform 4\" --effect SwingEffect -o sign.json",
          "animtext author --text \"Mind the gap\" --scroll left --page 2 -o sign.json"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

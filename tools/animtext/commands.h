@@ -7,25 +7,25 @@
 
 #include "cli/option.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
-Command AuthorCommand();
-Command CompareCommand();
-Command DurationCommand();
-Command EffectsCommand();
-Command FontsCommand();
-Command GalleryCommand();
-Command ListCommand();
-Command PlayCommand();
-Command RemoveCommand();
-Command RenderCommand();
-Command SchemaCommand();
-Command SetCommand();
-Command SheetCommand();
-Command TidyCommand();
-Command TraceCommand();
-Command ValidateCommand();
+cli::Command AuthorCommand();
+cli::Command CompareCommand();
+cli::Command DurationCommand();
+cli::Command EffectsCommand();
+cli::Command FontsCommand();
+cli::Command GalleryCommand();
+cli::Command ListCommand();
+cli::Command PlayCommand();
+cli::Command RemoveCommand();
+cli::Command RenderCommand();
+cli::Command SchemaCommand();
+cli::Command SetCommand();
+cli::Command SheetCommand();
+cli::Command TidyCommand();
+cli::Command TraceCommand();
+cli::Command ValidateCommand();
 
-} // namespace AnimText
+} // namespace AnimText::animtext
 
 #endif

@@ -12,7 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
@@ -21,24 +21,26 @@ bool IsRecording(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw Failure{BadInput,
-                      QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString())};
+        throw files::Failure{
+            files::BadInput,
+            QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString())};
     const QByteArray start = file.read(8);
     return start.startsWith("{\"call\"") || start.startsWith("{\"tick\"");
 }
 
-Recording Open(const QString& path)
+compare::Recording Open(const QString& path)
 {
-    Recording recording;
+    compare::Recording recording;
     QString error;
-    FailUnless(ReadRecording(path, &recording, &error), error, BadInput);
+    files::FailUnless(compare::ReadRecording(path, &recording, &error), error, files::BadInput);
     return recording;
 }
 
 /** Where two recordings differ, in words. */
-QString Tell(const Difference& difference, const Recording& a, const Recording& b)
+QString Tell(const compare::Difference& difference, const compare::Recording& a,
+             const compare::Recording& b)
 {
-    const auto place = [&](const Recording& recording) {
+    const auto place = [&](const compare::Recording& recording) {
         const auto& calls = recording.sessions.value(difference.session);
         const int line = difference.call < calls.size() ? calls.at(difference.call).line : 0;
         return line > 0 ? QStringLiteral(", line %1 of %2").arg(line).arg(recording.name)
@@ -49,59 +51,61 @@ QString Tell(const Difference& difference, const Recording& a, const Recording& 
                               : QStringLiteral("session %1, call %2, at tick %3 (%4 s)")
                                     .arg(difference.session)
                                     .arg(difference.call + 1)
-                                    .arg(difference.ms / tickLength)
+                                    .arg(difference.ms / player::tickLength)
                                     .arg(double(difference.ms) / 1000, 0, 'f', 2);
     return where + place(a) + place(b) + ": " + difference.words;
 }
 
 void Keep(const QImage& picture, const QString& path)
 {
-    WritePng(path, PngOf(picture, true));
-    Print(path.toUtf8() + '\n');
+    film::WritePng(path, film::PngOf(picture, true));
+    cli::Print(path.toUtf8() + '\n');
 }
 
-int Report(const Difference& difference, const Recording& a, const Recording& b)
+int Report(const compare::Difference& difference, const compare::Recording& a,
+           const compare::Recording& b)
 {
     if (difference.words.isEmpty()) {
-        Print(QStringLiteral("%1 and %2 agree: %3 calls, %4 pictures\n")
-                  .arg(a.name, b.name)
-                  .arg(a.hasCalls ? a.All().size() : 0)
-                  .arg(std::min(a.Pictures(), b.Pictures()))
-                  .toUtf8());
-        return Done;
+        cli::Print(QStringLiteral("%1 and %2 agree: %3 calls, %4 pictures\n")
+                       .arg(a.name, b.name)
+                       .arg(a.hasCalls ? a.All().size() : 0)
+                       .arg(std::min(a.Pictures(), b.Pictures()))
+                       .toUtf8());
+        return files::Done;
     }
-    Print(QStringLiteral("%1 and %2 differ: %3\n")
-              .arg(a.name, b.name, Tell(difference, a, b))
-              .toUtf8());
-    return FailedRun;
+    cli::Print(QStringLiteral("%1 and %2 differ: %3\n")
+                   .arg(a.name, b.name, Tell(difference, a, b))
+                   .toUtf8());
+    return files::FailedRun;
 }
 
 /**
  * Plays a scene on the desktop to compare it with a recording. Saves both pictures that differ, and
  * their difference, if the recording has the pixels.
  */
-int CompareWithScene(const CommandLine& line, const QString& log, const QString& scenePath,
+int CompareWithScene(const cli::CommandLine& line, const QString& log, const QString& scenePath,
                      qint64 tolerance)
 {
-    WatchForInterruption();
-    const Scene scene = OpenPlayableScene(line, scenePath);
-    const Playing playing(line);
-    Player player(VirtualDispatcher::Current(), playing.Plugin());
-    Recording recorded = Open(log);
-    FailUnless(recorded.hasCalls,
-               log + " has pictures but no calls; record it with animtext trace --calls", BadInput);
+    cli::WatchForInterruption();
+    const scene::Scene scene = shared::OpenPlayableScene(line, scenePath);
+    const shared::Playing playing(line);
+    player::Player player(player::VirtualDispatcher::Current(), playing.Plugin());
+    compare::Recording recorded = Open(log);
+    files::FailUnless(recorded.hasCalls,
+                      log + " has pictures but no calls; record it with animtext trace --calls",
+                      files::BadInput);
     QString error;
-    const auto play = [&](PicturePlace wanted, QImage* picture) {
-        Recording desk;
-        const auto goOn = [] { return !Interrupted(); };
-        const bool played = PlayOnDesk(&player, scene, playing.Seed(), goOn, &recorded, &desk,
-                                       wanted, picture, &error);
-        StopIfInterrupted();
-        FailUnless(played, error, BadInput);
+    const auto play = [&](compare::PicturePlace wanted, QImage* picture) {
+        compare::Recording desk;
+        const auto goOn = [] { return !cli::Interrupted(); };
+        const bool played = compare::PlayOnDesk(&player, scene, playing.Seed(), goOn, &recorded,
+                                                &desk, wanted, picture, &error);
+        cli::StopIfInterrupted();
+        files::FailUnless(played, error, files::BadInput);
         return desk;
     };
-    const Recording played = play({}, nullptr);
-    const Difference difference = FirstDifference(recorded, played, tolerance);
+    const compare::Recording played = play({}, nullptr);
+    const compare::Difference difference = compare::FirstDifference(recorded, played, tolerance);
     const int status = Report(difference, recorded, played);
     const int number = difference.isPicture
                            ? recorded.sessions.at(difference.session).at(difference.call).pixels
@@ -111,46 +115,47 @@ int CompareWithScene(const CommandLine& line, const QString& log, const QString&
     QImage device;
     QImage desk;
     const QString pixels = QStringLiteral("%1-%2.pam").arg(log).arg(number);
-    FailUnless(ReadPam(pixels, &device, &error), error, BadInput);
+    files::FailUnless(compare::ReadPam(pixels, &device, &error), error, files::BadInput);
     play({difference.session, difference.call}, &desk);
     const QDir folder(line.IsSet("output") ? line.Value("output") : QFileInfo(log).path());
-    FailUnless(MakeFolder(folder.path(), &error), error);
+    files::FailUnless(files::MakeFolder(folder.path(), &error), error);
     const QString base = folder.filePath(QFileInfo(log).completeBaseName());
     Keep(device, base + "-device.png");
     Keep(desk, base + "-desk.png");
-    Keep(DifferenceOf(device, desk), base + "-difference.png");
+    Keep(compare::DifferenceOf(device, desk), base + "-difference.png");
     return status;
 }
 
-int Compare(const CommandLine& line)
+int Compare(const cli::CommandLine& line)
 {
     const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Time("tolerance"));
     const QString first = line.Arguments().at(0);
     if (line.Arguments().size() == 1) {
         if (!QFileInfo(first).isDir())
-            throw Misuse{
+            throw cli::Misuse{
                 QStringLiteral("expected a folder, or what to compare %1 with").arg(first)};
-        return CompareFolder(line, first);
+        return shared::CompareFolder(line, first);
     }
-    for (const Option& option : FolderOptions())
+    for (const cli::Option& option : shared::FolderOptions())
         if (line.IsSet(option.name))
-            throw Misuse{QStringLiteral("--%1 is for a folder of scenes, the only word then")
-                             .arg(QLatin1String(option.name))};
+            throw cli::Misuse{QStringLiteral("--%1 is for a folder of scenes, the only word then")
+                                  .arg(QLatin1String(option.name))};
     const QString second = line.Arguments().at(1);
     if (!IsRecording(second))
         return CompareWithScene(line, first, second, tolerance);
-    Recording a = Open(first);
-    Recording b = Open(second);
-    DropStops(&a, Stops::AtEnd);
-    DropStops(&b, Stops::AtEnd);
-    FailUnless(a.hasCalls == b.hasCalls,
-               "only one recording has calls; record both with animtext trace --calls", BadInput);
-    return Report(FirstDifference(a, b, tolerance), a, b);
+    compare::Recording a = Open(first);
+    compare::Recording b = Open(second);
+    compare::DropStops(&a, compare::Stops::AtEnd);
+    compare::DropStops(&b, compare::Stops::AtEnd);
+    files::FailUnless(a.hasCalls == b.hasCalls,
+                      "only one recording has calls; record both with animtext trace --calls",
+                      files::BadInput);
+    return Report(compare::FirstDifference(a, b, tolerance), a, b);
 }
 
 } // namespace
 
-Command CompareCommand()
+cli::Command CompareCommand()
 {
     return {
         "compare",
@@ -168,19 +173,20 @@ Command CompareCommand()
         "new picture was shown (0 or 1), its width and height, the first 16 digits of its SHA-1 "
         "(-: not compared), the renderer's state and, if it is known, the start of the "
         "background's SHA-1.",
-        WithShowOptions(
-            FolderOptions() +
-            QVector<Option>{
-                Option::Time("tolerance", 0, 1e6,
-                             "Allowed difference of times, counted from a session's first call.")
+        shared::WithShowOptions(
+            shared::FolderOptions() +
+            QVector<cli::Option>{
+                cli::Option::Time(
+                    "tolerance", 0, 1e6,
+                    "Allowed difference of times, counted from a session's first call.")
                     .Or("66ms"),
-                Option::Flag("no-times", "Ignore times."),
-                Option::File("output", "DIR",
-                             "Folder for pictures. Default: beside the first recording.")
+                cli::Option::Flag("no-times", "Ignore times."),
+                cli::Option::File("output", "DIR",
+                                  "Folder for pictures. Default: beside the first recording.")
                     .Letter('o')}),
         Compare,
         {"animtext compare device.log sign.json --no-times -o differences",
          "animtext compare --record ."}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -12,16 +12,17 @@
 #include <cmath>
 #include <cstdlib>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-Json ToJson(const NodePlay& simulation)
+scene::Json ToJson(const timing::NodePlay& simulation)
 {
-    return Json::Object(
+    return scene::Json::Object(
         {{"animationTicks", simulation.animationTicks},
          {"holdTicks", simulation.holdTicks},
-         {"finishedMs", simulation.FinishedMs() < 0 ? Json() : Json(simulation.FinishedMs())}});
+         {"finishedMs",
+          simulation.FinishedMs() < 0 ? scene::Json() : scene::Json(simulation.FinishedMs())}});
 }
 
 QString Seconds(qint64 milliseconds)
@@ -37,7 +38,7 @@ QString Ticks(int number)
 QString Difference(qint64 planned, qint64 actual)
 {
     const qint64 difference = actual - planned;
-    if (std::llabs(difference) <= tickLength)
+    if (std::llabs(difference) <= player::tickLength)
         return "Both times agree to within a tick.";
     QString length = Seconds(std::llabs(difference));
     if (planned > 0)
@@ -49,25 +50,26 @@ QString Difference(qint64 planned, qint64 actual)
         .arg(length);
 }
 
-QString InWords(qint64 planned, const NodePlay& simulation)
+QString InWords(qint64 planned, const timing::NodePlay& simulation)
 {
     switch (simulation.ending) {
-    case Ending::ScrollsOn:
+    case timing::Ending::ScrollsOn:
         return "Actual: the text reports that it has finished when it starts; the device scrolls "
                "it until it is stopped.";
-    case Ending::StandsStill: return "Actual: the text stands still and never finishes.";
-    case Ending::NothingToPlay: return "Actual: there is no text to play.";
-    case Ending::TooLong: return "Actual: the text had not finished when the simulation stopped.";
-    case Ending::Finishes: break;
+    case timing::Ending::StandsStill: return "Actual: the text stands still and never finishes.";
+    case timing::Ending::NothingToPlay: return "Actual: there is no text to play.";
+    case timing::Ending::TooLong:
+        return "Actual: the text had not finished when the simulation stopped.";
+    case timing::Ending::Finishes: break;
     }
     return QStringLiteral("Actual:  %1 (%2 of animation, %3 of holds)\n%4")
         .arg(Seconds(simulation.FinishedMs()), Ticks(simulation.animationTicks),
              Ticks(simulation.holdTicks), Difference(planned, simulation.FinishedMs()));
 }
 
-QByteArray JsonLine(int node, int nodes, qint64 planned, const NodePlay* simulation)
+QByteArray JsonLine(int node, int nodes, qint64 planned, const timing::NodePlay* simulation)
 {
-    Json line = Json::Object();
+    scene::Json line = scene::Json::Object();
     if (nodes > 1)
         line.Add("node", node);
     line.Add("duration", planned);
@@ -76,7 +78,7 @@ QByteArray JsonLine(int node, int nodes, qint64 planned, const NodePlay* simulat
     return line.Text() + '\n';
 }
 
-QByteArray ToText(int node, int nodes, qint64 planned, const NodePlay* simulation)
+QByteArray ToText(int node, int nodes, qint64 planned, const timing::NodePlay* simulation)
 {
     QString text = nodes > 1 ? QStringLiteral("Node %1: ").arg(node) : QString();
     text += QStringLiteral("planned: %1 (%2 ms)\n").arg(Seconds(planned)).arg(planned);
@@ -86,33 +88,36 @@ QByteArray ToText(int node, int nodes, qint64 planned, const NodePlay* simulatio
     return text.toUtf8();
 }
 
-QVector<NodePlay> SimulateAll(Player* player, const Scene& scene, uint seed)
+QVector<timing::NodePlay> SimulateAll(player::Player* player, const scene::Scene& scene, uint seed)
 {
-    Progress progress("simulating tick", 0);
-    WatchForInterruption();
+    cli::Progress progress("simulating tick", 0);
+    cli::WatchForInterruption();
     QString error;
     const auto watch = [&](int tick) {
         progress.Show(tick);
-        StopIfInterrupted();
+        cli::StopIfInterrupted();
         return true;
     };
-    const QVector<NodePlay> simulations = Simulate(player, scene, seed, watch, &error);
-    FailUnless(!simulations.isEmpty(), error, BadInput);
+    const QVector<timing::NodePlay> simulations =
+        timing::Simulate(player, scene, seed, watch, &error);
+    files::FailUnless(!simulations.isEmpty(), error, files::BadInput);
     return simulations;
 }
 
-void PrintTimes(const CommandLine& line, const Playing& playing, const Scene& scene)
+void PrintTimes(const cli::CommandLine& line, const shared::Playing& playing,
+                const scene::Scene& scene)
 {
-    const std::unique_ptr<Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
     const int nodes = player->NodeCount();
     const QVector<qint64> planned = player->Durations();
-    QVector<NodePlay> simulations;
+    QVector<timing::NodePlay> simulations;
     if (line.IsSet("simulate"))
         simulations = SimulateAll(player.get(), scene, playing.Seed());
     for (int node = 0; node < nodes; ++node) {
-        const NodePlay* simulation = simulations.isEmpty() ? nullptr : &simulations.at(node);
+        const timing::NodePlay* simulation =
+            simulations.isEmpty() ? nullptr : &simulations.at(node);
         const auto print = line.IsSet("json") ? JsonLine : ToText;
-        Print(print(node, nodes, planned.at(node), simulation));
+        cli::Print(print(node, nodes, planned.at(node), simulation));
     }
 }
 
@@ -121,32 +126,32 @@ constexpr int speeds[] = {0, 4, 5, 9};
 struct Times
 {
     qint64 planned = 0;
-    NodePlay actual;
+    timing::NodePlay actual;
 };
 
-Times Measure(const Playing& playing, Scene scene, int effect, int speed)
+Times Measure(const shared::Playing& playing, scene::Scene scene, int effect, int speed)
 {
-    SceneNode& node = scene.At({});
-    SetMotion(&node, {Mode::Entrance, effect});
+    scene::SceneNode& node = scene.At({});
+    scene::SetMotion(&node, {scene::Mode::Entrance, effect});
     node.attributes[QStringLiteral("AnimationSpeed")] = speed;
-    const std::unique_ptr<Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
     Times times;
     times.planned = player->Scenery().Node(0)->Duration();
     QString error;
-    const auto goOn = [](int) { return !Interrupted(); };
-    times.actual = Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
-    StopIfInterrupted();
-    FailUnless(error.isEmpty(), error, BadInput);
+    const auto goOn = [](int) { return !cli::Interrupted(); };
+    times.actual = timing::Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
+    cli::StopIfInterrupted();
+    files::FailUnless(error.isEmpty(), error, files::BadInput);
     return times;
 }
 
-QByteArray EffectLine(const Motion& effect, int speed, const Times& times)
+QByteArray EffectLine(const scene::Motion& effect, int speed, const Times& times)
 {
-    return Json::Object({{"effect", effect.number},
-                         {"name", effect.name},
-                         {"speed", speed},
-                         {"duration", times.planned},
-                         {"simulated", ToJson(times.actual)}})
+    return scene::Json::Object({{"effect", effect.number},
+                                {"name", effect.name},
+                                {"speed", speed},
+                                {"duration", times.planned},
+                                {"simulated", ToJson(times.actual)}})
                .Text() +
            '\n';
 }
@@ -184,20 +189,20 @@ QString Heading()
 }
 
 /** The times of the first text of @p scene with every effect. */
-void PrintTable(const Playing& playing, const Scene& scene, bool json)
+void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool json)
 {
-    FailUnless(!scene.Nodes().isEmpty(), scene.path + ": $.pages: expected at least one node",
-               BadInput);
-    const Silence silence;
-    Scene only = scene;
-    only.pages = {ScenePage{{SceneArea{{*scene.Nodes().first()}}}}};
+    files::FailUnless(!scene.Nodes().isEmpty(),
+                      scene.path + ": $.pages: expected at least one node", files::BadInput);
+    const cli::Silence silence;
+    scene::Scene only = scene;
+    only.pages = {scene::ScenePage{{scene::SceneArea{{*scene.Nodes().first()}}}}};
     QString text;
     if (!json)
         text = "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
-    Progress progress("simulating", Effects().size() * qint64(std::size(speeds)));
-    WatchForInterruption();
+    cli::Progress progress("simulating", scene::Effects().size() * qint64(std::size(speeds)));
+    cli::WatchForInterruption();
     qint64 done = 0;
-    for (const Motion& effect : Effects()) {
+    for (const scene::Motion& effect : scene::Effects()) {
         if (!json)
             text += QStringLiteral("%1  %2").arg(effect.number, 3).arg(effect.name, -34);
         for (int speed : speeds) {
@@ -208,23 +213,23 @@ void PrintTable(const Playing& playing, const Scene& scene, bool json)
         if (!json)
             text += '\n';
     }
-    Print(text.toUtf8());
+    cli::Print(text.toUtf8());
 }
 
-int PrintDuration(const CommandLine& line)
+int PrintDuration(const cli::CommandLine& line)
 {
-    const Scene scene = OpenPlayableScene(line, line.Arguments().first());
-    const Playing playing(line);
+    const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
+    const shared::Playing playing(line);
     if (line.IsSet("table"))
         PrintTable(playing, scene, line.IsSet("json"));
     else
         PrintTimes(line, playing, scene);
-    return Done;
+    return files::Done;
 }
 
 } // namespace
 
-Command DurationCommand()
+cli::Command DurationCommand()
 {
     return {
         "duration",
@@ -235,13 +240,15 @@ Command DurationCommand()
         "Prints the planned time of each text, which the host asks for before it plays a scene. "
         "With --simulate, also prints the actual time. If the text needs longer than planned, the "
         "sign cuts off its end.",
-        WithShowOptions(
-            {Option::Flag("simulate", "Play the scene on virtual time to find the actual time."),
-             Option::Flag("table", "Print both times of the first text for every entrance effect "
-                                   "at speeds 0, 4, 5 and 9."),
-             Option::Flag("json", "Print a JSON line for each text.")}),
+        shared::WithShowOptions(
+            {cli::Option::Flag("simulate",
+                               "Play the scene on virtual time to find the actual time."),
+             cli::Option::Flag("table",
+                               "Print both times of the first text for every entrance effect "
+                               "at speeds 0, 4, 5 and 9."),
+             cli::Option::Flag("json", "Print a JSON line for each text.")}),
         PrintDuration,
         {"animtext duration sign.json --simulate", "animtext duration sign.json --table"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -9,14 +9,14 @@
 #include <algorithm>
 #include <iterator>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-QJsonArray ToJson(const QList<Motion>& motions)
+QJsonArray ToJson(const QList<scene::Motion>& motions)
 {
     QJsonArray array;
-    for (const Motion& motion : motions)
+    for (const scene::Motion& motion : motions)
         array.append(QJsonObject{
             {"number", motion.number},
             {"title", motion.title},
@@ -27,7 +27,7 @@ QJsonArray ToJson(const QList<Motion>& motions)
     return array;
 }
 
-QByteArray ToTable(const char* heading, const QList<Motion>& motions)
+QByteArray ToTable(const char* heading, const QList<scene::Motion>& motions)
 {
     if (motions.isEmpty())
         return QByteArray();
@@ -37,38 +37,40 @@ QByteArray ToTable(const char* heading, const QList<Motion>& motions)
             .toUtf8();
     };
     QByteArray table = line("no", heading, "name", "what people see");
-    for (const Motion& motion : motions)
+    for (const scene::Motion& motion : motions)
         table += line(QString::number(motion.number), motion.title, motion.name, motion.summary);
     return table;
 }
 
-QList<Motion> Found(const QList<Motion>& motions, const QString& search)
+QList<scene::Motion> Found(const QList<scene::Motion>& motions, const QString& search)
 {
-    QList<Motion> found;
+    QList<scene::Motion> found;
     std::copy_if(motions.begin(), motions.end(), std::back_inserter(found),
-                 [&](const Motion& motion) { return Matches(motion, search); });
+                 [&](const scene::Motion& motion) { return scene::Matches(motion, search); });
     return found;
 }
 
-int ListEffects(const CommandLine& line)
+int ListEffects(const cli::CommandLine& line)
 {
     const QString search = line.Arguments().join(QLatin1Char(' '));
-    const QList<Motion> effects = Found(Effects(), search);
-    const QList<Motion> scrolls = Found(Scrolls(), search);
+    const QList<scene::Motion> effects = Found(scene::Effects(), search);
+    const QList<scene::Motion> scrolls = Found(scene::Scrolls(), search);
     if (effects.isEmpty() && scrolls.isEmpty())
-        throw Failure{FailedRun, QStringLiteral("no motion matches \"%1\"").arg(search)};
+        throw files::Failure{files::FailedRun,
+                             QStringLiteral("no motion matches \"%1\"").arg(search)};
     if (line.IsSet("json")) {
-        Print(QJsonDocument({{"effects", ToJson(effects)}, {"scrolls", ToJson(scrolls)}}).toJson());
-        return Done;
+        cli::Print(
+            QJsonDocument({{"effects", ToJson(effects)}, {"scrolls", ToJson(scrolls)}}).toJson());
+        return files::Done;
     }
     const QByteArray gap = effects.isEmpty() || scrolls.isEmpty() ? "" : "\n";
-    Print(ToTable("effect", effects) + gap + ToTable("scroll", scrolls));
-    return Done;
+    cli::Print(ToTable("effect", effects) + gap + ToTable("scroll", scrolls));
+    return files::Done;
 }
 
 } // namespace
 
-Command EffectsCommand()
+cli::Command EffectsCommand()
 {
     return {
         "effects",
@@ -78,10 +80,10 @@ Command EffectsCommand()
         20,
         "Lists the entrance effects and scrolls with their numbers and names, or only those that "
         "match every WORD, such as bounce or ticker.",
-        {Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
+        {cli::Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
         ListEffects,
         {"animtext effects", "animtext effects bounce --json"},
         {"bounce", "fly", "grow", "scroll", "spin", "ticker", "typewriter", "zoom"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -4,24 +4,26 @@
 #include "cli/commandline.h"
 #include "scene/suggest.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-int Fonts(const CommandLine& line)
+int Fonts(const cli::CommandLine& line)
 {
     const QString filter = line.Arguments().value(0);
-    const QStringList families = FontFamilies(filter);
+    const QStringList families = scene::FontFamilies(filter);
     if (families.isEmpty())
-        throw Failure{FailedRun, QStringLiteral("no installed font family contains \"%1\"%2")
-                                     .arg(filter, DidYouMeanOneOf(filter, FontFamilies()))};
-    Print(families.join(QLatin1Char('\n')).toUtf8() + '\n');
-    return Done;
+        throw files::Failure{
+            files::FailedRun,
+            QStringLiteral("no installed font family contains \"%1\"%2")
+                .arg(filter, scene::DidYouMeanOneOf(filter, scene::FontFamilies()))};
+    cli::Print(families.join(QLatin1Char('\n')).toUtf8() + '\n');
+    return files::Done;
 }
 
 } // namespace
 
-Command FontsCommand()
+cli::Command FontsCommand()
 {
     return {"fonts",
             "list installed fonts",
@@ -34,4 +36,4 @@ Command FontsCommand()
             {"animtext fonts", "animtext fonts dejavu"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

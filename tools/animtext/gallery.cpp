@@ -8,7 +8,7 @@
 
 #include <QMap>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
@@ -16,7 +16,7 @@ namespace {
 const QStringList textOptions{"text",      "font",  "size",   "bold", "italic",
                               "underline", "color", "hollow", "hold", "area"};
 
-bool IsTextOption(const Option& option)
+bool IsTextOption(const cli::Option& option)
 {
     return textOptions.contains(option.name);
 }
@@ -28,66 +28,67 @@ QString Quoted(QString word)
 }
 
 /** The options of `animtext author` for the same text, as typed. */
-QString WordsOf(const Command& command, const CommandLine& line)
+QString WordsOf(const cli::Command& command, const cli::CommandLine& line)
 {
     QStringList words;
-    for (const Option& option : command.options) {
+    for (const cli::Option& option : command.options) {
         if (!IsTextOption(option) || !(line.IsSet(option.name) || option.standard))
             continue;
         words.append(QStringLiteral("--") + QLatin1String(option.name));
-        if (option.kind != Kind::Flag)
+        if (option.kind != cli::Kind::Flag)
             words.append(Quoted(line.Value(option.name)));
     }
     return words.join(QLatin1Char(' '));
 }
 
-int MakeGallery(const CommandLine& line)
+int MakeGallery(const cli::CommandLine& line)
 {
-    GalleryOptions options;
+    gallery::GalleryOptions options;
     options.words = WordsOf(GalleryCommand(), line);
     options.folder = line.Value("output");
-    options.node = ReadLook(line);
+    options.node = shared::ReadLook(line);
     options.node.attributes[QStringLiteral("PlayTimes")] = 1;
-    WrittenText typed = ReadWritten(line);
+    author::WrittenText typed = shared::ReadWritten(line);
     typed.words = line.Value("text");
     QString error;
     QStringList notes;
-    if (!ReadText(typed, &options.text, &notes, &error))
-        throw Misuse{error};
+    if (!author::ReadText(typed, &options.text, &notes, &error))
+        throw cli::Misuse{error};
     for (const QString& note : notes)
-        Warn(note);
-    const Playing playing(line);
+        cli::Warn(note);
+    const shared::Playing playing(line);
     options.seed = playing.Seed();
 
-    WatchForInterruption();
+    cli::WatchForInterruption();
     qint64 bytes = 0;
-    Player player(VirtualDispatcher::Current(), playing.Plugin());
-    std::unique_ptr<Progress> progress;
+    player::Player player(player::VirtualDispatcher::Current(), playing.Plugin());
+    std::unique_ptr<cli::Progress> progress;
     const auto watch = [&](int done, int all) {
         if (!progress)
-            progress = std::make_unique<Progress>("playing", all);
+            progress = std::make_unique<cli::Progress>("playing", all);
         progress->Show(done);
-        return !Interrupted();
+        return !cli::Interrupted();
     };
-    const bool written = WriteGallery(options, &player, watch, &bytes, &error);
+    const bool written = gallery::WriteGallery(options, &player, watch, &bytes, &error);
     progress.reset();
-    StopIfInterrupted();
-    FailUnless(written, error);
-    Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")
-              .arg(options.folder)
-              .arg(double(bytes) / 1e6, 0, 'f', 1)
-              .toUtf8());
-    return Done;
+    cli::StopIfInterrupted();
+    files::FailUnless(written, error);
+    cli::Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")
+                   .arg(options.folder)
+                   .arg(double(bytes) / 1e6, 0, 'f', 1)
+                   .toUtf8());
+    return files::Done;
 }
 
 } // namespace
 
-Command GalleryCommand()
+cli::Command GalleryCommand()
 {
-    QVector<Option> own{Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
+    QVector<cli::Option> own{
+        cli::Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
     const QMap<QString, const char*> standards{
         {"text", "Welcome aboard!"}, {"area", "240x48"}, {"hold", "1s"}};
-    for (Option option : LayoutOptions()) {
+    for (cli::Option option : shared::LayoutOptions()) {
         if (IsTextOption(option))
             own.append(option.Or(standards.value(option.name, option.standard)));
     }
@@ -98,10 +99,10 @@ Command GalleryCommand()
             0,
             "Plays a text with every motion at every speed and writes a web page that shows them. "
             "Open index.html in any browser; the page works without a server or a network.",
-            WithPlayOptions(own),
+            shared::WithPlayOptions(own),
             MakeGallery,
             {"animtext gallery -o gallery",
              "animtext gallery --text \"Platform 4\" --area 96x24 -o gallery"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -7,28 +7,28 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
 constexpr int longestText = 40; // characters of a text that are listed
 
-QString MotionName(const SceneNode& node)
+QString MotionName(const scene::SceneNode& node)
 {
-    const Motion* motion = MotionOf(node).Row();
+    const scene::Motion* motion = scene::MotionOf(node).Row();
     return motion ? QString(motion->name) : "unknown";
 }
 
-int SpeedOf(const SceneNode& node)
+int SpeedOf(const scene::SceneNode& node)
 {
-    return node.attributes.value(MotionOf(node).SpeedKey()).toInt();
+    return node.attributes.value(scene::MotionOf(node).SpeedKey()).toInt();
 }
 
-QByteArray AsJson(const Scene& scene)
+QByteArray AsJson(const scene::Scene& scene)
 {
     QJsonArray texts;
-    for (const Place& place : scene.Places()) {
-        const SceneNode& node = scene.At(place);
+    for (const scene::Place& place : scene.Places()) {
+        const scene::SceneNode& node = scene.At(place);
         texts.append(QJsonObject{{"number", texts.size() + 1},
                                  {"path", place.Path()},
                                  {"page", place.page + 1},
@@ -43,12 +43,12 @@ QByteArray AsJson(const Scene& scene)
     return QJsonDocument(texts).toJson(QJsonDocument::Indented);
 }
 
-QByteArray AsText(const Scene& scene)
+QByteArray AsText(const scene::Scene& scene)
 {
     QByteArray text;
     int number = 0;
-    for (const Place& place : scene.Places()) {
-        const SceneNode& node = scene.At(place);
+    for (const scene::Place& place : scene.Places()) {
+        const scene::SceneNode& node = scene.At(place);
         QString words = node.attributes.value("Text").toString().simplified();
         if (words.size() > longestText)
             words = words.left(longestText - 3) + "...";
@@ -69,20 +69,20 @@ QByteArray AsText(const Scene& scene)
     return text;
 }
 
-int List(const CommandLine& line)
+int List(const cli::CommandLine& line)
 {
     const QString path = line.Arguments().first();
-    Scene scene;
+    scene::Scene scene;
     QString error;
-    if (!ReadScene(path, &scene, &error, MissingFiles::AreAccepted))
-        throw Failure{BadInput, error};
-    Print(line.IsSet("json") ? AsJson(scene) : AsText(scene));
-    return Done;
+    if (!scene::ReadScene(path, &scene, &error, scene::MissingFiles::AreAccepted))
+        throw files::Failure{files::BadInput, error};
+    cli::Print(line.IsSet("json") ? AsJson(scene) : AsText(scene));
+    return files::Done;
 }
 
 } // namespace
 
-Command ListCommand()
+cli::Command ListCommand()
 {
     return {"list",
             "list the texts in a scene",
@@ -90,9 +90,9 @@ Command ListCommand()
             1,
             1,
             "Lists the texts in a scene with their numbers, pages, areas, motions and times.",
-            {Option::Flag("json", "Print a JSON list.")},
+            {cli::Option::Flag("json", "Print a JSON list.")},
             List,
             {"animtext list sign.json", "animtext list sign.json --json"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

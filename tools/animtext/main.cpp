@@ -22,53 +22,54 @@ using namespace AnimText;
 
 const QStringList shells{"bash", "zsh", "fish"};
 
-const QVector<Command>& Commands();
+const QVector<cli::Command>& Commands();
 
 QStringList CommandNames()
 {
     QStringList names;
-    for (const Command& command : Commands())
+    for (const cli::Command& command : Commands())
         names.append(QLatin1String(command.name));
     return names;
 }
 
-const Command& FindCommand(const QString& name)
+const cli::Command& FindCommand(const QString& name)
 {
-    for (const Command& command : Commands()) {
+    for (const cli::Command& command : Commands()) {
         if (name == QLatin1String(command.name))
             return command;
     }
-    throw Misuse{
-        QStringLiteral("unknown command \"%1\"%2").arg(name, DidYouMean(name, CommandNames()))};
+    throw cli::Misuse{QStringLiteral("unknown command \"%1\"%2")
+                          .arg(name, scene::DidYouMean(name, CommandNames()))};
 }
 
-int Help(const CommandLine& line)
+int Help(const cli::CommandLine& line)
 {
     if (line.IsSet("man")) {
-        WriteManual(Commands(), line.Value("man"));
-        return Done;
+        cli::WriteManual(Commands(), line.Value("man"));
+        return files::Done;
     }
     const QString name = line.Arguments().value(0);
-    Print(name.isEmpty() ? Overview(Commands()) : HelpText(FindCommand(name)));
-    return Done;
+    cli::Print(name.isEmpty() ? cli::Overview(Commands()) : cli::HelpText(FindCommand(name)));
+    return files::Done;
 }
 
-int Complete(const CommandLine& line)
+int Complete(const cli::CommandLine& line)
 {
     const QString shell = line.Arguments().first();
     if (!shells.contains(shell))
-        throw Misuse{QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
-    Print(shell == "bash"  ? CompletionForBash(Commands())
-          : shell == "zsh" ? CompletionForZsh(Commands())
-                           : CompletionForFish(Commands()));
-    return Done;
+        throw cli::Misuse{
+            QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
+    cli::Print(shell == "bash"  ? cli::CompletionForBash(Commands())
+               : shell == "zsh" ? cli::CompletionForZsh(Commands())
+                                : cli::CompletionForFish(Commands()));
+    return files::Done;
 }
 
-const QVector<Command>& Commands()
+const QVector<cli::Command>& Commands()
 {
-    static QVector<Command> commands;
+    static QVector<cli::Command> commands;
     if (commands.isEmpty()) {
-        const Command completion{
+        const cli::Command completion{
             "completion",
             "print a completion script for a shell",
             "bash|zsh|fish",
@@ -80,25 +81,37 @@ const QVector<Command>& Commands()
             Complete,
             {"source <(animtext completion bash)", "animtext completion zsh >_animtext"},
             shells};
-        commands = {AuthorCommand(),   ListCommand(),   SetCommand(),     RemoveCommand(),
-                    TidyCommand(),     PlayCommand(),   RenderCommand(),  SheetCommand(),
-                    GalleryCommand(),  TraceCommand(),  CompareCommand(), DurationCommand(),
-                    ValidateCommand(), SchemaCommand(), EffectsCommand(), FontsCommand(),
+        commands = {animtext::AuthorCommand(),
+                    animtext::ListCommand(),
+                    animtext::SetCommand(),
+                    animtext::RemoveCommand(),
+                    animtext::TidyCommand(),
+                    animtext::PlayCommand(),
+                    animtext::RenderCommand(),
+                    animtext::SheetCommand(),
+                    animtext::GalleryCommand(),
+                    animtext::TraceCommand(),
+                    animtext::CompareCommand(),
+                    animtext::DurationCommand(),
+                    animtext::ValidateCommand(),
+                    animtext::SchemaCommand(),
+                    animtext::EffectsCommand(),
+                    animtext::FontsCommand(),
                     completion};
-        Command help{
-            "help",
-            "show help for a command",
-            "[COMMAND]",
-            0,
-            1,
-            "Shows what a command does, its options and examples.",
-            {Option::File("man", "FOLDER", "Write the man pages of all commands to a folder.")},
-            Help,
-            {"animtext help render", "animtext help --man man"},
-            CommandNames()};
+        cli::Command help{"help",
+                          "show help for a command",
+                          "[COMMAND]",
+                          0,
+                          1,
+                          "Shows what a command does, its options and examples.",
+                          {cli::Option::File("man", "FOLDER",
+                                             "Write the man pages of all commands to a folder.")},
+                          Help,
+                          {"animtext help render", "animtext help --man man"},
+                          CommandNames()};
         commands.append(help);
-        for (Command& command : commands)
-            command.options.append(Option::Flag("help", "Show this help.").Letter('h'));
+        for (cli::Command& command : commands)
+            command.options.append(cli::Option::Flag("help", "Show this help.").Letter('h'));
     }
     return commands;
 }
@@ -106,23 +119,24 @@ const QVector<Command>& Commands()
 int Run(QString name, const QStringList& words)
 {
     if (name.isEmpty())
-        throw Misuse{QStringLiteral("expected a command")};
+        throw cli::Misuse{QStringLiteral("expected a command")};
     if (name == QLatin1String("--version")) {
-        Print("animtext " ANIMTEXT_VERSION "\n");
-        return Done;
+        cli::Print("animtext " ANIMTEXT_VERSION "\n");
+        return files::Done;
     }
     if (name == QLatin1String("--help") || name == QLatin1String("-h"))
         name = QStringLiteral("help");
-    const Command& command = FindCommand(name);
+    const cli::Command& command = FindCommand(name);
     try {
-        const CommandLine line(command, words);
+        const cli::CommandLine line(command, words);
         if (!line.IsSet("help"))
             return command.run(line);
-        Print(HelpText(command));
-        return Done;
-    } catch (const Misuse& misuse) {
-        throw Failure{BadInput, QStringLiteral("%1 (see animtext help %2)")
-                                    .arg(misuse.message, QLatin1String(command.name))};
+        cli::Print(cli::HelpText(command));
+        return files::Done;
+    } catch (const cli::Misuse& misuse) {
+        throw files::Failure{files::BadInput,
+                             QStringLiteral("%1 (see animtext help %2)")
+                                 .arg(misuse.message, QLatin1String(command.name))};
     }
 }
 
@@ -130,14 +144,14 @@ int RunAndReport(const QStringList& words)
 {
     try {
         const int status = Run(words.value(0), words.mid(1));
-        FlushOutput();
+        cli::FlushOutput();
         return status;
-    } catch (const Misuse& misuse) {
-        Warn(misuse.message + QStringLiteral(" (see animtext help)"));
-        return BadInput;
-    } catch (const Failure& failure) {
-        Warn(failure.message);
-        return Interrupted() ? InterruptionStatus() : failure.status;
+    } catch (const cli::Misuse& misuse) {
+        cli::Warn(misuse.message + QStringLiteral(" (see animtext help)"));
+        return files::BadInput;
+    } catch (const files::Failure& failure) {
+        cli::Warn(failure.message);
+        return cli::Interrupted() ? cli::InterruptionStatus() : failure.status;
     }
 }
 
@@ -145,8 +159,8 @@ int RunAndReport(const QStringList& words)
 
 int main(int argc, char** argv)
 {
-    InstallMessages();
-    EndAtInterruption();
+    cli::InstallMessages();
+    cli::EndAtInterruption();
 #if QT_VERSION < 0x060000
     // File names are UTF-8 even where no locale is set, as in containers.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -157,8 +171,8 @@ int main(int argc, char** argv)
         // A byte order mark is a character of a text; Qt drops it at the beginning.
         words.append(QString::fromUtf8(QByteArray(argv[i]).prepend('-')).mid(1));
         if (words.last().toUtf8() != argv[i]) {
-            Warn(QStringLiteral("%1: expected UTF-8").arg(words.last()));
-            return BadInput;
+            cli::Warn(QStringLiteral("%1: expected UTF-8").arg(words.last()));
+            return files::BadInput;
         }
     }
     // PlayLive() makes its own application. No other command shows a window, so none may
@@ -167,7 +181,7 @@ int main(int argc, char** argv)
         return RunAndReport(words);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_QPA_PLATFORMTHEME");
-    QCoreApplication::setEventDispatcher(new VirtualDispatcher);
+    QCoreApplication::setEventDispatcher(new player::VirtualDispatcher);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
     // Without XDG_RUNTIME_DIR Qt makes a folder in TMPDIR, which nothing here needs.

@@ -12,27 +12,27 @@
 #include <QFileInfo>
 #include <QScreen>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
 constexpr int lookTime = 100; // milliseconds between checks for a signal
 
 /** Plays the changed scene; if it cannot be read, the previous one continues. */
-void Reload(const CommandLine& line, LivePlayer* player, SceneWatcher* watcher,
-            const LiveSettings& settings)
+void Reload(const cli::CommandLine& line, live::LivePlayer* player, live::SceneWatcher* watcher,
+            const live::LiveSettings& settings)
 {
     try {
-        const Scene scene = OpenPlayableScene(line, line.Arguments().first());
+        const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
         watcher->Watch(scene);
         QString error;
-        FailUnless(player->Play(scene, settings, &error), error, BadInput);
-    } catch (const Failure& failure) {
-        Warn(failure.message + QStringLiteral(" (still playing the previous version)"));
+        files::FailUnless(player->Play(scene, settings, &error), error, files::BadInput);
+    } catch (const files::Failure& failure) {
+        cli::Warn(failure.message + QStringLiteral(" (still playing the previous version)"));
     }
 }
 
-QByteArray Report(const Punctuality& kept)
+QByteArray Report(const live::Punctuality& kept)
 {
     return QStringLiteral("played %1 s, %2 ticks: %3 pictures of the first text; screen at most %4 "
                           "ms late, %5 ticks delivered late\n")
@@ -44,9 +44,9 @@ QByteArray Report(const Punctuality& kept)
         .toUtf8();
 }
 
-int PlayLive(const CommandLine& line)
+int PlayLive(const cli::CommandLine& line)
 {
-    CheckLightOptions(line);
+    shared::CheckLightOptions(line);
     const bool hasWindow = !line.IsSet("to") || line.IsSet("window");
     if (!hasWindow)
         qputenv("QT_QPA_PLATFORM", "offscreen"); // the machine may have no display
@@ -55,25 +55,25 @@ int PlayLive(const CommandLine& line)
     char* words[] = {name, nullptr};
     const QApplication application(count, words);
     QCoreApplication::setApplicationName(QLatin1String(name));
-    FailUnless(QGuiApplication::primaryScreen(), NoDisplay());
+    files::FailUnless(QGuiApplication::primaryScreen(), cli::NoDisplay());
 
     if (line.IsSet("test-pattern"))
-        return PlayTestPattern(line);
+        return shared::PlayTestPattern(line);
 
     const QString path = line.Arguments().first();
-    const Scene scene = OpenPlayableScene(line, path);
-    const Playing playing(line);
-    LiveSettings settings;
+    const scene::Scene scene = shared::OpenPlayableScene(line, path);
+    const shared::Playing playing(line);
+    live::LiveSettings settings;
     settings.loop = line.IsSet("loop");
     settings.schedule = line.IsSet("schedule");
     settings.seed = playing.Seed();
 
-    Lights lights;
-    AddLights(line, scene.display, &lights);
+    lights::Lights lights;
+    shared::AddLights(line, scene.display, &lights);
 
-    LivePlayer player(playing.Plugin());
-    QObject::connect(&player, &LivePlayer::Shown, &lights, &Lights::Show);
-    LiveWindow window(&player);
+    live::LivePlayer player(playing.Plugin());
+    QObject::connect(&player, &live::LivePlayer::Shown, &lights, &lights::Lights::Show);
+    live::LiveWindow window(&player);
     if (line.IsSet("zoom"))
         window.SetZoom(line.Number("zoom"));
     if (line.IsSet("leds"))
@@ -81,69 +81,70 @@ int PlayLive(const CommandLine& line)
     if (hasWindow)
         window.Open(QFileInfo(path).fileName(), scene.display, line.IsSet("fullscreen"));
     else if (!line.IsSet("watch"))
-        QObject::connect(&player, &LivePlayer::Ended, &application, &QCoreApplication::quit);
+        QObject::connect(&player, &live::LivePlayer::Ended, &application, &QCoreApplication::quit);
 
-    SceneWatcher watcher;
+    live::SceneWatcher watcher;
     if (line.IsSet("watch")) {
-        QObject::connect(&watcher, &SceneWatcher::Changed, &player,
+        QObject::connect(&watcher, &live::SceneWatcher::Changed, &player,
                          [&] { Reload(line, &player, &watcher, settings); });
         watcher.Watch(scene);
     }
-    WatchForInterruption();
+    cli::WatchForInterruption();
     QTimer look;
     const qint64 end = line.IsSet("seconds") ? qint64(line.Time("seconds")) : -1;
     QElapsedTimer shown;
     QObject::connect(&look, &QTimer::timeout, &application, [&] {
-        if (Interrupted() || (end >= 0 && shown.elapsed() >= end))
+        if (cli::Interrupted() || (end >= 0 && shown.elapsed() >= end))
             QCoreApplication::quit();
     });
     look.start(lookTime);
 
     QString error;
     shown.start();
-    FailUnless(player.Play(scene, settings, &error), error, BadInput);
+    files::FailUnless(player.Play(scene, settings, &error), error, files::BadInput);
     QApplication::exec();
     lights.End();
     if (line.IsSet("timing"))
-        Print(Report(player.Kept()) + lights.Report());
-    StopIfInterrupted();
-    return Done;
+        cli::Print(Report(player.Kept()) + lights.Report());
+    cli::StopIfInterrupted();
+    return files::Done;
 }
 
 } // namespace
 
-Command PlayCommand()
+cli::Command PlayCommand()
 {
-    return {"play",
-            "play a scene live in a window or on LEDs",
-            "SCENE.json",
-            0,
-            1,
-            "Plays a scene in real time, in a window. Space pauses, F switches to full screen and "
-            "Esc quits. At the end the last picture stays; press Space to play again. --to plays "
-            "on LED controllers in the network instead of in a window. Set QT_QPA_PLATFORM to "
-            "linuxfb to play on a board's own screen without a desktop, or to vnc for VNC viewers.",
-            WithShowOptions(
-                {Option::Flag("loop", "Repeat until stopped."),
-                 Option::Flag("schedule",
-                              "Play like the host: pages, and texts in an area, one after another, "
-                              "each for its planned time. Default: all texts at once."),
-                 Option::Flag("fullscreen", "Fill the screen."),
-                 Option::Number("zoom", 1, 64,
-                                "Screen pixels per display pixel. Default: as many as fit."),
-                 Option::Fraction(
-                     "leds", 1, 4, "PITCH",
-                     "Draw round LEDs, PITCH times their diameter apart. Without PITCH: 1.25.")
-                     .Alone("1.25"),
-                 Option::Flag("watch", "Restart when the scene or its data files change."),
-                 Option::Time("seconds", 0.1, 86400 * 366.0,
-                              "Stop after this time, such as 10s or 90min. Default: no limit."),
-                 Option::Flag("timing",
-                              "Print at the end how well the play kept up with the clock.")}) +
-                LightOptions(),
-            PlayLive,
-            {"animtext play sign.json --loop --leds",
-             "animtext play sign.json --to ddp://192.168.1.50 --gamma"}};
+    return {
+        "play",
+        "play a scene live in a window or on LEDs",
+        "SCENE.json",
+        0,
+        1,
+        "Plays a scene in real time, in a window. Space pauses, F switches to full screen and "
+        "Esc quits. At the end the last picture stays; press Space to play again. --to plays "
+        "on LED controllers in the network instead of in a window. Set QT_QPA_PLATFORM to "
+        "linuxfb to play on a board's own screen without a desktop, or to vnc for VNC viewers.",
+        shared::WithShowOptions(
+            {cli::Option::Flag("loop", "Repeat until stopped."),
+             cli::Option::Flag(
+                 "schedule", "Play like the host: pages, and texts in an area, one after another, "
+                             "each for its planned time. Default: all texts at once."),
+             cli::Option::Flag("fullscreen", "Fill the screen."),
+             cli::Option::Number("zoom", 1, 64,
+                                 "Screen pixels per display pixel. Default: as many as fit."),
+             cli::Option::Fraction(
+                 "leds", 1, 4, "PITCH",
+                 "Draw round LEDs, PITCH times their diameter apart. Without PITCH: 1.25.")
+                 .Alone("1.25"),
+             cli::Option::Flag("watch", "Restart when the scene or its data files change."),
+             cli::Option::Time("seconds", 0.1, 86400 * 366.0,
+                               "Stop after this time, such as 10s or 90min. Default: no limit."),
+             cli::Option::Flag("timing",
+                               "Print at the end how well the play kept up with the clock.")}) +
+            shared::LightOptions(),
+        PlayLive,
+        {"animtext play sign.json --loop --leds",
+         "animtext play sign.json --to ddp://192.168.1.50 --gamma"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -1,9 +1,9 @@
 #include "animtext/commands.h"
 #include "animtext/shared/savescene.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
-Command RemoveCommand()
+cli::Command RemoveCommand()
 {
     return {"remove",
             "remove a text from a scene",
@@ -13,15 +13,16 @@ Command RemoveCommand()
             "Removes a text with its data files, and its area and page if they become empty. PLACE "
             "is the text's number in animtext list, or its path as in animtext validate.",
             {},
-            [](const CommandLine& line) {
-                ChangeText(line, [](Scene* scene, const Place& place, QString*) {
-                    scene->Remove(place);
-                    return true;
-                });
-                return int(Done);
+            [](const cli::CommandLine& line) {
+                shared::ChangeText(line,
+                                   [](scene::Scene* scene, const scene::Place& place, QString*) {
+                                       scene->Remove(place);
+                                       return true;
+                                   });
+                return int(files::Done);
             },
             {"animtext remove sign.json 2",
              "animtext remove sign.json '$.pages[0].areas[0].nodes[0]'"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

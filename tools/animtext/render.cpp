@@ -13,25 +13,25 @@
 #include <csignal>
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-const FilmKind& KindOf(const QString& output)
+const film::FilmKind& KindOf(const QString& output)
 {
-    if (const FilmKind* kind = FilmKindOf(output))
+    if (const film::FilmKind* kind = film::FilmKindOf(output))
         return *kind;
     QStringList endings;
-    for (const FilmKind& kind : FilmKinds())
+    for (const film::FilmKind& kind : film::FilmKinds())
         endings.append(QLatin1String(kind.ending));
     endings.removeLast();
-    throw Misuse{
+    throw cli::Misuse{
         QStringLiteral("%1: expected a name that ends with %2, or with / for a folder of PNGs")
             .arg(output, endings.join(", "))};
 }
 
 /** Throws Misuse when films of that kind cannot be what the options ask for. */
-void CheckKind(const CommandLine& line, const FilmKind& kind)
+void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
 {
     const QString films = kind.ending + QStringLiteral(" films");
     const bool transparent = line.IsSet("transparent");
@@ -49,31 +49,31 @@ void CheckKind(const CommandLine& line, const FilmKind& kind)
          "--transparent and --background cannot be combined"},
         {transparent && leds,
          "--transparent and --leds cannot be combined; LEDs are drawn on black"},
-        {leds && line.IsSet("scale") && line.Number("scale") < smallestLamp,
+        {leds && line.IsSet("scale") && line.Number("scale") < film::smallestLamp,
          "--leds needs a --scale of at least 4"},
-        {transparent && !kind.Has(FilmKind::Transparent), films + " cannot be transparent"},
-        {lossless && !kind.Has(FilmKind::Lossless),
+        {transparent && !kind.Has(film::FilmKind::Transparent), films + " cannot be transparent"},
+        {lossless && !kind.Has(film::FilmKind::Lossless),
          films + " lose colors; use .apng, .webp or .mp4"},
-        {lossless && transparent && !kind.Has(FilmKind::LosslessAlpha),
+        {lossless && transparent && !kind.Has(film::FilmKind::LosslessAlpha),
          "transparent " + films + " lose colors; use .apng or .webp"},
         {line.IsSet("at") && line.IsSet("frames"), "--at and --frames cannot be combined"},
-        {kind.Has(FilmKind::Still) && !isOne,
+        {kind.Has(film::FilmKind::Still) && !isOne,
          "a PNG is one picture; choose it with --at or --frames"},
     };
     for (const auto& check : checks) {
         if (check.isWrong)
-            throw Misuse{check.why};
+            throw cli::Misuse{check.why};
     }
 }
 
-FilmSettings SettingsFor(const CommandLine& line, const FilmKind& kind, uint seed)
+film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKind& kind, uint seed)
 {
-    FilmSettings settings;
-    settings.evenSize = kind.Has(FilmKind::EvenSides) && !line.IsSet("lossless");
+    film::FilmSettings settings;
+    settings.evenSize = kind.Has(film::FilmKind::EvenSides) && !line.IsSet("lossless");
     settings.scale = line.Number("scale");
     if (line.IsSet("leds")) {
         settings.pitch = line.Fraction("leds");
-        settings.scale = std::max(settings.scale, smallestLamp);
+        settings.scale = std::max(settings.scale, film::smallestLamp);
     }
     settings.seed = seed;
     settings.schedule = line.IsSet("schedule");
@@ -87,141 +87,149 @@ FilmSettings SettingsFor(const CommandLine& line, const FilmKind& kind, uint see
 }
 
 /** The first and the last of the pictures that are wanted, of @p frames that there are. */
-QPair<int, int> RangeFor(const CommandLine& line, int frames)
+QPair<int, int> RangeFor(const cli::CommandLine& line, int frames)
 {
     QPair<int, int> range(0, frames - 1);
     if (line.IsSet("frames"))
         range = line.Range("frames");
     if (line.IsSet("at")) {
         // Times as people write them can lie a hair before their tick.
-        const int tick = int(line.Time("at") / tickLength + 1e-6);
+        const int tick = int(line.Time("at") / player::tickLength + 1e-6);
         range = {tick, tick};
     }
     if (range.second >= frames)
-        throw Misuse{
+        throw cli::Misuse{
             QStringLiteral("the film has no picture %3; it has 0 to %1 and ends after %2 s")
                 .arg(frames - 1)
-                .arg(double(frames) * tickLength / 1000)
+                .arg(double(frames) * player::tickLength / 1000)
                 .arg(range.second)};
     return range;
 }
 
-Progress::Form FormOf(const CommandLine& line)
+cli::Progress::Form FormOf(const cli::CommandLine& line)
 {
-    return line.IsSet("progress") ? Progress::Form::Lines : Progress::Form::Bar;
+    return line.IsSet("progress") ? cli::Progress::Form::Lines : cli::Progress::Form::Bar;
 }
 
 /** "Wrote sign.gif: 512 x 64, 14.2 s, 215 frames, 1.3 MB" */
-QString Summary(const QString& output, const FilmKind& kind, const WrittenFilm& film)
+QString Summary(const QString& output, const film::FilmKind& kind, const film::WrittenFilm& film)
 {
     QStringList facts{QStringLiteral("%1 x %2").arg(film.size.width()).arg(film.size.height())};
-    if (!kind.Has(FilmKind::Still)) {
-        facts += QStringLiteral("%1 s").arg(double(film.frames) * tickLength / 1000, 0, 'f', 1);
+    if (!kind.Has(film::FilmKind::Still)) {
+        facts +=
+            QStringLiteral("%1 s").arg(double(film.frames) * player::tickLength / 1000, 0, 'f', 1);
         facts += QStringLiteral("%1 frame%2").arg(film.frames).arg(film.frames == 1 ? "" : "s");
     }
     facts += QLocale::c().formattedDataSize(film.bytes, 1, QLocale::DataSizeSIFormat);
     return QStringLiteral("Wrote %1: %2\n").arg(output, facts.join(", "));
 }
 
-void RenderOne(const CommandLine& line, const QString& output)
+void RenderOne(const cli::CommandLine& line, const QString& output)
 {
-    const FilmKind& kind = KindOf(output);
+    const film::FilmKind& kind = KindOf(output);
     CheckKind(line, kind);
-    const Scene scene = OpenPlayableScene(line, line.Arguments().first());
-    const Playing playing(line);
-    const std::unique_ptr<Player> player = playing.Load(scene);
-    std::unique_ptr<Progress> progress; // of a stage
-    FilmStage current = FilmStage::End;
-    const FilmWatch watch = [&](FilmStage stage, qint64 done, qint64 total) {
+    const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
+    const shared::Playing playing(line);
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    std::unique_ptr<cli::Progress> progress; // of a stage
+    film::FilmStage current = film::FilmStage::End;
+    const film::FilmWatch watch = [&](film::FilmStage stage, qint64 done, qint64 total) {
         static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
         if (!progress || stage != current) {
             progress.reset(); // erases its bar before the next one
-            progress =
-                std::make_unique<Progress>(QLatin1String(names[int(stage)]), total, FormOf(line));
+            progress = std::make_unique<cli::Progress>(QLatin1String(names[int(stage)]), total,
+                                                       FormOf(line));
         }
         current = stage;
         progress->Show(done);
-        StopIfInterrupted();
+        cli::StopIfInterrupted();
     };
-    Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()), watch);
-    const WrittenFilm written =
-        WriteFilm(&film, RangeFor(line, film.FrameCount()), output, line.IsSet("lossless"), watch);
+    film::Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()), watch);
+    const film::WrittenFilm written = film::WriteFilm(&film, RangeFor(line, film.FrameCount()),
+                                                      output, line.IsSet("lossless"), watch);
     progress.reset();
     if (written.halvesColors)
-        Warn(QStringLiteral("%1: such a film stores colors at half the resolution (4:2:0), which "
-                            "blurs colored text; --lossless keeps every pixel")
-                 .arg(output));
-    Print(Summary(output, kind, written).toLocal8Bit());
+        cli::Warn(
+            QStringLiteral("%1: such a film stores colors at half the resolution (4:2:0), which "
+                           "blurs colored text; --lossless keeps every pixel")
+                .arg(output));
+    cli::Print(Summary(output, kind, written).toLocal8Bit());
 }
 
-void RenderMany(const CommandLine& line)
+void RenderMany(const cli::CommandLine& line)
 {
     const QString kind = line.Value("as");
     const QString ending =
         kind == QLatin1String("frames") ? QStringLiteral("/") : QLatin1Char('.') + kind;
     CheckKind(line, KindOf(ending));
     QStringList options;
-    for (const Option& option : RenderCommand().options) {
+    for (const cli::Option& option : RenderCommand().options) {
         static const QStringList ours{"output", "as", "jobs", "resume", "progress"};
         if (!line.IsSet(option.name) || ours.contains(option.name))
             continue;
         options.append(QStringLiteral("--") + option.name);
-        if (option.kind != Kind::Flag)
+        if (option.kind != cli::Kind::Flag)
             options.last() += QLatin1Char('=') + line.Value(option.name);
     }
-    RenderAll(line, ending, options, FormOf(line));
+    shared::RenderAll(line, ending, options, FormOf(line));
 }
 
-int Render(const CommandLine& line)
+int Render(const cli::CommandLine& line)
 {
-    WatchForInterruption();
+    cli::WatchForInterruption();
     if (line.IsSet("progress"))
         std::signal(SIGPIPE, SIG_IGN); // so that what is unfinished goes away
     if (line.Arguments().size() > 1 || line.IsSet("as"))
         RenderMany(line);
     else
         RenderOne(line, line.Value("output"));
-    return Done;
+    return files::Done;
 }
 
-QVector<Option> Options()
+QVector<cli::Option> Options()
 {
     return {
-        Option::File("output", "OUT",
-                     "File to write. Its name ends with the format: .gif, .apng, .webp, .mp4, "
-                     ".webm or .png; or with / for a folder of PNGs.")
+        cli::Option::File("output", "OUT",
+                          "File to write. Its name ends with the format: .gif, .apng, .webp, .mp4, "
+                          ".webm or .png; or with / for a folder of PNGs.")
             .Letter('o')
             .Required(),
-        Option::Time("seconds", 0.001, 86400,
-                     "Play for this time, such as 10s, 1500ms or 2min. Default: to the end."),
-        Option::Flag("schedule", "Play like the host: pages, and texts in an area, one after "
-                                 "another, each for its planned time. Default: all texts at once."),
-        Option::Range("frames", "Write only these pictures, counted from 0, or one of them."),
-        Option::Time("at", 0, 86400, "Write the picture at this time: 2.5s, or 40t for tick 40."),
-        Option::Number("scale", 1, 16, "Film pixels per display pixel.").Or("1"),
-        Option::Fraction("leds", 1, 4, "PITCH",
-                         "Draw round LEDs on black, PITCH times their diameter apart. Without "
-                         "PITCH: 1.25. The default of --scale is then 4.")
+        cli::Option::Time("seconds", 0.001, 86400,
+                          "Play for this time, such as 10s, 1500ms or 2min. Default: to the end."),
+        cli::Option::Flag("schedule",
+                          "Play like the host: pages, and texts in an area, one after "
+                          "another, each for its planned time. Default: all texts at once."),
+        cli::Option::Range("frames", "Write only these pictures, counted from 0, or one of them."),
+        cli::Option::Time("at", 0, 86400,
+                          "Write the picture at this time: 2.5s, or 40t for tick 40."),
+        cli::Option::Number("scale", 1, 16, "Film pixels per display pixel.").Or("1"),
+        cli::Option::Fraction("leds", 1, 4, "PITCH",
+                              "Draw round LEDs on black, PITCH times their diameter apart. Without "
+                              "PITCH: 1.25. The default of --scale is then 4.")
             .Alone("1.25"),
-        Option::Color("background", "Background color under the display. Default: black."),
-        Option::Flag("transparent", "Transparent background. Not for MP4."),
-        Option::Flag("lossless",
-                     "Keep every pixel of an MP4 or WebM. Not all players support this."),
-        Option::Choice("as", "KIND", {"gif", "apng", "webp", "mp4", "webm", "png", "frames"},
-                       "Render each scene into the folder OUT as gif, apng, webp, mp4, webm, png "
-                       "or frames (a folder of PNGs).")
+        cli::Option::Color("background", "Background color under the display. Default: black."),
+        cli::Option::Flag("transparent", "Transparent background. Not for MP4."),
+        cli::Option::Flag("lossless",
+                          "Keep every pixel of an MP4 or WebM. Not all players support this."),
+        cli::Option::Choice(
+            "as", "KIND", {"gif", "apng", "webp", "mp4", "webm", "png", "frames"},
+            "Render each scene into the folder OUT as gif, apng, webp, mp4, webm, png "
+            "or frames (a folder of PNGs).")
             .Or("gif"),
-        Option::Number("jobs", 1, 1000,
-                       "How many scenes to render at once. Default: the number of processors."),
-        Option::Flag("resume", "Skip films that are newer than their scene, its data files, the "
-                               "plugin and this program."),
-        Option::Flag("progress",
-                     "Print progress as lines such as \"12 426 rendering\", for other programs.")};
+        cli::Option::Number(
+            "jobs", 1, 1000,
+            "How many scenes to render at once. Default: the number of processors."),
+        cli::Option::Flag("resume",
+                          "Skip films that are newer than their scene, its data files, the "
+                          "plugin and this program."),
+        cli::Option::Flag(
+            "progress",
+            "Print progress as lines such as \"12 426 rendering\", for other programs.")};
 }
 
 } // namespace
 
-Command RenderCommand()
+cli::Command RenderCommand()
 {
     return {"render",
             "render scenes as GIF, APNG, WebP, MP4, WebM or PNGs",
@@ -233,10 +241,10 @@ Command RenderCommand()
             "once more, or has scrolled through its area once. All formats except PNG need ffmpeg. "
             "The output appears only when it is complete. With several scenes, or --as, each scene "
             "is rendered into the folder OUT.",
-            WithShowOptions(Options()),
+            shared::WithShowOptions(Options()),
             Render,
             {"animtext render sign.json -o sign.gif --scale 4",
              "animtext render *.json --as png --at 1.5s -o stills"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -3,9 +3,9 @@
 #include "cli/commandline.h"
 #include "scene/sceneschema.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
-Command SchemaCommand()
+cli::Command SchemaCommand()
 {
     return {"schema",
             "print the JSON Schema of scene files",
@@ -14,12 +14,12 @@ Command SchemaCommand()
             0,
             "Prints the JSON Schema (draft 7) of scene files. Editors use it to complete, check "
             "and explain keys.",
-            {Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
-            [](const CommandLine& line) {
-                Print(line.IsSet("tables") ? SceneTables() : SceneSchema());
-                return int(Done);
+            {cli::Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
+            [](const cli::CommandLine& line) {
+                cli::Print(line.IsSet("tables") ? scene::SceneTables() : scene::SceneSchema());
+                return int(files::Done);
             },
             {"animtext schema >scene.schema.json", "animtext schema --tables"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

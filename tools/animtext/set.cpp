@@ -3,32 +3,33 @@
 #include "animtext/shared/savescene.h"
 #include "author/setvalue.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-int Set(const CommandLine& line)
+int Set(const cli::CommandLine& line)
 {
     const QStringList settings = line.Arguments().mid(2);
     for (const QString& setting : settings) {
         if (setting.indexOf(QLatin1Char('=')) < 1)
-            throw Misuse{QStringLiteral("expected KEY=VALUE, not \"%1\"").arg(setting)};
+            throw cli::Misuse{QStringLiteral("expected KEY=VALUE, not \"%1\"").arg(setting)};
     }
-    auto [changed, at] = ChangeText(line, [&](Scene* scene, const Place& place, QString* error) {
-        for (const QString& setting : settings) {
-            if (error->isEmpty())
-                *error = SetValue(scene, place, setting.section(QLatin1Char('='), 0, 0),
-                                  setting.section(QLatin1Char('='), 1));
-        }
-        return error->isEmpty();
-    });
-    WarnOfCut(changed, changed.At(at));
-    return Done;
+    auto [changed, at] = shared::ChangeText(
+        line, [&](scene::Scene* scene, const scene::Place& place, QString* error) {
+            for (const QString& setting : settings) {
+                if (error->isEmpty())
+                    *error = author::SetValue(scene, place, setting.section(QLatin1Char('='), 0, 0),
+                                              setting.section(QLatin1Char('='), 1));
+            }
+            return error->isEmpty();
+        });
+    shared::WarnOfCut(changed, changed.At(at));
+    return files::Done;
 }
 
 } // namespace
 
-Command SetCommand()
+cli::Command SetCommand()
 {
     return {
         "set",
@@ -45,4 +46,4 @@ Command SetCommand()
         {"animtext set sign.json 1 speed=7 hold=3s", "animtext set sign.json 2 color=red plays=2"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -10,7 +10,7 @@
 
 #include <QFileInfo>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
@@ -26,19 +26,19 @@ QVector<int> Spread(int frames, int count, bool toTheEnd)
     return picked;
 }
 
-SheetRow RowOf(const Playing& playing, const Scene& scene, int columns)
+film::SheetRow RowOf(const shared::Playing& playing, const scene::Scene& scene, int columns)
 {
-    const std::unique_ptr<Player> player = playing.Load(scene);
-    FilmSettings settings;
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    film::FilmSettings settings;
     settings.seed = playing.Seed();
     settings.restAtEnd = false;
-    Film film(player.get(), scene, settings,
-              [](FilmStage, qint64, qint64) { StopIfInterrupted(); });
+    film::Film film(player.get(), scene, settings,
+                    [](film::FilmStage, qint64, qint64) { cli::StopIfInterrupted(); });
 
-    SheetRow row;
-    const Motion* motion =
-        scene.Nodes().isEmpty() ? nullptr : MotionOf(*scene.Nodes().first()).Row();
-    const bool scrolls = motion && motion->family == Scrolls().first().family;
+    film::SheetRow row;
+    const scene::Motion* motion =
+        scene.Nodes().isEmpty() ? nullptr : scene::MotionOf(*scene.Nodes().first()).Row();
+    const bool scrolls = motion && motion->family == scene::Scrolls().first().family;
     row.title = QFileInfo(scene.path).completeBaseName();
     if (motion) {
         row.number = scrolls ? QString() : QString::number(motion->number);
@@ -47,58 +47,59 @@ SheetRow RowOf(const Playing& playing, const Scene& scene, int columns)
                                                   QLatin1String(motion->summary));
     }
     film.Play(Spread(film.FrameCount(), columns, !scrolls), [&](int frame, const QImage& picture) {
-        StopIfInterrupted();
-        row.frames.append({picture, qint64(frame) * tickLength});
+        cli::StopIfInterrupted();
+        row.frames.append({picture, qint64(frame) * player::tickLength});
     });
     return row;
 }
 
-int DrawSheet(const CommandLine& line)
+int DrawSheet(const cli::CommandLine& line)
 {
     const QString output = line.Value("output");
     if (output != QLatin1String("-") &&
         !output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        throw Misuse{QStringLiteral("%1: expected a name that ends with .png").arg(output)};
-    QVector<Scene> scenes;
+        throw cli::Misuse{QStringLiteral("%1: expected a name that ends with .png").arg(output)};
+    QVector<scene::Scene> scenes;
     for (const QString& path : line.Arguments())
-        scenes.append(OpenPlayableScene(line, path));
-    const Playing playing(line);
+        scenes.append(shared::OpenPlayableScene(line, path));
+    const shared::Playing playing(line);
 
-    WatchForInterruption();
-    QVector<SheetRow> rows;
+    cli::WatchForInterruption();
+    QVector<film::SheetRow> rows;
     {
-        Progress progress("playing scene", scenes.size());
+        cli::Progress progress("playing scene", scenes.size());
         for (int i = 0; i < scenes.size(); ++i) {
             rows.append(RowOf(playing, scenes.at(i), line.Number("columns")));
             progress.Show(i + 1);
         }
     }
-    const QByteArray png = PngOf(DrawContactSheet(rows), false);
+    const QByteArray png = film::PngOf(film::DrawContactSheet(rows), false);
     if (output == QLatin1String("-"))
-        Print(png);
+        cli::Print(png);
     else
-        WritePng(output, png);
-    return Done;
+        film::WritePng(output, png);
+    return files::Done;
 }
 
 } // namespace
 
-Command SheetCommand()
+cli::Command SheetCommand()
 {
-    return {"sheet",
-            "draw a contact sheet of scenes",
-            "SCENE.json...",
-            1,
-            1000,
-            "Draws a contact sheet: a row of frames for each scene, evenly spaced in time.",
-            WithShowOptions(
-                {Option::File("output", "SHEET.png", "PNG file to write; - is standard output.")
-                     .Letter('o')
-                     .Required(),
-                 Option::Number("columns", 1, 50, "Frames per row.").Or("6")}),
-            DrawSheet,
-            {"animtext sheet sign.json -o sheet.png",
-             "animtext sheet *.json --columns 10 -o sheet.png"}};
+    return {
+        "sheet",
+        "draw a contact sheet of scenes",
+        "SCENE.json...",
+        1,
+        1000,
+        "Draws a contact sheet: a row of frames for each scene, evenly spaced in time.",
+        shared::WithShowOptions(
+            {cli::Option::File("output", "SHEET.png", "PNG file to write; - is standard output.")
+                 .Letter('o')
+                 .Required(),
+             cli::Option::Number("columns", 1, 50, "Frames per row.").Or("6")}),
+        DrawSheet,
+        {"animtext sheet sign.json -o sheet.png",
+         "animtext sheet *.json --columns 10 -o sheet.png"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

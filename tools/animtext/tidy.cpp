@@ -5,26 +5,26 @@
 
 #include <QDir>
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-int Tidy(const CommandLine& line)
+int Tidy(const cli::CommandLine& line)
 {
     const QString folder = line.Arguments().first();
     const bool removes = line.IsSet("remove");
-    WatchForInterruption();
-    Unneeded unneeded;
+    cli::WatchForInterruption();
+    author::Unneeded unneeded;
     QString error;
-    FailUnless(TidyFolder(folder, removes, &unneeded, &error), error);
+    files::FailUnless(author::TidyFolder(folder, removes, &unneeded, &error), error);
     for (const QString& name : unneeded.names)
-        Print((removes ? "removed " : "") + QDir(folder).filePath(name).toLocal8Bit() + '\n');
-    return Done;
+        cli::Print((removes ? "removed " : "") + QDir(folder).filePath(name).toLocal8Bit() + '\n');
+    return files::Done;
 }
 
 } // namespace
 
-Command TidyCommand()
+cli::Command TidyCommand()
 {
     return {
         "tidy",
@@ -35,9 +35,9 @@ Command TidyCommand()
         "Lists the data files in FOLDER that animtext or the studio wrote and that no other file "
         "names. It searches FOLDER, its subfolders (one level) and its parent folder; scenes "
         "elsewhere are not searched. If a file cannot be read, it lists and deletes nothing.",
-        {Option::Flag("remove", "Delete the files.")},
+        {cli::Option::Flag("remove", "Delete the files.")},
         Tidy,
         {"animtext tidy .", "animtext tidy --remove ."}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -3,50 +3,50 @@
 #include "player/callline.h"
 #include "scene/json.h"
 
-namespace AnimText {
+namespace AnimText::animtext {
 
 namespace {
 
-QByteArray TickLine(Player* player, int node)
+QByteArray TickLine(player::Player* player, int node)
 {
     const int layer = player->Scenery().TextLayer(node);
-    const NodeTick now = player->Look(node);
-    Json line = Json::Object({{"tick", now.tick},
-                              {"ms", player->Time()},
-                              {"node", node},
-                              {"swap", now.swapped},
-                              {"layer", layer < 0 ? 0 : layer},
-                              {"w", now.size.width()},
-                              {"h", now.size.height()},
-                              {"sha1", now.sha1},
-                              {"state", now.state}});
+    const player::NodeTick now = player->Look(node);
+    scene::Json line = scene::Json::Object({{"tick", now.tick},
+                                            {"ms", player->Time()},
+                                            {"node", node},
+                                            {"swap", now.swapped},
+                                            {"layer", layer < 0 ? 0 : layer},
+                                            {"w", now.size.width()},
+                                            {"h", now.size.height()},
+                                            {"sha1", now.sha1},
+                                            {"state", now.state}});
     if (!now.background.isEmpty())
         line.Add("background", now.background);
     return line.Text() + '\n';
 }
 
-int TraceScene(const CommandLine& line)
+int TraceScene(const cli::CommandLine& line)
 {
     const int ticks = line.Number("ticks");
-    const Scene scene = OpenReadableScene(line, line.Arguments().first());
-    const Playing playing(line);
-    const std::unique_ptr<Player> player = playing.Load(scene);
+    const scene::Scene scene = shared::OpenReadableScene(line, line.Arguments().first());
+    const shared::Playing playing(line);
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
 
     if (line.IsSet("calls"))
         player->Scenery().WatchCalls(
-            [](const Torv::CallRecord& call) { Print(CallLine(call) + '\n'); });
+            [](const Torv::CallRecord& call) { cli::Print(player::CallLine(call) + '\n'); });
     player->Start(playing.Seed());
     for (;; player->Advance()) {
         for (int node = 0; node < player->NodeCount(); ++node)
-            Print(TickLine(player.get(), node));
+            cli::Print(TickLine(player.get(), node));
         if (player->Tick() == ticks)
-            return Done;
+            return files::Done;
     }
 }
 
 } // namespace
 
-Command TraceCommand()
+cli::Command TraceCommand()
 {
     return {
         "trace",
@@ -58,11 +58,11 @@ Command TraceCommand()
         "ms, from tick 0: whether the display got a new picture of the text, its layer, its size, "
         "the SHA-1 of its rows, and the renderer's state (0 finished, 1 playing, 2 nothing to "
         "play). A dazzle background adds its SHA-1.",
-        WithShowOptions(
-            {Option::Number("ticks", 0, 1000000000, "Last tick.").Letter('n').Or("100"),
-             Option::Flag("calls", "Print the device calls of each tick before its lines.")}),
+        shared::WithShowOptions(
+            {cli::Option::Number("ticks", 0, 1000000000, "Last tick.").Letter('n').Or("100"),
+             cli::Option::Flag("calls", "Print the device calls of each tick before its lines.")}),
         TraceScene,
         {"animtext trace sign.json --ticks 20", "animtext trace sign.json --calls >sign.trace"}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext

@@ -1,19 +1,19 @@
 #include "author/author.h"
 
-namespace AnimText {
+namespace AnimText::author {
 
-bool AuthorNode(const TextSource& source, const SceneNode& settings, const NodeMotion& motion,
-                AuthoredNode* authored, QString* error)
+bool AuthorNode(const TextSource& source, const scene::SceneNode& settings,
+                const scene::NodeMotion& motion, AuthoredNode* authored, QString* error)
 {
-    if (!LayOut(source.text, source, motion, settings.size, authored, error))
+    if (!layout::LayOut(source.text, source, motion, settings.size, authored, error))
         return false;
-    SceneNode& node = authored->node;
+    scene::SceneNode& node = authored->node;
     node = settings;
     node.size = authored->area;
-    SetMotion(&node, motion);
+    scene::SetMotion(&node, motion);
     node.attributes[QStringLiteral("Text")] = authored->text;
     node.lists = authored->lists;
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

@@ -8,19 +8,19 @@
 #include "layout/layout.h"
 #include "scene/scene.h"
 
-namespace AnimText {
+namespace AnimText::author {
 
 /** A text as its author wrote it. */
-struct TextSource : Setting
+struct TextSource : layout::Setting
 {
-    StyledText text; ///< sizes in pixels
-    QString name{};  ///< for people; empty for the text itself
+    layout::StyledText text; ///< sizes in pixels
+    QString name{};          ///< for people; empty for the text itself
 };
 
 /** A node with its data files, not yet on disk, and what to warn of. */
-struct AuthoredNode : LaidOut
+struct AuthoredNode : layout::LaidOut
 {
-    SceneNode node; ///< its "PathData" and "DescentVector" are not set yet
+    scene::SceneNode node; ///< its "PathData" and "DescentVector" are not set yet
 };
 
 /**
@@ -28,9 +28,9 @@ struct AuthoredNode : LaidOut
  * QGuiApplication.
  * @return false, with one line in @p error, if a sign cannot show it
  */
-bool AuthorNode(const TextSource& source, const SceneNode& settings, const NodeMotion& motion,
-                AuthoredNode* authored, QString* error);
+bool AuthorNode(const TextSource& source, const scene::SceneNode& settings,
+                const scene::NodeMotion& motion, AuthoredNode* authored, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

@@ -2,12 +2,12 @@
 
 #include <QFileInfo>
 
-namespace AnimText {
+namespace AnimText::author {
 
 namespace {
 
-bool Put(const SceneNode& node, const Destination& destination, Scene* scene, Place* place,
-         QString* error)
+bool Put(const scene::SceneNode& node, const Destination& destination, scene::Scene* scene,
+         scene::Place* place, QString* error)
 {
     if (!destination.instead.isEmpty()) {
         if (!scene->Find(destination.instead, place, error))
@@ -23,8 +23,8 @@ bool Put(const SceneNode& node, const Destination& destination, Scene* scene, Pl
         return false;
     }
     if (destination.page > pages)
-        scene->pages.append(ScenePage());
-    QList<SceneArea>& areas = scene->pages[destination.page - 1].areas;
+        scene->pages.append(scene::ScenePage());
+    QList<scene::SceneArea>& areas = scene->pages[destination.page - 1].areas;
     if (destination.area > areas.size()) {
         *error = QStringLiteral("there is no area %1 on page %2")
                      .arg(destination.area)
@@ -32,7 +32,7 @@ bool Put(const SceneNode& node, const Destination& destination, Scene* scene, Pl
         return false;
     }
     if (destination.area == 0)
-        areas.append(SceneArea());
+        areas.append(scene::SceneArea());
     const int area = destination.area == 0 ? areas.size() - 1 : destination.area - 1;
     *place = {destination.page - 1, area, areas[area].nodes.size()};
     areas[area].nodes.append(node);
@@ -43,8 +43,8 @@ bool Put(const SceneNode& node, const Destination& destination, Scene* scene, Pl
  * Puts @p authored into @p scene and its data files into @p dataFiles; its pictures become relative
  * to the scene's folder. Sets @p place to where it is.
  */
-bool PutAuthored(const AuthoredNode& authored, const Destination& destination, Scene* scene,
-                 DataFiles* dataFiles, Place* place, QString* error)
+bool PutAuthored(const AuthoredNode& authored, const Destination& destination, scene::Scene* scene,
+                 DataFiles* dataFiles, scene::Place* place, QString* error)
 {
     if (!destination.isAdded) {
         const int texts = scene->Nodes().size();
@@ -56,12 +56,12 @@ bool PutAuthored(const AuthoredNode& authored, const Destination& destination, S
             return false;
         }
         const QString path = scene->path;
-        *scene = Scene();
+        *scene = scene::Scene();
         scene->path = path;
     }
     if (destination.isOpaque)
         scene->alphaBlend = false;
-    SceneNode node = authored.node;
+    scene::SceneNode node = authored.node;
     for (QString& picture : node.files)
         picture =
             QFileInfo(scene->path).dir().relativeFilePath(QFileInfo(picture).absoluteFilePath());
@@ -91,17 +91,17 @@ bool PutAuthored(const AuthoredNode& authored, const Destination& destination, S
 Storing AuthorScene(const AuthorRequest& request, AuthoredScene* authored, QString* error)
 {
     TextSource source;
-    static_cast<Setting&>(source) = request.setting;
+    static_cast<layout::Setting&>(source) = request.setting;
     if (!ReadText(request.written, &source, &authored->notes, error))
         return Storing::Misread;
     const Destination& destination = request.destination;
-    SceneNode settings = request.node;
+    scene::SceneNode settings = request.node;
     if (destination.area > 0 && settings.size.isEmpty()) {
-        Scene scene;
-        if (!ReadScene(request.path, &scene, error, MissingFiles::AreAccepted))
+        scene::Scene scene;
+        if (!scene::ReadScene(request.path, &scene, error, scene::MissingFiles::AreAccepted))
             return Storing::Refused;
-        const ScenePage page = scene.pages.value(destination.page - 1);
-        const SceneNode other = page.areas.value(destination.area - 1).nodes.value(0);
+        const scene::ScenePage page = scene.pages.value(destination.page - 1);
+        const scene::SceneNode other = page.areas.value(destination.area - 1).nodes.value(0);
         settings.size = other.size;
         if (!request.hasPlace)
             settings.pos = other.pos;
@@ -110,11 +110,11 @@ Storing AuthorScene(const AuthorRequest& request, AuthoredScene* authored, QStri
         return Storing::Refused;
     return ChangeScene(
         request.path,
-        [&](Scene* scene, DataFiles* dataFiles, QString* why) {
+        [&](scene::Scene* scene, DataFiles* dataFiles, QString* why) {
             return PutAuthored(authored->text, destination, scene, dataFiles, &authored->place,
                                why);
         },
         error, &authored->stored);
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

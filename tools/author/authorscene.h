@@ -8,7 +8,7 @@
 #include "author/markup.h"
 #include "author/scenestore.h"
 
-namespace AnimText {
+namespace AnimText::author {
 
 /** Where a new text goes. Pages and areas count from 1. */
 struct Destination
@@ -30,9 +30,9 @@ struct AuthorRequest
 {
     QString path; ///< of the scene
     WrittenText written;
-    Setting setting;
-    SceneNode node; ///< the settings of the text; an empty area fits the text
-    NodeMotion motion;
+    layout::Setting setting;
+    scene::SceneNode node; ///< the settings of the text; an empty area fits the text
+    scene::NodeMotion motion;
     bool hasPlace = false; ///< a text in an existing area does not take its position from there
     Destination destination;
 };
@@ -42,8 +42,8 @@ struct AuthoredScene
 {
     AuthoredNode text;
     Stored stored;
-    Place place;       ///< of the text
-    QStringList notes; ///< a line for each change that the text needed
+    scene::Place place; ///< of the text
+    QStringList notes;  ///< a line for each change that the text needed
 };
 
 /**
@@ -52,6 +52,6 @@ struct AuthoredScene
  */
 Storing AuthorScene(const AuthorRequest& request, AuthoredScene* authored, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <filesystem>
 
-namespace AnimText {
+namespace AnimText::author {
 namespace {
 
 const int digestLength = 16;             // hexadecimal digits; enough that collisions do not occur
@@ -165,7 +165,7 @@ bool IsOurs(const QDir& folder, const QString& name)
     QFile file(folder.filePath(name));
     const QFileInfo info(file);
     return match.hasMatch() && !info.isSymLink() && info.isFile() &&
-           WriteProtection(file.fileName()).isEmpty() && file.open(QIODevice::ReadOnly) &&
+           files::WriteProtection(file.fileName()).isEmpty() && file.open(QIODevice::ReadOnly) &&
            NameDigest(file.readAll()) == match.captured(1);
 }
 
@@ -176,7 +176,7 @@ QString DataFileName(const QString& scenePath, const QString& key, const QByteAr
     const QString end =
         "." + NameDigest(content) + QLatin1String(key == "PathData" ? ".path" : ".descent");
     const QString base = QFileInfo(scenePath).completeBaseName();
-    return Shortened(base, longestName - end.size()) + end;
+    return files::Shortened(base, files::longestName - end.size()) + end;
 }
 
 QStringList DataFilesIn(const QDir& folder)
@@ -205,4 +205,4 @@ Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates)
     return {search.Unnamed(), {}};
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

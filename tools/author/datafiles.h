@@ -10,7 +10,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::author {
 
 /**
  * The name of a data file: the scene's name, a digest of @p content and a suffix for @p key, which
@@ -40,6 +40,6 @@ struct Unneeded
  */
 Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

@@ -4,12 +4,12 @@
 #include <QTextDocument>
 #include <QTextList>
 
-namespace AnimText {
+namespace AnimText::author {
 namespace {
 
-StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base, bool* sized)
+layout::StyleRun StyleOf(const QTextCharFormat& format, const layout::StyleRun& base, bool* sized)
 {
-    StyleRun style = base;
+    layout::StyleRun style = base;
     style.font = format.font().resolve(base.font);
     const QFont own = format.font();
     const bool hasSize = format.hasProperty(QTextFormat::FontPointSize) ||
@@ -45,18 +45,18 @@ void NoteLosses(const QTextBlock& block, const QTextCharFormat& format, QStringL
 
 } // namespace
 
-StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* notes)
+layout::StyledText FromHtml(const QString& html, const layout::StyleRun& base, QStringList* notes)
 {
     QTextDocument document;
     document.setUndoRedoEnabled(false);
     document.setHtml(html);
-    StyledText text;
+    layout::StyledText text;
     QStringList lost;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             NoteLosses(block, fragment.charFormat(), &lost);
-            const StyleRun style = StyleOf(fragment.charFormat(), base, &text.sized);
+            const layout::StyleRun style = StyleOf(fragment.charFormat(), base, &text.sized);
             text.Append(fragment.text().remove(QChar::ObjectReplacementCharacter), style);
         }
         if (block.next().isValid())
@@ -68,4 +68,4 @@ StyledText FromHtml(const QString& html, const StyleRun& base, QStringList* note
     return text;
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

@@ -8,14 +8,14 @@
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
-namespace AnimText {
+namespace AnimText::author {
 namespace {
 
 /** Reads the tags. Raises errors in the XML reader, which knows the line and the column. */
 class MarkupReader
 {
 public:
-    MarkupReader(const QString& markup, const StyleRun& base, StyledText* text)
+    MarkupReader(const QString& markup, const layout::StyleRun& base, layout::StyledText* text)
         : markup(markup)
         , xml(opening + markup + "</text>")
         , text(text)
@@ -53,7 +53,7 @@ public:
 private:
     void Open()
     {
-        StyleRun style = styles.last();
+        layout::StyleRun style = styles.last();
         const bool isOuter = styles.size() == 1 && xml.name() == "text";
         if (xml.name() == "b")
             style.font.setBold(true);
@@ -76,12 +76,12 @@ private:
     }
 
     /** Applies an attribute of <font>. @return what is wrong with it, or empty */
-    QString Apply(const QString& name, const QString& value, StyleRun* style)
+    QString Apply(const QString& name, const QString& value, layout::StyleRun* style)
     {
         if (name == "face") {
             QString family;
             QString fault;
-            if (FindFamily(value, &family, &fault))
+            if (scene::FindFamily(value, &family, &fault))
                 style->font.setFamily(family);
             return fault;
         }
@@ -89,7 +89,7 @@ private:
             return ApplySize(value, style);
         if (name == "color") {
             QString hint;
-            return ReadColor(value, &style->color, &hint)
+            return scene::ReadColor(value, &style->color, &hint)
                        ? QString()
                        : QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2")
                              .arg(value, hint);
@@ -97,7 +97,7 @@ private:
         return QStringLiteral("unknown attribute %1; <font> takes face, size and color").arg(name);
     }
 
-    QString ApplySize(const QString& value, StyleRun* style)
+    QString ApplySize(const QString& value, layout::StyleRun* style)
     {
         static const QRegularExpression form("^(\\d{1,6})(px|pt|%|)$");
         const QRegularExpressionMatch match = form.match(value);
@@ -106,10 +106,10 @@ private:
         const qreal size = unit == "pt"  ? number * 96 / 72
                            : unit == "%" ? number * style->font.pixelSize() / 100
                                          : number;
-        if (!match.hasMatch() || qRound(size) < 1 || size > largestFontSize)
+        if (!match.hasMatch() || qRound(size) < 1 || size > layout::largestFontSize)
             return QStringLiteral(
                        "size is \"%2\"; expected 1 to %1 pixels, such as 32, 32px, 24pt or 150%")
-                .arg(largestFontSize)
+                .arg(layout::largestFontSize)
                 .arg(value);
         style->font.setPixelSize(qRound(size));
         text->sized = text->sized || unit != "%";
@@ -119,34 +119,34 @@ private:
     const QString opening = "<text>";
     const QString markup;
     QXmlStreamReader xml;
-    QVector<StyleRun> styles; // the innermost last
-    StyledText* const text;
+    QVector<layout::StyleRun> styles; // the innermost last
+    layout::StyledText* const text;
 };
 
 } // namespace
 
-bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, QStringList* notes,
-                 QString* error)
+bool ParseMarkup(const QString& markup, const layout::StyleRun& base, layout::StyledText* text,
+                 QStringList* notes, QString* error)
 {
     const QString start = markup.trimmed().left(9).toLower();
     if (start.startsWith("<html") || start == "<!doctype") {
         *text = FromHtml(markup, base, notes);
         return true;
     }
-    *text = StyledText();
+    *text = layout::StyledText();
     return MarkupReader(markup, base, text).Read(error);
 }
 
 bool ReadText(const WrittenText& written, TextSource* source, QStringList* notes, QString* error)
 {
-    StyledText& text = source->text;
+    layout::StyledText& text = source->text;
     if (!written.hasTags)
         text.Append(written.words, written.style);
     else if (!ParseMarkup(written.words, written.style, &text, notes, error))
         return false;
-    if (!written.isSized && !text.sized && source->fit == Fit::None)
-        source->fit = Fit::Line;
-    return ToOneLine(&text, notes, error);
+    if (!written.isSized && !text.sized && source->fit == layout::Fit::None)
+        source->fit = layout::Fit::Line;
+    return layout::ToOneLine(&text, notes, error);
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

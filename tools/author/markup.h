@@ -7,7 +7,7 @@
 
 #include "author/author.h"
 
-namespace AnimText {
+namespace AnimText::author {
 
 /**
  * Reads text with tags in one of two forms: either exactly these tags,
@@ -20,16 +20,16 @@ namespace AnimText {
  * @param notes gets a line on what was left out
  * @return false, with one line in @p error, if it cannot be read
  */
-bool ParseMarkup(const QString& markup, const StyleRun& base, StyledText* text, QStringList* notes,
-                 QString* error);
+bool ParseMarkup(const QString& markup, const layout::StyleRun& base, layout::StyledText* text,
+                 QStringList* notes, QString* error);
 
 /** A text as it was typed. */
 struct WrittenText
 {
     QString words;
-    bool hasTags = false; ///< ParseMarkup() reads it
-    bool isSized = false; ///< somebody chose the size; otherwise the text is to fit the area
-    StyleRun style;       ///< of words outside of tags
+    bool hasTags = false;   ///< ParseMarkup() reads it
+    bool isSized = false;   ///< somebody chose the size; otherwise the text is to fit the area
+    layout::StyleRun style; ///< of words outside of tags
 };
 
 /**
@@ -39,6 +39,6 @@ struct WrittenText
  */
 bool ReadText(const WrittenText& written, TextSource* source, QStringList* notes, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::author {
 namespace {
 
 bool Holds(const QString& path, const QByteArray& content)
@@ -22,11 +22,11 @@ bool Holds(const QString& path, const QByteArray& content)
 }
 
 /** The files that @p scene names in its own folder. */
-QStringList NamedFiles(const Scene& scene)
+QStringList NamedFiles(const scene::Scene& scene)
 {
     const QDir folder = QFileInfo(scene.path).absoluteDir();
     QStringList names;
-    for (const SceneNode* node : scene.Nodes()) {
+    for (const scene::SceneNode* node : scene.Nodes()) {
         for (const QString& file : node->files) {
             const QFileInfo info(scene.FullName(file));
             if (info.dir() == folder)
@@ -37,13 +37,14 @@ QStringList NamedFiles(const Scene& scene)
 }
 
 /** The first error in @p after that is not in @p before, or empty. */
-QString NewMistake(const QList<Finding>& before, const QList<Finding>& after)
+QString NewMistake(const QList<validate::Finding>& before, const QList<validate::Finding>& after)
 {
-    for (const Finding& finding : after) {
-        const bool known = std::any_of(before.begin(), before.end(), [&](const Finding& old) {
-            return old.mistake == finding.mistake && old.found == finding.found;
-        });
-        if (finding.GetRule().severity == Severity::Error && !known)
+    for (const validate::Finding& finding : after) {
+        const bool known =
+            std::any_of(before.begin(), before.end(), [&](const validate::Finding& old) {
+                return old.mistake == finding.mistake && old.found == finding.found;
+            });
+        if (finding.GetRule().severity == validate::Severity::Error && !known)
             return QStringLiteral("%1: found %2, expected %3")
                 .arg(finding.place, finding.found, finding.expected);
     }
@@ -54,7 +55,7 @@ QString NewMistake(const QList<Finding>& before, const QList<Finding>& after)
 class Store
 {
 public:
-    Store(const QString& path, const FolderLock& lock)
+    Store(const QString& path, const files::FolderLock& lock)
         : path(path)
         , folder(QFileInfo(path).dir())
         , lock(lock)
@@ -63,13 +64,14 @@ public:
 
     Storing Change(const SceneChange& change, Stored* stored, QString* error)
     {
-        Scene scene;
+        scene::Scene scene;
         scene.path = path;
         // An empty file counts as a new scene.
         const bool isThere = QFileInfo(path).size() > 0;
-        if (isThere && !ReadScene(path, &scene, error, MissingFiles::AreAccepted))
+        if (isThere && !scene::ReadScene(path, &scene, error, scene::MissingFiles::AreAccepted))
             return Storing::Refused;
-        const QList<Finding> before = isThere ? ValidateScene(scene) : QList<Finding>();
+        const QList<validate::Finding> before =
+            isThere ? validate::ValidateScene(scene) : QList<validate::Finding>();
         QStringList replaced = NamedFiles(scene);
         DataFiles dataFiles;
         if (!change(&scene, &dataFiles, error))
@@ -91,8 +93,8 @@ public:
     }
 
 private:
-    Storing Write(const Scene& scene, const QList<Finding>& before, const DataFiles& dataFiles,
-                  Stored* stored, QString* error)
+    Storing Write(const scene::Scene& scene, const QList<validate::Finding>& before,
+                  const DataFiles& dataFiles, Stored* stored, QString* error)
     {
         for (auto file = dataFiles.begin(); file != dataFiles.end(); ++file) {
             const QString place = folder.filePath(file.key());
@@ -100,26 +102,27 @@ private:
                 continue;
             if (!QFileInfo::exists(place))
                 made.append(place);
-            if (!WriteWhole(place, file.value(), error))
+            if (!files::WriteWhole(place, file.value(), error))
                 return Storing::Failed;
         }
         lock.Sync(); // the scene must not reach the disk before the files that it names
 
-        const QByteArray json = SceneToJson(scene);
-        if (!ReadSceneText(json, path, &stored->scene, error, MissingFiles::AreErrors))
+        const QByteArray json = scene::SceneToJson(scene);
+        if (!scene::ReadSceneText(json, path, &stored->scene, error,
+                                  scene::MissingFiles::AreErrors))
             return Storing::Refused;
-        stored->findings = ValidateScene(stored->scene);
+        stored->findings = validate::ValidateScene(stored->scene);
         const QString mistake = NewMistake(before, stored->findings);
         if (!mistake.isEmpty()) {
             *error = QStringLiteral("%1: %2").arg(path, mistake);
             return Storing::Refused;
         }
-        return WriteWhole(path, json, error) ? Storing::Saved : Storing::Failed;
+        return files::WriteWhole(path, json, error) ? Storing::Saved : Storing::Failed;
     }
 
     const QString path;
     const QDir folder;
-    const FolderLock& lock;
+    const files::FolderLock& lock;
     QStringList made; // files that did not exist before
 };
 
@@ -127,7 +130,7 @@ private:
 
 Storing ChangeScene(const QString& path, const SceneChange& change, QString* error, Stored* stored)
 {
-    const QString file = RealPath(path);
+    const QString file = files::RealPath(path);
     const QFileInfo info(file);
     const QDir folder = info.dir();
     const auto refuse = [&](const QString& why) {
@@ -141,9 +144,9 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
     if (!folder.exists())
         return refuse(QStringLiteral("the folder %1 does not exist").arg(folder.path()));
     QString target;
-    if (!FindTarget(path, &target, error))
+    if (!files::FindTarget(path, &target, error))
         return Storing::Failed;
-    FolderLock lock(folder.absolutePath());
+    files::FolderLock lock(folder.absolutePath());
     if (!lock.Take(error))
         return Storing::Failed;
     Stored unused;
@@ -157,7 +160,7 @@ bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* 
         *error = QStringLiteral("%1: expected a folder that can be read").arg(path);
         return false;
     }
-    FolderLock lock(folder.absolutePath());
+    files::FolderLock lock(folder.absolutePath());
     if (removes && !lock.Take(error))
         return false;
     *unneeded = FindUnneeded(folder, DataFilesIn(folder));
@@ -176,4 +179,4 @@ bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* 
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

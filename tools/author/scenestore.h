@@ -15,7 +15,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::author {
 
 /** Content of new data files by name, in the scene's folder. */
 using DataFiles = QMap<QString, QByteArray>;
@@ -24,7 +24,7 @@ using DataFiles = QMap<QString, QByteArray>;
  * Changes a scene. A new scene is empty and has no display. Returns false, with one line in @p
  * error, to refuse.
  */
-using SceneChange = std::function<bool(Scene* scene, DataFiles* dataFiles, QString* error)>;
+using SceneChange = std::function<bool(scene::Scene* scene, DataFiles* dataFiles, QString* error)>;
 
 enum class Storing {
     Saved,
@@ -36,8 +36,8 @@ enum class Storing {
 /** A scene that was saved. */
 struct Stored
 {
-    Scene scene;
-    QList<Finding> findings; ///< about it
+    scene::Scene scene;
+    QList<validate::Finding> findings; ///< about it
     QString doubt; ///< if old data files were kept because a file could not be searched: which one
 };
 
@@ -61,6 +61,6 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
  */
 bool TidyFolder(const QString& folder, bool removes, Unneeded* unneeded, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

@@ -11,7 +11,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::author {
 namespace {
 
 /** Names on the command line and in the scene file. */
@@ -26,18 +26,20 @@ const QMap<QString, QString>& Aliases()
 }
 
 /** Motions of the same kind have the same layout. */
-int Kind(const NodeMotion& motion)
+int Kind(const scene::NodeMotion& motion)
 {
-    return motion.IsScroll() ? motion.IsSideways() ? 3 : 2 : motion.Traits() & FromEnd ? 1 : 0;
+    return motion.IsScroll()                  ? motion.IsSideways() ? 3 : 2
+           : motion.Traits() & scene::FromEnd ? 1
+                                              : 0;
 }
 
 /**
  * Whether a text that was laid out for another motion also suits one of these traits. Text that is
  * aligned is out of its places where nothing turns, and ends its pages with wide spaces.
  */
-bool Suits(MotionTraits traits, const SceneNode& node, const QString& pathFile)
+bool Suits(scene::MotionTraits traits, const scene::SceneNode& node, const QString& pathFile)
 {
-    const QVector<QRectF> ink = LookIntoPathFile(pathFile).ink;
+    const QVector<QRectF> ink = validate::LookIntoPathFile(pathFile).ink;
     const auto rows = node.lists.value("TextWidth");
     bool isInPlace = true;
     int widestLetter = 0;
@@ -49,23 +51,25 @@ bool Suits(MotionTraits traits, const SceneNode& node, const QString& pathFile)
         const qreal middle = ink[i].center().x();
         isInPlace = isInPlace && (ink[i].isEmpty() || (middle >= 0 && middle <= width));
     }
-    return (isInPlace || !(traits & Turns)) &&
-           (widestSpace <= widestLetter || !(traits & EvenWidths));
+    return (isInPlace || !(traits & scene::Turns)) &&
+           (widestSpace <= widestLetter || !(traits & scene::EvenWidths));
 }
 
-QString ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, const QString& value)
+QString ChangeMotion(const scene::Scene& scene, scene::SceneNode* node, const QString& key,
+                     const QString& value)
 {
     const bool scroll = key == "ContinueStyle";
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
-    const Motion* motion = !scroll    ? FindEffect(value)
-                           : isNumber ? FindScroll(number)
-                                      : FindScroll(value);
+    const scene::Motion* motion = !scroll    ? scene::FindEffect(value)
+                                  : isNumber ? scene::FindScroll(number)
+                                             : scene::FindScroll(value);
     if (!motion)
         return QStringLiteral("unknown %1 \"%2\"; animtext effects lists them")
             .arg(scroll ? "scroll" : "effect", value);
-    const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, motion->number};
-    const NodeMotion now = MotionOf(*node);
+    const scene::NodeMotion next{scroll ? scene::Mode::Scroll : scene::Mode::Entrance,
+                                 motion->number};
+    const scene::NodeMotion now = scene::MotionOf(*node);
     const QString pathFile = scene.FullName(node->files.value("PathData"));
     if (Kind(next) != Kind(now) || !Suits(next.Traits() & ~now.Traits(), *node, pathFile))
         return QStringLiteral("%1 needs another layout; use animtext author --replace")
@@ -75,23 +79,23 @@ QString ChangeMotion(const Scene& scene, SceneNode* node, const QString& key, co
 }
 
 /** @p word as it was given for @p attribute. */
-QString ChangeNumber(SceneNode* node, const QString& word, const Attribute& attribute,
+QString ChangeNumber(scene::SceneNode* node, const QString& word, const scene::Attribute& attribute,
                      const QString& value)
 {
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
-    if (!isNumber || !IsInRange(attribute, number))
+    if (!isNumber || !scene::IsInRange(attribute, number))
         return QStringLiteral("%1 is \"%3\"; expected a whole number, %2")
-            .arg(word, RangeInWords(attribute), value);
-    SetNumber(node, attribute, number);
+            .arg(word, scene::RangeInWords(attribute), value);
+    scene::SetNumber(node, attribute, number);
     return QString();
 }
 
-QString SetColor(SceneNode* node, const QString& value)
+QString SetColor(scene::SceneNode* node, const QString& value)
 {
     QColor color;
     QString hint;
-    if (!ReadColor(value, &color, &hint))
+    if (!scene::ReadColor(value, &color, &hint))
         return QStringLiteral("unknown color \"%1\"; expected a name or #rrggbb%2")
             .arg(value, hint);
     for (auto& row : node->lists["TextAttribute"])
@@ -99,7 +103,7 @@ QString SetColor(SceneNode* node, const QString& value)
     return QString();
 }
 
-QString SetPos(SceneNode* node, const QString& value)
+QString SetPos(scene::SceneNode* node, const QString& value)
 {
     static const QRegularExpression pair("^(-?\\d{1,7}),(-?\\d{1,7})$");
     const QRegularExpressionMatch match = pair.match(value);
@@ -109,11 +113,11 @@ QString SetPos(SceneNode* node, const QString& value)
     return QString();
 }
 
-QString SetHold(SceneNode* node, const QString& value)
+QString SetHold(scene::SceneNode* node, const QString& value)
 {
     double milliseconds = 0;
     int units = 0;
-    if (!ReadTime(value, &milliseconds) || !ToHoldUnits(milliseconds, &units))
+    if (!scene::ReadTime(value, &milliseconds) || !scene::ToHoldUnits(milliseconds, &units))
         return QStringLiteral("hold is \"%1\"; expected whole tenths of a second up to "
                               "100000s, such as 2s or 1500ms")
             .arg(value);
@@ -123,7 +127,7 @@ QString SetHold(SceneNode* node, const QString& value)
 
 QStringList Known()
 {
-    QStringList keys = KeysOf(Home::Attributes) + Aliases().keys();
+    QStringList keys = scene::KeysOf(scene::Home::Attributes) + Aliases().keys();
     keys += {"speed", "hold", "pos", "neonEffect", "Color"};
     keys.removeAll("EffectType");
     keys.removeAll("Text");
@@ -132,15 +136,16 @@ QStringList Known()
 
 } // namespace
 
-QString SetValue(Scene* scene, const Place& place, const QString& word, const QString& value)
+QString SetValue(scene::Scene* scene, const scene::Place& place, const QString& word,
+                 const QString& value)
 {
-    SceneNode* node = &scene->At(place);
+    scene::SceneNode* node = &scene->At(place);
     QString key = Aliases().value(word, word);
     if (key == "speed")
-        key = MotionOf(*node).SpeedKey();
-    const Attribute* attribute = FindAttribute(Home::Attributes, key);
+        key = scene::MotionOf(*node).SpeedKey();
+    const scene::Attribute* attribute = scene::FindAttribute(scene::Home::Attributes, key);
     if (!attribute)
-        attribute = FindAttribute(Home::Node, key);
+        attribute = scene::FindAttribute(scene::Home::Node, key);
     if (key == "AnimationEffect" || key == "ContinueStyle")
         return ChangeMotion(*scene, node, key, value);
     if (key == "Color")
@@ -152,7 +157,7 @@ QString SetValue(Scene* scene, const Place& place, const QString& word, const QS
     if (attribute && Known().contains(key))
         return ChangeNumber(node, word, *attribute, value);
     return QStringLiteral("%1 cannot be set; expected one of %2%3")
-        .arg(word, Known().join(", "), DidYouMean(word, Known()));
+        .arg(word, Known().join(", "), scene::DidYouMean(word, Known()));
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

@@ -9,15 +9,16 @@
 
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::author {
 
 /**
  * Sets a value that needs no new layout, by its name on the command line ("speed", "hold", "color")
  * or in the scene file ("AnimationSpeed"). A motion can replace one with the same layout.
  * @return one line on why that is not possible, or empty
  */
-QString SetValue(Scene* scene, const Place& place, const QString& word, const QString& value);
+QString SetValue(scene::Scene* scene, const scene::Place& place, const QString& word,
+                 const QString& value);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

@@ -11,7 +11,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace AnimText {
+namespace AnimText::author {
 namespace {
 
 constexpr qint64 largestFile = 64 << 20; // bytes
@@ -21,9 +21,9 @@ int Number(const QHash<QString, QString>& row, const char* field)
     return row.value(QLatin1String(field)).toInt();
 }
 
-StyleRun StyleOf(const QHash<QString, QString>& row)
+layout::StyleRun StyleOf(const QHash<QString, QString>& row)
 {
-    StyleRun run;
+    layout::StyleRun run;
     run.font = QFont(row.value("fontName"));
     run.font.setPixelSize(qMax(1, qRound(Number(row, "fontSize") * 96 / 72.0)));
     run.font.setBold(Number(row, "bold") == 1);
@@ -36,7 +36,7 @@ StyleRun StyleOf(const QHash<QString, QString>& row)
 QJsonObject ToJson(const TextSource& source)
 {
     QJsonArray runs;
-    for (const StyleRun& run : source.text.runs)
+    for (const layout::StyleRun& run : source.text.runs)
         runs.append(QJsonObject{{"begin", run.begin},
                                 {"font", run.font.family()},
                                 {"size", run.font.pixelSize()},
@@ -67,7 +67,7 @@ TextSource FromJson(const QJsonObject& json)
     source.name = json.value("name").toString();
     for (const auto& value : json.value("runs").toArray()) {
         const QJsonObject object = value.toObject();
-        StyleRun run;
+        layout::StyleRun run;
         run.begin = object.value("begin").toInt();
         run.font = QFont(object.value("font").toString());
         run.font.setPixelSize(qMax(1, object.value("size").toInt()));
@@ -76,13 +76,13 @@ TextSource FromJson(const QJsonObject& json)
         run.font.setUnderline(object.value("underline").toBool());
         run.color = QColor(object.value("color").toString());
         // Whoever wrote the file: the first run begins at 0, and the others follow in order.
-        const QVector<StyleRun>& runs = source.text.runs;
+        const QVector<layout::StyleRun>& runs = source.text.runs;
         run.begin = runs.isEmpty() ? 0 : qMax(runs.last().begin + 1, run.begin);
         source.text.runs.append(run);
     }
-    source.fit = OneOf(json.value("fit"), Fit::Both);
-    source.align = OneOf(json.value("align"), Align::Right);
-    source.valign = OneOf(json.value("valign"), VAlign::Bottom);
+    source.fit = OneOf(json.value("fit"), layout::Fit::Both);
+    source.align = OneOf(json.value("align"), layout::Align::Right);
+    source.valign = OneOf(json.value("valign"), layout::VAlign::Bottom);
     source.padding = qMax(0, json.value("padding").toInt());
     source.keepsWords = json.value("keepsWords").toBool(true);
     return source;
@@ -92,16 +92,16 @@ TextSource FromJson(const QJsonObject& json)
 
 bool operator==(const TextSource& a, const TextSource& b)
 {
-    return static_cast<const Setting&>(a) == static_cast<const Setting&>(b) && a.text == b.text &&
-           a.name == b.name;
+    return static_cast<const layout::Setting&>(a) == static_cast<const layout::Setting&>(b) &&
+           a.text == b.text && a.name == b.name;
 }
 
-TextSource SourceOf(const SceneNode& node)
+TextSource SourceOf(const scene::SceneNode& node)
 {
     TextSource source;
     const QString text = node.attributes.value("Text").toString();
     const auto rows = node.lists.value("TextAttribute");
-    StyleRun style = StyleOf(rows.value(0));
+    layout::StyleRun style = StyleOf(rows.value(0));
     for (int i = 0; i < text.size(); ++i) {
         if (i < rows.size())
             style = StyleOf(rows.at(i));
@@ -112,9 +112,9 @@ TextSource SourceOf(const SceneNode& node)
     return source;
 }
 
-QByteArray LayoutDigest(const SceneNode& node)
+QByteArray LayoutDigest(const scene::SceneNode& node)
 {
-    SceneNode layout;
+    scene::SceneNode layout;
     layout.size = node.size;
     layout.attributes["Text"] = node.attributes.value("Text");
     layout.lists = node.lists;
@@ -123,9 +123,9 @@ QByteArray LayoutDigest(const SceneNode& node)
         const QString name = QFileInfo(node.files.value(QLatin1String(key))).fileName();
         layout.files[QLatin1String(key)] = name.section(QLatin1Char('.'), -2);
     }
-    Scene scene;
-    scene.pages = {ScenePage{{SceneArea{{layout}}}}};
-    return QCryptographicHash::hash(SceneToJson(scene), QCryptographicHash::Sha256)
+    scene::Scene scene;
+    scene.pages = {scene::ScenePage{{scene::SceneArea{{layout}}}}};
+    return QCryptographicHash::hash(scene::SceneToJson(scene), QCryptographicHash::Sha256)
         .toHex()
         .left(32);
 }
@@ -133,12 +133,16 @@ QByteArray LayoutDigest(const SceneNode& node)
 QString SourcesName(const QString& scenePath)
 {
     const QString suffix = ".sources";
-    return Shortened(QFileInfo(scenePath).completeBaseName(), longestName - suffix.size()) + suffix;
+    return files::Shortened(QFileInfo(scenePath).completeBaseName(),
+                            files::longestName - suffix.size()) +
+           suffix;
 }
 
 TextSources ReadSources(const QString& scenePath)
 {
-    QFile file(QFileInfo(RealPath(scenePath)).dir().filePath(SourcesName(RealPath(scenePath))));
+    QFile file(QFileInfo(files::RealPath(scenePath))
+                   .dir()
+                   .filePath(SourcesName(files::RealPath(scenePath))));
     if (!QFileInfo(file).isFile() || file.size() > largestFile || !file.open(QIODevice::ReadOnly))
         return {};
     return SourcesFromJson(file.readAll());
@@ -156,7 +160,7 @@ TextSources SourcesFromJson(const QByteArray& json)
 {
     TextSources sources;
     const QJsonObject list =
-        QJsonDocument::fromJson(WithMarksEscaped(json)).object().value("sources").toObject();
+        QJsonDocument::fromJson(scene::WithMarksEscaped(json)).object().value("sources").toObject();
     for (auto it = list.begin(); it != list.end(); ++it) {
         const TextSource source = FromJson(it.value().toObject());
         if (!source.text.runs.isEmpty())
@@ -165,4 +169,4 @@ TextSources SourcesFromJson(const QByteArray& json)
     return sources;
 }
 
-} // namespace AnimText
+} // namespace AnimText::author

@@ -11,7 +11,7 @@
 #include <QByteArray>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::author {
 
 bool operator==(const TextSource& a, const TextSource& b);
 inline bool operator!=(const TextSource& a, const TextSource& b)
@@ -20,13 +20,13 @@ inline bool operator!=(const TextSource& a, const TextSource& b)
 }
 
 /** The source as far as the node has it: its text and its styles. */
-TextSource SourceOf(const SceneNode& node);
+TextSource SourceOf(const scene::SceneNode& node);
 
 /** Sources by the digest of the layout that was made from them. */
 using TextSources = QMap<QByteArray, TextSource>;
 
 /** Identifies the layout of @p node, regardless of speed, hold and position. */
-QByteArray LayoutDigest(const SceneNode& node);
+QByteArray LayoutDigest(const scene::SceneNode& node);
 
 /** The name of the file with the sources of a scene. */
 QString SourcesName(const QString& scenePath);
@@ -36,6 +36,6 @@ QByteArray SourcesToJson(const TextSources& sources);
 /** Skips what cannot be read. */
 TextSources SourcesFromJson(const QByteArray& json);
 
-} // namespace AnimText
+} // namespace AnimText::author
 
 #endif

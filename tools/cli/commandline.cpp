@@ -2,7 +2,7 @@
 
 #include "scene/suggest.h"
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -22,7 +22,7 @@ Misuse UnknownOption(const Command& command, const QString& word)
     for (const Option& option : command.options)
         names.append("--" + QLatin1String(option.name));
     const QString meant = word.startsWith("--") ? word : QLatin1Char('-') + word;
-    return {QStringLiteral("unknown option %1%2").arg(word, DidYouMean(meant, names))};
+    return {QStringLiteral("unknown option %1%2").arg(word, scene::DidYouMean(meant, names))};
 }
 
 /**
@@ -97,4 +97,4 @@ QVariant CommandLine::Read(const char* name) const
     return option->standard || IsSet(name) ? ReadValue(*option, Value(name)) : QVariant();
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

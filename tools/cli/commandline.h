@@ -15,7 +15,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /**
  * The options that were given, checked, and the command's arguments. Options are named as in the
@@ -62,6 +62,6 @@ private:
     QCommandLineParser parser;
 };
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

@@ -1,6 +1,6 @@
 #include "cli/help.h"
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -149,4 +149,4 @@ QByteArray CompletionForFish(const QVector<Command>& commands)
     return text;
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

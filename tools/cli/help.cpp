@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -74,4 +74,4 @@ QByteArray HelpText(const Command& command)
     return text.toUtf8();
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

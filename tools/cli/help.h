@@ -9,7 +9,7 @@
 
 #include <QByteArray>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /** The list of commands. */
 QByteArray Overview(const QVector<Command>& commands);
@@ -22,6 +22,6 @@ QByteArray CompletionForBash(const QVector<Command>& commands);
 QByteArray CompletionForZsh(const QVector<Command>& commands);
 QByteArray CompletionForFish(const QVector<Command>& commands);
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

@@ -6,7 +6,7 @@
 
 #include <unistd.h>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -47,7 +47,7 @@ bool Interrupted()
 void StopIfInterrupted()
 {
     if (caught)
-        throw Failure{FailedRun, QStringLiteral("interrupted")};
+        throw files::Failure{files::FailedRun, QStringLiteral("interrupted")};
 }
 
 int InterruptionStatus()
@@ -55,4 +55,4 @@ int InterruptionStatus()
     return caught ? 128 + caught : 0;
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

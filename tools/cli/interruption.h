@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_INTERRUPTION_H
 #define ANIMTEXT_INTERRUPTION_H
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /**
  * From now on such a signal ends the program at once with the status 128 + signal: 130 after
@@ -26,6 +26,6 @@ void StopIfInterrupted();
 /** The exit status after a signal; 0 without one. */
 int InterruptionStatus();
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

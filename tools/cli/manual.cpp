@@ -5,7 +5,7 @@
 
 #include <QDir>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -134,13 +134,13 @@ void WriteManual(const QVector<Command>& commands, const QString& folder)
     const auto write = [&folder](const QByteArray& name, const QByteArray& page) {
         const QString path = QDir(folder).filePath(QString::fromLatin1(name) + QLatin1String(".1"));
         QString error;
-        FailUnless(WriteWhole(path, page, &error), error);
+        files::FailUnless(files::WriteWhole(path, page, &error), error);
     };
     QString error;
-    FailUnless(MakeFolder(folder, &error), error);
+    files::FailUnless(files::MakeFolder(folder, &error), error);
     write("animtext", ManualOverview(commands));
     for (const Command& command : commands)
         write(PageName(command), ManualPage(command));
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

@@ -9,7 +9,7 @@
 
 #include <QByteArray>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /** animtext(1), in man's format. */
 QByteArray ManualOverview(const QVector<Command>& commands);
@@ -22,6 +22,6 @@ QByteArray ManualPage(const Command& command);
  */
 void WriteManual(const QVector<Command>& commands, const QString& folder);
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

@@ -8,7 +8,7 @@
 
 #include <unistd.h>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -19,7 +19,7 @@ void PrintOnce(QtMsgType type, const QMessageLogContext& context, const QString&
     static QSet<QString> printed;
     if (type == QtFatalMsg && message.contains(QLatin1String("platform plugin"))) {
         Warn(NoDisplay());
-        _exit(FailedRun);
+        _exit(files::FailedRun);
     }
     // NoDisplay() replaces what the platform plugins say.
     const bool isOfPlatform = context.category && qstrncmp(context.category, "qt.qpa.", 7) == 0;
@@ -55,4 +55,4 @@ Silence::~Silence()
     silent = false;
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

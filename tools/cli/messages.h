@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /**
  * Prints each message once, and none of those about the desktop session, which nothing here needs.
@@ -29,6 +29,6 @@ private:
     Silence& operator=(const Silence&) = delete;
 };
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

@@ -2,19 +2,19 @@
 
 #include "scene/catalog.h"
 
-namespace AnimText {
+namespace AnimText::cli {
 
 Option Option::Effect(const char* name, const char* help)
 {
     Option option{Kind::Effect, name, "NAME|N", help};
-    for (const Motion& effect : Effects())
+    for (const scene::Motion& effect : scene::Effects())
         option.choices.append(QLatin1String(effect.name));
     return option;
 }
 
 Option Option::Scroll(const char* name, const char* help)
 {
-    return {Kind::Scroll, name, "DIRECTION", help, 0, 0, Directions()};
+    return {Kind::Scroll, name, "DIRECTION", help, 0, 0, scene::Directions()};
 }
 
 QString ShortestName(const Option& option)
@@ -31,4 +31,4 @@ QString HelpWithDefault(const Option& option)
                : help;
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

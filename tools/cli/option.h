@@ -9,7 +9,7 @@
 #include <QVariant>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 class CommandLine;
 
@@ -133,6 +133,6 @@ QString ShortestName(const Option& option);
 /** The help of an option with its default. */
 QString HelpWithDefault(const Option& option);
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

@@ -4,14 +4,14 @@
 #include <cstdio>
 #include <cstring>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
 [[noreturn]] void FailToPrint()
 {
-    throw Failure{FailedRun, QStringLiteral("cannot write to standard output: %1")
-                                 .arg(QString::fromLocal8Bit(std::strerror(errno)))};
+    throw files::Failure{files::FailedRun, QStringLiteral("cannot write to standard output: %1")
+                                               .arg(QString::fromLocal8Bit(std::strerror(errno)))};
 }
 
 } // namespace
@@ -36,4 +36,4 @@ void FlushOutput()
         FailToPrint();
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

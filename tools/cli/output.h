@@ -9,7 +9,7 @@
 
 #include <QByteArray>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /** Thrown if the command line is wrong. */
 struct Misuse
@@ -26,6 +26,6 @@ void Print(const QByteArray& text);
 /** Flushes standard output. Throws Failure if that fails. */
 void FlushOutput();
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

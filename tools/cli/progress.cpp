@@ -8,7 +8,7 @@
 
 #include <unistd.h>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -66,4 +66,4 @@ void Progress::Show(qint64 done)
     std::fflush(stderr);
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

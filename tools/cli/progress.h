@@ -8,7 +8,7 @@
 #include <QElapsedTimer>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 /**
  * A bar on standard error, if that is a terminal, after one second; or, for other programs, lines
@@ -42,6 +42,6 @@ private:
     bool drawn = false;
 };
 
-} // namespace AnimText
+} // namespace AnimText::cli
 
 #endif

@@ -12,7 +12,7 @@
 #include <QRegularExpression>
 #include <QSize>
 
-namespace AnimText {
+namespace AnimText::cli {
 
 namespace {
 
@@ -43,14 +43,14 @@ QString OneOf(const QStringList& words)
 QVariant ToTime(const Option& option, const QString& text)
 {
     double milliseconds = 0;
-    if (!ReadTime(text, &milliseconds) || !IsWithin(option, milliseconds / 1000))
+    if (!scene::ReadTime(text, &milliseconds) || !IsWithin(option, milliseconds / 1000))
         Refuse(option, text,
                "a time such as 2.5s, 1500ms or 40t (ticks), or a number of seconds " +
                    Limits(option));
     int units = 0;
     if (option.kind == Kind::Time)
         return milliseconds;
-    if (!ToHoldUnits(milliseconds, &units))
+    if (!scene::ToHoldUnits(milliseconds, &units))
         Refuse(option, text, "whole tenths of a second, such as 2.5s");
     return units;
 }
@@ -124,13 +124,13 @@ QVariant ReadValue(const Option& option, const QString& text)
     case Kind::Range: return ToRange(option, text);
     case Kind::Color: {
         QColor color;
-        if (!ReadColor(text, &color, &hint))
+        if (!scene::ReadColor(text, &color, &hint))
             Refuse(option, text, "a color name or #rrggbb" + hint);
         return color;
     }
     case Kind::Font: {
         QString family;
-        if (!FindFamily(text, &family, &hint))
+        if (!scene::FindFamily(text, &family, &hint))
             throw Misuse{hint};
         return family;
     }
@@ -139,20 +139,20 @@ QVariant ReadValue(const Option& option, const QString& text)
             if (text.compare(option.choices.at(i), Qt::CaseInsensitive) == 0)
                 return i;
         }
-        Refuse(option, text, OneOf(option.choices) + DidYouMean(text, option.choices));
+        Refuse(option, text, OneOf(option.choices) + scene::DidYouMean(text, option.choices));
     case Kind::Effect:
-        if (const Motion* effect = FindEffect(text))
+        if (const scene::Motion* effect = scene::FindEffect(text))
             return effect->number;
         Refuse(option, text,
                QStringLiteral("a number from 0 to %1 or a name from animtext effects%2")
-                   .arg(Effects().last().number)
-                   .arg(DidYouMeanOneOf(text, option.choices)));
+                   .arg(scene::Effects().last().number)
+                   .arg(scene::DidYouMeanOneOf(text, option.choices)));
     case Kind::Scroll:
-        if (const Motion* scroll = FindScroll(text))
+        if (const scene::Motion* scroll = scene::FindScroll(text))
             return scroll->number;
-        Refuse(option, text, OneOf(option.choices) + DidYouMeanOneOf(text, option.choices));
+        Refuse(option, text, OneOf(option.choices) + scene::DidYouMeanOneOf(text, option.choices));
     }
     return text;
 }
 
-} // namespace AnimText
+} // namespace AnimText::cli

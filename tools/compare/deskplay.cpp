@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 namespace {
 
@@ -32,9 +32,9 @@ void CutTo(const Recording& recorded, Recording* desk)
 
 } // namespace
 
-bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
-                Recording* recorded, Recording* desk, PicturePlace wanted, QImage* picture,
-                QString* error)
+bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
+                const std::function<bool()>& goOn, Recording* recorded, Recording* desk,
+                PicturePlace wanted, QImage* picture, QString* error)
 {
     DropStops(recorded, Stops::Anywhere);
     if (!player->Load(scene, error))
@@ -47,8 +47,8 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
             shown = Torv::FrontImage(PicSession(call.result), 0);
         if (call.operation == Torv::OpSwapPicImageLayerPtr)
             shown = Torv::FrontImage(call.session, call.layer);
-        const QJsonObject line = QJsonDocument::fromJson(CallLine(call)).object();
-        desk->TakeCall(line, 0, player->Time(), QString::fromLatin1(Sha1Of(shown)));
+        const QJsonObject line = QJsonDocument::fromJson(player::CallLine(call)).object();
+        desk->TakeCall(line, 0, player->Time(), QString::fromLatin1(player::Sha1Of(shown)));
         lastCall = player->Tick();
         if (wanted.session >= 0 && picture->isNull() &&
             desk->sessions.value(wanted.session).size() == wanted.call + 1)
@@ -57,7 +57,7 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
     const auto takeBackgrounds = [&] {
         for (int node = 0; node < player->NodeCount(); ++node)
             desk->TakeBackground(node + 1, player->Time(),
-                                 QString::fromLatin1(Sha1Of(player->DazzlePicture(node))));
+                                 QString::fromLatin1(player::Sha1Of(player->DazzlePicture(node))));
     };
     player->Start(seed);
     takeBackgrounds();
@@ -74,4 +74,4 @@ bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::functi
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::compare

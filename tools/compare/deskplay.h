@@ -12,7 +12,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 /** A picture of a recording by its place there. */
 struct PicturePlace
@@ -27,10 +27,10 @@ struct PicturePlace
  * @param goOn    called at every tick; false stops
  * @param wanted  the place of a picture that @p picture is set to
  */
-bool PlayOnDesk(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
-                Recording* recorded, Recording* desk, PicturePlace wanted, QImage* picture,
-                QString* error);
+bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
+                const std::function<bool()>& goOn, Recording* recorded, Recording* desk,
+                PicturePlace wanted, QImage* picture, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::compare
 
 #endif

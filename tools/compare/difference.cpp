@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 namespace {
 
@@ -140,4 +140,4 @@ Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolera
     return first;
 }
 
-} // namespace AnimText
+} // namespace AnimText::compare

@@ -7,7 +7,7 @@
 
 #include "compare/recording.h"
 
-namespace AnimText {
+namespace AnimText::compare {
 
 struct Difference
 {
@@ -24,6 +24,6 @@ struct Difference
  */
 Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolerance);
 
-} // namespace AnimText
+} // namespace AnimText::compare
 
 #endif

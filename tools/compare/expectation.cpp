@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 namespace {
 
@@ -13,7 +13,7 @@ constexpr int digits = 16; // of a SHA-1
 bool SamePlay(const Ticks& a, const Ticks& b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const NodeTick& x, const NodeTick& y) {
+                      [](const player::NodeTick& x, const player::NodeTick& y) {
                           return x.tick == y.tick && x.swapped == y.swapped && x.size == y.size &&
                                  x.state == y.state;
                       });
@@ -54,7 +54,7 @@ QByteArray ExpectationText(const Expectation& expectation)
 {
     QByteArray text;
     for (auto scene = expectation.begin(); scene != expectation.end(); ++scene)
-        for (const NodeTick& tick : *scene) {
+        for (const player::NodeTick& tick : *scene) {
             QByteArrayList words{scene.key().toUtf8(),
                                  QByteArray::number(tick.tick),
                                  tick.swapped ? "1" : "0",
@@ -76,7 +76,7 @@ void Tally::Aspect::Add(const QString& scene, bool isKnown, bool isEqual)
         differ.append(scene);
 }
 
-void Tally::Add(const QString& scene, const NodeMotion& motion, const Ticks& expected,
+void Tally::Add(const QString& scene, const scene::NodeMotion& motion, const Ticks& expected,
                 const Ticks& shown)
 {
     Row& row = rows[{motion.mode, motion.number}];
@@ -85,8 +85,8 @@ void Tally::Add(const QString& scene, const NodeMotion& motion, const Ticks& exp
     int compared = 0, equal = 0;
     bool knowsBackground = false, sameBackground = true;
     for (int i = 0; i < expected.size(); ++i) {
-        const NodeTick& was = expected[i];
-        const NodeTick now = shown.value(i);
+        const player::NodeTick& was = expected[i];
+        const player::NodeTick now = shown.value(i);
         if (!was.background.isEmpty()) {
             knowsBackground = true;
             sameBackground = sameBackground && now.background.left(digits) == was.background;
@@ -156,4 +156,4 @@ QByteArray Tally::Table() const
     return (table + differences).toUtf8();
 }
 
-} // namespace AnimText
+} // namespace AnimText::compare

@@ -11,9 +11,9 @@
 #include <QMap>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::compare {
 
-using Ticks = QVector<NodeTick>;
+using Ticks = QVector<player::NodeTick>;
 
 /**
  * The ticks of scenes by the scenes' names. A line of the file is a tick: scene, tick, whether a
@@ -30,7 +30,7 @@ QByteArray ExpectationText(const Expectation& expectation);
 class Tally
 {
 public:
-    void Add(const QString& scene, const NodeMotion& motion, const Ticks& expected,
+    void Add(const QString& scene, const scene::NodeMotion& motion, const Ticks& expected,
              const Ticks& shown);
 
     QByteArray Table() const;
@@ -54,12 +54,12 @@ private:
         void Add(const QString& scene, bool isKnown, bool isEqual);
     };
 
-    QMap<QPair<Mode, int>, Row> rows; ///< by the motion and its number
+    QMap<QPair<scene::Mode, int>, Row> rows; ///< by the motion and its number
     Aspect ticks{"Ticks, sizes and states", "Ticks, sizes or states"};
     Aspect pictures{"Pictures", "Pictures"};
     Aspect backgrounds{"Backgrounds", "Backgrounds"};
 };
 
-} // namespace AnimText
+} // namespace AnimText::compare
 
 #endif

@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 bool ReadPam(const QString& path, QImage* picture, QString* error)
 {
@@ -53,4 +53,4 @@ QImage DifferenceOf(const QImage& a, const QImage& b)
     return difference;
 }
 
-} // namespace AnimText
+} // namespace AnimText::compare

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 QVector<RecordedCall> Recording::All() const
 {
@@ -153,4 +153,4 @@ bool ReadRecording(const QString& path, Recording* recording, QString* error)
     return false;
 }
 
-} // namespace AnimText
+} // namespace AnimText::compare

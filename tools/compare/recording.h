@@ -12,7 +12,7 @@
 #include <QString>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::compare {
 
 /** One call, or, in a trace without calls, one picture. */
 struct RecordedCall
@@ -64,6 +64,6 @@ void DropStops(Recording* recording, Stops which);
 /** Reads the file @p path. On failure returns false and sets @p error to one line. */
 bool ReadRecording(const QString& path, Recording* recording, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::compare
 
 #endif

@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::files {
 
 /** Exit statuses. After a signal the status is 128 + signal. */
 enum Status { Done = 0, FailedRun = 1, BadInput = 2 };
@@ -26,6 +26,6 @@ inline void FailUnless(bool succeeded, const QString& error, Status status = Fai
         throw Failure{status, error};
 }
 
-} // namespace AnimText
+} // namespace AnimText::files
 
 #endif

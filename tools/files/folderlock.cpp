@@ -10,7 +10,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace AnimText {
+namespace AnimText::files {
 namespace {
 
 const int oldestLock = 30 * 1000; // ms; writing a scene takes far less
@@ -75,4 +75,4 @@ void FolderLock::Sync() const
     close(descriptor);
 }
 
-} // namespace AnimText
+} // namespace AnimText::files

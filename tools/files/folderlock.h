@@ -8,7 +8,7 @@
 #include <QLockFile>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::files {
 
 /**
  * Scenes in a folder may share data files, so a writer locks the whole folder with a file
@@ -32,6 +32,6 @@ private:
     QLockFile file;
 };
 
-} // namespace AnimText
+} // namespace AnimText::files
 
 #endif

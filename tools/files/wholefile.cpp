@@ -18,7 +18,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace AnimText {
+namespace AnimText::files {
 
 namespace {
 
@@ -219,4 +219,4 @@ bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* 
     return whole;
 }
 
-} // namespace AnimText
+} // namespace AnimText::files

@@ -12,7 +12,7 @@
 class QFile;
 class QTemporaryDir;
 
-namespace AnimText {
+namespace AnimText::files {
 
 constexpr int longestName = 255; ///< bytes of a file's name, in Linux' file systems
 
@@ -77,6 +77,6 @@ bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
  */
 bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::files
 
 #endif

@@ -8,7 +8,7 @@
 
 #include <cstdio>
 
-namespace AnimText {
+namespace AnimText::files {
 
 namespace {
 
@@ -122,4 +122,4 @@ bool WholeFolder::Finish(QString* error)
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::files

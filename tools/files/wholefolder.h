@@ -13,7 +13,7 @@
 #include <functional>
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::files {
 
 /** Written under another name beside its place until Finish(); otherwise removed. */
 class WholeFolder
@@ -47,6 +47,6 @@ private:
     qint64 bytes = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::files
 
 #endif

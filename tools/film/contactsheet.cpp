@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -106,4 +106,4 @@ QImage DrawContactSheet(const QVector<SheetRow>& rows)
     return sheet;
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

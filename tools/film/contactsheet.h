@@ -9,7 +9,7 @@
 #include <QString>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::film {
 
 struct SheetFrame
 {
@@ -28,6 +28,6 @@ struct SheetRow
 /** Draws the rows below one another, many of them in two columns. */
 QImage DrawContactSheet(const QVector<SheetRow>& rows);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

@@ -10,39 +10,41 @@
 #include <algorithm>
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
-constexpr int ticksOfAnHour = 3600 * 1000 / tickLength;
+constexpr int ticksOfAnHour = 3600 * 1000 / player::tickLength;
 
 int TicksOf(qint64 milliseconds)
 {
-    const qint64 ticks = (milliseconds + tickLength - 1) / tickLength;
+    const qint64 ticks = (milliseconds + player::tickLength - 1) / player::tickLength;
     return int(std::min<qint64>(ticks, ticksOfAnHour + 1));
 }
 
 } // namespace
 
-Film::Film(Player* player, const Scene& scene, const FilmSettings& settings, const FilmWatch& watch)
+Film::Film(player::Player* player, const scene::Scene& scene, const FilmSettings& settings,
+           const FilmWatch& watch)
     : player(player)
     , scene(scene)
     , settings(settings)
 {
-    const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / tickLength)));
+    const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / player::tickLength)));
     if (settings.schedule) {
-        schedule = HostSchedule(scene, player->Durations());
+        schedule = player::HostSchedule(scene, player->Durations());
         frameCount = std::max(1, TicksOf(schedule.length));
         if (settings.seconds > 0)
             frameCount = std::min(frameCount, wanted);
     } else {
         frameCount = settings.seconds > 0 ? wanted : FindEnd(watch);
     }
-    FailUnless(frameCount <= ticksOfAnHour || settings.seconds > 0,
-               QStringLiteral("%1: does not end within an hour; choose a part of it, for instance "
-                              "--seconds 60")
-                   .arg(scene.path),
-               BadInput);
+    files::FailUnless(
+        frameCount <= ticksOfAnHour || settings.seconds > 0,
+        QStringLiteral("%1: does not end within an hour; choose a part of it, for instance "
+                       "--seconds 60")
+            .arg(scene.path),
+        files::BadInput);
 }
 
 QSize Film::FrameSize() const
@@ -52,7 +54,7 @@ QSize Film::FrameSize() const
     return settings.evenSize ? size + odd : size;
 }
 
-int Film::PlannedFrames(const QVector<NodePlay>& plays)
+int Film::PlannedFrames(const QVector<timing::NodePlay>& plays)
 {
     int lastTick = 0;
     restTick = -1;
@@ -60,24 +62,24 @@ int Film::PlannedFrames(const QVector<NodePlay>& plays)
     for (int node = 0; node < plays.size(); ++node) {
         Lw::HNeonNodeBase* animated = player->Scenery().Node(node);
         switch (plays.at(node).ending) {
-        case Ending::Finishes: {
+        case timing::Ending::Finishes: {
             comesToRest[node] = true;
             const int rest = settings.restAtEnd ? std::max(0, animated->GetHoldTime()) : 0;
             restTick = std::max(restTick, plays.at(node).finishedTick);
             lastTick = std::max(lastTick, plays.at(node).finishedTick + TicksOf(rest * 100LL));
             break;
         }
-        case Ending::ScrollsOn: {
-            const qint64 pass = ScrollPass(player->Scenery(), node);
+        case timing::Ending::ScrollsOn: {
+            const qint64 pass = timing::ScrollPass(player->Scenery(), node);
             // The picture after the last one is the first.
             lastTick = std::max(lastTick, TicksOf(pass > 0 ? pass : animated->Duration()) - 1);
             break;
         }
-        case Ending::StandsStill:
+        case timing::Ending::StandsStill:
             lastTick = std::max(lastTick, TicksOf(animated->Duration()) - 1);
             break;
-        case Ending::NothingToPlay: break;
-        case Ending::TooLong: return ticksOfAnHour + 1;
+        case timing::Ending::NothingToPlay: break;
+        case timing::Ending::TooLong: return ticksOfAnHour + 1;
         }
     }
     return lastTick + 1;
@@ -85,15 +87,15 @@ int Film::PlannedFrames(const QVector<NodePlay>& plays)
 
 int Film::FindEnd(const FilmWatch& watch)
 {
-    const BlankScene blank(scene);
+    const timing::BlankScene blank(scene);
     QString error;
-    FailUnless(player->Load(blank.Get(), &error), error, BadInput);
+    files::FailUnless(player->Load(blank.Get(), &error), error, files::BadInput);
     const auto look = [&](int tick) {
         if (watch)
             watch(FilmStage::End, tick, 0);
         return true;
     };
-    return PlannedFrames(PlayToEnd(player, ticksOfAnHour + 1, settings.seed, look));
+    return PlannedFrames(timing::PlayToEnd(player, ticksOfAnHour + 1, settings.seed, look));
 }
 
 /** @p shown, scaled to @p part, in a picture of @p size with the background. */
@@ -124,7 +126,7 @@ void Film::Play(const QVector<int>& wanted,
 {
     // Some state outlives a restart, for example the dazzle colors.
     QString error;
-    FailUnless(player->Load(scene, &error), error);
+    files::FailUnless(player->Load(scene, &error), error);
     if (settings.schedule)
         player->Start(schedule, settings.seed);
     else
@@ -149,4 +151,4 @@ void Film::Rest()
     }
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

@@ -12,7 +12,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::film {
 
 /** How to make a film from a play. */
 struct FilmSettings
@@ -24,7 +24,7 @@ struct FilmSettings
     bool schedule = false;         ///< as the host plays it, by planned times
     bool restAtEnd = true;         ///< holds the last pages once more
     bool evenSize = false;         ///< adds a column or row where a side is odd
-    uint seed = standardSeed;
+    uint seed = player::standardSeed;
 };
 
 /** The stages of making a film. */
@@ -46,7 +46,7 @@ public:
      * cannot be played or does not end within an hour.
      * @param watch called for as long as that takes
      */
-    Film(Player* player, const Scene& scene, const FilmSettings& settings,
+    Film(player::Player* player, const scene::Scene& scene, const FilmSettings& settings,
          const FilmWatch& watch = FilmWatch());
 
     int FrameCount() const { return frameCount; }
@@ -65,20 +65,20 @@ public:
 
 private:
     int FindEnd(const FilmWatch& watch);
-    int PlannedFrames(const QVector<NodePlay>& plays);
+    int PlannedFrames(const QVector<timing::NodePlay>& plays);
     QImage OnBackground(const QImage& shown, QSize part, QSize size) const;
     QImage Picture() const;
     void Rest();
 
-    Player* player;
-    Scene scene;
+    player::Player* player;
+    scene::Scene scene;
     FilmSettings settings;
-    Schedule schedule;
+    player::Schedule schedule;
     int frameCount = 0;
     int restTick = -1;         // from here on, finished texts are frozen; negative: never
     QVector<bool> comesToRest; // by node
 };
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

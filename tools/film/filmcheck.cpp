@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -83,15 +83,16 @@ void CheckFilm(const QString& film, const QString& written, const QString& kind,
         probe.Start("ffprobe", words << written, QString());
         facts = FactsIn(probe.Finish());
     } else {
-        FailUnless(ReadWebp(written, &facts),
-                   CannotWrite(film, "what was written is not a complete WebP file"));
+        files::FailUnless(ReadWebp(written, &facts),
+                          files::CannotWrite(film, "what was written is not a complete WebP file"));
     }
-    const double expected = double(format.frames) * tickLength;
+    const double expected = double(format.frames) * player::tickLength;
     // A still has no time. Where equal pictures become one, the time shows it.
     const bool inTime =
-        format.frames == 1 || std::abs(facts.milliseconds - expected) < tickLength * 0.9;
-    FailUnless(facts.frames > 0 && facts.frames <= format.frames && inTime,
-               CannotWrite(film, QStringLiteral("the encoder wrote %1 pictures in %2 s, where %3 "
+        format.frames == 1 || std::abs(facts.milliseconds - expected) < player::tickLength * 0.9;
+    files::FailUnless(
+        facts.frames > 0 && facts.frames <= format.frames && inTime,
+        files::CannotWrite(film, QStringLiteral("the encoder wrote %1 pictures in %2 s, where %3 "
                                                 "in %4 s were due")
                                      .arg(facts.frames)
                                      .arg(facts.milliseconds / 1000)
@@ -99,4 +100,4 @@ void CheckFilm(const QString& film, const QString& written, const QString& kind,
                                      .arg(expected / 1000)));
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

@@ -7,7 +7,7 @@
 
 #include "film/filmfile.h"
 
-namespace AnimText {
+namespace AnimText::film {
 
 /**
  * Reads the headers of every picture in the file @p written. Throws Failure, which names @p film,
@@ -17,6 +17,6 @@ namespace AnimText {
 void CheckFilm(const QString& film, const QString& written, const QString& kind,
                const FilmFormat& format, const GoOn& goOn);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

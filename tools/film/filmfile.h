@@ -14,7 +14,7 @@
 #include <functional>
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::film {
 
 /** What is known about a film before its first picture. */
 struct FilmFormat
@@ -65,6 +65,6 @@ using PlayPictures = std::function<void(const std::function<void(const QImage&)>
 FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
                           const PlayPictures& play, const GoOn& goOn, int patience = 5 * 60 * 1000);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

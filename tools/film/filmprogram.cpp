@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -109,7 +109,7 @@ QByteArray FilmProgram::Finish()
 
 void FilmProgram::Fail(const QString& problem) const
 {
-    throw Failure{FailedRun, CannotWrite(film, problem)};
+    throw files::Failure{files::FailedRun, files::CannotWrite(film, problem)};
 }
 
 /** With the most telling part of what the program @p said, on one line. */
@@ -126,4 +126,4 @@ void FilmProgram::Fail(const QByteArray& said) const
     Fail(QStringLiteral("%1 failed: %2").arg(name, last.isEmpty() ? process.errorString() : last));
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

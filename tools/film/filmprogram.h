@@ -10,7 +10,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 
-namespace AnimText {
+namespace AnimText::film {
 
 /**
  * Whatever the program says on its standard error counts as a failure: ffmpeg can end with status 0
@@ -51,6 +51,6 @@ private:
     QProcess process;
 };
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::film {
 
 const QList<FilmKind>& FilmKinds()
 {
@@ -47,4 +47,4 @@ const FilmKind* FilmKindOf(const QString& path)
     return nullptr;
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

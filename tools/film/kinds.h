@@ -8,7 +8,7 @@
 #include <QList>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::film {
 
 struct FilmKind
 {
@@ -44,6 +44,6 @@ const QList<FilmKind>& FilmKinds();
  */
 const FilmKind* FilmKindOf(const QString& path);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <vector>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -57,4 +57,4 @@ QImage AsLamps(const QImage& given, int size, double pitch)
     return large;
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

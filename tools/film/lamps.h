@@ -7,7 +7,7 @@
 
 #include <QImage>
 
-namespace AnimText {
+namespace AnimText::film {
 
 constexpr int smallestLamp = 4; ///< pixels from LED to LED; closer ones are not round
 
@@ -18,6 +18,6 @@ constexpr int smallestLamp = 4; ///< pixels from LED to LED; closer ones are not
  */
 QImage AsLamps(const QImage& picture, int size, double pitch);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

@@ -8,7 +8,7 @@
 #include <QHash>
 #include <QImageWriter>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -73,7 +73,7 @@ bool IsOurPng(const QString& path)
 void WritePng(const QString& path, const QByteArray& png)
 {
     QString error = QStringLiteral("%1 cannot be written: the picture is too large").arg(path);
-    FailUnless(!png.isEmpty() && WriteWhole(path, png, &error), error);
+    files::FailUnless(!png.isEmpty() && files::WriteWhole(path, png, &error), error);
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

@@ -9,7 +9,7 @@
 #include <QImage>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::film {
 
 /** Whether a PNG is made quickly or small. */
 enum class PngEffort { Fast, Small };
@@ -23,6 +23,6 @@ bool IsOurPng(const QString& path);
 /** Writes what PngOf() made, whole or not at all, to @p path; throws Failure. */
 void WritePng(const QString& path, const QByteArray& png);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

@@ -13,7 +13,7 @@
 #include <future>
 #include <thread>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -26,7 +26,7 @@ public:
     {
         QString target;
         QString error;
-        FailUnless(FindTarget(this->path, &target, &error), error);
+        files::FailUnless(files::FindTarget(this->path, &target, &error), error);
     }
 
     void Add(int, const QImage& picture) override { png = PngOf(picture, transparent); }
@@ -60,7 +60,7 @@ public:
         , digits(std::max(4, int(QString::number(format.firstFrame + format.frames - 1).size())))
     {
         QString error;
-        FailUnless(folder.Open(Frames, &error), error);
+        files::FailUnless(folder.Open(Frames, &error), error);
     }
 
     void Add(int frame, const QImage& picture) override
@@ -79,7 +79,7 @@ public:
         while (!waiting.empty())
             WriteNext();
         QString error;
-        FailUnless(folder.Finish(&error), error);
+        files::FailUnless(folder.Finish(&error), error);
     }
 
 private:
@@ -94,10 +94,10 @@ private:
             QStringLiteral("frame-%1.png").arg(frame, digits, 10, QLatin1Char('0'));
         QString error = QStringLiteral("%1/%2 cannot be written: the picture is too large")
                             .arg(folder.Path(), name);
-        FailUnless(!png.isEmpty() && folder.Add(name, png, &error), error);
+        files::FailUnless(!png.isEmpty() && folder.Add(name, png, &error), error);
     }
 
-    WholeFolder folder;
+    files::WholeFolder folder;
     const bool transparent;
     const int digits;
     std::deque<std::pair<int, Png>> waiting;
@@ -117,4 +117,4 @@ FilmFilePointer MakePngFolder(const QString& path, const FilmFormat& format)
     return std::make_unique<PngFolder>(path, format);
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

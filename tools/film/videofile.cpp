@@ -7,7 +7,7 @@
 #include <QSet>
 #include <QTemporaryFile>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -47,9 +47,10 @@ public:
         , patience(patience)
         , encoder(this->path, goOn, patience)
     {
-        unfinished.setFileTemplate(UnfinishedName(Target()));
+        unfinished.setFileTemplate(files::UnfinishedName(Target()));
         if (!unfinished.open())
-            throw Failure{FailedRun, CannotWrite(this->path, unfinished.errorString())};
+            throw files::Failure{files::FailedRun,
+                                 files::CannotWrite(this->path, unfinished.errorString())};
         QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
         if (kind.Has(FilmKind::Palette))
             words += WithPalette(Palette(play));
@@ -67,7 +68,7 @@ public:
         encoder.Finish();
         CheckFilm(path, unfinished.fileName(), kind.Name(), format, goOn);
         QString error;
-        FailUnless(PutInPlace(unfinished.fileName(), Target(), 0666, &error), error);
+        files::FailUnless(files::PutInPlace(unfinished.fileName(), Target(), 0666, &error), error);
         unfinished.setAutoRemove(false);
     }
 
@@ -77,7 +78,7 @@ private:
     {
         QString target;
         QString error;
-        FailUnless(FindTarget(path, &target, &error), error);
+        files::FailUnless(files::FindTarget(path, &target, &error), error);
         return target;
     }
 
@@ -129,4 +130,4 @@ FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmF
     return std::make_unique<VideoFile>(path, kind, format, play, goOn, patience);
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

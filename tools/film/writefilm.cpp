@@ -7,7 +7,7 @@
 
 #include <numeric>
 
-namespace AnimText {
+namespace AnimText::film {
 
 namespace {
 
@@ -57,4 +57,4 @@ WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bo
     return {format.size, format.frames, SizeOf(path), hasColor};
 }
 
-} // namespace AnimText
+} // namespace AnimText::film

@@ -9,7 +9,7 @@
 
 #include <QPair>
 
-namespace AnimText {
+namespace AnimText::film {
 
 /** What was written. */
 struct WrittenFilm
@@ -30,6 +30,6 @@ struct WrittenFilm
 WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bool isLossless,
                       const FilmWatch& watch);
 
-} // namespace AnimText
+} // namespace AnimText::film
 
 #endif

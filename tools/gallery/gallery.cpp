@@ -18,7 +18,7 @@ static void LoadPage()
     Q_INIT_RESOURCE(page);
 }
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 namespace {
 
@@ -90,10 +90,10 @@ int PosterPicture(const MotionPlay& play)
     return 0;
 }
 
-QJsonArray ToJson(const QVector<PageTime>& pages)
+QJsonArray ToJson(const QVector<timing::PageTime>& pages)
 {
     QJsonArray array;
-    for (const PageTime& page : pages)
+    for (const timing::PageTime& page : pages)
         array.append(QJsonArray{page.begin, page.hold - 1, page.end}); // its last picture
     return array;
 }
@@ -139,25 +139,25 @@ QJsonObject PicturesToJson(const GalleryEntry& entry, const QVector<QByteArray>&
 struct GalleryWriter
 {
     const GalleryOptions& options;
-    Player* player;
+    player::Player* player;
     GalleryWatch watch;
-    WholeFolder folder{options.folder};
-    QTemporaryDir scenes{TemporaryName()};
+    files::WholeFolder folder{options.folder};
+    QTemporaryDir scenes{files::TemporaryName()};
     PictureSheets posters{};
     QJsonObject digests{}; // of the files in the folder
     QString why{};
     int done = 0;
-    const int all = speedCount * (Effects().size() + Scrolls().size());
+    const int all = speedCount * (scene::Effects().size() + scene::Scrolls().size());
 
     /** Throws. */
     void Write()
     {
-        Demand(IsMade(scenes, &why) && folder.Open(OwnFiles, &why));
+        Demand(files::IsMade(scenes, &why) && folder.Open(OwnFiles, &why));
         QVector<GalleryEntry> entries;
-        for (const Motion& motion : Effects())
-            entries.append(WriteMotion(Mode::Entrance, motion));
-        for (const Motion& motion : Scrolls())
-            entries.append(WriteMotion(Mode::Scroll, motion));
+        for (const scene::Motion& motion : scene::Effects())
+            entries.append(WriteMotion(scene::Mode::Entrance, motion));
+        for (const scene::Motion& motion : scene::Scrolls())
+            entries.append(WriteMotion(scene::Mode::Scroll, motion));
         Add(QStringLiteral("posters.png"), posters.Finish().value(0));
         QJsonArray motions;
         for (const GalleryEntry& entry : entries)
@@ -165,7 +165,7 @@ struct GalleryWriter
         const QJsonObject all{{QStringLiteral("words"), options.words},
                               {QStringLiteral("width"), options.node.size.width()},
                               {QStringLiteral("height"), options.node.size.height()},
-                              {QStringLiteral("tick"), tickLength},
+                              {QStringLiteral("tick"), player::tickLength},
                               {QStringLiteral("sheet"), PictureSheets::picturesInSheet},
                               {QStringLiteral("motions"), motions}};
         Add(QStringLiteral("motions.js"), Script("showGallery", all));
@@ -194,21 +194,22 @@ struct GalleryWriter
         return file.readAll();
     }
 
-    GalleryEntry WriteMotion(Mode mode, const Motion& motion)
+    GalleryEntry WriteMotion(scene::Mode mode, const scene::Motion& motion)
     {
-        SceneNode node = options.node;
-        const NodeMotion nodeMotion{mode, motion.number};
+        scene::SceneNode node = options.node;
+        const scene::NodeMotion nodeMotion{mode, motion.number};
         GalleryEntry entry;
         entry.motion = &motion;
-        entry.option = mode == Mode::Entrance
-                           ? QStringLiteral("--effect %1").arg(QLatin1String(motion.name))
-                           : QStringLiteral("--scroll %1").arg(Directions().at(motion.number));
+        entry.option =
+            mode == scene::Mode::Entrance
+                ? QStringLiteral("--effect %1").arg(QLatin1String(motion.name))
+                : QStringLiteral("--scroll %1").arg(scene::Directions().at(motion.number));
         PictureSheets sheets;
         for (int speed : speedsInOrder) {
             node.attributes[nodeMotion.SpeedKey()] = speed;
-            AuthoredNode authored;
-            Demand(AuthorNode(options.text, node, nodeMotion, &authored, &why));
-            const Scene scene = Stage(authored);
+            author::AuthoredNode authored;
+            Demand(author::AuthorNode(options.text, node, nodeMotion, &authored, &why));
+            const scene::Scene scene = Stage(authored);
             const auto goOn = [this] { return watch(done, all); };
             Demand(
                 PlayMotion(player, scene, options.seed, goOn, &sheets, &entry.plays[speed], &why));
@@ -222,17 +223,17 @@ struct GalleryWriter
     }
 
     /** @p authored alone on its display, its data files among those that are thrown away. */
-    Scene Stage(const AuthoredNode& authored)
+    scene::Scene Stage(const author::AuthoredNode& authored)
     {
-        Scene scene;
+        scene::Scene scene;
         scene.path = scenes.filePath(QStringLiteral("scene.json"));
         scene.display = authored.node.size;
-        SceneNode node = authored.node;
+        scene::SceneNode node = authored.node;
         for (auto file = authored.data.begin(); file != authored.data.end(); ++file) {
             node.files[file.key()] = scenes.filePath(file.key());
-            Demand(WriteWhole(node.files[file.key()], file.value(), &why));
+            Demand(files::WriteWhole(node.files[file.key()], file.value(), &why));
         }
-        scene.pages.append(ScenePage{{SceneArea{{node}}}});
+        scene.pages.append(scene::ScenePage{{scene::SceneArea{{node}}}});
         return scene;
     }
 
@@ -256,7 +257,7 @@ struct GalleryWriter
 
 } // namespace
 
-bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWatch& watch,
+bool WriteGallery(const GalleryOptions& options, player::Player* player, const GalleryWatch& watch,
                   qint64* bytes, QString* error)
 {
     LoadPage();
@@ -271,4 +272,4 @@ bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWa
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::gallery

@@ -12,16 +12,16 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 /** What the gallery shows. */
 struct GalleryOptions
 {
-    TextSource text;
-    SceneNode node; ///< settings; the motion and the speed are the gallery's own
-    QString words;  ///< the options of `animtext author` for this text
-    QString folder; ///< where the gallery goes
-    uint seed = standardSeed;
+    author::TextSource text;
+    scene::SceneNode node; ///< settings; the motion and the speed are the gallery's own
+    QString words;         ///< the options of `animtext author` for this text
+    QString folder;        ///< where the gallery goes
+    uint seed = player::standardSeed;
 };
 
 /** Receives the number of finished plays; false stops. */
@@ -33,9 +33,9 @@ using GalleryWatch = std::function<bool(int done, int all)>;
  * @param bytes  set to the size of all its files
  * @return false, with one line in @p error; an existing gallery is then unchanged
  */
-bool WriteGallery(const GalleryOptions& options, Player* player, const GalleryWatch& watch,
+bool WriteGallery(const GalleryOptions& options, player::Player* player, const GalleryWatch& watch,
                   qint64* bytes, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::gallery
 
 #endif

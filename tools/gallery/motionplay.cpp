@@ -2,7 +2,7 @@
 
 #include "scene/motion.h"
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 namespace {
 
@@ -17,8 +17,9 @@ void Show(int picture, MotionPlay* play)
 
 } // namespace
 
-bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
-                PictureSheets* sheets, MotionPlay* play, QString* error)
+bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
+                const std::function<bool()>& goOn, PictureSheets* sheets, MotionPlay* play,
+                QString* error)
 {
     *play = MotionPlay();
     if (!player->Load(scene, error))
@@ -29,8 +30,8 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     Show(shown, play);
 
     const bool isDevices = player->Scenery().Motion(0).IsSideways();
-    const qint64 pass = isDevices ? ScrollPass(player->Scenery(), 0) : 0;
-    const int longest = isDevices ? int(pass / tickLength) : ticksOfADay;
+    const qint64 pass = isDevices ? timing::ScrollPass(player->Scenery(), 0) : 0;
+    const int longest = isDevices ? int(pass / player::tickLength) : timing::ticksOfADay;
     while (player->Tick() < longest && (isDevices || player->State(0) == 1)) {
         player->Advance();
         if (!goOn()) {
@@ -44,10 +45,11 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     if (isDevices)
         return true;
     play->actual = player->Time();
-    if (MotionOf(*scene.Nodes().first()).mode != Mode::Entrance)
+    if (scene::MotionOf(*scene.Nodes().first()).mode != scene::Mode::Entrance)
         return true;
     const auto watch = [&](int) { return goOn(); };
-    const QVector<NodePlay> plays = MeasurePages(player, scene, longest, watch, error);
+    const QVector<timing::NodePlay> plays =
+        timing::MeasurePages(player, scene, longest, watch, error);
     if (plays.isEmpty()) {
         if (error->isEmpty())
             *error = QStringLiteral("interrupted");
@@ -57,4 +59,4 @@ bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::functi
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::gallery

@@ -11,7 +11,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 /** A picture and for how many ticks it is seen. */
 struct PictureRun
@@ -23,10 +23,10 @@ struct PictureRun
 struct MotionPlay
 {
     QVector<PictureRun> runs;
-    QVector<PageTime> pages; ///< empty if the text is not cut into pages
-    int ticks = 0;           ///< of all runs
-    qint64 planned = 0;      ///< planned time, milliseconds
-    qint64 actual = -1;      ///< actual time until it was finished; -1: the device keeps scrolling
+    QVector<timing::PageTime> pages; ///< empty if the text is not cut into pages
+    int ticks = 0;                   ///< of all runs
+    qint64 planned = 0;              ///< planned time, milliseconds
+    qint64 actual = -1; ///< actual time until it was finished; -1: the device keeps scrolling
 };
 
 /**
@@ -35,9 +35,10 @@ struct MotionPlay
  * @param goOn called at every tick; false stops
  * @return false, with one line in @p error, when it cannot be played
  */
-bool PlayMotion(Player* player, const Scene& scene, uint seed, const std::function<bool()>& goOn,
-                PictureSheets* sheets, MotionPlay* play, QString* error);
+bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
+                const std::function<bool()>& goOn, PictureSheets* sheets, MotionPlay* play,
+                QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::gallery
 
 #endif

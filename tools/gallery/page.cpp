@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 namespace {
 
@@ -18,14 +18,15 @@ QString Seconds(qint64 milliseconds, int digits = 2)
 qint64 Excess(const MotionPlay& play)
 {
     const qint64 excess = play.actual - play.planned;
-    return play.actual < 0 || std::llabs(excess) <= tickLength ? 0 : excess;
+    return play.actual < 0 || std::llabs(excess) <= player::tickLength ? 0 : excess;
 }
 
 QString Card(const GalleryEntry& entry, const QSize& size, int posters)
 {
-    const Motion& motion = *entry.motion;
-    const QString number =
-        motion.family == Scrolls().first().family ? QString() : QString::number(motion.number);
+    const scene::Motion& motion = *entry.motion;
+    const QString number = motion.family == scene::Scrolls().first().family
+                               ? QString()
+                               : QString::number(motion.number);
     return QStringLiteral(R"(<li id="card-%1"><div class="screen">
 <svg viewBox="0 %2 %3 %4" width="%3" height="%4" role="img" aria-label="%5: %6"><image href="posters.png" width="%3" height="%7"/></svg>
 </div><div class="text"><h2><span class="number">%8</span> %5</h2>
@@ -70,7 +71,7 @@ QString TimesInWords(const MotionPlay& play)
     if (play.actual < 0)
         return planned +
                QStringLiteral("the device scrolls until it is stopped, once through in %1 s")
-                   .arg(Seconds(qint64(play.ticks) * tickLength));
+                   .arg(Seconds(qint64(play.ticks) * player::tickLength));
     const qint64 excess = Excess(play);
     QString times = planned + QStringLiteral("actual %1 s").arg(Seconds(play.actual));
     if (excess > 0)
@@ -101,7 +102,7 @@ QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& si
                               .arg(entries.size())
                               .arg(size.width())
                               .arg(size.height())
-                              .arg(tickLength);
+                              .arg(player::tickLength);
     // The text comes last: it may look like a place.
     return QByteArray(page)
         .replace("<!--cards-->", cards.toUtf8())
@@ -111,4 +112,4 @@ QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& si
         .replace("<!--about-->", about.toUtf8());
 }
 
-} // namespace AnimText
+} // namespace AnimText::gallery

@@ -11,14 +11,14 @@
 #include <QByteArray>
 #include <QSize>
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 constexpr int speedCount = 10;
 
 /** A motion at all speeds. */
 struct GalleryEntry
 {
-    const Motion* motion;
+    const scene::Motion* motion;
     QString option; ///< with which `animtext author` chooses it
     MotionPlay plays[speedCount];
     int poster = 0; ///< which picture of posters.png, counted from its top
@@ -35,6 +35,6 @@ QString TimesInWords(const MotionPlay& play);
 QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& size,
                     const QVector<GalleryEntry>& entries);
 
-} // namespace AnimText
+} // namespace AnimText::gallery
 
 #endif

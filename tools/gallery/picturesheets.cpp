@@ -5,7 +5,7 @@
 #include <QCryptographicHash>
 #include <QPainter>
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 int PictureSheets::Add(const QImage& picture)
 {
@@ -43,8 +43,9 @@ void PictureSheets::CloseSheet()
     for (int i = 0; i < open.size(); ++i)
         painter.drawImage(0, i * size.height(), open.at(i));
     painter.end();
-    sheets.push_back(std::async(std::launch::async, PngOf, sheet, false, PngEffort::Small));
+    sheets.push_back(
+        std::async(std::launch::async, film::PngOf, sheet, false, film::PngEffort::Small));
     open.clear();
 }
 
-} // namespace AnimText
+} // namespace AnimText::gallery

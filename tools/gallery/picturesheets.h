@@ -13,7 +13,7 @@
 #include <future>
 #include <vector>
 
-namespace AnimText {
+namespace AnimText::gallery {
 
 /** Equal pictures are stored once. */
 class PictureSheets
@@ -35,6 +35,6 @@ private:
     std::vector<std::future<QByteArray>> sheets;
 };
 
-} // namespace AnimText
+} // namespace AnimText::gallery
 
 #endif

@@ -3,7 +3,7 @@
 #include <QDataStream>
 #include <QIODevice>
 
-namespace AnimText {
+namespace AnimText::layout {
 namespace {
 
 template <typename T>
@@ -45,4 +45,4 @@ QByteArray DescentFile(const QVector<int>& descents)
     return Serialized(Serialized(descents).toBase64());
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

@@ -9,7 +9,7 @@
 #include <QPainterPath>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /**
  * The content of a "PathData" file: a serialized byte array of Base64 text, which decodes to the
@@ -23,6 +23,6 @@ int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes);
 /** The content of a "DescentVector" file, in the same two layers. */
 QByteArray DescentFile(const QVector<int>& descents);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

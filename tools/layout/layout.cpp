@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 using namespace Lw::HNodeAnimationText;
 
@@ -178,7 +178,7 @@ void MakeRows(const PlacedText& text, LaidOut* laid)
 
 } // namespace
 
-bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& motion,
+bool LayOut(const StyledText& text, const Setting& setting, const scene::NodeMotion& motion,
             const QSize& area, LaidOut* laid, QString* error)
 {
     if (text.text.size() > longestText) {
@@ -223,4 +223,4 @@ bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& mo
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

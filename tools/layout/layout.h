@@ -17,7 +17,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /** A character without an outline. */
 struct UnseenCharacter
@@ -49,9 +49,9 @@ struct LaidOut
  * QGuiApplication.
  * @return false, with one line in @p error, if a sign cannot show it
  */
-bool LayOut(const StyledText& text, const Setting& setting, const NodeMotion& motion,
+bool LayOut(const StyledText& text, const Setting& setting, const scene::NodeMotion& motion,
             const QSize& area, LaidOut* laid, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

@@ -9,7 +9,7 @@
 #include <cmath>
 #include <numeric>
 
-namespace AnimText {
+namespace AnimText::layout {
 namespace {
 
 /** The widths of clusters between rounded edges. */
@@ -63,7 +63,7 @@ class Setter
 {
 public:
     Setter(const QString& text, const ShapedLine& line, const Setting& setting,
-           const NodeMotion& motion, const QSize& area)
+           const scene::NodeMotion& motion, const QSize& area)
         : text(text)
         , line(line)
         , setting(setting)
@@ -94,9 +94,9 @@ public:
 
 private:
     int Count() const { return line.clusters.size(); }
-    bool IsFromEnd() const { return traits & FromEnd; }
+    bool IsFromEnd() const { return traits & scene::FromEnd; }
     /** Spaces are added as margins, since outlines must not be shifted. */
-    bool NeedsPlaces() const { return traits & Turns; }
+    bool NeedsPlaces() const { return traits & scene::Turns; }
 
     void SetPages()
     {
@@ -209,7 +209,7 @@ private:
         int rest = area.width() - seenWidth - lead;
         const bool fills = rest > 0 && (!isLast || lead > 0) && !IsTurnedAnyway(page);
         if (fills) {
-            const int most = (traits & EvenWidths) ? qMax(1, widest) : rest;
+            const int most = (traits & scene::EvenWidths) ? qMax(1, widest) : rest;
             int at = IsFromEnd() ? 0 : cells.size() - 1;
             const int turned = IsFromEnd() ? page.begin : page.end - 1;
             const bool hasSpace = turned < page.seen || turned >= page.seenEnd;
@@ -223,7 +223,7 @@ private:
             for (; rest > 0; rest -= cells.last().width)
                 cells.append({-1, qMin(rest, most)});
         }
-        const int most = (traits & EvenWidths) ? qMax(1, widest) : qMax(1, lead);
+        const int most = (traits & scene::EvenWidths) ? qMax(1, widest) : qMax(1, lead);
         for (int margin = lead; margin > 0; margin -= cells.first().width)
             cells.prepend({-1, qMin(margin, most)});
         return cells;
@@ -283,7 +283,7 @@ private:
             up = 0;
         // Adding the same amount to height and descent keeps the ascent and moves the baseline up
         // by half of it.
-        const int higher = (traits & ReachesTop) && up > 0 ? 2 * up : 0;
+        const int higher = (traits & scene::ReachesTop) && up > 0 ? 2 * up : 0;
         for (int& own : result.heights)
             own += own > 0 ? higher : 0;
         result.descents.fill(line.descent + (higher > 0 ? higher : up), result.text.size());
@@ -292,8 +292,8 @@ private:
     const QString& text;
     const ShapedLine& line;
     const Setting& setting;
-    const NodeMotion& motion;
-    const MotionTraits traits;
+    const scene::NodeMotion& motion;
+    const scene::MotionTraits traits;
     const QSize area;
     const QVector<int> widths;      // of the clusters
     QVector<int> seenAt;            // left edge of each cluster on its page
@@ -306,9 +306,9 @@ private:
 } // namespace
 
 PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting,
-                     const NodeMotion& motion, const QSize& area)
+                     const scene::NodeMotion& motion, const QSize& area)
 {
     return Setter(text, line, setting, motion, area).Set();
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

@@ -12,7 +12,7 @@
 #include <QSize>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /**
  * The lists of a scene, with an item for each UTF-16 unit of the text. The first unit of a cluster
@@ -45,8 +45,8 @@ struct PlacedText
  * as joined letters do, belong to one of them.
  */
 PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting,
-                     const NodeMotion& motion, const QSize& area);
+                     const scene::NodeMotion& motion, const QSize& area);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

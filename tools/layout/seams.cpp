@@ -6,7 +6,7 @@
 #include <functional>
 #include <numeric>
 
-namespace AnimText {
+namespace AnimText::layout {
 namespace {
 
 /** A bitmap of @p box with the paths, each filled by its own rule. */
@@ -75,4 +75,4 @@ QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& nei
     return holes(rest) < before ? rest : path;
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

@@ -8,7 +8,7 @@
 
 #include <QPainterPath>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /** @p path changed so that the odd-even rule fills the same area. */
 QPainterPath WithoutOverlaps(const QPainterPath& path);
@@ -16,6 +16,6 @@ QPainterPath WithoutOverlaps(const QPainterPath& path);
 /** @p path without the area that @p neighbor covers. */
 QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbor);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_SETTING_H
 #define ANIMTEXT_SETTING_H
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /** What the largest size must fit. */
 enum class Fit {
@@ -41,6 +41,6 @@ inline bool operator==(const Setting& a, const Setting& b)
            a.keepsWords == b.keepsWords;
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

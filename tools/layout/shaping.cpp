@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace AnimText {
+namespace AnimText::layout {
 namespace {
 
 // Asking a QTextLine for the glyphs of one unit takes time linear in the line's length. The layout
@@ -337,4 +337,4 @@ LineSize MeasureLine(const StyledText& text)
     return {qCeil(line.ascent()), qCeil(line.descent()), qCeil(line.naturalTextWidth())};
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

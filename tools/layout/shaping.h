@@ -11,7 +11,7 @@
 #include <QPainterPath>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /** An underline. */
 struct Bar
@@ -61,6 +61,6 @@ struct LineSize
 /** The size of the line of ShapeLine(), in a fraction of the time. */
 LineSize MeasureLine(const StyledText& text);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

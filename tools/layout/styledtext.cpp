@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 const StyleRun& StyledText::At(int index) const
 {
@@ -79,4 +79,4 @@ bool ToOneLine(StyledText* text, QStringList* notes, QString* error)
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

@@ -11,7 +11,7 @@
 #include <QStringList>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 // Font sizes in pixels.
 constexpr int smallestReadableSize = 4; ///< nothing smaller can be read
@@ -47,6 +47,6 @@ bool operator==(const StyledText& a, const StyledText& b);
  */
 bool ToOneLine(StyledText* text, QStringList* notes, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::layout {
 namespace {
 
 /** Where the page that begins at @p begin ends. */
@@ -70,4 +70,4 @@ QVector<PageCut> CutPages(const QVector<LinePiece>& line, int width, bool fromEn
     return pages;
 }
 
-} // namespace AnimText
+} // namespace AnimText::layout

@@ -7,7 +7,7 @@
 
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::layout {
 
 /** A piece of a line, in reading order. */
 struct LinePiece
@@ -33,6 +33,6 @@ struct PageCut
  */
 QVector<PageCut> CutPages(const QVector<LinePiece>& line, int width, bool fromEnd);
 
-} // namespace AnimText
+} // namespace AnimText::layout
 
 #endif

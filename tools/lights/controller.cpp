@@ -4,7 +4,7 @@
 
 #include <QRegularExpression>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 namespace {
 
@@ -71,7 +71,7 @@ bool ApplyLayout(Wiring* wiring, const QString& word, QString* error)
     }
     return Fail(error, QStringLiteral("\"%1\" is not a layout; expected %2%3")
                            .arg(word, LayoutWords().join(QStringLiteral(", ")),
-                                DidYouMean(word, LayoutWords())));
+                                scene::DidYouMean(word, LayoutWords())));
 }
 
 /** Takes the rectangle from the front of @p words; empty when there is none. */
@@ -143,8 +143,9 @@ bool ApplySetting(Controller* controller, const QString& setting, QString* error
         return check(isNumber && number >= known.least && number <= known.most,
                      QStringLiteral("%1 to %2").arg(known.least).arg(known.most));
     }
-    return Fail(error, QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
-                           .arg(name, names.join(QStringLiteral(", ")), DidYouMean(name, names)));
+    return Fail(error,
+                QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
+                    .arg(name, names.join(QStringLiteral(", ")), scene::DidYouMean(name, names)));
 }
 
 bool ReadAddress(Controller* controller, const QString& address, QString* error)
@@ -233,4 +234,4 @@ bool FitToDisplay(Controller* controller, QSize display, QString* error)
                     .arg(known.lastUniverse));
 }
 
-} // namespace AnimText
+} // namespace AnimText::lights

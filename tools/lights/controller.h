@@ -9,7 +9,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 enum class Protocol { Ddp, E131, ArtNet };
 
@@ -74,6 +74,6 @@ qint64 ChannelOf(const Controller& controller, qint64 led);
 /** The universe of the controller's last LED; its rectangle must be set. */
 int LastUniverse(const Controller& controller);
 
-} // namespace AnimText
+} // namespace AnimText::lights
 
 #endif

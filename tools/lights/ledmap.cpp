@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 QVector<int> LedOrder(QSize size, const Wiring& wiring)
 {
@@ -53,4 +53,4 @@ QByteArray LedMap::Channels(const QImage& display) const
     return channels;
 }
 
-} // namespace AnimText
+} // namespace AnimText::lights

@@ -12,7 +12,7 @@
 
 #include <array>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 /** The pixel of each LED along the data line, as x + y * width. */
 QVector<int> LedOrder(QSize size, const Wiring& wiring);
@@ -34,6 +34,6 @@ private:
     std::array<uchar, 256> levels;
 };
 
-} // namespace AnimText
+} // namespace AnimText::lights
 
 #endif

@@ -8,7 +8,7 @@
 
 #include <sys/socket.h>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 namespace {
 
@@ -244,4 +244,4 @@ void Lights::End()
     }
 }
 
-} // namespace AnimText
+} // namespace AnimText::lights

@@ -19,7 +19,7 @@
 class QHostInfo;
 class QUdpSocket;
 
-namespace AnimText {
+namespace AnimText::lights {
 
 enum class Sending { Done, Full, Failed };
 
@@ -102,6 +102,6 @@ private:
     qint64 dropped = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::lights
 
 #endif

@@ -3,7 +3,7 @@
 #include <QSysInfo>
 #include <QUuid>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 namespace {
 
@@ -140,4 +140,4 @@ QVector<Packet> PacketMaker::ArtNet(const QByteArray& channels)
     return packets;
 }
 
-} // namespace AnimText
+} // namespace AnimText::lights

@@ -12,7 +12,7 @@
 #include <QHostAddress>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 struct Packet
 {
@@ -43,6 +43,6 @@ private:
     int sequence = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::lights
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 namespace {
 
@@ -62,4 +62,4 @@ QImage TestPattern(const QString& name, QSize size, int tick)
     return picture;
 }
 
-} // namespace AnimText
+} // namespace AnimText::lights

@@ -8,7 +8,7 @@
 #include <QImage>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::lights {
 
 /**
  * "corners": top left red, top right green, bottom left blue, bottom right white, for the layout.
@@ -21,6 +21,6 @@ QStringList TestPatterns();
 /** The pattern of that name at @p tick; any other name shows all in turn. */
 QImage TestPattern(const QString& name, QSize size, int tick);
 
-} // namespace AnimText
+} // namespace AnimText::lights
 
 #endif

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::live {
 
 namespace {
 
@@ -38,22 +38,23 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override
     {
         auto* timer = event->type() == QEvent::Timer ? qobject_cast<QTimer*>(object) : nullptr;
-        if (!timer || sending || timer->interval() != tickLength || timer->parent() == parent())
+        if (!timer || sending || timer->interval() != player::tickLength ||
+            timer->parent() == parent())
             return false;
         const qint64 now = clock.elapsed();
         const int id = timer->timerId();
         const auto last = due.constFind(id);
-        qint64 mine = last != due.constEnd() ? *last + tickLength : now;
+        qint64 mine = last != due.constEnd() ? *last + player::tickLength : now;
         sending = true;
         // A slot may stop its timer.
-        while (now - mine >= tickLength && timer->timerId() == id) {
+        while (now - mine >= player::tickLength && timer->timerId() == id) {
             if (clock.elapsed() - now > longestWork) {
                 mine = now;
                 break;
             }
             QTimerEvent missed(id);
             QCoreApplication::sendEvent(timer, &missed);
-            mine += tickLength;
+            mine += player::tickLength;
             ++madeUp;
         }
         sending = false;
@@ -102,9 +103,9 @@ qint64 LivePlayer::Time() const
 
 /** Uses a new stage each time: some state, such as the dazzle colors, would survive a restart.
  */
-bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* error)
+bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& wishes, QString* error)
 {
-    auto next = std::make_unique<Stage>(plugin);
+    auto next = std::make_unique<player::Stage>(plugin);
     if (!next->Build(wanted, error))
         return false;
     scheduled.reset();
@@ -121,20 +122,21 @@ bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* 
         QVector<qint64> durations;
         for (int node = 0; node < parts.size(); ++node)
             durations.append(stage->Node(node)->Duration());
-        schedule = HostSchedule(scene, durations);
-        scheduled = std::make_unique<ScheduledPlay>(stage.get(), schedule, settings.seed);
+        schedule = player::HostSchedule(scene, durations);
+        scheduled = std::make_unique<player::ScheduledPlay>(stage.get(), schedule, settings.seed);
         scheduled->Change(0);
     } else {
         stage->Start(settings.seed);
     }
     Run();
     for (int node = 0; node < parts.size(); ++node) {
-        parts[node].ending = EndingAtStart(*stage, node);
-        const qint64 pass =
-            parts.at(node).ending == Ending::ScrollsOn ? ScrollPass(*stage, node) : 0;
-        if (parts.at(node).ending == Ending::NothingToPlay)
+        parts[node].ending = timing::EndingAtStart(*stage, node);
+        const qint64 pass = parts.at(node).ending == timing::Ending::ScrollsOn
+                                ? timing::ScrollPass(*stage, node)
+                                : 0;
+        if (parts.at(node).ending == timing::Ending::NothingToPlay)
             parts[node].end = 0;
-        else if (parts.at(node).ending != Ending::TooLong)
+        else if (parts.at(node).ending != timing::Ending::TooLong)
             parts[node].end = pass > 0 ? pass : stage->Node(node)->Duration();
     }
     Show();
@@ -144,7 +146,7 @@ bool LivePlayer::Play(const Scene& wanted, const LiveSettings& wishes, QString* 
 /** Starts the timers right after the plugin's, so that each tick follows theirs. */
 void LivePlayer::Run()
 {
-    ticks.start(tickLength);
+    ticks.start(player::tickLength);
     for (int node = 0; node < parts.size(); ++node) {
         if (stage->Motion(node).IsSideways())
             moves.start(smoothly);
@@ -173,7 +175,7 @@ void LivePlayer::Move()
 void LivePlayer::Tick()
 {
     const qint64 now = Time();
-    punctuality.latest = std::max(punctuality.latest, now - lastShown - tickLength);
+    punctuality.latest = std::max(punctuality.latest, now - lastShown - player::tickLength);
     lastShown = now;
     if (IsOver())
         End();
@@ -207,7 +209,7 @@ bool LivePlayer::IsOver()
     if (!resting && !settings.loop) {
         resting = true;
         for (int node = 0; node < parts.size(); ++node) {
-            if (parts.at(node).ending == Ending::TooLong)
+            if (parts.at(node).ending == timing::Ending::TooLong)
                 parts[node].end = Time() + std::max(0, stage->Node(node)->GetHoldTime()) * 100LL;
         }
         Freeze();
@@ -240,7 +242,7 @@ void LivePlayer::SetPaused(bool wanted)
     paused = wanted;
     if (paused) {
         // The plugin's timers start with a whole tick when they continue.
-        before = lastShown = Time() - Time() % tickLength;
+        before = lastShown = Time() - Time() % player::tickLength;
         running.invalidate();
         for (QTimer* timer : {&ticks, &moves, &changes})
             timer->stop();
@@ -257,7 +259,7 @@ void LivePlayer::Freeze()
 {
     for (int node = 0; node < parts.size(); ++node) {
         Part& part = parts[node];
-        const bool wanted = paused || (resting && part.ending == Ending::TooLong);
+        const bool wanted = paused || (resting && part.ending == timing::Ending::TooLong);
         if (part.frozen == wanted || !stage->Session(node))
             continue;
         part.frozen = wanted;
@@ -269,7 +271,7 @@ Punctuality LivePlayer::Kept() const
 {
     Punctuality kept = earlier;
     kept.time += Time();
-    kept.due += Time() / tickLength + 1;
+    kept.due += Time() / player::tickLength + 1;
     kept.latest = std::max(kept.latest, punctuality.latest);
     kept.madeUp += keeper ? keeper->madeUp : 0;
     if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
@@ -277,4 +279,4 @@ Punctuality LivePlayer::Kept() const
     return kept;
 }
 
-} // namespace AnimText
+} // namespace AnimText::live

@@ -17,7 +17,7 @@
 
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::live {
 
 class TickKeeper;
 
@@ -25,7 +25,7 @@ struct LiveSettings
 {
     bool loop = false;     ///< starts again when all texts have ended
     bool schedule = false; ///< page by page for the planned times, as the host plays
-    uint seed = standardSeed;
+    uint seed = player::standardSeed;
 };
 
 /** How well playing has kept up with the clock. */
@@ -55,7 +55,7 @@ public:
      * Plays @p scene from its start. On failure it returns false, with one line in @p error, and
      * continues with the previous scene.
      */
-    bool Play(const Scene& scene, const LiveSettings& settings, QString* error);
+    bool Play(const scene::Scene& scene, const LiveSettings& settings, QString* error);
 
     /** Stops or restarts the display's clock, and everything with it. */
     void SetPaused(bool paused);
@@ -65,7 +65,7 @@ public:
 
     /** Milliseconds since playing started, without pauses. */
     qint64 Time() const;
-    const Stage& Scenery() const { return *stage; }
+    const player::Stage& Scenery() const { return *stage; }
     /** Since playing started, over all its loops. */
     Punctuality Kept() const;
 
@@ -86,14 +86,14 @@ private:
     void Freeze();
 
     Lw::INodePlugin* plugin;
-    std::unique_ptr<Stage> stage;
-    Scene scene;
+    std::unique_ptr<player::Stage> stage;
+    scene::Scene scene;
     LiveSettings settings;
-    Schedule schedule;
-    std::unique_ptr<ScheduledPlay> scheduled;
+    player::Schedule schedule;
+    std::unique_ptr<player::ScheduledPlay> scheduled;
     struct Part
     {
-        Ending ending = Ending::TooLong;
+        timing::Ending ending = timing::Ending::TooLong;
         qint64 end = -1; // milliseconds; -1 while unknown
         bool frozen = false;
     };
@@ -113,6 +113,6 @@ private:
     bool ended = false;
 };
 
-} // namespace AnimText
+} // namespace AnimText::live
 
 #endif

@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 
-namespace AnimText {
+namespace AnimText::live {
 
 namespace {
 
@@ -79,4 +79,4 @@ void LiveWindow::mouseDoubleClickEvent(QMouseEvent*)
         Present(!isFullScreen());
 }
 
-} // namespace AnimText
+} // namespace AnimText::live

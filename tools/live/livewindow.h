@@ -8,7 +8,7 @@
 #include "live/liveplayer.h"
 #include "live/pictureview.h"
 
-namespace AnimText {
+namespace AnimText::live {
 
 /** Shows a player's picture. Without a desktop it fills the screen. */
 class LiveWindow : public PictureView
@@ -37,6 +37,6 @@ private:
     bool isOnDesktop = true;
 };
 
-} // namespace AnimText
+} // namespace AnimText::live
 
 #endif

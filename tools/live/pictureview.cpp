@@ -9,7 +9,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace AnimText {
+namespace AnimText::live {
 
 namespace {
 
@@ -117,7 +117,7 @@ double PictureView::Scale() const
 
 bool PictureView::ShowsLamps() const
 {
-    return pitch > 0 && Scale() >= smallestLamp;
+    return pitch > 0 && Scale() >= film::smallestLamp;
 }
 
 /** The picture's rectangle in physical pixels from the widget's corner. */
@@ -182,7 +182,7 @@ void PictureView::Paint(QPainter* painter) const
             return;
         QImage squares = pixels.copy(part);
         if (ShowsLamps())
-            squares = AsLamps(squares, int(scale), pitch);
+            squares = film::AsLamps(squares, int(scale), pitch);
         else if (!isWhole) // only their edges become soft
             squares = squares.scaled(squares.size() * int(std::ceil(scale)));
         painter->setRenderHint(QPainter::SmoothPixmapTransform, !isWhole);
@@ -223,4 +223,4 @@ void PictureView::LookChanged()
     resizeEvent(nullptr);
 }
 
-} // namespace AnimText
+} // namespace AnimText::live

@@ -10,7 +10,7 @@
 #include <QTransform>
 #include <QWidget>
 
-namespace AnimText {
+namespace AnimText::live {
 
 /**
  * Each pixel of the picture becomes a square or a round LED of a whole number of physical pixels,
@@ -88,6 +88,6 @@ private:
     const bool fillsRoom;
 };
 
-} // namespace AnimText
+} // namespace AnimText::live
 
 #endif

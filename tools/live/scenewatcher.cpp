@@ -8,7 +8,7 @@
 
 #include <sys/stat.h>
 
-namespace AnimText {
+namespace AnimText::live {
 
 namespace {
 
@@ -40,11 +40,11 @@ SceneWatcher::SceneWatcher(QObject* parent)
     connect(&watcher, &QFileSystemWatcher::directoryChanged, this, wait);
 }
 
-void SceneWatcher::Watch(const Scene& scene)
+void SceneWatcher::Watch(const scene::Scene& scene)
 {
     QSet<QString> names{QFileInfo(scene.path).absoluteFilePath(),
-                        QFileInfo(RealPath(scene.path)).absoluteFilePath()};
-    for (const SceneNode* node : scene.Nodes()) {
+                        QFileInfo(files::RealPath(scene.path)).absoluteFilePath()};
+    for (const scene::SceneNode* node : scene.Nodes()) {
         for (const QString& file : node->files)
             names.insert(scene.FullName(file));
     }
@@ -85,4 +85,4 @@ void SceneWatcher::Compare()
         emit Changed();
 }
 
-} // namespace AnimText
+} // namespace AnimText::live

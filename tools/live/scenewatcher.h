@@ -12,7 +12,7 @@
 #include <QObject>
 #include <QTimer>
 
-namespace AnimText {
+namespace AnimText::live {
 
 /**
  * Watches a scene file, its data files and their folders, so that it also notices files that are
@@ -29,7 +29,7 @@ public:
      * Watches @p scene instead of the previous one. No change since the last Changed() is lost:
      * files that were watched before are compared with their previous state.
      */
-    void Watch(const Scene& scene);
+    void Watch(const scene::Scene& scene);
     /** Accepts the files as they are now, for example after writing them. */
     void Accept();
 
@@ -46,6 +46,6 @@ private:
     QMap<QString, QString> files; // full name, and Mark() of its state
 };
 
-} // namespace AnimText
+} // namespace AnimText::live
 
 #endif

@@ -5,7 +5,7 @@
 #include <QCryptographicHash>
 #include <QHash>
 
-namespace AnimText {
+namespace AnimText::player {
 
 namespace {
 
@@ -22,7 +22,7 @@ const char* const arguments[Torv::OperationCount] = {
     "length areaHeight effectCode speedIndex"};
 
 /** All arguments that any call has. */
-QHash<QByteArray, Json> Values(const Torv::CallRecord& call)
+QHash<QByteArray, scene::Json> Values(const Torv::CallRecord& call)
 {
     const PicImage& image = call.image;
     const Effect& effect = call.effect;
@@ -43,43 +43,44 @@ QHash<QByteArray, Json> Values(const Torv::CallRecord& call)
             {"areaHeight", call.areaHeight},
             {"effectCode", call.effectCode},
             {"speedIndex", call.speedIndex},
-            {"image", !call.hasImage ? Json()
-                                     : Json::Object({{"width", image.width},
-                                                     {"height", image.height},
-                                                     {"bytesPerLine", image.bytesPerLine},
-                                                     {"bits", image.bits != nullptr}})},
-            {"effect", !call.hasEffect ? Json()
-                                       : Json::Object({{"effect1", effect.effect1},
-                                                       {"duration1", effect.duration1},
-                                                       {"effect2", effect.effect2},
-                                                       {"duration2", effect.duration2},
-                                                       {"effect3", effect.effect3},
-                                                       {"duration3", effect.duration3}})},
+            {"image", !call.hasImage ? scene::Json()
+                                     : scene::Json::Object({{"width", image.width},
+                                                            {"height", image.height},
+                                                            {"bytesPerLine", image.bytesPerLine},
+                                                            {"bits", image.bits != nullptr}})},
+            {"effect", !call.hasEffect ? scene::Json()
+                                       : scene::Json::Object({{"effect1", effect.effect1},
+                                                              {"duration1", effect.duration1},
+                                                              {"effect2", effect.effect2},
+                                                              {"duration2", effect.duration2},
+                                                              {"effect3", effect.effect3},
+                                                              {"duration3", effect.duration3}})},
             {"placement", !call.hasPlacement
-                              ? Json()
-                              : Json::Object({{"x", placement.x},
-                                              {"y", placement.y},
-                                              {"width", placement.width},
-                                              {"height", placement.height},
-                                              {"imageWidth", placement.imageWidth},
-                                              {"imageHeight", placement.imageHeight}})}};
+                              ? scene::Json()
+                              : scene::Json::Object({{"x", placement.x},
+                                                     {"y", placement.y},
+                                                     {"width", placement.width},
+                                                     {"height", placement.height},
+                                                     {"imageWidth", placement.imageWidth},
+                                                     {"imageHeight", placement.imageHeight}})}};
 }
 
-Json Result(const Torv::CallRecord& call)
+scene::Json Result(const Torv::CallRecord& call)
 {
     const bool isBuffer = call.operation == Torv::OpGetPicImageLayerPtr ||
                           call.operation == Torv::OpSwapPicImageLayerPtr;
     if (!isBuffer)
         return call.result;
-    return call.result < 0 ? Json() : Json("buffer " + QByteArray::number(call.result));
+    return call.result < 0 ? scene::Json()
+                           : scene::Json("buffer " + QByteArray::number(call.result));
 }
 
 } // namespace
 
 QByteArray CallLine(const Torv::CallRecord& call)
 {
-    Json line = Json::Object({{"call", Torv::OperationName(call.operation)}});
-    const QHash<QByteArray, Json> values = Values(call);
+    scene::Json line = scene::Json::Object({{"call", Torv::OperationName(call.operation)}});
+    const QHash<QByteArray, scene::Json> values = Values(call);
     for (const QByteArray& name : QByteArray(arguments[call.operation]).split(' '))
         line.Add(QString::fromLatin1(name), values.value(name));
     line.Add("result", Result(call));
@@ -99,4 +100,4 @@ QByteArray Sha1Of(const QImage& picture)
     return hash.result().toHex();
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

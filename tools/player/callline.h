@@ -10,7 +10,7 @@
 #include <QByteArray>
 #include <QImage>
 
-namespace AnimText {
+namespace AnimText::player {
 
 /**
  * One JSON object: "call", the arguments by their names in torvsdk.h, "result", and, when the call
@@ -22,6 +22,6 @@ QByteArray CallLine(const Torv::CallRecord& call);
 /** The SHA-1 of a picture's rows, without what pads them, in hexadecimal; empty for a null one. */
 QByteArray Sha1Of(const QImage& picture);
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

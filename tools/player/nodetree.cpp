@@ -3,11 +3,11 @@
 #include <hneonnodebase.h>
 #include <inodeplugin.h>
 
-namespace AnimText {
+namespace AnimText::player {
 
 namespace {
 
-void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const Scene& scene)
+void Fill(Lw::HNeonNodeBase* node, const scene::SceneNode& from, const scene::Scene& scene)
 {
     node->SetPos(from.pos);
     node->SetSize(from.size);
@@ -25,8 +25,8 @@ void Fill(Lw::HNeonNodeBase* node, const SceneNode& from, const Scene& scene)
         node->SetFiles(it.key(), {scene.FullName(it.value())});
 }
 
-Lw::HNeonNodeBase* CreateNode(const SceneNode& from, const QString& place, Lw::INodePlugin* plugin,
-                              QString* error)
+Lw::HNeonNodeBase* CreateNode(const scene::SceneNode& from, const QString& place,
+                              Lw::INodePlugin* plugin, QString* error)
 {
     if (from.type != plugin->type()) {
         *error =
@@ -45,21 +45,22 @@ Lw::HNeonNodeBase* CreateNode(const SceneNode& from, const QString& place, Lw::I
 
 } // namespace
 
-bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, QString* error)
+bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree,
+                   QString* error)
 {
     NodeTree built;
     built.program = std::make_unique<Lw::HNode>();
     for (int p = 0; p < scene.pages.size(); ++p) {
         auto* page = new Lw::HNode;
         built.program->AddChild(page);
-        const QList<SceneArea>& areas = scene.pages.at(p).areas;
+        const QList<scene::SceneArea>& areas = scene.pages.at(p).areas;
         for (int a = 0; a < areas.size(); ++a) {
             auto* area = new Lw::HNode;
             page->AddChild(area);
-            const QList<SceneNode>& nodes = areas.at(a).nodes;
+            const QList<scene::SceneNode>& nodes = areas.at(a).nodes;
             for (int n = 0; n < nodes.size(); ++n) {
                 Lw::HNeonNodeBase* node =
-                    CreateNode(nodes.at(n), Place{p, a, n}.Path(), plugin, error);
+                    CreateNode(nodes.at(n), scene::Place{p, a, n}.Path(), plugin, error);
                 if (!node) {
                     *error = scene.path + QStringLiteral(": ") + *error;
                     return false;
@@ -74,4 +75,4 @@ bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, 
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

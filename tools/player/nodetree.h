@@ -18,7 +18,7 @@ class HNode;
 class INodePlugin;
 } // namespace Lw
 
-namespace AnimText {
+namespace AnimText::player {
 
 /** A program and the nodes in it that play, in the order of the file. */
 struct NodeTree
@@ -31,8 +31,9 @@ struct NodeTree
  * Builds the tree of @p scene with nodes that @p plugin creates. On failure returns false, sets
  * @p error to one line with the place in the scene, and @p tree is left as it was.
  */
-bool BuildNodeTree(const Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree, QString* error);
+bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree,
+                   QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

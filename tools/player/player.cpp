@@ -4,7 +4,7 @@
 
 #include <hneonnodebase.h>
 
-namespace AnimText {
+namespace AnimText::player {
 
 Player::Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin)
     : dispatcher(dispatcher)
@@ -26,7 +26,7 @@ qint64 Player::Clock(void* player)
     return self->dispatcher->Now() - self->origin;
 }
 
-bool Player::Load(const Scene& scene, QString* error)
+bool Player::Load(const scene::Scene& scene, QString* error)
 {
     return stage.Build(scene, error);
 }
@@ -102,4 +102,4 @@ NodeTick Player::Look(int node)
     return {tick, part.swapped, part.size, part.sha1, State(node), Sha1Of(DazzlePicture(node))};
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

@@ -12,7 +12,7 @@
 #include <QImage>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::player {
 
 /** Milliseconds from one tick of the plugin's draw timer to the next. */
 constexpr int tickLength = 66;
@@ -42,7 +42,7 @@ public:
     Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin);
     ~Player();
 
-    bool Load(const Scene& scene, QString* error);
+    bool Load(const scene::Scene& scene, QString* error);
 
     /** Tick 0: starts every node. */
     void Start(uint seed = standardSeed);
@@ -101,6 +101,6 @@ private:
     QVector<Part> parts; // one a node
 };
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

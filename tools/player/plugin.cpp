@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QPluginLoader>
 
-namespace AnimText {
+namespace AnimText::player {
 
 namespace {
 
@@ -92,4 +92,4 @@ Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
     return plugin;
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

@@ -11,7 +11,7 @@ namespace Lw {
 class INodePlugin;
 }
 
-namespace AnimText {
+namespace AnimText::player {
 
 /**
  * The path of the plugin: @p given if it is not empty, otherwise the environment variable
@@ -29,6 +29,6 @@ QString PluginPath(const QString& given = QString());
  */
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

@@ -4,16 +4,16 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::player {
 
-Schedule HostSchedule(const Scene& scene, const QVector<qint64>& durations)
+Schedule HostSchedule(const scene::Scene& scene, const QVector<qint64>& durations)
 {
     Schedule schedule;
     int node = 0;
-    for (const ScenePage& page : scene.pages) {
+    for (const scene::ScenePage& page : scene.pages) {
         const qint64 pageStart = schedule.length;
         QVector<int> lastOfAreas; // of each area
-        for (const SceneArea& area : page.areas) {
+        for (const scene::SceneArea& area : page.areas) {
             qint64 time = pageStart;
             int last = -1;
             for (int i = 0; i < area.nodes.size(); ++i, ++node) {
@@ -63,4 +63,4 @@ void ScheduledPlay::Change(qint64 time)
     }
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

@@ -9,7 +9,7 @@
 
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::player {
 
 /** A node's time on the display, in milliseconds from the start of the program. */
 struct Showing
@@ -31,7 +31,7 @@ struct Schedule
 };
 
 /** @param durations what each node's Duration() returns, milliseconds, in the order of the file */
-Schedule HostSchedule(const Scene& scene, const QVector<qint64>& durations);
+Schedule HostSchedule(const scene::Scene& scene, const QVector<qint64>& durations);
 
 class Stage;
 
@@ -53,6 +53,6 @@ private:
     uint seed;
 };
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

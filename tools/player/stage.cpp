@@ -7,7 +7,7 @@
 #include <qrand.h>
 #endif
 
-namespace AnimText {
+namespace AnimText::player {
 
 Stage::Stage(Lw::INodePlugin* plugin)
     : plugin(plugin)
@@ -22,7 +22,7 @@ Stage::~Stage()
     Torv::SetCallLog(nullptr, nullptr);
 }
 
-bool Stage::Build(const Scene& scene, QString* error)
+bool Stage::Build(const scene::Scene& scene, QString* error)
 {
     Stop();
     parts.clear();
@@ -36,10 +36,10 @@ bool Stage::Build(const Scene& scene, QString* error)
     }
     // Renderers ask for the format when they are made.
     Lw::HPluginManager::instance()->SetAlphaBlend(scene.alphaBlend);
-    const QList<const SceneNode*> nodes = scene.Nodes();
+    const QList<const scene::SceneNode*> nodes = scene.Nodes();
     for (int node = 0; node < nodes.size(); ++node) {
         Part part;
-        part.motion = MotionOf(*nodes.at(node));
+        part.motion = scene::MotionOf(*nodes.at(node));
         part.render.reset(plugin->CreateAreaRender(built.nodes.at(node)));
         if (!part.render) {
             parts.clear();
@@ -115,4 +115,4 @@ void Stage::Log(void* context, const Torv::CallRecord& call)
         stage->watch(call);
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

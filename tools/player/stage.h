@@ -20,7 +20,7 @@
 #include <memory>
 #include <vector>
 
-namespace AnimText {
+namespace AnimText::player {
 
 /**
  * Plays a scene on the clock of its thread's event dispatcher. One stage plays at a
@@ -34,7 +34,7 @@ public:
     ~Stage();
 
     /** Sets the scene up. On failure returns false and sets @p error to one line. */
-    bool Build(const Scene& scene, QString* error);
+    bool Build(const scene::Scene& scene, QString* error);
 
     /**
      * Starts every node, in the order of the file, each after the random numbers have been seeded
@@ -49,7 +49,7 @@ public:
     int NodeCount() const { return tree.nodes.size(); }
     Lw::HNeonNodeBase* Node(int node) const { return tree.nodes.at(node); }
     Lw::IContentRender* Render(int node) const { return parts.at(size_t(node)).render.get(); }
-    NodeMotion Motion(int node) const { return parts.at(size_t(node)).motion; }
+    scene::NodeMotion Motion(int node) const { return parts.at(size_t(node)).motion; }
 
     /** The session that the node's start has made; 0 without one. */
     PicSession Session(int node) const { return parts.at(size_t(node)).session; }
@@ -70,7 +70,7 @@ private:
     struct Part
     {
         std::unique_ptr<Lw::IContentRender> render;
-        NodeMotion motion;
+        scene::NodeMotion motion;
         PicSession session = 0;
         int textLayer = -1;
         int dazzleLayer = -1;
@@ -88,6 +88,6 @@ private:
     std::function<void(const Torv::CallRecord&)> watch;
 };
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

@@ -7,7 +7,7 @@
 #include <limits>
 #include <tuple>
 
-namespace AnimText {
+namespace AnimText::player {
 
 VirtualDispatcher* VirtualDispatcher::Current()
 {
@@ -135,4 +135,4 @@ void VirtualDispatcher::interrupt()
     wakeUp();
 }
 
-} // namespace AnimText
+} // namespace AnimText::player

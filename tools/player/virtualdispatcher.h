@@ -12,7 +12,7 @@
 #include <atomic>
 #include <vector>
 
-namespace AnimText {
+namespace AnimText::player {
 
 /**
  * Runs the event loop of its thread on virtual time. Set it with
@@ -89,6 +89,6 @@ private:
     std::atomic<bool> woken{true};
 };
 
-} // namespace AnimText
+} // namespace AnimText::player
 
 #endif

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -123,4 +123,4 @@ QString Translated(const char* words)
     return QCoreApplication::translate("Attributes", words);
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

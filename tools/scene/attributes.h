@@ -12,7 +12,7 @@
 
 #include <limits>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 struct SceneNode;
 
@@ -108,6 +108,6 @@ bool IsUsed(const Attribute& attribute, const SceneNode& node, QString* why = nu
 /** @p words of the table in the program's language. */
 QString Translated(const char* words);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -224,4 +224,4 @@ const QList<Attribute>& Attributes()
     return table;
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

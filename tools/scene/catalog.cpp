@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -222,4 +222,4 @@ bool Matches(const Motion& motion, const QString& search)
     });
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -10,7 +10,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** How a motion treats characters, where that decides how a text is laid out for it. */
 enum MotionTrait {
@@ -63,6 +63,6 @@ const Motion* FindScroll(const QString& name);
  */
 bool Matches(const Motion& motion, const QString& search);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

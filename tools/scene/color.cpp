@@ -4,7 +4,7 @@
 
 #include <QRegularExpression>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 bool ReadColor(const QString& text, QColor* color, QString* hint)
 {
@@ -20,4 +20,4 @@ bool ReadColor(const QString& text, QColor* color, QString* hint)
     return false;
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -8,7 +8,7 @@
 #include <QColor>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /**
  * Reads an opaque color: a name, #rgb or #rrggbb. Otherwise returns false, and @p hint is the end
@@ -16,6 +16,6 @@ namespace AnimText {
  */
 bool ReadColor(const QString& text, QColor* color, QString* hint);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

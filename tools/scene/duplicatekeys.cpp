@@ -7,7 +7,7 @@
 #include <QSet>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -82,4 +82,4 @@ QStringList DuplicateKeys(const QByteArray& json)
     return twice;
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -8,7 +8,7 @@
 #include <QByteArray>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /**
  * The JSON paths of keys that their object already has, at most 20 of them.
@@ -16,6 +16,6 @@ namespace AnimText {
  */
 QStringList DuplicateKeys(const QByteArray& json);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

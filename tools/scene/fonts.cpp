@@ -6,7 +6,7 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 QStringList FontFamilies(const QString& filter)
 {
@@ -38,4 +38,4 @@ bool FindFamily(const QString& name, QString* family, QString* error)
     return false;
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** The sorted names of installed families that contain @p filter, ignoring case. */
 QStringList FontFamilies(const QString& filter = QString());
@@ -24,6 +24,6 @@ constexpr const char usualFamily[] = "DejaVu Sans";
  */
 bool FindFamily(const QString& name, QString* family, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

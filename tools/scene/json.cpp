@@ -3,7 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -70,4 +70,4 @@ QByteArray Json::Text() const
     return brackets.left(1) + text + (ends ? "\n" : "") + brackets.right(1);
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

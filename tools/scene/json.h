@@ -12,7 +12,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** A JSON value on its way to a file or to standard output. */
 class Json
@@ -64,6 +64,6 @@ private:
     Layout layout = Dense;
 };
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -159,4 +159,4 @@ QPoint JsonValue::Pair(int least, int most) const
     return {pair.first().Int(least, most), pair.last().Int(least, most)};
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -15,7 +15,7 @@
 
 #include <limits>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /**
  * @p json with every byte order mark inside it written as an escape: Qt's reader drops one that a
@@ -75,6 +75,6 @@ private:
     QString name;
 };
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

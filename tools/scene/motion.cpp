@@ -1,6 +1,6 @@
 #include "scene/motion.h"
 
-namespace AnimText {
+namespace AnimText::scene {
 
 const Motion* NodeMotion::Row() const
 {
@@ -43,4 +43,4 @@ void SetMotion(SceneNode* node, const NodeMotion& motion)
     node->attributes[motion.NumberKey()] = motion.number;
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -8,7 +8,7 @@
 #include "scene/catalog.h"
 #include "scene/scene.h"
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** Play mode of a node, "EffectType". The sign shows the text without motion for any other number.
  */
@@ -39,6 +39,6 @@ NodeMotion MotionOf(const SceneNode& node);
 /** Leaves the attributes of other modes as they are. */
 void SetMotion(SceneNode* node, const NodeMotion& motion);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 QString Place::Path() const
 {
@@ -33,4 +33,4 @@ QString Item(const QString& path, int index)
     return QStringLiteral("%1[%2]").arg(path).arg(index);
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

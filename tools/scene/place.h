@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** The place of a node; all count from 0. */
 struct Place
@@ -29,6 +29,6 @@ bool ReadPlace(const QString& path, Place* place);
 QString Member(const QString& path, const QString& key);
 QString Item(const QString& path, int index);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 QList<Place> Scene::Places() const
 {
@@ -77,8 +77,8 @@ QString Scene::FullName(const QString& file) const
 {
     if (file.isEmpty())
         return QString();
-    const QDir folder = QFileInfo(RealPath(path)).absoluteDir();
+    const QDir folder = QFileInfo(files::RealPath(path)).absoluteDir();
     return QDir::cleanPath(folder.absoluteFilePath(file));
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -18,7 +18,7 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** One animated text and where it plays. */
 struct SceneNode
@@ -93,6 +93,6 @@ bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QS
 /** The scene as the text of a scene file. */
 QByteArray SceneToJson(const Scene& scene);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -1,6 +1,6 @@
 #include "scene/scenefault.h"
 
-namespace AnimText {
+namespace AnimText::scene {
 
 QString SceneFault::Line(const QString& path) const
 {
@@ -18,4 +18,4 @@ QString AndMore(int others)
     return others == 0 ? QString() : QStringLiteral(" and %1 more like it").arg(others);
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** One thing that is wrong in the structure of a scene file. */
 struct SceneFault
@@ -24,6 +24,6 @@ struct SceneFault
 /** " and 2 more like it", or nothing for 0. */
 QString AndMore(int others);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -13,7 +13,7 @@
 
 #include <cstdio>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -146,7 +146,7 @@ QByteArray ReadBytes(const QString& path, QList<SceneFault>* faults)
                         QStringLiteral("an error: %1").arg(file.errorString())});
     if (!faults->isEmpty())
         return QByteArray();
-    const QByteArray bytes = ReadAtMost(&file, largestFile + 1);
+    const QByteArray bytes = files::ReadAtMost(&file, largestFile + 1);
     if (bytes.size() > largestFile)
         faults->append({QString(), fewerBytes, "more"});
     return bytes;
@@ -223,4 +223,4 @@ bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QS
     return TellFirst(ReadSceneText(text, path, scene, missing), path, error);
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

@@ -8,7 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -213,4 +213,4 @@ QByteArray SceneTables()
     return text.toUtf8();
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

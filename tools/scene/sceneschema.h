@@ -7,7 +7,7 @@
 
 #include <QByteArray>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /**
  * A JSON Schema (draft 7) of scene files, for editors. Like validate, it
@@ -18,6 +18,6 @@ QByteArray SceneSchema();
 /** Markdown tables of every key of a text. */
 QByteArray SceneTables();
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

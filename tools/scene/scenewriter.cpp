@@ -2,7 +2,7 @@
 #include "scene/json.h"
 #include "scene/scene.h"
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -68,4 +68,4 @@ QByteArray SceneToJson(const Scene& scene)
     return json.Text() + '\n';
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

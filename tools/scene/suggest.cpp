@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 namespace {
 
@@ -80,4 +80,4 @@ QString DidYouMeanOneOf(const QString& word, const QStringList& known)
     return Question(known.value(beginnings.indexOf(Closest(word, beginnings))));
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

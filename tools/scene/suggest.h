@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /** "; did you mean X?" for the closest word, or nothing. */
 QString DidYouMean(const QString& word, const QStringList& known);
@@ -19,6 +19,6 @@ QString DidYouMean(const QString& word, const QStringList& known);
  */
 QString DidYouMeanOneOf(const QString& word, const QStringList& known);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

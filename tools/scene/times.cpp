@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 bool ReadTime(const QString& text, double* milliseconds)
 {
@@ -39,4 +39,4 @@ bool ToHoldUnits(double milliseconds, int* units)
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::scene

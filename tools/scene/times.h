@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::scene {
 
 /**
  * Reads 2s, 2.5s, 1500ms, 3min, 1h or 40t (ticks of 66 ms) into milliseconds. A number without a
@@ -20,6 +20,6 @@ bool ReadTime(const QString& text, double* milliseconds);
  */
 bool ToHoldUnits(double milliseconds, int* units);
 
-} // namespace AnimText
+} // namespace AnimText::scene
 
 #endif

@@ -44,7 +44,7 @@ int RunWindow(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("animtext"));
     QApplication::setApplicationVersion(QStringLiteral(ANIMTEXT_VERSION));
 
-    Translate(QLocale());
+    studio::window::basics::Translate(QLocale());
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QCoreApplication::translate(
@@ -62,7 +62,7 @@ int RunWindow(int argc, char** argv)
                                  QStringLiteral("[SCENE.json]"));
     parser.process(words);
 
-    MainWindow window(parser.value(plugin));
+    studio::window::shell::MainWindow window(parser.value(plugin));
     const QStringList scenes = parser.positionalArguments();
     if (scenes.isEmpty() || !window.Open(scenes.first()))
         window.New();
@@ -78,7 +78,7 @@ int main(int argc, char** argv)
 {
     const QByteArray word = argc > 1 ? argv[1] : "";
     if (word == "--worker")
-        return WorkerMain(argc, argv);
+        return studio::worker::WorkerMain(argc, argv);
     if (word == "--help" || word == "-h" || word == "--version")
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (!HasDisplay())

@@ -10,7 +10,7 @@
 
 #include <sys/mman.h>
 
-namespace AnimText {
+namespace AnimText::timing {
 
 namespace {
 
@@ -18,37 +18,37 @@ constexpr int longHold = 50;    // units of 100 ms
 constexpr int certainHold = 40; // ticks without a picture that only a hold can be; none of the
                                 // speeds waits longer than 16 from one picture to the next
 
-Scene WithoutHolds(Scene scene)
+scene::Scene WithoutHolds(scene::Scene scene)
 {
-    for (SceneNode* node : scene.Nodes())
+    for (scene::SceneNode* node : scene.Nodes())
         node->hold = 0;
     return scene;
 }
 
 /** Holds are unmistakable. */
-Scene WithLongHolds(Scene scene)
+scene::Scene WithLongHolds(scene::Scene scene)
 {
-    for (SceneNode* node : scene.Nodes())
+    for (scene::SceneNode* node : scene.Nodes())
         node->hold = std::min(std::max(0, node->hold), 1000) + longHold;
     return scene;
 }
 
 } // namespace
 
-Ending EndingAtStart(const Stage& stage, int node)
+Ending EndingAtStart(const player::Stage& stage, int node)
 {
     if (stage.Render(node)->renderState() == 2)
         return Ending::NothingToPlay;
     if (stage.Motion(node).IsSideways())
         return Ending::ScrollsOn;
-    return stage.Motion(node).mode == Mode::Still ? Ending::StandsStill : Ending::TooLong;
+    return stage.Motion(node).mode == scene::Mode::Still ? Ending::StandsStill : Ending::TooLong;
 }
 
-BlankScene::BlankScene(const Scene& from)
+BlankScene::BlankScene(const scene::Scene& from)
     : scene(from)
 {
     int longest = 0;
-    for (const SceneNode* node : scene.Nodes())
+    for (const scene::SceneNode* node : scene.Nodes())
         longest = std::max(longest,
                            int(node->attributes.value(QStringLiteral("Text")).toString().size()));
     QByteArray list;
@@ -62,14 +62,14 @@ BlankScene::BlankScene(const Scene& from)
     outer << list.toBase64();
     if (outer.status() != QDataStream::Ok || !outlines.flush())
         return;
-    for (SceneNode* node : scene.Nodes()) {
+    for (scene::SceneNode* node : scene.Nodes()) {
         const auto file = node->files.find(QStringLiteral("PathData"));
         if (file != node->files.end())
             *file = QStringLiteral("/proc/self/fd/%1").arg(memory);
     }
 }
 
-QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch& watch)
+QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed, const Watch& watch)
 {
     player->Start(seed);
     QVector<NodePlay> plays(player->NodeCount());
@@ -101,8 +101,8 @@ QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch&
     return plays;
 }
 
-QVector<NodePlay> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
-                           QString* error)
+QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, uint seed,
+                           const Watch& watch, QString* error)
 {
     const BlankScene blank(scene);
     if (!player->Load(WithoutHolds(blank.Get()), error))
@@ -143,16 +143,16 @@ QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held
     return pages;
 }
 
-QVector<NodePlay> MeasurePages(Player* player, const Scene& scene, int longest, const Watch& watch,
-                               QString* error)
+QVector<NodePlay> MeasurePages(player::Player* player, const scene::Scene& scene, int longest,
+                               const Watch& watch, QString* error)
 {
     const BlankScene blank(scene);
     if (!player->Load(WithLongHolds(blank.Get()), error))
         return {};
-    const QVector<NodePlay> held = PlayToEnd(player, 3 * longest, standardSeed, watch);
+    const QVector<NodePlay> held = PlayToEnd(player, 3 * longest, player::standardSeed, watch);
     if (held.isEmpty() || !player->Load(blank.Get(), error))
         return {};
-    QVector<NodePlay> plays = PlayToEnd(player, longest, standardSeed, watch);
+    QVector<NodePlay> plays = PlayToEnd(player, longest, player::standardSeed, watch);
     for (int node = 0; node < plays.size(); ++node) {
         NodePlay& play = plays[node];
         if (play.ending == Ending::Finishes)
@@ -161,9 +161,9 @@ QVector<NodePlay> MeasurePages(Player* player, const Scene& scene, int longest, 
     return plays;
 }
 
-qint64 ScrollPass(const Stage& stage, int node)
+qint64 ScrollPass(const player::Stage& stage, int node)
 {
-    const NodeMotion motion = stage.Motion(node);
+    const scene::NodeMotion motion = stage.Motion(node);
     const QSize area = stage.Node(node)->Size();
     const int speed = stage.Node(node)->GetAttributeToInt(motion.SpeedKey());
     const qint64 crossing =
@@ -174,4 +174,4 @@ qint64 ScrollPass(const Stage& stage, int node)
     return crossing * (area.width() + line.width()) / area.width();
 }
 
-} // namespace AnimText
+} // namespace AnimText::timing

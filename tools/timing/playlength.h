@@ -14,7 +14,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::timing {
 
 /** How a node's play ends. */
 enum class Ending {
@@ -54,16 +54,19 @@ struct NodePlay
     int holdTicks = 0;
 
     /** When it was finished, milliseconds; -1 never. */
-    qint64 FinishedMs() const { return finishedTick < 0 ? -1 : qint64(finishedTick) * tickLength; }
+    qint64 FinishedMs() const
+    {
+        return finishedTick < 0 ? -1 : qint64(finishedTick) * player::tickLength;
+    }
 };
 
 /** How a node's play ends, if known at its start; otherwise TooLong. */
-Ending EndingAtStart(const Stage& stage, int node);
+Ending EndingAtStart(const player::Stage& stage, int node);
 
 /** Called at every tick; returns false to stop. */
 using Watch = std::function<bool(int tick)>;
 
-constexpr int ticksOfADay = 24 * 3600 * 1000 / tickLength;
+constexpr int ticksOfADay = 24 * 3600 * 1000 / player::tickLength;
 
 /**
  * Plays the loaded scene from its start until every node has ended that can: a motion that does not
@@ -71,7 +74,8 @@ constexpr int ticksOfADay = 24 * 3600 * 1000 / tickLength;
  * @param longest the last tick to play
  * @return one entry a node; empty if @p watch stopped it
  */
-QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch& watch = Watch());
+QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed,
+                            const Watch& watch = Watch());
 
 /**
  * Plays @p scene without outlines to its end, and again without holds, to separate the ticks for
@@ -80,8 +84,8 @@ QVector<NodePlay> PlayToEnd(Player* player, int longest, uint seed, const Watch&
  * @return one entry a node; empty if @p watch stopped it or, with one line in @p error, if the
  * scene cannot be played
  */
-QVector<NodePlay> Simulate(Player* player, const Scene& scene, uint seed, const Watch& watch,
-                           QString* error);
+QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, uint seed,
+                           const Watch& watch, QString* error);
 
 /**
  * Plays @p scene without outlines, twice: once with every page held so long that holds are
@@ -90,8 +94,8 @@ QVector<NodePlay> Simulate(Player* player, const Scene& scene, uint seed, const 
  * @param longest ticks after which the second play is stopped
  * @return as Simulate()
  */
-QVector<NodePlay> MeasurePages(Player* player, const Scene& scene, int longest, const Watch& watch,
-                               QString* error);
+QVector<NodePlay> MeasurePages(player::Player* player, const scene::Scene& scene, int longest,
+                               const Watch& watch, QString* error);
 
 /**
  * Divides a play into pages.
@@ -108,12 +112,12 @@ QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held
 class BlankScene
 {
 public:
-    explicit BlankScene(const Scene& from);
+    explicit BlankScene(const scene::Scene& from);
 
-    const Scene& Get() const { return scene; }
+    const scene::Scene& Get() const { return scene; }
 
 private:
-    Scene scene;
+    scene::Scene scene;
     QFile outlines; // of all its nodes, in memory, so a killed process leaves nothing
 };
 
@@ -121,8 +125,8 @@ private:
  * What the device needs to scroll a node's text once through its area, until the area is empty
  * again, in milliseconds; 0 when it does not move. The player must have been started.
  */
-qint64 ScrollPass(const Stage& stage, int node);
+qint64 ScrollPass(const player::Stage& stage, int node);
 
-} // namespace AnimText
+} // namespace AnimText::timing
 
 #endif

@@ -9,7 +9,7 @@
 
 using namespace Lw::HNodeAnimationText;
 
-namespace AnimText {
+namespace AnimText::validate {
 namespace {
 
 /** Why the sign reads nothing from @p file, whose outer or inner layer is empty. */
@@ -109,4 +109,4 @@ DataFile LookIntoDescentFile(const QString& path)
     return file;
 }
 
-} // namespace AnimText
+} // namespace AnimText::validate

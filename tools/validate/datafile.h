@@ -10,7 +10,7 @@
 #include <QString>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::validate {
 
 /** An outline that the sign refuses: it shows nothing at that place and keeps the others. */
 struct BadOutline
@@ -36,6 +36,6 @@ DataFile LookIntoPathFile(const QString& path);
 /** The "DescentVector" file at @p path. */
 DataFile LookIntoDescentFile(const QString& path);
 
-} // namespace AnimText
+} // namespace AnimText::validate
 
 #endif

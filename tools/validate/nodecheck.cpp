@@ -14,7 +14,7 @@
 
 using namespace Lw::HNodeAnimationText;
 
-namespace AnimText {
+namespace AnimText::validate {
 namespace {
 
 QString Words(int count, const char* one, const char* many)
@@ -40,12 +40,12 @@ qint64 Sum(const QVector<int>& values)
 class NodeCheck
 {
 public:
-    NodeCheck(const Scene& scene, const Place& place)
+    NodeCheck(const scene::Scene& scene, const scene::Place& place)
         : scene(scene)
         , node(scene.At(place))
         , path(place.Path())
         , text(node.attributes.value("Text").toString())
-        , motion(MotionOf(node))
+        , motion(scene::MotionOf(node))
         , widths(Column("TextWidth", "text_width"))
         , heights(Column("TextHeight", "text_height"))
     {
@@ -53,13 +53,14 @@ public:
 
     QList<Finding> Run()
     {
-        if (node.type != SceneNode().type)
-            Add(Mistake::NodeType, "type", InQuotes(node.type), InQuotes(SceneNode().type));
+        if (node.type != scene::SceneNode().type)
+            Add(Mistake::NodeType, "type", InQuotes(node.type), InQuotes(scene::SceneNode().type));
         CheckArea();
-        const Attribute& hold = *FindAttribute(Home::Node, "hold");
-        if (!IsInRange(hold, node.hold))
+        const scene::Attribute& hold = *scene::FindAttribute(scene::Home::Node, "hold");
+        if (!scene::IsInRange(hold, node.hold))
             Add(Mistake::HoldRange, "hold", QString::number(node.hold),
-                QStringLiteral("%1, in %2").arg(RangeInWords(hold), Translated(hold.unit)));
+                QStringLiteral("%1, in %2")
+                    .arg(scene::RangeInWords(hold), scene::Translated(hold.unit)));
         CheckMode();
         CheckIgnored();
         CheckLists();
@@ -99,16 +100,16 @@ private:
     /** A finding when the attribute is beyond its range. */
     void CheckRange(Mistake mistake, const QString& key)
     {
-        const Attribute& attribute = *FindAttribute(Home::Attributes, key);
-        if (!IsInRange(attribute, Number(key)))
-            AddAttribute(mistake, key, RangeInWords(attribute));
+        const scene::Attribute& attribute = *scene::FindAttribute(scene::Home::Attributes, key);
+        if (!scene::IsInRange(attribute, Number(key)))
+            AddAttribute(mistake, key, scene::RangeInWords(attribute));
     }
 
     void CheckMode()
     {
         if (text.isEmpty())
             AddAttribute(Mistake::TextEmpty, "Text", "a text");
-        if (motion.mode == Mode::Still) {
+        if (motion.mode == scene::Mode::Still) {
             CheckRange(Mistake::ModeUnknown, "EffectType");
         } else {
             CheckRange(motion.IsScroll() ? Mistake::DirectionUnknown : Mistake::EffectUnknown,
@@ -119,8 +120,8 @@ private:
         // Negative numbers are opaque colors as Qt's QRgb has them; their lowest 24 bits are right.
         if (Number("StrokeColor") > 0)
             CheckRange(Mistake::ColorRange, "StrokeColor");
-        for (const QString& key : KeysOf(Home::Attributes)) {
-            if (FindAttribute(Home::Attributes, key)->kind == ValueKind::Flag)
+        for (const QString& key : scene::KeysOf(scene::Home::Attributes)) {
+            if (scene::FindAttribute(scene::Home::Attributes, key)->kind == scene::ValueKind::Flag)
                 CheckRange(Mistake::FlagValue, key);
         }
     }
@@ -140,13 +141,13 @@ private:
 
     void CheckLists()
     {
-        for (const QString& key : ListKeys()) {
+        for (const QString& key : scene::ListKeys()) {
             const int rows = node.lists.value(key).size();
             if (rows != text.size())
                 Add(rows < text.size() ? Mistake::ListLength : Mistake::ListSurplus, "lists." + key,
                     node.lists.contains(key) ? Words(rows, "row", "rows") : "no list",
                     "a row for each of " + Words(text.size(), "character", "characters"));
-            for (const QString& field : RowFields(key)) {
+            for (const QString& field : scene::RowFields(key)) {
                 if (field != QLatin1String("fontName"))
                     CheckRows(key, field);
             }
@@ -158,7 +159,7 @@ private:
         const QString list = "TextAttribute";
         const QString color = "Color";
         const auto styles = node.lists.value(list);
-        const Attribute& range = *FindAttribute(Home::TextAttribute, color);
+        const scene::Attribute& range = *scene::FindAttribute(scene::Home::TextAttribute, color);
         const auto find = [&](Mistake mistake, const QString& expected, const auto& isBad) {
             for (int i = 0; i < styles.size(); ++i) {
                 const QString value = styles[i].value(color);
@@ -166,7 +167,7 @@ private:
                     return AddRow(mistake, list, i, color, InQuotes(value), expected);
             }
         };
-        find(Mistake::ColorRange, RangeInWords(range),
+        find(Mistake::ColorRange, scene::RangeInWords(range),
              [&](const QString& value) { return value.toInt() > range.most; });
         const QString first = styles.value(0).value(color);
         find(Mistake::ColorsIgnored, InQuotes(first) + " as in the first row",
@@ -190,7 +191,7 @@ private:
         const QHash<QString, QString>& row = rows[bad.first()];
         AddRow(Mistake::RowValue, list, bad.first(), field,
                (row.contains(field) ? InQuotes(row.value(field)) : "nothing") +
-                   AndMore(bad.size() - 1),
+                   scene::AndMore(bad.size() - 1),
                isSize ? "a decimal number from 0" : "a decimal number");
     }
 
@@ -210,7 +211,7 @@ private:
 
     void CheckFiles()
     {
-        for (const QString& key : KeysOf(Home::Files)) {
+        for (const QString& key : scene::KeysOf(scene::Home::Files)) {
             const QString at = QStringLiteral("files.") + key;
             const bool isData =
                 key == QLatin1String("PathData") || key == QLatin1String("DescentVector");
@@ -225,7 +226,7 @@ private:
                 Add(Mistake::FileMissing, at, "nothing", "the name of a data file");
             } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
                        (key == QLatin1String("NeonGifPath") &&
-                        IsUsed(*FindAttribute(Home::Files, key), node))) {
+                        scene::IsUsed(*scene::FindAttribute(scene::Home::Files, key), node))) {
                 Add(Mistake::PictureMissing, at, "nothing", "the name of a picture file");
             }
         }
@@ -252,7 +253,7 @@ private:
             Add(Mistake::OutlineMalformed, at,
                 QStringLiteral("outline %1: %2%3")
                     .arg(bad.index)
-                    .arg(bad.fault, AndMore(data.badOutlines.size() - 1)),
+                    .arg(bad.fault, scene::AndMore(data.badOutlines.size() - 1)),
                 "moves, lines and curves within a million pixels");
         }
         if (holdsPaths) {
@@ -303,7 +304,7 @@ private:
             Add(Mistake::OutlineEmpty, "files.PathData",
                 QStringLiteral("no outline for character %1 of the text%2")
                     .arg(gaps.first())
-                    .arg(AndMore(gaps.size() - 1)),
+                    .arg(scene::AndMore(gaps.size() - 1)),
                 "an outline for all that is seen");
     }
 
@@ -317,31 +318,31 @@ private:
 
     void Add(Mistake mistake, const QString& where, const QString& found, const QString& expected)
     {
-        findings.append({mistake, Member(path, where), found, expected});
+        findings.append({mistake, scene::Member(path, where), found, expected});
     }
 
     void AddRow(Mistake mistake, const QString& list, int row, const QString& field,
                 const QString& found, const QString& expected)
     {
-        const QString place = Item(Member("lists", list), row);
-        Add(mistake, Member(place, field), found, expected);
+        const QString place = scene::Item(scene::Member("lists", list), row);
+        Add(mistake, scene::Member(place, field), found, expected);
     }
 
     void AddAttribute(Mistake mistake, const QString& key, const QString& expected)
     {
         const QVariant value = node.attributes.value(key);
-        Add(mistake, Member("attributes", key),
+        Add(mistake, scene::Member("attributes", key),
             value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
     }
 
     bool Has(const QString& flag) const { return Number(flag) == 1; }
     int Number(const QString& key) const { return node.attributes.value(key).toInt(); }
 
-    const Scene& scene;
-    const SceneNode& node;
+    const scene::Scene& scene;
+    const scene::SceneNode& node;
     const QString path; // of the node in the scene file
     const QString text;
-    const NodeMotion motion;
+    const scene::NodeMotion motion;
     const QVector<int> widths;
     const QVector<int> heights;
     QVector<int> descents;
@@ -351,9 +352,9 @@ private:
 
 } // namespace
 
-QList<Finding> CheckNode(const Scene& scene, const Place& place)
+QList<Finding> CheckNode(const scene::Scene& scene, const scene::Place& place)
 {
     return NodeCheck(scene, place).Run();
 }
 
-} // namespace AnimText
+} // namespace AnimText::validate

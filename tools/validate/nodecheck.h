@@ -7,11 +7,11 @@
 
 #include "validate/validate.h"
 
-namespace AnimText {
+namespace AnimText::validate {
 
 /** The mistakes in one node, in the order of the scene file. */
-QList<Finding> CheckNode(const Scene& scene, const Place& place);
+QList<Finding> CheckNode(const scene::Scene& scene, const scene::Place& place);
 
-} // namespace AnimText
+} // namespace AnimText::validate
 
 #endif

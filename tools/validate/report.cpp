@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::validate {
 namespace {
 
 QString Name(Severity severity)
@@ -73,4 +73,4 @@ QByteArray ReportsAsJson(const QList<Report>& reports)
         .toJson(QJsonDocument::Indented);
 }
 
-} // namespace AnimText
+} // namespace AnimText::validate

@@ -4,7 +4,7 @@
 
 #include <iterator>
 
-namespace AnimText {
+namespace AnimText::validate {
 
 namespace {
 
@@ -78,4 +78,4 @@ const Rule& RuleFor(Mistake mistake)
     return Rules::all[int(mistake)];
 }
 
-} // namespace AnimText
+} // namespace AnimText::validate

@@ -5,7 +5,7 @@
 #ifndef ANIMTEXT_RULES_H
 #define ANIMTEXT_RULES_H
 
-namespace AnimText {
+namespace AnimText::validate {
 
 enum class Severity { Warning, Error };
 
@@ -56,6 +56,6 @@ struct Rule
 
 const Rule& RuleFor(Mistake mistake);
 
-} // namespace AnimText
+} // namespace AnimText::validate
 
 #endif

@@ -4,18 +4,18 @@
 
 #include <QRect>
 
-namespace AnimText {
+namespace AnimText::validate {
 namespace {
 
 /** The nodes of one area play in turn; those of other areas of its page play beside them. */
-QList<Finding> Overlaps(const Scene& scene, const Place& place)
+QList<Finding> Overlaps(const scene::Scene& scene, const scene::Place& place)
 {
     const QRect own(scene.At(place).pos, scene.At(place).size);
     for (int a = 0; a < place.area; ++a) {
-        for (const SceneNode& other : scene.pages[place.page].areas[a].nodes) {
+        for (const scene::SceneNode& other : scene.pages[place.page].areas[a].nodes) {
             const QRect both = own & QRect(other.pos, other.size);
             if (!both.isEmpty())
-                return {{Mistake::AreasOverlap, Member(place.Path(), "pos"),
+                return {{Mistake::AreasOverlap, scene::Member(place.Path(), "pos"),
                          QStringLiteral("%1 x %2 pixels in common with areas[%3]")
                              .arg(both.width())
                              .arg(both.height())
@@ -36,12 +36,12 @@ QString Finding::Line() const
         .arg(QLatin1String(rule.code), at, found, expected, QLatin1String(rule.why));
 }
 
-QList<Finding> ValidateScene(const Scene& scene)
+QList<Finding> ValidateScene(const scene::Scene& scene)
 {
     if (scene.Nodes().isEmpty())
         return {{Mistake::SceneEmpty, "$.pages", "no nodes", "one or more"}};
     QList<Finding> findings;
-    for (const Place& place : scene.Places()) {
+    for (const scene::Place& place : scene.Places()) {
         findings += CheckNode(scene, place);
         findings += Overlaps(scene, place);
     }
@@ -50,15 +50,16 @@ QList<Finding> ValidateScene(const Scene& scene)
 
 QList<Finding> ValidateScene(const QString& path)
 {
-    Scene scene;
-    const QList<SceneFault> faults = ReadScene(path, &scene, MissingFiles::AreAccepted);
+    scene::Scene scene;
+    const QList<scene::SceneFault> faults =
+        scene::ReadScene(path, &scene, scene::MissingFiles::AreAccepted);
     if (faults.isEmpty())
         return ValidateScene(scene);
     QList<Finding> findings;
-    for (const SceneFault& fault : faults)
-        findings.append({Mistake::SceneUnreadable, fault.place, fault.found + AndMore(fault.others),
-                         fault.expected});
+    for (const scene::SceneFault& fault : faults)
+        findings.append({Mistake::SceneUnreadable, fault.place,
+                         fault.found + scene::AndMore(fault.others), fault.expected});
     return findings;
 }
 
-} // namespace AnimText
+} // namespace AnimText::validate

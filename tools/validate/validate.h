@@ -12,7 +12,7 @@
 #include <QList>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::validate {
 
 /** One mistake in one place. */
 struct Finding
@@ -34,7 +34,7 @@ struct Finding
  */
 QList<Finding> ValidateScene(const QString& path);
 /** The same for a scene that is or will be in the file @c scene.path. */
-QList<Finding> ValidateScene(const Scene& scene);
+QList<Finding> ValidateScene(const scene::Scene& scene);
 
 /** The findings of one scene. */
 struct Report
@@ -55,6 +55,6 @@ QByteArray ReportsAsJson(const QList<Report>& reports);
 /** How many of @p findings are of that severity. */
 int Count(const QList<Finding>& findings, Severity severity);
 
-} // namespace AnimText
+} // namespace AnimText::validate
 
 #endif

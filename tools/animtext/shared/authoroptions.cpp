@@ -8,7 +8,7 @@
 
 #include <cstdio>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 namespace {
 
@@ -18,11 +18,11 @@ constexpr int longestTextFile = 1 << 20; // bytes, with tags
 constexpr int most = 1000000;            // limit of numbers without a natural one
 constexpr int lastDrawnNeon = 28;        // neon styles above show a picture
 
-QString ReadWords(const CommandLine& line)
+QString ReadWords(const cli::CommandLine& line)
 {
     if (line.IsSet("text") == line.IsSet("text-file"))
-        throw Misuse{line.IsSet("text") ? "--text and --text-file cannot be combined"
-                                        : "expected --text TEXT or --text-file FILE"};
+        throw cli::Misuse{line.IsSet("text") ? "--text and --text-file cannot be combined"
+                                             : "expected --text TEXT or --text-file FILE"};
     if (line.IsSet("text"))
         return line.Value("text");
 
@@ -31,62 +31,63 @@ QString ReadWords(const CommandLine& line)
     QByteArray bytes;
     // Standard input may be a socket, which has no name to open.
     if (name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))
-        bytes = ReadAtMost(&file, longestTextFile + 1);
+        bytes = files::ReadAtMost(&file, longestTextFile + 1);
     if (file.error() != QFileDevice::NoError)
-        throw Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
+        throw cli::Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
     if (bytes.size() > longestTextFile)
-        throw Misuse{QStringLiteral("%1: expected a text of at most %2 bytes, found more")
-                         .arg(name)
-                         .arg(longestTextFile)};
+        throw cli::Misuse{QStringLiteral("%1: expected a text of at most %2 bytes, found more")
+                              .arg(name)
+                              .arg(longestTextFile)};
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
     const QString text = QString::fromUtf8(bytes);
     // Decoding replaces invalid bytes.
     if (text.toUtf8() != bytes)
-        throw Misuse{QStringLiteral("%1: the text is not valid UTF-8").arg(name)};
+        throw cli::Misuse{QStringLiteral("%1: the text is not valid UTF-8").arg(name)};
     return text;
 }
 
-NodeMotion ReadMotion(const CommandLine& line)
+scene::NodeMotion ReadMotion(const cli::CommandLine& line)
 {
     if (!line.IsSet("scroll"))
-        return {Mode::Entrance, line.Number("effect")};
+        return {scene::Mode::Entrance, line.Number("effect")};
     if (line.IsSet("effect"))
-        throw Misuse{"--effect and --scroll cannot be combined"};
-    return {Mode::Scroll, line.Number("scroll")};
+        throw cli::Misuse{"--effect and --scroll cannot be combined"};
+    return {scene::Mode::Scroll, line.Number("scroll")};
 }
 
-Setting ReadSetting(const CommandLine& line, const NodeMotion& motion)
+layout::Setting ReadSetting(const cli::CommandLine& line, const scene::NodeMotion& motion)
 {
-    Setting setting;
+    layout::Setting setting;
     if (line.IsSet("fit")) {
-        setting.fit = line.Number("fit") == 0 ? Fit::Height : Fit::Both;
+        setting.fit = line.Number("fit") == 0 ? layout::Fit::Height : layout::Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
-            throw Misuse{"--fit needs --area and cannot be combined with --size"};
-        if (motion.IsScroll() && setting.fit == Fit::Both)
-            throw Misuse{"--fit both cannot be combined with --scroll; use --fit height"};
+            throw cli::Misuse{"--fit needs --area and cannot be combined with --size"};
+        if (motion.IsScroll() && setting.fit == layout::Fit::Both)
+            throw cli::Misuse{"--fit both cannot be combined with --scroll; use --fit height"};
     }
     if (line.IsSet("align")) {
-        setting.align = Align(int(Align::Left) + line.Number("align"));
+        setting.align = layout::Align(int(layout::Align::Left) + line.Number("align"));
         if (motion.IsSideways())
-            throw Misuse{"--align cannot be combined with --scroll left or right"};
+            throw cli::Misuse{"--align cannot be combined with --scroll left or right"};
     }
-    setting.valign = VAlign(line.Number("valign"));
+    setting.valign = layout::VAlign(line.Number("valign"));
     setting.padding = line.Number("padding");
     setting.keepsWords = !line.IsSet("tear-words");
     return setting;
 }
 
 /** The file of @p option. */
-QString FileIn(const CommandLine& line, const char* option)
+QString FileIn(const cli::CommandLine& line, const char* option)
 {
     const QString name = line.Value(option);
     if (!QFileInfo(name).isFile())
-        throw Misuse{QStringLiteral("--%1: %2 is not a file").arg(QLatin1String(option), name)};
+        throw cli::Misuse{
+            QStringLiteral("--%1: %2 is not a file").arg(QLatin1String(option), name)};
     return name;
 }
 
-void ReadBackground(const CommandLine& line, SceneNode* node)
+void ReadBackground(const cli::CommandLine& line, scene::SceneNode* node)
 {
     if (line.IsSet("dazzle"))
         node->attributes["CheckDazzle"] = 1;
@@ -96,7 +97,7 @@ void ReadBackground(const CommandLine& line, SceneNode* node)
     }
     if (line.IsSet("picture")) {
         if (!line.IsSet("dazzle"))
-            throw Misuse{"--picture needs --dazzle"};
+            throw cli::Misuse{"--picture needs --dazzle"};
         node->attributes["CheckPictureFills"] = 1;
         node->files["FillImage"] = FileIn(line, "picture");
     }
@@ -104,15 +105,15 @@ void ReadBackground(const CommandLine& line, SceneNode* node)
         node->attributes["CheckNeonBg"] = 1;
     node->neonEffect = line.Number("neon");
     if ((node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"))
-        throw Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
-                         .arg(lastDrawnNeon)};
+        throw cli::Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
+                              .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
         node->files["NeonGifPath"] = FileIn(line, "neon-picture");
 }
 
-Destination ReadDestination(const CommandLine& line)
+author::Destination ReadDestination(const cli::CommandLine& line)
 {
-    Destination destination;
+    author::Destination destination;
     const bool isCounted = line.IsSet("page") || line.IsSet("in-area");
     destination.isAdded = line.IsSet("append") || line.IsSet("replace") || isCounted;
     destination.overwrites = line.IsSet("overwrite");
@@ -122,80 +123,84 @@ Destination ReadDestination(const CommandLine& line)
     destination.area = line.Number("in-area");
     destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && isCounted)
-        throw Misuse{"--replace cannot be combined with --page or --in-area"};
+        throw cli::Misuse{"--replace cannot be combined with --page or --in-area"};
     if (line.IsSet("replace") && destination.instead.isEmpty())
-        throw Misuse{"--replace is empty; expected PLACE"};
+        throw cli::Misuse{"--replace is empty; expected PLACE"};
     if (destination.overwrites && destination.isAdded)
-        throw Misuse{"--overwrite cannot be combined with --append, --page, "
-                     "--in-area or --replace"};
+        throw cli::Misuse{"--overwrite cannot be combined with --append, --page, "
+                          "--in-area or --replace"};
     return destination;
 }
 
 } // namespace
 
-QVector<Option> LayoutOptions()
+QVector<cli::Option> LayoutOptions()
 {
     const QStringList dazzles{"plain", "linear", "radial", "conical"};
     return {
-        Option::File("output", "SCENE.json", "Scene file to write.").Letter('o').Required(),
-        Option::Text("text", "TEXT", "Text to show, on one line."),
-        Option::File("text-file", "FILE",
-                     "Read the text from a UTF-8 file of up to 1 MiB; - is standard input."),
-        Option::Font("font", "Font family or font file.").Or(usualFamily),
-        Option::Number("size", smallestReadableSize, largestFontSize,
-                       "Font size in pixels. Default: fits the area, or 48."),
-        Option::Flag("bold", "Bold text."),
-        Option::Flag("italic", "Italic text."),
-        Option::Flag("underline", "Underlined text."),
-        Option::Color("color", "Text color: a name or #rrggbb.").Or("#ffa000"),
-        Option::Flag("markup", "Read tags in the text: <b>, <i>, <u> and <font face= size= "
-                               "color=>, or HTML from an editor."),
-        Option::Flag("hollow", "Draw only the outlines of letters."),
-        Option::Effect("effect", "Entrance effect, by its name or number in animtext effects.")
+        cli::Option::File("output", "SCENE.json", "Scene file to write.").Letter('o').Required(),
+        cli::Option::Text("text", "TEXT", "Text to show, on one line."),
+        cli::Option::File("text-file", "FILE",
+                          "Read the text from a UTF-8 file of up to 1 MiB; - is standard input."),
+        cli::Option::Font("font", "Font family or font file.").Or(scene::usualFamily),
+        cli::Option::Number("size", layout::smallestReadableSize, layout::largestFontSize,
+                            "Font size in pixels. Default: fits the area, or 48."),
+        cli::Option::Flag("bold", "Bold text."),
+        cli::Option::Flag("italic", "Italic text."),
+        cli::Option::Flag("underline", "Underlined text."),
+        cli::Option::Color("color", "Text color: a name or #rrggbb.").Or("#ffa000"),
+        cli::Option::Flag("markup", "Read tags in the text: <b>, <i>, <u> and <font face= size= "
+                                    "color=>, or HTML from an editor."),
+        cli::Option::Flag("hollow", "Draw only the outlines of letters."),
+        cli::Option::Effect("effect", "Entrance effect, by its name or number in animtext effects.")
             .Or("4"),
-        Option::Scroll("scroll", "Scroll left, right, up or down instead of using an effect."),
-        Option::Number("speed", 0, 9, "Speed, from 0 (slowest) to 9 (fastest).").Or("5"),
-        Option::Hold("hold", "How long to hold each page, such as 2s or 1500ms.").Or("2s"),
-        Option::Number("plays", 1, most, "How many times to play the text.").Or("1"),
-        Option::Size("area", largestSide,
-                     "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
-        Option::Point("pos", "Position of the area on the display, in pixels.").Or("0,0"),
-        Option::Choice("fit", "WHAT", {"height", "both"},
-                       "Fit the text to the area: height, or both for height and width."),
-        Option::Choice(
+        cli::Option::Scroll("scroll", "Scroll left, right, up or down instead of using an effect."),
+        cli::Option::Number("speed", 0, 9, "Speed, from 0 (slowest) to 9 (fastest).").Or("5"),
+        cli::Option::Hold("hold", "How long to hold each page, such as 2s or 1500ms.").Or("2s"),
+        cli::Option::Number("plays", 1, most, "How many times to play the text.").Or("1"),
+        cli::Option::Size(
+            "area", largestSide,
+            "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
+        cli::Option::Point("pos", "Position of the area on the display, in pixels.").Or("0,0"),
+        cli::Option::Choice("fit", "WHAT", {"height", "both"},
+                            "Fit the text to the area: height, or both for height and width."),
+        cli::Option::Choice(
             "align", "WHERE", {"left", "center", "right"},
             "Horizontal alignment: left, center or right. Default: the side where reading starts."),
-        Option::Choice("valign", "WHERE", {"top", "middle", "bottom"},
-                       "Vertical alignment: top, middle or bottom.")
+        cli::Option::Choice("valign", "WHERE", {"top", "middle", "bottom"},
+                            "Vertical alignment: top, middle or bottom.")
             .Or("middle"),
-        Option::Number("padding", 0, largestSide, "Free space on each side, in pixels.").Or("0"),
-        Option::Flag("tear-words", "Allow page breaks inside words."),
-        Option::Size("display", largestSide,
-                     "Size of the display in pixels. Default: the scene's, or just large enough "
-                     "for the area."),
-        Option::Flag("no-alpha",
-                     "Use 24-bit layers with a color key, for devices without alpha blending."),
-        Option::Choice(
+        cli::Option::Number("padding", 0, largestSide, "Free space on each side, in pixels.")
+            .Or("0"),
+        cli::Option::Flag("tear-words", "Allow page breaks inside words."),
+        cli::Option::Size(
+            "display", largestSide,
+            "Size of the display in pixels. Default: the scene's, or just large enough "
+            "for the area."),
+        cli::Option::Flag(
+            "no-alpha", "Use 24-bit layers with a color key, for devices without alpha blending."),
+        cli::Option::Choice(
             "dazzle", "KIND", dazzles,
             "Background of moving colors: plain, linear, radial or conical. Without KIND: plain.")
             .Alone("plain"),
-        Option::File("picture", "FILE", "Picture for the dazzle background."),
-        Option::Number("neon", 0, most, "Neon border style. Styles above 28 show --neon-picture."),
-        Option::File("neon-picture", "FILE", "Animated picture for neon styles above 28."),
-        Option::Flag("append", "Add the text to the scene instead of replacing the scene."),
-        Option::Number("page", 1, most,
-                       "Add the text to this page; one more than the last adds a page."),
-        Option::Number(
+        cli::Option::File("picture", "FILE", "Picture for the dazzle background."),
+        cli::Option::Number("neon", 0, most,
+                            "Neon border style. Styles above 28 show --neon-picture."),
+        cli::Option::File("neon-picture", "FILE", "Animated picture for neon styles above 28."),
+        cli::Option::Flag("append", "Add the text to the scene instead of replacing the scene."),
+        cli::Option::Number("page", 1, most,
+                            "Add the text to this page; one more than the last adds a page."),
+        cli::Option::Number(
             "in-area", 1, most,
             "Add the text to this area of the page and use the area's position and size."),
-        Option::Text("replace", "PLACE",
-                     "Replace this text, by its number in animtext list or its path."),
-        Option::Flag("overwrite", "Replace a scene that has several texts.")};
+        cli::Option::Text("replace", "PLACE",
+                          "Replace this text, by its number in animtext list or its path."),
+        cli::Option::Flag("overwrite", "Replace a scene that has several texts.")};
 }
 
-WrittenText ReadWritten(const CommandLine& line)
+author::WrittenText ReadWritten(const cli::CommandLine& line)
 {
-    WrittenText written;
+    author::WrittenText written;
     written.isSized = line.IsSet("size");
     QFont font(line.Font("font"));
     font.setPixelSize(written.isSized ? line.Number("size") : standardSize);
@@ -206,9 +211,9 @@ WrittenText ReadWritten(const CommandLine& line)
     return written;
 }
 
-SceneNode ReadLook(const CommandLine& line)
+scene::SceneNode ReadLook(const cli::CommandLine& line)
 {
-    SceneNode node;
+    scene::SceneNode node;
     node.size = line.Size("area");
     node.hold = line.Number("hold");
     if (line.IsSet("hollow"))
@@ -216,9 +221,9 @@ SceneNode ReadLook(const CommandLine& line)
     return node;
 }
 
-AuthorRequest ReadRequest(const CommandLine& line)
+author::AuthorRequest ReadRequest(const cli::CommandLine& line)
 {
-    AuthorRequest request;
+    author::AuthorRequest request;
     request.path = line.Value("output");
     request.written = ReadWritten(line);
     request.written.words = ReadWords(line);
@@ -235,4 +240,4 @@ AuthorRequest ReadRequest(const CommandLine& line)
     return request;
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

@@ -8,18 +8,18 @@
 #include "author/authorscene.h"
 #include "cli/commandline.h"
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
-QVector<Option> LayoutOptions();
+QVector<cli::Option> LayoutOptions();
 
 /** The text's font, size and color, without its words. */
-WrittenText ReadWritten(const CommandLine& line);
+author::WrittenText ReadWritten(const cli::CommandLine& line);
 /** Area, hollow and hold. */
-SceneNode ReadLook(const CommandLine& line);
+scene::SceneNode ReadLook(const cli::CommandLine& line);
 
 /** Reads all options; throws Misuse if they cannot be combined. */
-AuthorRequest ReadRequest(const CommandLine& line);
+author::AuthorRequest ReadRequest(const cli::CommandLine& line);
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared
 
 #endif

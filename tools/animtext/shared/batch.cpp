@@ -18,7 +18,7 @@
 #include <thread>
 #include <vector>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 namespace {
 
@@ -28,7 +28,7 @@ struct Job
     QString film;
 };
 
-QList<Job> PlanJobs(const CommandLine& line, const QString& ending)
+QList<Job> PlanJobs(const cli::CommandLine& line, const QString& ending)
 {
     const QDir folder(line.Value("output"));
     QList<Job> jobs;
@@ -36,7 +36,7 @@ QList<Job> PlanJobs(const CommandLine& line, const QString& ending)
     for (const QString& scene : line.Arguments()) {
         const QString name = QFileInfo(scene).completeBaseName() + ending;
         if (sceneOf.contains(name))
-            throw Misuse{
+            throw cli::Misuse{
                 QStringLiteral("%1 and %2 would both become %3; render them into two folders")
                     .arg(sceneOf.value(name), scene, name)};
         sceneOf.insert(name, scene);
@@ -48,13 +48,13 @@ QList<Job> PlanJobs(const CommandLine& line, const QString& ending)
 /** Whether the film is younger than everything that it is made from. */
 bool IsDone(const Job& job, const QString& plugin)
 {
-    Scene scene;
+    scene::Scene scene;
     QString error;
     const QFileInfo film(job.film);
-    if (!film.exists() || !ReadScene(job.scene, &scene, &error))
+    if (!film.exists() || !scene::ReadScene(job.scene, &scene, &error))
         return false;
     QStringList inputs{job.scene, plugin, QCoreApplication::applicationFilePath()};
-    for (const SceneNode* node : scene.Nodes()) {
+    for (const scene::SceneNode* node : scene.Nodes()) {
         for (const QString& file : node->files)
             inputs.append(scene.FullName(file));
     }
@@ -79,31 +79,31 @@ bool Succeeded(QProcess* renderer)
 {
     const QByteArray said = renderer->readAllStandardError();
     std::fwrite(said.constData(), 1, size_t(said.size()), stderr);
-    Print(renderer->readAllStandardOutput());
+    cli::Print(renderer->readAllStandardOutput());
     if (renderer->exitStatus() == QProcess::NormalExit &&
         renderer->error() != QProcess::FailedToStart)
-        return renderer->exitCode() == Done;
-    Warn(QStringLiteral("%1: %2").arg(renderer->objectName(), renderer->errorString()));
+        return renderer->exitCode() == files::Done;
+    cli::Warn(QStringLiteral("%1: %2").arg(renderer->objectName(), renderer->errorString()));
     return false;
 }
 
 /** Runs the jobs, @p most of them at once. @return how many failed */
-int RunJobs(QList<Job> jobs, int most, const QStringList& options, Progress::Form form)
+int RunJobs(QList<Job> jobs, int most, const QStringList& options, cli::Progress::Form form)
 {
     constexpr int glance = 20; // milliseconds
-    Progress progress("rendering scene", jobs.size(), form);
+    cli::Progress progress("rendering scene", jobs.size(), form);
     const int all = jobs.size();
     int failed = 0;
     std::vector<std::unique_ptr<QProcess>> running;
     while (!running.empty() || !jobs.isEmpty()) {
         while (!jobs.isEmpty() && int(running.size()) < most)
             running.push_back(Start(jobs.takeFirst(), options));
-        if (Interrupted()) {
+        if (cli::Interrupted()) {
             for (const auto& renderer : running)
                 renderer->terminate();
             for (const auto& renderer : running)
                 renderer->waitForFinished(-1);
-            StopIfInterrupted();
+            cli::StopIfInterrupted();
         }
         for (size_t i = running.size(); i-- > 0;) {
             if (!running[i]->waitForFinished(glance) && running[i]->state() != QProcess::NotRunning)
@@ -119,23 +119,23 @@ int RunJobs(QList<Job> jobs, int most, const QStringList& options, Progress::For
 
 } // namespace
 
-void RenderAll(const CommandLine& line, const QString& ending, const QStringList& options,
-               Progress::Form form)
+void RenderAll(const cli::CommandLine& line, const QString& ending, const QStringList& options,
+               cli::Progress::Form form)
 {
     QList<Job> jobs = PlanJobs(line, ending);
     QString error;
-    FailUnless(MakeFolder(line.Value("output"), &error), error);
+    files::FailUnless(files::MakeFolder(line.Value("output"), &error), error);
     if (line.IsSet("resume")) {
-        const QString plugin = PluginPath(line.Value("plugin"));
+        const QString plugin = player::PluginPath(line.Value("plugin"));
         const auto isDone = [&](const Job& job) { return IsDone(job, plugin); };
         jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());
     }
     const int most = line.IsSet("jobs") ? line.Number("jobs")
                                         : int(std::max(1U, std::thread::hardware_concurrency()));
     const int failed = RunJobs(jobs, most, options, form);
-    FailUnless(failed == 0, QStringLiteral("%1 of %2 scenes were not rendered")
-                                .arg(failed)
-                                .arg(line.Arguments().size()));
+    files::FailUnless(failed == 0, QStringLiteral("%1 of %2 scenes were not rendered")
+                                       .arg(failed)
+                                       .arg(line.Arguments().size()));
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

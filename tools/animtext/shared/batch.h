@@ -8,16 +8,16 @@
 #include "cli/commandline.h"
 #include "cli/progress.h"
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 /**
  * Renders the scenes of @p line into its folder, as films whose names have that @p ending, see
  * FilmKind, and with these @p options of animtext render. One that fails tells its errors and does
  * not keep the others. Throws Failure unless all films are there in the end.
  */
-void RenderAll(const CommandLine& line, const QString& ending, const QStringList& options,
-               Progress::Form form);
+void RenderAll(const cli::CommandLine& line, const QString& ending, const QStringList& options,
+               cli::Progress::Form form);
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared
 
 #endif

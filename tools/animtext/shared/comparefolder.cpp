@@ -9,17 +9,17 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 namespace {
 
-Ticks Play(const Playing& playing, const Scene& scene, int last)
+compare::Ticks Play(const Playing& playing, const scene::Scene& scene, int last)
 {
-    const std::unique_ptr<Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
     player->Start(playing.Seed());
-    Ticks ticks;
+    compare::Ticks ticks;
     for (;; player->Advance()) {
-        StopIfInterrupted();
+        cli::StopIfInterrupted();
         for (int node = 0; node < player->NodeCount(); ++node)
             ticks.append(player->Look(node));
         if (player->Tick() >= last)
@@ -27,48 +27,52 @@ Ticks Play(const Playing& playing, const Scene& scene, int last)
     }
 }
 
-NodeMotion FirstMotion(const Scene& scene)
+scene::NodeMotion FirstMotion(const scene::Scene& scene)
 {
-    const QList<const SceneNode*> nodes = scene.Nodes();
-    return nodes.isEmpty() ? NodeMotion{Mode::Still, 0} : MotionOf(*nodes.first());
+    const QList<const scene::SceneNode*> nodes = scene.Nodes();
+    return nodes.isEmpty() ? scene::NodeMotion{scene::Mode::Still, 0}
+                           : scene::MotionOf(*nodes.first());
 }
 
 } // namespace
 
-QVector<Option> FolderOptions()
+QVector<cli::Option> FolderOptions()
 {
     return {
-        Option::Flag("record", "Save what the scenes of FOLDER show now as FOLDER/expected.txt."),
-        Option::File("expected", "FILE", "File to use in place of FOLDER/expected.txt."),
-        Option::Number("ticks", 0, 1000000000, "Last tick that --record saves.").Or("100")};
+        cli::Option::Flag("record",
+                          "Save what the scenes of FOLDER show now as FOLDER/expected.txt."),
+        cli::Option::File("expected", "FILE", "File to use in place of FOLDER/expected.txt."),
+        cli::Option::Number("ticks", 0, 1000000000, "Last tick that --record saves.").Or("100")};
 }
 
-int CompareFolder(const CommandLine& line, const QString& folder)
+int CompareFolder(const cli::CommandLine& line, const QString& folder)
 {
     const QDir dir(folder);
     const QDir scenes(dir.exists("scenes") ? dir.filePath("scenes") : folder);
     const QString file =
         line.IsSet("expected") ? line.Value("expected") : dir.filePath("expected.txt");
     const bool records = line.IsSet("record");
-    Expectation expected;
+    compare::Expectation expected;
     QString error;
     if (records)
         for (const QFileInfo& scene : scenes.entryInfoList({"*.json"}, QDir::Files))
             expected.insert(scene.completeBaseName(), {});
     else
-        FailUnless(ReadExpectation(file, &expected, &error), error, BadInput);
-    FailUnless(!expected.isEmpty(),
-               (records ? scenes.path() : file) + ": expected scenes, found none", BadInput);
+        files::FailUnless(compare::ReadExpectation(file, &expected, &error), error,
+                          files::BadInput);
+    files::FailUnless(!expected.isEmpty(),
+                      (records ? scenes.path() : file) + ": expected scenes, found none",
+                      files::BadInput);
 
-    WatchForInterruption();
+    cli::WatchForInterruption();
     const Playing playing(line);
-    Progress progress("playing, scenes", expected.size());
-    Tally tally;
+    cli::Progress progress("playing, scenes", expected.size());
+    compare::Tally tally;
     int played = 0, ticks = 0;
     for (auto scene = expected.begin(); scene != expected.end(); ++scene) {
-        const Scene opened =
+        const scene::Scene opened =
             OpenReadableScene(line, scenes.filePath(scene.key() + QStringLiteral(".json")));
-        const Ticks shown =
+        const compare::Ticks shown =
             Play(playing, opened, records ? line.Number("ticks") : scene->last().tick);
         if (records)
             *scene = shown;
@@ -78,12 +82,13 @@ int CompareFolder(const CommandLine& line, const QString& folder)
         progress.Show(++played);
     }
     if (!records) {
-        Print(tally.Table());
-        return tally.IsEqual() ? Done : FailedRun;
+        cli::Print(tally.Table());
+        return tally.IsEqual() ? files::Done : files::FailedRun;
     }
-    FailUnless(WriteWhole(file, ExpectationText(expected), &error), error);
-    Print(QStringLiteral("%1: %2 scenes, %3 ticks\n").arg(file).arg(played).arg(ticks).toUtf8());
-    return Done;
+    files::FailUnless(files::WriteWhole(file, compare::ExpectationText(expected), &error), error);
+    cli::Print(
+        QStringLiteral("%1: %2 scenes, %3 ticks\n").arg(file).arg(played).arg(ticks).toUtf8());
+    return files::Done;
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

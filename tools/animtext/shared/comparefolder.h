@@ -7,14 +7,14 @@
 
 #include "cli/commandline.h"
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 /** The options of animtext compare that go with a folder. */
-QVector<Option> FolderOptions();
+QVector<cli::Option> FolderOptions();
 
 /** Compares, or records. @return the exit status; throws Failure where a scene cannot be played */
-int CompareFolder(const CommandLine& line, const QString& folder);
+int CompareFolder(const cli::CommandLine& line, const QString& folder);
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared
 
 #endif

@@ -11,15 +11,15 @@
 #include <algorithm>
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 namespace {
 
-constexpr qint64 longestPlay = 30 * 60 * 1000 / tickLength; // ticks
-constexpr qint64 mostPixels = 1000 * 1000 * 1000;           // cleared in all ticks of a play
-constexpr double mostCut = 0.05;                            // of the planned time
-constexpr int holdUnit = 100;                               // milliseconds
-constexpr int longestHold = 1000000;                        // hold units
+constexpr qint64 longestPlay = 30 * 60 * 1000 / player::tickLength; // ticks
+constexpr qint64 mostPixels = 1000 * 1000 * 1000; // cleared in all ticks of a play
+constexpr double mostCut = 0.05;                  // of the planned time
+constexpr int holdUnit = 100;                     // milliseconds
+constexpr int longestHold = 1000000;              // hold units
 
 /** Times of one play, milliseconds. */
 struct CutTimes
@@ -36,18 +36,18 @@ struct CutTimes
 class Measurement
 {
 public:
-    Measurement(const Scene& from, const SceneNode& node, Lw::INodePlugin* plugin)
-        : player(VirtualDispatcher::Current(), plugin)
+    Measurement(const scene::Scene& from, const scene::SceneNode& node, Lw::INodePlugin* plugin)
+        : player(player::VirtualDispatcher::Current(), plugin)
         , scene(from)
-        , speedKey(MotionOf(node).SpeedKey())
+        , speedKey(scene::MotionOf(node).SpeedKey())
         , speed(node.attributes.value(speedKey).toInt())
         , hold(node.hold)
     {
-        SceneNode plain = node;
+        scene::SceneNode plain = node;
         for (const char* background : {"CheckNeonBg", "CheckDazzle", "CheckPictureFills"})
             plain.attributes.remove(
                 QLatin1String(background)); // they cost time to paint and do not change the play
-        scene.pages = {ScenePage{{SceneArea{{plain}}}}};
+        scene.pages = {scene::ScenePage{{scene::SceneArea{{plain}}}}};
         const qint64 pixels = qMax<qint64>(1, qint64(node.size.width()) * node.size.height());
         longest = int(qMin(longestPlay, mostPixels / pixels));
     }
@@ -58,14 +58,15 @@ public:
         scene.At({}).hold = otherHold;
         CutTimes times;
         QString error;
-        const BlankScene blank(scene);
+        const timing::BlankScene blank(scene);
         if (!player.Load(blank.Get(), &error))
             return times;
         times.planned = player.Durations().value(0);
-        if (times.planned / tickLength > longest)
+        if (times.planned / player::tickLength > longest)
             return times;
-        const NodePlay play = PlayToEnd(&player, longest, standardSeed).value(0);
-        if (play.ending == Ending::Finishes)
+        const timing::NodePlay play =
+            timing::PlayToEnd(&player, longest, player::standardSeed).value(0);
+        if (play.ending == timing::Ending::Finishes)
             times.actual = play.FinishedMs();
         return times;
     }
@@ -101,8 +102,8 @@ public:
     CutTimes Now() { return With(speed, hold); }
 
 private:
-    Player player;
-    Scene scene;
+    player::Player player;
+    scene::Scene scene;
     const QString speedKey;
     const int speed;
     const int hold;
@@ -116,13 +117,13 @@ QString InSeconds(qint64 milliseconds)
 
 } // namespace
 
-void WarnOfCut(const Scene& scene, const SceneNode& node)
+void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node)
 {
     QString error;
-    Lw::INodePlugin* plugin = LoadPlugin(PluginPath(), &error);
+    Lw::INodePlugin* plugin = player::LoadPlugin(player::PluginPath(), &error);
     if (!plugin)
         return;
-    const Silence silence;
+    const cli::Silence silence;
     Measurement measurement(scene, node, plugin);
     const CutTimes now = measurement.Now();
     if (!now.IsCut() || now.Cut() <= qint64(node.hold) * holdUnit)
@@ -133,10 +134,11 @@ void WarnOfCut(const Scene& scene, const SceneNode& node)
                         : hold >= 0 ? QStringLiteral("no speed avoids this, but a hold of %1s does")
                                           .arg(double(hold) / 10, 0, 'f', 1)
                                     : "no speed or hold avoids this; use another effect";
-    Warn(QStringLiteral("the sign cuts off the last %3 % of this text: planned %1, needs %2; %4")
-             .arg(InSeconds(now.planned), InSeconds(now.actual))
-             .arg(100.0 * double(now.Cut()) / double(now.actual), 0, 'f', 0)
-             .arg(way));
+    cli::Warn(
+        QStringLiteral("the sign cuts off the last %3 % of this text: planned %1, needs %2; %4")
+            .arg(InSeconds(now.planned), InSeconds(now.actual))
+            .arg(100.0 * double(now.Cut()) / double(now.actual), 0, 'f', 0)
+            .arg(way));
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

@@ -7,7 +7,7 @@
 
 #include "scene/scene.h"
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 /**
  * Warns if the planned time of @p node is over before its last page has entered and is more than
@@ -15,8 +15,8 @@ namespace AnimText {
  * than its hold gives no warning. Plays longer than half an hour, or less for large areas, are not
  * checked, nor nodes whose files are missing.
  */
-void WarnOfCut(const Scene& scene, const SceneNode& node);
+void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node);
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared
 
 #endif

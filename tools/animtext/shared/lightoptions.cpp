@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 #include <QTimer>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 namespace {
 
@@ -17,14 +17,14 @@ const char* const settings[] = {"color-order", "gamma",    "brightness",
                                 "universe",    "priority", "sync-universe",
                                 "source-name", "ttl",      "interface"};
 
-QVector<Controller> ReadControllers(const CommandLine& line)
+QVector<lights::Controller> ReadControllers(const cli::CommandLine& line)
 {
-    Controller standard;
+    lights::Controller standard;
     standard.broadcast = line.IsSet("broadcast");
     QString error;
     const auto apply = [&](const QString& option, const QString& setting) {
-        if (!ApplySetting(&standard, setting, &error))
-            throw Misuse{option + error};
+        if (!lights::ApplySetting(&standard, setting, &error))
+            throw cli::Misuse{option + error};
     };
     for (const QString& words : line.Values("layout")) {
         for (const QString& word : words.split(QLatin1Char(','), Qt::SkipEmptyParts))
@@ -34,11 +34,11 @@ QVector<Controller> ReadControllers(const CommandLine& line)
         if (line.IsSet(option))
             apply("--", QStringLiteral("%1=%2").arg(QLatin1String(option), line.Value(option)));
     }
-    QVector<Controller> controllers;
+    QVector<lights::Controller> controllers;
     for (const QString& address : line.Values("to")) {
-        Controller controller = standard;
-        if (!ReadAddress(&controller, address, &error))
-            throw Misuse{error};
+        lights::Controller controller = standard;
+        if (!lights::ReadAddress(&controller, address, &error))
+            throw cli::Misuse{error};
         controllers.append(controller);
     }
     return controllers;
@@ -46,115 +46,119 @@ QVector<Controller> ReadControllers(const CommandLine& line)
 
 } // namespace
 
-QVector<Option> LightOptions()
+QVector<cli::Option> LightOptions()
 {
     return {
-        Option::Text(
+        cli::Option::Text(
             "to", "ADDRESS",
             "Play on an LED controller: ddp://HOST, artnet://HOST, sacn://HOST for E1.31, or "
             "sacn:// for E1.31 multicast. May be repeated. ddp://HOST/64,0,64x32 shows only that "
             "part of the display (X,Y,WIDTHxHEIGHT). Settings for one controller follow after "
             "commas: ddp://HOST/16x16,serpentine,color-order=GRB."),
-        Option::Text(
+        cli::Option::Text(
             "layout", "WORDS",
             "LED wiring, as words separated by commas: rows or columns; straight or serpentine; "
             "the corner of the first LED (top-left, top-right, bottom-left or bottom-right); "
             "rotate-90, rotate-180 or rotate-270. Default: rows,straight,top-left.")
-            .Offering(LayoutWords()),
-        Option::Text("color-order", "ORDER", "Order of color channels, such as GRB. Default: RGB."),
-        Option::Fraction("gamma", 0.1, 10, "GAMMA",
-                         "Gamma correction. Default: 1 (off). Without GAMMA: 2.2.")
+            .Offering(lights::LayoutWords()),
+        cli::Option::Text("color-order", "ORDER",
+                          "Order of color channels, such as GRB. Default: RGB."),
+        cli::Option::Fraction("gamma", 0.1, 10, "GAMMA",
+                              "Gamma correction. Default: 1 (off). Without GAMMA: 2.2.")
             .Alone("2.2"),
-        Option::Number("brightness", 0, 100, "LED brightness in percent. Default: 100."),
-        Option::Number("universe", 0, 63999,
-                       "First universe, for E1.31 and Art-Net; each holds 170 pixels. Default: 1."),
-        Option::Number("priority", 0, 200, "Source priority, for E1.31. Default: 100."),
-        Option::Number("sync-universe", 0, 63999,
-                       "Universe for synchronization packets, for E1.31. Default: 0 (none)."),
-        Option::Text("source-name", "NAME",
-                     "Source name that receivers show, for E1.31. Default: Animated Text."),
-        Option::Number(
+        cli::Option::Number("brightness", 0, 100, "LED brightness in percent. Default: 100."),
+        cli::Option::Number(
+            "universe", 0, 63999,
+            "First universe, for E1.31 and Art-Net; each holds 170 pixels. Default: 1."),
+        cli::Option::Number("priority", 0, 200, "Source priority, for E1.31. Default: 100."),
+        cli::Option::Number("sync-universe", 0, 63999,
+                            "Universe for synchronization packets, for E1.31. Default: 0 (none)."),
+        cli::Option::Text("source-name", "NAME",
+                          "Source name that receivers show, for E1.31. Default: Animated Text."),
+        cli::Option::Number(
             "ttl", 1, 255,
             "How many networks multicast packets may reach; 1 is only the local one. Default: 1."),
-        Option::Text("interface", "NAME",
-                     "Network interface for multicast, such as eth0. Default: the system's."),
-        Option::Flag("broadcast", "Allow broadcast addresses."),
-        Option::Flag("keep",
-                     "Leave the last picture on the LEDs. Default: turn them off at the end."),
-        Option::Text("test-pattern", "NAME",
-                     "Show a test pattern instead of a scene: corners, order, colors or levels. "
-                     "Without NAME: all in turn.")
+        cli::Option::Text("interface", "NAME",
+                          "Network interface for multicast, such as eth0. Default: the system's."),
+        cli::Option::Flag("broadcast", "Allow broadcast addresses."),
+        cli::Option::Flag("keep",
+                          "Leave the last picture on the LEDs. Default: turn them off at the end."),
+        cli::Option::Text(
+            "test-pattern", "NAME",
+            "Show a test pattern instead of a scene: corners, order, colors or levels. "
+            "Without NAME: all in turn.")
             .Alone("all")
-            .Offering(TestPatterns()),
-        Option::Flag("window", "Open a window too, with --to.")};
+            .Offering(lights::TestPatterns()),
+        cli::Option::Flag("window", "Open a window too, with --to.")};
 }
 
-void CheckLightOptions(const CommandLine& line)
+void CheckLightOptions(const cli::CommandLine& line)
 {
-    for (const Option& option : LightOptions()) {
+    for (const cli::Option& option : LightOptions()) {
         if (line.IsSet(option.name) && !line.IsSet("to"))
-            throw Misuse{QStringLiteral("--%1 needs --to").arg(QLatin1String(option.name))};
+            throw cli::Misuse{QStringLiteral("--%1 needs --to").arg(QLatin1String(option.name))};
     }
     for (const char* option : {"fullscreen", "zoom", "leds"}) {
         if (line.IsSet(option) && line.IsSet("to") && !line.IsSet("window"))
-            throw Misuse{
+            throw cli::Misuse{
                 QStringLiteral("--%1 with --to needs --window").arg(QLatin1String(option))};
     }
     if (!line.IsSet("test-pattern")) {
         if (line.Arguments().isEmpty())
-            throw Misuse{"expected SCENE.json"};
+            throw cli::Misuse{"expected SCENE.json"};
         return;
     }
     if (!line.Arguments().isEmpty())
-        throw Misuse{QStringLiteral("--test-pattern shows no scene; unexpected argument \"%1\"")
-                         .arg(line.Arguments().first())};
+        throw cli::Misuse{
+            QStringLiteral("--test-pattern shows no scene; unexpected argument \"%1\"")
+                .arg(line.Arguments().first())};
     const QString pattern = line.Value("test-pattern");
-    if (pattern != QLatin1String("all") && !TestPatterns().contains(pattern))
-        throw Misuse{QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
-                         .arg(TestPatterns().join(", "), pattern)};
+    if (pattern != QLatin1String("all") && !lights::TestPatterns().contains(pattern))
+        throw cli::Misuse{QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
+                              .arg(lights::TestPatterns().join(", "), pattern)};
 }
 
-void AddLights(const CommandLine& line, QSize display, Lights* lights)
+void AddLights(const cli::CommandLine& line, QSize display, lights::Lights* lights)
 {
-    QObject::connect(lights, &Lights::Reported, Warn);
+    QObject::connect(lights, &lights::Lights::Reported, cli::Warn);
     lights->SetKeeps(line.IsSet("keep"));
-    for (const Controller& controller : ReadControllers(line)) {
+    for (const lights::Controller& controller : ReadControllers(line)) {
         QString error;
-        FailUnless(lights->Add(controller, display, &error), error, BadInput);
+        files::FailUnless(lights->Add(controller, display, &error), error, files::BadInput);
     }
-    Print(lights->Description().toUtf8());
-    FlushOutput();
+    cli::Print(lights->Description().toUtf8());
+    cli::FlushOutput();
 }
 
-int PlayTestPattern(const CommandLine& line)
+int PlayTestPattern(const cli::CommandLine& line)
 {
     QSize display;
-    for (const Controller& controller : ReadControllers(line)) {
+    for (const lights::Controller& controller : ReadControllers(line)) {
         if (controller.rect.isEmpty())
-            throw Misuse{
+            throw cli::Misuse{
                 QStringLiteral("%1: expected the size of the matrix, such as %2/16x16")
                     .arg(controller.address, controller.address.section(QLatin1Char('/'), 0, 2))};
         const QPoint corner = controller.rect.bottomRight() + QPoint(1, 1);
         display = display.expandedTo(QSize(corner.x(), corner.y()));
     }
-    Lights lights;
+    lights::Lights lights;
     AddLights(line, display, &lights);
-    WatchForInterruption();
-    const int ticks = line.IsSet("seconds") ? int(line.Time("seconds")) / tickLength : -1;
+    cli::WatchForInterruption();
+    const int ticks = line.IsSet("seconds") ? int(line.Time("seconds")) / player::tickLength : -1;
     int tick = 0;
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, [&] {
-        if (Interrupted() || tick == ticks)
+        if (cli::Interrupted() || tick == ticks)
             QCoreApplication::quit();
         else
-            lights.Show(TestPattern(line.Value("test-pattern"), display, tick++));
+            lights.Show(lights::TestPattern(line.Value("test-pattern"), display, tick++));
     });
-    timer.start(tickLength);
+    timer.start(player::tickLength);
     QCoreApplication::exec();
     lights.End();
-    StopIfInterrupted();
-    return Done;
+    cli::StopIfInterrupted();
+    return files::Done;
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

@@ -7,24 +7,26 @@
 
 #include "cli/commandline.h"
 
-namespace AnimText {
-
+namespace AnimText::lights {
 class Lights;
+}
 
-QVector<Option> LightOptions();
+namespace AnimText::animtext::shared {
+
+QVector<cli::Option> LightOptions();
 
 /** Throws Misuse if an option is set without another one that it needs. */
-void CheckLightOptions(const CommandLine& line);
+void CheckLightOptions(const cli::CommandLine& line);
 
 /**
  * Adds the controllers of --to and prints where their packets go. On an error, throws Failure
  * before anything is sent.
  */
-void AddLights(const CommandLine& line, QSize display, Lights* lights);
+void AddLights(const cli::CommandLine& line, QSize display, lights::Lights* lights);
 
 /** Plays the test pattern until --seconds are over or a signal comes. */
-int PlayTestPattern(const CommandLine& line);
+int PlayTestPattern(const cli::CommandLine& line);
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared
 
 #endif

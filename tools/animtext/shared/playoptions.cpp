@@ -5,26 +5,26 @@
 
 #include <limits>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
-QVector<Option> WithPlayOptions(QVector<Option> own)
+QVector<cli::Option> WithPlayOptions(QVector<cli::Option> own)
 {
-    return own + QVector<Option>{
-                     Option::File(
+    return own + QVector<cli::Option>{
+                     cli::Option::File(
                          "plugin", "FILE",
                          "Plugin library. Default: $ANIMATIONTEXT_PLUGIN, or the installed one."),
-                     Option::Number("seed", 0, std::numeric_limits<int>::max(),
-                                    "Seed for the tremble effect.")
+                     cli::Option::Number("seed", 0, std::numeric_limits<int>::max(),
+                                         "Seed for the tremble effect.")
                          .Or("1"),
-                     Option::Flag("allow-missing-files",
-                                  "Play even if files that the scene names are missing.")};
+                     cli::Option::Flag("allow-missing-files",
+                                       "Play even if files that the scene names are missing.")};
 }
 
-QVector<Option> WithShowOptions(QVector<Option> own)
+QVector<cli::Option> WithShowOptions(QVector<cli::Option> own)
 {
     return WithPlayOptions(own) +
-           QVector<Option>{
-               Option::Flag("force", "Play even if errors in the scene leave nothing to show.")};
+           QVector<cli::Option>{cli::Option::Flag(
+               "force", "Play even if errors in the scene leave nothing to show.")};
 }
 
 namespace {
@@ -33,65 +33,69 @@ namespace {
  * Reads a scene, and prints those of its errors that @p isTold. Throws Failure if it cannot be read
  * or has errors of the @p kinds that leave nothing to show, unless --force is set.
  */
-Scene Open(const CommandLine& line, const QString& path, const QList<Mistake>& kinds,
-           bool (*isTold)(const Finding& finding))
+scene::Scene Open(const cli::CommandLine& line, const QString& path,
+                  const QList<validate::Mistake>& kinds,
+                  bool (*isTold)(const validate::Finding& finding))
 {
     const bool mayMiss = line.IsSet("allow-missing-files");
-    Scene scene;
+    scene::Scene scene;
     QString error;
-    FailUnless(ReadScene(path, &scene, &error,
-                         mayMiss ? MissingFiles::AreAccepted : MissingFiles::AreErrors),
-               error, BadInput);
+    files::FailUnless(scene::ReadScene(path, &scene, &error,
+                                       mayMiss ? scene::MissingFiles::AreAccepted
+                                               : scene::MissingFiles::AreErrors),
+                      error, files::BadInput);
     bool isPlayed = true;
-    for (const Finding& finding : ValidateScene(scene)) {
-        if (finding.GetRule().severity != Severity::Error || !isTold(finding))
+    for (const validate::Finding& finding : validate::ValidateScene(scene)) {
+        if (finding.GetRule().severity != validate::Severity::Error || !isTold(finding))
             continue;
-        Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
+        cli::Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
         isPlayed = isPlayed && !kinds.contains(finding.mistake);
     }
-    FailUnless(
+    files::FailUnless(
         isPlayed || line.IsSet("force") || mayMiss,
         QStringLiteral("%1: not played because of these errors; use --force to play it anyway")
             .arg(path),
-        BadInput);
+        files::BadInput);
     return scene;
 }
 
 } // namespace
 
-Scene OpenReadableScene(const CommandLine& line, const QString& path)
+scene::Scene OpenReadableScene(const cli::CommandLine& line, const QString& path)
 {
-    static const QList<Mistake> unreadable{Mistake::FileMissing, Mistake::DataMalformed};
-    return Open(line, path, unreadable, [](const Finding& finding) {
+    static const QList<validate::Mistake> unreadable{validate::Mistake::FileMissing,
+                                                     validate::Mistake::DataMalformed};
+    return Open(line, path, unreadable, [](const validate::Finding& finding) {
         return unreadable.contains(finding.mistake) &&
                finding.place.endsWith(QLatin1String(".files.PathData"));
     });
 }
 
-Scene OpenPlayableScene(const CommandLine& line, const QString& path)
+scene::Scene OpenPlayableScene(const cli::CommandLine& line, const QString& path)
 {
     // With these the display stays dark or does not show the scene.
-    static const QList<Mistake> nothingToShow{Mistake::NodeType,      Mistake::AreaEmpty,
-                                              Mistake::CanvasLarge,   Mistake::ModeUnknown,
-                                              Mistake::EffectUnknown, Mistake::DirectionUnknown,
-                                              Mistake::FileMissing,   Mistake::DataMalformed};
-    return Open(line, path, nothingToShow, [](const Finding&) { return true; });
+    static const QList<validate::Mistake> nothingToShow{
+        validate::Mistake::NodeType,      validate::Mistake::AreaEmpty,
+        validate::Mistake::CanvasLarge,   validate::Mistake::ModeUnknown,
+        validate::Mistake::EffectUnknown, validate::Mistake::DirectionUnknown,
+        validate::Mistake::FileMissing,   validate::Mistake::DataMalformed};
+    return Open(line, path, nothingToShow, [](const validate::Finding&) { return true; });
 }
 
-Playing::Playing(const CommandLine& line)
+Playing::Playing(const cli::CommandLine& line)
     : seed(uint(line.Number("seed")))
 {
     QString error;
-    plugin = LoadPlugin(PluginPath(line.Value("plugin")), &error);
-    FailUnless(plugin, error);
+    plugin = player::LoadPlugin(player::PluginPath(line.Value("plugin")), &error);
+    files::FailUnless(plugin, error);
 }
 
-std::unique_ptr<Player> Playing::Load(const Scene& scene) const
+std::unique_ptr<player::Player> Playing::Load(const scene::Scene& scene) const
 {
-    auto player = std::make_unique<Player>(VirtualDispatcher::Current(), plugin);
+    auto player = std::make_unique<player::Player>(player::VirtualDispatcher::Current(), plugin);
     QString error;
-    FailUnless(player->Load(scene, &error), error, BadInput);
+    files::FailUnless(player->Load(scene, &error), error, files::BadInput);
     return player;
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

@@ -11,32 +11,32 @@
 
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
 /** Appends --plugin, --seed and --allow-missing-files to @p own. */
-QVector<Option> WithPlayOptions(QVector<Option> own);
+QVector<cli::Option> WithPlayOptions(QVector<cli::Option> own);
 
 /** Also appends --force, for the two functions below. */
-QVector<Option> WithShowOptions(QVector<Option> own);
+QVector<cli::Option> WithShowOptions(QVector<cli::Option> own);
 
 /**
  * Reads a scene. If its outlines cannot be read, prints why and throws Failure, unless --force or
  * --allow-missing-files is set.
  */
-Scene OpenReadableScene(const CommandLine& line, const QString& path);
+scene::Scene OpenReadableScene(const cli::CommandLine& line, const QString& path);
 
 /** The same for all errors that leave nothing to show. Prints other errors, too. */
-Scene OpenPlayableScene(const CommandLine& line, const QString& path);
+scene::Scene OpenPlayableScene(const cli::CommandLine& line, const QString& path);
 
 /** The plugin and the seed that a command plays with. */
 class Playing
 {
 public:
     /** Loads the plugin that the options name; throws Failure if it cannot be loaded. */
-    explicit Playing(const CommandLine& line);
+    explicit Playing(const cli::CommandLine& line);
 
     /** A player with @p scene loaded; throws Failure if it cannot be played. */
-    std::unique_ptr<Player> Load(const Scene& scene) const;
+    std::unique_ptr<player::Player> Load(const scene::Scene& scene) const;
     Lw::INodePlugin* Plugin() const { return plugin; }
     uint Seed() const { return seed; }
 
@@ -45,6 +45,6 @@ private:
     uint seed;
 };
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared
 
 #endif

@@ -4,32 +4,33 @@
 
 #include <QFileInfo>
 
-namespace AnimText {
+namespace AnimText::animtext::shared {
 
-void EndSaving(Storing storing, const Stored& stored, const QString& error)
+void EndSaving(author::Storing storing, const author::Stored& stored, const QString& error)
 {
-    if (storing == Storing::Misread)
-        throw Misuse{error};
-    if (storing != Storing::Saved)
-        throw Failure{storing == Storing::Refused ? BadInput : FailedRun, error};
+    if (storing == author::Storing::Misread)
+        throw cli::Misuse{error};
+    if (storing != author::Storing::Saved)
+        throw files::Failure{
+            storing == author::Storing::Refused ? files::BadInput : files::FailedRun, error};
     if (!stored.doubt.isEmpty())
-        Warn("kept old data files: " + stored.doubt);
+        cli::Warn("kept old data files: " + stored.doubt);
 }
 
-QPair<Scene, Place> ChangeText(const CommandLine& line, const TextChange& change)
+QPair<scene::Scene, scene::Place> ChangeText(const cli::CommandLine& line, const TextChange& change)
 {
     const QString path = line.Arguments().at(0);
     if (!QFileInfo::exists(path))
-        throw Failure{BadInput, path + ": no such file"};
+        throw files::Failure{files::BadInput, path + ": no such file"};
     QString error;
-    Stored stored;
-    Place place;
-    const auto changeText = [&](Scene* scene, DataFiles*, QString* why) {
+    author::Stored stored;
+    scene::Place place;
+    const auto changeText = [&](scene::Scene* scene, author::DataFiles*, QString* why) {
         return scene->Find(line.Arguments().at(1), &place, why) && change(scene, place, why);
     };
-    const Storing storing = ChangeScene(path, changeText, &error, &stored);
+    const author::Storing storing = author::ChangeScene(path, changeText, &error, &stored);
     EndSaving(storing, stored, error);
     return {stored.scene, place};
 }
 
-} // namespace AnimText
+} // namespace AnimText::animtext::shared

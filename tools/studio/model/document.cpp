@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QUndoCommand>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 namespace {
 
 constexpr int tellingDelay = 50; // milliseconds from a layout to Changed()
@@ -57,27 +57,27 @@ private:
 
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error)
 {
-    const auto change = [&](Scene* scene, DataFiles* dataFiles, QString* why) {
+    const auto change = [&](scene::Scene* scene, author::DataFiles* dataFiles, QString* why) {
         if (!known.isEmpty() && DigestOfFile(path) != known) {
             *why = Document::tr("%1 has changed on disk").arg(path);
             return false;
         }
         // The old scene's sources are kept until the new scene has replaced it.
-        TextSources sources = ReadSources(path);
-        TextSources wanted;
-        for (const SceneNode* node : scene->Nodes()) {
-            const QByteArray digest = LayoutDigest(*node);
+        author::TextSources sources = author::ReadSources(path);
+        author::TextSources wanted;
+        for (const scene::SceneNode* node : scene->Nodes()) {
+            const QByteArray digest = author::LayoutDigest(*node);
             if (sources.contains(digest))
                 wanted.insert(digest, sources.value(digest));
         }
         *scene = SceneToSave(sign, scene->path, dataFiles);
-        const TextSources own = SourcesOf(sign, *scene);
+        const author::TextSources own = SourcesOf(sign, *scene);
         for (auto source = own.begin(); source != own.end(); ++source)
             wanted.insert(source.key(), source.value());
-        dataFiles->insert(SourcesName(scene->path), SourcesToJson(wanted));
+        dataFiles->insert(author::SourcesName(scene->path), author::SourcesToJson(wanted));
         return true;
     };
-    return ChangeScene(path, change, error) == Storing::Saved;
+    return author::ChangeScene(path, change, error) == author::Storing::Saved;
 }
 
 Document::Document()
@@ -106,9 +106,10 @@ void Document::Change(const QString& what, Sign after, const QString& merge)
 {
     for (SignText& text : after.texts) {
         const SignText* old = sign.Find(text.id);
-        const bool same = old && old->source == text.source && old->node.size == text.node.size &&
-                          MotionOf(old->node).IsScroll() == MotionOf(text.node).IsScroll() &&
-                          MotionOf(old->node).number == MotionOf(text.node).number;
+        const bool same =
+            old && old->source == text.source && old->node.size == text.node.size &&
+            scene::MotionOf(old->node).IsScroll() == scene::MotionOf(text.node).IsScroll() &&
+            scene::MotionOf(old->node).number == scene::MotionOf(text.node).number;
         if (!same)
             text.layoutKey = LayoutKey(text);
         if (old && !text.layout)
@@ -276,4 +277,4 @@ void Document::LookAtDisk()
     emit DiskChanged();
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::model

@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <QUndoStack>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 
 /** Opening and changing a sign return at once; laying out and saving run in threads. */
 class Document : public QObject
@@ -101,6 +101,6 @@ private:
  */
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::studio::model
 
 #endif

@@ -1,6 +1,6 @@
 #include "studio/model/layoutqueue.h"
 
-namespace AnimText {
+namespace AnimText::studio::model {
 namespace {
 
 constexpr int rememberedBytes = 64 << 20;
@@ -60,4 +60,4 @@ void LayoutQueue::Take(const std::shared_ptr<const Layout>& layout)
     Next();
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::model

@@ -12,7 +12,7 @@
 #include <QObject>
 #include <QThreadPool>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 
 class LayoutQueue : public QObject
 {
@@ -33,7 +33,7 @@ public:
     std::shared_ptr<const Layout> Ask(const SignText& text);
 
 signals:
-    void Made(std::shared_ptr<const AnimText::Layout> layout);
+    void Made(std::shared_ptr<const AnimText::studio::model::Layout> layout);
 
 private:
     void Next();
@@ -45,6 +45,6 @@ private:
     QByteArray current;                                     // key of the running layout
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::model
 
 #endif

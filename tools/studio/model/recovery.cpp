@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 namespace {
 
 constexpr int delayLength = 500; // milliseconds from a change to its copy
@@ -25,17 +25,17 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
 {
     const QDir dir(folder);
     const QString scenePath = dir.filePath(sceneName);
-    DataFiles files;
-    const Scene scene = SceneToSave(sign, scenePath, &files);
-    files.insert(SourcesName(scenePath), SourcesToJson(SourcesOf(sign, scene)));
+    author::DataFiles files;
+    const scene::Scene scene = SceneToSave(sign, scenePath, &files);
+    files.insert(author::SourcesName(scenePath), author::SourcesToJson(SourcesOf(sign, scene)));
     const QJsonObject about{{QStringLiteral("path"), path}};
     files.insert(aboutName, QJsonDocument(about).toJson());
     QString error;
     for (auto file = files.begin(); file != files.end(); ++file) {
-        if (!WriteWhole(dir.filePath(file.key()), file.value(), &error))
+        if (!files::WriteWhole(dir.filePath(file.key()), file.value(), &error))
             return false;
     }
-    if (!WriteWhole(scenePath, SceneToJson(scene), &error))
+    if (!files::WriteWhole(scenePath, scene::SceneToJson(scene), &error))
         return false;
     for (const QString& name :
          dir.entryList({QStringLiteral("*.path"), QStringLiteral("*.descent")})) {
@@ -152,4 +152,4 @@ void Recovery::Drop(const LostWork& work)
     QDir(work.folder).removeRecursively();
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::model

@@ -14,7 +14,7 @@
 
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 
 /** Unsaved work of a studio that has ended. */
 struct LostWork
@@ -63,6 +63,6 @@ private:
     QThreadPool pool;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::model
 
 #endif

@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <atomic>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 namespace {
 
 const QString pathData = QStringLiteral("PathData");
@@ -24,7 +24,7 @@ const QStringList dataKeys{pathData, descentVector};
 const QString textKey = QStringLiteral("Text");
 
 /** The layout that is stored in the scene. */
-std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node,
+std::shared_ptr<const Layout> LayoutIn(const scene::Scene& scene, const scene::SceneNode& node,
                                        const QByteArray& key)
 {
     auto layout = std::make_shared<Layout>();
@@ -43,7 +43,7 @@ std::shared_ptr<const Layout> LayoutIn(const Scene& scene, const SceneNode& node
     return layout;
 }
 
-SceneNode WithoutLayout(SceneNode node, const Scene& scene)
+scene::SceneNode WithoutLayout(scene::SceneNode node, const scene::Scene& scene)
 {
     node.attributes.remove(textKey);
     node.lists.clear();
@@ -54,9 +54,9 @@ SceneNode WithoutLayout(SceneNode node, const Scene& scene)
     return node;
 }
 
-SceneNode NodeOf(const SignText& text, const PlaceFile& placeFile)
+scene::SceneNode NodeOf(const SignText& text, const PlaceFile& placeFile)
 {
-    SceneNode node = text.node;
+    scene::SceneNode node = text.node;
     if (!text.layout)
         return node;
     const Layout& layout = *text.layout;
@@ -123,13 +123,13 @@ SignText NewText(const QSize& area, int page)
     text.page = page;
     text.node.size = area;
     text.node.hold = 20;
-    const NodeMotion motion{Mode::Entrance, 17};
-    SetMotion(&text.node, motion);
+    const scene::NodeMotion motion{scene::Mode::Entrance, 17};
+    scene::SetMotion(&text.node, motion);
     text.node.attributes[motion.SpeedKey()] = 6;
     text.node.attributes[QStringLiteral("PlayTimes")] = 1;
     QString family;
     QString error;
-    FindFamily(QLatin1String(usualFamily), &family, &error);
+    scene::FindFamily(QLatin1String(scene::usualFamily), &family, &error);
     QFont font(family);
     font.setPixelSize(qMax(8, area.height() * 5 / 8));
     text.source.text.text = QCoreApplication::translate("Sign", "Your text");
@@ -290,49 +290,51 @@ void ResizeDisplay(Sign* sign, const QSize& display)
 
 QByteArray LayoutKey(const SignText& text)
 {
-    const SceneNode& node = text.node;
-    const QByteArray setting = QByteArray::number(MotionOf(node).IsScroll() ? 1 : 0) + ' ' +
-                               QByteArray::number(MotionOf(node).number) + ' ' +
+    const scene::SceneNode& node = text.node;
+    const QByteArray setting = QByteArray::number(scene::MotionOf(node).IsScroll() ? 1 : 0) + ' ' +
+                               QByteArray::number(scene::MotionOf(node).number) + ' ' +
                                QByteArray::number(node.size.width()) + ' ' +
                                QByteArray::number(node.size.height());
-    TextSource source = text.source;
+    author::TextSource source = text.source;
     source.name.clear(); // does not affect the layout
-    return QCryptographicHash::hash(SourcesToJson({{setting, source}}), QCryptographicHash::Sha1);
+    return QCryptographicHash::hash(author::SourcesToJson({{setting, source}}),
+                                    QCryptographicHash::Sha1);
 }
 
 std::shared_ptr<const Layout> MakeLayout(const SignText& text)
 {
-    TextSource source = text.source;
+    author::TextSource source = text.source;
     auto layout = std::make_shared<Layout>();
     layout->key = LayoutKey(text);
     if (source.text.text.trimmed().isEmpty()) {
-        layout->data = {{pathData, PathFile({})}, {descentVector, DescentFile({})}};
-        for (const QString& list : ListKeys())
+        layout->data = {{pathData, layout::PathFile({})}, {descentVector, layout::DescentFile({})}};
+        for (const QString& list : scene::ListKeys())
             layout->lists[list] = {};
         return layout;
     }
-    const NodeMotion own = MotionOf(text.node);
-    const NodeMotion motion{own.IsScroll() ? Mode::Scroll : Mode::Entrance, own.number};
-    if (ToOneLine(&source.text, &layout->notes, &layout->fault))
-        LayOut(source.text, source, motion, text.node.size, layout.get(), &layout->fault);
+    const scene::NodeMotion own = scene::MotionOf(text.node);
+    const scene::NodeMotion motion{own.IsScroll() ? scene::Mode::Scroll : scene::Mode::Entrance,
+                                   own.number};
+    if (layout::ToOneLine(&source.text, &layout->notes, &layout->fault))
+        layout::LayOut(source.text, source, motion, text.node.size, layout.get(), &layout->fault);
     return layout;
 }
 
 bool ReadSign(const QString& path, Sign* sign, QString* error)
 {
-    Scene scene;
-    if (!ReadScene(path, &scene, error, MissingFiles::AreAccepted))
+    scene::Scene scene;
+    if (!scene::ReadScene(path, &scene, error, scene::MissingFiles::AreAccepted))
         return false;
-    const TextSources sources = ReadSources(path);
+    const author::TextSources sources = author::ReadSources(path);
     *sign = {scene.display, scene.alphaBlend, {}};
-    for (const Place& place : scene.Places()) {
-        const SceneNode& node = scene.At(place);
+    for (const scene::Place& place : scene.Places()) {
+        const scene::SceneNode& node = scene.At(place);
         SignText text;
         text.id = NewTextId();
         text.page = place.page;
         text.area = place.area;
-        const auto known = sources.find(LayoutDigest(node));
-        text.source = known != sources.end() ? known.value() : SourceOf(node);
+        const auto known = sources.find(author::LayoutDigest(node));
+        text.source = known != sources.end() ? known.value() : author::SourceOf(node);
         text.node = WithoutLayout(node, scene);
         text.layoutKey = LayoutKey(text);
         text.layout = LayoutIn(scene, node, text.layoutKey);
@@ -341,20 +343,20 @@ bool ReadSign(const QString& path, Sign* sign, QString* error)
     return true;
 }
 
-Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile, int page)
+scene::Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile, int page)
 {
-    Scene scene;
+    scene::Scene scene;
     scene.path = path;
     scene.display = sign.display;
     scene.alphaBlend = sign.alphaBlend;
     for (const QList<SignText>& texts : PagesOf(sign)) {
         if (texts.isEmpty() || (page >= 0 && texts.first().page != page))
             continue;
-        ScenePage written;
+        scene::ScenePage written;
         int area = -1; // the one that was written last
         for (const SignText& text : texts) {
             if (text.area != area)
-                written.areas.append(SceneArea());
+                written.areas.append(scene::SceneArea());
             area = text.area;
             written.areas.last().nodes.append(NodeOf(text, placeFile));
         }
@@ -363,33 +365,33 @@ Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile,
     return scene;
 }
 
-Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles)
+scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFiles* dataFiles)
 {
-    const QDir folder = QFileInfo(RealPath(path)).dir();
+    const QDir folder = QFileInfo(files::RealPath(path)).dir();
     const auto place = [&](const Layout& layout, const QString& key) {
         const QByteArray content = layout.data.value(key);
         const QFileInfo there(layout.files.value(key));
         if (layout.files.contains(key) && there.dir() == folder && there.exists())
             return there.fileName();
-        const QString name = DataFileName(RealPath(path), key, content);
+        const QString name = author::DataFileName(files::RealPath(path), key, content);
         dataFiles->insert(name, content);
         return name;
     };
-    Scene scene = SceneOf(sign, path, place);
-    for (SceneNode* node : scene.Nodes()) {
+    scene::Scene scene = SceneOf(sign, path, place);
+    for (scene::SceneNode* node : scene.Nodes()) {
         for (QString& file : node->files)
             file = NameIn(folder, file);
     }
     return scene;
 }
 
-TextSources SourcesOf(const Sign& sign, const Scene& scene)
+author::TextSources SourcesOf(const Sign& sign, const scene::Scene& scene)
 {
-    TextSources sources;
-    const QList<const SceneNode*> nodes = scene.Nodes();
+    author::TextSources sources;
+    const QList<const scene::SceneNode*> nodes = scene.Nodes();
     for (int i = 0; i < nodes.size() && i < sign.texts.size(); ++i)
-        sources.insert(LayoutDigest(*nodes.at(i)), sign.texts.at(i).source);
+        sources.insert(author::LayoutDigest(*nodes.at(i)), sign.texts.at(i).source);
     return sources;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::model

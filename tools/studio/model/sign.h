@@ -15,10 +15,10 @@
 #include <functional>
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::studio::model {
 
 /** The result of laying out one text; shared and immutable. */
-struct Layout : LaidOut
+struct Layout : layout::LaidOut
 {
     QMap<QString, QString> files; ///< of the data, those that exist already, full names
     QStringList notes;            ///< styles that no sign can show
@@ -29,11 +29,11 @@ struct Layout : LaidOut
 /** One text of a sign. */
 struct SignText
 {
-    int id = 0;     ///< unique and constant
-    int page = 0;   ///< from 0
-    int area = 0;   ///< within its page, from 0
-    SceneNode node; ///< its settings, without the results of the layout
-    TextSource source;
+    int id = 0;            ///< unique and constant
+    int page = 0;          ///< from 0
+    int area = 0;          ///< within its page, from 0
+    scene::SceneNode node; ///< its settings, without the results of the layout
+    author::TextSource source;
     std::shared_ptr<const Layout> layout; ///< null or outdated while a new one is being made
     QByteArray layoutKey;                 ///< key of the layout for the present settings
 
@@ -106,16 +106,17 @@ using PlaceFile = std::function<QString(const Layout& layout, const QString& key
  * The scene of @p sign for the file @p path. Data files with unknown content keep their names.
  * @param page the only page to include; negative for all
  */
-Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile, int page = -1);
+scene::Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile,
+                     int page = -1);
 
 /** The scene with all its pages, and the data files to write beside it. */
-Scene SceneToSave(const Sign& sign, const QString& path, DataFiles* dataFiles);
+scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFiles* dataFiles);
 
 /** The text sources of @p sign for @p scene, which was made from it with all pages. */
-TextSources SourcesOf(const Sign& sign, const Scene& scene);
+author::TextSources SourcesOf(const Sign& sign, const scene::Scene& scene);
 
-} // namespace AnimText
+} // namespace AnimText::studio::model
 
-Q_DECLARE_METATYPE(std::shared_ptr<const AnimText::Layout>)
+Q_DECLARE_METATYPE(std::shared_ptr<const AnimText::studio::model::Layout>)
 
 #endif

@@ -2,134 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
-    <name>AnimText::AttributeForm</name>
+    <name>AnimText::studio::model::Document</name>
     <message>
-        <source>s</source>
-        <translation>s</translation>
+        <source>%1 has changed on disk</source>
+        <translation>%1 wurde auf dem Datenträger geändert</translation>
     </message>
     <message>
-        <source>px</source>
-        <translation>px</translation>
+        <source>Load from disk</source>
+        <translation>Vom Datenträger laden</translation>
     </message>
     <message>
-        <source>×</source>
-        <translation>×</translation>
-    </message>
-    <message>
-        <source>of %1</source>
-        <translation>von %1</translation>
-    </message>
-    <message>
-        <source>Width</source>
-        <translation>Breite</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>Höhe</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Links</translation>
-    </message>
-    <message>
-        <source>Top</source>
-        <translation>Oben</translation>
-    </message>
-    <message>
-        <source>Choose…</source>
-        <translation>Wählen …</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.jpg *.jpeg *.gif *.bmp);;All files (*)</source>
-        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Found %1, expected %2. %3</source>
-        <translation>Gefunden: %1, erwartet: %2. %3</translation>
-    </message>
-    <message>
-        <source>w </source>
-        <translation>B </translation>
-    </message>
-    <message>
-        <source>h </source>
-        <translation>H </translation>
-    </message>
-    <message>
-        <source>x </source>
-        <translation>x </translation>
-    </message>
-    <message>
-        <source>y </source>
-        <translation>y </translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Sizes as set</source>
-        <translation>Größen wie angegeben</translation>
-    </message>
-    <message>
-        <source>Fit height</source>
-        <translation>An Höhe anpassen</translation>
-    </message>
-    <message>
-        <source>Fit height and width</source>
-        <translation>An Höhe und Breite anpassen</translation>
-    </message>
-    <message>
-        <source>Horizontal</source>
-        <translation>Horizontal</translation>
-    </message>
-    <message>
-        <source>Reading start</source>
-        <translation>Leseanfang</translation>
-    </message>
-    <message>
-        <source>Center</source>
-        <translation>Mitte</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Rechts</translation>
-    </message>
-    <message>
-        <source>Text that scrolls sideways cannot be aligned.</source>
-        <translation>Seitlich laufender Text lässt sich nicht ausrichten.</translation>
-    </message>
-    <message>
-        <source>Vertical</source>
-        <translation>Vertikal</translation>
-    </message>
-    <message>
-        <source>Middle</source>
-        <translation>Mitte</translation>
-    </message>
-    <message>
-        <source>Bottom</source>
-        <translation>Unten</translation>
-    </message>
-    <message>
-        <source>Padding</source>
-        <translation>Innenabstand</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>Break pages between words</source>
-        <translation>Seiten zwischen Wörtern umbrechen</translation>
-    </message>
-    <message>
-        <source>Scrolling text has no pages.</source>
-        <translation>Laufender Text hat keine Seiten.</translation>
+        <source>New scene</source>
+        <translation>Neue Szene</translation>
     </message>
 </context>
 <context>
-    <name>AnimText::DisplayForm</name>
+    <name>AnimText::studio::window::basics::NoticeBar</name>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::display::DisplayForm</name>
     <message>
         <source>Alpha blending</source>
         <translation>Alpha-Überblendung</translation>
@@ -164,7 +59,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::DisplayView</name>
+    <name>AnimText::studio::window::display::DisplayView</name>
     <message>
         <source>Display</source>
         <translation>Anzeige</translation>
@@ -179,385 +74,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::Document</name>
-    <message>
-        <source>%1 has changed on disk</source>
-        <translation>%1 wurde auf dem Datenträger geändert</translation>
-    </message>
-    <message>
-        <source>Load from disk</source>
-        <translation>Vom Datenträger laden</translation>
-    </message>
-    <message>
-        <source>New scene</source>
-        <translation>Neue Szene</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::Export</name>
-    <message>
-        <source>The program animtext, which makes films, was not found. Install it beside the studio.</source>
-        <translation>Das Programm animtext, das die Filme macht, wurde nicht gefunden. Es gehört neben das Studio.</translation>
-    </message>
-    <message>
-        <source>The export ended unexpectedly.</source>
-        <translation>Der Export wurde unerwartet beendet.</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::ExportDialog</name>
-    <message>
-        <source>Export</source>
-        <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Export a film</source>
-        <translation>Einen Film exportieren</translation>
-    </message>
-    <message>
-        <source>Folder of PNGs</source>
-        <translation>Ordner mit PNGs</translation>
-    </message>
-    <message>
-        <source> ×</source>
-        <translation> ×</translation>
-    </message>
-    <message>
-        <source>The same as a command</source>
-        <translation>Dasselbe als Befehl</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>Den Befehl kopieren</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
-    </message>
-    <message>
-        <source>Choose the file</source>
-        <translation>Die Datei wählen</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>Format</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>As a command</source>
-        <translation>Als Befehl</translation>
-    </message>
-    <message>
-        <source>sign</source>
-        <translation>schild</translation>
-    </message>
-    <message>
-        <source>Picture %1 of %2</source>
-        <translation>Bild %1 von %2</translation>
-    </message>
-    <message>
-        <source>Looking for the end: tick %1</source>
-        <translation>Das Ende wird gesucht: Takt %1</translation>
-    </message>
-    <message>
-        <source>Films of this format cannot be.</source>
-        <translation>Filme dieses Formats können das nicht.</translation>
-    </message>
-    <message>
-        <source>This format loses colors.</source>
-        <translation>Dieses Format verliert Farben.</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>%1 exists already.</source>
-        <translation>%1 ist schon vorhanden.</translation>
-    </message>
-    <message>
-        <source>Replace</source>
-        <translation>Ersetzen</translation>
-    </message>
-    <message>
-        <source>Starting</source>
-        <translation>Beginnt</translation>
-    </message>
-    <message>
-        <source>Canceled; nothing was written.</source>
-        <translation>Abgebrochen; nichts wurde geschrieben.</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 gespeichert</translation>
-    </message>
-    <message>
-        <source>As round LEDs on black</source>
-        <translation>Als runde LEDs auf Schwarz</translation>
-    </message>
-    <message>
-        <source>All pages, as the host times them</source>
-        <translation>Alle Seiten, wie der Host sie taktet</translation>
-    </message>
-    <message>
-        <source>Transparent background</source>
-        <translation>Durchsichtiger Hintergrund</translation>
-    </message>
-    <message>
-        <source>Lossless</source>
-        <translation>Verlustfrei</translation>
-    </message>
-    <message>
-        <source>PNG, one picture</source>
-        <translation>PNG, ein Bild</translation>
-    </message>
-    <message>
-        <source>All of it</source>
-        <translation>Alles</translation>
-    </message>
-    <message>
-        <source>The loop, %1 to %2</source>
-        <translation>Die Schleife, %1 bis %2</translation>
-    </message>
-    <message>
-        <source>This picture, tick %1</source>
-        <translation>Dieses Bild, Tick %1</translation>
-    </message>
-    <message>
-        <source>What is exported</source>
-        <translation>Was exportiert wird</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>Stand</translation>
-    </message>
-    <message>
-        <source>Magnify</source>
-        <translation>Vergrößern</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>Ergebnis</translation>
-    </message>
-    <message>
-        <source>%1 × %2 px</source>
-        <translation>%1 × %2 px</translation>
-    </message>
-    <message>
-        <source>%1 · %2 and the last hold once more</source>
-        <translation>%1 · %2 und die letzte Haltezeit noch einmal</translation>
-    </message>
-    <message>
-        <source>%1 · to the end of all texts</source>
-        <translation>%1 · bis zum Ende aller Texte</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Show in folder</source>
-        <translation>Im Ordner zeigen</translation>
-    </message>
-    <message>
-        <source>LEDs are on black.</source>
-        <translation>LEDs stehen auf Schwarz.</translation>
-    </message>
-    <message>
-        <source>Counting colors: picture %1 of %2</source>
-        <translation>Farben zählen: Bild %1 von %2</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::FindingsList</name>
-    <message>
-        <source>Play once</source>
-        <translation>Einmal abspielen</translation>
-    </message>
-    <message>
-        <source>Scroll left</source>
-        <translation>Nach links laufen</translation>
-    </message>
-    <message>
-        <source>Move onto the display</source>
-        <translation>In Anzeige verschieben</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message numerus="yes">
-        <source>And %n more</source>
-        <translation>
-            <numerusform>Und %n weiteres</numerusform>
-            <numerusform>Und %n weitere</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Found %1, expected %2.
-%3</source>
-        <translation>Gefunden %1, erwartet %2.
-%3</translation>
-    </message>
-    <message>
-        <source>No problems found</source>
-        <translation>Keine Probleme gefunden</translation>
-    </message>
-    <message>
-        <source>Use the nearest speed</source>
-        <translation>Tempo anpassen</translation>
-    </message>
-    <message>
-        <source>Remove the hold</source>
-        <translation>Haltezeit entfernen</translation>
-    </message>
-    <message>
-        <source>Use an entrance effect</source>
-        <translation>Auftritt verwenden</translation>
-    </message>
-    <message>
-        <source>Use Typewriter</source>
-        <translation>Schreibmaschine nehmen</translation>
-    </message>
-    <message>
-        <source>Recreate the outlines</source>
-        <translation>Umrisse neu erstellen</translation>
-    </message>
-    <message>
-        <source>Fit height</source>
-        <translation>An Höhe anpassen</translation>
-    </message>
-    <message>
-        <source>Fit height and width</source>
-        <translation>An Höhe und Breite anpassen</translation>
-    </message>
-    <message>
-        <source>Turn on dazzle</source>
-        <translation>Farbspiel einschalten</translation>
-    </message>
-    <message>
-        <source>Problems</source>
-        <translation>Probleme</translation>
-    </message>
-    <message>
-        <source>Use the first color</source>
-        <translation>Erste Farbe verwenden</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::Inspector</name>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Motion</source>
-        <translation>Bewegung</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>Anordnung</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>Platzierung</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Hintergrund</translation>
-    </message>
-    <message>
-        <source>Letters</source>
-        <translation>Zeichen</translation>
-    </message>
-    <message>
-        <source>Display</source>
-        <translation>Anzeige</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::IntegratorView</name>
-    <message>
-        <source>Call</source>
-        <translation>Aufruf</translation>
-    </message>
-    <message>
-        <source>Compare with a library…</source>
-        <translation>Mit Bibliothek vergleichen …</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n pixel(s) differ</source>
-        <translation>
-            <numerusform>%n Pixel weicht ab</numerusform>
-            <numerusform>%n Pixel weichen ab</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Libraries (*.so*)</source>
-        <translation>Bibliotheken (*.so*)</translation>
-    </message>
-    <message>
-        <source>Make it fail</source>
-        <translation>Fehlschlagen lassen</translation>
-    </message>
-    <message>
-        <source>Clear failures</source>
-        <translation>Fehler aufheben</translation>
-    </message>
-    <message>
-        <source>Stop comparing</source>
-        <translation>Vergleich beenden</translation>
-    </message>
-    <message>
-        <source>Device calls</source>
-        <translation>Geräteaufrufe</translation>
-    </message>
-    <message>
-        <source>no. </source>
-        <translation>Nr. </translation>
-    </message>
-    <message>
-        <source>Number of the call, counted from the start</source>
-        <translation>Nummer des Aufrufs, ab dem Start gezählt</translation>
-    </message>
-    <message>
-        <source>Plays from the start and makes this device call fail</source>
-        <translation>Spielt von vorn und lässt diesen Geräteaufruf fehlschlagen</translation>
-    </message>
-    <message>
-        <source>Lets all device calls succeed again</source>
-        <translation>Lässt alle Geräteaufrufe wieder gelingen</translation>
-    </message>
-    <message>
-        <source>Plays the scene with a second plugin library, too, and marks the pixels that differ</source>
-        <translation>Spielt die Szene auch mit einer zweiten Plugin-Bibliothek und markiert abweichende Pixel</translation>
-    </message>
-    <message>
-        <source>Made to fail: %1</source>
-        <translation>Schlägt fehl: %1</translation>
-    </message>
-    <message>
-        <source>No device calls at tick %1</source>
-        <translation>Keine Geräteaufrufe in Takt %1</translation>
-    </message>
-    <message>
-        <source>No pixels differ</source>
-        <translation>Keine Abweichung</translation>
-    </message>
-    <message>
-        <source>Choose a plugin library</source>
-        <translation>Plugin-Bibliothek wählen</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::LedsDialog</name>
+    <name>AnimText::studio::window::display::LedsDialog</name>
     <message>
         <source>Serpentine</source>
         <translation>Schlangenlinie</translation>
@@ -732,7 +249,527 @@
     </message>
 </context>
 <context>
-    <name>AnimText::MainWindow</name>
+    <name>AnimText::studio::window::findings::FindingsList</name>
+    <message>
+        <source>Play once</source>
+        <translation>Einmal abspielen</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Nach links laufen</translation>
+    </message>
+    <message>
+        <source>Move onto the display</source>
+        <translation>In Anzeige verschieben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more</source>
+        <translation>
+            <numerusform>Und %n weiteres</numerusform>
+            <numerusform>Und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Found %1, expected %2.
+%3</source>
+        <translation>Gefunden %1, erwartet %2.
+%3</translation>
+    </message>
+    <message>
+        <source>No problems found</source>
+        <translation>Keine Probleme gefunden</translation>
+    </message>
+    <message>
+        <source>Use the nearest speed</source>
+        <translation>Tempo anpassen</translation>
+    </message>
+    <message>
+        <source>Remove the hold</source>
+        <translation>Haltezeit entfernen</translation>
+    </message>
+    <message>
+        <source>Use an entrance effect</source>
+        <translation>Auftritt verwenden</translation>
+    </message>
+    <message>
+        <source>Use Typewriter</source>
+        <translation>Schreibmaschine nehmen</translation>
+    </message>
+    <message>
+        <source>Recreate the outlines</source>
+        <translation>Umrisse neu erstellen</translation>
+    </message>
+    <message>
+        <source>Fit height</source>
+        <translation>An Höhe anpassen</translation>
+    </message>
+    <message>
+        <source>Fit height and width</source>
+        <translation>An Höhe und Breite anpassen</translation>
+    </message>
+    <message>
+        <source>Turn on dazzle</source>
+        <translation>Farbspiel einschalten</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Use the first color</source>
+        <translation>Erste Farbe verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::form::AttributeForm</name>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.gif *.bmp);;All files (*)</source>
+        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.bmp);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Found %1, expected %2. %3</source>
+        <translation>Gefunden: %1, erwartet: %2. %3</translation>
+    </message>
+    <message>
+        <source>w </source>
+        <translation>B </translation>
+    </message>
+    <message>
+        <source>h </source>
+        <translation>H </translation>
+    </message>
+    <message>
+        <source>x </source>
+        <translation>x </translation>
+    </message>
+    <message>
+        <source>y </source>
+        <translation>y </translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Sizes as set</source>
+        <translation>Größen wie angegeben</translation>
+    </message>
+    <message>
+        <source>Fit height</source>
+        <translation>An Höhe anpassen</translation>
+    </message>
+    <message>
+        <source>Fit height and width</source>
+        <translation>An Höhe und Breite anpassen</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reading start</source>
+        <translation>Leseanfang</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Text that scrolls sideways cannot be aligned.</source>
+        <translation>Seitlich laufender Text lässt sich nicht ausrichten.</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Padding</source>
+        <translation>Innenabstand</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Break pages between words</source>
+        <translation>Seiten zwischen Wörtern umbrechen</translation>
+    </message>
+    <message>
+        <source>Scrolling text has no pages.</source>
+        <translation>Laufender Text hat keine Seiten.</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::form::Inspector</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Bewegung</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platzierung</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::form::IntegratorView</name>
+    <message>
+        <source>Call</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Compare with a library…</source>
+        <translation>Mit Bibliothek vergleichen …</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixel(s) differ</source>
+        <translation>
+            <numerusform>%n Pixel weicht ab</numerusform>
+            <numerusform>%n Pixel weichen ab</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Libraries (*.so*)</source>
+        <translation>Bibliotheken (*.so*)</translation>
+    </message>
+    <message>
+        <source>Make it fail</source>
+        <translation>Fehlschlagen lassen</translation>
+    </message>
+    <message>
+        <source>Clear failures</source>
+        <translation>Fehler aufheben</translation>
+    </message>
+    <message>
+        <source>Stop comparing</source>
+        <translation>Vergleich beenden</translation>
+    </message>
+    <message>
+        <source>Device calls</source>
+        <translation>Geräteaufrufe</translation>
+    </message>
+    <message>
+        <source>no. </source>
+        <translation>Nr. </translation>
+    </message>
+    <message>
+        <source>Number of the call, counted from the start</source>
+        <translation>Nummer des Aufrufs, ab dem Start gezählt</translation>
+    </message>
+    <message>
+        <source>Plays from the start and makes this device call fail</source>
+        <translation>Spielt von vorn und lässt diesen Geräteaufruf fehlschlagen</translation>
+    </message>
+    <message>
+        <source>Lets all device calls succeed again</source>
+        <translation>Lässt alle Geräteaufrufe wieder gelingen</translation>
+    </message>
+    <message>
+        <source>Plays the scene with a second plugin library, too, and marks the pixels that differ</source>
+        <translation>Spielt die Szene auch mit einer zweiten Plugin-Bibliothek und markiert abweichende Pixel</translation>
+    </message>
+    <message>
+        <source>Made to fail: %1</source>
+        <translation>Schlägt fehl: %1</translation>
+    </message>
+    <message>
+        <source>No device calls at tick %1</source>
+        <translation>Keine Geräteaufrufe in Takt %1</translation>
+    </message>
+    <message>
+        <source>No pixels differ</source>
+        <translation>Keine Abweichung</translation>
+    </message>
+    <message>
+        <source>Choose a plugin library</source>
+        <translation>Plugin-Bibliothek wählen</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::form::NeonBox</name>
+    <message>
+        <source>Style %1</source>
+        <translation>Stil %1</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::motion::MotionPicker</name>
+    <message>
+        <source>Search motions</source>
+        <translation>Bewegung suchen</translation>
+    </message>
+    <message>
+        <source>All families</source>
+        <translation>Alle Familien</translation>
+    </message>
+    <message>
+        <source>Motions</source>
+        <translation>Bewegungen</translation>
+    </message>
+    <message>
+        <source>Drag to resize the list</source>
+        <translation>Ziehen, um die Höhe der Liste zu ändern</translation>
+    </message>
+    <message>
+        <source>Motion family</source>
+        <translation>Bewegungsfamilie</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::motion::Thumbnails</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::shell::ExportDialog</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Export a film</source>
+        <translation>Einen Film exportieren</translation>
+    </message>
+    <message>
+        <source>Folder of PNGs</source>
+        <translation>Ordner mit PNGs</translation>
+    </message>
+    <message>
+        <source> ×</source>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>The same as a command</source>
+        <translation>Dasselbe als Befehl</translation>
+    </message>
+    <message>
+        <source>Copy the command</source>
+        <translation>Den Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>Die Datei wählen</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>As a command</source>
+        <translation>Als Befehl</translation>
+    </message>
+    <message>
+        <source>sign</source>
+        <translation>schild</translation>
+    </message>
+    <message>
+        <source>Picture %1 of %2</source>
+        <translation>Bild %1 von %2</translation>
+    </message>
+    <message>
+        <source>Looking for the end: tick %1</source>
+        <translation>Das Ende wird gesucht: Takt %1</translation>
+    </message>
+    <message>
+        <source>Films of this format cannot be.</source>
+        <translation>Filme dieses Formats können das nicht.</translation>
+    </message>
+    <message>
+        <source>This format loses colors.</source>
+        <translation>Dieses Format verliert Farben.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 ist schon vorhanden.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Starting</source>
+        <translation>Beginnt</translation>
+    </message>
+    <message>
+        <source>Canceled; nothing was written.</source>
+        <translation>Abgebrochen; nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>As round LEDs on black</source>
+        <translation>Als runde LEDs auf Schwarz</translation>
+    </message>
+    <message>
+        <source>All pages, as the host times them</source>
+        <translation>Alle Seiten, wie der Host sie taktet</translation>
+    </message>
+    <message>
+        <source>Transparent background</source>
+        <translation>Durchsichtiger Hintergrund</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>PNG, one picture</source>
+        <translation>PNG, ein Bild</translation>
+    </message>
+    <message>
+        <source>All of it</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>The loop, %1 to %2</source>
+        <translation>Die Schleife, %1 bis %2</translation>
+    </message>
+    <message>
+        <source>This picture, tick %1</source>
+        <translation>Dieses Bild, Tick %1</translation>
+    </message>
+    <message>
+        <source>What is exported</source>
+        <translation>Was exportiert wird</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Magnify</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>%1 · %2 and the last hold once more</source>
+        <translation>%1 · %2 und die letzte Haltezeit noch einmal</translation>
+    </message>
+    <message>
+        <source>%1 · to the end of all texts</source>
+        <translation>%1 · bis zum Ende aller Texte</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>LEDs are on black.</source>
+        <translation>LEDs stehen auf Schwarz.</translation>
+    </message>
+    <message>
+        <source>Counting colors: picture %1 of %2</source>
+        <translation>Farben zählen: Bild %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::window::shell::MainWindow</name>
     <message>
         <source>Tools</source>
         <translation>Werkzeuge</translation>
@@ -1266,48 +1303,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::MotionPicker</name>
-    <message>
-        <source>Search motions</source>
-        <translation>Bewegung suchen</translation>
-    </message>
-    <message>
-        <source>All families</source>
-        <translation>Alle Familien</translation>
-    </message>
-    <message>
-        <source>Motions</source>
-        <translation>Bewegungen</translation>
-    </message>
-    <message>
-        <source>Drag to resize the list</source>
-        <translation>Ziehen, um die Höhe der Liste zu ändern</translation>
-    </message>
-    <message>
-        <source>Motion family</source>
-        <translation>Bewegungsfamilie</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::NeonBox</name>
-    <message>
-        <source>Style %1</source>
-        <translation>Stil %1</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::NoticeBar</name>
-    <message>
-        <source>Notice</source>
-        <translation>Hinweis</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::SceneList</name>
+    <name>AnimText::studio::window::shell::SceneList</name>
     <message>
         <source>Pages and texts</source>
         <translation>Seiten und Texte</translation>
@@ -1330,14 +1326,14 @@
     </message>
 </context>
 <context>
-    <name>AnimText::TextEditor</name>
+    <name>AnimText::studio::window::text::TextEditor</name>
     <message>
         <source>Paste with styles</source>
         <translation>Mit Formatierung einfügen</translation>
     </message>
 </context>
 <context>
-    <name>AnimText::TextPanel</name>
+    <name>AnimText::studio::window::text::TextPanel</name>
     <message>
         <source>Text</source>
         <translation>Text</translation>
@@ -1436,14 +1432,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::Thumbnails</name>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-</context>
-<context>
-    <name>AnimText::Timeline</name>
+    <name>AnimText::studio::window::time::Timeline</name>
     <message>
         <source>Timeline</source>
         <translation>Zeitleiste</translation>
@@ -1490,7 +1479,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::TransportBar</name>
+    <name>AnimText::studio::window::time::TransportBar</name>
     <message>
         <source>Home</source>
         <translation>Pos1</translation>
@@ -1590,7 +1579,18 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     </message>
 </context>
 <context>
-    <name>AnimText::WorkerLink</name>
+    <name>AnimText::studio::worker::Export</name>
+    <message>
+        <source>The program animtext, which makes films, was not found. Install it beside the studio.</source>
+        <translation>Das Programm animtext, das die Filme macht, wurde nicht gefunden. Es gehört neben das Studio.</translation>
+    </message>
+    <message>
+        <source>The export ended unexpectedly.</source>
+        <translation>Der Export wurde unerwartet beendet.</translation>
+    </message>
+</context>
+<context>
+    <name>AnimText::studio::worker::WorkerLink</name>
     <message>
         <source>The plugin crashed.</source>
         <translation>Das Plugin ist abgestürzt.</translation>

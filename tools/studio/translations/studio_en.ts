@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
-    <name>AnimText::FindingsList</name>
+    <name>AnimText::studio::window::findings::FindingsList</name>
     <message numerus="yes">
         <source>And %n more</source>
         <translation>
@@ -12,7 +12,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::IntegratorView</name>
+    <name>AnimText::studio::window::form::IntegratorView</name>
     <message numerus="yes">
         <source>%n pixel(s) differ</source>
         <translation>
@@ -22,7 +22,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::MainWindow</name>
+    <name>AnimText::studio::window::shell::MainWindow</name>
     <message numerus="yes">
         <source>%n problem(s)</source>
         <translation>
@@ -32,7 +32,7 @@
     </message>
 </context>
 <context>
-    <name>AnimText::TransportBar</name>
+    <name>AnimText::studio::window::time::TransportBar</name>
     <message numerus="yes">
         <source> · %n page(s) lost</source>
         <translation>

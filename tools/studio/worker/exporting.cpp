@@ -8,7 +8,7 @@
 
 #include <cstdio>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 namespace {
 
 /** The program beside the studio, else the one in PATH. */
@@ -145,4 +145,4 @@ void Export::Finish()
     emit Ended(failed ? Complaint() : QString(), failed && canceled);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

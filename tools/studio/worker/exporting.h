@@ -9,7 +9,7 @@
 #include <QProcess>
 #include <QStringList>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** The options of "animtext render" that the studio offers. */
 struct ExportSettings
@@ -61,6 +61,6 @@ private:
     bool canceled = false;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

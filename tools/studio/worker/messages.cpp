@@ -1,6 +1,6 @@
 #include "studio/worker/messages.h"
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 QDataStream& operator<<(QDataStream& stream, const RawPicture& picture)
 {
@@ -19,4 +19,4 @@ QDataStream& operator>>(QDataStream& stream, RawPicture& picture)
     return stream;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

@@ -16,7 +16,7 @@
 
 #include <tuple>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** Which part of a sign to play, and how. */
 struct Part
@@ -139,6 +139,6 @@ bool Take(QByteArray* bytes, T* message)
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 PictureCache::PictureCache(qint64 capacity)
     : capacity(capacity)
@@ -55,4 +55,4 @@ int PictureCache::Room(const QSize& size) const
     return int(std::max<qint64>(4, std::min<qint64>(capacity / each, 1000000)));
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

@@ -9,7 +9,7 @@
 #include <QImage>
 #include <QMap>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** Removes the pictures farthest from the shown tick first. Equal neighbors share memory. */
 class PictureCache
@@ -46,6 +46,6 @@ private:
     QHash<qint64, int> uses; // number of entries by picture key
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

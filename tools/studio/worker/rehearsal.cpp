@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 namespace {
 
 constexpr int ticksUnmeasured = 150; // painted ahead while the length is unknown
@@ -34,7 +34,7 @@ Rehearsal::~Rehearsal()
     pool.waitForDone();
 }
 
-void Rehearsal::SetSign(const Sign& next, const Part& nextPart)
+void Rehearsal::SetSign(const model::Sign& next, const Part& nextPart)
 {
     sign = next;
     part = nextPart;
@@ -50,10 +50,10 @@ void Rehearsal::Prepare()
     busy = true;
     pool.start([this, next = sign, nextPart = part, of = generation] {
         QString error;
-        const Scene scene = folder.Put(next, nextPart.page, &error);
+        const scene::Scene scene = folder.Put(next, nextPart.page, &error);
         Order prepared;
         prepared.generation = of;
-        prepared.scene = SceneToJson(scene);
+        prepared.scene = scene::SceneToJson(scene);
         prepared.path = scene.path;
         prepared.part = nextPart;
         QMetaObject::invokeMethod(this, [this, prepared, error] { Prepared(prepared, error); });
@@ -74,7 +74,7 @@ void Rehearsal::Prepared(const Order& prepared, const QString& error)
     order = prepared;
     cache.Clear();
     orderedTo = -1;
-    if (std::none_of(sign.texts.begin(), sign.texts.end(), [this](const SignText& text) {
+    if (std::none_of(sign.texts.begin(), sign.texts.end(), [this](const model::SignText& text) {
             return part.page < 0 || text.page == part.page;
         })) {
         order.scene.clear();
@@ -93,10 +93,10 @@ void Rehearsal::Prepared(const Order& prepared, const QString& error)
     pool.start([this, checked = sign, of = generation] {
         // All pages, because findings name places in the whole sign.
         QString error;
-        const Scene scene = folder.Put(checked, -1, &error);
+        const scene::Scene scene = folder.Put(checked, -1, &error);
         if (!error.isEmpty())
             return; // the next change reports it
-        const QList<Finding> findings = ValidateScene(scene);
+        const QList<validate::Finding> findings = validate::ValidateScene(scene);
         QMetaObject::invokeMethod(this, [this, of, findings] {
             if (of == generation)
                 emit FindingsChanged(findings);
@@ -180,4 +180,4 @@ void Rehearsal::Ask(int from, int to)
     player.Send(order);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

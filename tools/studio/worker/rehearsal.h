@@ -13,7 +13,7 @@
 
 #include <QThreadPool>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** Never blocks the window. */
 class Rehearsal : public QObject
@@ -29,7 +29,7 @@ public:
     ~Rehearsal() override;
 
     /** Sets the sign and the part to play; earlier pictures become invalid. */
-    void SetSign(const Sign& sign, const Part& part);
+    void SetSign(const model::Sign& sign, const Part& part);
     /** Makes @p tick the current one; Shown() follows at once or when its picture is ready. */
     void Look(int tick);
 
@@ -50,7 +50,7 @@ signals:
     /** The shown picture is out of date; a new one is being made. */
     void Stale();
     void TimingChanged();
-    void FindingsChanged(const QList<AnimText::Finding>& findings);
+    void FindingsChanged(const QList<AnimText::validate::Finding>& findings);
     /** @param why why nothing can be shown; empty once it can */
     void Trouble(const QString& why);
 
@@ -68,7 +68,7 @@ private:
     QThreadPool pool;
     PictureCache cache;
     Timing timing;
-    Sign sign;
+    model::Sign sign;
     Part part;
     Order order; // of the sign that was prepared last; its scene is empty if it has no texts
     quint32 generation = 0;
@@ -80,6 +80,6 @@ private:
     bool busy = false; // a sign is being prepared
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QMutexLocker>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 namespace {
 
 bool Write(const QString& path, const QByteArray& content, QString* error)
@@ -18,7 +18,7 @@ bool Write(const QString& path, const QByteArray& content, QString* error)
 
 } // namespace
 
-Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
+scene::Scene SceneFolder::Put(const model::Sign& sign, int page, QString* error)
 {
     const QMutexLocker locker(&mutex);
     if (!folder.isValid()) { // otherwise files would go to the current folder
@@ -37,7 +37,7 @@ Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
             ++it;
         }
     }
-    for (const SignText& text : sign.texts) {
+    for (const model::SignText& text : sign.texts) {
         if (!text.layout || written.contains(text.layout.get()))
             continue;
         Written& own = written[text.layout.get()];
@@ -50,10 +50,10 @@ Scene SceneFolder::Put(const Sign& sign, int page, QString* error)
             }
         }
     }
-    const auto place = [this](const Layout& layout, const QString& key) {
+    const auto place = [this](const model::Layout& layout, const QString& key) {
         return written.value(&layout).files.value(key);
     };
-    return SceneOf(sign, folder.filePath(QStringLiteral("scene.json")), place, page);
+    return model::SceneOf(sign, folder.filePath(QStringLiteral("scene.json")), place, page);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

@@ -14,7 +14,7 @@
 #include <QMutex>
 #include <QTemporaryDir>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** Thread-safe. Removes files that no layout needs any more. */
 class SceneFolder
@@ -27,22 +27,22 @@ public:
      * @param page negative for all pages
      * @param error why it failed, and the scene is empty; unchanged on success
      */
-    Scene Put(const Sign& sign, int page, QString* error);
+    scene::Scene Put(const model::Sign& sign, int page, QString* error);
 
 private:
     struct Written
     {
-        std::weak_ptr<const Layout> layout;
+        std::weak_ptr<const model::Layout> layout;
         QMap<QString, QString> files; // names by their keys in a scene
     };
 
     const QString place = QDir::tempPath(); // parent of the folder
-    QTemporaryDir folder{TemporaryName()};
+    QTemporaryDir folder{files::TemporaryName()};
     QMutex mutex;
-    QHash<const Layout*, Written> written;
+    QHash<const model::Layout*, Written> written;
     int next = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

@@ -4,33 +4,35 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 namespace {
 
-constexpr int longest = 20 * 60 * 1000 / tickLength; // ticks to measure at most
+constexpr int longest = 20 * 60 * 1000 / player::tickLength; // ticks to measure at most
 
 /** Actual time of a text in milliseconds; negative if it never ends. */
-qint64 ActualEnd(const NodePlay& play, const Player& player, Stage* stage, int node)
+qint64 ActualEnd(const timing::NodePlay& play, const player::Player& player, player::Stage* stage,
+                 int node)
 {
     switch (play.ending) {
-    case Ending::Finishes: return play.FinishedMs();
-    case Ending::ScrollsOn: {
-        const qint64 pass = ScrollPass(*stage, node);
+    case timing::Ending::Finishes: return play.FinishedMs();
+    case timing::Ending::ScrollsOn: {
+        const qint64 pass = timing::ScrollPass(*stage, node);
         return pass > 0 ? pass : player.Durations().at(node);
     }
-    case Ending::StandsStill: return player.Durations().at(node);
-    case Ending::NothingToPlay: return 0;
-    case Ending::TooLong: return -1;
+    case timing::Ending::StandsStill: return player.Durations().at(node);
+    case timing::Ending::NothingToPlay: return 0;
+    case timing::Ending::TooLong: return -1;
     }
     return -1;
 }
 
 } // namespace
 
-bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watch& watch,
-                   Timing* timing, QString* error)
+bool MeasureTiming(player::Player* player, const scene::Scene& scene, bool schedule,
+                   const timing::Watch& watch, Timing* timing, QString* error)
 {
-    const QVector<NodePlay> plays = MeasurePages(player, scene, longest, watch, error);
+    const QVector<timing::NodePlay> plays =
+        timing::MeasurePages(player, scene, longest, watch, error);
     if (plays.isEmpty())
         return false;
 
@@ -42,21 +44,21 @@ bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watc
         text.planned = durations.at(node);
         text.actual = ActualEnd(plays.at(node), *player, &player->Scenery(), node);
         text.pages = plays.at(node).pages;
-        timing->isCut = timing->isCut || text.ending == Ending::TooLong;
+        timing->isCut = timing->isCut || text.ending == timing::Ending::TooLong;
         timing->length = std::max({timing->length, text.planned, text.actual});
         timing->texts.append(text);
     }
     if (schedule) {
-        const Schedule host = HostSchedule(scene, durations);
-        for (const Showing& showing : host.showings) {
+        const player::Schedule host = player::HostSchedule(scene, durations);
+        for (const player::Showing& showing : host.showings) {
             timing->texts[showing.node].from = showing.from;
             timing->texts[showing.node].until = showing.until;
         }
         timing->length = host.length;
     }
-    const qint64 measured = qint64(longest) * tickLength;
+    const qint64 measured = qint64(longest) * player::tickLength;
     timing->length = timing->isCut && !schedule ? measured : std::min(timing->length, measured);
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

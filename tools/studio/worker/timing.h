@@ -9,17 +9,17 @@
 
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** The times of one text. */
 struct TextTime
 {
-    Ending ending = Ending::TooLong;
-    qint64 planned = 0;      ///< planned time: what the plugin tells the host, milliseconds
-    qint64 actual = -1;      ///< actual time, milliseconds; negative if it never ends
-    qint64 from = 0;         ///< when the host starts it, milliseconds
-    qint64 until = -1;       ///< when the host stops it, milliseconds; negative for never
-    QVector<PageTime> pages; ///< of all its plays
+    timing::Ending ending = timing::Ending::TooLong;
+    qint64 planned = 0;              ///< planned time: what the plugin tells the host, milliseconds
+    qint64 actual = -1;              ///< actual time, milliseconds; negative if it never ends
+    qint64 from = 0;                 ///< when the host starts it, milliseconds
+    qint64 until = -1;               ///< when the host stops it, milliseconds; negative for never
+    QVector<timing::PageTime> pages; ///< of all its plays
 };
 
 struct Timing
@@ -29,7 +29,10 @@ struct Timing
     bool isCut = false;      ///< it is longer than what was measured
 
     /** Number of ticks; at least 1. */
-    int Ticks() const { return int(std::max<qint64>(1, (length + tickLength - 1) / tickLength)); }
+    int Ticks() const
+    {
+        return int(std::max<qint64>(1, (length + player::tickLength - 1) / player::tickLength));
+    }
 };
 
 /**
@@ -37,9 +40,9 @@ struct Timing
  * @param schedule page by page for the planned times, as the host plays
  * @return false if @p watch canceled or, with @p error, if the scene cannot be played
  */
-bool MeasureTiming(Player* player, const Scene& scene, bool schedule, const Watch& watch,
-                   Timing* timing, QString* error);
+bool MeasureTiming(player::Player* player, const scene::Scene& scene, bool schedule,
+                   const timing::Watch& watch, Timing* timing, QString* error);
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 namespace {
 
 // A worker that has not answered for that long has hung. Processor time counts, because on a busy
@@ -137,4 +137,4 @@ void WorkerLink::End(int, QProcess::ExitStatus how)
                                            : tr("The playback process ended unexpectedly."));
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

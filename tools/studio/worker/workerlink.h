@@ -12,7 +12,7 @@
 #include <QProcess>
 #include <QTimer>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 
 /** Seconds of all threads of the process @p id; 0 if there is none. */
 double ProcessorTimeOf(qint64 id);
@@ -39,7 +39,7 @@ public:
 
 signals:
     /** Its picture is never null if it has one. */
-    void Answered(const AnimText::Answer& answer);
+    void Answered(const AnimText::studio::worker::Answer& answer);
     /**
      * The process has crashed twice with orders of one generation, or was terminated because it
      * stopped responding.
@@ -65,6 +65,6 @@ private:
     bool hangs = false;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker
 
 #endif

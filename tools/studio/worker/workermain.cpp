@@ -13,7 +13,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-namespace AnimText {
+namespace AnimText::studio::worker {
 namespace {
 
 constexpr int lowNiceness = 10;
@@ -26,7 +26,7 @@ class WorkerLoop
 {
 public:
     /** @param output descriptor for the answers; nothing else may be written to it */
-    WorkerLoop(VirtualDispatcher* dispatcher, int output)
+    WorkerLoop(player::VirtualDispatcher* dispatcher, int output)
         : dispatcher(dispatcher)
     {
         answers.open(output, QIODevice::WriteOnly | QIODevice::Unbuffered);
@@ -34,7 +34,7 @@ public:
 
     void Run(const QString& pluginPath)
     {
-        plugin = LoadPlugin(PluginPath(pluginPath), &pluginError);
+        plugin = player::LoadPlugin(player::PluginPath(pluginPath), &pluginError);
         Send(Answer::Ready, pluginError);
         while (!ended) {
             if (Take(&received, &order))
@@ -72,10 +72,10 @@ private:
         player.reset(); // releases the display's clock
         QString error = pluginError;
         Timing timing;
-        bool isDone = plugin && ReadSceneText(order.scene, order.path, &scene, &error,
-                                              MissingFiles::AreAccepted);
+        bool isDone = plugin && scene::ReadSceneText(order.scene, order.path, &scene, &error,
+                                                     scene::MissingFiles::AreAccepted);
         if (isDone) {
-            player = std::make_unique<Player>(dispatcher, plugin);
+            player = std::make_unique<player::Player>(dispatcher, plugin);
             const auto watch = [this](int) { return !Receive(false) && !ended; };
             isDone = order.measures ? MeasureTiming(player.get(), scene, order.part.schedule, watch,
                                                     &timing, &error)
@@ -93,7 +93,7 @@ private:
         QString error;
         if (started) {
             player.reset();
-            player = std::make_unique<Player>(dispatcher, plugin);
+            player = std::make_unique<player::Player>(dispatcher, plugin);
             if (!player->Load(scene, &error)) {
                 player.reset();
                 return;
@@ -104,11 +104,11 @@ private:
             Torv::FailCall(Torv::Operation(fault.first), fault.second);
         if (order.part.calls)
             player->Scenery().WatchCalls(
-                [this](const Torv::CallRecord& call) { calls += CallLine(call) + '\n'; });
+                [this](const Torv::CallRecord& call) { calls += player::CallLine(call) + '\n'; });
         if (order.part.schedule)
-            player->Start(HostSchedule(scene, player->Durations()), standardSeed);
+            player->Start(player::HostSchedule(scene, player->Durations()), player::standardSeed);
         else
-            player->Start(standardSeed);
+            player->Start(player::standardSeed);
         started = true;
     }
 
@@ -153,7 +153,7 @@ private:
         ended = answers.write(message) != message.size() || ended;
     }
 
-    VirtualDispatcher* dispatcher;
+    player::VirtualDispatcher* dispatcher;
     QFile answers;
     bool ended = false;
     QByteArray received;
@@ -161,12 +161,12 @@ private:
     QString pluginError;
     Order order;
     quint32 generation = 0; // of the scene that was loaded; 0 for none
-    Scene scene;
-    std::unique_ptr<Player> player; // null if the scene cannot be played
-    bool started = false;           // the player is at a tick of the ordered scene
-    int next = 0;                   // the next tick to send
-    QImage shown;                   // the picture that was sent last for the order
-    QByteArray calls;               // device calls of the player's tick
+    scene::Scene scene;
+    std::unique_ptr<player::Player> player; // null if the scene cannot be played
+    bool started = false;                   // the player is at a tick of the ordered scene
+    int next = 0;                           // the next tick to send
+    QImage shown;                           // the picture that was sent last for the order
+    QByteArray calls;                       // device calls of the player's tick
 };
 
 } // namespace
@@ -182,7 +182,7 @@ int WorkerMain(int argc, char** argv)
 
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_QPA_PLATFORMTHEME");
-    auto* dispatcher = new VirtualDispatcher;
+    auto* dispatcher = new player::VirtualDispatcher;
     QCoreApplication::setEventDispatcher(dispatcher);
     QString plugin;
     for (int i = 1; i < argc; ++i) {
@@ -197,4 +197,4 @@ int WorkerMain(int argc, char** argv)
     return 0;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::worker

@@ -2,7 +2,7 @@
 
 #include "studio/window/basics/style.h"
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 
 NoticeBar::NoticeBar(QWidget* parent)
     : QFrame(parent)
@@ -70,4 +70,4 @@ void NoticeBar::Refresh()
     }
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics

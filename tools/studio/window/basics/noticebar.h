@@ -14,7 +14,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 
 /**
  * Shows one notice at a time, in the order of Kind, over the upper edge of its parent, so that
@@ -52,6 +52,6 @@ private:
     QHBoxLayout* buttons = new QHBoxLayout;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics
 
 #endif

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 namespace {
 
 constexpr int dragThreshold = 4; // logical pixels
@@ -116,4 +116,4 @@ bool NumberField::eventFilter(QObject* object, QEvent* event)
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics

@@ -7,7 +7,7 @@
 
 #include <QDoubleSpinBox>
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 
 /** A whole number, shown as it is or in a larger unit. With Shift, it steps by ten. */
 class NumberField : public QDoubleSpinBox
@@ -46,6 +46,6 @@ private:
     int pressNumber = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics
 
 #endif

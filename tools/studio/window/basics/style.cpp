@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 namespace {
 
 /** Paints in the palette's present colors. */
@@ -103,4 +103,4 @@ QIcon Icon(const QString& name)
     return QIcon::fromTheme(name, QIcon(new OwnIcon(file.readAll())));
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics

@@ -12,7 +12,7 @@
 #include <QPalette>
 #include <QString>
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 
 constexpr int grid = 4;             ///< logical pixels; distances are multiples of it
 constexpr int markWidth = 4 * grid; ///< width of the warning mark between label and field
@@ -42,6 +42,6 @@ QString SecondsText(qint64 milliseconds);
 /** The theme's icon; if it has none, a drawn one in the palette's colors. */
 QIcon Icon(const QString& name);
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics
 
 #endif

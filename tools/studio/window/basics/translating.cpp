@@ -4,7 +4,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-void AnimText::Translate(const QLocale& locale)
+void AnimText::studio::window::basics::Translate(const QLocale& locale)
 {
     const auto install = [](const QLocale& spoken, const QString& name, const QString& folder) {
         auto* translator = new QTranslator(QCoreApplication::instance());

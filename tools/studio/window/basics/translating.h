@@ -7,7 +7,7 @@
 
 #include <QLocale>
 
-namespace AnimText {
+namespace AnimText::studio::window::basics {
 
 /**
  * Installs the translations of the program and of Qt's dialogs for @p locale, if there are any.
@@ -15,6 +15,6 @@ namespace AnimText {
  */
 void Translate(const QLocale& locale);
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::basics
 
 #endif

@@ -5,7 +5,7 @@
 #include <QFormLayout>
 #include <QLabel>
 
-namespace AnimText {
+namespace AnimText::studio::window::display {
 namespace {
 
 constexpr int longestSide = 16384;   // pixels; what a scene file takes
@@ -24,18 +24,18 @@ DisplayForm::DisplayForm(QWidget* parent)
         presets->addItem(tr("%1 × %2").arg(panel.width()).arg(panel.height()), panel);
     alpha->setToolTip(tr("On: pictures have 32 bits per pixel, with transparency. Off: 24 bits per "
                          "pixel; black shows the layer below."));
-    for (NumberField* side : {width, height}) {
+    for (basics::NumberField* side : {width, height}) {
         side->SetUnit(tr("px"));
         side->SetLimits(1, longestSide);
-        connect(side, &NumberField::NumberChanged, this, [this](int, int gesture) {
+        connect(side, &basics::NumberField::NumberChanged, this, [this](int, int gesture) {
             Refresh();
             emit Edited(gesture);
         });
     }
     auto* layout = new QFormLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(2 * grid + markWidth);
-    layout->setVerticalSpacing(grid);
+    layout->setHorizontalSpacing(2 * basics::grid + basics::markWidth);
+    layout->setVerticalSpacing(basics::grid);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     layout->addRow(tr("Panel"), presets);
     layout->addRow(tr("Width"), width);
@@ -45,7 +45,7 @@ DisplayForm::DisplayForm(QWidget* parent)
     width->setAccessibleName(tr("Width"));
     height->setAccessibleName(tr("Height"));
     for (QWidget* field : QList<QWidget*>{presets, width, height})
-        layout->labelForField(field)->setMinimumWidth(LabelWidth(font()));
+        layout->labelForField(field)->setMinimumWidth(basics::LabelWidth(font()));
     connect(presets, qOverload<int>(&QComboBox::activated), this, [this] {
         const QSize size = presets->currentData().toSize();
         if (!size.isValid())
@@ -71,4 +71,4 @@ void DisplayForm::Refresh()
     presets->setCurrentIndex(qMax(0, presets->findData(Size())));
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::display

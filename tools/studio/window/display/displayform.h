@@ -11,7 +11,7 @@
 #include <QComboBox>
 #include <QWidget>
 
-namespace AnimText {
+namespace AnimText::studio::window::display {
 
 class DisplayForm : public QWidget
 {
@@ -34,11 +34,11 @@ private:
     void Refresh();
 
     QComboBox* presets = new QComboBox(this);
-    NumberField* width = new NumberField(this);
-    NumberField* height = new NumberField(this);
+    basics::NumberField* width = new basics::NumberField(this);
+    basics::NumberField* height = new basics::NumberField(this);
     QCheckBox* alpha = new QCheckBox(tr("Alpha blending"), this);
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::display
 
 #endif

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::studio::window::display {
 namespace {
 
 constexpr int reach = 6;     // logical pixels from an edge at which the mouse drags it
@@ -22,7 +22,7 @@ const QColor magenta(255, 0, 160); // of marks that no sign has
 } // namespace
 
 DisplayView::DisplayView(QWidget* parent)
-    : PictureView(parent, true)
+    : live::PictureView(parent, true)
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -314,7 +314,7 @@ void DisplayView::wheelEvent(QWheelEvent* event)
 void DisplayView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier) {
-        PictureView::keyPressEvent(event);
+        live::PictureView::keyPressEvent(event);
         return;
     }
     if (event->isAutoRepeat())
@@ -326,7 +326,7 @@ void DisplayView::keyPressEvent(QKeyEvent* event)
 void DisplayView::keyReleaseEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Space || event->isAutoRepeat() || !spaceHeld) {
-        PictureView::keyReleaseEvent(event);
+        live::PictureView::keyReleaseEvent(event);
         return;
     }
     spaceHeld = false;
@@ -414,4 +414,4 @@ bool DisplayView::HandleAreaKey(int key, Qt::KeyboardModifiers modifiers)
     return true;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::display

@@ -10,7 +10,7 @@
 #include <QRect>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::studio::window::display {
 
 /** An area on the display. */
 struct AreaFrame
@@ -19,7 +19,7 @@ struct AreaFrame
     QRect rect; ///< pixels of the display
 };
 
-class DisplayView : public PictureView
+class DisplayView : public live::PictureView
 {
     Q_OBJECT
 
@@ -98,6 +98,6 @@ private:
     QVector<QLine> guides; // lines that the area has snapped to
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::display
 
 #endif

@@ -11,7 +11,7 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
-namespace AnimText {
+namespace AnimText::studio::window::display {
 
 namespace {
 
@@ -19,9 +19,9 @@ const char settingsKey[] = "leds";
 constexpr int mostDrawn = 8; // LEDs per side; a larger matrix is drawn with this size
 
 /** Draws the data line over the picture, from a ring at the first LED to an arrow at the last. */
-QPixmap WiringPicture(QSize size, const Wiring& wiring, const QColor& color, double ratio)
+QPixmap WiringPicture(QSize size, const lights::Wiring& wiring, const QColor& color, double ratio)
 {
-    constexpr int side = 56 * grid;
+    constexpr int side = 56 * basics::grid;
     QPixmap picture(QSize(side, side) * ratio);
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
@@ -31,7 +31,7 @@ QPixmap WiringPicture(QSize size, const Wiring& wiring, const QColor& color, dou
     const double pitch = double(side) / std::max(size.width(), size.height());
     const QPointF corner((side - pitch * size.width()) / 2, (side - pitch * size.height()) / 2);
     QPolygonF line;
-    for (int pixel : LedOrder(size, wiring))
+    for (int pixel : lights::LedOrder(size, wiring))
         line.append(corner +
                     pitch * QPointF(pixel % size.width() + 0.5, pixel / size.width() + 0.5));
     painter.fillRect(QRectF(corner, pitch * QSizeF(size)), Qt::black);
@@ -87,10 +87,10 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     state->setWordWrap(true);
     start->setDefault(true);
     steps.setTimerType(Qt::PreciseTimer);
-    steps.setInterval(tickLength);
+    steps.setInterval(player::tickLength);
 
     auto* upper = new QHBoxLayout;
-    upper->setSpacing(4 * grid);
+    upper->setSpacing(4 * basics::grid);
     upper->addLayout(MakeForm(), 1);
     upper->addWidget(wiring, 0, Qt::AlignTop);
     wiring->setToolTip(tr("Path of the data line, seen from the front"));
@@ -101,8 +101,9 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     buttons->addStretch(1);
     buttons->addWidget(start);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
-    layout->setSpacing(3 * grid);
+    layout->setContentsMargins(4 * basics::grid, 4 * basics::grid, 4 * basics::grid,
+                               4 * basics::grid);
+    layout->setSpacing(3 * basics::grid);
     layout->addLayout(upper);
     layout->addLayout(lower);
     layout->addWidget(state);
@@ -150,12 +151,12 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
 QFormLayout* LedsDialog::MakeForm()
 {
     auto* form = new QFormLayout;
-    form->setHorizontalSpacing(3 * grid);
-    form->setVerticalSpacing(2 * grid);
+    form->setHorizontalSpacing(3 * basics::grid);
+    form->setVerticalSpacing(2 * basics::grid);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     const auto row = [&](const QString& label, const QList<QWidget*>& widgets) {
         auto* layout = new QHBoxLayout;
-        layout->setSpacing(grid);
+        layout->setSpacing(basics::grid);
         if (widgets.first()->accessibleName().isEmpty())
             widgets.first()->setAccessibleName(label);
         for (QWidget* widget : widgets)
@@ -232,11 +233,12 @@ QString LedsDialog::Address() const
 
 void LedsDialog::SetAddress(const QString& address)
 {
-    Controller controller;
+    lights::Controller controller;
     QString error;
-    if (!ReadAddress(&controller, address, &error) || !FitToDisplay(&controller, display, &error))
+    if (!lights::ReadAddress(&controller, address, &error) ||
+        !lights::FitToDisplay(&controller, display, &error))
         return;
-    const Wiring& way = controller.wiring;
+    const lights::Wiring& way = controller.wiring;
     protocol->setCurrentIndex(int(controller.protocol));
     host->setText(address.section(QLatin1Char('/'), 2, 2).section(QLatin1Char(','), 0, 0));
     left->setValue(controller.rect.x());
@@ -253,11 +255,11 @@ void LedsDialog::SetAddress(const QString& address)
     universe->setValue(controller.universe);
 }
 
-Controller LedsDialog::ReadFields(QString* error) const
+lights::Controller LedsDialog::ReadFields(QString* error) const
 {
-    Controller controller;
-    if (ReadAddress(&controller, Address(), error))
-        FitToDisplay(&controller, display, error);
+    lights::Controller controller;
+    if (lights::ReadAddress(&controller, Address(), error))
+        lights::FitToDisplay(&controller, display, error);
     return controller;
 }
 
@@ -273,7 +275,7 @@ void LedsDialog::Change()
 void LedsDialog::Refresh()
 {
     QString error;
-    const Controller controller = ReadFields(&error);
+    const lights::Controller controller = ReadFields(&error);
     const bool isDdp = protocol->currentIndex() == 0;
     universe->setEnabled(!isDdp);
     universe->setToolTip(isDdp ? tr("DDP has no universes") : QString());
@@ -301,7 +303,7 @@ void LedsDialog::Refresh()
 void LedsDialog::LookUp()
 {
     QString error;
-    const Controller controller = ReadFields(&error);
+    const lights::Controller controller = ReadFields(&error);
     if (controller.host.isEmpty() || !QHostAddress(controller.host).isNull()) {
         Open(controller);
         return;
@@ -316,24 +318,24 @@ void LedsDialog::Begin(const QHostInfo& found)
         return;
     lookUp = -1;
     QString error;
-    const Controller controller = ReadFields(&error);
+    const lights::Controller controller = ReadFields(&error);
     if (found.addresses().isEmpty()) {
         Refresh();
         state->setText(tr("%1 was not found: %2").arg(controller.host, found.errorString()));
         return;
     }
-    foundHost = PreferredAddress(found).toString();
+    foundHost = lights::PreferredAddress(found).toString();
     Open(controller);
 }
 
-void LedsDialog::Open(Controller controller)
+void LedsDialog::Open(lights::Controller controller)
 {
     if (!foundHost.isEmpty())
         controller.host = foundHost;
     if (lights)
         lights->SetKeeps(true); // no dark gap: the next picture follows at once
-    lights = std::make_unique<Lights>();
-    connect(lights.get(), &Lights::Reported, state, &QLabel::setText);
+    lights = std::make_unique<lights::Lights>();
+    connect(lights.get(), &lights::Lights::Reported, state, &QLabel::setText);
     QString error;
     if (!lights->Add(controller, display, &error)) {
         Stop();
@@ -365,9 +367,9 @@ void LedsDialog::Show(const QImage& shown)
     if (!lights)
         return;
     if (pattern->isChecked())
-        lights->Show(TestPattern(QString(), display, step));
+        lights->Show(lights::TestPattern(QString(), display, step));
     else if (!picture.isNull())
         lights->Show(picture);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::display

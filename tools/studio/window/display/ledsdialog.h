@@ -18,7 +18,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-namespace AnimText {
+namespace AnimText::studio::window::display {
 
 /** Sends every picture of the studio's display to a controller's LEDs. */
 class LedsDialog : public QDialog
@@ -44,12 +44,12 @@ public slots:
 
 private:
     QFormLayout* MakeForm();
-    Controller ReadFields(QString* error) const;
+    lights::Controller ReadFields(QString* error) const;
     void Change();
     void Refresh();
     void LookUp();
     void Begin(const QHostInfo& found);
-    void Open(Controller controller);
+    void Open(lights::Controller controller);
     void Stop();
 
     const QSize display;
@@ -59,7 +59,7 @@ private:
     int step = 0;
     int lookUp = -1;   // id of the running name lookup; negative for none
     QString foundHost; // address of the host's name
-    std::unique_ptr<Lights> lights;
+    std::unique_ptr<lights::Lights> lights;
 
     // In the order of the Tab key.
     QComboBox* protocol = new QComboBox(this);
@@ -83,6 +83,6 @@ private:
     QPushButton* start = new QPushButton(this);
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::display
 
 #endif

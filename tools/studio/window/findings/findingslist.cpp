@@ -10,30 +10,30 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::window::findings {
 namespace {
 
 constexpr int mostShown = 40;
 
 /** Label of the field that @p finding is about; empty for none. */
-QString FieldOf(const Finding& finding)
+QString FieldOf(const validate::Finding& finding)
 {
-    const QString key = KeyOf(finding);
-    for (const Attribute& attribute : Attributes()) {
+    const QString key = form::KeyOf(finding);
+    for (const scene::Attribute& attribute : scene::Attributes()) {
         if (key == QLatin1String(attribute.key))
-            return Translated(attribute.name);
+            return scene::Translated(attribute.name);
     }
     return {};
 }
 
 /** The text that @p finding is about; null for none. */
-const SignText* TextOf(const Finding& finding, const Sign& sign)
+const model::SignText* TextOf(const validate::Finding& finding, const model::Sign& sign)
 {
-    Place place;
-    if (!ReadPlace(finding.place, &place))
+    scene::Place place;
+    if (!scene::ReadPlace(finding.place, &place))
         return nullptr;
     int behind = place.node;
-    for (const SignText& text : sign.texts) {
+    for (const model::SignText& text : sign.texts) {
         if (text.page == place.page && text.area == place.area && behind-- == 0)
             return &text;
     }
@@ -50,8 +50,9 @@ FindingsList::FindingsList(QWidget* parent)
     content->setAutoFillBackground(true);
     content->setBackgroundRole(QPalette::Base);
     content->setLayout(list);
-    list->setContentsMargins(2 * grid, 2 * grid, 2 * grid, 2 * grid);
-    list->setSpacing(3 * grid);
+    list->setContentsMargins(2 * basics::grid, 2 * basics::grid, 2 * basics::grid,
+                             2 * basics::grid);
+    list->setSpacing(3 * basics::grid);
     setWidget(content);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -60,65 +61,69 @@ FindingsList::FindingsList(QWidget* parent)
     Show({}, {});
 }
 
-FindingsList::Fix FindingsList::FixFor(const Finding& finding, const QSize& display)
+FindingsList::Fix FindingsList::FixFor(const validate::Finding& finding, const QSize& display)
 {
     const auto set = [](const QString& words, const char* key, int value) {
-        return Fix{words,
-                   [=](SignText* edited) { edited->node.attributes[QLatin1String(key)] = value; }};
+        return Fix{words, [=](model::SignText* edited) {
+                       edited->node.attributes[QLatin1String(key)] = value;
+                   }};
     };
     const auto remove = [](const char* key, const char* other) {
-        return Fix{tr("Remove"), [=](SignText* edited) {
+        return Fix{tr("Remove"), [=](model::SignText* edited) {
                        edited->node.attributes.remove(QLatin1String(key));
                        edited->node.attributes.remove(QLatin1String(other));
                    }};
     };
-    const auto fit = [](const QString& words, Fit wanted) {
-        return Fix{words, [=](SignText* edited) { edited->source.fit = wanted; }};
+    const auto fit = [](const QString& words, layout::Fit wanted) {
+        return Fix{words, [=](model::SignText* edited) { edited->source.fit = wanted; }};
     };
     switch (finding.mistake) {
-    case Mistake::SpeedRange:
-        return {tr("Use the nearest speed"), [](SignText* edited) {
-                    QVariant& speed = edited->node.attributes[MotionOf(edited->node).SpeedKey()];
+    case validate::Mistake::SpeedRange:
+        return {tr("Use the nearest speed"), [](model::SignText* edited) {
+                    QVariant& speed =
+                        edited->node.attributes[scene::MotionOf(edited->node).SpeedKey()];
                     speed = qBound(0, speed.toInt(), 9);
                 }};
-    case Mistake::PlaysRange: return set(tr("Play once"), "PlayTimes", 1);
-    case Mistake::HoldRange:
-        return {tr("Remove the hold"), [](SignText* edited) { edited->node.hold = 0; }};
-    case Mistake::ModeUnknown: return set(tr("Use an entrance effect"), "EffectType", 0);
-    case Mistake::EffectUnknown: return set(tr("Use Typewriter"), "AnimationEffect", 4);
-    case Mistake::DirectionUnknown: return set(tr("Scroll left"), "ContinueStyle", 0);
-    case Mistake::AreaOutside:
-        return {tr("Move onto the display"), [display](SignText* edited) {
-                    SceneNode& node = edited->node;
+    case validate::Mistake::PlaysRange: return set(tr("Play once"), "PlayTimes", 1);
+    case validate::Mistake::HoldRange:
+        return {tr("Remove the hold"), [](model::SignText* edited) { edited->node.hold = 0; }};
+    case validate::Mistake::ModeUnknown: return set(tr("Use an entrance effect"), "EffectType", 0);
+    case validate::Mistake::EffectUnknown: return set(tr("Use Typewriter"), "AnimationEffect", 4);
+    case validate::Mistake::DirectionUnknown: return set(tr("Scroll left"), "ContinueStyle", 0);
+    case validate::Mistake::AreaOutside:
+        return {tr("Move onto the display"), [display](model::SignText* edited) {
+                    scene::SceneNode& node = edited->node;
                     node.size = node.size.boundedTo(display);
                     node.pos.setX(qBound(0, node.pos.x(), display.width() - node.size.width()));
                     node.pos.setY(qBound(0, node.pos.y(), display.height() - node.size.height()));
                 }};
-    case Mistake::FileMissing:
-        if (KeyOf(finding) != QLatin1String("PathData") &&
-            KeyOf(finding) != QLatin1String("DescentVector"))
+    case validate::Mistake::FileMissing:
+        if (form::KeyOf(finding) != QLatin1String("PathData") &&
+            form::KeyOf(finding) != QLatin1String("DescentVector"))
             return {};
         [[fallthrough]];
-    case Mistake::DataMalformed:
-    case Mistake::DataLength:
-    case Mistake::DataSurplus:
-    case Mistake::OutlineMalformed:
-    case Mistake::ListLength:
-    case Mistake::ListSurplus:
-    case Mistake::RowValue:
-        return {tr("Recreate the outlines"), [](SignText* edited) { edited->layout.reset(); }};
-    case Mistake::TextHigh: return fit(tr("Fit height"), Fit::Height);
-    case Mistake::CharacterWide: return fit(tr("Fit height and width"), Fit::Both);
-    case Mistake::ColorsIgnored:
-        return {tr("Use the first color"), [](SignText* edited) {
-                    QVector<StyleRun>& runs = edited->source.text.runs;
-                    for (StyleRun& run : runs)
+    case validate::Mistake::DataMalformed:
+    case validate::Mistake::DataLength:
+    case validate::Mistake::DataSurplus:
+    case validate::Mistake::OutlineMalformed:
+    case validate::Mistake::ListLength:
+    case validate::Mistake::ListSurplus:
+    case validate::Mistake::RowValue:
+        return {tr("Recreate the outlines"),
+                [](model::SignText* edited) { edited->layout.reset(); }};
+    case validate::Mistake::TextHigh: return fit(tr("Fit height"), layout::Fit::Height);
+    case validate::Mistake::CharacterWide:
+        return fit(tr("Fit height and width"), layout::Fit::Both);
+    case validate::Mistake::ColorsIgnored:
+        return {tr("Use the first color"), [](model::SignText* edited) {
+                    QVector<layout::StyleRun>& runs = edited->source.text.runs;
+                    for (layout::StyleRun& run : runs)
                         run.color = runs.first().color;
                 }};
-    case Mistake::GradientIgnored:
-    case Mistake::PictureIgnored: return set(tr("Turn on dazzle"), "CheckDazzle", 1);
-    case Mistake::StrokeIgnored: return remove("Stroke", "StrokeColor");
-    case Mistake::ShadowIgnored: return remove("CheckShadowEffect", "TextShadowBox");
+    case validate::Mistake::GradientIgnored:
+    case validate::Mistake::PictureIgnored: return set(tr("Turn on dazzle"), "CheckDazzle", 1);
+    case validate::Mistake::StrokeIgnored: return remove("Stroke", "StrokeColor");
+    case validate::Mistake::ShadowIgnored: return remove("CheckShadowEffect", "TextShadowBox");
     default: return {};
     }
 }
@@ -132,9 +137,9 @@ void FindingsList::ApplyFix(int index)
     emit Edited(row.fix.words, QString(), row.fix.change);
 }
 
-QList<Finding> FindingsList::Of(int id) const
+QList<validate::Finding> FindingsList::Of(int id) const
 {
-    QList<Finding> own;
+    QList<validate::Finding> own;
     for (const Row& row : rows) {
         if (row.id == id)
             own.append(row.finding);
@@ -142,18 +147,18 @@ QList<Finding> FindingsList::Of(int id) const
     return own;
 }
 
-void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
+void FindingsList::Show(const QList<validate::Finding>& findings, const model::Sign& sign)
 {
     QList<Row> before = rows;
     rows.clear();
-    for (const Finding& finding : findings) {
+    for (const validate::Finding& finding : findings) {
         Row row{finding, 0, {}, QCoreApplication::translate("Rules", finding.GetRule().why), {}};
         const QString field = FieldOf(finding);
         if (!field.isEmpty())
             row.words = QStringLiteral("%1: %2").arg(field, row.words);
         row.why =
             tr("Found %1, expected %2.\n%3").arg(finding.found, finding.expected, finding.place);
-        if (const SignText* text = TextOf(finding, sign)) {
+        if (const model::SignText* text = TextOf(finding, sign)) {
             row.id = text->id;
             row.fix = FixFor(finding, sign.display);
             if (sign.texts.size() > 1)
@@ -179,7 +184,7 @@ void FindingsList::Show(const QList<Finding>& findings, const Sign& sign)
                                       : tr("And %n more", nullptr, rows.size() - mostShown));
         label->setWordWrap(true);
         list->addWidget(label);
-        SetInk(label, Quiet(label->palette()));
+        basics::SetInk(label, basics::Quiet(label->palette()));
     }
     list->addStretch(1);
     setMinimumWidth(list->minimumSize().width()); // no button is clipped, in any language
@@ -191,9 +196,9 @@ QWidget* FindingsList::MakeRow(int index)
     const Row& row = rows.at(index);
     auto* widget = new QWidget;
     auto* mark = new QLabel(widget);
-    const bool isError = row.finding.GetRule().severity == Severity::Error;
+    const bool isError = row.finding.GetRule().severity == validate::Severity::Error;
     mark->setPixmap(
-        Icon(isError ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"))
+        basics::Icon(isError ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"))
             .pixmap(16, 16));
     auto* words = new QLabel(row.words, widget);
     words->setWordWrap(true);
@@ -201,8 +206,8 @@ QWidget* FindingsList::MakeRow(int index)
     words->setAccessibleDescription(row.why);
     auto* layout = new QGridLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(2 * grid);
-    layout->setVerticalSpacing(grid);
+    layout->setHorizontalSpacing(2 * basics::grid);
+    layout->setVerticalSpacing(basics::grid);
     layout->setColumnStretch(2, 1);
     layout->addWidget(mark, 0, 0, Qt::AlignTop);
     layout->addWidget(words, 0, 1, 1, 2);
@@ -226,4 +231,4 @@ bool FindingsList::eventFilter(QObject* object, QEvent* event)
     return QScrollArea::eventFilter(object, event);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::findings

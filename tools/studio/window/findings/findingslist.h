@@ -9,7 +9,7 @@
 
 #include <QScrollArea>
 
-namespace AnimText {
+namespace AnimText::studio::window::findings {
 
 class FindingsList : public QScrollArea
 {
@@ -18,9 +18,9 @@ class FindingsList : public QScrollArea
 public:
     explicit FindingsList(QWidget* parent = nullptr);
 
-    void Show(const QList<Finding>& findings, const Sign& sign);
+    void Show(const QList<validate::Finding>& findings, const model::Sign& sign);
     /** The findings about the text @p id. */
-    QList<Finding> Of(int id) const;
+    QList<validate::Finding> Of(int id) const;
     int Count() const { return rows.size(); }
     /** Applies the fix of that row, if it has one. */
     void ApplyFix(int index);
@@ -28,7 +28,8 @@ public:
 signals:
     void Selected(int id);
     /** Follows Selected() with its text. */
-    void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
+    void Edited(const QString& what, const QString& merge,
+                const AnimText::studio::window::form::TextChange& change);
     void CountChanged(int count);
 
 protected:
@@ -39,11 +40,11 @@ private:
     struct Fix
     {
         QString words;
-        TextChange change;
+        form::TextChange change;
     };
     struct Row
     {
-        Finding finding;
+        validate::Finding finding;
         int id; // id of the text; 0 for none
         Fix fix;
         QString words;
@@ -51,13 +52,13 @@ private:
     };
 
     /** The fix for @p finding on a display of that size. */
-    static Fix FixFor(const Finding& finding, const QSize& display);
+    static Fix FixFor(const validate::Finding& finding, const QSize& display);
     QWidget* MakeRow(int index);
 
     QVBoxLayout* list;
     QList<Row> rows;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::findings
 
 #endif

@@ -10,40 +10,42 @@
 #include <QSet>
 #include <QToolButton>
 
-namespace AnimText {
+namespace AnimText::studio::window::form {
 namespace {
 
 /** Whether the motion picker, the text field or the layout handles the attribute. */
-bool IsElsewhere(const Attribute& attribute)
+bool IsElsewhere(const scene::Attribute& attribute)
 {
     static const QSet<QByteArray> elsewhere{"Text",       "PathData",        "DescentVector",
                                             "EffectType", "AnimationEffect", "ContinueStyle",
                                             "type"};
-    const bool isLaidOut = attribute.home == Home::TextAttribute ||
-                           attribute.home == Home::TextWidth || attribute.home == Home::TextHeight;
+    const bool isLaidOut = attribute.home == scene::Home::TextAttribute ||
+                           attribute.home == scene::Home::TextWidth ||
+                           attribute.home == scene::Home::TextHeight;
     return isLaidOut || elsewhere.contains(attribute.key);
 }
 
-QString UnitOf(const Attribute& attribute)
+QString UnitOf(const scene::Attribute& attribute)
 {
     const QByteArray unit = attribute.unit;
     return unit == "units of 100 ms" ? AttributeForm::tr("s")
            : unit == "pixels"        ? AttributeForm::tr("px")
            : unit == "times"         ? AttributeForm::tr("×")
            : unit == "steps"         ? AttributeForm::tr("of %1").arg(attribute.most)
-                                     : Translated(attribute.unit);
+                                     : scene::Translated(attribute.unit);
 }
 
 template <typename Value>
-TextSetting SettingOf(const QString& name, Value Setting::*member)
+TextSetting SettingOf(const QString& name, Value layout::Setting::*member)
 {
-    return {name, QString(), [member](const SignText& text) { return int(text.source.*member); },
-            [member](SignText* text, int number) { text->source.*member = Value(number); }};
+    return {name, QString(),
+            [member](const model::SignText& text) { return int(text.source.*member); },
+            [member](model::SignText* text, int number) { text->source.*member = Value(number); }};
 }
 
 } // namespace
 
-QString KeyOf(const Finding& finding)
+QString KeyOf(const validate::Finding& finding)
 {
     return finding.place.section(QLatin1Char('.'), -1).section(QLatin1Char('['), 0, 0);
 }
@@ -51,9 +53,9 @@ QString KeyOf(const Finding& finding)
 AttributeForm::AttributeForm()
 {
     table->setContentsMargins(0, 0, 0, 0);
-    table->setSpacing(grid);
-    table->setColumnMinimumWidth(0, LabelWidth(font()));
-    table->setColumnMinimumWidth(1, markWidth);
+    table->setSpacing(basics::grid);
+    table->setColumnMinimumWidth(0, basics::LabelWidth(font()));
+    table->setColumnMinimumWidth(1, basics::markWidth);
     table->setColumnStretch(2, 1);
 }
 
@@ -64,45 +66,47 @@ void AttributeForm::AddSection(const QString& heading, QWidget* widget)
     bold.setBold(true);
     label->setFont(bold);
     if (table->count() > 0)
-        table->setRowMinimumHeight(table->rowCount(), 3 * grid);
+        table->setRowMinimumHeight(table->rowCount(), 3 * basics::grid);
     table->addWidget(label, table->rowCount(), 0, 1, 3);
     if (widget)
         table->addWidget(widget, table->rowCount(), 0, 1, 3);
 }
 
-void AttributeForm::AddAttributes(Group group, Thumbnails* thumbnails)
+void AttributeForm::AddAttributes(scene::Group group, motion::Thumbnails* thumbnails)
 {
-    for (const Attribute& attribute : Attributes()) {
+    for (const scene::Attribute& attribute : scene::Attributes()) {
         if (attribute.group != group || IsElsewhere(attribute))
             continue;
-        const TextSetting setting{
-            Translated(attribute.name), QLatin1String(attribute.key),
-            [&attribute](const SignText& text) { return NumberOf(text.node, attribute); },
-            [&attribute](SignText* text, int number) {
-                SetNumber(&text->node, attribute, number);
-            }};
+        const TextSetting setting{scene::Translated(attribute.name), QLatin1String(attribute.key),
+                                  [&attribute](const model::SignText& text) {
+                                      return scene::NumberOf(text.node, attribute);
+                                  },
+                                  [&attribute](model::SignText* text, int number) {
+                                      scene::SetNumber(&text->node, attribute, number);
+                                  }};
         AddRow(setting, FieldOf(attribute, setting, thumbnails),
-               [&attribute](const SignText& text) {
+               [&attribute](const model::SignText& text) {
                    QString why;
-                   IsUsed(attribute, text.node, &why);
+                   scene::IsUsed(attribute, text.node, &why);
                    return why;
                });
         rows.last().meaning =
-            QStringLiteral("%1 (%2)").arg(Translated(attribute.meaning), setting.key);
+            QStringLiteral("%1 (%2)").arg(scene::Translated(attribute.meaning), setting.key);
     }
 }
 
-QWidget* AttributeForm::FieldOf(const Attribute& attribute, const TextSetting& setting,
-                                Thumbnails* thumbnails)
+QWidget* AttributeForm::FieldOf(const scene::Attribute& attribute, const TextSetting& setting,
+                                motion::Thumbnails* thumbnails)
 {
     if (setting.key == QLatin1String("neonEffect"))
         return MakeNeon(setting, thumbnails);
     switch (attribute.kind) {
-    case ValueKind::Pair: return MakePair(attribute, setting);
-    case ValueKind::File: return MakeFile(setting);
-    case ValueKind::Color: return MakeColor(setting);
-    case ValueKind::Choice: return MakeChoice(setting, ChoicesOf(attribute), attribute.least);
-    case ValueKind::Flag: return MakeFlag(setting, QString());
+    case scene::ValueKind::Pair: return MakePair(attribute, setting);
+    case scene::ValueKind::File: return MakeFile(setting);
+    case scene::ValueKind::Color: return MakeColor(setting);
+    case scene::ValueKind::Choice:
+        return MakeChoice(setting, scene::ChoicesOf(attribute), attribute.least);
+    case scene::ValueKind::Flag: return MakeFlag(setting, QString());
     default: // the file has tenths of seconds, which are shown as seconds
         return MakeNumber(setting, UnitOf(attribute), attribute.least,
                           qMin(attribute.most, 1000000),
@@ -113,29 +117,31 @@ QWidget* AttributeForm::FieldOf(const Attribute& attribute, const TextSetting& s
 void AttributeForm::AddLayout()
 {
     // The choices are in the order of the enumerations.
-    const TextSetting fit = SettingOf(tr("Size"), &TextSource::fit);
+    const TextSetting fit = SettingOf(tr("Size"), &author::TextSource::fit);
     AddRow(fit,
            MakeChoice(fit, {tr("Sizes as set"), tr("Fit height"), tr("Fit height and width")}));
-    const TextSetting align = SettingOf(tr("Horizontal"), &TextSource::align);
+    const TextSetting align = SettingOf(tr("Horizontal"), &author::TextSource::align);
     AddRow(align, MakeChoice(align, {tr("Reading start"), tr("Left"), tr("Center"), tr("Right")}),
-           [](const SignText& text) {
-               return MotionOf(text.node).IsSideways()
+           [](const model::SignText& text) {
+               return scene::MotionOf(text.node).IsSideways()
                           ? tr("Text that scrolls sideways cannot be aligned.")
                           : QString();
            });
-    const TextSetting valign = SettingOf(tr("Vertical"), &TextSource::valign);
+    const TextSetting valign = SettingOf(tr("Vertical"), &author::TextSource::valign);
     AddRow(valign, MakeChoice(valign, {tr("Top"), tr("Middle"), tr("Bottom")}));
-    const TextSetting padding = SettingOf(tr("Padding"), &TextSource::padding);
+    const TextSetting padding = SettingOf(tr("Padding"), &author::TextSource::padding);
     auto* pixels = MakeNumber(padding, tr("px"), 0, 1000);
-    fills.prepend([pixels](const SignText& text) {
+    fills.prepend([pixels](const model::SignText& text) {
         const int side = qMin(text.node.size.width(), text.node.size.height());
         pixels->SetLimits(0, qMax(0, (side - 1) / 2));
     });
     AddRow(padding, pixels);
-    const TextSetting pages = SettingOf(tr("Pages"), &TextSource::keepsWords);
-    AddRow(pages, MakeFlag(pages, tr("Break pages between words")), [](const SignText& text) {
-        return MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.") : QString();
-    });
+    const TextSetting pages = SettingOf(tr("Pages"), &author::TextSource::keepsWords);
+    AddRow(pages, MakeFlag(pages, tr("Break pages between words")),
+           [](const model::SignText& text) {
+               return scene::MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.")
+                                                            : QString();
+           });
 }
 
 void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const Unused& unused)
@@ -154,14 +160,14 @@ void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const Unu
     rows.append({setting.key, QString(), label, mark, field, unused});
 }
 
-NumberField* AttributeForm::MakeNumber(const TextSetting& setting, const QString& unit, int least,
-                                       int most, int perUnit)
+basics::NumberField* AttributeForm::MakeNumber(const TextSetting& setting, const QString& unit,
+                                               int least, int most, int perUnit)
 {
-    auto* number = new NumberField(this);
+    auto* number = new basics::NumberField(this);
     number->SetUnit(unit, perUnit);
     number->SetLimits(least, most);
-    fills.append([=](const SignText& text) { number->ShowNumber(setting.read(text)); });
-    connect(number, &NumberField::NumberChanged, this,
+    fills.append([=](const model::SignText& text) { number->ShowNumber(setting.read(text)); });
+    connect(number, &basics::NumberField::NumberChanged, this,
             [=](int value, int gesture) { Tell(setting, value, gesture); });
     return number;
 }
@@ -171,8 +177,9 @@ QWidget* AttributeForm::MakeChoice(const TextSetting& setting, const QStringList
 {
     auto* box = new QComboBox(this);
     box->addItems(choices);
-    LetShrink(box);
-    fills.append([=](const SignText& text) { box->setCurrentIndex(setting.read(text) - least); });
+    basics::LetShrink(box);
+    fills.append(
+        [=](const model::SignText& text) { box->setCurrentIndex(setting.read(text) - least); });
     connect(box, qOverload<int>(&QComboBox::activated), this,
             [=](int index) { Tell(setting, least + index); });
     return box;
@@ -181,32 +188,33 @@ QWidget* AttributeForm::MakeChoice(const TextSetting& setting, const QStringList
 QWidget* AttributeForm::MakeFlag(const TextSetting& setting, const QString& words)
 {
     auto* box = new QCheckBox(words, this);
-    fills.append([=](const SignText& text) { box->setChecked(setting.read(text) == 1); });
+    fills.append([=](const model::SignText& text) { box->setChecked(setting.read(text) == 1); });
     connect(box, &QCheckBox::clicked, this, [=](bool on) { Tell(setting, on ? 1 : 0); });
     return box;
 }
 
-QWidget* AttributeForm::MakeNeon(const TextSetting& setting, Thumbnails* thumbnails)
+QWidget* AttributeForm::MakeNeon(const TextSetting& setting, motion::Thumbnails* thumbnails)
 {
     auto* box = new NeonBox(thumbnails, this);
-    fills.append([=](const SignText& text) { box->ShowStyle(setting.read(text)); });
+    fills.append([=](const model::SignText& text) { box->ShowStyle(setting.read(text)); });
     connect(box, qOverload<int>(&QComboBox::activated), this,
             [=] { Tell(setting, box->currentData().toInt()); });
     return box;
 }
 
-QWidget* AttributeForm::MakePair(const Attribute& attribute, const TextSetting& setting)
+QWidget* AttributeForm::MakePair(const scene::Attribute& attribute, const TextSetting& setting)
 {
     auto* pair = new QWidget(this);
     auto* line = new QHBoxLayout(pair);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(grid);
+    line->setSpacing(basics::grid);
     const auto add = [&](const QString& name, const QString& prefix,
-                         int& (*side)(SceneNode & node)) {
-        const TextSetting own{setting.name, prefix, // x and y are two undo steps
+                         int& (*side)(scene::SceneNode & node)) {
+        const TextSetting own{
+            setting.name, prefix, // x and y are two undo steps
 
-                              [side](SignText text) { return side(text.node); },
-                              [side](SignText* text, int number) { side(text->node) = number; }};
+            [side](model::SignText text) { return side(text.node); },
+            [side](model::SignText* text, int number) { side(text->node) = number; }};
         auto* number = MakeNumber(own, UnitOf(attribute), attribute.least, attribute.most);
         number->setAccessibleName(name);
         number->setToolTip(name);
@@ -214,11 +222,11 @@ QWidget* AttributeForm::MakePair(const Attribute& attribute, const TextSetting& 
         line->addWidget(number);
     };
     if (setting.key == QLatin1String("size")) {
-        add(tr("Width"), tr("w "), [](SceneNode& n) -> int& { return n.size.rwidth(); });
-        add(tr("Height"), tr("h "), [](SceneNode& n) -> int& { return n.size.rheight(); });
+        add(tr("Width"), tr("w "), [](scene::SceneNode& n) -> int& { return n.size.rwidth(); });
+        add(tr("Height"), tr("h "), [](scene::SceneNode& n) -> int& { return n.size.rheight(); });
     } else {
-        add(tr("Left"), tr("x "), [](SceneNode& n) -> int& { return n.pos.rx(); });
-        add(tr("Top"), tr("y "), [](SceneNode& n) -> int& { return n.pos.ry(); });
+        add(tr("Left"), tr("x "), [](scene::SceneNode& n) -> int& { return n.pos.rx(); });
+        add(tr("Top"), tr("y "), [](scene::SceneNode& n) -> int& { return n.pos.ry(); });
     }
     pair->setFocusProxy(line->itemAt(0)->widget());
     return pair;
@@ -230,7 +238,7 @@ QWidget* AttributeForm::MakeFile(const TextSetting& setting)
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);
     button->setAutoRaise(true);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    fills.append([button, key = setting.key](const SignText& text) {
+    fills.append([button, key = setting.key](const model::SignText& text) {
         const QString file = text.node.files.value(key);
         button->setText(file.isEmpty() ? tr("Choose…") : QFileInfo(file).fileName());
     });
@@ -240,7 +248,7 @@ QWidget* AttributeForm::MakeFile(const TextSetting& setting)
             tr("Pictures (*.png *.jpg *.jpeg *.gif *.bmp);;All files (*)"));
         if (!file.isEmpty())
             emit Edited(setting.name, QString(),
-                        [=](SignText* text) { text->node.files[setting.key] = file; });
+                        [=](model::SignText* text) { text->node.files[setting.key] = file; });
     });
     return button;
 }
@@ -250,7 +258,7 @@ QWidget* AttributeForm::MakeColor(const TextSetting& setting)
     auto* button = new QToolButton(this);
     button->setAutoRaise(true);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    fills.append([=](const SignText& text) {
+    fills.append([=](const model::SignText& text) {
         QPixmap pixmap(32, 16);
         const QColor color = QColor::fromRgb(QRgb(setting.read(text)));
         pixmap.fill(color);
@@ -273,10 +281,10 @@ void AttributeForm::Tell(const TextSetting& setting, int number, int gesture)
                 gesture < 0
                     ? QString()
                     : QStringLiteral("%1 %2 %3").arg(setting.name, setting.key).arg(gesture),
-                [=](SignText* text) { setting.write(text, number); });
+                [=](model::SignText* text) { setting.write(text, number); });
 }
 
-void AttributeForm::Show(const SignText& text)
+void AttributeForm::Show(const model::SignText& text)
 {
     for (const auto& fill : fills)
         fill(text);
@@ -285,8 +293,8 @@ void AttributeForm::Show(const SignText& text)
         // A setting that does not apply is dimmed, but can still be changed.
         QPalette colors = palette();
         if (!why.isEmpty()) {
-            const QColor quiet =
-                Mixed(colors.color(QPalette::WindowText), colors.color(QPalette::Window), 0.55);
+            const QColor quiet = basics::Mixed(colors.color(QPalette::WindowText),
+                                               colors.color(QPalette::Window), 0.55);
             for (QPalette::ColorRole role :
                  {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
                 colors.setColor(role, quiet);
@@ -303,20 +311,21 @@ void AttributeForm::Show(const SignText& text)
     }
 }
 
-void AttributeForm::SetFindings(const QList<Finding>& findings)
+void AttributeForm::SetFindings(const QList<validate::Finding>& findings)
 {
     for (const Row& row : rows) {
         QStringList words;
-        for (const Finding& finding : findings) {
+        for (const validate::Finding& finding : findings) {
             if (KeyOf(finding) == row.key)
                 words.append(tr("Found %1, expected %2. %3")
                                  .arg(finding.found, finding.expected,
                                       QCoreApplication::translate("Rules", finding.GetRule().why)));
         }
         row.mark->setToolTip(words.join(QLatin1Char('\n')));
-        row.mark->setPixmap(
-            words.isEmpty() ? QPixmap() : Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
+        row.mark->setPixmap(words.isEmpty()
+                                ? QPixmap()
+                                : basics::Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
     }
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form

@@ -16,20 +16,22 @@
 
 #include <functional>
 
-namespace AnimText {
-
+namespace AnimText::studio::window::motion {
 class Thumbnails;
+}
+
+namespace AnimText::studio::window::form {
 
 /** Changes the text that is edited. */
-using TextChange = std::function<void(SignText* text)>;
+using TextChange = std::function<void(model::SignText* text)>;
 
 /** A number of a text. */
 struct TextSetting
 {
     QString name;
     QString key; ///< in the scene file, if it is there
-    std::function<int(const SignText& text)> read;
-    std::function<void(SignText* text, int number)> write;
+    std::function<int(const model::SignText& text)> read;
+    std::function<void(model::SignText* text, int number)> write;
 };
 
 /** Sections with rows of a label, a mark for findings, and a field. */
@@ -46,21 +48,22 @@ public:
      * Adds the attributes of @p group, except those with a widget elsewhere.
      * @param thumbnails paints the pictures of choices
      */
-    void AddAttributes(Group group, Thumbnails* thumbnails);
+    void AddAttributes(scene::Group group, motion::Thumbnails* thumbnails);
     /** Adds how a text is laid out in its area. */
     void AddLayout();
 
-    void Show(const SignText& text);
+    void Show(const model::SignText& text);
     /** Shows findings about the text beside its fields. */
-    void SetFindings(const QList<Finding>& findings);
+    void SetFindings(const QList<validate::Finding>& findings);
 
 signals:
     /** @param merge consecutive changes with the same value are one undo step */
-    void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
+    void Edited(const QString& what, const QString& merge,
+                const AnimText::studio::window::form::TextChange& change);
 
 private:
     /** Why a text does not use a setting; empty if it does. */
-    using Unused = std::function<QString(const SignText& text)>;
+    using Unused = std::function<QString(const model::SignText& text)>;
     struct Row
     {
         QString key;
@@ -72,26 +75,26 @@ private:
     };
 
     void AddRow(const TextSetting& setting, QWidget* field, const Unused& unused = {});
-    QWidget* FieldOf(const Attribute& attribute, const TextSetting& setting,
-                     Thumbnails* thumbnails);
-    NumberField* MakeNumber(const TextSetting& setting, const QString& unit, int least, int most,
-                            int perUnit = 1);
+    QWidget* FieldOf(const scene::Attribute& attribute, const TextSetting& setting,
+                     motion::Thumbnails* thumbnails);
+    basics::NumberField* MakeNumber(const TextSetting& setting, const QString& unit, int least,
+                                    int most, int perUnit = 1);
     QWidget* MakeChoice(const TextSetting& setting, const QStringList& choices, int least = 0);
     QWidget* MakeFlag(const TextSetting& setting, const QString& words);
-    QWidget* MakeNeon(const TextSetting& setting, Thumbnails* thumbnails);
-    QWidget* MakePair(const Attribute& attribute, const TextSetting& setting);
+    QWidget* MakeNeon(const TextSetting& setting, motion::Thumbnails* thumbnails);
+    QWidget* MakePair(const scene::Attribute& attribute, const TextSetting& setting);
     QWidget* MakeFile(const TextSetting& setting);
     QWidget* MakeColor(const TextSetting& setting);
     void Tell(const TextSetting& setting, int number, int gesture = -1);
 
     QGridLayout* table = new QGridLayout(this);
     QList<Row> rows;
-    QList<std::function<void(const SignText&)>> fills; // show a text in the fields
+    QList<std::function<void(const model::SignText&)>> fills; // show a text in the fields
 };
 
 /** The key of the setting that @p finding is about. */
-QString KeyOf(const Finding& finding);
+QString KeyOf(const validate::Finding& finding);
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form
 
 #endif

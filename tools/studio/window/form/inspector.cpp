@@ -6,11 +6,11 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-namespace AnimText {
+namespace AnimText::studio::window::form {
 
-Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
+Inspector::Inspector(motion::Thumbnails* thumbnails, QWidget* parent)
     : QScrollArea(parent)
-    , motions(new MotionPicker(thumbnails))
+    , motions(new motion::MotionPicker(thumbnails))
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -18,35 +18,38 @@ Inspector::Inspector(Thumbnails* thumbnails, QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* content = new QWidget(this);
     auto* both = new QVBoxLayout(content);
-    both->setContentsMargins(3 * grid, 2 * grid, 3 * grid, 3 * grid);
+    both->setContentsMargins(3 * basics::grid, 2 * basics::grid, 3 * basics::grid,
+                             3 * basics::grid);
     both->addWidget(ofDisplay);
     both->addWidget(ofText);
     both->addStretch(1);
     ofDisplay->AddSection(tr("Display"), displayForm);
     ofText->AddSection(tr("Text"), text);
     ofText->AddSection(tr("Motion"), motions);
-    ofText->AddAttributes(Group::Motion, thumbnails);
+    ofText->AddAttributes(scene::Group::Motion, thumbnails);
     ofText->AddSection(tr("Layout"));
     ofText->AddLayout();
     ofText->AddSection(tr("Place"));
-    ofText->AddAttributes(Group::Place, thumbnails);
+    ofText->AddAttributes(scene::Group::Place, thumbnails);
     ofText->AddSection(tr("Background"));
-    ofText->AddAttributes(Group::Background, thumbnails);
+    ofText->AddAttributes(scene::Group::Background, thumbnails);
     ofText->AddSection(tr("Letters"));
-    ofText->AddAttributes(Group::Text, thumbnails);
+    ofText->AddAttributes(scene::Group::Text, thumbnails);
     setWidget(content);
 
     connect(ofText, &AttributeForm::Edited, this, &Inspector::Edited);
-    connect(text, &TextPanel::Edited, this, [this](const StyledText& styled, int gesture) {
-        emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),
-                    [styled](SignText* edited) { edited->source.text = styled; });
-    });
-    connect(motions, &MotionPicker::Chosen, this, [this](bool scroll, int number) {
-        emit Edited(tr("Motion"), QString(), [scroll, number](SignText* edited) {
+    connect(text, &text::TextPanel::Edited, this,
+            [this](const layout::StyledText& styled, int gesture) {
+                emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),
+                            [styled](model::SignText* edited) { edited->source.text = styled; });
+            });
+    connect(motions, &motion::MotionPicker::Chosen, this, [this](bool scroll, int number) {
+        emit Edited(tr("Motion"), QString(), [scroll, number](model::SignText* edited) {
             auto& attributes = edited->node.attributes;
-            const NodeMotion old = MotionOf(edited->node);
-            const NodeMotion next{scroll ? Mode::Scroll : Mode::Entrance, number};
-            SetMotion(&edited->node, next);
+            const scene::NodeMotion old = scene::MotionOf(edited->node);
+            const scene::NodeMotion next{scroll ? scene::Mode::Scroll : scene::Mode::Entrance,
+                                         number};
+            scene::SetMotion(&edited->node, next);
             // Entrances and scrolls have separate speeds; keep the one that was set.
             if (attributes.contains(old.SpeedKey()))
                 attributes[next.SpeedKey()] = attributes.value(old.SpeedKey());
@@ -59,7 +62,7 @@ bool Inspector::eventFilter(QObject* object, QEvent* event)
 {
     const bool answer = QScrollArea::eventFilter(object, event);
     if (object == widget() && event->type() == QEvent::LayoutRequest)
-        setMinimumWidth(ofText->minimumSizeHint().width() + 6 * grid +
+        setMinimumWidth(ofText->minimumSizeHint().width() + 6 * basics::grid +
                         verticalScrollBar()->sizeHint().width());
     return answer;
 }
@@ -70,7 +73,7 @@ void Inspector::resizeEvent(QResizeEvent* event)
     motions->SetRoom(viewport()->height());
 }
 
-void Inspector::Show(const Sign& sign, const SignText* shown)
+void Inspector::Show(const model::Sign& sign, const model::SignText* shown)
 {
     ofText->setVisible(shown != nullptr);
     ofDisplay->setVisible(shown == nullptr);
@@ -83,4 +86,4 @@ void Inspector::Show(const Sign& sign, const SignText* shown)
     ofText->Show(*shown);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form

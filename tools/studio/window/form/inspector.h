@@ -12,24 +12,25 @@
 
 #include <QScrollArea>
 
-namespace AnimText {
+namespace AnimText::studio::window::form {
 
 class Inspector : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    explicit Inspector(Thumbnails* thumbnails, QWidget* parent = nullptr);
+    explicit Inspector(motion::Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     /** Shows the text @p shown of @p sign, or the display's settings if it is null. */
-    void Show(const Sign& sign, const SignText* shown);
-    void SetFindings(const QList<Finding>& findings) { ofText->SetFindings(findings); }
-    TextPanel* Text() const { return text; }
-    MotionPicker* Motions() const { return motions; }
-    DisplayForm* Display() const { return displayForm; }
+    void Show(const model::Sign& sign, const model::SignText* shown);
+    void SetFindings(const QList<validate::Finding>& findings) { ofText->SetFindings(findings); }
+    text::TextPanel* Text() const { return text; }
+    motion::MotionPicker* Motions() const { return motions; }
+    display::DisplayForm* Display() const { return displayForm; }
 
 signals:
-    void Edited(const QString& what, const QString& merge, const AnimText::TextChange& change);
+    void Edited(const QString& what, const QString& merge,
+                const AnimText::studio::window::form::TextChange& change);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -39,11 +40,11 @@ private:
     AttributeForm* ofText = new AttributeForm; // settings of a text
     AttributeForm* ofDisplay =
         new AttributeForm; // settings of the display, while no text is selected
-    DisplayForm* displayForm = new DisplayForm;
-    TextPanel* text = new TextPanel;
-    MotionPicker* motions;
+    display::DisplayForm* displayForm = new display::DisplayForm;
+    text::TextPanel* text = new text::TextPanel;
+    motion::MotionPicker* motions;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form
 
 #endif

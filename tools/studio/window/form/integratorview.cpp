@@ -7,7 +7,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-namespace AnimText {
+namespace AnimText::studio::window::form {
 
 IntegratorView::IntegratorView(QWidget* parent)
     : QWidget(parent)
@@ -33,18 +33,18 @@ IntegratorView::IntegratorView(QWidget* parent)
         tr("Plays the scene with a second plugin library, too, and marks the pixels that differ"));
     noLibrary->setText(tr("Stop comparing"));
     noLibrary->hide();
-    differing->setFont(TabularFont(font()));
+    differing->setFont(basics::TabularFont(font()));
 
     auto* top = new QHBoxLayout;
-    top->setSpacing(grid);
+    top->setSpacing(basics::grid);
     for (QWidget* part : QList<QWidget*>{operation, nth, fail, clear, failing})
         top->addWidget(part);
     top->addStretch(1);
     for (QWidget* part : QList<QWidget*>{differing, library, noLibrary})
         top->addWidget(part);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
-    layout->setSpacing(grid);
+    layout->setContentsMargins(2 * basics::grid, basics::grid, 2 * basics::grid, basics::grid);
+    layout->setSpacing(basics::grid);
     layout->addLayout(top);
     layout->addWidget(calls, 1);
 
@@ -71,7 +71,7 @@ void IntegratorView::SetFaults(const QVector<QPair<qint32, qint32>>& wanted)
                          .arg(fault.second));
     failing->setText(
         words.isEmpty() ? QString() : tr("Made to fail: %1").arg(words.join(QStringLiteral(", "))));
-    SetInk(failing, Warning(palette()));
+    basics::SetInk(failing, basics::Warning(palette()));
     clear->setEnabled(!faults.isEmpty());
     emit FaultsChanged();
 }
@@ -99,4 +99,4 @@ void IntegratorView::SetLibrary(const QString& path)
     emit LibraryChosen(path);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form

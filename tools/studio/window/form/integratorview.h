@@ -14,7 +14,7 @@
 #include <QSpinBox>
 #include <QToolButton>
 
-namespace AnimText {
+namespace AnimText::studio::window::form {
 
 class IntegratorView : public QWidget
 {
@@ -56,6 +56,6 @@ private:
     QLabel* differing = new QLabel(this);
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form
 
 #endif

@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
-namespace AnimText {
+namespace AnimText::studio::window::form {
 namespace {
 
 constexpr int borders = 28; // drawn styles; those above show the user's picture
@@ -18,7 +18,7 @@ constexpr QSize fieldIcon{64, 16}; // in the closed field
 
 } // namespace
 
-NeonBox::NeonBox(Thumbnails* thumbnails, QWidget* parent)
+NeonBox::NeonBox(motion::Thumbnails* thumbnails, QWidget* parent)
     : QComboBox(parent)
     , thumbnails(thumbnails)
 {
@@ -26,16 +26,17 @@ NeonBox::NeonBox(Thumbnails* thumbnails, QWidget* parent)
         addItem(tr("Style %1").arg(style), style);
     addItem(tr("Picture"), borders + 1);
     for (int row = 0; row < borders; ++row) // keeps the size when pictures arrive
-        setItemData(row, thumbnailSize + QSize(0, grid), Qt::SizeHintRole);
+        setItemData(row, motion::thumbnailSize + QSize(0, basics::grid), Qt::SizeHintRole);
     setMaxVisibleItems(rowsInSight);
     setIconSize(fieldIcon);
     setItemDelegate(new QStyledItemDelegate(this)); // it uses the list's icon size
-    view()->setIconSize(thumbnailSize);
-    LetShrink(this);
-    view()->setMinimumWidth(thumbnailSize.width() + 8 * grid + // wider than the field
+    view()->setIconSize(motion::thumbnailSize);
+    basics::LetShrink(this);
+    view()->setMinimumWidth(motion::thumbnailSize.width() +
+                            8 * basics::grid + // wider than the field
                             fontMetrics().horizontalAdvance(itemText(borders - 1)) +
                             style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    beat.setInterval(tickLength);
+    beat.setInterval(player::tickLength);
     connect(&beat, &QTimer::timeout, this, &NeonBox::ShowPictures);
 }
 
@@ -67,7 +68,7 @@ void NeonBox::ShowPictures()
         const QModelIndex index = model()->index(row, modelColumn(), rootModelIndex());
         const bool isSeen = view()->viewport()->rect().intersects(view()->visualRect(index));
         const QImage picture =
-            isSeen ? thumbnails->Picture(neonThumbnails + row + 1, tick) : QImage();
+            isSeen ? thumbnails->Picture(motion::neonThumbnails + row + 1, tick) : QImage();
         if (picture.isNull())
             continue;
         QPixmap lit(picture.size());
@@ -77,4 +78,4 @@ void NeonBox::ShowPictures()
     }
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form

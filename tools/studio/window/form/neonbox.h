@@ -8,9 +8,11 @@
 #include <QComboBox>
 #include <QTimer>
 
-namespace AnimText {
-
+namespace AnimText::studio::window::motion {
 class Thumbnails;
+}
+
+namespace AnimText::studio::window::form {
 
 /** The data of its items are the styles. */
 class NeonBox : public QComboBox
@@ -19,7 +21,7 @@ class NeonBox : public QComboBox
 
 public:
     /** @param thumbnails paints the styles while the list is open; null shows only names */
-    explicit NeonBox(Thumbnails* thumbnails, QWidget* parent = nullptr);
+    explicit NeonBox(motion::Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void ShowStyle(int style);
     void showPopup() override;
@@ -28,11 +30,11 @@ public:
 private:
     void ShowPictures();
 
-    Thumbnails* thumbnails;
+    motion::Thumbnails* thumbnails;
     QTimer beat;
     int tick = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::form
 
 #endif

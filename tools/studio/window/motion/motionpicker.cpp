@@ -13,7 +13,7 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-namespace AnimText {
+namespace AnimText::studio::window::motion {
 namespace {
 
 constexpr int cardPadding = 4; // logical pixels
@@ -36,7 +36,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
         int width = thumbnailSize.width();
-        for (const Motion& motion : Effects() + Scrolls())
+        for (const scene::Motion& motion : scene::Effects() + scene::Scrolls())
             width =
                 qMax(width, option.fontMetrics.horizontalAdvance(MotionWords(motion.title)) + 2);
         return {width + 2 * cardPadding,
@@ -52,7 +52,8 @@ public:
         if (isChosen)
             painter->fillRect(box, accent);
         else if (option.state & QStyle::State_MouseOver)
-            painter->fillRect(box, Mixed(accent, option.palette.color(QPalette::Base), 0.8));
+            painter->fillRect(box,
+                              basics::Mixed(accent, option.palette.color(QPalette::Base), 0.8));
         const QRect screen(box.left() + cardPadding, box.top() + cardPadding, thumbnailSize.width(),
                            thumbnailSize.height());
         painter->fillRect(screen, Qt::black);
@@ -85,7 +86,7 @@ public:
         : QWidget(picker)
         , picker(picker)
     {
-        setFixedHeight(2 * grid);
+        setFixedHeight(2 * basics::grid);
         setCursor(Qt::SplitVCursor);
         setToolTip(MotionPicker::tr("Drag to resize the list"));
     }
@@ -99,7 +100,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        painter.setPen(Quiet(palette()));
+        painter.setPen(basics::Quiet(palette()));
         for (int i = -2; i <= 2; ++i)
             painter.drawPoint(width() / 2 + 4 * i, height() / 2);
     }
@@ -119,7 +120,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
     family->addItem(tr("All families"));
-    for (const Motion& motion : Effects() + Scrolls()) {
+    for (const scene::Motion& motion : scene::Effects() + scene::Scrolls()) {
         auto* item = new QStandardItem(MotionWords(motion.title));
         item->setEditable(false);
         item->setData(MotionWords(motion.summary), Qt::AccessibleDescriptionRole);
@@ -131,7 +132,7 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
             family->addItem(MotionWords(motion.family), QLatin1String(motion.family));
     }
     family->setAccessibleName(tr("Motion family"));
-    LetShrink(family);
+    basics::LetShrink(family);
     filtered.setSourceModel(&motions);
     filtered.setFilterRole(WantedRole);
     filtered.setFilterFixedString(QVariant(true).toString());
@@ -151,12 +152,12 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
 
     auto* top = new QHBoxLayout;
-    top->setSpacing(grid);
+    top->setSpacing(basics::grid);
     top->addWidget(search, 1);
     top->addWidget(family);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(grid);
+    layout->setSpacing(basics::grid);
     layout->addLayout(top);
     layout->addWidget(list, 1);
     layout->addWidget(new HeightHandle(this));
@@ -172,16 +173,16 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
             });
     chosenHeight = QSettings().value(heightKey, 0).toInt();
     SetRoom(0);
-    beat.setInterval(tickLength);
+    beat.setInterval(player::tickLength);
     connect(&beat, &QTimer::timeout, this, &MotionPicker::LookAtSight);
     Filter();
 }
 
-void MotionPicker::Show(const SignText& text)
+void MotionPicker::Show(const model::SignText& text)
 {
-    const Motion* motion = MotionOf(text.node).Row();
-    const bool scroll = MotionOf(text.node).IsScroll();
-    shownRow = motion ? (scroll ? Effects().size() : 0) + motion->number : -1;
+    const scene::Motion* motion = scene::MotionOf(text.node).Row();
+    const bool scroll = scene::MotionOf(text.node).IsScroll();
+    shownRow = motion ? (scroll ? scene::Effects().size() : 0) + motion->number : -1;
     const QModelIndex index = filtered.mapFromSource(motions.index(shownRow, 0));
     if (index.isValid())
         list->setCurrentIndex(index);
@@ -204,12 +205,13 @@ void MotionPicker::SetListHeight(int points)
 
 void MotionPicker::Filter()
 {
-    const QList<Motion> all = Effects() + Scrolls();
+    const QList<scene::Motion> all = scene::Effects() + scene::Scrolls();
     for (int row = 0; row < all.size(); ++row) {
-        const Motion& motion = all.at(row);
+        const scene::Motion& motion = all.at(row);
         const bool isOfFamily =
             family->currentIndex() == 0 || family->currentData() == QLatin1String(motion.family);
-        motions.item(row)->setData(isOfFamily && Matches(motion, search->text()), WantedRole);
+        motions.item(row)->setData(isOfFamily && scene::Matches(motion, search->text()),
+                                   WantedRole);
     }
     list->setCurrentIndex(filtered.mapFromSource(motions.index(shownRow, 0)));
 }
@@ -217,7 +219,7 @@ void MotionPicker::Filter()
 void MotionPicker::Choose(const QModelIndex& index)
 {
     const int row = filtered.mapToSource(index).row();
-    const int effects = Effects().size();
+    const int effects = scene::Effects().size();
     if (row >= 0 && row != shownRow)
         emit Chosen(row >= effects, row >= effects ? row - effects : row);
 }
@@ -277,4 +279,4 @@ bool MotionPicker::eventFilter(QObject* object, QEvent* event)
     return QWidget::eventFilter(object, event);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::motion

@@ -14,7 +14,7 @@
 #include <QStandardItemModel>
 #include <QTimer>
 
-namespace AnimText {
+namespace AnimText::studio::window::motion {
 
 class Thumbnails;
 
@@ -28,7 +28,7 @@ public:
     /** @param thumbnails paints the visible motions; null shows only names */
     explicit MotionPicker(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
-    void Show(const SignText& text);
+    void Show(const model::SignText& text);
     /** Sets the panel's height; the list uses a share of it unless it was resized by hand. */
     void SetRoom(int points);
     /** Sets the list's height, also for the next start. */
@@ -62,6 +62,6 @@ private:
     int tick = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::motion
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::window::motion {
 namespace {
 
 constexpr int plainEffect = 4; // shown before a neon background: Typewriter
@@ -12,12 +12,12 @@ constexpr int shownUnits = 12; // first UTF-16 units of the text
 constexpr int quickSpeed = 7;
 
 /** The start of @p text in a thumbnail's size, with another motion or a neon background. */
-SignText Sample(SignText text, int shown)
+model::SignText Sample(model::SignText text, int shown)
 {
     const bool neon = shown >= neonThumbnails;
-    const bool scroll = !neon && shown >= Effects().size();
-    const int number = neon ? plainEffect : scroll ? shown - Effects().size() : shown;
-    StyledText& styled = text.source.text;
+    const bool scroll = !neon && shown >= scene::Effects().size();
+    const int number = neon ? plainEffect : scroll ? shown - scene::Effects().size() : shown;
+    layout::StyledText& styled = text.source.text;
     int units = std::min(shownUnits, int(styled.text.size()));
     if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
         --units;
@@ -26,24 +26,24 @@ SignText Sample(SignText text, int shown)
         styled.text = Thumbnails::tr("Text");
     while (styled.runs.size() > 1 && styled.runs.last().begin >= styled.text.size())
         styled.runs.removeLast();
-    text.source.fit = Fit::Both;
+    text.source.fit = layout::Fit::Both;
     text.source.padding = 2;
-    text.source.align = Align::Center;
-    text.source.valign = VAlign::Middle;
+    text.source.align = layout::Align::Center;
+    text.source.valign = layout::VAlign::Middle;
     if (scroll)
-        text.source.fit = Fit::Height;
+        text.source.fit = layout::Fit::Height;
     const QColor color = styled.runs.first().color;
-    for (StyleRun& run : styled.runs)
+    for (layout::StyleRun& run : styled.runs)
         run.color = color;
-    SceneNode node;
+    scene::SceneNode node;
     node.size = thumbnailSize;
     node.hold = 10;
-    const NodeMotion motion{scroll ? Mode::Scroll : Mode::Entrance, number};
+    const scene::NodeMotion motion{scroll ? scene::Mode::Scroll : scene::Mode::Entrance, number};
     node.attributes = {
         {QStringLiteral("PlayTimes"), 1},
         {motion.SpeedKey(), quickSpeed},
         {QStringLiteral("Hollow"), text.node.attributes.value(QStringLiteral("Hollow"), 0)}};
-    SetMotion(&node, motion);
+    scene::SetMotion(&node, motion);
     if (neon) {
         node.hold = neonTicks;
         node.neonEffect = shown - neonThumbnails;
@@ -59,10 +59,10 @@ SignText Sample(SignText text, int shown)
 
 Thumbnails::Thumbnails(const QString& plugin, QObject* parent)
     : QObject(parent)
-    , link(plugin, WorkerLink::Haste::None)
+    , link(plugin, worker::WorkerLink::Haste::None)
 {
-    connect(&link, &WorkerLink::Answered, this, &Thumbnails::TakeAnswer);
-    connect(&link, &WorkerLink::Died, this, &Thumbnails::Finish);
+    connect(&link, &worker::WorkerLink::Answered, this, &Thumbnails::TakeAnswer);
+    connect(&link, &worker::WorkerLink::Died, this, &Thumbnails::Finish);
     pool.setMaxThreadCount(1);
 }
 
@@ -71,7 +71,7 @@ Thumbnails::~Thumbnails()
     pool.waitForDone();
 }
 
-void Thumbnails::SetText(const SignText& next)
+void Thumbnails::SetText(const model::SignText& next)
 {
     if (next.source == text.source && next.id == text.id &&
         next.node.attributes.value(QStringLiteral("Hollow")) ==
@@ -103,21 +103,21 @@ void Thumbnails::Next()
     currentText = textNumber;
     made.clear();
     pool.start([this, motion = current, from = text, of = ++generation] {
-        SignText sample = Sample(from, motion);
-        sample.layoutKey = LayoutKey(sample);
-        sample.layout = MakeLayout(sample);
-        Sign sign;
+        model::SignText sample = Sample(from, motion);
+        sample.layoutKey = model::LayoutKey(sample);
+        sample.layout = model::MakeLayout(sample);
+        model::Sign sign;
         sign.display = thumbnailSize;
         sign.texts = {sample};
         QString error;
-        const Scene scene = folder.Put(sign, -1, &error);
+        const scene::Scene scene = folder.Put(sign, -1, &error);
         if (!error.isEmpty()) { // the window reports it
             QMetaObject::invokeMethod(this, &Thumbnails::Finish);
             return;
         }
-        Order order;
+        worker::Order order;
         order.generation = of;
-        order.scene = SceneToJson(scene);
+        order.scene = scene::SceneToJson(scene);
         order.path = scene.path;
         order.last = (motion >= neonThumbnails ? neonTicks : loopTicks) - 1;
         QMetaObject::invokeMethod(this, [this, order, layout = sample.layout] {
@@ -127,13 +127,13 @@ void Thumbnails::Next()
     });
 }
 
-void Thumbnails::TakeAnswer(const Answer& answer)
+void Thumbnails::TakeAnswer(const worker::Answer& answer)
 {
     if (answer.generation != generation || current < 0)
         return;
-    if (answer.kind == Answer::Picture)
+    if (answer.kind == worker::Answer::Picture)
         made.append(answer.picture);
-    if (answer.kind == Answer::Idle || !answer.error.isEmpty())
+    if (answer.kind == worker::Answer::Idle || !answer.error.isEmpty())
         Finish();
 }
 
@@ -150,4 +150,4 @@ void Thumbnails::Finish()
     Next();
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::motion

@@ -14,7 +14,7 @@
 #include <QThreadPool>
 #include <QVector>
 
-namespace AnimText {
+namespace AnimText::studio::window::motion {
 
 constexpr QSize thumbnailSize{160, 40}; ///< pixels
 constexpr int neonThumbnails = 1000;
@@ -29,7 +29,7 @@ public:
     ~Thumbnails() override;
 
     /** Sets the text of all pictures; old pictures remain until new ones are ready. */
-    void SetText(const SignText& text);
+    void SetText(const model::SignText& text);
     /**
      * The picture of @p motion at @p tick of its loop; null until the worker has painted it.
      * @param motion an effect's number; a scroll's, after the effects; or neonThumbnails and a
@@ -48,23 +48,23 @@ private:
     };
 
     void Next();
-    void TakeAnswer(const Answer& answer);
+    void TakeAnswer(const worker::Answer& answer);
     void Finish();
 
-    WorkerLink link;
-    SceneFolder folder;
+    worker::WorkerLink link;
+    worker::SceneFolder folder;
     QThreadPool pool;
     QHash<int, Loop> loops; // by motion
     QList<int> waiting;
-    SignText text;
+    model::SignText text;
     int textNumber = 0;
     int current = -1; // the loop being painted; negative for none
     int currentText = 0;
     quint32 generation = 0;
     QVector<QImage> made;
-    std::shared_ptr<const Layout> playing; // keeps the layout's files
+    std::shared_ptr<const model::Layout> playing; // keeps the layout's files
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::motion
 
 #endif

@@ -18,9 +18,9 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 
-ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QString& plugin,
+ExportDialog::ExportDialog(const model::Sign& sign, const QString& scenePath, const QString& plugin,
                            const ExportView& view, QWidget* parent)
     : QDialog(parent)
     , sign(sign)
@@ -29,17 +29,19 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
     , view(view)
 {
     setWindowTitle(tr("Export a film"));
-    for (const FilmKind& kind : FilmKinds()) {
+    for (const film::FilmKind& kind : film::FilmKinds()) {
         const QString ending = QLatin1String(kind.ending);
-        format->addItem(kind.Has(FilmKind::Folder)  ? tr("Folder of PNGs")
-                        : kind.Has(FilmKind::Still) ? tr("PNG, one picture")
-                                                    : ending.mid(1).toUpper(),
+        format->addItem(kind.Has(film::FilmKind::Folder)  ? tr("Folder of PNGs")
+                        : kind.Has(film::FilmKind::Still) ? tr("PNG, one picture")
+                                                          : ending.mid(1).toUpper(),
                         ending);
     }
     scale->setRange(1, 16);
     scale->setSuffix(tr(" ×"));
     schedule->setChecked(view.schedule || sign.PageCount() > 1);
-    const auto seconds = [](int tick) { return SecondsText(qint64(tick) * tickLength); };
+    const auto seconds = [](int tick) {
+        return basics::SecondsText(qint64(tick) * player::tickLength);
+    };
     extent->addItem(tr("All of it"), QPoint(0, -1));
     if (view.loopFirst >= 0)
         extent->addItem(
@@ -74,23 +76,23 @@ ExportDialog::ExportDialog(const Sign& sign, const QString& scenePath, const QSt
         connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
     connect(start, &QPushButton::clicked, this, &ExportDialog::Begin);
     connect(close, &QPushButton::clicked, this, &ExportDialog::reject);
-    connect(&exporting, &Export::Progress, this, &ExportDialog::ShowProgress);
-    connect(&exporting, &Export::Ended, this, &ExportDialog::End);
+    connect(&exporting, &worker::Export::Progress, this, &ExportDialog::ShowProgress);
+    connect(&exporting, &worker::Export::Ended, this, &ExportDialog::End);
     Refresh();
 }
 
 void ExportDialog::LayOut()
 {
     auto* form = new QFormLayout;
-    form->setHorizontalSpacing(3 * grid);
-    form->setVerticalSpacing(2 * grid);
+    form->setHorizontalSpacing(3 * basics::grid);
+    form->setVerticalSpacing(2 * basics::grid);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     const auto withButton = [this](QWidget* field, const QString& words) {
         auto* button = new QToolButton(this);
         button->setToolTip(words);
         button->setAccessibleName(words);
         auto* layout = new QHBoxLayout;
-        layout->setSpacing(grid);
+        layout->setSpacing(basics::grid);
         layout->addWidget(field, 1);
         layout->addWidget(button);
         return qMakePair(layout, button);
@@ -99,7 +101,7 @@ void ExportDialog::LayOut()
     file.second->setText(tr("…"));
     connect(file.second, &QToolButton::clicked, this, &ExportDialog::Browse);
     const auto line = withButton(command, tr("Copy the command"));
-    line.second->setIcon(Icon(QStringLiteral("edit-copy")));
+    line.second->setIcon(basics::Icon(QStringLiteral("edit-copy")));
     line.second->setAutoRaise(true);
     connect(line.second, &QToolButton::clicked, this,
             [this] { QApplication::clipboard()->setText(command->text()); });
@@ -116,8 +118,9 @@ void ExportDialog::LayOut()
     buttons->addWidget(close);
     buttons->addWidget(start);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
-    layout->setSpacing(3 * grid);
+    layout->setContentsMargins(4 * basics::grid, 4 * basics::grid, 4 * basics::grid,
+                               4 * basics::grid);
+    layout->setSpacing(3 * basics::grid);
     layout->addLayout(form);
     layout->addWidget(progress);
     layout->addWidget(state);
@@ -127,9 +130,9 @@ void ExportDialog::LayOut()
     setMinimumWidth(560);
 }
 
-ExportSettings ExportDialog::Settings() const
+worker::ExportSettings ExportDialog::Settings() const
 {
-    ExportSettings settings;
+    worker::ExportSettings settings;
     settings.output = output->text();
     settings.scale = scale->value();
     settings.first = extent->currentData().toPoint().x();
@@ -137,7 +140,7 @@ ExportSettings ExportDialog::Settings() const
     if (lamps->isChecked()) {
         settings.pitch = view.pitch;
         // Even, for films that need even sides.
-        settings.scale = qMax(smallestLamp, (settings.scale + 1) / 2 * 2);
+        settings.scale = qMax(film::smallestLamp, (settings.scale + 1) / 2 * 2);
     }
     settings.schedule = schedule->isChecked();
     settings.transparent = transparent->isChecked() && transparent->isEnabled();
@@ -148,7 +151,7 @@ ExportSettings ExportDialog::Settings() const
 void ExportDialog::FormatChosen()
 {
     QString path = output->text();
-    for (const FilmKind& kind : FilmKinds()) {
+    for (const film::FilmKind& kind : film::FilmKinds()) {
         if (path.endsWith(QLatin1String(kind.ending)))
             path.chop(int(qstrlen(kind.ending)));
     }
@@ -163,8 +166,8 @@ bool ExportDialog::IsOnePicture() const
 
 void ExportDialog::ExtentChosen()
 {
-    const FilmKind* kind = FilmKindOf(output->text());
-    if (IsOnePicture() != (kind && kind->Has(FilmKind::Still))) {
+    const film::FilmKind* kind = film::FilmKindOf(output->text());
+    if (IsOnePicture() != (kind && kind->Has(film::FilmKind::Still))) {
         format->setCurrentIndex(IsOnePicture() ? format->findData(QStringLiteral(".png")) : 0);
         FormatChosen();
     }
@@ -172,7 +175,7 @@ void ExportDialog::ExtentChosen()
 }
 
 /** Size and length of what will be made. */
-QString ExportDialog::ForecastOf(const ExportSettings& settings) const
+QString ExportDialog::ForecastOf(const worker::ExportSettings& settings) const
 {
     const QSize size = sign.display * settings.scale;
     const QString pixels = tr("%1 × %2 px").arg(size.width()).arg(size.height());
@@ -182,7 +185,7 @@ QString ExportDialog::ForecastOf(const ExportSettings& settings) const
         return pixels;
     if (pictures == 0)
         return tr("%1 · to the end of all texts").arg(pixels);
-    const QString seconds = SecondsText(qint64(pictures) * tickLength);
+    const QString seconds = basics::SecondsText(qint64(pictures) * player::tickLength);
     if (isPart || settings.schedule)
         return QStringLiteral("%1 · %2").arg(pixels, seconds);
     // The film lets the last page stand for one hold more.
@@ -194,20 +197,20 @@ void ExportDialog::Refresh()
 {
     if (output->text() != replaced)
         replaced.clear();
-    const FilmKind* kind = FilmKindOf(output->text());
-    const auto has = [kind](FilmKind::Trait trait) { return kind && kind->Has(trait); };
+    const film::FilmKind* kind = film::FilmKindOf(output->text());
+    const auto has = [kind](film::FilmKind::Trait trait) { return kind && kind->Has(trait); };
     if (kind)
         format->setCurrentIndex(format->findData(QLatin1String(kind->ending)));
-    const bool canBoth = has(FilmKind::LosslessAlpha);
-    transparent->setEnabled(has(FilmKind::Transparent) && !lamps->isChecked() &&
+    const bool canBoth = has(film::FilmKind::LosslessAlpha);
+    transparent->setEnabled(has(film::FilmKind::Transparent) && !lamps->isChecked() &&
                             (!lossless->isChecked() || canBoth));
-    lossless->setEnabled(has(FilmKind::Lossless) && (!transparent->isChecked() || canBoth));
+    lossless->setEnabled(has(film::FilmKind::Lossless) && (!transparent->isChecked() || canBoth));
     transparent->setToolTip(transparent->isEnabled() ? QString()
                             : lamps->isChecked()     ? tr("LEDs are on black.")
                                                      : tr("Films of this format cannot be."));
     lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
     // One picture is a PNG, and a PNG is one picture.
-    const bool isStill = has(FilmKind::Still);
+    const bool isStill = has(film::FilmKind::Still);
     const int picture = extent->findData(QPoint(view.tick, view.tick));
     if (kind && isStill != IsOnePicture() && picture >= 0)
         extent->setCurrentIndex(isStill ? picture : 0);
@@ -215,14 +218,15 @@ void ExportDialog::Refresh()
     start->setText(tr("Export"));
     start->setEnabled(kind && (!isStill || picture >= 0) && !sign.texts.isEmpty() &&
                       !exporting.IsRunning());
-    command->setText(RenderCommandLine(
+    command->setText(worker::RenderCommandLine(
         scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath, Settings()));
     command->setCursorPosition(0);
 }
 
 void ExportDialog::Say(const QString& words, bool isWarning)
 {
-    SetInk(state, isWarning ? Warning(palette()) : palette().color(QPalette::WindowText));
+    basics::SetInk(state,
+                   isWarning ? basics::Warning(palette()) : palette().color(QPalette::WindowText));
     state->setText(words);
     state->show();
 }
@@ -247,8 +251,8 @@ void ExportDialog::Begin()
         return;
     }
     QString error;
-    const Scene scene = folder.Put(sign, -1, &error);
-    if (!error.isEmpty() || !WriteWhole(scene.path, SceneToJson(scene), &error)) {
+    const scene::Scene scene = folder.Put(sign, -1, &error);
+    if (!error.isEmpty() || !files::WriteWhole(scene.path, scene::SceneToJson(scene), &error)) {
         End(error, false);
         return;
     }
@@ -300,4 +304,4 @@ void ExportDialog::reject()
         QDialog::reject();
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell

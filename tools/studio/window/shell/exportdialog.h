@@ -18,7 +18,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 
 /** What is looked at in the window, in ticks of the play that is exported. */
 struct ExportView
@@ -38,7 +38,7 @@ class ExportDialog : public QDialog
 
 public:
     /** @param scenePath the file of the sign, for the command; empty when it has none yet */
-    ExportDialog(const Sign& sign, const QString& scenePath, const QString& plugin,
+    ExportDialog(const model::Sign& sign, const QString& scenePath, const QString& plugin,
                  const ExportView& view = ExportView(), QWidget* parent = nullptr);
 
     /** Where the film goes; its ending chooses the format. */
@@ -60,24 +60,24 @@ public slots:
 
 private:
     void LayOut();
-    ExportSettings Settings() const;
+    worker::ExportSettings Settings() const;
     bool IsOnePicture() const;
     void FormatChosen();
     void ExtentChosen();
     void Refresh();
-    QString ForecastOf(const ExportSettings& settings) const;
+    QString ForecastOf(const worker::ExportSettings& settings) const;
     void Say(const QString& words, bool isWarning = false);
     void Browse();
     void Begin();
     void ShowProgress(qint64 done, qint64 total, const QString& stage);
     void End(const QString& error, bool canceled);
 
-    const Sign sign;
+    const model::Sign sign;
     const QString scenePath;
     const QString plugin;
     const ExportView view;
-    SceneFolder folder;
-    Export exporting;
+    worker::SceneFolder folder;
+    worker::Export exporting;
     QString replaced; // the file that may be replaced, as its user has said
 
     QComboBox* extent = new QComboBox(this); // its data are the first and the last picture
@@ -96,6 +96,6 @@ private:
     QPushButton* start = new QPushButton(tr("Export"), this);
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell
 
 #endif

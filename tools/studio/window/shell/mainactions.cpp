@@ -18,7 +18,7 @@
 
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 namespace {
 
 constexpr int mostRecent = 8;
@@ -38,7 +38,7 @@ QAction* MainWindow::Act(QMenu* menu, const Entry& entry, const std::function<vo
     QAction* action = menu->addAction(entry.words);
     action->setShortcut(entry.key);
     if (entry.icon)
-        action->setIcon(Icon(QLatin1String(entry.icon)));
+        action->setIcon(basics::Icon(QLatin1String(entry.icon)));
     QString name = entry.words;
     name.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
     const QString key = entry.key.toString(QKeySequence::NativeText);
@@ -77,10 +77,10 @@ void MainWindow::MakeEditMenu()
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     QAction* undo = document.Undo()->createUndoAction(this, tr("&Undo"));
     undo->setShortcut(QKeySequence::Undo);
-    undo->setIcon(Icon(QStringLiteral("edit-undo")));
+    undo->setIcon(basics::Icon(QStringLiteral("edit-undo")));
     QAction* redo = document.Undo()->createRedoAction(this, tr("&Redo"));
     redo->setShortcut(QKeySequence::Redo);
-    redo->setIcon(Icon(QStringLiteral("edit-redo")));
+    redo->setIcon(basics::Icon(QStringLiteral("edit-redo")));
     edit->addActions({undo, redo});
     edit->addSeparator();
     Act(edit, {tr("Cu&t"), QKeySequence::Cut, "edit-cut"}, [this] { EditWords("cut"); });
@@ -163,7 +163,7 @@ void MainWindow::MakeViewMenu()
     };
     leds = toggle(tr("&LEDs"), Ctrl(Qt::Key_L), [this] { ShowZoom(); });
     leds->setObjectName(QStringLiteral("leds"));
-    leds->setIcon(Icon(QStringLiteral("lamps")));
+    leds->setIcon(basics::Icon(QStringLiteral("lamps")));
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
     QMenu* distances = look->addMenu(tr("LED &pitch"));
     pitches = new QActionGroup(this);
@@ -180,9 +180,9 @@ void MainWindow::MakeViewMenu()
         leds->setChecked(true);
         ShowZoom();
     });
-    toggle(tr("&Checkered background"), QKeySequence(), &PictureView::SetCheckered);
-    toggle(tr("Show all &areas"), Ctrl(Qt::Key_F), &DisplayView::SetShowsFrames);
-    toggle(tr("Show &rulers"), Ctrl(Qt::Key_R), &DisplayView::SetShowsRulers);
+    toggle(tr("&Checkered background"), QKeySequence(), &live::PictureView::SetCheckered);
+    toggle(tr("Show all &areas"), Ctrl(Qt::Key_F), &display::DisplayView::SetShowsFrames);
+    toggle(tr("Show &rulers"), Ctrl(Qt::Key_R), &display::DisplayView::SetShowsRulers);
     look->addSeparator();
     look->addActions(createPopupMenu()->actions());
 
@@ -236,9 +236,9 @@ void MainWindow::MakePlayMenu()
     act(tr("Turn page &loop on or off"), Qt::Key_R, QStringLiteral("R"), [this] { ToggleLoop(); });
     play->addSeparator();
     Act(play, {tr("Play on L&EDs…")}, [this] {
-        auto* dialog = new LedsDialog(document.Current().display, document.Path(), this);
+        auto* dialog = new display::LedsDialog(document.Current().display, document.Path(), this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        connect(&rehearsal, &Rehearsal::Shown, dialog, &LedsDialog::Show);
+        connect(&rehearsal, &worker::Rehearsal::Shown, dialog, &display::LedsDialog::Show);
         dialog->Show(view->Picture());
         dialog->show();
     });
@@ -336,8 +336,8 @@ void MainWindow::ShowZoom()
     const QSignalBlocker blocker(view);
     view->SetPitch(leds->isChecked() ? Pitch() : 0);
     view->SetZoom(zoom);
-    if (leds->isChecked() && !view->Picture().isNull() && view->Scale() < smallestLamp)
-        view->SetZoom(smallestLamp);
+    if (leds->isChecked() && !view->Picture().isNull() && view->Scale() < film::smallestLamp)
+        view->SetZoom(film::smallestLamp);
     zoomBox->setCurrentIndex(view->Zoom());
 }
 
@@ -351,11 +351,11 @@ double MainWindow::Pitch() const
 void MainWindow::ChooseNew()
 {
     auto* dialog = MakeDialog(QStringLiteral("new"), tr("New scene"));
-    auto* form = new DisplayForm(dialog);
+    auto* form = new display::DisplayForm(dialog);
     const QString sizeKey = QStringLiteral("newDisplay");
     const QString alphaKey = QStringLiteral("newAlpha");
     const QSettings settings;
-    form->Show(settings.value(sizeKey, Sign().display).toSize(),
+    form->Show(settings.value(sizeKey, model::Sign().display).toSize(),
                settings.value(alphaKey, true).toBool());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, dialog);
     buttons->addButton(tr("Create"), QDialogButtonBox::AcceptRole)->setDefault(true);
@@ -368,8 +368,9 @@ void MainWindow::ChooseNew()
         New(form->Size(), form->AlphaBlend());
     });
     auto* layout = new QVBoxLayout(dialog);
-    layout->setContentsMargins(4 * grid, 4 * grid, 4 * grid, 4 * grid);
-    layout->setSpacing(4 * grid);
+    layout->setContentsMargins(4 * basics::grid, 4 * basics::grid, 4 * basics::grid,
+                               4 * basics::grid);
+    layout->setSpacing(4 * basics::grid);
     layout->addWidget(form);
     layout->addStretch(1);
     layout->addWidget(buttons);
@@ -423,7 +424,7 @@ void MainWindow::Leave(const std::function<void()>& then)
             if (Save())
                 afterSave = then;
         };
-        notices->Set(NoticeBar::Leaving, tr("%1 has unsaved changes.").arg(document.Name()),
+        notices->Set(basics::NoticeBar::Leaving, tr("%1 has unsaved changes.").arg(document.Name()),
                      {{tr("Save"), save}, {tr("Don't save"), then}, {tr("Cancel"), {}}});
         notices->Offers().first()->setFocus();
     }
@@ -453,4 +454,4 @@ void MainWindow::AddRecent(const QString& path)
     settings.setValue(QStringLiteral("recent"), QStringList(paths.mid(0, mostRecent)));
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell

@@ -6,35 +6,36 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 
-void MainWindow::Change(const QString& what, const std::function<void(Sign*)>& change,
+void MainWindow::Change(const QString& what, const std::function<void(model::Sign*)>& change,
                         const QString& merge)
 {
-    Sign after = document.Current();
+    model::Sign after = document.Current();
     change(&after);
     document.Change(what, after, merge);
 }
 
 void MainWindow::AddNewText(bool onNewPage)
 {
-    Change(onNewPage ? tr("Add page") : tr("Add text"), [=](Sign* sign) {
+    Change(onNewPage ? tr("Add page") : tr("Add text"), [=](model::Sign* sign) {
         const int page = onNewPage ? sign->PageCount() : CurrentPage();
         const int height = sign->display.height();
         const QSize size(sign->display.width(), onNewPage ? height : qMax(1, height / 2));
-        SignText text = NewText(size, page);
+        model::SignText text = model::NewText(size, page);
         // In the upper or lower half, if one is free.
         const auto covers = [&](int y) {
             const QRect area(QPoint(0, y), size);
-            return std::any_of(sign->texts.begin(), sign->texts.end(), [&](const SignText& other) {
-                return other.page == page &&
-                       area.intersects(QRect(other.node.pos, other.node.size));
-            });
+            return std::any_of(sign->texts.begin(), sign->texts.end(),
+                               [&](const model::SignText& other) {
+                                   return other.page == page &&
+                                          area.intersects(QRect(other.node.pos, other.node.size));
+                               });
         };
         const int lower = height - size.height();
         if (covers(0) && !covers(lower))
             text.node.pos.setY(lower);
-        AddText(sign, text);
+        model::AddText(sign, text);
         selected = text.id;
     });
     inspector->Text()->BeginTyping();
@@ -44,10 +45,11 @@ void MainWindow::DuplicateSelected()
 {
     const int page = scenes->PageOfRow();
     if (page >= 0)
-        Change(tr("Duplicate page"), [page](Sign* sign) { DuplicatePage(sign, page); });
+        Change(tr("Duplicate page"),
+               [page](model::Sign* sign) { model::DuplicatePage(sign, page); });
     else if (document.Current().Find(selected))
         Change(tr("Duplicate text"),
-               [this](Sign* sign) { selected = DuplicateText(sign, selected); });
+               [this](model::Sign* sign) { selected = model::DuplicateText(sign, selected); });
 }
 
 void MainWindow::RemoveSelected()
@@ -55,32 +57,32 @@ void MainWindow::RemoveSelected()
     const int page = scenes->PageOfRow();
     const int index = document.Current().IndexOf(selected);
     if (page >= 0)
-        Change(tr("Remove page"), [page](Sign* sign) { RemovePage(sign, page); });
+        Change(tr("Remove page"), [page](model::Sign* sign) { model::RemovePage(sign, page); });
     else if (index >= 0)
-        Change(tr("Remove text"), [this, index](Sign* sign) {
-            RemoveText(sign, selected);
+        Change(tr("Remove text"), [this, index](model::Sign* sign) {
+            model::RemoveText(sign, selected);
             selected = sign->texts.value(qMin(index, sign->texts.size() - 1)).id;
         });
 }
 
 void MainWindow::Rename(int id, const QString& name)
 {
-    const SignText* text = document.Current().Find(id);
+    const model::SignText* text = document.Current().Find(id);
     if (text && text->Title() != name)
-        Change(tr("Rename text"), [&](Sign* sign) {
-            TextSource& source = sign->Find(id)->source;
+        Change(tr("Rename text"), [&](model::Sign* sign) {
+            author::TextSource& source = sign->Find(id)->source;
             source.name = name == source.text.text.simplified() ? QString() : name;
         });
 }
 
 void MainWindow::PutText(int id, int page, int place)
 {
-    Change(tr("Move text"), [=](Sign* sign) { MoveText(sign, id, page, place); });
+    Change(tr("Move text"), [=](model::Sign* sign) { model::MoveText(sign, id, page, place); });
 }
 
 void MainWindow::PutPage(int page, int to)
 {
-    Change(tr("Move page"), [=](Sign* sign) { MovePage(sign, page, to); });
+    Change(tr("Move page"), [=](model::Sign* sign) { model::MovePage(sign, page, to); });
 }
 
 /** Shows the context menu of the selected text or page. */
@@ -89,9 +91,9 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("objects"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const Sign& sign = document.Current();
+    const model::Sign& sign = document.Current();
     const int page = scenes->PageOfRow();
-    const SignText* text = sign.Find(selected);
+    const model::SignText* text = sign.Find(selected);
     if (page >= 0) {
         Act(menu, {tr("Add text")}, [this] { AddNewText(false); });
         Act(menu, {tr("Duplicate page")}, [this] { DuplicateSelected(); });
@@ -103,7 +105,7 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         menu->addSeparator();
         Act(menu, {tr("Remove page")}, [this] { RemoveSelected(); });
     } else if (text) {
-        const QList<SignText> all = TextsOf(text->page);
+        const QList<model::SignText> all = TextsOf(text->page);
         const int id = text->id;
         const int own = text->page;
         Act(menu, {tr("Edit text")}, [this] { inspector->Text()->BeginTyping(); });
@@ -134,13 +136,13 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
     menu->popup(global);
 }
 
-QList<SignText> MainWindow::TextsOf(int page) const
+QList<model::SignText> MainWindow::TextsOf(int page) const
 {
-    QList<SignText> texts = document.Current().texts;
-    const auto isElsewhere = [page](const SignText& text) { return text.page != page; };
+    QList<model::SignText> texts = document.Current().texts;
+    const auto isElsewhere = [page](const model::SignText& text) { return text.page != page; };
     if (page >= 0)
         texts.erase(std::remove_if(texts.begin(), texts.end(), isElsewhere), texts.end());
     return texts;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell

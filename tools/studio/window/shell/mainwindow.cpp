@@ -13,7 +13,7 @@
 
 #include <utility>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 namespace {
 
 /** Sets the dock's title, but keeps its name in the View menu. */
@@ -111,12 +111,12 @@ void MainWindow::MakeDocks()
     layout->setSpacing(0);
     layout->addWidget(scenes, 1);
     layout->addLayout(sceneTools);
-    sceneTools->setContentsMargins(grid, grid, grid, grid);
-    sceneTools->setSpacing(grid);
+    sceneTools->setContentsMargins(basics::grid, basics::grid, basics::grid, basics::grid);
+    sceneTools->setSpacing(basics::grid);
     add(sceneDock, QStringLiteral("scene"), pages, Qt::LeftDockWidgetArea);
     add(textDock, QStringLiteral("text"), inspector, Qt::RightDockWidgetArea);
     add(findingsDock, QStringLiteral("findings"), findings, Qt::LeftDockWidgetArea);
-    connect(findings, &FindingsList::CountChanged, this, [this](int count) {
+    connect(findings, &findings::FindingsList::CountChanged, this, [this](int count) {
         SetTitle(findingsDock,
                  count == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, count));
     });
@@ -128,33 +128,34 @@ void MainWindow::MakeDocks()
 
 void MainWindow::Connect()
 {
-    connect(&document, &Document::Replaced, this, [this] {
-        notices->Set(NoticeBar::Disk, QString());
-        notices->Set(NoticeBar::Save, QString());
+    connect(&document, &model::Document::Replaced, this, [this] {
+        notices->Set(basics::NoticeBar::Disk, QString());
+        notices->Set(basics::NoticeBar::Save, QString());
         playback.Seek(0);
         selected = document.Current().texts.isEmpty() ? 0 : document.Current().texts.first().id;
     });
-    connect(&document, &Document::Changed, this, &MainWindow::Refresh);
-    connect(&document, &Document::StateChanged, this, &MainWindow::ShowState);
-    connect(&document, &Document::SaveEnded, this, [this](bool saved, const QString& error) {
-        notices->Set(NoticeBar::Save, saved ? QString() : tr("Not saved: %1").arg(error),
+    connect(&document, &model::Document::Changed, this, &MainWindow::Refresh);
+    connect(&document, &model::Document::StateChanged, this, &MainWindow::ShowState);
+    connect(&document, &model::Document::SaveEnded, this, [this](bool saved, const QString& error) {
+        notices->Set(basics::NoticeBar::Save, saved ? QString() : tr("Not saved: %1").arg(error),
                      {{tr("Save as…"), [this] { Save(true); }}, {tr("Dismiss"), {}}});
         const auto then = std::exchange(afterSave, {});
         if (then && saved)
             Leave(then);
     });
-    connect(&document, &Document::DiskChanged, this, [this] {
-        notices->Set(NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
+    connect(&document, &model::Document::DiskChanged, this, [this] {
+        notices->Set(basics::NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
                      {{tr("Load from disk"), [this] { LoadTheirs(); }},
                       {tr("Keep my version"),
                        [this] {
                            document.KeepMine();
-                           notices->Set(NoticeBar::Save, QString()); // saving would succeed now
+                           notices->Set(basics::NoticeBar::Save,
+                                        QString()); // saving would succeed now
                        }},
                       {tr("Save my version as…"), [this] { Save(true); }}});
     });
 
-    connect(&rehearsal, &Rehearsal::Shown, this, [this](const QImage& picture) {
+    connect(&rehearsal, &worker::Rehearsal::Shown, this, [this](const QImage& picture) {
         dimming.stop();
         view->SetDimmed(false);
         const bool isResized = view->Picture().size() != picture.size();
@@ -162,21 +163,22 @@ void MainWindow::Connect()
         if (isResized)
             ShowZoom();
     });
-    connect(&rehearsal, &Rehearsal::Stale, this, [this] {
+    connect(&rehearsal, &worker::Rehearsal::Stale, this, [this] {
         timeline->MarkStale();
         if (!dimming.isActive())
             dimming.start();
     });
     connect(&dimming, &QTimer::timeout, this, [this] { view->SetDimmed(true); });
-    connect(&rehearsal, &Rehearsal::TimingChanged, this, &MainWindow::ShowTiming);
-    connect(&rehearsal, &Rehearsal::FindingsChanged, this, [this](const QList<Finding>& list) {
-        findings->Show(list, document.Current());
-        inspector->SetFindings(findings->Of(selected));
-    });
-    connect(findings, &FindingsList::Selected, this, &MainWindow::Select);
-    connect(findings, &FindingsList::Edited, this, &MainWindow::Edit);
-    connect(&rehearsal, &Rehearsal::Trouble, this,
-            [this](const QString& why) { notices->Set(NoticeBar::Trouble, why); });
+    connect(&rehearsal, &worker::Rehearsal::TimingChanged, this, &MainWindow::ShowTiming);
+    connect(&rehearsal, &worker::Rehearsal::FindingsChanged, this,
+            [this](const QList<validate::Finding>& list) {
+                findings->Show(list, document.Current());
+                inspector->SetFindings(findings->Of(selected));
+            });
+    connect(findings, &findings::FindingsList::Selected, this, &MainWindow::Select);
+    connect(findings, &findings::FindingsList::Edited, this, &MainWindow::Edit);
+    connect(&rehearsal, &worker::Rehearsal::Trouble, this,
+            [this](const QString& why) { notices->Set(basics::NoticeBar::Trouble, why); });
 
     playback.isReady = [this](int tick) {
         if (rehearsal.Has(tick))
@@ -184,14 +186,14 @@ void MainWindow::Connect()
         rehearsal.Look(tick);
         return false;
     };
-    connect(&playback, &Playback::TickChanged, &rehearsal, &Rehearsal::Look);
+    connect(&playback, &time::Playback::TickChanged, &rehearsal, &worker::Rehearsal::Look);
 
-    connect(integrator, &IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
+    connect(integrator, &form::IntegratorView::FaultsChanged, this, &MainWindow::Rehearse);
     // Calls are recorded only while they are visible.
     connect(integratorDock, &QDockWidget::visibilityChanged, this, &MainWindow::Rehearse,
             Qt::QueuedConnection);
-    connect(integrator, &IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
-    connect(&rehearsal, &Rehearsal::Shown, this, &MainWindow::ShowCalls);
+    connect(integrator, &form::IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
+    connect(&rehearsal, &worker::Rehearsal::Shown, this, &MainWindow::ShowCalls);
     scenes->installEventFilter(this);
     inspector->Motions()->List()->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
@@ -206,43 +208,46 @@ void MainWindow::Connect()
     connect(scenes, &SceneList::customContextMenuRequested, this, [this](const QPoint& point) {
         ShowObjectMenu(scenes->viewport()->mapToGlobal(point));
     });
-    connect(timeline, &Timeline::MenuWanted, this, &MainWindow::ShowObjectMenu);
-    connect(view, &DisplayView::MenuWanted, this, &MainWindow::ShowObjectMenu);
-    connect(timeline, &Timeline::Selected, this, &MainWindow::Select);
-    connect(view, &DisplayView::Selected, this, &MainWindow::Select);
-    connect(view, &DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
-    connect(view, &DisplayView::ScaleChanged, this, [this] {
+    connect(timeline, &time::Timeline::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(view, &display::DisplayView::MenuWanted, this, &MainWindow::ShowObjectMenu);
+    connect(timeline, &time::Timeline::Selected, this, &MainWindow::Select);
+    connect(view, &display::DisplayView::Selected, this, &MainWindow::Select);
+    connect(view, &display::DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
+    connect(view, &display::DisplayView::ScaleChanged, this, [this] {
         if (leds->isChecked())
             ShowZoom();
     });
-    connect(view, &DisplayView::PlayWanted, &playback, &Playback::Toggle);
-    connect(view, &DisplayView::Panned, this, [this](const QPoint& by) {
+    connect(view, &display::DisplayView::PlayWanted, &playback, &time::Playback::Toggle);
+    connect(view, &display::DisplayView::Panned, this, [this](const QPoint& by) {
         scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->value() - by.x());
         scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->value() - by.y());
     });
     for (QScrollBar* bar : {scroll->horizontalScrollBar(), scroll->verticalScrollBar()})
         connect(bar, &QScrollBar::valueChanged, view, qOverload<>(&QWidget::update)); // its rulers
-    connect(inspector->Display(), &DisplayForm::Edited, this, [this](int gesture) {
+    connect(inspector->Display(), &display::DisplayForm::Edited, this, [this](int gesture) {
         Change(
             tr("Display"),
-            [this](Sign* sign) {
-                ResizeDisplay(sign, inspector->Display()->Size());
+            [this](model::Sign* sign) {
+                model::ResizeDisplay(sign, inspector->Display()->Size());
                 sign->alphaBlend = inspector->Display()->AlphaBlend();
             },
             gesture < 0 ? QString() : QStringLiteral("display %1").arg(gesture));
     });
-    connect(view, &DisplayView::DisplayDoubleClicked, inspector->Text(), &TextPanel::BeginTyping);
-    connect(view, &DisplayView::AreaChanged, this, [this](int id, const QRect& rect, int gesture) {
-        Select(id);
-        Edit(tr("Change area"), gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
-             [rect](SignText* text) {
-                 text->node.pos = rect.topLeft();
-                 text->node.size = rect.size();
-             });
-    });
-    connect(inspector, &Inspector::Edited, this, &MainWindow::Edit);
-    connect(transport, &TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
-    connect(transport, &TransportBar::LoopToggled, this, &MainWindow::ToggleLoop);
+    connect(view, &display::DisplayView::DisplayDoubleClicked, inspector->Text(),
+            &text::TextPanel::BeginTyping);
+    connect(view, &display::DisplayView::AreaChanged, this,
+            [this](int id, const QRect& rect, int gesture) {
+                Select(id);
+                Edit(tr("Change area"),
+                     gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
+                     [rect](model::SignText* text) {
+                         text->node.pos = rect.topLeft();
+                         text->node.size = rect.size();
+                     });
+            });
+    connect(inspector, &form::Inspector::Edited, this, &MainWindow::Edit);
+    connect(transport, &time::TransportBar::ScheduleChanged, this, &MainWindow::Rehearse);
+    connect(transport, &time::TransportBar::LoopToggled, this, &MainWindow::ToggleLoop);
 }
 
 void MainWindow::CompareWith(const QString& library)
@@ -251,12 +256,12 @@ void MainWindow::CompareWith(const QString& library)
     view->SetCompared(QImage());
     if (library.isEmpty())
         return;
-    compared = std::make_unique<Rehearsal>(library);
-    connect(&playback, &Playback::TickChanged, compared.get(), &Rehearsal::Look);
-    connect(compared.get(), &Rehearsal::Shown, this, &MainWindow::ShowCalls);
-    connect(compared.get(), &Rehearsal::Trouble, this, [this, library](const QString& why) {
+    compared = std::make_unique<worker::Rehearsal>(library);
+    connect(&playback, &time::Playback::TickChanged, compared.get(), &worker::Rehearsal::Look);
+    connect(compared.get(), &worker::Rehearsal::Shown, this, &MainWindow::ShowCalls);
+    connect(compared.get(), &worker::Rehearsal::Trouble, this, [this, library](const QString& why) {
         if (!why.isEmpty())
-            notices->Set(NoticeBar::Trouble, QStringLiteral("%1: %2").arg(library, why),
+            notices->Set(basics::NoticeBar::Trouble, QStringLiteral("%1: %2").arg(library, why),
                          {{tr("Dismiss"), {}}});
     });
     compared->SetSign(document.Current(), part);
@@ -280,19 +285,19 @@ void MainWindow::LoadTheirs()
 {
     QString error;
     if (!document.LoadTheirs(&error))
-        notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+        notices->Set(basics::NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
     else
-        notices->Set(NoticeBar::Save, QString()); // the failed save no longer matters
+        notices->Set(basics::NoticeBar::Save, QString()); // the failed save no longer matters
 }
 
 bool MainWindow::Open(const QString& path)
 {
     QString error;
     if (!document.Open(path, &error)) {
-        notices->Set(NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+        notices->Set(basics::NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
         return false;
     }
-    notices->Set(NoticeBar::Trouble, QString());
+    notices->Set(basics::NoticeBar::Trouble, QString());
     AddRecent(document.Path());
     view->setFocus(); // Space plays
     return true;
@@ -306,7 +311,7 @@ void MainWindow::New(const QSize& display, bool alphaBlend)
 
 int MainWindow::CurrentPage() const
 {
-    const SignText* text = document.Current().Find(selected);
+    const model::SignText* text = document.Current().Find(selected);
     return text ? text->page : qBound(0, shownPage, qMax(0, document.Current().PageCount() - 1));
 }
 
@@ -326,17 +331,17 @@ void MainWindow::Select(int id)
 /** Updates all views of the sign. */
 void MainWindow::Refresh()
 {
-    const Sign& sign = document.Current();
+    const model::Sign& sign = document.Current();
     if (selected != 0 && !sign.Find(selected))
         selected = sign.texts.isEmpty() ? 0 : sign.texts.last().id;
     scenes->Show(sign);
     scenes->Select(selected);
-    const SignText* text = sign.Find(selected);
+    const model::SignText* text = sign.Find(selected);
     inspector->Show(sign, text);
     const QString title = text ? text->Title() : tr("Display");
     SetTitle(textDock, title.isEmpty() ? tr("Text") : title);
-    QVector<AreaFrame> frames;
-    for (const SignText& text : TextsOf(CurrentPage()))
+    QVector<display::AreaFrame> frames;
+    for (const model::SignText& text : TextsOf(CurrentPage()))
         frames.append({text.id, QRect(text.node.pos, text.node.size)});
     view->SetFrames(frames, selected);
     timeline->SetSelected(selected);
@@ -346,26 +351,26 @@ void MainWindow::Refresh()
 
 void MainWindow::OfferLostWork()
 {
-    const QList<LostWork> lost = recovery.Find();
+    const QList<model::LostWork> lost = recovery.Find();
     if (lost.isEmpty())
         return;
-    const LostWork& work = lost.first();
+    const model::LostWork& work = lost.first();
     const QString name =
         work.path.isEmpty() ? tr("an untitled scene") : QFileInfo(work.path).fileName();
     notices->Set(
-        NoticeBar::Recovery,
+        basics::NoticeBar::Recovery,
         tr("The studio stopped before %1 was saved (%2).")
             .arg(name, QLocale().toString(work.when, QLocale::ShortFormat)),
         {{tr("Restore"), [this, work] { Leave([this, work] { recovery.TakeOver(work); }); }},
          {tr("Delete copy"), [this, work] {
-              Recovery::Drop(work);
+              model::Recovery::Drop(work);
               OfferLostWork(); // there may be more
           }}});
 }
 
 void MainWindow::Rehearse()
 {
-    const Sign& sign = document.Current();
+    const model::Sign& sign = document.Current();
     part.schedule = transport->IsSchedule();
     part.page = part.schedule ? -1 : CurrentPage();
     part.calls = integrator->isVisible();
@@ -382,11 +387,11 @@ void MainWindow::Rehearse()
 
 void MainWindow::ShowTiming()
 {
-    const Timing& timing = rehearsal.GetTiming();
-    const QList<SignText> texts = TextsOf(part.page);
-    QVector<TimelineRow> rows;
+    const worker::Timing& timing = rehearsal.GetTiming();
+    const QList<model::SignText> texts = TextsOf(part.page);
+    QVector<time::TimelineRow> rows;
     for (int i = 0; i < qMin(texts.size(), timing.texts.size()); ++i) {
-        const SignText& text = texts.at(i);
+        const model::SignText& text = texts.at(i);
         const int plays = text.node.attributes.value(QStringLiteral("PlayTimes")).toInt();
         rows.append({text.id, text.Title(), plays, timing.texts.at(i)});
     }
@@ -398,19 +403,19 @@ void MainWindow::ShowTiming()
 /** Shows the times of the selected text, and of the page and all pages as a tooltip. */
 void MainWindow::ShowEnds()
 {
-    const Timing& timing = rehearsal.GetTiming();
-    const QList<SignText> texts = TextsOf(part.page);
+    const worker::Timing& timing = rehearsal.GetTiming();
+    const QList<model::SignText> texts = TextsOf(part.page);
     if (timing.texts.size() != texts.size()) {
         transport->ShowEnds(nullptr, QString());
         return;
     }
     QStringList lines;
-    const TextTime* shown = nullptr;
-    QMap<int, QMap<int, TextTime>> pages; // the texts of an area play one after another
+    const worker::TextTime* shown = nullptr;
+    QMap<int, QMap<int, worker::TextTime>> pages; // the texts of an area play one after another
     for (int i = 0; i < texts.size(); ++i) {
-        const SignText& text = texts.at(i);
-        const TextTime& time = timing.texts.at(i);
-        QMap<int, TextTime>& areas = pages[text.page];
+        const model::SignText& text = texts.at(i);
+        const worker::TextTime& time = timing.texts.at(i);
+        QMap<int, worker::TextTime>& areas = pages[text.page];
         if (!areas.contains(text.area)) {
             areas[text.area] = time;
         } else {
@@ -418,22 +423,22 @@ void MainWindow::ShowEnds()
             areas[text.area].actual += time.actual;
         }
         if (text.id == selected) {
-            lines.append(tr("Text: %1").arg(EndsInWords(time)));
+            lines.append(tr("Text: %1").arg(time::EndsInWords(time)));
             shown = &time;
         }
     }
-    TextTime program = SideBySide({});
-    TextTime page = program;
+    worker::TextTime program = time::SideBySide({});
+    worker::TextTime page = program;
     for (auto own = pages.begin(); own != pages.end(); ++own) {
-        const TextTime times = SideBySide(own->values().toVector());
+        const worker::TextTime times = time::SideBySide(own->values().toVector());
         program.planned += times.planned;
         program.actual += times.actual;
-        lines.append(tr("Page %1: %2").arg(own.key() + 1).arg(EndsInWords(times)));
+        lines.append(tr("Page %1: %2").arg(own.key() + 1).arg(time::EndsInWords(times)));
         if (own.key() == CurrentPage())
             page = times;
     }
     if (part.page < 0) // otherwise, the other pages have not been measured
-        lines.append(tr("All pages: %1").arg(EndsInWords(program)));
+        lines.append(tr("All pages: %1").arg(time::EndsInWords(program)));
     if (!shown)
         shown = part.page >= 0 || scenes->PageOfRow() >= 0 ? &page : &program;
     transport->ShowEnds(shown, lines.join(QLatin1Char('\n')));
@@ -447,11 +452,11 @@ void MainWindow::ShowState()
     saveAction->setEnabled(document.IsModified() || document.Path().isEmpty());
 }
 
-void MainWindow::Edit(const QString& what, const QString& merge, const TextChange& change)
+void MainWindow::Edit(const QString& what, const QString& merge, const form::TextChange& change)
 {
     if (document.Current().Find(selected))
         Change(
-            what, [&](Sign* sign) { change(sign->Find(selected)); },
+            what, [&](model::Sign* sign) { change(sign->Find(selected)); },
             merge.isEmpty() ? merge : QStringLiteral("%1 %2").arg(selected).arg(merge));
 }
 
@@ -566,4 +571,4 @@ void MainWindow::dropEvent(QDropEvent* event)
     Leave([this, path] { Open(path); });
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell

@@ -28,7 +28,7 @@
 #include <QSplitter>
 #include <QToolBar>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 
 class MainWindow : public QMainWindow
 {
@@ -41,18 +41,18 @@ public:
 
     /** Opens the scene @p path; on failure shows a notice. */
     bool Open(const QString& path);
-    void New(const QSize& display = Sign().display, bool alphaBlend = true);
+    void New(const QSize& display = model::Sign().display, bool alphaBlend = true);
 
-    Document* GetDocument() { return &document; }
-    Rehearsal* GetRehearsal() { return &rehearsal; }
-    Playback* GetPlayback() { return &playback; }
-    DisplayView* Display() const { return view; }
-    Inspector* GetInspector() const { return inspector; }
-    TransportBar* Transport() const { return transport; }
-    NoticeBar* Notices() const { return notices; }
-    FindingsList* Findings() const { return findings; }
+    model::Document* GetDocument() { return &document; }
+    worker::Rehearsal* GetRehearsal() { return &rehearsal; }
+    time::Playback* GetPlayback() { return &playback; }
+    display::DisplayView* Display() const { return view; }
+    form::Inspector* GetInspector() const { return inspector; }
+    time::TransportBar* Transport() const { return transport; }
+    basics::NoticeBar* Notices() const { return notices; }
+    findings::FindingsList* Findings() const { return findings; }
     /** Hidden until the user opens it. */
-    IntegratorView* Integrator() const { return integrator; }
+    form::IntegratorView* Integrator() const { return integrator; }
     /** Offers to restore the unsaved work of a studio that was killed. */
     void OfferLostWork();
     int Selected() const { return selected; }
@@ -94,9 +94,9 @@ private:
     void LoadTheirs();
     void CompareWith(const QString& library);
     void ShowCalls();
-    void Change(const QString& what, const std::function<void(Sign*)>& change,
+    void Change(const QString& what, const std::function<void(model::Sign*)>& change,
                 const QString& merge = QString());
-    void Edit(const QString& what, const QString& merge, const TextChange& change);
+    void Edit(const QString& what, const QString& merge, const form::TextChange& change);
     void AddNewText(bool onNewPage);
     void RemoveSelected();
     void DuplicateSelected();
@@ -117,7 +117,7 @@ private:
     bool LeaveField(int key);
     void EditWords(const char* slot);
     /** The texts of @p page; negative for all pages. */
-    QList<SignText> TextsOf(int page) const;
+    QList<model::SignText> TextsOf(int page) const;
     void Rename(int id, const QString& name);
     void PutText(int id, int page, int place);
     void PutPage(int page, int to);
@@ -125,15 +125,15 @@ private:
     int CurrentPage() const;
 
     const QString plugin;
-    Document document;
-    Recovery recovery;
-    Rehearsal rehearsal;
-    std::unique_ptr<Rehearsal> compared; // plays with another library
-    Thumbnails thumbnails;
-    Playback playback;
+    model::Document document;
+    model::Recovery recovery;
+    worker::Rehearsal rehearsal;
+    std::unique_ptr<worker::Rehearsal> compared; // plays with another library
+    motion::Thumbnails thumbnails;
+    time::Playback playback;
     int selected = 0;  // id of a text; 0 for the display
     int shownPage = 0; // while no text is selected
-    Part part;
+    worker::Part part;
     QTimer dimming;
     std::function<void()> afterSave; // runs when the sign is saved
     bool mayClose = false;
@@ -142,16 +142,16 @@ private:
 
     // In the order of Tab.
     QSplitter* center = new QSplitter(Qt::Vertical, this);
-    DisplayView* view = new DisplayView(this);
+    display::DisplayView* view = new display::DisplayView(this);
     QScrollArea* scroll = new QScrollArea(this); // contains the view
-    TransportBar* transport = new TransportBar(&playback, this);
-    Timeline* timeline = new Timeline(&playback, this);
-    NoticeBar* notices = new NoticeBar(scroll);
+    time::TransportBar* transport = new time::TransportBar(&playback, this);
+    time::Timeline* timeline = new time::Timeline(&playback, this);
+    basics::NoticeBar* notices = new basics::NoticeBar(scroll);
     SceneList* scenes = new SceneList(this);
     QHBoxLayout* sceneTools = new QHBoxLayout;
-    Inspector* inspector = new Inspector(&thumbnails, this);
-    FindingsList* findings = new FindingsList(this);
-    IntegratorView* integrator = new IntegratorView(this);
+    form::Inspector* inspector = new form::Inspector(&thumbnails, this);
+    findings::FindingsList* findings = new findings::FindingsList(this);
+    form::IntegratorView* integrator = new form::IntegratorView(this);
     QDockWidget* sceneDock = new QDockWidget(tr("Scene"), this);
     QDockWidget* textDock = new QDockWidget(tr("Text"), this);
     QDockWidget* findingsDock = new QDockWidget(tr("Problems"), this);
@@ -166,6 +166,6 @@ private:
     QHash<QKeySequence, QAction*> playKeys;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell
 
 #endif

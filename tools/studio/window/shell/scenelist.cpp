@@ -6,7 +6,7 @@
 
 #include <climits>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 namespace {
 
 constexpr int idRole = Qt::UserRole;       // id of a text; 0 in the other rows
@@ -22,7 +22,7 @@ int PageOf(const QTreeWidgetItem* item)
     return item ? item->data(0, pageRole).toInt() : -1;
 }
 
-QString TitleOf(const SignText& text)
+QString TitleOf(const model::SignText& text)
 {
     return text.Title().isEmpty() ? SceneList::tr("(empty text)") : text.Title();
 }
@@ -34,7 +34,7 @@ SceneList::SceneList(QWidget* parent)
 {
     setHeaderHidden(true);
     setFrameShape(QFrame::NoFrame);
-    setIndentation(3 * grid);
+    setIndentation(3 * basics::grid);
     setUniformRowHeights(true);
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -55,20 +55,20 @@ SceneList::SceneList(QWidget* parent)
     });
 }
 
-QString SceneList::PageTitle(const Sign& sign, int page)
+QString SceneList::PageTitle(const model::Sign& sign, int page)
 {
-    for (const SignText& text : sign.texts) {
+    for (const model::SignText& text : sign.texts) {
         if (text.page == page)
             return tr("Page %1 · %2").arg(QString::number(page + 1), TitleOf(text));
     }
     return tr("Page %1").arg(page + 1);
 }
 
-void SceneList::Show(const Sign& sign)
+void SceneList::Show(const model::Sign& sign)
 {
     const QSignalBlocker blocker(this);
     QVector<QPair<int, int>> wanted;
-    for (const SignText& text : sign.texts)
+    for (const model::SignText& text : sign.texts)
         wanted.append({text.page, text.id});
     if (wanted != shown || topLevelItemCount() == 0) {
         shown = wanted;
@@ -76,7 +76,7 @@ void SceneList::Show(const Sign& sign)
     }
     topLevelItem(0)->setText(
         0, tr("Display %1 × %2").arg(sign.display.width()).arg(sign.display.height()));
-    for (const SignText& text : sign.texts) {
+    for (const model::SignText& text : sign.texts) {
         QTreeWidgetItem* item = Find(text.id);
         item->setText(0, TitleOf(text));
         item->parent()->setText(0, PageTitle(sign, text.page));
@@ -99,7 +99,7 @@ void SceneList::Rebuild()
         if (text.first != PageOf(page)) {
             page = add(invisibleRootItem(), text.first, 0,
                        Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled);
-            page->setForeground(0, Quiet(palette()));
+            page->setForeground(0, basics::Quiet(palette()));
         }
         add(page, text.first, text.second, Qt::ItemIsDragEnabled | Qt::ItemIsEditable);
     }
@@ -159,4 +159,4 @@ void SceneList::dropEvent(QDropEvent* event)
         emit TextDropped(IdOf(moved), qMax(0, page), 0);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell

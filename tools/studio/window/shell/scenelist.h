@@ -9,7 +9,7 @@
 
 #include <QTreeWidget>
 
-namespace AnimText {
+namespace AnimText::studio::window::shell {
 
 /** Texts and pages can be moved by dragging; a double click renames a text. */
 class SceneList : public QTreeWidget
@@ -20,9 +20,9 @@ public:
     explicit SceneList(QWidget* parent = nullptr);
 
     /** "Page 2 · Next stop": the number of @p page, from 0, and its first text. */
-    static QString PageTitle(const Sign& sign, int page);
+    static QString PageTitle(const model::Sign& sign, int page);
 
-    void Show(const Sign& sign);
+    void Show(const model::Sign& sign);
     /** Selects the row of the text, or the display for 0. */
     void Select(int id);
     /** The page whose row is selected; negative for none. */
@@ -49,6 +49,6 @@ private:
     QVector<QPair<int, int>> shown; // page and id of each text
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::shell
 
 #endif

@@ -12,7 +12,7 @@
 
 #include <memory>
 
-namespace AnimText {
+namespace AnimText::studio::window::text {
 namespace {
 
 const QString ownFormat = QStringLiteral("application/x-animtext-text");
@@ -31,11 +31,11 @@ QString WordsIn(const QMimeData* source)
 }
 
 /** Replaces line breaks by spaces, because a sign has one line, and removes the last one. */
-StyledText OnOneLine(StyledText text)
+layout::StyledText OnOneLine(layout::StyledText text)
 {
     QStringList notes;
     QString error;
-    ToOneLine(&text, &notes, &error); // errors are shown below the field
+    layout::ToOneLine(&text, &notes, &error); // errors are shown below the field
     return text;
 }
 
@@ -44,7 +44,7 @@ StyledText OnOneLine(StyledText text)
  * the sign is stored as a property.
  * @param common size in pixels that is shown at the reading size
  */
-QTextCharFormat FormatOf(const StyleRun& run, int common)
+QTextCharFormat FormatOf(const layout::StyleRun& run, int common)
 {
     QTextCharFormat format;
     QFont font = run.font;
@@ -57,9 +57,9 @@ QTextCharFormat FormatOf(const StyleRun& run, int common)
 }
 
 /** The style stored in @p format; @p base supplies what is missing. */
-StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base)
+layout::StyleRun StyleOf(const QTextCharFormat& format, const layout::StyleRun& base)
 {
-    StyleRun run = base;
+    layout::StyleRun run = base;
     run.begin = 0;
     if (!format.hasProperty(sizeProperty))
         return run;
@@ -74,7 +74,7 @@ StyleRun StyleOf(const QTextCharFormat& format, const StyleRun& base)
 }
 
 /** Replaces the selection of @p cursor with @p text. */
-void Insert(const StyledText& text, int common, QTextCursor* cursor)
+void Insert(const layout::StyledText& text, int common, QTextCursor* cursor)
 {
     cursor->beginEditBlock();
     cursor->removeSelectedText();
@@ -96,9 +96,9 @@ TextEditor::TextEditor(QWidget* parent)
     setTabChangesFocus(true);
 }
 
-StyledText TextEditor::Styled() const
+layout::StyledText TextEditor::Styled() const
 {
-    StyledText text;
+    layout::StyledText text;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (block != document()->begin())
             text.Append(QStringLiteral(" "), text.runs.isEmpty() ? base : text.runs.last());
@@ -115,14 +115,14 @@ StyledText TextEditor::Styled() const
     return text;
 }
 
-void TextEditor::SetStyled(const StyledText& text)
+void TextEditor::SetStyled(const layout::StyledText& text)
 {
     QTextCursor cursor(document());
     cursor.select(QTextCursor::Document);
     Insert(text, base.font.pixelSize(), &cursor);
 }
 
-StyleRun TextEditor::CurrentStyle() const
+layout::StyleRun TextEditor::CurrentStyle() const
 {
     QTextCursor cursor = textCursor();
     if (cursor.hasSelection())
@@ -130,7 +130,7 @@ StyleRun TextEditor::CurrentStyle() const
     return StyleOf(cursor.charFormat(), base);
 }
 
-void TextEditor::Paste(const StyledText& text)
+void TextEditor::Paste(const layout::StyledText& text)
 {
     emit StepEnded();
     QTextCursor cursor = textCursor();
@@ -143,14 +143,14 @@ void TextEditor::Paste(const StyledText& text)
 QMimeData* TextEditor::createMimeDataFromSelection() const
 {
     const QTextCursor cursor = textCursor();
-    TextSource source;
-    const StyledText all = Styled();
+    author::TextSource source;
+    const layout::StyledText all = Styled();
     for (int i = cursor.selectionStart(); i < cursor.selectionEnd(); ++i)
         source.text.Append(all.text.mid(i, 1), all.At(i));
     auto* data = new QMimeData;
     data->setText(source.text.text);
     data->setHtml(cursor.selection().toHtml());
-    data->setData(ownFormat, SourcesToJson({{ownKey, source}}));
+    data->setData(ownFormat, author::SourcesToJson({{ownKey, source}}));
     return data;
 }
 
@@ -164,8 +164,8 @@ void TextEditor::insertFromMimeData(const QMimeData* source)
 {
     if (!canInsertFromMimeData(source))
         return;
-    const TextSources own = SourcesFromJson(source->data(ownFormat));
-    StyledText text;
+    const author::TextSources own = author::SourcesFromJson(source->data(ownFormat));
+    layout::StyledText text;
     if (own.contains(ownKey))
         text = own.value(ownKey).text;
     else
@@ -180,14 +180,15 @@ void TextEditor::PasteWithStyles()
         paste();
         return;
     }
-    const StyleRun current = CurrentStyle();
-    StyledText text;
+    const layout::StyleRun current = CurrentStyle();
+    layout::StyledText text;
     QStringList notes;
     QString error;
-    if (!ParseMarkup(QStringLiteral("<html>") + source->html(), current, &text, &notes, &error))
+    if (!author::ParseMarkup(QStringLiteral("<html>") + source->html(), current, &text, &notes,
+                             &error))
         return;
     // Black letters of a web page would be invisible on the sign.
-    for (StyleRun& run : text.runs)
+    for (layout::StyleRun& run : text.runs)
         run.color = current.color;
     Paste(OnOneLine(text));
 }
@@ -225,4 +226,4 @@ bool TextEditor::event(QEvent* event)
     return QTextEdit::event(event);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::text

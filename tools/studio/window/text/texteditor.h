@@ -9,7 +9,7 @@
 
 #include <QTextEdit>
 
-namespace AnimText {
+namespace AnimText::studio::window::text {
 
 /**
  * Pastes text in the style at the cursor. Text from such a field keeps its styles; styles from
@@ -23,12 +23,12 @@ public:
     explicit TextEditor(QWidget* parent = nullptr);
 
     /** Sets the style of unstyled letters; its size is shown at the reading size. */
-    void SetBase(const StyleRun& style) { base = style; }
+    void SetBase(const layout::StyleRun& style) { base = style; }
     /** The whole text. */
-    StyledText Styled() const;
-    void SetStyled(const StyledText& text);
+    layout::StyledText Styled() const;
+    void SetStyled(const layout::StyledText& text);
     /** The style of the first selected letter, or of the next one to be typed. */
-    StyleRun CurrentStyle() const;
+    layout::StyleRun CurrentStyle() const;
     /** Pastes text with bold, italic, underline, sizes and fonts, but not its colors. */
     void PasteWithStyles();
 
@@ -45,11 +45,11 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void Paste(const StyledText& text);
+    void Paste(const layout::StyledText& text);
 
-    StyleRun base;
+    layout::StyleRun base;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::text
 
 #endif

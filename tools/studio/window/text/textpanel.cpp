@@ -16,7 +16,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::window::text {
 namespace {
 
 constexpr int pauseLength = 1500; // milliseconds without typing that end an undo step
@@ -55,19 +55,19 @@ QIcon ColorIcon(const QColor& color)
 }
 
 /** @p text with its units in other styles. */
-StyledText Restyled(const StyledText& text,
-                    const std::function<void(int unit, StyleRun* run)>& change)
+layout::StyledText Restyled(const layout::StyledText& text,
+                            const std::function<void(int unit, layout::StyleRun* run)>& change)
 {
-    StyledText styled;
+    layout::StyledText styled;
     for (int i = 0; i < text.text.size(); ++i) {
-        StyleRun run = text.At(i);
+        layout::StyleRun run = text.At(i);
         change(i, &run);
         styled.Append(text.text.mid(i, 1), run);
     }
     return styled;
 }
 
-int UnitsOf(const UnseenCharacter& character)
+int UnitsOf(const layout::UnseenCharacter& character)
 {
     return QChar::requiresSurrogates(character.codePoint) ? 2 : 1;
 }
@@ -79,14 +79,14 @@ TextPanel::TextPanel(QWidget* parent)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(grid);
+    layout->setSpacing(basics::grid);
     layout->addWidget(editor);
     layout->addLayout(MakeTools());
     // A fixed height, so that the fields below do not jump while typing.
     auto* room = new QWidget(this);
     auto* below = new QHBoxLayout(room);
     below->setContentsMargins(0, 0, 0, 0);
-    below->setSpacing(grid);
+    below->setSpacing(basics::grid);
     below->addWidget(notes, 1, Qt::AlignTop);
     below->addWidget(otherFont, 0, Qt::AlignTop);
     room->setFixedHeight(qMax(2 * fontMetrics().height(), otherFont->sizeHint().height()));
@@ -135,8 +135,9 @@ QToolButton* TextPanel::MakeFace(const QString& letter, const QKeySequence& key,
     QFont font = button->font();
     (font.*set)(true);
     button->setFont(font);
-    connect(button, &QToolButton::clicked, this,
-            [this, set](bool on) { Restyle([=](StyleRun* run) { (run->font.*set)(on); }); });
+    connect(button, &QToolButton::clicked, this, [this, set](bool on) {
+        Restyle([=](layout::StyleRun* run) { (run->font.*set)(on); });
+    });
     faces.append({button, has});
     return button;
 }
@@ -160,7 +161,7 @@ QLayout* TextPanel::MakeTools()
     FillColors();
 
     auto* layout = new QHBoxLayout;
-    layout->setSpacing(grid / 2);
+    layout->setSpacing(basics::grid / 2);
     layout->addWidget(
         MakeFace(tr("B"), QKeySequence::Bold, tr("Bold"), &QFont::bold, &QFont::setBold));
     layout->addWidget(
@@ -168,16 +169,16 @@ QLayout* TextPanel::MakeTools()
     layout->addWidget(MakeFace(tr("U"), QKeySequence::Underline, tr("Underline"), &QFont::underline,
                                &QFont::setUnderline));
     layout->addWidget(color);
-    layout->addSpacing(grid);
+    layout->addSpacing(basics::grid);
     layout->addWidget(family, 1);
     layout->addWidget(size);
 
     connect(family, &QFontComboBox::currentFontChanged, this, [this](const QFont& font) {
         if (!filling)
-            Restyle([&](StyleRun* run) { run->font.setFamily(font.family()); });
+            Restyle([&](layout::StyleRun* run) { run->font.setFamily(font.family()); });
     });
-    connect(size, &NumberField::NumberChanged, this, [this](int pixels, int drag) {
-        Restyle([&](StyleRun* run) { run->font.setPixelSize(pixels); }, drag);
+    connect(size, &basics::NumberField::NumberChanged, this, [this](int pixels, int drag) {
+        Restyle([&](layout::StyleRun* run) { run->font.setPixelSize(pixels); }, drag);
     });
     return layout;
 }
@@ -189,24 +190,24 @@ void TextPanel::FillColors()
         const QColor lamp = entry.first;
         QAction* action = menu->addAction(ColorIcon(lamp), ColorName(lamp));
         connect(action, &QAction::triggered, this,
-                [this, lamp] { Restyle([&](StyleRun* run) { run->color = lamp; }); });
+                [this, lamp] { Restyle([&](layout::StyleRun* run) { run->color = lamp; }); });
     }
     QAction* other = menu->addAction(tr("Other…"));
     connect(other, &QAction::triggered, this, [this] {
         auto* dialog = new QColorDialog(editor->CurrentStyle().color, this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor& chosen) {
-            Restyle([&](StyleRun* run) { run->color = chosen; });
+            Restyle([&](layout::StyleRun* run) { run->color = chosen; });
         });
         dialog->show();
     });
     color->setMenu(menu);
 }
 
-void TextPanel::Show(const SignText* wanted)
+void TextPanel::Show(const model::SignText* wanted)
 {
     setEnabled(wanted != nullptr);
-    const SignText text = wanted ? *wanted : SignText();
+    const model::SignText text = wanted ? *wanted : model::SignText();
     editor->SetBase(text.source.text.runs.value(0));
     if (text.id != shownId || !(text.source.text == shown)) {
         const int anchor = editor->textCursor().anchor();
@@ -240,7 +241,7 @@ void TextPanel::ShowStyle()
 {
     if (filling)
         return;
-    const StyleRun style = editor->CurrentStyle();
+    const layout::StyleRun style = editor->CurrentStyle();
     filling = true;
     for (const auto& face : faces)
         face.first->setChecked((style.font.*face.second)());
@@ -255,7 +256,7 @@ void TextPanel::ShowStyle()
  * Changes the style of the selection or, if nothing is selected, of the whole text.
  * @param drag identifies changes that are one undo step; negative for a single change
  */
-void TextPanel::Restyle(const std::function<void(StyleRun*)>& change, int drag)
+void TextPanel::Restyle(const std::function<void(layout::StyleRun*)>& change, int drag)
 {
     if (drag < 0 || drag != styling)
         ++gesture;
@@ -263,7 +264,7 @@ void TextPanel::Restyle(const std::function<void(StyleRun*)>& change, int drag)
     QTextCursor cursor = editor->textCursor();
     const int begin = cursor.hasSelection() ? cursor.selectionStart() : 0;
     const int end = cursor.hasSelection() ? cursor.selectionEnd() : shown.text.size();
-    StyledText styled = Restyled(shown, [&](int unit, StyleRun* run) {
+    layout::StyledText styled = Restyled(shown, [&](int unit, layout::StyleRun* run) {
         if (unit >= begin && unit < end)
             change(run);
     });
@@ -278,7 +279,7 @@ void TextPanel::Tell()
 {
     if (filling)
         return;
-    const StyledText text = editor->Styled();
+    const layout::StyledText text = editor->Styled();
     if (text == shown)
         return;
     if (styling != noStyling)
@@ -294,7 +295,7 @@ void TextPanel::UseOtherFonts()
 {
     QHash<int, QString> found; // font family by unit
     const QStringList families = QFontDatabase().families();
-    for (const UnseenCharacter& character : unseen) {
+    for (const layout::UnseenCharacter& character : unseen) {
         const auto has = [&](const QString& family) {
             QFont font(family);
             font.setStyleStrategy(QFont::NoFontMerging);
@@ -314,7 +315,7 @@ void TextPanel::UseOtherFonts()
         return;
     }
     ++gesture;
-    const auto change = [&](int unit, StyleRun* run) {
+    const auto change = [&](int unit, layout::StyleRun* run) {
         run->font.setFamily(found.value(unit, run->font.family()));
     };
     emit Edited(Restyled(shown, change), gesture);
@@ -322,7 +323,7 @@ void TextPanel::UseOtherFonts()
 }
 
 /** Underlines @p character, which the sign will not show, and says why. */
-QTextEdit::ExtraSelection TextPanel::MarkOf(const UnseenCharacter& character) const
+QTextEdit::ExtraSelection TextPanel::MarkOf(const layout::UnseenCharacter& character) const
 {
     QTextEdit::ExtraSelection mark;
     mark.cursor = QTextCursor(editor->document());
@@ -339,14 +340,14 @@ QTextEdit::ExtraSelection TextPanel::MarkOf(const UnseenCharacter& character) co
 }
 
 /** Shows below the field what the sign will not show. */
-void TextPanel::ShowNotes(const SignText& text)
+void TextPanel::ShowNotes(const model::SignText& text)
 {
-    const Layout layout = text.IsLaidOut() ? *text.layout : Layout();
+    const model::Layout layout = text.IsLaidOut() ? *text.layout : model::Layout();
     unseen = layout.unseen;
     QStringList lines;
     QStringList letters;
     QList<QTextEdit::ExtraSelection> marks;
-    for (const UnseenCharacter& character : unseen) {
+    for (const layout::UnseenCharacter& character : unseen) {
         marks.append(MarkOf(character));
         letters.append(QString::fromUcs4(&character.codePoint, 1) +
                        QString::asprintf(" (U+%04X)", character.codePoint));
@@ -364,16 +365,16 @@ void TextPanel::ShowNotes(const SignText& text)
         lines.append(tr("Letters are cut off: %1 px at the top, %2 px at the bottom.")
                          .arg(layout.cutAbove)
                          .arg(layout.cutBelow));
-    const QVector<StyleRun>& runs = text.source.text.runs;
+    const QVector<layout::StyleRun>& runs = text.source.text.runs;
     if (std::any_of(runs.begin(), runs.end(),
-                    [&](const StyleRun& run) { return run.color != runs.first().color; }))
+                    [&](const layout::StyleRun& run) { return run.color != runs.first().color; }))
         lines.append(tr("The sign uses the first character's color for the whole text."));
     otherFont->setVisible(!marks.isEmpty());
     editor->setExtraSelections(marks);
     notes->setText(lines.join(QLatin1Char('\n')));
     notes->setToolTip(notes->text());
     notes->setVisible(!lines.isEmpty());
-    SetInk(notes, Warning(palette()));
+    basics::SetInk(notes, basics::Warning(palette()));
 }
 
 bool TextPanel::eventFilter(QObject* object, QEvent* event)
@@ -392,4 +393,4 @@ bool TextPanel::eventFilter(QObject* object, QEvent* event)
     return QWidget::eventFilter(object, event);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::text

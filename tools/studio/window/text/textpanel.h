@@ -15,7 +15,7 @@
 #include <QTimer>
 #include <QToolButton>
 
-namespace AnimText {
+namespace AnimText::studio::window::text {
 
 class TextPanel : public QWidget
 {
@@ -25,7 +25,7 @@ public:
     explicit TextPanel(QWidget* parent = nullptr);
 
     /** Shows @p text or, if null, nothing. Keeps the cursor while the text is the same. */
-    void Show(const SignText* text);
+    void Show(const model::SignText* text);
     /** Takes the focus and selects the whole text. */
     void BeginTyping();
 
@@ -33,7 +33,7 @@ public:
 
 signals:
     /** @param gesture identifies changes that are one undo step */
-    void Edited(const AnimText::StyledText& text, int gesture);
+    void Edited(const AnimText::layout::StyledText& text, int gesture);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -43,10 +43,10 @@ private:
     QToolButton* MakeFace(const QString& letter, const QKeySequence& key, const QString& name,
                           bool (QFont::*has)() const, void (QFont::*set)(bool));
     void FillColors();
-    void Restyle(const std::function<void(StyleRun*)>& change, int drag = -1);
+    void Restyle(const std::function<void(layout::StyleRun*)>& change, int drag = -1);
     void ShowStyle();
-    QTextEdit::ExtraSelection MarkOf(const UnseenCharacter& character) const;
-    void ShowNotes(const SignText& text);
+    QTextEdit::ExtraSelection MarkOf(const layout::UnseenCharacter& character) const;
+    void ShowNotes(const model::SignText& text);
     void UseOtherFonts();
     void Tell();
 
@@ -56,18 +56,18 @@ private:
     QLabel* notes = new QLabel(this);
     QPushButton* otherFont = new QPushButton(tr("Use another font for these"), this);
     QFontComboBox* family = new QFontComboBox(this);
-    NumberField* size = new NumberField(this);
-    QList<UnseenCharacter> unseen;
+    basics::NumberField* size = new basics::NumberField(this);
+    QList<layout::UnseenCharacter> unseen;
     QTimer pause;
     int shownId = 0;
-    StyledText shown;
+    layout::StyledText shown;
     int gesture = 0;
     int styling = -1;     // gesture of a style's drag; negative for none
     bool filling = false; // the fields are following the cursor
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::text
 
-Q_DECLARE_METATYPE(AnimText::StyledText)
+Q_DECLARE_METATYPE(AnimText::layout::StyledText)
 
 #endif

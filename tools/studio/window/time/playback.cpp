@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::window::time {
 namespace {
 
 constexpr int fastest = 8; // ticks per step
@@ -15,7 +15,7 @@ Playback::Playback(QObject* parent)
     : QObject(parent)
 {
     timer.setTimerType(Qt::PreciseTimer);
-    timer.setInterval(tickLength);
+    timer.setInterval(player::tickLength);
     connect(&timer, &QTimer::timeout, this, &Playback::Step);
 }
 
@@ -91,4 +91,4 @@ void Playback::Step()
     Seek(next);
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::time

@@ -10,7 +10,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::studio::window::time {
 
 class Playback : public QObject
 {
@@ -62,6 +62,6 @@ private:
     int loopEnd = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::time
 
 #endif

@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace AnimText {
+namespace AnimText::studio::window::time {
 namespace {
 
 constexpr int rulerHeight = 24; // logical pixels, as all sizes here
@@ -26,7 +26,7 @@ constexpr int ticksUnmeasured = 60; // shown while the timing is unknown
 
 double TicksOf(qint64 milliseconds)
 {
-    return double(milliseconds) / tickLength;
+    return double(milliseconds) / player::tickLength;
 }
 
 /** Seconds between the ruler's numbers, so that they do not overlap. */
@@ -136,7 +136,7 @@ QVector<int> Timeline::Marks() const
     QVector<int> marks{0};
     for (const TimelineRow& row : rows) {
         const int from = int(TicksOf(row.time.from));
-        for (const PageTime& page : row.time.pages)
+        for (const timing::PageTime& page : row.time.pages)
             marks << from + page.begin << from + page.hold;
     }
     marks << Ticks() - 1;
@@ -167,7 +167,7 @@ QPair<int, int> Timeline::PageAt(int tick) const
                           [this](const TimelineRow& row) { return row.id == selected; });
     for (const TimelineRow& row : order) {
         const int from = int(TicksOf(row.time.from));
-        for (const PageTime& page : row.time.pages) {
+        for (const timing::PageTime& page : row.time.pages) {
             if (tick >= from + page.begin && tick < from + page.end)
                 return {from + page.begin, from + page.end - 1};
         }
@@ -228,16 +228,16 @@ void Timeline::PaintRuler(QPainter* painter) const
 {
     const QRect ruler(0, 0, viewport()->width(), rulerHeight);
     painter->fillRect(ruler, palette().color(QPalette::Window));
-    const QColor quiet =
-        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.55);
+    const QColor quiet = basics::Mixed(palette().color(QPalette::WindowText),
+                                       palette().color(QPalette::Window), 0.55);
     if (playback->HasLoop()) {
         QColor shade = palette().color(QPalette::Highlight);
         shade.setAlpha(64);
         const double from = XOf(playback->LoopBegin());
         painter->fillRect(QRectF(from, 0, XOf(playback->LoopEnd() + 1) - from, rulerHeight), shade);
     }
-    painter->setFont(TabularFont(font(), -1));
-    const double seconds = Ticks() * tickLength / 1000.0;
+    painter->setFont(basics::TabularFont(font(), -1));
+    const double seconds = Ticks() * player::tickLength / 1000.0;
     const double perSecond = (XOf(Ticks()) - XOf(0)) / std::max(0.1, seconds);
     const double step = RulerStep(perSecond);
     const int small = step * perSecond / 5 >= 6 ? 5 : 2;
@@ -253,10 +253,10 @@ void Timeline::PaintRuler(QPainter* painter) const
             painter->drawText(QPointF(x + 4, rulerHeight - 8),
                               locale().toString(i * step / small, 'f', step < 1 ? 1 : 0));
     }
-    painter->setPen(
-        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.85));
+    painter->setPen(basics::Mixed(palette().color(QPalette::WindowText),
+                                  palette().color(QPalette::Window), 0.85));
     painter->drawLine(0, rulerHeight - 1, viewport()->width(), rulerHeight - 1);
-    painter->setPen(Quiet(palette()));
+    painter->setPen(basics::Quiet(palette()));
     painter->drawText(QRect(inset * 2, 0, titleWidth - inset * 3, rulerHeight), Qt::AlignVCenter,
                       tr("Seconds"));
 }
@@ -266,14 +266,14 @@ void Timeline::PaintLegend(QPainter* painter) const
 {
     const QPair<Phase, QString> entries[]{
         {Entrance, tr("entrance")}, {Hold, tr("hold")}, {Cut, tr("cut off")}};
-    painter->setFont(TabularFont(font(), -1));
+    painter->setFont(basics::TabularFont(font(), -1));
     const QFontMetrics metrics = painter->fontMetrics();
     const int middle = viewport()->height() - rowHeight / 2;
     int x = 2 * inset;
     for (const auto& entry : entries) {
         const QRect swatch(x, middle - 4, 12, 8);
         Fill(painter, swatch, entry.first);
-        painter->setPen(Quiet(palette()));
+        painter->setPen(basics::Quiet(palette()));
         x = swatch.right() + 1 + inset;
         painter->drawText(x, middle + metrics.ascent() / 2 - 1, entry.second);
         x += metrics.horizontalAdvance(entry.second) + 4 * inset;
@@ -286,21 +286,21 @@ void Timeline::Fill(QPainter* painter, const QRectF& rect, Phase phase) const
     const QColor accent = palette().color(QPalette::Highlight);
     const double holdShare = base.lightness() < 128 ? 0.45 : 0.65; // must be visible on dark, too
     if (phase == Cut) {
-        painter->fillRect(rect, Mixed(base, QColor(0, 0, 0, 0), 0.4));
-        painter->fillRect(rect, QBrush(Warning(palette()), Qt::BDiagPattern));
+        painter->fillRect(rect, basics::Mixed(base, QColor(0, 0, 0, 0), 0.4));
+        painter->fillRect(rect, QBrush(basics::Warning(palette()), Qt::BDiagPattern));
     } else {
-        const QColor color = Mixed(accent, base, phase == Entrance ? 0.1 : holdShare);
-        painter->fillRect(rect, Mixed(color, base, stale ? 0.6 : 0));
+        const QColor color = basics::Mixed(accent, base, phase == Entrance ? 0.1 : holdShare);
+        painter->fillRect(rect, basics::Mixed(color, base, stale ? 0.6 : 0));
     }
 }
 
 void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& rect) const
 {
-    const TextTime& text = row.time;
+    const worker::TextTime& text = row.time;
     const bool isSelected = row.id == selected;
     const QColor base = palette().color(QPalette::Base);
     const QColor background =
-        isSelected ? Mixed(palette().color(QPalette::Highlight), base, 0.88) : base;
+        isSelected ? basics::Mixed(palette().color(QPalette::Highlight), base, 0.88) : base;
     painter->fillRect(rect, background);
     QFont titleFont = font();
     titleFont.setBold(isSelected);
@@ -309,7 +309,7 @@ void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& 
     const QRect title(2 * inset, rect.top(), titleWidth - 3 * inset, rowHeight);
     painter->drawText(title, Qt::AlignVCenter | Qt::TextSingleLine,
                       painter->fontMetrics().elidedText(row.title, Qt::ElideRight, title.width()));
-    if (text.ending == Ending::NothingToPlay)
+    if (text.ending == timing::Ending::NothingToPlay)
         return;
 
     painter->save();
@@ -331,7 +331,7 @@ void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& 
         block(from, actual, Entrance);
     const int perPlay = PagesPerPlay(row);
     for (int i = 0; i < text.pages.size(); ++i) {
-        const PageTime& page = text.pages.at(i);
+        const timing::PageTime& page = text.pages.at(i);
         block(from + page.begin, from + page.hold, Entrance);
         if (page.end > page.hold)
             block(from + page.hold, from + page.end, Hold);
@@ -341,7 +341,7 @@ void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& 
         const QRectF bar = stretch(from + page.begin, from + page.end);
         painter->fillRect(QRectF(bar.topLeft(), QSizeF(bar.width(), 5)), background);
         const QString number = QStringLiteral("×%1").arg(i / perPlay + 1);
-        painter->setFont(TabularFont(font(), -2));
+        painter->setFont(basics::TabularFont(font(), -2));
         painter->setPen(palette().color(QPalette::HighlightedText));
         if (i % perPlay == 0 && painter->fontMetrics().horizontalAdvance(number) < bar.width())
             painter->drawText(bar.adjusted(3, 5, 3, 0), Qt::AlignVCenter, number);
@@ -349,7 +349,7 @@ void Timeline::PaintRow(QPainter* painter, const TimelineRow& row, const QRect& 
     // The host stops the text after its planned time and cuts off the rest.
     if (actual > planned + 1.99) // nobody misses a single tick
         Fill(painter, stretch(planned, actual), Cut);
-    painter->setPen(QPen(Warning(palette()), 1));
+    painter->setPen(QPen(basics::Warning(palette()), 1));
     const double x = std::round(XOf(planned));
     painter->drawLine(QPointF(x, rect.top() + 1), QPointF(x, rect.bottom() - 1));
     painter->restore();
@@ -367,28 +367,29 @@ QString Timeline::Describe(const QPoint& point) const
     const TimelineRow* row = RowAt(point);
     if (!row)
         return tr("Click or drag: go to that time. Shift+drag: loop a range. Ctrl+wheel: zoom.");
-    const TextTime& text = row->time;
+    const worker::TextTime& text = row->time;
     const int at = TickAt(point.x());
     const double tick = at - TicksOf(text.from);
     QString what = row->title;
     if (point.x() >= titleWidth)
-        what +=
-            QLatin1Char('\n') + tr("%1, tick %2").arg(SecondsText(qint64(at) * tickLength)).arg(at);
+        what += QLatin1Char('\n') +
+                tr("%1, tick %2").arg(basics::SecondsText(qint64(at) * player::tickLength)).arg(at);
     int number = 0;
-    for (const PageTime& page : text.pages) {
+    for (const timing::PageTime& page : text.pages) {
         ++number;
         if (tick < page.begin || tick >= page.end)
             continue;
         const bool holds = tick >= page.hold;
-        what += QLatin1Char('\n') +
-                (holds ? tr("Page %1: hold, %2") : tr("Page %1: entrance, %2"))
-                    .arg((number - 1) % PagesPerPlay(*row) + 1)
-                    .arg(SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
-                                     qint64(tickLength)));
+        what +=
+            QLatin1Char('\n') +
+            (holds ? tr("Page %1: hold, %2") : tr("Page %1: entrance, %2"))
+                .arg((number - 1) % PagesPerPlay(*row) + 1)
+                .arg(basics::SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
+                                         qint64(player::tickLength)));
     }
-    what += QLatin1Char('\n') + tr("Planned: %1").arg(SecondsText(text.planned));
+    what += QLatin1Char('\n') + tr("Planned: %1").arg(basics::SecondsText(text.planned));
     if (text.actual >= 0)
-        what += QLatin1Char('\n') + tr("Needs: %1").arg(SecondsText(text.actual));
+        what += QLatin1Char('\n') + tr("Needs: %1").arg(basics::SecondsText(text.actual));
     return what;
 }
 
@@ -443,4 +444,4 @@ void Timeline::mouseReleaseEvent(QMouseEvent* event)
     marking = false;
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::time

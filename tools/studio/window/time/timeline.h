@@ -10,7 +10,7 @@
 
 #include <QAbstractScrollArea>
 
-namespace AnimText {
+namespace AnimText::studio::window::time {
 
 /** A text and its times. */
 struct TimelineRow
@@ -18,7 +18,7 @@ struct TimelineRow
     int id = 0;
     QString title;
     int plays = 1; ///< those after the first are drawn as repeats
-    TextTime time;
+    worker::TextTime time;
 };
 
 class Timeline : public QAbstractScrollArea
@@ -88,6 +88,6 @@ private:
     int markFrom = 0;
 };
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::time
 
 #endif

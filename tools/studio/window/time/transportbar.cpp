@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace AnimText {
+namespace AnimText::studio::window::time {
 namespace {
 
 constexpr int narrowWidth = 520; // logical pixels; below it, ticks and spare buttons are hidden
@@ -44,8 +44,8 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     , ends(new ShortLabel(this))
 {
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
-    layout->setSpacing(grid / 2);
+    layout->setContentsMargins(2 * basics::grid, basics::grid, 2 * basics::grid, basics::grid);
+    layout->setSpacing(basics::grid / 2);
     const auto by = [playback](int ticks) {
         return [=] { playback->Seek(playback->Tick() + ticks); };
     };
@@ -71,14 +71,14 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     connect(what, qOverload<int>(&QComboBox::activated), this,
             [this](int index) { emit ScheduleChanged(index == 1); });
 
-    time->setFont(TabularFont(font(), 1));
+    time->setFont(basics::TabularFont(font(), 1));
     time->setMinimumWidth(time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s")));
-    ends->setFont(TabularFont(font()));
+    ends->setFont(basics::TabularFont(font()));
 
-    layout->addSpacing(2 * grid);
+    layout->addSpacing(2 * basics::grid);
     layout->addWidget(time);
     layout->addWidget(ends, 1);
-    layout->addSpacing(2 * grid);
+    layout->addSpacing(2 * basics::grid);
     layout->addWidget(what);
 
     connect(playback, &Playback::TickChanged, this, &TransportBar::ShowTime);
@@ -93,7 +93,7 @@ QToolButton* TransportBar::Add(const QString& icon, const QString& name, const Q
 {
     auto* button = new QToolButton(this);
     button->setAutoRaise(true);
-    button->setIcon(Icon(icon));
+    button->setIcon(basics::Icon(icon));
     button->setAccessibleName(name);
     button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key));
     button->setFocusPolicy(Qt::TabFocus);
@@ -104,7 +104,7 @@ QToolButton* TransportBar::Add(const QString& icon, const QString& name, const Q
 
 void TransportBar::ShowTime()
 {
-    const QString seconds = SecondsText(qint64(playback->Tick()) * tickLength);
+    const QString seconds = basics::SecondsText(qint64(playback->Tick()) * player::tickLength);
     const QString both = tr("%1  tick %2").arg(seconds).arg(playback->Tick());
     const bool isNarrow = width() < narrowWidth;
     time->setText(isNarrow ? seconds : both);
@@ -120,8 +120,8 @@ void TransportBar::resizeEvent(QResizeEvent*)
 
 void TransportBar::ShowPace()
 {
-    play->setIcon(Icon(playback->IsPlaying() ? QStringLiteral("media-playback-pause")
-                                             : QStringLiteral("media-playback-start")));
+    play->setIcon(basics::Icon(playback->IsPlaying() ? QStringLiteral("media-playback-pause")
+                                                     : QStringLiteral("media-playback-start")));
     const QString name = playback->IsPlaying() ? tr("Stop") : tr("Play");
     play->setAccessibleName(name);
     play->setToolTip(QStringLiteral("%1 (%2)").arg(name, tr("Space")));
@@ -132,50 +132,53 @@ void TransportBar::SetSchedule(bool schedule)
     what->setCurrentIndex(schedule ? 1 : 0);
 }
 
-int LostPages(const TextTime& text)
+int LostPages(const worker::TextTime& text)
 {
-    return int(std::count_if(text.pages.begin(), text.pages.end(), [&](const PageTime& page) {
-        return qint64(page.begin) * tickLength >= text.planned;
-    }));
+    return int(
+        std::count_if(text.pages.begin(), text.pages.end(), [&](const timing::PageTime& page) {
+            return qint64(page.begin) * player::tickLength >= text.planned;
+        }));
 }
 
-TextTime SideBySide(const QVector<TextTime>& texts)
+worker::TextTime SideBySide(const QVector<worker::TextTime>& texts)
 {
-    TextTime all;
-    all.ending = Ending::Finishes;
+    worker::TextTime all;
+    all.ending = timing::Ending::Finishes;
     all.actual = 0;
-    for (const TextTime& text : texts) {
-        if (text.ending == Ending::TooLong)
-            all.ending = Ending::TooLong;
+    for (const worker::TextTime& text : texts) {
+        if (text.ending == timing::Ending::TooLong)
+            all.ending = timing::Ending::TooLong;
         all.planned = std::max(all.planned, text.planned);
         all.actual = std::max(all.actual, text.actual);
     }
     return all;
 }
 
-QString EndsInWords(const TextTime& text)
+QString EndsInWords(const worker::TextTime& text)
 {
-    if (text.ending == Ending::NothingToPlay)
+    if (text.ending == timing::Ending::NothingToPlay)
         return TransportBar::tr("this text is empty");
-    if (text.ending == Ending::TooLong)
-        return TransportBar::tr("planned %1 · too long to measure").arg(SecondsText(text.planned));
+    if (text.ending == timing::Ending::TooLong)
+        return TransportBar::tr("planned %1 · too long to measure")
+            .arg(basics::SecondsText(text.planned));
     QString words = TransportBar::tr("planned %1 · needs %2")
-                        .arg(SecondsText(text.planned), SecondsText(text.actual));
+                        .arg(basics::SecondsText(text.planned), basics::SecondsText(text.actual));
     const qint64 difference = text.actual - text.planned;
     if (const int lost = LostPages(text))
         words += TransportBar::tr(" · %n page(s) lost", nullptr, lost);
-    else if (difference >= 2 * tickLength) // nobody misses a single tick
-        words += TransportBar::tr(" · %1 lost").arg(SecondsText(difference));
-    else if (difference <= -2 * tickLength)
-        words += TransportBar::tr(" · stays %1 longer").arg(SecondsText(-difference));
+    else if (difference >= 2 * player::tickLength) // nobody misses a single tick
+        words += TransportBar::tr(" · %1 lost").arg(basics::SecondsText(difference));
+    else if (difference <= -2 * player::tickLength)
+        words += TransportBar::tr(" · stays %1 longer").arg(basics::SecondsText(-difference));
     return words;
 }
 
-void TransportBar::ShowEnds(const TextTime* text, const QString& all)
+void TransportBar::ShowEnds(const worker::TextTime* text, const QString& all)
 {
     ends->setText(text ? EndsInWords(*text) : QString());
     ends->setToolTip(all);
-    SetInk(ends, text && LostPages(*text) > 0 ? Warning(palette()) : Quiet(palette()));
+    basics::SetInk(ends, text && LostPages(*text) > 0 ? basics::Warning(palette())
+                                                      : basics::Quiet(palette()));
 }
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::time

@@ -15,7 +15,7 @@
 
 #include <functional>
 
-namespace AnimText {
+namespace AnimText::studio::window::time {
 
 class TransportBar : public QWidget
 {
@@ -25,7 +25,7 @@ public:
     explicit TransportBar(Playback* playback, QWidget* parent = nullptr);
 
     /** Shows the times of @p text; @p all, with those of page and all pages, is the tooltip. */
-    void ShowEnds(const TextTime* text, const QString& all);
+    void ShowEnds(const worker::TextTime* text, const QString& all);
     /** Whether all pages play as on the host; otherwise only the current page plays. */
     bool IsSchedule() const { return what->currentIndex() == 1; }
     void SetSchedule(bool schedule);
@@ -54,14 +54,14 @@ private:
 };
 
 /** The planned and actual time, as in "planned 12.5 s · needs 12.9 s · 0.4 s lost". */
-QString EndsInWords(const TextTime& text);
+QString EndsInWords(const worker::TextTime& text);
 
 /** Number of pages that would begin after the host has stopped the text. */
-int LostPages(const TextTime& text);
+int LostPages(const worker::TextTime& text);
 
 /** The planned and actual time of texts that play at the same time, together. */
-TextTime SideBySide(const QVector<TextTime>& texts);
+worker::TextTime SideBySide(const QVector<worker::TextTime>& texts);
 
-} // namespace AnimText
+} // namespace AnimText::studio::window::time
 
 #endif
