@@ -29,9 +29,9 @@ double ProcessorTime()
 double AllProcessorTime()
 {
     double all = studio::worker::ProcessorTimeOf(getpid());
-    const QDir tasks(QStringLiteral("/proc/self/task"));
+    const QDir tasks("/proc/self/task");
     for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile children(tasks.filePath(task + QStringLiteral("/children")));
+        QFile children(tasks.filePath(task + "/children"));
         if (!children.open(QIODevice::ReadOnly))
             continue;
         for (const QByteArray& child : children.readAll().simplified().split(' ')) {
@@ -105,11 +105,11 @@ int main(int argc, char** argv)
     start.start();
     TimedApplication application(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
-    QCoreApplication::setApplicationName(QStringLiteral("animtext-studio-bench"));
+    QCoreApplication::setApplicationName("animtext-studio-bench");
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     studio::worker::WorkerLink::SetProgram(QCoreApplication::applicationDirPath() +
-                                           QStringLiteral("/animtext-studio"));
+                                           "/animtext-studio");
     studio::window::shell::MainWindow window((QString()));
     window.New();
     window.show();
@@ -121,7 +121,7 @@ int main(int argc, char** argv)
     std::printf("start to the first picture      %7.1f ms (%.1f ms of work)\n",
                 double(start.nsecsElapsed()) / 1e6, AllProcessorTime());
 
-    const QString forty = QStringLiteral("Mind the gap between train and platform.");
+    const QString forty = "Mind the gap between train and platform.";
     std::vector<double> latencies;
     std::vector<double> works; // of all processes; what would be waited for if they worked in turn
     WaitFor(settled);
@@ -130,10 +130,10 @@ int main(int argc, char** argv)
         studio::model::Sign sign = document->Current();
         sign.texts.first().source.text.text =
             forty.left(39) + QChar(QLatin1Char('a').unicode() + i % 26);
-        sign.texts.first().node.attributes[QStringLiteral("AnimationEffect")] = i % 30;
+        sign.texts.first().node.attributes["AnimationEffect"] = i % 30;
         window.GetPlayback()->Seek(20);
         const double before = AllProcessorTime();
-        document->Change(QStringLiteral("Text"), sign);
+        document->Change("Text", sign);
         latencies.push_back(WaitFor(shown));
         works.push_back(AllProcessorTime() - before);
         WaitFor(settled);

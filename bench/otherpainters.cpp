@@ -142,12 +142,12 @@ std::string Lottie(const QPainterPath& text, QSize size)
             add(p, b - p);
         });
     finish();
-    const QString color = QStringLiteral("\"c\":{\"a\":0,\"k\":[1,1,1,1]},"
-                                         "\"o\":{\"a\":0,\"k\":100}");
+    const QString color = "\"c\":{\"a\":0,\"k\":[1,1,1,1]},"
+                          "\"o\":{\"a\":0,\"k\":100}";
     // Moved by a pixel from frame to frame: it would cache what does not move.
-    const QString moves = QStringLiteral(
+    const QString moves =
         "\"p\":{\"a\":1,\"k\":[{\"t\":0,\"s\":[0,0],\"e\":[2,0],\"i\":{\"x\":1,\"y\":1},"
-        "\"o\":{\"x\":0,\"y\":0}},{\"t\":2}]}");
+        "\"o\":{\"x\":0,\"y\":0}},{\"t\":2}]}";
     return QStringLiteral(
                "{\"v\":\"5.5.2\",\"fr\":15,\"ip\":0,\"op\":2,\"w\":%1,\"h\":%2,\"layers\":[{"
                "\"ty\":4,\"ip\":0,\"op\":2,\"st\":0,\"ks\":{%5},\"shapes\":[{\"ty\":\"gr\",\"it\":["

@@ -47,7 +47,7 @@ QString Tell(const compare::Difference& difference, const compare::Recording& a,
                         : QString();
     };
     const QString where = difference.session == 0
-                              ? QStringLiteral("before any session")
+                              ? "before any session"
                               : QStringLiteral("session %1, call %2, at tick %3 (%4 s)")
                                     .arg(difference.session)
                                     .arg(difference.call + 1)

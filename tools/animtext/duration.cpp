@@ -133,7 +133,7 @@ Times Measure(const shared::Playing& playing, scene::Scene scene, int effect, in
 {
     scene::SceneNode& node = scene.At({});
     scene::SetMotion(&node, {scene::Mode::Entrance, effect});
-    node.attributes[QStringLiteral("AnimationSpeed")] = speed;
+    node.attributes["AnimationSpeed"] = speed;
     const std::unique_ptr<player::Player> player = playing.Load(scene);
     Times times;
     times.planned = player->Scenery().Node(0)->Duration();

@@ -34,7 +34,7 @@ QString WordsOf(const cli::Command& command, const cli::CommandLine& line)
     for (const cli::Option& option : command.options) {
         if (!IsTextOption(option) || !(line.IsSet(option.name) || option.standard))
             continue;
-        words.append(QStringLiteral("--") + QLatin1String(option.name));
+        words.append("--" + QLatin1String(option.name));
         if (option.kind != cli::Kind::Flag)
             words.append(Quoted(line.Value(option.name)));
     }
@@ -47,7 +47,7 @@ int MakeGallery(const cli::CommandLine& line)
     options.words = WordsOf(GalleryCommand(), line);
     options.folder = line.Value("output");
     options.node = shared::ReadLook(line);
-    options.node.attributes[QStringLiteral("PlayTimes")] = 1;
+    options.node.attributes["PlayTimes"] = 1;
     author::WrittenText typed = shared::ReadWritten(line);
     typed.words = line.Value("text");
     QString error;

@@ -119,13 +119,13 @@ const QVector<cli::Command>& Commands()
 int Run(QString name, const QStringList& words)
 {
     if (name.isEmpty())
-        throw cli::Misuse{QStringLiteral("expected a command")};
+        throw cli::Misuse{"expected a command"};
     if (name == QLatin1String("--version")) {
         cli::Print("animtext " ANIMTEXT_VERSION "\n");
         return files::Done;
     }
     if (name == QLatin1String("--help") || name == QLatin1String("-h"))
-        name = QStringLiteral("help");
+        name = "help";
     const cli::Command& command = FindCommand(name);
     try {
         const cli::CommandLine line(command, words);
@@ -147,7 +147,7 @@ int RunAndReport(const QStringList& words)
         cli::FlushOutput();
         return status;
     } catch (const cli::Misuse& misuse) {
-        cli::Warn(misuse.message + QStringLiteral(" (see animtext help)"));
+        cli::Warn(misuse.message + " (see animtext help)");
         return files::BadInput;
     } catch (const files::Failure& failure) {
         cli::Warn(failure.message);
@@ -187,6 +187,6 @@ int main(int argc, char** argv)
     // Without XDG_RUNTIME_DIR Qt makes a folder in TMPDIR, which nothing here needs.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         rmdir(QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)));
-    QCoreApplication::setApplicationName(QStringLiteral("animtext"));
+    QCoreApplication::setApplicationName("animtext");
     return RunAndReport(words);
 }

@@ -28,7 +28,7 @@ void Reload(const cli::CommandLine& line, live::LivePlayer* player, live::SceneW
         QString error;
         files::FailUnless(player->Play(scene, settings, &error), error, files::BadInput);
     } catch (const files::Failure& failure) {
-        cli::Warn(failure.message + QStringLiteral(" (still playing the previous version)"));
+        cli::Warn(failure.message + " (still playing the previous version)");
     }
 }
 

@@ -33,7 +33,7 @@ const film::FilmKind& KindOf(const QString& output)
 /** Throws Misuse when films of that kind cannot be what the options ask for. */
 void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
 {
-    const QString films = kind.ending + QStringLiteral(" films");
+    const QString films = QString(kind.ending) + " films";
     const bool transparent = line.IsSet("transparent");
     const bool lossless = line.IsSet("lossless");
     const bool leds = line.IsSet("leds");
@@ -159,15 +159,14 @@ void RenderOne(const cli::CommandLine& line, const QString& output)
 void RenderMany(const cli::CommandLine& line)
 {
     const QString kind = line.Value("as");
-    const QString ending =
-        kind == QLatin1String("frames") ? QStringLiteral("/") : QLatin1Char('.') + kind;
+    const QString ending = kind == QLatin1String("frames") ? "/" : QLatin1Char('.') + kind;
     CheckKind(line, KindOf(ending));
     QStringList options;
     for (const cli::Option& option : RenderCommand().options) {
         static const QStringList ours{"output", "as", "jobs", "resume", "progress"};
         if (!line.IsSet(option.name) || ours.contains(option.name))
             continue;
-        options.append(QStringLiteral("--") + option.name);
+        options.append(QString("--") + option.name);
         if (option.kind != cli::Kind::Flag)
             options.last() += QLatin1Char('=') + line.Value(option.name);
     }

@@ -11,7 +11,7 @@ bool AuthorNode(const TextSource& source, const scene::SceneNode& settings,
     node = settings;
     node.size = authored->area;
     scene::SetMotion(&node, motion);
-    node.attributes[QStringLiteral("Text")] = authored->text;
+    node.attributes["Text"] = authored->text;
     node.lists = authored->lists;
     return true;
 }

@@ -11,7 +11,7 @@ QByteArray Joined(const QStringList& words)
 
 QStringList OptionWords(const Option& option)
 {
-    QStringList names{QStringLiteral("--") + QLatin1String(option.name)};
+    QStringList names{"--" + QLatin1String(option.name)};
     if (option.letter)
         names.append(ShortestName(option));
     return names;

@@ -47,7 +47,7 @@ bool Interrupted()
 void StopIfInterrupted()
 {
     if (caught)
-        throw files::Failure{files::FailedRun, QStringLiteral("interrupted")};
+        throw files::Failure{files::FailedRun, "interrupted"};
 }
 
 int InterruptionStatus()

@@ -40,9 +40,9 @@ void InstallMessages()
 
 QString NoDisplay()
 {
-    return QStringLiteral(
-        "no display: run animtext in a desktop session or with xvfb-run, or set QT_QPA_PLATFORM to "
-        "vnc for VNC viewers or to linuxfb for a board's own screen (/dev/fb0)");
+    return "no display: run animtext in a desktop session or with xvfb-run, or set QT_QPA_PLATFORM "
+           "to "
+           "vnc for VNC viewers or to linuxfb for a board's own screen (/dev/fb0)";
 }
 
 Silence::Silence()

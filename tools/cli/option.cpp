@@ -20,7 +20,7 @@ Option Option::Scroll(const char* name, const char* help)
 QString ShortestName(const Option& option)
 {
     return option.letter ? QLatin1Char('-') + QString(QLatin1Char(option.letter))
-                         : QStringLiteral("--") + QLatin1String(option.name);
+                         : "--" + QLatin1String(option.name);
 }
 
 QString HelpWithDefault(const Option& option)

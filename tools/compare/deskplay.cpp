@@ -39,7 +39,7 @@ bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
     DropStops(recorded, Stops::Anywhere);
     if (!player->Load(scene, error))
         return false;
-    desk->name = QStringLiteral("the desktop");
+    desk->name = "the desktop";
     int lastCall = 0; // its tick
     player->Scenery().WatchCalls([&](const Torv::CallRecord& call) {
         QImage shown;
@@ -65,7 +65,7 @@ bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
         player->Advance();
         takeBackgrounds();
         if (!goOn()) {
-            *error = QStringLiteral("interrupted");
+            *error = "interrupted";
             return false;
         }
     }

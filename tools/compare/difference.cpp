@@ -14,7 +14,7 @@ using Calls = QVector<RecordedCall>;
 QString Text(const QJsonValue& value)
 {
     if (value.isUndefined())
-        return QStringLiteral("missing");
+        return "missing";
     const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(list.mid(1, list.size() - 2));
 }
@@ -55,7 +55,7 @@ struct Comparison
     Difference Durations() const
     {
         const auto question = [](RecordedCall call) {
-            call.details.remove(QStringLiteral("result"));
+            call.details.remove("result");
             return call.details;
         };
         const Calls others = b.sessions.value(0);
@@ -82,31 +82,29 @@ struct Comparison
         if (callA.name != callB.name) {
             const bool isOrder =
                 callsA.value(i + 1).name == callB.name && callsB.value(i + 1).name == callA.name;
-            return {
-                QStringLiteral("%1 calls %2, %3 calls %4%5")
-                    .arg(a.name, callA.name, b.name, callB.name,
-                         isOrder ? QStringLiteral(": same calls in another order") : QString())};
+            return {QStringLiteral("%1 calls %2, %3 calls %4%5")
+                        .arg(a.name, callA.name, b.name, callB.name,
+                             isOrder ? ": same calls in another order" : QString())};
         }
         if (callA.details != callB.details)
             return {Details(callA, callB)};
         if (AreKnownAndDiffer(callA.sha1, callB.sha1))
             return {QStringLiteral("%1: the pictures differ").arg(callA.name), true};
         if (AreKnownAndDiffer(callA.background, callB.background))
-            return {QStringLiteral("the background differs at the end of this tick")};
+            return {"the background differs at the end of this tick"};
         const qint64 late = (callA.ms - callsA.first().ms) - (callB.ms - callsB.first().ms);
         if (tolerance < 0 || callA.ms < 0 || callB.ms < 0 || std::abs(late) <= tolerance)
             return {};
-        return {
-            QStringLiteral("%1 is %2 ms %3 in %4 than in %5; allowed: %6 ms")
-                .arg(callA.name)
-                .arg(std::abs(late))
-                .arg(late > 0 ? QStringLiteral("later") : QStringLiteral("earlier"), a.name, b.name)
-                .arg(tolerance)};
+        return {QStringLiteral("%1 is %2 ms %3 in %4 than in %5; allowed: %6 ms")
+                    .arg(callA.name)
+                    .arg(std::abs(late))
+                    .arg(late > 0 ? "later" : "earlier", a.name, b.name)
+                    .arg(tolerance)};
     }
 
     QString Details(const RecordedCall& callA, const RecordedCall& callB) const
     {
-        return callA.name + QStringLiteral(": ") + Details(QString(), callA.details, callB.details);
+        return callA.name + ": " + Details(QString(), callA.details, callB.details);
     }
 
     /** The first argument, or member of a record, that differs. */

@@ -28,8 +28,8 @@ bool ReadExpectation(const QString& path, Expectation* expectation, QString* err
         *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
         return false;
     }
-    static const QRegularExpression form(QStringLiteral(
-        "\\A(.*) (\\d+) ([01]) (\\d+) (\\d+) (-|[0-9a-f]{16}) ([012])(?: ([0-9a-f]{16}))?\\n?\\z"));
+    static const QRegularExpression form(
+        "\\A(.*) (\\d+) ([01]) (\\d+) (\\d+) (-|[0-9a-f]{16}) ([012])(?: ([0-9a-f]{16}))?\\n?\\z");
     for (int number = 1; !file.atEnd(); ++number) {
         const QRegularExpressionMatch line = form.match(QString::fromUtf8(file.readLine()));
         if (!line.hasMatch()) {
@@ -122,16 +122,15 @@ QByteArray Tally::Table() const
                      .arg(scenes, 7)
                      .arg(pictures, 10)
                      .arg(equal, 9)
-                     .arg(last.isEmpty() ? last : QStringLiteral("  ") + last);
+                     .arg(last.isEmpty() ? last : "  " + last);
     };
     const auto addRow = [&add](const QString& number, const Row& row) {
         add(number, row.motion, QString::number(row.scenes), QString::number(row.pictures),
             QString::number(row.equal), row.firstDifference);
     };
-    add(QString(), QStringLiteral("motion"), QStringLiteral("scenes"), QStringLiteral("pictures"),
-        QStringLiteral("equal"), QStringLiteral("first difference"));
+    add(QString(), "motion", "scenes", "pictures", "equal", "first difference");
     Row all;
-    all.motion = QStringLiteral("all");
+    all.motion = "all";
     for (auto row = rows.begin(); row != rows.end(); ++row) {
         addRow(QString::number(row.key().second), *row);
         all.scenes += row->scenes;
@@ -149,9 +148,8 @@ QByteArray Tally::Table() const
                          .arg(aspect->scenes - aspect->differ.size())
                          .arg(aspect->scenes);
         if (!aspect->differ.isEmpty())
-            differences +=
-                QStringLiteral("%1 differ: %2\n")
-                    .arg(QLatin1String(aspect->ofScene), aspect->differ.join(QStringLiteral(", ")));
+            differences += QStringLiteral("%1 differ: %2\n")
+                               .arg(QLatin1String(aspect->ofScene), aspect->differ.join(", "));
     }
     return (table + differences).toUtf8();
 }

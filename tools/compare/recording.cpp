@@ -32,10 +32,9 @@ QVector<RecordedCall>& Recording::Session(int index)
 bool Recording::Take(const QByteArray& text, int number)
 {
     const QJsonObject line = QJsonDocument::fromJson(text).object();
-    if (line.contains(QStringLiteral("call")))
-        TakeCall(line, number, line.value(QStringLiteral("ms")).toInt(-1),
-                 line.value(QStringLiteral("sha1")).toString());
-    else if (line.contains(QStringLiteral("tick")))
+    if (line.contains("call"))
+        TakeCall(line, number, line.value("ms").toInt(-1), line.value("sha1").toString());
+    else if (line.contains("tick"))
         TakeTick(line, number);
     else
         return false;
@@ -48,21 +47,21 @@ void Recording::TakeCall(const QJsonObject& line, int number, qint64 ms, const Q
     RecordedCall call;
     call.line = number;
     call.ms = ms;
-    call.name = line.value(QStringLiteral("call")).toString();
+    call.name = line.value("call").toString();
     call.details = line;
     for (const char* key :
          {"call", "session", "display", "ms", "w", "h", "sha1", "pixels", "problem"})
         call.details.remove(QLatin1String(key));
     call.sha1 = sha1;
-    call.pixels = line.value(QStringLiteral("pixels")).toInt(-1);
-    const QJsonValue result = line.value(QStringLiteral("result"));
+    call.pixels = line.value("pixels").toInt(-1);
+    const QJsonValue result = line.value("result");
     int index = 0;
     if (call.name == QLatin1String("CreatePictureSession")) {
-        call.details[QStringLiteral("result")] = result.toDouble() != 0;
+        call.details["result"] = result.toDouble() != 0;
         index = sessions.size();
         indices[result.toDouble()] = index;
-    } else if (line.contains(QStringLiteral("session"))) {
-        index = indices.value(line.value(QStringLiteral("session")).toDouble());
+    } else if (line.contains("session")) {
+        index = indices.value(line.value("session").toDouble());
     }
     Session(index).append(call);
 }
@@ -70,17 +69,17 @@ void Recording::TakeCall(const QJsonObject& line, int number, qint64 ms, const Q
 /** A trace's line of a tick belongs to the calls before it. */
 void Recording::TakeTick(const QJsonObject& line, int number)
 {
-    const qint64 ms = line.value(QStringLiteral("ms")).toInt();
-    const QString sha1 = line.value(QStringLiteral("sha1")).toString();
-    const bool isNew = line.value(QStringLiteral("swap")).toBool();
-    const int index = line.value(QStringLiteral("node")).toInt() + 1;
-    const QString background = line.value(QStringLiteral("background")).toString();
+    const qint64 ms = line.value("ms").toInt();
+    const QString sha1 = line.value("sha1").toString();
+    const bool isNew = line.value("swap").toBool();
+    const int index = line.value("node").toInt() + 1;
+    const QString background = line.value("background").toString();
     QVector<RecordedCall>& own = Session(index);
     if (!hasCalls) {
         RecordedCall picture;
         picture.line = number;
         picture.ms = ms;
-        picture.name = QStringLiteral("picture");
+        picture.name = "picture";
         picture.background = background;
         if (isNew || own.isEmpty())
             picture.sha1 = sha1;
@@ -94,8 +93,7 @@ void Recording::TakeTick(const QJsonObject& line, int number)
     }
     for (int i = own.size() - 1; i >= 0 && isNew && own.at(i).ms == ms; --i) {
         if (own.at(i).name == QLatin1String("SwapPicImageLayerPtr") &&
-            own.at(i).details.value(QStringLiteral("layer")) ==
-                line.value(QStringLiteral("layer"))) {
+            own.at(i).details.value("layer") == line.value("layer")) {
             own[i].sha1 = sha1;
             break;
         }

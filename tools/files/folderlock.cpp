@@ -33,7 +33,7 @@ QString Cause(const QString& folder)
 
 FolderLock::FolderLock(const QString& folder)
     : folder(folder)
-    , file(folder + QStringLiteral("/.animtext.lock"))
+    , file(folder + "/.animtext.lock")
 {
 }
 

@@ -37,9 +37,8 @@ void Sweep(const QDir& folder)
 {
     static const QRegularExpression pattern(
         QStringLiteral("\\.(\\d+)%1\\.\\w{6}$").arg(QRegularExpression::escape(Mark())));
-    const QStringList names =
-        folder.entryList({QStringLiteral(".*") + Mark() + QStringLiteral(".*")},
-                         QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    const QStringList names = folder.entryList(
+        {".*" + Mark() + ".*"}, QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
     for (const QString& name : names) {
         const auto match = pattern.match(name);
         if (!match.hasMatch() || IsRunning(match.captured(1).toLongLong()))
@@ -109,12 +108,11 @@ QString UnfinishedName(const QString& path)
 {
     const QFileInfo info(path);
     Sweep(info.absoluteDir());
-    const QString end = QLatin1Char('.') + QString::number(QCoreApplication::applicationPid()) +
-                        Mark() + QStringLiteral(".XXXXXX");
-    const QString around =
-        QStringLiteral("..old"); // a leading dot; the suffix of a replaced folder
+    const QString end =
+        QLatin1Char('.') + QString::number(QCoreApplication::applicationPid()) + Mark() + ".XXXXXX";
+    const QString around = "..old"; // a leading dot; the suffix of a replaced folder
     const int room = longestName - QFile::encodeName(around + end).size();
-    return info.absolutePath() + QStringLiteral("/.") + Shortened(info.fileName(), room) + end;
+    return info.absolutePath() + "/." + Shortened(info.fileName(), room) + end;
 }
 
 bool MakeFolder(const QString& path, QString* error)
@@ -133,8 +131,8 @@ QString TemporaryName()
 {
     // If TMPDIR is not a folder, QDir::tempPath() is empty and Qt would make folders in /.
     const QString place = QFile::decodeName(qgetenv("TMPDIR"));
-    return QDir(place.isEmpty() ? QStringLiteral("/tmp") : place)
-        .absoluteFilePath(QCoreApplication::applicationName() + QStringLiteral("-XXXXXX"));
+    return QDir(place.isEmpty() ? "/tmp" : place)
+        .absoluteFilePath(QCoreApplication::applicationName() + "-XXXXXX");
 }
 
 bool IsMade(const QTemporaryDir& folder, QString* error)

@@ -104,7 +104,7 @@ bool WholeFolder::Add(const QString& name, const QByteArray& content, QString* e
 bool WholeFolder::Finish(QString* error)
 {
     const bool replaces = QFileInfo::exists(path);
-    const QString old = folder->path() + QStringLiteral(".old");
+    const QString old = folder->path() + ".old";
     if (replaces && !IsReplaceable(path, error))
         return false;
     if (replaces && std::rename(QFile::encodeName(path), QFile::encodeName(old)) != 0) {

@@ -55,9 +55,7 @@ public:
         if (kind.Has(FilmKind::Palette))
             words += WithPalette(Palette(play));
         words += kind.Encoding(format.transparent, format.lossless);
-        encoder.Start(QStringLiteral("ffmpeg"),
-                      words + QStringList{QStringLiteral("-f"), kind.Name(), QStringLiteral("-y"),
-                                          unfinished.fileName()},
+        encoder.Start("ffmpeg", words + QStringList{"-f", kind.Name(), "-y", unfinished.fileName()},
                       unfinished.fileName());
     }
 
@@ -86,7 +84,7 @@ private:
     QByteArray Palette(const PlayPictures& play) const
     {
         FilmProgram chooser(path, goOn, patience);
-        chooser.Start(QStringLiteral("ffmpeg"),
+        chooser.Start("ffmpeg",
                       FilmProgram::Reading(format.size, "bgra") +
                           Words(QStringLiteral("-vf palettegen=reserve_transparent=%1 "
                                                "-f rawvideo -pix_fmt bgra pipe:1")

@@ -32,8 +32,8 @@ struct BrokenOff
 {
 };
 
-const QString manifestName = QStringLiteral("manifest.json");
-const QString generator = QStringLiteral("animtext gallery");
+const QString manifestName = "manifest.json";
+const QString generator = "animtext gallery";
 
 QString Digest(const QByteArray& content)
 {
@@ -56,13 +56,13 @@ QStringList OwnFiles(const QDir& folder)
 {
     const QJsonObject manifest =
         QJsonDocument::fromJson(ContentOf(folder.filePath(manifestName))).object();
-    if (manifest.value(QStringLiteral("generator")).toString() != generator)
+    if (manifest.value("generator").toString() != generator)
         return QStringList();
     static const QRegularExpression names(
-        QRegularExpression::anchoredPattern(QStringLiteral("\\w+\\.(html|css|js|png)|"
-                                                           "motions/\\w+(-\\d+\\.png|\\.js)")));
+        QRegularExpression::anchoredPattern("\\w+\\.(html|css|js|png)|"
+                                            "motions/\\w+(-\\d+\\.png|\\.js)"));
     QStringList own{manifestName};
-    const QJsonObject files = manifest.value(QStringLiteral("files")).toObject();
+    const QJsonObject files = manifest.value("files").toObject();
     for (auto file = files.begin(); file != files.end(); ++file) {
         if (names.match(file.key()).hasMatch() &&
             Digest(ContentOf(folder.filePath(file.key()))) == file.value().toString())
@@ -102,18 +102,18 @@ QJsonObject ToJson(const GalleryEntry& entry)
 {
     QJsonArray speeds;
     for (const MotionPlay& play : entry.plays)
-        speeds.append(QJsonObject{{QStringLiteral("ticks"), play.ticks},
-                                  {QStringLiteral("planned"), play.planned},
-                                  {QStringLiteral("actual"), play.actual},
-                                  {QStringLiteral("times"), TimesInWords(play)},
-                                  {QStringLiteral("pages"), ToJson(play.pages)}});
-    return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},
-            {QStringLiteral("title"), QLatin1String(entry.motion->title)},
-            {QStringLiteral("family"), QLatin1String(entry.motion->family)},
-            {QStringLiteral("summary"), QLatin1String(entry.motion->summary)},
-            {QStringLiteral("synonyms"), QLatin1String(entry.motion->synonyms)},
-            {QStringLiteral("option"), entry.option},
-            {QStringLiteral("speeds"), speeds}};
+        speeds.append(QJsonObject{{"ticks", play.ticks},
+                                  {"planned", play.planned},
+                                  {"actual", play.actual},
+                                  {"times", TimesInWords(play)},
+                                  {"pages", ToJson(play.pages)}});
+    return {{"id", QLatin1String(entry.motion->name)},
+            {"title", QLatin1String(entry.motion->title)},
+            {"family", QLatin1String(entry.motion->family)},
+            {"summary", QLatin1String(entry.motion->summary)},
+            {"synonyms", QLatin1String(entry.motion->synonyms)},
+            {"option", entry.option},
+            {"speeds", speeds}};
 }
 
 /** The pictures, and which is seen for how many ticks, pair after pair, at each speed. */
@@ -131,9 +131,7 @@ QJsonObject PicturesToJson(const GalleryEntry& entry, const QVector<QByteArray>&
         }
         speeds.append(runs);
     }
-    return {{QStringLiteral("id"), QLatin1String(entry.motion->name)},
-            {QStringLiteral("sheets"), sheets},
-            {QStringLiteral("runs"), speeds}};
+    return {{"id", QLatin1String(entry.motion->name)}, {"sheets", sheets}, {"runs", speeds}};
 }
 
 struct GalleryWriter
@@ -158,23 +156,22 @@ struct GalleryWriter
             entries.append(WriteMotion(scene::Mode::Entrance, motion));
         for (const scene::Motion& motion : scene::Scrolls())
             entries.append(WriteMotion(scene::Mode::Scroll, motion));
-        Add(QStringLiteral("posters.png"), posters.Finish().value(0));
+        Add("posters.png", posters.Finish().value(0));
         QJsonArray motions;
         for (const GalleryEntry& entry : entries)
             motions.append(ToJson(entry));
-        const QJsonObject all{{QStringLiteral("words"), options.words},
-                              {QStringLiteral("width"), options.node.size.width()},
-                              {QStringLiteral("height"), options.node.size.height()},
-                              {QStringLiteral("tick"), player::tickLength},
-                              {QStringLiteral("sheet"), PictureSheets::picturesInSheet},
-                              {QStringLiteral("motions"), motions}};
-        Add(QStringLiteral("motions.js"), Script("showGallery", all));
-        Add(QStringLiteral("index.html"),
+        const QJsonObject all{{"words", options.words},
+                              {"width", options.node.size.width()},
+                              {"height", options.node.size.height()},
+                              {"tick", player::tickLength},
+                              {"sheet", PictureSheets::picturesInSheet},
+                              {"motions", motions}};
+        Add("motions.js", Script("showGallery", all));
+        Add("index.html",
             FillPage(Own("index.html"), options.text.text.text, options.node.size, entries));
         for (const char* name : {"gallery.css", "film.js", "view.js", "gallery.js"})
             Add(QLatin1String(name), Own(name));
-        const QJsonObject manifest{{QStringLiteral("generator"), generator},
-                                   {QStringLiteral("files"), digests}};
+        const QJsonObject manifest{{"generator", generator}, {"files", digests}};
         Demand(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &why));
         Demand(folder.Finish(&why));
     }
@@ -188,7 +185,7 @@ struct GalleryWriter
     /** A file of the page. */
     static QByteArray Own(const char* name)
     {
-        QFile file(QStringLiteral(":/gallery/") + QLatin1String(name));
+        QFile file(":/gallery/" + QLatin1String(name));
         if (!file.open(QIODevice::ReadOnly))
             qFatal("the program lacks its own %s", name);
         return file.readAll();
@@ -226,7 +223,7 @@ struct GalleryWriter
     scene::Scene Stage(const author::AuthoredNode& authored)
     {
         scene::Scene scene;
-        scene.path = scenes.filePath(QStringLiteral("scene.json"));
+        scene.path = scenes.filePath("scene.json");
         scene.display = authored.node.size;
         scene::SceneNode node = authored.node;
         for (auto file = authored.data.begin(); file != authored.data.end(); ++file) {

@@ -35,7 +35,7 @@ bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
     while (player->Tick() < longest && (isDevices || player->State(0) == 1)) {
         player->Advance();
         if (!goOn()) {
-            *error = QStringLiteral("interrupted");
+            *error = "interrupted";
             return false;
         }
         if (isDevices || player->Swapped(0))
@@ -52,7 +52,7 @@ bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
         timing::MeasurePages(player, scene, longest, watch, error);
     if (plays.isEmpty()) {
         if (error->isEmpty())
-            *error = QStringLiteral("interrupted");
+            *error = "interrupted";
         return false;
     }
     play->pages = plays.first().pages;

@@ -57,10 +57,9 @@ QString Row(const GalleryEntry& entry)
         row += QStringLiteral("<td class=\"%1\" style=\"--part:%2%\" title=\"%3\">%4</td>")
                    .arg(QLatin1String(kind))
                    .arg(qRound(100 * qMin(1.0, part / fullColor)))
-                   .arg(TimesInWords(play),
-                        play.actual < 0 ? QStringLiteral("∞") : Seconds(play.actual, 1));
+                   .arg(TimesInWords(play), play.actual < 0 ? "∞" : Seconds(play.actual, 1));
     }
-    return row + QStringLiteral("</tr>\n");
+    return row + "</tr>\n";
 }
 
 } // namespace
@@ -93,7 +92,7 @@ QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& si
         cards += Card(entry, size, posters);
         rows += Row(entry);
     }
-    QString head = QStringLiteral("<thead><tr><th scope=\"col\">speed</th>");
+    QString head = "<thead><tr><th scope=\"col\">speed</th>";
     for (int speed = 0; speed < speedCount; ++speed)
         head += QStringLiteral("<th scope=\"col\">%1</th>").arg(speed);
     const QString about = QStringLiteral("“%1” in %2 motions, %3 × %4 pixels, as the sign paints "
@@ -106,9 +105,7 @@ QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& si
     // The text comes last: it may look like a place.
     return QByteArray(page)
         .replace("<!--cards-->", cards.toUtf8())
-        .replace("<!--times-->", (head + QStringLiteral("</tr></thead><tbody>\n") + rows +
-                                  QStringLiteral("</tbody>"))
-                                     .toUtf8())
+        .replace("<!--times-->", (head + "</tr></thead><tbody>\n" + rows + "</tbody>").toUtf8())
         .replace("<!--about-->", about.toUtf8());
 }
 

@@ -151,12 +151,12 @@ QHash<QString, QString> StyleRow(const StyleRun& style)
 {
     const auto number = [](int value) { return QString::number(value); };
     const int points = qMax(1, qRound(style.font.pixelSize() * 72 / 96.0));
-    return {{QStringLiteral("fontName"), style.font.family()},
-            {QStringLiteral("fontSize"), number(points)},
-            {QStringLiteral("bold"), number(style.font.bold() ? 1 : 0)},
-            {QStringLiteral("italic"), number(style.font.italic() ? 1 : 0)},
-            {QStringLiteral("underline"), number(style.font.underline() ? 1 : 0)},
-            {QStringLiteral("Color"), number(int(style.color.rgb() & 0xFFFFFF))}};
+    return {{"fontName", style.font.family()},
+            {"fontSize", number(points)},
+            {"bold", number(style.font.bold() ? 1 : 0)},
+            {"italic", number(style.font.italic() ? 1 : 0)},
+            {"underline", number(style.font.underline() ? 1 : 0)},
+            {"Color", number(int(style.color.rgb() & 0xFFFFFF))}};
 }
 
 void MakeRows(const PlacedText& text, LaidOut* laid)
@@ -170,8 +170,8 @@ void MakeRows(const PlacedText& text, LaidOut* laid)
     for (int i = 0; i < text.text.size(); ++i) {
         const StyleRun& run = laid->styled.At(text.source[i]);
         looks.append(styles[int(&run - laid->styled.runs.constData())]);
-        heights.append({{QStringLiteral("text_height"), QString::number(text.heights[i])}});
-        widths.append({{QStringLiteral("text_width"), QString::number(text.widths[i])}});
+        heights.append({{"text_height", QString::number(text.heights[i])}});
+        widths.append({{"text_width", QString::number(text.widths[i])}});
     }
     laid->lists = {{"TextAttribute", looks}, {"TextHeight", heights}, {"TextWidth", widths}};
 }

@@ -69,16 +69,15 @@ bool ApplyLayout(Wiring* wiring, const QString& word, QString* error)
             return true;
         }
     }
-    return Fail(error, QStringLiteral("\"%1\" is not a layout; expected %2%3")
-                           .arg(word, LayoutWords().join(QStringLiteral(", ")),
-                                scene::DidYouMean(word, LayoutWords())));
+    return Fail(error,
+                QStringLiteral("\"%1\" is not a layout; expected %2%3")
+                    .arg(word, LayoutWords().join(", "), scene::DidYouMean(word, LayoutWords())));
 }
 
 /** Takes the rectangle from the front of @p words; empty when there is none. */
 QRect TakeRect(QStringList* words)
 {
-    static const QRegularExpression pattern(
-        QStringLiteral("^(?:(\\d{1,5}),(\\d{1,5}),)?(\\d{1,5})x(\\d{1,5})$"));
+    static const QRegularExpression pattern("^(?:(\\d{1,5}),(\\d{1,5}),)?(\\d{1,5})x(\\d{1,5})$");
     for (int count : {1, 3}) {
         const auto match = pattern.match(words->mid(0, count).join(QLatin1Char(',')));
         if (!match.hasMatch())
@@ -114,13 +113,11 @@ bool ApplySetting(Controller* controller, const QString& setting, QString* error
         controller->order = value.toUpper();
         QString sorted = controller->order;
         std::sort(sorted.begin(), sorted.end());
-        return check(sorted == QLatin1String("BGR"),
-                     QStringLiteral("the letters R, G and B in any order"));
+        return check(sorted == QLatin1String("BGR"), "the letters R, G and B in any order");
     }
     if (name == QLatin1String("gamma")) {
         controller->gamma = value.toDouble();
-        return check(controller->gamma >= 0.1 && controller->gamma <= 10,
-                     QStringLiteral("0.1 to 10"));
+        return check(controller->gamma >= 0.1 && controller->gamma <= 10, "0.1 to 10");
     }
     if (name == QLatin1String("source-name")) {
         controller->source = value;
@@ -131,8 +128,7 @@ bool ApplySetting(Controller* controller, const QString& setting, QString* error
         controller->interface = value;
         return true;
     }
-    QStringList names{QStringLiteral("color-order"), QStringLiteral("gamma"),
-                      QStringLiteral("source-name"), QStringLiteral("interface")};
+    QStringList names{"color-order", "gamma", "source-name", "interface"};
     for (const auto& known : numbers) {
         names.append(QLatin1String(known.name));
         if (name != names.last())
@@ -143,17 +139,16 @@ bool ApplySetting(Controller* controller, const QString& setting, QString* error
         return check(isNumber && number >= known.least && number <= known.most,
                      QStringLiteral("%1 to %2").arg(known.least).arg(known.most));
     }
-    return Fail(error,
-                QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
-                    .arg(name, names.join(QStringLiteral(", ")), scene::DidYouMean(name, names)));
+    return Fail(error, QStringLiteral("unknown setting \"%1\"; expected a layout or %2%3")
+                           .arg(name, names.join(", "), scene::DidYouMean(name, names)));
 }
 
 bool ReadAddress(Controller* controller, const QString& address, QString* error)
 {
-    static const QRegularExpression pattern(QStringLiteral(
-        "^([a-z]+)://(\\[[^\\]]+\\]|[^:/,\\[\\]\\s]*)(?::(\\d{1,5}))?(?:[/,](.*))?$"));
+    static const QRegularExpression pattern(
+        "^([a-z]+)://(\\[[^\\]]+\\]|[^:/,\\[\\]\\s]*)(?::(\\d{1,5}))?(?:[/,](.*))?$");
     const auto fail = [&](const QString& why) {
-        return Fail(error, address.isEmpty() ? why : address + QStringLiteral(": ") + why);
+        return Fail(error, address.isEmpty() ? why : address + ": " + why);
     };
     const auto match = pattern.match(address);
     controller->address = address;
@@ -165,23 +160,22 @@ bool ReadAddress(Controller* controller, const QString& address, QString* error)
         controller->port = match.captured(3).isEmpty() ? known.port : match.captured(3).toInt();
     }
     if (!match.hasMatch() || controller->port < 1 || controller->port > 65535)
-        return fail(QStringLiteral("expected ddp://HOST, sacn://HOST, sacn:// for multicast, or "
-                                   "artnet://HOST; the host may be followed by :PORT, 1 to 65535"));
+        return fail("expected ddp://HOST, sacn://HOST, sacn:// for multicast, or "
+                    "artnet://HOST; the host may be followed by :PORT, 1 to 65535");
     controller->host = match.captured(2).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
     QStringList words = match.captured(4).split(QLatin1Char(','), Qt::SkipEmptyParts);
     const bool startsWithNumber = !words.isEmpty() && words.first().at(0).isDigit();
     controller->rect = TakeRect(&words);
     if (startsWithNumber && controller->rect.isEmpty())
-        return fail(QStringLiteral(
-            "expected a rectangle of the display after the host, such as 64,0,64x32 or 64x32"));
+        return fail(
+            "expected a rectangle of the display after the host, such as 64,0,64x32 or 64x32");
     for (const QString& word : words) {
         if (!ApplySetting(controller, word, error))
             return fail(*error);
     }
     // The last check, so that a dialog can show the wiring before anybody has named a host.
     if (controller->host.isEmpty() && controller->protocol != Protocol::E131)
-        return fail(QStringLiteral(
-            "expected the controller's name or address; only sacn:// works without one"));
+        return fail("expected the controller's name or address; only sacn:// works without one");
     return true;
 }
 
@@ -205,7 +199,7 @@ int LastUniverse(const Controller& controller)
 bool FitToDisplay(Controller* controller, QSize display, QString* error)
 {
     const auto fail = [&](const QString& why) {
-        return Fail(error, controller->address + QStringLiteral(": ") + why);
+        return Fail(error, controller->address + ": " + why);
     };
     if (controller->rect.isEmpty())
         controller->rect = QRect(QPoint(0, 0), display);

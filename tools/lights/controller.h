@@ -33,7 +33,7 @@ struct Controller
     QRect rect; ///< of the display, pixels; empty: the whole display
 
     Wiring wiring;
-    QString order = QStringLiteral("RGB"); ///< of a pixel's three channels
+    QString order = "RGB"; ///< of a pixel's three channels
     double gamma = 1;
     int brightness = 100; ///< percent
 
@@ -41,10 +41,10 @@ struct Controller
     int channel = 1;      ///< the first one, in the first universe or, for DDP, in all data; from 1
     int priority = 100;   ///< E1.31: 0 to 200
     int syncUniverse = 0; ///< E1.31: for synchronization packets; 0: none
-    QString source = QStringLiteral("Animated Text"); ///< E1.31: at most 63 bytes
-    int timeToLive = 1;     ///< of multicast packets: 1 + number of routers
-    QString interface;      ///< for multicast; empty: the system's default
-    bool broadcast = false; ///< allow a broadcast address as host
+    QString source = "Animated Text"; ///< E1.31: at most 63 bytes
+    int timeToLive = 1;               ///< of multicast packets: 1 + number of routers
+    QString interface;                ///< for multicast; empty: the system's default
+    bool broadcast = false;           ///< allow a broadcast address as host
 };
 
 /** The words for layouts. */

@@ -40,7 +40,7 @@ bool LookUp(const Controller& controller, QHostAddress* host, QString* error)
     if (controller.host.isEmpty())
         return true;
     const auto refuse = [&](const QString& why) {
-        return Refuse(error, controller.address + QStringLiteral(": ") + why);
+        return Refuse(error, controller.address + ": " + why);
     };
     const QHostInfo info = QHostInfo::fromName(controller.host);
     *host = PreferredAddress(info);
@@ -48,11 +48,11 @@ bool LookUp(const Controller& controller, QHostAddress* host, QString* error)
         return refuse(
             QStringLiteral("\"%1\" cannot be found: %2").arg(controller.host, info.errorString()));
     if (host->isMulticast())
-        return refuse(QStringLiteral("is a multicast address; expected sacn://, which sends each "
-                                     "universe to its own group"));
+        return refuse("is a multicast address; expected sacn://, which sends each "
+                      "universe to its own group");
     if (IsBroadcast(*host) && !controller.broadcast)
-        return refuse(QStringLiteral("is a broadcast address, which reaches every device in the "
-                                     "network; use --broadcast to allow it"));
+        return refuse("is a broadcast address, which reaches every device in the "
+                      "network; use --broadcast to allow it");
     return true;
 }
 
@@ -88,7 +88,7 @@ std::unique_ptr<QUdpSocket> OpenSocket(const Controller& controller, const QHost
                                        QString* error)
 {
     auto socket = std::make_unique<QUdpSocket>();
-    const QString place = controller.address + QStringLiteral(": ");
+    const QString place = controller.address + ": ";
     if (host.isNull()) {
         const auto interface = QNetworkInterface::interfaceFromName(controller.interface);
         if (!controller.interface.isEmpty() && !interface.isValid()) {

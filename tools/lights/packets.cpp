@@ -49,7 +49,7 @@ PacketMaker::PacketMaker(const Controller& controller)
     : controller(controller)
 {
     // The same after a restart, or a receiver would merge this with the previous sender.
-    static const QUuid space(QStringLiteral("{5f0d9d4e-6a43-4a4c-9c53-0d1f5b1a7e21}"));
+    static const QUuid space("{5f0d9d4e-6a43-4a4c-9c53-0d1f5b1a7e21}");
     component = QUuid::createUuidV5(space, QSysInfo::machineUniqueId() + controller.source.toUtf8())
                     .toRfc4122();
 }

@@ -45,8 +45,7 @@ QRgb Color(int pattern, QSize size, int x, int y, int tick)
 
 QStringList TestPatterns()
 {
-    return {QStringLiteral("corners"), QStringLiteral("order"), QStringLiteral("colors"),
-            QStringLiteral("levels")};
+    return {"corners", "order", "colors", "levels"};
 }
 
 QImage TestPattern(const QString& name, QSize size, int tick)

@@ -62,7 +62,7 @@ bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree*
                 Lw::HNeonNodeBase* node =
                     CreateNode(nodes.at(n), scene::Place{p, a, n}.Path(), plugin, error);
                 if (!node) {
-                    *error = scene.path + QStringLiteral(": ") + *error;
+                    *error = scene.path + ": " + *error;
                     return false;
                 }
                 area->AddChild(node);

@@ -27,9 +27,9 @@ QString BesideProgram(const QStringList& places)
 /** Shows the plugin where the device's pictures are on a desktop. */
 void OfferPictures()
 {
-    const QString shipped = BesideProgram({QStringLiteral(INSTALLED_DATA "/pictures"),
-                                           QStringLiteral("../share/animationtext/pictures")});
-    const bool onDevice = QFileInfo::exists(QStringLiteral("/root/Box/image"));
+    const QString shipped =
+        BesideProgram({INSTALLED_DATA "/pictures", "../share/animationtext/pictures"});
+    const bool onDevice = QFileInfo::exists("/root/Box/image");
     if (!onDevice && !qEnvironmentVariableIsSet("ANIMATIONTEXT_PICTURES") &&
         QFileInfo::exists(shipped))
         qputenv("ANIMATIONTEXT_PICTURES", QFile::encodeName(shipped));
@@ -62,8 +62,8 @@ QString PluginPath(const QString& given)
     if (!named.isEmpty())
         return named;
     // Installed, or where both were built.
-    return BesideProgram({QStringLiteral(INSTALLED_LIBRARIES "/libanimationtext.so"),
-                          QStringLiteral("../lib/libanimationtext.so")});
+    return BesideProgram(
+        {INSTALLED_LIBRARIES "/libanimationtext.so", "../lib/libanimationtext.so"});
 }
 
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)

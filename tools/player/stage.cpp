@@ -31,7 +31,7 @@ bool Stage::Build(const scene::Scene& scene, QString* error)
     if (!BuildNodeTree(scene, plugin, &built, error))
         return false;
     if (built.nodes.isEmpty()) {
-        *error = scene.path + QStringLiteral(": $.pages: expected at least one node, found none");
+        *error = scene.path + ": $.pages: expected at least one node, found none";
         return false;
     }
     // Renderers ask for the format when they are made.
@@ -43,7 +43,7 @@ bool Stage::Build(const scene::Scene& scene, QString* error)
         part.render.reset(plugin->CreateAreaRender(built.nodes.at(node)));
         if (!part.render) {
             parts.clear();
-            *error = scene.path + QStringLiteral(": the plugin makes no renderer for its nodes");
+            *error = scene.path + ": the plugin makes no renderer for its nodes";
             return false;
         }
         parts.push_back(std::move(part));

@@ -181,8 +181,7 @@ const QList<Motion>& Scrolls()
 
 const QStringList& Directions()
 {
-    static const QStringList directions{QStringLiteral("left"), QStringLiteral("right"),
-                                        QStringLiteral("up"), QStringLiteral("down")};
+    static const QStringList directions{"left", "right", "up", "down"};
     return directions;
 }
 

@@ -15,8 +15,8 @@ bool ReadColor(const QString& text, QColor* color, QString* hint)
         return true;
     QStringList names = QColor::colorNames();
     names.removeOne("transparent");
-    *hint = color->isValid() && color->alpha() < 255 ? QStringLiteral("; it must be opaque")
-                                                     : DidYouMean(text, names);
+    *hint =
+        color->isValid() && color->alpha() < 255 ? "; it must be opaque" : DidYouMean(text, names);
     return false;
 }
 

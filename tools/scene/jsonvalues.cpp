@@ -17,7 +17,7 @@ QString Found(const QJsonValue& value)
 {
     switch (value.type()) {
     case QJsonValue::Null: return "null";
-    case QJsonValue::Bool: return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    case QJsonValue::Bool: return value.toBool() ? "true" : "false";
     case QJsonValue::Double: return QString::number(value.toDouble(), 'g', 12);
     case QJsonValue::String: return "a text";
     case QJsonValue::Array: return QStringLiteral("a list of %1").arg(value.toArray().size());
@@ -93,7 +93,7 @@ bool JsonValue::IsObject(const QStringList& known) const
     for (const QString& member : value.toObject().keys()) {
         if (!known.contains(member))
             (*this)[member].Refuse(QStringLiteral("one of %1").arg(known.join(", ")),
-                                   QStringLiteral("an unknown key") + DidYouMean(member, known));
+                                   "an unknown key" + DidYouMean(member, known));
     }
     return value.isObject();
 }

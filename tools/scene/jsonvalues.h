@@ -71,7 +71,7 @@ public:
 private:
     QJsonValue value;
     JsonFaults* faults;
-    QString place = QStringLiteral("$");
+    QString place = "$";
     QString name;
 };
 

@@ -20,12 +20,12 @@ MotionTraits NodeMotion::Traits() const
 
 QString NodeMotion::NumberKey() const
 {
-    return IsScroll() ? QStringLiteral("ContinueStyle") : QStringLiteral("AnimationEffect");
+    return IsScroll() ? "ContinueStyle" : "AnimationEffect";
 }
 
 QString NodeMotion::SpeedKey() const
 {
-    return IsScroll() ? QStringLiteral("ContinueSpeed") : QStringLiteral("AnimationSpeed");
+    return IsScroll() ? "ContinueSpeed" : "AnimationSpeed";
 }
 
 NodeMotion MotionOf(const SceneNode& node)
@@ -39,7 +39,7 @@ NodeMotion MotionOf(const SceneNode& node)
 
 void SetMotion(SceneNode* node, const NodeMotion& motion)
 {
-    node->attributes[QStringLiteral("EffectType")] = int(motion.mode);
+    node->attributes["EffectType"] = int(motion.mode);
     node->attributes[motion.NumberKey()] = motion.number;
 }
 

@@ -52,7 +52,7 @@ bool Scene::Find(const QString& word, Place* place, QString* error) const
     if (index < 0 || index >= places.size()) {
         *error = QStringLiteral("%1: there is no text %2; expected %3")
                      .arg(path, word,
-                          places.isEmpty() ? QStringLiteral("a scene with texts")
+                          places.isEmpty() ? "a scene with texts"
                                            : QStringLiteral("a number from 1 to %1, as animtext "
                                                             "list shows, or a path like "
                                                             "$.pages[0].areas[0].nodes[0]")

@@ -23,7 +23,7 @@ namespace AnimText::scene {
 /** One animated text and where it plays. */
 struct SceneNode
 {
-    QString type = QStringLiteral("LW_animationText_Plugin");
+    QString type = "LW_animationText_Plugin";
     QPoint pos;                         ///< pixels
     QSize size;                         ///< pixels
     int hold = 0;                       ///< units of 100 ms

@@ -7,8 +7,7 @@ QString SceneFault::Line(const QString& path) const
     // A line and a column follow the name directly, as in compilers' messages.
     QString line = path;
     if (!place.isEmpty())
-        line += (place.startsWith(QLatin1Char('$')) ? QStringLiteral(": ") : QStringLiteral(":")) +
-                place;
+        line += (place.startsWith(QLatin1Char('$')) ? ": " : ":") + place;
     return QStringLiteral("%1: expected %2, found %3%4")
         .arg(line, expected, found, AndMore(others));
 }

@@ -40,8 +40,8 @@ int RunWindow(int argc, char** argv)
         words.append(QString::fromLocal8Bit(argv[i]));
     int ownName = 1;
     QApplication application(ownName, argv);
-    QApplication::setApplicationName(QStringLiteral("animtext-studio"));
-    QApplication::setOrganizationName(QStringLiteral("animtext"));
+    QApplication::setApplicationName("animtext-studio");
+    QApplication::setOrganizationName("animtext");
     QApplication::setApplicationVersion(QStringLiteral(ANIMTEXT_VERSION));
 
     studio::window::basics::Translate(QLocale());
@@ -52,14 +52,13 @@ int RunWindow(int argc, char** argv)
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption plugin(
-        QStringLiteral("plugin"),
+        "plugin",
         QCoreApplication::translate("Studio",
                                     "Plugin library. Default: the one beside this program."),
-        QStringLiteral("FILE"));
+        "FILE");
     parser.addOption(plugin);
-    parser.addPositionalArgument(QStringLiteral("scene"),
-                                 QCoreApplication::translate("Studio", "Scene to open."),
-                                 QStringLiteral("[SCENE.json]"));
+    parser.addPositionalArgument("scene", QCoreApplication::translate("Studio", "Scene to open."),
+                                 "[SCENE.json]");
     parser.process(words);
 
     studio::window::shell::MainWindow window(parser.value(plugin));

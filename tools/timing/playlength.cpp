@@ -49,8 +49,7 @@ BlankScene::BlankScene(const scene::Scene& from)
 {
     int longest = 0;
     for (const scene::SceneNode* node : scene.Nodes())
-        longest = std::max(longest,
-                           int(node->attributes.value(QStringLiteral("Text")).toString().size()));
+        longest = std::max(longest, int(node->attributes.value("Text").toString().size()));
     QByteArray list;
     QDataStream inner(&list, QIODevice::WriteOnly);
     inner.setVersion(QDataStream::Qt_4_8);
@@ -63,7 +62,7 @@ BlankScene::BlankScene(const scene::Scene& from)
     if (outer.status() != QDataStream::Ok || !outlines.flush())
         return;
     for (scene::SceneNode* node : scene.Nodes()) {
-        const auto file = node->files.find(QStringLiteral("PathData"));
+        const auto file = node->files.find("PathData");
         if (file != node->files.end())
             *file = QStringLiteral("/proc/self/fd/%1").arg(memory);
     }
@@ -114,8 +113,7 @@ QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, ui
     for (int node = 0; node < plays.size(); ++node) {
         NodePlay& play = plays[node];
         // With no plays, the first check finds it finished, whatever was drawn.
-        const bool isPlayed =
-            player->Scenery().Node(node)->GetAttributeToInt(QStringLiteral("PlayTimes")) > 0;
+        const bool isPlayed = player->Scenery().Node(node)->GetAttributeToInt("PlayTimes") > 0;
         if (play.ending == Ending::Finishes && isPlayed) {
             const QVector<int>& pictures = moving.at(node).pictures;
             play.animationTicks = pictures.size() * std::max(1, pictures.value(1));

@@ -212,7 +212,7 @@ private:
     void CheckFiles()
     {
         for (const QString& key : scene::KeysOf(scene::Home::Files)) {
-            const QString at = QStringLiteral("files.") + key;
+            const QString at = "files." + key;
             const bool isData =
                 key == QLatin1String("PathData") || key == QLatin1String("DescentVector");
             const QString name = node.files.value(key);
@@ -332,7 +332,7 @@ private:
     {
         const QVariant value = node.attributes.value(key);
         Add(mistake, scene::Member("attributes", key),
-            value.toString().isEmpty() ? QStringLiteral("nothing") : value.toString(), expected);
+            value.toString().isEmpty() ? "nothing" : value.toString(), expected);
     }
 
     bool Has(const QString& flag) const { return Number(flag) == 1; }

@@ -11,7 +11,7 @@ namespace {
 
 QString Name(Severity severity)
 {
-    return severity == Severity::Error ? QStringLiteral("error") : QStringLiteral("warning");
+    return severity == Severity::Error ? "error" : "warning";
 }
 
 QString Counted(const Report& report, Severity severity)

@@ -31,7 +31,7 @@ QList<Finding> Overlaps(const scene::Scene& scene, const scene::Place& place)
 QString Finding::Line() const
 {
     const Rule& rule = GetRule();
-    const QString at = place.isEmpty() ? QString() : QStringLiteral(" at ") + place;
+    const QString at = place.isEmpty() ? QString() : " at " + place;
     return QStringLiteral("%1%2: found %3, expected %4. %5")
         .arg(QLatin1String(rule.code), at, found, expected, QLatin1String(rule.why));
 }

@@ -70,8 +70,7 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
     compare::Tally tally;
     int played = 0, ticks = 0;
     for (auto scene = expected.begin(); scene != expected.end(); ++scene) {
-        const scene::Scene opened =
-            OpenReadableScene(line, scenes.filePath(scene.key() + QStringLiteral(".json")));
+        const scene::Scene opened = OpenReadableScene(line, scenes.filePath(scene.key() + ".json"));
         const compare::Ticks shown =
             Play(playing, opened, records ? line.Number("ticks") : scene->last().tick);
         if (records)

@@ -23,8 +23,7 @@ LayoutQueue::~LayoutQueue()
 void LayoutQueue::Remember(const std::shared_ptr<const Layout>& layout)
 {
     made.insert(layout->key, new std::shared_ptr<const Layout>(layout),
-                layout->data.value(QStringLiteral("PathData")).size() + layout->text.size() * 200 +
-                    1000);
+                layout->data.value("PathData").size() + layout->text.size() * 200 + 1000);
 }
 
 std::shared_ptr<const Layout> LayoutQueue::Ask(const SignText& text)

@@ -16,9 +16,9 @@ namespace AnimText::studio::model {
 namespace {
 
 constexpr int delayLength = 500; // milliseconds from a change to its copy
-const QString lockName = QStringLiteral("lock");
-const QString sceneName = QStringLiteral("scene.json");
-const QString aboutName = QStringLiteral("about.json");
+const QString lockName = "lock";
+const QString sceneName = "scene.json";
+const QString aboutName = "about.json";
 
 /** Unlike a saved scene, a copy may have errors. Data files are written before the scene. */
 bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
@@ -28,7 +28,7 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
     author::DataFiles files;
     const scene::Scene scene = SceneToSave(sign, scenePath, &files);
     files.insert(author::SourcesName(scenePath), author::SourcesToJson(SourcesOf(sign, scene)));
-    const QJsonObject about{{QStringLiteral("path"), path}};
+    const QJsonObject about{{"path", path}};
     files.insert(aboutName, QJsonDocument(about).toJson());
     QString error;
     for (auto file = files.begin(); file != files.end(); ++file) {
@@ -37,8 +37,7 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
     }
     if (!files::WriteWhole(scenePath, scene::SceneToJson(scene), &error))
         return false;
-    for (const QString& name :
-         dir.entryList({QStringLiteral("*.path"), QStringLiteral("*.descent")})) {
+    for (const QString& name : dir.entryList({"*.path", "*.descent"})) {
         if (!files.contains(name))
             QFile::remove(dir.filePath(name));
     }
@@ -49,9 +48,9 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
 
 Recovery::Recovery(Document* document, const QString& below)
     : document(document)
-    , root(!below.isEmpty() ? below
-                            : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                                  QStringLiteral("/recovery"))
+    , root(!below.isEmpty()
+               ? below
+               : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recovery")
     , folder(root + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
     delay.setSingleShot(true);
@@ -136,10 +135,7 @@ QList<LostWork> Recovery::Find() const
         work.when = QFileInfo(scenePath).lastModified();
         QFile about(dir.filePath(aboutName));
         if (about.open(QIODevice::ReadOnly))
-            work.path = QJsonDocument::fromJson(about.readAll())
-                            .object()
-                            .value(QStringLiteral("path"))
-                            .toString();
+            work.path = QJsonDocument::fromJson(about.readAll()).object().value("path").toString();
         found.append(work);
     }
     std::sort(found.begin(), found.end(),

@@ -18,10 +18,10 @@
 namespace AnimText::studio::model {
 namespace {
 
-const QString pathData = QStringLiteral("PathData");
-const QString descentVector = QStringLiteral("DescentVector");
+const QString pathData = "PathData";
+const QString descentVector = "DescentVector";
 const QStringList dataKeys{pathData, descentVector};
-const QString textKey = QStringLiteral("Text");
+const QString textKey = "Text";
 
 /** The layout that is stored in the scene. */
 std::shared_ptr<const Layout> LayoutIn(const scene::Scene& scene, const scene::SceneNode& node,
@@ -126,7 +126,7 @@ SignText NewText(const QSize& area, int page)
     const scene::NodeMotion motion{scene::Mode::Entrance, 17};
     scene::SetMotion(&text.node, motion);
     text.node.attributes[motion.SpeedKey()] = 6;
-    text.node.attributes[QStringLiteral("PlayTimes")] = 1;
+    text.node.attributes["PlayTimes"] = 1;
     QString family;
     QString error;
     scene::FindFamily(QLatin1String(scene::usualFamily), &family, &error);

@@ -14,48 +14,46 @@ namespace {
 /** The program beside the studio, else the one in PATH. */
 QString RenderProgram()
 {
-    const QString name = QStringLiteral("animtext");
+    const QString name = "animtext";
     const QString beside = QFileInfo(WorkerLink::Program()).dir().filePath(name);
     return QFileInfo(beside).isExecutable() ? beside : name;
 }
 
 QStringList RenderOptions(const ExportSettings& settings)
 {
-    QStringList options{QStringLiteral("-o"), settings.output};
+    QStringList options{"-o", settings.output};
     if (settings.scale != 1)
-        options += {QStringLiteral("--scale"), QString::number(settings.scale)};
+        options += {"--scale", QString::number(settings.scale)};
     if (settings.schedule)
-        options += QStringLiteral("--schedule");
+        options += "--schedule";
     if (settings.last >= 0) {
-        options += {QStringLiteral("--frames"),
-                    QStringLiteral("%1-%2").arg(settings.first).arg(settings.last)};
+        options += {"--frames", QStringLiteral("%1-%2").arg(settings.first).arg(settings.last)};
         // The window shows more than the film has that ends with the last text.
         if (!settings.schedule)
-            options += {QStringLiteral("--seconds"), QStringLiteral("%1t").arg(settings.last + 1)};
+            options += {"--seconds", QStringLiteral("%1t").arg(settings.last + 1)};
     }
     if (settings.pitch > 0)
         options += QStringLiteral("--leds=%1").arg(settings.pitch);
     if (settings.transparent)
-        options += QStringLiteral("--transparent");
+        options += "--transparent";
     if (settings.lossless)
-        options += QStringLiteral("--lossless");
+        options += "--lossless";
     return options;
 }
 
 QString Quoted(QString word)
 {
-    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_./=:,+@%-]+$"));
+    static const QRegularExpression plain("^[A-Za-z0-9_./=:,+@%-]+$");
     if (plain.match(word).hasMatch())
         return word;
-    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''")) +
-           QLatin1Char('\'');
+    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), "'\\''") + QLatin1Char('\'');
 }
 
 } // namespace
 
 QString RenderCommandLine(const QString& scene, const ExportSettings& settings)
 {
-    QStringList words{QStringLiteral("animtext"), QStringLiteral("render"), Quoted(scene)};
+    QStringList words{"animtext", "render", Quoted(scene)};
     for (const QString& option : RenderOptions(settings))
         words.append(Quoted(option));
     return words.join(QLatin1Char(' '));
@@ -89,10 +87,9 @@ void Export::Start(const QString& plugin, const QString& path, const ExportSetti
     scene = path;
     complaints.clear();
     canceled = false;
-    QStringList words{QStringLiteral("render"), scene, QStringLiteral("--progress"),
-                      QStringLiteral("--force"), QStringLiteral("--allow-missing-files")};
+    QStringList words{"render", scene, "--progress", "--force", "--allow-missing-files"};
     if (!plugin.isEmpty())
-        words += {QStringLiteral("--plugin"), plugin};
+        words += {"--plugin", plugin};
     process.start(RenderProgram(), words + RenderOptions(settings));
 }
 
@@ -107,7 +104,7 @@ void Export::Cancel()
 
 void Export::ReadProgress()
 {
-    static const QRegularExpression step(QStringLiteral("^(\\d+) (\\d+) (.+)$"));
+    static const QRegularExpression step("^(\\d+) (\\d+) (.+)$");
     while (process.canReadLine()) {
         const QString line = QString::fromUtf8(process.readLine()).trimmed();
         const QRegularExpressionMatch match = step.match(line);
@@ -133,8 +130,8 @@ QString Export::Complaint() const
     if (process.exitStatus() != QProcess::NormalExit || !lines.last().startsWith(name))
         return tr("The export ended unexpectedly.");
     QString complaint = QString::fromLocal8Bit(lines.last().mid(name.size()));
-    complaint.remove(QStringLiteral(" (see animtext help render)"));
-    return complaint.remove(scene + QStringLiteral(": ")); // nobody knows that temporary file
+    complaint.remove(" (see animtext help render)");
+    return complaint.remove(scene + ": "); // nobody knows that temporary file
 }
 
 void Export::Finish()

@@ -53,7 +53,7 @@ scene::Scene SceneFolder::Put(const model::Sign& sign, int page, QString* error)
     const auto place = [this](const model::Layout& layout, const QString& key) {
         return written.value(&layout).files.value(key);
     };
-    return model::SceneOf(sign, folder.filePath(QStringLiteral("scene.json")), place, page);
+    return model::SceneOf(sign, folder.filePath("scene.json"), place, page);
 }
 
 } // namespace AnimText::studio::worker

@@ -71,11 +71,11 @@ void WorkerLink::Start()
         return;
     received.clear();
     hangs = false;
-    QStringList words{QStringLiteral("--worker")};
+    QStringList words{"--worker"};
     if (!plugin.isEmpty())
-        words += {QStringLiteral("--plugin"), plugin};
+        words += {"--plugin", plugin};
     if (haste == Haste::None)
-        words += QStringLiteral("--no-haste");
+        words += "--no-haste";
     process.start(Program(), words);
 }
 

@@ -14,7 +14,7 @@ NoticeBar::NoticeBar(QWidget* parent)
     words->setWordWrap(true);
     words->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* icon = new QLabel(this);
-    icon->setPixmap(Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
+    icon->setPixmap(Icon("dialog-warning").pixmap(16, 16));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
     layout->setSpacing(2 * grid);

@@ -64,8 +64,7 @@ void NumberField::stepBy(int steps)
 QSize NumberField::minimumSizeHint() const
 {
     const QSize largest = QDoubleSpinBox::minimumSizeHint();
-    const int common =
-        fontMetrics().horizontalAdvance(prefix() + QStringLiteral("0000") + suffix());
+    const int common = fontMetrics().horizontalAdvance(prefix() + "0000" + suffix());
     constexpr int arrows = 28; // with the frame
     return {std::min(largest.width(), common + arrows), largest.height()};
 }

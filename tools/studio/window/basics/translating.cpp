@@ -8,12 +8,11 @@ void AnimText::studio::window::basics::Translate(const QLocale& locale)
 {
     const auto install = [](const QLocale& spoken, const QString& name, const QString& folder) {
         auto* translator = new QTranslator(QCoreApplication::instance());
-        if (translator->load(spoken, name, QStringLiteral("_"), folder))
+        if (translator->load(spoken, name, "_", folder))
             QCoreApplication::installTranslator(translator);
     };
-    const QString own = QStringLiteral(":/translations");
-    install(locale, QStringLiteral("qtbase"),
-            QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    install(QLocale(QLocale::English), QStringLiteral("studio"), own); // English plural forms
-    install(locale, QStringLiteral("studio"), own);
+    const QString own = ":/translations";
+    install(locale, "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    install(QLocale(QLocale::English), "studio", own); // English plural forms
+    install(locale, "studio", own);
 }

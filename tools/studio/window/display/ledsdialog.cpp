@@ -165,9 +165,7 @@ QFormLayout* LedsDialog::MakeForm()
             layout->addStretch(1);
         form->addRow(label, layout);
     };
-    Fill(protocol, {{QStringLiteral("DDP"), QStringLiteral("ddp")},
-                    {QStringLiteral("E1.31 (sACN)"), QStringLiteral("sacn")},
-                    {QStringLiteral("Art-Net"), QStringLiteral("artnet")}});
+    Fill(protocol, {{"DDP", "ddp"}, {"E1.31 (sACN)", "sacn"}, {"Art-Net", "artnet"}});
     host->setPlaceholderText(tr("Name or address, such as wall.local"));
     host->setAccessibleName(tr("Controller's name or address"));
     row(tr("Controller"), {protocol, host});
@@ -176,21 +174,19 @@ QFormLayout* LedsDialog::MakeForm()
     SetNumber(columns, tr("Width"), 1, display.width(), display.width(), tr(" px"));
     SetNumber(rows, tr("Height"), 1, display.height(), display.height(), tr(" px"));
     row(tr("Part of the display"), {left, top, new QLabel(tr("size"), this), columns, rows});
-    Fill(direction,
-         {{tr("Rows"), QStringLiteral("rows")}, {tr("Columns"), QStringLiteral("columns")}});
+    Fill(direction, {{tr("Rows"), "rows"}, {tr("Columns"), "columns"}});
     serpentine->setToolTip(tr("Every other row or column runs in the opposite direction"));
     row(tr("LEDs run along"), {direction, serpentine});
-    Fill(corner, {{tr("Top left"), QStringLiteral("top-left")},
-                  {tr("Top right"), QStringLiteral("top-right")},
-                  {tr("Bottom left"), QStringLiteral("bottom-left")},
-                  {tr("Bottom right"), QStringLiteral("bottom-right")}});
+    Fill(corner, {{tr("Top left"), "top-left"},
+                  {tr("Top right"), "top-right"},
+                  {tr("Bottom left"), "bottom-left"},
+                  {tr("Bottom right"), "bottom-right"}});
     row(tr("First LED"), {corner});
     for (int degrees : {0, 90, 180, 270})
         turn->addItem(tr("%1°").arg(degrees), QStringLiteral("rotate-%1").arg(degrees));
     row(tr("Rotation"), {turn});
     for (const char* letters : {"RGB", "RBG", "GRB", "GBR", "BRG", "BGR"})
-        order->addItem(QLatin1String(letters),
-                       QStringLiteral("color-order=") + QLatin1String(letters));
+        order->addItem(QLatin1String(letters), "color-order=" + QLatin1String(letters));
     row(tr("Color order"), {order});
     gamma->setRange(1, 4);
     gamma->setSingleStep(0.1);
@@ -215,7 +211,7 @@ QString LedsDialog::Address() const
                          .arg(rect.width())
                          .arg(rect.height()));
     if (serpentine->isChecked())
-        words.append(QStringLiteral("serpentine"));
+        words.append("serpentine");
     for (const QComboBox* box : {direction, corner, turn, order}) {
         if (box->currentIndex() > 0)
             words.append(box->currentData().toString());

@@ -197,9 +197,7 @@ QWidget* FindingsList::MakeRow(int index)
     auto* widget = new QWidget;
     auto* mark = new QLabel(widget);
     const bool isError = row.finding.GetRule().severity == validate::Severity::Error;
-    mark->setPixmap(
-        basics::Icon(isError ? QStringLiteral("dialog-error") : QStringLiteral("dialog-warning"))
-            .pixmap(16, 16));
+    mark->setPixmap(basics::Icon(isError ? "dialog-error" : "dialog-warning").pixmap(16, 16));
     auto* words = new QLabel(row.words, widget);
     words->setWordWrap(true);
     words->setToolTip(row.why);

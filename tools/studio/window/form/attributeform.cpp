@@ -322,9 +322,8 @@ void AttributeForm::SetFindings(const QList<validate::Finding>& findings)
                                       QCoreApplication::translate("Rules", finding.GetRule().why)));
         }
         row.mark->setToolTip(words.join(QLatin1Char('\n')));
-        row.mark->setPixmap(words.isEmpty()
-                                ? QPixmap()
-                                : basics::Icon(QStringLiteral("dialog-warning")).pixmap(16, 16));
+        row.mark->setPixmap(words.isEmpty() ? QPixmap()
+                                            : basics::Icon("dialog-warning").pixmap(16, 16));
     }
 }
 

@@ -69,8 +69,7 @@ void IntegratorView::SetFaults(const QVector<QPair<qint32, qint32>>& wanted)
         words.append(QStringLiteral("%1 #%2")
                          .arg(QLatin1String(Torv::OperationName(Torv::Operation(fault.first))))
                          .arg(fault.second));
-    failing->setText(
-        words.isEmpty() ? QString() : tr("Made to fail: %1").arg(words.join(QStringLiteral(", "))));
+    failing->setText(words.isEmpty() ? QString() : tr("Made to fail: %1").arg(words.join(", ")));
     basics::SetInk(failing, basics::Warning(palette()));
     clear->setEnabled(!faults.isEmpty());
     emit FaultsChanged();

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int cardPadding = 4; // logical pixels
 constexpr double listShare = 0.45;
-const QString heightKey = QStringLiteral("motions");
+const QString heightKey = "motions";
 
 /** @p words from the catalog of motions in the program's language. */
 QString MotionWords(const char* words)

@@ -39,15 +39,14 @@ model::SignText Sample(model::SignText text, int shown)
     node.size = thumbnailSize;
     node.hold = 10;
     const scene::NodeMotion motion{scroll ? scene::Mode::Scroll : scene::Mode::Entrance, number};
-    node.attributes = {
-        {QStringLiteral("PlayTimes"), 1},
-        {motion.SpeedKey(), quickSpeed},
-        {QStringLiteral("Hollow"), text.node.attributes.value(QStringLiteral("Hollow"), 0)}};
+    node.attributes = {{"PlayTimes", 1},
+                       {motion.SpeedKey(), quickSpeed},
+                       {"Hollow", text.node.attributes.value("Hollow", 0)}};
     scene::SetMotion(&node, motion);
     if (neon) {
         node.hold = neonTicks;
         node.neonEffect = shown - neonThumbnails;
-        node.attributes[QStringLiteral("CheckNeonBg")] = 1;
+        node.attributes["CheckNeonBg"] = 1;
     }
     text.node = node;
     text.page = 0;
@@ -74,8 +73,7 @@ Thumbnails::~Thumbnails()
 void Thumbnails::SetText(const model::SignText& next)
 {
     if (next.source == text.source && next.id == text.id &&
-        next.node.attributes.value(QStringLiteral("Hollow")) ==
-            text.node.attributes.value(QStringLiteral("Hollow")))
+        next.node.attributes.value("Hollow") == text.node.attributes.value("Hollow"))
         return;
     text = next;
     ++textNumber;

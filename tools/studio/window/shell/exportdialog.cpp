@@ -101,7 +101,7 @@ void ExportDialog::LayOut()
     file.second->setText(tr("…"));
     connect(file.second, &QToolButton::clicked, this, &ExportDialog::Browse);
     const auto line = withButton(command, tr("Copy the command"));
-    line.second->setIcon(basics::Icon(QStringLiteral("edit-copy")));
+    line.second->setIcon(basics::Icon("edit-copy"));
     line.second->setAutoRaise(true);
     connect(line.second, &QToolButton::clicked, this,
             [this] { QApplication::clipboard()->setText(command->text()); });
@@ -168,7 +168,7 @@ void ExportDialog::ExtentChosen()
 {
     const film::FilmKind* kind = film::FilmKindOf(output->text());
     if (IsOnePicture() != (kind && kind->Has(film::FilmKind::Still))) {
-        format->setCurrentIndex(IsOnePicture() ? format->findData(QStringLiteral(".png")) : 0);
+        format->setCurrentIndex(IsOnePicture() ? format->findData(".png") : 0);
         FormatChosen();
     }
     Refresh();
@@ -218,8 +218,8 @@ void ExportDialog::Refresh()
     start->setText(tr("Export"));
     start->setEnabled(kind && (!isStill || picture >= 0) && !sign.texts.isEmpty() &&
                       !exporting.IsRunning());
-    command->setText(worker::RenderCommandLine(
-        scenePath.isEmpty() ? QStringLiteral("sign.json") : scenePath, Settings()));
+    command->setText(
+        worker::RenderCommandLine(scenePath.isEmpty() ? "sign.json" : scenePath, Settings()));
     command->setCursorPosition(0);
 }
 

@@ -40,7 +40,7 @@ QAction* MainWindow::Act(QMenu* menu, const Entry& entry, const std::function<vo
     if (entry.icon)
         action->setIcon(basics::Icon(QLatin1String(entry.icon)));
     QString name = entry.words;
-    name.remove(QLatin1Char('&')).remove(QStringLiteral("…"));
+    name.remove(QLatin1Char('&')).remove("…");
     const QString key = entry.key.toString(QKeySequence::NativeText);
     action->setToolTip(key.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, key));
     connect(action, &QAction::triggered, this, act);
@@ -77,10 +77,10 @@ void MainWindow::MakeEditMenu()
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     QAction* undo = document.Undo()->createUndoAction(this, tr("&Undo"));
     undo->setShortcut(QKeySequence::Undo);
-    undo->setIcon(basics::Icon(QStringLiteral("edit-undo")));
+    undo->setIcon(basics::Icon("edit-undo"));
     QAction* redo = document.Undo()->createRedoAction(this, tr("&Redo"));
     redo->setShortcut(QKeySequence::Redo);
-    redo->setIcon(basics::Icon(QStringLiteral("edit-redo")));
+    redo->setIcon(basics::Icon("edit-redo"));
     edit->addActions({undo, redo});
     edit->addSeparator();
     Act(edit, {tr("Cu&t"), QKeySequence::Cut, "edit-cut"}, [this] { EditWords("cut"); });
@@ -162,8 +162,8 @@ void MainWindow::MakeViewMenu()
         return action;
     };
     leds = toggle(tr("&LEDs"), Ctrl(Qt::Key_L), [this] { ShowZoom(); });
-    leds->setObjectName(QStringLiteral("leds"));
-    leds->setIcon(basics::Icon(QStringLiteral("lamps")));
+    leds->setObjectName("leds");
+    leds->setIcon(basics::Icon("lamps"));
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
     QMenu* distances = look->addMenu(tr("LED &pitch"));
     pitches = new QActionGroup(this);
@@ -172,8 +172,7 @@ void MainWindow::MakeViewMenu()
             distances->addAction(tr("%1 diameters").arg(locale().toString(diameters)));
         action->setCheckable(true);
         action->setData(diameters);
-        action->setChecked(diameters ==
-                           QSettings().value(QStringLiteral("pitch"), standardPitch).toDouble());
+        action->setChecked(diameters == QSettings().value("pitch", standardPitch).toDouble());
         pitches->addAction(action);
     }
     connect(pitches, &QActionGroup::triggered, this, [this] {
@@ -217,23 +216,21 @@ void MainWindow::MakePlayMenu()
     };
     act(tr("&Play or stop"), Qt::Key_Space, tr("Space"), [this] { playback.Toggle(); });
     playKeys[Qt::Key_Space]->setShortcut(Ctrl(Qt::Key_Space)); // from any field
-    act(tr("Play &backward, then faster"), Qt::Key_J, QStringLiteral("J"),
-        [this] { playback.Shuttle(-1); });
-    act(tr("&Stop"), Qt::Key_K, QStringLiteral("K"), [this] { playback.SetPace(0); });
-    act(tr("Play &forward, then faster"), Qt::Key_L, QStringLiteral("L"),
-        [this] { playback.Shuttle(1); });
+    act(tr("Play &backward, then faster"), Qt::Key_J, "J", [this] { playback.Shuttle(-1); });
+    act(tr("&Stop"), Qt::Key_K, "K", [this] { playback.SetPace(0); });
+    act(tr("Play &forward, then faster"), Qt::Key_L, "L", [this] { playback.Shuttle(1); });
     play->addSeparator();
-    act(tr("One tick back"), Qt::Key_Left, QStringLiteral("←"), by(-1));
-    act(tr("One tick forward"), Qt::Key_Right, QStringLiteral("→"), by(1));
+    act(tr("One tick back"), Qt::Key_Left, "←", by(-1));
+    act(tr("One tick forward"), Qt::Key_Right, "→", by(1));
     act(tr("Ten ticks back"), shift | Qt::Key_Left, tr("Shift+←"), by(-10));
     act(tr("Ten ticks forward"), shift | Qt::Key_Right, tr("Shift+→"), by(10));
-    act(tr("Previous page mark"), Qt::Key_BracketLeft, QStringLiteral("["),
+    act(tr("Previous page mark"), Qt::Key_BracketLeft, "[",
         [this] { playback.Seek(timeline->PreviousMark(playback.Tick())); });
-    act(tr("Next page mark"), Qt::Key_BracketRight, QStringLiteral("]"),
+    act(tr("Next page mark"), Qt::Key_BracketRight, "]",
         [this] { playback.Seek(timeline->NextMark(playback.Tick())); });
     act(tr("Go to start"), Qt::Key_Home, tr("Home"), [this] { playback.Seek(0); });
     act(tr("Go to end"), Qt::Key_End, tr("End"), [this] { playback.Seek(playback.Length() - 1); });
-    act(tr("Turn page &loop on or off"), Qt::Key_R, QStringLiteral("R"), [this] { ToggleLoop(); });
+    act(tr("Turn page &loop on or off"), Qt::Key_R, "R", [this] { ToggleLoop(); });
     play->addSeparator();
     Act(play, {tr("Play on L&EDs…")}, [this] {
         auto* dialog = new display::LedsDialog(document.Current().display, document.Path(), this);
@@ -271,7 +268,7 @@ QDialog* MainWindow::MakeDialog(const QString& name, const QString& title)
 /** Lists all keys: those of the menus, the display and the fields. */
 void MainWindow::ShowKeys()
 {
-    auto* dialog = MakeDialog(QStringLiteral("keys"), tr("Keyboard shortcuts"));
+    auto* dialog = MakeDialog("keys", tr("Keyboard shortcuts"));
     auto* list = new QTreeWidget(dialog);
     list->setHeaderLabels({tr("Keys"), tr("Action")});
     list->setRootIsDecorated(false);
@@ -350,10 +347,10 @@ double MainWindow::Pitch() const
 /** Asks for the display of a new sign; starts with the values that were used last. */
 void MainWindow::ChooseNew()
 {
-    auto* dialog = MakeDialog(QStringLiteral("new"), tr("New scene"));
+    auto* dialog = MakeDialog("new", tr("New scene"));
     auto* form = new display::DisplayForm(dialog);
-    const QString sizeKey = QStringLiteral("newDisplay");
-    const QString alphaKey = QStringLiteral("newAlpha");
+    const QString sizeKey = "newDisplay";
+    const QString alphaKey = "newAlpha";
     const QSettings settings;
     form->Show(settings.value(sizeKey, model::Sign().display).toSize(),
                settings.value(alphaKey, true).toBool());
@@ -385,7 +382,7 @@ bool MainWindow::Save(bool elsewhere)
         if (path.isEmpty())
             return false;
         if (QFileInfo(path).suffix().isEmpty())
-            path += QStringLiteral(".json");
+            path += ".json";
         AddRecent(path);
     }
     document.Save(path);
@@ -433,7 +430,7 @@ void MainWindow::Leave(const std::function<void()>& then)
 void MainWindow::ShowRecent()
 {
     recent->clear();
-    for (const QString& path : QSettings().value(QStringLiteral("recent")).toStringList()) {
+    for (const QString& path : QSettings().value("recent").toStringList()) {
         QAction* action = recent->addAction(QFileInfo(path).fileName());
         action->setToolTip(path);
         action->setEnabled(QFileInfo::exists(path));
@@ -448,10 +445,10 @@ void MainWindow::ShowRecent()
 void MainWindow::AddRecent(const QString& path)
 {
     QSettings settings;
-    QStringList paths = settings.value(QStringLiteral("recent")).toStringList();
+    QStringList paths = settings.value("recent").toStringList();
     paths.removeAll(path);
     paths.prepend(path);
-    settings.setValue(QStringLiteral("recent"), QStringList(paths.mid(0, mostRecent)));
+    settings.setValue("recent", QStringList(paths.mid(0, mostRecent)));
 }
 
 } // namespace AnimText::studio::window::shell

@@ -89,7 +89,7 @@ void MainWindow::PutPage(int page, int to)
 void MainWindow::ShowObjectMenu(const QPoint& global)
 {
     auto* menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("objects"));
+    menu->setObjectName("objects");
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const model::Sign& sign = document.Current();
     const int page = scenes->PageOfRow();

@@ -36,7 +36,7 @@ MainWindow::MainWindow(const QString& plugin)
     , rehearsal(plugin)
     , thumbnails(plugin)
 {
-    setObjectName(QStringLiteral("studio"));
+    setObjectName("studio");
     setAcceptDrops(true);
     setDockNestingEnabled(true);
     dimming.setSingleShot(true);
@@ -54,10 +54,10 @@ MainWindow::MainWindow(const QString& plugin)
         box->installEventFilter(this);
     resize((screen()->availableSize() * 0.92).boundedTo(largestStandardSize));
     const QSettings settings;
-    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
-    restoreState(settings.value(QStringLiteral("docks")).toByteArray());
-    center->restoreState(settings.value(QStringLiteral("center")).toByteArray());
-    leds->setChecked(settings.value(QStringLiteral("leds")).toBool());
+    restoreGeometry(settings.value("geometry").toByteArray());
+    restoreState(settings.value("docks").toByteArray());
+    center->restoreState(settings.value("center").toByteArray());
+    leds->setChecked(settings.value("leds").toBool());
     Arrange();
 }
 
@@ -80,7 +80,7 @@ void MainWindow::MakeCenter()
     // Both would scroll on keys that move through time.
     scroll->installEventFilter(this);
     timeline->installEventFilter(this);
-    tools->setObjectName(QStringLiteral("tools"));
+    tools->setObjectName("tools");
     tools->setMovable(false);
     tools->setIconSize(QSize(20, 20));
     auto* bottom = new QWidget(this);
@@ -89,7 +89,7 @@ void MainWindow::MakeCenter()
     layout->setSpacing(0);
     layout->addWidget(transport);
     layout->addWidget(timeline, 1);
-    center->setObjectName(QStringLiteral("center"));
+    center->setObjectName("center");
     center->addWidget(scroll);
     center->addWidget(bottom);
     center->setStretchFactor(0, 1);
@@ -113,14 +113,14 @@ void MainWindow::MakeDocks()
     layout->addLayout(sceneTools);
     sceneTools->setContentsMargins(basics::grid, basics::grid, basics::grid, basics::grid);
     sceneTools->setSpacing(basics::grid);
-    add(sceneDock, QStringLiteral("scene"), pages, Qt::LeftDockWidgetArea);
-    add(textDock, QStringLiteral("text"), inspector, Qt::RightDockWidgetArea);
-    add(findingsDock, QStringLiteral("findings"), findings, Qt::LeftDockWidgetArea);
+    add(sceneDock, "scene", pages, Qt::LeftDockWidgetArea);
+    add(textDock, "text", inspector, Qt::RightDockWidgetArea);
+    add(findingsDock, "findings", findings, Qt::LeftDockWidgetArea);
     connect(findings, &findings::FindingsList::CountChanged, this, [this](int count) {
         SetTitle(findingsDock,
                  count == 0 ? tr("No problems") : tr("%n problem(s)", nullptr, count));
     });
-    add(integratorDock, QStringLiteral("integrator"), integrator, Qt::BottomDockWidgetArea);
+    add(integratorDock, "integrator", integrator, Qt::BottomDockWidgetArea);
     integratorDock->hide();
     resizeDocks({sceneDock, textDock}, {216, 430}, Qt::Horizontal);
     resizeDocks({sceneDock, findingsDock}, {400, 160}, Qt::Vertical);
@@ -392,7 +392,7 @@ void MainWindow::ShowTiming()
     QVector<time::TimelineRow> rows;
     for (int i = 0; i < qMin(texts.size(), timing.texts.size()); ++i) {
         const model::SignText& text = texts.at(i);
-        const int plays = text.node.attributes.value(QStringLiteral("PlayTimes")).toInt();
+        const int plays = text.node.attributes.value("PlayTimes").toInt();
         rows.append({text.id, text.Title(), plays, timing.texts.at(i)});
     }
     timeline->SetRows(rows, timing.Ticks());
@@ -550,11 +550,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     QSettings settings;
-    settings.setValue(QStringLiteral("geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("docks"), wideDocks.isEmpty() ? saveState() : wideDocks);
-    settings.setValue(QStringLiteral("center"), center->saveState());
-    settings.setValue(QStringLiteral("leds"), leds->isChecked());
-    settings.setValue(QStringLiteral("pitch"), Pitch());
+    settings.setValue("geometry", saveGeometry());
+    settings.setValue("docks", wideDocks.isEmpty() ? saveState() : wideDocks);
+    settings.setValue("center", center->saveState());
+    settings.setValue("leds", leds->isChecked());
+    settings.setValue("pitch", Pitch());
     event->accept();
 }
 

@@ -15,7 +15,7 @@
 namespace AnimText::studio::window::text {
 namespace {
 
-const QString ownFormat = QStringLiteral("application/x-animtext-text");
+const QString ownFormat = "application/x-animtext-text";
 const QByteArray ownKey = "text";
 constexpr int sizeProperty = QTextFormat::UserProperty + 1; // size on the sign in pixels
 constexpr int readingSize = 20;                             // pixels
@@ -101,7 +101,7 @@ layout::StyledText TextEditor::Styled() const
     layout::StyledText text;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (block != document()->begin())
-            text.Append(QStringLiteral(" "), text.runs.isEmpty() ? base : text.runs.last());
+            text.Append(" ", text.runs.isEmpty() ? base : text.runs.last());
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             QString part = it.fragment().text();
             // Soft line breaks and embedded pictures.
@@ -184,8 +184,7 @@ void TextEditor::PasteWithStyles()
     layout::StyledText text;
     QStringList notes;
     QString error;
-    if (!author::ParseMarkup(QStringLiteral("<html>") + source->html(), current, &text, &notes,
-                             &error))
+    if (!author::ParseMarkup("<html>" + source->html(), current, &text, &notes, &error))
         return;
     // Black letters of a web page would be invisible on the sign.
     for (layout::StyleRun& run : text.runs)
@@ -198,7 +197,7 @@ void TextEditor::contextMenuEvent(QContextMenuEvent* event)
     const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
     QAction* styled = menu->addAction(tr("Paste with styles"), this, &TextEditor::PasteWithStyles);
     styled->setEnabled(canPaste());
-    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
+    if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
         const int next = menu->actions().indexOf(paste) + 1;
         menu->insertAction(menu->actions().value(next), styled);
     }

@@ -353,7 +353,7 @@ void TextPanel::ShowNotes(const model::SignText& text)
                        QString::asprintf(" (U+%04X)", character.codePoint));
     }
     const auto few = [](const QStringList& words) {
-        return QStringList(words.mid(0, mostShown)).join(QStringLiteral(", "));
+        return QStringList(words.mid(0, mostShown)).join(", ");
     };
     if (!layout.fault.isEmpty())
         lines.append(layout.fault);

@@ -29,7 +29,7 @@ protected:
         QPainter painter(this);
         const QRect room = contentsRect();
         const bool isWhole = fontMetrics().horizontalAdvance(text()) <= room.width();
-        const QString words = isWhole ? text() : text().section(QStringLiteral(" · "), -1);
+        const QString words = isWhole ? text() : text().section(" · ", -1);
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(room, int(Qt::AlignRight | Qt::AlignVCenter),
                          fontMetrics().elidedText(words, Qt::ElideRight, room.width()));
@@ -50,16 +50,15 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
         return [=] { playback->Seek(playback->Tick() + ticks); };
     };
     // The Home and End keys do the same as the spare buttons.
-    spare.append(Add(QStringLiteral("media-skip-backward"), tr("Go to start"), tr("Home"),
-                     [=] { playback->Seek(0); }));
-    Add(QStringLiteral("step-back"), tr("One tick back"), QStringLiteral("←"), by(-1));
-    play = Add(QStringLiteral("media-playback-start"), tr("Play"), tr("Space"),
-               [=] { playback->Toggle(); });
-    Add(QStringLiteral("step-forward"), tr("One tick forward"), QStringLiteral("→"), by(1));
-    spare.append(Add(QStringLiteral("media-skip-forward"), tr("Go to end"), tr("End"),
+    spare.append(
+        Add("media-skip-backward", tr("Go to start"), tr("Home"), [=] { playback->Seek(0); }));
+    Add("step-back", tr("One tick back"), "←", by(-1));
+    play = Add("media-playback-start", tr("Play"), tr("Space"), [=] { playback->Toggle(); });
+    Add("step-forward", tr("One tick forward"), "→", by(1));
+    spare.append(Add("media-skip-forward", tr("Go to end"), tr("End"),
                      [=] { playback->Seek(playback->Length() - 1); }));
-    loop = Add(QStringLiteral("media-playlist-repeat"), tr("Loop the page"), tr("R"),
-               [this] { emit LoopToggled(); });
+    loop =
+        Add("media-playlist-repeat", tr("Loop the page"), tr("R"), [this] { emit LoopToggled(); });
     loop->setToolTip(loop->toolTip() + QLatin1Char('\n') +
                      tr("Shift+drag on the timeline loops a range"));
     loop->setCheckable(true);
@@ -72,7 +71,7 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
             [this](int index) { emit ScheduleChanged(index == 1); });
 
     time->setFont(basics::TabularFont(font(), 1));
-    time->setMinimumWidth(time->fontMetrics().horizontalAdvance(QStringLiteral("0000.00 s")));
+    time->setMinimumWidth(time->fontMetrics().horizontalAdvance("0000.00 s"));
     ends->setFont(basics::TabularFont(font()));
 
     layout->addSpacing(2 * basics::grid);
@@ -120,8 +119,8 @@ void TransportBar::resizeEvent(QResizeEvent*)
 
 void TransportBar::ShowPace()
 {
-    play->setIcon(basics::Icon(playback->IsPlaying() ? QStringLiteral("media-playback-pause")
-                                                     : QStringLiteral("media-playback-start")));
+    play->setIcon(
+        basics::Icon(playback->IsPlaying() ? "media-playback-pause" : "media-playback-start"));
     const QString name = playback->IsPlaying() ? tr("Stop") : tr("Play");
     play->setAccessibleName(name);
     play->setToolTip(QStringLiteral("%1 (%2)").arg(name, tr("Space")));
