@@ -69,12 +69,10 @@ int Film::PlannedFrames(const QVector<timing::NodePlay>& plays)
             lastTick = std::max(lastTick, plays.at(node).finishedTick + TicksOf(rest * 100LL));
             break;
         }
-        case timing::Ending::ScrollsOn: {
-            const qint64 pass = timing::ScrollPass(player->Scenery(), node);
+        case timing::Ending::ScrollsOn:
             // The picture after the last one is the first.
-            lastTick = std::max(lastTick, TicksOf(pass > 0 ? pass : animated->Duration()) - 1);
+            lastTick = std::max(lastTick, TicksOf(timing::ScrollPass(player->Scenery(), node)) - 1);
             break;
-        }
         case timing::Ending::StandsStill:
             lastTick = std::max(lastTick, TicksOf(animated->Duration()) - 1);
             break;

@@ -131,13 +131,13 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& wishes, QS
     Run();
     for (int node = 0; node < parts.size(); ++node) {
         parts[node].ending = timing::EndingAtStart(*stage, node);
-        const qint64 pass = parts.at(node).ending == timing::Ending::ScrollsOn
-                                ? timing::ScrollPass(*stage, node)
-                                : 0;
-        if (parts.at(node).ending == timing::Ending::NothingToPlay)
-            parts[node].end = 0;
-        else if (parts.at(node).ending != timing::Ending::TooLong)
-            parts[node].end = pass > 0 ? pass : stage->Node(node)->Duration();
+        switch (parts.at(node).ending) {
+        case timing::Ending::NothingToPlay: parts[node].end = 0; break;
+        case timing::Ending::ScrollsOn: parts[node].end = timing::ScrollPass(*stage, node); break;
+        case timing::Ending::StandsStill: parts[node].end = stage->Node(node)->Duration(); break;
+        case timing::Ending::Finishes:
+        case timing::Ending::TooLong: break; // the renderer will say
+        }
     }
     Show();
     return true;

@@ -168,7 +168,7 @@ qint64 ScrollPass(const player::Stage& stage, int node)
         GeteffectDuration(area.width(), area.height(), 26 + motion.number, speed - 1);
     const QImage line = Torv::FrontImage(stage.Session(node), 0);
     if (crossing <= 0 || area.width() <= 0 || line.isNull())
-        return 0;
+        return stage.Node(node)->Duration();
     return crossing * (area.width() + line.width()) / area.width();
 }
 

@@ -123,7 +123,8 @@ private:
 
 /**
  * What the device needs to scroll a node's text once through its area, until the area is empty
- * again, in milliseconds; 0 when it does not move. The player must have been started.
+ * again, in milliseconds; the planned time when it does not move. The player must have been
+ * started.
  */
 qint64 ScrollPass(const player::Stage& stage, int node);
 

@@ -15,10 +15,7 @@ qint64 ActualEnd(const timing::NodePlay& play, const player::Player& player, pla
 {
     switch (play.ending) {
     case timing::Ending::Finishes: return play.FinishedMs();
-    case timing::Ending::ScrollsOn: {
-        const qint64 pass = timing::ScrollPass(*stage, node);
-        return pass > 0 ? pass : player.Durations().at(node);
-    }
+    case timing::Ending::ScrollsOn: return timing::ScrollPass(*stage, node);
     case timing::Ending::StandsStill: return player.Durations().at(node);
     case timing::Ending::NothingToPlay: return 0;
     case timing::Ending::TooLong: return -1;
