@@ -239,8 +239,11 @@ void TestWindow::routesKeys()
     editor->setFocus();
     QVERIFY(window->Open(path));
     QVERIFY(display->hasFocus());
+    QVERIFY(Settles());
+    window->GetPlayback()->Seek(9);
     QTest::keyClick(display, Qt::Key_Delete);
     QVERIFY(window->GetDocument()->Current().texts.isEmpty());
+    QVERIFY(Settles()); // shows the dark sign
     QCOMPARE(editor->toPlainText(), QString());
 }
 

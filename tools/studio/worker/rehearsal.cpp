@@ -78,10 +78,10 @@ void Rehearsal::Prepared(const Order& prepared, const QString& error)
             return part.page < 0 || text.page == part.page;
         })) {
         order.scene.clear();
+        TakeTiming(Timing()); // goes back to the start, which is all there is
         QImage dark(sign.display, QImage::Format_ARGB32);
         dark.fill(Qt::transparent);
         cache.Insert(wanted, dark, QByteArray(), wanted);
-        TakeTiming(Timing());
         emit FindingsChanged({});
         Look(wanted);
         return;
