@@ -594,6 +594,13 @@ void TestWindow::mouseMovesAndSizesAreas()
     QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
     QCOMPARE(Text().node.pos, QPoint(10, 0));
     QCOMPARE(Text().node.size, QSize(300, 41));
+    QCOMPARE(window->GetDocument()->Undo()->count(), 5);
+    for (int i = 0; i < 5; ++i) { // Alt stays pressed
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::AltModifier);
+        QApplication::sendEvent(view, &press);
+    }
+    QCOMPARE(Text().node.pos, QPoint(15, 0));
+    QCOMPARE(window->GetDocument()->Undo()->count(), 6);
 }
 
 /** Closes right after typing: saves, does not save, or cancels. */

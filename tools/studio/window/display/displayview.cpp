@@ -283,6 +283,7 @@ void DisplayView::mouseMoveEvent(QMouseEvent* event)
 
 void DisplayView::mouseReleaseEvent(QMouseEvent*)
 {
+    ++gesture;
     dragging = false;
     panning = false;
     unsetCursor();
@@ -325,6 +326,8 @@ void DisplayView::keyPressEvent(QKeyEvent* event)
 
 void DisplayView::keyReleaseEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_Alt)
+        ++gesture; // the arrow keys before it are one undo step
     if (event->key() != Qt::Key_Space || event->isAutoRepeat() || !spaceHeld) {
         live::PictureView::keyReleaseEvent(event);
         return;
@@ -410,7 +413,7 @@ bool DisplayView::HandleAreaKey(int key, Qt::KeyboardModifiers modifiers)
         rect.setSize(QSize(qMax(1, rect.width() + by.x()), qMax(1, rect.height() + by.y())));
     else
         rect.translate(by);
-    emit AreaChanged(selected, rect, 0);
+    emit AreaChanged(selected, rect, gesture);
     return true;
 }
 

@@ -45,7 +45,7 @@ public:
 
 signals:
     void Selected(int id);
-    /** @param gesture identifies the changes of one drag */
+    /** @param gesture identifies the changes of one drag, or of the keys while Alt is held */
     void AreaChanged(int id, const QRect& rect, int gesture);
     void DisplayDoubleClicked();
     /** Ctrl+wheel: zoom in by @p steps around the point @p about of the widget. */

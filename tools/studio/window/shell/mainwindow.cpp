@@ -238,8 +238,7 @@ void MainWindow::Connect()
     connect(view, &display::DisplayView::AreaChanged, this,
             [this](int id, const QRect& rect, int gesture) {
                 Select(id);
-                Edit(tr("Change area"),
-                     gesture > 0 ? QStringLiteral("area %1").arg(gesture) : QString(),
+                Edit(tr("Change area"), QStringLiteral("area %1").arg(gesture),
                      [rect](model::SignText* text) {
                          text->node.pos = rect.topLeft();
                          text->node.size = rect.size();
