@@ -722,12 +722,30 @@ void TestWindow::fieldsFollowTheArea()
     sign.texts.first().node.size = QSize(512, 64);
     sign.texts.first().source.padding = 20;
     window->GetDocument()->Change("High", sign);
-    for (const studio::window::basics::NumberField* number :
-         window->GetInspector()->findChildren<studio::window::basics::NumberField*>()) {
-        if (number->accessibleName() == "Padding")
-            QCOMPARE(number->Number(), 20);
-    }
+    const auto field = [this](const QString& name) {
+        for (auto* number :
+             window->GetInspector()->findChildren<studio::window::basics::NumberField*>()) {
+            if (number->accessibleName() == name)
+                return number;
+        }
+        return static_cast<studio::window::basics::NumberField*>(nullptr);
+    };
+    QCOMPARE(field("Padding")->Number(), 20);
     QCOMPARE(window->GetDocument()->Undo()->count(), 2);
+
+    auto* x = field("Left");
+    auto* line = x->findChild<QLineEdit*>();
+    QTest::mousePress(line, Qt::LeftButton, Qt::NoModifier, QPoint(9, 9));
+    for (int way : {12, 18, 30}) {
+        QMouseEvent move(QEvent::MouseMove, QPoint(9 + way, 9), line->mapToGlobal({9 + way, 9}),
+                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(line, &move);
+    }
+    QTest::mouseRelease(line, Qt::LeftButton, Qt::NoModifier, QPoint(39, 9));
+    QCOMPARE(Text().node.pos.x(), 10);
+    QCOMPARE(window->GetDocument()->Undo()->count(), 3);
+    QTest::keySequence(x, QKeySequence::Undo); // in the field as everywhere
+    QCOMPARE(Text().node.pos.x(), 0);
 }
 
 void TestWindow::fieldsStayInPlaceAndTabIsShort()

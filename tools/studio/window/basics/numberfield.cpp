@@ -79,17 +79,37 @@ void NumberField::wheelEvent(QWheelEvent* event)
     QDoubleSpinBox::wheelEvent(event);
 }
 
+void NumberField::focusInEvent(QFocusEvent* event)
+{
+    typing = event->reason() != Qt::MouseFocusReason; // a press gives the focus before it is seen
+    QDoubleSpinBox::focusInEvent(event);
+}
+
 void NumberField::focusOutEvent(QFocusEvent* event)
 {
     ++gesture;
+    typing = false;
     QDoubleSpinBox::focusOutEvent(event);
+}
+
+bool NumberField::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool isTyping = valueFromText(text()) != value();
+        if (!isTyping && (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))) {
+            event->ignore(); // the window undoes
+            return true;
+        }
+    }
+    return QDoubleSpinBox::event(event);
 }
 
 bool NumberField::eventFilter(QObject* object, QEvent* event)
 {
     const auto* mouse = dynamic_cast<QMouseEvent*>(event); // null for other events
-    const bool begins = event->type() == QEvent::MouseButtonPress &&
-                        mouse->button() == Qt::LeftButton && !lineEdit()->hasFocus();
+    const bool begins =
+        event->type() == QEvent::MouseButtonPress && mouse->button() == Qt::LeftButton && !typing;
     if (begins) {
         pressed = true;
         dragging = false;
@@ -106,7 +126,7 @@ bool NumberField::eventFilter(QObject* object, QEvent* event)
         pressed = false;
         ++gesture;
         if (!dragging) {
-            setFocus(Qt::MouseFocusReason);
+            typing = true;
             selectAll();
         }
     } else {

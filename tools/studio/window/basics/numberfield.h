@@ -33,13 +33,16 @@ signals:
     void NumberChanged(int number, int gesture);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     int perUnit = 1;
     int gesture = 0;
+    bool typing = false; // a press moves the cursor and drags nothing
     bool pressed = false;
     bool dragging = false;
     int pressX = 0;
