@@ -58,7 +58,7 @@ private:
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error)
 {
     const auto change = [&](scene::Scene* scene, author::DataFiles* dataFiles, QString* why) {
-        if (!known.isEmpty() && DigestOfFile(path) != known) {
+        if (!known.isEmpty() && QFileInfo::exists(path) && DigestOfFile(path) != known) {
             *why = Document::tr("%1 has changed on disk").arg(path);
             return false;
         }
