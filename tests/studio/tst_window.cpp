@@ -423,6 +423,11 @@ void TestWindow::editsTextsAndPages()
     QCOMPARE(choose("b", "New page"), QString("c a b"));
     QCOMPARE(choose("Page 3 · b", "Move page up"), QString("c b a"));
     QCOMPARE(choose("Page 1 · c", "Duplicate page"), QString("c c b a"));
+    QCOMPARE(list->PageOfRow(), 0);
+    QVERIFY(Settles());
+    window->GetPlayback()->Seek(9);
+    list->setCurrentItem(row("Page 3 · b"));
+    QCOMPARE(window->GetPlayback()->Tick(), 0); // a page is seen from its start
     QCOMPARE(choose("Page 1 · c", "Remove page"), QString("c b a"));
     QCOMPARE(choose("c", "Duplicate text"), QString("cc b a"));
     QCOMPARE(Text(1).node.pos, Text(0).node.pos + QPoint(128, 0)); // beside it

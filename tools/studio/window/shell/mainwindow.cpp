@@ -200,11 +200,7 @@ void MainWindow::Connect()
     connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
     connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText, Qt::QueuedConnection);
     connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage, Qt::QueuedConnection);
-    connect(scenes, &SceneList::PageSelected, this, [this](int page) {
-        selected = 0;
-        shownPage = page;
-        Refresh();
-    });
+    connect(scenes, &SceneList::PageSelected, this, [this](int page) { SelectOn(page, 0); });
     connect(scenes, &SceneList::customContextMenuRequested, this, [this](const QPoint& point) {
         ShowObjectMenu(scenes->viewport()->mapToGlobal(point));
     });
@@ -316,13 +312,18 @@ int MainWindow::CurrentPage() const
 
 void MainWindow::Select(int id)
 {
-    if (id == selected)
-        return;
-    const int page = CurrentPage();
+    if (id != selected)
+        SelectOn(CurrentPage(), id);
+}
+
+/** Selects the text @p id or, if it is 0, none of @p page. */
+void MainWindow::SelectOn(int page, int id)
+{
+    const int before = CurrentPage();
     selected = id;
     if (id == 0)
         shownPage = page;
-    if (page != CurrentPage() && !transport->IsSchedule())
+    if (before != CurrentPage() && !transport->IsSchedule())
         playback.Seek(0);
     Refresh();
 }

@@ -86,6 +86,7 @@ void SceneList::Show(const model::Sign& sign)
 void SceneList::Rebuild()
 {
     const int current = IdOf(currentItem());
+    const int currentPage = PageOfRow();
     clear();
     const auto add = [](QTreeWidgetItem* parent, int page, int id, Qt::ItemFlags flags) {
         auto* item = new QTreeWidgetItem(parent);
@@ -104,6 +105,8 @@ void SceneList::Rebuild()
         add(page, text.first, text.second, Qt::ItemIsDragEnabled | Qt::ItemIsEditable);
     }
     expandAll();
+    // The display stands above the pages.
+    setCurrentItem(topLevelItem(qMin(currentPage + 1, topLevelItemCount() - 1)));
     Select(current);
 }
 
