@@ -112,10 +112,11 @@ void WorkerLink::Read()
                 answer.picture = lastPicture;
             lastPicture = answer.picture;
         }
-        if (answer.kind == Answer::Idle || answer.kind == Answer::Measured ||
-            !answer.error.isEmpty())
+        const bool isLast = answer.kind == Answer::Idle || answer.kind == Answer::Measured ||
+                            !answer.error.isEmpty();
+        if (isLast)
             patience.stop();
-        else if (answer.kind != Answer::Ready)
+        if (!isLast && answer.kind != Answer::Ready)
             Expect();
         emit Answered(answer);
     }
