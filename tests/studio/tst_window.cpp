@@ -839,6 +839,17 @@ void TestWindow::reportsMissingTemporaryFolder()
     dialog.SetOutput(folder.Path("none.gif"));
     dialog.StartButton()->click();
     QVERIFY(done.value(0).value(0) == false);
+
+    // An update may have removed the program that runs.
+    const QString program = studio::worker::WorkerLink::Program();
+    studio::worker::WorkerLink::SetProgram(folder.Path("nothing"));
+    init();
+    QTRY_COMPARE_WITH_TIMEOUT(window->Notices()->Text(),
+                              QString("The playback process ended unexpectedly."), patience);
+    studio::worker::WorkerLink::SetProgram(program);
+    Type("there again");
+    QVERIFY(Settles());
+    QCOMPARE(window->Notices()->Text(), QString());
 }
 
 void TestWindow::exportsAndCancels()

@@ -39,6 +39,11 @@ WorkerLink::WorkerLink(const QString& plugin, Haste haste)
     connect(&process, &QProcess::readyReadStandardOutput, this, &WorkerLink::Read);
     connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
             &WorkerLink::End);
+    const auto fail = [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) // then it never finishes
+            End(0, QProcess::NormalExit);
+    };
+    connect(&process, &QProcess::errorOccurred, this, fail, Qt::QueuedConnection); // it tidies up
     patience.setInterval(lookTime);
     connect(&patience, &QTimer::timeout, this, [this] {
         hangs = silence.elapsed() > longestSilence ||
