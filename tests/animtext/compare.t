@@ -141,6 +141,10 @@ Files that are not recordings:
   $ echo nonsense >>a; animtext compare a s.json
   ! animtext: a: line 1: expected a call or a tick, as librecord and animtext trace write them
   [2]
+  $ for n in -5 2147483647; do echo '{"tick":0,"node":'$n',"swap":true}' >a; animtext compare a s.json; done
+  ! animtext: a: line 1: expected a call or a tick, as librecord and animtext trace write them
+  ! animtext: a: line 1: expected a call or a tick, as librecord and animtext trace write them
+  [2]
   $ printf '{"call":"FreePictureSession","session":1,"result":0,"ms":1}\n{"call":"Rem' >a; animtext compare a a
   a and a agree: 1 calls, 0 pictures
   $ animtext compare none s.json

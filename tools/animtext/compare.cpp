@@ -86,7 +86,6 @@ int Report(const compare::Difference& difference, const compare::Recording& a,
 int CompareWithScene(const cli::CommandLine& line, const QString& log, const QString& scenePath,
                      qint64 tolerance)
 {
-    cli::WatchForInterruption();
     const scene::Scene scene = shared::OpenPlayableScene(line, scenePath);
     const shared::Playing playing(line);
     player::Player player(player::VirtualDispatcher::Current(), playing.Plugin());
@@ -94,6 +93,7 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
     files::FailUnless(recorded.hasCalls,
                       log + " has pictures but no calls; record it with animtext trace --calls",
                       files::BadInput);
+    cli::WatchForInterruption(); // not before: opening a pipe may wait without end
     QString error;
     const auto play = [&](compare::PicturePlace wanted, QImage* picture) {
         compare::Recording desk;

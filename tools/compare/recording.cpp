@@ -7,6 +7,12 @@
 
 namespace AnimText::compare {
 
+namespace {
+
+constexpr int mostNodes = 10000; // of a scene; a damaged line may have any number
+
+} // namespace
+
 QVector<RecordedCall> Recording::All() const
 {
     QVector<RecordedCall> all;
@@ -32,9 +38,10 @@ QVector<RecordedCall>& Recording::Session(int index)
 bool Recording::Take(const QByteArray& text, int number)
 {
     const QJsonObject line = QJsonDocument::fromJson(text).object();
+    const int node = line.value("node").toInt();
     if (line.contains("call"))
         TakeCall(line, number, line.value("ms").toInt(-1), line.value("sha1").toString());
-    else if (line.contains("tick"))
+    else if (line.contains("tick") && node >= 0 && node < mostNodes)
         TakeTick(line, number);
     else
         return false;
