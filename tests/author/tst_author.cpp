@@ -1,9 +1,10 @@
 // A line of text on its way to a node: its units, their outlines and their places.
 
-#include "author/author.h"
+#include "author/authorscene.h"
 #include "layout/placement.h"
 #include "layout/wordpages.h"
 #include "table.h"
+#include "testfolder.h"
 #include "text/glyphdata.h"
 #include "text/pagedivision.h"
 
@@ -480,6 +481,24 @@ private slots:
             for (int x = 0; x < width; ++x)
                 QVERIFY2(shown.constScanLine(y)[20 + x] != 0, qPrintable(QString::number(x)));
         }
+    }
+
+    // The command may not be stopped between the files of a change.
+    void saysThatItWillSave()
+    {
+        const TestFolder folder;
+        QStringList before{"never said"};
+        author::AuthorRequest request;
+        request.path = folder.Path("sign.json");
+        request.written.words = "text";
+        request.written.style.font = Font(20);
+        request.motion.number = 4;
+        request.beforeSaving = [&] { before = folder.Everything(); };
+        author::AuthoredScene authored;
+        QString error;
+        QCOMPARE(author::AuthorScene(request, &authored, &error), author::Storing::Saved);
+        QCOMPARE(before, QStringList());
+        QCOMPARE(folder.Listing().size(), 3);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "animtext/shared/authoroptions.h"
 #include "animtext/shared/cutoff.h"
 #include "animtext/shared/savescene.h"
+#include "cli/interruption.h"
 
 namespace AnimText::animtext {
 
@@ -85,7 +86,9 @@ QByteArray Summary(const QString& path, const author::AuthoredNode& text)
 
 int WriteScene(const cli::CommandLine& line)
 {
-    const author::AuthorRequest request = shared::ReadRequest(line);
+    author::AuthorRequest request = shared::ReadRequest(line);
+    // Ctrl+C must not leave the data files of half a change.
+    request.beforeSaving = cli::WatchForInterruption;
     author::AuthoredScene authored;
     QString error;
     const author::Storing storing = author::AuthorScene(request, &authored, &error);

@@ -108,6 +108,8 @@ Storing AuthorScene(const AuthorRequest& request, AuthoredScene* authored, QStri
     }
     if (!AuthorNode(source, settings, request.motion, &authored->text, error))
         return Storing::Refused;
+    if (request.beforeSaving)
+        request.beforeSaving();
     return ChangeScene(
         request.path,
         [&](scene::Scene* scene, DataFiles* dataFiles, QString* why) {

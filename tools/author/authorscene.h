@@ -8,6 +8,8 @@
 #include "author/markup.h"
 #include "author/scenestore.h"
 
+#include <functional>
+
 namespace AnimText::author {
 
 /** Where a new text goes. Pages and areas count from 1. */
@@ -35,6 +37,7 @@ struct AuthorRequest
     scene::NodeMotion motion;
     bool hasPlace = false; ///< a text in an existing area does not take its position from there
     Destination destination;
+    std::function<void()> beforeSaving{}; ///< called when the text is laid out
 };
 
 /** What came of it. */

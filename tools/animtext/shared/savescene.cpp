@@ -1,5 +1,6 @@
 #include "animtext/shared/savescene.h"
 
+#include "cli/interruption.h"
 #include "cli/output.h"
 
 #include <QFileInfo>
@@ -28,6 +29,7 @@ QPair<scene::Scene, scene::Place> ChangeText(const cli::CommandLine& line, const
     const auto changeText = [&](scene::Scene* scene, author::DataFiles*, QString* why) {
         return scene->Find(line.Arguments().at(1), &place, why) && change(scene, place, why);
     };
+    cli::WatchForInterruption(); // so that the change is made whole or not at all
     const author::Storing storing = author::ChangeScene(path, changeText, &error, &stored);
     EndSaving(storing, stored, error);
     return {stored.scene, place};
