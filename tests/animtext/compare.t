@@ -51,6 +51,11 @@ A plugin that paints one pixel otherwise:
   log-desk.png
   log-device.png
   log-difference.png
+  $ echo mine >seen/log-desk.png; animtext compare log s.json --no-times -o seen; cat seen/log-desk.png
+  log and the desktop differ: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr: the pictures differ
+  seen/log-device.png
+  ! animtext: seen/log-desk.png: is not a picture of animtext and was kept
+  mine
   $ animtext compare log s.json --no-times -o /proc/none
   log and the desktop differ: session 1, call 24, at tick 19 (1.25 s), line 24 of log: SwapPicImageLayerPtr: the pictures differ
   ! animtext: cannot create the folder /proc/none: No such file or directory

@@ -146,6 +146,8 @@ Render:
   $ animtext render one.json -o two.json/
   ! animtext: $PWD/two.json is a file; choose another name for the folder
   [1]
+  $ mkdir here && (cd here && animtext render ../two.json -o . --seconds 1); ls here
+  ! animtext: $PWD is the current folder, which cannot be replaced; choose another one
   $ animtext render bad.json -o a.gif
   ! animtext: bad.json: $.pages: expected a list, found 1
   [2]

@@ -58,6 +58,8 @@ QString Tell(const compare::Difference& difference, const compare::Recording& a,
 
 void Keep(const QImage& picture, const QString& path)
 {
+    files::FailUnless(!QFile::exists(path) || film::IsOurPng(path),
+                      path + ": is not a picture of animtext and was kept");
     film::WritePng(path, film::PngOf(picture, true));
     cli::Print(path.toUtf8() + '\n');
 }

@@ -76,6 +76,10 @@ bool WholeFolder::Open(const OwnFiles& own, QString* error)
         *error = QStringLiteral("%1 is a file; choose another name for the folder").arg(path);
         return false;
     }
+    if (info.exists() && info.canonicalFilePath() == QDir().canonicalPath()) {
+        *error = path + " is the current folder, which cannot be replaced; choose another one";
+        return false;
+    }
     if (info.exists() && !IsReplaceable(path, error))
         return false;
     folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
