@@ -200,7 +200,7 @@ void MainWindow::Connect()
     connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
     connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText, Qt::QueuedConnection);
     connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage, Qt::QueuedConnection);
-    connect(scenes, &SceneList::PageSelected, this, [this](int page) { SelectOn(page, 0); });
+    connect(scenes, &SceneList::PageSelected, this, [this](int page) { SelectOnPage(page, 0); });
     connect(scenes, &SceneList::customContextMenuRequested, this, [this](const QPoint& point) {
         ShowObjectMenu(scenes->viewport()->mapToGlobal(point));
     });
@@ -313,11 +313,11 @@ int MainWindow::CurrentPage() const
 void MainWindow::Select(int id)
 {
     if (id != selected)
-        SelectOn(CurrentPage(), id);
+        SelectOnPage(CurrentPage(), id);
 }
 
 /** Selects the text @p id or, if it is 0, none of @p page. */
-void MainWindow::SelectOn(int page, int id)
+void MainWindow::SelectOnPage(int page, int id)
 {
     const int before = CurrentPage();
     selected = id;

@@ -123,7 +123,7 @@ private:
     void PutPage(int page, int to);
     void ShowObjectMenu(const QPoint& global);
     int CurrentPage() const;
-    void SelectOn(int page, int id);
+    void SelectOnPage(int page, int id);
 
     const QString plugin;
     model::Document document;
