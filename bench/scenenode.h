@@ -3,8 +3,7 @@
  * The first text of a scene file as a node, read without the tools: the same source then measures
  * an older plugin that has other tools.
  */
-#ifndef BENCH_SCENENODE_H
-#define BENCH_SCENENODE_H
+#pragma once
 
 #include "node/hanimationtextnode.h"
 
@@ -72,5 +71,3 @@ inline QString FullOutlines(Lw::HNodeAnimationText::HAnimationTextNode& node, co
         qFatal("cannot write %s", qPrintable(file));
     return file;
 }
-
-#endif

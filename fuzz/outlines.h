@@ -2,8 +2,7 @@
  * @file
  * What becomes of outlines after they have been read: they are shaped, collected and painted.
  */
-#ifndef FUZZ_OUTLINES_H
-#define FUZZ_OUTLINES_H
+#pragma once
 
 #include "support/serialized.h"
 #include "text/glyphdata.h"
@@ -76,5 +75,3 @@ inline void PaintOutlines(const QVector<QPainterPath>& outlines)
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(page);
 }
-
-#endif

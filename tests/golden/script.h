@@ -2,8 +2,7 @@
  * @file
  * A text of rectangles played by a script, and what was seen of it, in words.
  */
-#ifndef TESTS_SCRIPT_H
-#define TESTS_SCRIPT_H
+#pragma once
 
 #include "renderfixture.h"
 
@@ -96,5 +95,3 @@ private:
     QStringList fields;
     int begin = 0;
 };
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A session on its own display, with all properties easy to vary.
  */
-#ifndef TESTS_TESTSESSION_H
-#define TESTS_TESTSESSION_H
+#pragma once
 
 #include "display.h"
 
@@ -69,5 +68,3 @@ struct TestSession
     PicSession session;
     QImage image;
 };
-
-#endif

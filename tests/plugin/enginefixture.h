@@ -2,8 +2,7 @@
  * @file
  * An engine that plays a text of rectangles into its own image, without a renderer.
  */
-#ifndef TESTS_ENGINEFIXTURE_H
-#define TESTS_ENGINEFIXTURE_H
+#pragma once
 
 #include "node/motions.h"
 #include "probes.h"
@@ -56,5 +55,3 @@ public:
     RectangleText text;
     animationRealization engine{nullptr};
 };
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * What tests read and set inside the plugin's classes; each field by its name.
  */
-#ifndef TESTS_PROBES_H
-#define TESTS_PROBES_H
+#pragma once
 
 #include "engine/animationrealization.h"
 #include "node/hanimationtextnode.h"
@@ -119,5 +118,3 @@ inline QString Corners(const Lw::HNodeAnimationText::EngineProbe& engine)
 {
     return CornersOf(engine.textPath().Path());
 }
-
-#endif

@@ -3,8 +3,7 @@
  * Texts whose glyphs are rectangles, in real data files: where the corners of a glyph stand tells
  * its place, its pivot and the order of its transforms.
  */
-#ifndef TESTS_RECTANGLETEXT_H
-#define TESTS_RECTANGLETEXT_H
+#pragma once
 
 #include "node/hanimationtextnode.h"
 #include "serialized.h"
@@ -144,5 +143,3 @@ private:
 
     QtMessageHandler before;
 };
-
-#endif

@@ -3,8 +3,7 @@
  * A renderer that plays a text of rectangles on an emulated display, its calls of the device told
  * in short words, on virtual time.
  */
-#ifndef TESTS_RENDERFIXTURE_H
-#define TESTS_RENDERFIXTURE_H
+#pragma once
 
 #include "probes.h"
 #include "rectangletext.h"
@@ -144,5 +143,3 @@ public:
         TestClass test;                                                                            \
         return QTest::qExec(&test, argc, argv);                                                    \
     }
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Scenes that nobody in his right mind would put on a sign.
  */
-#ifndef TESTS_HOSTILE_H
-#define TESTS_HOSTILE_H
+#pragma once
 
 #include "scene/scene.h"
 
@@ -42,5 +41,3 @@ QList<HostileFile> HostilePictures(const QDir& folder);
  * once more together with two others; always the same ones.
  */
 QVector<HostileScene> HostileScenes(const QDir& folder);
-
-#endif

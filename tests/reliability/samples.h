@@ -2,8 +2,7 @@
  * @file
  * Real texts to play: laid out by the author library, in every motion and before every background.
  */
-#ifndef TESTS_SAMPLES_H
-#define TESTS_SAMPLES_H
+#pragma once
 
 #include "scene/catalog.h"
 #include "scene/scene.h"
@@ -41,5 +40,3 @@ private:
     QTemporaryDir folder;
     AnimText::scene::SceneNode base;
 };
-
-#endif

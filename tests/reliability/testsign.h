@@ -2,8 +2,7 @@
  * @file
  * A sign for tests: the plugin as a host loads it, displays, and time that tests drive.
  */
-#ifndef TESTS_TESTSIGN_H
-#define TESTS_TESTSIGN_H
+#pragma once
 
 #include "player/virtualdispatcher.h"
 #include "scene/scene.h"
@@ -79,5 +78,3 @@ int RunOnTestSign(int argc, char** argv)
 
 /** Whether a sanitizer is built in, which multiplies time and memory. */
 bool IsSanitized();
-
-#endif

@@ -3,8 +3,7 @@
  * Glyph data as it may come from anywhere: what the sign reads of it, and what validating says. One
  * table for all who read such bytes.
  */
-#ifndef TESTS_MALFORMEDGLYPHS_H
-#define TESTS_MALFORMEDGLYPHS_H
+#pragma once
 
 #include "serialized.h"
 
@@ -174,5 +173,3 @@ inline QVector<Sample> FileSamples()
 }
 
 } // namespace Glyphs
-
-#endif

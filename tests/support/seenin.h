@@ -1,6 +1,5 @@
 // What a person sees of the picture in a view.
-#ifndef ANIMTEXT_SEENIN_H
-#define ANIMTEXT_SEENIN_H
+#pragma once
 
 #include "live/pictureview.h"
 
@@ -15,5 +14,3 @@ inline QImage SeenIn(AnimText::live::PictureView* view)
     }
     return seen;
 }
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * What data files are made of.
  */
-#ifndef TESTS_SERIALISED_H
-#define TESTS_SERIALISED_H
+#pragma once
 
 #include <QByteArray>
 #include <QDataStream>
@@ -19,5 +18,3 @@ QByteArray Serialized(const Values&... values)
     (stream << ... << values);
     return bytes;
 }
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The table of a test that is run once for each row.
  */
-#ifndef TESTS_TABLE_H
-#define TESTS_TABLE_H
+#pragma once
 
 #include <QtTest>
 
@@ -23,5 +22,3 @@ public:
         (QTest::newRow(name.toUtf8().constData()) << ... << values);
     }
 };
-
-#endif

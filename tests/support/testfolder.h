@@ -2,8 +2,7 @@
  * @file
  * Files in a folder of the test's own, and programs that run there.
  */
-#ifndef TESTS_TESTFOLDER_H
-#define TESTS_TESTFOLDER_H
+#pragma once
 
 #include <QDir>
 #include <QFile>
@@ -68,5 +67,3 @@ private:
 
     QTemporaryDir folder;
 };
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Scenes whose glyphs are rectangles, and their files in a folder of the test's own.
  */
-#ifndef TESTSCENE_H
-#define TESTSCENE_H
+#pragma once
 
 #include "layout/glyphfiles.h"
 #include "scene/scene.h"
@@ -86,5 +85,3 @@ private:
 };
 
 } // namespace AnimText
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The commands of animtext. They throw Failure or Misuse.
  */
-#ifndef ANIMTEXT_COMMANDS_H
-#define ANIMTEXT_COMMANDS_H
+#pragma once
 
 #include "cli/option.h"
 
@@ -27,5 +26,3 @@ cli::Command TraceCommand();
 cli::Command ValidateCommand();
 
 } // namespace AnimText::animtext
-
-#endif

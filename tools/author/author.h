@@ -2,8 +2,7 @@
  * @file
  * Makes a node of a scene from a text.
  */
-#ifndef ANIMTEXT_AUTHOR_H
-#define ANIMTEXT_AUTHOR_H
+#pragma once
 
 #include "layout/layout.h"
 #include "scene/scene.h"
@@ -32,5 +31,3 @@ bool AuthorNode(const TextSource& source, const scene::SceneNode& settings,
                 const scene::NodeMotion& motion, AuthoredNode* authored, QString* error);
 
 } // namespace AnimText::author
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Writes a text into a scene file.
  */
-#ifndef ANIMTEXT_AUTHORSCENE_H
-#define ANIMTEXT_AUTHORSCENE_H
+#pragma once
 
 #include "author/markup.h"
 #include "author/scenestore.h"
@@ -56,5 +55,3 @@ struct AuthoredScene
 Storing AuthorScene(const AuthorRequest& request, AuthoredScene* authored, QString* error);
 
 } // namespace AnimText::author
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The names of data files beside scenes, and which of them are unused.
  */
-#ifndef ANIMTEXT_DATAFILES_H
-#define ANIMTEXT_DATAFILES_H
+#pragma once
 
 #include <QByteArray>
 #include <QDir>
@@ -41,5 +40,3 @@ struct Unneeded
 Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates);
 
 } // namespace AnimText::author
-
-#endif

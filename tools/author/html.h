@@ -2,8 +2,7 @@
  * @file
  * Reads HTML from Qt's text editors.
  */
-#ifndef ANIMTEXT_HTML_H
-#define ANIMTEXT_HTML_H
+#pragma once
 
 #include "layout/styledtext.h"
 
@@ -17,5 +16,3 @@ namespace AnimText::author {
 layout::StyledText FromHtml(const QString& html, const layout::StyleRun& base, QStringList* notes);
 
 } // namespace AnimText::author
-
-#endif

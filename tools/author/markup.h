@@ -2,8 +2,7 @@
  * @file
  * Reads text as it was typed, with or without style tags.
  */
-#ifndef ANIMTEXT_MARKUP_H
-#define ANIMTEXT_MARKUP_H
+#pragma once
 
 #include "author/author.h"
 
@@ -40,5 +39,3 @@ struct WrittenText
 bool ReadText(const WrittenText& written, TextSource* source, QStringList* notes, QString* error);
 
 } // namespace AnimText::author
-
-#endif

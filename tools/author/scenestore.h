@@ -2,8 +2,7 @@
  * @file
  * Changes a scene and its data files in one step.
  */
-#ifndef ANIMTEXT_SCENESTORE_H
-#define ANIMTEXT_SCENESTORE_H
+#pragma once
 
 #include "author/datafiles.h"
 #include "scene/scene.h"
@@ -62,5 +61,3 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
 bool TidyFolder(const QString& folder, bool removes, Unneeded* unneeded, QString* error);
 
 } // namespace AnimText::author
-
-#endif

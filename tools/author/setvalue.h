@@ -2,8 +2,7 @@
  * @file
  * Changes a setting of a text in a scene.
  */
-#ifndef ANIMTEXT_SETVALUE_H
-#define ANIMTEXT_SETVALUE_H
+#pragma once
 
 #include "scene/scene.h"
 
@@ -20,5 +19,3 @@ QString SetValue(scene::Scene* scene, const scene::Place& place, const QString& 
                  const QString& value);
 
 } // namespace AnimText::author
-
-#endif

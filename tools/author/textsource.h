@@ -2,8 +2,7 @@
  * @file
  * The source of a text's layout, kept in a file beside the scene.
  */
-#ifndef ANIMTEXT_TEXTSOURCE_H
-#define ANIMTEXT_TEXTSOURCE_H
+#pragma once
 
 #include "author/author.h"
 #include "author/scenestore.h"
@@ -37,5 +36,3 @@ QByteArray SourcesToJson(const TextSources& sources);
 TextSources SourcesFromJson(const QByteArray& json);
 
 } // namespace AnimText::author
-
-#endif

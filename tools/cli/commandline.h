@@ -2,8 +2,7 @@
  * @file
  * Reads the words of a command.
  */
-#ifndef ANIMTEXT_COMMANDLINE_H
-#define ANIMTEXT_COMMANDLINE_H
+#pragma once
 
 #include "cli/option.h"
 #include "cli/output.h"
@@ -63,5 +62,3 @@ private:
 };
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Help and shell completions, made from the tables of commands.
  */
-#ifndef ANIMTEXT_HELP_H
-#define ANIMTEXT_HELP_H
+#pragma once
 
 #include "cli/option.h"
 
@@ -23,5 +22,3 @@ QByteArray CompletionForZsh(const QVector<Command>& commands);
 QByteArray CompletionForFish(const QVector<Command>& commands);
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Requests to end the program: SIGINT (Ctrl+C), SIGTERM and SIGHUP (a closed terminal).
  */
-#ifndef ANIMTEXT_INTERRUPTION_H
-#define ANIMTEXT_INTERRUPTION_H
+#pragma once
 
 namespace AnimText::cli {
 
@@ -27,5 +26,3 @@ void StopIfInterrupted();
 int InterruptionStatus();
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Man pages, made from the tables of commands.
  */
-#ifndef ANIMTEXT_MANUAL_H
-#define ANIMTEXT_MANUAL_H
+#pragma once
 
 #include "cli/option.h"
 
@@ -23,5 +22,3 @@ QByteArray ManualPage(const Command& command);
 void WriteManual(const QVector<Command>& commands, const QString& folder);
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Messages of the plugin and of Qt on standard error.
  */
-#ifndef ANIMTEXT_MESSAGES_H
-#define ANIMTEXT_MESSAGES_H
+#pragma once
 
 #include <QString>
 
@@ -30,5 +29,3 @@ private:
 };
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Commands and their options as tables, which parsing, help, man pages and completions use.
  */
-#ifndef ANIMTEXT_OPTION_H
-#define ANIMTEXT_OPTION_H
+#pragma once
 
 #include <QStringList>
 #include <QVariant>
@@ -134,5 +133,3 @@ QString ShortestName(const Option& option);
 QString HelpWithDefault(const Option& option);
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Errors and standard output.
  */
-#ifndef ANIMTEXT_OUTPUT_H
-#define ANIMTEXT_OUTPUT_H
+#pragma once
 
 #include "files/failure.h"
 
@@ -27,5 +26,3 @@ void Print(const QByteArray& text);
 void FlushOutput();
 
 } // namespace AnimText::cli
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Reports progress.
  */
-#ifndef ANIMTEXT_PROGRESS_H
-#define ANIMTEXT_PROGRESS_H
+#pragma once
 
 #include <QElapsedTimer>
 #include <QString>
@@ -43,5 +42,3 @@ private:
 };
 
 } // namespace AnimText::cli
-
-#endif

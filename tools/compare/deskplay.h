@@ -2,8 +2,7 @@
  * @file
  * A scene played on the desktop for the length of a recording.
  */
-#ifndef ANIMTEXT_DESKPLAY_H
-#define ANIMTEXT_DESKPLAY_H
+#pragma once
 
 #include "compare/recording.h"
 #include "player/player.h"
@@ -32,5 +31,3 @@ bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
                 PicturePlace wanted, QImage* picture, QString* error);
 
 } // namespace AnimText::compare
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The first difference between two recordings.
  */
-#ifndef ANIMTEXT_DIFFERENCE_H
-#define ANIMTEXT_DIFFERENCE_H
+#pragma once
 
 #include "compare/recording.h"
 
@@ -25,5 +24,3 @@ struct Difference
 Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolerance);
 
 } // namespace AnimText::compare
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * What scenes are expected to show, tick by tick, and how much of it is equal.
  */
-#ifndef ANIMTEXT_EXPECTATION_H
-#define ANIMTEXT_EXPECTATION_H
+#pragma once
 
 #include "player/player.h"
 #include "scene/motion.h"
@@ -61,5 +60,3 @@ private:
 };
 
 } // namespace AnimText::compare
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Shows the difference between two pictures.
  */
-#ifndef ANIMTEXT_PICTURES_H
-#define ANIMTEXT_PICTURES_H
+#pragma once
 
 #include <QImage>
 #include <QString>
@@ -17,5 +16,3 @@ bool ReadPam(const QString& path, QImage* picture, QString* error);
 QImage DifferenceOf(const QImage& a, const QImage& b);
 
 } // namespace AnimText::compare
-
-#endif

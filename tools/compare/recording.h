@@ -2,8 +2,7 @@
  * @file
  * The calls of a plugin to the device, as librecord or `animtext trace --calls` wrote them.
  */
-#ifndef ANIMTEXT_RECORDING_H
-#define ANIMTEXT_RECORDING_H
+#pragma once
 
 #include <QByteArray>
 #include <QHash>
@@ -65,5 +64,3 @@ void DropStops(Recording* recording, Stops which);
 bool ReadRecording(const QString& path, Recording* recording, QString* error);
 
 } // namespace AnimText::compare
-
-#endif

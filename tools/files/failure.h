@@ -2,8 +2,7 @@
  * @file
  * How work ends, for whoever started the program.
  */
-#ifndef ANIMTEXT_FAILURE_H
-#define ANIMTEXT_FAILURE_H
+#pragma once
 
 #include <QString>
 
@@ -27,5 +26,3 @@ inline void FailUnless(bool succeeded, const QString& error, Status status = Fai
 }
 
 } // namespace AnimText::files
-
-#endif

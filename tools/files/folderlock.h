@@ -2,8 +2,7 @@
  * @file
  * A lock on a folder of scenes.
  */
-#ifndef ANIMTEXT_FOLDERLOCK_H
-#define ANIMTEXT_FOLDERLOCK_H
+#pragma once
 
 #include <QLockFile>
 #include <QString>
@@ -33,5 +32,3 @@ private:
 };
 
 } // namespace AnimText::files
-
-#endif

@@ -3,8 +3,7 @@
  * Files that appear complete or not at all. They are written under another name in the same folder.
  * If the writer is killed, the next writer in that folder removes the unfinished file.
  */
-#ifndef ANIMTEXT_WHOLEFILE_H
-#define ANIMTEXT_WHOLEFILE_H
+#pragma once
 
 #include <QByteArray>
 #include <QString>
@@ -78,5 +77,3 @@ bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
 bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error);
 
 } // namespace AnimText::files
-
-#endif

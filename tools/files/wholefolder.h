@@ -2,8 +2,7 @@
  * @file
  * A folder that appears complete or not at all.
  */
-#ifndef ANIMTEXT_WHOLEFOLDER_H
-#define ANIMTEXT_WHOLEFOLDER_H
+#pragma once
 
 #include <QByteArray>
 #include <QDir>
@@ -48,5 +47,3 @@ private:
 };
 
 } // namespace AnimText::files
-
-#endif

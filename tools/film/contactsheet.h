@@ -2,8 +2,7 @@
  * @file
  * A picture of many frames: a titled row for each scene.
  */
-#ifndef ANIMTEXT_CONTACTSHEET_H
-#define ANIMTEXT_CONTACTSHEET_H
+#pragma once
 
 #include <QImage>
 #include <QString>
@@ -29,5 +28,3 @@ struct SheetRow
 QImage DrawContactSheet(const QVector<SheetRow>& rows);
 
 } // namespace AnimText::film
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A scene's play as a row of pictures, one for each tick.
  */
-#ifndef ANIMTEXT_FILM_H
-#define ANIMTEXT_FILM_H
+#pragma once
 
 #include "timing/playlength.h"
 
@@ -80,5 +79,3 @@ private:
 };
 
 } // namespace AnimText::film
-
-#endif

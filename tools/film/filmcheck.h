@@ -2,8 +2,7 @@
  * @file
  * Looks at a film that an encoder has written.
  */
-#ifndef ANIMTEXT_FILMCHECK_H
-#define ANIMTEXT_FILMCHECK_H
+#pragma once
 
 #include "film/filmfile.h"
 
@@ -18,5 +17,3 @@ void CheckFilm(const QString& film, const QString& written, const QString& kind,
                const FilmFormat& format, const GoOn& goOn);
 
 } // namespace AnimText::film
-
-#endif

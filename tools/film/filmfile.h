@@ -2,8 +2,7 @@
  * @file
  * The output of a film: a file or a folder that appears whole or not at all.
  */
-#ifndef ANIMTEXT_FILMFILE_H
-#define ANIMTEXT_FILMFILE_H
+#pragma once
 
 #include "film/kinds.h"
 
@@ -66,5 +65,3 @@ FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmF
                           const PlayPictures& play, const GoOn& goOn, int patience = 5 * 60 * 1000);
 
 } // namespace AnimText::film
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A run of ffmpeg or ffprobe.
  */
-#ifndef ANIMTEXT_FILMPROGRAM_H
-#define ANIMTEXT_FILMPROGRAM_H
+#pragma once
 
 #include "film/filmfile.h"
 
@@ -52,5 +51,3 @@ private:
 };
 
 } // namespace AnimText::film
-
-#endif

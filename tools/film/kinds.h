@@ -2,8 +2,7 @@
  * @file
  * The kinds of film: what each can do and how ffmpeg encodes it.
  */
-#ifndef ANIMTEXT_KINDS_H
-#define ANIMTEXT_KINDS_H
+#pragma once
 
 #include <QList>
 #include <QString>
@@ -45,5 +44,3 @@ const QList<FilmKind>& FilmKinds();
 const FilmKind* FilmKindOf(const QString& path);
 
 } // namespace AnimText::film
-
-#endif

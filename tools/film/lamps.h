@@ -2,8 +2,7 @@
  * @file
  * Pictures as the LEDs of a sign show them.
  */
-#ifndef ANIMTEXT_LAMPS_H
-#define ANIMTEXT_LAMPS_H
+#pragma once
 
 #include <QImage>
 
@@ -19,5 +18,3 @@ constexpr int smallestLamp = 4; ///< pixels from LED to LED; closer ones are not
 QImage AsLamps(const QImage& picture, int size, double pitch);
 
 } // namespace AnimText::film
-
-#endif

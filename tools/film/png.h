@@ -2,8 +2,7 @@
  * @file
  * Pictures as PNGs.
  */
-#ifndef ANIMTEXT_PNG_H
-#define ANIMTEXT_PNG_H
+#pragma once
 
 #include <QByteArray>
 #include <QImage>
@@ -24,5 +23,3 @@ bool IsOurPng(const QString& path);
 void WritePng(const QString& path, const QByteArray& png);
 
 } // namespace AnimText::film
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A scene's play, written as a film.
  */
-#ifndef ANIMTEXT_WRITEFILM_H
-#define ANIMTEXT_WRITEFILM_H
+#pragma once
 
 #include "film/film.h"
 
@@ -31,5 +30,3 @@ WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bo
                       const FilmWatch& watch);
 
 } // namespace AnimText::film
-
-#endif

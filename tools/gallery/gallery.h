@@ -2,8 +2,7 @@
  * @file
  * A folder with a web page that shows every motion.
  */
-#ifndef ANIMTEXT_GALLERY_H
-#define ANIMTEXT_GALLERY_H
+#pragma once
 
 #include "author/author.h"
 #include "player/player.h"
@@ -37,5 +36,3 @@ bool WriteGallery(const GalleryOptions& options, player::Player* player, const G
                   qint64* bytes, QString* error);
 
 } // namespace AnimText::gallery
-
-#endif

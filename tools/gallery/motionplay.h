@@ -2,8 +2,7 @@
  * @file
  * One play of a motion, as the gallery shows it.
  */
-#ifndef ANIMTEXT_MOTIONPLAY_H
-#define ANIMTEXT_MOTIONPLAY_H
+#pragma once
 
 #include "gallery/picturesheets.h"
 #include "player/player.h"
@@ -40,5 +39,3 @@ bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
                 QString* error);
 
 } // namespace AnimText::gallery
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * What the gallery's page shows without its script: a card for each motion, and the table of times.
  */
-#ifndef ANIMTEXT_PAGE_H
-#define ANIMTEXT_PAGE_H
+#pragma once
 
 #include "gallery/motionplay.h"
 #include "scene/catalog.h"
@@ -36,5 +35,3 @@ QByteArray FillPage(const QByteArray& page, const QString& text, const QSize& si
                     const QVector<GalleryEntry>& entries);
 
 } // namespace AnimText::gallery
-
-#endif

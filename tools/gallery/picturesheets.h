@@ -2,8 +2,7 @@
  * @file
  * Packs many small pictures of one size into a few large ones, for a web page.
  */
-#ifndef ANIMTEXT_PICTURESHEETS_H
-#define ANIMTEXT_PICTURESHEETS_H
+#pragma once
 
 #include <QByteArray>
 #include <QHash>
@@ -36,5 +35,3 @@ private:
 };
 
 } // namespace AnimText::gallery
-
-#endif

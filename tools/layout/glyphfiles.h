@@ -2,8 +2,7 @@
  * @file
  * The two data files of a node.
  */
-#ifndef ANIMTEXT_GLYPHFILES_H
-#define ANIMTEXT_GLYPHFILES_H
+#pragma once
 
 #include <QByteArray>
 #include <QPainterPath>
@@ -24,5 +23,3 @@ int OutlinesThatFit(const QVector<QPainterPath>& outlines, qint64 bytes);
 QByteArray DescentFile(const QVector<int>& descents);
 
 } // namespace AnimText::layout
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Lays out a text for the sign.
  */
-#ifndef ANIMTEXT_LAYOUT_H
-#define ANIMTEXT_LAYOUT_H
+#pragma once
 
 #include "layout/setting.h"
 #include "layout/styledtext.h"
@@ -53,5 +52,3 @@ bool LayOut(const StyledText& text, const Setting& setting, const scene::NodeMot
             const QSize& area, LaidOut* laid, QString* error);
 
 } // namespace AnimText::layout
-
-#endif

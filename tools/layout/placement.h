@@ -2,8 +2,7 @@
  * @file
  * Places a line on the sign: outlines and sizes by UTF-16 unit.
  */
-#ifndef ANIMTEXT_PLACEMENT_H
-#define ANIMTEXT_PLACEMENT_H
+#pragma once
 
 #include "layout/setting.h"
 #include "layout/shaping.h"
@@ -48,5 +47,3 @@ PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting&
                      const scene::NodeMotion& motion, const QSize& area);
 
 } // namespace AnimText::layout
-
-#endif

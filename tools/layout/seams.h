@@ -3,8 +3,7 @@
  * Removes overlaps of outlines. The engine fills all outlines of a page as one path by the odd-even
  * rule, so overlaps, as between joined letters, would be holes.
  */
-#ifndef ANIMTEXT_SEAMS_H
-#define ANIMTEXT_SEAMS_H
+#pragma once
 
 #include <QPainterPath>
 
@@ -17,5 +16,3 @@ QPainterPath WithoutOverlaps(const QPainterPath& path);
 QPainterPath WithoutSharedArea(const QPainterPath& path, const QPainterPath& neighbor);
 
 } // namespace AnimText::layout
-
-#endif

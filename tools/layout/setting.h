@@ -2,8 +2,7 @@
  * @file
  * What an author chooses about a layout.
  */
-#ifndef ANIMTEXT_SETTING_H
-#define ANIMTEXT_SETTING_H
+#pragma once
 
 namespace AnimText::layout {
 
@@ -42,5 +41,3 @@ inline bool operator==(const Setting& a, const Setting& b)
 }
 
 } // namespace AnimText::layout
-
-#endif

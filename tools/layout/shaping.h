@@ -2,8 +2,7 @@
  * @file
  * Lays out a text as one line with the outlines of its clusters.
  */
-#ifndef ANIMTEXT_SHAPING_H
-#define ANIMTEXT_SHAPING_H
+#pragma once
 
 #include "layout/styledtext.h"
 
@@ -62,5 +61,3 @@ struct LineSize
 LineSize MeasureLine(const StyledText& text);
 
 } // namespace AnimText::layout
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A text whose characters have styles.
  */
-#ifndef ANIMTEXT_STYLEDTEXT_H
-#define ANIMTEXT_STYLEDTEXT_H
+#pragma once
 
 #include <QColor>
 #include <QFont>
@@ -48,5 +47,3 @@ bool operator==(const StyledText& a, const StyledText& b);
 bool ToOneLine(StyledText* text, QStringList* notes, QString* error);
 
 } // namespace AnimText::layout
-
-#endif

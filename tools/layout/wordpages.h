@@ -2,8 +2,7 @@
  * @file
  * Divides a line into pages between words.
  */
-#ifndef ANIMTEXT_WORDPAGES_H
-#define ANIMTEXT_WORDPAGES_H
+#pragma once
 
 #include <QVector>
 
@@ -34,5 +33,3 @@ struct PageCut
 QVector<PageCut> CutPages(const QVector<LinePiece>& line, int width, bool fromEnd);
 
 } // namespace AnimText::layout
-
-#endif

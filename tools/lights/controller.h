@@ -2,8 +2,7 @@
  * @file
  * An LED controller on the network: where it is and how its LEDs are wired.
  */
-#ifndef ANIMTEXT_CONTROLLER_H
-#define ANIMTEXT_CONTROLLER_H
+#pragma once
 
 #include <QRect>
 #include <QString>
@@ -75,5 +74,3 @@ qint64 ChannelOf(const Controller& controller, qint64 led);
 int LastUniverse(const Controller& controller);
 
 } // namespace AnimText::lights
-
-#endif

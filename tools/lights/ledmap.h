@@ -2,8 +2,7 @@
  * @file
  * Converts a picture to LED channels.
  */
-#ifndef ANIMTEXT_LEDMAP_H
-#define ANIMTEXT_LEDMAP_H
+#pragma once
 
 #include "lights/controller.h"
 
@@ -35,5 +34,3 @@ private:
 };
 
 } // namespace AnimText::lights
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Shows pictures on LED controllers over the network.
  */
-#ifndef ANIMTEXT_LIGHTS_H
-#define ANIMTEXT_LIGHTS_H
+#pragma once
 
 #include "lights/ledmap.h"
 #include "lights/packets.h"
@@ -103,5 +102,3 @@ private:
 };
 
 } // namespace AnimText::lights
-
-#endif

@@ -3,8 +3,7 @@
  * The packets of the three protocols. DDP: 3waylabs' Distributed Display Protocol. E1.31: ANSI
  * E1.31-2018, "streaming ACN". Art-Net: Artistic License's Art-Net 4.
  */
-#ifndef ANIMTEXT_PACKETS_H
-#define ANIMTEXT_PACKETS_H
+#pragma once
 
 #include "lights/controller.h"
 
@@ -44,5 +43,3 @@ private:
 };
 
 } // namespace AnimText::lights
-
-#endif

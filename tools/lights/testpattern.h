@@ -2,8 +2,7 @@
  * @file
  * Test patterns for setting up LEDs.
  */
-#ifndef ANIMTEXT_TESTPATTERN_H
-#define ANIMTEXT_TESTPATTERN_H
+#pragma once
 
 #include <QImage>
 #include <QStringList>
@@ -22,5 +21,3 @@ QStringList TestPatterns();
 QImage TestPattern(const QString& name, QSize size, int tick);
 
 } // namespace AnimText::lights
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Plays a scene in real time, with the event loop's own timers.
  */
-#ifndef ANIMTEXT_LIVEPLAYER_H
-#define ANIMTEXT_LIVEPLAYER_H
+#pragma once
 
 #include "player/schedule.h"
 #include "player/stage.h"
@@ -114,5 +113,3 @@ private:
 };
 
 } // namespace AnimText::live
-
-#endif

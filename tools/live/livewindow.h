@@ -2,8 +2,7 @@
  * @file
  * The window in which a scene plays: Space pauses, F fills the screen, Esc ends.
  */
-#ifndef ANIMTEXT_LIVEWINDOW_H
-#define ANIMTEXT_LIVEWINDOW_H
+#pragma once
 
 #include "live/liveplayer.h"
 #include "live/pictureview.h"
@@ -38,5 +37,3 @@ private:
 };
 
 } // namespace AnimText::live
-
-#endif

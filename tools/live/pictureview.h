@@ -2,8 +2,7 @@
  * @file
  * A widget that shows one picture exactly, as square pixels or as a sign's round LEDs.
  */
-#ifndef ANIMTEXT_PICTUREVIEW_H
-#define ANIMTEXT_PICTUREVIEW_H
+#pragma once
 
 #include <QColor>
 #include <QImage>
@@ -89,5 +88,3 @@ private:
 };
 
 } // namespace AnimText::live
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Notices when a scene changes on disk.
  */
-#ifndef ANIMTEXT_SCENEWATCHER_H
-#define ANIMTEXT_SCENEWATCHER_H
+#pragma once
 
 #include "scene/scene.h"
 
@@ -47,5 +46,3 @@ private:
 };
 
 } // namespace AnimText::live
-
-#endif

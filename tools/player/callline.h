@@ -2,8 +2,7 @@
  * @file
  * A call of the device as a line of JSON.
  */
-#ifndef ANIMTEXT_CALLLINE_H
-#define ANIMTEXT_CALLLINE_H
+#pragma once
 
 #include <display.h>
 
@@ -23,5 +22,3 @@ QByteArray CallLine(const Torv::CallRecord& call);
 QByteArray Sha1Of(const QImage& picture);
 
 } // namespace AnimText::player
-
-#endif

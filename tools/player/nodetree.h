@@ -2,8 +2,7 @@
  * @file
  * The node tree that a host would build: program, page, area and the nodes that play.
  */
-#ifndef ANIMTEXT_NODETREE_H
-#define ANIMTEXT_NODETREE_H
+#pragma once
 
 #include "scene/scene.h"
 
@@ -35,5 +34,3 @@ bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree*
                    QString* error);
 
 } // namespace AnimText::player
-
-#endif

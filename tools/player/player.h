@@ -2,8 +2,7 @@
  * @file
  * A scene played tick by tick on virtual time.
  */
-#ifndef ANIMTEXT_PLAYER_H
-#define ANIMTEXT_PLAYER_H
+#pragma once
 
 #include "player/schedule.h"
 #include "player/stage.h"
@@ -102,5 +101,3 @@ private:
 };
 
 } // namespace AnimText::player
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Loads the plugin as an engine would: from its file, through Qt's plugin loader.
  */
-#ifndef ANIMTEXT_PLUGIN_H
-#define ANIMTEXT_PLUGIN_H
+#pragma once
 
 #include <QString>
 
@@ -30,5 +29,3 @@ QString PluginPath(const QString& given = QString());
 Lw::INodePlugin* LoadPlugin(const QString& path, QString* error);
 
 } // namespace AnimText::player
-
-#endif

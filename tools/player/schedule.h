@@ -2,8 +2,7 @@
  * @file
  * When the host plays what: by planned times, not by actual times.
  */
-#ifndef ANIMTEXT_SCHEDULE_H
-#define ANIMTEXT_SCHEDULE_H
+#pragma once
 
 #include "scene/scene.h"
 
@@ -54,5 +53,3 @@ private:
 };
 
 } // namespace AnimText::player
-
-#endif

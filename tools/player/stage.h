@@ -2,8 +2,7 @@
  * @file
  * A scene on an emulated display: its nodes and the renderers that play them.
  */
-#ifndef ANIMTEXT_STAGE_H
-#define ANIMTEXT_STAGE_H
+#pragma once
 
 #include "player/nodetree.h"
 #include "scene/motion.h"
@@ -89,5 +88,3 @@ private:
 };
 
 } // namespace AnimText::player
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * An event dispatcher whose time is a number: an hour of timers takes as long as their slots.
  */
-#ifndef ANIMTEXT_VIRTUALDISPATCHER_H
-#define ANIMTEXT_VIRTUALDISPATCHER_H
+#pragma once
 
 #include <QAbstractEventDispatcher>
 #include <QList>
@@ -90,5 +89,3 @@ private:
 };
 
 } // namespace AnimText::player
-
-#endif

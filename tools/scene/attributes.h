@@ -3,8 +3,7 @@
  * What a scene file may say of a text: the one table that reading, validating, forms, documents and
  * the JSON Schema come from.
  */
-#ifndef ANIMTEXT_ATTRIBUTES_H
-#define ANIMTEXT_ATTRIBUTES_H
+#pragma once
 
 #include <QList>
 #include <QString>
@@ -109,5 +108,3 @@ bool IsUsed(const Attribute& attribute, const SceneNode& node, QString* why = nu
 QString Translated(const char* words);
 
 } // namespace AnimText::scene
-
-#endif

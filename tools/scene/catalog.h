@@ -2,8 +2,7 @@
  * @file
  * The entrance effects and scrolls by number and name, and what the tools must know of each.
  */
-#ifndef ANIMTEXT_CATALOG_H
-#define ANIMTEXT_CATALOG_H
+#pragma once
 
 #include <QFlags>
 #include <QList>
@@ -64,5 +63,3 @@ const Motion* FindScroll(const QString& name);
 bool Matches(const Motion& motion, const QString& search);
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Colors as people write them.
  */
-#ifndef ANIMTEXT_COLOR_H
-#define ANIMTEXT_COLOR_H
+#pragma once
 
 #include <QColor>
 #include <QString>
@@ -17,5 +16,3 @@ namespace AnimText::scene {
 bool ReadColor(const QString& text, QColor* color, QString* hint);
 
 } // namespace AnimText::scene
-
-#endif

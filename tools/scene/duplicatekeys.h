@@ -2,8 +2,7 @@
  * @file
  * Finds keys that occur twice in one JSON object, which Qt's reader accepts.
  */
-#ifndef ANIMTEXT_DUPLICATEKEYS_H
-#define ANIMTEXT_DUPLICATEKEYS_H
+#pragma once
 
 #include <QByteArray>
 #include <QStringList>
@@ -17,5 +16,3 @@ namespace AnimText::scene {
 QStringList DuplicateKeys(const QByteArray& json);
 
 } // namespace AnimText::scene
-
-#endif

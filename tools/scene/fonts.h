@@ -2,8 +2,7 @@
  * @file
  * The installed fonts.
  */
-#ifndef ANIMTEXT_FONTS_H
-#define ANIMTEXT_FONTS_H
+#pragma once
 
 #include <QString>
 #include <QStringList>
@@ -25,5 +24,3 @@ constexpr const char usualFamily[] = "DejaVu Sans";
 bool FindFamily(const QString& name, QString* family, QString* error);
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * JSON whose members keep the order in which they are added; QJsonObject sorts them by name.
  */
-#ifndef ANIMTEXT_JSON_H
-#define ANIMTEXT_JSON_H
+#pragma once
 
 #include <QByteArray>
 #include <QString>
@@ -65,5 +64,3 @@ private:
 };
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Typed values of a JSON file, with everything that is wrong about them.
  */
-#ifndef ANIMTEXT_JSONVALUES_H
-#define ANIMTEXT_JSONVALUES_H
+#pragma once
 
 #include "scene/scenefault.h"
 
@@ -76,5 +75,3 @@ private:
 };
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * How the text of a node moves.
  */
-#ifndef ANIMTEXT_MOTION_H
-#define ANIMTEXT_MOTION_H
+#pragma once
 
 #include "scene/catalog.h"
 #include "scene/scene.h"
@@ -40,5 +39,3 @@ NodeMotion MotionOf(const SceneNode& node);
 void SetMotion(SceneNode* node, const NodeMotion& motion);
 
 } // namespace AnimText::scene
-
-#endif

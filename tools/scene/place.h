@@ -2,8 +2,7 @@
  * @file
  * Places in a scene file and how they are written: "$.pages[0].areas[0].nodes[0].hold".
  */
-#ifndef ANIMTEXT_PLACE_H
-#define ANIMTEXT_PLACE_H
+#pragma once
 
 #include <QString>
 
@@ -30,5 +29,3 @@ QString Member(const QString& path, const QString& key);
 QString Item(const QString& path, int index);
 
 } // namespace AnimText::scene
-
-#endif

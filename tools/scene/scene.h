@@ -2,8 +2,7 @@
  * @file
  * The scene file: what a display shows, as one JSON file beside its data files.
  */
-#ifndef ANIMTEXT_SCENE_H
-#define ANIMTEXT_SCENE_H
+#pragma once
 
 #include "scene/place.h"
 #include "scene/scenefault.h"
@@ -94,5 +93,3 @@ bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QS
 QByteArray SceneToJson(const Scene& scene);
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * What is wrong in a scene file, and where.
  */
-#ifndef ANIMTEXT_SCENEFAULT_H
-#define ANIMTEXT_SCENEFAULT_H
+#pragma once
 
 #include <QString>
 
@@ -25,5 +24,3 @@ struct SceneFault
 QString AndMore(int others);
 
 } // namespace AnimText::scene
-
-#endif

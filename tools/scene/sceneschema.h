@@ -2,8 +2,7 @@
  * @file
  * The schema and the tables of scene files, both made from Attributes().
  */
-#ifndef ANIMTEXT_SCENESCHEMA_H
-#define ANIMTEXT_SCENESCHEMA_H
+#pragma once
 
 #include <QByteArray>
 
@@ -19,5 +18,3 @@ QByteArray SceneSchema();
 QByteArray SceneTables();
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * "Did you mean": the known word closest to a mistyped one.
  */
-#ifndef ANIMTEXT_SUGGEST_H
-#define ANIMTEXT_SUGGEST_H
+#pragma once
 
 #include <QString>
 #include <QStringList>
@@ -20,5 +19,3 @@ QString DidYouMean(const QString& word, const QStringList& known);
 QString DidYouMeanOneOf(const QString& word, const QStringList& known);
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Times as people write them.
  */
-#ifndef ANIMTEXT_TIMES_H
-#define ANIMTEXT_TIMES_H
+#pragma once
 
 #include <QString>
 
@@ -21,5 +20,3 @@ bool ReadTime(const QString& text, double* milliseconds);
 bool ToHoldUnits(double milliseconds, int* units);
 
 } // namespace AnimText::scene
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * How long a scene plays, measured by playing it.
  */
-#ifndef ANIMTEXT_PLAYLENGTH_H
-#define ANIMTEXT_PLAYLENGTH_H
+#pragma once
 
 #include "player/player.h"
 
@@ -129,5 +128,3 @@ private:
 qint64 ScrollPass(const player::Stage& stage, int node);
 
 } // namespace AnimText::timing
-
-#endif

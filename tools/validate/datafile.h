@@ -2,8 +2,7 @@
  * @file
  * Checks the data files of an animated text with the sign's own reader.
  */
-#ifndef ANIMTEXT_DATAFILE_H
-#define ANIMTEXT_DATAFILE_H
+#pragma once
 
 #include <QList>
 #include <QRectF>
@@ -37,5 +36,3 @@ DataFile LookIntoPathFile(const QString& path);
 DataFile LookIntoDescentFile(const QString& path);
 
 } // namespace AnimText::validate
-
-#endif

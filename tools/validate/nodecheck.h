@@ -2,8 +2,7 @@
  * @file
  * The checks on one node of a scene.
  */
-#ifndef ANIMTEXT_NODECHECK_H
-#define ANIMTEXT_NODECHECK_H
+#pragma once
 
 #include "validate/validate.h"
 
@@ -13,5 +12,3 @@ namespace AnimText::validate {
 QList<Finding> CheckNode(const scene::Scene& scene, const scene::Place& place);
 
 } // namespace AnimText::validate
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The kinds of mistakes that validate finds.
  */
-#ifndef ANIMTEXT_RULES_H
-#define ANIMTEXT_RULES_H
+#pragma once
 
 namespace AnimText::validate {
 
@@ -57,5 +56,3 @@ struct Rule
 const Rule& RuleFor(Mistake mistake);
 
 } // namespace AnimText::validate
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Finds mistakes in a scene that plays without an error but looks wrong on the sign.
  */
-#ifndef ANIMTEXT_VALIDATE_H
-#define ANIMTEXT_VALIDATE_H
+#pragma once
 
 #include "scene/scene.h"
 #include "validate/rules.h"
@@ -56,5 +55,3 @@ QByteArray ReportsAsJson(const QList<Report>& reports);
 int Count(const QList<Finding>& findings, Severity severity);
 
 } // namespace AnimText::validate
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The options of animtext author.
  */
-#ifndef ANIMTEXT_AUTHOROPTIONS_H
-#define ANIMTEXT_AUTHOROPTIONS_H
+#pragma once
 
 #include "author/authorscene.h"
 #include "cli/commandline.h"
@@ -21,5 +20,3 @@ scene::SceneNode ReadLook(const cli::CommandLine& line);
 author::AuthorRequest ReadRequest(const cli::CommandLine& line);
 
 } // namespace AnimText::animtext::shared
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Many scenes rendered side by side, each by a process of its own.
  */
-#ifndef ANIMTEXT_BATCH_H
-#define ANIMTEXT_BATCH_H
+#pragma once
 
 #include "cli/commandline.h"
 #include "cli/progress.h"
@@ -19,5 +18,3 @@ void RenderAll(const cli::CommandLine& line, const QString& ending, const QStrin
                cli::Progress::Form form);
 
 } // namespace AnimText::animtext::shared
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The scenes of a folder against what was recorded of them.
  */
-#ifndef ANIMTEXT_COMPAREFOLDER_H
-#define ANIMTEXT_COMPAREFOLDER_H
+#pragma once
 
 #include "cli/commandline.h"
 
@@ -16,5 +15,3 @@ QVector<cli::Option> FolderOptions();
 int CompareFolder(const cli::CommandLine& line, const QString& folder);
 
 } // namespace AnimText::animtext::shared
-
-#endif

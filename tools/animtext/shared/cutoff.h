@@ -2,8 +2,7 @@
  * @file
  * Warns of texts that the host ends too early.
  */
-#ifndef ANIMTEXT_CUTOFF_H
-#define ANIMTEXT_CUTOFF_H
+#pragma once
 
 #include "scene/scene.h"
 
@@ -18,5 +17,3 @@ namespace AnimText::animtext::shared {
 void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node);
 
 } // namespace AnimText::animtext::shared
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Options of animtext play for LED controllers.
  */
-#ifndef ANIMTEXT_LIGHTOPTIONS_H
-#define ANIMTEXT_LIGHTOPTIONS_H
+#pragma once
 
 #include "cli/commandline.h"
 
@@ -28,5 +27,3 @@ void AddLights(const cli::CommandLine& line, QSize display, lights::Lights* ligh
 int PlayTestPattern(const cli::CommandLine& line);
 
 } // namespace AnimText::animtext::shared
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Options and steps shared by the commands that play scenes.
  */
-#ifndef ANIMTEXT_PLAYOPTIONS_H
-#define ANIMTEXT_PLAYOPTIONS_H
+#pragma once
 
 #include "cli/commandline.h"
 #include "player/player.h"
@@ -46,5 +45,3 @@ private:
 };
 
 } // namespace AnimText::animtext::shared
-
-#endif

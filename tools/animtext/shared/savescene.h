@@ -2,8 +2,7 @@
  * @file
  * Changes scene files.
  */
-#ifndef ANIMTEXT_SAVESCENE_H
-#define ANIMTEXT_SAVESCENE_H
+#pragma once
 
 #include "author/scenestore.h"
 #include "cli/commandline.h"
@@ -28,5 +27,3 @@ QPair<scene::Scene, scene::Place> ChangeText(const cli::CommandLine& line,
                                              const TextChange& change);
 
 } // namespace AnimText::animtext::shared
-
-#endif

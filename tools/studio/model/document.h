@@ -2,8 +2,7 @@
  * @file
  * The open sign with its undo history, its file and its layouts.
  */
-#ifndef ANIMTEXT_DOCUMENT_H
-#define ANIMTEXT_DOCUMENT_H
+#pragma once
 
 #include "studio/model/layoutqueue.h"
 #include "studio/model/sign.h"
@@ -102,5 +101,3 @@ private:
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error);
 
 } // namespace AnimText::studio::model
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Lays out texts in a thread, so that long ones do not block the window.
  */
-#ifndef ANIMTEXT_LAYOUTQUEUE_H
-#define ANIMTEXT_LAYOUTQUEUE_H
+#pragma once
 
 #include "studio/model/sign.h"
 
@@ -46,5 +45,3 @@ private:
 };
 
 } // namespace AnimText::studio::model
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Keeps a copy of unsaved work, so that a studio that is killed loses nothing.
  */
-#ifndef ANIMTEXT_RECOVERY_H
-#define ANIMTEXT_RECOVERY_H
+#pragma once
 
 #include "studio/model/document.h"
 
@@ -64,5 +63,3 @@ private:
 };
 
 } // namespace AnimText::studio::model
-
-#endif

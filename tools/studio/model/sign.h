@@ -2,8 +2,7 @@
  * @file
  * The studio's model: the texts of a sign with their styles and settings.
  */
-#ifndef ANIMTEXT_SIGN_H
-#define ANIMTEXT_SIGN_H
+#pragma once
 
 #include "author/textsource.h"
 #include "scene/scene.h"
@@ -118,5 +117,3 @@ author::TextSources SourcesOf(const Sign& sign, const scene::Scene& scene);
 } // namespace AnimText::studio::model
 
 Q_DECLARE_METATYPE(std::shared_ptr<const AnimText::studio::model::Layout>)
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A film of the sign, made by "animtext render".
  */
-#ifndef ANIMTEXT_EXPORTING_H
-#define ANIMTEXT_EXPORTING_H
+#pragma once
 
 #include <QObject>
 #include <QProcess>
@@ -62,5 +61,3 @@ private:
 };
 
 } // namespace AnimText::studio::worker
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The messages between the studio and its worker processes.
  */
-#ifndef ANIMTEXT_MESSAGES_STUDIO_H
-#define ANIMTEXT_MESSAGES_STUDIO_H
+#pragma once
 
 #include "studio/worker/timing.h"
 
@@ -140,5 +139,3 @@ bool Take(QByteArray* bytes, T* message)
 }
 
 } // namespace AnimText::studio::worker
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A cache of pictures by tick, with a memory limit.
  */
-#ifndef ANIMTEXT_PICTURECACHE_H
-#define ANIMTEXT_PICTURECACHE_H
+#pragma once
 
 #include <QHash>
 #include <QImage>
@@ -47,5 +46,3 @@ private:
 };
 
 } // namespace AnimText::studio::worker
-
-#endif

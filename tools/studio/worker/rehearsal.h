@@ -2,8 +2,7 @@
  * @file
  * Plays the document's sign in workers and provides the picture of any tick.
  */
-#ifndef ANIMTEXT_REHEARSAL_H
-#define ANIMTEXT_REHEARSAL_H
+#pragma once
 
 #include "studio/model/sign.h"
 #include "studio/worker/picturecache.h"
@@ -81,5 +80,3 @@ private:
 };
 
 } // namespace AnimText::studio::worker
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A temporary folder with the data files of the scenes that workers play.
  */
-#ifndef ANIMTEXT_SCENEFOLDER_H
-#define ANIMTEXT_SCENEFOLDER_H
+#pragma once
 
 #include "files/wholefile.h"
 #include "studio/model/sign.h"
@@ -44,5 +43,3 @@ private:
 };
 
 } // namespace AnimText::studio::worker
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * When each page of a sign is shown, and the planned and actual end of each text.
  */
-#ifndef ANIMTEXT_TIMING_H
-#define ANIMTEXT_TIMING_H
+#pragma once
 
 #include "timing/playlength.h"
 
@@ -44,5 +43,3 @@ bool MeasureTiming(player::Player* player, const scene::Scene& scene, bool sched
                    const timing::Watch& watch, Timing* timing, QString* error);
 
 } // namespace AnimText::studio::worker
-
-#endif

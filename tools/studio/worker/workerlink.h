@@ -2,8 +2,7 @@
  * @file
  * The studio's end of a worker process.
  */
-#ifndef ANIMTEXT_WORKERLINK_H
-#define ANIMTEXT_WORKERLINK_H
+#pragma once
 
 #include "studio/worker/messages.h"
 
@@ -66,5 +65,3 @@ private:
 };
 
 } // namespace AnimText::studio::worker
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The worker process.
  */
-#ifndef ANIMTEXT_WORKERMAIN_H
-#define ANIMTEXT_WORKERMAIN_H
+#pragma once
 
 namespace AnimText::studio::worker {
 
@@ -11,5 +10,3 @@ namespace AnimText::studio::worker {
 int WorkerMain(int argc, char** argv);
 
 } // namespace AnimText::studio::worker
-
-#endif

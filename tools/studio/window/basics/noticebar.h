@@ -2,8 +2,7 @@
  * @file
  * A line above the display that reports an event and offers actions.
  */
-#ifndef ANIMTEXT_NOTICEBAR_H
-#define ANIMTEXT_NOTICEBAR_H
+#pragma once
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -53,5 +52,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::basics
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * A number that can be typed, stepped with the wheel, and dragged sideways.
  */
-#ifndef ANIMTEXT_NUMBERFIELD_H
-#define ANIMTEXT_NUMBERFIELD_H
+#pragma once
 
 #include <QDoubleSpinBox>
 
@@ -50,5 +49,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::basics
-
-#endif

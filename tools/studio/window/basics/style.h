@@ -2,8 +2,7 @@
  * @file
  * The window's common style: colors from the palette, fonts, icons, times.
  */
-#ifndef ANIMTEXT_STYLE_H
-#define ANIMTEXT_STYLE_H
+#pragma once
 
 #include <QColor>
 #include <QComboBox>
@@ -43,5 +42,3 @@ QString SecondsText(qint64 milliseconds);
 QIcon Icon(const QString& name);
 
 } // namespace AnimText::studio::window::basics
-
-#endif

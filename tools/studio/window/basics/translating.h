@@ -2,8 +2,7 @@
  * @file
  * Translations of the studio.
  */
-#ifndef ANIMTEXT_TRANSLATING_H
-#define ANIMTEXT_TRANSLATING_H
+#pragma once
 
 #include <QLocale>
 
@@ -16,5 +15,3 @@ namespace AnimText::studio::window::basics {
 void Translate(const QLocale& locale);
 
 } // namespace AnimText::studio::window::basics
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The size of the display and how its layers are blended.
  */
-#ifndef ANIMTEXT_DISPLAYFORM_H
-#define ANIMTEXT_DISPLAYFORM_H
+#pragma once
 
 #include "studio/window/basics/numberfield.h"
 
@@ -40,5 +39,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::display
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The sign's display, on which the areas of its texts can be dragged.
  */
-#ifndef ANIMTEXT_DISPLAYVIEW_H
-#define ANIMTEXT_DISPLAYVIEW_H
+#pragma once
 
 #include "live/pictureview.h"
 
@@ -99,5 +98,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::display
-
-#endif

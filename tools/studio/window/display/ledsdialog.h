@@ -2,8 +2,7 @@
  * @file
  * Sends the studio's picture to LEDs.
  */
-#ifndef ANIMTEXT_LEDSDIALOG_H
-#define ANIMTEXT_LEDSDIALOG_H
+#pragma once
 
 #include "lights/lights.h"
 
@@ -84,5 +83,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::display
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Lists the problems that validation has found, with buttons to fix them.
  */
-#ifndef ANIMTEXT_FINDINGSLIST_H
-#define ANIMTEXT_FINDINGSLIST_H
+#pragma once
 
 #include "studio/window/form/attributeform.h"
 
@@ -60,5 +59,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::findings
-
-#endif

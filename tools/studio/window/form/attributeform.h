@@ -2,8 +2,7 @@
  * @file
  * A form for settings of a text.
  */
-#ifndef ANIMTEXT_ATTRIBUTEFORM_H
-#define ANIMTEXT_ATTRIBUTEFORM_H
+#pragma once
 
 #include "scene/attributes.h"
 #include "studio/model/sign.h"
@@ -96,5 +95,3 @@ private:
 QString KeyOf(const validate::Finding& finding);
 
 } // namespace AnimText::studio::window::form
-
-#endif

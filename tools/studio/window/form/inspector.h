@@ -2,8 +2,7 @@
  * @file
  * All settings of one text, from its words to its background.
  */
-#ifndef ANIMTEXT_INSPECTOR_H
-#define ANIMTEXT_INSPECTOR_H
+#pragma once
 
 #include "studio/window/display/displayform.h"
 #include "studio/window/form/attributeform.h"
@@ -46,5 +45,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::form
-
-#endif

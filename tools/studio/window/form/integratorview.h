@@ -3,8 +3,7 @@
  * For integrators: the device calls of a tick, calls that are made to fail, and the comparison
  * with another plugin library.
  */
-#ifndef ANIMTEXT_INTEGRATORVIEW_H
-#define ANIMTEXT_INTEGRATORVIEW_H
+#pragma once
 
 #include "studio/worker/rehearsal.h"
 
@@ -57,5 +56,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::form
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Chooses the style of a neon background by its moving picture.
  */
-#ifndef ANIMTEXT_NEONBOX_H
-#define ANIMTEXT_NEONBOX_H
+#pragma once
 
 #include <QComboBox>
 #include <QTimer>
@@ -36,5 +35,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::form
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Chooses a motion from thumbnails that move with the user's own text.
  */
-#ifndef ANIMTEXT_MOTIONPICKER_H
-#define ANIMTEXT_MOTIONPICKER_H
+#pragma once
 
 #include "studio/model/sign.h"
 
@@ -63,5 +62,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::motion
-
-#endif

@@ -3,8 +3,7 @@
  * Small moving pictures of every motion and neon style with the user's own text. A worker paints
  * them on demand.
  */
-#ifndef ANIMTEXT_THUMBNAILS_H
-#define ANIMTEXT_THUMBNAILS_H
+#pragma once
 
 #include "studio/model/sign.h"
 #include "studio/worker/scenefolder.h"
@@ -66,5 +65,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::motion
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * Where a film of the sign is made.
  */
-#ifndef ANIMTEXT_EXPORTDIALOG_H
-#define ANIMTEXT_EXPORTDIALOG_H
+#pragma once
 
 #include "studio/model/sign.h"
 #include "studio/worker/exporting.h"
@@ -97,5 +96,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::shell
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The studio's window.
  */
-#ifndef ANIMTEXT_MAINWINDOW_H
-#define ANIMTEXT_MAINWINDOW_H
+#pragma once
 
 #include "studio/model/document.h"
 #include "studio/model/recovery.h"
@@ -168,5 +167,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::shell
-
-#endif

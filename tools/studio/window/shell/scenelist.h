@@ -2,8 +2,7 @@
  * @file
  * The sign as a tree: the display, its pages and their texts.
  */
-#ifndef ANIMTEXT_SCENELIST_H
-#define ANIMTEXT_SCENELIST_H
+#pragma once
 
 #include "studio/model/sign.h"
 
@@ -50,5 +49,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::shell
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The field for typing a text: one line in which each letter has its own style.
  */
-#ifndef ANIMTEXT_TEXTEDITOR_H
-#define ANIMTEXT_TEXTEDITOR_H
+#pragma once
 
 #include "layout/styledtext.h"
 
@@ -51,5 +50,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::text
-
-#endif

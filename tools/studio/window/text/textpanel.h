@@ -2,8 +2,7 @@
  * @file
  * The panel for writing and styling a text.
  */
-#ifndef ANIMTEXT_TEXTPANEL_H
-#define ANIMTEXT_TEXTPANEL_H
+#pragma once
 
 #include "studio/model/sign.h"
 #include "studio/window/basics/numberfield.h"
@@ -69,5 +68,3 @@ private:
 } // namespace AnimText::studio::window::text
 
 Q_DECLARE_METATYPE(AnimText::layout::StyledText)
-
-#endif

@@ -2,8 +2,7 @@
  * @file
  * The current tick and how it advances.
  */
-#ifndef ANIMTEXT_PLAYBACK_H
-#define ANIMTEXT_PLAYBACK_H
+#pragma once
 
 #include <QObject>
 #include <QTimer>
@@ -63,5 +62,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::time
-
-#endif

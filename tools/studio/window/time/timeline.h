@@ -2,8 +2,7 @@
  * @file
  * The timeline: a row per text with its pages and its end, and the current tick.
  */
-#ifndef ANIMTEXT_TIMELINE_H
-#define ANIMTEXT_TIMELINE_H
+#pragma once
 
 #include "studio/window/time/playback.h"
 #include "studio/worker/timing.h"
@@ -89,5 +88,3 @@ private:
 };
 
 } // namespace AnimText::studio::window::time
-
-#endif

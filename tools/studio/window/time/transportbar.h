@@ -2,8 +2,7 @@
  * @file
  * The playback buttons, the current time, and the planned and actual times.
  */
-#ifndef ANIMTEXT_TRANSPORTBAR_H
-#define ANIMTEXT_TRANSPORTBAR_H
+#pragma once
 
 #include "studio/window/time/playback.h"
 #include "studio/worker/timing.h"
@@ -63,5 +62,3 @@ int LostPages(const worker::TextTime& text);
 worker::TextTime SideBySide(const QVector<worker::TextTime>& texts);
 
 } // namespace AnimText::studio::window::time
-
-#endif
