@@ -471,7 +471,7 @@ void Script::Flush()
     const QString what = (QStringList(Words(letters)) + fields).join(", ");
     const QString at = operation == "start" ? "" : QString(" at tick %1").arg(begin);
     if (operation.isEmpty())
-        lines.append({begin, letters.size(), what});
+        lines.append({begin, int(letters.size()), what});
     else
         lines.append({-1, 0, operation + at + ": " + what});
     operation.clear();

@@ -85,7 +85,7 @@ QVector<Backdrop> Backdrops(int gradient, QSize size)
     for (const int neon : {0, 1})
         for (const bool alpha : {true, false})
             for (const int text : {0x606060, 0x5F5F5F})
-                backdrops.append({gradient, size, neon, alpha, text, 11 * backdrops.size()});
+                backdrops.append({gradient, size, neon, alpha, text, 11 * int(backdrops.size())});
     return backdrops;
 }
 

@@ -742,8 +742,9 @@ void TestWindow::fieldsFollowTheArea()
     auto* line = x->findChild<QLineEdit*>();
     QTest::mousePress(line, Qt::LeftButton, Qt::NoModifier, QPoint(9, 9));
     for (int way : {12, 18, 30}) {
-        QMouseEvent move(QEvent::MouseMove, QPoint(9 + way, 9), line->mapToGlobal({9 + way, 9}),
-                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, QPoint(9 + way, 9),
+                         line->mapToGlobal(QPoint(9 + way, 9)), Qt::LeftButton, Qt::LeftButton,
+                         Qt::NoModifier);
         QApplication::sendEvent(line, &move);
     }
     QTest::mouseRelease(line, Qt::LeftButton, Qt::NoModifier, QPoint(39, 9));

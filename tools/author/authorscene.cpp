@@ -34,7 +34,7 @@ bool Put(const scene::SceneNode& node, const Destination& destination, scene::Sc
     if (destination.area == 0)
         areas.append(scene::SceneArea());
     const int area = destination.area == 0 ? areas.size() - 1 : destination.area - 1;
-    *place = {destination.page - 1, area, areas[area].nodes.size()};
+    *place = {destination.page - 1, area, int(areas[area].nodes.size())};
     areas[area].nodes.append(node);
     return true;
 }

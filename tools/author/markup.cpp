@@ -54,19 +54,19 @@ private:
     void Open()
     {
         layout::StyleRun style = styles.last();
-        const bool isOuter = styles.size() == 1 && xml.name() == "text";
-        if (xml.name() == "b")
+        const bool isOuter = styles.size() == 1 && xml.name() == QLatin1String("text");
+        if (xml.name() == QLatin1String("b"))
             style.font.setBold(true);
-        else if (xml.name() == "i")
+        else if (xml.name() == QLatin1String("i"))
             style.font.setItalic(true);
-        else if (xml.name() == "u")
+        else if (xml.name() == QLatin1String("u"))
             style.font.setUnderline(true);
-        else if (!isOuter && xml.name() != "font")
+        else if (!isOuter && xml.name() != QLatin1String("font"))
             xml.raiseError(QStringLiteral("unknown tag <%1>; expected <b>, <i>, <u> or <font>")
                                .arg(xml.name().toString()));
         for (const QXmlStreamAttribute& attribute : xml.attributes()) {
             const QString fault =
-                xml.name() == "font"
+                xml.name() == QLatin1String("font")
                     ? Apply(attribute.name().toString(), attribute.value().toString(), &style)
                     : QStringLiteral("<%1> takes no attributes").arg(xml.name().toString());
             if (!fault.isEmpty())

@@ -76,7 +76,7 @@ void DrawRow(QPainter* painter, const SheetRow& row, QPoint corner, QSize frame)
 QImage DrawContactSheet(const QVector<SheetRow>& rows)
 {
     const int columns = rows.size() > rowsInOneColumn ? 2 : 1;
-    const int lines = std::max(1, (rows.size() + columns - 1) / columns);
+    const int lines = std::max(1, (int(rows.size()) + columns - 1) / columns);
     QSize largest(1, 1);
     int frames = 1;
     for (const SheetRow& row : rows) {

@@ -27,8 +27,8 @@ WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bo
     const FilmKind& kind = *FilmKindOf(path);
     QVector<int> wanted(range.second - range.first + 1);
     std::iota(wanted.begin(), wanted.end(), range.first);
-    const FilmFormat format{film->FrameSize(), range.first, wanted.size(), film->IsTransparent(),
-                            isLossless};
+    const FilmFormat format{film->FrameSize(), range.first, int(wanted.size()),
+                            film->IsTransparent(), isLossless};
     FilmStage stage = FilmStage::Colors;
     int done = 0;
     const auto tell = [&] { watch(stage, done, format.frames); };

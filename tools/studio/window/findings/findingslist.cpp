@@ -152,7 +152,9 @@ void FindingsList::Show(const QList<validate::Finding>& findings, const model::S
     QList<Row> before = rows;
     rows.clear();
     for (const validate::Finding& finding : findings) {
-        Row row{finding, 0, {}, QCoreApplication::translate("Rules", finding.GetRule().why), {}};
+        Row row;
+        row.finding = finding;
+        row.words = QCoreApplication::translate("Rules", finding.GetRule().why);
         const QString field = FieldOf(finding);
         if (!field.isEmpty())
             row.words = QStringLiteral("%1: %2").arg(field, row.words);

@@ -44,7 +44,7 @@ private:
     struct Row
     {
         validate::Finding finding;
-        int id; // id of the text; 0 for none
+        int id = 0; // id of the text; 0 for none
         Fix fix;
         QString words;
         QString why;
