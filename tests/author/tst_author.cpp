@@ -114,7 +114,7 @@ int Strays(const QImage& a, const QImage& b)
 
 const QSize area(300, 90);
 
-struct Wish
+struct Request
 {
     QString text;
     QFont font;
@@ -132,18 +132,18 @@ struct Authored : layout::PlacedText
     author::AuthoredNode all;
 };
 
-Authored Author(const Wish& wish)
+Authored Author(const Request& request)
 {
     author::TextSource source;
-    source.text = Plain(wish.text, wish.font);
-    source.align = wish.align;
-    source.valign = wish.valign;
-    source.padding = wish.padding;
-    source.keepsWords = wish.keepsWords;
+    source.text = Plain(request.text, request.font);
+    source.align = request.align;
+    source.valign = request.valign;
+    source.padding = request.padding;
+    source.keepsWords = request.keepsWords;
     scene::SceneNode settings;
     settings.size = area;
-    const scene::NodeMotion motion{wish.motion == 30 ? scene::Mode::Scroll : scene::Mode::Entrance,
-                                   wish.motion % 30};
+    const scene::NodeMotion motion{
+        request.motion == 30 ? scene::Mode::Scroll : scene::Mode::Entrance, request.motion % 30};
     Authored authored;
     QString error;
     if (!author::AuthorNode(source, settings, motion, &authored.all, &error))
@@ -163,7 +163,7 @@ Authored Author(const Wish& wish)
     authored.descents =
         Lw::HNodeAnimationText::DescentsFrom(Lw::HNodeAnimationText::ReadGlyphData(descents));
     authored.tornWords = authored.all.tornWords;
-    authored.starts = SignsPages(authored.widths, area.width(), wish.motion == 1);
+    authored.starts = SignsPages(authored.widths, area.width(), request.motion == 1);
     return authored;
 }
 

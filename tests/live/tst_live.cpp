@@ -162,7 +162,7 @@ private slots:
         QTest::addColumn<scene::SceneNode>("node");
         QTest::addColumn<bool>("schedule");
         QTest::addColumn<int>("ticks");
-        const TextWishes three{"abc", 4, 9, 2};
+        const TextOptions three{"abc", 4, 9, 2};
         QTest::newRow("a hold more") << files.Node(three) << false << 7 + 4;
         QTest::newRow("as told") << files.Node(three) << true << 7;
         QTest::newRow("nothing") << files.Node({" "}) << false << 1;

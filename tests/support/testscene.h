@@ -11,7 +11,7 @@
 namespace AnimText {
 
 /** What a test wants to be different from one text to the next. */
-struct TextWishes
+struct TextOptions
 {
     QString text = "abc";
     int effect = 4;
@@ -29,27 +29,27 @@ constexpr int testDescent = 4;
 class TestScenes : public TestFolder
 {
 public:
-    /** A node of these wishes, with @p more attributes. */
-    scene::SceneNode Node(const TextWishes& wishes, const QMap<QString, QVariant>& more = {})
+    /** A node with these options and @p more attributes. */
+    scene::SceneNode Node(const TextOptions& options, const QMap<QString, QVariant>& more = {})
     {
-        const int count = wishes.text.size();
+        const int count = options.text.size();
         QPainterPath glyph;
-        glyph.addRect(2, testDescent - testHeight + 2, wishes.width - 4, testHeight - 4);
+        glyph.addRect(2, testDescent - testHeight + 2, options.width - 4, testHeight - 4);
         const QString base = QString("node%1").arg(nodes++);
         Write(base + ".path", layout::PathFile(QVector<QPainterPath>(count, glyph)));
         Write(base + ".descent", layout::DescentFile(QVector<int>(count, testDescent)));
 
         scene::SceneNode node;
-        node.size = wishes.area;
-        node.hold = wishes.hold;
-        node.attributes = {{"Text", wishes.text},
-                           {"AnimationEffect", wishes.effect},
-                           {"AnimationSpeed", wishes.speed},
-                           {"ContinueSpeed", wishes.speed},
-                           {"PlayTimes", wishes.plays}};
+        node.size = options.area;
+        node.hold = options.hold;
+        node.attributes = {{"Text", options.text},
+                           {"AnimationEffect", options.effect},
+                           {"AnimationSpeed", options.speed},
+                           {"ContinueSpeed", options.speed},
+                           {"PlayTimes", options.plays}};
         node.attributes.insert(more);
         for (int i = 0; i < count; ++i) {
-            node.lists["TextWidth"].append({{"text_width", QString::number(wishes.width)}});
+            node.lists["TextWidth"].append({{"text_width", QString::number(options.width)}});
             node.lists["TextHeight"].append({{"text_height", QString::number(testHeight)}});
             node.lists["TextAttribute"].append({{"fontName", "DejaVu Sans"},
                                                 {"fontSize", "12"},

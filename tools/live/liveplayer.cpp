@@ -103,7 +103,7 @@ qint64 LivePlayer::Time() const
 
 /** Uses a new stage each time: some state, such as the dazzle colors, would survive a restart.
  */
-bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& wishes, QString* error)
+bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSettings, QString* error)
 {
     auto next = std::make_unique<player::Stage>(plugin);
     if (!next->Build(wanted, error))
@@ -111,7 +111,7 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& wishes, QS
     scheduled.reset();
     stage = std::move(next);
     scene = wanted;
-    settings = wishes;
+    settings = newSettings;
     paused = ended = resting = false;
     before = lastShown = 0;
     punctuality = earlier = Punctuality();

@@ -63,7 +63,7 @@ bool IsDone(const Job& job, const QString& plugin)
     });
 }
 
-/** Starts without the terminal, so that one wish to end it comes once: from here. */
+/** Starts without the terminal, so that one Ctrl+C reaches it once: from here. */
 std::unique_ptr<QProcess> Start(const Job& job, const QStringList& options)
 {
     auto renderer = std::make_unique<QProcess>();

@@ -188,7 +188,7 @@ QString ExportDialog::ForecastOf(const worker::ExportSettings& settings) const
     const QString seconds = basics::SecondsText(qint64(pictures) * player::tickLength);
     if (isPart || settings.schedule)
         return QStringLiteral("%1 · %2").arg(pixels, seconds);
-    // The film lets the last page stand for one hold more.
+    // The film holds the last page once more at its end.
     return tr("%1 · %2 and the last hold once more").arg(pixels, seconds);
 }
 
