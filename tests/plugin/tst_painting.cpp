@@ -154,8 +154,10 @@ private slots:
             return bytes;
         };
         const QSize none(0, 0);
+        // Qt 6 itself decodes at most 32 megapixels.
+        const QSize largest = QT_VERSION < 0x060000 ? QSize(8000, 8000) : none;
         const Table<QByteArray, QSize, int> row("content", "size", "messages");
-        row("64 megapixels", Bitmap("8000 8000") + QByteArray(8000000, 0), {8000, 8000}, 0);
+        row("64 megapixels", Bitmap("8000 8000") + QByteArray(8000000, 0), largest, 0);
         row("a row more", Bitmap("8000 8001") + QByteArray(8001000, 0), none, 1);
         row("cut off", Bitmap("8000 8000"), none, 0);
         row("no picture", QByteArray("none"), none, 0);
@@ -172,7 +174,7 @@ private slots:
         play.text.node->SetFiles("FillImage", {play.text.File("fill")});
         Messages messages;
         play.Start({{"CheckPictureFills", 1}, {"AnimationEffect", 6}});
-        QTEST(Messages::Taken().filter("Fill picture").size(), "messages");
+        QTEST(int(Messages::Taken().filter("Fill picture").size()), "messages");
         QCOMPARE(play.fillImageSize(), size);
     }
 

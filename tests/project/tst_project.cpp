@@ -288,8 +288,10 @@ private slots:
                               "-Werror",
                               "-DQT_NO_DEPRECATED_WARNINGS",
                               "-I" + folder.path()};
+        // The compiler's own folder, which Qt 6 names too, has to come after the C++ library's.
         for (const QString& include : QString(PLUGIN_INCLUDES).split('|'))
-            arguments << (include.startsWith(root) ? "-I" : "-isystem") << include;
+            if (include != "/usr/include")
+                arguments << (include.startsWith(root) ? "-I" : "-isystem") << include;
         QProcess compiler;
         compiler.start(CXX_COMPILER, arguments << folder.filePath("all.cpp"));
         compiler.waitForFinished(-1);
