@@ -111,9 +111,7 @@ cli::Command AuthorCommand()
     return {
         "author",
         "lay out a text and write a scene that shows it",
-        "",
-        0,
-        0,
+        {},
         "Lays out the text of --text or --text-file and writes a scene that shows it, with data "
         "files beside the scene. An existing scene with one text is replaced.",
         shared::LayoutOptions(),

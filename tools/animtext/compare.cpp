@@ -130,7 +130,7 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
 
 int Compare(const cli::CommandLine& line)
 {
-    const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Time("tolerance"));
+    const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Get<double>("tolerance"));
     const QString first = line.Arguments().at(0);
     if (line.Arguments().size() == 1) {
         if (!QFileInfo(first).isDir())
@@ -162,9 +162,7 @@ cli::Command CompareCommand()
     return {
         "compare",
         "find the first difference between a recording and a scene",
-        "RECORDING SCENE.json|RECORDING or FOLDER",
-        1,
-        2,
+        {"RECORDING SCENE.json|RECORDING or FOLDER", 1, 2},
         "Finds the first difference between a recording, made with librecord or animtext "
         "trace, and what the plugin does with the scene on the desktop, or between two "
         "recordings. Compares calls, their order, arguments, pictures and times. The exit "

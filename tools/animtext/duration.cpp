@@ -234,9 +234,7 @@ cli::Command DurationCommand()
     return {
         "duration",
         "print the planned and the actual time of a scene",
-        "SCENE.json",
-        1,
-        1,
+        {"SCENE.json", 1, 1},
         "Prints the planned time of each text, which the host asks for before it plays a scene. "
         "With --simulate, also prints the actual time. If the text needs longer than planned, the "
         "sign cuts off its end.",

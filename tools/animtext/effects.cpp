@@ -75,15 +75,15 @@ cli::Command EffectsCommand()
     return {
         "effects",
         "list entrance effects and scrolls",
-        "[WORD...]",
-        0,
-        20,
+        {"[WORD...]",
+         0,
+         20,
+         {"bounce", "fly", "grow", "scroll", "spin", "ticker", "typewriter", "zoom"}},
         "Lists the entrance effects and scrolls with their numbers and names, or only those that "
         "match every WORD, such as bounce or ticker.",
         {cli::Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
         ListEffects,
-        {"animtext effects", "animtext effects bounce --json"},
-        {"bounce", "fly", "grow", "scroll", "spin", "ticker", "typewriter", "zoom"}};
+        {"animtext effects", "animtext effects bounce --json"}};
 }
 
 } // namespace AnimText::animtext

@@ -27,9 +27,7 @@ cli::Command FontsCommand()
 {
     return {"fonts",
             "list installed fonts",
-            "[FILTER]",
-            0,
-            1,
+            {"[FILTER]", 0, 1},
             "Lists the installed font families, or those whose names contain FILTER.",
             {},
             Fonts,

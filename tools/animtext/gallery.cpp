@@ -94,9 +94,7 @@ cli::Command GalleryCommand()
     }
     return {"gallery",
             "make a web page that shows every motion",
-            "",
-            0,
-            0,
+            {},
             "Plays a text with every motion at every speed and writes a web page that shows them. "
             "Open index.html in any browser; the page works without a server or a network.",
             shared::WithPlayOptions(own),

@@ -86,9 +86,7 @@ cli::Command ListCommand()
 {
     return {"list",
             "list the texts in a scene",
-            "SCENE.json",
-            1,
-            1,
+            {"SCENE.json", 1, 1},
             "Lists the texts in a scene with their numbers, pages, areas, motions and times.",
             {cli::Option::Flag("json", "Print a JSON list.")},
             List,

@@ -24,22 +24,22 @@ const QStringList shells{"bash", "zsh", "fish"};
 
 const QVector<cli::Command>& Commands();
 
-QStringList CommandNames()
+QStringList Names(const QVector<cli::Command>& commands)
 {
     QStringList names;
-    for (const cli::Command& command : Commands())
-        names.append(QLatin1String(command.name));
+    for (const cli::Command& command : commands)
+        names.append(command.name);
     return names;
 }
 
 const cli::Command& FindCommand(const QString& name)
 {
     for (const cli::Command& command : Commands()) {
-        if (name == QLatin1String(command.name))
+        if (name == command.name)
             return command;
     }
     throw cli::Misuse{QStringLiteral("unknown command \"%1\"%2")
-                          .arg(name, scene::DidYouMean(name, CommandNames()))};
+                          .arg(name, scene::DidYouMean(name, Names(Commands())))};
 }
 
 int Help(const cli::CommandLine& line)
@@ -67,52 +67,44 @@ int Complete(const cli::CommandLine& line)
 
 const QVector<cli::Command>& Commands()
 {
-    static QVector<cli::Command> commands;
-    if (commands.isEmpty()) {
-        const cli::Command completion{
-            "completion",
-            "print a completion script for a shell",
-            "bash|zsh|fish",
-            1,
-            1,
-            "Prints a completion script for bash, zsh or fish. A comment at its top says how to "
-            "load it.",
-            {},
-            Complete,
-            {"source <(animtext completion bash)", "animtext completion zsh >_animtext"},
-            shells};
-        commands = {animtext::AuthorCommand(),
-                    animtext::ListCommand(),
-                    animtext::SetCommand(),
-                    animtext::RemoveCommand(),
-                    animtext::TidyCommand(),
-                    animtext::PlayCommand(),
-                    animtext::RenderCommand(),
-                    animtext::SheetCommand(),
-                    animtext::GalleryCommand(),
-                    animtext::TraceCommand(),
-                    animtext::CompareCommand(),
-                    animtext::DurationCommand(),
-                    animtext::ValidateCommand(),
-                    animtext::SchemaCommand(),
-                    animtext::EffectsCommand(),
-                    animtext::FontsCommand(),
-                    completion};
-        cli::Command help{"help",
-                          "show help for a command",
-                          "[COMMAND]",
-                          0,
-                          1,
-                          "Shows what a command does, its options and examples.",
-                          {cli::Option::File("man", "FOLDER",
-                                             "Write the man pages of all commands to a folder.")},
-                          Help,
-                          {"animtext help render", "animtext help --man man"},
-                          CommandNames()};
-        commands.append(help);
-        for (cli::Command& command : commands)
+    static const QVector<cli::Command> commands = [] {
+        QVector<cli::Command> all{
+            animtext::AuthorCommand(),
+            animtext::ListCommand(),
+            animtext::SetCommand(),
+            animtext::RemoveCommand(),
+            animtext::TidyCommand(),
+            animtext::PlayCommand(),
+            animtext::RenderCommand(),
+            animtext::SheetCommand(),
+            animtext::GalleryCommand(),
+            animtext::TraceCommand(),
+            animtext::CompareCommand(),
+            animtext::DurationCommand(),
+            animtext::ValidateCommand(),
+            animtext::SchemaCommand(),
+            animtext::EffectsCommand(),
+            animtext::FontsCommand(),
+            {"completion",
+             "print a completion script for a shell",
+             {"bash|zsh|fish", 1, 1, shells},
+             "Prints a completion script for bash, zsh or fish. A comment at its top says how to "
+             "load it.",
+             {},
+             Complete,
+             {"source <(animtext completion bash)", "animtext completion zsh >_animtext"}}};
+        all.append({"help",
+                    "show help for a command",
+                    {"[COMMAND]", 0, 1, Names(all)},
+                    "Shows what a command does, its options and examples.",
+                    {cli::Option::File("man", "FOLDER",
+                                       "Write the man pages of all commands to a folder.")},
+                    Help,
+                    {"animtext help render", "animtext help --man man"}});
+        for (cli::Command& command : all)
             command.options.append(cli::Option::Flag("help", "Show this help.").Letter('h'));
-    }
+        return all;
+    }();
     return commands;
 }
 

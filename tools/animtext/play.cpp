@@ -75,9 +75,9 @@ int PlayLive(const cli::CommandLine& line)
     QObject::connect(&player, &live::LivePlayer::Shown, &lights, &lights::Lights::Show);
     live::LiveWindow window(&player);
     if (line.IsSet("zoom"))
-        window.SetZoom(line.Number("zoom"));
+        window.SetZoom(line.Get<int>("zoom"));
     if (line.IsSet("leds"))
-        window.SetPitch(line.Fraction("leds"));
+        window.SetPitch(line.Get<double>("leds"));
     if (hasWindow)
         window.Open(QFileInfo(path).fileName(), scene.display, line.IsSet("fullscreen"));
     else if (!line.IsSet("watch"))
@@ -91,7 +91,7 @@ int PlayLive(const cli::CommandLine& line)
     }
     cli::WatchForInterruption();
     QTimer look;
-    const qint64 end = line.IsSet("seconds") ? qint64(line.Time("seconds")) : -1;
+    const qint64 end = line.IsSet("seconds") ? qint64(line.Get<double>("seconds")) : -1;
     QElapsedTimer shown;
     QObject::connect(&look, &QTimer::timeout, &application, [&] {
         if (cli::Interrupted() || (end >= 0 && shown.elapsed() >= end))
@@ -117,9 +117,7 @@ cli::Command PlayCommand()
     return {
         "play",
         "play a scene live in a window or on LEDs",
-        "SCENE.json",
-        0,
-        1,
+        {"SCENE.json", 0, 1},
         "Plays a scene in real time, in a window. Space pauses, F switches to full screen and "
         "Esc quits. At the end the last picture stays; press Space to play again. --to plays "
         "on LED controllers in the network instead of in a window. Set QT_QPA_PLATFORM to "

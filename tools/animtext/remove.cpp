@@ -7,9 +7,7 @@ cli::Command RemoveCommand()
 {
     return {"remove",
             "remove a text from a scene",
-            "SCENE.json PLACE",
-            2,
-            2,
+            {"SCENE.json PLACE", 2, 2},
             "Removes a text with its data files, and its area and page if they become empty. PLACE "
             "is the text's number in animtext list, or its path as in animtext validate.",
             {},

@@ -37,9 +37,8 @@ void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
     const bool transparent = line.IsSet("transparent");
     const bool lossless = line.IsSet("lossless");
     const bool leds = line.IsSet("leds");
-    const bool isOne =
-        line.IsSet("at") ||
-        (line.IsSet("frames") && line.Range("frames").first == line.Range("frames").second);
+    const auto frames = line.Get<QPair<int, int>>("frames");
+    const bool isOne = line.IsSet("at") || (line.IsSet("frames") && frames.first == frames.second);
     const struct
     {
         bool isWrong;
@@ -49,7 +48,7 @@ void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
          "--transparent and --background cannot be combined"},
         {transparent && leds,
          "--transparent and --leds cannot be combined; LEDs are drawn on black"},
-        {leds && line.IsSet("scale") && line.Number("scale") < film::smallestLamp,
+        {leds && line.IsSet("scale") && line.Get<int>("scale") < film::smallestLamp,
          "--leds needs a --scale of at least 4"},
         {transparent && !kind.Has(film::FilmKind::Transparent), films + " cannot be transparent"},
         {lossless && !kind.Has(film::FilmKind::Lossless),
@@ -70,17 +69,17 @@ film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKin
 {
     film::FilmSettings settings;
     settings.evenSize = kind.Has(film::FilmKind::EvenSides) && !line.IsSet("lossless");
-    settings.scale = line.Number("scale");
+    settings.scale = line.Get<int>("scale");
     if (line.IsSet("leds")) {
-        settings.pitch = line.Fraction("leds");
+        settings.pitch = line.Get<double>("leds");
         settings.scale = std::max(settings.scale, film::smallestLamp);
     }
     settings.seed = seed;
     settings.schedule = line.IsSet("schedule");
     if (line.IsSet("seconds"))
-        settings.seconds = line.Time("seconds") / 1000;
+        settings.seconds = line.Get<double>("seconds") / 1000;
     if (line.IsSet("background"))
-        settings.background = line.Color("background");
+        settings.background = line.Get<QColor>("background");
     else if (line.IsSet("transparent"))
         settings.background = QColor();
     return settings;
@@ -91,10 +90,10 @@ QPair<int, int> RangeFor(const cli::CommandLine& line, int frames)
 {
     QPair<int, int> range(0, frames - 1);
     if (line.IsSet("frames"))
-        range = line.Range("frames");
+        range = line.Get<QPair<int, int>>("frames");
     if (line.IsSet("at")) {
         // Times as people write them can lie a hair before their tick.
-        const int tick = int(line.Time("at") / player::tickLength + 1e-6);
+        const int tick = int(line.Get<double>("at") / player::tickLength + 1e-6);
         range = {tick, tick};
     }
     if (range.second >= frames)
@@ -232,9 +231,7 @@ cli::Command RenderCommand()
 {
     return {"render",
             "render scenes as GIF, APNG, WebP, MP4, WebM or PNGs",
-            "SCENE.json...",
-            1,
-            100000,
+            {"SCENE.json...", 1, 100000},
             "Plays a scene on virtual time and writes what the display shows, a picture for each "
             "tick of 66 ms. Without --seconds it plays until every text has finished and was held "
             "once more, or has scrolled through its area once. All formats except PNG need ffmpeg. "

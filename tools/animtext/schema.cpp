@@ -9,9 +9,7 @@ cli::Command SchemaCommand()
 {
     return {"schema",
             "print the JSON Schema of scene files",
-            "",
-            0,
-            0,
+            {},
             "Prints the JSON Schema (draft 7) of scene files. Editors use it to complete, check "
             "and explain keys.",
             {cli::Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},

@@ -34,9 +34,7 @@ cli::Command SetCommand()
     return {
         "set",
         "change a text in a scene",
-        "SCENE.json PLACE KEY=VALUE...",
-        3,
-        1000,
+        {"SCENE.json PLACE KEY=VALUE...", 3, 1000},
         "Changes settings that need no new layout: effect, scroll, speed, hold (such as 2s or "
         "1500ms), plays, pos, color, hollow, or any number among the attributes in the scene "
         "file. PLACE is the text's number in animtext list, or its path as in animtext "

@@ -69,7 +69,7 @@ int DrawSheet(const cli::CommandLine& line)
     {
         cli::Progress progress("playing scene", scenes.size());
         for (int i = 0; i < scenes.size(); ++i) {
-            rows.append(RowOf(playing, scenes.at(i), line.Number("columns")));
+            rows.append(RowOf(playing, scenes.at(i), line.Get<int>("columns")));
             progress.Show(i + 1);
         }
     }
@@ -88,9 +88,7 @@ cli::Command SheetCommand()
     return {
         "sheet",
         "draw a contact sheet of scenes",
-        "SCENE.json...",
-        1,
-        1000,
+        {"SCENE.json...", 1, 1000},
         "Draws a contact sheet: a row of frames for each scene, evenly spaced in time.",
         shared::WithShowOptions(
             {cli::Option::File("output", "SHEET.png", "PNG file to write; - is standard output.")

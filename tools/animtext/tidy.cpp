@@ -29,9 +29,7 @@ cli::Command TidyCommand()
     return {
         "tidy",
         "list data files that no scene uses",
-        "FOLDER",
-        1,
-        1,
+        {"FOLDER", 1, 1},
         "Lists the data files in FOLDER that animtext or the studio wrote and that no other file "
         "names. It searches FOLDER, its subfolders (one level) and its parent folder; scenes "
         "elsewhere are not searched. If a file cannot be read, it lists and deletes nothing.",

@@ -27,7 +27,7 @@ QByteArray TickLine(player::Player* player, int node)
 
 int TraceScene(const cli::CommandLine& line)
 {
-    const int ticks = line.Number("ticks");
+    const int ticks = line.Get<int>("ticks");
     const scene::Scene scene = shared::OpenReadableScene(line, line.Arguments().first());
     const shared::Playing playing(line);
     const std::unique_ptr<player::Player> player = playing.Load(scene);
@@ -51,9 +51,7 @@ cli::Command TraceCommand()
     return {
         "trace",
         "print each tick of a play as JSON lines",
-        "SCENE.json",
-        1,
-        1,
+        {"SCENE.json", 1, 1},
         "Plays a scene on virtual time and prints a JSON line for each text and each tick of 66 "
         "ms, from tick 0: whether the display got a new picture of the text, its layer, its size, "
         "the SHA-1 of its rows, and the renderer's state (0 finished, 1 playing, 2 nothing to "

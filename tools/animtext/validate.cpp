@@ -30,9 +30,7 @@ cli::Command ValidateCommand()
     return {
         "validate",
         "check scenes for mistakes",
-        "SCENE.json...",
-        1,
-        100000,
+        {"SCENE.json...", 1, 100000},
         "Checks scenes for mistakes; - is standard input. The exit status is 2 if there are "
         "errors, and with --strict 1 if there are only warnings.",
         {cli::Option::Flag("json", "Print a JSON object, or a list of objects for several scenes."),

@@ -49,14 +49,12 @@ QStringList WithLoneValues(const Command& command, QStringList words)
 } // namespace
 
 CommandLine::CommandLine(const Command& command, const QStringList& words)
-    : command(command)
 {
     for (const Option& option : command.options) {
-        QStringList names{QLatin1String(option.name)};
+        QStringList names{option.name};
         if (option.letter)
             names.append(QString(QLatin1Char(option.letter)));
-        parser.addOption(
-            {names, QString(), QLatin1String(option.value), QString::fromUtf8(option.standard)});
+        parser.addOption({names, QString(), option.value, option.standard});
     }
     const bool isRead = parser.parse(QStringList{QString()} + WithLoneValues(command, words));
     if (IsSet("help"))
@@ -68,33 +66,20 @@ CommandLine::CommandLine(const Command& command, const QStringList& words)
         throw Misuse{parser.errorText().remove(QLatin1Char('.'))};
     for (const Option& option : command.options) {
         for (const QString& value : Values(option.name))
-            ReadValue(option, value);
+            values[option.name] = ReadValue(option, value);
     }
-    Require();
-}
-
-void CommandLine::Require() const
-{
-    const QString shown = QLatin1String(command.arguments);
+    const auto& expected = command.arguments;
     const QStringList arguments = Arguments();
-    if (arguments.size() > command.most)
-        throw Misuse{QStringLiteral("unexpected argument \"%1\"").arg(arguments.at(command.most))};
-    if (arguments.size() < command.least)
-        throw Misuse{QStringLiteral("expected %1").arg(shown)};
+    if (arguments.size() > expected.most)
+        throw Misuse{QStringLiteral("unexpected argument \"%1\"").arg(arguments.at(expected.most))};
+    if (arguments.size() < expected.least)
+        throw Misuse{QStringLiteral("expected %1").arg(expected.shown)};
     if (arguments.contains(QString()))
-        throw Misuse{QStringLiteral("expected %1, not an empty argument").arg(shown)};
+        throw Misuse{QStringLiteral("expected %1, not an empty argument").arg(expected.shown)};
     for (const Option& option : command.options) {
         if (option.isRequired && !IsSet(option.name))
-            throw Misuse{QStringLiteral("expected %1 %2")
-                             .arg(ShortestName(option), QLatin1String(option.value))};
+            throw Misuse{QStringLiteral("expected %1 %2").arg(ShortestName(option), option.value)};
     }
-}
-
-QVariant CommandLine::Read(const char* name) const
-{
-    const Option* option = FindOption(command, QLatin1String(name));
-    Q_ASSERT_X(option, "CommandLine", name);
-    return option->standard || IsSet(name) ? ReadValue(*option, Value(name)) : QVariant();
 }
 
 } // namespace AnimText::cli

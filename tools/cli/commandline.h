@@ -7,10 +7,7 @@
 #include "cli/option.h"
 #include "cli/output.h"
 
-#include <QColor>
 #include <QCommandLineParser>
-#include <QPoint>
-#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -37,28 +34,20 @@ public:
     /** The words that are neither options nor their values. */
     QStringList Arguments() const { return parser.positionalArguments(); }
 
-    /** A number, units of 100 ms of a hold, or the index or number of what is chosen. */
-    int Number(const char* option) const { return Read(option).toInt(); }
-    double Fraction(const char* option) const { return Read(option).toDouble(); }
-    /** Milliseconds. */
-    double Time(const char* option) const { return Read(option).toDouble(); }
-    QSize Size(const char* option) const { return Read(option).toSize(); }
-    QPoint Point(const char* option) const { return Read(option).toPoint(); }
-    QColor Color(const char* option) const { return Read(option).value<QColor>(); }
-    /** The family. */
-    QString Font(const char* option) const { return Read(option).toString(); }
-    /** The first and the last. */
-    QPair<int, int> Range(const char* option) const
+    /**
+     * The last value that was given, in the type of its kind: int for a number, units of 100 ms of
+     * a hold, and the index or number of what is chosen; double for a fraction, and milliseconds;
+     * QSize, QPoint and QColor; QString for the family of a font; QPair<int, int> for a range.
+     */
+    template <typename Type>
+    Type Get(const char* option) const
     {
-        return Read(option).value<QPair<int, int>>();
+        return values.value(option).value<Type>();
     }
 
 private:
-    QVariant Read(const char* name) const;
-    void Require() const;
-
-    const Command& command;
     QCommandLineParser parser;
+    QHash<QString, QVariant> values; // by the options' names
 };
 
 } // namespace AnimText::cli

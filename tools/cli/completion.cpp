@@ -46,8 +46,9 @@ QByteArray CompletionForBash(const QVector<Command>& commands)
                       ") mapfile -t COMPREPLY < <(" + offer + " -- \"$current\"); return ;;\n";
         }
         words += "        " + name + ":-*) words=" + Quoted(Joined(options)) + " ;;\n";
-        if (!command.words.isEmpty())
-            words += "        " + name + ":*) words=" + Quoted(Joined(command.words)) + " ;;\n";
+        if (!command.arguments.words.isEmpty())
+            words += "        " + name + ":*) words=" + Quoted(Joined(command.arguments.words)) +
+                     " ;;\n";
     }
     return QByteArray(R"(# bash completion for animtext: source <(animtext completion bash)
 _animtext() {
@@ -95,9 +96,10 @@ QByteArray CompletionForZsh(const QVector<Command>& commands)
                 cases += " \\\n            " + Quoted(name.toUtf8() + join + text);
             }
         }
-        const QByteArray rest = command.words.isEmpty() ? "_files" : offer(command.words);
-        cases +=
-            " \\\n            " + Quoted("*:" + plain(command.arguments) + ':' + rest) + " ;;\n";
+        const QByteArray rest =
+            command.arguments.words.isEmpty() ? "_files" : offer(command.arguments.words);
+        cases += " \\\n            " + Quoted("*:" + plain(command.arguments.shown) + ':' + rest) +
+                 " ;;\n";
     }
     return QByteArray(R"(#compdef animtext
 # zsh completion for animtext: animtext completion zsh >_animtext, in your $fpath
@@ -143,8 +145,8 @@ QByteArray CompletionForFish(const QVector<Command>& commands)
                 text += " -a " + quoted(Joined(option.choices));
             text += " -d " + quoted(option.help) + '\n';
         }
-        if (!command.words.isEmpty())
-            text += here + "-f -a " + quoted(Joined(command.words)) + '\n';
+        if (!command.arguments.words.isEmpty())
+            text += here + "-f -a " + quoted(Joined(command.arguments.words)) + '\n';
     }
     return text;
 }

@@ -57,7 +57,7 @@ QByteArray HelpText(const Command& command)
             usage +=
                 QStringLiteral(" %1 %2").arg(ShortestName(option), QLatin1String(option.value));
     }
-    usage += " [options] " + QLatin1String(command.arguments);
+    usage += " [options] " + QLatin1String(command.arguments.shown);
     int width = 0;
     for (const Option& option : command.options)
         width = std::max(width, int(Names(option).size()) + 2);

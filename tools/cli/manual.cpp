@@ -47,8 +47,8 @@ QByteArray Synopsis(const Command& command)
             text += ' ' + Bold(ShortestName(option).toUtf8()) + ' ' + Italic(option.value);
     }
     text += " [options]";
-    if (*command.arguments)
-        text += ' ' + Italic(command.arguments);
+    if (*command.arguments.shown)
+        text += ' ' + Italic(command.arguments.shown);
     return text + '\n';
 }
 

@@ -112,18 +112,24 @@ struct Option
 /** @p text as a value of the option's kind; throws Misuse if it is none. */
 QVariant ReadValue(const Option& option, const QString& text);
 
+/** The words that a command takes besides its options. */
+struct Arguments
+{
+    const char* shown = ""; ///< how help shows them, such as "SCENE.json..."
+    int least = 0, most = 0;
+    QStringList words{}; ///< what they may be; empty for files
+};
+
 /** A command of the program. */
 struct Command
 {
     const char* name;
-    const char* summary;   ///< one line for the list of commands
-    const char* arguments; ///< how help shows the arguments, such as "SCENE.json..."
-    int least, most;       ///< number of arguments
+    const char* summary; ///< one line for the list of commands
+    Arguments arguments;
     const char* description;
     QVector<Option> options;
     int (*run)(const CommandLine& line); ///< returns the exit status
     QVector<const char*> examples{};     ///< shell commands that work in the folder of sign.json
-    QStringList words{};                 ///< what the arguments may be; empty for files
 };
 
 /** "-o" or "--speed": the shortest name of an option. */

@@ -50,29 +50,29 @@ QString ReadWords(const cli::CommandLine& line)
 scene::NodeMotion ReadMotion(const cli::CommandLine& line)
 {
     if (!line.IsSet("scroll"))
-        return {scene::Mode::Entrance, line.Number("effect")};
+        return {scene::Mode::Entrance, line.Get<int>("effect")};
     if (line.IsSet("effect"))
         throw cli::Misuse{"--effect and --scroll cannot be combined"};
-    return {scene::Mode::Scroll, line.Number("scroll")};
+    return {scene::Mode::Scroll, line.Get<int>("scroll")};
 }
 
 layout::Setting ReadSetting(const cli::CommandLine& line, const scene::NodeMotion& motion)
 {
     layout::Setting setting;
     if (line.IsSet("fit")) {
-        setting.fit = line.Number("fit") == 0 ? layout::Fit::Height : layout::Fit::Both;
+        setting.fit = line.Get<int>("fit") == 0 ? layout::Fit::Height : layout::Fit::Both;
         if (line.IsSet("size") || !line.IsSet("area"))
             throw cli::Misuse{"--fit needs --area and cannot be combined with --size"};
         if (motion.IsScroll() && setting.fit == layout::Fit::Both)
             throw cli::Misuse{"--fit both cannot be combined with --scroll; use --fit height"};
     }
     if (line.IsSet("align")) {
-        setting.align = layout::Align(int(layout::Align::Left) + line.Number("align"));
+        setting.align = layout::Align(int(layout::Align::Left) + line.Get<int>("align"));
         if (motion.IsSideways())
             throw cli::Misuse{"--align cannot be combined with --scroll left or right"};
     }
-    setting.valign = layout::VAlign(line.Number("valign"));
-    setting.padding = line.Number("padding");
+    setting.valign = layout::VAlign(line.Get<int>("valign"));
+    setting.padding = line.Get<int>("padding");
     setting.keepsWords = !line.IsSet("tear-words");
     return setting;
 }
@@ -91,7 +91,7 @@ void ReadBackground(const cli::CommandLine& line, scene::SceneNode* node)
 {
     if (line.IsSet("dazzle"))
         node->attributes["CheckDazzle"] = 1;
-    if (const int gradient = line.Number("dazzle")) { // 0 is plain
+    if (const int gradient = line.Get<int>("dazzle")) { // 0 is plain
         node->attributes["CheckColorGradient"] = 1;
         node->attributes["ColorGradient"] = gradient - 1;
     }
@@ -103,7 +103,7 @@ void ReadBackground(const cli::CommandLine& line, scene::SceneNode* node)
     }
     if (line.IsSet("neon"))
         node->attributes["CheckNeonBg"] = 1;
-    node->neonEffect = line.Number("neon");
+    node->neonEffect = line.Get<int>("neon");
     if ((node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"))
         throw cli::Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
                               .arg(lastDrawnNeon)};
@@ -118,9 +118,9 @@ author::Destination ReadDestination(const cli::CommandLine& line)
     destination.isAdded = line.IsSet("append") || line.IsSet("replace") || isCounted;
     destination.overwrites = line.IsSet("overwrite");
     destination.isOpaque = line.IsSet("no-alpha");
-    destination.display = line.Size("display");
-    destination.page = qMax(1, line.Number("page"));
-    destination.area = line.Number("in-area");
+    destination.display = line.Get<QSize>("display");
+    destination.page = qMax(1, line.Get<int>("page"));
+    destination.area = line.Get<int>("in-area");
     destination.instead = line.Value("replace");
     if (!destination.instead.isEmpty() && isCounted)
         throw cli::Misuse{"--replace cannot be combined with --page or --in-area"};
@@ -202,20 +202,20 @@ author::WrittenText ReadWritten(const cli::CommandLine& line)
 {
     author::WrittenText written;
     written.isSized = line.IsSet("size");
-    QFont font(line.Font("font"));
-    font.setPixelSize(written.isSized ? line.Number("size") : standardSize);
+    QFont font(line.Get<QString>("font"));
+    font.setPixelSize(written.isSized ? line.Get<int>("size") : standardSize);
     font.setBold(line.IsSet("bold"));
     font.setItalic(line.IsSet("italic"));
     font.setUnderline(line.IsSet("underline"));
-    written.style = {0, font, line.Color("color")};
+    written.style = {0, font, line.Get<QColor>("color")};
     return written;
 }
 
 scene::SceneNode ReadLook(const cli::CommandLine& line)
 {
     scene::SceneNode node;
-    node.size = line.Size("area");
-    node.hold = line.Number("hold");
+    node.size = line.Get<QSize>("area");
+    node.hold = line.Get<int>("hold");
     if (line.IsSet("hollow"))
         node.attributes["Hollow"] = 1;
     return node;
@@ -232,9 +232,9 @@ author::AuthorRequest ReadRequest(const cli::CommandLine& line)
     request.setting = ReadSetting(line, request.motion);
     request.node = ReadLook(line);
     ReadBackground(line, &request.node);
-    request.node.pos = line.Point("pos");
-    request.node.attributes[request.motion.SpeedKey()] = line.Number("speed");
-    request.node.attributes["PlayTimes"] = line.Number("plays");
+    request.node.pos = line.Get<QPoint>("pos");
+    request.node.attributes[request.motion.SpeedKey()] = line.Get<int>("speed");
+    request.node.attributes["PlayTimes"] = line.Get<int>("plays");
     request.hasPlace = line.IsSet("pos");
     request.destination = ReadDestination(line);
     return request;

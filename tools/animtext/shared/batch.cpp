@@ -130,7 +130,7 @@ void RenderAll(const cli::CommandLine& line, const QString& ending, const QStrin
         const auto isDone = [&](const Job& job) { return IsDone(job, plugin); };
         jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());
     }
-    const int most = line.IsSet("jobs") ? line.Number("jobs")
+    const int most = line.IsSet("jobs") ? line.Get<int>("jobs")
                                         : int(std::max(1U, std::thread::hardware_concurrency()));
     const int failed = RunJobs(jobs, most, options, form);
     files::FailUnless(failed == 0, QStringLiteral("%1 of %2 scenes were not rendered")

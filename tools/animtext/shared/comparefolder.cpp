@@ -72,7 +72,7 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
     for (auto scene = expected.begin(); scene != expected.end(); ++scene) {
         const scene::Scene opened = OpenReadableScene(line, scenes.filePath(scene.key() + ".json"));
         const compare::Ticks shown =
-            Play(playing, opened, records ? line.Number("ticks") : scene->last().tick);
+            Play(playing, opened, records ? line.Get<int>("ticks") : scene->last().tick);
         if (records)
             *scene = shown;
         else

@@ -144,7 +144,8 @@ int PlayTestPattern(const cli::CommandLine& line)
     lights::Lights lights;
     AddLights(line, display, &lights);
     cli::WatchForInterruption();
-    const int ticks = line.IsSet("seconds") ? int(line.Time("seconds")) / player::tickLength : -1;
+    const int ticks =
+        line.IsSet("seconds") ? int(line.Get<double>("seconds")) / player::tickLength : -1;
     int tick = 0;
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);

@@ -83,7 +83,7 @@ scene::Scene OpenPlayableScene(const cli::CommandLine& line, const QString& path
 }
 
 Playing::Playing(const cli::CommandLine& line)
-    : seed(uint(line.Number("seed")))
+    : seed(uint(line.Get<int>("seed")))
 {
     QString error;
     plugin = player::LoadPlugin(player::PluginPath(line.Value("plugin")), &error);
