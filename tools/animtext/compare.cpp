@@ -1,9 +1,10 @@
 #include "animtext/commands.h"
-#include "animtext/shared/comparefolder.h"
 #include "animtext/shared/playoptions.h"
 #include "cli/interruption.h"
+#include "cli/progress.h"
 #include "compare/deskplay.h"
 #include "compare/difference.h"
+#include "compare/expectation.h"
 #include "compare/pictures.h"
 #include "files/wholefile.h"
 #include "film/png.h"
@@ -20,20 +21,9 @@ namespace {
 bool IsRecording(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw files::Failure{
-            files::BadInput,
-            QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString())};
+    files::OpenToRead(&file);
     const QByteArray start = file.read(8);
     return start.startsWith("{\"call\"") || start.startsWith("{\"tick\"");
-}
-
-compare::Recording Open(const QString& path)
-{
-    compare::Recording recording;
-    QString error;
-    files::FailUnless(compare::ReadRecording(path, &recording, &error), error, files::BadInput);
-    return recording;
 }
 
 /** Where two recordings differ, in words. */
@@ -90,23 +80,15 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
 {
     const scene::Scene scene = shared::OpenPlayableScene(line, scenePath);
     const shared::Playing playing(line);
-    player::Player player(player::VirtualDispatcher::Current(), playing.Plugin());
-    compare::Recording recorded = Open(log);
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    compare::Recording recorded = compare::ReadRecording(log);
     files::FailUnless(recorded.hasCalls,
                       log + " has pictures but no calls; record it with animtext trace --calls",
                       files::BadInput);
     cli::WatchForInterruption(); // not before: opening a pipe may wait without end
-    QString error;
-    const auto play = [&](compare::PicturePlace wanted, QImage* picture) {
-        compare::Recording desk;
-        const auto goOn = [] { return !cli::Interrupted(); };
-        const bool played = compare::PlayOnDesk(&player, scene, playing.Seed(), goOn, &recorded,
-                                                &desk, wanted, picture, &error);
-        cli::StopIfInterrupted();
-        files::FailUnless(played, error, files::BadInput);
-        return desk;
-    };
-    const compare::Recording played = play({}, nullptr);
+    QMap<int, QImage> differing;
+    const compare::Recording played =
+        compare::PlayOnDesk(player.get(), playing.Seed(), &recorded, &differing);
     const compare::Difference difference = compare::FirstDifference(recorded, played, tolerance);
     const int status = Report(difference, recorded, played);
     const int number = difference.isPicture
@@ -114,18 +96,92 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
                            : -1;
     if (number < 0)
         return status;
-    QImage device;
-    QImage desk;
-    const QString pixels = QStringLiteral("%1-%2.pam").arg(log).arg(number);
-    files::FailUnless(compare::ReadPam(pixels, &device, &error), error, files::BadInput);
-    play({difference.session, difference.call}, &desk);
+    const QImage desk = differing.value(difference.session);
+    const QImage device = compare::ReadPam(QStringLiteral("%1-%2.pam").arg(log).arg(number));
     const QDir folder(line.IsSet("output") ? line.Value("output") : QFileInfo(log).path());
+    QString error;
     files::FailUnless(files::MakeFolder(folder.path(), &error), error);
     const QString base = folder.filePath(QFileInfo(log).completeBaseName());
     Keep(device, base + "-device.png");
     Keep(desk, base + "-desk.png");
     Keep(compare::DifferenceOf(device, desk), base + "-difference.png");
     return status;
+}
+
+compare::Ticks Play(const shared::Playing& playing, const scene::Scene& scene, int last)
+{
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    player->Start(playing.Seed());
+    compare::Ticks ticks;
+    for (;; player->Advance()) {
+        cli::StopIfInterrupted();
+        for (int node = 0; node < player->NodeCount(); ++node)
+            ticks.append(player->Look(node));
+        if (player->Tick() >= last)
+            return ticks;
+    }
+}
+
+scene::NodeMotion FirstMotion(const scene::Scene& scene)
+{
+    const QList<const scene::SceneNode*> nodes = scene.Nodes();
+    return nodes.isEmpty() ? scene::NodeMotion{scene::Mode::Still, 0}
+                           : scene::MotionOf(*nodes.first());
+}
+
+QVector<cli::Option> FolderOptions()
+{
+    return {
+        cli::Option::Flag("record",
+                          "Save what the scenes of FOLDER show now as FOLDER/expected.txt."),
+        cli::Option::File("expected", "FILE", "File to use in place of FOLDER/expected.txt."),
+        cli::Option::Number("ticks", 0, 1000000000, "Last tick that --record saves.").Or("100")};
+}
+
+/** Plays the scenes of @p folder and compares, or records, what they show. */
+int CompareFolder(const cli::CommandLine& line, const QString& folder)
+{
+    const QDir dir(folder);
+    const QDir scenes(dir.exists("scenes") ? dir.filePath("scenes") : folder);
+    const QString file =
+        line.IsSet("expected") ? line.Value("expected") : dir.filePath("expected.txt");
+    const bool records = line.IsSet("record");
+    compare::Expectation expected;
+    if (records)
+        for (const QFileInfo& scene : scenes.entryInfoList({"*.json"}, QDir::Files))
+            expected.insert(scene.completeBaseName(), {});
+    else
+        expected = compare::ReadExpectation(file);
+    files::FailUnless(!expected.isEmpty(),
+                      (records ? scenes.path() : file) + ": expected scenes, found none",
+                      files::BadInput);
+
+    cli::WatchForInterruption();
+    const shared::Playing playing(line);
+    cli::Progress progress("playing, scenes", expected.size());
+    compare::Tally tally;
+    int played = 0, ticks = 0;
+    for (auto scene = expected.begin(); scene != expected.end(); ++scene) {
+        const scene::Scene opened =
+            shared::OpenReadableScene(line, scenes.filePath(scene.key() + ".json"));
+        const compare::Ticks shown =
+            Play(playing, opened, records ? line.Get<int>("ticks") : scene->last().tick);
+        if (records)
+            *scene = shown;
+        else
+            tally.Add(scene.key(), FirstMotion(opened), *scene, shown);
+        ticks += shown.size();
+        progress.Show(++played);
+    }
+    if (!records) {
+        cli::Print(tally.Table());
+        return tally.IsEqual() ? files::Done : files::FailedRun;
+    }
+    QString error;
+    files::FailUnless(files::WriteWhole(file, compare::ExpectationText(expected), &error), error);
+    cli::Print(
+        QStringLiteral("%1: %2 scenes, %3 ticks\n").arg(file).arg(played).arg(ticks).toUtf8());
+    return files::Done;
 }
 
 int Compare(const cli::CommandLine& line)
@@ -136,17 +192,17 @@ int Compare(const cli::CommandLine& line)
         if (!QFileInfo(first).isDir())
             throw cli::Misuse{
                 QStringLiteral("expected a folder, or what to compare %1 with").arg(first)};
-        return shared::CompareFolder(line, first);
+        return CompareFolder(line, first);
     }
-    for (const cli::Option& option : shared::FolderOptions())
+    for (const cli::Option& option : FolderOptions())
         if (line.IsSet(option.name))
             throw cli::Misuse{QStringLiteral("--%1 is for a folder of scenes, the only word then")
                                   .arg(QLatin1String(option.name))};
     const QString second = line.Arguments().at(1);
     if (!IsRecording(second))
         return CompareWithScene(line, first, second, tolerance);
-    compare::Recording a = Open(first);
-    compare::Recording b = Open(second);
+    compare::Recording a = compare::ReadRecording(first);
+    compare::Recording b = compare::ReadRecording(second);
     compare::DropStops(&a, compare::Stops::AtEnd);
     compare::DropStops(&b, compare::Stops::AtEnd);
     files::FailUnless(a.hasCalls == b.hasCalls,
@@ -174,7 +230,7 @@ cli::Command CompareCommand()
         "(-: not compared), the renderer's state and, if it is known, the start of the "
         "background's SHA-1.",
         shared::WithShowOptions(
-            shared::FolderOptions() +
+            FolderOptions() +
             QVector<cli::Option>{
                 cli::Option::Time(
                     "tolerance", 0, 1e6,

@@ -1,5 +1,7 @@
 #include "compare/deskplay.h"
 
+#include "cli/interruption.h"
+#include "compare/difference.h"
 #include "player/callline.h"
 
 #include <QJsonDocument>
@@ -32,14 +34,12 @@ void CutTo(const Recording& recorded, Recording* desk)
 
 } // namespace
 
-bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
-                const std::function<bool()>& goOn, Recording* recorded, Recording* desk,
-                PicturePlace wanted, QImage* picture, QString* error)
+Recording PlayOnDesk(player::Player* player, uint seed, Recording* recorded,
+                     QMap<int, QImage>* differing)
 {
     DropStops(recorded, Stops::Anywhere);
-    if (!player->Load(scene, error))
-        return false;
-    desk->name = "the desktop";
+    Recording desk;
+    desk.name = "the desktop";
     int lastCall = 0; // its tick
     player->Scenery().WatchCalls([&](const Torv::CallRecord& call) {
         QImage shown;
@@ -47,31 +47,31 @@ bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
             shown = Torv::FrontImage(PicSession(call.result), 0);
         if (call.operation == Torv::OpSwapPicImageLayerPtr)
             shown = Torv::FrontImage(call.session, call.layer);
-        const QJsonObject line = QJsonDocument::fromJson(player::CallLine(call)).object();
-        desk->TakeCall(line, 0, player->Time(), QString::fromLatin1(player::Sha1Of(shown)));
+        QJsonObject line = QJsonDocument::fromJson(player::CallLine(call)).object();
+        line["ms"] = player->Time();
+        line["sha1"] = QString::fromLatin1(player::Sha1Of(shown));
+        const int session = desk.TakeCall(line, 0);
+        const QVector<RecordedCall>& calls = desk.sessions.at(session);
+        const RecordedCall known = recorded->sessions.value(session).value(calls.size() - 1);
+        if (AreKnownAndDiffer(known.sha1, calls.last().sha1) && !differing->contains(session))
+            differing->insert(session, shown);
         lastCall = player->Tick();
-        if (wanted.session >= 0 && picture->isNull() &&
-            desk->sessions.value(wanted.session).size() == wanted.call + 1)
-            *picture = shown;
     });
     const auto takeBackgrounds = [&] {
         for (int node = 0; node < player->NodeCount(); ++node)
-            desk->TakeBackground(node + 1, player->Time(),
-                                 QString::fromLatin1(player::Sha1Of(player->DazzlePicture(node))));
+            desk.TakeBackground(node + 1, player->Time(),
+                                QString::fromLatin1(player::Sha1Of(player->DazzlePicture(node))));
     };
     player->Start(seed);
     takeBackgrounds();
-    while (!IsAsLong(*desk, *recorded) && player->Tick() - lastCall < longestSilence) {
+    while (!IsAsLong(desk, *recorded) && player->Tick() - lastCall < longestSilence) {
         player->Advance();
         takeBackgrounds();
-        if (!goOn()) {
-            *error = "interrupted";
-            return false;
-        }
+        cli::StopIfInterrupted();
     }
     player->Scenery().WatchCalls(nullptr);
-    CutTo(*recorded, desk);
-    return true;
+    CutTo(*recorded, &desk);
+    return desk;
 }
 
 } // namespace AnimText::compare

@@ -9,25 +9,17 @@
 
 #include <QImage>
 
-#include <functional>
+#include <QMap>
 
 namespace AnimText::compare {
 
-/** A picture of a recording by its place there. */
-struct PicturePlace
-{
-    int session = -1;
-    int call = -1;
-};
-
 /**
- * Records what the plugin does with @p scene until there are as many calls as in @p recorded. The
- * calls with which a host ends a text are removed from @p recorded.
- * @param goOn    called at every tick; false stops
- * @param wanted  the place of a picture that @p picture is set to
+ * Records what the plugin does with the loaded scene until there are as many calls as in
+ * @p recorded. The calls with which a host ends a text are removed from @p recorded. Throws Failure
+ * after a signal.
+ * @param differing in each session, the first picture that is not the recorded one
  */
-bool PlayOnDesk(player::Player* player, const scene::Scene& scene, uint seed,
-                const std::function<bool()>& goOn, Recording* recorded, Recording* desk,
-                PicturePlace wanted, QImage* picture, QString* error);
+Recording PlayOnDesk(player::Player* player, uint seed, Recording* recorded,
+                     QMap<int, QImage>* differing);
 
 } // namespace AnimText::compare

@@ -19,11 +19,6 @@ QString Text(const QJsonValue& value)
     return QString::fromUtf8(list.mid(1, list.size() - 2));
 }
 
-bool AreKnownAndDiffer(const QString& sha1, const QString& other)
-{
-    return !sha1.isEmpty() && !other.isEmpty() && sha1 != other;
-}
-
 struct Comparison
 {
     const Recording& a;
@@ -125,6 +120,11 @@ struct Comparison
 };
 
 } // namespace
+
+bool AreKnownAndDiffer(const QString& sha1, const QString& other)
+{
+    return !sha1.isEmpty() && !other.isEmpty() && sha1 != other;
+}
 
 Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolerance)
 {

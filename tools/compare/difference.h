@@ -17,6 +17,9 @@ struct Difference
     qint64 ms = 0;          ///< its time in the recording that continues
 };
 
+/** Whether two digests differ; an empty one is not known. */
+bool AreKnownAndDiffer(const QString& sha1, const QString& other);
+
 /**
  * The earliest difference. Times count from each session's first call.
  * @param tolerance milliseconds by which times may differ; negative: times do not matter

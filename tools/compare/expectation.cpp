@@ -1,6 +1,7 @@
 #include "compare/expectation.h"
 
-#include <QFile>
+#include "files/failure.h"
+
 #include <QRegularExpression>
 
 namespace AnimText::compare {
@@ -21,33 +22,30 @@ bool SamePlay(const Ticks& a, const Ticks& b)
 
 } // namespace
 
-bool ReadExpectation(const QString& path, Expectation* expectation, QString* error)
+Expectation ReadExpectation(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
-        return false;
-    }
+    files::OpenToRead(&file);
     static const QRegularExpression form(
         "\\A(.*) (\\d+) ([01]) (\\d+) (\\d+) (-|[0-9a-f]{16}) ([012])(?: ([0-9a-f]{16}))?\\n?\\z");
+    Expectation expectation;
     for (int number = 1; !file.atEnd(); ++number) {
         const QRegularExpressionMatch line = form.match(QString::fromUtf8(file.readLine()));
-        if (!line.hasMatch()) {
-            *error = QStringLiteral("%1: line %2: expected scene, tick, 0 or 1, width, height, %3 "
-                                    "digits of the SHA-1 or -, state")
-                         .arg(path)
-                         .arg(number)
-                         .arg(digits);
-            return false;
-        }
+        if (!line.hasMatch())
+            throw files::Failure{files::BadInput,
+                                 QStringLiteral("%1: line %2: expected scene, tick, 0 or 1, width, "
+                                                "height, %3 digits of the SHA-1 or -, state")
+                                     .arg(path)
+                                     .arg(number)
+                                     .arg(digits)};
         const QByteArray sha1 = line.captured(6).toLatin1();
-        (*expectation)[line.captured(1)].append(
+        expectation[line.captured(1)].append(
             {line.captured(2).toInt(), line.captured(3) == QLatin1String("1"),
              QSize(line.captured(4).toInt(), line.captured(5).toInt()),
              sha1 == "-" ? QByteArray() : sha1, line.captured(7).toInt(),
              line.captured(8).toLatin1()});
     }
-    return true;
+    return expectation;
 }
 
 QByteArray ExpectationText(const Expectation& expectation)
@@ -80,7 +78,7 @@ void Tally::Add(const QString& scene, const scene::NodeMotion& motion, const Tic
                 const Ticks& shown)
 {
     Row& row = rows[{motion.mode, motion.number}];
-    row.motion = QLatin1String(motion.Row() ? motion.Row()->name : "no motion");
+    row.motion = motion.Row() ? motion.Row()->name : "no motion";
     ++row.scenes;
     int compared = 0, equal = 0;
     bool knowsBackground = false, sameBackground = true;
@@ -113,32 +111,22 @@ bool Tally::IsEqual() const
 
 QByteArray Tally::Table() const
 {
-    QString table;
-    const auto add = [&table](const QString& number, const QString& motion, const QString& scenes,
-                              const QString& pictures, const QString& equal, const QString& last) {
-        table += QStringLiteral("%1  %2%3%4%5%6\n")
-                     .arg(number, 2)
-                     .arg(motion, -36)
-                     .arg(scenes, 7)
-                     .arg(pictures, 10)
-                     .arg(equal, 9)
-                     .arg(last.isEmpty() ? last : "  " + last);
+    QString table = "    motion                               scenes  pictures    equal"
+                    "  first difference\n";
+    const auto add = [&table](const QString& number, const Row& row) {
+        table += QString::asprintf("%2s  %-36s%7d%10d%9d%s%s\n", qPrintable(number), row.motion,
+                                   row.scenes, row.pictures, row.equal,
+                                   row.firstDifference.isEmpty() ? "" : "  ",
+                                   qUtf8Printable(row.firstDifference));
     };
-    const auto addRow = [&add](const QString& number, const Row& row) {
-        add(number, row.motion, QString::number(row.scenes), QString::number(row.pictures),
-            QString::number(row.equal), row.firstDifference);
-    };
-    add(QString(), "motion", "scenes", "pictures", "equal", "first difference");
     Row all;
-    all.motion = "all";
     for (auto row = rows.begin(); row != rows.end(); ++row) {
-        addRow(QString::number(row.key().second), *row);
+        add(QString::number(row.key().second), *row);
         all.scenes += row->scenes;
         all.pictures += row->pictures;
         all.equal += row->equal;
     }
-    addRow(QString(), all);
-
+    add(QString(), all);
     table += QLatin1Char('\n');
     QString differences;
     for (const Aspect* aspect : {&ticks, &pictures, &backgrounds}) {

@@ -22,7 +22,8 @@ using Ticks = QVector<player::NodeTick>;
  */
 using Expectation = QMap<QString, Ticks>;
 
-bool ReadExpectation(const QString& path, Expectation* expectation, QString* error);
+/** Throws Failure. */
+Expectation ReadExpectation(const QString& path);
 QByteArray ExpectationText(const Expectation& expectation);
 
 /** Counts, motion by motion, how many pictures are as expected. */
@@ -38,7 +39,7 @@ public:
 private:
     struct Row
     {
-        QString motion;
+        const char* motion = "all";
         int scenes = 0, pictures = 0, equal = 0;
         QString firstDifference;
     };

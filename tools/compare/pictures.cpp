@@ -1,33 +1,27 @@
 #include "compare/pictures.h"
 
-#include <QFile>
+#include "files/failure.h"
 
 #include <cstdio>
 
 namespace AnimText::compare {
 
-bool ReadPam(const QString& path, QImage* picture, QString* error)
+QImage ReadPam(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
-        return false;
-    }
+    files::OpenToRead(&file);
     const QByteArray bytes = file.readAll();
     int width = 0, height = 0, depth = 0, pixels = 0;
     std::sscanf(bytes.constData(),
                 "P7 WIDTH %5d HEIGHT %5d DEPTH %1d MAXVAL 255 TUPLTYPE %*s ENDHDR%n", &width,
                 &height, &depth, &pixels);
     ++pixels; // behind the end of the line
-    if (width <= 0 || height <= 0 || (depth != 3 && depth != 4) ||
-        qint64(width) * height * depth != bytes.size() - pixels) {
-        *error = QStringLiteral("%1: expected a PAM picture of 24 or 32 bits").arg(path);
-        return false;
-    }
-    *picture = QImage(reinterpret_cast<const uchar*>(bytes.constData()) + pixels, width, height,
-                      width * depth, depth == 4 ? QImage::Format_RGBA8888 : QImage::Format_RGB888)
-                   .convertToFormat(QImage::Format_ARGB32);
-    return true;
+    files::FailUnless(width > 0 && height > 0 && (depth == 3 || depth == 4) &&
+                          qint64(width) * height * depth == bytes.size() - pixels,
+                      path + ": expected a PAM picture of 24 or 32 bits", files::BadInput);
+    return QImage(reinterpret_cast<const uchar*>(bytes.constData()) + pixels, width, height,
+                  width * depth, depth == 4 ? QImage::Format_RGBA8888 : QImage::Format_RGB888)
+        .convertToFormat(QImage::Format_ARGB32);
 }
 
 QImage DifferenceOf(const QImage& a, const QImage& b)

@@ -9,8 +9,8 @@
 
 namespace AnimText::compare {
 
-/** Reads a picture that librecord kept. On failure returns false and sets @p error to one line. */
-bool ReadPam(const QString& path, QImage* picture, QString* error);
+/** Reads a picture that librecord kept; throws Failure. */
+QImage ReadPam(const QString& path);
 
 /** Both pictures dimmed, with what only @p a has in red, and what only @p b has in green. */
 QImage DifferenceOf(const QImage& a, const QImage& b);

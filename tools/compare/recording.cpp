@@ -1,17 +1,12 @@
 #include "compare/recording.h"
 
-#include <QFile>
+#include "files/failure.h"
+
 #include <QJsonDocument>
 
 #include <algorithm>
 
 namespace AnimText::compare {
-
-namespace {
-
-constexpr int mostNodes = 10000; // of a scene; a damaged line may have any number
-
-} // namespace
 
 QVector<RecordedCall> Recording::All() const
 {
@@ -37,10 +32,11 @@ QVector<RecordedCall>& Recording::Session(int index)
 
 bool Recording::Take(const QByteArray& text, int number)
 {
+    constexpr int mostNodes = 10000; // of a scene; a damaged line may have any number
     const QJsonObject line = QJsonDocument::fromJson(text).object();
     const int node = line.value("node").toInt();
     if (line.contains("call"))
-        TakeCall(line, number, line.value("ms").toInt(-1), line.value("sha1").toString());
+        TakeCall(line, number);
     else if (line.contains("tick") && node >= 0 && node < mostNodes)
         TakeTick(line, number);
     else
@@ -48,18 +44,18 @@ bool Recording::Take(const QByteArray& text, int number)
     return true;
 }
 
-void Recording::TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1)
+int Recording::TakeCall(const QJsonObject& line, int number)
 {
     hasCalls = true;
     RecordedCall call;
     call.line = number;
-    call.ms = ms;
+    call.ms = qint64(line.value("ms").toDouble(-1));
     call.name = line.value("call").toString();
     call.details = line;
     for (const char* key :
          {"call", "session", "display", "ms", "w", "h", "sha1", "pixels", "problem"})
         call.details.remove(QLatin1String(key));
-    call.sha1 = sha1;
+    call.sha1 = line.value("sha1").toString();
     call.pixels = line.value("pixels").toInt(-1);
     const QJsonValue result = line.value("result");
     int index = 0;
@@ -71,6 +67,7 @@ void Recording::TakeCall(const QJsonObject& line, int number, qint64 ms, const Q
         index = indices.value(line.value("session").toDouble());
     }
     Session(index).append(call);
+    return index;
 }
 
 /** A trace's line of a tick belongs to the calls before it. */
@@ -133,29 +130,25 @@ void DropStops(Recording* recording, Stops which)
     }
 }
 
-bool ReadRecording(const QString& path, Recording* recording, QString* error)
+Recording ReadRecording(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
-        return false;
-    }
-    recording->name = path;
+    files::OpenToRead(&file);
+    Recording recording;
+    recording.name = path;
     for (int number = 1; !file.atEnd(); ++number) {
         const QByteArray line = file.readLine();
         // A device that was switched off may have left half a line.
-        if (!recording->Take(line, number) && line.endsWith('\n')) {
-            *error = QStringLiteral("%1: line %2: expected a call or a tick, as librecord and "
-                                    "animtext trace write them")
-                         .arg(path)
-                         .arg(number);
-            return false;
-        }
+        if (!recording.Take(line, number) && line.endsWith('\n'))
+            throw files::Failure{files::BadInput,
+                                 QStringLiteral("%1: line %2: expected a call or a tick, as "
+                                                "librecord and animtext trace write them")
+                                     .arg(path)
+                                     .arg(number)};
     }
-    if (!recording->All().isEmpty())
-        return true;
-    *error = QStringLiteral("%1: the recording is empty").arg(path);
-    return false;
+    files::FailUnless(!recording.All().isEmpty(), path + ": the recording is empty",
+                      files::BadInput);
+    return recording;
 }
 
 } // namespace AnimText::compare

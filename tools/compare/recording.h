@@ -39,8 +39,8 @@ struct Recording
 
     /** Adds a line of JSON. @return false if it is not from a recording */
     bool Take(const QByteArray& line, int number);
-    /** The same for a call, with what its line does not have. */
-    void TakeCall(const QJsonObject& line, int number, qint64 ms, const QString& sha1);
+    /** Adds a call. @return its session */
+    int TakeCall(const QJsonObject& line, int number);
     /** Adds the background's SHA-1 at the end of the tick at @p ms; empty without one. */
     void TakeBackground(int session, qint64 ms, const QString& sha1);
 
@@ -60,7 +60,7 @@ enum class Stops { AtEnd, Anywhere };
  */
 void DropStops(Recording* recording, Stops which);
 
-/** Reads the file @p path. On failure returns false and sets @p error to one line. */
-bool ReadRecording(const QString& path, Recording* recording, QString* error);
+/** Reads the file @p path; throws Failure. */
+Recording ReadRecording(const QString& path);
 
 } // namespace AnimText::compare

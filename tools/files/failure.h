@@ -4,6 +4,7 @@
  */
 #pragma once
 
+#include <QFile>
 #include <QString>
 
 namespace AnimText::files {
@@ -23,6 +24,15 @@ inline void FailUnless(bool succeeded, const QString& error, Status status = Fai
 {
     if (!succeeded)
         throw Failure{status, error};
+}
+
+/** Opens @p file to read it; throws Failure if that fails. */
+inline void OpenToRead(QFile* file)
+{
+    if (!file->open(QIODevice::ReadOnly))
+        throw Failure{
+            BadInput,
+            QStringLiteral("%1: cannot be read: %2").arg(file->fileName(), file->errorString())};
 }
 
 } // namespace AnimText::files
