@@ -7,22 +7,60 @@
 #include "scene/motion.h"
 #include "timing/playlength.h"
 
-#include <hneonnodebase.h>
-
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
 namespace AnimText::animtext {
 
 namespace {
 
-scene::Json ToJson(const timing::NodePlay& simulation)
+constexpr int speeds[] = {0, 4, 5, 9}; // of the table
+
+/** Those of a text. */
+struct Times
 {
-    return scene::Json::Object(
-        {{"animationTicks", simulation.animationTicks},
-         {"holdTicks", simulation.holdTicks},
-         {"finishedMs",
-          simulation.FinishedMs() < 0 ? scene::Json() : scene::Json(simulation.FinishedMs())}});
+    qint64 planned;                         ///< milliseconds
+    std::optional<timing::NodePlay> actual; ///< if it was played
+};
+
+/** Those of each text of @p scene, which is played if @p watch is not empty. */
+QVector<Times> Measure(const shared::Playing& playing, const scene::Scene& scene,
+                       const std::function<void(int tick)>& watch)
+{
+    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    QVector<Times> times;
+    for (qint64 planned : player->Durations())
+        times.append({planned, std::nullopt});
+    if (!watch)
+        return times;
+    cli::WatchForInterruption();
+    const auto goOn = [&](int tick) {
+        watch(tick);
+        cli::StopIfInterrupted();
+        return true;
+    };
+    QString error;
+    const auto plays = timing::Simulate(player.get(), scene, playing.Seed(), goOn, &error);
+    files::FailUnless(error.isEmpty(), error, files::BadInput);
+    for (int node = 0; node < plays.size(); ++node)
+        times[node].actual = plays.at(node);
+    return times;
+}
+
+/** @p line with @p times. */
+QByteArray JsonLine(scene::Json line, const Times& times)
+{
+    line.Add("duration", times.planned);
+    if (times.actual) {
+        const qint64 finished = times.actual->FinishedMs();
+        line.Add("simulated",
+                 scene::Json::Object(
+                     {{"animationTicks", times.actual->animationTicks},
+                      {"holdTicks", times.actual->holdTicks},
+                      {"finishedMs", finished < 0 ? scene::Json() : scene::Json(finished)}}));
+    }
+    return line.Text() + '\n';
 }
 
 QString Seconds(qint64 milliseconds)
@@ -37,22 +75,21 @@ QString Ticks(int number)
 
 QString Difference(qint64 planned, qint64 actual)
 {
-    const qint64 difference = actual - planned;
-    if (std::llabs(difference) <= player::tickLength)
+    const qint64 difference = std::llabs(actual - planned);
+    if (difference <= player::tickLength)
         return "Both times agree to within a tick.";
-    QString length = Seconds(std::llabs(difference));
+    QString length = Seconds(difference);
     if (planned > 0)
-        length += QString::asprintf(" (%.1f %%)",
-                                    100.0 * double(std::llabs(difference)) / double(planned));
-    return QString(difference > 0
+        length += QString::asprintf(" (%.1f %%)", 100.0 * double(difference) / double(planned));
+    return QString(actual > planned
                        ? "The sign cuts off the last %1."
                        : "The text ends %1 early and plays again until the planned time is over.")
         .arg(length);
 }
 
-QString InWords(qint64 planned, const timing::NodePlay& simulation)
+QString InWords(qint64 planned, const timing::NodePlay& actual)
 {
-    switch (simulation.ending) {
+    switch (actual.ending) {
     case timing::Ending::ScrollsOn:
         return "Actual: the text reports that it has finished when it starts; the device scrolls "
                "it until it is stopped.";
@@ -63,97 +100,34 @@ QString InWords(qint64 planned, const timing::NodePlay& simulation)
     case timing::Ending::Finishes: break;
     }
     return QStringLiteral("Actual:  %1 (%2 of animation, %3 of holds)\n%4")
-        .arg(Seconds(simulation.FinishedMs()), Ticks(simulation.animationTicks),
-             Ticks(simulation.holdTicks), Difference(planned, simulation.FinishedMs()));
-}
-
-QByteArray JsonLine(int node, int nodes, qint64 planned, const timing::NodePlay* simulation)
-{
-    scene::Json line = scene::Json::Object();
-    if (nodes > 1)
-        line.Add("node", node);
-    line.Add("duration", planned);
-    if (simulation)
-        line.Add("simulated", ToJson(*simulation));
-    return line.Text() + '\n';
-}
-
-QByteArray ToText(int node, int nodes, qint64 planned, const timing::NodePlay* simulation)
-{
-    QString text = nodes > 1 ? QStringLiteral("Node %1: ").arg(node) : QString();
-    text += QStringLiteral("planned: %1 (%2 ms)\n").arg(Seconds(planned)).arg(planned);
-    if (simulation)
-        text += InWords(planned, *simulation) + QLatin1Char('\n');
-    text[0] = text.at(0).toUpper();
-    return text.toUtf8();
-}
-
-QVector<timing::NodePlay> SimulateAll(player::Player* player, const scene::Scene& scene, uint seed)
-{
-    cli::Progress progress("simulating tick", 0);
-    cli::WatchForInterruption();
-    QString error;
-    const auto watch = [&](int tick) {
-        progress.Show(tick);
-        cli::StopIfInterrupted();
-        return true;
-    };
-    const QVector<timing::NodePlay> simulations =
-        timing::Simulate(player, scene, seed, watch, &error);
-    files::FailUnless(!simulations.isEmpty(), error, files::BadInput);
-    return simulations;
+        .arg(Seconds(actual.FinishedMs()), Ticks(actual.animationTicks), Ticks(actual.holdTicks),
+             Difference(planned, actual.FinishedMs()));
 }
 
 void PrintTimes(const cli::CommandLine& line, const shared::Playing& playing,
                 const scene::Scene& scene)
 {
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
-    const int nodes = player->NodeCount();
-    const QVector<qint64> planned = player->Durations();
-    QVector<timing::NodePlay> simulations;
+    cli::Progress progress("simulating tick", 0);
+    std::function<void(int)> watch;
     if (line.IsSet("simulate"))
-        simulations = SimulateAll(player.get(), scene, playing.Seed());
-    for (int node = 0; node < nodes; ++node) {
-        const timing::NodePlay* simulation =
-            simulations.isEmpty() ? nullptr : &simulations.at(node);
-        const auto print = line.IsSet("json") ? JsonLine : ToText;
-        cli::Print(print(node, nodes, planned.at(node), simulation));
+        watch = [&](int tick) { progress.Show(tick); };
+    const QVector<Times> all = Measure(playing, scene, watch);
+    progress.Wipe();
+    for (int node = 0; node < all.size(); ++node) {
+        const Times& times = all.at(node);
+        const bool isOne = all.size() == 1;
+        if (line.IsSet("json")) {
+            cli::Print(JsonLine(
+                isOne ? scene::Json::Object() : scene::Json::Object({{"node", node}}), times));
+            continue;
+        }
+        const QString name = isOne ? "Planned" : QStringLiteral("Node %1: planned").arg(node);
+        QString text =
+            QStringLiteral("%1: %2 (%3 ms)\n").arg(name, Seconds(times.planned)).arg(times.planned);
+        if (times.actual)
+            text += InWords(times.planned, *times.actual) + QLatin1Char('\n');
+        cli::Print(text.toUtf8());
     }
-}
-
-constexpr int speeds[] = {0, 4, 5, 9};
-
-struct Times
-{
-    qint64 planned = 0;
-    timing::NodePlay actual;
-};
-
-Times Measure(const shared::Playing& playing, scene::Scene scene, int effect, int speed)
-{
-    scene::SceneNode& node = scene.At({});
-    scene::SetMotion(&node, {scene::Mode::Entrance, effect});
-    node.attributes["AnimationSpeed"] = speed;
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
-    Times times;
-    times.planned = player->Scenery().Node(0)->Duration();
-    QString error;
-    const auto goOn = [](int) { return !cli::Interrupted(); };
-    times.actual = timing::Simulate(player.get(), scene, playing.Seed(), goOn, &error).value(0);
-    cli::StopIfInterrupted();
-    files::FailUnless(error.isEmpty(), error, files::BadInput);
-    return times;
-}
-
-QByteArray EffectLine(const scene::Motion& effect, int speed, const Times& times)
-{
-    return scene::Json::Object({{"effect", effect.number},
-                                {"name", effect.name},
-                                {"speed", speed},
-                                {"duration", times.planned},
-                                {"simulated", ToJson(times.actual)}})
-               .Text() +
-           '\n';
 }
 
 QString Cell(const QString& planned, const QString& actual, const QString& difference)
@@ -163,16 +137,14 @@ QString Cell(const QString& planned, const QString& actual, const QString& diffe
 
 QString Cell(const Times& times)
 {
+    const qint64 finished = times.actual->FinishedMs();
     const auto seconds = [](qint64 ms) { return QString::number(double(ms) / 1000, 'f', 1); };
-    if (times.actual.FinishedMs() < 0)
-        return Cell(seconds(times.planned), "-", "");
     QString difference;
-    if (times.planned > 0) {
-        const double ratio = double(times.actual.FinishedMs()) / double(times.planned) - 1;
-        const long percent = std::lround(100 * ratio);
+    if (finished >= 0 && times.planned > 0) {
+        const long percent = std::lround(100 * (double(finished) / double(times.planned) - 1));
         difference = QString::asprintf(percent == 0 ? "%ld%%" : "%+ld%%", percent);
     }
-    return Cell(seconds(times.planned), seconds(times.actual.FinishedMs()), difference);
+    return Cell(seconds(times.planned), finished < 0 ? "-" : seconds(finished), difference);
 }
 
 QString Heading()
@@ -180,11 +152,10 @@ QString Heading()
     QString speedLine(39, ' ');
     QString columnLine = QStringLiteral(" no  %1").arg("effect", -34);
     for (int speed : speeds) {
-        speedLine += QStringLiteral("  |%1").arg(QStringLiteral("speed %1").arg(speed), 9);
-        if (speed != speeds[std::size(speeds) - 1])
-            speedLine += QString(16, ' ');
+        speedLine += Cell(QStringLiteral("speed %1").arg(speed), "", "");
         columnLine += Cell("planned", "actual", "diff");
     }
+    speedLine.chop(16); // blanks
     return speedLine + '\n' + columnLine + '\n';
 }
 
@@ -200,14 +171,19 @@ void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool 
     if (!json)
         text = "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
     cli::Progress progress("simulating", scene::Effects().size() * qint64(std::size(speeds)));
-    cli::WatchForInterruption();
     qint64 done = 0;
     for (const scene::Motion& effect : scene::Effects()) {
+        scene::SetMotion(&only.At({}), {scene::Mode::Entrance, effect.number});
         if (!json)
             text += QStringLiteral("%1  %2").arg(effect.number, 3).arg(effect.name, -34);
         for (int speed : speeds) {
-            const Times times = Measure(playing, only, effect.number, speed);
-            text += json ? QString(EffectLine(effect, speed, times)) : Cell(times);
+            only.At({}).attributes["AnimationSpeed"] = speed;
+            const Times times = Measure(playing, only, [](int) {}).first();
+            text += json ? QString(JsonLine(scene::Json::Object({{"effect", effect.number},
+                                                                 {"name", effect.name},
+                                                                 {"speed", speed}}),
+                                            times))
+                         : Cell(times);
             progress.Show(++done);
         }
         if (!json)
