@@ -68,11 +68,6 @@ QString Seconds(qint64 milliseconds)
     return QStringLiteral("%1 s").arg(double(milliseconds) / 1000, 0, 'f', 2);
 }
 
-QString Ticks(int number)
-{
-    return QStringLiteral("%1 tick%2").arg(number).arg(number == 1 ? "" : "s");
-}
-
 QString Difference(qint64 planned, qint64 actual)
 {
     const qint64 difference = std::llabs(actual - planned);
@@ -100,8 +95,8 @@ QString InWords(qint64 planned, const timing::NodePlay& actual)
     case timing::Ending::Finishes: break;
     }
     return QStringLiteral("Actual:  %1 (%2 of animation, %3 of holds)\n%4")
-        .arg(Seconds(actual.FinishedMs()), Ticks(actual.animationTicks), Ticks(actual.holdTicks),
-             Difference(planned, actual.FinishedMs()));
+        .arg(Seconds(actual.FinishedMs()), scene::Counted(actual.animationTicks, "tick"),
+             scene::Counted(actual.holdTicks, "tick"), Difference(planned, actual.FinishedMs()));
 }
 
 void PrintTimes(const cli::CommandLine& line, const shared::Playing& playing,

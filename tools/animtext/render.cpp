@@ -117,7 +117,7 @@ QString Summary(const QString& output, const film::FilmKind& kind, const film::W
     if (!kind.Has(film::FilmKind::Still)) {
         facts +=
             QStringLiteral("%1 s").arg(double(film.frames) * player::tickLength / 1000, 0, 'f', 1);
-        facts += QStringLiteral("%1 frame%2").arg(film.frames).arg(film.frames == 1 ? "" : "s");
+        facts += scene::Counted(film.frames, "frame");
     }
     facts += QLocale::c().formattedDataSize(film.bytes, 1, QLocale::DataSizeSIFormat);
     return QStringLiteral("Wrote %1: %2\n").arg(output, facts.join(", "));

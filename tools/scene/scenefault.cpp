@@ -17,4 +17,9 @@ QString AndMore(int others)
     return others == 0 ? QString() : QStringLiteral(" and %1 more like it").arg(others);
 }
 
+QString Counted(int count, const QString& noun)
+{
+    return QStringLiteral("%1 %2%3").arg(count).arg(noun, count == 1 ? "" : "s");
+}
+
 } // namespace AnimText::scene

@@ -23,4 +23,7 @@ struct SceneFault
 /** " and 2 more like it", or nothing for 0. */
 QString AndMore(int others);
 
+/** "1 row", "2 rows". */
+QString Counted(int count, const QString& noun);
+
 } // namespace AnimText::scene

@@ -83,14 +83,13 @@ DataFile LookIntoPathFile(const QString& path)
         file.isEmpty.append(outline.isEmpty());
         file.ink.append(outline.boundingRect());
     }
-    file.entries = file.isEmpty.size();
     for (const GlyphDataFault& fault : OutlineFaults(bytes)) {
         if (fault.LeavesNothing()) {
             file.fault = InWords(fault);
             file.badOutlines.clear();
         } else {
             file.badOutlines.append({fault.outline, InWords(fault)});
-            if (fault.outline < file.entries)
+            if (fault.outline < file.isEmpty.size())
                 file.isEmpty[fault.outline] = false;
         }
     }
@@ -104,7 +103,6 @@ DataFile LookIntoDescentFile(const QString& path)
     if (file.fault.isEmpty()) {
         file.fault = InWords(DescentFault(bytes));
         file.descents = DescentsFrom(bytes);
-        file.entries = file.descents.size();
     }
     return file;
 }

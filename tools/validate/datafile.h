@@ -22,7 +22,6 @@ struct BadOutline
 struct DataFile
 {
     QString fault;         ///< why the sign reads nothing from it; empty when it can be read
-    int entries = 0;       ///< how many outlines or descents
     QVector<bool> isEmpty; ///< for outlines, by index: valid, and nothing to see
     QVector<QRectF> ink;   ///< what outlines cover, relative to their baselines; by index
     QVector<int> descents; ///< for descents, by index

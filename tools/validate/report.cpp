@@ -16,8 +16,7 @@ QString Name(Severity severity)
 
 QString Counted(const Report& report, Severity severity)
 {
-    const int count = Count(report.findings, severity);
-    return QStringLiteral("%1 %2%3").arg(count).arg(Name(severity), count == 1 ? "" : "s");
+    return scene::Counted(Count(report.findings, severity), Name(severity));
 }
 
 QJsonObject AsJson(const Report& report)
@@ -39,6 +38,14 @@ QJsonObject AsJson(const Report& report)
 }
 
 } // namespace
+
+QString Finding::Line() const
+{
+    const Rule& rule = GetRule();
+    const QString at = place.isEmpty() ? QString() : " at " + place;
+    return QStringLiteral("%1%2: found %3, expected %4. %5")
+        .arg(QLatin1String(rule.code), at, found, expected, QLatin1String(rule.why));
+}
 
 int Count(const QList<Finding>& findings, Severity severity)
 {
