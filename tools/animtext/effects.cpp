@@ -55,9 +55,8 @@ int ListEffects(const cli::CommandLine& line)
     const QString search = line.Arguments().join(QLatin1Char(' '));
     const QList<scene::Motion> effects = Found(scene::Effects(), search);
     const QList<scene::Motion> scrolls = Found(scene::Scrolls(), search);
-    if (effects.isEmpty() && scrolls.isEmpty())
-        throw files::Failure{files::FailedRun,
-                             QStringLiteral("no motion matches \"%1\"").arg(search)};
+    files::FailUnless(!effects.isEmpty() || !scrolls.isEmpty(),
+                      QStringLiteral("no motion matches \"%1\"").arg(search));
     if (line.IsSet("json")) {
         cli::Print(
             QJsonDocument({{"effects", ToJson(effects)}, {"scrolls", ToJson(scrolls)}}).toJson());

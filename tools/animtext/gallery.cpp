@@ -52,8 +52,7 @@ int MakeGallery(const cli::CommandLine& line)
     typed.words = line.Value("text");
     QString error;
     QStringList notes;
-    if (!author::ReadText(typed, &options.text, &notes, &error))
-        throw cli::Misuse{error};
+    cli::RefuseIf(!author::ReadText(typed, &options.text, &notes, &error), error);
     for (const QString& note : notes)
         cli::Warn(note);
     const shared::Playing playing(line);

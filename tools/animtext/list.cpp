@@ -74,8 +74,8 @@ int List(const cli::CommandLine& line)
     const QString path = line.Arguments().first();
     scene::Scene scene;
     QString error;
-    if (!scene::ReadScene(path, &scene, &error, scene::MissingFiles::AreAccepted))
-        throw files::Failure{files::BadInput, error};
+    files::FailUnless(scene::ReadScene(path, &scene, &error, scene::MissingFiles::AreAccepted),
+                      error, files::BadInput);
     cli::Print(line.IsSet("json") ? AsJson(scene) : AsText(scene));
     return files::Done;
 }

@@ -56,9 +56,8 @@ int Help(const cli::CommandLine& line)
 int Complete(const cli::CommandLine& line)
 {
     const QString shell = line.Arguments().first();
-    if (!shells.contains(shell))
-        throw cli::Misuse{
-            QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
+    cli::RefuseIf(!shells.contains(shell),
+                  QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell));
     cli::Print(shell == "bash"  ? cli::CompletionForBash(Commands())
                : shell == "zsh" ? cli::CompletionForZsh(Commands())
                                 : cli::CompletionForFish(Commands()));
@@ -110,8 +109,7 @@ const QVector<cli::Command>& Commands()
 
 int Run(QString name, const QStringList& words)
 {
-    if (name.isEmpty())
-        throw cli::Misuse{"expected a command"};
+    cli::RefuseIf(name.isEmpty(), "expected a command");
     if (name == QLatin1String("--version")) {
         cli::Print("animtext " ANIMTEXT_VERSION "\n");
         return files::Done;

@@ -39,30 +39,21 @@ void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
     const bool leds = line.IsSet("leds");
     const auto frames = line.Get<QPair<int, int>>("frames");
     const bool isOne = line.IsSet("at") || (line.IsSet("frames") && frames.first == frames.second);
-    const struct
-    {
-        bool isWrong;
-        QString why;
-    } checks[] = {
-        {transparent && line.IsSet("background"),
-         "--transparent and --background cannot be combined"},
-        {transparent && leds,
-         "--transparent and --leds cannot be combined; LEDs are drawn on black"},
-        {leds && line.IsSet("scale") && line.Get<int>("scale") < film::smallestLamp,
-         "--leds needs a --scale of at least 4"},
-        {transparent && !kind.Has(film::FilmKind::Transparent), films + " cannot be transparent"},
-        {lossless && !kind.Has(film::FilmKind::Lossless),
-         films + " lose colors; use .apng, .webp or .mp4"},
-        {lossless && transparent && !kind.Has(film::FilmKind::LosslessAlpha),
-         "transparent " + films + " lose colors; use .apng or .webp"},
-        {line.IsSet("at") && line.IsSet("frames"), "--at and --frames cannot be combined"},
-        {kind.Has(film::FilmKind::Still) && !isOne,
-         "a PNG is one picture; choose it with --at or --frames"},
-    };
-    for (const auto& check : checks) {
-        if (check.isWrong)
-            throw cli::Misuse{check.why};
-    }
+    cli::RefuseIf(transparent && line.IsSet("background"),
+                  "--transparent and --background cannot be combined");
+    cli::RefuseIf(transparent && leds,
+                  "--transparent and --leds cannot be combined; LEDs are drawn on black");
+    cli::RefuseIf(leds && line.IsSet("scale") && line.Get<int>("scale") < film::smallestLamp,
+                  "--leds needs a --scale of at least 4");
+    cli::RefuseIf(transparent && !kind.Has(film::FilmKind::Transparent),
+                  films + " cannot be transparent");
+    cli::RefuseIf(lossless && !kind.Has(film::FilmKind::Lossless),
+                  films + " lose colors; use .apng, .webp or .mp4");
+    cli::RefuseIf(lossless && transparent && !kind.Has(film::FilmKind::LosslessAlpha),
+                  "transparent " + films + " lose colors; use .apng or .webp");
+    cli::RefuseIf(line.IsSet("at") && line.IsSet("frames"), "--at and --frames cannot be combined");
+    cli::RefuseIf(kind.Has(film::FilmKind::Still) && !isOne,
+                  "a PNG is one picture; choose it with --at or --frames");
 }
 
 film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKind& kind, uint seed)
@@ -96,12 +87,11 @@ QPair<int, int> RangeFor(const cli::CommandLine& line, int frames)
         const int tick = int(line.Get<double>("at") / player::tickLength + 1e-6);
         range = {tick, tick};
     }
-    if (range.second >= frames)
-        throw cli::Misuse{
-            QStringLiteral("the film has no picture %3; it has 0 to %1 and ends after %2 s")
-                .arg(frames - 1)
-                .arg(double(frames) * player::tickLength / 1000)
-                .arg(range.second)};
+    cli::RefuseIf(range.second >= frames,
+                  QStringLiteral("the film has no picture %3; it has 0 to %1 and ends after %2 s")
+                      .arg(frames - 1)
+                      .arg(double(frames) * player::tickLength / 1000)
+                      .arg(range.second));
     return range;
 }
 

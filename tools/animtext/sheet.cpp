@@ -56,9 +56,8 @@ film::SheetRow RowOf(const shared::Playing& playing, const scene::Scene& scene, 
 int DrawSheet(const cli::CommandLine& line)
 {
     const QString output = line.Value("output");
-    if (output != QLatin1String("-") &&
-        !output.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        throw cli::Misuse{QStringLiteral("%1: expected a name that ends with .png").arg(output)};
+    cli::RefuseIf(output != "-" && !output.endsWith(".png", Qt::CaseInsensitive),
+                  output + ": expected a name that ends with .png");
     QVector<scene::Scene> scenes;
     for (const QString& path : line.Arguments())
         scenes.append(shared::OpenPlayableScene(line, path));

@@ -35,10 +35,9 @@ QList<Job> PlanJobs(const cli::CommandLine& line, const QString& ending)
     QMap<QString, QString> sceneOf;
     for (const QString& scene : line.Arguments()) {
         const QString name = QFileInfo(scene).completeBaseName() + ending;
-        if (sceneOf.contains(name))
-            throw cli::Misuse{
-                QStringLiteral("%1 and %2 would both become %3; render them into two folders")
-                    .arg(sceneOf.value(name), scene, name)};
+        cli::RefuseIf(sceneOf.contains(name),
+                      QStringLiteral("%1 and %2 would both become %3; render them into two folders")
+                          .arg(sceneOf.value(name), scene, name));
         sceneOf.insert(name, scene);
         jobs.append({scene, folder.filePath(name)});
     }

@@ -9,11 +9,9 @@ namespace AnimText::animtext::shared {
 
 void EndSaving(author::Storing storing, const author::Stored& stored, const QString& error)
 {
-    if (storing == author::Storing::Misread)
-        throw cli::Misuse{error};
-    if (storing != author::Storing::Saved)
-        throw files::Failure{
-            storing == author::Storing::Refused ? files::BadInput : files::FailedRun, error};
+    cli::RefuseIf(storing == author::Storing::Misread, error);
+    files::FailUnless(storing == author::Storing::Saved, error,
+                      storing == author::Storing::Refused ? files::BadInput : files::FailedRun);
     if (!stored.doubt.isEmpty())
         cli::Warn("kept old data files: " + stored.doubt);
 }
@@ -21,8 +19,7 @@ void EndSaving(author::Storing storing, const author::Stored& stored, const QStr
 QPair<scene::Scene, scene::Place> ChangeText(const cli::CommandLine& line, const TextChange& change)
 {
     const QString path = line.Arguments().at(0);
-    if (!QFileInfo::exists(path))
-        throw files::Failure{files::BadInput, path + ": no such file"};
+    files::FailUnless(QFileInfo::exists(path), path + ": no such file", files::BadInput);
     QString error;
     author::Stored stored;
     scene::Place place;
