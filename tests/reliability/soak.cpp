@@ -106,8 +106,7 @@ void Soak::PlayTurn(player::Player* player)
 void Soak::Run()
 {
     Torv::ResetAccounts();
-    cli::Progress progress(QStringLiteral("soaking, minutes"),
-                           ticksWanted * player::tickLength / 60000);
+    cli::Progress progress;
     while (ticks < ticksWanted && !cli::Interrupted()) {
         {
             player::Player player(player::VirtualDispatcher::Current(), TestSign::Plugin());
@@ -123,7 +122,8 @@ void Soak::Run()
         memoryAtEnd = ResidentMemory();
         if (memoryAtHour < 0 && double(ticks) >= ticksPerHour)
             memoryAtHour = memoryAtEnd;
-        progress.Show(ticks * player::tickLength / 60000);
+        progress.Show("soaking, minutes", ticks * player::tickLength / 60000,
+                      ticksWanted * player::tickLength / 60000);
     }
 }
 

@@ -99,8 +99,7 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
     const QImage desk = differing.value(difference.session);
     const QImage device = compare::ReadPam(QStringLiteral("%1-%2.pam").arg(log).arg(number));
     const QDir folder(line.IsSet("output") ? line.Value("output") : QFileInfo(log).path());
-    QString error;
-    files::FailUnless(files::MakeFolder(folder.path(), &error), error);
+    files::MakeFolder(folder.path());
     const QString base = folder.filePath(QFileInfo(log).completeBaseName());
     Keep(device, base + "-device.png");
     Keep(desk, base + "-desk.png");
@@ -158,7 +157,7 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
 
     cli::WatchForInterruption();
     const shared::Playing playing(line);
-    cli::Progress progress("playing, scenes", expected.size());
+    cli::Progress progress;
     compare::Tally tally;
     int played = 0, ticks = 0;
     for (auto scene = expected.begin(); scene != expected.end(); ++scene) {
@@ -171,7 +170,7 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
         else
             tally.Add(scene.key(), FirstMotion(opened), *scene, shown);
         ticks += shown.size();
-        progress.Show(++played);
+        progress.Show("playing, scenes", ++played, expected.size());
     }
     if (!records) {
         cli::Print(tally.Table());

@@ -102,10 +102,10 @@ QString InWords(qint64 planned, const timing::NodePlay& actual)
 void PrintTimes(const cli::CommandLine& line, const shared::Playing& playing,
                 const scene::Scene& scene)
 {
-    cli::Progress progress("simulating tick", 0);
+    cli::Progress progress;
     std::function<void(int)> watch;
     if (line.IsSet("simulate"))
-        watch = [&](int tick) { progress.Show(tick); };
+        watch = [&](int tick) { progress.Show("simulating tick", tick); };
     const QVector<Times> all = Measure(playing, scene, watch);
     progress.Wipe();
     for (int node = 0; node < all.size(); ++node) {
@@ -165,7 +165,8 @@ void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool 
     QString text;
     if (!json)
         text = "Times in seconds: planned, actual, and their difference.\n\n" + Heading();
-    cli::Progress progress("simulating", scene::Effects().size() * qint64(std::size(speeds)));
+    cli::Progress progress;
+    const qint64 all = scene::Effects().size() * qint64(std::size(speeds));
     qint64 done = 0;
     for (const scene::Motion& effect : scene::Effects()) {
         scene::SetMotion(&only.At({}), {scene::Mode::Entrance, effect.number});
@@ -179,7 +180,7 @@ void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool 
                                                                  {"speed", speed}}),
                                             times))
                          : Cell(times);
-            progress.Show(++done);
+            progress.Show("simulating", ++done, all);
         }
         if (!json)
             text += '\n';

@@ -61,15 +61,13 @@ int MakeGallery(const cli::CommandLine& line)
     cli::WatchForInterruption();
     qint64 bytes = 0;
     player::Player player(player::VirtualDispatcher::Current(), playing.Plugin());
-    std::unique_ptr<cli::Progress> progress;
+    cli::Progress progress;
     const auto watch = [&](int done, int all) {
-        if (!progress)
-            progress = std::make_unique<cli::Progress>("playing", all);
-        progress->Show(done);
+        progress.Show("playing", done, all);
         return !cli::Interrupted();
     };
     const bool written = gallery::WriteGallery(options, &player, watch, &bytes, &error);
-    progress.reset();
+    progress.Wipe();
     cli::StopIfInterrupted();
     files::FailUnless(written, error);
     cli::Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")

@@ -120,23 +120,16 @@ void RenderOne(const cli::CommandLine& line, const QString& output)
     const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
     const shared::Playing playing(line);
     const std::unique_ptr<player::Player> player = playing.Load(scene);
-    std::unique_ptr<cli::Progress> progress; // of a stage
-    film::FilmStage current = film::FilmStage::End;
+    cli::Progress progress(FormOf(line));
     const film::FilmWatch watch = [&](film::FilmStage stage, qint64 done, qint64 total) {
         static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
-        if (!progress || stage != current) {
-            progress.reset(); // erases its bar before the next one
-            progress = std::make_unique<cli::Progress>(QLatin1String(names[int(stage)]), total,
-                                                       FormOf(line));
-        }
-        current = stage;
-        progress->Show(done);
+        progress.Show(names[int(stage)], done, total);
         cli::StopIfInterrupted();
     };
     film::Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()), watch);
     const film::WrittenFilm written = film::WriteFilm(&film, RangeFor(line, film.FrameCount()),
                                                       output, line.IsSet("lossless"), watch);
-    progress.reset();
+    progress.Wipe();
     if (written.halvesColors)
         cli::Warn(
             QStringLiteral("%1: such a film stores colors at half the resolution (4:2:0), which "

@@ -65,13 +65,12 @@ int DrawSheet(const cli::CommandLine& line)
 
     cli::WatchForInterruption();
     QVector<film::SheetRow> rows;
-    {
-        cli::Progress progress("playing scene", scenes.size());
-        for (int i = 0; i < scenes.size(); ++i) {
-            rows.append(RowOf(playing, scenes.at(i), line.Get<int>("columns")));
-            progress.Show(i + 1);
-        }
+    cli::Progress progress;
+    for (const scene::Scene& scene : scenes) {
+        rows.append(RowOf(playing, scene, line.Get<int>("columns")));
+        progress.Show("playing scene", rows.size(), scenes.size());
     }
+    progress.Wipe();
     const QByteArray png = film::PngOf(film::DrawContactSheet(rows), false);
     if (output == QLatin1String("-"))
         cli::Print(png);

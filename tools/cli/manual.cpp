@@ -136,8 +136,7 @@ void WriteManual(const QVector<Command>& commands, const QString& folder)
         QString error;
         files::FailUnless(files::WriteWhole(path, page, &error), error);
     };
-    QString error;
-    files::FailUnless(files::MakeFolder(folder, &error), error);
+    files::MakeFolder(folder);
     write("animtext", ManualOverview(commands));
     for (const Command& command : commands)
         write(PageName(command), ManualPage(command));

@@ -18,10 +18,8 @@ constexpr int redrawTime = 100; // milliseconds from one drawing to the next
 
 } // namespace
 
-Progress::Progress(const QString& what, qint64 total, Form form)
-    : what(what)
-    , total(total)
-    , form(form)
+Progress::Progress(Form form)
+    : form(form)
     , terminal(isatty(STDERR_FILENO) == 1)
 {
     sinceStart.start();
@@ -34,36 +32,39 @@ Progress::~Progress()
 
 void Progress::Wipe()
 {
-    if (drawn)
+    if (form == Form::Bar && !shown.isEmpty())
         std::fputs("\r\033[K", stderr);
-    drawn = false;
-    lastDone = -1;
+    shown.clear();
 }
 
-void Progress::Show(qint64 done)
+void Progress::Show(const QString& what, qint64 done, qint64 total)
 {
     const qint64 now = sinceStart.elapsed();
     const bool isSeen = form == Form::Lines || (terminal && now >= quietTime);
-    if (!isSeen || done == lastDone || (now - lastDrawn < redrawTime && done != total))
+    if (!isSeen || (now - lastDrawn < redrawTime && done != total))
+        return;
+    QString text = QStringLiteral("%1 %2 %3\n").arg(done).arg(total).arg(what);
+    if (form == Form::Bar && total > 0) {
+        const int filled = int(barWidth * qMin(done, total) / total);
+        text = QStringLiteral("%1 %2%3 %4 of %5")
+                   .arg(what, QString(filled, QChar(0x2588)),
+                        QString(barWidth - filled, QChar(0x2591)))
+                   .arg(done)
+                   .arg(total);
+    } else if (form == Form::Bar) {
+        text = QStringLiteral("%1 %2").arg(what).arg(done);
+    }
+    if (text == shown)
         return;
     lastDrawn = now;
-    lastDone = done;
+    shown = text;
     if (form == Form::Lines) {
-        Print(QStringLiteral("%1 %2 %3\n").arg(done).arg(total).arg(what).toUtf8());
+        Print(text.toUtf8());
         FlushOutput();
-        return;
-    }
-    drawn = true;
-    QString text = what + QLatin1Char(' ');
-    if (total > 0) {
-        const int filled = int(barWidth * qMin(done, total) / total);
-        text += QString(filled, QChar(0x2588)) + QString(barWidth - filled, QChar(0x2591)) +
-                QStringLiteral(" %1 of %2").arg(done).arg(total);
     } else {
-        text += QString::number(done);
+        std::fprintf(stderr, "\r\033[K%s", text.toUtf8().constData());
+        std::fflush(stderr);
     }
-    std::fprintf(stderr, "\r\033[K%s", text.toUtf8().constData());
-    std::fflush(stderr);
 }
 
 } // namespace AnimText::cli

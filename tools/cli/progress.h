@@ -18,27 +18,27 @@ class Progress
 public:
     enum class Form { Bar, Lines };
 
-    /** @param what the work, such as "rendering"; @param total steps, or 0 if unknown */
-    Progress(const QString& what, qint64 total, Form form = Form::Bar);
+    explicit Progress(Form form = Form::Bar);
     /** Erases the bar. */
     ~Progress();
 
-    /** Throws Failure if nobody reads the lines. */
-    void Show(qint64 done);
+    /**
+     * Throws Failure if nobody reads the lines.
+     * @param what the work, such as "rendering"
+     * @param total steps, or 0 if unknown
+     */
+    void Show(const QString& what, qint64 done, qint64 total = 0);
     /** Erases the bar so that other text can be printed; the next Show() draws it again. */
     void Wipe();
 
 private:
     Q_DISABLE_COPY(Progress)
 
-    QString what;
-    qint64 total;
     QElapsedTimer sinceStart;
     qint64 lastDrawn = 0;
-    qint64 lastDone = -1;
+    QString shown;
     Form form;
     bool terminal;
-    bool drawn = false;
 };
 
 } // namespace AnimText::cli

@@ -1,5 +1,7 @@
 #include "files/wholefile.h"
 
+#include "files/failure.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -115,16 +117,14 @@ QString UnfinishedName(const QString& path)
     return info.absolutePath() + "/." + Shortened(info.fileName(), room) + end;
 }
 
-bool MakeFolder(const QString& path, QString* error)
+void MakeFolder(const QString& path)
 {
     // QDir::mkpath() does not report the reason.
     std::error_code problem;
     std::filesystem::create_directories(QFile::encodeName(QDir::cleanPath(path)).toStdString(),
                                         problem);
-    if (problem)
-        *error = QStringLiteral("cannot create the folder %1: %2")
-                     .arg(path, QString::fromLocal8Bit(problem.message().c_str()));
-    return !problem;
+    FailUnless(!problem, QStringLiteral("cannot create the folder %1: %2")
+                             .arg(path, QString::fromLocal8Bit(problem.message().c_str())));
 }
 
 QString TemporaryName()

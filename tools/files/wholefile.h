@@ -45,8 +45,8 @@ QString SystemError();
 /** "PATH cannot be written: PROBLEM" */
 QString CannotWrite(const QString& path, const QString& problem);
 
-/** Makes the folder @p path and its parents; false, with one line in @p error, on failure. */
-bool MakeFolder(const QString& path, QString* error);
+/** Makes the folder @p path and its parents; throws Failure. */
+void MakeFolder(const QString& path);
 
 /** A template for a QTemporaryDir in TMPDIR, or in /tmp where that is not set. */
 QString TemporaryName();

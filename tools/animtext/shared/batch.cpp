@@ -11,11 +11,11 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QProcess>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
 #include <memory>
-#include <thread>
 #include <vector>
 
 namespace AnimText::animtext::shared {
@@ -27,22 +27,6 @@ struct Job
     QString scene;
     QString film;
 };
-
-QList<Job> PlanJobs(const cli::CommandLine& line, const QString& ending)
-{
-    const QDir folder(line.Value("output"));
-    QList<Job> jobs;
-    QMap<QString, QString> sceneOf;
-    for (const QString& scene : line.Arguments()) {
-        const QString name = QFileInfo(scene).completeBaseName() + ending;
-        cli::RefuseIf(sceneOf.contains(name),
-                      QStringLiteral("%1 and %2 would both become %3; render them into two folders")
-                          .arg(sceneOf.value(name), scene, name));
-        sceneOf.insert(name, scene);
-        jobs.append({scene, folder.filePath(name)});
-    }
-    return jobs;
-}
 
 /** Whether the film is younger than everything that it is made from. */
 bool IsDone(const Job& job, const QString& plugin)
@@ -60,6 +44,26 @@ bool IsDone(const Job& job, const QString& plugin)
     return std::all_of(inputs.begin(), inputs.end(), [&](const QString& input) {
         return QFileInfo(input).lastModified() < film.lastModified();
     });
+}
+
+/** Throws Misuse when two films would have one name. */
+QList<Job> PlanJobs(const cli::CommandLine& line, const QString& ending)
+{
+    const QDir folder(line.Value("output"));
+    const QString plugin = player::PluginPath(line.Value("plugin"));
+    QList<Job> jobs;
+    QMap<QString, QString> sceneOf;
+    for (const QString& scene : line.Arguments()) {
+        const QString name = QFileInfo(scene).completeBaseName() + ending;
+        cli::RefuseIf(sceneOf.contains(name),
+                      QStringLiteral("%1 and %2 would both become %3; render them into two folders")
+                          .arg(sceneOf.value(name), scene, name));
+        sceneOf.insert(name, scene);
+        const Job job{scene, folder.filePath(name)};
+        if (!line.IsSet("resume") || !IsDone(job, plugin))
+            jobs.append(job);
+    }
+    return jobs;
 }
 
 /** Starts without the terminal, so that one Ctrl+C reaches it once: from here. */
@@ -90,7 +94,7 @@ bool Succeeded(QProcess* renderer)
 int RunJobs(QList<Job> jobs, int most, const QStringList& options, cli::Progress::Form form)
 {
     constexpr int glance = 20; // milliseconds
-    cli::Progress progress("rendering scene", jobs.size(), form);
+    cli::Progress progress(form);
     const int all = jobs.size();
     int failed = 0;
     std::vector<std::unique_ptr<QProcess>> running;
@@ -111,7 +115,7 @@ int RunJobs(QList<Job> jobs, int most, const QStringList& options, cli::Progress
             failed += Succeeded(running[i].get()) ? 0 : 1;
             running.erase(running.begin() + ptrdiff_t(i));
         }
-        progress.Show(all - jobs.size() - int(running.size()));
+        progress.Show("rendering scene", all - jobs.size() - int(running.size()), all);
     }
     return failed;
 }
@@ -121,16 +125,9 @@ int RunJobs(QList<Job> jobs, int most, const QStringList& options, cli::Progress
 void RenderAll(const cli::CommandLine& line, const QString& ending, const QStringList& options,
                cli::Progress::Form form)
 {
-    QList<Job> jobs = PlanJobs(line, ending);
-    QString error;
-    files::FailUnless(files::MakeFolder(line.Value("output"), &error), error);
-    if (line.IsSet("resume")) {
-        const QString plugin = player::PluginPath(line.Value("plugin"));
-        const auto isDone = [&](const Job& job) { return IsDone(job, plugin); };
-        jobs.erase(std::remove_if(jobs.begin(), jobs.end(), isDone), jobs.end());
-    }
-    const int most = line.IsSet("jobs") ? line.Get<int>("jobs")
-                                        : int(std::max(1U, std::thread::hardware_concurrency()));
+    const QList<Job> jobs = PlanJobs(line, ending);
+    files::MakeFolder(line.Value("output"));
+    const int most = line.IsSet("jobs") ? line.Get<int>("jobs") : QThread::idealThreadCount();
     const int failed = RunJobs(jobs, most, options, form);
     files::FailUnless(failed == 0, QStringLiteral("%1 of %2 scenes were not rendered")
                                        .arg(failed)
