@@ -9,8 +9,8 @@
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
-#include <deque>
 #include <fstream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -48,13 +48,12 @@ namespace {
 
 struct Library
 {
-    std::string name;
     uint64_t executed = 0; // since the program began; translated code adds to it
     uint64_t before = 0;   // the same when the frame began
     uint64_t inFrames = 0;
 };
 
-std::deque<Library> libraries; // a deque: translated code keeps their addresses
+std::map<std::string, Library> libraries; // whose addresses translated code keeps
 std::string beginName, endName;
 bool inFrame = false;
 uint64_t frames = 0, most = 0;
@@ -66,16 +65,6 @@ struct Mapping
 };
 
 std::vector<Mapping> mappings; // those seen: reading the whole list for every block takes seconds
-
-Library* LibraryNamed(const std::string& name)
-{
-    for (Library& library : libraries)
-        if (library.name == name)
-            return &library;
-    libraries.emplace_back();
-    libraries.back().name = name;
-    return &libraries.back();
-}
 
 Library* LibraryAt(uintptr_t address)
 {
@@ -90,10 +79,10 @@ Library* LibraryAt(uintptr_t address)
             std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR, &first, &end) != 2 ||
             address < first || address >= end)
             continue;
-        mappings.push_back({first, end, LibraryNamed(line.substr(slash + 1))});
+        mappings.push_back({first, end, &libraries[line.substr(slash + 1)]});
         return mappings.back().library;
     }
-    return LibraryNamed("other");
+    return &libraries["other"];
 }
 
 void Begin(unsigned /*cpu*/, void* /*data*/)
@@ -101,7 +90,7 @@ void Begin(unsigned /*cpu*/, void* /*data*/)
     if (inFrame)
         return;
     inFrame = true;
-    for (Library& library : libraries)
+    for (auto& [name, library] : libraries)
         library.before = library.executed;
 }
 
@@ -111,7 +100,7 @@ void End(unsigned /*cpu*/, void* /*data*/)
         return;
     inFrame = false;
     uint64_t all = 0;
-    for (Library& library : libraries) {
+    for (auto& [name, library] : libraries) {
         const uint64_t count = library.executed - library.before;
         library.inFrames += count;
         all += count;
@@ -136,9 +125,9 @@ void Translated(qemu_plugin_id_t /*id*/, qemu_plugin_tb* block)
 void Report(qemu_plugin_id_t /*id*/, void* /*data*/)
 {
     std::fprintf(stderr, "frames %" PRIu64 "\nmost %" PRIu64 "\n", frames, most);
-    for (const Library& library : libraries)
+    for (const auto& [name, library] : libraries)
         if (library.inFrames > 0)
-            std::fprintf(stderr, "count %s %" PRIu64 "\n", library.name.c_str(), library.inFrames);
+            std::fprintf(stderr, "count %s %" PRIu64 "\n", name.c_str(), library.inFrames);
 }
 
 } // namespace
