@@ -67,12 +67,6 @@ void JsonFaults::Add(const QString& place, const QString& expected, const QStrin
     faults.append({OnOneLine(place), OnOneLine(expected), OnOneLine(found)});
 }
 
-JsonValue::JsonValue(const QJsonValue& root, JsonFaults* faults)
-    : value(root)
-    , faults(faults)
-{
-}
-
 void JsonValue::Refuse(const QString& expected, const QString& found) const
 {
     faults->Add(place, expected, found.isEmpty() ? Found(value) : found);
@@ -80,10 +74,7 @@ void JsonValue::Refuse(const QString& expected, const QString& found) const
 
 JsonValue JsonValue::operator[](const QString& member) const
 {
-    JsonValue there(value.toObject().value(member), faults);
-    there.place = Member(place, member);
-    there.name = member;
-    return there;
+    return {value.toObject().value(member), faults, Member(place, member), member};
 }
 
 bool JsonValue::IsObject(const QStringList& known) const
@@ -117,11 +108,8 @@ QList<JsonValue> JsonValue::Items() const
         Refuse("a list");
     QList<JsonValue> items;
     const QJsonArray list = value.toArray();
-    for (const QJsonValue& item : list) {
-        const QString at = Item(place, items.size());
-        items.append(JsonValue(item, faults));
-        items.last().place = at;
-    }
+    for (const QJsonValue& item : list)
+        items.append({item, faults, Item(place, items.size())});
     return items;
 }
 

@@ -40,18 +40,17 @@ private:
  * A value and its place. Reading continues after a wrong value: it is added to the faults, and a
  * default is returned instead.
  */
-class JsonValue
+struct JsonValue
 {
-public:
-    /** The root of a file. */
-    JsonValue(const QJsonValue& root, JsonFaults* faults);
+    QJsonValue value;
+    JsonFaults* faults;
+    QString place = "$"; ///< its path from the root of the file
+    QString name{};      ///< of a member
 
     /** The member of that name; one that need not be there. */
     JsonValue operator[](const QString& member) const;
     bool IsThere() const { return !value.isUndefined(); }
     bool IsText() const { return value.isString(); }
-    /** The name of this member. */
-    const QString& Name() const { return name; }
 
     /** Whether it is an object; members that are not @p known are faults. */
     bool IsObject(const QStringList& known) const;
@@ -66,12 +65,6 @@ public:
 
     /** Adds a fault; @p found is the value itself where nothing is said of it. */
     void Refuse(const QString& expected, const QString& found = QString()) const;
-
-private:
-    QJsonValue value;
-    JsonFaults* faults;
-    QString place = "$";
-    QString name;
 };
 
 } // namespace AnimText::scene

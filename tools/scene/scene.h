@@ -74,18 +74,14 @@ struct Scene
 enum class MissingFiles { AreErrors, AreAccepted };
 
 /**
- * Reads @p path, or standard input for "-", whose data files are in the current folder. @return
- * everything that is wrong, in the order of reading; @p scene is then left as it was
- */
-QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles missing);
-/** The same for @p text, which is or will be what the file @p path holds. */
-QList<SceneFault> ReadSceneText(const QByteArray& text, const QString& path, Scene* scene,
-                                MissingFiles missing);
-
-/** Stops at the first fault: returns false and sets @p error to one line about it.
+ * Reads @p path, or standard input for "-", whose data files are in the current folder. If anything
+ * is wrong, returns false with one line on the first fault in @p error and leaves @p scene as it
+ * was.
+ * @param all gets every fault, in the order of reading; may be null
  */
 bool ReadScene(const QString& path, Scene* scene, QString* error,
-               MissingFiles missing = MissingFiles::AreErrors);
+               MissingFiles missing = MissingFiles::AreErrors, QList<SceneFault>* all = nullptr);
+/** The same for @p text, which is or will be what the file @p path holds. */
 bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
                    MissingFiles missing);
 

@@ -27,12 +27,12 @@ int LargestSide()
 
 QList<QHash<QString, QString>> ReadRows(const JsonValue& json)
 {
-    const QStringList known = RowFields(json.Name());
+    const QStringList known = RowFields(json.name);
     QList<QHash<QString, QString>> rows;
     for (const JsonValue& item : json.Items()) {
         QHash<QString, QString> row;
         for (const JsonValue& field : item.Members(known))
-            row.insert(field.Name(), field.Text());
+            row.insert(field.name, field.Text());
         rows.append(row);
     }
     return rows;
@@ -70,13 +70,13 @@ SceneNode ReadNode(const JsonValue& json, const Scene& scene, MissingFiles missi
             node.*attribute.field = json[attribute.key].Int();
     }
     for (const JsonValue& value : json["attributes"].Members(KeysOf(Home::Attributes))) {
-        const bool isText = FindAttribute(Home::Attributes, value.Name())->kind == ValueKind::Text;
-        node.attributes[value.Name()] = isText ? QVariant(value.Text()) : QVariant(value.Int());
+        const bool isText = FindAttribute(Home::Attributes, value.name)->kind == ValueKind::Text;
+        node.attributes[value.name] = isText ? QVariant(value.Text()) : QVariant(value.Int());
     }
     for (const JsonValue& list : json["lists"].Members(ListKeys()))
-        node.lists.insert(list.Name(), ReadRows(list));
+        node.lists.insert(list.name, ReadRows(list));
     for (const JsonValue& file : json["files"].Members(KeysOf(Home::Files)))
-        node.files.insert(file.Name(), ReadFileName(file, scene, missing));
+        node.files.insert(file.name, ReadFileName(file, scene, missing));
     return node;
 }
 
@@ -103,7 +103,7 @@ Scene ReadRoot(const QJsonValue& file, const QString& path, MissingFiles missing
 {
     Scene scene;
     scene.path = path;
-    const JsonValue root(file, faults);
+    const JsonValue root{file, faults};
     // In another version, keys may mean anything.
     const bool isOther = file.toObject().value("scene").toDouble(1) != 1;
     if (!isOther && !root.IsObject({"scene", "display", "alphaBlend", "pages"}))
@@ -128,27 +128,22 @@ Scene ReadRoot(const QJsonValue& file, const QString& path, MissingFiles missing
 }
 
 /** The content of the file @p path, or what is wrong with it. */
-QByteArray ReadBytes(const QString& path, QList<SceneFault>* faults)
+QByteArray ReadBytes(const QString& path, JsonFaults* faults)
 {
     const bool isInput = path == QLatin1String("-");
     const QFileInfo info(path);
     QFile file(path);
-    const QString sceneFile = "a scene file";
-    const QString fewerBytes = QStringLiteral("at most %1 bytes").arg(largestFile);
-    if (!isInput && !info.exists())
-        faults->append({QString(), sceneFile, "no such file"});
-    else if (!isInput && !info.isFile())
-        faults->append({QString(), sceneFile, "no regular file"});
-    else if (!isInput && info.size() > largestFile)
-        faults->append({QString(), fewerBytes, QString::number(info.size())});
+    if (!isInput && !info.isFile())
+        faults->Add({}, "a scene file", info.exists() ? "no regular file" : "no such file");
     else if (isInput ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly))
-        faults->append({QString(), "a file that can be read",
-                        QStringLiteral("an error: %1").arg(file.errorString())});
-    if (!faults->isEmpty())
+        faults->Add({}, "a file that can be read",
+                    QStringLiteral("an error: %1").arg(file.errorString()));
+    if (!file.isOpen())
         return QByteArray();
     const QByteArray bytes = files::ReadAtMost(&file, largestFile + 1);
     if (bytes.size() > largestFile)
-        faults->append({QString(), fewerBytes, "more"});
+        faults->Add({}, QStringLiteral("at most %1 bytes").arg(largestFile),
+                    isInput ? "more" : QString::number(info.size()));
     return bytes;
 }
 
@@ -161,66 +156,53 @@ QString LineAndColumn(const QByteArray& text, int offset)
     return QStringLiteral("%1:%2").arg(line).arg(column);
 }
 
-QList<SceneFault> FaultsOfSyntax(const QByteArray& text, QJsonDocument* document)
+/** The value that @p text is, or what is wrong with its syntax. */
+QJsonValue Parse(const QByteArray& text, JsonFaults* faults)
 {
     // First of all, because Qt's reader leaks the values of duplicate keys.
-    JsonFaults twice;
     for (const QString& place : DuplicateKeys(text))
-        twice.Add(place, "each key once", "it twice");
-    if (!twice.All().isEmpty())
-        return twice.All();
+        faults->Add(place, "each key once", "it twice");
+    if (!faults->All().isEmpty())
+        return {};
     QJsonParseError error;
     const QByteArray escaped = WithMarksEscaped(text);
-    *document = QJsonDocument::fromJson(escaped, &error);
-    if (error.error == QJsonParseError::NoError)
-        return {};
-    const int offset = qBound(0, error.offset, escaped.size());
-    return {{LineAndColumn(escaped, offset), "valid JSON",
-             QStringLiteral("an error: %1").arg(error.errorString())}};
+    const QJsonDocument document = QJsonDocument::fromJson(escaped, &error);
+    if (error.error != QJsonParseError::NoError)
+        faults->Add(LineAndColumn(escaped, qBound(0, error.offset, escaped.size())), "valid JSON",
+                    QStringLiteral("an error: %1").arg(error.errorString()));
+    return document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
 }
 
-/** @return whether there is no fault */
-bool TellFirst(const QList<SceneFault>& faults, const QString& path, QString* error)
+/** Reads @p text, in which @p faults were found already. */
+bool Read(const QByteArray& text, const QString& path, JsonFaults* faults, Scene* scene,
+          QString* error, MissingFiles missing)
 {
-    if (!faults.isEmpty())
-        *error = faults.first().Line(path);
-    return faults.isEmpty();
+    const QJsonValue file = faults->All().isEmpty() ? Parse(text, faults) : QJsonValue();
+    const Scene read = faults->All().isEmpty() ? ReadRoot(file, path, missing, faults) : Scene();
+    if (faults->All().isEmpty())
+        *scene = read;
+    else
+        *error = faults->All().first().Line(path);
+    return faults->All().isEmpty();
 }
 
 } // namespace
 
-QList<SceneFault> ReadSceneText(const QByteArray& text, const QString& path, Scene* scene,
-                                MissingFiles missing)
-{
-    QJsonDocument document;
-    const QList<SceneFault> wrong = FaultsOfSyntax(text, &document);
-    if (!wrong.isEmpty())
-        return wrong;
-    JsonFaults faults;
-    const QJsonValue file =
-        document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
-    const Scene read = ReadRoot(file, path, missing, &faults);
-    if (faults.All().isEmpty())
-        *scene = read;
-    return faults.All();
-}
-
-QList<SceneFault> ReadScene(const QString& path, Scene* scene, MissingFiles missing)
-{
-    QList<SceneFault> faults;
-    const QByteArray text = ReadBytes(path, &faults);
-    return faults.isEmpty() ? ReadSceneText(text, path, scene, missing) : faults;
-}
-
-bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing)
-{
-    return TellFirst(ReadScene(path, scene, missing), path, error);
-}
-
 bool ReadSceneText(const QByteArray& text, const QString& path, Scene* scene, QString* error,
                    MissingFiles missing)
 {
-    return TellFirst(ReadSceneText(text, path, scene, missing), path, error);
+    JsonFaults faults;
+    return Read(text, path, &faults, scene, error, missing);
+}
+
+bool ReadScene(const QString& path, Scene* scene, QString* error, MissingFiles missing,
+               QList<SceneFault>* all)
+{
+    JsonFaults faults;
+    const bool isRead = Read(ReadBytes(path, &faults), path, &faults, scene, error, missing);
+    if (all)
+        *all = faults.All();
+    return isRead;
 }
 
 } // namespace AnimText::scene

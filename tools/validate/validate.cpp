@@ -377,9 +377,9 @@ QList<Finding> ValidateScene(const scene::Scene& scene)
 QList<Finding> ValidateScene(const QString& path)
 {
     scene::Scene scene;
-    const QList<scene::SceneFault> faults =
-        scene::ReadScene(path, &scene, scene::MissingFiles::AreAccepted);
-    if (faults.isEmpty())
+    QString first;
+    QList<scene::SceneFault> faults;
+    if (scene::ReadScene(path, &scene, &first, scene::MissingFiles::AreAccepted, &faults))
         return ValidateScene(scene);
     QList<Finding> findings;
     for (const scene::SceneFault& fault : faults)
