@@ -22,12 +22,19 @@ QJsonObject ListOf(const QJsonObject& items)
     return {{"type", "array"}, {"items", items}};
 }
 
-QJsonObject ObjectOf(const QJsonObject& members, const QString& description)
+QJsonObject Described(QJsonObject value, const char* description)
 {
-    return {{"type", "object"},
-            {"properties", members},
-            {"additionalProperties", false},
-            {"description", description}};
+    value["description"] = description;
+    return value;
+}
+
+QJsonObject ObjectOf(const QJsonObject& members, const QJsonArray& required = {})
+{
+    QJsonObject object{
+        {"type", "object"}, {"properties", members}, {"additionalProperties", false}};
+    if (!required.isEmpty())
+        object["required"] = required;
+    return object;
 }
 
 /** A whole number with a name for each of its values. */
@@ -98,67 +105,24 @@ QJsonObject MembersOf(Home home)
 QJsonObject NodeSchema()
 {
     QJsonObject lists;
-    for (int i = 0; i < ListKeys().size(); ++i) {
-        QJsonObject row = ObjectOf(MembersOf(Home(int(Home::TextAttribute) + i)), QString());
-        row.remove("description");
-        QJsonObject list = ListOf(row);
-        list["description"] = "a row for each character";
-        lists[ListKeys().at(i)] = list;
-    }
+    for (int i = 0; i < ListKeys().size(); ++i)
+        lists[ListKeys().at(i)] =
+            Described(ListOf(ObjectOf(MembersOf(Home(int(Home::TextAttribute) + i)))),
+                      "a row for each character");
     QJsonObject members = MembersOf(Home::Node);
-    members["attributes"] = ObjectOf(MembersOf(Home::Attributes), "what the sign reads by its key");
-    members["lists"] = ObjectOf(lists, "what each character is like");
-    members["files"] = ObjectOf(MembersOf(Home::Files),
-                                "names of files, relative to the scene's folder or absolute");
-    QJsonObject node = ObjectOf(members, "a text and where it plays");
-    node["required"] = QJsonArray{"size"};
-    return node;
+    members["attributes"] =
+        Described(ObjectOf(MembersOf(Home::Attributes)), "what the sign reads by its key");
+    members["lists"] = Described(ObjectOf(lists), "what each character is like");
+    members["files"] = Described(ObjectOf(MembersOf(Home::Files)),
+                                 "names of files, relative to the scene's folder or absolute");
+    return Described(ObjectOf(members, {"size"}), "a text and where it plays");
 }
 
-/** The schema without the nodes. */
-const char frame[] = R"({
-    "$schema": "http://json-schema.org/draft-07/schema#",
-    "title": "Animated Text scene",
-    "type": "object",
-    "additionalProperties": false,
-    "required": ["scene", "display", "pages"],
-    "properties": {
-        "scene": {"description": "the version of the format", "const": 1},
-        "display": {
-            "description": "the display, all of it",
-            "type": "object",
-            "additionalProperties": false,
-            "required": ["width", "height"],
-            "properties": {"width": {"$ref": "#side"}, "height": {"$ref": "#side"}}
-        },
-        "alphaBlend": {
-            "description": "layers are blended by their alpha; else a color is transparent",
-            "type": "boolean",
-            "default": true
-        },
-        "pages": {
-            "description": "the program; its pages follow one another",
-            "type": "array",
-            "items": {"$ref": "#/definitions/page"}
-        }
-    },
-    "definitions": {
-        "page": {
-            "description": "areas that play side by side",
-            "type": "object",
-            "additionalProperties": false,
-            "required": ["areas"],
-            "properties": {"areas": {"type": "array", "items": {"$ref": "#/definitions/area"}}}
-        },
-        "area": {
-            "description": "texts that play one after another",
-            "type": "object",
-            "additionalProperties": false,
-            "required": ["nodes"],
-            "properties": {"nodes": {"type": "array", "items": {"$ref": "#/definitions/node"}}}
-        }
-    }
-})";
+/** A list of what is defined as @p name. */
+QJsonObject ListOf(const char* name)
+{
+    return ListOf({{"$ref", QStringLiteral("#/definitions/%1").arg(name)}});
+}
 
 QString TableOf(Home home)
 {
@@ -186,15 +150,26 @@ QString TableOf(Home home)
 
 QByteArray SceneSchema()
 {
-    const Attribute& size = *FindAttribute(Home::Node, "size");
-    QJsonObject side = Whole(1, size.most);
-    side["description"] = "pixels";
-    const QByteArray sides = QJsonDocument(side).toJson();
-    QJsonObject schema =
-        QJsonDocument::fromJson(QByteArray(frame).replace("{\"$ref\": \"#side\"}", sides)).object();
-    QJsonObject definitions = schema["definitions"].toObject();
-    definitions["node"] = NodeSchema();
-    schema["definitions"] = definitions;
+    const QJsonObject side = Described(Whole(1, FindAttribute(Home::Node, "size")->most), "pixels");
+    QJsonObject schema = ObjectOf(
+        {{"scene", QJsonObject{{"const", 1}, {"description", "the version of the format"}}},
+         {"display", Described(ObjectOf({{"width", side}, {"height", side}}, {"width", "height"}),
+                               "the display, all of it")},
+         {"alphaBlend",
+          QJsonObject{
+              {"type", "boolean"},
+              {"default", true},
+              {"description", "layers are blended by their alpha; else a color is transparent"}}},
+         {"pages", Described(ListOf("page"), "the program; its pages follow one another")}},
+        {"scene", "display", "pages"});
+    schema["$schema"] = "http://json-schema.org/draft-07/schema#";
+    schema["title"] = "Animated Text scene";
+    schema["definitions"] =
+        QJsonObject{{"page", Described(ObjectOf({{"areas", ListOf("area")}}, {"areas"}),
+                                       "areas that play side by side")},
+                    {"area", Described(ObjectOf({{"nodes", ListOf("node")}}, {"nodes"}),
+                                       "texts that play one after another")},
+                    {"node", NodeSchema()}};
     return QJsonDocument(schema).toJson();
 }
 
