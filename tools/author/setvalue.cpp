@@ -59,11 +59,7 @@ QString ChangeMotion(const scene::Scene& scene, scene::SceneNode* node, const QS
                      const QString& value)
 {
     const bool scroll = key == "ContinueStyle";
-    bool isNumber = false;
-    const int number = value.toInt(&isNumber);
-    const scene::Motion* motion = !scroll    ? scene::FindEffect(value)
-                                  : isNumber ? scene::FindScroll(number)
-                                             : scene::FindScroll(value);
+    const scene::Motion* motion = scroll ? scene::FindScroll(value) : scene::FindEffect(value);
     if (!motion)
         return QStringLiteral("unknown %1 \"%2\"; animtext effects lists them")
             .arg(scroll ? "scroll" : "effect", value);
@@ -143,9 +139,6 @@ QString SetValue(scene::Scene* scene, const scene::Place& place, const QString& 
     QString key = Aliases().value(word, word);
     if (key == "speed")
         key = scene::MotionOf(*node).SpeedKey();
-    const scene::Attribute* attribute = scene::FindAttribute(scene::Home::Attributes, key);
-    if (!attribute)
-        attribute = scene::FindAttribute(scene::Home::Node, key);
     if (key == "AnimationEffect" || key == "ContinueStyle")
         return ChangeMotion(*scene, node, key, value);
     if (key == "Color")
@@ -154,8 +147,8 @@ QString SetValue(scene::Scene* scene, const scene::Place& place, const QString& 
         return SetPos(node, value);
     if (key == "hold")
         return SetHold(node, value);
-    if (attribute && Known().contains(key))
-        return ChangeNumber(node, word, *attribute, value);
+    if (Known().contains(key))
+        return ChangeNumber(node, word, *scene::FindAttribute(key), value);
     return QStringLiteral("%1 cannot be set; expected one of %2%3")
         .arg(word, Known().join(", "), scene::DidYouMean(word, Known()));
 }

@@ -14,20 +14,16 @@ bool Holds(const Need& need, const SceneNode& node)
 {
     if (!need.key)
         return true;
-    const QString key = QLatin1String(need.key);
-    const Attribute* attribute = FindAttribute(Home::Attributes, key);
-    if (!attribute)
-        attribute = FindAttribute(Home::Node, key);
-    const int value = attribute ? NumberOf(node, *attribute) : 0;
+    const int value = NumberOf(node, *FindAttribute(QLatin1String(need.key)));
     return value >= need.least && value <= need.most;
 }
 
 } // namespace
 
-const Attribute* FindAttribute(Home home, const QString& key)
+const Attribute* FindAttribute(const QString& key)
 {
     for (const Attribute& attribute : Attributes()) {
-        if (attribute.home == home && key == QLatin1String(attribute.key))
+        if (key == QLatin1String(attribute.key))
             return &attribute;
     }
     return nullptr;
@@ -87,13 +83,11 @@ QString RangeInWords(const Attribute& attribute)
         return Translated(pattern).arg(attribute.least);
     };
     if (!names.isEmpty() && names.size() <= mostNamed) {
-        QString values = QStringLiteral("%1 %2").arg(attribute.least).arg(names.first());
-        for (int i = 1; i < names.size(); ++i)
-            values += QStringLiteral("%1 %2 %3")
-                          .arg(QLatin1String(i + 1 < names.size() ? "," : " or"))
-                          .arg(attribute.least + i)
-                          .arg(names.at(i));
-        return values;
+        QStringList values;
+        for (const QString& name : names)
+            values.append(QStringLiteral("%1 %2").arg(attribute.least + values.size()).arg(name));
+        const QString last = values.takeLast();
+        return values.join(", ") + " or " + last;
     }
     if (attribute.least == Attribute::lowest)
         return Translated(QT_TRANSLATE_NOOP("Attributes", "any whole number"));

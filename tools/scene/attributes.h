@@ -77,8 +77,8 @@ struct Attribute
 /** All of them; those of a group in the order in which a form shows them. */
 const QList<Attribute>& Attributes();
 
-/** Null when there is none. */
-const Attribute* FindAttribute(Home home, const QString& key);
+/** Null when there is none. No two have the same key. */
+const Attribute* FindAttribute(const QString& key);
 
 /** The keys of @p home, in the order in which a scene is written. */
 QStringList KeysOf(Home home);

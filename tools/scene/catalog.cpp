@@ -151,18 +151,16 @@ QList<Motion> Catalog::Scrolls()
              QT_TR_NOOP("marquee, vertical")}};
 }
 
-const Motion* At(const QList<Motion>& motions, int number)
+const Motion* Find(const QList<Motion>& motions, const QString& numberOrName)
 {
-    return number >= 0 && number < motions.size() ? &motions.at(number) : nullptr;
-}
-
-/** The number of the motion that the host calls @p name; -1 for none. */
-int NumberOf(const QList<Motion>& motions, const QString& name)
-{
+    bool isNumber = false;
+    const int number = numberOrName.toInt(&isNumber);
     const auto found = std::find_if(motions.begin(), motions.end(), [&](const Motion& motion) {
-        return name.compare(QLatin1String(motion.name), Qt::CaseInsensitive) == 0;
+        return isNumber
+                   ? motion.number == number
+                   : numberOrName.compare(QLatin1String(motion.name), Qt::CaseInsensitive) == 0;
     });
-    return found == motions.end() ? -1 : found->number;
+    return found == motions.end() ? nullptr : &*found;
 }
 
 } // namespace
@@ -185,27 +183,15 @@ const QStringList& Directions()
     return directions;
 }
 
-const Motion* FindEffect(int number)
-{
-    return At(Effects(), number);
-}
-
-const Motion* FindScroll(int number)
-{
-    return At(Scrolls(), number);
-}
-
 const Motion* FindEffect(const QString& numberOrName)
 {
-    bool isNumber = false;
-    const int number = numberOrName.toInt(&isNumber);
-    return At(Effects(), isNumber ? number : NumberOf(Effects(), numberOrName));
+    return Find(Effects(), numberOrName);
 }
 
-const Motion* FindScroll(const QString& name)
+const Motion* FindScroll(const QString& numberOrName)
 {
-    const int direction = Directions().indexOf(name.toLower());
-    return At(Scrolls(), direction >= 0 ? direction : NumberOf(Scrolls(), name));
+    const int direction = Directions().indexOf(numberOrName.toLower());
+    return Find(Scrolls(), direction < 0 ? numberOrName : QString::number(direction));
 }
 
 bool Matches(const Motion& motion, const QString& search)

@@ -47,14 +47,12 @@ const QList<Motion>& Scrolls();
 /** What the command line calls the scrolls. */
 const QStringList& Directions();
 
-/** The effect or scroll of that number; null when there is none. */
-const Motion* FindEffect(int number);
-const Motion* FindScroll(int number);
-
-/** The effect of that number or name (upper and lower case alike); null when there is none. */
+/**
+ * The effect of that number or name (upper and lower case alike), or the scroll, whose name may
+ * also be its direction; null when there is none.
+ */
 const Motion* FindEffect(const QString& numberOrName);
-/** The scroll named left, right, up or down, or by the host's name; null for none. */
-const Motion* FindScroll(const QString& name);
+const Motion* FindScroll(const QString& numberOrName);
 
 /**
  * Whether every word of @p search occurs in what is known of @p motion: "#" and its number, its

@@ -4,12 +4,9 @@ namespace AnimText::scene {
 
 const Motion* NodeMotion::Row() const
 {
-    switch (mode) {
-    case Mode::Entrance: return FindEffect(number);
-    case Mode::Scroll: return FindScroll(number);
-    case Mode::Still: break;
-    }
-    return nullptr;
+    const QList<Motion>& motions = IsScroll() ? Scrolls() : Effects();
+    const bool isThere = mode != Mode::Still && number >= 0 && number < motions.size();
+    return isThere ? &motions.at(number) : nullptr;
 }
 
 MotionTraits NodeMotion::Traits() const

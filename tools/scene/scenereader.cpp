@@ -22,7 +22,7 @@ constexpr qint64 largestFile = qint64(256) << 20;
 
 int LargestSide()
 {
-    return FindAttribute(Home::Node, "size")->most;
+    return FindAttribute("size")->most;
 }
 
 QList<QHash<QString, QString>> ReadRows(const JsonValue& json)
@@ -60,7 +60,7 @@ SceneNode ReadNode(const JsonValue& json, const Scene& scene, MissingFiles missi
         return node;
     if (json["type"].IsThere())
         node.type = json["type"].Text();
-    const Attribute* range = FindAttribute(Home::Node, "pos");
+    const Attribute* range = FindAttribute("pos");
     if (json["pos"].IsThere())
         node.pos = json["pos"].Pair(range->least, range->most);
     const QPoint size = json["size"].Pair(0, LargestSide());
@@ -70,7 +70,7 @@ SceneNode ReadNode(const JsonValue& json, const Scene& scene, MissingFiles missi
             node.*attribute.field = json[attribute.key].Int();
     }
     for (const JsonValue& value : json["attributes"].Members(KeysOf(Home::Attributes))) {
-        const bool isText = FindAttribute(Home::Attributes, value.name)->kind == ValueKind::Text;
+        const bool isText = FindAttribute(value.name)->kind == ValueKind::Text;
         node.attributes[value.name] = isText ? QVariant(value.Text()) : QVariant(value.Int());
     }
     for (const JsonValue& list : json["lists"].Members(ListKeys()))

@@ -150,7 +150,7 @@ QString TableOf(Home home)
 
 QByteArray SceneSchema()
 {
-    const QJsonObject side = Described(Whole(1, FindAttribute(Home::Node, "size")->most), "pixels");
+    const QJsonObject side = Described(Whole(1, FindAttribute("size")->most), "pixels");
     QJsonObject schema = ObjectOf(
         {{"scene", QJsonObject{{"const", 1}, {"description", "the version of the format"}}},
          {"display", Described(ObjectOf({{"width", side}, {"height", side}}, {"width", "height"}),

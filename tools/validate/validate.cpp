@@ -51,7 +51,7 @@ public:
         if (node.type != scene::SceneNode().type)
             Add(Mistake::NodeType, "type", InQuotes(node.type), InQuotes(scene::SceneNode().type));
         CheckArea();
-        const scene::Attribute& hold = *scene::FindAttribute(scene::Home::Node, "hold");
+        const scene::Attribute& hold = *scene::FindAttribute("hold");
         if (!scene::IsInRange(hold, node.hold))
             Add(Mistake::HoldRange, "hold", QString::number(node.hold),
                 QStringLiteral("%1, in %2")
@@ -96,7 +96,7 @@ private:
     /** A finding when the attribute is beyond its range. */
     void CheckRange(Mistake mistake, const QString& key)
     {
-        const scene::Attribute& attribute = *scene::FindAttribute(scene::Home::Attributes, key);
+        const scene::Attribute& attribute = *scene::FindAttribute(key);
         if (!scene::IsInRange(attribute, Number(key)))
             AddAttribute(mistake, key, scene::RangeInWords(attribute));
     }
@@ -117,7 +117,7 @@ private:
         if (Number("StrokeColor") > 0)
             CheckRange(Mistake::ColorRange, "StrokeColor");
         for (const QString& key : scene::KeysOf(scene::Home::Attributes)) {
-            if (scene::FindAttribute(scene::Home::Attributes, key)->kind == scene::ValueKind::Flag)
+            if (scene::FindAttribute(key)->kind == scene::ValueKind::Flag)
                 CheckRange(Mistake::FlagValue, key);
         }
     }
@@ -155,7 +155,7 @@ private:
         const QString list = "TextAttribute";
         const QString color = "Color";
         const auto styles = node.lists.value(list);
-        const scene::Attribute& range = *scene::FindAttribute(scene::Home::TextAttribute, color);
+        const scene::Attribute& range = *scene::FindAttribute(color);
         const auto find = [&](Mistake mistake, const QString& expected, const auto& isBad) {
             for (int i = 0; i < styles.size(); ++i) {
                 const QString value = styles[i].value(color);
@@ -222,7 +222,7 @@ private:
                 Add(Mistake::FileMissing, at, "nothing", "the name of a data file");
             } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
                        (key == QLatin1String("NeonGifPath") &&
-                        scene::IsUsed(*scene::FindAttribute(scene::Home::Files, key), node))) {
+                        scene::IsUsed(*scene::FindAttribute(key), node))) {
                 Add(Mistake::PictureMissing, at, "nothing", "the name of a picture file");
             }
         }
