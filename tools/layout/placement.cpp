@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
 
 namespace AnimText::layout {
@@ -25,6 +26,15 @@ QVector<int> ClusterWidths(const ShapedLine& line)
     return widths;
 }
 
+/** The place of each item in @p order. */
+QVector<int> RanksOf(const QVector<int>& order)
+{
+    QVector<int> ranks(order.size());
+    for (int i = 0; i < order.size(); ++i)
+        ranks[order[i]] = i;
+    return ranks;
+}
+
 /**
  * Rounds points to 1/64 pixel, the precision of the sign's painter. The painter then divides curves
  * without rounding and can copy moving glyphs. No point moves by more than 1/128 pixel.
@@ -39,15 +49,16 @@ QPainterPath OnGrid(QPainterPath path)
     return path;
 }
 
-QPainterPath Underlined(const QPainterPath& shape, int width, const Bar& bar)
+QPainterPath Underlined(const Cluster& cluster, int width)
 {
+    const Bar& bar = cluster.underline;
     if (bar.height <= 0 || width <= 0)
-        return shape;
+        return cluster.shape;
     QPainterPath underline;
     underline.addRect(0, bar.top, width, bar.height);
-    if (shape.isEmpty())
+    if (cluster.shape.isEmpty())
         return underline;
-    QPainterPath both = WithoutSharedArea(shape, underline);
+    QPainterPath both = WithoutSharedArea(cluster.shape, underline);
     both.addPath(underline);
     return both;
 }
@@ -59,26 +70,21 @@ struct Cell
     int width;
 };
 
-class Setter
+struct Setter
 {
-public:
-    Setter(const QString& text, const ShapedLine& line, const Setting& setting,
-           const scene::NodeMotion& motion, const QSize& area)
-        : text(text)
-        , line(line)
-        , setting(setting)
-        , motion(motion)
-        , traits(motion.Traits())
-        , area(area)
-        , widths(ClusterWidths(line))
-        , seenAt(line.clusters.size())
-        , outlines(line.clusters.size())
-        , ranks(line.clusters.size())
-    {
-        widest = widths.isEmpty() ? 0 : *std::max_element(widths.begin(), widths.end());
-        for (int i = 0; i < Count(); ++i)
-            ranks[line.visualOrder[i]] = i;
-    }
+    const QString& text;
+    const ShapedLine& line;
+    const Setting& setting;
+    const scene::NodeMotion& motion;
+    const QSize area;
+    const scene::MotionTraits traits = motion.Traits();
+    // Of the clusters:
+    const QVector<int> widths = ClusterWidths(line);
+    const QVector<int> ranks = RanksOf(line.visualOrder);
+    const int widest = widths.isEmpty() ? 0 : *std::max_element(widths.begin(), widths.end());
+    QVector<int> seenAt = QVector<int>(widths.size()); // left edge of each on its page
+    QVector<QPainterPath> outlines = QVector<QPainterPath>(widths.size());
+    PlacedText result{};
 
     PlacedText Set()
     {
@@ -92,8 +98,7 @@ public:
         return result;
     }
 
-private:
-    int Count() const { return line.clusters.size(); }
+    int Count() const { return widths.size(); }
     bool IsFromEnd() const { return traits & scene::FromEnd; }
     /** Spaces are added as margins, since outlines must not be shifted. */
     bool NeedsPlaces() const { return traits & scene::Turns; }
@@ -188,7 +193,7 @@ private:
         int before = -1;
         for (int k : members) {
             seenAt[k] = left;
-            outlines[k] = Underlined(line.clusters[k].shape, widths[k], line.clusters[k].underline);
+            outlines[k] = Underlined(line.clusters[k], widths[k]);
             if (before >= 0)
                 outlines[k] = WithoutSharedArea(
                     outlines[k], outlines[before].translated(seenAt[before] - left, 0));
@@ -205,25 +210,22 @@ private:
             cells.append({k, k >= page.seen && k < page.seenEnd ? widths[k] : 0});
         if (motion.IsSideways())
             return cells;
+        const int most =
+            traits & scene::EvenWidths ? qMax(1, widest) : std::numeric_limits<int>::max();
         const int lead = NeedsPlaces() ? qMax(0, left) : 0;
         int rest = area.width() - seenWidth - lead;
         const bool fills = rest > 0 && (!isLast || lead > 0) && !IsTurnedAnyway(page);
         if (fills) {
-            const int most = (traits & scene::EvenWidths) ? qMax(1, widest) : rest;
-            int at = IsFromEnd() ? 0 : cells.size() - 1;
-            const int turned = IsFromEnd() ? page.begin : page.end - 1;
-            const bool hasSpace = turned < page.seen || turned >= page.seenEnd;
-            if (hasSpace) {
-                cells[at].width = qMin(rest, most);
-                rest -= cells[at].width;
-            } else if (!NeedsPlaces()) {
-                cells[at].width += rest;
-                rest = 0;
+            Cell& turned = IsFromEnd() ? cells.first() : cells.last();
+            const bool isSpace = turned.cluster < page.seen || turned.cluster >= page.seenEnd;
+            if (isSpace || !NeedsPlaces()) {
+                const int more = isSpace ? qMin(rest, most) : rest;
+                turned.width += more;
+                rest -= more;
             }
             for (; rest > 0; rest -= cells.last().width)
                 cells.append({-1, qMin(rest, most)});
         }
-        const int most = (traits & scene::EvenWidths) ? qMax(1, widest) : qMax(1, lead);
         for (int margin = lead; margin > 0; margin -= cells.first().width)
             cells.prepend({-1, qMin(margin, most)});
         return cells;
@@ -246,7 +248,7 @@ private:
         const int middle = (area.width() - widest) / 2; // where the sign begins all of them
         for (int k = 0; k < Count(); ++k) {
             seenAt[k] = setting.align == Align::Natural ? 0 : LeftOf(widths[k]) - middle;
-            outlines[k] = Underlined(line.clusters[k].shape, widths[k], line.clusters[k].underline);
+            outlines[k] = Underlined(line.clusters[k], widths[k]);
             Append({k, widths[k]}, 0);
         }
     }
@@ -260,13 +262,12 @@ private:
         for (int u = 0; u < units; ++u) {
             result.text += isAdded ? QChar(QLatin1Char(' ')) : text.at(first + u);
             result.source.append(first + u);
-            result.outlines.append(QPainterPath());
+            result.outlines.append(isAdded || u > 0 ? QPainterPath()
+                                                    : OnGrid(outlines[cell.cluster].translated(
+                                                          seenAt[cell.cluster] - x, 0)));
             result.widths.append(u == 0 ? cell.width : 0);
             result.heights.append(u == 0 ? line.ascent + line.descent : 0);
         }
-        if (!isAdded)
-            result.outlines[result.outlines.size() - units] =
-                OnGrid(outlines[cell.cluster].translated(seenAt[cell.cluster] - x, 0));
     }
 
     /** Heights and descents set the baseline's distance from the middle. */
@@ -275,12 +276,10 @@ private:
         const int height = line.ascent + line.descent;
         const int middle = area.height() / 2 + height / 2 - line.descent;
         int up = 0; // pixels that the baseline moves up from middle alignment
-        if (setting.valign == VAlign::Top)
+        if (setting.valign == VAlign::Top && !motion.IsColumn())
             up = middle - setting.padding - line.ascent;
-        else if (setting.valign == VAlign::Bottom)
+        else if (setting.valign == VAlign::Bottom && !motion.IsColumn())
             up = middle - (area.height() - setting.padding - line.descent);
-        if (motion.IsColumn())
-            up = 0;
         // Adding the same amount to height and descent keeps the ascent and moves the baseline up
         // by half of it.
         const int higher = (traits & scene::ReachesTop) && up > 0 ? 2 * up : 0;
@@ -288,19 +287,6 @@ private:
             own += own > 0 ? higher : 0;
         result.descents.fill(line.descent + (higher > 0 ? higher : up), result.text.size());
     }
-
-    const QString& text;
-    const ShapedLine& line;
-    const Setting& setting;
-    const scene::NodeMotion& motion;
-    const scene::MotionTraits traits;
-    const QSize area;
-    const QVector<int> widths;      // of the clusters
-    QVector<int> seenAt;            // left edge of each cluster on its page
-    QVector<QPainterPath> outlines; // of the clusters
-    QVector<int> ranks;             // of the clusters in the visual order
-    int widest = 0;
-    PlacedText result;
 };
 
 } // namespace
@@ -308,7 +294,7 @@ private:
 PlacedText PlaceText(const QString& text, const ShapedLine& line, const Setting& setting,
                      const scene::NodeMotion& motion, const QSize& area)
 {
-    return Setter(text, line, setting, motion, area).Set();
+    return Setter{text, line, setting, motion, area}.Set();
 }
 
 } // namespace AnimText::layout

@@ -102,16 +102,21 @@ struct PlacedCluster
     int groups;     // number of groups of units that share a glyph
 
     bool RightToLeft() const { return leading > trailing; }
-    qreal Left() const { return qMin(leading, trailing); }
 };
 
-class Shaper
+struct Glyph
 {
-public:
-    explicit Shaper(const StyledText& text)
-        : text(text)
-    {
-    }
+    QPainterPath outline;
+    QPainterPath withoutOverlaps;
+};
+
+struct Shaper
+{
+    const StyledText& text;
+    ShapedLine result{};
+    QVector<PlacedCluster> places{};
+    QTextLayout turned{}; // the text in the other direction; empty until needed
+    QHash<QPair<QRawFont, quint32>, Glyph> glyphs{};
 
     ShapedLine Shape()
     {
@@ -129,7 +134,6 @@ public:
         return result;
     }
 
-private:
     /** The width of a unit among words of the other direction. */
     qreal WidthAmongTheOthers(int unit)
     {
@@ -147,9 +151,7 @@ private:
         const int end = line.textStart() + line.textLength();
         for (int i = line.textStart(); i < end; ++i) {
             const bool sharesGlyph = i > line.textStart() && SharesGlyph(line, i);
-            const bool continues =
-                i > line.textStart() && (sharesGlyph || !layout.isValidCursorPosition(i));
-            if (continues) {
+            if (sharesGlyph || (i > line.textStart() && !layout.isValidCursorPosition(i))) {
                 ++result.clusters.last().units;
                 places.last().groups += sharesGlyph ? 0 : 1;
                 continue;
@@ -207,7 +209,7 @@ private:
     void Outline(const QTextLine& line, const PlacedCluster& place, Cluster* cluster)
     {
         cluster->advance = qAbs(place.trailing - place.leading);
-        const QPointF origin(place.Left(), line.y() + line.ascent());
+        const QPointF origin(qMin(place.leading, place.trailing), line.y() + line.ascent());
         cluster->shape.setFillRule(Qt::WindingFill);
         QPainterPath single; // the glyph of a cluster with only one
         int parts = 0;
@@ -246,12 +248,6 @@ private:
             i += isPair ? 1 : 0;
         }
     }
-
-    struct Glyph
-    {
-        QPainterPath outline;
-        QPainterPath withoutOverlaps;
-    };
 
     const Glyph& GlyphOf(const QRawFont& font, quint32 glyph)
     {
@@ -315,19 +311,13 @@ private:
         return before.line == own.line && before.RightToLeft() == own.RightToLeft() &&
                qAbs(before.trailing - own.leading) < tolerance;
     }
-
-    const StyledText& text;
-    ShapedLine result;
-    QVector<PlacedCluster> places;
-    QTextLayout turned; // the text in the other direction; empty until needed
-    QHash<QPair<QRawFont, quint32>, Glyph> glyphs;
 };
 
 } // namespace
 
 ShapedLine ShapeLine(const StyledText& text)
 {
-    return Shaper(text).Shape();
+    return Shaper{text}.Shape();
 }
 
 LineSize MeasureLine(const StyledText& text)
