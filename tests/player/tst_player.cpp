@@ -365,12 +365,12 @@ private slots:
         script.close();
         const QByteArray before = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(programs.path()) + ':' + before);
-        const film::FilmFilePointer film = film::MakeVideo(
-            files.Path("still.webp"), *film::FilmKindOf("still.webp"),
-            {QSize(8, 8), 0, 1, false, false}, film::PlayPictures(), [] {}, 100);
         QString message;
         try {
-            film->Finish();
+            film::WriteVideo(
+                files.Path("still.webp"), *film::FilmKindOf("still.webp"),
+                {QSize(8, 8), 0, 1, false, false}, [](film::FilmStage, const film::TakePicture&) {},
+                [] {}, 100);
         } catch (const files::Failure& failure) {
             message = failure.message;
         }

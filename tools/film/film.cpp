@@ -119,8 +119,7 @@ QImage Film::Picture() const
     return OnBackground(shown, scene.display * settings.scale, FrameSize());
 }
 
-void Film::Play(const QVector<int>& wanted,
-                const std::function<void(int frame, const QImage&)>& take)
+void Film::Play(const QVector<int>& wanted, const TakePicture& take)
 {
     // Some state outlives a restart, for example the dazzle colors.
     QString error;

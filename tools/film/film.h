@@ -29,6 +29,9 @@ struct FilmSettings
 /** The stages of making a film. */
 enum class FilmStage { End, Colors, Pictures };
 
+/** Receives a picture and its number. */
+using TakePicture = std::function<void(int frame, const QImage& picture)>;
+
 /** Receives the progress and, if known, the total; throws to stop. */
 using FilmWatch = std::function<void(FilmStage stage, qint64 done, qint64 total)>;
 
@@ -59,8 +62,7 @@ public:
      * QImage::Format_ARGB32, or in Format_RGB32 where there is a background. Throws Failure when
      * the scene cannot be played.
      */
-    void Play(const QVector<int>& wanted,
-              const std::function<void(int frame, const QImage&)>& take);
+    void Play(const QVector<int>& wanted, const TakePicture& take);
 
 private:
     int FindEnd(const FilmWatch& watch);

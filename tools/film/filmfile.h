@@ -1,17 +1,11 @@
 /**
  * @file
- * The output of a film: a file or a folder that appears whole or not at all.
+ * The file or folder of a film.
  */
 #pragma once
 
+#include "film/film.h"
 #include "film/kinds.h"
-
-#include <QByteArray>
-#include <QImage>
-#include <QString>
-
-#include <functional>
-#include <memory>
 
 namespace AnimText::film {
 
@@ -28,40 +22,26 @@ struct FilmFormat
 /** Called now and then; throws to stop the work. */
 using GoOn = std::function<void()>;
 
-/**
- * Takes the pictures of a film in their order. An unfinished film leaves nothing behind. Everything
- * throws Failure with a line that names the film.
- */
-class FilmFile
-{
-public:
-    virtual ~FilmFile() = default;
+/** Plays the film and passes all its pictures, in their order. */
+using PlayPictures = std::function<void(FilmStage stage, const TakePicture& take)>;
 
-    virtual void Add(int frame, const QImage& picture) = 0;
-    /** Checks what was written and moves the complete film to its place. */
-    virtual void Finish() = 0;
-};
-
-using FilmFilePointer = std::unique_ptr<FilmFile>;
+// Each plays a film and writes it, whole or not at all. On failure they throw Failure with a line
+// that names the film.
 
 /** One picture, as a PNG. */
-FilmFilePointer MakeStill(const QString& path, const FilmFormat& format);
+void WriteStill(const QString& path, const FilmFormat& format, const PlayPictures& play);
 
 /**
  * A folder of PNGs, frame-0000.png and on; each has the number of its frame. An existing folder is
  * replaced if it holds only such pictures.
  */
-FilmFilePointer MakePngFolder(const QString& path, const FilmFormat& format);
-
-/** Passes pictures of a film to @p take. */
-using PlayPictures = std::function<void(const std::function<void(const QImage&)>& take)>;
+void WritePngFolder(const QString& path, const FilmFormat& format, const PlayPictures& play);
 
 /**
- * A film that the ffmpeg program encodes.
- * @param play all pictures, for the kinds that need a palette beforehand
+ * A film that the ffmpeg program encodes; kinds that need a palette are played twice.
  * @param patience milliseconds for which ffmpeg may make no progress
  */
-FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
-                          const PlayPictures& play, const GoOn& goOn, int patience = 5 * 60 * 1000);
+void WriteVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
+                const PlayPictures& play, const GoOn& goOn, int patience = 5 * 60 * 1000);
 
 } // namespace AnimText::film

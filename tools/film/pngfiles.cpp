@@ -17,27 +17,6 @@ namespace AnimText::film {
 
 namespace {
 
-class StillFile : public FilmFile
-{
-public:
-    StillFile(const QString& path, bool transparent)
-        : path(QFileInfo(path).absoluteFilePath())
-        , transparent(transparent)
-    {
-        QString target;
-        QString error;
-        files::FailUnless(files::FindTarget(this->path, &target, &error), error);
-    }
-
-    void Add(int, const QImage& picture) override { png = PngOf(picture, transparent); }
-    void Finish() override { WritePng(path, png); }
-
-private:
-    const QString path;
-    const bool transparent;
-    QByteArray png;
-};
-
 /** The pictures of a film in @p folder. Other programs use the same names. */
 QStringList Frames(const QDir& folder)
 {
@@ -50,71 +29,53 @@ QStringList Frames(const QDir& folder)
     return names;
 }
 
-/** Compresses the pictures on all processors. */
-class PngFolder : public FilmFile
+} // namespace
+
+void WriteStill(const QString& path, const FilmFormat& format, const PlayPictures& play)
 {
-public:
-    PngFolder(const QString& path, const FilmFormat& format)
-        : folder(path)
-        , transparent(format.transparent)
-        , digits(std::max(4, int(QString::number(format.firstFrame + format.frames - 1).size())))
-    {
-        QString error;
-        files::FailUnless(folder.Open(Frames, &error), error);
-    }
+    const QString place = QFileInfo(path).absoluteFilePath();
+    QString target;
+    QString error;
+    files::FailUnless(files::FindTarget(place, &target, &error), error); // before playing
+    play(FilmStage::Pictures,
+         [&](int, const QImage& picture) { WritePng(place, PngOf(picture, format.transparent)); });
+}
 
-    void Add(int frame, const QImage& picture) override
-    {
-        if (!lastPng.valid() || picture != last) {
-            last = picture;
-            lastPng = std::async(std::launch::async, PngOf, picture, transparent, PngEffort::Fast);
-        }
-        waiting.push_back({frame, lastPng});
-        if (waiting.size() > std::max(1U, std::thread::hardware_concurrency()))
-            WriteNext();
-    }
-
-    void Finish() override
-    {
-        while (!waiting.empty())
-            WriteNext();
-        QString error;
-        files::FailUnless(folder.Finish(&error), error);
-    }
-
-private:
+/** Compresses the pictures on all processors. */
+void WritePngFolder(const QString& path, const FilmFormat& format, const PlayPictures& play)
+{
+    const int digits =
+        std::max(4, int(QString::number(format.firstFrame + format.frames - 1).size()));
+    files::WholeFolder folder(path);
+    QString error;
+    files::FailUnless(folder.Open(Frames, &error), error);
     using Png = std::shared_future<QByteArray>;
-
-    void WriteNext()
-    {
+    std::deque<std::pair<int, Png>> waiting;
+    const auto writeNext = [&] {
         const auto [frame, made] = waiting.front();
         waiting.pop_front();
         const QByteArray png = made.get();
         const QString name =
             QStringLiteral("frame-%1.png").arg(frame, digits, 10, QLatin1Char('0'));
-        QString error = QStringLiteral("%1/%2 cannot be written: the picture is too large")
-                            .arg(folder.Path(), name);
+        error = QStringLiteral("%1/%2 cannot be written: the picture is too large")
+                    .arg(folder.Path(), name);
         files::FailUnless(!png.isEmpty() && folder.Add(name, png, &error), error);
-    }
-
-    files::WholeFolder folder;
-    const bool transparent;
-    const int digits;
-    std::deque<std::pair<int, Png>> waiting;
+    };
     QImage last; // and its PNG: held pages are compressed once
     Png lastPng;
-};
-
-} // namespace
-
-FilmFilePointer MakeStill(const QString& path, const FilmFormat& format)
-{
-    return std::make_unique<StillFile>(path, format.transparent);
-}
-
-FilmFilePointer MakePngFolder(const QString& path, const FilmFormat& format)
-{
-    return std::make_unique<PngFolder>(path, format);
+    play(FilmStage::Pictures, [&](int frame, const QImage& picture) {
+        if (!lastPng.valid() || picture != last) {
+            last = picture;
+            lastPng =
+                std::async(std::launch::async, PngOf, picture, format.transparent, PngEffort::Fast);
+        }
+        waiting.emplace_back(frame, lastPng);
+        if (waiting.size() > std::max(1U, std::thread::hardware_concurrency()))
+            writeNext();
+    });
+    while (!waiting.empty())
+        writeNext();
+    files::FailUnless(folder.Finish(&error), error);
 }
 
 } // namespace AnimText::film

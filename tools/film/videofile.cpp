@@ -31,101 +31,67 @@ bool HasNewColors(const QImage& picture, QSet<QRgb>* known)
     return known->size() > before || before > paletteSize;
 }
 
+/** 256 colors, each a QRgb: all colors of the film, if those are not more. */
+QByteArray Palette(FilmProgram* chooser, const FilmFormat& format, const PlayPictures& play)
+{
+    chooser->Start("ffmpeg",
+                   FilmProgram::Reading(format.size, "bgra") +
+                       Words(QStringLiteral("-vf palettegen=reserve_transparent=%1 "
+                                            "-f rawvideo -pix_fmt bgra pipe:1")
+                                 .arg(format.transparent ? 1 : 0)),
+                   QString());
+    // The choice among few colors takes long, and does not depend on how often each is seen.
+    QSet<QRgb> known;
+    play(FilmStage::Colors, [&](int, const QImage& picture) {
+        if (HasNewColors(picture, &known))
+            chooser->Take(picture);
+    });
+    return chooser->Finish();
+}
+
+QStringList WithPalette(const QByteArray& palette)
+{
+    const auto* colors = reinterpret_cast<const QRgb*>(palette.constData());
+    const QSet<QRgb> distinct(colors, colors + palette.size() / int(sizeof(QRgb)));
+    // Where there is room left, every color is there, and looking for mixtures only takes time.
+    const QString dither = QLatin1String(distinct.size() < 255 ? "none" : "sierra2_4a");
+    return Words(QStringLiteral("-f rawvideo -pix_fmt bgra -s 16x16 -i "
+                                "data:image/raw;base64,%1 "
+                                "-filter_complex paletteuse=alpha_threshold=128:dither=%2")
+                     .arg(QString::fromLatin1(palette.toBase64()), dither));
+}
+
+} // namespace
+
 /**
  * ffmpeg takes the raw pictures on its standard input and writes under another name in the same
  * folder; the file gets its name when a check has found the complete film.
  */
-class VideoFile : public FilmFile
+void WriteVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
+                const PlayPictures& play, const GoOn& goOn, int patience)
 {
-public:
-    VideoFile(const QString& path, const FilmKind& kind, const FilmFormat& format,
-              const PlayPictures& play, const GoOn& goOn, int patience)
-        : path(QFileInfo(path).absoluteFilePath())
-        , kind(kind)
-        , format(format)
-        , goOn(goOn)
-        , patience(patience)
-        , encoder(this->path, goOn, patience)
-    {
-        unfinished.setFileTemplate(files::UnfinishedName(Target()));
-        if (!unfinished.open())
-            throw files::Failure{files::FailedRun,
-                                 files::CannotWrite(this->path, unfinished.errorString())};
-        QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
-        if (kind.Has(FilmKind::Palette))
-            words += WithPalette(Palette(play));
-        words += kind.Encoding(format.transparent, format.lossless);
-        encoder.Start("ffmpeg", words + QStringList{"-f", kind.Name(), "-y", unfinished.fileName()},
-                      unfinished.fileName());
+    const QString place = QFileInfo(path).absoluteFilePath();
+    QString target; // with links followed
+    QString error;
+    files::FailUnless(files::FindTarget(place, &target, &error), error);
+    QTemporaryFile unfinished(files::UnfinishedName(target));
+    files::FailUnless(unfinished.open(), files::CannotWrite(place, unfinished.errorString()));
+    QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
+    if (kind.Has(FilmKind::Palette)) {
+        FilmProgram chooser(place, goOn, patience);
+        words += WithPalette(Palette(&chooser, format, play));
     }
-
-    void Add(int, const QImage& picture) override { encoder.Take(picture); }
-
-    void Finish() override
-    {
-        encoder.Finish();
-        CheckFilm(path, unfinished.fileName(), kind.Name(), format, goOn);
-        QString error;
-        files::FailUnless(files::PutInPlace(unfinished.fileName(), Target(), 0666, &error), error);
-        unfinished.setAutoRemove(false);
-    }
-
-private:
-    /** The path with its links followed. */
-    QString Target() const
-    {
-        QString target;
-        QString error;
-        files::FailUnless(files::FindTarget(path, &target, &error), error);
-        return target;
-    }
-
-    /** 256 colors, each a QRgb: all colors of the film, if those are not more. */
-    QByteArray Palette(const PlayPictures& play) const
-    {
-        FilmProgram chooser(path, goOn, patience);
-        chooser.Start("ffmpeg",
-                      FilmProgram::Reading(format.size, "bgra") +
-                          Words(QStringLiteral("-vf palettegen=reserve_transparent=%1 "
-                                               "-f rawvideo -pix_fmt bgra pipe:1")
-                                    .arg(format.transparent ? 1 : 0)),
-                      QString());
-        // The choice among few colors takes long, and does not depend on how often each is seen.
-        QSet<QRgb> known;
-        play([&](const QImage& picture) {
-            if (HasNewColors(picture, &known))
-                chooser.Take(picture);
-        });
-        return chooser.Finish();
-    }
-
-    static QStringList WithPalette(const QByteArray& palette)
-    {
-        const auto* colors = reinterpret_cast<const QRgb*>(palette.constData());
-        const QSet<QRgb> distinct(colors, colors + palette.size() / int(sizeof(QRgb)));
-        // Where there is room left, every color is there, and looking for mixtures only takes time.
-        const QString dither = QLatin1String(distinct.size() < 255 ? "none" : "sierra2_4a");
-        return Words(QStringLiteral("-f rawvideo -pix_fmt bgra -s 16x16 -i "
-                                    "data:image/raw;base64,%1 "
-                                    "-filter_complex paletteuse=alpha_threshold=128:dither=%2")
-                         .arg(QString::fromLatin1(palette.toBase64()), dither));
-    }
-
-    const QString path;
-    const FilmKind kind;
-    const FilmFormat format;
-    const GoOn goOn;
-    const int patience;
-    QTemporaryFile unfinished;
-    FilmProgram encoder;
-};
-
-} // namespace
-
-FilmFilePointer MakeVideo(const QString& path, const FilmKind& kind, const FilmFormat& format,
-                          const PlayPictures& play, const GoOn& goOn, int patience)
-{
-    return std::make_unique<VideoFile>(path, kind, format, play, goOn, patience);
+    words += kind.Encoding(format.transparent, format.lossless);
+    FilmProgram encoder(place, goOn, patience);
+    encoder.Start("ffmpeg", words + QStringList{"-f", kind.Name(), "-y", unfinished.fileName()},
+                  unfinished.fileName());
+    play(FilmStage::Pictures, [&](int, const QImage& picture) { encoder.Take(picture); });
+    encoder.Finish();
+    CheckFilm(place, unfinished.fileName(), kind.Name(), format, goOn);
+    files::FailUnless(files::FindTarget(place, &target, &error) &&
+                          files::PutInPlace(unfinished.fileName(), target, 0666, &error),
+                      error);
+    unfinished.setAutoRemove(false);
 }
 
 } // namespace AnimText::film

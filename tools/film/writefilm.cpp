@@ -29,31 +29,27 @@ WrittenFilm WriteFilm(Film* film, QPair<int, int> range, const QString& path, bo
     std::iota(wanted.begin(), wanted.end(), range.first);
     const FilmFormat format{film->FrameSize(), range.first, int(wanted.size()),
                             film->IsTransparent(), isLossless};
-    FilmStage stage = FilmStage::Colors;
+    FilmStage stage = FilmStage::Pictures;
     int done = 0;
     const auto tell = [&] { watch(stage, done, format.frames); };
-    const auto play = [&](const std::function<void(const QImage&)>& take) {
-        film->Play(wanted, [&](int, const QImage& picture) {
-            take(picture);
+    const bool mayHalve = kind.Has(FilmKind::HalfColors) && !isLossless;
+    bool hasColor = false;
+    const auto play = [&](FilmStage next, const TakePicture& take) {
+        stage = next;
+        done = 0;
+        film->Play(wanted, [&](int frame, const QImage& picture) {
+            hasColor = hasColor || (mayHalve && !picture.allGray());
+            take(frame, picture);
             ++done;
             tell();
         });
     };
-    const FilmFilePointer file = kind.Has(FilmKind::Folder) ? MakePngFolder(path, format)
-                                 : kind.Has(FilmKind::Still)
-                                     ? MakeStill(path, format)
-                                     : MakeVideo(path, kind, format, play, tell);
-    stage = FilmStage::Pictures;
-    done = 0;
-    const bool mayHalve = kind.Has(FilmKind::HalfColors) && !isLossless;
-    bool hasColor = false;
-    film->Play(wanted, [&](int frame, const QImage& picture) {
-        hasColor = hasColor || (mayHalve && !picture.allGray());
-        file->Add(frame, picture);
-        ++done;
-        tell();
-    });
-    file->Finish();
+    if (kind.Has(FilmKind::Folder))
+        WritePngFolder(path, format, play);
+    else if (kind.Has(FilmKind::Still))
+        WriteStill(path, format, play);
+    else
+        WriteVideo(path, kind, format, play, tell);
     return {format.size, format.frames, SizeOf(path), hasColor};
 }
 
