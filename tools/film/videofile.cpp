@@ -75,7 +75,8 @@ void WriteVideo(const QString& path, const FilmKind& kind, const FilmFormat& for
     QString error;
     files::FailUnless(files::FindTarget(place, &target, &error), error);
     QTemporaryFile unfinished(files::UnfinishedName(target));
-    files::FailUnless(unfinished.open(), files::CannotWrite(place, unfinished.errorString()));
+    if (!unfinished.open())
+        throw files::Failure{files::FailedRun, files::CannotWrite(place, unfinished.errorString())};
     QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
     if (kind.Has(FilmKind::Palette)) {
         FilmProgram chooser(place, goOn, patience);
