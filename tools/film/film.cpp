@@ -31,8 +31,9 @@ Film::Film(player::Player* player, const scene::Scene& scene, const FilmSettings
     , settings(settings)
 {
     const int wanted = std::max(1, int(std::lround(settings.seconds * 1000 / player::tickLength)));
+    schedule = settings.schedule ? player::HostSchedule(scene, player->Durations())
+                                 : player::AllAtOnce(player->NodeCount());
     if (settings.schedule) {
-        schedule = player::HostSchedule(scene, player->Durations());
         frameCount = std::max(1, TicksOf(schedule.length));
         if (settings.seconds > 0)
             frameCount = std::min(frameCount, wanted);
@@ -124,10 +125,7 @@ void Film::Play(const QVector<int>& wanted, const TakePicture& take)
     // Some state outlives a restart, for example the dazzle colors.
     QString error;
     files::FailUnless(player->Load(scene, &error), error);
-    if (settings.schedule)
-        player->Start(schedule, settings.seed);
-    else
-        player->Start(settings.seed);
+    player->Start(schedule, settings.seed);
     for (int frame : wanted) {
         while (player->Tick() < frame) {
             Rest();

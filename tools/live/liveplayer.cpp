@@ -108,7 +108,6 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSetting
     auto next = std::make_unique<player::Stage>(plugin);
     if (!next->Build(wanted, error))
         return false;
-    scheduled.reset();
     stage = std::move(next);
     scene = wanted;
     settings = newSettings;
@@ -118,16 +117,9 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSetting
     keeper = std::make_unique<TickKeeper>(this);
     parts = QVector<Part>(stage->NodeCount(), Part());
     running.start();
-    if (settings.schedule) {
-        QVector<qint64> durations;
-        for (int node = 0; node < parts.size(); ++node)
-            durations.append(stage->Node(node)->Duration());
-        schedule = player::HostSchedule(scene, durations);
-        scheduled = std::make_unique<player::ScheduledPlay>(stage.get(), schedule, settings.seed);
-        scheduled->Change(0);
-    } else {
-        stage->Start(settings.seed);
-    }
+    schedule = settings.schedule ? player::HostSchedule(scene, stage->Durations())
+                                 : player::AllAtOnce(stage->NodeCount());
+    stage->Start(schedule, settings.seed);
     Run();
     for (int node = 0; node < parts.size(); ++node) {
         parts[node].ending = timing::EndingAtStart(*stage, node);
@@ -151,8 +143,7 @@ void LivePlayer::Run()
         if (stage->Motion(node).IsSideways())
             moves.start(smoothly);
     }
-    if (scheduled)
-        Change();
+    Change();
 }
 
 void LivePlayer::Show()
@@ -187,15 +178,15 @@ void LivePlayer::Tick()
 void LivePlayer::Change()
 {
     if (Time() < schedule.length)
-        scheduled->Change(Time());
-    const qint64 next = scheduled->NextChange();
-    if (next >= 0 && next < schedule.length)
+        stage->Change(Time());
+    const qint64 next = stage->NextChange();
+    if (next < schedule.length)
         changes.start(int(std::max<qint64>(0, next - Time())));
 }
 
 bool LivePlayer::IsOver()
 {
-    if (scheduled)
+    if (settings.schedule)
         return Time() >= schedule.length;
     bool allFinished = true;
     for (int node = 0; node < parts.size(); ++node) {

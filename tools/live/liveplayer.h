@@ -4,7 +4,6 @@
  */
 #pragma once
 
-#include "player/schedule.h"
 #include "player/stage.h"
 #include "timing/playlength.h"
 
@@ -89,7 +88,6 @@ private:
     scene::Scene scene;
     LiveSettings settings;
     player::Schedule schedule;
-    std::unique_ptr<player::ScheduledPlay> scheduled;
     struct Part
     {
         timing::Ending ending = timing::Ending::TooLong;

@@ -31,35 +31,11 @@ bool Player::Load(const scene::Scene& scene, QString* error)
     return stage.Build(scene, error);
 }
 
-QVector<qint64> Player::Durations() const
-{
-    QVector<qint64> durations;
-    for (int node = 0; node < NodeCount(); ++node)
-        durations.append(stage.Node(node)->Duration());
-    return durations;
-}
-
-void Player::Start(uint seed)
-{
-    tick = 0;
-    origin = dispatcher->Now();
-    scheduled.reset();
-    stage.Start(seed);
-    Begin();
-}
-
 void Player::Start(const Schedule& schedule, uint seed)
 {
     tick = 0;
     origin = dispatcher->Now();
-    stage.Stop();
-    scheduled = std::make_unique<ScheduledPlay>(&stage, schedule, seed);
-    scheduled->Change(0);
-    Begin();
-}
-
-void Player::Begin()
-{
+    stage.Start(schedule, seed);
     // New sessions were not visible before.
     parts = QVector<Part>(NodeCount());
     CountSwaps();
@@ -73,10 +49,9 @@ void Player::Begin()
 void Player::Advance()
 {
     ++tick;
-    while (scheduled && scheduled->NextChange() >= 0 && scheduled->NextChange() <= Time()) {
-        const qint64 change = scheduled->NextChange();
-        dispatcher->AdvanceTo(origin + change);
-        scheduled->Change(change);
+    for (qint64 next; (next = stage.NextChange()) <= Time();) {
+        dispatcher->AdvanceTo(origin + next);
+        stage.Change(next);
     }
     dispatcher->AdvanceTo(origin + Time());
     CountSwaps();

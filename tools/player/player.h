@@ -4,7 +4,6 @@
  */
 #pragma once
 
-#include "player/schedule.h"
 #include "player/stage.h"
 #include "player/virtualdispatcher.h"
 
@@ -44,7 +43,7 @@ public:
     bool Load(const scene::Scene& scene, QString* error);
 
     /** Tick 0: starts every node. */
-    void Start(uint seed = standardSeed);
+    void Start(uint seed = standardSeed) { Start(AllAtOnce(NodeCount()), seed); }
     /** Tick 0 of a showing in which the host starts and stops the nodes as @p schedule says. */
     void Start(const Schedule& schedule, uint seed);
     /** Advances to the next tick. */
@@ -53,10 +52,8 @@ public:
     int Tick() const { return tick; }
     qint64 Time() const { return qint64(tick) * tickLength; }
 
-    /** The planned time of each node, milliseconds. */
-    QVector<qint64> Durations() const;
-
     Stage& Scenery() { return stage; }
+    QVector<qint64> Durations() const { return stage.Durations(); }
     int NodeCount() const { return stage.NodeCount(); }
     /** 0 finished, 1 playing, 2 nothing to play. */
     int State(int node) const { return stage.Render(node)->renderState(); }
@@ -89,12 +86,10 @@ private:
     };
 
     static qint64 Clock(void* player);
-    void Begin();
     void CountSwaps();
 
     VirtualDispatcher* dispatcher;
     Stage stage;
-    std::unique_ptr<ScheduledPlay> scheduled;
     qint64 origin = 0;
     int tick = 0;
     QVector<Part> parts; // one a node

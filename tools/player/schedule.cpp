@@ -1,10 +1,17 @@
 #include "player/schedule.h"
 
-#include "player/stage.h"
-
 #include <algorithm>
 
 namespace AnimText::player {
+
+Schedule AllAtOnce(int nodes)
+{
+    Schedule schedule;
+    for (int node = 0; node < nodes; ++node)
+        schedule.showings.append({node, 0, never});
+    schedule.length = never;
+    return schedule;
+}
 
 Schedule HostSchedule(const scene::Scene& scene, const QVector<qint64>& durations)
 {
@@ -34,33 +41,6 @@ Schedule HostSchedule(const scene::Scene& scene, const QVector<qint64>& duration
     std::stable_sort(schedule.showings.begin(), schedule.showings.end(),
                      [](const Showing& a, const Showing& b) { return a.from < b.from; });
     return schedule;
-}
-
-ScheduledPlay::ScheduledPlay(Stage* stage, const Schedule& schedule, uint seed)
-    : stage(stage)
-    , coming(schedule.showings)
-    , seed(seed)
-{
-}
-
-qint64 ScheduledPlay::NextChange() const
-{
-    qint64 next = coming.isEmpty() ? -1 : coming.first().from;
-    for (const Showing& showing : shown)
-        next = next < 0 ? showing.until : std::min(next, showing.until);
-    return next;
-}
-
-void ScheduledPlay::Change(qint64 time)
-{
-    for (int i = shown.size() - 1; i >= 0; --i) {
-        if (shown.at(i).until <= time)
-            stage->StopNode(shown.takeAt(i).node);
-    }
-    while (!coming.isEmpty() && coming.first().from <= time) {
-        stage->StartNode(coming.first().node, seed);
-        shown.append(coming.takeFirst());
-    }
 }
 
 } // namespace AnimText::player

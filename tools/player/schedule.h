@@ -8,6 +8,8 @@
 
 #include <QVector>
 
+#include <limits>
+
 namespace AnimText::player {
 
 /** A node's time on the display, in milliseconds from the start of the program. */
@@ -29,27 +31,12 @@ struct Schedule
     qint64 length = 0;         ///< milliseconds
 };
 
+constexpr qint64 never = std::numeric_limits<qint64>::max();
+
+/** All of @p nodes at once, until something else is played. */
+Schedule AllAtOnce(int nodes);
+
 /** @param durations what each node's Duration() returns, milliseconds, in the order of the file */
 Schedule HostSchedule(const scene::Scene& scene, const QVector<qint64>& durations);
-
-class Stage;
-
-/** Starts and stops the nodes of a stage as a schedule says, on any clock. */
-class ScheduledPlay
-{
-public:
-    ScheduledPlay(Stage* stage, const Schedule& schedule, uint seed);
-
-    /** When there is something to start or to stop, milliseconds; negative: never. */
-    qint64 NextChange() const;
-    /** Does what is due at @p time: first what ends, then what begins. */
-    void Change(qint64 time);
-
-private:
-    Stage* stage;
-    QVector<Showing> coming;
-    QVector<Showing> shown;
-    uint seed;
-};
 
 } // namespace AnimText::player

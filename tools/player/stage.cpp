@@ -53,13 +53,43 @@ bool Stage::Build(const scene::Scene& scene, QString* error)
     return true;
 }
 
-void Stage::Start(uint seed)
+void Stage::Start(const Schedule& schedule, uint newSeed)
 {
-    for (int node = 0; node < NodeCount(); ++node)
-        StartNode(node, seed);
+    coming = schedule.showings;
+    shown.clear();
+    seed = newSeed;
+    Change(0);
 }
 
-void Stage::StartNode(int node, uint seed)
+qint64 Stage::NextChange() const
+{
+    qint64 next = coming.isEmpty() ? never : coming.first().from;
+    for (const Showing& showing : shown)
+        next = std::min(next, showing.until);
+    return next;
+}
+
+void Stage::Change(qint64 time)
+{
+    for (int i = shown.size() - 1; i >= 0; --i) {
+        if (shown.at(i).until <= time)
+            StopNode(shown.takeAt(i).node);
+    }
+    while (!coming.isEmpty() && coming.first().from <= time) {
+        StartNode(coming.first().node);
+        shown.append(coming.takeFirst());
+    }
+}
+
+QVector<qint64> Stage::Durations() const
+{
+    QVector<qint64> durations;
+    for (Lw::HNeonNodeBase* node : tree.nodes)
+        durations.append(node->Duration());
+    return durations;
+}
+
+void Stage::StartNode(int node)
 {
     created = 0;
     appended.clear();

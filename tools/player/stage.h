@@ -5,6 +5,7 @@
 #pragma once
 
 #include "player/nodetree.h"
+#include "player/schedule.h"
 #include "scene/motion.h"
 #include "scene/scene.h"
 
@@ -36,15 +37,19 @@ public:
     bool Build(const scene::Scene& scene, QString* error);
 
     /**
-     * Starts every node, in the order of the file, each after the random numbers have been seeded
-     * with @p seed: every start gets the same ones.
+     * Begins to play @p schedule: from now on, Change() starts and stops the nodes. Before each
+     * start, the random numbers are seeded with @p seed: every start gets the same ones.
      */
-    void Start(uint seed);
-    void StartNode(int node, uint seed);
+    void Start(const Schedule& schedule, uint seed);
+    /** When there is something to start or to stop, milliseconds; player::never: never. */
+    qint64 NextChange() const;
+    /** Does what is due at @p time: first what ends, then what begins. */
+    void Change(qint64 time);
     /** Stops every node and takes it off the display. */
     void Stop();
-    void StopNode(int node);
 
+    /** The planned time of each node, milliseconds. */
+    QVector<qint64> Durations() const;
     int NodeCount() const { return tree.nodes.size(); }
     Lw::HNeonNodeBase* Node(int node) const { return tree.nodes.at(node); }
     Lw::IContentRender* Render(int node) const { return parts.at(size_t(node)).render.get(); }
@@ -76,12 +81,17 @@ private:
     };
 
     static void Log(void* stage, const Torv::CallRecord& call);
+    void StartNode(int node);
+    void StopNode(int node);
     void FindLayers(int node);
 
     Lw::INodePlugin* plugin;
     std::unique_ptr<Torv::Display> display;
     NodeTree tree;
     std::vector<Part> parts;
+    QVector<Showing> coming;
+    QVector<Showing> shown;
+    uint seed = 0;
     PicSession created = 0; // by the last start
     QVector<int> appended;  // layers, by the last start; negative: it failed
     std::function<void(const Torv::CallRecord&)> watch;

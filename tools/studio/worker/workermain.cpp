@@ -105,10 +105,9 @@ private:
         if (order.part.calls)
             player->Scenery().WatchCalls(
                 [this](const Torv::CallRecord& call) { calls += player::CallLine(call) + '\n'; });
-        if (order.part.schedule)
-            player->Start(player::HostSchedule(scene, player->Durations()), player::standardSeed);
-        else
-            player->Start(player::standardSeed);
+        player->Start(order.part.schedule ? player::HostSchedule(scene, player->Durations())
+                                          : player::AllAtOnce(player->NodeCount()),
+                      player::standardSeed);
         started = true;
     }
 
