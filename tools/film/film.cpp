@@ -55,35 +55,6 @@ QSize Film::FrameSize() const
     return settings.evenSize ? size + odd : size;
 }
 
-int Film::PlannedFrames(const QVector<timing::NodePlay>& plays)
-{
-    int lastTick = 0;
-    restTick = -1;
-    comesToRest = QVector<bool>(plays.size(), false);
-    for (int node = 0; node < plays.size(); ++node) {
-        Lw::HNeonNodeBase* animated = player->Scenery().Node(node);
-        switch (plays.at(node).ending) {
-        case timing::Ending::Finishes: {
-            comesToRest[node] = true;
-            const int rest = settings.restAtEnd ? std::max(0, animated->GetHoldTime()) : 0;
-            restTick = std::max(restTick, plays.at(node).finishedTick);
-            lastTick = std::max(lastTick, plays.at(node).finishedTick + TicksOf(rest * 100LL));
-            break;
-        }
-        case timing::Ending::ScrollsOn:
-            // The picture after the last one is the first.
-            lastTick = std::max(lastTick, TicksOf(timing::ScrollPass(player->Scenery(), node)) - 1);
-            break;
-        case timing::Ending::StandsStill:
-            lastTick = std::max(lastTick, TicksOf(animated->Duration()) - 1);
-            break;
-        case timing::Ending::NothingToPlay: break;
-        case timing::Ending::TooLong: return ticksOfAnHour + 1;
-        }
-    }
-    return lastTick + 1;
-}
-
 int Film::FindEnd(const FilmWatch& watch)
 {
     const timing::BlankScene blank(scene);
@@ -94,7 +65,23 @@ int Film::FindEnd(const FilmWatch& watch)
             watch(FilmStage::End, tick, 0);
         return true;
     };
-    return PlannedFrames(timing::PlayToEnd(player, ticksOfAnHour + 1, settings.seed, look));
+    const QVector<timing::NodePlay> plays =
+        timing::PlayToEnd(player, ticksOfAnHour + 1, settings.seed, look);
+    int frames = 1;
+    for (int node = 0; node < plays.size(); ++node) {
+        const timing::NodePlay& play = plays.at(node);
+        if (play.ending == timing::Ending::TooLong)
+            return ticksOfAnHour + 1;
+        if (play.ending != timing::Ending::Finishes) {
+            frames = std::max(frames, TicksOf(play.end)); // the one after the last is the first
+            continue;
+        }
+        const int hold = player->Scenery().Node(node)->GetHoldTime();
+        const int rest = settings.restAtEnd ? std::max(0, hold) : 0;
+        frames = std::max(frames, TicksOf(play.end + rest * 100LL) + 1);
+        restTick = std::max(restTick, play.finishedTick);
+    }
+    return frames;
 }
 
 /** @p shown, scaled to @p part, in a picture of @p size with the background. */
@@ -140,8 +127,8 @@ void Film::Rest()
 {
     if (player->Tick() != restTick)
         return;
-    for (int node = 0; node < comesToRest.size(); ++node) {
-        if (comesToRest.at(node))
+    for (int node = 0; node < player->NodeCount(); ++node) {
+        if (player->State(node) == 0 && !player->Scenery().Motion(node).IsSideways())
             player->Scenery().Render(node)->Pause();
     }
 }

@@ -66,7 +66,6 @@ public:
 
 private:
     int FindEnd(const FilmWatch& watch);
-    int PlannedFrames(const QVector<timing::NodePlay>& plays);
     QImage OnBackground(const QImage& shown, QSize part, QSize size) const;
     QImage Picture() const;
     void Rest();
@@ -76,8 +75,7 @@ private:
     FilmSettings settings;
     player::Schedule schedule;
     int frameCount = 0;
-    int restTick = -1;         // from here on, finished texts are frozen; negative: never
-    QVector<bool> comesToRest; // by node
+    int restTick = -1; // from here on, finished texts are frozen; negative: never
 };
 
 } // namespace AnimText::film

@@ -122,14 +122,9 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSetting
     stage->Start(schedule, settings.seed);
     Run();
     for (int node = 0; node < parts.size(); ++node) {
-        parts[node].ending = timing::EndingAtStart(*stage, node);
-        switch (parts.at(node).ending) {
-        case timing::Ending::NothingToPlay: parts[node].end = 0; break;
-        case timing::Ending::ScrollsOn: parts[node].end = timing::ScrollPass(*stage, node); break;
-        case timing::Ending::StandsStill: parts[node].end = stage->Node(node)->Duration(); break;
-        case timing::Ending::Finishes:
-        case timing::Ending::TooLong: break; // the renderer will say
-        }
+        const timing::NodePlay play = timing::PlayAtStart(*stage, node);
+        parts[node].ending = play.ending;
+        parts[node].end = play.end; // where it is not known, the renderer will say
     }
     Show();
     return true;

@@ -18,30 +18,17 @@ constexpr int longHold = 50;    // units of 100 ms
 constexpr int certainHold = 40; // ticks without a picture that only a hold can be; none of the
                                 // speeds waits longer than 16 from one picture to the next
 
-scene::Scene WithoutHolds(scene::Scene scene)
-{
-    for (scene::SceneNode* node : scene.Nodes())
-        node->hold = 0;
-    return scene;
-}
-
-/** Holds are unmistakable. */
-scene::Scene WithLongHolds(scene::Scene scene)
-{
-    for (scene::SceneNode* node : scene.Nodes())
-        node->hold = std::min(std::max(0, node->hold), 1000) + longHold;
-    return scene;
-}
-
 } // namespace
 
-Ending EndingAtStart(const player::Stage& stage, int node)
+NodePlay PlayAtStart(const player::Stage& stage, int node)
 {
     if (stage.Render(node)->renderState() == 2)
-        return Ending::NothingToPlay;
+        return {Ending::NothingToPlay, -1, 0};
     if (stage.Motion(node).IsSideways())
-        return Ending::ScrollsOn;
-    return stage.Motion(node).mode == scene::Mode::Still ? Ending::StandsStill : Ending::TooLong;
+        return {Ending::ScrollsOn, 0, ScrollPass(stage, node)};
+    if (stage.Motion(node).mode == scene::Mode::Still)
+        return {Ending::StandsStill, -1, stage.Node(node)->Duration()};
+    return {};
 }
 
 BlankScene::BlankScene(const scene::Scene& from)
@@ -71,12 +58,10 @@ BlankScene::BlankScene(const scene::Scene& from)
 QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed, const Watch& watch)
 {
     player->Start(seed);
-    QVector<NodePlay> plays(player->NodeCount());
+    QVector<NodePlay> plays;
     QList<int> playing; // that can end
-    for (int node = 0; node < plays.size(); ++node) {
-        plays[node].ending = EndingAtStart(player->Scenery(), node);
-        if (plays.at(node).ending == Ending::ScrollsOn)
-            plays[node].finishedTick = 0;
+    for (int node = 0; node < player->NodeCount(); ++node) {
+        plays.append(PlayAtStart(player->Scenery(), node));
         if (plays.at(node).ending != Ending::TooLong || !player->Scenery().Motion(node).Row())
             continue;
         playing.append(node);
@@ -91,6 +76,7 @@ QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed, cons
             if (player->State(node) == 0) {
                 plays[node].ending = Ending::Finishes;
                 plays[node].finishedTick = player->Tick();
+                plays[node].end = player->Time();
                 playing.removeOne(node);
             }
         }
@@ -100,27 +86,49 @@ QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed, cons
     return plays;
 }
 
+namespace {
+
+/**
+ * Plays @p scene without outlines, first with its holds changed, then as it is, and has @p compare
+ * look at both plays of each node that finishes.
+ */
+QVector<NodePlay>
+PlayTwice(player::Player* player, const scene::Scene& scene, int longest, uint seed,
+          const Watch& watch, QString* error, int (*holdOf)(int hold),
+          const std::function<void(int node, const NodePlay& changed, NodePlay* play)>& compare)
+{
+    const BlankScene blank(scene);
+    scene::Scene changed = blank.Get();
+    for (scene::SceneNode* node : changed.Nodes())
+        node->hold = holdOf(node->hold);
+    if (!player->Load(changed, error))
+        return {};
+    const QVector<NodePlay> others = PlayToEnd(player, 3 * longest, seed, watch);
+    if (others.isEmpty() || !player->Load(blank.Get(), error))
+        return {};
+    QVector<NodePlay> plays = PlayToEnd(player, longest, seed, watch);
+    for (int node = 0; node < plays.size(); ++node) {
+        if (plays.at(node).ending == Ending::Finishes)
+            compare(node, others.at(node), &plays[node]);
+    }
+    return plays;
+}
+
+} // namespace
+
 QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, uint seed,
                            const Watch& watch, QString* error)
 {
-    const BlankScene blank(scene);
-    if (!player->Load(WithoutHolds(blank.Get()), error))
-        return {};
-    const QVector<NodePlay> moving = PlayToEnd(player, ticksOfADay, seed, watch);
-    if (moving.isEmpty() || !player->Load(blank.Get(), error))
-        return {};
-    QVector<NodePlay> plays = PlayToEnd(player, ticksOfADay, seed, watch);
-    for (int node = 0; node < plays.size(); ++node) {
-        NodePlay& play = plays[node];
-        // With no plays, the first check finds it finished, whatever was drawn.
-        const bool isPlayed = player->Scenery().Node(node)->GetAttributeToInt("PlayTimes") > 0;
-        if (play.ending == Ending::Finishes && isPlayed) {
-            const QVector<int>& pictures = moving.at(node).pictures;
-            play.animationTicks = pictures.size() * std::max(1, pictures.value(1));
-            play.holdTicks = play.finishedTick - moving.at(node).finishedTick;
-        }
-    }
-    return plays;
+    const auto noHold = [](int) { return 0; };
+    return PlayTwice(player, scene, ticksOfADay, seed, watch, error, noHold,
+                     [&](int node, const NodePlay& moving, NodePlay* play) {
+                         // With no plays, the first check finds it finished, whatever was drawn.
+                         if (player->Scenery().Node(node)->GetAttributeToInt("PlayTimes") <= 0)
+                             return;
+                         play->animationTicks =
+                             moving.pictures.size() * std::max(1, moving.pictures.value(1));
+                         play->holdTicks = play->finishedTick - moving.finishedTick;
+                     });
 }
 
 /** Pages end where nothing was painted for longer than anything except a hold can take. */
@@ -144,19 +152,11 @@ QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held
 QVector<NodePlay> MeasurePages(player::Player* player, const scene::Scene& scene, int longest,
                                const Watch& watch, QString* error)
 {
-    const BlankScene blank(scene);
-    if (!player->Load(WithLongHolds(blank.Get()), error))
-        return {};
-    const QVector<NodePlay> held = PlayToEnd(player, 3 * longest, player::standardSeed, watch);
-    if (held.isEmpty() || !player->Load(blank.Get(), error))
-        return {};
-    QVector<NodePlay> plays = PlayToEnd(player, longest, player::standardSeed, watch);
-    for (int node = 0; node < plays.size(); ++node) {
-        NodePlay& play = plays[node];
-        if (play.ending == Ending::Finishes)
-            play.pages = PageTimes(play.pictures, held.at(node).pictures, play.finishedTick);
-    }
-    return plays;
+    const auto unmistakable = [](int hold) { return std::min(std::max(0, hold), 1000) + longHold; };
+    return PlayTwice(player, scene, longest, player::standardSeed, watch, error, unmistakable,
+                     [](int, const NodePlay& held, NodePlay* play) {
+                         play->pages = PageTimes(play->pictures, held.pictures, play->finishedTick);
+                     });
 }
 
 qint64 ScrollPass(const player::Stage& stage, int node)

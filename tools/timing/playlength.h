@@ -45,7 +45,9 @@ struct PageTime
 struct NodePlay
 {
     Ending ending = Ending::TooLong;
-    int finishedTick = -1;   ///< the first tick after which it was finished; -1 never
+    int finishedTick = -1; ///< the first tick after which it was finished; -1 never
+    qint64 end = -1; ///< milliseconds: when it finishes, has scrolled through its area once, or the
+                     ///< planned time of a still text is over; -1: not known
     QVector<int> pictures{}; ///< the ticks that brought a picture of the text, until it finished
 
     QVector<PageTime> pages{}; ///< see MeasurePages()
@@ -59,8 +61,8 @@ struct NodePlay
     }
 };
 
-/** How a node's play ends, if known at its start; otherwise TooLong. */
-Ending EndingAtStart(const player::Stage& stage, int node);
+/** How and when a node's play ends, if that is known at its start; otherwise TooLong. */
+NodePlay PlayAtStart(const player::Stage& stage, int node);
 
 /** Called at every tick; returns false to stop. */
 using Watch = std::function<bool(int tick)>;

@@ -1,27 +1,11 @@
 #include "studio/worker/timing.h"
 
-#include <hneonnodebase.h>
-
 #include <algorithm>
 
 namespace AnimText::studio::worker {
 namespace {
 
 constexpr int longest = 20 * 60 * 1000 / player::tickLength; // ticks to measure at most
-
-/** Actual time of a text in milliseconds; negative if it never ends. */
-qint64 ActualEnd(const timing::NodePlay& play, const player::Player& player, player::Stage* stage,
-                 int node)
-{
-    switch (play.ending) {
-    case timing::Ending::Finishes: return play.FinishedMs();
-    case timing::Ending::ScrollsOn: return timing::ScrollPass(*stage, node);
-    case timing::Ending::StandsStill: return player.Durations().at(node);
-    case timing::Ending::NothingToPlay: return 0;
-    case timing::Ending::TooLong: return -1;
-    }
-    return -1;
-}
 
 } // namespace
 
@@ -39,7 +23,7 @@ bool MeasureTiming(player::Player* player, const scene::Scene& scene, bool sched
         TextTime text;
         text.ending = plays.at(node).ending;
         text.planned = durations.at(node);
-        text.actual = ActualEnd(plays.at(node), *player, &player->Scenery(), node);
+        text.actual = plays.at(node).end;
         text.pages = plays.at(node).pages;
         timing->isCut = timing->isCut || text.ending == timing::Ending::TooLong;
         timing->length = std::max({timing->length, text.planned, text.actual});
