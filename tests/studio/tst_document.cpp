@@ -57,6 +57,8 @@ void TestDocument::mergesChangesOfOneGesture()
     document.Change("Text", Written(document, "abcd"), "text 2");
     document.Change("Text", Written(document, "abcde"));
     document.Change("Text", Written(document, "x"));
+    for (const char* text : {"xy", "x"}) // ends where it began
+        document.Change("Text", Written(document, text), "text 3");
     QStringList back;
     while (document.Undo()->canUndo()) {
         document.Undo()->undo();

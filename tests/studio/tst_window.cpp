@@ -422,6 +422,7 @@ void TestWindow::editsTextsAndPages()
     QCOMPARE(choose("b", "Bring to front"), QString("cb a"));
     QCOMPARE(choose("b", "New page"), QString("c a b"));
     QCOMPARE(choose("Page 3 · b", "Move page up"), QString("c b a"));
+    QCOMPARE(list->PageOfRow(), 1); // follows the page
     QCOMPARE(choose("Page 1 · c", "Duplicate page"), QString("c c b a"));
     QCOMPARE(list->PageOfRow(), 0);
     QVERIFY(Settles());
@@ -431,7 +432,11 @@ void TestWindow::editsTextsAndPages()
     QCOMPARE(choose("Page 1 · c", "Remove page"), QString("c b a"));
     QCOMPARE(choose("c", "Duplicate text"), QString("cc b a"));
     QCOMPARE(Text(1).node.pos, Text(0).node.pos + QPoint(128, 0)); // beside it
+    list->setCurrentItem(row("a"));
     row("b")->setText(0, "Name");
+    window->GetDocument()->Undo()->undo();
+    QCOMPARE(window->Selected(), Text(2).id); // what has changed is seen
+    window->GetDocument()->Undo()->redo();
     QCOMPARE(words(), QString("cc Name a"));
     QVERIFY(row("Page 2 · Name")); // a page has the title of its first text
     QCOMPARE(Text(2).source.text.text, QString("b"));

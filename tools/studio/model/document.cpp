@@ -6,10 +6,13 @@
 #include <QFileInfo>
 #include <QUndoCommand>
 
+#include <algorithm>
+#include <utility>
+
 namespace AnimText::studio::model {
 namespace {
 
-constexpr int tellingDelay = 50; // milliseconds from a layout to Changed()
+constexpr int rememberedBytes = 64 << 20; // of layouts
 
 /** A digest of the file's content; empty if there is no file. */
 QByteArray DigestOfFile(const QString& path)
@@ -19,6 +22,11 @@ QByteArray DigestOfFile(const QString& path)
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
         return {};
     return hash.result();
+}
+
+bool IsSameDisplay(const Sign& a, const Sign& b)
+{
+    return a.display == b.display && a.alphaBlend == b.alphaBlend;
 }
 
 } // namespace
@@ -37,14 +45,22 @@ public:
     }
 
     int id() const override { return merge.isEmpty() ? -1 : 1; }
-    void undo() override { document->Set(before); }
-    void redo() override { document->Set(after); }
+    void undo() override { document->Revisit(before); }
+    void redo() override
+    {
+        if (std::exchange(isDone, true))
+            document->Revisit(after);
+        else
+            document->Set(after);
+    }
     bool mergeWith(const QUndoCommand* later) override
     {
         const auto* other = static_cast<const SignChange*>(later);
         if (other->merge != merge)
             return false;
         after = other->after;
+        // A drag that has ended where it began is no step.
+        setObsolete(IsSameDisplay(after, before) && after.texts == before.texts);
         return true;
     }
 
@@ -53,6 +69,7 @@ private:
     Sign before;
     Sign after;
     QString merge;
+    bool isDone = false;
 };
 
 bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QString* error)
@@ -70,31 +87,22 @@ bool SaveSign(const Sign& sign, const QString& path, const QByteArray& known, QS
             if (sources.contains(digest))
                 wanted.insert(digest, sources.value(digest));
         }
-        *scene = SceneToSave(sign, scene->path, dataFiles);
-        const author::TextSources own = SourcesOf(sign, *scene);
-        for (auto source = own.begin(); source != own.end(); ++source)
-            wanted.insert(source.key(), source.value());
-        dataFiles->insert(author::SourcesName(scene->path), author::SourcesToJson(wanted));
+        *scene = SceneToSave(sign, scene->path, dataFiles, wanted);
         return true;
     };
     return author::ChangeScene(path, change, error) == author::Storing::Saved;
 }
 
 Document::Document()
+    : layouts(rememberedBytes)
 {
-    connect(&layouts, &LayoutQueue::Made, this, &Document::TakeLayout);
     connect(&undo, &QUndoStack::cleanChanged, this, &Document::StateChanged);
     connect(&watcher, &QFileSystemWatcher::fileChanged, this, &Document::LookAtDisk);
     connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &Document::LookAtDisk);
-    telling.setSingleShot(true);
-    telling.setInterval(tellingDelay);
-    connect(&telling, &QTimer::timeout, this, &Document::Changed);
-    pool.setMaxThreadCount(1);
-}
-
-Document::~Document()
-{
-    pool.waitForDone();
+    saver.setMaxThreadCount(1);
+    // One permanent thread: each new thread would load the fonts again.
+    maker.setMaxThreadCount(1);
+    maker.setExpiryTimeout(-1);
 }
 
 QString Document::Name() const
@@ -106,14 +114,10 @@ void Document::Change(const QString& what, Sign after, const QString& merge)
 {
     for (SignText& text : after.texts) {
         const SignText* old = sign.Find(text.id);
-        const bool same =
-            old && old->source == text.source && old->node.size == text.node.size &&
-            scene::MotionOf(old->node).IsScroll() == scene::MotionOf(text.node).IsScroll() &&
-            scene::MotionOf(old->node).number == scene::MotionOf(text.node).number;
-        if (!same)
+        if (!old || !(*old == text))
             text.layoutKey = LayoutKey(text);
         if (old && !text.layout)
-            layouts.Forget(text); // it was reset because its files are damaged
+            layouts.remove(text.layoutKey); // it was reset because its files are damaged
     }
     undo.push(new SignChange(this, what, std::move(after), merge));
 }
@@ -122,8 +126,22 @@ void Document::Set(const Sign& next)
 {
     sign = next;
     ++revision;
-    AskForLayouts();
+    LayOut();
     emit Changed();
+}
+
+/** Changes to a state of the history, and says what differs there. */
+void Document::Revisit(const Sign& other)
+{
+    const bool isOfDisplay = !IsSameDisplay(other, sign);
+    const auto text =
+        std::find_if(other.texts.begin(), other.texts.end(), [this](const SignText& text) {
+            const SignText* now = sign.Find(text.id);
+            return !now || !(*now == text);
+        });
+    Set(other);
+    if (isOfDisplay || text != other.texts.end())
+        emit Revisited(isOfDisplay ? 0 : text->id);
 }
 
 void Document::Replace(const Sign& next, const QString& itsPath)
@@ -134,10 +152,10 @@ void Document::Replace(const Sign& next, const QString& itsPath)
     Know(itsPath, DigestOfFile(itsPath));
     for (const SignText& text : next.texts) {
         if (text.layout)
-            layouts.Remember(text.layout);
+            Remember(text.layout);
     }
     sign = next;
-    AskForLayouts();
+    LayOut();
     emit Replaced();
     emit StateChanged();
     emit Changed();
@@ -167,33 +185,46 @@ void Document::Recover(const Sign& recovered, const QString& file)
     undo.resetClean();
 }
 
-void Document::AskForLayouts()
+/** Takes the layouts that are known, and begins with the first of the others. */
+void Document::LayOut()
 {
     for (SignText& text : sign.texts) {
         if (text.IsLaidOut())
             continue;
-        if (const auto known = layouts.Ask(text))
-            text.layout = known;
+        if (const auto* known = layouts.object(text.layoutKey)) {
+            text.layout = *known;
+        } else if (pending.isEmpty()) {
+            pending = text.layoutKey;
+            maker.start([this, text] {
+                const auto layout = MakeLayout(text);
+                QMetaObject::invokeMethod(
+                    this, [this, layout] { Take(layout); }, Qt::QueuedConnection);
+            });
+        }
     }
 }
 
-void Document::TakeLayout(const std::shared_ptr<const Layout>& layout)
+void Document::Remember(const std::shared_ptr<const Layout>& layout)
 {
-    bool taken = false;
+    layouts.insert(layout->key, new std::shared_ptr<const Layout>(layout),
+                   layout->data.value("PathData").size() + layout->text.size() * 200 + 1000);
+}
+
+void Document::Take(const std::shared_ptr<const Layout>& layout)
+{
+    pending.clear();
+    Remember(layout);
+    const bool wasLaidOut = sign.IsLaidOut();
     for (SignText& text : sign.texts) {
-        if (text.layoutKey != layout->key || text.IsLaidOut())
-            continue;
-        text.layout = layout;
-        taken = true;
+        if (text.layoutKey == layout->key)
+            text.layout = layout;
     }
-    // Several layouts in a row cause one Changed().
-    if (taken && sign.IsLaidOut()) {
-        telling.stop();
+    LayOut();
+    if (!sign.IsLaidOut())
+        return;
+    if (!wasLaidOut)
         emit Changed();
-    } else if (taken && !telling.isActive()) {
-        telling.start();
-    }
-    if (!savePath.isEmpty() && sign.IsLaidOut())
+    if (!savePath.isEmpty())
         SaveNow();
 }
 
@@ -214,7 +245,7 @@ void Document::SaveNow()
     const QByteArray known = QFileInfo(file) == QFileInfo(path) ? onDisk : QByteArray();
     saving = true;
     emit StateChanged();
-    pool.start([this, saved, file, known, state] {
+    saver.start([this, saved, file, known, state] {
         QString error;
         const bool done = SaveSign(saved, file, known, &error);
         const QByteArray digest = done ? DigestOfFile(file) : QByteArray();

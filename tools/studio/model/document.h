@@ -4,13 +4,12 @@
  */
 #pragma once
 
-#include "studio/model/layoutqueue.h"
 #include "studio/model/sign.h"
 
+#include <QCache>
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QThreadPool>
-#include <QTimer>
 #include <QUndoStack>
 
 namespace AnimText::studio::model {
@@ -22,8 +21,6 @@ class Document : public QObject
 
 public:
     Document();
-    /** Waits for a save that is running. */
-    ~Document() override;
 
     const Sign& Current() const { return sign; }
     QUndoStack* Undo() { return &undo; }
@@ -59,8 +56,10 @@ public:
 signals:
     /** Another sign was opened. */
     void Replaced();
-    /** The sign has changed, was replaced, or has a new layout. */
+    /** The sign has changed, was replaced, or now has all its layouts. */
     void Changed();
+    /** An undone or redone step has changed the text @p id or, for 0, the display. */
+    void Revisited(int id);
     /** The path, the name or IsModified() has changed. */
     void StateChanged();
     void SaveEnded(bool saved, const QString& error);
@@ -71,16 +70,19 @@ private:
     friend class SignChange;
 
     void Set(const Sign& next);
+    void Revisit(const Sign& other);
     void Replace(const Sign& next, const QString& itsPath);
-    void AskForLayouts();
-    void TakeLayout(const std::shared_ptr<const Layout>& layout);
+    void LayOut();
+    void Remember(const std::shared_ptr<const Layout>& layout);
+    void Take(const std::shared_ptr<const Layout>& layout);
     void SaveNow();
     void Know(const QString& known, const QByteArray& digest);
     void LookAtDisk();
 
     Sign sign;
     QUndoStack undo;
-    LayoutQueue layouts;
+    QCache<QByteArray, std::shared_ptr<const Layout>> layouts; // by key; cost in bytes
+    QByteArray pending;                                        // key of the layout being made
     QString path;
     QString savePath; // target of a save that waits for layouts; empty for none
     bool saving = false;
@@ -88,9 +90,10 @@ private:
     int opened = 0;      // revision of the sign when it was opened
     QByteArray onDisk;   // digest of the file as last read or saved
     QByteArray reported; // digest that DiskChanged() was last emitted for
-    QTimer telling;      // delays Changed() for new layouts
     QFileSystemWatcher watcher;
-    QThreadPool pool;
+    // They are destroyed first, and wait for what is running.
+    QThreadPool saver;
+    QThreadPool maker; // of layouts
 };
 
 /**

@@ -27,7 +27,6 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
     const QString scenePath = dir.filePath(sceneName);
     author::DataFiles files;
     const scene::Scene scene = SceneToSave(sign, scenePath, &files);
-    files.insert(author::SourcesName(scenePath), author::SourcesToJson(SourcesOf(sign, scene)));
     const QJsonObject about{{"path", path}};
     files.insert(aboutName, QJsonDocument(about).toJson());
     QString error;

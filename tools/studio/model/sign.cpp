@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <tuple>
 
 namespace AnimText::studio::model {
 namespace {
@@ -80,6 +81,16 @@ QString NameIn(const QDir& folder, const QString& file)
 
 } // namespace
 
+bool operator==(const SignText& a, const SignText& b)
+{
+    const auto settings = [](const SignText& text) {
+        const scene::SceneNode& node = text.node;
+        return std::tie(text.id, text.source, node.pos, node.size, node.hold, node.neonEffect,
+                        node.attributes, node.files);
+    };
+    return settings(a) == settings(b);
+}
+
 int Sign::IndexOf(int id) const
 {
     const auto found = std::find_if(texts.begin(), texts.end(),
@@ -142,53 +153,26 @@ namespace {
 
 constexpr int aloneInArea = -1; // instead of an area number
 
-using Pages = QList<QList<SignText>>;
-
-Pages PagesOf(const Sign& sign)
+/** Sorts the texts by the numbers of their pages, and then numbers pages and areas from 0. */
+void Arrange(QList<SignText>* texts)
 {
-    Pages pages;
-    for (int page = 0; page < sign.PageCount(); ++page)
-        pages.append(QList<SignText>());
-    for (const SignText& text : sign.texts)
-        pages[text.page].append(text);
-    return pages;
-}
-
-/** Renumbers pages and areas; adjacent texts of the same area stay together. */
-void SetPages(Sign* sign, const Pages& pages)
-{
-    sign->texts.clear();
-    int number = 0;
-    for (const QList<SignText>& page : pages) {
-        int area = -1;
-        int before = aloneInArea;
-        for (SignText text : page) {
-            if (text.area == aloneInArea || text.area != before)
-                ++area;
-            before = text.area;
-            text.area = area;
-            text.page = number;
-            sign->texts.append(text);
+    std::stable_sort(texts->begin(), texts->end(),
+                     [](const SignText& a, const SignText& b) { return a.page < b.page; });
+    QPair<int, int> before{-1, aloneInArea}; // page and area as they were
+    int page = -1;
+    int area = 0;
+    for (SignText& text : *texts) {
+        const QPair<int, int> own{text.page, text.area};
+        if (own.first != before.first) {
+            ++page;
+            area = 0;
+        } else if (own.second == aloneInArea || own.second != before.second) {
+            ++area;
         }
-        number += page.isEmpty() ? 0 : 1;
+        before = own;
+        text.page = page;
+        text.area = area;
     }
-}
-
-/** Puts @p text at index @p place of @p page, which may be a new one, in an area of its own. */
-void Insert(Pages* pages, SignText text, int page, int place)
-{
-    while (pages->size() <= page)
-        pages->append(QList<SignText>());
-    QList<SignText>& texts = (*pages)[page];
-    text.area = aloneInArea;
-    texts.insert(qBound(0, place, int(texts.size())), text);
-}
-
-/** The index of @p text within its page. */
-int PlaceOf(const Sign& sign, const SignText& text)
-{
-    return int(std::count_if(sign.texts.begin(), sign.texts.begin() + sign.IndexOf(text.id),
-                             [&](const SignText& other) { return other.page == text.page; }));
 }
 
 QPoint FreePlace(const Sign& sign, const SignText& text)
@@ -213,9 +197,9 @@ QPoint FreePlace(const Sign& sign, const SignText& text)
 
 void AddText(Sign* sign, const SignText& text)
 {
-    Pages pages = PagesOf(*sign);
-    Insert(&pages, text, text.page, sign->texts.size());
-    SetPages(sign, pages);
+    sign->texts.append(text);
+    sign->texts.last().area = aloneInArea;
+    Arrange(&sign->texts);
 }
 
 void RemoveText(Sign* sign, int id)
@@ -224,58 +208,66 @@ void RemoveText(Sign* sign, int id)
     if (index < 0)
         return;
     sign->texts.removeAt(index);
-    SetPages(sign, PagesOf(*sign));
+    Arrange(&sign->texts);
 }
 
 void MoveText(Sign* sign, int id, int page, int place)
 {
-    const SignText* found = sign->Find(id);
-    if (!found)
+    const int from = sign->IndexOf(id);
+    if (from < 0)
         return;
-    const SignText text = *found;
-    const int from = PlaceOf(*sign, text);
-    Pages pages = PagesOf(*sign);
-    pages[text.page].removeAt(from);
-    Insert(&pages, text, page, page == text.page && place > from ? place - 1 : place);
-    SetPages(sign, pages);
+    QList<SignText>& texts = sign->texts;
+    const auto isBefore = [](const SignText& text, int page) { return text.page < page; };
+    const auto first = std::lower_bound(texts.begin(), texts.end(), page, isBefore);
+    const auto end = std::lower_bound(first, texts.end(), page + 1, isBefore);
+    const int to = int(first - texts.begin()) + qBound(0, place, int(end - first));
+    texts[from].page = page;
+    texts[from].area = aloneInArea;
+    texts.move(from, to > from ? to - 1 : to);
+    Arrange(&texts);
 }
 
 void MovePage(Sign* sign, int page, int to)
 {
-    Pages pages = PagesOf(*sign);
-    const QList<SignText> moved = pages.takeAt(page);
-    pages.insert(qBound(0, to > page ? to - 1 : to, int(pages.size())), moved);
-    SetPages(sign, pages);
+    for (SignText& text : sign->texts)
+        text.page = text.page == page ? 2 * to : 2 * text.page + 1; // before what is there
+    Arrange(&sign->texts);
 }
 
 void RemovePage(Sign* sign, int page)
 {
-    Pages pages = PagesOf(*sign);
-    pages.removeAt(page);
-    SetPages(sign, pages);
+    const auto isOnIt = [page](const SignText& text) { return text.page == page; };
+    QList<SignText>& texts = sign->texts;
+    texts.erase(std::remove_if(texts.begin(), texts.end(), isOnIt), texts.end());
+    Arrange(&texts);
 }
 
 void DuplicatePage(Sign* sign, int page)
 {
-    Pages pages = PagesOf(*sign);
-    QList<SignText> copies = pages.at(page);
-    for (SignText& text : copies)
-        text.id = NewTextId();
-    pages.insert(page + 1, copies);
-    SetPages(sign, pages);
+    QList<SignText> copies;
+    for (SignText& text : sign->texts) {
+        text.page *= 2;
+        if (text.page != 2 * page)
+            continue;
+        copies.append(text);
+        copies.last().id = NewTextId();
+        ++copies.last().page;
+    }
+    sign->texts.append(copies);
+    Arrange(&sign->texts);
 }
 
 int DuplicateText(Sign* sign, int id)
 {
-    const SignText* text = sign->Find(id);
-    if (!text)
+    const int index = sign->IndexOf(id);
+    if (index < 0)
         return 0;
-    SignText copy = *text;
+    SignText copy = sign->texts.at(index);
+    copy.node.pos = FreePlace(*sign, copy);
     copy.id = NewTextId();
-    copy.node.pos = FreePlace(*sign, *text);
-    Pages pages = PagesOf(*sign);
-    Insert(&pages, copy, copy.page, PlaceOf(*sign, *text) + 1);
-    SetPages(sign, pages);
+    copy.area = aloneInArea;
+    sign->texts.insert(index + 1, copy);
+    Arrange(&sign->texts);
     return copy.id;
 }
 
@@ -349,23 +341,24 @@ scene::Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& pla
     scene.path = path;
     scene.display = sign.display;
     scene.alphaBlend = sign.alphaBlend;
-    for (const QList<SignText>& texts : PagesOf(sign)) {
-        if (texts.isEmpty() || (page >= 0 && texts.first().page != page))
+    const SignText* before = nullptr;
+    for (const SignText& text : sign.texts) {
+        if (page >= 0 && text.page != page)
             continue;
-        scene::ScenePage written;
-        int area = -1; // the one that was written last
-        for (const SignText& text : texts) {
-            if (text.area != area)
-                written.areas.append(scene::SceneArea());
-            area = text.area;
-            written.areas.last().nodes.append(NodeOf(text, placeFile));
-        }
-        scene.pages.append(written);
+        const bool beginsPage = !before || text.page != before->page;
+        if (beginsPage)
+            scene.pages.append(scene::ScenePage());
+        QList<scene::SceneArea>& areas = scene.pages.last().areas;
+        if (beginsPage || text.area != before->area)
+            areas.append(scene::SceneArea());
+        areas.last().nodes.append(NodeOf(text, placeFile));
+        before = &text;
     }
     return scene;
 }
 
-scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFiles* dataFiles)
+scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFiles* dataFiles,
+                         author::TextSources sources)
 {
     const QDir folder = QFileInfo(files::RealPath(path)).dir();
     const auto place = [&](const Layout& layout, const QString& key) {
@@ -378,20 +371,14 @@ scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFile
         return name;
     };
     scene::Scene scene = SceneOf(sign, path, place);
-    for (scene::SceneNode* node : scene.Nodes()) {
-        for (QString& file : node->files)
+    const QList<scene::SceneNode*> nodes = scene.Nodes();
+    for (int i = 0; i < nodes.size(); ++i) {
+        for (QString& file : nodes.at(i)->files)
             file = NameIn(folder, file);
-    }
-    return scene;
-}
-
-author::TextSources SourcesOf(const Sign& sign, const scene::Scene& scene)
-{
-    author::TextSources sources;
-    const QList<const scene::SceneNode*> nodes = scene.Nodes();
-    for (int i = 0; i < nodes.size() && i < sign.texts.size(); ++i)
         sources.insert(author::LayoutDigest(*nodes.at(i)), sign.texts.at(i).source);
-    return sources;
+    }
+    dataFiles->insert(author::SourcesName(path), author::SourcesToJson(sources));
+    return scene;
 }
 
 } // namespace AnimText::studio::model

@@ -8,7 +8,6 @@
 #include "scene/scene.h"
 
 #include <QList>
-#include <QMetaType>
 #include <QSize>
 
 #include <functional>
@@ -43,6 +42,9 @@ struct SignText
         return source.name.isEmpty() ? source.text.text.simplified() : source.name;
     }
 };
+
+/** Whether both are the same text with the same settings, on any page and however laid out. */
+bool operator==(const SignText& a, const SignText& b);
 
 /** A sign with its texts, in the order of their pages and areas. */
 struct Sign
@@ -108,12 +110,11 @@ using PlaceFile = std::function<QString(const Layout& layout, const QString& key
 scene::Scene SceneOf(const Sign& sign, const QString& path, const PlaceFile& placeFile,
                      int page = -1);
 
-/** The scene with all its pages, and the data files to write beside it. */
-scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFiles* dataFiles);
-
-/** The text sources of @p sign for @p scene, which was made from it with all pages. */
-author::TextSources SourcesOf(const Sign& sign, const scene::Scene& scene);
+/**
+ * The scene with all its pages, and the files to write beside it: its data and its sources.
+ * @param sources others to keep
+ */
+scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFiles* dataFiles,
+                         author::TextSources sources = {});
 
 } // namespace AnimText::studio::model
-
-Q_DECLARE_METATYPE(std::shared_ptr<const AnimText::studio::model::Layout>)

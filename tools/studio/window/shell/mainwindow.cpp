@@ -135,6 +135,7 @@ void MainWindow::Connect()
         selected = document.Current().texts.isEmpty() ? 0 : document.Current().texts.first().id;
     });
     connect(&document, &model::Document::Changed, this, &MainWindow::Refresh);
+    connect(&document, &model::Document::Revisited, this, &MainWindow::Select);
     connect(&document, &model::Document::StateChanged, this, &MainWindow::ShowState);
     connect(&document, &model::Document::SaveEnded, this, [this](bool saved, const QString& error) {
         notices->Set(basics::NoticeBar::Save, saved ? QString() : tr("Not saved: %1").arg(error),
@@ -335,6 +336,8 @@ void MainWindow::Refresh()
     if (selected != 0 && !sign.Find(selected))
         selected = sign.texts.isEmpty() ? 0 : sign.texts.last().id;
     scenes->Show(sign);
+    if (scenes->PageOfRow() >= 0)
+        shownPage = scenes->PageOfRow(); // it may have been moved
     scenes->Select(selected);
     const model::SignText* text = sign.Find(selected);
     inspector->Show(sign, text);

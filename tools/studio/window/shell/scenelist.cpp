@@ -87,6 +87,7 @@ void SceneList::Rebuild()
 {
     const int current = IdOf(currentItem());
     const int currentPage = PageOfRow();
+    const int first = currentPage < 0 ? 0 : IdOf(currentItem()->child(0)); // of that page
     clear();
     const auto add = [](QTreeWidgetItem* parent, int page, int id, Qt::ItemFlags flags) {
         auto* item = new QTreeWidgetItem(parent);
@@ -105,8 +106,10 @@ void SceneList::Rebuild()
         add(page, text.first, text.second, Qt::ItemIsDragEnabled | Qt::ItemIsEditable);
     }
     expandAll();
+    const QTreeWidgetItem* kept = first == 0 ? nullptr : Find(first);
     // The display stands above the pages.
-    setCurrentItem(topLevelItem(qMin(currentPage + 1, topLevelItemCount() - 1)));
+    setCurrentItem(kept ? kept->parent()
+                        : topLevelItem(qMin(currentPage + 1, topLevelItemCount() - 1)));
     Select(current);
 }
 
