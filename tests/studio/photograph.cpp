@@ -124,7 +124,7 @@ private:
         for (int row = 0; row < list->model()->rowCount(); ++row) {
             const QModelIndex index = list->model()->index(row, 0);
             if (list->viewport()->rect().intersects(list->visualRect(index)) &&
-                !index.data(studio::window::motion::MotionPicker::CurrentRole).toBool())
+                !index.data(studio::window::motion::currentRole).toBool())
                 return false;
         }
         return true;

@@ -46,6 +46,9 @@ struct SignText
 /** Whether both are the same text with the same settings, on any page and however laid out. */
 bool operator==(const SignText& a, const SignText& b);
 
+/** Changes the settings of a text. */
+using TextChange = std::function<void(SignText* text)>;
+
 /** A sign with its texts, in the order of their pages and areas. */
 struct Sign
 {

@@ -450,6 +450,14 @@
         <source>Scrolling text has no pages.</source>
         <translation>Laufender Text hat keine Seiten.</translation>
     </message>
+    <message>
+        <source>Style %1</source>
+        <translation>Stil %1</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 <context>
     <name>AnimText::studio::window::form::Inspector</name>
@@ -557,17 +565,6 @@
     </message>
 </context>
 <context>
-    <name>AnimText::studio::window::form::NeonBox</name>
-    <message>
-        <source>Style %1</source>
-        <translation>Stil %1</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
-    </message>
-</context>
-<context>
     <name>AnimText::studio::window::motion::MotionPicker</name>
     <message>
         <source>Search motions</source>
@@ -588,6 +585,10 @@
     <message>
         <source>Motion family</source>
         <translation>Bewegungsfamilie</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Bewegung</translation>
     </message>
 </context>
 <context>

@@ -28,7 +28,7 @@ signals:
     void Selected(int id);
     /** Follows Selected() with its text. */
     void Edited(const QString& what, const QString& merge,
-                const AnimText::studio::window::form::TextChange& change);
+                const AnimText::studio::model::TextChange& change);
     void CountChanged(int count);
 
 protected:
@@ -39,7 +39,7 @@ private:
     struct Fix
     {
         QString words;
-        form::TextChange change;
+        model::TextChange change;
     };
     struct Row
     {

@@ -1,17 +1,23 @@
 #include "studio/window/form/attributeform.h"
 
 #include "studio/window/basics/style.h"
-#include "studio/window/form/neonbox.h"
+#include "studio/window/motion/thumbnails.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QSet>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 
 namespace AnimText::studio::window::form {
 namespace {
+
+constexpr int neonBorders = 28; // drawn styles; those above show the user's picture
+constexpr int neonRowsInSight = 8;
+constexpr QSize neonIcon{64, 16}; // in the closed field
 
 /** Whether the motion picker, the text field or the layout handles the attribute. */
 bool IsElsewhere(const scene::Attribute& attribute)
@@ -195,8 +201,30 @@ QWidget* AttributeForm::MakeFlag(const TextSetting& setting, const QString& word
 
 QWidget* AttributeForm::MakeNeon(const TextSetting& setting, motion::Thumbnails* thumbnails)
 {
-    auto* box = new NeonBox(thumbnails, this);
-    fills.append([=](const model::SignText& text) { box->ShowStyle(setting.read(text)); });
+    auto* box = new QComboBox(this);
+    for (int style = 1; style <= neonBorders; ++style) {
+        box->addItem(tr("Style %1").arg(style), style);
+        // Keeps the size when the picture arrives.
+        box->setItemData(style - 1, motion::thumbnailSize + QSize(0, basics::grid),
+                         Qt::SizeHintRole);
+    }
+    box->addItem(tr("Picture"), neonBorders + 1);
+    box->setMaxVisibleItems(neonRowsInSight);
+    box->setIconSize(neonIcon);
+    box->setItemDelegate(new QStyledItemDelegate(box)); // it uses the list's icon size
+    basics::LetShrink(box);
+    box->view()->setIconSize(motion::thumbnailSize);
+    box->view()->setMinimumWidth(motion::thumbnailSize.width() +
+                                 8 * basics::grid + // wider than the field
+                                 fontMetrics().horizontalAdvance(box->itemText(neonBorders - 1)) +
+                                 style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    thumbnails->Animate(box->view(), motion::neonThumbnails + 1, neonBorders);
+    fills.append([=](const model::SignText& text) {
+        const int style = setting.read(text);
+        box->setCurrentIndex(qBound(0, style - 1, neonBorders)); // 0 is the first style, too
+        // Every number above the borders means a picture; choosing it again keeps the number.
+        box->setItemData(neonBorders, qMax(neonBorders + 1, style));
+    });
     connect(box, qOverload<int>(&QComboBox::activated), this,
             [=] { Tell(setting, box->currentData().toInt()); });
     return box;

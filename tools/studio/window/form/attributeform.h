@@ -21,9 +21,6 @@ class Thumbnails;
 
 namespace AnimText::studio::window::form {
 
-/** Changes the text that is edited. */
-using TextChange = std::function<void(model::SignText* text)>;
-
 /** A number of a text. */
 struct TextSetting
 {
@@ -58,7 +55,7 @@ public:
 signals:
     /** @param merge consecutive changes with the same value are one undo step */
     void Edited(const QString& what, const QString& merge,
-                const AnimText::studio::window::form::TextChange& change);
+                const AnimText::studio::model::TextChange& change);
 
 private:
     /** Why a text does not use a setting; empty if it does. */

@@ -38,23 +38,8 @@ Inspector::Inspector(motion::Thumbnails* thumbnails, QWidget* parent)
     setWidget(content);
 
     connect(ofText, &AttributeForm::Edited, this, &Inspector::Edited);
-    connect(text, &text::TextPanel::Edited, this,
-            [this](const layout::StyledText& styled, int gesture) {
-                emit Edited(tr("Text"), QStringLiteral("text %1").arg(gesture),
-                            [styled](model::SignText* edited) { edited->source.text = styled; });
-            });
-    connect(motions, &motion::MotionPicker::Chosen, this, [this](bool scroll, int number) {
-        emit Edited(tr("Motion"), QString(), [scroll, number](model::SignText* edited) {
-            auto& attributes = edited->node.attributes;
-            const scene::NodeMotion old = scene::MotionOf(edited->node);
-            const scene::NodeMotion next{scroll ? scene::Mode::Scroll : scene::Mode::Entrance,
-                                         number};
-            scene::SetMotion(&edited->node, next);
-            // Entrances and scrolls have separate speeds; keep the one that was set.
-            if (attributes.contains(old.SpeedKey()))
-                attributes[next.SpeedKey()] = attributes.value(old.SpeedKey());
-        });
-    });
+    connect(text, &text::TextPanel::Edited, this, &Inspector::Edited);
+    connect(motions, &motion::MotionPicker::Edited, this, &Inspector::Edited);
 }
 
 /** Keeps the panel as wide as its content needs in any font and language. */

@@ -29,7 +29,7 @@ public:
 
 signals:
     void Edited(const QString& what, const QString& merge,
-                const AnimText::studio::window::form::TextChange& change);
+                const AnimText::studio::model::TextChange& change);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -1,6 +1,5 @@
 #include "studio/window/motion/motionpicker.h"
 
-#include "player/player.h"
 #include "studio/window/basics/style.h"
 #include "studio/window/motion/thumbnails.h"
 
@@ -8,15 +7,14 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QSettings>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace AnimText::studio::window::motion {
 namespace {
 
-constexpr int cardPadding = 4; // logical pixels
 constexpr double listShare = 0.45;
 const QString heightKey = "motions";
 
@@ -26,55 +24,20 @@ QString MotionWords(const char* words)
     return QCoreApplication::translate("Motions", words);
 }
 
-/** Paints a card: the picture on black, the title below it. */
+/** Highlights the whole card, and not only its title. */
 class MotionCard : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /** All cards are as wide as the longest title. */
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
-        int width = thumbnailSize.width();
-        for (const scene::Motion& motion : scene::Effects() + scene::Scrolls())
-            width =
-                qMax(width, option.fontMetrics.horizontalAdvance(MotionWords(motion.title)) + 2);
-        return {width + 2 * cardPadding,
-                thumbnailSize.height() + 3 * cardPadding + option.fontMetrics.height()};
-    }
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override
-    {
-        const bool isChosen = option.state & QStyle::State_Selected;
-        const QRect box = option.rect;
-        const QColor accent = option.palette.color(QPalette::Highlight);
-        if (isChosen)
-            painter->fillRect(box, accent);
-        else if (option.state & QStyle::State_MouseOver)
-            painter->fillRect(box,
-                              basics::Mixed(accent, option.palette.color(QPalette::Base), 0.8));
-        const QRect screen(box.left() + cardPadding, box.top() + cardPadding, thumbnailSize.width(),
-                           thumbnailSize.height());
-        painter->fillRect(screen, Qt::black);
-        const QImage picture = index.data(MotionPicker::PictureRole).value<QImage>();
-        // A picture of an earlier text is faint.
-        painter->setOpacity(index.data(MotionPicker::CurrentRole).toBool() ? 1 : 0.4);
-        if (!picture.isNull())
-            painter->drawImage(screen.topLeft(), picture);
-        painter->setOpacity(1);
-        const QRect words(screen.left(), screen.bottom() + 1 + cardPadding / 2,
-                          box.right() - screen.left(),
-                          option.fontMetrics.height() + cardPadding / 2);
-        painter->setPen(
-            option.palette.color(isChosen ? QPalette::HighlightedText : QPalette::Text));
-        painter->drawText(
-            words, Qt::AlignVCenter,
-            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, words.width()));
-        if (option.state & QStyle::State_HasFocus && !isChosen) {
-            painter->setPen(accent);
-            painter->drawRect(box.adjusted(0, 0, -1, -1));
-        }
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->showDecorationSelected = true;
+        if (option->state & QStyle::State_MouseOver)
+            option->backgroundBrush = basics::Mixed(option->palette.color(QPalette::Highlight),
+                                                    option->palette.color(QPalette::Base), 0.8);
     }
 };
 
@@ -120,36 +83,29 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
     family->addItem(tr("All families"));
-    for (const scene::Motion& motion : scene::Effects() + scene::Scrolls()) {
-        auto* item = new QStandardItem(MotionWords(motion.title));
-        item->setEditable(false);
-        item->setData(MotionWords(motion.summary), Qt::AccessibleDescriptionRole);
-        item->setToolTip(QStringLiteral("%1 · #%2 %3\n%4")
-                             .arg(item->text(), QString::number(motion.number),
-                                  QLatin1String(motion.name), MotionWords(motion.summary)));
-        motions.appendRow(item);
-        if (family->findData(QLatin1String(motion.family)) < 0)
-            family->addItem(MotionWords(motion.family), QLatin1String(motion.family));
-    }
     family->setAccessibleName(tr("Motion family"));
     basics::LetShrink(family);
-    filtered.setSourceModel(&motions);
-    filtered.setFilterRole(WantedRole);
-    filtered.setFilterFixedString(QVariant(true).toString());
-    list->setModel(&filtered);
     list->setItemDelegate(new MotionCard(list));
     list->setViewMode(QListView::IconMode);
     list->setResizeMode(QListView::Adjust);
     list->setMovement(QListView::Static);
-    list->setUniformItemSizes(true);
-    list->setSpacing(0);
+    list->setIconSize(thumbnailSize);
     list->setMouseTracking(true);
     list->setFrameShape(QFrame::StyledPanel);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     list->setAccessibleName(tr("Motions"));
     list->viewport()->installEventFilter(this);
-    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    for (const scene::Motion& motion : scene::Effects() + scene::Scrolls()) {
+        auto* item = new QListWidgetItem(LitIcon(QImage()), MotionWords(motion.title), list);
+        item->setData(Qt::AccessibleDescriptionRole, MotionWords(motion.summary));
+        item->setToolTip(QStringLiteral("%1 · #%2 %3\n%4")
+                             .arg(item->text(), QString::number(motion.number),
+                                  QLatin1String(motion.name), MotionWords(motion.summary)));
+        if (family->findData(QLatin1String(motion.family)) < 0)
+            family->addItem(MotionWords(motion.family), QLatin1String(motion.family));
+    }
+    thumbnails->Animate(list, 0, list->count());
 
     auto* top = new QHBoxLayout;
     top->setSpacing(basics::grid);
@@ -165,7 +121,6 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
     connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);
     connect(list, &QListView::clicked, this, &MotionPicker::Choose);
-    connect(list, &QListView::activated, this, &MotionPicker::Choose);
     connect(list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
                 if (list->hasFocus())
@@ -173,21 +128,23 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
             });
     chosenHeight = QSettings().value(heightKey, 0).toInt();
     SetRoom(0);
-    beat.setInterval(player::tickLength);
-    connect(&beat, &QTimer::timeout, this, &MotionPicker::LookAtSight);
-    Filter();
 }
 
 void MotionPicker::Show(const model::SignText& text)
 {
-    const scene::Motion* motion = scene::MotionOf(text.node).Row();
-    const bool scroll = scene::MotionOf(text.node).IsScroll();
-    shownRow = motion ? (scroll ? scene::Effects().size() : 0) + motion->number : -1;
-    const QModelIndex index = filtered.mapFromSource(motions.index(shownRow, 0));
-    if (index.isValid())
-        list->setCurrentIndex(index);
-    if (thumbnails)
-        thumbnails->SetText(text);
+    const scene::NodeMotion motion = scene::MotionOf(text.node);
+    shownRow = !motion.Row()       ? -1
+               : motion.IsScroll() ? scene::Effects().size() + motion.number
+                                   : motion.number;
+    Mark();
+    thumbnails->SetText(text);
+}
+
+/** Marks the motion of the text if it is listed. */
+void MotionPicker::Mark()
+{
+    const QListWidgetItem* item = list->item(shownRow);
+    list->setCurrentRow(item && !item->isHidden() ? shownRow : -1);
 }
 
 void MotionPicker::SetRoom(int points)
@@ -210,53 +167,29 @@ void MotionPicker::Filter()
         const scene::Motion& motion = all.at(row);
         const bool isOfFamily =
             family->currentIndex() == 0 || family->currentData() == QLatin1String(motion.family);
-        motions.item(row)->setData(isOfFamily && scene::Matches(motion, search->text()),
-                                   WantedRole);
+        list->item(row)->setHidden(!isOfFamily || !scene::Matches(motion, search->text()));
     }
-    list->setCurrentIndex(filtered.mapFromSource(motions.index(shownRow, 0)));
+    Mark();
 }
 
 void MotionPicker::Choose(const QModelIndex& index)
 {
-    const int row = filtered.mapToSource(index).row();
-    const int effects = scene::Effects().size();
-    if (row >= 0 && row != shownRow)
-        emit Chosen(row >= effects, row >= effects ? row - effects : row);
-}
-
-void MotionPicker::showEvent(QShowEvent*)
-{
-    if (thumbnails)
-        beat.start();
-}
-
-void MotionPicker::hideEvent(QHideEvent*)
-{
-    beat.stop();
-}
-
-/** Advances the visible motions by one tick; the others cost nothing. */
-void MotionPicker::LookAtSight()
-{
-    if (list->visibleRegion().isEmpty() || window()->isMinimized())
+    if (!index.isValid() || index.row() == shownRow)
         return;
-    ++tick;
-    for (int row = 0; row < filtered.rowCount(); ++row) {
-        const QModelIndex index = filtered.index(row, 0);
-        if (!list->viewport()->visibleRegion().intersects(list->visualRect(index)))
-            continue;
-        const int motion = filtered.mapToSource(index).row();
-        filtered.setData(index, thumbnails->Picture(motion, tick), PictureRole);
-        filtered.setData(index, thumbnails->IsCurrent(motion), CurrentRole);
-    }
+    emit Edited(tr("Motion"), QString(), [next = MotionOfRow(index.row())](model::SignText* text) {
+        auto& attributes = text->node.attributes;
+        const scene::NodeMotion old = scene::MotionOf(text->node);
+        scene::SetMotion(&text->node, next);
+        // Entrances and scrolls have separate speeds; keep the one that was set.
+        if (attributes.contains(old.SpeedKey()))
+            attributes[next.SpeedKey()] = attributes.value(old.SpeedKey());
+    });
 }
 
 /** Spreads the columns over the whole width. */
 void MotionPicker::Spread()
 {
-    QStyleOptionViewItem option;
-    option.fontMetrics = list->fontMetrics();
-    const QSize card = list->itemDelegate()->sizeHint(option, QModelIndex());
+    const QSize card(list->sizeHintForColumn(0), list->sizeHintForRow(0) + 2 * basics::grid);
     const int room = list->viewport()->width() - 1;
     list->setGridSize({room / qMax(1, room / card.width()), card.height()});
     // After the cards have been laid out.
@@ -270,9 +203,7 @@ bool MotionPicker::eventFilter(QObject* object, QEvent* event)
     if (object == search && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return) {
-            list->setFocus();
-            if (!list->currentIndex().isValid())
-                list->setCurrentIndex(filtered.index(0, 0));
+            list->setFocus(); // goes to the first if there is no current one
             return true;
         }
     }

@@ -8,10 +8,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QListView>
-#include <QSortFilterProxyModel>
-#include <QStandardItemModel>
-#include <QTimer>
+#include <QListWidget>
 
 namespace AnimText::studio::window::motion {
 
@@ -22,9 +19,6 @@ class MotionPicker : public QWidget
     Q_OBJECT
 
 public:
-    enum Role { PictureRole = Qt::UserRole, CurrentRole, WantedRole };
-
-    /** @param thumbnails paints the visible motions; null shows only names */
     explicit MotionPicker(Thumbnails* thumbnails, QWidget* parent = nullptr);
 
     void Show(const model::SignText& text);
@@ -33,32 +27,28 @@ public:
     /** Sets the list's height, also for the next start. */
     void SetListHeight(int points);
     QLineEdit* Search() const { return search; }
-    QListView* List() const { return list; }
+    /** All motions; those that are not searched for are hidden. */
+    QListWidget* List() const { return list; }
 
 signals:
-    void Chosen(bool scroll, int number);
+    void Edited(const QString& what, const QString& merge,
+                const AnimText::studio::model::TextChange& change);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void Filter();
+    void Mark();
     void Choose(const QModelIndex& index);
-    void LookAtSight();
     void Spread();
 
     Thumbnails* thumbnails;
-    QStandardItemModel motions; // the effects, followed by the scrolls
-    QSortFilterProxyModel filtered;
     QLineEdit* search = new QLineEdit(this);
     QComboBox* family = new QComboBox(this);
-    QListView* list = new QListView(this);
-    QTimer beat;
+    QListWidget* list = new QListWidget(this);
     int chosenHeight = 0; // logical pixels; 0 until resized by hand
     int shownRow = -1;
-    int tick = 0;
 };
 
 } // namespace AnimText::studio::window::motion

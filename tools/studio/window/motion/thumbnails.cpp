@@ -1,5 +1,7 @@
 #include "studio/window/motion/thumbnails.h"
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace AnimText::studio::window::motion {
@@ -10,13 +12,14 @@ constexpr int loopTicks = 90;  // of a thumbnail, with the hold at its end
 constexpr int neonTicks = 30;
 constexpr int shownUnits = 12; // first UTF-16 units of the text
 constexpr int quickSpeed = 7;
+constexpr double faint = 0.4; // a picture of an earlier text
 
 /** The start of @p text in a thumbnail's size, with another motion or a neon background. */
 model::SignText Sample(model::SignText text, int shown)
 {
     const bool neon = shown >= neonThumbnails;
-    const bool scroll = !neon && shown >= scene::Effects().size();
-    const int number = neon ? plainEffect : scroll ? shown - scene::Effects().size() : shown;
+    const scene::NodeMotion motion =
+        neon ? scene::NodeMotion{scene::Mode::Entrance, plainEffect} : MotionOfRow(shown);
     layout::StyledText& styled = text.source.text;
     int units = std::min(shownUnits, int(styled.text.size()));
     if (units > 0 && styled.text.at(units - 1).isHighSurrogate())
@@ -26,19 +29,16 @@ model::SignText Sample(model::SignText text, int shown)
         styled.text = Thumbnails::tr("Text");
     while (styled.runs.size() > 1 && styled.runs.last().begin >= styled.text.size())
         styled.runs.removeLast();
-    text.source.fit = layout::Fit::Both;
+    text.source.fit = motion.IsScroll() ? layout::Fit::Height : layout::Fit::Both;
     text.source.padding = 2;
     text.source.align = layout::Align::Center;
     text.source.valign = layout::VAlign::Middle;
-    if (scroll)
-        text.source.fit = layout::Fit::Height;
     const QColor color = styled.runs.first().color;
     for (layout::StyleRun& run : styled.runs)
         run.color = color;
     scene::SceneNode node;
     node.size = thumbnailSize;
     node.hold = 10;
-    const scene::NodeMotion motion{scroll ? scene::Mode::Scroll : scene::Mode::Entrance, number};
     node.attributes = {{"PlayTimes", 1},
                        {motion.SpeedKey(), quickSpeed},
                        {"Hollow", text.node.attributes.value("Hollow", 0)}};
@@ -56,18 +56,57 @@ model::SignText Sample(model::SignText text, int shown)
 
 } // namespace
 
+scene::NodeMotion MotionOfRow(int row)
+{
+    const int effects = scene::Effects().size();
+    if (row < effects)
+        return {scene::Mode::Entrance, row};
+    return {scene::Mode::Scroll, row - effects};
+}
+
+QIcon LitIcon(const QImage& picture, double opacity)
+{
+    QPixmap lit(thumbnailSize);
+    lit.fill(Qt::black);
+    QPainter painter(&lit);
+    painter.setOpacity(opacity);
+    painter.drawImage(0, 0, picture);
+    painter.end();
+    QIcon icon(lit);
+    icon.addPixmap(lit, QIcon::Selected); // in its own colors, too
+    return icon;
+}
+
 Thumbnails::Thumbnails(const QString& plugin, QObject* parent)
     : QObject(parent)
     , link(plugin, worker::WorkerLink::Haste::None)
 {
     connect(&link, &worker::WorkerLink::Answered, this, &Thumbnails::TakeAnswer);
     connect(&link, &worker::WorkerLink::Died, this, &Thumbnails::Finish);
+    connect(&beat, &QTimer::timeout, this, [this] { ++tick; });
+    beat.start(player::tickLength);
     pool.setMaxThreadCount(1);
 }
 
-Thumbnails::~Thumbnails()
+void Thumbnails::Animate(QAbstractItemView* view, int motion, int count)
 {
-    pool.waitForDone();
+    connect(&beat, &QTimer::timeout, view, [=] {
+        const QRegion seen = view->viewport()->visibleRegion();
+        if (seen.isEmpty() || view->window()->isMinimized())
+            return;
+        for (int row = 0; row < count; ++row) {
+            const QModelIndex index = view->model()->index(row, 0);
+            if (!seen.intersects(view->visualRect(index)))
+                continue;
+            const QImage picture = Picture(motion + row);
+            if (picture.isNull())
+                continue;
+            const bool isCurrent = loops.value(motion + row).text == textNumber;
+            const QIcon icon = LitIcon(picture, isCurrent ? 1 : faint);
+            view->model()->setData(index, icon, Qt::DecorationRole);
+            view->model()->setData(index, isCurrent, currentRole);
+        }
+    });
 }
 
 void Thumbnails::SetText(const model::SignText& next)
@@ -80,7 +119,8 @@ void Thumbnails::SetText(const model::SignText& next)
     waiting.clear();
 }
 
-QImage Thumbnails::Picture(int motion, int tick)
+/** The picture of @p motion at this tick of its loop; null until the worker has painted it. */
+QImage Thumbnails::Picture(int motion)
 {
     if (textNumber == 0)
         return {};
@@ -139,11 +179,8 @@ void Thumbnails::Finish()
 {
     if (current < 0)
         return;
-    Loop& loop = loops[current];
-    if (currentText == textNumber) {
-        loop.pictures = made;
-        loop.text = textNumber;
-    }
+    if (currentText == textNumber)
+        loops.insert(current, {made, textNumber, textNumber});
     current = -1;
     Next();
 }

@@ -455,7 +455,7 @@ void MainWindow::ShowState()
     saveAction->setEnabled(document.IsModified() || document.Path().isEmpty());
 }
 
-void MainWindow::Edit(const QString& what, const QString& merge, const form::TextChange& change)
+void MainWindow::Edit(const QString& what, const QString& merge, const model::TextChange& change)
 {
     if (document.Current().Find(selected))
         Change(

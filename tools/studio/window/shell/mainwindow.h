@@ -95,7 +95,7 @@ private:
     void ShowCalls();
     void Change(const QString& what, const std::function<void(model::Sign*)>& change,
                 const QString& merge = QString());
-    void Edit(const QString& what, const QString& merge, const form::TextChange& change);
+    void Edit(const QString& what, const QString& merge, const model::TextChange& change);
     void AddNewText(bool onNewPage);
     void RemoveSelected();
     void DuplicateSelected();

@@ -25,9 +25,7 @@ QString WordsIn(const QMimeData* source)
 {
     if (source->hasText())
         return source->text();
-    QTextDocument document;
-    document.setHtml(source->html());
-    return document.toPlainText();
+    return QTextDocumentFragment::fromHtml(source->html()).toPlainText();
 }
 
 /** Replaces line breaks by spaces, because a sign has one line, and removes the last one. */

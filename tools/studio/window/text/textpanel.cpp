@@ -21,7 +21,6 @@ namespace {
 
 constexpr int pauseLength = 1500; // milliseconds without typing that end an undo step
 constexpr int mostShown = 4;      // characters or words
-constexpr int noStyling = -2;     // typing, no style
 
 /** Colors that look good on LEDs. */
 const QList<QPair<QColor, const char*>> lampColors{
@@ -112,34 +111,11 @@ TextPanel::TextPanel(QWidget* parent)
 
     pause.setSingleShot(true);
     pause.setInterval(pauseLength);
-    connect(&pause, &QTimer::timeout, this, [this] { ++gesture; });
-    connect(editor, &TextEditor::StepEnded, this, [this] { ++gesture; });
-    connect(editor, &QTextEdit::textChanged, this, &TextPanel::Tell);
+    connect(&pause, &QTimer::timeout, this, [this] { ++typing; });
+    connect(editor, &TextEditor::StepEnded, this, [this] { ++typing; });
+    connect(editor, &QTextEdit::textChanged, this, &TextPanel::TakeTyping);
     connect(editor, &QTextEdit::cursorPositionChanged, this, &TextPanel::ShowStyle);
     connect(editor, &QTextEdit::selectionChanged, this, &TextPanel::ShowStyle);
-}
-
-/** Makes a button that turns a property of the font on and off. */
-QToolButton* TextPanel::MakeFace(const QString& letter, const QKeySequence& key,
-                                 const QString& name, bool (QFont::*has)() const,
-                                 void (QFont::*set)(bool))
-{
-    auto* button = new QToolButton(this);
-    button->setText(letter);
-    button->setCheckable(true);
-    button->setAutoRaise(true);
-    button->setFixedWidth(28);
-    button->setShortcut(key);
-    button->setAccessibleName(name);
-    button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key.toString(QKeySequence::NativeText)));
-    QFont font = button->font();
-    (font.*set)(true);
-    button->setFont(font);
-    connect(button, &QToolButton::clicked, this, [this, set](bool on) {
-        Restyle([=](layout::StyleRun* run) { (run->font.*set)(on); });
-    });
-    faces.append({button, has});
-    return button;
 }
 
 QLayout* TextPanel::MakeTools()
@@ -162,23 +138,49 @@ QLayout* TextPanel::MakeTools()
 
     auto* layout = new QHBoxLayout;
     layout->setSpacing(basics::grid / 2);
-    layout->addWidget(
-        MakeFace(tr("B"), QKeySequence::Bold, tr("Bold"), &QFont::bold, &QFont::setBold));
-    layout->addWidget(
-        MakeFace(tr("I"), QKeySequence::Italic, tr("Italic"), &QFont::italic, &QFont::setItalic));
-    layout->addWidget(MakeFace(tr("U"), QKeySequence::Underline, tr("Underline"), &QFont::underline,
-                               &QFont::setUnderline));
+    const struct
+    {
+        QString letter;
+        QKeySequence key;
+        QString name;
+        bool (QFont::*has)() const;
+        void (QFont::*set)(bool);
+    } kinds[]{
+        {tr("B"), QKeySequence::Bold, tr("Bold"), &QFont::bold, &QFont::setBold},
+        {tr("I"), QKeySequence::Italic, tr("Italic"), &QFont::italic, &QFont::setItalic},
+        {tr("U"), QKeySequence::Underline, tr("Underline"), &QFont::underline,
+         &QFont::setUnderline},
+    };
+    for (const auto& kind : kinds) {
+        auto* button = new QToolButton(this);
+        button->setText(kind.letter);
+        button->setCheckable(true);
+        button->setAutoRaise(true);
+        button->setFixedWidth(28);
+        button->setShortcut(kind.key);
+        button->setAccessibleName(kind.name);
+        button->setToolTip(
+            QStringLiteral("%1 (%2)").arg(kind.name, kind.key.toString(QKeySequence::NativeText)));
+        QFont font = button->font();
+        (font.*kind.set)(true);
+        button->setFont(font);
+        connect(button, &QToolButton::clicked, this, [this, set = kind.set](bool on) {
+            Restyle([=](layout::StyleRun* run) { (run->font.*set)(on); });
+        });
+        faces.append({button, kind.has});
+        layout->addWidget(button);
+    }
     layout->addWidget(color);
     layout->addSpacing(basics::grid);
     layout->addWidget(family, 1);
     layout->addWidget(size);
 
     connect(family, &QFontComboBox::currentFontChanged, this, [this](const QFont& font) {
-        if (!filling)
-            Restyle([&](layout::StyleRun* run) { run->font.setFamily(font.family()); });
+        Restyle([&](layout::StyleRun* run) { run->font.setFamily(font.family()); });
     });
     connect(size, &basics::NumberField::NumberChanged, this, [this](int pixels, int drag) {
-        Restyle([&](layout::StyleRun* run) { run->font.setPixelSize(pixels); }, drag);
+        Restyle([&](layout::StyleRun* run) { run->font.setPixelSize(pixels); },
+                QStringLiteral("size %1").arg(drag));
     });
     return layout;
 }
@@ -212,7 +214,8 @@ void TextPanel::Show(const model::SignText* wanted)
     if (text.id != shownId || !(text.source.text == shown)) {
         const int anchor = editor->textCursor().anchor();
         const int position = editor->textCursor().position();
-        filling = true;
+        const QSignalBlocker blocker(editor);
+        ++typing;
         shown = text.source.text;
         editor->SetStyled(shown);
         if (text.id == shownId) {
@@ -221,11 +224,8 @@ void TextPanel::Show(const model::SignText* wanted)
             cursor.setPosition(qMin(anchor, last));
             cursor.setPosition(qMin(position, last), QTextCursor::KeepAnchor);
             editor->setTextCursor(cursor);
-        } else {
-            ++gesture;
         }
         shownId = text.id;
-        filling = false;
         ShowStyle();
     }
     ShowNotes(text);
@@ -239,28 +239,22 @@ void TextPanel::BeginTyping()
 
 void TextPanel::ShowStyle()
 {
-    if (filling)
-        return;
+    const QSignalBlocker blocker(family);
     const layout::StyleRun style = editor->CurrentStyle();
-    filling = true;
     for (const auto& face : faces)
         face.first->setChecked((style.font.*face.second)());
     family->setCurrentFont(QFont(style.font.family()));
     size->ShowNumber(style.font.pixelSize());
     color->setIcon(ColorIcon(style.color));
     color->setToolTip(tr("Color of the selection: %1").arg(ColorName(style.color)));
-    filling = false;
 }
 
 /**
  * Changes the style of the selection or, if nothing is selected, of the whole text.
- * @param drag identifies changes that are one undo step; negative for a single change
+ * @param merge see Edited()
  */
-void TextPanel::Restyle(const std::function<void(layout::StyleRun*)>& change, int drag)
+void TextPanel::Restyle(const std::function<void(layout::StyleRun*)>& change, const QString& merge)
 {
-    if (drag < 0 || drag != styling)
-        ++gesture;
-    styling = drag;
     QTextCursor cursor = editor->textCursor();
     const int begin = cursor.hasSelection() ? cursor.selectionStart() : 0;
     const int end = cursor.hasSelection() ? cursor.selectionEnd() : shown.text.size();
@@ -272,22 +266,22 @@ void TextPanel::Restyle(const std::function<void(layout::StyleRun*)>& change, in
         styled.runs = shown.runs;
         change(&styled.runs.first());
     }
-    emit Edited(styled, gesture);
+    Tell(styled, merge);
 }
 
-void TextPanel::Tell()
+void TextPanel::TakeTyping()
 {
-    if (filling)
-        return;
     const layout::StyledText text = editor->Styled();
     if (text == shown)
         return;
-    if (styling != noStyling)
-        ++gesture; // a style is a separate undo step
-    styling = noStyling;
     shown = text;
     pause.start();
-    emit Edited(text, gesture);
+    Tell(text, QStringLiteral("typing %1").arg(typing));
+}
+
+void TextPanel::Tell(const layout::StyledText& text, const QString& merge)
+{
+    emit Edited(tr("Text"), merge, [text](model::SignText* edited) { edited->source.text = text; });
 }
 
 /** Gives letters without an outline the first font that has one. */
@@ -314,12 +308,10 @@ void TextPanel::UseOtherFonts()
         otherFont->hide();
         return;
     }
-    ++gesture;
     const auto change = [&](int unit, layout::StyleRun* run) {
         run->font.setFamily(found.value(unit, run->font.family()));
     };
-    emit Edited(Restyled(shown, change), gesture);
-    ++gesture;
+    Tell(Restyled(shown, change));
 }
 
 /** Underlines @p character, which the sign will not show, and says why. */

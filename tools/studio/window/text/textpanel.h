@@ -31,23 +31,24 @@ public:
     TextEditor* Editor() const { return editor; }
 
 signals:
-    /** @param gesture identifies changes that are one undo step */
-    void Edited(const AnimText::layout::StyledText& text, int gesture);
+    /** @param merge consecutive changes with the same value are one undo step */
+    void Edited(const QString& what, const QString& merge,
+                const AnimText::studio::model::TextChange& change);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     QLayout* MakeTools();
-    QToolButton* MakeFace(const QString& letter, const QKeySequence& key, const QString& name,
-                          bool (QFont::*has)() const, void (QFont::*set)(bool));
     void FillColors();
-    void Restyle(const std::function<void(layout::StyleRun*)>& change, int drag = -1);
+    void Restyle(const std::function<void(layout::StyleRun*)>& change,
+                 const QString& merge = QString());
     void ShowStyle();
     QTextEdit::ExtraSelection MarkOf(const layout::UnseenCharacter& character) const;
     void ShowNotes(const model::SignText& text);
     void UseOtherFonts();
-    void Tell();
+    void TakeTyping();
+    void Tell(const layout::StyledText& text, const QString& merge = QString());
 
     TextEditor* editor = new TextEditor(this);
     QVector<QPair<QToolButton*, bool (QFont::*)() const>> faces; // bold, italic, underline
@@ -60,11 +61,7 @@ private:
     QTimer pause;
     int shownId = 0;
     layout::StyledText shown;
-    int gesture = 0;
-    int styling = -1;     // gesture of a style's drag; negative for none
-    bool filling = false; // the fields are following the cursor
+    int typing = 0; // number of the undo step of what is typed next
 };
 
 } // namespace AnimText::studio::window::text
-
-Q_DECLARE_METATYPE(AnimText::layout::StyledText)
