@@ -56,9 +56,9 @@ QColor Warning(const QPalette& palette)
     return dark ? QColor(255, 150, 80) : QColor(190, 80, 0);
 }
 
-QColor Quiet(const QPalette& palette)
+QColor Quiet(const QPalette& palette, double amount)
 {
-    return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.4);
+    return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), amount);
 }
 
 void SetInk(QWidget* widget, const QColor& color)

@@ -26,8 +26,8 @@ int LabelWidth(const QFont& font);
 QColor Mixed(const QColor& a, const QColor& b, double amount);
 /** The color of warnings; light on dark palettes. */
 QColor Warning(const QPalette& palette);
-/** The color of secondary text. */
-QColor Quiet(const QPalette& palette);
+/** The color of secondary text: that of text with the share @p amount, 0 to 1, of its ground. */
+QColor Quiet(const QPalette& palette, double amount = 0.4);
 
 /** Gives the text of @p widget a color. */
 void SetInk(QWidget* widget, const QColor& color);

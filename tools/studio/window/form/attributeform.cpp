@@ -294,11 +294,9 @@ QWidget* AttributeForm::MakeColor(const TextSetting& setting)
         button->setText(color.name());
     });
     connect(button, &QToolButton::clicked, this, [=] {
-        auto* dialog = new QColorDialog(this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        connect(dialog, &QColorDialog::colorSelected, this,
-                [=](const QColor& color) { Tell(setting, int(color.rgb() & 0xFFFFFF)); });
-        dialog->show();
+        const QColor color = QColorDialog::getColor(QColor(button->text()), this);
+        if (color.isValid())
+            Tell(setting, int(color.rgb() & 0xFFFFFF));
     });
     return button;
 }
@@ -320,12 +318,10 @@ void AttributeForm::Show(const model::SignText& text)
         const QString why = row.unused ? row.unused(text) : QString();
         // A setting that does not apply is dimmed, but can still be changed.
         QPalette colors = palette();
-        if (!why.isEmpty()) {
-            const QColor quiet = basics::Mixed(colors.color(QPalette::WindowText),
-                                               colors.color(QPalette::Window), 0.55);
-            for (QPalette::ColorRole role :
-                 {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-                colors.setColor(role, quiet);
+        for (QPalette::ColorRole role :
+             {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            if (!why.isEmpty())
+                colors.setColor(role, basics::Quiet(palette(), 0.55));
         }
         const QString words = (QStringList(row.meaning) << why).join(QLatin1Char('\n')).trimmed();
         for (QWidget* widget : {static_cast<QWidget*>(row.label), row.field}) {

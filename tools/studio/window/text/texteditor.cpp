@@ -17,7 +17,7 @@ namespace {
 
 const QString ownFormat = "application/x-animtext-text";
 const QByteArray ownKey = "text";
-constexpr int sizeProperty = QTextFormat::UserProperty + 1; // size on the sign in pixels
+constexpr int fontProperty = QTextFormat::UserProperty + 1; // the font on the sign
 constexpr int readingSize = 20;                             // pixels
 
 /** The text of @p source; some programs copy only HTML. */
@@ -38,7 +38,7 @@ layout::StyledText OnOneLine(layout::StyledText text)
 }
 
 /**
- * A character format that stores all of @p run. Letters are shown at a readable size; the size on
+ * A character format that stores all of @p run. Letters are shown at a readable size; the font on
  * the sign is stored as a property.
  * @param common size in pixels that is shown at the reading size
  */
@@ -46,11 +46,11 @@ QTextCharFormat FormatOf(const layout::StyleRun& run, int common)
 {
     QTextCharFormat format;
     QFont font = run.font;
-    const int size = run.font.pixelSize();
-    font.setPixelSize(qBound(10, qRound(size * double(readingSize) / qMax(1, common)), 48));
+    const double size = run.font.pixelSize();
+    font.setPixelSize(qBound(10, qRound(size * readingSize / qMax(1, common)), 48));
     format.setFont(font);
     format.setForeground(run.color);
-    format.setProperty(sizeProperty, size);
+    format.setProperty(fontProperty, run.font);
     return format;
 }
 
@@ -59,15 +59,10 @@ layout::StyleRun StyleOf(const QTextCharFormat& format, const layout::StyleRun& 
 {
     layout::StyleRun run = base;
     run.begin = 0;
-    if (!format.hasProperty(sizeProperty))
-        return run;
-    QFont font(format.font().family());
-    font.setBold(format.font().bold());
-    font.setItalic(format.font().italic());
-    font.setUnderline(format.font().underline());
-    font.setPixelSize(qMax(1, format.intProperty(sizeProperty)));
-    run.font = font;
-    run.color = format.foreground().color();
+    if (format.hasProperty(fontProperty)) {
+        run.font = format.property(fontProperty).value<QFont>();
+        run.color = format.foreground().color();
+    }
     return run;
 }
 

@@ -196,12 +196,9 @@ void TextPanel::FillColors()
     }
     QAction* other = menu->addAction(tr("Other…"));
     connect(other, &QAction::triggered, this, [this] {
-        auto* dialog = new QColorDialog(editor->CurrentStyle().color, this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor& chosen) {
+        const QColor chosen = QColorDialog::getColor(editor->CurrentStyle().color, this);
+        if (chosen.isValid())
             Restyle([&](layout::StyleRun* run) { run->color = chosen; });
-        });
-        dialog->show();
     });
     color->setMenu(menu);
 }

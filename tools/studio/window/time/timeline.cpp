@@ -104,8 +104,7 @@ double Timeline::Room() const
 
 double Timeline::XOf(double tick) const
 {
-    return titleWidth + tick * Room() * zoom / std::max(1, Ticks()) -
-           horizontalScrollBar()->value();
+    return titleWidth + tick * Room() * zoom / Ticks() - horizontalScrollBar()->value();
 }
 
 int Timeline::TickAt(double x) const
@@ -131,48 +130,45 @@ void Timeline::wheelEvent(QWheelEvent* event)
         QAbstractScrollArea::wheelEvent(event);
 }
 
-QVector<int> Timeline::Marks() const
+std::set<int> Timeline::Marks() const
 {
-    QVector<int> marks{0};
+    std::set<int> marks{0, Ticks() - 1};
     for (const TimelineRow& row : rows) {
         const int from = int(TicksOf(row.time.from));
         for (const timing::PageTime& page : row.time.pages)
-            marks << from + page.begin << from + page.hold;
+            marks.insert({from + page.begin, from + page.hold});
     }
-    marks << Ticks() - 1;
-    std::sort(marks.begin(), marks.end());
-    marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
     return marks;
 }
 
 int Timeline::NextMark(int tick) const
 {
-    const QVector<int> marks = Marks();
-    const auto next = std::upper_bound(marks.begin(), marks.end(), tick);
-    return next == marks.end() ? marks.last() : *next;
+    const std::set<int> marks = Marks();
+    const auto next = marks.upper_bound(tick);
+    return next == marks.end() ? *marks.rbegin() : *next;
 }
 
 int Timeline::PreviousMark(int tick) const
 {
-    const QVector<int> marks = Marks();
-    const auto next = std::lower_bound(marks.begin(), marks.end(), tick);
-    return next == marks.begin() ? 0 : *(next - 1);
+    const std::set<int> marks = Marks();
+    const auto next = marks.lower_bound(tick);
+    return next == marks.begin() ? 0 : *std::prev(next);
 }
 
 QPair<int, int> Timeline::PageAt(int tick) const
 {
-    // Of texts that play at the same time, the selected one counts.
-    QVector<TimelineRow> order = rows;
-    std::stable_partition(order.begin(), order.end(),
-                          [this](const TimelineRow& row) { return row.id == selected; });
-    for (const TimelineRow& row : order) {
-        const int from = int(TicksOf(row.time.from));
+    QPair<int, int> found{0, playback->Length() - 1};
+    bool isFound = false; // of texts that play at the same time, the selected one counts
+    for (const TimelineRow& row : rows) {
+        const int at = tick - int(TicksOf(row.time.from));
         for (const timing::PageTime& page : row.time.pages) {
-            if (tick >= from + page.begin && tick < from + page.end)
-                return {from + page.begin, from + page.end - 1};
+            if (at < page.begin || at >= page.end || (isFound && row.id != selected))
+                continue;
+            found = {tick - at + page.begin, tick - at + page.end - 1};
+            isFound = true;
         }
     }
-    return {0, playback->Length() - 1};
+    return found;
 }
 
 QSize Timeline::sizeHint() const
@@ -228,8 +224,6 @@ void Timeline::PaintRuler(QPainter* painter) const
 {
     const QRect ruler(0, 0, viewport()->width(), rulerHeight);
     painter->fillRect(ruler, palette().color(QPalette::Window));
-    const QColor quiet = basics::Mixed(palette().color(QPalette::WindowText),
-                                       palette().color(QPalette::Window), 0.55);
     if (playback->HasLoop()) {
         QColor shade = palette().color(QPalette::Highlight);
         shade.setAlpha(64);
@@ -246,15 +240,14 @@ void Timeline::PaintRuler(QPainter* painter) const
         if (x < titleWidth || x > viewport()->width())
             continue;
         const bool isNumber = i % small == 0;
-        painter->setPen(quiet);
+        painter->setPen(basics::Quiet(palette(), 0.55));
         painter->drawLine(QPointF(x, isNumber ? rulerHeight - 7 : rulerHeight - 4),
                           QPointF(x, rulerHeight - 2));
         if (isNumber)
             painter->drawText(QPointF(x + 4, rulerHeight - 8),
                               locale().toString(i * step / small, 'f', step < 1 ? 1 : 0));
     }
-    painter->setPen(basics::Mixed(palette().color(QPalette::WindowText),
-                                  palette().color(QPalette::Window), 0.85));
+    painter->setPen(basics::Quiet(palette(), 0.85));
     painter->drawLine(0, rulerHeight - 1, viewport()->width(), rulerHeight - 1);
     painter->setPen(basics::Quiet(palette()));
     painter->drawText(QRect(inset * 2, 0, titleWidth - inset * 3, rulerHeight), Qt::AlignVCenter,

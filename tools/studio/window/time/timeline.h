@@ -9,6 +9,8 @@
 
 #include <QAbstractScrollArea>
 
+#include <set>
+
 namespace AnimText::studio::window::time {
 
 /** A text and its times. */
@@ -74,7 +76,7 @@ private:
     const TimelineRow* RowAt(const QPoint& point) const;
     QString Describe(const QPoint& point) const;
     int Ticks() const;
-    QVector<int> Marks() const;
+    std::set<int> Marks() const;
     void Adjust();
 
     Playback* playback;
