@@ -184,10 +184,6 @@
         <translation>Erstes Universum</translation>
     </message>
     <message>
-        <source>The same as a command</source>
-        <translation>Dasselbe als Befehl</translation>
-    </message>
-    <message>
         <source>As a command</source>
         <translation>Als Befehl</translation>
     </message>
@@ -619,14 +615,6 @@
     <message>
         <source> ×</source>
         <translation> ×</translation>
-    </message>
-    <message>
-        <source>The same as a command</source>
-        <translation>Dasselbe als Befehl</translation>
-    </message>
-    <message>
-        <source>Copy the command</source>
-        <translation>Den Befehl kopieren</translation>
     </message>
     <message>
         <source>…</source>
@@ -2069,6 +2057,13 @@ Alle Seiten: nacheinander, jede für ihre geplante Zeit, wie auf dem Host.</tran
     <message>
         <source>White</source>
         <translation>Weiß</translation>
+    </message>
+</context>
+<context>
+    <name>Command</name>
+    <message>
+        <source>Copy the command</source>
+        <translation>Den Befehl kopieren</translation>
     </message>
 </context>
 <context>

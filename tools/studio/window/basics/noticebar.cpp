@@ -2,6 +2,8 @@
 
 #include "studio/window/basics/style.h"
 
+#include <QLabel>
+
 namespace AnimText::studio::window::basics {
 
 NoticeBar::NoticeBar(QWidget* parent)
@@ -9,65 +11,46 @@ NoticeBar::NoticeBar(QWidget* parent)
 {
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
-    words->setForegroundRole(QPalette::ToolTipText);
-    words->setWordWrap(true);
-    words->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* icon = new QLabel(this);
-    icon->setPixmap(Icon("dialog-warning").pixmap(16, 16));
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(2 * grid, grid, 2 * grid, grid);
-    layout->setSpacing(2 * grid);
-    layout->addWidget(icon);
-    layout->addWidget(words, 1);
-    buttons->setSpacing(grid);
-    layout->addLayout(buttons);
     setAccessibleName(tr("Notice"));
-    auto* over = new QVBoxLayout(parent);
-    over->setContentsMargins(0, 0, 0, 0);
-    over->addWidget(this);
-    over->addStretch(1);
+    setLayout(Arrange(Qt::Vertical, 0, {}));
+    parent->setLayout(Arrange(Qt::Vertical, 0, {this, nullptr}));
     hide();
 }
 
 void NoticeBar::Set(Kind kind, const QString& text, const QList<Offer>& offers)
 {
-    if (text.isEmpty())
-        notices.remove(kind);
-    else
-        notices[kind] = {text, offers};
-    Refresh();
-}
-
-QList<QPushButton*> NoticeBar::Offers() const
-{
-    QList<QPushButton*> shown;
-    for (int i = 0; i < buttons->count(); ++i)
-        shown.append(static_cast<QPushButton*>(buttons->itemAt(i)->widget()));
-    return shown;
-}
-
-void NoticeBar::Refresh()
-{
-    while (QLayoutItem* item = buttons->takeAt(0)) {
-        item->widget()->hide();
-        item->widget()->deleteLater();
-        delete item;
+    if (QWidget* old = notices.take(kind)) {
+        old->hide();
+        old->deleteLater(); // one of its buttons may have been pressed
     }
+    if (!text.isEmpty()) {
+        auto* notice = new QWidget(this);
+        notice->setAccessibleName(text);
+        auto* icon = new QLabel(notice);
+        icon->setPixmap(Icon("dialog-warning").pixmap(16, 16));
+        auto* words = new QLabel(text, notice);
+        words->setForegroundRole(QPalette::ToolTipText);
+        words->setWordWrap(true);
+        words->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        QBoxLayout* row = Arrange(Qt::Horizontal, 2 * grid, {icon, words}, grid);
+        row->setStretchFactor(words, 1);
+        for (const Offer& offer : offers) {
+            auto* button = new QPushButton(offer.first, notice);
+            button->setAutoDefault(true); // Return presses it, as Space does
+            connect(button, &QPushButton::clicked, this, [this, kind, act = offer.second] {
+                Set(kind, QString());
+                if (act)
+                    act();
+            });
+            row->addWidget(button);
+        }
+        notice->setLayout(row);
+        layout()->addWidget(notice);
+        notices[kind] = notice;
+    }
+    for (QWidget* notice : notices)
+        notice->setVisible(notice == notices.first());
     setVisible(!notices.isEmpty());
-    words->setText(notices.isEmpty() ? QString() : notices.first().text);
-    const QList<Offer> offers = notices.isEmpty() ? QList<Offer>() : notices.first().offers;
-    for (const Offer& offer : offers) {
-        auto* button = new QPushButton(offer.first, this);
-        button->setAutoDefault(true); // Return presses it, as Space does
-        connect(button, &QPushButton::clicked, this,
-                [this, kind = notices.firstKey(), act = offer.second] {
-                    Set(kind, QString());
-                    if (act)
-                        act();
-                });
-        buttons->addWidget(button);
-    }
 }
 
 } // namespace AnimText::studio::window::basics

@@ -5,8 +5,6 @@
 #pragma once
 
 #include <QFrame>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QMap>
 #include <QPair>
 #include <QPushButton>
@@ -33,22 +31,17 @@ public:
 
     /** Shows a notice; an empty @p text removes it. */
     void Set(Kind kind, const QString& text, const QList<Offer>& offers = {});
-    QString Text() const { return words->text(); }
+    QString Text() const { return Shown() ? Shown()->accessibleName() : QString(); }
     /** The buttons of the visible notice. */
-    QList<QPushButton*> Offers() const;
+    QList<QPushButton*> Offers() const
+    {
+        return Shown() ? Shown()->findChildren<QPushButton*>() : QList<QPushButton*>();
+    }
 
 private:
-    struct Notice
-    {
-        QString text;
-        QList<Offer> offers;
-    };
+    QWidget* Shown() const { return notices.isEmpty() ? nullptr : notices.first(); }
 
-    void Refresh();
-
-    QMap<Kind, Notice> notices;
-    QLabel* words = new QLabel(this);
-    QHBoxLayout* buttons = new QHBoxLayout;
+    QMap<Kind, QWidget*> notices;
 };
 
 } // namespace AnimText::studio::window::basics

@@ -1,7 +1,10 @@
 #include "studio/window/basics/style.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QFile>
+#include <QFontDatabase>
 #include <QIconEngine>
 #include <QLocale>
 #include <QPainter>
@@ -42,6 +45,34 @@ private:
 };
 
 } // namespace
+
+QBoxLayout* Arrange(Qt::Orientation way, int spacing, const QList<QObject*>& items, int margin)
+{
+    auto* box =
+        new QBoxLayout(way == Qt::Vertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    box->setContentsMargins(margin, margin, margin, margin);
+    box->setSpacing(spacing);
+    for (QObject* item : items) {
+        if (auto* layout = qobject_cast<QLayout*>(item))
+            box->addLayout(layout);
+        else if (item)
+            box->addWidget(static_cast<QWidget*>(item));
+        else
+            box->addStretch(1);
+    }
+    return box;
+}
+
+void PrepareCommand(QLineEdit* field)
+{
+    field->setReadOnly(true);
+    field->setFrame(false);
+    field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QAction* copy = field->addAction(Icon("edit-copy"), QLineEdit::TrailingPosition);
+    copy->setToolTip(QApplication::translate("Command", "Copy the command"));
+    QObject::connect(copy, &QAction::triggered, field,
+                     [field] { QApplication::clipboard()->setText(field->text()); });
+}
 
 QColor Mixed(const QColor& a, const QColor& b, double amount)
 {

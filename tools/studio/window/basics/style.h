@@ -1,13 +1,15 @@
 /**
  * @file
- * The window's common style: colors from the palette, fonts, icons, times.
+ * The window's common style: distances, colors from the palette, fonts, icons, times.
  */
 #pragma once
 
+#include <QBoxLayout>
 #include <QColor>
 #include <QComboBox>
 #include <QFont>
 #include <QIcon>
+#include <QLineEdit>
 #include <QPalette>
 #include <QString>
 
@@ -15,6 +17,15 @@ namespace AnimText::studio::window::basics {
 
 constexpr int grid = 4;             ///< logical pixels; distances are multiples of it
 constexpr int markWidth = 4 * grid; ///< width of the warning mark between label and field
+
+/**
+ * Widgets and layouts beside or below each other; null is a stretch.
+ * @param spacing between them, @p margin around them, logical pixels
+ */
+QBoxLayout* Arrange(Qt::Orientation way, int spacing, const QList<QObject*>& items, int margin = 0);
+
+/** Makes @p field show a command, with a button that copies it. */
+void PrepareCommand(QLineEdit* field);
 
 /** Lets @p box be narrower than its longest entry. */
 void LetShrink(QComboBox* box);

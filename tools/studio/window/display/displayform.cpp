@@ -36,14 +36,10 @@ DisplayForm::DisplayForm(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(2 * basics::grid + basics::markWidth);
     layout->setVerticalSpacing(basics::grid);
-    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     layout->addRow(tr("Panel"), presets);
     layout->addRow(tr("Width"), width);
     layout->addRow(tr("Height"), height);
     layout->addRow(QString(), alpha);
-    presets->setAccessibleName(tr("Panel"));
-    width->setAccessibleName(tr("Width"));
-    height->setAccessibleName(tr("Height"));
     for (QWidget* field : QList<QWidget*>{presets, width, height})
         layout->labelForField(field)->setMinimumWidth(basics::LabelWidth(font()));
     connect(presets, qOverload<int>(&QComboBox::activated), this, [this] {

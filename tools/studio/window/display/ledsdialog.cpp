@@ -5,11 +5,8 @@
 #include "studio/window/basics/style.h"
 
 #include <QFileInfo>
-#include <QFontDatabase>
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QSettings>
-#include <QVBoxLayout>
 
 namespace AnimText::studio::window::display {
 
@@ -77,10 +74,7 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     , scenePath(scenePath)
 {
     setWindowTitle(tr("Play on LEDs"));
-    command->setReadOnly(true);
-    command->setFrame(false);
-    command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    command->setAccessibleName(tr("The same as a command"));
+    basics::PrepareCommand(command);
     pattern->setCheckable(true);
     pattern->setToolTip(
         tr("Shows corners, LED order, colors, and brightness levels for five seconds each"));
@@ -89,25 +83,14 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     steps.setTimerType(Qt::PreciseTimer);
     steps.setInterval(player::tickLength);
 
-    auto* upper = new QHBoxLayout;
-    upper->setSpacing(4 * basics::grid);
-    upper->addLayout(MakeForm(), 1);
-    upper->addWidget(wiring, 0, Qt::AlignTop);
     wiring->setToolTip(tr("Path of the data line, seen from the front"));
+    auto* upper = basics::Arrange(Qt::Horizontal, 4 * basics::grid, {MakeForm(), wiring});
+    upper->setAlignment(wiring, Qt::AlignTop);
     auto* lower = new QFormLayout;
     lower->addRow(tr("As a command"), command);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(pattern);
-    buttons->addStretch(1);
-    buttons->addWidget(start);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4 * basics::grid, 4 * basics::grid, 4 * basics::grid,
-                               4 * basics::grid);
-    layout->setSpacing(3 * basics::grid);
-    layout->addLayout(upper);
-    layout->addLayout(lower);
-    layout->addWidget(state);
-    layout->addLayout(buttons);
+    auto* buttons = basics::Arrange(Qt::Horizontal, 2 * basics::grid, {pattern, nullptr, start});
+    setLayout(basics::Arrange(Qt::Vertical, 3 * basics::grid, {upper, lower, state, buttons},
+                              4 * basics::grid));
     setMinimumWidth(720);
     SetAddress(QSettings().value(QLatin1String(settingsKey)).toString());
 
@@ -123,7 +106,7 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
         Refresh();
     });
     connect(start, &QPushButton::clicked, this, [this] {
-        if (lights || lookUp >= 0)
+        if (IsRunning())
             Stop();
         else
             LookUp();
@@ -153,50 +136,44 @@ QFormLayout* LedsDialog::MakeForm()
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(3 * basics::grid);
     form->setVerticalSpacing(2 * basics::grid);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    const auto row = [&](const QString& label, const QList<QWidget*>& widgets) {
-        auto* layout = new QHBoxLayout;
-        layout->setSpacing(basics::grid);
-        if (widgets.first()->accessibleName().isEmpty())
-            widgets.first()->setAccessibleName(label);
-        for (QWidget* widget : widgets)
-            layout->addWidget(widget, widget == host ? 1 : 0);
-        if (!widgets.contains(host))
-            layout->addStretch(1);
-        form->addRow(label, layout);
-    };
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     Fill(protocol, {{"DDP", "ddp"}, {"E1.31 (sACN)", "sacn"}, {"Art-Net", "artnet"}});
+    protocol->setAccessibleName(tr("Controller"));
     host->setPlaceholderText(tr("Name or address, such as wall.local"));
     host->setAccessibleName(tr("Controller's name or address"));
-    row(tr("Controller"), {protocol, host});
+    form->addRow(tr("Controller"), basics::Arrange(Qt::Horizontal, basics::grid, {protocol, host}));
     SetNumber(left, tr("Left edge"), 0, display.width() - 1, 0, tr(" px"));
     SetNumber(top, tr("Top edge"), 0, display.height() - 1, 0, tr(" px"));
     SetNumber(columns, tr("Width"), 1, display.width(), display.width(), tr(" px"));
     SetNumber(rows, tr("Height"), 1, display.height(), display.height(), tr(" px"));
-    row(tr("Part of the display"), {left, top, new QLabel(tr("size"), this), columns, rows});
+    auto* size = new QLabel(tr("size"), this);
+    form->addRow(tr("Part of the display"),
+                 basics::Arrange(Qt::Horizontal, basics::grid, {left, top, size, columns, rows}));
     Fill(direction, {{tr("Rows"), "rows"}, {tr("Columns"), "columns"}});
+    direction->setAccessibleName(tr("LEDs run along"));
     serpentine->setToolTip(tr("Every other row or column runs in the opposite direction"));
-    row(tr("LEDs run along"), {direction, serpentine});
+    form->addRow(direction->accessibleName(),
+                 basics::Arrange(Qt::Horizontal, basics::grid, {direction, serpentine}));
     Fill(corner, {{tr("Top left"), "top-left"},
                   {tr("Top right"), "top-right"},
                   {tr("Bottom left"), "bottom-left"},
                   {tr("Bottom right"), "bottom-right"}});
-    row(tr("First LED"), {corner});
+    form->addRow(tr("First LED"), corner);
     for (int degrees : {0, 90, 180, 270})
         turn->addItem(tr("%1°").arg(degrees), QStringLiteral("rotate-%1").arg(degrees));
-    row(tr("Rotation"), {turn});
+    form->addRow(tr("Rotation"), turn);
     for (const char* letters : {"RGB", "RBG", "GRB", "GBR", "BRG", "BGR"})
         order->addItem(QLatin1String(letters), "color-order=" + QLatin1String(letters));
-    row(tr("Color order"), {order});
+    form->addRow(tr("Color order"), order);
     gamma->setRange(1, 4);
     gamma->setSingleStep(0.1);
     gamma->setDecimals(1);
     gamma->setSpecialValueText(tr("Off"));
-    row(tr("Gamma"), {gamma});
+    form->addRow(tr("Gamma"), gamma);
     SetNumber(brightness, QString(), 0, 100, 100, tr(" %"));
-    row(tr("Brightness"), {brightness});
+    form->addRow(tr("Brightness"), brightness);
     SetNumber(universe, QString(), 0, 63999, 1, QString());
-    row(tr("First universe"), {universe});
+    form->addRow(tr("First universe"), universe);
     return form;
 }
 
@@ -263,15 +240,16 @@ lights::Controller LedsDialog::ReadFields(QString* error) const
 void LedsDialog::Change()
 {
     Refresh();
-    QString error;
     if (lights)
-        Open(ReadFields(&error));
+        Open();
 }
 
 void LedsDialog::Refresh()
 {
     QString error;
     const lights::Controller controller = ReadFields(&error);
+    if (!error.isEmpty())
+        Stop();
     const bool isDdp = protocol->currentIndex() == 0;
     universe->setEnabled(!isDdp);
     universe->setToolTip(isDdp ? tr("DDP has no universes") : QString());
@@ -283,64 +261,58 @@ void LedsDialog::Refresh()
                  Address()));
     command->setCursorPosition(0);
     start->setEnabled(error.isEmpty());
-    start->setText(lights || lookUp >= 0 ? tr("Stop") : tr("Start"));
-    if (!error.isEmpty()) {
-        Stop();
-        state->setText(host->text().isEmpty() ? tr("Enter the controller's name or address.")
-                                              : error);
-    } else if (!lights && lookUp < 0) {
-        state->setText(host->text().isEmpty()
-                           ? tr("No controller given: sends to the E1.31 multicast groups.")
-                           : QString());
-    }
+    start->setText(IsRunning() ? tr("Stop") : tr("Start"));
+    if (host->text().isEmpty() && !error.isEmpty())
+        error = tr("Enter the controller's name or address.");
+    else if (host->text().isEmpty())
+        error = tr("No controller given: sends to the E1.31 multicast groups.");
+    if (!IsRunning())
+        state->setText(error);
 }
 
 /** Resolves the controller's name without blocking the window. */
 void LedsDialog::LookUp()
 {
     QString error;
-    const lights::Controller controller = ReadFields(&error);
-    if (controller.host.isEmpty() || !QHostAddress(controller.host).isNull()) {
-        Open(controller);
+    const QString name = ReadFields(&error).host;
+    if (name.isEmpty() || !QHostAddress(name).isNull()) {
+        Open();
         return;
     }
-    state->setText(tr("Looking up %1…").arg(controller.host));
-    lookUp = QHostInfo::lookupHost(controller.host, this, &LedsDialog::Begin);
+    state->setText(tr("Looking up %1…").arg(name));
+    lookUp = QHostInfo::lookupHost(name, this, [this, name](const QHostInfo& found) {
+        if (found.lookupId() != lookUp)
+            return;
+        lookUp = -1;
+        if (found.addresses().isEmpty()) {
+            Refresh();
+            state->setText(tr("%1 was not found: %2").arg(name, found.errorString()));
+            return;
+        }
+        foundHost = lights::PreferredAddress(found).toString();
+        Open();
+    });
 }
 
-void LedsDialog::Begin(const QHostInfo& found)
+void LedsDialog::Open()
 {
-    if (found.lookupId() != lookUp)
-        return;
-    lookUp = -1;
     QString error;
-    const lights::Controller controller = ReadFields(&error);
-    if (found.addresses().isEmpty()) {
-        Refresh();
-        state->setText(tr("%1 was not found: %2").arg(controller.host, found.errorString()));
-        return;
-    }
-    foundHost = lights::PreferredAddress(found).toString();
-    Open(controller);
-}
-
-void LedsDialog::Open(lights::Controller controller)
-{
+    lights::Controller controller = ReadFields(&error);
     if (!foundHost.isEmpty())
         controller.host = foundHost;
     if (lights)
         lights->SetKeeps(true); // no dark gap: the next picture follows at once
     lights = std::make_unique<lights::Lights>();
     connect(lights.get(), &lights::Lights::Reported, state, &QLabel::setText);
-    QString error;
     if (!lights->Add(controller, display, &error)) {
         Stop();
+        Refresh();
         state->setText(error);
         return;
     }
     QSettings().setValue(QLatin1String(settingsKey), Address());
     state->setText(tr("The LEDs show what the studio shows."));
-    start->setText(tr("Stop"));
+    Refresh();
     Show(picture);
 }
 
@@ -349,8 +321,6 @@ void LedsDialog::Stop()
     if (lookUp >= 0)
         QHostInfo::abortHostLookup(lookUp);
     lookUp = -1;
-    start->setText(tr("Start"));
-    state->clear();
     if (!lights)
         return;
     lights.reset();

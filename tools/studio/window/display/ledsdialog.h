@@ -47,9 +47,9 @@ private:
     void Change();
     void Refresh();
     void LookUp();
-    void Begin(const QHostInfo& found);
-    void Open(lights::Controller controller);
+    void Open();
     void Stop();
+    bool IsRunning() const { return lights || lookUp >= 0; }
 
     const QSize display;
     const QString scenePath;

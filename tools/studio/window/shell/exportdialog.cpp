@@ -6,17 +6,12 @@
 #include "player/player.h"
 #include "studio/window/basics/style.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QToolButton>
 #include <QUrl>
-#include <QVBoxLayout>
 
 namespace AnimText::studio::window::shell {
 
@@ -52,82 +47,59 @@ ExportDialog::ExportDialog(const model::Sign& sign, const QString& scenePath, co
     extent->setAccessibleName(tr("What is exported"));
     lamps->setChecked(view.lamps);
     output->setAccessibleName(tr("File"));
-    command->setReadOnly(true);
-    command->setFrame(false);
-    command->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    command->setAccessibleName(tr("The same as a command"));
+    auto* browse = new QToolButton(this);
+    browse->setText(tr("…"));
+    browse->setToolTip(tr("Choose the file"));
+    browse->setAccessibleName(browse->toolTip());
+    basics::PrepareCommand(command);
     state->setWordWrap(true);
     state->setTextInteractionFlags(Qt::TextBrowserInteraction);
     state->setOpenExternalLinks(true);
     state->setAccessibleName(tr("State"));
+    state->hide();
     progress->setTextVisible(false);
+    progress->hide();
     start->setDefault(true);
-    LayOut();
+
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(3 * basics::grid);
+    form->setVerticalSpacing(2 * basics::grid);
+    form->addRow(tr("Export"), extent);
+    form->addRow(tr("Format"), format);
+    form->addRow(tr("File"), basics::Arrange(Qt::Horizontal, basics::grid, {output, browse}));
+    form->addRow(tr("Magnify"), scale);
+    for (QCheckBox* box : {lamps, schedule, transparent, lossless}) {
+        form->addRow(QString(), box);
+        connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
+    }
+    form->addRow(tr("Result"), forecast);
+    form->addRow(tr("As a command"), command);
+    auto* buttons = basics::Arrange(Qt::Horizontal, 2 * basics::grid, {nullptr, close, start});
+    setLayout(basics::Arrange(Qt::Vertical, 3 * basics::grid, {form, progress, state, buttons},
+                              4 * basics::grid));
+    setMinimumWidth(560);
 
     const QFileInfo scene(scenePath);
     const QString base = scenePath.isEmpty() ? QDir::home().filePath(tr("sign"))
                                              : scene.dir().filePath(scene.completeBaseName());
     output->setText(base + format->currentData().toString());
+    connect(browse, &QToolButton::clicked, this, [this] {
+        const QString path =
+            QFileDialog::getSaveFileName(this, tr("Export a film"), output->text());
+        if (path.isEmpty())
+            return;
+        replaced = path; // the file dialog has asked
+        output->setText(path);
+    });
     connect(format, qOverload<int>(&QComboBox::activated), this, &ExportDialog::FormatChosen);
     connect(output, &QLineEdit::textChanged, this, &ExportDialog::Refresh);
     connect(scale, qOverload<int>(&QSpinBox::valueChanged), this, &ExportDialog::Refresh);
     connect(extent, qOverload<int>(&QComboBox::activated), this, &ExportDialog::ExtentChosen);
-    for (QCheckBox* box : {schedule, transparent, lossless, lamps})
-        connect(box, &QCheckBox::toggled, this, &ExportDialog::Refresh);
     connect(start, &QPushButton::clicked, this, &ExportDialog::Begin);
     connect(close, &QPushButton::clicked, this, &ExportDialog::reject);
     connect(&exporting, &worker::Export::Progress, this, &ExportDialog::ShowProgress);
     connect(&exporting, &worker::Export::Ended, this, &ExportDialog::End);
     Refresh();
-}
-
-void ExportDialog::LayOut()
-{
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(3 * basics::grid);
-    form->setVerticalSpacing(2 * basics::grid);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    const auto withButton = [this](QWidget* field, const QString& words) {
-        auto* button = new QToolButton(this);
-        button->setToolTip(words);
-        button->setAccessibleName(words);
-        auto* layout = new QHBoxLayout;
-        layout->setSpacing(basics::grid);
-        layout->addWidget(field, 1);
-        layout->addWidget(button);
-        return qMakePair(layout, button);
-    };
-    const auto file = withButton(output, tr("Choose the file"));
-    file.second->setText(tr("…"));
-    connect(file.second, &QToolButton::clicked, this, &ExportDialog::Browse);
-    const auto line = withButton(command, tr("Copy the command"));
-    line.second->setIcon(basics::Icon("edit-copy"));
-    line.second->setAutoRaise(true);
-    connect(line.second, &QToolButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(command->text()); });
-    form->addRow(tr("Export"), extent);
-    form->addRow(tr("Format"), format);
-    form->addRow(tr("File"), file.first);
-    form->addRow(tr("Magnify"), scale);
-    for (QCheckBox* box : {lamps, schedule, transparent, lossless})
-        form->addRow(QString(), box);
-    form->addRow(tr("Result"), forecast);
-    form->addRow(tr("As a command"), line.first);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(close);
-    buttons->addWidget(start);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4 * basics::grid, 4 * basics::grid, 4 * basics::grid,
-                               4 * basics::grid);
-    layout->setSpacing(3 * basics::grid);
-    layout->addLayout(form);
-    layout->addWidget(progress);
-    layout->addWidget(state);
-    layout->addLayout(buttons);
-    progress->hide();
-    state->hide();
-    setMinimumWidth(560);
 }
 
 worker::ExportSettings ExportDialog::Settings() const
@@ -229,15 +201,6 @@ void ExportDialog::Say(const QString& words, bool isWarning)
                    isWarning ? basics::Warning(palette()) : palette().color(QPalette::WindowText));
     state->setText(words);
     state->show();
-}
-
-void ExportDialog::Browse()
-{
-    const QString path = QFileDialog::getSaveFileName(this, tr("Export a film"), output->text());
-    if (path.isEmpty())
-        return;
-    replaced = path; // the file dialog has asked
-    output->setText(path);
 }
 
 void ExportDialog::Begin()

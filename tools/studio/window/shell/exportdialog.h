@@ -58,7 +58,6 @@ public slots:
     void reject() override;
 
 private:
-    void LayOut();
     worker::ExportSettings Settings() const;
     bool IsOnePicture() const;
     void FormatChosen();
@@ -66,7 +65,6 @@ private:
     void Refresh();
     QString ForecastOf(const worker::ExportSettings& settings) const;
     void Say(const QString& words, bool isWarning = false);
-    void Browse();
     void Begin();
     void ShowProgress(qint64 done, qint64 total, const QString& stage);
     void End(const QString& error, bool canceled);

@@ -299,9 +299,7 @@ void MainWindow::ShowKeys()
         new QTreeWidgetItem(display, {other.first, other.second});
     list->expandAll();
     list->resizeColumnToContents(0);
-    auto* layout = new QVBoxLayout(dialog);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(list);
+    dialog->setLayout(basics::Arrange(Qt::Vertical, 0, {list}));
     dialog->resize(QSize(560, 560).boundedTo(screen()->availableSize() * 0.9));
     dialog->show();
 }
@@ -364,13 +362,8 @@ void MainWindow::ChooseNew()
         used.setValue(alphaKey, form->AlphaBlend());
         New(form->Size(), form->AlphaBlend());
     });
-    auto* layout = new QVBoxLayout(dialog);
-    layout->setContentsMargins(4 * basics::grid, 4 * basics::grid, 4 * basics::grid,
-                               4 * basics::grid);
-    layout->setSpacing(4 * basics::grid);
-    layout->addWidget(form);
-    layout->addStretch(1);
-    layout->addWidget(buttons);
+    dialog->setLayout(basics::Arrange(Qt::Vertical, 4 * basics::grid, {form, nullptr, buttons},
+                                      4 * basics::grid));
     dialog->open();
 }
 

@@ -84,11 +84,7 @@ void MainWindow::MakeCenter()
     tools->setMovable(false);
     tools->setIconSize(QSize(20, 20));
     auto* bottom = new QWidget(this);
-    auto* layout = new QVBoxLayout(bottom);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(transport);
-    layout->addWidget(timeline, 1);
+    bottom->setLayout(basics::Arrange(Qt::Vertical, 0, {transport, timeline}));
     center->setObjectName("center");
     center->addWidget(scroll);
     center->addWidget(bottom);
@@ -106,13 +102,7 @@ void MainWindow::MakeDocks()
         addDockWidget(area, dock);
     };
     auto* pages = new QWidget(this);
-    auto* layout = new QVBoxLayout(pages);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(scenes, 1);
-    layout->addLayout(sceneTools);
-    sceneTools->setContentsMargins(basics::grid, basics::grid, basics::grid, basics::grid);
-    sceneTools->setSpacing(basics::grid);
+    pages->setLayout(basics::Arrange(Qt::Vertical, 0, {scenes, sceneTools}));
     add(sceneDock, "scene", pages, Qt::LeftDockWidgetArea);
     add(textDock, "text", inspector, Qt::RightDockWidgetArea);
     add(findingsDock, "findings", findings, Qt::LeftDockWidgetArea);

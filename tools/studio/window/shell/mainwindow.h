@@ -7,6 +7,7 @@
 #include "studio/model/document.h"
 #include "studio/model/recovery.h"
 #include "studio/window/basics/noticebar.h"
+#include "studio/window/basics/style.h"
 #include "studio/window/display/displayview.h"
 #include "studio/window/findings/findingslist.h"
 #include "studio/window/form/inspector.h"
@@ -21,7 +22,6 @@
 #include <QActionGroup>
 #include <QComboBox>
 #include <QDockWidget>
-#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QScrollArea>
 #include <QSplitter>
@@ -148,7 +148,7 @@ private:
     time::Timeline* timeline = new time::Timeline(&playback, this);
     basics::NoticeBar* notices = new basics::NoticeBar(scroll);
     SceneList* scenes = new SceneList(this);
-    QHBoxLayout* sceneTools = new QHBoxLayout;
+    QBoxLayout* sceneTools = basics::Arrange(Qt::Horizontal, basics::grid, {}, basics::grid);
     form::Inspector* inspector = new form::Inspector(&thumbnails, this);
     findings::FindingsList* findings = new findings::FindingsList(this);
     form::IntegratorView* integrator = new form::IntegratorView(this);
