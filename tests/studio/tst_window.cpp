@@ -1077,6 +1077,12 @@ void TestWindow::timelineStopsZoomsAndRepeats()
     timeline->SetZoom(4, at.x());
     QCOMPARE(timeline->TickAt(at.x()), 20); // stays under the mouse
     QVERIFY(qAbs((timeline->XOf(21) - timeline->XOf(20)) / width - 4) < 0.01);
+    sign.texts.first().node.attributes["PlayTimes"] = 99999; // with its page and all pages
+    window->Transport()->SetSchedule(true);
+    window->GetDocument()->Change("Endless", sign);
+    QVERIFY(Settles());
+    const QString ends = window->Transport()->findChildren<QLabel*>().at(1)->toolTip();
+    QVERIFY2(ends.count("too long to measure") == 3, qPrintable(ends));
 }
 
 void TestWindow::showsCallsFaultsAndComparison()

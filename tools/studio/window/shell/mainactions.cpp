@@ -5,6 +5,7 @@
 #include "studio/window/shell/exportdialog.h"
 #include "studio/window/shell/mainwindow.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -23,7 +24,6 @@ namespace {
 
 constexpr int mostRecent = 8;
 constexpr int largestZoom = 16;
-constexpr double standardPitch = 1.5;
 constexpr int shift = int(Qt::SHIFT);
 
 QKeySequence Ctrl(int key)
@@ -109,10 +109,10 @@ void MainWindow::MakeEditMenu()
         inspector->Motions()->Search()->setFocus();
     });
     tools->addActions({undo, redo});
+    for (QAction* action : tools->actions())
+        action->setPriority(QAction::LowPriority); // without text in the tool bar
     tools->addSeparator();
     tools->addActions({add, exportAction});
-    for (QAction* action : {add, exportAction})
-        ShowText(action);
     for (const auto& shown : {qMakePair(add, tr("Text")), qMakePair(addPage, tr("Page"))}) {
         auto* button = new QToolButton(this);
         button->setDefaultAction(shown.first);
@@ -123,14 +123,6 @@ void MainWindow::MakeEditMenu()
         sceneTools->addWidget(button);
     }
     sceneTools->addStretch(1);
-}
-
-/** Shows the words of @p action beside its icon in the tool bar. */
-QToolButton* MainWindow::ShowText(QAction* action)
-{
-    auto* button = static_cast<QToolButton*>(tools->widgetForAction(action));
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    return button;
 }
 
 /** Calls "cut", "copy" or "paste" of the field with the focus, otherwise of the text field. */
@@ -154,34 +146,32 @@ void MainWindow::MakeViewMenu()
     Act(look, {tr("Zoom &in"), QKeySequence::ZoomIn}, [=] { ZoomBy(1, middle()); });
     Act(look, {tr("Zoom &out"), QKeySequence::ZoomOut}, [=] { ZoomBy(-1, middle()); });
     look->addSeparator();
-    const auto toggle = [&](const QString& words, const QKeySequence& key, const auto& act) {
-        QAction* action = look->addAction(words);
+    const auto toggle = [&](const Entry& entry, const auto& act) {
+        QAction* action = Act(look, entry, [] {});
         action->setCheckable(true);
-        action->setShortcut(key);
         connect(action, &QAction::toggled, view, act);
         return action;
     };
-    leds = toggle(tr("&LEDs"), Ctrl(Qt::Key_L), [this] { ShowZoom(); });
+    leds = toggle({tr("&LEDs"), Ctrl(Qt::Key_L), "lamps"}, [this] { ShowZoom(); });
     leds->setObjectName("leds");
-    leds->setIcon(basics::Icon("lamps"));
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
     QMenu* distances = look->addMenu(tr("LED &pitch"));
-    pitches = new QActionGroup(this);
+    auto* pitches = new QActionGroup(this);
+    pitch = qBound(1.0, QSettings().value("pitch", pitch).toDouble(), 4.0);
     for (double diameters : {1.0, 1.25, 1.5, 2.0, 3.0}) {
-        QAction* action =
-            distances->addAction(tr("%1 diameters").arg(locale().toString(diameters)));
+        const QString words = tr("%1 diameters").arg(locale().toString(diameters));
+        QAction* action = Act(distances, {words}, [=] {
+            pitch = diameters;
+            leds->setChecked(true);
+            ShowZoom();
+        });
         action->setCheckable(true);
-        action->setData(diameters);
-        action->setChecked(diameters == QSettings().value("pitch", standardPitch).toDouble());
+        action->setChecked(diameters == pitch);
         pitches->addAction(action);
     }
-    connect(pitches, &QActionGroup::triggered, this, [this] {
-        leds->setChecked(true);
-        ShowZoom();
-    });
-    toggle(tr("&Checkered background"), QKeySequence(), &live::PictureView::SetCheckered);
-    toggle(tr("Show all &areas"), Ctrl(Qt::Key_F), &display::DisplayView::SetShowsFrames);
-    toggle(tr("Show &rulers"), Ctrl(Qt::Key_R), &display::DisplayView::SetShowsRulers);
+    toggle({tr("&Checkered background")}, &live::PictureView::SetCheckered);
+    toggle({tr("Show all &areas"), Ctrl(Qt::Key_F)}, &display::DisplayView::SetShowsFrames);
+    toggle({tr("Show &rulers"), Ctrl(Qt::Key_R)}, &display::DisplayView::SetShowsRulers);
     look->addSeparator();
     look->addActions(createPopupMenu()->actions());
 
@@ -197,7 +187,7 @@ void MainWindow::MakeViewMenu()
     connect(zoomBox, qOverload<int>(&QComboBox::activated), this, &MainWindow::SetZoom);
     tools->addWidget(zoomBox);
     tools->addAction(leds);
-    QToolButton* button = ShowText(leds);
+    auto* button = static_cast<QToolButton*>(tools->widgetForAction(leds));
     button->setPopupMode(QToolButton::MenuButtonPopup);
     button->setMenu(distances);
 }
@@ -246,13 +236,10 @@ void MainWindow::MakeHelpMenu()
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     Act(help, {tr("&Keyboard shortcuts"), Qt::Key_F1}, [this] { ShowKeys(); });
     Act(help, {tr("&About")}, [this] {
-        auto* box = new QMessageBox(QMessageBox::NoIcon, tr("Animated Text Studio"),
-                                    tr("<b>Animated Text Studio %1</b><p>The plugin itself paints "
-                                       "the preview, so it shows the same pixels as the sign.")
-                                        .arg(QApplication::applicationVersion()),
-                                    QMessageBox::Close, this);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->show();
+        QMessageBox::about(this, tr("Animated Text Studio"),
+                           tr("<b>Animated Text Studio %1</b><p>The plugin itself paints "
+                              "the preview, so it shows the same pixels as the sign.")
+                               .arg(QApplication::applicationVersion()));
     });
 }
 
@@ -329,17 +316,11 @@ void MainWindow::SetZoom(int wanted)
 void MainWindow::ShowZoom()
 {
     const QSignalBlocker blocker(view);
-    view->SetPitch(leds->isChecked() ? Pitch() : 0);
+    view->SetPitch(leds->isChecked() ? pitch : 0);
     view->SetZoom(zoom);
     if (leds->isChecked() && !view->Picture().isNull() && view->Scale() < film::smallestLamp)
         view->SetZoom(film::smallestLamp);
     zoomBox->setCurrentIndex(view->Zoom());
-}
-
-double MainWindow::Pitch() const
-{
-    const QAction* chosen = pitches->checkedAction(); // null if the settings were edited
-    return chosen ? chosen->data().toDouble() : standardPitch;
 }
 
 /** Asks for the display of a new sign; starts with the values that were used last. */
@@ -395,7 +376,7 @@ void MainWindow::ShowExport()
         }
     }
     seen.schedule = transport->IsSchedule();
-    seen.pitch = Pitch();
+    seen.pitch = pitch;
     seen.lamps = leds->isChecked();
     auto* dialog = new ExportDialog(document.Current(), document.Path(), plugin, seen, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -82,6 +82,7 @@ void MainWindow::MakeCenter()
     timeline->installEventFilter(this);
     tools->setObjectName("tools");
     tools->setMovable(false);
+    tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tools->setIconSize(QSize(20, 20));
     auto* bottom = new QWidget(this);
     bottom->setLayout(basics::Arrange(Qt::Vertical, 0, {transport, timeline}));
@@ -135,14 +136,21 @@ void MainWindow::Connect()
             Leave(then);
     });
     connect(&document, &model::Document::DiskChanged, this, [this] {
+        // Either way, a failed save no longer matters.
+        const auto load = [this] {
+            QString error;
+            if (document.LoadTheirs(&error))
+                notices->Set(basics::NoticeBar::Save, QString());
+            else
+                notices->Set(basics::NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+        };
+        const auto keep = [this] {
+            document.KeepMine();
+            notices->Set(basics::NoticeBar::Save, QString());
+        };
         notices->Set(basics::NoticeBar::Disk, tr("%1 has changed on disk.").arg(document.Name()),
-                     {{tr("Load from disk"), [this] { LoadTheirs(); }},
-                      {tr("Keep my version"),
-                       [this] {
-                           document.KeepMine();
-                           notices->Set(basics::NoticeBar::Save,
-                                        QString()); // saving would succeed now
-                       }},
+                     {{tr("Load from disk"), load},
+                      {tr("Keep my version"), keep},
                       {tr("Save my version as…"), [this] { Save(true); }}});
     });
 
@@ -267,15 +275,6 @@ void MainWindow::ShowCalls()
     integrator->ShowDifferences(bothThere ? view->Differences() : -1);
 }
 
-void MainWindow::LoadTheirs()
-{
-    QString error;
-    if (!document.LoadTheirs(&error))
-        notices->Set(basics::NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
-    else
-        notices->Set(basics::NoticeBar::Save, QString()); // the failed save no longer matters
-}
-
 bool MainWindow::Open(const QString& path)
 {
     QString error;
@@ -378,54 +377,47 @@ void MainWindow::Rehearse()
         compared->SetSign(sign, part);
 }
 
+/** Shows the times in the timeline, and those of the text, its page and all pages as words. */
 void MainWindow::ShowTiming()
 {
     const worker::Timing& timing = rehearsal.GetTiming();
     const QList<model::SignText> texts = TextsOf(part.page);
+    const auto follow = [](worker::TextTime* all, const worker::TextTime& next) {
+        all->planned += next.planned;
+        all->actual += next.actual;
+        if (next.ending == timing::Ending::TooLong)
+            all->ending = next.ending;
+    };
+    const worker::TextTime none = time::SideBySide({});
     QVector<time::TimelineRow> rows;
-    for (int i = 0; i < qMin(texts.size(), timing.texts.size()); ++i) {
-        const model::SignText& text = texts.at(i);
-        const int plays = text.node.attributes.value("PlayTimes").toInt();
-        rows.append({text.id, text.Title(), plays, timing.texts.at(i)});
-    }
-    timeline->SetRows(rows, timing.Ticks());
-    playback.SetLength(timing.Ticks());
-    ShowEnds();
-}
-
-/** Shows the times of the selected text, and of the page and all pages as a tooltip. */
-void MainWindow::ShowEnds()
-{
-    const worker::Timing& timing = rehearsal.GetTiming();
-    const QList<model::SignText> texts = TextsOf(part.page);
-    if (timing.texts.size() != texts.size()) {
-        transport->ShowEnds(nullptr, QString());
-        return;
-    }
     QStringList lines;
     const worker::TextTime* shown = nullptr;
     QMap<int, QMap<int, worker::TextTime>> pages; // the texts of an area play one after another
-    for (int i = 0; i < texts.size(); ++i) {
+    for (int i = 0; i < qMin(texts.size(), timing.texts.size()); ++i) {
         const model::SignText& text = texts.at(i);
         const worker::TextTime& time = timing.texts.at(i);
+        const int plays = text.node.attributes.value("PlayTimes").toInt();
+        rows.append({text.id, text.Title(), plays, time});
         QMap<int, worker::TextTime>& areas = pages[text.page];
-        if (!areas.contains(text.area)) {
-            areas[text.area] = time;
-        } else {
-            areas[text.area].planned += time.planned;
-            areas[text.area].actual += time.actual;
-        }
+        if (!areas.contains(text.area))
+            areas[text.area] = none;
+        follow(&areas[text.area], time);
         if (text.id == selected) {
             lines.append(tr("Text: %1").arg(time::EndsInWords(time)));
             shown = &time;
         }
     }
-    worker::TextTime program = time::SideBySide({});
-    worker::TextTime page = program;
+    timeline->SetRows(rows, timing.Ticks());
+    playback.SetLength(timing.Ticks());
+    if (timing.texts.size() != texts.size()) {
+        transport->ShowEnds(nullptr, QString());
+        return;
+    }
+    worker::TextTime program = none;
+    worker::TextTime page = none;
     for (auto own = pages.begin(); own != pages.end(); ++own) {
         const worker::TextTime times = time::SideBySide(own->values().toVector());
-        program.planned += times.planned;
-        program.actual += times.actual;
+        follow(&program, times);
         lines.append(tr("Page %1: %2").arg(own.key() + 1).arg(time::EndsInWords(times)));
         if (own.key() == CurrentPage())
             page = times;
@@ -547,7 +539,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     settings.setValue("docks", wideDocks.isEmpty() ? saveState() : wideDocks);
     settings.setValue("center", center->saveState());
     settings.setValue("leds", leds->isChecked());
-    settings.setValue("pitch", Pitch());
+    settings.setValue("pitch", pitch);
     event->accept();
 }
 

@@ -19,7 +19,6 @@
 #include "studio/window/time/transportbar.h"
 #include "studio/worker/rehearsal.h"
 
-#include <QActionGroup>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -81,16 +80,13 @@ private:
         const char* icon = nullptr;
     };
     QAction* Act(QMenu* menu, const Entry& entry, const std::function<void()>& act);
-    QToolButton* ShowText(QAction* action);
     void Connect();
     void Arrange();
 
     void Refresh();
     void Rehearse();
     void ShowTiming();
-    void ShowEnds();
     void ShowState();
-    void LoadTheirs();
     void CompareWith(const QString& library);
     void ShowCalls();
     void Change(const QString& what, const std::function<void(model::Sign*)>& change,
@@ -111,7 +107,6 @@ private:
     void SetZoom(int zoom);
     void ZoomBy(int steps, const QPointF& about);
     void ShowZoom();
-    double Pitch() const;
     void ToggleLoop();
     bool LeaveField(int key);
     void EditWords(const char* slot);
@@ -139,6 +134,7 @@ private:
     bool mayClose = false;
     QByteArray wideDocks; // their places in a wide window, while this one is narrow
     int zoom = 0;         // as chosen; 0 fits the window
+    double pitch = 1.5;   // from LED to LED in LED diameters
 
     // In the order of Tab.
     QSplitter* center = new QSplitter(Qt::Vertical, this);
@@ -162,7 +158,6 @@ private:
     QAction* leds = nullptr;
     QAction* saveAction = nullptr;
     QAction* exportAction = nullptr;
-    QActionGroup* pitches = nullptr; // from LED to LED in LED diameters
     QHash<QKeySequence, QAction*> playKeys;
 };
 
