@@ -246,7 +246,12 @@ void TestWindow::routesKeys()
     window->GetDocument()->Save(path);
     QVERIFY(ended.wait(patience));
     editor->setFocus();
-    QVERIFY(window->Open(path));
+    QMimeData file; // dropped on the text, it is opened
+    file.setUrls({QUrl::fromLocalFile(path)});
+    QDragEnterEvent drag({5, 5}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor->viewport(), &drag);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor->viewport(), &drop);
     QVERIFY(display->hasFocus());
     QVERIFY(Settles());
     window->GetPlayback()->Seek(9);

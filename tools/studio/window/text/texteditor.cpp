@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocumentFragment>
+#include <QUrl>
 
 #include <memory>
 
@@ -147,10 +148,11 @@ QMimeData* TextEditor::createMimeDataFromSelection() const
     return data;
 }
 
-/** Whether @p source has text, and not only pictures or other formats. */
+/** Whether @p source has text; the address of a file is none, so that the window may open it. */
 bool TextEditor::canInsertFromMimeData(const QMimeData* source) const
 {
-    return source && (source->hasFormat(ownFormat) || source->hasText() || source->hasHtml());
+    const bool isFile = source->urls().value(0).isLocalFile();
+    return !isFile && (source->hasFormat(ownFormat) || source->hasText() || source->hasHtml());
 }
 
 void TextEditor::insertFromMimeData(const QMimeData* source)
