@@ -67,28 +67,21 @@ void DisplayView::SetCompared(const QImage& other)
 
 const AreaFrame* DisplayView::Find(int id) const
 {
-    for (const AreaFrame& frame : frames) {
-        if (frame.id == id)
-            return &frame;
-    }
-    return nullptr;
+    const auto found = std::find_if(frames.begin(), frames.end(),
+                                    [id](const AreaFrame& frame) { return frame.id == id; });
+    return found == frames.end() ? nullptr : &*found;
 }
 
 /** The topmost area at @p point, but the selected one first: it can be dragged under another. */
 int DisplayView::FrameAt(const QPointF& point) const
 {
-    const AreaFrame* chosen = Find(selected);
-    const QTransform map = ToWidget();
-    const auto holds = [&](const AreaFrame& frame) {
-        return map.mapRect(QRectF(frame.rect)).adjusted(-2, -2, 2, 2).contains(point);
-    };
-    if (chosen && holds(*chosen))
-        return chosen->id;
-    for (int i = frames.size() - 1; i >= 0; --i) {
-        if (holds(frames.at(i)))
-            return frames.at(i).id;
+    int found = 0;
+    for (const AreaFrame& frame : frames) {
+        const QRectF rect = ToWidget().mapRect(QRectF(frame.rect)).adjusted(-2, -2, 2, 2);
+        if (rect.contains(point) && (found == 0 || found != selected))
+            found = frame.id;
     }
-    return 0;
+    return found;
 }
 
 Qt::Edges DisplayView::EdgesAt(const QPointF& point) const
@@ -120,9 +113,7 @@ void DisplayView::PaintOverlay(QPainter* painter)
         painter->fillRect(map.mapRect(QRectF(pixel, QSizeF(1, 1))).adjusted(-1, -1, 1, 1), magenta);
     for (const AreaFrame& frame : frames) {
         const bool isSelected = frame.id == selected;
-        if (!isSelected && frame.id != hovered && !showsAll)
-            continue;
-        if (isSelected && hovered == 0 && !hasFocus() && !showsAll)
+        if (!showsAll && frame.id != hovered && !(isSelected && (hovered != 0 || hasFocus())))
             continue;
         const QRectF rect = map.mapRect(QRectF(frame.rect)).adjusted(-1, -1, 0, 0);
         painter->setPen(QPen(isSelected ? accent : QColor(160, 160, 160, 160), 1,
@@ -142,9 +133,9 @@ void DisplayView::PaintOverlay(QPainter* painter)
     for (const QLine& guide : guides)
         painter->drawLine(map.map(QLineF(guide)));
     const AreaFrame* chosen = Find(selected);
-    if (showsRulers || dragging) {
-        PaintRuler(painter, true, chosen ? chosen->rect : QRect());
-        PaintRuler(painter, false, chosen ? chosen->rect : QRect());
+    for (bool horizontal : {true, false}) {
+        if (showsRulers || dragging)
+            PaintRuler(painter, horizontal, chosen ? chosen->rect : QRect());
     }
     if (dragging && chosen)
         PaintMeasures(painter, chosen->rect);
@@ -156,18 +147,15 @@ void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& ar
     const QRectF seen = visibleRegion().boundingRect();
     const QTransform map = ToWidget();
     const double scale = map.m11();
-    const QRectF band(seen.topLeft(), horizontal ? QSizeF(seen.width(), rulerWidth)
-                                                 : QSizeF(rulerWidth, seen.height()));
+    const auto along = [&](const QRectF& rect) {
+        return horizontal ? QRectF(rect.left(), seen.top(), rect.width(), rulerWidth)
+                          : QRectF(seen.left(), rect.top(), rulerWidth, rect.height());
+    };
+    const QRectF band = along(seen);
+    QColor accent = palette().color(QPalette::Highlight);
+    accent.setAlpha(90);
     painter->fillRect(band, palette().color(QPalette::Window));
-    if (!area.isEmpty()) {
-        QColor accent = palette().color(QPalette::Highlight);
-        accent.setAlpha(90);
-        const QRectF extent = map.mapRect(QRectF(area));
-        painter->fillRect(
-            band & (horizontal ? QRectF(extent.left(), band.top(), extent.width(), rulerWidth)
-                               : QRectF(band.left(), extent.top(), rulerWidth, extent.height())),
-            accent);
-    }
+    painter->fillRect(band & along(map.mapRect(QRectF(area))), accent);
     painter->setPen(palette().color(QPalette::WindowText));
     QFont small = font();
     small.setPointSizeF(qMax(6.0, small.pointSizeF() - 2));
@@ -268,13 +256,12 @@ void DisplayView::mouseMoveEvent(QMouseEvent* event)
         update();
     }
     const Qt::Edges at = EdgesAt(point);
-    const bool sideways = at & (Qt::LeftEdge | Qt::RightEdge);
     if (at == (Qt::LeftEdge | Qt::TopEdge) || at == (Qt::RightEdge | Qt::BottomEdge))
         setCursor(Qt::SizeFDiagCursor);
-    else if (sideways && at & (Qt::TopEdge | Qt::BottomEdge))
+    else if (at == (Qt::RightEdge | Qt::TopEdge) || at == (Qt::LeftEdge | Qt::BottomEdge))
         setCursor(Qt::SizeBDiagCursor);
     else if (at)
-        setCursor(sideways ? Qt::SizeHorCursor : Qt::SizeVerCursor);
+        setCursor(at & (Qt::LeftEdge | Qt::RightEdge) ? Qt::SizeHorCursor : Qt::SizeVerCursor);
     else if (under != 0)
         setCursor(Qt::SizeAllCursor);
     else
@@ -359,12 +346,11 @@ int DisplayView::Snapped(int place, bool horizontal)
     const int side = horizontal ? display.width() : display.height();
     QVector<int> magnets{0, side, side / 2};
     for (const AreaFrame& frame : frames) {
-        if (frame.id == selected)
-            continue;
-        if (horizontal)
-            magnets << frame.rect.left() << frame.rect.left() + frame.rect.width();
-        else
-            magnets << frame.rect.top() << frame.rect.top() + frame.rect.height();
+        const QRect& rect = frame.rect;
+        if (frame.id != selected && horizontal)
+            magnets << rect.left() << rect.left() + rect.width();
+        else if (frame.id != selected)
+            magnets << rect.top() << rect.top() + rect.height();
     }
     const int near = qMax(1, int(snapReach / qMax(0.01, ToWidget().m11())));
     const int best = *std::min_element(magnets.begin(), magnets.end(), [&](int one, int other) {
