@@ -22,11 +22,6 @@ struct Region
 class Quarantine
 {
 public:
-    Quarantine()
-        : bytes(0)
-    {
-    }
-
     void Take(const Region& region)
     {
         // Mapping again, unlike mprotect(), also returns the pages to the system.
@@ -48,7 +43,7 @@ public:
 
 private:
     std::deque<Region> regions;
-    qint64 bytes;
+    qint64 bytes = 0;
 };
 
 // Never destroyed: layers may be freed by destructors that run at exit.
@@ -59,12 +54,6 @@ Quarantine& TheQuarantine()
 }
 
 } // namespace
-
-LayerMemory::LayerMemory()
-    : start(0)
-    , span(0)
-{
-}
 
 LayerMemory::~LayerMemory()
 {

@@ -14,7 +14,7 @@ namespace Torv {
 class LayerMemory
 {
 public:
-    LayerMemory();
+    LayerMemory() {}
     /** Makes the memory inaccessible and keeps its addresses out of use for a while. */
     ~LayerMemory();
 
@@ -31,8 +31,8 @@ private:
     LayerMemory(const LayerMemory&);
     LayerMemory& operator=(const LayerMemory&);
 
-    char* start;
-    qint64 span; ///< of one buffer, whole pages
+    char* start = 0;
+    qint64 span = 0; ///< of one buffer, whole pages
 };
 
 } // namespace Torv

@@ -22,9 +22,6 @@ Layer::Layer(int width, int height, int bytesPerLine, unsigned int pixelWord)
     , height(height)
     , bytesPerLine(bytesPerLine)
     , colorKey(pixelWord & 0xFFFFFF)
-    , blend(0)
-    , front(0)
-    , swaps(0)
 {
 }
 
@@ -54,15 +51,6 @@ Layer* Session::FindLayer(int layer) const
     return layer >= 0 && layer < int(layers.size()) ? layers[size_t(layer)].get() : 0;
 }
 
-SessionStore::SessionStore()
-    : lastDisplay(0)
-    , liveSessions(0)
-    , liveLayers(0)
-    , liveBytes(0)
-    , peakBytes(0)
-{
-}
-
 SessionStore& SessionStore::Instance()
 {
     // Never destroyed: renderers with static lifetime free their sessions at exit.
@@ -75,10 +63,8 @@ Session* SessionStore::Create()
     if (freeSlots.empty()) {
         if (slotTable.size() == SlotCount)
             return 0;
-        Slot fresh;
-        fresh.generation = 0;
         freeSlots.push_back(unsigned(slotTable.size()));
-        slotTable.push_back(std::move(fresh));
+        slotTable.push_back(Slot());
     }
     const unsigned int index = freeSlots.back();
     freeSlots.pop_back();

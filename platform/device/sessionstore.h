@@ -34,9 +34,9 @@ struct Layer
     int height;
     int bytesPerLine;
     unsigned int colorKey; ///< 0xRRGGBB
-    int blend;
-    int front;
-    qint64 swaps;
+    int blend = 0;
+    int front = 0;
+    qint64 swaps = 0;
     LayerMemory memory;
 };
 
@@ -92,21 +92,21 @@ public:
 private:
     struct Slot
     {
-        unsigned int generation;
+        unsigned int generation = 0;
         std::unique_ptr<Session> session;
     };
 
-    SessionStore();
+    SessionStore() {}
 
     std::vector<Slot> slotTable;
     std::vector<unsigned int> freeSlots;
     QList<Session*> shown;
     QList<PicDisplay> displays;
-    PicDisplay lastDisplay;
-    int liveSessions;
-    int liveLayers;
-    qint64 liveBytes;
-    qint64 peakBytes;
+    PicDisplay lastDisplay = 0;
+    int liveSessions = 0;
+    int liveLayers = 0;
+    qint64 liveBytes = 0;
+    qint64 peakBytes = 0;
 };
 
 /** Whether Swap() write-protects what it shows; see GuardShownBuffers(). */

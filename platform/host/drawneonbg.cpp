@@ -38,27 +38,17 @@ QImage BlankImage(QSize size, QImage::Format format)
 class DrawNeonBg::Private
 {
 public:
-    Private()
-        : timer(0)
-        , interval(66)
-        , tick(0)
-    {
-    }
-
     QPointer<HNode> node;
     QImage image;
-    QTimer* timer; ///< the animator's child, so that tests that count timers find it
-    int interval;
-    qint64 tick; ///< pictures painted since InitNode()
+    QTimer* timer = 0; ///< the animator's child, so that tests that count timers find it
+    int interval = 66;
+    qint64 tick = 0; ///< pictures painted since InitNode()
     std::unique_ptr<NeonBorder> border;
     std::unique_ptr<NeonFilm> film;
 };
 
 DrawNeonBg::DrawNeonBg(QObject* parent)
     : QObject(parent)
-    , pictureSession(0)
-    , displayHandle(0)
-    , layer(0)
     , d(new Private)
 {
     d->timer = new QTimer(this);

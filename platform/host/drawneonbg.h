@@ -42,9 +42,9 @@ public:
     const QImage& Image() const;
 
     /** Where the pictures go; written by the renderer that owns the session, 0 for nowhere. */
-    void* pictureSession;
-    unsigned int displayHandle;
-    int layer;
+    void* pictureSession = 0;
+    unsigned int displayHandle = 0;
+    int layer = 0;
 
 private slots:
     void DrawNext();

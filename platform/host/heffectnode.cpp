@@ -4,7 +4,6 @@ namespace Lw {
 
 HEffectNode::HEffectNode(QObject* parent)
     : HContentNode(parent)
-    , holdTime(0)
 {
 }
 

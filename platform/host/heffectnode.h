@@ -23,7 +23,7 @@ public:
     void SetHoldTime(int hold);
 
 private:
-    int holdTime;
+    int holdTime = 0;
 };
 
 } // namespace Lw

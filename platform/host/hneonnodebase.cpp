@@ -4,7 +4,6 @@ namespace Lw {
 
 HNeonNodeBase::HNeonNodeBase(QObject* parent)
     : HEffectNode(parent)
-    , neonEffect(0)
 {
 }
 

@@ -22,7 +22,7 @@ public:
     void SetNeonEffect(int effect);
 
 private:
-    int neonEffect;
+    int neonEffect = 0;
 };
 
 } // namespace Lw

@@ -18,9 +18,4 @@ void HPluginManager::SetAlphaBlend(bool blend)
     alphaBlend = blend;
 }
 
-HPluginManager::HPluginManager()
-    : alphaBlend(true)
-{
-}
-
 } // namespace Lw

@@ -23,9 +23,9 @@ public:
     void SetAlphaBlend(bool blend);
 
 private:
-    HPluginManager();
+    HPluginManager() {}
 
-    bool alphaBlend;
+    bool alphaBlend = true;
 };
 
 } // namespace Lw

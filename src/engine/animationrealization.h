@@ -219,12 +219,8 @@ private:
 
     struct Frog
     {
-        Frog()
-            : read(false)
-        {
-        }
-        bool read;      // or found missing
-        QImage picture; // Format_ARGB32
+        bool read = false; // or found missing
+        QImage picture;    // Format_ARGB32
     };
 
     // Names and order are the host's. Nothing reads painter, playFinished, initFive, auxBrush, the
@@ -233,34 +229,34 @@ private:
     // The node, and what it asks for.
     QPointer<HAnimationTextNode> node;
     QString text;
-    int animationEffect; // an Entrance, when effectType says so
-    QSize areaSize;      // pixels
-    int speed;           // 0 to 9
+    int animationEffect = 0; // an Entrance, when effectType says so
+    QSize areaSize;          // pixels
+    int speed = 0;           // 0 to 9
     QPainter* painter;
 
     // Counters of the effect that plays; each effect says what it uses them for.
-    int charIndex;
-    int charCount;
-    int moveOffset2;
-    float progressF;
-    bool isDrawing;    // the next tick paints a frame; false: it holds the page
-    int maxTextHeight; // pixels
-    int scrollOffset;  // pixels
+    int charIndex = 0;
+    int charCount = 0;
+    int moveOffset2 = 0;
+    float progressF = 0;
+    bool isDrawing = true; // the next tick paints a frame; false: it holds the page
+    int maxTextHeight = 0; // pixels
+    int scrollOffset = 0;  // pixels
 
     // The run.
-    bool playFinished;
-    bool runEnded;
-    int playTimes;
-    int holdTime; // units of 100 ms
-    int initFive;
-    bool paused;
+    bool playFinished = false;
+    bool runEnded = false;
+    int playTimes = 0;
+    int holdTime = 0; // units of 100 ms
+    int initFive = 0;
+    bool paused = false;
 
     // The frame.
-    QImage drawImage; // wraps the layer's buffer, if there is a layer
-    QImage stayImage; // wraps the dazzle layer's buffer
-    int playCount;    // finished runs
-    int pageIndex;    // from 1
-    int moveOffset;   // of the effect, as above
+    QImage drawImage;   // wraps the layer's buffer, if there is a layer
+    QImage stayImage;   // wraps the dazzle layer's buffer
+    int playCount = 0;  // finished runs
+    int pageIndex = 1;  // from 1
+    int moveOffset = 0; // of the effect, as above
     DrawNeonBg* neonBg;
 
     // The text's outlines and metrics in pixels, one entry for each character.
@@ -272,13 +268,13 @@ private:
     QVector<int> charWidths;
     QVector<int> charHeights;
     QVector<int> charPositions; // left edges
-    int totalTextWidth;
+    int totalTextWidth = 0;
     QVector<QColor> dazzleColors;
 
     // Where pages begin, then where the last one ends: characters, and pixels of the line.
     QList<int> pageBreaks;
     QList<int> pageOffsets;
-    int frameCount; // its remainder leads the dazzle colors
+    int frameCount = 0; // its remainder leads the dazzle colors
 
     // Paint.
     QBrush pictureBrush;
@@ -291,45 +287,45 @@ private:
     QPen strokePen;
 
     // Time and step, from the speed.
-    int frameInterval; // ms
-    int totalHeight;   // pixels, of a column
-    int stayPageIndex; // from 1
-    int stayCounter;   // ticks
-    int maxTextWidth;  // pixels
-    int tickCounter;   // ticks
-    int stepSize;      // of the effect's counters
+    int frameInterval;     // ms
+    int totalHeight = 0;   // pixels, of a column
+    int stayPageIndex = 1; // from 1
+    int stayCounter = 1;   // ticks
+    int maxTextWidth = 0;  // pixels
+    int tickCounter = 0;   // ticks
+    int stepSize = 0;      // of the effect's counters
 
     // The node's switches.
-    int effectType;
-    int continueStyle;
-    int neonBgEnabled;
-    int shadowEnabled;
-    int dazzleEnabled;
-    int gradientEnabled;
-    int gradientType;
-    int hollow;
-    int stroke;
-    int pictureFillEnabled;
+    int effectType = 0;
+    int continueStyle = 0;
+    int neonBgEnabled = 0;
+    int shadowEnabled = 0;
+    int dazzleEnabled = 0;
+    int gradientEnabled = 0;
+    int gradientType = 0;
+    int hollow = 0;
+    int stroke = 0;
+    int pictureFillEnabled = 0;
     QSize fillImageSize;
 
     // Layers of the device, and the dazzle background.
-    QImage::Format imageFormat;
+    QImage::Format imageFormat = QImage::Format_ARGB32;
     QTimer dazzleTimer;
-    int stayImageReady;
-    uchar* layerBuffer;   // the device's
-    void* pictureSession; // a number in a pointer
-    int sessionDisplay;
-    int sessionLayer;
-    int dazzleLayer;      // 0: none
-    int dazzleColorIndex; // the leading color
+    int stayImageReady = 0;
+    uchar* layerBuffer = 0;   // the device's
+    void* pictureSession = 0; // a number in a pointer
+    int sessionDisplay = 0;
+    int sessionLayer = 0;
+    int dazzleLayer = 0;      // 0: none
+    int dazzleColorIndex = 0; // the leading color
 
     // Ours alone.
-    qint64 layerBytes; // what the text's layer holds, which the host may have made for another
-                       // format; -1 when it is not known
-    bool dazzleLayerWrapped;
+    qint64 layerBytes = -1; // what the text's layer holds, which the host may have made for another
+                            // format; -1 when it is not known
+    bool dazzleLayerWrapped = false;
     DazzlePainter dazzle;
     TextCanvas canvas;
-    QRgb textColor;
+    QRgb textColor = 0;
     QVector<Frog> frogPictures;
 
     friend class HAnimationTextRender;

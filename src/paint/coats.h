@@ -16,12 +16,6 @@ namespace HNodeAnimationText {
 class Coats
 {
 public:
-    Coats()
-        : width(0)
-        , height(0)
-    {
-    }
-
     /** Of a picture without paint, in pixels. */
     void Begin(int newWidth, int newHeight);
     /** Frees what is kept. */
@@ -48,8 +42,8 @@ private:
         return static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x);
     }
 
-    int width;
-    int height;
+    int width = 0;
+    int height = 0;
     std::vector<unsigned char> counts;
 };
 

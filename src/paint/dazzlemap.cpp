@@ -65,13 +65,6 @@ int64_t FromMiddle(int at, int middle)
 
 } // namespace
 
-DazzleMap::DazzleMap()
-    : shape(Plain)
-    , width(0)
-    , height(0)
-{
-}
-
 void DazzleMap::Make(Shape newShape, int newWidth, int newHeight)
 {
     newWidth = std::min(std::max(newWidth, 0), largest);

@@ -38,8 +38,6 @@ public:
         int firstStep; // of their quarter
     };
 
-    DazzleMap();
-
     /** Width and height in pixels, at least 0. The same again costs nothing. */
     void Make(Shape newShape, int newWidth, int newHeight);
     /** Frees the map. */
@@ -64,9 +62,9 @@ private:
     size_t StoredRow(int y) const;
     int ColumnRightOf(int y, int64_t cosine, int64_t sine) const;
 
-    Shape shape;
-    int width;
-    int height;
+    Shape shape = Plain;
+    int width = 0;
+    int height = 0;
     std::vector<uint8_t> map;
     // How many pixels are in the first quarter of the ring, in the first two, and so on: of Linear
     // from the left edge, of Radial from the middle, row by row.

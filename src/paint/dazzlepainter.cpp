@@ -44,10 +44,6 @@ uint32_t WordOf(uint32_t color, Picture::Format format)
 } // namespace
 
 DazzlePainter::DazzlePainter()
-    : shape(DazzleMap::Plain)
-    , opaque(0)
-    , hasPainted(false)
-    , painted()
 {
     std::fill(ring, ring + DazzleMap::ringColors, 0u);
 }

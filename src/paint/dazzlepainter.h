@@ -57,14 +57,14 @@ private:
     void FillRun(const uint8_t* steps, const uint32_t* colors, int begin, int end);
 
     uint32_t ring[DazzleMap::ringColors];
-    DazzleMap::Shape shape;
+    DazzleMap::Shape shape = DazzleMap::Plain;
     DazzleMap map;
     uint32_t table[DazzleMap::steps]; // words whose bytes are those of the picture's pixels
     uint32_t scrimmed[DazzleMap::steps];
-    uint32_t opaque;                // the bits of such a word that are alpha
+    uint32_t opaque = 0;            // the bits of such a word that are alpha
     std::vector<unsigned char> row; // one of the picture and a byte
-    bool hasPainted;
-    Frame painted;
+    bool hasPainted = false;
+    Frame painted = Frame();
 };
 
 } // namespace HNodeAnimationText

@@ -332,12 +332,6 @@ private:
     std::vector<Crossing>& crossings;
 };
 
-Fill::Fill()
-    : picture()
-    , flipped()
-{
-}
-
 void Fill::SetSize(int width, int height)
 {
     const Box box = {0, 0, width, height};

@@ -16,8 +16,6 @@ namespace HNodeAnimationText {
 class Fill
 {
 public:
-    Fill();
-
     void SetSize(int width, int height);
 
     /**
@@ -65,12 +63,12 @@ private:
     void PourFlips(Plane& plane, bool invert);
     void PaintCrossings(Plane& ink);
 
-    Box picture;
+    Box picture = Box();
     Outline closed;
     std::vector<Point> mapped;
     std::vector<Place> places;
-    Plane flips; // empty once it is poured
-    Box flipped; // what of it is not: words and rows
+    Plane flips;         // empty once it is poured
+    Box flipped = Box(); // what of it is not: words and rows
     std::vector<Crossing> crossings;
 };
 

@@ -38,14 +38,6 @@ bool ArePointsSpaced(const Outline& outline)
 
 } // namespace
 
-Glyph::Glyph()
-    : isClosed(true)
-    , isSpaced(true)
-    , isMeasured(false)
-    , steadiness()
-{
-}
-
 Glyph::Glyph(Outline outline)
     : shape(std::move(outline))
     , isClosed(shape.IsWellFormed() && shape.IsFinite())

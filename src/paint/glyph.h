@@ -12,7 +12,7 @@ namespace HNodeAnimationText {
 class Glyph
 {
 public:
-    Glyph();
+    Glyph() {}
     explicit Glyph(Outline outline);
 
     const Outline& Shape() const { return shape; }
@@ -34,10 +34,10 @@ public:
 private:
     Outline shape;
     Bounds box;
-    bool isClosed;
-    bool isSpaced;
-    mutable bool isMeasured;
-    mutable Steadiness steadiness;
+    bool isClosed = true;
+    bool isSpaced = true;
+    mutable bool isMeasured = false;
+    mutable Steadiness steadiness = Steadiness();
 };
 
 } // namespace HNodeAnimationText

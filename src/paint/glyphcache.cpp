@@ -138,20 +138,6 @@ size_t BytesOf(const GlyphCache::Image& image)
 
 } // namespace
 
-GlyphCache::GlyphCache()
-    : pictureWidth(0)
-    , pictureHeight(0)
-    , imageBytes(0)
-    , lookups(0)
-    , hits(0)
-    , nextShape(0)
-    , entered(0)
-    , lookedFor()
-    , wholeX(0)
-    , wholeY(0)
-{
-}
-
 void GlyphCache::SetSize(int width, int height)
 {
     pictureWidth = width;

@@ -46,8 +46,6 @@ public:
         Direction next; // in which the outline of the next glyph goes on
     };
 
-    GlyphCache();
-
     /** Of the picture. */
     void SetSize(int width, int height);
     /** The glyphs are others, or painted another way. */
@@ -99,20 +97,20 @@ private:
     Entry& EntryLookedFor();
     int NumberOf(const Image& image);
 
-    int pictureWidth;
-    int pictureHeight;
+    int pictureWidth = 0;
+    int pictureHeight = 0;
     std::vector<Entry> entries;
     std::vector<Shaped> shaped;
     std::vector<Image> images;
-    size_t imageBytes;
-    unsigned lookups; // of late
-    unsigned hits;
-    uint32_t nextShape;
-    size_t entered;
+    size_t imageBytes = 0;
+    unsigned lookups = 0; // of late
+    unsigned hits = 0;
+    uint32_t nextShape = 0;
+    size_t entered = 0;
 
-    Entry lookedFor;
-    int wholeX;
-    int wholeY;
+    Entry lookedFor = Entry();
+    int wholeX = 0;
+    int wholeY = 0;
 };
 
 } // namespace HNodeAnimationText

@@ -140,22 +140,6 @@ void Hairline::Trace::AddBeforeFirst()
     }
 }
 
-Hairline::Hairline()
-    : clip()
-    , ink(0)
-    , coats(0)
-    , left(0)
-    , top(0)
-    , right(0)
-    , bottom(0)
-    , isWithin(false)
-    , at()
-    , last()
-    , direction(Rightward)
-    , isAligned(false)
-{
-}
-
 void Hairline::Begin(const Box& box, Plane& plane, Coats* counted)
 {
     clip = box;

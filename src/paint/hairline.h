@@ -18,8 +18,6 @@ enum Direction { Downward, Upward, Rightward, Leftward };
 class Hairline
 {
 public:
-    Hairline();
-
     /**
      * Pixels within @p clip are set in @p ink, which is no smaller, and added to @p coats, if any,
      * as often as lines cross them.
@@ -62,20 +60,20 @@ private:
     bool HasLast() const { return last.x >= 0; }
     void ForgetLast() { last.x = -1; }
 
-    Box clip;
-    Plane* ink;
-    Coats* coats;
+    Box clip = Box();
+    Plane* ink = 0;
+    Coats* coats = 0;
     // In clipped coordinates a pixel more at each side.
-    float left;
-    float top;
-    float right;
-    float bottom;
-    bool isWithin; // nothing of the outline is clipped, in these or in pixels
+    float left = 0;
+    float top = 0;
+    float right = 0;
+    float bottom = 0;
+    bool isWithin = false; // nothing of the outline is clipped, in these or in pixels
 
-    Place at;   // where the line before ended, if nothing is clipped
-    Pixel last; // of the line before, without it x is -1
-    Direction direction;
-    bool isAligned;
+    Place at = Place();   // where the line before ended, if nothing is clipped
+    Pixel last = Pixel(); // of the line before, without it x is -1
+    Direction direction = Rightward;
+    bool isAligned = false;
 };
 
 } // namespace HNodeAnimationText

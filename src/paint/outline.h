@@ -25,11 +25,6 @@ public:
         Type type;
     };
 
-    Outline()
-        : fillRule(OddEven)
-    {
-    }
-
     void MoveTo(float x, float y) { Add(x, y, Move); }
     void LineTo(float x, float y) { Add(x, y, Line); }
     void CurveTo(float x1, float y1, float x2, float y2, float x, float y);
@@ -55,7 +50,7 @@ public:
     void Add(float x, float y, Type type);
     void RemoveLast() { elements.pop_back(); }
 
-    FillRule fillRule;
+    FillRule fillRule = OddEven;
 
 private:
     std::vector<Element> elements;

@@ -6,13 +6,6 @@
 namespace Lw {
 namespace HNodeAnimationText {
 
-PictureWriter::PictureWriter()
-    : tableFormat(Picture::Argb32)
-    , tableColor(0)
-    , hasTable(false)
-{
-}
-
 void PictureWriter::SetColor(Picture::Format format, uint32_t argb)
 {
     if (hasTable && tableFormat == format && tableColor == argb)

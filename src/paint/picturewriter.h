@@ -14,8 +14,6 @@ namespace HNodeAnimationText {
 class PictureWriter
 {
 public:
-    PictureWriter();
-
     /**
      * Pixels beyond the plane are 0. Bytes from the end of a row's pixels to the next row stay as
      * they are.
@@ -30,9 +28,9 @@ private:
     template <int bytesPerPixel>
     void WriteRow(const Plane& ink, int y, unsigned char* row, int width) const;
 
-    Picture::Format tableFormat;
-    uint32_t tableColor;
-    bool hasTable;
+    Picture::Format tableFormat = Picture::Argb32;
+    uint32_t tableColor = 0;
+    bool hasTable = false;
     uint64_t table[256 * mostBytes / sizeof(uint64_t)]; // bytes of every row of eight pixels
 };
 

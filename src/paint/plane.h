@@ -19,15 +19,6 @@ public:
     typedef uint64_t Word;
     static const int wordBits = 64;
 
-    Plane()
-        : width(0)
-        , height(0)
-        , stride(0)
-        , inkTop(0)
-        , inkBottom(0)
-    {
-    }
-
     /** Removes all ink. */
     void SetSize(int w, int h);
     void Clear();
@@ -63,11 +54,11 @@ public:
     size_t Bytes() const { return words.capacity() * sizeof(Word); }
 
 private:
-    int width;
-    int height;
-    size_t stride;
-    int inkTop;
-    int inkBottom;
+    int width = 0;
+    int height = 0;
+    size_t stride = 0;
+    int inkTop = 0;
+    int inkBottom = 0;
     std::vector<Word> words;
 };
 

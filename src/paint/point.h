@@ -24,18 +24,12 @@ struct Point
 /** Of points, a curve's control points included. */
 struct Bounds
 {
-    float left;
-    float top;
-    float right;
-    float bottom;
+    float left = 0;
+    float top = 0;
+    float right = 0;
+    float bottom = 0;
 
-    Bounds()
-        : left(0)
-        , top(0)
-        , right(0)
-        , bottom(0)
-    {
-    }
+    Bounds() {}
     /** Of points or elements. */
     template <typename T>
     Bounds(const T* points, size_t count);
@@ -46,10 +40,6 @@ struct Bounds
 
 template <typename T>
 Bounds::Bounds(const T* points, size_t count)
-    : left(0)
-    , top(0)
-    , right(0)
-    , bottom(0)
 {
     if (count == 0)
         return;

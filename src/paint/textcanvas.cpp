@@ -90,17 +90,6 @@ Cutting CuttingOf(const TextPath& text, const Transform& painterTransform)
 
 } // namespace
 
-TextCanvas::TextCanvas()
-    : pictureWidth(0)
-    , pictureHeight(0)
-    , picture()
-    , clip()
-    , isHollow(false)
-    , isTranslucent(false)
-    , isFirst(true)
-{
-}
-
 void TextCanvas::SetSize(int width, int height)
 {
     width = std::max(width, 0);

@@ -30,8 +30,6 @@ namespace HNodeAnimationText {
 class TextCanvas
 {
 public:
-    TextCanvas();
-
     /**
      * In pixels; a size <= 0 has none. As on the device nothing is painted beyond 32767. Begins a
      * frame; the same size again costs nothing.
@@ -86,13 +84,13 @@ private:
     void PaintHairline(const Outline& outline, const Bounds& box, Plane& plane,
                        Direction& direction);
 
-    int pictureWidth; // as told; what is painted may be less
-    int pictureHeight;
-    Box picture;
-    Box clip;
-    bool isHollow;
-    bool isTranslucent;
-    bool isFirst;
+    int pictureWidth = 0; // as told; what is painted may be less
+    int pictureHeight = 0;
+    Box picture = Box();
+    Box clip = Box();
+    bool isHollow = false;
+    bool isTranslucent = false;
+    bool isFirst = true;
     Plane ink;
     Plane inside; // of the glyphs of the frame's first path
     Fill fill;

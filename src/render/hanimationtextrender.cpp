@@ -21,12 +21,7 @@ enum State { Finished = 0, Playing = 1, NothingToPlay = 2 };
 HAnimationTextRender::HAnimationTextRender(HAnimationTextNode* node)
     : node(node)
     , state(Playing)
-    , displayHandle(0)
     , engine(new animationRealization(0))
-    , paused(false)
-    , playedTimes(0)
-    , session(0)
-    , firstTick(true)
     , imageFormat(HPluginManager::instance()->SuportAlphaBlend(node) ? QImage::Format_ARGB32
                                                                      : QImage::Format_RGB888)
 {

@@ -87,13 +87,13 @@ private:
 
     QPointer<HAnimationTextNode> node;
     int state;
-    unsigned int displayHandle;
+    unsigned int displayHandle = 0;
     animationRealization* engine;
-    bool paused;
-    int playedTimes;
-    PicSession session;
+    bool paused = false;
+    int playedTimes = 0;
+    PicSession session = 0;
     QVector<int> layerIds; // reserved
-    bool firstTick;
+    bool firstTick = true;
     QDateTime startTime;
     QImage::Format imageFormat;
     QTimer drawTimer;

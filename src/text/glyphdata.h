@@ -38,23 +38,21 @@ struct GlyphDataFault
 
     explicit GlyphDataFault(Kind kind = Sound, int element = 0, qint64 number = 0, qint64 limit = 0)
         : kind(kind)
-        , outline(0)
         , element(element)
         , number(number)
         , limit(limit)
         , x(0)
-        , y(0)
     {
     }
 
     bool LeavesNothing() const { return kind >= CutOff; }
 
     Kind kind;
-    int outline; ///< index
-    int element; ///< index in the outline
+    int outline = 0; ///< index
+    int element;     ///< index in the outline
     qint64 number;
     qint64 limit;
-    double x, y; ///< pixels
+    double x = 0, y = 0; ///< pixels
 };
 
 /** The decoded bytes of an open data file; empty when they cannot be read. */
