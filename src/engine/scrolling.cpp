@@ -76,8 +76,8 @@ void animationRealization::DrawTail(int first, int end)
     for (int k = first; k < end; ++k) {
         // With negative widths, a character may be before the tail; it is already painted.
         if (charPositions.value(k) > lastPaintableX)
-            auxPath.Append(GlyphOf(k).Shape(), float(charPositions.value(k) - start),
-                           float(RestY(k)));
+            auxPath.Append(Transform().map(GlyphOf(k).Shape(),
+                                           float(charPositions.value(k) - start), float(RestY(k))));
     }
     TextCanvas tailCanvas;
     tailCanvas.SetSize(tail.width(), tail.height());

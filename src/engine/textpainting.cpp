@@ -32,7 +32,7 @@ void animationRealization::DrawShadow(int index)
         return;
     const int distance = Attribute(node, "TextShadowBox");
     if (index >= 0 && index < charPaths.size())
-        auxPath.Append(GlyphOf(index).Shape(), float(distance), float(distance));
+        auxPath.Append(Transform().map(GlyphOf(index).Shape(), float(distance), float(distance)));
 }
 
 } // namespace HNodeAnimationText

@@ -3,6 +3,7 @@
 #include "paint/fill.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -24,12 +25,39 @@ struct Run
     int winding;
 };
 
+__attribute__((always_inline)) inline bool IsFlat(const Place* p)
+{
+    const int32_t flatness = 16;
+    const int32_t chordX = Difference(p[3].x, p[0].x);
+    const int32_t chordY = Difference(p[3].y, p[0].y);
+    const int32_t length = Sum(Magnitude(chordX), Magnitude(chordY));
+    const int32_t x1 = Difference(p[1].x, p[0].x);
+    const int32_t y1 = Difference(p[1].y, p[0].y);
+    const int32_t x2 = Difference(p[2].x, p[0].x);
+    const int32_t y2 = Difference(p[2].y, p[0].y);
+    if (length <= unitsPerPixel)
+        return Sum(Sum(Magnitude(x1), Magnitude(y1)), Sum(Magnitude(x2), Magnitude(y2))) <=
+               flatness;
+    const int64_t cross1 = int64_t(x1) * chordY - int64_t(y1) * chordX;
+    const int64_t cross2 = int64_t(x2) * chordY - int64_t(y2) * chordX;
+    const int64_t distance = (cross1 < 0 ? -cross1 : cross1) + (cross2 < 0 ? -cross2 : cross2);
+    return distance <= int64_t(flatness) * length;
+}
+
+/** Whether a row is sampled between the points: else no line between them has one. */
+inline bool CrossesRow(const Place* p)
+{
+    const int32_t high = std::min(std::min(p[0].y, p[1].y), std::min(p[2].y, p[3].y));
+    const int32_t low = std::max(std::max(p[0].y, p[1].y), std::max(p[2].y, p[3].y));
+    return Sum(high, unitsPerPixel - 1) >> 6 <= Difference(low, 1) >> 6;
+}
+
 /** Makes runs of edges, within a clip, for a sink. */
 template <typename Sink>
 class Edges
 {
 public:
-    Edges(const Box& box, Sink& to)
+    Edges(const Box& box, const Sink& to)
         : clip(box)
         , left(ShiftedLeft(box.left, 16))
         , right(ShiftedLeft(box.right, 16))
@@ -41,15 +69,13 @@ public:
     void Curve(const Place& a, const Place& b, const Place& c, const Place& d);
 
 private:
-    static bool IsFlat(const Place* p);
-    static bool CrossesRow(const Place* p);
     void AddBorder(int32_t border, int top, int bottom, int winding);
     bool CutAtBorder(int32_t border, bool isRight, Run& run);
 
     Box clip;
     int32_t left;
     int32_t right;
-    Sink& sink;
+    Sink sink;
 };
 
 template <typename Sink>
@@ -129,35 +155,6 @@ bool Edges<Sink>::CutAtBorder(int32_t border, bool isRight, Run& run)
 }
 
 template <typename Sink>
-__attribute__((always_inline)) inline bool Edges<Sink>::IsFlat(const Place* p)
-{
-    const int32_t flatness = 16;
-    const int32_t chordX = Difference(p[3].x, p[0].x);
-    const int32_t chordY = Difference(p[3].y, p[0].y);
-    const int32_t length = Sum(Magnitude(chordX), Magnitude(chordY));
-    const int32_t x1 = Difference(p[1].x, p[0].x);
-    const int32_t y1 = Difference(p[1].y, p[0].y);
-    const int32_t x2 = Difference(p[2].x, p[0].x);
-    const int32_t y2 = Difference(p[2].y, p[0].y);
-    if (length <= unitsPerPixel)
-        return Sum(Sum(Magnitude(x1), Magnitude(y1)), Sum(Magnitude(x2), Magnitude(y2))) <=
-               flatness;
-    const int64_t cross1 = int64_t(x1) * chordY - int64_t(y1) * chordX;
-    const int64_t cross2 = int64_t(x2) * chordY - int64_t(y2) * chordX;
-    const int64_t distance = (cross1 < 0 ? -cross1 : cross1) + (cross2 < 0 ? -cross2 : cross2);
-    return distance <= int64_t(flatness) * length;
-}
-
-/** Whether a row is sampled between the points: else no line between them has one. */
-template <typename Sink>
-inline bool Edges<Sink>::CrossesRow(const Place* p)
-{
-    const int32_t high = std::min(std::min(p[0].y, p[1].y), std::min(p[2].y, p[3].y));
-    const int32_t low = std::max(std::max(p[0].y, p[1].y), std::max(p[2].y, p[3].y));
-    return Sum(high, unitsPerPixel - 1) >> 6 <= Difference(low, 1) >> 6;
-}
-
-template <typename Sink>
 void Edges<Sink>::Curve(const Place& a, const Place& b, const Place& c, const Place& d)
 {
     // A stack of halves; the second half lies on top.
@@ -231,23 +228,12 @@ void Flip(const Run& run, Plane& flips)
 } // namespace
 
 /** Quick way for odd-even outlines without gaps: every row has an even number of crossings. */
-class Fill::Flips
+struct Fill::Flips
 {
-public:
     static const bool isWithin = false;
 
-    Flips(const Box& box, Plane& plane, Box& touched)
-        : clip(box)
-        , flips(plane)
-        , flipped(touched)
-    {
-    }
-
-    const Box& Clip() const { return clip; }
     void Add(const Run& run);
     void AddInside(const Run& run, int32_t last);
-
-private:
     void Touch(const Run& run, int firstColumn, int lastColumn);
 
     Box clip;
@@ -282,39 +268,21 @@ void Fill::Flips::AddInside(const Run& run, int32_t last)
 }
 
 /** The same for an outline within the picture: nothing to cut, and what it touches is known. */
-class Fill::FlipsWithin
+struct Fill::FlipsWithin
 {
-public:
     static const bool isWithin = true;
 
-    FlipsWithin(const Box& box, Plane& plane)
-        : clip(box)
-        , flips(plane)
-    {
-    }
-
-    const Box& Clip() const { return clip; }
     void Add(const Run& run) { Flip(run, flips); }
     void AddInside(const Run& run, int32_t) { Add(run); }
 
-private:
-    Box clip;
     Plane& flips;
 };
 
 /** For all others: the crossings themselves. */
-class Fill::Crossings
+struct Fill::Crossings
 {
-public:
     static const bool isWithin = false;
 
-    Crossings(const Box& box, std::vector<Crossing>& list)
-        : clip(box)
-        , crossings(list)
-    {
-    }
-
-    const Box& Clip() const { return clip; }
     void AddInside(const Run& run, int32_t) { Add(run); }
     void Add(const Run& run)
     {
@@ -327,7 +295,6 @@ public:
         }
     }
 
-private:
     Box clip;
     std::vector<Crossing>& crossings;
 };
@@ -360,24 +327,12 @@ void Fill::Close(const Outline& outline)
     }
 }
 
-void Fill::MapClosed(const Transform& transform)
-{
-    mapped.resize(closed.Size());
-    if (!mapped.empty())
-        transform.map(closed, &mapped[0]);
-}
-
 void Fill::CutClosed(bool isPart)
 {
-    for (size_t i = 0; i < mapped.size(); ++i) {
-        closed.At(i).x = mapped[i].x;
-        closed.At(i).y = mapped[i].y;
-    }
     const Outline cut = CutToPicture(closed, picture, isPart);
     closed.Clear();
     if (!cut.IsEmpty())
         Close(cut);
-    MapClosed(Transform());
 }
 
 bool Fill::HasGaps() const
@@ -394,9 +349,9 @@ bool Fill::HasGaps() const
 }
 
 template <typename Sink>
-void Fill::AddEdges(const Outline& outline, Sink& sink) const
+void Fill::AddEdges(const Outline& outline, const Box& clip, Sink sink) const
 {
-    Edges<Sink> edges(sink.Clip(), sink);
+    Edges<Sink> edges(clip, sink);
     for (size_t i = 1; i < outline.Size(); ++i) {
         const Place* p = &places[i - 1];
         switch (outline.At(i).type) {
@@ -413,8 +368,8 @@ void Fill::AddEdges(const Outline& outline, Sink& sink) const
 void Fill::Paint(const Outline& outline, const Transform& transform, const Box& clip, Plane& ink)
 {
     Close(outline);
-    MapClosed(transform);
-    if (!mapped.empty() && Bounds(&mapped[0], mapped.size()).AreFar())
+    closed = transform.map(std::move(closed));
+    if (closed.Size() > 0 && Bounds(&closed.At(0), closed.Size()).AreFar())
         CutClosed(false);
     PaintClosed(clip, ink);
 }
@@ -422,29 +377,28 @@ void Fill::Paint(const Outline& outline, const Transform& transform, const Box& 
 void Fill::PaintPartOfFar(const Outline& outline, Plane& ink)
 {
     Close(outline);
-    MapClosed(Transform());
     CutClosed(true);
     PaintClosed(picture, ink);
 }
 
 void Fill::PaintClosed(const Box& clip, Plane& ink)
 {
-    places.resize(mapped.size());
+    places.resize(closed.Size());
     for (size_t i = 0; i < places.size(); ++i) {
-        const Place place = {ToInt(mapped[i].x * 64), ToInt(mapped[i].y * 64)};
+        const Place place = {ToInt(closed.At(i).x * 64), ToInt(closed.At(i).y * 64)};
         places[i] = place;
     }
     if (clip.IsEmpty() || places.size() < 3)
         return;
     if (closed.fillRule == Outline::OddEven && !HasGaps()) {
-        Flips quick(clip, flips, flipped);
-        AddEdges(closed, quick);
-        PourFlips(ink, false);
+        const Flips quick = {clip, flips, flipped};
+        AddEdges(closed, clip, quick);
+        PourFlips<Plane::Unite>(ink);
         return;
     }
     crossings.clear();
-    Crossings sorted(clip, crossings);
-    AddEdges(closed, sorted);
+    const Crossings sorted = {clip, crossings};
+    AddEdges(closed, clip, sorted);
     PaintCrossings(ink);
 }
 
@@ -468,21 +422,22 @@ void Fill::Add(const Outline& outline, const Point* points, const Bounds& box)
         flipped.top = std::min(flipped.top, static_cast<int>(box.top));
         flipped.bottom =
             std::max(flipped.bottom, std::min(static_cast<int>(box.bottom) + 1, picture.bottom));
-        FlipsWithin quick(picture, flips);
-        AddEdges(outline, quick);
+        const FlipsWithin quick = {flips};
+        AddEdges(outline, picture, quick);
         return;
     }
-    Flips quick(picture, flips, flipped);
-    AddEdges(outline, quick);
+    const Flips quick = {picture, flips, flipped};
+    AddEdges(outline, picture, quick);
 }
 
 void Fill::InvertInside(Plane& plane)
 {
-    PourFlips(plane, true);
+    PourFlips<Plane::Invert>(plane);
 }
 
-/** Sets or inverts what lies between flips, and takes these away. */
-void Fill::PourFlips(Plane& plane, bool invert)
+/** Into what lies between flips; takes these away. */
+template <typename Operation>
+void Fill::PourFlips(Plane& plane)
 {
     for (int y = flipped.top; y < flipped.bottom; ++y) {
         Word* from = flips.Row(y);
@@ -494,7 +449,7 @@ void Fill::PourFlips(Plane& plane, bool invert)
                 continue;
             from[i] = 0;
             ExclusiveOr(bits, inside);
-            to[i] = invert ? to[i] ^ bits : to[i] | bits;
+            Operation::Apply(to[i], bits);
         }
     }
     plane.MarkRows(flipped.top, flipped.bottom);
@@ -520,7 +475,7 @@ void Fill::PaintCrossings(Plane& ink)
 
 size_t Fill::Bytes() const
 {
-    return flips.Bytes() + mapped.capacity() * sizeof(Point) + places.capacity() * sizeof(Place) +
+    return flips.Bytes() + places.capacity() * sizeof(Place) +
            crossings.capacity() * sizeof(Crossing) + closed.Bytes();
 }
 

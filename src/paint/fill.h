@@ -49,23 +49,22 @@ private:
             return row < other.row || (row == other.row && column < other.column);
         }
     };
-    class Flips;
-    class FlipsWithin;
-    class Crossings;
+    struct Flips;
+    struct FlipsWithin;
+    struct Crossings;
 
     void Close(const Outline& outline);
-    void MapClosed(const Transform& transform);
     void CutClosed(bool isPart);
     void PaintClosed(const Box& clip, Plane& ink);
     bool HasGaps() const;
     template <typename Sink>
-    void AddEdges(const Outline& outline, Sink& sink) const;
-    void PourFlips(Plane& plane, bool invert);
+    void AddEdges(const Outline& outline, const Box& clip, Sink sink) const;
+    template <typename Operation>
+    void PourFlips(Plane& plane);
     void PaintCrossings(Plane& ink);
 
     Box picture = Box();
     Outline closed;
-    std::vector<Point> mapped;
     std::vector<Place> places;
     Plane flips;         // empty once it is poured
     Box flipped = Box(); // what of it is not: words and rows

@@ -55,23 +55,16 @@ uint32_t PlaceKey(float low, float high, float steadyWithin, float at)
     return BitsOf(at);
 }
 
-struct Inverting
-{
-    static void Apply(Word& to, Word bits) { to ^= bits; }
-};
-
-struct Uniting
-{
-    static void Apply(Word& to, Word bits) { to |= bits; }
-};
+enum Part { Inside, Hairlines };
 
 template <typename Operation>
-void Stamp(const GlyphCache::Image& image, GlyphCache::Part part, int x, int y, Plane& plane)
+void StampPart(const GlyphCache::Finding& found, Part part, Plane& plane)
 {
+    const GlyphCache::Image& image = *found.image;
     if (image.rows == 0)
         return;
-    x += image.left;
-    y += image.top;
+    const int x = found.x + image.left;
+    const int y = found.y + image.top;
     const Word* from = &image.bits[size_t(part) * size_t(image.rows * image.words)];
     Word* to = plane.Row(y) + x / Plane::wordBits;
     const int shift = x % Plane::wordBits;
@@ -176,14 +169,16 @@ void GlyphCache::Count(bool isFound)
     hits += isFound ? 1 : 0;
 }
 
-void GlyphCache::Invert(const Image& image, Part part, int x, int y, Plane& plane)
+void GlyphCache::Stamp(const Finding& found, Plane& ink)
 {
-    Stamp<Inverting>(image, part, x, y, plane);
+    StampPart<Plane::Unite>(found, Inside, ink);
+    StampPart<Plane::Unite>(found, Hairlines, ink);
 }
 
-void GlyphCache::Unite(const Image& image, Part part, int x, int y, Plane& plane)
+void GlyphCache::Stamp(const Finding& found, Plane& inside, Plane& hairlines)
 {
-    Stamp<Uniting>(image, part, x, y, plane);
+    StampPart<Plane::Invert>(found, Inside, inside);
+    StampPart<Plane::Unite>(found, Hairlines, hairlines);
 }
 
 /** The glyph under its transform; null when it was not seen like that the last time. */

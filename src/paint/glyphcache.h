@@ -24,8 +24,6 @@ namespace HNodeAnimationText {
 class GlyphCache
 {
 public:
-    enum Part { Inside, Hairlines };
-
     /** A glyph's pixels; its leftmost column and its topmost row have ink. */
     struct Image
     {
@@ -57,8 +55,10 @@ public:
     const Image& Keep(const Plane& inside, const Plane& hairlines, const Bounds& box,
                       Direction next);
 
-    static void Invert(const Image& image, Part part, int x, int y, Plane& plane);
-    static void Unite(const Image& image, Part part, int x, int y, Plane& plane);
+    /** A glyph alone. */
+    static void Stamp(const Finding& found, Plane& ink);
+    /** One of a path: the insides of its glyphs invert each other. */
+    static void Stamp(const Finding& found, Plane& inside, Plane& hairlines);
 
     size_t Bytes() const;
 

@@ -18,11 +18,6 @@ bool AreOpposite(Direction a, Direction b)
     return (a ^ b) == 1; // neighbors in the enumeration
 }
 
-unsigned SwappedCaps(unsigned caps)
-{
-    return ((caps & CapBegin) << 1) | ((caps & CapEnd) >> 1);
-}
-
 int32_t Fixed(float v)
 {
     return ToInt(double(v) * 64.) + 31;
@@ -70,9 +65,8 @@ struct Hairline::Trace
     Pixel First() const { return swapped ? High() : Low(); }
     Pixel Last() const { return swapped ? Low() : High(); }
 
-    /** At the end where it was begun. */
-    void DropFirst();
-    void AddBeforeFirst();
+    /** Moves the end where it was begun, by pixels in the direction of drawing. */
+    void MoveBegin(int by);
 };
 
 inline bool Hairline::Trace::Take(int32_t x1, int32_t y1, int32_t x2, int32_t y2)
@@ -95,11 +89,10 @@ inline bool Hairline::Trace::Take(int32_t x1, int32_t y1, int32_t x2, int32_t y2
 
 inline void Hairline::Trace::AddCaps(unsigned caps)
 {
-    if (caps & CapBegin) {
+    hasCapAtBegin = (caps & (swapped ? CapEnd : CapBegin)) != 0;
+    if (hasCapAtBegin)
         a1 -= 32;
-        hasCapAtBegin = true;
-    }
-    if (caps & CapEnd)
+    if (caps & (swapped ? CapBegin : CapEnd))
         a2 += 32;
 }
 
@@ -120,27 +113,17 @@ inline bool Hairline::Trace::FindPixels()
     return true;
 }
 
-void Hairline::Trace::DropFirst()
+inline void Hairline::Trace::MoveBegin(int by)
 {
     if (swapped) {
-        --end;
+        end -= by;
     } else {
-        ++begin;
-        across = Sum(across, step);
+        begin += by;
+        across = Sum(across, Product(by, step));
     }
 }
 
-void Hairline::Trace::AddBeforeFirst()
-{
-    if (swapped) {
-        ++end;
-    } else {
-        --begin;
-        across = Difference(across, step);
-    }
-}
-
-void Hairline::Begin(const Box& box, Plane& plane, Coats* counted)
+void Hairline::Begin(const Box& box, Plane& plane, Direction first, Coats* counted)
 {
     clip = box;
     ink = &plane;
@@ -149,13 +132,13 @@ void Hairline::Begin(const Box& box, Plane& plane, Coats* counted)
     top = float(box.top - 1);
     right = float(box.right + 1);
     bottom = float(box.bottom + 1);
-    direction = Rightward;
+    direction = first;
 }
 
-void Hairline::Draw(const Outline& outline, const Point* points, const Bounds& box)
+Direction Hairline::Draw(const Outline& outline, const Point* points, const Bounds& box)
 {
     if (clip.IsEmpty())
-        return;
+        return direction;
     // Pixels lie within one of the points; caps and rounding add a little.
     const float margin = 3;
     isWithin = box.left >= left + margin && box.right <= right - margin &&
@@ -167,6 +150,7 @@ void Hairline::Draw(const Outline& outline, const Point* points, const Bounds& b
                       std::min(static_cast<int>(box.bottom) + 3, clip.bottom));
     else
         ink->MarkRows(clip.top, clip.bottom);
+    return direction;
 }
 
 inline void Hairline::StartAt(const Point& p)
@@ -223,25 +207,18 @@ void Hairline::FollowClosing(const Point& from, const Point& to)
 /** Cuts along one axis: a is the coordinate that is cut. True when nothing is left. */
 bool Hairline::ClipAxis(float& a1, float& c1, float& a2, float& c2, float low, float high)
 {
-    if (a1 < low) {
-        if (a2 <= low)
+    const float begin = std::max(low, std::min(a1, high));
+    if (a1 != begin) {
+        if (std::max(low, std::min(a2, high)) == begin)
             return true;
-        c1 += (c2 - c1) / (a2 - a1) * (low - a1);
-        a1 = low;
-    } else if (a1 > high) {
-        if (a2 >= high)
-            return true;
-        c1 += (c2 - c1) / (a2 - a1) * (high - a1);
-        a1 = high;
+        c1 += (c2 - c1) / (a2 - a1) * (begin - a1);
+        a1 = begin;
     }
-    if (a2 < low) {
+    const float end = std::max(low, std::min(a2, high));
+    if (a2 != end) {
         ForgetLast();
-        c2 += (c2 - c1) / (a2 - a1) * (low - a2);
-        a2 = low;
-    } else if (a2 > high) {
-        ForgetLast();
-        c2 += (c2 - c1) / (a2 - a1) * (high - a2);
-        a2 = high;
+        c2 += (c2 - c1) / (a2 - a1) * (end - a2);
+        a2 = end;
     }
     return false;
 }
@@ -275,11 +252,7 @@ void Hairline::DrawLine(const Point& a, const Point& b, unsigned caps)
     Trace trace;
     if (!TakeLine(a, b, trace))
         return;
-    if (trace.swapped)
-        caps = SwappedCaps(caps);
-    if (AreOpposite(direction, trace.direction))
-        caps |= trace.swapped ? CapEnd : CapBegin;
-    trace.AddCaps(caps);
+    trace.AddCaps(AreOpposite(direction, trace.direction) ? caps | CapBegin : caps);
     if (!trace.FindPixels())
         return;
     const Pixel endsWith = trace.Last(); // does not know of pixels dropped or added
@@ -298,10 +271,10 @@ inline void Hairline::DropOut(Trace& trace) const
     const int gapX = Magnitude(Difference(last.x, first.x));
     const int gapY = Magnitude(Difference(last.y, first.y));
     if (gapX == 0 && gapY == 0) {
-        trace.DropFirst();
+        trace.MoveBegin(1);
     } else if (direction != trace.direction &&
                ((trace.aligned && isAligned && gapX != 0 && gapY != 0) || gapX > 1 || gapY > 1)) {
-        trace.AddBeforeFirst();
+        trace.MoveBegin(-1);
     }
 }
 

@@ -21,14 +21,14 @@ public:
     /**
      * Pixels within @p clip are set in @p ink, which is no smaller, and added to @p coats, if any,
      * as often as lines cross them.
+     * @param first the direction that the path starts with, unless it goes on from another one
      */
-    void Begin(const Box& clip, Plane& ink, Coats* coats = 0);
-    /** The direction that a path starts with, Rightward unless it goes on from another one. */
-    void SetDirection(Direction d) { direction = d; }
-    Direction LastDirection() const { return direction; }
-
-    /** The well formed outline, with its elements at @p points, which lie within @p box. */
-    void Draw(const Outline& outline, const Point* points, const Bounds& box);
+    void Begin(const Box& clip, Plane& ink, Direction first = Rightward, Coats* coats = 0);
+    /**
+     * The well formed outline, with its elements at @p points, which lie within @p box.
+     * @return the direction of the last line, in which the next outline of the path goes on
+     */
+    Direction Draw(const Outline& outline, const Point* points, const Bounds& box);
 
 private:
     struct Pixel

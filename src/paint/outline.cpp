@@ -1,6 +1,6 @@
 #include "paint/outline.h"
 
-#include <cmath>
+#include "paint/point.h"
 
 namespace Lw {
 namespace HNodeAnimationText {
@@ -18,30 +18,13 @@ void Outline::CurveTo(float x1, float y1, float x2, float y2, float x, float y)
     Add(x, y, CurveData);
 }
 
-void Outline::Append(const Outline& other, float dx, float dy)
+void Outline::Append(const Outline& other)
 {
     if (other.IsEmpty())
         return;
     if (!elements.empty() && elements.back().type == Move)
         elements.pop_back();
-    size_t i = elements.size();
     elements.insert(elements.end(), other.elements.begin(), other.elements.end());
-    if (dx == 0 && dy == 0)
-        return;
-    for (; i < elements.size(); ++i) {
-        elements[i].x += dx;
-        elements[i].y += dy;
-    }
-}
-
-Outline Outline::Translated(float dx, float dy) const
-{
-    Outline moved(*this);
-    for (size_t i = 0; i < moved.elements.size(); ++i) {
-        moved.elements[i].x += dx;
-        moved.elements[i].y += dy;
-    }
-    return moved;
 }
 
 bool Outline::IsEmpty() const
@@ -86,7 +69,7 @@ void Outline::Clear()
 
 bool NearlyEqual(const Outline::Element& a, const Outline::Element& b)
 {
-    return std::fabs(a.x - b.x) <= 0.00001f && std::fabs(a.y - b.y) <= 0.00001f;
+    return NearlyZero(a.x - b.x) && NearlyZero(a.y - b.y);
 }
 
 } // namespace HNodeAnimationText

@@ -29,10 +29,8 @@ public:
     void LineTo(float x, float y) { Add(x, y, Line); }
     void CurveTo(float x1, float y1, float x2, float y2, float x, float y);
 
-    /** Takes over @p other, moved by (@p dx, @p dy); the fill rule stays. @p other is another
-     * outline. */
-    void Append(const Outline& other, float dx = 0, float dy = 0);
-    Outline Translated(float dx, float dy) const;
+    /** Takes over @p other, which is another outline; the fill rule stays. */
+    void Append(const Outline& other);
 
     /** Empty, or only a move. */
     bool IsEmpty() const;

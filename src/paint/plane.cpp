@@ -39,30 +39,6 @@ void Plane::SetRun(int y, int begin, int end)
     row[last] |= toEnd;
 }
 
-void Plane::Unite(const Plane& other)
-{
-    if (other.inkTop >= other.inkBottom)
-        return;
-    Word* to = Row(other.inkTop);
-    const Word* from = other.Row(other.inkTop);
-    const size_t count = static_cast<size_t>(other.inkBottom - other.inkTop) * stride;
-    for (size_t i = 0; i < count; ++i)
-        to[i] |= from[i];
-    MarkRows(other.inkTop, other.inkBottom);
-}
-
-void Plane::Invert(const Plane& other)
-{
-    if (other.inkTop >= other.inkBottom)
-        return;
-    Word* to = Row(other.inkTop);
-    const Word* from = other.Row(other.inkTop);
-    const size_t count = static_cast<size_t>(other.inkBottom - other.inkTop) * stride;
-    for (size_t i = 0; i < count; ++i)
-        to[i] ^= from[i];
-    MarkRows(other.inkTop, other.inkBottom);
-}
-
 void Plane::MarkRows(int top, int bottom)
 {
     if (top >= bottom)

@@ -39,10 +39,19 @@ public:
     bool Has(int x, int y) const { return Row(y)[x / wordBits] >> (x % wordBits) & 1; }
     /** Columns @p begin up to but without @p end. */
     void SetRun(int y, int begin, int end);
-    /** Adds the ink of @p other, which has the same size. */
-    void Unite(const Plane& other);
-    /** Inverts the pixels where @p other has ink. */
-    void Invert(const Plane& other);
+
+    /** What ink does to what is there. */
+    struct Unite
+    {
+        static void Apply(Word& to, Word ink) { to |= ink; }
+    };
+    struct Invert
+    {
+        static void Apply(Word& to, Word ink) { to ^= ink; }
+    };
+    /** The ink of @p other, which has the same size. */
+    template <typename Operation>
+    void Take(const Plane& other);
 
     /** Call after setting bits in rows @p top to @p bottom - 1. */
     void MarkRows(int top, int bottom);
@@ -61,6 +70,19 @@ private:
     int inkBottom = 0;
     std::vector<Word> words;
 };
+
+template <typename Operation>
+void Plane::Take(const Plane& other)
+{
+    if (other.inkTop >= other.inkBottom)
+        return;
+    Word* to = Row(other.inkTop);
+    const Word* from = other.Row(other.inkTop);
+    const size_t count = static_cast<size_t>(other.inkBottom - other.inkTop) * stride;
+    for (size_t i = 0; i < count; ++i)
+        Operation::Apply(to[i], from[i]);
+    MarkRows(other.inkTop, other.inkBottom);
+}
 
 } // namespace HNodeAnimationText
 } // namespace Lw

@@ -137,16 +137,6 @@ void TextCanvas::SetClip(const Box& rectangle)
     clip = Intersection(picture, rectangle);
 }
 
-void TextCanvas::ResetClip()
-{
-    clip = picture;
-}
-
-void TextCanvas::DrawText(const TextPath& text)
-{
-    DrawText(text, Transform());
-}
-
 void TextCanvas::DrawText(const TextPath& text, const Transform& painterTransform)
 {
     if (picture.IsEmpty() || text.Size() == 0)
@@ -169,39 +159,39 @@ void TextCanvas::DrawGlyph(const TextPath::Item& item)
     if (!picture.IsEmpty() && !isTranslucent && clip == picture && IsIndependent(item)) {
         const GlyphCache::Finding found = FindOrKeep(item, isWinding, Rightward);
         if (found.image) {
-            GlyphCache::Unite(*found.image, GlyphCache::Inside, found.x, found.y, ink);
-            GlyphCache::Unite(*found.image, GlyphCache::Hairlines, found.x, found.y, ink);
+            GlyphCache::Stamp(found, ink);
             return;
         }
     }
-    DrawPath(item.shape.map(outline).Translated(item.x, item.y));
-}
-
-void TextCanvas::DrawPath(const Outline& path)
-{
-    DrawPath(path, Transform());
+    DrawPath(item.Placed());
 }
 
 void TextCanvas::DrawPath(const Outline& path, const Transform& painterTransform)
 {
     isFirst = false;
-    if (!picture.IsEmpty() && IsPaintable(path) && painterTransform.map(path).IsFinite())
-        DrawPlain(path, painterTransform);
-}
-
-void TextCanvas::DrawPlain(const Outline& path, const Transform& transform)
-{
+    if (picture.IsEmpty() || !IsPaintable(path) || !painterTransform.map(path).IsFinite())
+        return;
     if (!isHollow)
-        fill.Paint(path, transform, clip, isTranslucent ? keptInside : ink);
+        fill.Paint(path, painterTransform, clip, isTranslucent ? keptInside : ink);
     points.resize(path.Size());
-    transform.map(path, &points[0]);
+    painterTransform.map(path, &points[0]);
     if (isTranslucent) {
         coats.Add(keptInside);
-        ink.Unite(keptInside);
+        ink.Take<Plane::Unite>(keptInside);
         keptInside.Clear();
     }
-    hairline.Begin(clip, ink, isTranslucent ? &coats : 0);
+    hairline.Begin(clip, ink, Rightward, isTranslucent ? &coats : 0);
     hairline.Draw(path, &points[0], Bounds(&points[0], points.size()));
+}
+
+/** Takes the glyph's points; gives their bounds. */
+Bounds TextCanvas::Place(const TextPath::Item& item, const Transform& painterTransform)
+{
+    points.resize(item.glyph->Shape().Size());
+    item.shape.map(item.glyph->Shape(), &points[0], item.x, item.y);
+    if (!painterTransform.IsIdentity())
+        painterTransform.map(&points[0], points.size());
+    return Bounds(&points[0], points.size());
 }
 
 /** Paints the frame's first path, glyph by glyph: their insides invert each other. */
@@ -219,17 +209,12 @@ void TextCanvas::DrawOneByOne(const TextPath& text, const Transform& painterTran
         if (!isMapped)
             found = FindOrKeep(item, false, direction);
         if (found.image) {
-            GlyphCache::Invert(*found.image, GlyphCache::Inside, found.x, found.y, inside);
-            GlyphCache::Unite(*found.image, GlyphCache::Hairlines, found.x, found.y, ink);
+            GlyphCache::Stamp(found, inside, ink);
             direction = found.next;
             continue;
         }
         const Outline& outline = item.glyph->Shape();
-        points.resize(outline.Size());
-        item.shape.map(outline, &points[0], item.x, item.y);
-        if (isMapped)
-            painterTransform.map(&points[0], points.size());
-        const Bounds box(&points[0], points.size());
+        const Bounds box = Place(item, painterTransform);
         if (IsOutside(box))
             continue;
         if (!isHollow)
@@ -250,19 +235,16 @@ bool TextCanvas::IsInside(const TextPath::Item& item) const
 /** A glyph that crosses the border, of a path that is far out. */
 void TextCanvas::PaintCut(const TextPath::Item& item, Direction& direction)
 {
-    const Outline outline = item.glyph->Shape().Translated(item.x, item.y);
-    points.resize(outline.Size());
-    Transform().map(outline, &points[0]);
-    const Bounds box(&points[0], points.size());
+    const Bounds box = Place(item, Transform());
     if (IsOutside(box))
         return;
     if (!isHollow) {
         fill.InvertInside(inside); // what was taken before
-        fill.PaintPartOfFar(outline, keptInside);
-        inside.Invert(keptInside);
+        fill.PaintPartOfFar(item.Placed(), keptInside);
+        inside.Take<Plane::Invert>(keptInside);
         keptInside.Clear();
     }
-    PaintHairline(outline, box, ink, direction);
+    PaintHairline(item.glyph->Shape(), box, ink, direction);
 }
 
 /** Whether a closed outline within @p box leaves no trace, not even a direction. */
@@ -277,10 +259,8 @@ bool TextCanvas::IsOutside(const Bounds& box) const
 void TextCanvas::PaintHairline(const Outline& outline, const Bounds& box, Plane& plane,
                                Direction& direction)
 {
-    hairline.Begin(picture, plane);
-    hairline.SetDirection(direction);
-    hairline.Draw(outline, &points[0], box);
-    direction = hairline.LastDirection();
+    hairline.Begin(picture, plane, direction);
+    direction = hairline.Draw(outline, &points[0], box);
 }
 
 /** The cache entry of the glyph; without an image, the glyph must be painted. */
@@ -298,12 +278,9 @@ const GlyphCache::Image& TextCanvas::PaintToKeep(const TextPath::Item& item, boo
                                                  Direction& direction)
 {
     const Outline& outline = item.glyph->Shape();
-    points.resize(outline.Size());
-    item.shape.map(outline, &points[0], item.x, item.y);
-    const Bounds box(&points[0], points.size());
+    const Bounds box = Place(item, Transform());
     if (!isHollow && isWinding) {
-        fill.Paint(item.shape.map(outline).Translated(item.x, item.y), Transform(), picture,
-                   keptInside);
+        fill.Paint(item.Placed(), Transform(), picture, keptInside);
     } else if (!isHollow) {
         fill.InvertInside(inside); // what was taken before
         fill.Add(outline, &points[0], box);
@@ -318,7 +295,7 @@ const GlyphCache::Image& TextCanvas::PaintToKeep(const TextPath::Item& item, boo
 
 const Plane& TextCanvas::Ink()
 {
-    ink.Unite(inside);
+    ink.Take<Plane::Unite>(inside);
     inside.Clear();
     return ink;
 }

@@ -46,20 +46,19 @@ public:
     void SetTranslucent(bool translucent);
     /** Only this rectangle is painted from now on, as after QPainter::setClipRect(). */
     void SetClip(const Box& rectangle);
-    void ResetClip();
 
     /** Forgets the numbers of the glyphs, by which they are cached. */
     void ForgetGlyphs() { cache.Forget(); }
 
-    /** Fill, then outline, as one path. Not finite or not well formed: paints nothing. */
-    void DrawText(const TextPath& text);
-    /** The same under a painter's transform: points are mapped, the pen stays a hairline. */
-    void DrawText(const TextPath& text, const Transform& painterTransform);
+    /**
+     * Fill, then outline, as one path. Not finite or not well formed: paints nothing. Under a
+     * painter's transform points are mapped, the pen stays a hairline.
+     */
+    void DrawText(const TextPath& text, const Transform& painterTransform = Transform());
     /** A path of one glyph, filled by its own rule. */
     void DrawGlyph(const TextPath::Item& item);
     /** Fill by the outline's rule, then outline. */
-    void DrawPath(const Outline& path);
-    void DrawPath(const Outline& path, const Transform& painterTransform);
+    void DrawPath(const Outline& path, const Transform& painterTransform = Transform());
 
     /**
      * All pixels of the frame, from 0xAARRGGBB, those without ink 0. The picture has the canvas's
@@ -73,7 +72,7 @@ public:
     size_t Bytes() const;
 
 private:
-    void DrawPlain(const Outline& path, const Transform& transform);
+    Bounds Place(const TextPath::Item& item, const Transform& painterTransform);
     void DrawOneByOne(const TextPath& text, const Transform& painterTransform, bool isFar);
     bool IsInside(const TextPath::Item& item) const;
     void PaintCut(const TextPath::Item& item, Direction& direction);

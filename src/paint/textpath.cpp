@@ -15,7 +15,7 @@ Outline TextPath::Path() const
 {
     Outline path;
     for (size_t i = 0; i < items.size(); ++i)
-        path.Append(items[i].shape.map(items[i].glyph->Shape()), items[i].x, items[i].y);
+        path.Append(items[i].Placed());
     return path;
 }
 

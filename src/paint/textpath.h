@@ -21,6 +21,8 @@ public:
         Transform shape;
         float x;
         float y;
+
+        Outline Placed() const { return shape.map(glyph->Shape(), x, y); }
     };
 
     void Clear() { items.clear(); }

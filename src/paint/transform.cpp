@@ -42,29 +42,24 @@ void Transform::Touch(Kind atLeast)
         touched = atLeast;
 }
 
+/** The elements that the device computes with: what the kind does not do is left out exactly. */
+Transform::Linear Transform::Effective() const
+{
+    const bool scales = kind() >= Scaling;
+    const bool turns = kind() >= Rotating;
+    const Linear linear = {scales ? a11 : 1, turns ? a12 : 0, turns ? a21 : 0, scales ? a22 : 1};
+    return linear;
+}
+
 void Transform::translate(float dx, float dy)
 {
     if (dx == 0 && dy == 0)
         return;
-    switch (kind()) {
-    case None:
-        tx = dx;
-        ty = dy;
-        break;
-    case Translating:
-        tx += dx;
-        ty += dy;
-        break;
-    case Scaling:
-        tx += dx * a11;
-        ty += dy * a22;
-        break;
-    case Rotating:
-    case Shearing:
-        tx += dx * a11 + dy * a21;
-        ty += dy * a22 + dx * a12;
-        break;
-    }
+    const Linear m = Effective();
+    if (kind() == None)
+        tx = ty = 0;
+    tx += dx * m.a11 + dy * m.a21;
+    ty += dy * m.a22 + dx * m.a12;
     Touch(Translating);
 }
 
@@ -72,19 +67,13 @@ void Transform::scale(float sx, float sy)
 {
     if (sx == 1 && sy == 1)
         return;
-    switch (kind()) {
-    case None:
-    case Translating:
-        a11 = sx;
-        a22 = sy;
-        break;
-    case Rotating:
-    case Shearing: a12 *= sx; a21 *= sy; // fallthrough
-    case Scaling:
-        a11 *= sx;
-        a22 *= sy;
-        break;
+    const Linear m = Effective();
+    if (kind() >= Rotating) {
+        a12 *= sx;
+        a21 *= sy;
     }
+    a11 = m.a11 * sx;
+    a22 = m.a22 * sy;
     Touch(Scaling);
 }
 
@@ -92,29 +81,11 @@ void Transform::shear(float sh, float sv)
 {
     if (sh == 0 && sv == 0)
         return;
-    switch (kind()) {
-    case None:
-    case Translating:
-        a12 = sv;
-        a21 = sh;
-        break;
-    case Scaling:
-        a12 = sv * a22;
-        a21 = sh * a11;
-        break;
-    case Rotating:
-    case Shearing: {
-        const float b11 = sv * a21;
-        const float b22 = sh * a12;
-        const float b12 = sv * a22;
-        const float b21 = sh * a11;
-        a11 += b11;
-        a12 += b12;
-        a21 += b21;
-        a22 += b22;
-        break;
-    }
-    }
+    const Linear m = Effective();
+    a11 += sv * m.a21;
+    a12 = m.a12 + sv * m.a22;
+    a21 = m.a21 + sh * m.a11;
+    a22 += sh * m.a12;
     Touch(Shearing);
 }
 
@@ -135,76 +106,40 @@ void Transform::rotate(float degrees)
         sine = std::sin(radians);
         cosine = std::cos(radians);
     }
-    switch (kind()) {
-    case None:
-    case Translating:
-        a11 = cosine;
-        a12 = sine;
-        a21 = -sine;
-        a22 = cosine;
-        break;
-    case Scaling: {
-        const float b11 = cosine * a11;
-        const float b12 = sine * a22;
-        const float b21 = -sine * a11;
-        const float b22 = cosine * a22;
-        a11 = b11;
-        a12 = b12;
-        a21 = b21;
-        a22 = b22;
-        break;
-    }
-    case Rotating:
-    case Shearing: {
-        const float b11 = cosine * a11 + sine * a21;
-        const float b12 = cosine * a12 + sine * a22;
-        const float b21 = -sine * a11 + cosine * a21;
-        const float b22 = -sine * a12 + cosine * a22;
-        a11 = b11;
-        a12 = b12;
-        a21 = b21;
-        a22 = b22;
-        break;
-    }
-    }
+    const Linear m = Effective();
+    a11 = cosine * m.a11 + sine * m.a21;
+    a12 = cosine * m.a12 + sine * m.a22;
+    a21 = -sine * m.a11 + cosine * m.a21;
+    a22 = -sine * m.a12 + cosine * m.a22;
     Touch(Rotating);
 }
 
-void Transform::map(float& x, float& y) const
+/** From points or elements, which may be those at @p to. */
+template <typename From, typename To>
+void Transform::MapAll(const From* from, size_t count, To* to, float dx, float dy) const
 {
-    Point point = {x, y};
-    map(&point, 1);
-    x = point.x;
-    y = point.y;
-}
-
-void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
-{
-    const size_t size = outline.Size();
     switch (kind()) {
     case None:
-        for (size_t i = 0; i < size; ++i) {
-            to[i].x = outline.At(i).x + dx;
-            to[i].y = outline.At(i).y + dy;
+    case Translating: {
+        const float x = kind() == None ? 0 : tx;
+        const float y = kind() == None ? 0 : ty;
+        for (size_t i = 0; i < count; ++i) {
+            to[i].x = from[i].x + x + dx;
+            to[i].y = from[i].y + y + dy;
         }
         break;
-    case Translating:
-        for (size_t i = 0; i < size; ++i) {
-            to[i].x = outline.At(i).x + tx + dx;
-            to[i].y = outline.At(i).y + ty + dy;
-        }
-        break;
+    }
     case Scaling:
-        for (size_t i = 0; i < size; ++i) {
-            to[i].x = a11 * outline.At(i).x + tx + dx;
-            to[i].y = a22 * outline.At(i).y + ty + dy;
+        for (size_t i = 0; i < count; ++i) {
+            to[i].x = a11 * from[i].x + tx + dx;
+            to[i].y = a22 * from[i].y + ty + dy;
         }
         break;
     case Rotating:
     case Shearing:
-        for (size_t i = 0; i < size; ++i) {
-            const float x = outline.At(i).x;
-            const float y = outline.At(i).y;
+        for (size_t i = 0; i < count; ++i) {
+            const float x = from[i].x;
+            const float y = from[i].y;
             to[i].x = a11 * x + a21 * y + tx + dx;
             to[i].y = a12 * x + a22 * y + ty + dy;
         }
@@ -212,42 +147,22 @@ void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
     }
 }
 
-void Transform::map(Point* points, size_t count) const
+void Transform::map(const Outline& outline, Point* to, float dx, float dy) const
 {
-    switch (kind()) {
-    case None: break;
-    case Translating:
-        for (size_t i = 0; i < count; ++i) {
-            points[i].x = points[i].x + tx;
-            points[i].y = points[i].y + ty;
-        }
-        break;
-    case Scaling:
-        for (size_t i = 0; i < count; ++i) {
-            points[i].x = a11 * points[i].x + tx;
-            points[i].y = a22 * points[i].y + ty;
-        }
-        break;
-    case Rotating:
-    case Shearing:
-        for (size_t i = 0; i < count; ++i) {
-            const float x = points[i].x;
-            const float y = points[i].y;
-            points[i].x = a11 * x + a21 * y + tx;
-            points[i].y = a12 * x + a22 * y + ty;
-        }
-        break;
-    }
+    if (outline.Size() > 0)
+        MapAll(&outline.At(0), outline.Size(), to, dx, dy);
 }
 
-Outline Transform::map(const Outline& outline) const
+void Transform::map(Point* points, size_t count) const
 {
-    Outline mapped(outline);
-    if (kind() == None)
-        return mapped;
-    for (size_t i = 0; i < mapped.Size(); ++i)
-        map(mapped.At(i).x, mapped.At(i).y);
-    return mapped;
+    MapAll(points, count, points, 0, 0);
+}
+
+Outline Transform::map(Outline outline, float dx, float dy) const
+{
+    if (outline.Size() > 0)
+        MapAll(&outline.At(0), outline.Size(), &outline.At(0), dx, dy);
+    return outline;
 }
 
 bool Transform::IsFinite() const

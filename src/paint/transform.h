@@ -24,11 +24,10 @@ public:
     void rotate(float degrees);
 
     /** In place. */
-    void map(float& x, float& y) const;
     void map(Point* points, size_t count) const;
     /** As many points as the outline has elements, each moved by (@p dx, @p dy) thereafter. */
     void map(const Outline& outline, Point* to, float dx = 0, float dy = 0) const;
-    Outline map(const Outline& outline) const;
+    Outline map(Outline outline, float dx = 0, float dy = 0) const;
 
     /** Points stay where they are. */
     bool IsIdentity() const { return kind() == None; }
@@ -51,6 +50,13 @@ private:
     Kind kind() const;
     Kind MeasuredKind() const;
     void Touch(Kind atLeast);
+    struct Linear
+    {
+        float a11, a12, a21, a22;
+    };
+    Linear Effective() const;
+    template <typename From, typename To>
+    void MapAll(const From* from, size_t count, To* to, float dx, float dy) const;
 
     float a11, a12, a21, a22, tx, ty;
     mutable Kind known;

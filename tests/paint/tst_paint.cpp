@@ -199,7 +199,7 @@ void TestPaint::transformsAreTheDevices()
                  qPrintable(line));
         ++i;
         const float dx = number();
-        mapped = mapped.Translated(dx, number());
+        mapped = t.map(points, dx, number());
         QVERIFY2(isNext({mapped.At(0).x, mapped.At(0).y, mapped.At(1).x, mapped.At(1).y}),
                  qPrintable(line));
     }
@@ -227,7 +227,7 @@ struct Pages
         plain.DrawPath(page.Path(), painterTransform);
         if (alone) {
             canvas.DrawGlyph(*alone);
-            plain.DrawPath(alone->shape.map(alone->glyph->Shape()).Translated(alone->x, alone->y));
+            plain.DrawPath(alone->Placed());
         }
         const Plane& a = canvas.Ink();
         const Plane& b = plain.Ink();
@@ -632,7 +632,7 @@ void TestPaint::whatCannotBePaintedIsNot()
     QCOMPARE(joined.Size(), size_t(1));
     Outline line = joined;
     line.LineTo(2, 2);
-    joined.Append(line, 1, 0);
+    joined.Append(Transform().map(line, 1, 0));
     QCOMPARE(joined.Size(), size_t(2));
     QCOMPARE(joined.At(0).x, 2.0f);
     Outline broken;
