@@ -14,20 +14,21 @@ void animationRealization::DrawFlight(int inFlight, double x, double y)
     ShowFrame();
 }
 
+/** A frame in which the current character is on its way. */
+void animationRealization::FlyTo(double x, double y)
+{
+    if (!BeginFrame())
+        return;
+    AddStanding();
+    DrawFlight(charIndex, x, y);
+}
+
 void animationRealization::FlyFromLeftEffect()
 {
-    if (BeginFrame()) {
-        AddStanding();
-        DrawFlight(charIndex, FrameWidth() - moveOffset, RestY(charIndex));
-    }
+    FlyTo(FrameWidth() - moveOffset, RestY(charIndex));
     Advance(moveOffset, stepSize);
-    if (FrameWidth() - moveOffset >= RestX(charIndex))
-        return;
-
-    moveOffset = 0;
-    ++charIndex;
-    if (charIndex >= PageEnd() && HandOver(moveOffset))
-        charIndex = 0;
+    if (FrameWidth() - moveOffset < RestX(charIndex))
+        TakeNextCharacter();
 }
 
 /** The page ends at the right edge: its last character's right side touches it. */
@@ -80,10 +81,8 @@ void animationRealization::LandVertically(bool landed)
     if (!IsLastPageOver() && charIndex < text.size())
         return;
     pageIndex = 1;
-    if (charIndex >= text.size()) {
+    if (charIndex >= text.size())
         EndRun();
-        charIndex = 0;
-    }
 }
 
 void animationRealization::FlyFromTopEffect()
@@ -92,20 +91,14 @@ void animationRealization::FlyFromTopEffect()
     // Landing is decided on exact halves, but the picture shows truncated positions. A character
     // may be visible one step past its slot for one frame.
     const bool landed = y < ExactY(charIndex);
-    if (BeginFrame()) {
-        AddStanding();
-        DrawFlight(charIndex, RestX(charIndex), y);
-    }
+    FlyTo(RestX(charIndex), y);
     LandVertically(landed);
 }
 
 void animationRealization::FlyFromBottomEffect()
 {
     const bool landed = moveOffset > ExactY(charIndex);
-    if (BeginFrame()) {
-        AddStanding();
-        DrawFlight(charIndex, RestX(charIndex), moveOffset);
-    }
+    FlyTo(RestX(charIndex), moveOffset);
     LandVertically(landed);
 }
 

@@ -77,12 +77,8 @@ void animationRealization::DrawFrogFrame(const DrawCharacter& drawCharacter)
         DrawFrog(frame);
     }
     Advance(moveOffset, 1);
-    if (moveOffset < framesPerCharacter)
-        return;
-    moveOffset = 0;
-    ++charIndex;
-    if (charIndex >= PageEnd() && HandOver(moveOffset))
-        charIndex = 0;
+    if (moveOffset >= framesPerCharacter)
+        TakeNextCharacter();
 }
 
 void animationRealization::EffectTopWithFrogAppearsVerbatim()

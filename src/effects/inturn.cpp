@@ -21,11 +21,9 @@ void animationRealization::EffectInTurnUpwardZoom()
         const float b = float(float(ExactY(j)) * 0.5 / maxTextHeight);
         const double sy = b + b * std::sin(phase / 20.0);
         transform.scale(1, float(sy));
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset >= 201 && HandOver(moveOffset))
-        charIndex = 0;
+    AdvanceTo(201, moveOffset, stepSize);
 }
 
 void animationRealization::EffectInTurnDrop()
@@ -66,11 +64,11 @@ void animationRealization::Effect45DegreeAngleDrop()
         } else if (t <= 1.6 * b + 0.6 * b) { // settles, upright
             y = 0.4 * b + t - 1.6 * b;
         }
-        AddShapedGlyph(j, RestX(j), y);
+        AddGlyph(j, RestX(j), y, transform);
     });
     Advance(moveOffset, stepSize);
-    if (Phase(PageLength()) > RestY(PageEnd() - 1) * 2.2 && HandOver(moveOffset))
-        charIndex = 0;
+    if (Phase(PageLength()) > RestY(PageEnd() - 1) * 2.2)
+        HandOver(moveOffset);
 }
 
 } // namespace HNodeAnimationText

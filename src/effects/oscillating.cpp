@@ -37,11 +37,9 @@ void animationRealization::SwingEffect()
     DrawPage([&](int j) {
         transform.translate(float(shift), 0);
         transform.shear(float(sway), 0);
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset >= 361)
-        HandOver(moveOffset);
+    AdvanceTo(361, moveOffset, stepSize);
 }
 
 void animationRealization::BeforeAfterScalEffect()
@@ -49,11 +47,9 @@ void animationRealization::BeforeAfterScalEffect()
     const double k = 1.0 + float(0.5 * std::fabs(std::sin(moveOffset / 57.3)));
     DrawPage([&](int j) {
         transform.scale(float(k), float(k));
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset >= 360)
-        HandOver(moveOffset);
+    AdvanceTo(360, moveOffset, stepSize);
 }
 
 void animationRealization::TrembleEffect()
@@ -68,9 +64,7 @@ void animationRealization::TrembleEffect()
         AddGlyph(j, float(RestX(j) + xDistance * std::sin(double(xAngle))),
                  float(RestY(j) + yDistance * std::sin(double(yAngle))));
     });
-    Advance(moveOffset, 1);
-    if (moveOffset >= 61)
-        HandOver(moveOffset);
+    AdvanceTo(61, moveOffset, 1);
 }
 
 void animationRealization::EffectShake()
@@ -79,11 +73,9 @@ void animationRealization::EffectShake()
     DrawPage([&](int j) {
         // The pivot changes ends with the side to which the glyph leans.
         RotateAbout(degrees > 0 ? charWidths.value(j) : 0, 0, degrees);
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset >= 361)
-        HandOver(moveOffset);
+    AdvanceTo(361, moveOffset, stepSize);
 }
 
 } // namespace HNodeAnimationText

@@ -10,11 +10,9 @@ void animationRealization::RotationEffect()
 {
     DrawPage([&](int j) {
         RotateAbout(charWidths.value(j) * 0.5, -maxTextHeight * 0.5, moveOffset);
-        AddShapedGlyph(j, RestX(j), float(ExactY(j)));
+        AddGlyph(j, RestX(j), float(ExactY(j)), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset >= 361)
-        HandOver(moveOffset);
+    AdvanceTo(361, moveOffset, stepSize);
 }
 
 void animationRealization::RotationTrundleEffect()
@@ -25,7 +23,7 @@ void animationRealization::RotationTrundleEffect()
         if (RestX(j) - moveOffset >= 1)
             return;
         RotateAbout(charWidths.value(j) * 0.5, -charHeights.value(j) * 0.5, progressF);
-        AddShapedGlyph(j, RestX(j) - moveOffset + w, RestY(j));
+        AddGlyph(j, RestX(j) - moveOffset + w, RestY(j), transform);
     });
     Advance(moveOffset, stepSize);
     // Two turns over the width, each starting from 0.
@@ -43,11 +41,9 @@ void animationRealization::AngleRotationEffect()
 {
     DrawPage([&](int j) {
         RotateAbout(charWidths.value(j) * 0.5, 0, moveOffset2);
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset2, stepSize);
-    if (moveOffset2 >= 361)
-        HandOver(moveOffset2);
+    AdvanceTo(361, moveOffset2, stepSize);
 }
 
 void animationRealization::EffectInTurnFlips()
@@ -63,7 +59,7 @@ void animationRealization::EffectInTurnFlips()
     DrawInTurn([&](int j, int phase) {
         if (phase <= 179)
             transform.scale(1, float(-std::cos(phase / 57.3)));
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
     Advance(moveOffset, stepSize);
     if (Phase(PageLength()) >= 180)
@@ -91,12 +87,10 @@ void animationRealization::Effect3DHorizontalRotation()
         const double q = k / pw; // a position in the row over its width in pixels: the slant
         const double fall = (1 - q) / 10 * (m - begin);
         transform.scale(1, float(closing ? 1 - fall : q + fall));
-        AddShapedGlyph(mirrored ? PageEnd() - 1 - k : j, float(GatherX(j, stretch)),
-                       float(ExactY(j)));
+        AddGlyph(mirrored ? PageEnd() - 1 - k : j, float(GatherX(j, stretch)), float(ExactY(j)),
+                 transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset >= 42)
-        HandOver(moveOffset);
+    AdvanceTo(42, moveOffset, stepSize);
 }
 
 void animationRealization::EffectFlipsInto()
@@ -118,11 +112,9 @@ void animationRealization::EffectFlipsInto()
             transform.scale(float(widening), 1);
             transform.shear(0, float((1 - widening) * 0.5));
         }
-        AddShapedGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)));
+        AddGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)), transform);
     });
-    Advance(moveOffset, 3 * stepSize);
-    if (moveOffset >= 361)
-        HandOver(moveOffset);
+    AdvanceTo(361, moveOffset, 3 * stepSize);
 }
 
 void animationRealization::EffectRotateInto()
@@ -130,11 +122,9 @@ void animationRealization::EffectRotateInto()
     const double stretch = 5.0 - (4 * moveOffset2) / 360.0;
     DrawPage([&](int j) {
         RotateAbout(charWidths.value(j) * 0.5, -charHeights.value(j) * 0.5, -moveOffset2);
-        AddShapedGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)));
+        AddGlyph(j, float(GatherX(j, stretch)), float(ExactY(j)), transform);
     });
-    Advance(moveOffset2, stepSize);
-    if (moveOffset2 >= 361)
-        HandOver(moveOffset2);
+    AdvanceTo(361, moveOffset2, stepSize);
 }
 
 } // namespace HNodeAnimationText

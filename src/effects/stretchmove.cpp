@@ -22,11 +22,11 @@ void animationRealization::EffectZoomIn()
         const float widening = float(t / double(w));
         if (widening <= 1.0f)
             transform.scale(widening, 1);
-        AddShapedGlyph(j, x, y);
+        AddGlyph(j, x, y, transform);
     });
     Advance(moveOffset, 3 * stepSize);
-    if (Phase(PageLength()) > w && HandOver(moveOffset))
-        charIndex = 0;
+    if (Phase(PageLength()) > w)
+        HandOver(moveOffset);
 }
 
 void animationRealization::EffectRightToEnlarge()
@@ -35,11 +35,9 @@ void animationRealization::EffectRightToEnlarge()
         const float widening = float(moveOffset / double(charWidths.value(j)));
         if (!(widening > 1.0f))
             transform.scale(widening, 1);
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset > maxTextWidth)
-        HandOver(moveOffset);
+    AdvanceTo(maxTextWidth + 1, moveOffset, stepSize);
 }
 
 void animationRealization::EffectDiagonalMoves()
@@ -57,8 +55,8 @@ void animationRealization::EffectDiagonalMoves()
         AddGlyph(j, x, y);
     });
     Advance(moveOffset, stepSize);
-    if (Phase(PageLength()) > w && HandOver(moveOffset))
-        charIndex = 0;
+    if (Phase(PageLength()) > w)
+        HandOver(moveOffset);
 }
 
 void animationRealization::EffectRepeatTheWhereabouts()
@@ -72,9 +70,7 @@ void animationRealization::EffectRepeatTheWhereabouts()
         const double rise = double(d - maxTextHeight + h) / (n + 1);
         AddGlyph(j, RestX(j), float((maxTextHeight - d) + rise * ((n + 1) - r)));
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset > 100)
-        HandOver(moveOffset);
+    AdvanceTo(101, moveOffset, stepSize);
 }
 
 void animationRealization::EffectFromBothSidesInOrderToEnlarge()
@@ -91,9 +87,9 @@ void animationRealization::EffectFromBothSidesInOrderToEnlarge()
             transform.reset();
             transform.scale(scale, scale);
             if (left <= right)
-                AddShapedGlyph(left, RestX(left), RestY(left));
+                AddGlyph(left, RestX(left), RestY(left), transform);
             if (i >= 1 && left < right)
-                AddShapedGlyph(right, RestX(right), RestY(right));
+                AddGlyph(right, RestX(right), RestY(right), transform);
         }
         EndFrame();
     }

@@ -18,14 +18,12 @@ void animationRealization::EffectTextZoom()
             // The frame is scaled again: glyphs grow with the square, their spacing does not.
             transform.reset();
             transform.scale(s, s);
-            AddShapedGlyph(j, float(RestX(j) - center), 0);
+            AddGlyph(j, float(RestX(j) - center), 0, transform);
         }
         canvas.DrawText(textPath, zoom);
         ShowFrame();
     }
-    Advance(moveOffset, stepSize);
-    if (moveOffset > 240)
-        HandOver(moveOffset);
+    AdvanceTo(241, moveOffset, stepSize);
 }
 
 void animationRealization::EffectUpwardZoomWithReflection()
@@ -34,14 +32,12 @@ void animationRealization::EffectUpwardZoomWithReflection()
         const float b = float(float(ExactY(j)) * 0.5 / maxTextHeight);
         const float sy = float(b + b * std::sin(Phase(j - PageStart()) / 20.0));
         transform.scale(1, sy);
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
         transform.reset();
         transform.scale(1, -sy);
-        AddShapedGlyph(j, RestX(j), RestY(j));
+        AddGlyph(j, RestX(j), RestY(j), transform);
     });
-    Advance(moveOffset, stepSize);
-    if (moveOffset > 200 && HandOver(moveOffset))
-        charIndex = 0;
+    AdvanceTo(201, moveOffset, stepSize);
 }
 
 } // namespace HNodeAnimationText

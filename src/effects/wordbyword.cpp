@@ -22,10 +22,8 @@ void animationRealization::WordForWordOutputEffect()
     // begins with an empty frame.
     Advance(charIndex, 1);
     ++frameCount;
-    if (charIndex > text.size()) {
-        charIndex = 0;
+    if (charIndex > text.size())
         EndRun();
-    }
 }
 
 void animationRealization::WordForWordAmplificationEffect()
@@ -48,22 +46,12 @@ void animationRealization::AmplificationNarrow(bool narrow)
         const float s = float(narrow ? std::fabs(std::cos(x)) + 1.0 : std::sin(x));
         transform.reset();
         transform.scale(s, s);
-        AddShapedGlyph(charIndex, RestX(charIndex), RestY(charIndex));
+        AddGlyph(charIndex, RestX(charIndex), RestY(charIndex), transform);
         EndFrame();
     }
     Advance(moveOffset, stepSize);
-    if (moveOffset > 45) {
-        ++charIndex;
-        moveOffset = 0;
-    }
-    if (charIndex < PageEnd())
-        return;
-    LeavePage();
-    if (IsLastPageOver()) {
-        EndRun();
-        charIndex = 0;
-        moveOffset = 0;
-    }
+    if (moveOffset > 45)
+        TakeNextCharacter();
 }
 
 } // namespace HNodeAnimationText

@@ -176,9 +176,8 @@ private:
     void DrawInTurn(const Shape& shape);
     bool HasGlyph(int j) const;
     const Glyph& GlyphOf(int j);
-    void AddGlyph(int j, double x, double y);
+    void AddGlyph(int j, double x, double y, const Transform& shape = Transform());
     void AddStanding();
-    void AddShapedGlyph(int j, double x, double y);
     void DrawGlyph(int j, double x, double y);
     int FrameWidth() const;
     int FrameHeight() const;
@@ -193,14 +192,17 @@ private:
     double GatherX(int j, double stretch) const;
     void RotateAbout(double x, double y, double degrees);
     void Advance(int& counter, int step);
+    void AdvanceTo(int end, int& counter, int step);
+    void TakeNextCharacter();
     bool IsLastPageOver() const;
     void LeavePage();
     void EndRun();
-    bool HandOver(int& counter);
+    void HandOver(int& counter);
 
     // effects/flyin.cpp
     int RightAlignedX(int j) const;
     void DrawFlight(int inFlight, double x, double y);
+    void FlyTo(double x, double y);
     void LandVertically(bool landed);
     // effects/frogs.cpp
     void DrawFrog(int frame);
@@ -215,7 +217,7 @@ private:
     void DrawTails(int first);
     void DrawTail(int first, int end);
     int ColumnLength() const;
-    void AdvanceColumn();
+    void DrawColumn(bool rises);
 
     struct Frog
     {

@@ -68,10 +68,11 @@ const Glyph& animationRealization::GlyphOf(int j)
     return *glyph;
 }
 
-void animationRealization::AddGlyph(int j, double x, double y)
+/** The glyph mapped by @p shape, around the left end of its baseline. */
+void animationRealization::AddGlyph(int j, double x, double y, const Transform& shape)
 {
-    if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y))
-        textPath.Add(GlyphOf(j), j, Transform(), float(x), float(y));
+    if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y) && shape.IsFinite())
+        textPath.Add(GlyphOf(j), j, shape, float(x), float(y));
 }
 
 /** The characters of the page that have come to rest: those before charIndex. */
@@ -79,13 +80,6 @@ void animationRealization::AddStanding()
 {
     for (int j = PageStart(); j < charIndex; ++j)
         AddGlyph(j, RestX(j), RestY(j));
-}
-
-/** The glyph mapped by transform, around the left end of its baseline. */
-void animationRealization::AddShapedGlyph(int j, double x, double y)
-{
-    if (HasGlyph(j) && qIsFinite(x) && qIsFinite(y) && transform.IsFinite())
-        textPath.Add(GlyphOf(j), j, transform, float(x), float(y));
 }
 
 /** Paints the glyph alone, with its own fill rule. */
@@ -119,6 +113,23 @@ void animationRealization::Advance(int& counter, int step)
     ++frameCount;
 }
 
+/** Ends a frame; once the counter is at @p end the page has entered. */
+void animationRealization::AdvanceTo(int end, int& counter, int step)
+{
+    Advance(counter, step);
+    if (counter >= end)
+        HandOver(counter);
+}
+
+/** The character has arrived; with its last one the page has entered. */
+void animationRealization::TakeNextCharacter()
+{
+    moveOffset = 0;
+    ++charIndex;
+    if (charIndex >= PageEnd())
+        HandOver(moveOffset);
+}
+
 bool animationRealization::IsLastPageOver() const
 {
     return pageIndex >= pageOffsets.size();
@@ -131,23 +142,22 @@ void animationRealization::LeavePage()
     SwapPage();
 }
 
-/** All pages have been shown: back to the first. */
+/** All pages have been shown: back to the first character of the first. */
 void animationRealization::EndRun()
 {
     pageIndex = 1;
+    charIndex = 0;
     ++playCount;
     runEnded = true;
 }
 
-/** The page has entered; true if it was the last one, which ends the run. */
-bool animationRealization::HandOver(int& counter)
+/** The page has entered; the last one ends the run. */
+void animationRealization::HandOver(int& counter)
 {
     counter = 0;
     LeavePage();
-    if (!IsLastPageOver())
-        return false;
-    EndRun();
-    return true;
+    if (IsLastPageOver())
+        EndRun();
 }
 
 } // namespace HNodeAnimationText

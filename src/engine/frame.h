@@ -15,11 +15,9 @@ namespace HNodeAnimationText {
  *
  *     DrawPage([&](int j) {                 // for every character of the page
  *         transform.scale(...);             // shape the glyph around its origin
- *         AddShapedGlyph(j, RestX(j), RestY(j));
+ *         AddGlyph(j, RestX(j), RestY(j), transform);
  *     });
- *     Advance(moveOffset, stepSize);
- *     if (moveOffset >= 361)
- *         HandOver(moveOffset);
+ *     AdvanceTo(361, moveOffset, stepSize);
  *
  * Glyphs overlap by the odd-even rule, because they share one path. For a picture without pixels
  * nothing is painted, but the counters advance.

@@ -106,60 +106,47 @@ int animationRealization::ColumnLength() const
 
 void animationRealization::ContinueEffectUp()
 {
-    const int p = charIndex; // pixels that the column has risen
-    scrollOffset = 0;
-    if (BeginFrame()) {
-        const int h = FrameHeight();
-        const int n = charPaths.size();
-        const double x = FrameWidth() * 0.5 - maxTextWidth * 0.5;
-        const int length = ColumnLength();
-        int k = 0;
-        int d = p; // how far character k's top has come up from the bottom edge
-        int room = n + h + mostRepainted;
-        for (int visited = 0; d >= 0 && d < columnEnd && visited < length && room > 0; ++visited) {
-            if (d <= h || d - charHeights.value(k) <= h) {
-                AddGlyph(k, x, h + scrollOffset - p + charHeights.value(k) - charDescents.value(k));
-                --room;
-            }
-            k = k + 1 < n ? k + 1 : 0;
-            // By the height of the character to come, not of the one just placed: unequal
-            // neighbors overlap or gap by the difference.
-            scrollOffset += charHeights.value(k);
-            d = p - scrollOffset;
-        }
-        EndFrame();
-    }
-    AdvanceColumn();
+    DrawColumn(true);
 }
 
 void animationRealization::ContinueEffectDown()
 {
-    const int p = charIndex; // pixels that the column has come down
+    DrawColumn(false);
+}
+
+/** A frame of the column, which has moved by charIndex pixels, and its step. */
+void animationRealization::DrawColumn(bool rises)
+{
     scrollOffset = 0;
     if (BeginFrame()) {
         const int h = FrameHeight();
         const int n = charPaths.size();
         const double x = FrameWidth() * 0.5 - maxTextWidth * 0.5;
         const int length = ColumnLength();
-        int k = n - 1;
-        int y = p; // the baseline; unlike the rising column's it counts neither height nor descent
+        // A rising column comes with its first character, a falling one with its last.
+        int k = rises ? 0 : n - 1;
+        int d = charIndex; // how far character k has come from its edge
         int room = n + h + mostRepainted;
-        for (int visited = 0; y >= 1 && y < columnEnd && visited < length && room > 0; ++visited) {
-            if (y <= h || y - charHeights.value(k) < h) {
-                AddGlyph(k, x, y);
+        for (int visited = 0; d >= (rises ? 0 : 1) && d < columnEnd && visited < length && room > 0;
+             ++visited) {
+            const int height = charHeights.value(k);
+            if (d <= h || d - height < (rises ? h + 1 : h)) {
+                // A falling baseline counts neither height nor descent.
+                AddGlyph(k, x, rises ? h - d + height - charDescents.value(k) : d);
                 --room;
             }
-            k = k > 0 ? k - 1 : n - 1;
-            scrollOffset -= charHeights.value(k);
-            y = p + scrollOffset;
+            k += rises ? 1 : -1;
+            if (k == n)
+                k = 0;
+            else if (k < 0)
+                k = n - 1;
+            // By the height of the character to come, not of the one just placed: unequal
+            // neighbors overlap or gap by the difference.
+            d -= charHeights.value(k);
         }
+        scrollOffset = rises ? charIndex - d : d - charIndex;
         EndFrame();
     }
-    AdvanceColumn();
-}
-
-void animationRealization::AdvanceColumn()
-{
     Advance(charIndex, stepSize);
     progressF = progressF + float(stepSize);
     // Back to where the repeated text is exactly where the first copy was.

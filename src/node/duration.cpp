@@ -196,15 +196,8 @@ int HAnimationTextNode::EffectDuration(int effect)
     if (effect == Entrance::FlyFromLeft || effect == Entrance::FlyFromRight) {
         animation = HorizontalFlyTime(TextWidths(), length, pageOffsets.value(0), AnimationSpeed());
     } else {
-        Play play;
-        play.speed = AnimationSpeed();
-        play.textLength = length;
-        play.areaWidth = Size().width();
-        play.areaHeight = Size().height();
-        play.maxWidth = MaxTextWidth();
-        play.maxHeight = MaxTextHeight();
-        play.breaks = pageBreaks;
-        play.descents = descentData;
+        const Play play = {AnimationSpeed(), length,          Size().width(), Size().height(),
+                           MaxTextWidth(),   MaxTextHeight(), pageBreaks,     descentData};
         animation = WrappingProduct(Wrapped(AnimationTicks(play, effect)), tickInterval);
     }
     const int hold = WrappingProduct(pages, WrappingProduct(GetHoldTime(), 100));

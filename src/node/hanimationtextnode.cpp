@@ -15,12 +15,6 @@ namespace HNodeAnimationText {
 
 namespace {
 
-QString OutputDirectory()
-{
-    return QCoreApplication::applicationDirPath() +
-           QString::fromLatin1("/outputpath/AnimationText/");
-}
-
 /** Opens the data file under @p key for reading; false when it cannot be read. */
 bool OpenDataFile(HData& node, const char* key, QFile& file)
 {
@@ -40,9 +34,8 @@ HAnimationTextNode::HAnimationTextNode()
     : textDocument(new QTextDocument)
 {
     // The host writes this node type's output there and expects to find it.
-    QDir directory(OutputDirectory());
-    if (!directory.exists())
-        directory.mkpath(OutputDirectory());
+    QDir().mkpath(QCoreApplication::applicationDirPath() +
+                  QString::fromLatin1("/outputpath/AnimationText/"));
 }
 
 HAnimationTextNode::~HAnimationTextNode()

@@ -110,7 +110,7 @@ size_t DazzleMap::StoredRow(int y) const
 
 const uint8_t* DazzleMap::Row(int y) const
 {
-    return &map[StoredRow(y) * static_cast<size_t>(width)];
+    return shape == Plain ? 0 : &map[StoredRow(y) * static_cast<size_t>(width)];
 }
 
 bool DazzleMap::AreSame(int y1, int y2) const
@@ -128,7 +128,7 @@ int DazzleMap::Runs(int y, Run* runs) const
     };
     const int middle = width / 2;
     switch (shape) {
-    case Plain: break;
+    case Plain: add(width, 0); break;
     case Linear:
         for (int i = 0; i < linearBorders; ++i)
             add(reaches[static_cast<size_t>(i)], i);

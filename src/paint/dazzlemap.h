@@ -43,16 +43,13 @@ public:
     /** Frees the map. */
     void Forget();
 
-    /** One byte a pixel. Not for Plain, which has no map. */
+    /** One byte a pixel. Null for Plain, where all are 0. */
     const uint8_t* Row(int y) const;
     /** Sets @p runs to those of the row, from left to right. @return their number */
     int Runs(int y, Run* runs) const;
     /** Whether the two rows have the same bytes because the shape is symmetric. */
     bool AreSame(int y1, int y2) const;
 
-    Shape Kind() const { return shape; }
-    int Width() const { return width; }
-    int Height() const { return height; }
     size_t Bytes() const { return map.capacity() + reaches.capacity() * sizeof(int); }
 
 private:

@@ -99,13 +99,6 @@ void DazzlePainter::MakeScrimmed(int density, bool isDark)
 /** The part of row @p y that is painted. */
 void DazzlePainter::FillRow(int y, const Box& within, Picture::Format format)
 {
-    if (shape == DazzleMap::Plain) {
-        if (format == Picture::Argb32)
-            FillRun<4>(0, scrimmed, within.left, within.right);
-        else
-            FillRun<3>(0, scrimmed, within.left, within.right);
-        return;
-    }
     DazzleMap::Run runs[DazzleMap::mostRuns];
     const int count = map.Runs(y, runs);
     int begin = within.left;

@@ -26,6 +26,14 @@ Element At(float x, float y)
 // A rectangle as the device keeps it, by its width and height: the far sides are sums.
 struct Rectangle
 {
+    explicit Rectangle(const Bounds& bounds)
+        : x(bounds.left)
+        , y(bounds.top)
+        , width(bounds.right - bounds.left)
+        , height(bounds.bottom - bounds.top)
+    {
+    }
+
     float x;
     float y;
     float width;
@@ -34,12 +42,6 @@ struct Rectangle
     float Right() const { return x + width; }
     float Bottom() const { return y + height; }
 };
-
-Rectangle Between(float left, float top, float right, float bottom)
-{
-    const Rectangle r = {left, top, right - left, bottom - top};
-    return r;
-}
 
 bool Intersect(const Rectangle& a, const Rectangle& b)
 {
@@ -252,52 +254,6 @@ Outline Rebuilt(const Outline& path)
     return rebuilt;
 }
 
-// The bounds of a path with those of its curves, not of their control points.
-class TrueBounds
-{
-public:
-    explicit TrueBounds(const Outline& path);
-    Rectangle Box() const { return Between(left, top, right, bottom); }
-
-private:
-    void AddCurve(const CurvePart& curve);
-    void Grow(float x0, float y0, float x1, float y1);
-
-    float left;
-    float top;
-    float right;
-    float bottom;
-};
-
-TrueBounds::TrueBounds(const Outline& path)
-    : left(0)
-    , top(0)
-    , right(0)
-    , bottom(0)
-{
-    if (path.Size() == 0)
-        return;
-    left = right = path.At(0).x;
-    top = bottom = path.At(0).y;
-    for (size_t i = 1; i < path.Size(); ++i) {
-        const Element& e = path.At(i);
-        if (e.type == Outline::Curve) {
-            AddCurve(CurveAt(path, i));
-            i += 2;
-        } else {
-            Grow(e.x, e.y, e.x, e.y);
-        }
-    }
-}
-
-void TrueBounds::Grow(float x0, float y0, float x1, float y1)
-{
-    left = std::min(left, x0);
-    right = std::max(right, x1);
-    top = std::min(top, y0);
-    bottom = std::max(bottom, y1);
-}
-
 // Times at which a curve may turn; not the ones that StationaryPoints() finds, for these are
 // computed another way and rounded differently.
 int TurningTimes(const Polynomial& p, bool evenDouble, float* at)
@@ -321,28 +277,44 @@ int TurningTimes(const Polynomial& p, bool evenDouble, float* at)
     return 2;
 }
 
-void TrueBounds::AddCurve(const CurvePart& curve)
+void Grow(Bounds& bounds, const Element& p)
 {
-    const Element& a = curve.p[0];
-    const Element& d = curve.p[3];
-    float x0 = std::min(a.x, d.x);
-    float x1 = std::max(a.x, d.x);
-    float y0 = std::min(a.y, d.y);
-    float y1 = std::max(a.y, d.y);
+    bounds.left = std::min(bounds.left, p.x);
+    bounds.right = std::max(bounds.right, p.x);
+    bounds.top = std::min(bounds.top, p.y);
+    bounds.bottom = std::max(bounds.bottom, p.y);
+}
+
+Rectangle Around(const CurvePart& curve)
+{
+    Bounds bounds(&curve.p[0], 1);
+    Grow(bounds, curve.p[3]);
     float times[4];
     int count = TurningTimes(curve.X(), true, times);
     count += TurningTimes(curve.Y(), false, times + count);
-    for (int i = 0; i < count; ++i) {
-        if (!(times[i] >= 0 && times[i] <= 1))
+    for (int i = 0; i < count; ++i)
+        if (times[i] >= 0 && times[i] <= 1)
+            Grow(bounds, curve.PointAt(times[i]));
+    return Rectangle(bounds);
+}
+
+// The bounds of a path with those of its curves, not of their control points.
+Rectangle TrueBounds(const Outline& path)
+{
+    if (path.Size() == 0)
+        return Rectangle(Bounds());
+    Bounds bounds(&path.At(0), 1);
+    for (size_t i = 1; i < path.Size(); ++i) {
+        if (path.At(i).type != Outline::Curve) {
+            Grow(bounds, path.At(i));
             continue;
-        const Element p = curve.PointAt(times[i]);
-        x0 = std::min(x0, p.x);
-        x1 = std::max(x1, p.x);
-        y0 = std::min(y0, p.y);
-        y1 = std::max(y1, p.y);
+        }
+        const Rectangle box = Around(CurveAt(path, i));
+        Grow(bounds, At(box.x, box.y));
+        Grow(bounds, At(box.Right(), box.Bottom()));
+        i += 2;
     }
-    const Rectangle box = Between(x0, y0, x1, y1);
-    Grow(box.x, box.y, box.Right(), box.Bottom());
+    return Rectangle(bounds);
 }
 
 // One side of the rectangle that is cut along.
@@ -430,7 +402,7 @@ Outline Side::Cut(const Outline& subpath) const
 
 void CutSubpath(Outline subpath, const Rectangle& to, Outline& result)
 {
-    Rectangle bounds = TrueBounds(subpath).Box();
+    Rectangle bounds = TrueBounds(subpath);
     if (!Intersect(bounds, to))
         return;
     const Side left = {true, true, to.x};
@@ -441,7 +413,7 @@ void CutSubpath(Outline subpath, const Rectangle& to, Outline& result)
         subpath = left.Cut(subpath);
     if (bounds.Right() > right.border)
         subpath = right.Cut(subpath);
-    bounds = TrueBounds(subpath).Box();
+    bounds = TrueBounds(subpath);
     if (bounds.y < top.border)
         subpath = top.Cut(subpath);
     if (bounds.Bottom() > bottom.border)
@@ -494,17 +466,18 @@ Outline PathAround(const Rectangle& r)
 
 bool Bounds::AreFar() const
 {
-    const Rectangle r = Between(left, top, right, bottom);
+    const Rectangle r(*this);
     return r.x < -farLimit || r.Right() > farLimit || r.width > farLimit || r.y < -farLimit ||
            r.Bottom() > farLimit || r.height > farLimit;
 }
 
 Outline CutToPicture(const Outline& closed, const Box& picture, bool isPart)
 {
-    const Rectangle to = Between(float(picture.left), float(picture.top), float(picture.right),
-                                 float(picture.bottom));
+    const Element corners[] = {At(float(picture.left), float(picture.top)),
+                               At(float(picture.right), float(picture.bottom))};
+    const Rectangle to(Bounds(corners, 2));
     const Outline path = Rebuilt(closed);
-    const Rectangle bounds = TrueBounds(path).Box();
+    const Rectangle bounds = TrueBounds(path);
     if (!Intersect(to, bounds))
         return Outline();
     if (Contains(to, bounds))

@@ -1,5 +1,7 @@
 #include "paint/picturewriter.h"
 
+#include "paint/blend.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -13,12 +15,9 @@ void PictureWriter::SetColor(Picture::Format format, uint32_t argb)
     hasTable = true;
     tableFormat = format;
     tableColor = argb;
-    unsigned char pixel[4] = {static_cast<unsigned char>(argb >> 16 & 255),
-                              static_cast<unsigned char>(argb >> 8 & 255),
-                              static_cast<unsigned char>(argb & 255), 0};
+    unsigned char pixel[4] = {};
+    StorePixel(format, pixel, argb);
     const size_t bytes = format == Picture::Argb32 ? 4 : 3;
-    if (format == Picture::Argb32)
-        std::memcpy(pixel, &argb, sizeof argb);
     std::memset(table, 0, sizeof table);
     unsigned char* to = reinterpret_cast<unsigned char*>(table);
     for (unsigned row = 0; row < 256; ++row)
