@@ -64,11 +64,11 @@ void TestGlyphData::malformedOutlinesAreEmptyAndTold()
     QCOMPARE(messages.Taken(), QStringList());
 
     const DataFile look = AnimText::validate::LookIntoPathFile(text.File("paths"));
-    QCOMPARE(look.entries, sample.read.size());
+    QCOMPARE(look.isEmpty.size(), sample.read.size());
     const bool oneIsBad = !sample.read.isEmpty() && !sample.fault.isEmpty();
     QCOMPARE(look.badOutlines.size(), oneIsBad ? 1 : 0);
     QCOMPARE(oneIsBad ? look.badOutlines[0].fault : look.fault, sample.fault);
-    for (int i = 0; i < look.entries; ++i) {
+    for (int i = 0; i < look.isEmpty.size(); ++i) {
         const bool isBad = oneIsBad && i == look.badOutlines[0].index;
         QCOMPARE(isBad, oneIsBad && i == 1);
         QCOMPARE(look.isEmpty[i], !isBad && sample.read[i] < 2);
@@ -84,7 +84,7 @@ void TestGlyphData::wrongCountsLeaveNoDescents()
     QCOMPARE(text.node->GetPainterPaths().size(), 3);
     const DataFile look = AnimText::validate::LookIntoDescentFile(text.File("descents"));
     QCOMPARE(look.fault, sample.fault);
-    QCOMPARE(look.entries, sample.read.size());
+    QCOMPARE(look.descents, sample.read);
 }
 
 void TestGlyphData::brokenFilesLeaveNothing()
