@@ -8,6 +8,8 @@
 #include <QVariant>
 #include <QVector>
 
+#include <limits>
+
 namespace AnimText::cli {
 
 class CommandLine;
@@ -92,7 +94,7 @@ struct Option
     }
     static Option Range(const char* name, const char* help)
     {
-        return {Kind::Range, name, "A-B", help};
+        return {Kind::Range, name, "A-B", help, 0, std::numeric_limits<int>::max()};
     }
     static Option Choice(const char* name, const char* value, const QStringList& choices,
                          const char* help)

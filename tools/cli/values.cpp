@@ -55,43 +55,20 @@ QVariant ToTime(const Option& option, const QString& text)
     return units;
 }
 
-/** Two whole numbers, read by @p pattern; false, with unspecified numbers, if @p text differs. */
-bool ReadPair(const QString& text, const char* pattern, QPair<int, int>* pair)
+/** The two whole numbers that @p pattern captures, or one for both. */
+QPair<int, int> ToPair(const Option& option, const QString& text, const char* pattern,
+                       const QString& expected)
 {
     const QRegularExpression expression(
         QRegularExpression::anchoredPattern(QString::fromUtf8(pattern)));
     const auto match = expression.match(text);
-    bool first = false;
-    bool second = false;
-    *pair = {match.captured(1).toInt(&first), match.captured(2).toInt(&second)};
-    return first && second;
-}
-
-QVariant ToPair(const Option& option, const QString& text)
-{
-    QPair<int, int> pair;
-    const bool isWithin =
-        ReadPair(text, option.kind == Kind::Size ? "(\\d+)[x×](\\d+)" : "(-?\\d+),(-?\\d+)",
-                 &pair) &&
-        IsWithin(option, pair.first) && IsWithin(option, pair.second);
-    if (option.kind == Kind::Size && isWithin)
-        return QSize(pair.first, pair.second);
-    if (isWithin)
-        return QPoint(pair.first, pair.second);
-    Refuse(option, text,
-           (option.kind == Kind::Size ? "a size such as 512x64, each side "
-                                      : "two whole numbers such as 16,0, each ") +
-               Limits(option));
-}
-
-QVariant ToRange(const Option& option, const QString& text)
-{
-    QPair<int, int> ends;
-    const bool isOne = !text.contains(QLatin1Char('-'));
-    if (!ReadPair(isOne ? text + QLatin1Char('-') + text : text, "(\\d+)-(\\d+)", &ends) ||
-        ends.first > ends.second)
-        Refuse(option, text, "a number such as 5, or a range such as 0-99");
-    return QVariant::fromValue(ends);
+    bool hasFirst = false;
+    bool hasSecond = false;
+    const int first = match.captured(1).toInt(&hasFirst);
+    const int second = match.captured(match.lastCapturedIndex()).toInt(&hasSecond);
+    if (!hasFirst || !hasSecond || !IsWithin(option, first) || !IsWithin(option, second))
+        Refuse(option, text, expected);
+    return {first, second};
 }
 
 } // namespace
@@ -119,9 +96,23 @@ QVariant ReadValue(const Option& option, const QString& text)
     }
     case Kind::Time:
     case Kind::Hold: return ToTime(option, text);
-    case Kind::Size:
-    case Kind::Point: return ToPair(option, text);
-    case Kind::Range: return ToRange(option, text);
+    case Kind::Size: {
+        const auto [width, height] = ToPair(option, text, "(\\d+)[x×](\\d+)",
+                                            "a size such as 512x64, each side " + Limits(option));
+        return QSize(width, height);
+    }
+    case Kind::Point: {
+        const auto [x, y] = ToPair(option, text, "(-?\\d+),(-?\\d+)",
+                                   "two whole numbers such as 16,0, each " + Limits(option));
+        return QPoint(x, y);
+    }
+    case Kind::Range: {
+        const QString expected = "a number such as 5, or a range such as 0-99";
+        const auto ends = ToPair(option, text, "(\\d+)(?:-(\\d+))?", expected);
+        if (ends.first > ends.second)
+            Refuse(option, text, expected);
+        return QVariant::fromValue(ends);
+    }
     case Kind::Color: {
         QColor color;
         if (!scene::ReadColor(text, &color, &hint))
