@@ -13,59 +13,54 @@ namespace {
 constexpr int mostListed = 5;   // characters, or words, that are listed
 constexpr int longestWord = 40; // characters of a word that are shown
 
-QStringList UnseenWords(const layout::LaidOut& text)
+void WarnOfUnseen(const layout::LaidOut& text)
 {
-    QStringList words;
     for (const layout::UnseenCharacter& character : text.unseen.mid(0, mostListed)) {
         const QString code = QString::number(character.codePoint, 16).toUpper();
         const bool isMark = QChar::category(character.codePoint) <= QChar::Mark_Enclosing;
-        words.append(QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
-                         .arg(text.styled.text.left(character.index).toUcs4().size() + 1)
-                         .arg(QString::fromUcs4(&character.codePoint, 1),
-                              code.rightJustified(4, QLatin1Char('0')),
-                              isMark ? "is left out" : "leaves a gap",
-                              character.missing ? "no installed font has it"
-                                                : "its font has a picture, no outline"));
+        cli::Warn(QStringLiteral("character %1, \"%2\" (U+%3), %4: %5")
+                      .arg(text.styled.text.left(character.index).toUcs4().size() + 1)
+                      .arg(QString::fromUcs4(&character.codePoint, 1),
+                           code.rightJustified(4, QLatin1Char('0')),
+                           isMark ? "is left out" : "leaves a gap",
+                           character.missing ? "no installed font has it"
+                                             : "its font has a picture, no outline"));
     }
     if (text.unseen.size() > mostListed)
-        words.append(
+        cli::Warn(
             QStringLiteral("%1 more characters leave gaps").arg(text.unseen.size() - mostListed));
-    return words;
 }
 
-/** What the author should know of words that are split and letters that are cut off. */
-QStringList LossesInWords(const layout::LaidOut& text)
+/** Of words that are split and letters that are cut off. */
+void WarnOfLosses(const layout::LaidOut& text)
 {
-    QStringList lines;
     QStringList words;
     for (const QString& word : text.tornWords.mid(0, mostListed))
         words.append(word.size() > longestWord ? word.left(longestWord) + "..." : word);
     if (!words.isEmpty())
-        lines.append(QStringLiteral("%1 wider than a page and split: %2%3")
-                         .arg(text.tornWords.size() == 1
-                                  ? "a word is"
-                                  : QStringLiteral("%1 words are").arg(text.tornWords.size()),
-                              words.join(", "),
-                              text.tornWords.size() > mostListed ? " ..." : QString()));
+        cli::Warn(QStringLiteral("%1 wider than a page and split: %2%3")
+                      .arg(text.tornWords.size() == 1
+                               ? "a word is"
+                               : QStringLiteral("%1 words are").arg(text.tornWords.size()),
+                           words.join(", "),
+                           text.tornWords.size() > mostListed ? " ..." : QString()));
     if (text.cutAbove > 0 || text.cutBelow > 0)
-        lines.append(QStringLiteral("letters are cut off: %1 pixels above the area, %2 pixels "
-                                    "below; --fit height avoids this")
-                         .arg(text.cutAbove)
-                         .arg(text.cutBelow));
-    return lines;
+        cli::Warn(QStringLiteral("letters are cut off: %1 pixels above the area, %2 pixels "
+                                 "below; --fit height avoids this")
+                      .arg(text.cutAbove)
+                      .arg(text.cutBelow));
 }
 
-/** What validate finds, except what the lines above say better. */
-QStringList FindingsInWords(const QList<validate::Finding>& findings)
+/** Of what validate finds, except what is said better above and what is intended. */
+void WarnOfFindings(const QList<validate::Finding>& findings)
 {
-    QStringList lines;
+    static const QList<validate::Mistake> unsaid{validate::Mistake::AreasOverlap,
+                                                 validate::Mistake::OutlineEmpty,
+                                                 validate::Mistake::TextHigh};
     for (const validate::Finding& finding : findings) {
-        const bool isIntended = finding.mistake == validate::Mistake::AreasOverlap;
-        if (finding.mistake != validate::Mistake::OutlineEmpty &&
-            finding.mistake != validate::Mistake::TextHigh && !isIntended)
-            lines.append(finding.Line());
+        if (!unsaid.contains(finding.mistake))
+            cli::Warn(finding.Line());
     }
-    return lines;
 }
 
 QByteArray Summary(const QString& path, const author::AuthoredNode& text)
@@ -95,12 +90,11 @@ int WriteScene(const cli::CommandLine& line)
     for (const QString& note : authored.notes)
         cli::Warn(note);
     shared::EndSaving(storing, authored.stored, error);
-    const QByteArray summary = Summary(request.path, authored.text);
-    for (const QString& words : UnseenWords(authored.text) + LossesInWords(authored.text) +
-                                    FindingsInWords(authored.stored.findings))
-        cli::Warn(words);
+    WarnOfUnseen(authored.text);
+    WarnOfLosses(authored.text);
+    WarnOfFindings(authored.stored.findings);
     shared::WarnOfCut(authored.stored.scene, authored.stored.scene.At(authored.place));
-    cli::Print(summary);
+    cli::Print(Summary(request.path, authored.text));
     return files::Done;
 }
 

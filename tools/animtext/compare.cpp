@@ -79,8 +79,7 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
                      qint64 tolerance)
 {
     const scene::Scene scene = shared::OpenPlayableScene(line, scenePath);
-    const shared::Playing playing(line);
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
     compare::Recording recorded = compare::ReadRecording(log);
     files::FailUnless(recorded.hasCalls,
                       log + " has pictures but no calls; record it with animtext trace --calls",
@@ -88,7 +87,7 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
     cli::WatchForInterruption(); // not before: opening a pipe may wait without end
     QMap<int, QImage> differing;
     const compare::Recording played =
-        compare::PlayOnDesk(player.get(), playing.Seed(), &recorded, &differing);
+        compare::PlayOnDesk(player.get(), shared::SeedOf(line), &recorded, &differing);
     const compare::Difference difference = compare::FirstDifference(recorded, played, tolerance);
     const int status = Report(difference, recorded, played);
     const int number = difference.isPicture
@@ -107,10 +106,10 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
     return status;
 }
 
-compare::Ticks Play(const shared::Playing& playing, const scene::Scene& scene, int last)
+compare::Ticks Play(const cli::CommandLine& line, const scene::Scene& scene, int last)
 {
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
-    player->Start(playing.Seed());
+    const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
+    player->Start(shared::SeedOf(line));
     compare::Ticks ticks;
     for (;; player->Advance()) {
         cli::StopIfInterrupted();
@@ -156,7 +155,6 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
                       files::BadInput);
 
     cli::WatchForInterruption();
-    const shared::Playing playing(line);
     cli::Progress progress;
     compare::Tally tally;
     int played = 0, ticks = 0;
@@ -164,7 +162,7 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
         const scene::Scene opened =
             shared::OpenReadableScene(line, scenes.filePath(scene.key() + ".json"));
         const compare::Ticks shown =
-            Play(playing, opened, records ? line.Get<int>("ticks") : scene->last().tick);
+            Play(line, opened, records ? line.Get<int>("ticks") : scene->last().tick);
         if (records)
             *scene = shown;
         else

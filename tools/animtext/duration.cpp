@@ -25,10 +25,10 @@ struct Times
 };
 
 /** Those of each text of @p scene, which is played if @p watch is not empty. */
-QVector<Times> Measure(const shared::Playing& playing, const scene::Scene& scene,
+QVector<Times> Measure(const cli::CommandLine& line, const scene::Scene& scene,
                        const std::function<void(int tick)>& watch)
 {
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
     QVector<Times> times;
     for (qint64 planned : player->Durations())
         times.append({planned, std::nullopt});
@@ -41,7 +41,7 @@ QVector<Times> Measure(const shared::Playing& playing, const scene::Scene& scene
         return true;
     };
     QString error;
-    const auto plays = timing::Simulate(player.get(), scene, playing.Seed(), goOn, &error);
+    const auto plays = timing::Simulate(player.get(), scene, shared::SeedOf(line), goOn, &error);
     files::FailUnless(error.isEmpty(), error, files::BadInput);
     for (int node = 0; node < plays.size(); ++node)
         times[node].actual = plays.at(node);
@@ -99,14 +99,13 @@ QString InWords(qint64 planned, const timing::NodePlay& actual)
              scene::Counted(actual.holdTicks, "tick"), Difference(planned, actual.FinishedMs()));
 }
 
-void PrintTimes(const cli::CommandLine& line, const shared::Playing& playing,
-                const scene::Scene& scene)
+void PrintTimes(const cli::CommandLine& line, const scene::Scene& scene)
 {
     cli::Progress progress;
     std::function<void(int)> watch;
     if (line.IsSet("simulate"))
         watch = [&](int tick) { progress.Show("simulating tick", tick); };
-    const QVector<Times> all = Measure(playing, scene, watch);
+    const QVector<Times> all = Measure(line, scene, watch);
     progress.Wipe();
     for (int node = 0; node < all.size(); ++node) {
         const Times& times = all.at(node);
@@ -155,8 +154,9 @@ QString Heading()
 }
 
 /** The times of the first text of @p scene with every effect. */
-void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool json)
+void PrintTable(const cli::CommandLine& line, const scene::Scene& scene)
 {
+    const bool json = line.IsSet("json");
     files::FailUnless(!scene.Nodes().isEmpty(),
                       scene.path + ": $.pages: expected at least one node", files::BadInput);
     const cli::Silence silence;
@@ -174,7 +174,7 @@ void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool 
             text += QStringLiteral("%1  %2").arg(effect.number, 3).arg(effect.name, -34);
         for (int speed : speeds) {
             only.At({}).attributes["AnimationSpeed"] = speed;
-            const Times times = Measure(playing, only, [](int) {}).first();
+            const Times times = Measure(line, only, [](int) {}).first();
             text += json ? QString(JsonLine(scene::Json::Object({{"effect", effect.number},
                                                                  {"name", effect.name},
                                                                  {"speed", speed}}),
@@ -191,11 +191,10 @@ void PrintTable(const shared::Playing& playing, const scene::Scene& scene, bool 
 int PrintDuration(const cli::CommandLine& line)
 {
     const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
-    const shared::Playing playing(line);
     if (line.IsSet("table"))
-        PrintTable(playing, scene, line.IsSet("json"));
+        PrintTable(line, scene);
     else
-        PrintTimes(line, playing, scene);
+        PrintTimes(line, scene);
     return files::Done;
 }
 

@@ -55,12 +55,11 @@ int MakeGallery(const cli::CommandLine& line)
     cli::RefuseIf(!author::ReadText(typed, &options.text, &notes, &error), error);
     for (const QString& note : notes)
         cli::Warn(note);
-    const shared::Playing playing(line);
-    options.seed = playing.Seed();
+    options.seed = shared::SeedOf(line);
 
     cli::WatchForInterruption();
     qint64 bytes = 0;
-    player::Player player(player::VirtualDispatcher::Current(), playing.Plugin());
+    player::Player player(player::VirtualDispatcher::Current(), shared::PluginOf(line));
     cli::Progress progress;
     const auto watch = [&](int done, int all) {
         progress.Show("playing", done, all);

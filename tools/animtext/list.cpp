@@ -45,28 +45,21 @@ QByteArray AsJson(const scene::Scene& scene)
 
 QByteArray AsText(const scene::Scene& scene)
 {
-    QByteArray text;
+    QString text;
     int number = 0;
     for (const scene::Place& place : scene.Places()) {
         const scene::SceneNode& node = scene.At(place);
         QString words = node.attributes.value("Text").toString().simplified();
         if (words.size() > longestText)
             words = words.left(longestText - 3) + "...";
-        text += QStringLiteral("%1  page %2 area %3  %4 x %5 at %6,%7  %8, speed %9")
-                    .arg(++number, 3)
-                    .arg(place.page + 1)
-                    .arg(place.area + 1)
-                    .arg(node.size.width())
-                    .arg(node.size.height())
-                    .arg(node.pos.x())
-                    .arg(node.pos.y())
-                    .arg(MotionName(node))
-                    .arg(SpeedOf(node))
-                    .toUtf8() +
-                ", hold " + QByteArray::number(node.hold / 10.0) + " s  \"" + words.toUtf8() +
-                "\"\n";
+        text += QString::asprintf("%3d  page %d area %d  %d x %d at %d,%d  %s, speed %d, "
+                                  "hold %g s  \"%s\"\n",
+                                  ++number, place.page + 1, place.area + 1, node.size.width(),
+                                  node.size.height(), node.pos.x(), node.pos.y(),
+                                  qUtf8Printable(MotionName(node)), SpeedOf(node), node.hold / 10.0,
+                                  qUtf8Printable(words));
     }
-    return text;
+    return text.toUtf8();
 }
 
 int List(const cli::CommandLine& line)

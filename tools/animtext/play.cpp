@@ -62,16 +62,15 @@ int PlayLive(const cli::CommandLine& line)
 
     const QString path = line.Arguments().first();
     const scene::Scene scene = shared::OpenPlayableScene(line, path);
-    const shared::Playing playing(line);
     live::LiveSettings settings;
     settings.loop = line.IsSet("loop");
     settings.schedule = line.IsSet("schedule");
-    settings.seed = playing.Seed();
+    settings.seed = shared::SeedOf(line);
 
     lights::Lights lights;
     shared::AddLights(line, scene.display, &lights);
 
-    live::LivePlayer player(playing.Plugin());
+    live::LivePlayer player(shared::PluginOf(line));
     QObject::connect(&player, &live::LivePlayer::Shown, &lights, &lights::Lights::Show);
     live::LiveWindow window(&player);
     if (line.IsSet("zoom"))

@@ -56,7 +56,7 @@ void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
                   "a PNG is one picture; choose it with --at or --frames");
 }
 
-film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKind& kind, uint seed)
+film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKind& kind)
 {
     film::FilmSettings settings;
     settings.evenSize = kind.Has(film::FilmKind::EvenSides) && !line.IsSet("lossless");
@@ -65,7 +65,7 @@ film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKin
         settings.pitch = line.Get<double>("leds");
         settings.scale = std::max(settings.scale, film::smallestLamp);
     }
-    settings.seed = seed;
+    settings.seed = shared::SeedOf(line);
     settings.schedule = line.IsSet("schedule");
     if (line.IsSet("seconds"))
         settings.seconds = line.Get<double>("seconds") / 1000;
@@ -118,15 +118,14 @@ void RenderOne(const cli::CommandLine& line, const QString& output)
     const film::FilmKind& kind = KindOf(output);
     CheckKind(line, kind);
     const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
-    const shared::Playing playing(line);
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
     cli::Progress progress(FormOf(line));
     const film::FilmWatch watch = [&](film::FilmStage stage, qint64 done, qint64 total) {
         static const char* const names[] = {"finding the end", "collecting colors", "rendering"};
         progress.Show(names[int(stage)], done, total);
         cli::StopIfInterrupted();
     };
-    film::Film film(player.get(), scene, SettingsFor(line, kind, playing.Seed()), watch);
+    film::Film film(player.get(), scene, SettingsFor(line, kind), watch);
     const film::WrittenFilm written = film::WriteFilm(&film, RangeFor(line, film.FrameCount()),
                                                       output, line.IsSet("lossless"), watch);
     progress.Wipe();

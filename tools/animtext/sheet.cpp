@@ -26,11 +26,11 @@ QVector<int> Spread(int frames, int count, bool toTheEnd)
     return picked;
 }
 
-film::SheetRow RowOf(const shared::Playing& playing, const scene::Scene& scene, int columns)
+film::SheetRow RowOf(const cli::CommandLine& line, const scene::Scene& scene)
 {
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
     film::FilmSettings settings;
-    settings.seed = playing.Seed();
+    settings.seed = shared::SeedOf(line);
     settings.restAtEnd = false;
     film::Film film(player.get(), scene, settings,
                     [](film::FilmStage, qint64, qint64) { cli::StopIfInterrupted(); });
@@ -46,6 +46,7 @@ film::SheetRow RowOf(const shared::Playing& playing, const scene::Scene& scene, 
         row.remark = QStringLiteral("%1: %2").arg(QLatin1String(motion->name),
                                                   QLatin1String(motion->summary));
     }
+    const int columns = line.Get<int>("columns");
     film.Play(Spread(film.FrameCount(), columns, !scrolls), [&](int frame, const QImage& picture) {
         cli::StopIfInterrupted();
         row.frames.append({picture, qint64(frame) * player::tickLength});
@@ -61,13 +62,11 @@ int DrawSheet(const cli::CommandLine& line)
     QVector<scene::Scene> scenes;
     for (const QString& path : line.Arguments())
         scenes.append(shared::OpenPlayableScene(line, path));
-    const shared::Playing playing(line);
-
     cli::WatchForInterruption();
     QVector<film::SheetRow> rows;
     cli::Progress progress;
     for (const scene::Scene& scene : scenes) {
-        rows.append(RowOf(playing, scene, line.Get<int>("columns")));
+        rows.append(RowOf(line, scene));
         progress.Show("playing scene", rows.size(), scenes.size());
     }
     progress.Wipe();

@@ -29,13 +29,12 @@ int TraceScene(const cli::CommandLine& line)
 {
     const int ticks = line.Get<int>("ticks");
     const scene::Scene scene = shared::OpenReadableScene(line, line.Arguments().first());
-    const shared::Playing playing(line);
-    const std::unique_ptr<player::Player> player = playing.Load(scene);
+    const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
 
     if (line.IsSet("calls"))
         player->Scenery().WatchCalls(
             [](const Torv::CallRecord& call) { cli::Print(player::CallLine(call) + '\n'); });
-    player->Start(playing.Seed());
+    player->Start(shared::SeedOf(line));
     for (;; player->Advance()) {
         for (int node = 0; node < player->NodeCount(); ++node)
             cli::Print(TickLine(player.get(), node));

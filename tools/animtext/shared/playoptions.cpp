@@ -29,14 +29,15 @@ QVector<cli::Option> WithShowOptions(QVector<cli::Option> own)
 
 namespace {
 
-/**
- * Reads a scene, and prints those of its errors that @p isTold. Throws Failure if it cannot be read
- * or has errors of the @p kinds that leave nothing to show, unless --force is set.
- */
-scene::Scene Open(const cli::CommandLine& line, const QString& path,
-                  const QList<validate::Mistake>& kinds,
-                  bool (*isTold)(const validate::Finding& finding))
+/** Prints the scene's errors, or only those because of which its outlines cannot be read. */
+scene::Scene Open(const cli::CommandLine& line, const QString& path, bool needsOutlinesOnly)
 {
+    // With these the display stays dark or does not show the scene.
+    static const QList<validate::Mistake> nothingToShow{
+        validate::Mistake::NodeType,      validate::Mistake::AreaEmpty,
+        validate::Mistake::CanvasLarge,   validate::Mistake::ModeUnknown,
+        validate::Mistake::EffectUnknown, validate::Mistake::DirectionUnknown,
+        validate::Mistake::FileMissing,   validate::Mistake::DataMalformed};
     const bool mayMiss = line.IsSet("allow-missing-files");
     scene::Scene scene;
     QString error;
@@ -46,16 +47,18 @@ scene::Scene Open(const cli::CommandLine& line, const QString& path,
                       error, files::BadInput);
     bool isPlayed = true;
     for (const validate::Finding& finding : validate::ValidateScene(scene)) {
-        if (finding.GetRule().severity != validate::Severity::Error || !isTold(finding))
+        const bool lacksOutlines = finding.place.endsWith(".files.PathData") &&
+                                   (finding.mistake == validate::Mistake::FileMissing ||
+                                    finding.mistake == validate::Mistake::DataMalformed);
+        if (finding.GetRule().severity != validate::Severity::Error ||
+            (needsOutlinesOnly && !lacksOutlines))
             continue;
         cli::Warn(QStringLiteral("%1: %2").arg(path, finding.Line()));
-        isPlayed = isPlayed && !kinds.contains(finding.mistake);
+        isPlayed = isPlayed && !nothingToShow.contains(finding.mistake);
     }
-    files::FailUnless(
-        isPlayed || line.IsSet("force") || mayMiss,
-        QStringLiteral("%1: not played because of these errors; use --force to play it anyway")
-            .arg(path),
-        files::BadInput);
+    files::FailUnless(isPlayed || line.IsSet("force") || mayMiss,
+                      path + ": not played because of these errors; use --force to play it anyway",
+                      files::BadInput);
     return scene;
 }
 
@@ -63,36 +66,26 @@ scene::Scene Open(const cli::CommandLine& line, const QString& path,
 
 scene::Scene OpenReadableScene(const cli::CommandLine& line, const QString& path)
 {
-    static const QList<validate::Mistake> unreadable{validate::Mistake::FileMissing,
-                                                     validate::Mistake::DataMalformed};
-    return Open(line, path, unreadable, [](const validate::Finding& finding) {
-        return unreadable.contains(finding.mistake) &&
-               finding.place.endsWith(QLatin1String(".files.PathData"));
-    });
+    return Open(line, path, true);
 }
 
 scene::Scene OpenPlayableScene(const cli::CommandLine& line, const QString& path)
 {
-    // With these the display stays dark or does not show the scene.
-    static const QList<validate::Mistake> nothingToShow{
-        validate::Mistake::NodeType,      validate::Mistake::AreaEmpty,
-        validate::Mistake::CanvasLarge,   validate::Mistake::ModeUnknown,
-        validate::Mistake::EffectUnknown, validate::Mistake::DirectionUnknown,
-        validate::Mistake::FileMissing,   validate::Mistake::DataMalformed};
-    return Open(line, path, nothingToShow, [](const validate::Finding&) { return true; });
+    return Open(line, path, false);
 }
 
-Playing::Playing(const cli::CommandLine& line)
-    : seed(uint(line.Get<int>("seed")))
+Lw::INodePlugin* PluginOf(const cli::CommandLine& line)
 {
     QString error;
-    plugin = player::LoadPlugin(player::PluginPath(line.Value("plugin")), &error);
+    Lw::INodePlugin* plugin = player::LoadPlugin(player::PluginPath(line.Value("plugin")), &error);
     files::FailUnless(plugin, error);
+    return plugin;
 }
 
-std::unique_ptr<player::Player> Playing::Load(const scene::Scene& scene) const
+std::unique_ptr<player::Player> PlayerOf(const cli::CommandLine& line, const scene::Scene& scene)
 {
-    auto player = std::make_unique<player::Player>(player::VirtualDispatcher::Current(), plugin);
+    auto player =
+        std::make_unique<player::Player>(player::VirtualDispatcher::Current(), PluginOf(line));
     QString error;
     files::FailUnless(player->Load(scene, &error), error, files::BadInput);
     return player;

@@ -27,21 +27,16 @@ scene::Scene OpenReadableScene(const cli::CommandLine& line, const QString& path
 /** The same for all errors that leave nothing to show. Prints other errors, too. */
 scene::Scene OpenPlayableScene(const cli::CommandLine& line, const QString& path);
 
-/** The plugin and the seed that a command plays with. */
-class Playing
+/** The plugin that the options name; throws Failure if it cannot be loaded. */
+Lw::INodePlugin* PluginOf(const cli::CommandLine& line);
+
+/** A player with that plugin and @p scene loaded; throws Failure if it cannot be played. */
+std::unique_ptr<player::Player> PlayerOf(const cli::CommandLine& line, const scene::Scene& scene);
+
+/** The seed for the plays. */
+inline uint SeedOf(const cli::CommandLine& line)
 {
-public:
-    /** Loads the plugin that the options name; throws Failure if it cannot be loaded. */
-    explicit Playing(const cli::CommandLine& line);
-
-    /** A player with @p scene loaded; throws Failure if it cannot be played. */
-    std::unique_ptr<player::Player> Load(const scene::Scene& scene) const;
-    Lw::INodePlugin* Plugin() const { return plugin; }
-    uint Seed() const { return seed; }
-
-private:
-    Lw::INodePlugin* plugin;
-    uint seed;
-};
+    return uint(line.Get<int>("seed"));
+}
 
 } // namespace AnimText::animtext::shared
