@@ -159,7 +159,7 @@ void PrintTable(const cli::CommandLine& line, const scene::Scene& scene)
     const bool json = line.IsSet("json");
     files::FailUnless(!scene.Nodes().isEmpty(),
                       scene.path + ": $.pages: expected at least one node", files::BadInput);
-    const cli::Silence silence;
+    cli::SuppressMessages();
     scene::Scene only = scene;
     only.pages = {scene::ScenePage{{scene::SceneArea{{*scene.Nodes().first()}}}}};
     QString text;

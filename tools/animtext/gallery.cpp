@@ -3,6 +3,7 @@
 #include "animtext/commands.h"
 #include "animtext/shared/authoroptions.h"
 #include "animtext/shared/playoptions.h"
+#include "cli/help.h"
 #include "cli/interruption.h"
 #include "cli/progress.h"
 
@@ -21,12 +22,6 @@ bool IsTextOption(const cli::Option& option)
     return textOptions.contains(option.name);
 }
 
-/** @p word quoted for a shell. */
-QString Quoted(QString word)
-{
-    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), "'\\''") + QLatin1Char('\'');
-}
-
 /** The options of `animtext author` for the same text, as typed. */
 QString WordsOf(const cli::Command& command, const cli::CommandLine& line)
 {
@@ -36,7 +31,7 @@ QString WordsOf(const cli::Command& command, const cli::CommandLine& line)
             continue;
         words.append("--" + QLatin1String(option.name));
         if (option.kind != cli::Kind::Flag)
-            words.append(Quoted(line.Value(option.name)));
+            words.append(cli::Quoted(line.Value(option.name)));
     }
     return words.join(QLatin1Char(' '));
 }

@@ -4,11 +4,6 @@ namespace AnimText::cli {
 
 namespace {
 
-QByteArray Joined(const QStringList& words)
-{
-    return words.join(QLatin1Char(' ')).toUtf8();
-}
-
 QStringList OptionWords(const Option& option)
 {
     QStringList names{"--" + QLatin1String(option.name)};
@@ -17,40 +12,38 @@ QStringList OptionWords(const Option& option)
     return names;
 }
 
-/** In single quotes for bash and zsh. */
-QByteArray Quoted(QByteArray text)
-{
-    return '\'' + text.replace("'", "'\\''") + '\'';
-}
-
 } // namespace
+
+QString Quoted(QString word)
+{
+    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), "'\\''") + QLatin1Char('\'');
+}
 
 QByteArray CompletionForBash(const QVector<Command>& commands)
 {
-    QStringList commandNames;
-    QByteArray values;
-    QByteArray words;
+    QStringList names;
+    QString values;
+    QString words;
     for (const Command& command : commands) {
-        const QByteArray name = command.name;
-        commandNames.append(name);
+        const QString name = command.name;
+        names.append(name);
         QStringList options;
         for (const Option& option : command.options) {
             const QStringList own = OptionWords(option);
             options += own;
-            if (option.kind == Kind::Flag)
-                continue;
-            const QByteArray offer = option.kind == Kind::File
-                                         ? "compgen -f"
-                                         : "compgen -W " + Quoted(Joined(option.choices));
-            values += "        " + name + ':' + own.join("|" + name + ':').toUtf8() +
-                      ") mapfile -t COMPREPLY < <(" + offer + " -- \"$current\"); return ;;\n";
+            const QString offer =
+                option.kind == Kind::File ? "-f" : "-W " + Quoted(option.choices.join(' '));
+            if (option.kind != Kind::Flag)
+                values += QStringLiteral("        %1:%2) mapfile -t COMPREPLY < <(compgen %3 -- "
+                                         "\"$current\"); return ;;\n")
+                              .arg(name, own.join("|" + name + ':'), offer);
         }
-        words += "        " + name + ":-*) words=" + Quoted(Joined(options)) + " ;;\n";
+        const QString line = "        " + name + ":%1*) words=%2 ;;\n";
+        words += line.arg("-", Quoted(options.join(' ')));
         if (!command.arguments.words.isEmpty())
-            words += "        " + name + ":*) words=" + Quoted(Joined(command.arguments.words)) +
-                     " ;;\n";
+            words += line.arg("", Quoted(command.arguments.words.join(' ')));
     }
-    return QByteArray(R"(# bash completion for animtext: source <(animtext completion bash)
+    return QString(R"(# bash completion for animtext: source <(animtext completion bash)
 _animtext() {
     local current=${COMP_WORDS[COMP_CWORD]} words=
     if ((COMP_CWORD == 1)); then
@@ -66,42 +59,46 @@ _animtext() {
 }
 complete -o filenames -F _animtext animtext
 )")
-        .replace("@commands@", Joined(commandNames))
+        .replace("@commands@", names.join(' '))
         .replace("@values@", values)
-        .replace("@words@", words);
+        .replace("@words@", words)
+        .toUtf8();
 }
 
 QByteArray CompletionForZsh(const QVector<Command>& commands)
 {
     // Colons and brackets end a description.
-    const auto plain = [](QByteArray text) {
+    const auto plain = [](QString text) {
         return text.replace("[", "\\[").replace("]", "\\]").replace(":", "\\:");
     };
-    const auto offer = [](const QStringList& words) { return '(' + Joined(words) + ')'; };
-    QByteArray summaries;
-    QByteArray cases;
+    const auto offer = [](const QStringList& words, const QString& otherwise) {
+        return words.isEmpty() ? otherwise : '(' + words.join(' ') + ')';
+    };
+    const QString start = " \\\n            ";
+    QString summaries;
+    QString cases;
     for (const Command& command : commands) {
         summaries += "        " + Quoted(plain(command.name) + ':' + command.summary) + '\n';
-        cases += "        " + QByteArray(command.name) + ") _arguments";
+        cases += QStringLiteral("        %1) _arguments").arg(command.name);
         for (const Option& option : command.options) {
             const bool isFlag = option.kind == Kind::Flag;
-            QByteArray action = option.choices.isEmpty() ? " " : offer(option.choices);
-            if (option.kind == Kind::File)
-                action = "_files";
-            QByteArray text = '[' + plain(option.help) + ']';
+            QString text = '[' + plain(option.help) + ']';
             if (!isFlag)
-                text += (option.alone ? "::" : ":") + plain(option.value) + ':' + action;
-            for (const QString& name : OptionWords(option)) {
-                const char* const join = isFlag ? "" : name.startsWith("--") ? "=" : "+";
-                cases += " \\\n            " + Quoted(name.toUtf8() + join + text);
-            }
+                text += (option.alone ? "::" : ":") + plain(option.value) + ':' +
+                        offer(option.choices, option.kind == Kind::File ? "_files" : " ");
+            for (const QString& name : OptionWords(option))
+                cases += start + Quoted(name +
+                                        (isFlag                  ? ""
+                                         : name.startsWith("--") ? "="
+                                                                 : "+") +
+                                        text);
         }
-        const QByteArray rest =
-            command.arguments.words.isEmpty() ? "_files" : offer(command.arguments.words);
-        cases += " \\\n            " + Quoted("*:" + plain(command.arguments.shown) + ':' + rest) +
+        cases += start +
+                 Quoted("*:" + plain(command.arguments.shown) + ':' +
+                        offer(command.arguments.words, "_files")) +
                  " ;;\n";
     }
-    return QByteArray(R"(#compdef animtext
+    return QString(R"(#compdef animtext
 # zsh completion for animtext: animtext completion zsh >_animtext, in your $fpath
 _animtext() {
     local -a commands=(
@@ -119,36 +116,37 @@ _animtext() {
 compdef _animtext animtext
 )")
         .replace("@summaries@", summaries)
-        .replace("@cases@", cases);
+        .replace("@cases@", cases)
+        .toUtf8();
 }
 
 QByteArray CompletionForFish(const QVector<Command>& commands)
 {
     // In fish, only \' and \\ are special inside quotes.
-    const auto quoted = [](QByteArray text) {
+    const auto quoted = [](QString text) {
         return '\'' + text.replace("\\", "\\\\").replace("'", "\\'") + '\'';
     };
-    QByteArray text = "# fish completion for animtext: animtext completion fish | source\n";
+    QString text = "# fish completion for animtext: animtext completion fish | source\n";
     for (const Command& command : commands) {
-        const QByteArray name = command.name;
-        text += "complete -c animtext -f -n __fish_use_subcommand -a " + name + " -d " +
-                quoted(command.summary) + '\n';
-        const QByteArray here =
-            "complete -c animtext -n '__fish_seen_subcommand_from " + name + "' ";
+        text += QStringLiteral("complete -c animtext -f -n __fish_use_subcommand -a %1 -d %2\n")
+                    .arg(command.name, quoted(command.summary));
+        const QString here =
+            QStringLiteral("complete -c animtext -n '__fish_seen_subcommand_from %1' ")
+                .arg(command.name);
         for (const Option& option : command.options) {
             text += here + "-l " + option.name;
             if (option.letter)
-                text += QByteArray(" -s ") + option.letter;
+                text += " -s " + QString(QLatin1Char(option.letter));
             if (option.kind != Kind::Flag)
                 text += option.kind == Kind::File ? " -r -F" : " -x";
             if (!option.choices.isEmpty())
-                text += " -a " + quoted(Joined(option.choices));
+                text += " -a " + quoted(option.choices.join(' '));
             text += " -d " + quoted(option.help) + '\n';
         }
         if (!command.arguments.words.isEmpty())
-            text += here + "-f -a " + quoted(Joined(command.arguments.words)) + '\n';
+            text += here + "-f -a " + quoted(command.arguments.words.join(' ')) + '\n';
     }
-    return text;
+    return text.toUtf8();
 }
 
 } // namespace AnimText::cli

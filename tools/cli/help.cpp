@@ -11,20 +11,16 @@ constexpr int lineLength = 80;
 /** @p text in lines; each but the first begins with @p indent spaces. */
 QString Wrapped(const QString& text, int indent)
 {
-    QString wrapped;
-    int column = indent;
+    QStringList lines{QString()};
     for (const QString& word : text.split(QLatin1Char(' '))) {
-        if (column > indent && column + 1 + word.size() > lineLength) {
-            wrapped += QLatin1Char('\n') + QString(indent, QLatin1Char(' '));
-            column = indent;
-        } else if (column > indent) {
-            wrapped += QLatin1Char(' ');
-            ++column;
-        }
-        wrapped += word;
-        column += word.size();
+        if (lines.last().isEmpty())
+            lines.last() = word;
+        else if (indent + lines.last().size() + 1 + word.size() > lineLength)
+            lines.append(word);
+        else
+            lines.last() += QLatin1Char(' ') + word;
     }
-    return wrapped;
+    return lines.join(QLatin1Char('\n') + QString(indent, QLatin1Char(' ')));
 }
 
 QString Names(const Option& option)
@@ -54,8 +50,7 @@ QByteArray HelpText(const Command& command)
     QString usage = "Usage: animtext " + QLatin1String(command.name);
     for (const Option& option : command.options) {
         if (option.isRequired)
-            usage +=
-                QStringLiteral(" %1 %2").arg(ShortestName(option), QLatin1String(option.value));
+            usage += QStringLiteral(" %1 %2").arg(ShortestName(option), option.value);
     }
     usage += " [options] " + QLatin1String(command.arguments.shown);
     int width = 0;

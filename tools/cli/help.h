@@ -16,6 +16,9 @@ QByteArray Overview(const QVector<Command>& commands);
 /** What a command does, its options and examples. */
 QByteArray HelpText(const Command& command);
 
+/** @p word in single quotes, as shells read it. */
+QString Quoted(QString word);
+
 /** The completion scripts. */
 QByteArray CompletionForBash(const QVector<Command>& commands);
 QByteArray CompletionForZsh(const QVector<Command>& commands);

@@ -41,18 +41,12 @@ void InstallMessages()
 QString NoDisplay()
 {
     return "no display: run animtext in a desktop session or with xvfb-run, or set QT_QPA_PLATFORM "
-           "to "
-           "vnc for VNC viewers or to linuxfb for a board's own screen (/dev/fb0)";
+           "to vnc for VNC viewers or to linuxfb for a board's own screen (/dev/fb0)";
 }
 
-Silence::Silence()
+void SuppressMessages()
 {
     silent = true;
-}
-
-Silence::~Silence()
-{
-    silent = false;
 }
 
 } // namespace AnimText::cli

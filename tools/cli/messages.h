@@ -16,16 +16,7 @@ void InstallMessages();
 /** The error where there is no display to open a window on. */
 QString NoDisplay();
 
-/** Suppresses messages during its lifetime. */
-class Silence
-{
-public:
-    Silence();
-    ~Silence();
-
-private:
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-};
+/** From now on prints no message. */
+void SuppressMessages();
 
 } // namespace AnimText::cli

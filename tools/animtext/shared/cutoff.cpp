@@ -69,7 +69,7 @@ void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node)
     Lw::INodePlugin* plugin = player::LoadPlugin(player::PluginPath(), &error);
     if (!plugin)
         return;
-    const cli::Silence silence;
+    cli::SuppressMessages();
     player::Player player(player::VirtualDispatcher::Current(), plugin);
     scene::Scene alone = scene;
     alone.pages = {scene::ScenePage{{scene::SceneArea{{node}}}}};
