@@ -62,6 +62,7 @@ int PlayLive(const cli::CommandLine& line)
 
     const QString path = line.Arguments().first();
     const scene::Scene scene = shared::OpenPlayableScene(line, path);
+    Lw::INodePlugin* plugin = shared::PluginOf(line);
     live::LiveSettings settings;
     settings.loop = line.IsSet("loop");
     settings.schedule = line.IsSet("schedule");
@@ -70,7 +71,7 @@ int PlayLive(const cli::CommandLine& line)
     lights::Lights lights;
     shared::AddLights(line, scene.display, &lights);
 
-    live::LivePlayer player(shared::PluginOf(line));
+    live::LivePlayer player(plugin);
     QObject::connect(&player, &live::LivePlayer::Shown, &lights, &lights::Lights::Show);
     live::LiveWindow window(&player);
     if (line.IsSet("zoom"))
