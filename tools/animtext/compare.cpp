@@ -5,7 +5,6 @@
 #include "compare/deskplay.h"
 #include "compare/difference.h"
 #include "compare/expectation.h"
-#include "compare/pictures.h"
 #include "files/wholefile.h"
 #include "film/png.h"
 

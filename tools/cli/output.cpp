@@ -1,8 +1,8 @@
 #include "cli/output.h"
 
-#include <cerrno>
+#include "files/wholefile.h"
+
 #include <cstdio>
-#include <cstring>
 
 namespace AnimText::cli {
 
@@ -10,8 +10,8 @@ namespace {
 
 [[noreturn]] void FailToPrint()
 {
-    throw files::Failure{files::FailedRun, QStringLiteral("cannot write to standard output: %1")
-                                               .arg(QString::fromLocal8Bit(std::strerror(errno)))};
+    throw files::Failure{files::FailedRun,
+                         "cannot write to standard output: " + files::SystemError()};
 }
 
 } // namespace

@@ -138,4 +138,27 @@ Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolera
     return first;
 }
 
+QImage DifferenceOf(const QImage& a, const QImage& b)
+{
+    const QSize size = a.size().expandedTo(b.size());
+    // Where one is smaller, only the other shows.
+    const QImage first = a.copy(QRect(QPoint(0, 0), size)).convertToFormat(QImage::Format_ARGB32);
+    const QImage second = b.copy(QRect(QPoint(0, 0), size)).convertToFormat(QImage::Format_ARGB32);
+    QImage difference(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const QRgb pixelA = first.pixel(x, y);
+            const QRgb pixelB = second.pixel(x, y);
+            const int light = qGray(pixelA) * qAlpha(pixelA) / 255;
+            const int other = qGray(pixelB) * qAlpha(pixelB) / 255;
+            const int dim = light / 3;
+            QRgb shown = qRgb(dim, dim, dim);
+            if (pixelA != pixelB)
+                shown = light >= other ? qRgb(255, dim, dim) : qRgb(dim, 255, dim);
+            difference.setPixel(x, y, shown);
+        }
+    }
+    return difference;
+}
+
 } // namespace AnimText::compare

@@ -1,6 +1,6 @@
 /**
  * @file
- * The first difference between two recordings.
+ * The first difference between two recordings, and how two pictures differ.
  */
 #pragma once
 
@@ -25,5 +25,8 @@ bool AreKnownAndDiffer(const QString& sha1, const QString& other);
  * @param tolerance milliseconds by which times may differ; negative: times do not matter
  */
 Difference FirstDifference(const Recording& a, const Recording& b, qint64 tolerance);
+
+/** Both pictures dimmed, with what only @p a has in red, and what only @p b has in green. */
+QImage DifferenceOf(const QImage& a, const QImage& b);
 
 } // namespace AnimText::compare

@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace AnimText::compare {
 
@@ -149,6 +150,24 @@ Recording ReadRecording(const QString& path)
     files::FailUnless(!recording.All().isEmpty(), path + ": the recording is empty",
                       files::BadInput);
     return recording;
+}
+
+QImage ReadPam(const QString& path)
+{
+    QFile file(path);
+    files::OpenToRead(&file);
+    const QByteArray bytes = file.readAll();
+    int width = 0, height = 0, depth = 0, pixels = 0;
+    std::sscanf(bytes.constData(),
+                "P7 WIDTH %5d HEIGHT %5d DEPTH %1d MAXVAL 255 TUPLTYPE %*s ENDHDR%n", &width,
+                &height, &depth, &pixels);
+    ++pixels; // behind the end of the line
+    files::FailUnless(width > 0 && height > 0 && (depth == 3 || depth == 4) &&
+                          qint64(width) * height * depth == bytes.size() - pixels,
+                      path + ": expected a PAM picture of 24 or 32 bits", files::BadInput);
+    return QImage(reinterpret_cast<const uchar*>(bytes.constData()) + pixels, width, height,
+                  width * depth, depth == 4 ? QImage::Format_RGBA8888 : QImage::Format_RGB888)
+        .convertToFormat(QImage::Format_ARGB32);
 }
 
 } // namespace AnimText::compare

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QImage>
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
@@ -62,5 +63,8 @@ void DropStops(Recording* recording, Stops which);
 
 /** Reads the file @p path; throws Failure. */
 Recording ReadRecording(const QString& path);
+
+/** Reads a picture that librecord kept; throws Failure. */
+QImage ReadPam(const QString& path);
 
 } // namespace AnimText::compare

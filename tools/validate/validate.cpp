@@ -212,27 +212,24 @@ private:
             const bool isData =
                 key == QLatin1String("PathData") || key == QLatin1String("DescentVector");
             const QString name = node.files.value(key);
-            if (!name.isEmpty()) {
-                const QString path = scene.FullName(name);
-                if (!QFileInfo::exists(path))
-                    Add(Mistake::FileMissing, at, QStringLiteral("no file %1").arg(path), "a file");
-                else if (isData)
-                    CheckData(key);
-            } else if (node.files.contains(key) || (isData && !text.isEmpty())) {
+            const QString path = scene.FullName(name);
+            const bool isExpected = node.files.contains(key) || (isData && !text.isEmpty());
+            const bool isShown = (key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
+                                 (key == QLatin1String("NeonGifPath") &&
+                                  scene::IsUsed(*scene::FindAttribute(key), node));
+            if (name.isEmpty() && isExpected)
                 Add(Mistake::FileMissing, at, "nothing", "the name of a data file");
-            } else if ((key == QLatin1String("FillImage") && Has("CheckPictureFills")) ||
-                       (key == QLatin1String("NeonGifPath") &&
-                        scene::IsUsed(*scene::FindAttribute(key), node))) {
+            else if (name.isEmpty() && isShown)
                 Add(Mistake::PictureMissing, at, "nothing", "the name of a picture file");
-            }
+            else if (!name.isEmpty() && !QFileInfo::exists(path))
+                Add(Mistake::FileMissing, at, "no file " + path, "a file");
+            else if (!name.isEmpty() && isData)
+                CheckData(at, path, key == QLatin1String("PathData"));
         }
     }
 
-    void CheckData(const QString& key)
+    void CheckData(const QString& at, const QString& path, bool holdsPaths)
     {
-        const bool holdsPaths = key == QLatin1String("PathData");
-        const QString at = "files." + key;
-        const QString path = scene.FullName(node.files.value(key));
         const DataFile data = holdsPaths ? LookIntoPathFile(path) : LookIntoDescentFile(path);
         if (!data.fault.isEmpty()) {
             Add(Mistake::DataMalformed, at, QStringLiteral("%1: %2").arg(path, data.fault),
