@@ -50,19 +50,16 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
-        if (depth++ > 0 || receiver->thread() != thread()) {
-            const bool answer = QApplication::notify(receiver, event);
-            --depth;
-            return answer;
-        }
+        const bool isOuter = depth++ == 0 && receiver->thread() == thread();
         const int type = event->type();
         const char* name = receiver->metaObject()->className();
         const double before = ProcessorTime();
         const bool answer = QApplication::notify(receiver, event);
         const double took = ProcessorTime() - before;
         --depth;
-        took_.push_back(took);
-        if (took > longest) {
+        if (isOuter)
+            took_.push_back(took);
+        if (isOuter && took > longest) {
             longest = took;
             what = QStringLiteral("%1, event %2").arg(QLatin1String(name)).arg(type);
         }

@@ -1,13 +1,13 @@
 /**
  * @file
- * The first text of a scene file as a node, read without the tools: the same source then measures
- * an older plugin that has other tools.
+ * The first text of a scene file as a node, read without the scene room: the same source
+ * then measures an older plugin.
  */
 #pragma once
 
+#include "layout/glyphfiles.h"
 #include "node/hanimationtextnode.h"
 
-#include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -59,15 +59,8 @@ inline QString FullOutlines(Lw::HNodeAnimationText::HAnimationTextNode& node, co
     slightly.scale(1.00123, 0.99877);
     for (QPainterPath& path : paths)
         path = slightly.map(path);
-    const auto serialized = [](const auto& value) {
-        QByteArray bytes;
-        QDataStream stream(&bytes, QIODevice::WriteOnly);
-        stream.setVersion(QDataStream::Qt_4_8);
-        stream << value;
-        return bytes;
-    };
     QFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || out.write(serialized(serialized(paths).toBase64())) < 0)
+    if (!out.open(QIODevice::WriteOnly) || out.write(AnimText::layout::PathFile(paths)) < 0)
         qFatal("cannot write %s", qPrintable(file));
     return file;
 }

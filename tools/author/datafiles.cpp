@@ -87,17 +87,11 @@ bool IsJson(const QByteArray& content)
 }
 
 /** Searches files for the names of data files. */
-class Search
+struct Search
 {
-public:
-    explicit Search(const QStringList& candidates)
-    {
-        for (const QString& name : candidates)
-            sought.insert(name, EndOf(name));
-    }
-
-    /** The names that were not found. */
-    QStringList Unnamed() const { return sought.keys(); }
+    QMap<QString, QByteArray> sought{}; // names that were not found yet, and their ends
+    int files = 0;
+    qint64 bytes = 0;
 
     /** @return the first file that cannot be searched, with the reason, or empty */
     QString LookInto(const QDir& folder)
@@ -116,7 +110,6 @@ public:
         return doubt;
     }
 
-private:
     QString LookAt(const QFileInfo& info)
     {
         if (info.isSymLink())
@@ -152,10 +145,6 @@ private:
             it = isNamed ? sought.erase(it) : it + 1;
         }
     }
-
-    QMap<QString, QByteArray> sought; // names and their ends
-    int files = 0;
-    qint64 bytes = 0;
 };
 
 /** Whether DataFileName() named the file for its present content and it may be removed. */
@@ -186,12 +175,13 @@ QStringList DataFilesIn(const QDir& folder)
 
 Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates)
 {
-    QStringList ours;
-    std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(ours),
-                 [&](const QString& name) { return IsOurs(folder, name); });
-    if (ours.isEmpty())
+    Search search;
+    for (const QString& name : candidates) {
+        if (IsOurs(folder, name))
+            search.sought.insert(name, EndOf(name));
+    }
+    if (search.sought.isEmpty())
         return {};
-    Search search(ours);
     QString doubt = search.LookInto(folder);
     for (const QString& below :
          folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot)) {
@@ -202,7 +192,7 @@ Unneeded FindUnneeded(const QDir& folder, const QStringList& candidates)
         return {{}, doubt};
     // Unreadable files in the parent folder, which may be /tmp, are no reason to keep anything.
     search.LookInto(QDir(folder.filePath("..")));
-    return {search.Unnamed(), {}};
+    return {search.sought.keys(), {}};
 }
 
 } // namespace AnimText::author

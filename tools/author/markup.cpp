@@ -12,16 +12,13 @@ namespace AnimText::author {
 namespace {
 
 /** Reads the tags. Raises errors in the XML reader, which knows the line and the column. */
-class MarkupReader
+struct MarkupReader
 {
-public:
-    MarkupReader(const QString& markup, const layout::StyleRun& base, layout::StyledText* text)
-        : markup(markup)
-        , xml(opening + markup + "</text>")
-        , text(text)
-    {
-        styles.append(base);
-    }
+    const QString& markup;
+    layout::StyledText* const text;
+    QVector<layout::StyleRun> styles; // the innermost last
+    const QString opening = "<text>";
+    QXmlStreamReader xml{opening + markup + "</text>"};
 
     bool Read(QString* error)
     {
@@ -50,7 +47,6 @@ public:
         return false;
     }
 
-private:
     void Open()
     {
         layout::StyleRun style = styles.last();
@@ -115,12 +111,6 @@ private:
         text->sized = text->sized || unit != "%";
         return QString();
     }
-
-    const QString opening = "<text>";
-    const QString markup;
-    QXmlStreamReader xml;
-    QVector<layout::StyleRun> styles; // the innermost last
-    layout::StyledText* const text;
 };
 
 } // namespace
@@ -134,7 +124,7 @@ bool ParseMarkup(const QString& markup, const layout::StyleRun& base, layout::St
         return true;
     }
     *text = layout::StyledText();
-    return MarkupReader(markup, base, text).Read(error);
+    return MarkupReader{markup, text, {base}}.Read(error);
 }
 
 bool ReadText(const WrittenText& written, TextSource* source, QStringList* notes, QString* error)

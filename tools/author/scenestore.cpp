@@ -52,17 +52,16 @@ QString NewMistake(const QList<validate::Finding>& before, const QList<validate:
 }
 
 /** One change of one scene, under the lock of its folder. */
-class Store
+struct Store
 {
-public:
-    Store(const QString& path, const files::FolderLock& lock)
-        : path(path)
-        , folder(QFileInfo(path).dir())
-        , lock(lock)
-    {
-    }
+    const QString path;
+    const files::FolderLock& lock;
+    Stored* const stored;
+    QString* const error;
+    const QDir folder = QFileInfo(path).dir();
+    QStringList made{}; // files that did not exist before
 
-    Storing Change(const SceneChange& change, Stored* stored, QString* error)
+    Storing Change(const SceneChange& change)
     {
         scene::Scene scene;
         scene.path = path;
@@ -76,7 +75,7 @@ public:
         DataFiles dataFiles;
         if (!change(&scene, &dataFiles, error))
             return Storing::Refused;
-        const Storing storing = Write(scene, before, dataFiles, stored, error);
+        const Storing storing = Write(scene, before, dataFiles);
         if (storing == Storing::Saved) {
             lock.Sync();
             for (const QString& name : NamedFiles(scene))
@@ -92,9 +91,8 @@ public:
         return storing;
     }
 
-private:
     Storing Write(const scene::Scene& scene, const QList<validate::Finding>& before,
-                  const DataFiles& dataFiles, Stored* stored, QString* error)
+                  const DataFiles& dataFiles)
     {
         for (auto file = dataFiles.begin(); file != dataFiles.end(); ++file) {
             const QString place = folder.filePath(file.key());
@@ -119,11 +117,6 @@ private:
         }
         return files::WriteWhole(path, json, error) ? Storing::Saved : Storing::Failed;
     }
-
-    const QString path;
-    const QDir folder;
-    const files::FolderLock& lock;
-    QStringList made; // files that did not exist before
 };
 
 } // namespace
@@ -150,7 +143,7 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
     if (!lock.Take(error))
         return Storing::Failed;
     Stored unused;
-    return Store(file, lock).Change(change, stored ? stored : &unused, error);
+    return Store{file, lock, stored ? stored : &unused, error}.Change(change);
 }
 
 bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* error)

@@ -6,6 +6,16 @@ namespace AnimText::scene {
 
 namespace {
 
+/** A list with each of @p items as @p write makes it. */
+template <typename Items, typename Write>
+Json Lines(const Items& items, const Write& write)
+{
+    Json list = Json::List({}, Json::Lines);
+    for (const auto& item : items)
+        list.Add(write(item));
+    return list;
+}
+
 Json Row(const QHash<QString, QString>& row, const QStringList& fields)
 {
     Json json = Json::Object({}, Json::Spaced);
@@ -25,10 +35,7 @@ Json Node(const SceneNode& node)
     Json lists = Json::Object({}, Json::Lines);
     for (auto it = node.lists.begin(); it != node.lists.end(); ++it) {
         const QStringList fields = RowFields(it.key());
-        Json rows = Json::List({}, Json::Lines);
-        for (const QHash<QString, QString>& row : it.value())
-            rows.Add(Row(row, fields));
-        lists.Add(it.key(), rows);
+        lists.Add(it.key(), Lines(it.value(), [&](const auto& row) { return Row(row, fields); }));
     }
     Json files = Json::Object({}, Json::Lines);
     for (auto it = node.files.begin(); it != node.files.end(); ++it)
@@ -49,22 +56,19 @@ Json Node(const SceneNode& node)
 
 QByteArray SceneToJson(const Scene& scene)
 {
-    Json pages = Json::List({}, Json::Lines);
-    for (const ScenePage& page : scene.pages) {
-        Json areas = Json::List({}, Json::Lines);
-        for (const SceneArea& area : page.areas) {
-            Json nodes = Json::List({}, Json::Lines);
-            for (const SceneNode& node : area.nodes)
-                nodes.Add(Node(node));
-            areas.Add(Json::Object({{"nodes", nodes}}, Json::Spaced));
-        }
-        pages.Add(Json::Object({{"areas", areas}}, Json::Spaced));
-    }
+    const auto area = [](const SceneArea& from) {
+        return Json::Object({{"nodes", Lines(from.nodes, Node)}}, Json::Spaced);
+    };
+    const auto page = [&](const ScenePage& from) {
+        return Json::Object({{"areas", Lines(from.areas, area)}}, Json::Spaced);
+    };
     const Json display = Json::Object(
         {{"width", scene.display.width()}, {"height", scene.display.height()}}, Json::Spaced);
-    const Json json = Json::Object(
-        {{"scene", 1}, {"display", display}, {"alphaBlend", scene.alphaBlend}, {"pages", pages}},
-        Json::Lines);
+    const Json json = Json::Object({{"scene", 1},
+                                    {"display", display},
+                                    {"alphaBlend", scene.alphaBlend},
+                                    {"pages", Lines(scene.pages, page)}},
+                                   Json::Lines);
     return json.Text() + '\n';
 }
 

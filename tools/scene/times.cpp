@@ -1,5 +1,6 @@
 #include "scene/times.h"
 
+#include <QMap>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -8,23 +9,18 @@ namespace AnimText::scene {
 
 bool ReadTime(const QString& text, double* milliseconds)
 {
-    static const struct
-    {
-        const char* name;
-        double milliseconds;
-    } units[] = {{"", 1000}, {"ms", 1}, {"s", 1000}, {"min", 60000}, {"h", 3600000}, {"t", 66}};
+    static const QMap<QString, double> units{{"", 1000},     {"ms", 1},      {"s", 1000},
+                                             {"min", 60000}, {"h", 3600000}, {"t", 66}};
     static const QRegularExpression pattern(
         QRegularExpression::anchoredPattern("(-?[0-9.]+) ?([a-z]*)"));
     const auto match = pattern.match(text);
     bool isNumber = false;
     const double number = match.captured(1).toDouble(&isNumber);
-    for (const auto& unit : units) {
-        if (!isNumber || match.captured(2) != QLatin1String(unit.name))
-            continue;
-        *milliseconds = number * unit.milliseconds;
-        return true;
-    }
-    return false;
+    const QString unit = match.captured(2);
+    if (!isNumber || !units.contains(unit))
+        return false;
+    *milliseconds = number * units[unit];
+    return true;
 }
 
 bool ToHoldUnits(double milliseconds, int* units)
