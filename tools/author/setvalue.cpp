@@ -74,19 +74,6 @@ QString ChangeMotion(const scene::Scene& scene, scene::SceneNode* node, const QS
     return QString();
 }
 
-/** @p word as it was given for @p attribute. */
-QString ChangeNumber(scene::SceneNode* node, const QString& word, const scene::Attribute& attribute,
-                     const QString& value)
-{
-    bool isNumber = false;
-    const int number = value.toInt(&isNumber);
-    if (!isNumber || !scene::IsInRange(attribute, number))
-        return QStringLiteral("%1 is \"%3\"; expected a whole number, %2")
-            .arg(word, scene::RangeInWords(attribute), value);
-    scene::SetNumber(node, attribute, number);
-    return QString();
-}
-
 QString SetColor(scene::SceneNode* node, const QString& value)
 {
     QColor color;
@@ -147,10 +134,17 @@ QString SetValue(scene::Scene* scene, const scene::Place& place, const QString& 
         return SetPos(node, value);
     if (key == "hold")
         return SetHold(node, value);
-    if (Known().contains(key))
-        return ChangeNumber(node, word, *scene::FindAttribute(key), value);
-    return QStringLiteral("%1 cannot be set; expected one of %2%3")
-        .arg(word, Known().join(", "), scene::DidYouMean(word, Known()));
+    if (!Known().contains(key))
+        return QStringLiteral("%1 cannot be set; expected one of %2%3")
+            .arg(word, Known().join(", "), scene::DidYouMean(word, Known()));
+    const scene::Attribute& attribute = *scene::FindAttribute(key);
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    if (!isNumber || !scene::IsInRange(attribute, number))
+        return QStringLiteral("%1 is \"%3\"; expected a whole number, %2")
+            .arg(word, scene::RangeInWords(attribute), value);
+    scene::SetNumber(node, attribute, number);
+    return QString();
 }
 
 } // namespace AnimText::author

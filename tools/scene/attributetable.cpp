@@ -29,12 +29,6 @@ private:
         {
             return choices = names, Range(0, int(names.size()) - 1);
         }
-        Row& NamesOf(const QList<Motion>& motions)
-        {
-            for (const Motion& motion : motions)
-                choices.append(motion.name);
-            return Range(0, int(motions.size()) - 1);
-        }
     };
 
     template <ValueKind kindOfRow>
@@ -89,6 +83,10 @@ QList<Attribute> AttributeTable::Make()
     const char* const steps = QT_TR_NOOP("steps");
     const char* const times = QT_TR_NOOP("times");
     const char* const points = QT_TR_NOOP("points");
+
+    QList<const char*> effects;
+    for (const Motion& motion : Effects())
+        effects.append(motion.name);
 
     const Need hasDazzle{"CheckDazzle", 1, 1};
     const Need hasNeon{"CheckNeonBg", 1, 1};
@@ -174,7 +172,7 @@ QList<Attribute> AttributeTable::Make()
         Choice("EffectType", QT_TR_NOOP("Motion"), QT_TR_NOOP("how the text appears"))
             .Names({QT_TR_NOOP("entrance effect"), QT_TR_NOOP("scrolling")}),
         Choice("AnimationEffect", QT_TR_NOOP("Effect"), QT_TR_NOOP("the entrance effect"))
-            .NamesOf(Effects()).For(entrance),
+            .Names(effects).For(entrance),
         Number("AnimationSpeed", QT_TR_NOOP("Speed"),
                QT_TR_NOOP("the speed of the entrance effect; 9 is fastest"))
             .Unit(steps).Range(0, 9).For(entrance),

@@ -4,13 +4,9 @@
  */
 #pragma once
 
-#include "scene/scenefault.h"
+#include "scene/scene.h"
 
-#include <QHash>
 #include <QJsonValue>
-#include <QList>
-#include <QPoint>
-#include <QStringList>
 
 #include <limits>
 

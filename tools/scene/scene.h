@@ -5,7 +5,6 @@
 #pragma once
 
 #include "scene/place.h"
-#include "scene/scenefault.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -69,6 +68,24 @@ struct Scene
         also where its path is a symbolic link to it. */
     QString FullName(const QString& file) const;
 };
+
+/** One thing that is wrong in the structure of a scene file. */
+struct SceneFault
+{
+    QString place;    ///< JSON path; line and column of a syntax error; empty for the whole file
+    QString expected; ///< what should be there
+    QString found;    ///< what is there
+    int others = 0;   ///< rows of the same list in which the same is wrong
+
+    /** One line for people, with the file @p path at its beginning. */
+    QString Line(const QString& path) const;
+};
+
+/** " and 2 more like it", or nothing for 0. */
+QString AndMore(int others);
+
+/** "1 row", "2 rows". */
+QString Counted(int count, const QString& noun);
 
 /** Whether a missing file that a scene names is an error. */
 enum class MissingFiles { AreErrors, AreAccepted };
