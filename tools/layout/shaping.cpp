@@ -58,31 +58,12 @@ QTextLine WholeLine(const StyledText& text, QTextLayout* layout,
     return line;
 }
 
-/** The leading and the trailing edge of a unit. */
+/** The x of the leading and of the trailing edge. */
 struct Edges
 {
     qreal leading;
     qreal trailing;
 };
-
-/** @param fromRight the text's direction @param width returns the unit's width */
-template <typename Width>
-Edges EdgesOf(const QTextLine& line, int unit, [[maybe_unused]] bool fromRight,
-              [[maybe_unused]] Width width)
-{
-    Edges edges{line.cursorToX(unit, QTextLine::Leading),
-                line.cursorToX(unit, QTextLine::Trailing)};
-#if QT_VERSION >= 0x060000
-    // At a change of direction, and after ligatures, Qt 6 may place the cursor before the words of
-    // the other direction instead of at their first unit. The glyph's own position is right.
-    const QList<QGlyphRun> glyphs = line.glyphRuns(unit, 1);
-    if (!glyphs.isEmpty() && glyphs.first().isRightToLeft() != fromRight) {
-        const qreal left = glyphs.first().positions().first().x();
-        edges = fromRight ? Edges{left, left + width()} : Edges{left + width(), left};
-    }
-#endif
-    return edges;
-}
 
 Bar UnderlineOf(const QFont& font)
 {
@@ -94,12 +75,10 @@ Bar UnderlineOf(const QFont& font)
 }
 
 /** A cluster in the short lines. */
-struct PlacedCluster
+struct PlacedCluster : Edges
 {
     int line;
-    qreal leading;  // x of the leading edge
-    qreal trailing; // x of the trailing edge
-    int groups;     // number of groups of units that share a glyph
+    int groups = 1; // of units that share a glyph
 
     bool RightToLeft() const { return leading > trailing; }
 };
@@ -134,13 +113,26 @@ struct Shaper
         return result;
     }
 
-    /** The width of a unit among words of the other direction. */
-    qreal WidthAmongTheOthers(int unit)
+    Edges EdgesOf(const QTextLine& line, int unit)
     {
-        if (turned.text().isEmpty())
-            WholeLine(text, &turned, result.rightToLeft ? Qt::LeftToRight : Qt::RightToLeft);
-        const QTextLine line = turned.lineAt(0);
-        return qAbs(line.cursorToX(unit, QTextLine::Trailing) - line.cursorToX(unit));
+        Edges edges{line.cursorToX(unit, QTextLine::Leading),
+                    line.cursorToX(unit, QTextLine::Trailing)};
+#if QT_VERSION >= 0x060000
+        // At a change of direction, and after ligatures, Qt 6 may place the cursor before the words
+        // of the other direction instead of at their first unit. The glyph's own position is right,
+        // and among words of that direction the unit has its width.
+        const QList<QGlyphRun> glyphs = line.glyphRuns(unit, 1);
+        if (!glyphs.isEmpty() && glyphs.first().isRightToLeft() != result.rightToLeft) {
+            if (turned.text().isEmpty())
+                WholeLine(text, &turned, result.rightToLeft ? Qt::LeftToRight : Qt::RightToLeft);
+            const QTextLine other = turned.lineAt(0);
+            const qreal width =
+                qAbs(other.cursorToX(unit, QTextLine::Trailing) - other.cursorToX(unit));
+            const qreal left = glyphs.first().positions().first().x();
+            edges = result.rightToLeft ? Edges{left, left + width} : Edges{left + width, left};
+        }
+#endif
+        return edges;
     }
 
     void AddLine(const QTextLayout& layout, const QTextLine& line)
@@ -161,9 +153,7 @@ struct Shaper
             cluster.units = 1;
             cluster.underline = UnderlineOf(text.At(i).font);
             result.clusters.append(cluster);
-            const Edges edges =
-                EdgesOf(line, i, result.rightToLeft, [&] { return WidthAmongTheOthers(i); });
-            places.append({line.lineNumber(), edges.leading, edges.trailing, 1});
+            places.append({EdgesOf(line, i), line.lineNumber()});
         }
         for (int k = begin; k < result.clusters.size(); ++k) {
             if (places[k].groups > 1)
@@ -264,7 +254,7 @@ struct Shaper
     }
 
     /** The clusters from left to right. */
-    QVector<int> VisualOrder() const
+    QVector<int> VisualOrder()
     {
         QVector<int> order(places.size());
         std::iota(order.begin(), order.end(), 0);
@@ -288,10 +278,7 @@ struct Shaper
             qreal width = result.clusters[begin].advance;
             for (end = begin + 1; end < places.size() && Follows(end); ++end)
                 width += result.clusters[end].advance;
-            const qreal leading =
-                EdgesOf(line, result.clusters[begin].first, result.rightToLeft, [&] {
-                    return result.clusters[begin].advance;
-                }).leading;
+            const qreal leading = EdgesOf(line, result.clusters[begin].first).leading;
             sequences.append({places[begin].RightToLeft() ? leading - width : leading, begin, end});
         }
         std::stable_sort(sequences.begin(), sequences.end(),
