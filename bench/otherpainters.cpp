@@ -162,15 +162,6 @@ std::string Lottie(const QPainterPath& text, QSize size)
 }
 #endif
 
-void Page(benchmark::State& state, QSize size, const QPainterPath& text, const PaintPage& paint)
-{
-    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-    for (auto _ : state) {
-        picture.fill(0);
-        paint(picture, text);
-    }
-}
-
 } // namespace
 
 void RegisterOtherPainters(const std::string& page, const QVector<QPainterPath>& glyphs,
@@ -180,9 +171,14 @@ void RegisterOtherPainters(const std::string& page, const QVector<QPainterPath>&
     for (int i = 0; i < glyphs.size(); ++i)
         text.addPath(glyphs[i].translated(places[i]));
     const auto add = [&](const char* name, const PaintPage& paint) {
-        benchmark::RegisterBenchmark(
-            (page + "/page by " + name).c_str(),
-            [=](benchmark::State& state) { Page(state, size, text, paint); })
+        benchmark::RegisterBenchmark((page + "/page by " + name).c_str(),
+                                     [=](benchmark::State& state) {
+                                         QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+                                         for (auto _ : state) {
+                                             picture.fill(0);
+                                             paint(picture, text);
+                                         }
+                                     })
             ->MeasureProcessCPUTime(); // some have threads
     };
     add("Qt", WithQt);

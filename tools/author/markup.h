@@ -14,7 +14,7 @@ namespace AnimText::author {
  *     <b> <i> <u> <font face="FAMILY" size="32 | 32px | 24pt | 150%" color="NAME | #rrggbb">
  *
  * with &lt; &gt; &amp; as escapes; or, if it begins with "<!DOCTYPE" or "<html", HTML from Qt's
- * text editors.
+ * text editors. Needs a QGuiApplication.
  * @param base the style of text without tags; percentages refer to the enclosing size
  * @param notes gets a line on what was left out
  * @return false, with one line in @p error, if it cannot be read

@@ -68,7 +68,6 @@ TextSource FromJson(const QJsonObject& json)
     for (const auto& value : json.value("runs").toArray()) {
         const QJsonObject object = value.toObject();
         layout::StyleRun run;
-        run.begin = object.value("begin").toInt();
         run.font = QFont(object.value("font").toString());
         run.font.setPixelSize(qMax(1, object.value("size").toInt()));
         run.font.setBold(object.value("bold").toBool());
@@ -77,7 +76,7 @@ TextSource FromJson(const QJsonObject& json)
         run.color = QColor(object.value("color").toString());
         // Whoever wrote the file: the first run begins at 0, and the others follow in order.
         const QVector<layout::StyleRun>& runs = source.text.runs;
-        run.begin = runs.isEmpty() ? 0 : qMax(runs.last().begin + 1, run.begin);
+        run.begin = runs.isEmpty() ? 0 : qMax(runs.last().begin + 1, object.value("begin").toInt());
         source.text.runs.append(run);
     }
     source.fit = OneOf(json.value("fit"), layout::Fit::Both);

@@ -13,10 +13,6 @@
 namespace AnimText::author {
 
 bool operator==(const TextSource& a, const TextSource& b);
-inline bool operator!=(const TextSource& a, const TextSource& b)
-{
-    return !(a == b);
-}
 
 /** The source as far as the node has it: its text and its styles. */
 TextSource SourceOf(const scene::SceneNode& node);

@@ -164,16 +164,13 @@ void MakeRows(const PlacedText& text, LaidOut* laid)
     QVector<QHash<QString, QString>> styles;
     for (const StyleRun& run : laid->styled.runs)
         styles.append(StyleRow(run));
-    QList<QHash<QString, QString>> looks;
-    QList<QHash<QString, QString>> heights;
-    QList<QHash<QString, QString>> widths;
+    laid->lists.clear();
     for (int i = 0; i < text.text.size(); ++i) {
         const StyleRun& run = laid->styled.At(text.source[i]);
-        looks.append(styles[int(&run - laid->styled.runs.constData())]);
-        heights.append({{"text_height", QString::number(text.heights[i])}});
-        widths.append({{"text_width", QString::number(text.widths[i])}});
+        laid->lists["TextAttribute"].append(styles[int(&run - laid->styled.runs.constData())]);
+        laid->lists["TextHeight"].append({{"text_height", QString::number(text.heights[i])}});
+        laid->lists["TextWidth"].append({{"text_width", QString::number(text.widths[i])}});
     }
-    laid->lists = {{"TextAttribute", looks}, {"TextHeight", heights}, {"TextWidth", widths}};
 }
 
 } // namespace

@@ -148,11 +148,7 @@ struct Shaper
                 places.last().groups += sharesGlyph ? 0 : 1;
                 continue;
             }
-            Cluster cluster;
-            cluster.first = i;
-            cluster.units = 1;
-            cluster.underline = UnderlineOf(text.At(i).font);
-            result.clusters.append(cluster);
+            result.clusters.append({i, 1, 0, {}, UnderlineOf(text.At(i).font), {}});
             places.append({EdgesOf(line, i), line.lineNumber()});
         }
         for (int k = begin; k < result.clusters.size(); ++k) {

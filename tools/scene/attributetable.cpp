@@ -18,21 +18,8 @@ public:
 
 private:
     /** A row as a sentence: Number("hold").In(&SceneNode::hold).Unit(tenths).Range(0, most). */
-    struct Row : Attribute
-    {
-        Row& In(Home where) { return home = where, *this; }
-        Row& In(int SceneNode::*member) { return field = member, In(Home::Node); }
-        Row& Unit(const char* words) { return unit = words, *this; }
-        Row& Range(int from, int to) { return least = from, most = to, *this; }
-        Row& For(const Use& what) { return use = what, *this; }
-        Row& Names(const QList<const char*>& names)
-        {
-            return choices = names, Range(0, int(names.size()) - 1);
-        }
-    };
-
     template <ValueKind kindOfRow>
-    struct Of : Row
+    struct Of : Attribute
     {
         Of(const char* rowKey, const char* rowName, const char* rowMeaning)
         {
@@ -51,6 +38,16 @@ private:
             case ValueKind::File: In(Home::Files); break;
             default: break;
             }
+        }
+
+        Of& In(Home where) { return home = where, *this; }
+        Of& In(int SceneNode::*member) { return field = member, In(Home::Node); }
+        Of& Unit(const char* words) { return unit = words, *this; }
+        Of& Range(int from, int to) { return least = from, most = to, *this; }
+        Of& For(const Use& what) { return use = what, *this; }
+        Of& Names(const QList<const char*>& names)
+        {
+            return choices = names, Range(0, int(names.size()) - 1);
         }
     };
     using Text = Of<ValueKind::Text>;

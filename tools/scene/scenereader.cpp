@@ -20,11 +20,6 @@ namespace {
 constexpr qint64 largestDisplay = Lw::HNodeAnimationText::maxCanvasBytes / 4; // pixels
 constexpr qint64 largestFile = qint64(256) << 20;
 
-int LargestSide()
-{
-    return FindAttribute("size")->most;
-}
-
 QList<QHash<QString, QString>> ReadRows(const JsonValue& json)
 {
     const QStringList known = RowFields(json.name);
@@ -63,7 +58,7 @@ SceneNode ReadNode(const JsonValue& json, const Scene& scene, MissingFiles missi
     const Attribute* range = FindAttribute("pos");
     if (json["pos"].IsThere())
         node.pos = json["pos"].Pair(range->least, range->most);
-    const QPoint size = json["size"].Pair(0, LargestSide());
+    const QPoint size = json["size"].Pair(0, FindAttribute("size")->most);
     node.size = QSize(size.x(), size.y());
     for (const Attribute& attribute : Attributes()) {
         if (attribute.field && json[attribute.key].IsThere())
@@ -84,7 +79,8 @@ QSize ReadDisplay(const JsonValue& json)
 {
     if (!json.IsObject({"width", "height"}))
         return QSize();
-    const QSize size{json["width"].Int(1, LargestSide()), json["height"].Int(1, LargestSide())};
+    const int most = FindAttribute("size")->most;
+    const QSize size{json["width"].Int(1, most), json["height"].Int(1, most)};
     if (qint64(size.width()) * size.height() > largestDisplay)
         json.Refuse(QStringLiteral("at most %1 pixels").arg(largestDisplay),
                     QStringLiteral("%1 × %2").arg(size.width()).arg(size.height()));
@@ -147,15 +143,6 @@ QByteArray ReadBytes(const QString& path, JsonFaults* faults)
     return bytes;
 }
 
-/** "LINE:COLUMN" of a place in @p text, both counted from 1, columns in bytes. */
-QString LineAndColumn(const QByteArray& text, int offset)
-{
-    const QByteArray before = text.left(offset);
-    const int line = before.count('\n') + 1;
-    const int column = offset - (before.lastIndexOf('\n') + 1) + 1;
-    return QStringLiteral("%1:%2").arg(line).arg(column);
-}
-
 /** The value that @p text is, or what is wrong with its syntax. */
 QJsonValue Parse(const QByteArray& text, JsonFaults* faults)
 {
@@ -167,9 +154,13 @@ QJsonValue Parse(const QByteArray& text, JsonFaults* faults)
     QJsonParseError error;
     const QByteArray escaped = WithMarksEscaped(text);
     const QJsonDocument document = QJsonDocument::fromJson(escaped, &error);
-    if (error.error != QJsonParseError::NoError)
-        faults->Add(LineAndColumn(escaped, qBound(0, error.offset, escaped.size())), "valid JSON",
+    if (error.error != QJsonParseError::NoError) {
+        // Line and column count from 1, columns in bytes.
+        const QByteArray before = escaped.left(qMax(0, error.offset));
+        const int column = before.size() - before.lastIndexOf('\n');
+        faults->Add(QStringLiteral("%1:%2").arg(before.count('\n') + 1).arg(column), "valid JSON",
                     QStringLiteral("an error: %1").arg(error.errorString()));
+    }
     return document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
 }
 
