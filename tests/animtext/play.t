@@ -256,15 +256,16 @@ A folder of frames is replaced, no other:
   75
   l
 
-A gallery is replaced, no other folder:
+A gallery is replaced, no other folder; the same text makes the same files, whatever the memory held before:
 
   $ fresh
-  $ gallery() { animtext gallery -o g --area 8x8 --size 8 --text $1 >/dev/null; }
+  $ gallery() { animtext gallery -o g --area 9x8 --size 8 --text $1 >/dev/null; }
   $ mkdir -p g/photos; echo mine >g/gallery.js; echo mine >g/photos/1
   $ gallery a
   ! animtext: $PWD/g has other contents, such as gallery.js; choose a new or empty folder
   [1]
-  $ rm -r g; gallery a; gallery b; grep -o 'text a\|text .b' g/motions.js; ls -A | grep '^[.]'
+  $ rm -r g; MALLOC_PERTURB_=1 gallery a; cp -r g old; MALLOC_PERTURB_=2 gallery a; diff -rq g old; rm -r old
+  $ gallery b; grep -o 'text a\|text .b' g/motions.js; ls -A | grep '^[.]'
   text 'b
   [1]
   $ cp -r g old; echo '/* mine */' >>g/gallery.css

@@ -55,8 +55,11 @@ QByteArray PngOf(QImage picture, bool transparent, PngEffort effort)
     QImageWriter writer(&buffer, "png");
     // A quarter of the bytes to compress, and none of libpng's search for the best filter.
     QImage indexed = Indexed(picture);
-    if (effort == PngEffort::Small && indexed.colorCount() == 2)
-        indexed = indexed.convertToFormat(QImage::Format_Mono, indexed.colorTable());
+    if (effort == PngEffort::Small && indexed.colorCount() == 2) {
+        const QVector<QRgb> colors = indexed.colorTable();
+        indexed = picture.createMaskFromColor(colors.at(1)); // also clears the bits after a row
+        indexed.setColorTable(colors);
+    }
     writer.setText("Software", softwareMark);
     writer.setCompression(effort == PngEffort::Small ? 67 : 11); // levels 6 and 1 of zlib
     return writer.write(indexed) ? png : QByteArray();
