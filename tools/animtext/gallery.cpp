@@ -53,17 +53,14 @@ int MakeGallery(const cli::CommandLine& line)
     options.seed = shared::SeedOf(line);
 
     cli::WatchForInterruption();
-    qint64 bytes = 0;
     player::Player player(player::VirtualDispatcher::Current(), shared::PluginOf(line));
     cli::Progress progress;
     const auto watch = [&](int done, int all) {
         progress.Show("playing", done, all);
-        return !cli::Interrupted();
+        cli::StopIfInterrupted();
     };
-    const bool written = gallery::WriteGallery(options, &player, watch, &bytes, &error);
+    const qint64 bytes = gallery::WriteGallery(options, &player, watch);
     progress.Wipe();
-    cli::StopIfInterrupted();
-    files::FailUnless(written, error);
     cli::Print(QStringLiteral("Wrote %1/index.html, %2 MB\n")
                    .arg(options.folder)
                    .arg(double(bytes) / 1e6, 0, 'f', 1)

@@ -1,5 +1,6 @@
 #include "gallery/gallery.h"
 
+#include "files/failure.h"
 #include "files/wholefile.h"
 #include "files/wholefolder.h"
 #include "gallery/page.h"
@@ -26,11 +27,6 @@ namespace {
 // longer. Its pictures come first so that they stand in the order of the play.
 constexpr int speedsInOrder[] = {5, 4, 3, 2, 1, 0, 6, 7, 8, 9};
 constexpr int posterSpeed = 5;
-
-/** Thrown where a step has failed and has set its error. */
-struct BrokenOff
-{
-};
 
 const QString manifestName = "manifest.json";
 const QString generator = "animtext gallery";
@@ -143,14 +139,13 @@ struct GalleryWriter
     QTemporaryDir scenes{files::TemporaryName()};
     PictureSheets posters{};
     QJsonObject digests{}; // of the files in the folder
-    QString why{};
+    QString error{};
     int done = 0;
     const int all = speedCount * (scene::Effects().size() + scene::Scrolls().size());
 
-    /** Throws. */
     void Write()
     {
-        Demand(files::IsMade(scenes, &why) && folder.Open(OwnFiles, &why));
+        files::FailUnless(files::IsMade(scenes, &error) && folder.Open(OwnFiles, &error), error);
         QVector<GalleryEntry> entries;
         for (const scene::Motion& motion : scene::Effects())
             entries.append(WriteMotion(scene::Mode::Entrance, motion));
@@ -172,14 +167,9 @@ struct GalleryWriter
         for (const char* name : {"gallery.css", "film.js", "view.js", "gallery.js"})
             Add(QLatin1String(name), Own(name));
         const QJsonObject manifest{{"generator", generator}, {"files", digests}};
-        Demand(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &why));
-        Demand(folder.Finish(&why));
-    }
-
-    void Demand(bool succeeded)
-    {
-        if (!succeeded)
-            throw BrokenOff();
+        files::FailUnless(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &error) &&
+                              folder.Finish(&error),
+                          error);
     }
 
     /** A file of the page. */
@@ -205,11 +195,10 @@ struct GalleryWriter
         for (int speed : speedsInOrder) {
             node.attributes[nodeMotion.SpeedKey()] = speed;
             author::AuthoredNode authored;
-            Demand(author::AuthorNode(options.text, node, nodeMotion, &authored, &why));
-            const scene::Scene scene = Stage(authored);
-            const auto goOn = [this] { return watch(done, all); };
-            Demand(
-                PlayMotion(player, scene, options.seed, goOn, &sheets, &entry.plays[speed], &why));
+            files::FailUnless(author::AuthorNode(options.text, node, nodeMotion, &authored, &error),
+                              error);
+            const auto goOn = [this] { watch(done, all); };
+            entry.plays[speed] = PlayMotion(player, Stage(authored), options.seed, goOn, &sheets);
             ++done;
         }
         const QVector<QByteArray> pngs = sheets.Finish();
@@ -228,7 +217,8 @@ struct GalleryWriter
         scene::SceneNode node = authored.node;
         for (auto file = authored.data.begin(); file != authored.data.end(); ++file) {
             node.files[file.key()] = scenes.filePath(file.key());
-            Demand(files::WriteWhole(node.files[file.key()], file.value(), &why));
+            files::FailUnless(files::WriteWhole(node.files[file.key()], file.value(), &error),
+                              error);
         }
         scene.pages.append(scene::ScenePage{{scene::SceneArea{{node}}}});
         return scene;
@@ -247,26 +237,20 @@ struct GalleryWriter
 
     void Add(const QString& name, const QByteArray& content)
     {
-        Demand(folder.Add(name, content, &why));
+        files::FailUnless(folder.Add(name, content, &error), error);
         digests.insert(name, Digest(content));
     }
 };
 
 } // namespace
 
-bool WriteGallery(const GalleryOptions& options, player::Player* player, const GalleryWatch& watch,
-                  qint64* bytes, QString* error)
+qint64 WriteGallery(const GalleryOptions& options, player::Player* player,
+                    const GalleryWatch& watch)
 {
     LoadPage();
     GalleryWriter writer{options, player, watch};
-    try {
-        writer.Write();
-    } catch (const BrokenOff&) {
-        *error = writer.why;
-        return false;
-    }
-    *bytes = writer.folder.Bytes();
-    return true;
+    writer.Write();
+    return writer.folder.Bytes();
 }
 
 } // namespace AnimText::gallery

@@ -23,16 +23,16 @@ struct GalleryOptions
     uint seed = player::standardSeed;
 };
 
-/** Receives the number of finished plays; false stops. */
-using GalleryWatch = std::function<bool(int done, int all)>;
+/** Receives the number of finished plays; throws to stop. */
+using GalleryWatch = std::function<void(int done, int all)>;
 
 /**
- * Plays every motion at every speed and writes the folder, which needs no server.
+ * Plays every motion at every speed and writes the folder, which needs no server. Throws Failure;
+ * an existing gallery is then unchanged.
  * @param player its scene is replaced
- * @param bytes  set to the size of all its files
- * @return false, with one line in @p error; an existing gallery is then unchanged
+ * @return the size of all its files, bytes
  */
-bool WriteGallery(const GalleryOptions& options, player::Player* player, const GalleryWatch& watch,
-                  qint64* bytes, QString* error);
+qint64 WriteGallery(const GalleryOptions& options, player::Player* player,
+                    const GalleryWatch& watch);
 
 } // namespace AnimText::gallery

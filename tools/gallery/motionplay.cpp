@@ -1,6 +1,6 @@
 #include "gallery/motionplay.h"
 
-#include "scene/motion.h"
+#include "files/failure.h"
 
 namespace AnimText::gallery {
 
@@ -17,46 +17,42 @@ void Show(int picture, MotionPlay* play)
 
 } // namespace
 
-bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
-                const std::function<bool()>& goOn, PictureSheets* sheets, MotionPlay* play,
-                QString* error)
+MotionPlay PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
+                      const std::function<void()>& goOn, PictureSheets* sheets)
 {
-    *play = MotionPlay();
-    if (!player->Load(scene, error))
-        return false;
-    play->planned = player->Durations().first();
+    QString error;
+    files::FailUnless(player->Load(scene, &error), error);
+    MotionPlay play;
+    play.planned = player->Durations().first();
     player->Start(seed);
     int shown = sheets->Add(player->Picture());
-    Show(shown, play);
+    Show(shown, &play);
 
-    const bool isDevices = player->Scenery().Motion(0).IsSideways();
+    const scene::NodeMotion motion = player->Scenery().Motion(0);
+    const bool isDevices = motion.IsSideways();
     const qint64 pass = isDevices ? timing::ScrollPass(player->Scenery(), 0) : 0;
     const int longest = isDevices ? int(pass / player::tickLength) : timing::ticksOfADay;
     while (player->Tick() < longest && (isDevices || player->State(0) == 1)) {
         player->Advance();
-        if (!goOn()) {
-            *error = "interrupted";
-            return false;
-        }
+        goOn();
         if (isDevices || player->Swapped(0))
             shown = sheets->Add(player->Picture());
-        Show(shown, play);
+        Show(shown, &play);
     }
     if (isDevices)
+        return play;
+    play.actual = player->Time();
+    if (motion.mode != scene::Mode::Entrance)
+        return play;
+    const auto watch = [&](int) {
+        goOn();
         return true;
-    play->actual = player->Time();
-    if (scene::MotionOf(*scene.Nodes().first()).mode != scene::Mode::Entrance)
-        return true;
-    const auto watch = [&](int) { return goOn(); };
+    };
     const QVector<timing::NodePlay> plays =
-        timing::MeasurePages(player, scene, longest, watch, error);
-    if (plays.isEmpty()) {
-        if (error->isEmpty())
-            *error = "interrupted";
-        return false;
-    }
-    play->pages = plays.first().pages;
-    return true;
+        timing::MeasurePages(player, scene, longest, watch, &error);
+    files::FailUnless(!plays.isEmpty(), error);
+    play.pages = plays.first().pages;
+    return play;
 }
 
 } // namespace AnimText::gallery

@@ -30,12 +30,10 @@ struct MotionPlay
 
 /**
  * Plays @p scene, which has one text, from its start to its end, or once through its area where the
- * device scrolls it. Its pictures are added to @p sheets.
- * @param goOn called at every tick; false stops
- * @return false, with one line in @p error, when it cannot be played
+ * device scrolls it. Its pictures are added to @p sheets. Throws Failure when it cannot be played.
+ * @param goOn called at every tick; throws to stop
  */
-bool PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
-                const std::function<bool()>& goOn, PictureSheets* sheets, MotionPlay* play,
-                QString* error);
+MotionPlay PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
+                      const std::function<void()>& goOn, PictureSheets* sheets);
 
 } // namespace AnimText::gallery
