@@ -66,15 +66,12 @@ void Player::CountSwaps()
     }
 }
 
-NodeTick Player::Look(int node)
+NodeTick Player::Look(int node) const
 {
-    Part& part = parts[node];
-    if (part.swapped || tick == 0) {
-        const QImage picture = TextPicture(node);
-        part.size = picture.size();
-        part.sha1 = Sha1Of(picture);
-    }
-    return {tick, part.swapped, part.size, part.sha1, State(node), Sha1Of(DazzlePicture(node))};
+    const QImage picture = TextPicture(node);
+    return {tick,           Swapped(node),
+            picture.size(), Sha1Of(picture),
+            State(node),    Sha1Of(DazzlePicture(node))};
 }
 
 } // namespace AnimText::player

@@ -59,8 +59,8 @@ public:
     int State(int node) const { return stage.Render(node)->renderState(); }
     /** Whether this tick handed a new picture of the text to the display. */
     bool Swapped(int node) const { return parts.at(node).swapped; }
-    /** This tick of a node; from tick 0 on, call it in every tick. */
-    NodeTick Look(int node);
+    /** This tick of a node. */
+    NodeTick Look(int node) const;
     /** A copy of the picture that the node's text layer shows; null without one. */
     QImage TextPicture(int node) const
     {
@@ -81,8 +81,6 @@ private:
     {
         qint64 swaps = 0;
         bool swapped = false;
-        QSize size{0, 0}; // of the picture when Look() saw it last
-        QByteArray sha1;
     };
 
     static qint64 Clock(void* player);

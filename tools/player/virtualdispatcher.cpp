@@ -20,24 +20,22 @@ void VirtualDispatcher::registerTimer(int id, Interval interval, Qt::TimerType t
     timers.push_back({id, interval, type, object, now + interval, nextOrder++, false});
 }
 
+template <typename IsGone>
+bool VirtualDispatcher::Remove(const IsGone& isGone)
+{
+    const size_t before = timers.size();
+    timers.erase(std::remove_if(timers.begin(), timers.end(), isGone), timers.end());
+    return timers.size() < before;
+}
+
 bool VirtualDispatcher::unregisterTimer(int id)
 {
-    const auto found = std::find_if(timers.begin(), timers.end(),
-                                    [id](const Timer& timer) { return timer.id == id; });
-    if (found == timers.end())
-        return false;
-    timers.erase(found);
-    return true;
+    return Remove([id](const Timer& timer) { return timer.id == id; });
 }
 
 bool VirtualDispatcher::unregisterTimers(QObject* object)
 {
-    const auto gone = std::remove_if(timers.begin(), timers.end(), [object](const Timer& timer) {
-        return timer.object == object;
-    });
-    const bool any = gone != timers.end();
-    timers.erase(gone, timers.end());
-    return any;
+    return Remove([object](const Timer& timer) { return timer.object == object; });
 }
 
 QList<QAbstractEventDispatcher::TimerInfo>

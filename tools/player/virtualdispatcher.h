@@ -77,6 +77,8 @@ private:
         bool firing;   // its slot runs, perhaps with a loop of its own inside
     };
 
+    template <typename IsGone>
+    bool Remove(const IsGone& isGone);
     bool FireNext(qint64 limit);
 
     qint64 now = 0;
