@@ -75,13 +75,11 @@ void CheckFilm(const QString& film, const QString& written, const QString& kind,
 {
     Facts facts;
     if (kind != QLatin1String("webp")) {
-        FilmProgram probe(film, goOn, patience);
         QStringList words =
             QStringLiteral(
                 "-v error -select_streams v:0 -show_entries packet=pts_time,duration_time -of csv")
                 .split(QLatin1Char(' '));
-        probe.Start("ffprobe", words << written, QString());
-        facts = FactsIn(probe.Finish());
+        facts = FactsIn(FilmProgram(film, goOn, patience, "ffprobe", words << written).Finish());
     } else {
         files::FailUnless(ReadWebp(written, &facts),
                           files::CannotWrite(film, "what was written is not a complete WebP file"));

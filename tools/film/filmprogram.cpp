@@ -18,11 +18,21 @@ constexpr int glance = 50;               // milliseconds between two checks of t
 
 } // namespace
 
-FilmProgram::FilmProgram(const QString& film, const GoOn& goOn, int patience)
+FilmProgram::FilmProgram(const QString& film, const GoOn& goOn, int patience,
+                         const QString& program, const QStringList& words, const QString& output)
     : film(film)
     , goOn(goOn)
     , patience(patience)
+    , output(output)
 {
+    const QString path = QStandardPaths::findExecutable(program);
+    if (path.isEmpty())
+        Fail(QStringLiteral("the program %1, which films need, is not installed: apt-get install "
+                            "ffmpeg, or name a folder for PNGs")
+                 .arg(program));
+    process.start(path, words);
+    if (!process.waitForStarted(-1))
+        Fail(QStringLiteral("%1 does not start: %2").arg(program, process.errorString()));
 }
 
 FilmProgram::~FilmProgram()
@@ -41,19 +51,6 @@ QStringList FilmProgram::Reading(QSize size, const char* pixelFormat)
         .arg(size.width())
         .arg(size.height())
         .split(QLatin1Char(' '));
-}
-
-void FilmProgram::Start(const QString& program, const QStringList& words, const QString& written)
-{
-    const QString path = QStandardPaths::findExecutable(program);
-    if (path.isEmpty())
-        Fail(QStringLiteral("the program %1, which films need, is not installed: apt-get install "
-                            "ffmpeg, or name a folder for PNGs")
-                 .arg(program));
-    output = written;
-    process.start(path, words);
-    if (!process.waitForStarted(-1))
-        Fail(QStringLiteral("%1 does not start: %2").arg(program, process.errorString()));
 }
 
 /** A number that changes while the program makes progress. */

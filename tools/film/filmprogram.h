@@ -20,18 +20,19 @@ class FilmProgram
 {
 public:
     /**
+     * Starts @p program.
      * @param film the name that errors begin with
      * @param patience milliseconds for which the program may make no progress
+     * @param output the file that it writes; its growth counts as progress
      */
-    FilmProgram(const QString& film, const GoOn& goOn, int patience);
+    FilmProgram(const QString& film, const GoOn& goOn, int patience, const QString& program,
+                const QStringList& words, const QString& output = QString());
     /** Ends the program if it still runs. */
     ~FilmProgram();
 
     /** ffmpeg's arguments for pictures on standard input, one a tick. */
     static QStringList Reading(QSize size, const char* pixelFormat);
 
-    /** @param output the file that it writes; its growth counts as progress; may be empty */
-    void Start(const QString& program, const QStringList& words, const QString& output);
     /** Sends the program the pixels of @p picture. */
     void Take(const QImage& picture);
     /** Waits for the program's end. @return what it wrote to its standard output */
@@ -46,7 +47,7 @@ private:
     const QString film;
     const GoOn goOn;
     const int patience;
-    QString output;
+    const QString output;
     QProcess process;
 };
 

@@ -32,21 +32,21 @@ bool HasNewColors(const QImage& picture, QSet<QRgb>* known)
 }
 
 /** 256 colors, each a QRgb: all colors of the film, if those are not more. */
-QByteArray Palette(FilmProgram* chooser, const FilmFormat& format, const PlayPictures& play)
+QByteArray Palette(const QString& path, const FilmFormat& format, const PlayPictures& play,
+                   const GoOn& goOn, int patience)
 {
-    chooser->Start("ffmpeg",
-                   FilmProgram::Reading(format.size, "bgra") +
-                       Words(QStringLiteral("-vf palettegen=reserve_transparent=%1 "
-                                            "-f rawvideo -pix_fmt bgra pipe:1")
-                                 .arg(format.transparent ? 1 : 0)),
-                   QString());
+    FilmProgram chooser(path, goOn, patience, "ffmpeg",
+                        FilmProgram::Reading(format.size, "bgra") +
+                            Words(QStringLiteral("-vf palettegen=reserve_transparent=%1 "
+                                                 "-f rawvideo -pix_fmt bgra pipe:1")
+                                      .arg(format.transparent ? 1 : 0)));
     // The choice among few colors takes long, and does not depend on how often each is seen.
     QSet<QRgb> known;
     play(FilmStage::Colors, [&](int, const QImage& picture) {
         if (HasNewColors(picture, &known))
-            chooser->Take(picture);
+            chooser.Take(picture);
     });
-    return chooser->Finish();
+    return chooser.Finish();
 }
 
 QStringList WithPalette(const QByteArray& palette)
@@ -78,14 +78,11 @@ void WriteVideo(const QString& path, const FilmKind& kind, const FilmFormat& for
     if (!unfinished.open())
         throw files::Failure{files::FailedRun, files::CannotWrite(place, unfinished.errorString())};
     QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
-    if (kind.Has(FilmKind::Palette)) {
-        FilmProgram chooser(place, goOn, patience);
-        words += WithPalette(Palette(&chooser, format, play));
-    }
+    if (kind.Has(FilmKind::Palette))
+        words += WithPalette(Palette(place, format, play, goOn, patience));
     words += kind.Encoding(format.transparent, format.lossless);
-    FilmProgram encoder(place, goOn, patience);
-    encoder.Start("ffmpeg", words + QStringList{"-f", kind.Name(), "-y", unfinished.fileName()},
-                  unfinished.fileName());
+    words += {"-f", kind.Name(), "-y", unfinished.fileName()};
+    FilmProgram encoder(place, goOn, patience, "ffmpeg", words, unfinished.fileName());
     play(FilmStage::Pictures, [&](int, const QImage& picture) { encoder.Take(picture); });
     encoder.Finish();
     CheckFilm(place, unfinished.fileName(), kind.Name(), format, goOn);
