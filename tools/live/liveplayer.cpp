@@ -113,7 +113,7 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSetting
     settings = newSettings;
     paused = ended = resting = false;
     before = lastShown = 0;
-    punctuality = earlier = Punctuality();
+    earlier = Punctuality();
     keeper = std::make_unique<TickKeeper>(this);
     parts = QVector<Part>(stage->NodeCount(), Part());
     running.start();
@@ -150,10 +150,7 @@ void LivePlayer::Show()
 /** Shows what the device moves by itself, between ticks. */
 void LivePlayer::Move()
 {
-    bool moving = false;
-    for (int node = 0; node < parts.size(); ++node)
-        moving = moving || (stage->Session(node) && stage->Motion(node).IsSideways());
-    const QImage picture = moving ? stage->Compose(Time()) : shown;
+    const QImage picture = stage->Compose(Time());
     if (picture != shown)
         emit Shown(shown = picture);
 }
@@ -161,7 +158,7 @@ void LivePlayer::Move()
 void LivePlayer::Tick()
 {
     const qint64 now = Time();
-    punctuality.latest = std::max(punctuality.latest, now - lastShown - player::tickLength);
+    earlier.latest = std::max(earlier.latest, now - lastShown - player::tickLength);
     lastShown = now;
     if (IsOver())
         End();
@@ -258,7 +255,6 @@ Punctuality LivePlayer::Kept() const
     Punctuality kept = earlier;
     kept.time += Time();
     kept.due += Time() / player::tickLength + 1;
-    kept.latest = std::max(kept.latest, punctuality.latest);
     kept.madeUp += keeper ? keeper->madeUp : 0;
     if (stage && stage->NodeCount() > 0 && stage->TextLayer(0) >= 0)
         kept.pictures += Torv::SwapCount(stage->Session(0), stage->TextLayer(0));

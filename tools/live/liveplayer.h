@@ -103,8 +103,7 @@ private:
     qint64 before = 0;    // milliseconds played up to the last pause
     qint64 lastShown = 0; // milliseconds at the last tick
     QImage shown;
-    Punctuality punctuality;
-    Punctuality earlier;  // of the previous loops
+    Punctuality earlier;  // of the previous loops; its delay also of this one
     bool resting = false; // all nodes that can finish have done so, and are stopped
     bool paused = false;
     bool ended = false;

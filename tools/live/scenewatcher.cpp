@@ -53,9 +53,6 @@ void SceneWatcher::Watch(const scene::Scene& scene)
     for (const QString& name : names)
         watched.insert(name, files.value(name, Mark(name)));
     files = watched;
-    const QStringList old = watcher.files() + watcher.directories();
-    if (!old.isEmpty())
-        watcher.removePaths(old);
     WatchAll();
     rest.start();
 }
