@@ -96,8 +96,22 @@ inline bool operator==(Part a, Part b)
     return Fields(a) == Fields(b);
 }
 
-QDataStream& operator<<(QDataStream& stream, const RawPicture& picture);
-QDataStream& operator>>(QDataStream& stream, RawPicture& picture);
+inline QDataStream& operator<<(QDataStream& stream, const RawPicture& picture)
+{
+    stream << picture.size();
+    stream.writeRawData(reinterpret_cast<const char*>(picture.constBits()),
+                        int(picture.sizeInBytes()));
+    return stream;
+}
+
+inline QDataStream& operator>>(QDataStream& stream, RawPicture& picture)
+{
+    QSize size;
+    stream >> size;
+    picture = size.isEmpty() ? QImage() : QImage(size, QImage::Format_ARGB32);
+    stream.readRawData(reinterpret_cast<char*>(picture.bits()), int(picture.sizeInBytes()));
+    return stream;
+}
 
 template <typename T, typename = decltype(Fields(std::declval<T&>()))>
 QDataStream& operator<<(QDataStream& stream, T value)
