@@ -96,6 +96,7 @@ private slots:
     void keepsMemoryLimit();
     void survivesWorkerCrash();
     void reportsBrokenPlugin();
+    void reportsLostWorkers();
     void makesCallsFail();
 };
 
@@ -224,6 +225,25 @@ void TestRehearsal::reportsBrokenPlugin()
     QTRY_VERIFY_WITH_TIMEOUT(trouble.size() >= 2, patience);
     QVERIFY(trouble.last().first().toString().contains("noplugin.so"));
     QVERIFY(!rehearsal.IsCurrent());
+}
+
+/** Both end twice. What they say of an earlier order does not count as an answer. */
+void TestRehearsal::reportsLostWorkers()
+{
+    studio::worker::Answer late;
+    late.kind = studio::worker::Answer::Idle;
+    const QString answer = folder.Write("late", studio::worker::Packed(late));
+    const QString script =
+        folder.Write("worker", "#!/bin/sh\nhead -c 1 >/dev/null\ncat '" + answer.toUtf8() + "'\n");
+    QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
+    studio::worker::WorkerLink::SetProgram(script);
+    studio::worker::Rehearsal rehearsal((QString()));
+    QSignalSpy trouble(&rehearsal, &studio::worker::Rehearsal::Trouble);
+    rehearsal.SetSign(OneText("Lost", false, 4), PartOf(0));
+    QTRY_COMPARE_WITH_TIMEOUT(trouble.size(), 2, patience);
+    for (const QList<QVariant>& told : trouble)
+        QVERIFY(told.first().toString().contains("ended unexpectedly"));
+    initTestCase();
 }
 
 void TestRehearsal::makesCallsFail()

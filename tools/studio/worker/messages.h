@@ -61,7 +61,7 @@ struct Answer
     qint32 kind = Ready;
     quint32 generation = 0;
     QString error;
-    qint32 tick = 0;
+    qint32 tick = 0;    ///< of the picture; Idle: the last one ordered
     RawPicture picture; ///< null if it equals that of the previous tick
     QByteArray calls;   ///< device calls of the tick, one line of JSON each
     Timing timing;

@@ -24,6 +24,7 @@ Rehearsal::Rehearsal(const QString& plugin, qint64 cacheBytes)
         if (isMeasured && answer.generation == generation)
             TakeTiming(answer.timing);
     });
+    connect(&measurer, &WorkerLink::Died, this, &Rehearsal::Trouble);
     pool.setMaxThreadCount(2);
     pool.setExpiryTimeout(-1);
     player.Start();

@@ -112,6 +112,9 @@ void WorkerLink::Read()
     received += process.readAllStandardOutput();
     Answer answer;
     while (Take(&received, &answer)) {
+        const bool isFinished = answer.kind == Answer::Idle && answer.tick != order.last;
+        if (answer.kind != Answer::Ready && (answer.generation != order.generation || isFinished))
+            continue; // to an earlier order; the present one is still owed
         if (answer.kind == Answer::Picture) {
             if (answer.picture.isNull())
                 answer.picture = lastPicture;

@@ -131,16 +131,17 @@ private:
                 answer.picture = shown = picture;
             Send(answer);
             if (next > order.last)
-                Send(Answer::Idle, QString());
+                Send(Answer::Idle);
         }
         Receive(false);
     }
 
-    void Send(Answer::Kind kind, const QString& error, const Timing& timing = {})
+    void Send(Answer::Kind kind, const QString& error = {}, const Timing& timing = {})
     {
         Answer answer;
         answer.kind = kind;
         answer.generation = order.generation;
+        answer.tick = order.last;
         answer.error = error;
         answer.timing = timing;
         Send(answer);
