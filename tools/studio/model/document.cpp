@@ -237,15 +237,12 @@ void Document::Save(const QString& file)
 
 void Document::SaveNow()
 {
-    const QString file = savePath;
-    savePath.clear();
-    const Sign saved = sign;
-    const int state = revision;
+    const QString file = std::exchange(savePath, {});
     // The file dialog has already asked before overwriting another file.
     const QByteArray known = QFileInfo(file) == QFileInfo(path) ? onDisk : QByteArray();
     saving = true;
     emit StateChanged();
-    saver.start([this, saved, file, known, state] {
+    saver.start([this, saved = sign, file, known, state = revision] {
         QString error;
         const bool done = SaveSign(saved, file, known, &error);
         const QByteArray digest = done ? DigestOfFile(file) : QByteArray();

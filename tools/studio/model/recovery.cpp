@@ -51,7 +51,11 @@ Recovery::Recovery(Document* document, const QString& below)
                ? below
                : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recovery")
     , folder(root + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces))
+    , lock(QDir(folder).filePath(lockName))
 {
+    QDir().mkpath(folder);
+    lock.setStaleLockTime(0);
+    lock.tryLock();
     delay.setSingleShot(true);
     delay.setInterval(delayLength);
     pool.setMaxThreadCount(1);
@@ -63,9 +67,7 @@ Recovery::Recovery(Document* document, const QString& below)
 Recovery::~Recovery()
 {
     pool.waitForDone();
-    if (!lock)
-        return;
-    lock->unlock();
+    lock.unlock();
     QDir(folder).removeRecursively();
 }
 
@@ -80,20 +82,13 @@ void Recovery::Look()
     if (!taken.isEmpty())
         pool.start([older = taken] { QDir(older).removeRecursively(); });
     taken.clear();
-    if (lock)
-        pool.start([at = folder] { QFile::remove(QDir(at).filePath(sceneName)); });
+    pool.start([at = folder] { QFile::remove(QDir(at).filePath(sceneName)); });
 }
 
 void Recovery::Keep()
 {
     if (!document->Current().IsLaidOut())
         return; // called again when it is
-    if (!lock) {
-        QDir().mkpath(folder);
-        lock = std::make_unique<QLockFile>(QDir(folder).filePath(lockName));
-        lock->setStaleLockTime(0);
-        lock->tryLock();
-    }
     pool.start([this, sign = document->Current(), path = document->Path(), older = taken] {
         if (!WriteCopy(sign, path, folder))
             return;

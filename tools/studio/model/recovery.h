@@ -11,8 +11,6 @@
 #include <QThreadPool>
 #include <QTimer>
 
-#include <memory>
-
 namespace AnimText::studio::model {
 
 /** Unsaved work of a studio that has ended. */
@@ -56,8 +54,8 @@ private:
     Document* document;
     QString root;
     QString folder;
-    QString taken; // folder of the restored copy until there is a new one
-    std::unique_ptr<QLockFile> lock;
+    QString taken;  // folder of the restored copy until there is a new one
+    QLockFile lock; // while this studio runs
     QTimer delay;
     QThreadPool pool;
 };

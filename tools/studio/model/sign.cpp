@@ -283,13 +283,15 @@ void ResizeDisplay(Sign* sign, const QSize& display)
 QByteArray LayoutKey(const SignText& text)
 {
     const scene::SceneNode& node = text.node;
-    const QByteArray setting = QByteArray::number(scene::MotionOf(node).IsScroll() ? 1 : 0) + ' ' +
-                               QByteArray::number(scene::MotionOf(node).number) + ' ' +
-                               QByteArray::number(node.size.width()) + ' ' +
-                               QByteArray::number(node.size.height());
+    const scene::NodeMotion motion = scene::MotionOf(node);
+    const QString setting = QStringLiteral("%1 %2 %3 %4")
+                                .arg(motion.IsScroll() ? 1 : 0)
+                                .arg(motion.number)
+                                .arg(node.size.width())
+                                .arg(node.size.height());
     author::TextSource source = text.source;
     source.name.clear(); // does not affect the layout
-    return QCryptographicHash::hash(author::SourcesToJson({{setting, source}}),
+    return QCryptographicHash::hash(author::SourcesToJson({{setting.toLatin1(), source}}),
                                     QCryptographicHash::Sha1);
 }
 
@@ -304,9 +306,9 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
             layout->lists[list] = {};
         return layout;
     }
-    const scene::NodeMotion own = scene::MotionOf(text.node);
-    const scene::NodeMotion motion{own.IsScroll() ? scene::Mode::Scroll : scene::Mode::Entrance,
-                                   own.number};
+    scene::NodeMotion motion = scene::MotionOf(text.node);
+    if (motion.mode == scene::Mode::Still)
+        motion.mode = scene::Mode::Entrance;
     if (layout::ToOneLine(&source.text, &layout->notes, &layout->fault))
         layout::LayOut(source.text, source, motion, text.node.size, layout.get(), &layout->fault);
     return layout;

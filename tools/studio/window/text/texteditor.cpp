@@ -111,6 +111,7 @@ layout::StyledText TextEditor::Styled() const
 
 void TextEditor::SetStyled(const layout::StyledText& text)
 {
+    base = text.runs.value(0);
     QTextCursor cursor(document());
     cursor.select(QTextCursor::Document);
     Insert(text, base.font.pixelSize(), &cursor);

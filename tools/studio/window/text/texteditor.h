@@ -21,10 +21,9 @@ class TextEditor : public QTextEdit
 public:
     explicit TextEditor(QWidget* parent = nullptr);
 
-    /** Sets the style of unstyled letters; its size is shown at the reading size. */
-    void SetBase(const layout::StyleRun& style) { base = style; }
     /** The whole text. */
     layout::StyledText Styled() const;
+    /** Shows the size of the first letter at the reading size, and the others in proportion. */
     void SetStyled(const layout::StyledText& text);
     /** The style of the first selected letter, or of the next one to be typed. */
     layout::StyleRun CurrentStyle() const;
@@ -46,7 +45,7 @@ protected:
 private:
     void Paste(const layout::StyledText& text);
 
-    layout::StyleRun base;
+    layout::StyleRun base; // of the first letter, and of letters without a style
 };
 
 } // namespace AnimText::studio::window::text

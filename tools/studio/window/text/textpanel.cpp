@@ -207,7 +207,6 @@ void TextPanel::Show(const model::SignText* wanted)
 {
     setEnabled(wanted != nullptr);
     const model::SignText text = wanted ? *wanted : model::SignText();
-    editor->SetBase(text.source.text.runs.value(0));
     if (text.id != shownId || !(text.source.text == shown)) {
         const int anchor = editor->textCursor().anchor();
         const int position = editor->textCursor().position();

@@ -24,16 +24,16 @@ void Playback::SetLength(int ticks)
     if (ticks == length)
         return;
     length = std::max(1, ticks);
-    if (hasLoop && loopBegin >= length)
+    if (loop.first >= length)
         ClearLoop();
-    loopEnd = std::min(loopEnd, length - 1);
+    loop.second = std::min(loop.second, length - 1);
     emit RangeChanged();
     Seek(tick); // the current tick may be beyond the end now
 }
 
 void Playback::Seek(int wanted)
 {
-    const int next = std::max(0, std::min(wanted, length - 1));
+    const int next = qBound(0, wanted, length - 1);
     if (next == tick)
         return;
     tick = next;
@@ -67,15 +67,13 @@ void Playback::Shuttle(int direction)
 
 void Playback::SetLoop(int begin, int end)
 {
-    hasLoop = true;
-    loopBegin = std::max(0, std::min(begin, end));
-    loopEnd = std::min(length - 1, std::max(begin, end));
+    loop = {std::max(0, std::min(begin, end)), std::min(length - 1, std::max(begin, end))};
     emit RangeChanged();
 }
 
 void Playback::ClearLoop()
 {
-    hasLoop = false;
+    loop = {-1, -1};
     emit RangeChanged();
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPair>
 #include <QTimer>
 
 #include <functional>
@@ -24,9 +25,9 @@ public:
     bool IsPlaying() const { return pace != 0; }
     int Length() const { return length; }
     /** First and last tick of the loop; all ticks unless a range is set. */
-    int LoopBegin() const { return hasLoop ? loopBegin : 0; }
-    int LoopEnd() const { return hasLoop ? loopEnd : length - 1; }
-    bool HasLoop() const { return hasLoop; }
+    int LoopBegin() const { return HasLoop() ? loop.first : 0; }
+    int LoopEnd() const { return HasLoop() ? loop.second : length - 1; }
+    bool HasLoop() const { return loop.first >= 0; }
 
     /** Sets the number of ticks, at least 1. */
     void SetLength(int ticks);
@@ -56,9 +57,7 @@ private:
     int tick = 0;
     int pace = 0;
     int length = 1;
-    bool hasLoop = false;
-    int loopBegin = 0;
-    int loopEnd = 0;
+    QPair<int, int> loop{-1, -1};
 };
 
 } // namespace AnimText::studio::window::time

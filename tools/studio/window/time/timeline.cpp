@@ -363,27 +363,25 @@ QString Timeline::Describe(const QPoint& point) const
     const worker::TextTime& text = row->time;
     const int at = TickAt(point.x());
     const double tick = at - TicksOf(text.from);
-    QString what = row->title;
+    const auto seconds = [](int ticks) {
+        return basics::SecondsText(qint64(ticks) * player::tickLength);
+    };
+    QStringList lines{row->title};
     if (point.x() >= titleWidth)
-        what += QLatin1Char('\n') +
-                tr("%1, tick %2").arg(basics::SecondsText(qint64(at) * player::tickLength)).arg(at);
-    int number = 0;
-    for (const timing::PageTime& page : text.pages) {
-        ++number;
+        lines << tr("%1, tick %2").arg(seconds(at)).arg(at);
+    for (int i = 0; i < text.pages.size(); ++i) {
+        const timing::PageTime& page = text.pages.at(i);
         if (tick < page.begin || tick >= page.end)
             continue;
         const bool holds = tick >= page.hold;
-        what +=
-            QLatin1Char('\n') +
-            (holds ? tr("Page %1: hold, %2") : tr("Page %1: entrance, %2"))
-                .arg((number - 1) % PagesPerPlay(*row) + 1)
-                .arg(basics::SecondsText((holds ? page.end - page.hold : page.hold - page.begin) *
-                                         qint64(player::tickLength)));
+        lines << (holds ? tr("Page %1: hold, %2") : tr("Page %1: entrance, %2"))
+                     .arg(i % PagesPerPlay(*row) + 1)
+                     .arg(seconds(holds ? page.end - page.hold : page.hold - page.begin));
     }
-    what += QLatin1Char('\n') + tr("Planned: %1").arg(basics::SecondsText(text.planned));
+    lines << tr("Planned: %1").arg(basics::SecondsText(text.planned));
     if (text.actual >= 0)
-        what += QLatin1Char('\n') + tr("Needs: %1").arg(basics::SecondsText(text.actual));
-    return what;
+        lines << tr("Needs: %1").arg(basics::SecondsText(text.actual));
+    return lines.join(QLatin1Char('\n'));
 }
 
 bool Timeline::viewportEvent(QEvent* event)

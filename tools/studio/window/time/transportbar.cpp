@@ -126,11 +126,6 @@ void TransportBar::ShowPace()
     play->setToolTip(QStringLiteral("%1 (%2)").arg(name, tr("Space")));
 }
 
-void TransportBar::SetSchedule(bool schedule)
-{
-    what->setCurrentIndex(schedule ? 1 : 0);
-}
-
 int LostPages(const worker::TextTime& text)
 {
     return int(

@@ -27,8 +27,6 @@ public:
     void ShowEnds(const worker::TextTime* text, const QString& all);
     /** Whether all pages play as on the host; otherwise only the current page plays. */
     bool IsSchedule() const { return what->currentIndex() == 1; }
-    void SetSchedule(bool schedule);
-    QString EndsText() const { return ends->text(); }
 
 signals:
     void ScheduleChanged(bool schedule);
