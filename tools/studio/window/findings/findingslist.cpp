@@ -6,7 +6,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -44,15 +43,12 @@ const model::SignText* TextOf(const validate::Finding& finding, const model::Sig
 
 FindingsList::FindingsList(QWidget* parent)
     : QScrollArea(parent)
-    , list(new QVBoxLayout)
+    , list(basics::Arrange(Qt::Vertical, 3 * basics::grid, {}, 2 * basics::grid))
 {
     auto* content = new QWidget(this);
     content->setAutoFillBackground(true);
     content->setBackgroundRole(QPalette::Base);
     content->setLayout(list);
-    list->setContentsMargins(2 * basics::grid, 2 * basics::grid, 2 * basics::grid,
-                             2 * basics::grid);
-    list->setSpacing(3 * basics::grid);
     setWidget(content);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -204,20 +200,18 @@ QWidget* FindingsList::MakeRow(int index)
     words->setWordWrap(true);
     words->setToolTip(row.why);
     words->setAccessibleDescription(row.why);
-    auto* layout = new QGridLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(2 * basics::grid);
-    layout->setVerticalSpacing(basics::grid);
-    layout->setColumnStretch(2, 1);
-    layout->addWidget(mark, 0, 0, Qt::AlignTop);
-    layout->addWidget(words, 0, 1, 1, 2);
+    mark->setAlignment(Qt::AlignTop);
+    auto* beside = basics::Arrange(Qt::Vertical, basics::grid, {words});
+    auto* layout = basics::Arrange(Qt::Horizontal, 2 * basics::grid, {mark, beside});
+    layout->setStretchFactor(beside, 1);
+    widget->setLayout(layout);
     widget->installEventFilter(this);
     widget->setProperty("text", row.id);
     if (row.fix.change) {
         auto* button = new QPushButton(row.fix.words, widget);
         button->setAutoDefault(true); // Return presses it, as Space does
         button->setToolTip(row.why);
-        layout->addWidget(button, 1, 1);
+        beside->addWidget(button, 0, Qt::AlignLeft);
         connect(button, &QPushButton::clicked, this, [this, index] { ApplyFix(index); });
     }
     return widget;

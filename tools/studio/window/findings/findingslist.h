@@ -54,7 +54,7 @@ private:
     static Fix FixFor(const validate::Finding& finding, const QSize& display);
     QWidget* MakeRow(int index);
 
-    QVBoxLayout* list;
+    QBoxLayout* list;
     QList<Row> rows;
 };
 

@@ -233,9 +233,8 @@ QWidget* AttributeForm::MakeNeon(const TextSetting& setting, motion::Thumbnails*
 QWidget* AttributeForm::MakePair(const scene::Attribute& attribute, const TextSetting& setting)
 {
     auto* pair = new QWidget(this);
-    auto* line = new QHBoxLayout(pair);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(basics::grid);
+    auto* line = basics::Arrange(Qt::Horizontal, basics::grid, {});
+    pair->setLayout(line);
     const auto add = [&](const QString& name, const QString& prefix,
                          int& (*side)(scene::SceneNode & node)) {
         const TextSetting own{

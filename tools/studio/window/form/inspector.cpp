@@ -4,7 +4,6 @@
 
 #include <QEvent>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 namespace AnimText::studio::window::form {
 
@@ -17,12 +16,8 @@ Inspector::Inspector(motion::Thumbnails* thumbnails, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* content = new QWidget(this);
-    auto* both = new QVBoxLayout(content);
-    both->setContentsMargins(3 * basics::grid, 2 * basics::grid, 3 * basics::grid,
-                             3 * basics::grid);
-    both->addWidget(ofDisplay);
-    both->addWidget(ofText);
-    both->addStretch(1);
+    content->setLayout(
+        basics::Arrange(Qt::Vertical, 0, {ofDisplay, ofText, nullptr}, 3 * basics::grid));
     ofDisplay->AddSection(tr("Display"), displayForm);
     ofText->AddSection(tr("Text"), text);
     ofText->AddSection(tr("Motion"), motions);

@@ -4,8 +4,6 @@
 
 #include <QFileDialog>
 #include <QFontDatabase>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace AnimText::studio::window::form {
 
@@ -35,18 +33,10 @@ IntegratorView::IntegratorView(QWidget* parent)
     noLibrary->hide();
     differing->setFont(basics::TabularFont(font()));
 
-    auto* top = new QHBoxLayout;
-    top->setSpacing(basics::grid);
-    for (QWidget* part : QList<QWidget*>{operation, nth, fail, clear, failing})
-        top->addWidget(part);
-    top->addStretch(1);
-    for (QWidget* part : QList<QWidget*>{differing, library, noLibrary})
-        top->addWidget(part);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(2 * basics::grid, basics::grid, 2 * basics::grid, basics::grid);
-    layout->setSpacing(basics::grid);
-    layout->addLayout(top);
-    layout->addWidget(calls, 1);
+    auto* top = basics::Arrange(
+        Qt::Horizontal, basics::grid,
+        {operation, nth, fail, clear, failing, nullptr, differing, library, noLibrary});
+    setLayout(basics::Arrange(Qt::Vertical, basics::grid, {top, calls}, basics::grid));
 
     connect(fail, &QToolButton::clicked, this,
             [this] { AddFault(operation->currentIndex(), nth->value()); });

@@ -4,13 +4,11 @@
 #include "studio/window/motion/thumbnails.h"
 
 #include <QCoreApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace AnimText::studio::window::motion {
 namespace {
@@ -107,16 +105,8 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     }
     thumbnails->Animate(list, 0, list->count());
 
-    auto* top = new QHBoxLayout;
-    top->setSpacing(basics::grid);
-    top->addWidget(search, 1);
-    top->addWidget(family);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(basics::grid);
-    layout->addLayout(top);
-    layout->addWidget(list, 1);
-    layout->addWidget(new HeightHandle(this));
+    auto* top = basics::Arrange(Qt::Horizontal, basics::grid, {search, family});
+    setLayout(basics::Arrange(Qt::Vertical, basics::grid, {top, list, new HeightHandle(this)}));
 
     connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
     connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);

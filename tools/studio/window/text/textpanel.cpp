@@ -5,14 +5,12 @@
 #include <QColorDialog>
 #include <QCoreApplication>
 #include <QFontDatabase>
-#include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRawFont>
 #include <QToolTip>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -76,20 +74,13 @@ int UnitsOf(const layout::UnseenCharacter& character)
 TextPanel::TextPanel(QWidget* parent)
     : QWidget(parent)
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(basics::grid);
-    layout->addWidget(editor);
-    layout->addLayout(MakeTools());
-    // A fixed height, so that the fields below do not jump while typing.
     auto* room = new QWidget(this);
-    auto* below = new QHBoxLayout(room);
-    below->setContentsMargins(0, 0, 0, 0);
-    below->setSpacing(basics::grid);
-    below->addWidget(notes, 1, Qt::AlignTop);
-    below->addWidget(otherFont, 0, Qt::AlignTop);
+    auto* below = basics::Arrange(Qt::Horizontal, basics::grid, {notes, otherFont});
+    below->setStretchFactor(notes, 1);
+    room->setLayout(below);
+    // A fixed height, so that the fields below do not jump while typing.
     room->setFixedHeight(qMax(2 * fontMetrics().height(), otherFont->sizeHint().height()));
-    layout->addWidget(room);
+    setLayout(basics::Arrange(Qt::Vertical, basics::grid, {editor, MakeTools(), room}));
     otherFont->hide();
     connect(otherFont, &QPushButton::clicked, this, &TextPanel::UseOtherFonts);
 
@@ -106,6 +97,7 @@ TextPanel::TextPanel(QWidget* parent)
     setFocusProxy(editor);
 
     notes->setWordWrap(true);
+    notes->setAlignment(Qt::AlignTop);
     notes->setTextFormat(Qt::PlainText);
     notes->hide();
 
@@ -136,8 +128,7 @@ QLayout* TextPanel::MakeTools()
     color->setToolTip(tr("Color of the selection"));
     FillColors();
 
-    auto* layout = new QHBoxLayout;
-    layout->setSpacing(basics::grid / 2);
+    QList<QObject*> items;
     const struct
     {
         QString letter;
@@ -168,13 +159,8 @@ QLayout* TextPanel::MakeTools()
             Restyle([=](layout::StyleRun* run) { (run->font.*set)(on); });
         });
         faces.append({button, kind.has});
-        layout->addWidget(button);
+        items.append(button);
     }
-    layout->addWidget(color);
-    layout->addSpacing(basics::grid);
-    layout->addWidget(family, 1);
-    layout->addWidget(size);
-
     connect(family, &QFontComboBox::currentFontChanged, this, [this](const QFont& font) {
         Restyle([&](layout::StyleRun* run) { run->font.setFamily(font.family()); });
     });
@@ -182,6 +168,9 @@ QLayout* TextPanel::MakeTools()
         Restyle([&](layout::StyleRun* run) { run->font.setPixelSize(pixels); },
                 QStringLiteral("size %1").arg(drag));
     });
+    items << color << family << size;
+    auto* layout = basics::Arrange(Qt::Horizontal, basics::grid / 2, items);
+    layout->setStretchFactor(family, 1);
     return layout;
 }
 

@@ -2,7 +2,6 @@
 
 #include "studio/window/basics/style.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
 
 #include <algorithm>
@@ -43,22 +42,19 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     , playback(playback)
     , ends(new ShortLabel(this))
 {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(2 * basics::grid, basics::grid, 2 * basics::grid, basics::grid);
-    layout->setSpacing(basics::grid / 2);
     const auto by = [playback](int ticks) {
         return [=] { playback->Seek(playback->Tick() + ticks); };
     };
-    // The Home and End keys do the same as the spare buttons.
-    spare.append(
-        Add("media-skip-backward", tr("Go to start"), tr("Home"), [=] { playback->Seek(0); }));
-    Add("step-back", tr("One tick back"), "←", by(-1));
-    play = Add("media-playback-start", tr("Play"), tr("Space"), [=] { playback->Toggle(); });
-    Add("step-forward", tr("One tick forward"), "→", by(1));
-    spare.append(Add("media-skip-forward", tr("Go to end"), tr("End"),
-                     [=] { playback->Seek(playback->Length() - 1); }));
+    auto* start =
+        Make("media-skip-backward", tr("Go to start"), tr("Home"), [=] { playback->Seek(0); });
+    auto* back = Make("step-back", tr("One tick back"), "←", by(-1));
+    play = Make("media-playback-start", tr("Play"), tr("Space"), [=] { playback->Toggle(); });
+    auto* forward = Make("step-forward", tr("One tick forward"), "→", by(1));
+    auto* end = Make("media-skip-forward", tr("Go to end"), tr("End"),
+                     [=] { playback->Seek(playback->Length() - 1); });
+    spare = {start, end}; // the Home and End keys do the same
     loop =
-        Add("media-playlist-repeat", tr("Loop the page"), tr("R"), [this] { emit LoopToggled(); });
+        Make("media-playlist-repeat", tr("Loop the page"), tr("R"), [this] { emit LoopToggled(); });
     loop->setToolTip(loop->toolTip() + QLatin1Char('\n') +
                      tr("Shift+drag on the timeline loops a range"));
     loop->setCheckable(true);
@@ -74,11 +70,13 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     time->setMinimumWidth(time->fontMetrics().horizontalAdvance("0000.00 s"));
     ends->setFont(basics::TabularFont(font()));
 
-    layout->addSpacing(2 * basics::grid);
-    layout->addWidget(time);
-    layout->addWidget(ends, 1);
-    layout->addSpacing(2 * basics::grid);
-    layout->addWidget(what);
+    time->setIndent(2 * basics::grid);
+    ends->setContentsMargins(0, 0, 2 * basics::grid, 0);
+    auto* row =
+        basics::Arrange(Qt::Horizontal, basics::grid / 2,
+                        {start, back, play, forward, end, loop, time, ends, what}, basics::grid);
+    row->setStretchFactor(ends, 1);
+    setLayout(row);
 
     connect(playback, &Playback::TickChanged, this, &TransportBar::ShowTime);
     connect(playback, &Playback::PaceChanged, this, &TransportBar::ShowPace);
@@ -87,8 +85,8 @@ TransportBar::TransportBar(Playback* playback, QWidget* parent)
     ShowTime();
 }
 
-QToolButton* TransportBar::Add(const QString& icon, const QString& name, const QString& key,
-                               const std::function<void()>& act)
+QToolButton* TransportBar::Make(const QString& icon, const QString& name, const QString& key,
+                                const std::function<void()>& act)
 {
     auto* button = new QToolButton(this);
     button->setAutoRaise(true);
@@ -97,7 +95,6 @@ QToolButton* TransportBar::Add(const QString& icon, const QString& name, const Q
     button->setToolTip(QStringLiteral("%1 (%2)").arg(name, key));
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this, act);
-    layout()->addWidget(button);
     return button;
 }
 

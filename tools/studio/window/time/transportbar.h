@@ -36,8 +36,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QToolButton* Add(const QString& icon, const QString& name, const QString& key,
-                     const std::function<void()>& act);
+    QToolButton* Make(const QString& icon, const QString& name, const QString& key,
+                      const std::function<void()>& act);
     void ShowTime();
     void ShowPace();
 
