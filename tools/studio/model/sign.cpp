@@ -72,13 +72,6 @@ scene::SceneNode NodeOf(const SignText& text, const PlaceFile& placeFile)
     return node;
 }
 
-/** @p file relative to @p folder if it is below it, otherwise unchanged. */
-QString NameIn(const QDir& folder, const QString& file)
-{
-    const QString near = folder.relativeFilePath(file);
-    return near.startsWith(QLatin1String("..")) ? file : near;
-}
-
 } // namespace
 
 bool operator==(const SignText& a, const SignText& b)
@@ -375,8 +368,11 @@ scene::Scene SceneToSave(const Sign& sign, const QString& path, author::DataFile
     scene::Scene scene = SceneOf(sign, path, place);
     const QList<scene::SceneNode*> nodes = scene.Nodes();
     for (int i = 0; i < nodes.size(); ++i) {
-        for (QString& file : nodes.at(i)->files)
-            file = NameIn(folder, file);
+        for (QString& file : nodes.at(i)->files) {
+            const QString near = folder.relativeFilePath(file);
+            if (!near.startsWith(QLatin1String("..")))
+                file = near;
+        }
         sources.insert(author::LayoutDigest(*nodes.at(i)), sign.texts.at(i).source);
     }
     dataFiles->insert(author::SourcesName(path), author::SourcesToJson(sources));

@@ -439,8 +439,8 @@
         <translation>Seiten</translation>
     </message>
     <message>
-        <source>Break pages between words</source>
-        <translation>Seiten zwischen Wörtern umbrechen</translation>
+        <source>Break between words</source>
+        <translation>Zwischen Wörtern umbrechen</translation>
     </message>
     <message>
         <source>Scrolling text has no pages.</source>

@@ -143,26 +143,22 @@ void AttributeForm::AddLayout()
     });
     AddRow(padding, pixels);
     const TextSetting pages = SettingOf(tr("Pages"), &author::TextSource::keepsWords);
-    AddRow(pages, MakeFlag(pages, tr("Break pages between words")),
-           [](const model::SignText& text) {
-               return scene::MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.")
-                                                            : QString();
-           });
+    AddRow(pages, MakeFlag(pages, tr("Break between words")), [](const model::SignText& text) {
+        return scene::MotionOf(text.node).IsScroll() ? tr("Scrolling text has no pages.")
+                                                     : QString();
+    });
 }
 
 void AttributeForm::AddRow(const TextSetting& setting, QWidget* field, const Unused& unused)
 {
-    const auto* box = qobject_cast<QCheckBox*>(field);
-    const bool namesItself = box && !box->text().isEmpty();
     auto* label = new QLabel(setting.name, this);
     label->setBuddy(field);
-    label->setHidden(namesItself);
     auto* mark = new QLabel(this);
     field->setAccessibleName(setting.name);
     const int row = table->rowCount();
     table->addWidget(label, row, 0);
     table->addWidget(mark, row, 1);
-    table->addWidget(field, row, namesItself ? 0 : 2, 1, namesItself ? 3 : 1);
+    table->addWidget(field, row, 2);
     rows.append({setting.key, QString(), label, mark, field, unused});
 }
 
@@ -173,8 +169,10 @@ basics::NumberField* AttributeForm::MakeNumber(const TextSetting& setting, const
     number->SetUnit(unit, perUnit);
     number->SetLimits(least, most);
     fills.append([=](const model::SignText& text) { number->ShowNumber(setting.read(text)); });
-    connect(number, &basics::NumberField::NumberChanged, this,
-            [=](int value, int gesture) { Tell(setting, value, gesture); });
+    const QString merge = setting.name + setting.key + QLatin1Char(' ');
+    connect(number, &basics::NumberField::NumberChanged, this, [=](int value, int gesture) {
+        Tell(setting, value, merge + QString::number(gesture));
+    });
     return number;
 }
 
@@ -300,13 +298,9 @@ QWidget* AttributeForm::MakeColor(const TextSetting& setting)
     return button;
 }
 
-void AttributeForm::Tell(const TextSetting& setting, int number, int gesture)
+void AttributeForm::Tell(const TextSetting& setting, int number, const QString& merge)
 {
-    emit Edited(setting.name,
-                gesture < 0
-                    ? QString()
-                    : QStringLiteral("%1 %2 %3").arg(setting.name, setting.key).arg(gesture),
-                [=](model::SignText* text) { setting.write(text, number); });
+    emit Edited(setting.name, merge, [=](model::SignText* text) { setting.write(text, number); });
 }
 
 void AttributeForm::Show(const model::SignText& text)

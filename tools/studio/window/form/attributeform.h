@@ -81,7 +81,7 @@ private:
     QWidget* MakePair(const scene::Attribute& attribute, const TextSetting& setting);
     QWidget* MakeFile(const TextSetting& setting);
     QWidget* MakeColor(const TextSetting& setting);
-    void Tell(const TextSetting& setting, int number, int gesture = -1);
+    void Tell(const TextSetting& setting, int number, const QString& merge = QString());
 
     QGridLayout* table = new QGridLayout(this);
     QList<Row> rows;

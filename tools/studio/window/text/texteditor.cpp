@@ -21,23 +21,6 @@ const QByteArray ownKey = "text";
 constexpr int fontProperty = QTextFormat::UserProperty + 1; // the font on the sign
 constexpr int readingSize = 20;                             // pixels
 
-/** The text of @p source; some programs copy only HTML. */
-QString WordsIn(const QMimeData* source)
-{
-    if (source->hasText())
-        return source->text();
-    return QTextDocumentFragment::fromHtml(source->html()).toPlainText();
-}
-
-/** Replaces line breaks by spaces, because a sign has one line, and removes the last one. */
-layout::StyledText OnOneLine(layout::StyledText text)
-{
-    QStringList notes;
-    QString error;
-    layout::ToOneLine(&text, &notes, &error); // errors are shown below the field
-    return text;
-}
-
 /**
  * A character format that stores all of @p run. Letters are shown at a readable size; the font on
  * the sign is stored as a property.
@@ -125,8 +108,11 @@ layout::StyleRun TextEditor::CurrentStyle() const
     return StyleOf(cursor.charFormat(), base);
 }
 
-void TextEditor::Paste(const layout::StyledText& text)
+void TextEditor::Paste(layout::StyledText text)
 {
+    QStringList notes;
+    QString error;
+    layout::ToOneLine(&text, &notes, &error); // errors are shown below the field
     emit StepEnded();
     QTextCursor cursor = textCursor();
     Insert(text, base.font.pixelSize(), &cursor);
@@ -164,9 +150,11 @@ void TextEditor::insertFromMimeData(const QMimeData* source)
     layout::StyledText text;
     if (own.contains(ownKey))
         text = own.value(ownKey).text;
-    else
-        text.Append(WordsIn(source), CurrentStyle());
-    Paste(OnOneLine(text));
+    else if (source->hasText())
+        text.Append(source->text(), CurrentStyle());
+    else // some programs copy only HTML
+        text.Append(QTextDocumentFragment::fromHtml(source->html()).toPlainText(), CurrentStyle());
+    Paste(text);
 }
 
 void TextEditor::PasteWithStyles()
@@ -185,7 +173,7 @@ void TextEditor::PasteWithStyles()
     // Black letters of a web page would be invisible on the sign.
     for (layout::StyleRun& run : text.runs)
         run.color = current.color;
-    Paste(OnOneLine(text));
+    Paste(text);
 }
 
 void TextEditor::contextMenuEvent(QContextMenuEvent* event)

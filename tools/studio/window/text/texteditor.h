@@ -43,7 +43,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void Paste(const layout::StyledText& text);
+    void Paste(layout::StyledText text);
 
     layout::StyleRun base; // of the first letter, and of letters without a style
 };

@@ -3,12 +3,10 @@
 #include "studio/window/basics/style.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -384,16 +382,6 @@ QString Timeline::Describe(const QPoint& point) const
     return lines.join(QLatin1Char('\n'));
 }
 
-bool Timeline::viewportEvent(QEvent* event)
-{
-    if (event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        QToolTip::showText(help->globalPos(), Describe(help->pos()), viewport());
-        return true;
-    }
-    return QAbstractScrollArea::viewportEvent(event);
-}
-
 void Timeline::contextMenuEvent(QContextMenuEvent* event)
 {
     if (const TimelineRow* row = RowAt(event->pos())) {
@@ -419,6 +407,7 @@ void Timeline::mousePressEvent(QMouseEvent* event)
 
 void Timeline::mouseMoveEvent(QMouseEvent* event)
 {
+    viewport()->setToolTip(Describe(event->pos()));
     if (!(event->buttons() & Qt::LeftButton))
         return;
     const int tick = TickAt(event->pos().x());

@@ -35,6 +35,15 @@ protected:
     }
 };
 
+/** Number of pages that would begin after the host has stopped the text. */
+int LostPages(const worker::TextTime& text)
+{
+    return int(
+        std::count_if(text.pages.begin(), text.pages.end(), [&](const timing::PageTime& page) {
+            return qint64(page.begin) * player::tickLength >= text.planned;
+        }));
+}
+
 } // namespace
 
 TransportBar::TransportBar(Playback* playback, QWidget* parent)
@@ -121,14 +130,6 @@ void TransportBar::ShowPace()
     const QString name = playback->IsPlaying() ? tr("Stop") : tr("Play");
     play->setAccessibleName(name);
     play->setToolTip(QStringLiteral("%1 (%2)").arg(name, tr("Space")));
-}
-
-int LostPages(const worker::TextTime& text)
-{
-    return int(
-        std::count_if(text.pages.begin(), text.pages.end(), [&](const timing::PageTime& page) {
-            return qint64(page.begin) * player::tickLength >= text.planned;
-        }));
 }
 
 worker::TextTime SideBySide(const QVector<worker::TextTime>& texts)

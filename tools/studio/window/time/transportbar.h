@@ -53,9 +53,6 @@ private:
 /** The planned and actual time, as in "planned 12.5 s · needs 12.9 s · 0.4 s lost". */
 QString EndsInWords(const worker::TextTime& text);
 
-/** Number of pages that would begin after the host has stopped the text. */
-int LostPages(const worker::TextTime& text);
-
 /** The planned and actual time of texts that play at the same time, together. */
 worker::TextTime SideBySide(const QVector<worker::TextTime>& texts);
 
