@@ -940,7 +940,9 @@ void TestWindow::pickerGrowsAndNamesMotions()
     QTest::keyClicks(picker->Search(), "waves");
     QTest::keyClick(picker->Search(), Qt::Key_Down);
     QCOMPARE(scene::MotionOf(Text().node).number, 5);
-    picker->SetListHeight(333);
+    QMouseEvent drag(QEvent::MouseMove, QPointF(), picker->List()->mapToGlobal(QPoint(0, 333)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(picker->findChild<QLabel*>(), &drag);
     window->resize(1600, 900);
     QTRY_COMPARE(picker->List()->height(), 333);
     studio::window::motion::Thumbnails thumbnails{QString()};

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <QTimer>
@@ -13,6 +12,7 @@
 namespace AnimText::studio::window::motion {
 namespace {
 
+constexpr int rowHeight = thumbnailSize.height() + 28; // logical pixels
 constexpr double listShare = 0.45;
 const QString heightKey = "motions";
 
@@ -39,37 +39,6 @@ protected:
     }
 };
 
-/** A handle below the list that changes its height. */
-class HeightHandle : public QWidget
-{
-public:
-    explicit HeightHandle(MotionPicker* picker)
-        : QWidget(picker)
-        , picker(picker)
-    {
-        setFixedHeight(2 * basics::grid);
-        setCursor(Qt::SplitVCursor);
-        setToolTip(MotionPicker::tr("Drag to resize the list"));
-    }
-
-protected:
-    void mouseMoveEvent(QMouseEvent* event) override
-    {
-        if (event->buttons() & Qt::LeftButton)
-            picker->SetListHeight(picker->List()->mapFromGlobal(event->globalPos()).y());
-    }
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        painter.setPen(basics::Quiet(palette()));
-        for (int i = -2; i <= 2; ++i)
-            painter.drawPoint(width() / 2 + 4 * i, height() / 2);
-    }
-
-private:
-    MotionPicker* picker;
-};
-
 } // namespace
 
 MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
@@ -89,7 +58,6 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
     list->setMovement(QListView::Static);
     list->setIconSize(thumbnailSize);
     list->setMouseTracking(true);
-    list->setFrameShape(QFrame::StyledPanel);
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     list->setAccessibleName(tr("Motions"));
@@ -104,9 +72,15 @@ MotionPicker::MotionPicker(Thumbnails* thumbnails, QWidget* parent)
             family->addItem(MotionWords(motion.family), QLatin1String(motion.family));
     }
     thumbnails->Animate(list, 0, list->count());
+    handle->setAlignment(Qt::AlignCenter);
+    handle->setFixedHeight(2 * basics::grid);
+    handle->setCursor(Qt::SplitVCursor);
+    handle->setToolTip(tr("Drag to resize the list"));
+    handle->installEventFilter(this);
+    basics::SetInk(handle, basics::Quiet(palette()));
 
     auto* top = basics::Arrange(Qt::Horizontal, basics::grid, {search, family});
-    setLayout(basics::Arrange(Qt::Vertical, basics::grid, {top, list, new HeightHandle(this)}));
+    setLayout(basics::Arrange(Qt::Vertical, basics::grid, {top, list, handle}));
 
     connect(search, &QLineEdit::textChanged, this, &MotionPicker::Filter);
     connect(family, qOverload<int>(&QComboBox::activated), this, &MotionPicker::Filter);
@@ -139,15 +113,8 @@ void MotionPicker::Mark()
 
 void MotionPicker::SetRoom(int points)
 {
-    const int rows = 3 * (thumbnailSize.height() + 28);
-    list->setFixedHeight(chosenHeight > 0 ? chosenHeight : qMax(rows, int(points * listShare)));
-}
-
-void MotionPicker::SetListHeight(int points)
-{
-    chosenHeight = qBound(thumbnailSize.height() + 28, points, 2000);
-    QSettings().setValue(heightKey, chosenHeight);
-    SetRoom(0);
+    list->setFixedHeight(chosenHeight > 0 ? chosenHeight
+                                          : qMax(3 * rowHeight, int(points * listShare)));
 }
 
 void MotionPicker::Filter()
@@ -190,6 +157,12 @@ bool MotionPicker::eventFilter(QObject* object, QEvent* event)
 {
     if (object == list->viewport() && event->type() == QEvent::Resize)
         Spread();
+    if (object == handle && event->type() == QEvent::MouseMove) {
+        const QPoint at = static_cast<QMouseEvent*>(event)->globalPos();
+        chosenHeight = qBound(rowHeight, list->mapFromGlobal(at).y(), 2000);
+        QSettings().setValue(heightKey, chosenHeight);
+        SetRoom(0);
+    }
     if (object == search && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Down || key->key() == Qt::Key_Return) {

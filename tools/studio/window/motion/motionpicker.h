@@ -7,6 +7,7 @@
 #include "studio/model/sign.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -24,8 +25,6 @@ public:
     void Show(const model::SignText& text);
     /** Sets the panel's height; the list uses a share of it unless it was resized by hand. */
     void SetRoom(int points);
-    /** Sets the list's height, also for the next start. */
-    void SetListHeight(int points);
     QLineEdit* Search() const { return search; }
     /** All motions; those that are not searched for are hidden. */
     QListWidget* List() const { return list; }
@@ -47,7 +46,8 @@ private:
     QLineEdit* search = new QLineEdit(this);
     QComboBox* family = new QComboBox(this);
     QListWidget* list = new QListWidget(this);
-    int chosenHeight = 0; // logical pixels; 0 until resized by hand
+    QLabel* handle = new QLabel(QStringLiteral("· · · · ·"), this); // resizes the list
+    int chosenHeight = 0; // logical pixels, also for the next start; 0 until resized by hand
     int shownRow = -1;
 };
 

@@ -87,7 +87,6 @@ TextPanel::TextPanel(QWidget* parent)
     editor->setAccessibleName(tr("Text"));
     editor->setPlaceholderText(tr("Type your text"));
     editor->setFixedHeight(88);
-    editor->setFrameShape(QFrame::StyledPanel);
     QPalette dark = editor->palette();
     dark.setColor(QPalette::Base, Qt::black);
     dark.setColor(QPalette::Text, Qt::white);
