@@ -51,17 +51,15 @@ int RunWindow(int argc, char** argv)
         "Studio", "Designs, previews, and exports animated texts for LED signs."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption plugin(
-        "plugin",
-        QCoreApplication::translate("Studio",
-                                    "Plugin library. Default: the one beside this program."),
-        "FILE");
-    parser.addOption(plugin);
+    parser.addOption({"plugin",
+                      QCoreApplication::translate(
+                          "Studio", "Plugin library. Default: the one beside this program."),
+                      "FILE"});
     parser.addPositionalArgument("scene", QCoreApplication::translate("Studio", "Scene to open."),
                                  "[SCENE.json]");
     parser.process(words);
 
-    studio::window::shell::MainWindow window(parser.value(plugin));
+    studio::window::shell::MainWindow window(parser.value("plugin"));
     const QStringList scenes = parser.positionalArguments();
     if (scenes.isEmpty() || !window.Open(scenes.first()))
         window.New();

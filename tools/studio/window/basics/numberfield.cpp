@@ -71,12 +71,10 @@ QSize NumberField::minimumSizeHint() const
 
 void NumberField::wheelEvent(QWheelEvent* event)
 {
-    // Scrolling past a form must not change it.
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
-    QDoubleSpinBox::wheelEvent(event);
+    if (hasFocus())
+        QDoubleSpinBox::wheelEvent(event);
+    else
+        event->ignore(); // scrolling past a form must not change it
 }
 
 void NumberField::focusInEvent(QFocusEvent* event)

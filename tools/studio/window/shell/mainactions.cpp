@@ -198,8 +198,7 @@ void MainWindow::MakePlayMenu()
     // Not shortcuts: the window handles the keys, so that text fields get them first.
     const auto act = [&](const QString& words, const QKeySequence& key, const QString& keyName,
                          const std::function<void()>& does) {
-        playKeys[key] = play->addAction(words + QLatin1Char('\t') + keyName);
-        connect(playKeys[key], &QAction::triggered, this, does);
+        playKeys[key] = Act(play, {words + QLatin1Char('\t') + keyName}, does);
     };
     const auto by = [this](int ticks) {
         return [this, ticks] { playback.Seek(playback.Tick() + ticks); };
@@ -328,19 +327,17 @@ void MainWindow::ChooseNew()
 {
     auto* dialog = MakeDialog("new", tr("New scene"));
     auto* form = new display::DisplayForm(dialog);
-    const QString sizeKey = "newDisplay";
-    const QString alphaKey = "newAlpha";
     const QSettings settings;
-    form->Show(settings.value(sizeKey, model::Sign().display).toSize(),
-               settings.value(alphaKey, true).toBool());
+    form->Show(settings.value("newDisplay", model::Sign().display).toSize(),
+               settings.value("newAlpha", true).toBool());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, dialog);
     buttons->addButton(tr("Create"), QDialogButtonBox::AcceptRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     connect(dialog, &QDialog::accepted, this, [=] {
         QSettings used;
-        used.setValue(sizeKey, form->Size());
-        used.setValue(alphaKey, form->AlphaBlend());
+        used.setValue("newDisplay", form->Size());
+        used.setValue("newAlpha", form->AlphaBlend());
         New(form->Size(), form->AlphaBlend());
     });
     dialog->setLayout(basics::Arrange(Qt::Vertical, 4 * basics::grid, {form, nullptr, buttons},

@@ -4,8 +4,6 @@
 
 #include <QMenu>
 
-#include <algorithm>
-
 namespace AnimText::studio::window::shell {
 
 void MainWindow::Change(const QString& what, const std::function<void(model::Sign*)>& change,
@@ -24,17 +22,13 @@ void MainWindow::AddNewText(bool onNewPage)
         const QSize size(sign->display.width(), onNewPage ? height : qMax(1, height / 2));
         model::SignText text = model::NewText(size, page);
         // In the upper or lower half, if one is free.
-        const auto covers = [&](int y) {
-            const QRect area(QPoint(0, y), size);
-            return std::any_of(sign->texts.begin(), sign->texts.end(),
-                               [&](const model::SignText& other) {
-                                   return other.page == page &&
-                                          area.intersects(QRect(other.node.pos, other.node.size));
-                               });
-        };
-        const int lower = height - size.height();
-        if (covers(0) && !covers(lower))
-            text.node.pos.setY(lower);
+        QRegion covered;
+        for (const model::SignText& other : TextsOf(page))
+            covered += QRect(other.node.pos, other.node.size);
+        const QRect upper(QPoint(0, 0), size);
+        const QRect lower = upper.translated(0, height - size.height());
+        if (covered.intersects(upper) && !covered.intersects(lower))
+            text.node.pos = lower.topLeft();
         model::AddText(sign, text);
         selected = text.id;
     });
@@ -138,10 +132,11 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
 
 QList<model::SignText> MainWindow::TextsOf(int page) const
 {
-    QList<model::SignText> texts = document.Current().texts;
-    const auto isElsewhere = [page](const model::SignText& text) { return text.page != page; };
-    if (page >= 0)
-        texts.erase(std::remove_if(texts.begin(), texts.end(), isElsewhere), texts.end());
+    QList<model::SignText> texts;
+    for (const model::SignText& text : document.Current().texts) {
+        if (page < 0 || text.page == page)
+            texts.append(text);
+    }
     return texts;
 }
 

@@ -195,11 +195,10 @@ void MainWindow::Connect()
     connect(&rehearsal, &worker::Rehearsal::Shown, this, &MainWindow::ShowCalls);
     scenes->installEventFilter(this);
     inspector->Motions()->List()->installEventFilter(this);
-    connect(scenes, &SceneList::Selected, this, &MainWindow::Select);
+    connect(scenes, &SceneList::Selected, this, &MainWindow::SelectOnPage);
     connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
     connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText, Qt::QueuedConnection);
     connect(scenes, &SceneList::PageDropped, this, &MainWindow::PutPage, Qt::QueuedConnection);
-    connect(scenes, &SceneList::PageSelected, this, [this](int page) { SelectOnPage(page, 0); });
     connect(scenes, &SceneList::customContextMenuRequested, this, [this](const QPoint& point) {
         ShowObjectMenu(scenes->viewport()->mapToGlobal(point));
     });
@@ -306,13 +305,12 @@ void MainWindow::Select(int id)
         SelectOnPage(CurrentPage(), id);
 }
 
-/** Selects the text @p id or, if it is 0, none of @p page. */
+/** Selects the text @p id or, if it is 0, none of @p page; a negative page is the current one. */
 void MainWindow::SelectOnPage(int page, int id)
 {
     const int before = CurrentPage();
     selected = id;
-    if (id == 0)
-        shownPage = page;
+    shownPage = page < 0 ? before : page;
     if (before != CurrentPage() && !transport->IsSchedule())
         playback.Seek(0);
     Refresh();
@@ -461,26 +459,20 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event)
     return event->isAccepted();
 }
 
-/** Moves the focus from a field back to the display, where keys move through time. */
-bool MainWindow::LeaveField(int key)
-{
-    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    const bool leaves = key == Qt::Key_Escape ||
-                        (isEnter && qobject_cast<QAbstractSpinBox*>(focusWidget()) != nullptr);
-    if (!leaves || (focusWidget() == view && selected == 0))
-        return false;
-    if (focusWidget() == view)
-        Select(0);
-    view->setFocus();
-    return true;
-}
-
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (view->HandleAreaKey(event->key(), event->modifiers()) || LeaveField(event->key()))
+    const int key = event->key();
+    if (view->HandleAreaKey(key, event->modifiers()))
         return;
+    const bool isNumber = qobject_cast<QAbstractSpinBox*>(focusWidget());
+    const bool leaves =
+        key == Qt::Key_Escape || (isNumber && (key == Qt::Key_Return || key == Qt::Key_Enter));
     const int shift = int(event->modifiers() & Qt::ShiftModifier);
-    if (QAction* action = playKeys.value(event->key() | shift, playKeys.value(event->key())))
+    if (leaves && focusWidget() != view)
+        view->setFocus(); // where keys move through time
+    else if (leaves && selected != 0)
+        Select(0);
+    else if (QAction* action = playKeys.value(key | shift, playKeys.value(key)))
         action->trigger();
     else
         QMainWindow::keyPressEvent(event);
@@ -488,12 +480,11 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::ToggleLoop()
 {
-    if (playback.HasLoop()) {
-        playback.ClearLoop();
-        return;
-    }
     const QPair<int, int> page = timeline->PageAt(playback.Tick());
-    playback.SetLoop(page.first, page.second);
+    if (playback.HasLoop())
+        playback.ClearLoop();
+    else
+        playback.SetLoop(page.first, page.second);
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event)

@@ -108,7 +108,6 @@ private:
     void ZoomBy(int steps, const QPointF& about);
     void ShowZoom();
     void ToggleLoop();
-    bool LeaveField(int key);
     void EditWords(const char* slot);
     /** The texts of @p page; negative for all pages. */
     QList<model::SignText> TextsOf(int page) const;

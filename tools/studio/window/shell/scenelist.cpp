@@ -44,10 +44,8 @@ SceneList::SceneList(QWidget* parent)
     setEditTriggers(QAbstractItemView::DoubleClicked);
     setAccessibleName(tr("Pages and texts"));
     connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (PageOfRow() >= 0)
-            emit PageSelected(PageOfRow());
-        else if (item)
-            emit Selected(IdOf(item));
+        if (item)
+            emit Selected(PageOf(item), IdOf(item));
     });
     connect(this, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem* item) {
         if (IdOf(item) != 0)

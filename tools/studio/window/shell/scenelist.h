@@ -29,8 +29,8 @@ public:
     void Rename(int id);
 
 signals:
-    void Selected(int id);
-    void PageSelected(int page);
+    /** A row: @p id is 0 unless it is a text's, and @p page negative if it is the display's. */
+    void Selected(int page, int id);
     void Renamed(int id, const QString& name);
     // Rows must not be replaced during a drag: connect these queued.
     /** @param place index among the texts of @p page, which may be a new page */
