@@ -152,6 +152,8 @@ QSize PictureView::sizeHint() const
 
 QSize PictureView::minimumSizeHint() const
 {
+    if (fillsRoom && pitch > 0 && zoom == 0 && !picture.isNull())
+        return picture.size() * film::smallestLamp / devicePixelRatioF();
     return zoom > 0 ? sizeHint() : QSize(64, 16);
 }
 
@@ -210,17 +212,10 @@ void PictureView::paintEvent(QPaintEvent* event)
 
 void PictureView::PaintOverlay(QPainter*) {}
 
-void PictureView::resizeEvent(QResizeEvent*)
-{
-    if (Scale() != lastScale)
-        emit ScaleChanged(lastScale = Scale());
-}
-
 void PictureView::LookChanged()
 {
     updateGeometry();
     update();
-    resizeEvent(nullptr);
 }
 
 } // namespace AnimText::live

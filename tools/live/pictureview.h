@@ -24,7 +24,8 @@ class PictureView : public QWidget
 public:
     /**
      * @param fillsRoom whether a fitted picture may use the whole widget: below a scale of 4, where
-     * a whole number would leave a fifth of it unused, its pixels become squares with soft edges
+     * a whole number would leave a fifth of it unused, its pixels become squares with soft edges.
+     * Fitted LEDs then ask for the room that makes them visible.
      */
     explicit PictureView(QWidget* parent = nullptr, bool fillsRoom = false);
 
@@ -60,13 +61,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-signals:
-    /** The scale has changed, with the zoom or with the widget's size. */
-    void ScaleChanged(double scale);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     /** Draws over the picture in the widget's coordinates; see ToWidget(). */
     virtual void PaintOverlay(QPainter* painter);
 
@@ -81,7 +77,6 @@ private:
     QColor surroundings;
     int zoom = 0;
     double pitch = 0;
-    double lastScale = 0;
     bool checkered = false;
     bool dimmed = false;
     const bool fillsRoom;

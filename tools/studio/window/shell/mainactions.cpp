@@ -298,8 +298,6 @@ void MainWindow::ZoomBy(int steps, const QPointF& about)
     const QPointF pixel = view->ToWidget().inverted().map(about);
     const QPointF inView = view->mapToParent(about.toPoint());
     SetZoom(qBound(1, next, largestZoom));
-    QEvent layout(QEvent::LayoutRequest); // resizes the display at once
-    QCoreApplication::sendEvent(scroll, &layout);
     const QPointF now = view->ToWidget().map(pixel);
     scroll->horizontalScrollBar()->setValue(qRound(now.x() - inView.x()));
     scroll->verticalScrollBar()->setValue(qRound(now.y() - inView.y()));
@@ -311,15 +309,15 @@ void MainWindow::SetZoom(int wanted)
     ShowZoom();
 }
 
-/** Zooms as the user wants; but LEDs that would be too small to see are enlarged. */
+/** Zooms as the user wants, but not so far out that LEDs are too small to see. */
 void MainWindow::ShowZoom()
 {
-    const QSignalBlocker blocker(view);
-    view->SetPitch(leds->isChecked() ? pitch : 0);
-    view->SetZoom(zoom);
-    if (leds->isChecked() && !view->Picture().isNull() && view->Scale() < film::smallestLamp)
-        view->SetZoom(film::smallestLamp);
+    const bool asLeds = leds->isChecked();
+    view->SetPitch(asLeds ? pitch : 0);
+    view->SetZoom(zoom > 0 && asLeds ? qMax(zoom, film::smallestLamp) : zoom);
     zoomBox->setCurrentIndex(view->Zoom());
+    QEvent layout(QEvent::LayoutRequest); // resizes the display at once
+    QCoreApplication::sendEvent(scroll, &layout);
 }
 
 /** Asks for the display of a new sign; starts with the values that were used last. */

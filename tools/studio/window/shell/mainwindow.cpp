@@ -157,10 +157,7 @@ void MainWindow::Connect()
     connect(&rehearsal, &worker::Rehearsal::Shown, this, [this](const QImage& picture) {
         dimming.stop();
         view->SetDimmed(false);
-        const bool isResized = view->Picture().size() != picture.size();
         view->SetPicture(picture);
-        if (isResized)
-            ShowZoom();
     });
     connect(&rehearsal, &worker::Rehearsal::Stale, this, [this] {
         timeline->MarkStale();
@@ -207,10 +204,6 @@ void MainWindow::Connect()
     connect(timeline, &time::Timeline::Selected, this, &MainWindow::Select);
     connect(view, &display::DisplayView::Selected, this, &MainWindow::Select);
     connect(view, &display::DisplayView::ZoomWanted, this, &MainWindow::ZoomBy);
-    connect(view, &display::DisplayView::ScaleChanged, this, [this] {
-        if (leds->isChecked())
-            ShowZoom();
-    });
     connect(view, &display::DisplayView::PlayWanted, &playback, &time::Playback::Toggle);
     connect(view, &display::DisplayView::Panned, this, [this](const QPoint& by) {
         scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->value() - by.x());
