@@ -1085,7 +1085,7 @@ void TestWindow::timelineStopsZoomsAndRepeats()
     QCOMPARE(timeline->TickAt(at.x()), 20); // stays under the mouse
     QVERIFY(qAbs((timeline->XOf(21) - timeline->XOf(20)) / width - 4) < 0.01);
     sign.texts.first().node.attributes["PlayTimes"] = 99999; // with its page and all pages
-    window->Transport()->SetSchedule(true);
+    window->Transport()->findChild<QComboBox*>()->setCurrentIndex(1);
     window->GetDocument()->Change("Endless", sign);
     QVERIFY(Settles());
     const QString ends = window->Transport()->findChildren<QLabel*>().at(1)->toolTip();
