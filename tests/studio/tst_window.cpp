@@ -18,6 +18,7 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
+#include <QToolTip>
 #include <QTranslator>
 
 using namespace AnimText;
@@ -604,6 +605,9 @@ void TestWindow::mouseMovesAndSizesAreas()
                              Qt::LeftButton, modifiers);
             QApplication::sendEvent(view, &move);
         }
+        const QSize size = Text().node.size;
+        QVERIFY(
+            QToolTip::text().endsWith(QString("%1 × %2 px").arg(size.width()).arg(size.height())));
         QTest::mouseRelease(view, Qt::LeftButton, Qt::NoModifier, at(to.x(), to.y()));
     };
     drag({512, 64}, {300, 40}, Qt::ControlModifier); // its lower right corner

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -137,8 +138,6 @@ void DisplayView::PaintOverlay(QPainter* painter)
         if (showsRulers || dragging)
             PaintRuler(painter, horizontal, chosen ? chosen->rect : QRect());
     }
-    if (dragging && chosen)
-        PaintMeasures(painter, chosen->rect);
 }
 
 /** Paints a ruler at the upper or left visible edge and marks the extent of @p area on it. */
@@ -176,28 +175,6 @@ void DisplayView::PaintRuler(QPainter* painter, bool horizontal, const QRect& ar
                               int(Qt::AlignHCenter | Qt::TextWrapAnywhere), QString::number(pixel));
         }
     }
-}
-
-/** Paints position and size beside the dragged area. */
-void DisplayView::PaintMeasures(QPainter* painter, const QRect& area) const
-{
-    const QString words = tr("x %1  y %2  ·  %3 × %4 px")
-                              .arg(area.x())
-                              .arg(area.y())
-                              .arg(area.width())
-                              .arg(area.height());
-    painter->setFont(font());
-    QRectF box(QPointF(),
-               QSizeF(fontMetrics().horizontalAdvance(words) + 16, fontMetrics().height() + 8));
-    const QRectF seen = visibleRegion().boundingRect();
-    const QRectF rect = ToWidget().mapRect(QRectF(area));
-    box.moveTopLeft({rect.left(), rect.bottom() + 8});
-    if (box.bottom() > seen.bottom())
-        box.moveBottom(qMin(rect.top(), seen.bottom()) - 8);
-    box.moveLeft(qBound(seen.left(), box.left(), qMax(seen.left(), seen.right() - box.width())));
-    painter->fillRect(box, palette().color(QPalette::ToolTipBase));
-    painter->setPen(palette().color(QPalette::ToolTipText));
-    painter->drawText(box, Qt::AlignCenter, words);
 }
 
 void DisplayView::mousePressEvent(QMouseEvent* event)
@@ -248,6 +225,14 @@ void DisplayView::mouseMoveEvent(QMouseEvent* event)
         if (frame && frame->rect != rect)
             emit AreaChanged(selected, rect, gesture);
         update();
+        const QPointF below = ToWidget().map(QPointF(rect.bottomLeft() + QPoint(0, 1)));
+        QToolTip::showText(mapToGlobal(below.toPoint()),
+                           tr("x %1  y %2  ·  %3 × %4 px")
+                               .arg(rect.x())
+                               .arg(rect.y())
+                               .arg(rect.width())
+                               .arg(rect.height()),
+                           this);
         return;
     }
     const int under = FrameAt(point);

@@ -75,7 +75,6 @@ private:
     QPair<int, int> Dragged(int begin, int end, bool horizontal, int by, bool snaps);
     int Snapped(int place, bool horizontal);
     void PaintRuler(QPainter* painter, bool horizontal, const QRect& area) const;
-    void PaintMeasures(QPainter* painter, const QRect& area) const;
 
     QVector<AreaFrame> frames;
     int selected = 0;

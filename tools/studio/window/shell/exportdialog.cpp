@@ -51,6 +51,7 @@ ExportDialog::ExportDialog(const model::Sign& sign, const QString& scenePath, co
     browse->setText(tr("…"));
     browse->setToolTip(tr("Choose the file"));
     browse->setAccessibleName(browse->toolTip());
+    forecast->setWordWrap(true);
     basics::PrepareCommand(command);
     state->setWordWrap(true);
     state->setTextInteractionFlags(Qt::TextBrowserInteraction);

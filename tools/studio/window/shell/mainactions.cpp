@@ -58,8 +58,19 @@ void MainWindow::MakeFileMenu()
         if (!path.isEmpty())
             Leave([this, path] { Open(path); });
     }));
-    recent = file->addMenu(tr("Open &recent"));
-    connect(recent, &QMenu::aboutToShow, this, &MainWindow::ShowRecent);
+    QMenu* recent = file->addMenu(tr("Open &recent"));
+    recent->setToolTipsVisible(true);
+    connect(recent, &QMenu::aboutToShow, this, [=] {
+        recent->clear();
+        for (const QString& path : QSettings().value("recent").toStringList()) {
+            const auto open = [=] { Leave([=] { Open(path); }); };
+            QAction* action = Act(recent, {QFileInfo(path).fileName()}, open);
+            action->setToolTip(path);
+            action->setEnabled(QFileInfo::exists(path));
+        }
+        if (recent->isEmpty())
+            recent->addAction(tr("No recent scenes"))->setEnabled(false);
+    });
     file->addSeparator();
     saveAction = Act(file, {tr("&Save"), QKeySequence::Save, "document-save"}, [this] { Save(); });
     tools->addAction(saveAction);
@@ -152,7 +163,7 @@ void MainWindow::MakeViewMenu()
         connect(action, &QAction::toggled, view, act);
         return action;
     };
-    leds = toggle({tr("&LEDs"), Ctrl(Qt::Key_L), "lamps"}, [this] { ShowZoom(); });
+    leds = toggle({tr("&LEDs"), Ctrl(Qt::Key_L), "lamps"}, [this] { SetZoom(zoom); });
     leds->setObjectName("leds");
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
     QMenu* distances = look->addMenu(tr("LED &pitch"));
@@ -163,7 +174,7 @@ void MainWindow::MakeViewMenu()
         QAction* action = Act(distances, {words}, [=] {
             pitch = diameters;
             leds->setChecked(true);
-            ShowZoom();
+            SetZoom(zoom);
         });
         action->setCheckable(true);
         action->setChecked(diameters == pitch);
@@ -303,15 +314,10 @@ void MainWindow::ZoomBy(int steps, const QPointF& about)
     scroll->verticalScrollBar()->setValue(qRound(now.y() - inView.y()));
 }
 
+/** Zooms as the user wants, but not so far out that LEDs are too small to see. */
 void MainWindow::SetZoom(int wanted)
 {
     zoom = wanted;
-    ShowZoom();
-}
-
-/** Zooms as the user wants, but not so far out that LEDs are too small to see. */
-void MainWindow::ShowZoom()
-{
     const bool asLeds = leds->isChecked();
     view->SetPitch(asLeds ? pitch : 0);
     view->SetZoom(zoom > 0 && asLeds ? qMax(zoom, film::smallestLamp) : zoom);
@@ -394,21 +400,6 @@ void MainWindow::Leave(const std::function<void()>& then)
                      {{tr("Save"), save}, {tr("Don't save"), then}, {tr("Cancel"), {}}});
         notices->Offers().first()->setFocus();
     }
-}
-
-void MainWindow::ShowRecent()
-{
-    recent->clear();
-    for (const QString& path : QSettings().value("recent").toStringList()) {
-        QAction* action = recent->addAction(QFileInfo(path).fileName());
-        action->setToolTip(path);
-        action->setEnabled(QFileInfo::exists(path));
-        connect(action, &QAction::triggered, this,
-                [this, path] { Leave([this, path] { Open(path); }); });
-    }
-    recent->setToolTipsVisible(true);
-    if (recent->isEmpty())
-        recent->addAction(tr("No recent scenes"))->setEnabled(false);
 }
 
 void MainWindow::AddRecent(const QString& path)

@@ -102,11 +102,9 @@ private:
     void ShowExport();
     QDialog* MakeDialog(const QString& name, const QString& title);
     void ShowKeys();
-    void ShowRecent();
     void AddRecent(const QString& path);
     void SetZoom(int zoom);
     void ZoomBy(int steps, const QPointF& about);
-    void ShowZoom();
     void ToggleLoop();
     void EditWords(const char* slot);
     /** The texts of @p page; negative for all pages. */
@@ -153,7 +151,6 @@ private:
     QDockWidget* integratorDock = new QDockWidget(tr("Integrator"), this);
     QToolBar* tools = addToolBar(tr("Tools"));
     QComboBox* zoomBox = nullptr;
-    QMenu* recent = nullptr;
     QAction* leds = nullptr;
     QAction* saveAction = nullptr;
     QAction* exportAction = nullptr;
