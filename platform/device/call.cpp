@@ -7,31 +7,13 @@ namespace {
 CallLog callLog = 0;
 void* callLogContext = 0;
 
-qint64& CounterOf(Misuse misuse)
-{
-    switch (misuse) {
-    case ZeroHandle: return Counters().zeroHandle;
-    case StaleHandle: return Counters().staleHandle;
-    case WrongDisplay: return Counters().wrongDisplay;
-    case BadLayer: return Counters().badLayer;
-    case BadArgument: break;
-    }
-    return Counters().badArgument;
-}
-
-const char* NameOf(Misuse misuse)
-{
-    switch (misuse) {
-    case ZeroHandle: return "zeroHandle";
-    case StaleHandle: return "staleHandle";
-    case WrongDisplay: return "wrongDisplay";
-    case BadLayer: return "badLayer";
-    case BadArgument: break;
-    }
-    return "badArgument";
-}
-
 } // namespace
+
+const Misuse ZeroHandle = {"zeroHandle", &Accounting::zeroHandle};
+const Misuse StaleHandle = {"staleHandle", &Accounting::staleHandle};
+const Misuse WrongDisplay = {"wrongDisplay", &Accounting::wrongDisplay};
+const Misuse BadLayer = {"badLayer", &Accounting::badLayer};
+const Misuse BadArgument = {"badArgument", &Accounting::badArgument};
 
 void SetCallLog(CallLog log, void* context)
 {
@@ -39,10 +21,13 @@ void SetCallLog(CallLog log, void* context)
     callLogContext = context;
 }
 
-Call::Call(Operation operation)
+Call::Call(Operation operation, PicDisplay givenDisplay, PicSession givenSession)
     : CallRecord(operation)
     , faulted(TakeFault(operation))
 {
+    display = givenDisplay;
+    session = givenSession;
+    result = operation == OpCreatePictureSession || operation == OpGeteffectDuration ? 0 : -1;
     ++Counters().calls[operation];
     if (faulted) {
         ++Counters().injectedFaults;
@@ -50,28 +35,10 @@ Call::Call(Operation operation)
     }
 }
 
-void Call::SetImage(const PicImage* given)
+void Call::Reject(const Misuse& misuse)
 {
-    hasImage = given;
-    image = given ? *given : PicImage();
-}
-
-void Call::SetEffect(const Effect* given)
-{
-    hasEffect = given;
-    effect = given ? *given : Effect();
-}
-
-void Call::SetPlacement(const PicPlacement* given)
-{
-    hasPlacement = given;
-    placement = given ? *given : PicPlacement();
-}
-
-void Call::Reject(Misuse misuse)
-{
-    ++CounterOf(misuse);
-    problem = NameOf(misuse);
+    ++(Counters().*misuse.counter);
+    problem = misuse.name;
 }
 
 void Call::Refuse()
@@ -80,29 +47,7 @@ void Call::Refuse()
     problem = "refused";
 }
 
-int Call::Answer(int answer)
-{
-    result = answer;
-    Log();
-    return answer;
-}
-
-PicSession Call::AnswerHandle(PicSession answer)
-{
-    result = answer;
-    Log();
-    return answer;
-}
-
-char* Call::AnswerBuffer(char* buffer, int index)
-{
-    // The index of the buffer; addresses differ from run to run.
-    result = buffer ? index : -1;
-    Log();
-    return buffer;
-}
-
-void Call::Log() const
+Call::~Call()
 {
     if (callLog)
         callLog(callLogContext, *this);

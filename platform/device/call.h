@@ -10,36 +10,38 @@
 
 namespace Torv {
 
-/** What a caller can do wrong; each has its counter. */
-enum Misuse { ZeroHandle, StaleHandle, WrongDisplay, BadLayer, BadArgument };
+/** What a caller can do wrong. */
+struct Misuse
+{
+    const char* name; ///< of its counter
+    qint64 Accounting::*counter;
+};
+extern const Misuse ZeroHandle, StaleHandle, WrongDisplay, BadLayer, BadArgument;
 
 class Call : public CallRecord
 {
 public:
-    explicit Call(Operation operation);
-
-    /** The records among the arguments; each may be null. */
-    void SetImage(const PicImage* given);
-    void SetEffect(const Effect* given);
-    void SetPlacement(const PicPlacement* given);
+    explicit Call(Operation operation, PicDisplay display = 0, PicSession session = 0);
+    /** Logs the call with its answer, which is that of a failure until one is set. */
+    ~Call();
 
     /** Whether the call fails on demand. */
     bool IsFaulted() const { return faulted; }
 
     /** Counts a mistake of the caller's. */
-    void Reject(Misuse misuse);
+    void Reject(const Misuse& misuse);
     /** Counts a request for more than there is. */
     void Refuse();
 
-    /** Each logs the call and returns its first argument. */
-    int Answer(int answer);
-    PicSession AnswerHandle(PicSession answer);
-    /** @param index which of the layer's two buffers it is */
-    char* AnswerBuffer(char* buffer, int index);
+    /** Sets and returns what the call returns. */
+    template <typename T>
+    T Answer(T answer)
+    {
+        result = answer;
+        return answer;
+    }
 
 private:
-    void Log() const;
-
     bool faulted;
 };
 

@@ -73,7 +73,6 @@ Session* SessionStore::Create()
     slot.generation = slot.generation == LastGeneration ? 1 : slot.generation + 1;
     slot.session.reset(new Session());
     slot.session->handle = slot.generation << SlotBits | index;
-    ++liveSessions;
     return slot.session.get();
 }
 
@@ -100,7 +99,6 @@ int SessionStore::AddLayer(Session* session, std::unique_ptr<Layer> layer)
 void SessionStore::Free(Session* session)
 {
     Hide(session);
-    --liveSessions;
     for (size_t i = 0; i < session->layers.size(); ++i) {
         --liveLayers;
         liveBytes -= 2 * session->layers[i]->BufferBytes();

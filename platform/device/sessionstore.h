@@ -78,7 +78,7 @@ public:
     /** In the order in which they were shown. */
     QList<Session*> OnDisplay(PicDisplay display) const;
 
-    int LiveSessions() const { return liveSessions; }
+    int LiveSessions() const { return int(slotTable.size() - freeSlots.size()); }
     int LiveLayers() const { return liveLayers; }
     /** Of all layers, both buffers. */
     qint64 LiveBytes() const { return liveBytes; }
@@ -103,7 +103,6 @@ private:
     QList<Session*> shown;
     QList<PicDisplay> displays;
     PicDisplay lastDisplay = 0;
-    int liveSessions = 0;
     int liveLayers = 0;
     qint64 liveBytes = 0;
     qint64 peakBytes = 0;

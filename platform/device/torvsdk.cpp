@@ -24,38 +24,66 @@ SessionStore& Store()
     return SessionStore::Instance();
 }
 
-/** The live session; null, with the mistake counted, if there is none or the call fails on demand.
+/** Copies what is given. */
+template <typename Record>
+bool Take(const Record* given, Record& copy)
+{
+    if (given)
+        copy = *given;
+    return given;
+}
+
+/**
+ * The call's live session, on its display unless the call has none; null, with the mistake counted,
+ * if there is none or the call fails on demand.
  */
-Session* FindSession(Call& call, PicSession handle)
+Session* FindSession(Call& call)
 {
     if (call.IsFaulted())
         return 0;
-    Session* const session = Store().Find(handle);
+    Session* const session = Store().Find(call.session);
     if (!session)
-        call.Reject(handle == 0 ? Torv::ZeroHandle : Torv::StaleHandle);
+        call.Reject(call.session == 0 ? Torv::ZeroHandle : Torv::StaleHandle);
     return session;
 }
 
-/** The same for a session that is on @p display. */
-Session* FindSession(Call& call, PicDisplay display, PicSession handle)
+/** The same for a session that must be on the call's display. */
+Session* FindShownSession(Call& call)
 {
-    Session* const session = FindSession(call, handle);
-    if (session && (display == 0 || session->display != display)) {
+    Session* const session = FindSession(call);
+    if (session && (call.display == 0 || session->display != call.display)) {
         call.Reject(Torv::WrongDisplay);
         return 0;
     }
     return session;
 }
 
-Layer* FindLayer(Call& call, PicDisplay display, PicSession handle, int index)
+Layer* FindLayer(Call& call)
 {
-    Session* const session = FindSession(call, display, handle);
+    Session* const session = FindShownSession(call);
     if (!session)
         return 0;
-    Layer* const layer = session->FindLayer(index);
+    Layer* const layer = session->FindLayer(call.layer);
     if (!layer)
         call.Reject(Torv::BadLayer);
     return layer;
+}
+
+/** Null if it is not @p isSane, with the mistake counted. */
+template <typename T>
+T* Checked(Call& call, T* found, bool isSane)
+{
+    if (!found || isSane)
+        return found;
+    call.Reject(Torv::BadArgument);
+    return 0;
+}
+
+/** The buffer to paint; addresses differ from run to run, so the log has its number. */
+char* AnswerBack(Call& call, const Layer& layer)
+{
+    call.result = layer.Back() ? layer.BackIndex() : -1;
+    return layer.Back();
 }
 
 bool AreRowsSane(int width, int height, int bytesPerLine, int bytesPerPixel)
@@ -93,22 +121,22 @@ PicSession CreatePictureSession(int type, const PicImage* image, int flags, cons
 {
     Call call(Torv::OpCreatePictureSession);
     call.type = type;
-    call.SetImage(image);
+    call.hasImage = Take(image, call.image);
     call.flags = flags;
-    call.SetEffect(effect);
-    call.SetPlacement(placement);
+    call.hasEffect = Take(effect, call.effect);
+    call.hasPlacement = Take(placement, call.placement);
     call.pixelWord = pixelWord;
     if (call.IsFaulted())
-        return call.AnswerHandle(0);
+        return 0;
     if (!IsCreationSane(type, image, flags, effect, placement)) {
         call.Reject(Torv::BadArgument);
-        return call.AnswerHandle(0);
+        return 0;
     }
 
     Session* const session = Store().Create();
     if (!session) {
         call.Refuse();
-        return call.AnswerHandle(0);
+        return 0;
     }
     session->type = type;
     session->effect = *effect;
@@ -119,26 +147,24 @@ PicSession CreatePictureSession(int type, const PicImage* image, int flags, cons
         0) {
         Store().Free(session);
         call.Refuse();
-        return call.AnswerHandle(0);
+        return 0;
     }
     const Layer& base = *session->layers[0];
     for (int buffer = 0; buffer < 2 && !base.IsEmpty(); ++buffer)
         std::memcpy(base.memory.Buffer(buffer), image->bits, size_t(base.BufferBytes()));
-    return call.AnswerHandle(session->handle);
+    return call.Answer(session->handle);
 }
 
 int AddPictureSession(PicDisplay display, PicSession session, int reserved)
 {
-    Call call(Torv::OpAddPictureSession);
-    call.display = display;
-    call.session = session;
+    Call call(Torv::OpAddPictureSession, display, session);
     call.reserved = reserved;
-    Session* const found = FindSession(call, session);
+    Session* const found = FindSession(call);
     if (!found)
-        return call.Answer(-1);
+        return -1;
     if (found->display != 0 || !Store().HasDisplay(display)) {
         call.Reject(Torv::WrongDisplay);
-        return call.Answer(-1);
+        return -1;
     }
     Store().Show(found, display, Torv::Now());
     return call.Answer(0);
@@ -147,19 +173,17 @@ int AddPictureSession(PicDisplay display, PicSession session, int reserved)
 int PicAppendImageLayer(PicDisplay display, PicSession session, int width, int height,
                         int bytesPerLine, unsigned int pixelWord)
 {
-    Call call(Torv::OpPicAppendImageLayer);
-    call.display = display;
-    call.session = session;
+    Call call(Torv::OpPicAppendImageLayer, display, session);
     call.width = width;
     call.height = height;
     call.bytesPerLine = bytesPerLine;
     call.pixelWord = pixelWord;
-    Session* const found = FindSession(call, display, session);
+    Session* const found = FindShownSession(call);
     if (!found)
-        return call.Answer(-1);
+        return -1;
     if (!AreRowsSane(width, height, bytesPerLine, found->BytesPerPixel())) {
         call.Reject(Torv::BadArgument);
-        return call.Answer(-1);
+        return -1;
     }
     const int index = Store().AddLayer(found, NewLayer(width, height, bytesPerLine, pixelWord));
     if (index < 0)
@@ -169,78 +193,55 @@ int PicAppendImageLayer(PicDisplay display, PicSession session, int width, int h
 
 char* GetPicImageLayerPtr(PicDisplay display, PicSession session, int layer, int mode)
 {
-    Call call(Torv::OpGetPicImageLayerPtr);
-    call.display = display;
-    call.session = session;
+    Call call(Torv::OpGetPicImageLayerPtr, display, session);
     call.layer = layer;
     call.mode = mode;
-    const Layer* const found = FindLayer(call, display, session, layer);
-    if (!found)
-        return call.AnswerBuffer(0, 0);
-    if (mode != ForWriting) {
-        call.Reject(Torv::BadArgument);
-        return call.AnswerBuffer(0, 0);
-    }
-    return call.AnswerBuffer(found->Back(), found->BackIndex());
+    const Layer* const found = Checked(call, FindLayer(call), mode == ForWriting);
+    return found ? AnswerBack(call, *found) : 0;
 }
 
 char* SwapPicImageLayerPtr(PicDisplay display, PicSession session, int layer)
 {
-    Call call(Torv::OpSwapPicImageLayerPtr);
-    call.display = display;
-    call.session = session;
+    Call call(Torv::OpSwapPicImageLayerPtr, display, session);
     call.layer = layer;
-    Layer* const found = FindLayer(call, display, session, layer);
+    Layer* const found = FindLayer(call);
     if (!found)
-        return call.AnswerBuffer(0, 0);
+        return 0;
     found->Swap();
-    return call.AnswerBuffer(found->Back(), found->BackIndex());
+    return AnswerBack(call, *found);
 }
 
 int SetPicLayerBlend(PicDisplay display, PicSession session, int layer, int value)
 {
-    Call call(Torv::OpSetPicLayerBlend);
-    call.display = display;
-    call.session = session;
+    Call call(Torv::OpSetPicLayerBlend, display, session);
     call.layer = layer;
     call.value = value;
-    Layer* const found = FindLayer(call, display, session, layer);
+    Layer* const found = Checked(call, FindLayer(call), value >= 0 && value <= 2);
     if (!found)
-        return call.Answer(-1);
-    if (value < 0 || value > 2) {
-        call.Reject(Torv::BadArgument);
-        return call.Answer(-1);
-    }
+        return -1;
     found->blend = value;
     return call.Answer(0);
 }
 
 int RemovePictureSession(PicDisplay display, PicSession session)
 {
-    Call call(Torv::OpRemovePictureSession);
-    call.display = display;
-    call.session = session;
-    Session* const found = FindSession(call, display, session);
+    Call call(Torv::OpRemovePictureSession, display, session);
+    Session* const found = FindShownSession(call);
     if (!found)
-        return call.Answer(-1);
+        return -1;
     Store().Hide(found);
     return call.Answer(0);
 }
 
 int FreePictureSession(PicSession session)
 {
-    Call call(Torv::OpFreePictureSession);
-    call.session = session;
-    if (call.IsFaulted()) {
-        // The caller cannot free it again, so the session is freed whatever this returns.
-        if (Session* const found = Store().Find(session))
-            Store().Free(found);
-        return call.Answer(-1);
-    }
-    Session* const found = FindSession(call, session);
-    if (!found)
-        return call.Answer(-1);
-    Store().Free(found);
+    Call call(Torv::OpFreePictureSession, 0, session);
+    // The caller cannot free it again, so on demand it fails and the session is freed all the same.
+    Session* const found = call.IsFaulted() ? Store().Find(session) : FindSession(call);
+    if (found)
+        Store().Free(found);
+    if (!found || call.IsFaulted())
+        return -1;
     return call.Answer(0);
 }
 
@@ -253,7 +254,7 @@ int GeteffectDuration(int length, int areaHeight, int effectCode, int speedIndex
     call.speedIndex = speedIndex;
     const bool scrolls = effectCode == Torv::ScrollLeft || effectCode == Torv::ScrollRight;
     if (call.IsFaulted() || !scrolls)
-        return call.Answer(0);
+        return 0;
 
     const double tick = 66.0; // milliseconds
     const double speed = double(speedIndex) + 1;

@@ -8,8 +8,6 @@ HContentNode::HContentNode(QObject* parent)
 {
 }
 
-HContentNode::~HContentNode() {}
-
 int HContentNode::Level()
 {
     return 4; // below program, page and area

@@ -20,7 +20,6 @@ class HContentNode : public HNode
 
 public:
     explicit HContentNode(QObject* parent = 0);
-    ~HContentNode() override;
 
     int Level() override;
     /** Of the node's area. */

@@ -7,8 +7,6 @@ HEffectNode::HEffectNode(QObject* parent)
 {
 }
 
-HEffectNode::~HEffectNode() {}
-
 int HEffectNode::GetHoldTime() const
 {
     return holdTime;

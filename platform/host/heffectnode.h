@@ -16,7 +16,6 @@ class HEffectNode : public HContentNode
 
 public:
     explicit HEffectNode(QObject* parent = 0);
-    ~HEffectNode() override;
 
     /** In units of 100 ms; 0 and below: no hold. */
     int GetHoldTime() const;

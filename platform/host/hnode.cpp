@@ -9,47 +9,10 @@ HNode::HNode(QObject* parent)
 {
 }
 
-HNode::~HNode() {}
-
-bool HNode::UpdateNode(QDomElement&, QList<FileInfo>&)
-{
-    return false;
-}
-
-HNode* HNode::Copy()
-{
-    return 0;
-}
-
 void HNode::Delete()
 {
     deleteLater();
 }
-
-void HNode::Close(bool) {}
-
-bool HNode::Generator(QString, QList<HSendFileInfo>&)
-{
-    return false;
-}
-
-bool HNode::Export(QString)
-{
-    return false;
-}
-
-bool HNode::Import(QString)
-{
-    return false;
-}
-
-void HNode::NodeAlready() {}
-
-void HNode::ControllerChange() {}
-
-void HNode::InitData() {}
-
-void HNode::SDKInitData(void*) {}
 
 void HNode::ReloadAtrrbute(HNode* from)
 {

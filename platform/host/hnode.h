@@ -27,21 +27,20 @@ class HNode : public HData
 
 public:
     explicit HNode(QObject* parent = 0);
-    ~HNode() override;
 
     // Saving, sending and copying are for the host; here they do nothing and return false or null.
-    virtual bool UpdateNode(QDomElement& element, QList<FileInfo>& files);
-    virtual HNode* Copy();
+    virtual bool UpdateNode(QDomElement&, QList<FileInfo>&) { return false; }
+    virtual HNode* Copy() { return 0; }
     /** Deletes the node when control returns to the event loop. */
     virtual void Delete();
-    virtual void Close(bool save);
-    virtual bool Generator(QString path, QList<HSendFileInfo>& files);
-    virtual bool Export(QString path);
-    virtual bool Import(QString path);
-    virtual void NodeAlready();
-    virtual void ControllerChange();
-    virtual void InitData();
-    virtual void SDKInitData(void* data);
+    virtual void Close(bool) {}
+    virtual bool Generator(QString, QList<HSendFileInfo>&) { return false; }
+    virtual bool Export(QString) { return false; }
+    virtual bool Import(QString) { return false; }
+    virtual void NodeAlready() {}
+    virtual void ControllerChange() {}
+    virtual void InitData() {}
+    virtual void SDKInitData(void*) {}
     /** Copies every attribute, list and file of @p from. */
     virtual void ReloadAtrrbute(HNode* from);
     /** Play time in milliseconds; here the sum of the children's, 0 without any. */
