@@ -25,14 +25,6 @@ const QMap<QString, QString>& Aliases()
     return aliases;
 }
 
-/** Motions of the same kind have the same layout. */
-int Kind(const scene::NodeMotion& motion)
-{
-    return motion.IsScroll()                  ? motion.IsSideways() ? 3 : 2
-           : motion.Traits() & scene::FromEnd ? 1
-                                              : 0;
-}
-
 /**
  * Whether a text that was laid out for another motion also suits one of these traits. Text that is
  * aligned is out of its places where nothing turns, and ends its pages with wide spaces.
@@ -66,8 +58,10 @@ QString ChangeMotion(const scene::Scene& scene, scene::SceneNode* node, const QS
     const scene::NodeMotion next{scroll ? scene::Mode::Scroll : scene::Mode::Entrance,
                                  motion->number};
     const scene::NodeMotion now = scene::MotionOf(*node);
+    const scene::MotionTraits different = next.Traits() ^ now.Traits();
     const QString pathFile = scene.FullName(node->files.value("PathData"));
-    if (Kind(next) != Kind(now) || !Suits(next.Traits() & ~now.Traits(), *node, pathFile))
+    if (next.IsScroll() != now.IsScroll() || different & (scene::FromEnd | scene::Sideways) ||
+        !Suits(next.Traits() & different, *node, pathFile))
         return QStringLiteral("%1 needs another layout; use animtext author --replace")
             .arg(QLatin1String(motion->name));
     node->attributes[key] = motion->number;
