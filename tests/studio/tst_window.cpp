@@ -134,6 +134,11 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     window->GetDocument()->Undo()->undo();
     QVERIFY(Text().Title() != "Mind the gap"); // typing was one step
     QVERIFY(!window->GetDocument()->Undo()->canUndo());
+    Type("a");
+    window->GetInspector()->Text()->findChildren<QToolButton*>().at(1)->click(); // bold
+    window->GetDocument()->Undo()->undo();
+    Type("b");
+    QCOMPARE(window->GetDocument()->Undo()->count(), 2); // typing goes on in a new step
     QVERIFY(window->Open(path));
     QCOMPARE(scene::MotionOf(Text().node).number, 5);
     QCOMPARE(window->GetInspector()->Text()->Editor()->toPlainText(), QString("Mind the gap"));
