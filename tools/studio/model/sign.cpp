@@ -13,7 +13,6 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <atomic>
 #include <tuple>
 
 namespace AnimText::studio::model {
@@ -23,6 +22,12 @@ const QString pathData = "PathData";
 const QString descentVector = "DescentVector";
 const QStringList dataKeys{pathData, descentVector};
 const QString textKey = "Text";
+
+int NewTextId()
+{
+    static int last = 0;
+    return ++last;
+}
 
 /** The layout that is stored in the scene. */
 std::shared_ptr<const Layout> LayoutIn(const scene::Scene& scene, const scene::SceneNode& node,
@@ -112,12 +117,6 @@ bool Sign::IsLaidOut() const
 {
     return std::all_of(texts.begin(), texts.end(),
                        [](const SignText& text) { return text.IsLaidOut(); });
-}
-
-int NewTextId()
-{
-    static std::atomic<int> last{0};
-    return ++last;
 }
 
 SignText NewText(const QSize& area, int page)

@@ -64,9 +64,6 @@ struct Sign
     bool IsLaidOut() const;
 };
 
-/** A text id that is unique in this process. */
-int NewTextId();
-
 /** A sample text in a common font, for a new area on @p page. */
 SignText NewText(const QSize& area, int page);
 

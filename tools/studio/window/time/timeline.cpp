@@ -18,6 +18,7 @@ constexpr int rulerHeight = 24; // logical pixels, as all sizes here
 constexpr int rowHeight = 24;
 constexpr int titleWidth = 128;
 constexpr int rightMargin = 16;
+constexpr int numberDistance = 56; // between the numbers of the ruler
 constexpr int inset = 4;
 constexpr double deepestZoom = 64;
 constexpr int ticksUnmeasured = 60; // shown while the timing is unknown
@@ -25,16 +26,6 @@ constexpr int ticksUnmeasured = 60; // shown while the timing is unknown
 double TicksOf(qint64 milliseconds)
 {
     return double(milliseconds) / player::tickLength;
-}
-
-/** Seconds between the ruler's numbers, so that they do not overlap. */
-double RulerStep(double pointsPerSecond)
-{
-    for (double step : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 30.0, 60.0, 120.0, 300.0}) {
-        if (step * pointsPerSecond >= 56)
-            return step;
-    }
-    return 600;
 }
 
 /** Number of the row's pages before its second play. */
@@ -231,7 +222,9 @@ void Timeline::PaintRuler(QPainter* painter) const
     painter->setFont(basics::TabularFont(font(), -1));
     const double seconds = Ticks() * player::tickLength / 1000.0;
     const double perSecond = (XOf(Ticks()) - XOf(0)) / std::max(0.1, seconds);
-    const double step = RulerStep(perSecond);
+    double step = 0.1; // seconds: 0.1, 0.2, 0.5, 1, 2, 5, ...
+    for (int i = 0; step * perSecond < numberDistance; ++i)
+        step *= i % 3 == 1 ? 2.5 : 2;
     const int small = step * perSecond / 5 >= 6 ? 5 : 2;
     for (int i = 0; i * step / small <= seconds + 0.001; ++i) {
         const double x = std::round(XOf(TicksOf(qint64(1000 * i * step / small))));
