@@ -735,6 +735,14 @@ void TestWindow::fixesFindings()
     window->GetDocument()->Change("Settings", sign);
     studio::window::findings::FindingsList* list = window->Findings();
     QTRY_VERIFY_WITH_TIMEOUT(list->Count() >= 4, patience);
+    sign.texts.first().node.attributes["AnimationSpeed"] = 13;
+    window->GetDocument()->Change("Speed", sign);
+    const auto saysSo = [&] {
+        const QList<QLabel*> labels = list->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [](QLabel* label) { return label->toolTip().contains("13"); });
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(saysSo(), patience);
     for (int steps = 0; list->Count() > 0 && steps < 8; ++steps) {
         const int before = list->Count();
         list->ApplyFix(0);

@@ -166,7 +166,7 @@ void FindingsList::Show(const QList<validate::Finding>& findings, const model::S
     }
     emit CountChanged(rows.size());
     const auto same = [](const Row& a, const Row& b) {
-        return a.id == b.id && a.words == b.words && a.fix.words == b.fix.words;
+        return a.id == b.id && a.words == b.words && a.why == b.why && a.fix.words == b.fix.words;
     };
     if (std::equal(rows.begin(), rows.end(), before.begin(), before.end(), same) && list->count())
         return; // rebuilding would take the focus from a button
