@@ -291,7 +291,7 @@ std::shared_ptr<const Layout> MakeLayout(const SignText& text)
 {
     author::TextSource source = text.source;
     auto layout = std::make_shared<Layout>();
-    layout->key = LayoutKey(text);
+    layout->key = text.layoutKey;
     if (source.text.text.trimmed().isEmpty()) {
         layout->data = {{pathData, layout::PathFile({})}, {descentVector, layout::DescentFile({})}};
         for (const QString& list : scene::ListKeys())

@@ -91,7 +91,7 @@ void ResizeDisplay(Sign* sign, const QSize& display);
 /** A key of the settings that the layout of @p text depends on. */
 QByteArray LayoutKey(const SignText& text);
 
-/** Lays out @p text. Runs in any thread; needs a QGuiApplication. */
+/** Lays out @p text, whose key is set. Runs in any thread; needs a QGuiApplication. */
 std::shared_ptr<const Layout> MakeLayout(const SignText& text);
 
 /**
