@@ -69,34 +69,21 @@ QSize NumberField::minimumSizeHint() const
     return {std::min(largest.width(), common + arrows), largest.height()};
 }
 
-void NumberField::wheelEvent(QWheelEvent* event)
-{
-    if (hasFocus())
-        QDoubleSpinBox::wheelEvent(event);
-    else
-        event->ignore(); // scrolling past a form must not change it
-}
-
-void NumberField::focusInEvent(QFocusEvent* event)
-{
-    typing = event->reason() != Qt::MouseFocusReason; // a press gives the focus before it is seen
-    QDoubleSpinBox::focusInEvent(event);
-}
-
-void NumberField::focusOutEvent(QFocusEvent* event)
-{
-    ++gesture;
-    typing = false;
-    QDoubleSpinBox::focusOutEvent(event);
-}
-
 bool NumberField::event(QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
+    if (event->type() == QEvent::FocusIn) {
+        // A press gives the focus before it is seen.
+        typing = static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason;
+    } else if (event->type() == QEvent::FocusOut) {
+        ++gesture;
+        typing = false;
+    } else if (event->type() == QEvent::Wheel && !hasFocus()) {
+        event->ignore(); // scrolling past a form must not change it
+        return true;
+    } else if (event->type() == QEvent::ShortcutOverride && valueFromText(text()) == value()) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        const bool isTyping = valueFromText(text()) != value();
-        if (!isTyping && (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))) {
-            event->ignore(); // the window undoes
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore(); // the window undoes, unless a number is being typed
             return true;
         }
     }

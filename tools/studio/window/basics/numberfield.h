@@ -34,9 +34,6 @@ signals:
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     int perUnit = 1;

@@ -40,8 +40,7 @@ DisplayForm::DisplayForm(QWidget* parent)
     layout->addRow(tr("Width"), width);
     layout->addRow(tr("Height"), height);
     layout->addRow(QString(), alpha);
-    for (QWidget* field : QList<QWidget*>{presets, width, height})
-        layout->labelForField(field)->setMinimumWidth(basics::LabelWidth(font()));
+    layout->labelForField(presets)->setMinimumWidth(basics::LabelWidth(font()));
     connect(presets, qOverload<int>(&QComboBox::activated), this, [this] {
         const QSize size = presets->currentData().toSize();
         if (!size.isValid())

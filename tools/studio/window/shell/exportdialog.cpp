@@ -124,10 +124,9 @@ worker::ExportSettings ExportDialog::Settings() const
 void ExportDialog::FormatChosen()
 {
     QString path = output->text();
-    for (const film::FilmKind& kind : film::FilmKinds()) {
-        if (path.endsWith(QLatin1String(kind.ending)))
-            path.chop(int(qstrlen(kind.ending)));
-    }
+    const film::FilmKind* kind = film::FilmKindOf(path);
+    if (kind && path.endsWith(QLatin1String(kind->ending), Qt::CaseInsensitive))
+        path.chop(int(qstrlen(kind->ending)));
     output->setText(path + format->currentData().toString());
 }
 
