@@ -1011,10 +1011,8 @@ void TestWindow::exportsPartsAndLeds()
     window->GetPlayback()->Seek(30);
     QVERIFY(Settles());
     studio::window::shell::ExportView view;
-    view.tick = 30;
-    view.loopFirst = 28;
-    view.loopLast = 32;
-    view.length = window->GetPlayback()->Length();
+    view.playback = window->GetPlayback();
+    window->GetPlayback()->SetLoop(28, 32);
     const auto exports = [&](int extent, bool lamps, const char* name) {
         studio::window::shell::ExportDialog dialog(window->GetDocument()->Current(), QString(),
                                                    QString(), view);

@@ -288,12 +288,10 @@ void DisplayView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier) {
         live::PictureView::keyPressEvent(event);
-        return;
+    } else if (!event->isAutoRepeat()) {
+        spaceHeld = true;
+        hasPanned = false;
     }
-    if (event->isAutoRepeat())
-        return;
-    spaceHeld = true;
-    hasPanned = false;
 }
 
 void DisplayView::keyReleaseEvent(QKeyEvent* event)

@@ -38,12 +38,15 @@ ExportDialog::ExportDialog(const model::Sign& sign, const QString& scenePath, co
         return basics::SecondsText(qint64(tick) * player::tickLength);
     };
     extent->addItem(tr("All of it"), QPoint(0, -1));
-    if (view.loopFirst >= 0)
-        extent->addItem(
-            tr("The loop, %1 to %2").arg(seconds(view.loopFirst), seconds(view.loopLast + 1)),
-            QPoint(view.loopFirst, view.loopLast));
-    if (view.tick >= 0)
-        extent->addItem(tr("This picture, tick %1").arg(view.tick), QPoint(view.tick, view.tick));
+    if (view.playback && view.playback->HasLoop()) {
+        const QPoint loop(view.playback->LoopBegin(), view.playback->LoopEnd());
+        extent->addItem(tr("The loop, %1 to %2").arg(seconds(loop.x()), seconds(loop.y() + 1)),
+                        loop);
+    }
+    if (view.playback) {
+        const int tick = view.playback->Tick();
+        extent->addItem(tr("This picture, tick %1").arg(tick), QPoint(tick, tick));
+    }
     extent->setAccessibleName(tr("What is exported"));
     lamps->setChecked(view.lamps);
     output->setAccessibleName(tr("File"));
@@ -130,17 +133,12 @@ void ExportDialog::FormatChosen()
     output->setText(path + format->currentData().toString());
 }
 
-bool ExportDialog::IsOnePicture() const
-{
-    const QPoint range = extent->currentData().toPoint();
-    return range.x() == range.y();
-}
-
 void ExportDialog::ExtentChosen()
 {
     const film::FilmKind* kind = film::FilmKindOf(output->text());
-    if (IsOnePicture() != (kind && kind->Has(film::FilmKind::Still))) {
-        format->setCurrentIndex(IsOnePicture() ? format->findData(".png") : 0);
+    const bool isPicture = Settings().first == Settings().last;
+    if (isPicture != (kind && kind->Has(film::FilmKind::Still))) {
+        format->setCurrentIndex(isPicture ? format->findData(".png") : 0);
         FormatChosen();
     }
     Refresh();
@@ -152,7 +150,8 @@ QString ExportDialog::ForecastOf(const worker::ExportSettings& settings) const
     const QSize size = sign.display * settings.scale;
     const QString pixels = tr("%1 × %2 px").arg(size.width()).arg(size.height());
     const bool isPart = settings.last >= 0;
-    const int pictures = isPart ? settings.last - settings.first + 1 : view.length;
+    const int length = view.playback ? view.playback->Length() : 0; // 0 if it is not known
+    const int pictures = isPart ? settings.last - settings.first + 1 : length;
     if (isPart && pictures == 1)
         return pixels;
     if (pictures == 0)
@@ -183,12 +182,11 @@ void ExportDialog::Refresh()
     lossless->setToolTip(lossless->isEnabled() ? QString() : tr("This format loses colors."));
     // One picture is a PNG, and a PNG is one picture.
     const bool isStill = has(film::FilmKind::Still);
-    const int picture = extent->findData(QPoint(view.tick, view.tick));
-    if (kind && isStill != IsOnePicture() && picture >= 0)
-        extent->setCurrentIndex(isStill ? picture : 0);
+    if (kind && isStill != (Settings().first == Settings().last) && view.playback)
+        extent->setCurrentIndex(isStill ? extent->count() - 1 : 0);
     forecast->setText(ForecastOf(Settings()));
     start->setText(tr("Export"));
-    start->setEnabled(kind && (!isStill || picture >= 0) && !sign.texts.isEmpty() &&
+    start->setEnabled(kind && (!isStill || view.playback) && !sign.texts.isEmpty() &&
                       !exporting.IsRunning());
     command->setText(
         worker::RenderCommandLine(scenePath.isEmpty() ? "sign.json" : scenePath, Settings()));

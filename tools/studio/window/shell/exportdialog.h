@@ -5,6 +5,7 @@
 #pragma once
 
 #include "studio/model/sign.h"
+#include "studio/window/time/playback.h"
 #include "studio/worker/exporting.h"
 #include "studio/worker/scenefolder.h"
 
@@ -19,15 +20,12 @@
 
 namespace AnimText::studio::window::shell {
 
-/** What is looked at in the window, in ticks of the play that is exported. */
+/** What is looked at in the window. */
 struct ExportView
 {
-    int tick = -1;      ///< negative when the play that is looked at is another one
-    int loopFirst = -1; ///< negative for no range
-    int loopLast = -1;
-    int length = 0;     ///< ticks of all; 0 when it is not known
-    double pitch = 1.5; ///< of lamps, in their diameters
-    bool lamps = false; ///< whether they are shown
+    const time::Playback* playback = nullptr; ///< null when it plays less than is exported
+    double pitch = 1.5;                       ///< of lamps, in their diameters
+    bool lamps = false;                       ///< whether they are shown
     bool schedule = false;
 };
 
@@ -59,7 +57,6 @@ public slots:
 
 private:
     worker::ExportSettings Settings() const;
-    bool IsOnePicture() const;
     void FormatChosen();
     void ExtentChosen();
     void Refresh();

@@ -366,19 +366,10 @@ bool MainWindow::Save(bool elsewhere)
 
 void MainWindow::ShowExport()
 {
-    ExportView seen;
     // Exporting plays all pages, so its ticks are not those of a single page.
-    if (transport->IsSchedule() || document.Current().PageCount() < 2) {
-        seen.tick = playback.Tick();
-        seen.length = playback.Length();
-        if (playback.HasLoop()) {
-            seen.loopFirst = playback.LoopBegin();
-            seen.loopLast = playback.LoopEnd();
-        }
-    }
-    seen.schedule = transport->IsSchedule();
-    seen.pitch = pitch;
-    seen.lamps = leds->isChecked();
+    const bool isAll = transport->IsSchedule() || document.Current().PageCount() < 2;
+    const ExportView seen{isAll ? &playback : nullptr, pitch, leds->isChecked(),
+                          transport->IsSchedule()};
     auto* dialog = new ExportDialog(document.Current(), document.Path(), plugin, seen, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
