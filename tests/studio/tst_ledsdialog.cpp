@@ -116,6 +116,7 @@ private slots:
             dialog.Show(picture);
             QVERIFY(!receiver.hasPendingDatagrams());
         }
+        studio::window::shell::MainWindow(QString()).close(); // writes its own settings
         QCOMPARE(studio::window::display::LedsDialog(QSize(1, 1), QString()).Address(),
                  address + "/color-order=BGR"); // remembered for next time
     }

@@ -12,7 +12,6 @@ namespace AnimText::studio::window::display {
 
 namespace {
 
-const char settingsKey[] = "leds";
 constexpr int mostDrawn = 8; // LEDs per side; a larger matrix is drawn with this size
 
 /** Draws the data line over the picture, from a ring at the first LED to an arrow at the last. */
@@ -92,7 +91,7 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
     setLayout(basics::Arrange(Qt::Vertical, 3 * basics::grid, {upper, lower, state, buttons},
                               4 * basics::grid));
     setMinimumWidth(720);
-    SetAddress(QSettings().value(QLatin1String(settingsKey)).toString());
+    SetAddress(QSettings().value("ledsAddress").toString());
 
     for (QComboBox* box : findChildren<QComboBox*>())
         connect(box, qOverload<int>(&QComboBox::currentIndexChanged), this, &LedsDialog::Change);
@@ -310,7 +309,7 @@ void LedsDialog::Open()
         state->setText(error);
         return;
     }
-    QSettings().setValue(QLatin1String(settingsKey), Address());
+    QSettings().setValue("ledsAddress", Address());
     state->setText(tr("The LEDs show what the studio shows."));
     Refresh();
     Show(picture);
