@@ -88,14 +88,16 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
     const model::Sign& sign = document.Current();
     const int page = scenes->PageOfRow();
     const model::SignText* text = sign.Find(selected);
+    const auto add = [this](QMenu* to, const QString& words, bool isPossible, const auto& act) {
+        Act(to, {words}, act)->setEnabled(isPossible);
+    };
     if (page >= 0) {
         Act(menu, {tr("Add text")}, [this] { AddNewText(false); });
         Act(menu, {tr("Duplicate page")}, [this] { DuplicateSelected(); });
         menu->addSeparator();
-        Act(menu, {tr("Move page up")}, [=] { PutPage(page, page - 1); })->setEnabled(page > 0);
-        Act(menu, {tr("Move page down")}, [=] {
-            PutPage(page, page + 2);
-        })->setEnabled(page + 1 < sign.PageCount());
+        const bool isLast = page + 1 == sign.PageCount();
+        add(menu, tr("Move page up"), page > 0, [=] { PutPage(page, page - 1); });
+        add(menu, tr("Move page down"), !isLast, [=] { PutPage(page, page + 2); });
         menu->addSeparator();
         Act(menu, {tr("Remove page")}, [this] { RemoveSelected(); });
     } else if (text) {
@@ -106,21 +108,17 @@ void MainWindow::ShowObjectMenu(const QPoint& global)
         Act(menu, {tr("Rename")}, [=] { scenes->Rename(id); });
         Act(menu, {tr("Duplicate text")}, [this] { DuplicateSelected(); });
         menu->addSeparator();
-        Act(menu, {tr("Bring to front")}, [=] {
-            PutText(id, own, INT_MAX);
-        })->setEnabled(id != all.last().id);
-        Act(menu, {tr("Send to back")}, [=] {
-            PutText(id, own, 0);
-        })->setEnabled(id != all.first().id);
+        const bool isTop = id == all.last().id;
+        add(menu, tr("Bring to front"), !isTop, [=] { PutText(id, own, INT_MAX); });
+        add(menu, tr("Send to back"), id != all.first().id, [=] { PutText(id, own, 0); });
         QMenu* pages = menu->addMenu(tr("Move to page"));
         for (int to = 0; to < sign.PageCount(); ++to) {
             QString title = SceneList::PageTitle(sign, to);
             title.replace(QLatin1Char('&'), QLatin1String("&&"));
-            Act(pages, {title}, [=] { PutText(id, to, INT_MAX); })->setEnabled(to != own);
+            add(pages, title, to != own, [=] { PutText(id, to, INT_MAX); });
         }
-        Act(pages, {tr("New page")}, [=, to = sign.PageCount()] {
-            PutText(id, to, 0);
-        })->setEnabled(all.size() > 1);
+        const int last = sign.PageCount();
+        add(pages, tr("New page"), all.size() > 1, [=] { PutText(id, last, 0); });
         menu->addSeparator();
         Act(menu, {tr("Remove text")}, [this] { RemoveSelected(); });
     } else {

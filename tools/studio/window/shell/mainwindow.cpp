@@ -41,8 +41,7 @@ MainWindow::MainWindow(const QString& plugin)
     setDockNestingEnabled(true);
     dimming.setSingleShot(true);
     dimming.setInterval(dimmingDelay);
-    MakeCenter();
-    MakeDocks();
+    MakePanes();
     MakeFileMenu();
     MakeEditMenu();
     MakeViewMenu();
@@ -70,16 +69,14 @@ MainWindow::~MainWindow()
         part->disconnect(this);
 }
 
-void MainWindow::MakeCenter()
+/** The display above its time, with the docks around them. */
+void MainWindow::MakePanes()
 {
     view->SetSurroundings(surroundings);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus); // the display inside has the focus
     scroll->setWidgetResizable(true);
     scroll->setWidget(view);
-    // Both would scroll on keys that move through time.
-    scroll->installEventFilter(this);
-    timeline->installEventFilter(this);
     tools->setObjectName("tools");
     tools->setMovable(false);
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -92,10 +89,7 @@ void MainWindow::MakeCenter()
     center->setStretchFactor(0, 1);
     center->setCollapsible(0, false);
     setCentralWidget(center);
-}
 
-void MainWindow::MakeDocks()
-{
     const auto add = [this](QDockWidget* dock, const QString& name, QWidget* widget,
                             Qt::DockWidgetArea area) {
         dock->setObjectName(name);
@@ -190,8 +184,9 @@ void MainWindow::Connect()
             Qt::QueuedConnection);
     connect(integrator, &form::IntegratorView::LibraryChosen, this, &MainWindow::CompareWith);
     connect(&rehearsal, &worker::Rehearsal::Shown, this, &MainWindow::ShowCalls);
-    scenes->installEventFilter(this);
-    inspector->Motions()->List()->installEventFilter(this);
+    // They would scroll, or move in themselves, on keys that move through time.
+    for (QObject* taker : QList<QObject*>{scroll, timeline, scenes, inspector->Motions()->List()})
+        taker->installEventFilter(this);
     connect(scenes, &SceneList::Selected, this, &MainWindow::SelectOnPage);
     connect(scenes, &SceneList::Renamed, this, &MainWindow::Rename);
     connect(scenes, &SceneList::TextDropped, this, &MainWindow::PutText, Qt::QueuedConnection);

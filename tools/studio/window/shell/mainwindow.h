@@ -65,8 +65,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void MakeCenter();
-    void MakeDocks();
+    void MakePanes();
     void MakeFileMenu();
     void MakeEditMenu();
     void MakeViewMenu();
