@@ -119,16 +119,10 @@ void DisplayView::PaintOverlay(QPainter* painter)
         const QRectF rect = map.mapRect(QRectF(frame.rect)).adjusted(-1, -1, 0, 0);
         painter->setPen(QPen(isSelected ? accent : QColor(160, 160, 160, 160), 1,
                              isSelected ? Qt::SolidLine : Qt::DashLine));
-        painter->setBrush(Qt::NoBrush);
         painter->drawRect(rect);
-        if (!isSelected)
-            continue;
-        painter->setBrush(accent);
-        painter->setPen(Qt::NoPen);
-        for (const QPointF& corner :
-             {rect.topLeft(), rect.topRight(), rect.bottomLeft(), rect.bottomRight()})
-            painter->drawRect(
-                QRectF(corner.x() - handle / 2.0, corner.y() - handle / 2.0, handle, handle));
+        painter->setPen(QPen(accent, handle, Qt::SolidLine, Qt::SquareCap));
+        if (isSelected)
+            painter->drawPoints(QPolygonF(rect)); // its corners
     }
     painter->setPen(magenta);
     for (const QLine& guide : guides)
