@@ -1,6 +1,6 @@
 #include "files/failure.h"
 #include "film/film.h"
-#include "film/filmfile.h"
+#include "film/videofile.h"
 #include "player/plugin.h"
 #include "scene/attributes.h"
 #include "scene/catalog.h"
@@ -369,7 +369,7 @@ private slots:
         try {
             film::WriteVideo(
                 files.Path("still.webp"), *film::FilmKindOf("still.webp"),
-                {QSize(8, 8), 0, 1, false, false}, [](film::FilmStage, const film::TakePicture&) {},
+                {QSize(8, 8), 1, false, false}, [](film::FilmStage, const film::TakePicture&) {},
                 [] {}, 100);
         } catch (const files::Failure& failure) {
             message = failure.message;

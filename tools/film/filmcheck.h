@@ -4,7 +4,7 @@
  */
 #pragma once
 
-#include "film/filmfile.h"
+#include "film/videofile.h"
 
 namespace AnimText::film {
 
