@@ -69,17 +69,16 @@ private:
             return;
         generation = order.measures ? 0 : order.generation;
         started = false;
-        player.reset(); // releases the display's clock
         QString error = pluginError;
         Timing timing;
-        bool isDone = plugin && scene::ReadSceneText(order.scene, order.path, &scene, &error,
-                                                     scene::MissingFiles::AreAccepted);
-        if (isDone) {
-            player = std::make_unique<player::Player>(dispatcher, plugin);
+        bool isDone = plugin &&
+                      scene::ReadSceneText(order.scene, order.path, &scene, &error,
+                                           scene::MissingFiles::AreAccepted) &&
+                      Load(&error);
+        if (isDone && order.measures) {
             const auto watch = [this](int) { return !Receive(false) && !ended; };
-            isDone = order.measures ? MeasureTiming(player.get(), scene, order.part.schedule, watch,
-                                                    &timing, &error)
-                                    : player->Load(scene, &error);
+            isDone =
+                MeasureTiming(player.get(), scene, order.part.schedule, watch, &timing, &error);
         }
         if (order.measures || !isDone)
             player.reset();
@@ -88,16 +87,19 @@ private:
     }
 
     /** With a new player, because some state survives a restart. */
+    bool Load(QString* error)
+    {
+        player.reset(); // releases the display's clock
+        player = std::make_unique<player::Player>(dispatcher, plugin);
+        return player->Load(scene, error);
+    }
+
     void Restart()
     {
         QString error;
-        if (started) {
+        if (started && !Load(&error)) {
             player.reset();
-            player = std::make_unique<player::Player>(dispatcher, plugin);
-            if (!player->Load(scene, &error)) {
-                player.reset();
-                return;
-            }
+            return;
         }
         Torv::ClearFaults();
         for (const QPair<qint32, qint32>& fault : order.part.faults)
