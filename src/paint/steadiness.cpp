@@ -15,7 +15,6 @@ namespace HNodeAnimationText {
 
 namespace {
 
-const float farthest = 1 << 15;   // of coordinates that are checked
 const float everywhere = 1 << 24; // from here on floats do not even hold all whole numbers
 const float units = 1 << 25;      // in the largest coordinate
 
@@ -26,8 +25,7 @@ float ExactWithin(double v)
     const int64_t bits = static_cast<int64_t>(v * finest);
     if (double(bits) != v * finest)
         return 0;
-    const float within = everywhere / float(finest) * float(bits & -bits);
-    return bits == 0 ? everywhere : std::min(everywhere, within);
+    return bits == 0 ? everywhere : everywhere / float(finest) * float(bits & -bits);
 }
 
 /** A coordinate as it would be without rounding. */
@@ -115,7 +113,7 @@ float Decisions::FlatWithin(const SteadyPoint* p, bool& isFlat)
     const float error =
         std::max(std::max(p[0].error, p[1].error), std::max(p[2].error, p[3].error));
     isFlat = true;
-    double within[2] = {double(farthest), 0}; // if it is flat, if it is not
+    double within[2] = {double(everywhere), 0}; // if it is flat, if it is not
     for (int i = 1; i < 3; ++i) {
         const double x = p[3].x.v - p[i].x.v;
         const double y = p[3].y.v - p[i].y.v;
@@ -174,7 +172,7 @@ Steadiness Decisions::Found() const
     for (float* within : all) {
         int exponent = 0;
         std::frexp(*within, &exponent);
-        *within = *within >= 1 ? std::ldexp(0.5f, exponent) : 0;
+        *within = std::ldexp(0.5f, exponent);
     }
     return steadiness;
 }
@@ -183,9 +181,6 @@ Steadiness Decisions::Found() const
 
 Steadiness SteadinessOf(const Outline& outline)
 {
-    for (size_t i = 0; i < outline.Size(); ++i)
-        if (!(std::fabs(outline.At(i).x) < farthest && std::fabs(outline.At(i).y) < farthest))
-            return Steadiness();
     Decisions decisions;
     decisions.Add(outline);
     return decisions.Found();

@@ -10,7 +10,8 @@ class Outline;
 
 /**
  * How far out a closed outline is the same, pixel by pixel, whole pixels away from its origin: as
- * long as no coordinate is less than 0 or more than these. In pixels; 0 where that is nowhere.
+ * long as no coordinate is less than 0 or more than these. In pixels; below 1 where that is
+ * nowhere.
  */
 struct Steadiness
 {
@@ -25,7 +26,7 @@ struct Steadiness
     float flat;
 };
 
-/** Takes almost as long as painting the outline. */
+/** Of an outline of finite numbers. Takes almost as long as painting it. */
 Steadiness SteadinessOf(const Outline& outline);
 
 } // namespace HNodeAnimationText

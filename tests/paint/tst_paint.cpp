@@ -124,6 +124,7 @@ class TestPaint : public QObject
 
 private slots:
     void outlinesAreTheDevices();
+    void curvesThatStandStillAreCutOtherwiseAlongEachAxis();
     void transformsAreTheDevices();
     void glyphsArePaintedAsTheirPath();
     void aMoveAloneJoinsTheGlyphBefore();
@@ -162,6 +163,31 @@ void TestPaint::outlinesAreTheDevices()
     differences.removeAll(QString());
     QVERIFY2(differences.isEmpty(), qPrintable(differences.mid(0, 9).join('\n')));
     QVERIFY(!table.isEmpty());
+}
+
+// Where a curve stands still along x without turning, the device counts that point for the curve's
+// bounds; along y it does not. Of an outline that is far out, what is beyond them is not cut.
+void TestPaint::curvesThatStandStillAreCutOtherwiseAlongEachAxis()
+{
+    const auto inkOf = [](const QVector<Point>& p) {
+        Outline curve;
+        curve.MoveTo(p[0].x, p[0].y);
+        curve.CurveTo(p[1].x, p[1].y, p[2].x, p[2].y, p[3].x, p[3].y);
+        curve.LineTo(p[0].x, p[0].y);
+        curve.MoveTo(-40000, 0);
+        curve.LineTo(-40000, 8);
+        curve.LineTo(-40008, 8);
+        TextCanvas canvas;
+        canvas.SetSize(64, 32);
+        canvas.DrawPath(curve);
+        int pixels = 0;
+        for (int i = 0; i < 64 * 32; ++i)
+            pixels += canvas.Ink().Has(i % 64, i / 64);
+        return pixels;
+    };
+    const float third = 16 / 3.f;
+    QCOMPARE(inkOf({{16, -4 * third}, {80, 64}, {16, 13 * third}, {80, -third}}), 747);
+    QCOMPARE(inkOf({{-4 * third, 0}, {96, 96}, {19 * third, 0}, {-third, 96}}), 25);
 }
 
 void TestPaint::transformsAreTheDevices()
