@@ -79,7 +79,7 @@ QByteArray Summary(const QString& path, const author::AuthoredNode& text)
         .toUtf8();
 }
 
-int WriteScene(const cli::CommandLine& line)
+void WriteScene(const cli::CommandLine& line)
 {
     author::AuthorRequest request = shared::ReadRequest(line);
     // Ctrl+C must not leave the data files of half a change.
@@ -95,7 +95,6 @@ int WriteScene(const cli::CommandLine& line)
     WarnOfFindings(authored.stored.findings);
     shared::WarnOfCut(authored.stored.scene, authored.stored.scene.At(authored.place));
     cli::Print(Summary(request.path, authored.text));
-    return files::Done;
 }
 
 } // namespace

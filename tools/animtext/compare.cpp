@@ -53,29 +53,28 @@ void Keep(const QImage& picture, const QString& path)
     cli::Print(path.toUtf8() + '\n');
 }
 
-int Report(const compare::Difference& difference, const compare::Recording& a,
-           const compare::Recording& b)
+/** Prints where two recordings differ; the command ends then, after @p save. */
+void Report(const compare::Difference& difference, const compare::Recording& a,
+            const compare::Recording& b, const std::function<void()>& save = {})
 {
-    if (difference.words.isEmpty()) {
-        cli::Print(QStringLiteral("%1 and %2 agree: %3 calls, %4 pictures\n")
-                       .arg(a.name, b.name)
-                       .arg(a.hasCalls ? a.All().size() : 0)
-                       .arg(std::min(a.Pictures(), b.Pictures()))
-                       .toUtf8());
-        return files::Done;
-    }
-    cli::Print(QStringLiteral("%1 and %2 differ: %3\n")
-                   .arg(a.name, b.name, Tell(difference, a, b))
-                   .toUtf8());
-    return files::FailedRun;
+    const QString names = QStringLiteral("%1 and %2 ").arg(a.name, b.name);
+    if (difference.words.isEmpty())
+        return cli::Print((names + QStringLiteral("agree: %1 calls, %2 pictures\n")
+                                       .arg(a.hasCalls ? a.All().size() : 0)
+                                       .arg(std::min(a.Pictures(), b.Pictures())))
+                              .toUtf8());
+    cli::Print((names + "differ: " + Tell(difference, a, b) + '\n').toUtf8());
+    if (save)
+        save();
+    cli::EndWith(files::FailedRun);
 }
 
 /**
  * Plays a scene on the desktop to compare it with a recording. Saves both pictures that differ, and
  * their difference, if the recording has the pixels.
  */
-int CompareWithScene(const cli::CommandLine& line, const QString& log, const QString& scenePath,
-                     qint64 tolerance)
+void CompareWithScene(const cli::CommandLine& line, const QString& log, const QString& scenePath,
+                      qint64 tolerance)
 {
     const scene::Scene scene = shared::OpenPlayableScene(line, scenePath);
     const std::unique_ptr<player::Player> player = shared::PlayerOf(line, scene);
@@ -88,21 +87,20 @@ int CompareWithScene(const cli::CommandLine& line, const QString& log, const QSt
     const compare::Recording played =
         compare::PlayOnDesk(player.get(), shared::SeedOf(line), &recorded, &differing);
     const compare::Difference difference = compare::FirstDifference(recorded, played, tolerance);
-    const int status = Report(difference, recorded, played);
-    const int number = difference.isPicture
-                           ? recorded.sessions.at(difference.session).at(difference.call).pixels
-                           : -1;
-    if (number < 0)
-        return status;
-    const QImage desk = differing.value(difference.session);
-    const QImage device = compare::ReadPam(QStringLiteral("%1-%2.pam").arg(log).arg(number));
-    const QDir folder(line.IsSet("output") ? line.Value("output") : QFileInfo(log).path());
-    files::MakeFolder(folder.path());
-    const QString base = folder.filePath(QFileInfo(log).completeBaseName());
-    Keep(device, base + "-device.png");
-    Keep(desk, base + "-desk.png");
-    Keep(compare::DifferenceOf(device, desk), base + "-difference.png");
-    return status;
+    Report(difference, recorded, played, [&] {
+        const int number =
+            recorded.sessions.value(difference.session).value(difference.call).pixels;
+        if (!difference.isPicture || number < 0)
+            return;
+        const QImage desk = differing.value(difference.session);
+        const QImage device = compare::ReadPam(QStringLiteral("%1-%2.pam").arg(log).arg(number));
+        const QDir folder(line.IsSet("output") ? line.Value("output") : QFileInfo(log).path());
+        files::MakeFolder(folder.path());
+        const QString base = folder.filePath(QFileInfo(log).completeBaseName());
+        Keep(device, base + "-device.png");
+        Keep(desk, base + "-desk.png");
+        Keep(compare::DifferenceOf(device, desk), base + "-difference.png");
+    });
 }
 
 compare::Ticks Play(const cli::CommandLine& line, const scene::Scene& scene, int last)
@@ -136,7 +134,7 @@ QVector<cli::Option> FolderOptions()
 }
 
 /** Plays the scenes of @p folder and compares, or records, what they show. */
-int CompareFolder(const cli::CommandLine& line, const QString& folder)
+void CompareFolder(const cli::CommandLine& line, const QString& folder)
 {
     const QDir dir(folder);
     const QDir scenes(dir.exists("scenes") ? dir.filePath("scenes") : folder);
@@ -171,16 +169,17 @@ int CompareFolder(const cli::CommandLine& line, const QString& folder)
     }
     if (!records) {
         cli::Print(tally.Table());
-        return tally.IsEqual() ? files::Done : files::FailedRun;
+        if (!tally.IsEqual())
+            cli::EndWith(files::FailedRun);
+        return;
     }
     QString error;
     files::FailUnless(files::WriteWhole(file, compare::ExpectationText(expected), &error), error);
     cli::Print(
         QStringLiteral("%1: %2 scenes, %3 ticks\n").arg(file).arg(played).arg(ticks).toUtf8());
-    return files::Done;
 }
 
-int Compare(const cli::CommandLine& line)
+void Compare(const cli::CommandLine& line)
 {
     const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Get<double>("tolerance"));
     const QString first = line.Arguments().at(0);

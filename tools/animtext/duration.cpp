@@ -188,14 +188,13 @@ void PrintTable(const cli::CommandLine& line, const scene::Scene& scene)
     cli::Print(text.toUtf8());
 }
 
-int PrintDuration(const cli::CommandLine& line)
+void PrintDuration(const cli::CommandLine& line)
 {
     const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
     if (line.IsSet("table"))
         PrintTable(line, scene);
     else
         PrintTimes(line, scene);
-    return files::Done;
 }
 
 } // namespace

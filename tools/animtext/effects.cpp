@@ -50,21 +50,18 @@ QList<scene::Motion> Found(const QList<scene::Motion>& motions, const QString& s
     return found;
 }
 
-int ListEffects(const cli::CommandLine& line)
+void ListEffects(const cli::CommandLine& line)
 {
     const QString search = line.Arguments().join(QLatin1Char(' '));
     const QList<scene::Motion> effects = Found(scene::Effects(), search);
     const QList<scene::Motion> scrolls = Found(scene::Scrolls(), search);
     files::FailUnless(!effects.isEmpty() || !scrolls.isEmpty(),
                       QStringLiteral("no motion matches \"%1\"").arg(search));
-    if (line.IsSet("json")) {
-        cli::Print(
+    if (line.IsSet("json"))
+        return cli::Print(
             QJsonDocument({{"effects", ToJson(effects)}, {"scrolls", ToJson(scrolls)}}).toJson());
-        return files::Done;
-    }
     const QByteArray gap = effects.isEmpty() || scrolls.isEmpty() ? "" : "\n";
     cli::Print(ToTable("effect", effects) + gap + ToTable("scroll", scrolls));
-    return files::Done;
 }
 
 } // namespace

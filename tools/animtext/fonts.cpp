@@ -8,7 +8,7 @@ namespace AnimText::animtext {
 
 namespace {
 
-int Fonts(const cli::CommandLine& line)
+void Fonts(const cli::CommandLine& line)
 {
     const QString filter = line.Arguments().value(0);
     const QStringList families = scene::FontFamilies(filter);
@@ -18,7 +18,6 @@ int Fonts(const cli::CommandLine& line)
             QStringLiteral("no installed font family contains \"%1\"%2")
                 .arg(filter, scene::DidYouMeanOneOf(filter, scene::FontFamilies()))};
     cli::Print(families.join(QLatin1Char('\n')).toUtf8() + '\n');
-    return files::Done;
 }
 
 } // namespace

@@ -36,7 +36,7 @@ QString WordsOf(const cli::Command& command, const cli::CommandLine& line)
     return words.join(QLatin1Char(' '));
 }
 
-int MakeGallery(const cli::CommandLine& line)
+void MakeGallery(const cli::CommandLine& line)
 {
     gallery::GalleryOptions options;
     options.words = WordsOf(GalleryCommand(), line);
@@ -65,7 +65,6 @@ int MakeGallery(const cli::CommandLine& line)
                    .arg(options.folder)
                    .arg(double(bytes) / 1e6, 0, 'f', 1)
                    .toUtf8());
-    return files::Done;
 }
 
 } // namespace

@@ -62,7 +62,7 @@ QByteArray AsText(const scene::Scene& scene)
     return text.toUtf8();
 }
 
-int List(const cli::CommandLine& line)
+void List(const cli::CommandLine& line)
 {
     const QString path = line.Arguments().first();
     scene::Scene scene;
@@ -70,7 +70,6 @@ int List(const cli::CommandLine& line)
     files::FailUnless(scene::ReadScene(path, &scene, &error, scene::MissingFiles::AreAccepted),
                       error, files::BadInput);
     cli::Print(line.IsSet("json") ? AsJson(scene) : AsText(scene));
-    return files::Done;
 }
 
 } // namespace

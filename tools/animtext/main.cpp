@@ -42,18 +42,15 @@ const cli::Command& FindCommand(const QString& name)
                           .arg(name, scene::DidYouMean(name, Names(Commands())))};
 }
 
-int Help(const cli::CommandLine& line)
+void Help(const cli::CommandLine& line)
 {
-    if (line.IsSet("man")) {
-        cli::WriteManual(Commands(), line.Value("man"));
-        return files::Done;
-    }
+    if (line.IsSet("man"))
+        return cli::WriteManual(Commands(), line.Value("man"));
     const QString name = line.Arguments().value(0);
     cli::Print(name.isEmpty() ? cli::Overview(Commands()) : cli::HelpText(FindCommand(name)));
-    return files::Done;
 }
 
-int Complete(const cli::CommandLine& line)
+void Complete(const cli::CommandLine& line)
 {
     const QString shell = line.Arguments().first();
     cli::RefuseIf(!shells.contains(shell),
@@ -61,7 +58,6 @@ int Complete(const cli::CommandLine& line)
     cli::Print(shell == "bash"  ? cli::CompletionForBash(Commands())
                : shell == "zsh" ? cli::CompletionForZsh(Commands())
                                 : cli::CompletionForFish(Commands()));
-    return files::Done;
 }
 
 const QVector<cli::Command>& Commands()
@@ -107,13 +103,11 @@ const QVector<cli::Command>& Commands()
     return commands;
 }
 
-int Run(QString name, const QStringList& words)
+void Run(QString name, const QStringList& words)
 {
     cli::RefuseIf(name.isEmpty(), "expected a command");
-    if (name == QLatin1String("--version")) {
-        cli::Print("animtext " ANIMTEXT_VERSION "\n");
-        return files::Done;
-    }
+    if (name == QLatin1String("--version"))
+        return cli::Print("animtext " ANIMTEXT_VERSION "\n");
     if (name == QLatin1String("--help") || name == QLatin1String("-h"))
         name = "help";
     const cli::Command& command = FindCommand(name);
@@ -122,7 +116,6 @@ int Run(QString name, const QStringList& words)
         if (!line.IsSet("help"))
             return command.run(line);
         cli::Print(cli::HelpText(command));
-        return files::Done;
     } catch (const cli::Misuse& misuse) {
         throw files::Failure{files::BadInput,
                              QStringLiteral("%1 (see animtext help %2)")
@@ -133,14 +126,15 @@ int Run(QString name, const QStringList& words)
 int RunAndReport(const QStringList& words)
 {
     try {
-        const int status = Run(words.value(0), words.mid(1));
+        Run(words.value(0), words.mid(1));
         cli::FlushOutput();
-        return status;
+        return files::Done;
     } catch (const cli::Misuse& misuse) {
         cli::Warn(misuse.message + " (see animtext help)");
         return files::BadInput;
     } catch (const files::Failure& failure) {
-        cli::Warn(failure.message);
+        if (!failure.message.isEmpty())
+            cli::Warn(failure.message);
         return cli::Interrupted() ? cli::InterruptionStatus() : failure.status;
     }
 }

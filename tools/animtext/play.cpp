@@ -44,7 +44,7 @@ QByteArray Report(const live::Punctuality& kept)
         .toUtf8();
 }
 
-int PlayLive(const cli::CommandLine& line)
+void PlayLive(const cli::CommandLine& line)
 {
     shared::CheckLightOptions(line);
     const bool hasWindow = !line.IsSet("to") || line.IsSet("window");
@@ -107,7 +107,6 @@ int PlayLive(const cli::CommandLine& line)
     if (line.IsSet("timing"))
         cli::Print(Report(player.Kept()) + lights.Report());
     cli::StopIfInterrupted();
-    return files::Done;
 }
 
 } // namespace

@@ -17,7 +17,6 @@ cli::Command RemoveCommand()
                                        scene->Remove(place);
                                        return true;
                                    });
-                return int(files::Done);
             },
             {"animtext remove sign.json 2",
              "animtext remove sign.json '$.pages[0].areas[0].nodes[0]'"}};

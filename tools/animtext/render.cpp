@@ -154,7 +154,7 @@ void RenderMany(const cli::CommandLine& line)
     shared::RenderAll(line, ending, options, FormOf(line));
 }
 
-int Render(const cli::CommandLine& line)
+void Render(const cli::CommandLine& line)
 {
     cli::WatchForInterruption();
     if (line.IsSet("progress"))
@@ -163,7 +163,6 @@ int Render(const cli::CommandLine& line)
         RenderMany(line);
     else
         RenderOne(line, line.Value("output"));
-    return files::Done;
 }
 
 QVector<cli::Option> Options()

@@ -15,7 +15,6 @@ cli::Command SchemaCommand()
             {cli::Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
             [](const cli::CommandLine& line) {
                 cli::Print(line.IsSet("tables") ? scene::SceneTables() : scene::SceneSchema());
-                return int(files::Done);
             },
             {"animtext schema >scene.schema.json", "animtext schema --tables"}};
 }

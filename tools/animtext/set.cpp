@@ -7,7 +7,7 @@ namespace AnimText::animtext {
 
 namespace {
 
-int Set(const cli::CommandLine& line)
+void Set(const cli::CommandLine& line)
 {
     const QStringList settings = line.Arguments().mid(2);
     for (const QString& setting : settings) {
@@ -24,7 +24,6 @@ int Set(const cli::CommandLine& line)
             return error->isEmpty();
         });
     shared::WarnOfCut(changed, changed.At(at));
-    return files::Done;
 }
 
 } // namespace

@@ -54,7 +54,7 @@ film::SheetRow RowOf(const cli::CommandLine& line, const scene::Scene& scene)
     return row;
 }
 
-int DrawSheet(const cli::CommandLine& line)
+void DrawSheet(const cli::CommandLine& line)
 {
     const QString output = line.Value("output");
     cli::RefuseIf(output != "-" && !output.endsWith(".png", Qt::CaseInsensitive),
@@ -75,7 +75,6 @@ int DrawSheet(const cli::CommandLine& line)
         cli::Print(png);
     else
         film::WritePng(output, png);
-    return files::Done;
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace AnimText::animtext {
 
 namespace {
 
-int Tidy(const cli::CommandLine& line)
+void Tidy(const cli::CommandLine& line)
 {
     const QString folder = line.Arguments().first();
     const bool removes = line.IsSet("remove");
@@ -19,7 +19,6 @@ int Tidy(const cli::CommandLine& line)
     files::FailUnless(author::TidyFolder(folder, removes, &unneeded, &error), error);
     for (const QString& name : unneeded.names)
         cli::Print((removes ? "removed " : "") + QDir(folder).filePath(name).toLocal8Bit() + '\n');
-    return files::Done;
 }
 
 } // namespace

@@ -25,7 +25,7 @@ QByteArray TickLine(player::Player* player, int node)
     return line.Text() + '\n';
 }
 
-int TraceScene(const cli::CommandLine& line)
+void TraceScene(const cli::CommandLine& line)
 {
     const int ticks = line.Get<int>("ticks");
     const scene::Scene scene = shared::OpenReadableScene(line, line.Arguments().first());
@@ -39,7 +39,7 @@ int TraceScene(const cli::CommandLine& line)
         for (int node = 0; node < player->NodeCount(); ++node)
             cli::Print(TickLine(player.get(), node));
         if (player->Tick() == ticks)
-            return files::Done;
+            return;
     }
 }
 

@@ -7,7 +7,7 @@ namespace AnimText::animtext {
 
 namespace {
 
-int Validate(const cli::CommandLine& line)
+void Validate(const cli::CommandLine& line)
 {
     QList<validate::Report> reports;
     QList<validate::Finding> all;
@@ -19,8 +19,9 @@ int Validate(const cli::CommandLine& line)
     }
     cli::Print(line.IsSet("json") ? validate::ReportsAsJson(reports) : text);
     if (validate::Count(all, validate::Severity::Error) > 0)
-        return files::BadInput;
-    return line.IsSet("strict") && !all.isEmpty() ? files::FailedRun : files::Done;
+        cli::EndWith(files::BadInput);
+    if (line.IsSet("strict") && !all.isEmpty())
+        cli::EndWith(files::FailedRun);
 }
 
 } // namespace

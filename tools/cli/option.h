@@ -130,8 +130,8 @@ struct Command
     Arguments arguments;
     const char* description;
     QVector<Option> options;
-    int (*run)(const CommandLine& line); ///< returns the exit status
-    QVector<const char*> examples{};     ///< shell commands that work in the folder of sign.json
+    void (*run)(const CommandLine& line); ///< throws Failure or Misuse
+    QVector<const char*> examples{};      ///< shell commands that work in the folder of sign.json
 };
 
 /** "-o" or "--speed": the shortest name of an option. */

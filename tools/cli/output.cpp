@@ -36,4 +36,10 @@ void FlushOutput()
         FailToPrint();
 }
 
+void EndWith(files::Status status)
+{
+    FlushOutput();
+    throw files::Failure{status, QString()};
+}
+
 } // namespace AnimText::cli

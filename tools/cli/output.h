@@ -32,4 +32,7 @@ void Print(const QByteArray& text);
 /** Flushes standard output. Throws Failure if that fails. */
 void FlushOutput();
 
+/** Throws a Failure without a message, for standard output says what is wrong. */
+[[noreturn]] void EndWith(files::Status status);
+
 } // namespace AnimText::cli

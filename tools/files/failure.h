@@ -12,7 +12,8 @@ namespace AnimText::files {
 /** Exit statuses. After a signal the status is 128 + signal. */
 enum Status { Done = 0, FailedRun = 1, BadInput = 2 };
 
-/** Thrown by what fails: the exit status and one line for standard error. */
+/** Thrown by what fails: the exit status and one line for standard error, if there is more to say.
+ */
 struct Failure
 {
     Status status;

@@ -123,7 +123,7 @@ void AddLights(const cli::CommandLine& line, QSize display, lights::Lights* ligh
     cli::FlushOutput();
 }
 
-int PlayTestPattern(const cli::CommandLine& line)
+void PlayTestPattern(const cli::CommandLine& line)
 {
     QSize display;
     for (const lights::Controller& controller : ReadControllers(line)) {
@@ -152,7 +152,6 @@ int PlayTestPattern(const cli::CommandLine& line)
     QCoreApplication::exec();
     lights.End();
     cli::StopIfInterrupted();
-    return files::Done;
 }
 
 } // namespace AnimText::animtext::shared

@@ -24,6 +24,6 @@ void CheckLightOptions(const cli::CommandLine& line);
 void AddLights(const cli::CommandLine& line, QSize display, lights::Lights* lights);
 
 /** Plays the test pattern until --seconds are over or a signal comes. */
-int PlayTestPattern(const cli::CommandLine& line);
+void PlayTestPattern(const cli::CommandLine& line);
 
 } // namespace AnimText::animtext::shared
