@@ -20,6 +20,11 @@ struct Outcome
 class TestFolder
 {
 public:
+    TestFolder()
+    {
+        if (!folder.mkpath("."))
+            qFatal("the test cannot make %s", qPrintable(folder.path()));
+    }
     QString Path(const QString& name) const { return folder.filePath(name); }
 
     /** @return the path of the file */
@@ -65,5 +70,7 @@ private:
         return QDir(folder.path()).entryList(filters | QDir::Hidden, QDir::Name);
     }
 
-    QTemporaryDir folder;
+    // Nobody else changes what stands beside the folder, which the tools look at too.
+    QTemporaryDir outer;
+    QDir folder{outer.filePath("folder")};
 };
