@@ -48,11 +48,7 @@ class TestPlayer : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        plugin = player::LoadPlugin(player::PluginPath(), &error);
-        QVERIFY2(plugin, qPrintable(error));
-    }
+    void initTestCase() { plugin = player::LoadPlugin(player::PluginPath()); }
 
     void init() { Torv::ResetAccounts(); }
 
@@ -94,8 +90,7 @@ private slots:
         const scene::Scene scene = files.Of({files.Node(
             {"abc", 4, play.speed, play.hold, play.plays}, {{"EffectType", play.effectType}})});
         Load(scene);
-        const auto simulation =
-            timing::Simulate(player.get(), scene, 1, timing::Watch(), &error).value(0);
+        const auto simulation = timing::Simulate(player.get(), scene, 1).value(0);
         QCOMPARE(simulation.animationTicks, play.animationTicks);
         QCOMPARE(simulation.holdTicks, play.holdTicks);
         QCOMPARE(int(simulation.FinishedMs()), play.finished < 0 ? -1 : play.finished * 66);
@@ -222,7 +217,12 @@ private slots:
         for (const QString& expected : faults.keys()) {
             Load(files.Of({files.Node({})}))->Start();
             const scene::Scene bad = faults.value(expected);
-            QVERIFY(!player->Load(bad, &error));
+            QString error;
+            try {
+                player->Load(bad);
+            } catch (const files::Failure& failure) {
+                error = failure.message;
+            }
             QVERIFY2(error.startsWith(bad.path + ": " + expected), qPrintable(error));
             QCOMPARE(Torv::Accounts().liveSessions, 0);
             QCOMPARE(player->NodeCount(), 0);
@@ -256,9 +256,7 @@ private slots:
             const int end =
                 timing::PlayToEnd(Load(scene), timing::ticksOfADay, 1).value(0).finishedTick;
             QVERIFY(end > 0);
-            QCOMPARE(timing::Simulate(player.get(), scene, 1, timing::Watch(), &error)
-                         .value(0)
-                         .FinishedMs(),
+            QCOMPARE(timing::Simulate(player.get(), scene, 1).value(0).FinishedMs(),
                      qint64(end) * 66);
         }
         Load(files.Of({files.Node({"abc", 30})}));
@@ -397,13 +395,11 @@ private:
     player::Player* Load(const scene::Scene& scene)
     {
         player = std::make_unique<player::Player>(player::VirtualDispatcher::Current(), plugin);
-        if (!player->Load(scene, &error))
-            qFatal("%s", qPrintable(error));
+        player->Load(scene);
         return player.get();
     }
 
     TestScenes files;
-    QString error;
     Lw::INodePlugin* plugin = nullptr;
     std::unique_ptr<player::Player> player;
 };

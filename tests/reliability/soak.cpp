@@ -110,9 +110,7 @@ void Soak::Run()
     while (ticks < ticksWanted && !cli::Interrupted()) {
         {
             player::Player player(player::VirtualDispatcher::Current(), TestSign::Plugin());
-            QString error;
-            if (!player.Load(scenes.at(int(turnsPlayed % scenes.size())), &error))
-                qFatal("%s", qPrintable(error));
+            player.Load(scenes.at(int(turnsPlayed % scenes.size())));
             PlayTurn(&player);
         }
         ++turnsPlayed;

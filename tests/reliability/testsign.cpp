@@ -58,14 +58,8 @@ CountingDispatcher* TestSign::Dispatcher()
 
 Lw::INodePlugin* TestSign::Plugin()
 {
-    static Lw::INodePlugin* const plugin = [] {
-        QString error;
-        Lw::INodePlugin* const loaded =
-            AnimText::player::LoadPlugin(AnimText::player::PluginPath(), &error);
-        if (!loaded)
-            qFatal("%s", qPrintable(error));
-        return loaded;
-    }();
+    static Lw::INodePlugin* const plugin =
+        AnimText::player::LoadPlugin(AnimText::player::PluginPath());
     return plugin;
 }
 
@@ -78,10 +72,7 @@ std::unique_ptr<Lw::HNeonNodeBase> TestSign::NewNode(const AnimText::scene::Scen
 {
     AnimText::scene::Scene scene;
     scene.pages = {{{{{from}}}}};
-    AnimText::player::NodeTree tree;
-    QString error;
-    if (!AnimText::player::BuildNodeTree(scene, Plugin(), &tree, &error))
-        qFatal("%s", qPrintable(error));
+    const AnimText::player::NodeTree tree = AnimText::player::BuildNodeTree(scene, Plugin());
     Lw::HNeonNodeBase* const node = tree.nodes.first();
     node->setParent(nullptr);
     return std::unique_ptr<Lw::HNeonNodeBase>(node);

@@ -38,11 +38,8 @@ QVector<Times> Measure(const cli::CommandLine& line, const scene::Scene& scene,
     const auto goOn = [&](int tick) {
         watch(tick);
         cli::StopIfInterrupted();
-        return true;
     };
-    QString error;
-    const auto plays = timing::Simulate(player.get(), scene, shared::SeedOf(line), goOn, &error);
-    files::FailUnless(error.isEmpty(), error, files::BadInput);
+    const auto plays = timing::Simulate(player.get(), scene, shared::SeedOf(line), goOn);
     for (int node = 0; node < plays.size(); ++node)
         times[node].actual = plays.at(node);
     return times;

@@ -25,8 +25,7 @@ void Reload(const cli::CommandLine& line, live::LivePlayer* player, live::SceneW
     try {
         const scene::Scene scene = shared::OpenPlayableScene(line, line.Arguments().first());
         watcher->Watch(scene);
-        QString error;
-        files::FailUnless(player->Play(scene, settings, &error), error, files::BadInput);
+        player->Play(scene, settings);
     } catch (const files::Failure& failure) {
         cli::Warn(failure.message + " (still playing the previous version)");
     }
@@ -99,9 +98,8 @@ void PlayLive(const cli::CommandLine& line)
     });
     look.start(lookTime);
 
-    QString error;
     shown.start();
-    files::FailUnless(player.Play(scene, settings, &error), error, files::BadInput);
+    player.Play(scene, settings);
     QApplication::exec();
     lights.End();
     if (line.IsSet("timing"))

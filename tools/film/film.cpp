@@ -58,12 +58,10 @@ QSize Film::FrameSize() const
 int Film::FindEnd(const FilmWatch& watch)
 {
     const timing::BlankScene blank(scene);
-    QString error;
-    files::FailUnless(player->Load(blank.Get(), &error), error, files::BadInput);
+    player->Load(blank.Get());
     const auto look = [&](int tick) {
         if (watch)
             watch(FilmStage::End, tick, 0);
-        return true;
     };
     const QVector<timing::NodePlay> plays =
         timing::PlayToEnd(player, ticksOfAnHour + 1, settings.seed, look);
@@ -110,8 +108,7 @@ QImage Film::Picture() const
 void Film::Play(const QVector<int>& wanted, const TakePicture& take)
 {
     // Some state outlives a restart, for example the dazzle colors.
-    QString error;
-    files::FailUnless(player->Load(scene, &error), error);
+    player->Load(scene);
     player->Start(schedule, settings.seed);
     for (int frame : wanted) {
         while (player->Tick() < frame) {

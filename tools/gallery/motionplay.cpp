@@ -1,7 +1,5 @@
 #include "gallery/motionplay.h"
 
-#include "files/failure.h"
-
 namespace AnimText::gallery {
 
 namespace {
@@ -20,8 +18,7 @@ void Show(int picture, MotionPlay* play)
 MotionPlay PlayMotion(player::Player* player, const scene::Scene& scene, uint seed,
                       const std::function<void()>& goOn, PictureSheets* sheets)
 {
-    QString error;
-    files::FailUnless(player->Load(scene, &error), error);
+    player->Load(scene);
     MotionPlay play;
     play.planned = player->Durations().first();
     player->Start(seed);
@@ -44,14 +41,8 @@ MotionPlay PlayMotion(player::Player* player, const scene::Scene& scene, uint se
     play.actual = player->Time();
     if (motion.mode != scene::Mode::Entrance)
         return play;
-    const auto watch = [&](int) {
-        goOn();
-        return true;
-    };
-    const QVector<timing::NodePlay> plays =
-        timing::MeasurePages(player, scene, longest, watch, &error);
-    files::FailUnless(!plays.isEmpty(), error);
-    play.pages = plays.first().pages;
+    const auto watch = [&](int) { goOn(); };
+    play.pages = timing::MeasurePages(player, scene, longest, watch).first().pages;
     return play;
 }
 

@@ -103,11 +103,10 @@ qint64 LivePlayer::Time() const
 
 /** Uses a new stage each time: some state, such as the dazzle colors, would survive a restart.
  */
-bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSettings, QString* error)
+void LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSettings)
 {
     auto next = std::make_unique<player::Stage>(plugin);
-    if (!next->Build(wanted, error))
-        return false;
+    next->Build(wanted);
     stage = std::move(next);
     scene = wanted;
     settings = newSettings;
@@ -127,7 +126,6 @@ bool LivePlayer::Play(const scene::Scene& wanted, const LiveSettings& newSetting
         parts[node].end = play.end; // where it is not known, the renderer will say
     }
     Show();
-    return true;
 }
 
 /** Starts the timers right after the plugin's, so that each tick follows theirs. */
@@ -203,9 +201,9 @@ bool LivePlayer::IsOver()
 
 void LivePlayer::End()
 {
-    QString error;
-    const Punctuality kept = Kept();
-    if (settings.loop && Play(scene, settings, &error)) {
+    if (settings.loop) {
+        const Punctuality kept = Kept();
+        Play(scene, settings);
         earlier = kept;
         return;
     }
@@ -217,9 +215,8 @@ void LivePlayer::End()
 
 void LivePlayer::SetPaused(bool wanted)
 {
-    QString error;
     if (ended && !wanted)
-        Play(scene, settings, &error);
+        Play(scene, settings);
     if (!stage || paused == wanted)
         return;
     paused = wanted;

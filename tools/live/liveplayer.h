@@ -49,11 +49,8 @@ public:
     explicit LivePlayer(Lw::INodePlugin* plugin, QObject* parent = nullptr);
     ~LivePlayer() override;
 
-    /**
-     * Plays @p scene from its start. On failure it returns false, with one line in @p error, and
-     * continues with the previous scene.
-     */
-    bool Play(const scene::Scene& scene, const LiveSettings& settings, QString* error);
+    /** Plays @p scene from its start. Throws Failure and continues with the previous scene. */
+    void Play(const scene::Scene& scene, const LiveSettings& settings);
 
     /** Stops or restarts the display's clock, and everything with it. */
     void SetPaused(bool paused);

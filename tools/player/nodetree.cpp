@@ -1,5 +1,7 @@
 #include "player/nodetree.h"
 
+#include "files/failure.h"
+
 #include <hneonnodebase.h>
 #include <inodeplugin.h>
 
@@ -25,28 +27,26 @@ void Fill(Lw::HNeonNodeBase* node, const scene::SceneNode& from, const scene::Sc
         node->SetFiles(it.key(), {scene.FullName(it.value())});
 }
 
+/** Throws Failure that names @p place. */
 Lw::HNeonNodeBase* CreateNode(const scene::SceneNode& from, const QString& place,
-                              Lw::INodePlugin* plugin, QString* error)
+                              Lw::INodePlugin* plugin)
 {
-    if (from.type != plugin->type()) {
-        *error =
-            QStringLiteral("%1.type: expected %2, the type that the plugin plays, found \"%3\"")
-                .arg(place, plugin->type(), from.type);
-        return nullptr;
-    }
+    files::FailUnless(
+        from.type == plugin->type(),
+        QStringLiteral("%1.type: expected %2, the type that the plugin plays, found \"%3\"")
+            .arg(place, plugin->type(), from.type),
+        files::BadInput);
     Lw::HNode* node = plugin->Create();
     auto* animated = dynamic_cast<Lw::HNeonNodeBase*>(node);
-    if (!animated) {
+    if (!animated)
         delete node;
-        *error = QStringLiteral("%1: the plugin creates no node for it").arg(place);
-    }
+    files::FailUnless(animated, place + ": the plugin creates no node for it", files::BadInput);
     return animated;
 }
 
 } // namespace
 
-bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree,
-                   QString* error)
+NodeTree BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin)
 {
     NodeTree built;
     built.program = std::make_unique<Lw::HNode>();
@@ -59,20 +59,15 @@ bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree*
             page->AddChild(area);
             const QList<scene::SceneNode>& nodes = areas.at(a).nodes;
             for (int n = 0; n < nodes.size(); ++n) {
-                Lw::HNeonNodeBase* node =
-                    CreateNode(nodes.at(n), scene::Place{p, a, n}.Path(), plugin, error);
-                if (!node) {
-                    *error = scene.path + ": " + *error;
-                    return false;
-                }
+                const QString place = scene.path + ": " + scene::Place{p, a, n}.Path();
+                Lw::HNeonNodeBase* node = CreateNode(nodes.at(n), place, plugin);
                 area->AddChild(node);
                 Fill(node, nodes.at(n), scene);
                 built.nodes.append(node);
             }
         }
     }
-    *tree = std::move(built);
-    return true;
+    return built;
 }
 
 } // namespace AnimText::player

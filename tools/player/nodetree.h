@@ -27,10 +27,9 @@ struct NodeTree
 };
 
 /**
- * Builds the tree of @p scene with nodes that @p plugin creates. On failure returns false, sets
- * @p error to one line with the place in the scene, and @p tree is left as it was.
+ * The tree of @p scene with nodes that @p plugin creates. Throws Failure with the place in the
+ * scene.
  */
-bool BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin, NodeTree* tree,
-                   QString* error);
+NodeTree BuildNodeTree(const scene::Scene& scene, Lw::INodePlugin* plugin);
 
 } // namespace AnimText::player

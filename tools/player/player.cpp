@@ -26,11 +26,6 @@ qint64 Player::Clock(void* player)
     return self->dispatcher->Now() - self->origin;
 }
 
-bool Player::Load(const scene::Scene& scene, QString* error)
-{
-    return stage.Build(scene, error);
-}
-
 void Player::Start(const Schedule& schedule, uint seed)
 {
     tick = 0;

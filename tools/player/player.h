@@ -40,7 +40,8 @@ public:
     Player(VirtualDispatcher* dispatcher, Lw::INodePlugin* plugin);
     ~Player();
 
-    bool Load(const scene::Scene& scene, QString* error);
+    /** Throws Failure; nothing is played then. */
+    void Load(const scene::Scene& scene) { stage.Build(scene); }
 
     /** Tick 0: starts every node. */
     void Start(uint seed = standardSeed) { Start(AllAtOnce(NodeCount()), seed); }

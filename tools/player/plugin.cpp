@@ -1,5 +1,7 @@
 #include "player/plugin.h"
 
+#include "files/failure.h"
+
 #include <inodeplugin.h>
 
 #include <QCoreApplication>
@@ -66,29 +68,24 @@ QString PluginPath(const QString& given)
         {INSTALLED_LIBRARIES "/libanimationtext.so", "../lib/libanimationtext.so"});
 }
 
-Lw::INodePlugin* LoadPlugin(const QString& path, QString* error)
+Lw::INodePlugin* LoadPlugin(const QString& path)
 {
     const QFileInfo file(path);
-    if (!file.isFile()) {
-        *error = QStringLiteral("there is no plugin at %1: build the target animationtext, or name "
-                                "the library with --plugin or ANIMATIONTEXT_PLUGIN")
-                     .arg(path);
-        return nullptr;
-    }
+    files::FailUnless(
+        file.isFile(),
+        QStringLiteral("there is no plugin at %1: build the target animationtext, or name "
+                       "the library with --plugin or ANIMATIONTEXT_PLUGIN")
+            .arg(path));
     OfferPictures();
     QPluginLoader loader(file.absoluteFilePath());
     QObject* object = loader.instance();
-    if (!object) {
-        // Linkers print missing symbols on separate lines.
-        *error =
-            QStringLiteral("%1 cannot be loaded: %2").arg(path, loader.errorString().simplified());
-        return nullptr;
-    }
+    // Linkers print missing symbols on separate lines.
+    files::FailUnless(
+        object,
+        QStringLiteral("%1 cannot be loaded: %2").arg(path, loader.errorString().simplified()));
     Lw::INodePlugin* plugin = qobject_cast<Lw::INodePlugin*>(object);
-    if (plugin)
-        LeaveNoOutputFolder();
-    else
-        *error = QStringLiteral("%1 is a plugin, but it has no node type").arg(path);
+    files::FailUnless(plugin, QStringLiteral("%1 is a plugin, but it has no node type").arg(path));
+    LeaveNoOutputFolder();
     return plugin;
 }
 

@@ -21,11 +21,11 @@ QString PluginPath(const QString& given = QString());
 
 /**
  * The plugin object of the library at @p path. It belongs to the library, which stays loaded until
- * the process ends. On failure null, and @p error is one line that says what to do.
+ * the process ends. Throws Failure that says what to do.
  *
  * Sets ANIMATIONTEXT_PICTURES, unless it is set, to the folder of pictures that was installed or
  * built together with the program.
  */
-Lw::INodePlugin* LoadPlugin(const QString& path, QString* error);
+Lw::INodePlugin* LoadPlugin(const QString& path);
 
 } // namespace AnimText::player

@@ -1,5 +1,7 @@
 #include "player/stage.h"
 
+#include "files/failure.h"
+
 #include <hneonnodebase.h>
 #include <hpluginmanager.h>
 #include <inodeplugin.h>
@@ -22,35 +24,31 @@ Stage::~Stage()
     Torv::SetCallLog(nullptr, nullptr);
 }
 
-bool Stage::Build(const scene::Scene& scene, QString* error)
+void Stage::Build(const scene::Scene& scene)
 {
     Stop();
     parts.clear();
     tree = NodeTree();
-    NodeTree built;
-    if (!BuildNodeTree(scene, plugin, &built, error))
-        return false;
-    if (built.nodes.isEmpty()) {
-        *error = scene.path + ": $.pages: expected at least one node, found none";
-        return false;
-    }
+    NodeTree built = BuildNodeTree(scene, plugin);
+    files::FailUnless(!built.nodes.isEmpty(),
+                      scene.path + ": $.pages: expected at least one node, found none",
+                      files::BadInput);
     // Renderers ask for the format when they are made.
     Lw::HPluginManager::instance()->SetAlphaBlend(scene.alphaBlend);
+    std::vector<Part> made;
     const QList<const scene::SceneNode*> nodes = scene.Nodes();
     for (int node = 0; node < nodes.size(); ++node) {
         Part part;
         part.motion = scene::MotionOf(*nodes.at(node));
         part.render.reset(plugin->CreateAreaRender(built.nodes.at(node)));
-        if (!part.render) {
-            parts.clear();
-            *error = scene.path + ": the plugin makes no renderer for its nodes";
-            return false;
-        }
-        parts.push_back(std::move(part));
+        files::FailUnless(bool(part.render),
+                          scene.path + ": the plugin makes no renderer for its nodes",
+                          files::BadInput);
+        made.push_back(std::move(part));
     }
+    parts = std::move(made);
     tree = std::move(built);
     display = std::make_unique<Torv::Display>(scene.display);
-    return true;
 }
 
 void Stage::Start(const Schedule& schedule, uint newSeed)

@@ -33,8 +33,8 @@ public:
     /** Takes everything off the display first. */
     ~Stage();
 
-    /** Sets the scene up. On failure returns false and sets @p error to one line. */
-    bool Build(const scene::Scene& scene, QString* error);
+    /** Sets the scene up; throws Failure. */
+    void Build(const scene::Scene& scene);
 
     /**
      * Begins to play @p schedule: from now on, Change() starts and stops the nodes. Before each

@@ -80,8 +80,8 @@ QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed, cons
                 playing.removeOne(node);
             }
         }
-        if (watch && !watch(player->Tick()))
-            return {};
+        if (watch)
+            watch(player->Tick());
     }
     return plays;
 }
@@ -94,18 +94,16 @@ namespace {
  */
 QVector<NodePlay>
 PlayTwice(player::Player* player, const scene::Scene& scene, int longest, uint seed,
-          const Watch& watch, QString* error, int (*holdOf)(int hold),
+          const Watch& watch, int (*holdOf)(int hold),
           const std::function<void(int node, const NodePlay& changed, NodePlay* play)>& compare)
 {
     const BlankScene blank(scene);
     scene::Scene changed = blank.Get();
     for (scene::SceneNode* node : changed.Nodes())
         node->hold = holdOf(node->hold);
-    if (!player->Load(changed, error))
-        return {};
+    player->Load(changed);
     const QVector<NodePlay> others = PlayToEnd(player, 3 * longest, seed, watch);
-    if (others.isEmpty() || !player->Load(blank.Get(), error))
-        return {};
+    player->Load(blank.Get());
     QVector<NodePlay> plays = PlayToEnd(player, longest, seed, watch);
     for (int node = 0; node < plays.size(); ++node) {
         if (plays.at(node).ending == Ending::Finishes)
@@ -117,10 +115,10 @@ PlayTwice(player::Player* player, const scene::Scene& scene, int longest, uint s
 } // namespace
 
 QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, uint seed,
-                           const Watch& watch, QString* error)
+                           const Watch& watch)
 {
     const auto noHold = [](int) { return 0; };
-    return PlayTwice(player, scene, ticksOfADay, seed, watch, error, noHold,
+    return PlayTwice(player, scene, ticksOfADay, seed, watch, noHold,
                      [&](int node, const NodePlay& moving, NodePlay* play) {
                          // With no plays, the first check finds it finished, whatever was drawn.
                          if (player->Scenery().Node(node)->GetAttributeToInt("PlayTimes") <= 0)
@@ -150,10 +148,10 @@ QVector<PageTime> PageTimes(const QVector<int>& actual, const QVector<int>& held
 }
 
 QVector<NodePlay> MeasurePages(player::Player* player, const scene::Scene& scene, int longest,
-                               const Watch& watch, QString* error)
+                               const Watch& watch)
 {
     const auto unmistakable = [](int hold) { return std::min(std::max(0, hold), 1000) + longHold; };
-    return PlayTwice(player, scene, longest, player::standardSeed, watch, error, unmistakable,
+    return PlayTwice(player, scene, longest, player::standardSeed, watch, unmistakable,
                      [](int, const NodePlay& held, NodePlay* play) {
                          play->pages = PageTimes(play->pictures, held.pictures, play->finishedTick);
                      });

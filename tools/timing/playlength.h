@@ -64,8 +64,8 @@ struct NodePlay
 /** How and when a node's play ends, if that is known at its start; otherwise TooLong. */
 NodePlay PlayAtStart(const player::Stage& stage, int node);
 
-/** Called at every tick; returns false to stop. */
-using Watch = std::function<bool(int tick)>;
+/** Called at every tick; throws to stop. */
+using Watch = std::function<void(int tick)>;
 
 constexpr int ticksOfADay = 24 * 3600 * 1000 / player::tickLength;
 
@@ -73,7 +73,7 @@ constexpr int ticksOfADay = 24 * 3600 * 1000 / player::tickLength;
  * Plays the loaded scene from its start until every node has ended that can: a motion that does not
  * exist shows empty pictures forever.
  * @param longest the last tick to play
- * @return one entry a node; empty if @p watch stopped it
+ * @return one entry a node
  */
 QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed,
                             const Watch& watch = Watch());
@@ -81,12 +81,12 @@ QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed,
 /**
  * Plays @p scene without outlines to its end, and again without holds, to separate the ticks for
  * which pictures were animated from those for which finished pages were held.
+ * Throws Failure if the scene cannot be played.
  * @param player its scene is replaced
- * @return one entry a node; empty if @p watch stopped it or, with one line in @p error, if the
- * scene cannot be played
+ * @return one entry a node
  */
 QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, uint seed,
-                           const Watch& watch, QString* error);
+                           const Watch& watch = Watch());
 
 /**
  * Plays @p scene without outlines, twice: once with every page held so long that holds are
@@ -96,7 +96,7 @@ QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, ui
  * @return as Simulate()
  */
 QVector<NodePlay> MeasurePages(player::Player* player, const scene::Scene& scene, int longest,
-                               const Watch& watch, QString* error);
+                               const Watch& watch);
 
 /**
  * Divides a play into pages.

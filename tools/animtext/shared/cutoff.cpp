@@ -2,6 +2,7 @@
 
 #include "cli/messages.h"
 #include "cli/output.h"
+#include "files/failure.h"
 #include "player/plugin.h"
 #include "scene/motion.h"
 #include "timing/playlength.h"
@@ -64,13 +65,10 @@ QString InSeconds(qint64 milliseconds)
 } // namespace
 
 void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node)
-{
-    QString error;
-    Lw::INodePlugin* plugin = player::LoadPlugin(player::PluginPath(), &error);
-    if (!plugin)
-        return;
+try {
     cli::SuppressMessages();
-    player::Player player(player::VirtualDispatcher::Current(), plugin);
+    player::Player player(player::VirtualDispatcher::Current(),
+                          player::LoadPlugin(player::PluginPath()));
     scene::Scene alone = scene;
     alone.pages = {scene::ScenePage{{scene::SceneArea{{node}}}}};
     // Backgrounds cost time to paint and do not change the play.
@@ -84,8 +82,7 @@ void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node)
         alone.At({}).hold = hold;
         CutTimes times;
         const timing::BlankScene blank(alone);
-        if (!player.Load(blank.Get(), &error))
-            return times;
+        player.Load(blank.Get());
         times.planned = player.Durations().value(0);
         if (times.planned / player::tickLength > longest)
             return times;
@@ -103,6 +100,8 @@ void WarnOfCut(const scene::Scene& scene, const scene::SceneNode& node)
             .arg(InSeconds(now.planned), InSeconds(now.actual))
             .arg(100.0 * double(now.Cut()) / double(now.actual), 0, 'f', 0)
             .arg(WayOut(now, speed, node.hold, play)));
+} catch (const files::Failure&) {
+    // What cannot be played is not cut off.
 }
 
 } // namespace AnimText::animtext::shared

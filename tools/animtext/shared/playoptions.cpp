@@ -76,18 +76,14 @@ scene::Scene OpenPlayableScene(const cli::CommandLine& line, const QString& path
 
 Lw::INodePlugin* PluginOf(const cli::CommandLine& line)
 {
-    QString error;
-    Lw::INodePlugin* plugin = player::LoadPlugin(player::PluginPath(line.Value("plugin")), &error);
-    files::FailUnless(plugin, error);
-    return plugin;
+    return player::LoadPlugin(player::PluginPath(line.Value("plugin")));
 }
 
 std::unique_ptr<player::Player> PlayerOf(const cli::CommandLine& line, const scene::Scene& scene)
 {
     auto player =
         std::make_unique<player::Player>(player::VirtualDispatcher::Current(), PluginOf(line));
-    QString error;
-    files::FailUnless(player->Load(scene, &error), error, files::BadInput);
+    player->Load(scene);
     return player;
 }
 

@@ -9,37 +9,33 @@ constexpr int longest = 20 * 60 * 1000 / player::tickLength; // ticks to measure
 
 } // namespace
 
-bool MeasureTiming(player::Player* player, const scene::Scene& scene, bool schedule,
-                   const timing::Watch& watch, Timing* timing, QString* error)
+Timing MeasureTiming(player::Player* player, const scene::Scene& scene, bool schedule,
+                     const timing::Watch& watch)
 {
-    const QVector<timing::NodePlay> plays =
-        timing::MeasurePages(player, scene, longest, watch, error);
-    if (plays.isEmpty())
-        return false;
-
+    const QVector<timing::NodePlay> plays = timing::MeasurePages(player, scene, longest, watch);
     const QVector<qint64> durations = player->Durations();
-    *timing = Timing();
+    Timing timing;
     for (int node = 0; node < plays.size(); ++node) {
         TextTime text;
         text.ending = plays.at(node).ending;
         text.planned = durations.at(node);
         text.actual = plays.at(node).end;
         text.pages = plays.at(node).pages;
-        timing->isCut = timing->isCut || text.ending == timing::Ending::TooLong;
-        timing->length = std::max({timing->length, text.planned, text.actual});
-        timing->texts.append(text);
+        timing.isCut = timing.isCut || text.ending == timing::Ending::TooLong;
+        timing.length = std::max({timing.length, text.planned, text.actual});
+        timing.texts.append(text);
     }
     if (schedule) {
         const player::Schedule host = player::HostSchedule(scene, durations);
         for (const player::Showing& showing : host.showings) {
-            timing->texts[showing.node].from = showing.from;
-            timing->texts[showing.node].until = showing.until;
+            timing.texts[showing.node].from = showing.from;
+            timing.texts[showing.node].until = showing.until;
         }
-        timing->length = host.length;
+        timing.length = host.length;
     }
     const qint64 measured = qint64(longest) * player::tickLength;
-    timing->length = timing->isCut && !schedule ? measured : std::min(timing->length, measured);
-    return true;
+    timing.length = timing.isCut && !schedule ? measured : std::min(timing.length, measured);
+    return timing;
 }
 
 } // namespace AnimText::studio::worker

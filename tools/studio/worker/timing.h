@@ -37,9 +37,9 @@ struct Timing
 /**
  * Measures @p scene by playing it without outlines.
  * @param schedule page by page for the planned times, as the host plays
- * @return false if @p watch canceled or, with @p error, if the scene cannot be played
+ * Throws Failure if it cannot be played.
  */
-bool MeasureTiming(player::Player* player, const scene::Scene& scene, bool schedule,
-                   const timing::Watch& watch, Timing* timing, QString* error);
+Timing MeasureTiming(player::Player* player, const scene::Scene& scene, bool schedule,
+                     const timing::Watch& watch);
 
 } // namespace AnimText::studio::worker

@@ -1,5 +1,6 @@
 #include "studio/worker/workermain.h"
 
+#include "files/failure.h"
 #include "player/callline.h"
 #include "player/plugin.h"
 #include "studio/worker/messages.h"
@@ -18,6 +19,11 @@ namespace {
 
 constexpr int lowNiceness = 10;
 
+/** Thrown where a play is measured that nobody waits for any more. */
+struct AnotherOrder
+{
+};
+
 /**
  * Reads orders from standard input and answers until the input ends. An order cancels the previous
  * one. A plugin that crashes ends only this process.
@@ -34,7 +40,11 @@ public:
 
     void Run(const QString& pluginPath)
     {
-        plugin = player::LoadPlugin(player::PluginPath(pluginPath), &pluginError);
+        try {
+            plugin = player::LoadPlugin(player::PluginPath(pluginPath));
+        } catch (const files::Failure& failure) {
+            pluginError = failure.message;
+        }
         Send(Answer::Ready, pluginError);
         while (!ended) {
             if (Take(&received, &order))
@@ -71,36 +81,41 @@ private:
         started = false;
         QString error = pluginError;
         Timing timing;
-        bool isDone = plugin &&
-                      scene::ReadSceneText(order.scene, order.path, &scene, &error,
-                                           scene::MissingFiles::AreAccepted) &&
-                      Load(&error);
-        if (isDone && order.measures) {
-            const auto watch = [this](int) { return !Receive(false) && !ended; };
-            isDone =
-                MeasureTiming(player.get(), scene, order.part.schedule, watch, &timing, &error);
-        }
-        if (order.measures || !isDone)
+        try {
+            files::FailUnless(plugin &&
+                                  scene::ReadSceneText(order.scene, order.path, &scene, &error,
+                                                       scene::MissingFiles::AreAccepted),
+                              error);
+            Load();
+            if (order.measures)
+                timing = MeasureTiming(player.get(), scene, order.part.schedule, [this](int) {
+                    if (Receive(false) || ended)
+                        throw AnotherOrder();
+                });
+        } catch (const files::Failure& failure) {
+            error = failure.message;
             player.reset();
-        if (isDone || !error.isEmpty()) // otherwise there is another order
-            Send(order.measures ? Answer::Measured : Answer::Loaded, error, timing);
+        } catch (const AnotherOrder&) {
+            player.reset();
+            return;
+        }
+        if (order.measures)
+            player.reset();
+        Send(order.measures ? Answer::Measured : Answer::Loaded, error, timing);
     }
 
     /** With a new player, because some state survives a restart. */
-    bool Load(QString* error)
+    void Load()
     {
         player.reset(); // releases the display's clock
         player = std::make_unique<player::Player>(dispatcher, plugin);
-        return player->Load(scene, error);
+        player->Load(scene);
     }
 
     void Restart()
     {
-        QString error;
-        if (started && !Load(&error)) {
-            player.reset();
-            return;
-        }
+        if (started)
+            Load();
         Torv::ClearFaults();
         for (const QPair<qint32, qint32>& fault : order.part.faults)
             Torv::FailCall(Torv::Operation(fault.first), fault.second);
@@ -122,7 +137,7 @@ private:
             Restart();
         else if (player->Tick() < next)
             player->Advance();
-        if (player && player->Tick() == next) {
+        if (player->Tick() == next) {
             Answer answer;
             answer.kind = Answer::Picture;
             answer.generation = order.generation;
