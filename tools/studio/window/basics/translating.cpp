@@ -11,8 +11,7 @@ void AnimText::studio::window::basics::Translate(const QLocale& locale)
         if (translator->load(spoken, name, "_", folder))
             QCoreApplication::installTranslator(translator);
     };
-    const QString own = ":/translations";
     install(locale, "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    install(QLocale(QLocale::English), "studio", own); // English plural forms
-    install(locale, "studio", own);
+    install(QLocale(QLocale::English), "studio", ":/translations"); // English plural forms
+    install(locale, "studio", ":/translations");
 }

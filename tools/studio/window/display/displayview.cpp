@@ -26,6 +26,7 @@ DisplayView::DisplayView(QWidget* parent)
     : live::PictureView(parent, true)
 {
     setMouseTracking(true);
+    setAttribute(Qt::WA_Hover); // updates when the mouse leaves
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Display"));
     setAccessibleDescription(tr("What the sign shows at the current tick"));
@@ -112,9 +113,10 @@ void DisplayView::PaintOverlay(QPainter* painter)
     painter->setRenderHint(QPainter::Antialiasing, false);
     for (const QPoint& pixel : differences)
         painter->fillRect(map.mapRect(QRectF(pixel, QSizeF(1, 1))).adjusted(-1, -1, 1, 1), magenta);
+    const int under = underMouse() ? hovered : 0;
     for (const AreaFrame& frame : frames) {
         const bool isSelected = frame.id == selected;
-        if (!showsAll && frame.id != hovered && !(isSelected && (hovered != 0 || hasFocus())))
+        if (!showsAll && frame.id != under && !(isSelected && (under != 0 || hasFocus())))
             continue;
         const QRectF rect = map.mapRect(QRectF(frame.rect)).adjusted(-1, -1, 0, 0);
         painter->setPen(QPen(isSelected ? accent : QColor(160, 160, 160, 160), 1,
@@ -305,12 +307,6 @@ void DisplayView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton)
         emit DisplayDoubleClicked();
-}
-
-void DisplayView::leaveEvent(QEvent*)
-{
-    hovered = 0;
-    update();
 }
 
 /**

@@ -135,8 +135,7 @@ int SceneList::PageOfRow() const
 
 void SceneList::Rename(int id)
 {
-    if (QTreeWidgetItem* item = Find(id))
-        editItem(item);
+    editItem(Find(id));
 }
 
 /** Moves no row itself: the sign is changed, which then updates the rows. */
