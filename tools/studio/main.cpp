@@ -9,9 +9,9 @@
 
 #include <cstdio>
 
-namespace {
-
 using namespace AnimText;
+
+namespace {
 
 /** Whether windows can be shown; otherwise prints what to do. */
 bool HasDisplay()
@@ -28,8 +28,17 @@ bool HasDisplay()
     return false;
 }
 
-int RunWindow(int argc, char** argv)
+} // namespace
+
+int main(int argc, char** argv)
 {
+    const QByteArray word = argc > 1 ? argv[1] : "";
+    if (word == "--worker")
+        return studio::worker::WorkerMain(argc, argv);
+    if (word == "--help" || word == "-h" || word == "--version" || word == "-v")
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!HasDisplay())
+        return 1;
 #if QT_VERSION < 0x060000 // always on since Qt 6
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -67,18 +76,4 @@ int RunWindow(int argc, char** argv)
     window.show();
     window.GetPlayback()->SetPace(1);
     return QApplication::exec();
-}
-
-} // namespace
-
-int main(int argc, char** argv)
-{
-    const QByteArray word = argc > 1 ? argv[1] : "";
-    if (word == "--worker")
-        return studio::worker::WorkerMain(argc, argv);
-    if (word == "--help" || word == "-h" || word == "--version")
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    else if (!HasDisplay())
-        return 1;
-    return RunWindow(argc, argv);
 }

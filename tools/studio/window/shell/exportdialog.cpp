@@ -38,14 +38,13 @@ ExportDialog::ExportDialog(const model::Sign& sign, const QString& scenePath, co
         return basics::SecondsText(qint64(tick) * player::tickLength);
     };
     extent->addItem(tr("All of it"), QPoint(0, -1));
-    if (view.playback && view.playback->HasLoop()) {
-        const QPoint loop(view.playback->LoopBegin(), view.playback->LoopEnd());
-        extent->addItem(tr("The loop, %1 to %2").arg(seconds(loop.x()), seconds(loop.y() + 1)),
-                        loop);
-    }
-    if (view.playback) {
-        const int tick = view.playback->Tick();
-        extent->addItem(tr("This picture, tick %1").arg(tick), QPoint(tick, tick));
+    if (const time::Playback* seen = view.playback) {
+        const QPoint loop(seen->LoopBegin(), seen->LoopEnd());
+        const QPoint picture(seen->Tick(), seen->Tick());
+        if (seen->HasLoop())
+            extent->addItem(tr("The loop, %1 to %2").arg(seconds(loop.x()), seconds(loop.y() + 1)),
+                            loop);
+        extent->addItem(tr("This picture, tick %1").arg(picture.x()), picture);
     }
     extent->setAccessibleName(tr("What is exported"));
     lamps->setChecked(view.lamps);

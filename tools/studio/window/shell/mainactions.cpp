@@ -276,7 +276,7 @@ void MainWindow::ShowKeys()
         }
     }
     auto* display = new QTreeWidgetItem(list, {tr("Display and fields")});
-    const QPair<QString, QString> others[]{
+    const QList<QStringList> others{
         {tr("Ctrl+Space"), tr("Play or stop, from any field")},
         {tr("Alt+arrows"), tr("Move the area by 1 px. Shift: resize it. Ctrl: by 10 px")},
         {tr("Ctrl+wheel"), tr("Zoom the display or the timeline")},
@@ -286,8 +286,8 @@ void MainWindow::ShowKeys()
         {tr("Esc"), tr("Leave a field. Display: clear the selection")},
         {tr("Return"), tr("Number: return to the display")},
     };
-    for (const auto& other : others)
-        new QTreeWidgetItem(display, {other.first, other.second});
+    for (const QStringList& other : others)
+        new QTreeWidgetItem(display, other);
     list->expandAll();
     list->resizeColumnToContents(0);
     dialog->setLayout(basics::Arrange(Qt::Vertical, 0, {list}));
@@ -325,17 +325,15 @@ void MainWindow::ChooseNew()
 {
     auto* dialog = MakeDialog("new", tr("New scene"));
     auto* form = new display::DisplayForm(dialog);
-    const QSettings settings;
-    form->Show(settings.value("newDisplay", model::Sign().display).toSize(),
-               settings.value("newAlpha", true).toBool());
+    form->Show(QSettings().value("newDisplay", model::Sign().display).toSize(),
+               QSettings().value("newAlpha", true).toBool());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, dialog);
     buttons->addButton(tr("Create"), QDialogButtonBox::AcceptRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     connect(dialog, &QDialog::accepted, this, [=] {
-        QSettings used;
-        used.setValue("newDisplay", form->Size());
-        used.setValue("newAlpha", form->AlphaBlend());
+        QSettings().setValue("newDisplay", form->Size());
+        QSettings().setValue("newAlpha", form->AlphaBlend());
         New(form->Size(), form->AlphaBlend());
     });
     dialog->setLayout(basics::Arrange(Qt::Vertical, 4 * basics::grid, {form, nullptr, buttons},
