@@ -83,7 +83,6 @@ void MainWindow::MakePanes()
     tools->setIconSize(QSize(20, 20));
     auto* bottom = new QWidget(this);
     bottom->setLayout(basics::Arrange(Qt::Vertical, 0, {transport, timeline}));
-    center->setObjectName("center");
     center->addWidget(scroll);
     center->addWidget(bottom);
     center->setStretchFactor(0, 1);
@@ -368,11 +367,12 @@ void MainWindow::ShowTiming()
 {
     const worker::Timing& timing = rehearsal.GetTiming();
     const QList<model::SignText> texts = TextsOf(part.page);
-    const auto follow = [](worker::TextTime* all, const worker::TextTime& next) {
-        all->planned += next.planned;
-        all->actual += next.actual;
+    const auto inTurn = [](worker::TextTime all, const worker::TextTime& next) {
+        all.planned += next.planned;
+        all.actual += next.actual;
         if (next.ending == timing::Ending::TooLong)
-            all->ending = next.ending;
+            all.ending = next.ending;
+        return all;
     };
     const worker::TextTime none = time::SideBySide({});
     QVector<time::TimelineRow> rows;
@@ -385,9 +385,7 @@ void MainWindow::ShowTiming()
         const int plays = text.node.attributes.value("PlayTimes").toInt();
         rows.append({text.id, text.Title(), plays, time});
         QMap<int, worker::TextTime>& areas = pages[text.page];
-        if (!areas.contains(text.area))
-            areas[text.area] = none;
-        follow(&areas[text.area], time);
+        areas[text.area] = inTurn(areas.value(text.area, none), time);
         if (text.id == selected) {
             lines.append(tr("Text: %1").arg(time::EndsInWords(time)));
             shown = &time;
@@ -403,7 +401,7 @@ void MainWindow::ShowTiming()
     worker::TextTime page = none;
     for (auto own = pages.begin(); own != pages.end(); ++own) {
         const worker::TextTime times = time::SideBySide(own->values().toVector());
-        follow(&program, times);
+        program = inTurn(program, times);
         lines.append(tr("Page %1: %2").arg(own.key() + 1).arg(time::EndsInWords(times)));
         if (own.key() == CurrentPage())
             page = times;
@@ -519,7 +517,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     settings.setValue("center", center->saveState());
     settings.setValue("leds", leds->isChecked());
     settings.setValue("pitch", pitch);
-    event->accept();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
