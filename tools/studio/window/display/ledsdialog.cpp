@@ -240,7 +240,7 @@ void LedsDialog::Change()
 {
     Refresh();
     if (lights)
-        Open();
+        Begin();
 }
 
 void LedsDialog::Refresh()
@@ -275,7 +275,7 @@ void LedsDialog::LookUp()
     QString error;
     const QString name = ReadFields(&error).host;
     if (name.isEmpty() || !QHostAddress(name).isNull()) {
-        Open();
+        Begin();
         return;
     }
     state->setText(tr("Looking up %1…").arg(name));
@@ -289,11 +289,11 @@ void LedsDialog::LookUp()
             return;
         }
         foundHost = lights::PreferredAddress(found).toString();
-        Open();
+        Begin();
     });
 }
 
-void LedsDialog::Open()
+void LedsDialog::Begin()
 {
     QString error;
     lights::Controller controller = ReadFields(&error);

@@ -47,7 +47,7 @@ private:
     void Change();
     void Refresh();
     void LookUp();
-    void Open();
+    void Begin();
     void Stop();
     bool IsRunning() const { return lights || lookUp >= 0; }
 

@@ -71,8 +71,8 @@ void MainWindow::MakeFileMenu()
     tools->addSeparator();
     Act(file, {tr("Save &as…"), QKeySequence::SaveAs}, [this] { Save(true); });
     file->addSeparator();
-    exportAction = Act(file, {tr("&Export…"), Qt::CTRL | Qt::Key_E, "document-export"},
-                       [this] { ShowExport(); });
+    exportAction =
+        Act(file, {tr("&Export…"), {"Ctrl+E"}, "document-export"}, [this] { ShowExport(); });
     file->addSeparator();
     Act(file, {tr("&Quit"), QKeySequence::Quit}, [this] { close(); });
 }
@@ -91,16 +91,16 @@ void MainWindow::MakeEditMenu()
     Act(edit, {tr("Cu&t"), QKeySequence::Cut, "edit-cut"}, [this] { EditWords("cut"); });
     Act(edit, {tr("&Copy"), QKeySequence::Copy, "edit-copy"}, [this] { EditWords("copy"); });
     Act(edit, {tr("&Paste"), QKeySequence::Paste, "edit-paste"}, [this] { EditWords("paste"); });
-    Act(edit, {tr("Paste &with styles"), Qt::CTRL | Qt::SHIFT | Qt::Key_V}, [this] {
+    Act(edit, {tr("Paste &with styles"), {"Ctrl+Shift+V"}}, [this] {
         if (inspector->Text()->isEnabled())
             inspector->Text()->Editor()->PasteWithStyles();
     });
     edit->addSeparator();
-    QAction* add = Act(edit, {tr("Add te&xt"), Qt::CTRL | Qt::Key_T, "list-add"},
-                       [this] { AddNewText(false); });
-    QAction* addPage = Act(edit, {tr("Add pa&ge"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, "list-add"},
-                           [this] { AddNewText(true); });
-    Act(edit, {tr("&Duplicate"), Qt::CTRL | Qt::Key_D}, [this] { DuplicateSelected(); });
+    QAction* add =
+        Act(edit, {tr("Add te&xt"), {"Ctrl+T"}, "list-add"}, [this] { AddNewText(false); });
+    QAction* addPage =
+        Act(edit, {tr("Add pa&ge"), {"Ctrl+Shift+T"}, "list-add"}, [this] { AddNewText(true); });
+    Act(edit, {tr("&Duplicate"), {"Ctrl+D"}}, [this] { DuplicateSelected(); });
     QAction* remove =
         Act(edit, {tr("Re&move"), QKeySequence::Delete}, [this] { RemoveSelected(); });
     // In a text field, Delete is for letters.
@@ -109,7 +109,7 @@ void MainWindow::MakeEditMenu()
         widget->addAction(remove);
     edit->addSeparator();
     Act(edit, {tr("&Edit text"), Qt::Key_F2}, [this] { inspector->Text()->BeginTyping(); });
-    Act(edit, {tr("&Search motions"), Qt::CTRL | Qt::Key_M}, [this] {
+    Act(edit, {tr("&Search motions"), {"Ctrl+M"}}, [this] {
         inspector->ensureWidgetVisible(inspector->Motions());
         inspector->Motions()->Search()->setFocus();
     });
@@ -146,7 +146,7 @@ void MainWindow::EditWords(const char* slot)
 void MainWindow::MakeViewMenu()
 {
     QMenu* look = menuBar()->addMenu(tr("&View"));
-    Act(look, {tr("&Fit to window"), Qt::CTRL | Qt::Key_0}, [this] { SetZoom(0); });
+    Act(look, {tr("&Fit to window"), {"Ctrl+0"}}, [this] { SetZoom(0); });
     const auto middle = [this] { return QPointF(view->visibleRegion().boundingRect().center()); };
     Act(look, {tr("Zoom &in"), QKeySequence::ZoomIn}, [=] { ZoomBy(1, middle()); });
     Act(look, {tr("Zoom &out"), QKeySequence::ZoomOut}, [=] { ZoomBy(-1, middle()); });
@@ -157,7 +157,7 @@ void MainWindow::MakeViewMenu()
         connect(action, &QAction::toggled, view, act);
         return action;
     };
-    leds = toggle({tr("&LEDs"), Qt::CTRL | Qt::Key_L, "lamps"}, [this] { SetZoom(zoom); });
+    leds = toggle({tr("&LEDs"), {"Ctrl+L"}, "lamps"}, [this] { SetZoom(zoom); });
     leds->setObjectName("leds");
     leds->setToolTip(tr("Show the pixels as round LEDs (Ctrl+L)"));
     QMenu* distances = look->addMenu(tr("LED &pitch"));
@@ -175,8 +175,8 @@ void MainWindow::MakeViewMenu()
         pitches->addAction(action);
     }
     toggle({tr("&Checkered background")}, &live::PictureView::SetCheckered);
-    toggle({tr("Show all &areas"), Qt::CTRL | Qt::Key_F}, &display::DisplayView::SetShowsFrames);
-    toggle({tr("Show &rulers"), Qt::CTRL | Qt::Key_R}, &display::DisplayView::SetShowsRulers);
+    toggle({tr("Show all &areas"), {"Ctrl+F"}}, &display::DisplayView::SetShowsFrames);
+    toggle({tr("Show &rulers"), {"Ctrl+R"}}, &display::DisplayView::SetShowsRulers);
     look->addSeparator();
     look->addActions(createPopupMenu()->actions());
 
@@ -209,15 +209,15 @@ void MainWindow::MakePlayMenu()
         return [this, ticks] { playback.Seek(playback.Tick() + ticks); };
     };
     act(tr("&Play or stop"), Qt::Key_Space, tr("Space"), [this] { playback.Toggle(); });
-    playKeys[Qt::Key_Space]->setShortcut(Qt::CTRL | Qt::Key_Space); // from any field
+    playKeys[Qt::Key_Space]->setShortcut({"Ctrl+Space"}); // from any field
     act(tr("Play &backward, then faster"), Qt::Key_J, "J", [this] { playback.Shuttle(-1); });
     act(tr("&Stop"), Qt::Key_K, "K", [this] { playback.SetPace(0); });
     act(tr("Play &forward, then faster"), Qt::Key_L, "L", [this] { playback.Shuttle(1); });
     play->addSeparator();
     act(tr("One tick back"), Qt::Key_Left, "←", by(-1));
     act(tr("One tick forward"), Qt::Key_Right, "→", by(1));
-    act(tr("Ten ticks back"), Qt::SHIFT | Qt::Key_Left, tr("Shift+←"), by(-10));
-    act(tr("Ten ticks forward"), Qt::SHIFT | Qt::Key_Right, tr("Shift+→"), by(10));
+    act(tr("Ten ticks back"), {"Shift+Left"}, tr("Shift+←"), by(-10));
+    act(tr("Ten ticks forward"), {"Shift+Right"}, tr("Shift+→"), by(10));
     act(tr("Previous page mark"), Qt::Key_BracketLeft, "[",
         [this] { playback.Seek(timeline->PreviousMark(playback.Tick())); });
     act(tr("Next page mark"), Qt::Key_BracketRight, "]",
