@@ -89,9 +89,10 @@ inline bool Hairline::Trace::Take(int32_t x1, int32_t y1, int32_t x2, int32_t y2
 
 inline void Hairline::Trace::AddCaps(unsigned caps)
 {
-    hasCapAtBegin = (caps & (swapped ? CapEnd : CapBegin)) != 0;
-    if (hasCapAtBegin)
+    if (caps & (swapped ? CapEnd : CapBegin)) {
         a1 -= 32;
+        hasCapAtBegin = true;
+    }
     if (caps & (swapped ? CapBegin : CapEnd))
         a2 += 32;
 }
@@ -252,7 +253,10 @@ void Hairline::DrawLine(const Point& a, const Point& b, unsigned caps)
     Trace trace;
     if (!TakeLine(a, b, trace))
         return;
-    trace.AddCaps(AreOpposite(direction, trace.direction) ? caps | CapBegin : caps);
+    if (AreOpposite(direction, trace.direction))
+        caps |= CapBegin;
+    if (caps != NoCap)
+        trace.AddCaps(caps);
     if (!trace.FindPixels())
         return;
     const Pixel endsWith = trace.Last(); // does not know of pixels dropped or added

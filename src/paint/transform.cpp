@@ -120,15 +120,17 @@ void Transform::MapAll(const From* from, size_t count, To* to, float dx, float d
 {
     switch (kind()) {
     case None:
-    case Translating: {
-        const float x = kind() == None ? 0 : tx;
-        const float y = kind() == None ? 0 : ty;
         for (size_t i = 0; i < count; ++i) {
-            to[i].x = from[i].x + x + dx;
-            to[i].y = from[i].y + y + dy;
+            to[i].x = from[i].x + dx;
+            to[i].y = from[i].y + dy;
         }
         break;
-    }
+    case Translating:
+        for (size_t i = 0; i < count; ++i) {
+            to[i].x = from[i].x + tx + dx;
+            to[i].y = from[i].y + ty + dy;
+        }
+        break;
     case Scaling:
         for (size_t i = 0; i < count; ++i) {
             to[i].x = a11 * from[i].x + tx + dx;

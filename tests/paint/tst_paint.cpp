@@ -472,6 +472,13 @@ void TestPaint::steadyOutlinesAreTheSameWholePixelsAway()
     large.MoveTo(0, 0);
     large.CurveTo(0, 16384, 16384, -16384, 16384, 16384);
     QCOMPARE(Glyph(large).Steady().exact.y, float(1 << 20));
+
+    // Flat in numbers without rounding, not in the device's: its halves have to be exact as well.
+    Outline slope;
+    slope.MoveTo(642.78125f, 433.125f);
+    slope.CurveTo(681.71875f, 488.14453125f, 914.36328125f, 820.9296875f, 1018.21875f,
+                  969.48046875f);
+    QCOMPARE(Glyph(slope).Steady().exact.x, float(1 << 13));
 }
 
 void TestPaint::whatIsKeptIsBounded()
