@@ -68,7 +68,8 @@ void StampPart(const GlyphCache::Finding& found, Part part, Plane& plane)
     const Word* from = &image.bits[size_t(part) * size_t(image.rows * image.words)];
     Word* to = plane.Row(y) + x / Plane::wordBits;
     const int shift = x % Plane::wordBits;
-    for (int row = 0; row < image.rows; ++row, to += plane.Stride())
+    const size_t stride = plane.Stride();
+    for (int row = 0; row < image.rows; ++row, to += stride)
         for (int i = 0; i < image.words; ++i) {
             const Word bits = *from++;
             Operation::Apply(to[i], bits << shift);
