@@ -4,8 +4,6 @@
 
 #include "text/limits.h"
 
-#include <QDebug>
-
 #include <cstring>
 
 namespace Lw {

@@ -3,7 +3,6 @@
 
 #include <QByteArray>
 #include <QPainterPath>
-#include <QString>
 #include <QVector>
 
 class QIODevice;

@@ -5,7 +5,6 @@
 #include <QCryptographicHash>
 #include <QImage>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QtEndian>
 
 using namespace AnimText;

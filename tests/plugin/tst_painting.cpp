@@ -4,8 +4,6 @@
 
 #include <hpluginmanager.h>
 
-#include <QPainter>
-
 using Lw::HPluginManager;
 
 namespace {

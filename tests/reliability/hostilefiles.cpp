@@ -3,7 +3,6 @@
 #include "layout/glyphfiles.h"
 #include "support/malformedglyphs.h"
 
-#include <QDataStream>
 #include <QFile>
 #include <QImage>
 

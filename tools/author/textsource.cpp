@@ -4,7 +4,6 @@
 #include "scene/jsonvalues.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>

@@ -8,7 +8,6 @@
 #include "author/scenestore.h"
 
 #include <QByteArray>
-#include <QVector>
 
 namespace AnimText::author {
 

@@ -2,8 +2,6 @@
 
 #include "cli/output.h"
 
-#include <QByteArray>
-
 #include <cstdio>
 
 #include <unistd.h>

@@ -6,7 +6,6 @@
 
 #include "layout/styledtext.h"
 
-#include <QList>
 #include <QPainterPath>
 #include <QVector>
 

@@ -6,7 +6,6 @@
 
 #include "scene/scene.h"
 
-#include <QString>
 #include <QVector>
 
 #include <memory>

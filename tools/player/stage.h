@@ -13,7 +13,6 @@
 #include <icontentrender.h>
 
 #include <QImage>
-#include <QString>
 #include <QVector>
 
 #include <functional>

@@ -13,7 +13,6 @@
 #include <QPoint>
 #include <QSize>
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 
 namespace AnimText::scene {

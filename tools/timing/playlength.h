@@ -8,7 +8,6 @@
 
 #include <QDataStream>
 #include <QFile>
-#include <QString>
 #include <QVector>
 
 #include <functional>

@@ -7,8 +7,6 @@
 #include "scene/motion.h"
 #include "timing/playlength.h"
 
-#include <QSize>
-
 #include <algorithm>
 #include <cmath>
 

@@ -1,7 +1,6 @@
 #include "studio/model/document.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QUndoCommand>

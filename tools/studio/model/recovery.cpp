@@ -2,7 +2,6 @@
 
 #include "files/wholefile.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>

@@ -6,7 +6,6 @@
 
 #include <QObject>
 #include <QProcess>
-#include <QStringList>
 
 namespace AnimText::studio::worker {
 

@@ -3,7 +3,6 @@
 #include "studio/window/basics/style.h"
 
 #include <QFormLayout>
-#include <QLabel>
 
 namespace AnimText::studio::window::display {
 namespace {

@@ -1,7 +1,6 @@
 #include "studio/window/display/displayview.h"
 
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>

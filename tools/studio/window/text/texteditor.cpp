@@ -9,7 +9,6 @@
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocumentFragment>
-#include <QUrl>
 
 #include <memory>
 
