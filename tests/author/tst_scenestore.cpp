@@ -2,6 +2,7 @@
 #include "testfolder.h"
 
 #include "author/scenestore.h"
+#include "files/failure.h"
 #include "layout/glyphfiles.h"
 
 #include <QPainterPath>
@@ -241,16 +242,18 @@ private slots:
         for (auto file = orphan.files.begin(); file != orphan.files.end(); ++file)
             folder->Write(file.key(), file.value());
         folder->Write("mine.path", "mine");
-        author::Unneeded unneeded;
-        QVERIFY(author::TidyFolder(folder->Path(""), false, &unneeded, &error));
-        QCOMPARE(unneeded.names, orphan.files.keys());
+        QCOMPARE(author::TidyFolder(folder->Path(""), false), orphan.files.keys());
         folder->Write("torn.json", "{");
-        QVERIFY(!author::TidyFolder(folder->Path(""), true, &unneeded, &error));
-        QVERIFY2(error.contains("torn.json"), qPrintable(error));
+        try {
+            author::TidyFolder(folder->Path(""), true);
+            QFAIL("tidied");
+        } catch (const files::Failure& failure) {
+            QVERIFY2(failure.message.contains("torn.json"), qPrintable(failure.message));
+        }
         QCOMPARE(folder->Listing().size(), before.size() + 4);
         folder->Remove("torn.json");
         folder->Remove("mine.path");
-        QVERIFY(author::TidyFolder(folder->Path(""), true, &unneeded, &error));
+        author::TidyFolder(folder->Path(""), true);
         QCOMPARE(folder->Listing(), before);
     }
 
@@ -439,9 +442,7 @@ private slots:
             if (calls > 0 && folder->Listing().contains(".animtext.lock"))
                 Age(folder->Path(".animtext.lock"));
             QCOMPARE(Save(before), author::Storing::Saved);
-            author::Unneeded unneeded;
-            QVERIFY2(author::TidyFolder(folder->Path(""), true, &unneeded, &error),
-                     qPrintable(error));
+            author::TidyFolder(folder->Path(""), true);
             QCOMPARE(folder->Listing(), before.files.keys() + QStringList("sign.json"));
             ending = RunAndKill(calls, [&] { Save(after); });
             if (ending == Ending::Untraceable)

@@ -14,10 +14,7 @@ void Tidy(const cli::CommandLine& line)
     const QString folder = line.Arguments().first();
     const bool removes = line.IsSet("remove");
     cli::WatchForInterruption();
-    author::Unneeded unneeded;
-    QString error;
-    files::FailUnless(author::TidyFolder(folder, removes, &unneeded, &error), error);
-    for (const QString& name : unneeded.names)
+    for (const QString& name : author::TidyFolder(folder, removes))
         cli::Print((removes ? "removed " : "") + QDir(folder).filePath(name).toLocal8Bit() + '\n');
 }
 

@@ -59,7 +59,13 @@ struct Store
     Stored* const stored;
     QString* const error;
     const QDir folder = QFileInfo(path).dir();
-    QStringList made{}; // files that did not exist before
+    QStringList made{}; // files that did not exist before, unless the scene was saved
+
+    ~Store()
+    {
+        for (const QString& file : made)
+            QFile::remove(file);
+    }
 
     Storing Change(const SceneChange& change)
     {
@@ -84,9 +90,7 @@ struct Store
             for (const QString& name : unneeded.names)
                 QFile::remove(folder.filePath(name));
             stored->doubt = unneeded.doubt;
-        } else {
-            for (const QString& file : made)
-                QFile::remove(file);
+            made.clear();
         }
         return storing;
     }
@@ -100,8 +104,7 @@ struct Store
                 continue;
             if (!QFileInfo::exists(place))
                 made.append(place);
-            if (!files::WriteWhole(place, file.value(), error))
-                return Storing::Failed;
+            files::WriteWhole(place, file.value());
         }
         lock.Sync(); // the scene must not reach the disk before the files that it names
 
@@ -115,7 +118,8 @@ struct Store
             *error = QStringLiteral("%1: %2").arg(path, mistake);
             return Storing::Refused;
         }
-        return files::WriteWhole(path, json, error) ? Storing::Saved : Storing::Failed;
+        files::WriteWhole(path, json);
+        return Storing::Saved;
     }
 };
 
@@ -136,40 +140,36 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
         return refuse("expected a name that ends in .json");
     if (!folder.exists())
         return refuse(QStringLiteral("the folder %1 does not exist").arg(folder.path()));
-    QString target;
-    if (!files::FindTarget(path, &target, error))
+    try {
+        files::FindTarget(path);
+        files::FolderLock lock(folder.absolutePath());
+        lock.Take();
+        Stored unused;
+        return Store{file, lock, stored ? stored : &unused, error}.Change(change);
+    } catch (const files::Failure& failure) {
+        *error = failure.message;
         return Storing::Failed;
-    files::FolderLock lock(folder.absolutePath());
-    if (!lock.Take(error))
-        return Storing::Failed;
-    Stored unused;
-    return Store{file, lock, stored ? stored : &unused, error}.Change(change);
+    }
 }
 
-bool TidyFolder(const QString& path, bool removes, Unneeded* unneeded, QString* error)
+QStringList TidyFolder(const QString& path, bool removes)
 {
     const QDir folder(path);
-    if (!folder.exists() || !folder.isReadable()) {
-        *error = QStringLiteral("%1: expected a folder that can be read").arg(path);
-        return false;
-    }
+    files::FailUnless(folder.exists() && folder.isReadable(),
+                      path + ": expected a folder that can be read");
     files::FolderLock lock(folder.absolutePath());
-    if (removes && !lock.Take(error))
-        return false;
-    *unneeded = FindUnneeded(folder, DataFilesIn(folder));
-    if (!unneeded->doubt.isEmpty()) {
-        *error = QStringLiteral("cannot tell which data files are unused: %1").arg(unneeded->doubt);
-        return false;
-    }
-    for (const QString& name : removes ? unneeded->names : QStringList()) {
+    if (removes)
+        lock.Take();
+    const Unneeded unneeded = FindUnneeded(folder, DataFilesIn(folder));
+    files::FailUnless(unneeded.doubt.isEmpty(),
+                      "cannot tell which data files are unused: " + unneeded.doubt);
+    for (const QString& name : removes ? unneeded.names : QStringList()) {
         QFile file(folder.filePath(name));
-        if (!file.remove()) {
-            *error =
-                QStringLiteral("%1 cannot be removed: %2").arg(file.fileName(), file.errorString());
-            return false;
-        }
+        if (!file.remove())
+            throw files::Failure{files::FailedRun, QStringLiteral("%1 cannot be removed: %2")
+                                                       .arg(file.fileName(), file.errorString())};
     }
-    return true;
+    return unneeded.names;
 }
 
 } // namespace AnimText::author

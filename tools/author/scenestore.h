@@ -55,9 +55,8 @@ Storing ChangeScene(const QString& path, const SceneChange& change, QString* err
 
 /**
  * Finds unused data files in @p folder, such as those of a deleted scene or a killed writer. With
- * @p removes, deletes them while other writers wait. On failure returns false with one line in
- * @p error.
+ * @p removes, deletes them while other writers wait. Throws Failure.
  */
-bool TidyFolder(const QString& folder, bool removes, Unneeded* unneeded, QString* error);
+QStringList TidyFolder(const QString& folder, bool removes);
 
 } // namespace AnimText::author

@@ -133,8 +133,7 @@ void WriteManual(const QVector<Command>& commands, const QString& folder)
 {
     const auto write = [&folder](const QByteArray& name, const QByteArray& page) {
         const QString path = QDir(folder).filePath(QString::fromLatin1(name) + QLatin1String(".1"));
-        QString error;
-        files::FailUnless(files::WriteWhole(path, page, &error), error);
+        files::WriteWhole(path, page);
     };
     files::MakeFolder(folder);
     write("animtext", ManualOverview(commands));

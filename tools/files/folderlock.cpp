@@ -22,11 +22,8 @@ const unsigned long pause = 5; // ms between two tries; QLockFile's own pauses g
 QString Cause(const QString& folder)
 {
     QTemporaryFile probe(UnfinishedName(folder + "/lock"));
-    QString problem = "it cannot be locked";
-    if (!probe.open())
-        return probe.errorString();
-    WriteAll(&probe, "\n", &problem);
-    return problem;
+    const QString problem = probe.open() ? WriteAll(&probe, "\n") : probe.errorString();
+    return problem.isEmpty() ? "it cannot be locked" : problem;
 }
 
 } // namespace
@@ -37,7 +34,7 @@ FolderLock::FolderLock(const QString& folder)
 {
 }
 
-bool FolderLock::Take(QString* error)
+void FolderLock::Take()
 {
     QElapsedTimer waited;
     waited.start();
@@ -49,18 +46,14 @@ bool FolderLock::Take(QString* error)
         file.setStaleLockTime(file.getLockInfo(&owner, &host, &program) ? oldestLock
                                                                         : oldestNameless);
         if (file.tryLock(0))
-            return true;
-        if (file.error() != QLockFile::LockFailedError) {
-            *error =
-                QStringLiteral("%1: cannot write to this folder: %2").arg(folder, Cause(folder));
-            return false;
-        }
-        if (waited.elapsed() > longestWait) {
-            *error = QStringLiteral("%1: another program has locked this folder for a minute; if "
-                                    "none is running, remove .animtext.lock")
-                         .arg(folder);
-            return false;
-        }
+            return;
+        if (file.error() != QLockFile::LockFailedError)
+            throw Failure{
+                FailedRun,
+                QStringLiteral("%1: cannot write to this folder: %2").arg(folder, Cause(folder))};
+        FailUnless(waited.elapsed() <= longestWait,
+                   folder + ": another program has locked this folder for a minute; if none is "
+                            "running, remove .animtext.lock");
         QThread::msleep(pause);
     }
 }

@@ -20,8 +20,8 @@ public:
     /** Holds the lock from Take() until destruction. */
     explicit FolderLock(const QString& folder);
 
-    /** Waits up to a minute. On failure returns false and sets @p error to one line. */
-    bool Take(QString* error);
+    /** Waits up to a minute; throws Failure. */
+    void Take();
 
     /** Writes the folder's directory entries to the disk. */
     void Sync() const;

@@ -1,7 +1,5 @@
 #include "files/wholefile.h"
 
-#include "files/failure.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -76,20 +74,19 @@ QString WriteProtection(const QString& path)
     return QString();
 }
 
-bool FindTarget(const QString& path, QString* target, QString* error)
+QString FindTarget(const QString& path)
 {
-    *target = QFileInfo(RealPath(path)).absoluteFilePath();
+    const QString target = QFileInfo(RealPath(path)).absoluteFilePath();
     struct stat there = {};
     QString obstacle;
-    if (stat(QFile::encodeName(*target).constData(), &there) != 0)
+    if (stat(QFile::encodeName(target).constData(), &there) != 0)
         obstacle = errno == ENOENT ? QString() : SystemError();
     else if (!S_ISREG(there.st_mode))
         obstacle = S_ISDIR(there.st_mode) ? "it is a folder" : "it is not a regular file";
     else
-        obstacle = WriteProtection(*target);
-    if (!obstacle.isEmpty())
-        *error = CannotWrite(path, obstacle);
-    return obstacle.isEmpty();
+        obstacle = WriteProtection(target);
+    FailUnless(obstacle.isEmpty(), CannotWrite(path, obstacle));
+    return target;
 }
 
 QString CannotWrite(const QString& path, const QString& problem)
@@ -135,13 +132,12 @@ QString TemporaryName()
         .absoluteFilePath(QCoreApplication::applicationName() + "-XXXXXX");
 }
 
-bool IsMade(const QTemporaryDir& folder, QString* error)
+void CheckMade(const QTemporaryDir& folder)
 {
-    if (!folder.isValid())
-        *error = QStringLiteral(
-                     "cannot create a temporary folder in %1: %2; set TMPDIR to another folder")
-                     .arg(QFileInfo(TemporaryName()).path(), folder.errorString());
-    return folder.isValid();
+    FailUnless(
+        folder.isValid(),
+        QStringLiteral("cannot create a temporary folder in %1: %2; set TMPDIR to another folder")
+            .arg(QFileInfo(TemporaryName()).path(), folder.errorString()));
 }
 
 QByteArray ReadAtMost(QFile* file, qint64 most)
@@ -152,7 +148,7 @@ QByteArray ReadAtMost(QFile* file, qint64 most)
     return bytes;
 }
 
-bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
+QString WriteAll(QFile* file, const QByteArray& content)
 {
     // When the disk fills up, write() writes a part, and only the next call returns the reason.
     // QFile does not make that call.
@@ -160,32 +156,21 @@ bool WriteAll(QFile* file, const QByteArray& content, QString* problem)
     while (done < content.size()) {
         const qint64 written =
             ::write(file->handle(), content.constData() + done, size_t(content.size() - done));
-        if (written < 0 && errno != EINTR) {
-            *problem = SystemError();
-            return false;
-        }
+        if (written < 0 && errno != EINTR)
+            return SystemError();
         done += qMax<qint64>(0, written);
     }
-    return true;
+    return QString();
 }
 
-bool WriteWhole(const QString& path, const QByteArray& content, QString* error)
+void WriteWhole(const QString& path, const QByteArray& content)
 {
-    QString target;
-    if (!FindTarget(path, &target, error))
-        return false;
+    const QString target = FindTarget(path);
     QTemporaryFile file(UnfinishedName(target));
-    QString problem;
-    if (!file.open())
-        problem = file.errorString();
-    else if (WriteAll(&file, content, &problem) &&
-             PutInPlace(file.fileName(), target, 0666, error)) {
-        file.setAutoRemove(false);
-        return true;
-    }
-    if (!problem.isEmpty())
-        *error = CannotWrite(path, problem);
-    return false;
+    const QString problem = file.open() ? WriteAll(&file, content) : file.errorString();
+    FailUnless(problem.isEmpty(), CannotWrite(path, problem));
+    PutInPlace(file.fileName(), target, 0666);
+    file.setAutoRemove(false);
 }
 
 QString RealPath(const QString& path)
@@ -197,7 +182,7 @@ QString RealPath(const QString& path)
     return file.filePath();
 }
 
-bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error)
+void PutInPlace(const QString& from, const QString& to, unsigned mode)
 {
     const QByteArray name = QFile::encodeName(from);
     const QByteArray target = QFile::encodeName(to);
@@ -210,11 +195,10 @@ bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* 
     const bool whole = file >= 0 && fsync(file) == 0 &&
                        fchmod(file, replaces ? before.st_mode & 07777 : mode & ~mask) == 0 &&
                        std::rename(name.constData(), target.constData()) == 0;
-    if (!whole)
-        *error = CannotWrite(to, SystemError());
+    const QString problem = SystemError();
     if (file >= 0)
         close(file);
-    return whole;
+    FailUnless(whole, CannotWrite(to, problem));
 }
 
 } // namespace AnimText::files

@@ -5,6 +5,8 @@
  */
 #pragma once
 
+#include "files/failure.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -31,10 +33,10 @@ QString UnfinishedName(const QString& path);
 QString WriteProtection(const QString& path);
 
 /**
- * Follows symbolic links from @p path to the file to write, which may not exist yet. Returns false,
- * with one line in @p error, if something other than a writable regular file exists there.
+ * Follows symbolic links from @p path to the file to write, which may not exist yet. Throws Failure
+ * if something other than a writable regular file exists there.
  */
-bool FindTarget(const QString& path, QString* target, QString* error);
+QString FindTarget(const QString& path);
 
 /** The target of @p path if it is a symbolic link, else @p path. */
 QString RealPath(const QString& path);
@@ -52,28 +54,27 @@ void MakeFolder(const QString& path);
 QString TemporaryName();
 
 /**
- * Whether @p folder was created; otherwise @p error has one line. Check this first: in a folder
- * without a name, files would go to the current folder.
+ * Throws Failure if @p folder could not be created. Check this first: in a folder without a name,
+ * files would go to the current folder.
  */
-bool IsMade(const QTemporaryDir& folder, QString* error);
+void CheckMade(const QTemporaryDir& folder);
 
 /** Reads the rest of @p file, up to @p most bytes, in pieces as pipes deliver them. */
 QByteArray ReadAtMost(QFile* file, qint64 most);
 
-/** Appends @p content to an open, unbuffered file; on failure returns false and sets @p problem to
- * the system's message. */
-bool WriteAll(QFile* file, const QByteArray& content, QString* problem);
+/** Appends @p content to an open, unbuffered file. @return why that failed, or empty */
+QString WriteAll(QFile* file, const QByteArray& content);
 
 /**
  * Writes @p content to the disk, then replaces the file at @p path if FindTarget() allows it. On
- * failure returns false with one line in @p error and leaves an existing file as it was.
+ * failure throws and leaves an existing file as it was.
  */
-bool WriteWhole(const QString& path, const QByteArray& content, QString* error);
+void WriteWhole(const QString& path, const QByteArray& content);
 
 /**
  * Writes the temporary file or folder @p from to the disk and renames it to @p to. It gets the
- * permissions of what it replaces; otherwise @p mode less the process's umask.
+ * permissions of what it replaces; otherwise @p mode less the process's umask. Throws Failure.
  */
-bool PutInPlace(const QString& from, const QString& to, unsigned mode, QString* error);
+void PutInPlace(const QString& from, const QString& to, unsigned mode);
 
 } // namespace AnimText::files

@@ -47,83 +47,71 @@ WholeFolder::WholeFolder(const QString& path)
 {
 }
 
-bool WholeFolder::IsReplaceable(const QString& at, QString* error) const
+void WholeFolder::CheckReplaceable() const
 {
-    const QDir there(at);
-    QString culprit = path;
-    QString protection = WriteProtection(at);
-    if (protection.isEmpty() && !there.isReadable())
-        protection = "it cannot be read";
-    const QStringList own = protection.isEmpty() ? ownFiles(there) : QStringList();
-    for (int i = 0; i < own.size() && protection.isEmpty(); ++i) {
-        culprit = there.filePath(own.at(i));
-        protection = WriteProtection(culprit);
-    }
-    const QString foreign = protection.isEmpty() ? ForeignName(there, own) : QString();
-    if (!protection.isEmpty())
-        *error = CannotWrite(culprit, protection);
-    else if (!foreign.isEmpty())
-        *error = QStringLiteral("%1 has other contents, such as %2; choose a new or empty folder")
-                     .arg(path, foreign);
-    return protection.isEmpty() && foreign.isEmpty();
+    const QDir there(path);
+    const auto check = [](const QString& name, const QString& problem) {
+        FailUnless(problem.isEmpty(), CannotWrite(name, problem));
+    };
+    check(path, WriteProtection(path));
+    check(path, there.isReadable() ? QString() : "it cannot be read");
+    const QStringList own = ownFiles(there);
+    for (const QString& name : own)
+        check(there.filePath(name), WriteProtection(there.filePath(name)));
+    const QString foreign = ForeignName(there, own);
+    FailUnless(foreign.isEmpty(),
+               QStringLiteral("%1 has other contents, such as %2; choose a new or empty folder")
+                   .arg(path, foreign));
 }
 
-bool WholeFolder::Open(const OwnFiles& own, QString* error)
+void WholeFolder::Open(const OwnFiles& own)
 {
     ownFiles = own;
     const QFileInfo info(path);
-    if (info.exists() && !info.isDir()) {
-        *error = QStringLiteral("%1 is a file; choose another name for the folder").arg(path);
-        return false;
-    }
-    if (info.exists() && info.canonicalFilePath() == QDir().canonicalPath()) {
-        *error = path + " is the current folder, which cannot be replaced; choose another one";
-        return false;
-    }
-    if (info.exists() && !IsReplaceable(path, error))
-        return false;
+    FailUnless(!info.exists() || info.isDir(),
+               path + " is a file; choose another name for the folder");
+    FailUnless(!info.exists() || info.canonicalFilePath() != QDir().canonicalPath(),
+               path + " is the current folder, which cannot be replaced; choose another one");
+    if (info.exists())
+        CheckReplaceable();
     folder = std::make_unique<QTemporaryDir>(UnfinishedName(path));
-    if (folder->isValid())
-        return true;
-    *error =
-        QStringLiteral("cannot create a folder in %1: %2").arg(info.absolutePath(), SystemError());
-    return false;
+    const QString problem = SystemError();
+    FailUnless(
+        folder->isValid(),
+        QStringLiteral("cannot create a folder in %1: %2").arg(info.absolutePath(), problem));
 }
 
-bool WholeFolder::Add(const QString& name, const QByteArray& content, QString* error)
+void WholeFolder::Add(const QString& name, const QByteArray& content)
 {
     QFile file(folder->filePath(name));
     QDir().mkpath(QFileInfo(file).path());
-    QString problem;
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        problem = file.errorString();
-    else if (WriteAll(&file, content, &problem)) {
-        bytes += content.size();
-        return true;
-    }
-    *error = CannotWrite(path + QLatin1Char('/') + name, problem);
-    return false;
+    const QString problem = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+                                ? WriteAll(&file, content)
+                                : file.errorString();
+    FailUnless(problem.isEmpty(), CannotWrite(path + QLatin1Char('/') + name, problem));
+    bytes += content.size();
 }
 
-bool WholeFolder::Finish(QString* error)
+void WholeFolder::Finish()
 {
     const bool replaces = QFileInfo::exists(path);
     const QString old = folder->path() + ".old";
-    if (replaces && !IsReplaceable(path, error))
-        return false;
-    if (replaces && std::rename(QFile::encodeName(path), QFile::encodeName(old)) != 0) {
-        *error = QStringLiteral("%1 cannot be replaced: %2").arg(path, SystemError());
-        return false;
+    if (replaces) {
+        CheckReplaceable();
+        if (std::rename(QFile::encodeName(path), QFile::encodeName(old)) != 0)
+            throw Failure{FailedRun,
+                          QStringLiteral("%1 cannot be replaced: %2").arg(path, SystemError())};
     }
-    if (!PutInPlace(folder->path(), path, 0777, error)) {
+    try {
+        PutInPlace(folder->path(), path, 0777);
+    } catch (const Failure&) {
         if (replaces)
             QDir().rename(old, path);
-        return false;
+        throw;
     }
     folder->setAutoRemove(false);
     if (replaces)
         RemoveOwn(QDir(old), ownFiles(QDir(old)));
-    return true;
 }
 
 } // namespace AnimText::files

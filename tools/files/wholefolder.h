@@ -26,19 +26,19 @@ public:
     using OwnFiles = std::function<QStringList(const QDir&)>;
 
     /**
-     * Each returns false on failure, with one line in @p error. An existing folder is replaced only
-     * if it holds nothing except @p ownFiles; Finish() checks this again.
+     * Each throws Failure. An existing folder is replaced only if it holds nothing except
+     * @p ownFiles; Finish() checks this again.
      */
-    bool Open(const OwnFiles& ownFiles, QString* error);
+    void Open(const OwnFiles& ownFiles);
     /** @param name of a file, with at most one folder before it */
-    bool Add(const QString& name, const QByteArray& content, QString* error);
-    bool Finish(QString* error);
+    void Add(const QString& name, const QByteArray& content);
+    void Finish();
 
     /** Size of all files added. */
     qint64 Bytes() const { return bytes; }
 
 private:
-    bool IsReplaceable(const QString& at, QString* error) const;
+    void CheckReplaceable() const;
 
     QString path;
     OwnFiles ownFiles;

@@ -54,8 +54,8 @@ bool IsOurPng(const QString& path)
 
 void WritePng(const QString& path, const QByteArray& png)
 {
-    QString error = QStringLiteral("%1 cannot be written: the picture is too large").arg(path);
-    files::FailUnless(!png.isEmpty() && files::WriteWhole(path, png, &error), error);
+    files::FailUnless(!png.isEmpty(), path + " cannot be written: the picture is too large");
+    files::WriteWhole(path, png);
 }
 
 } // namespace AnimText::film

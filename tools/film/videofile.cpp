@@ -71,10 +71,7 @@ void WriteVideo(const QString& path, const FilmKind& kind, const FilmFormat& for
                 const PlayPictures& play, const GoOn& goOn, int patience)
 {
     const QString place = QFileInfo(path).absoluteFilePath();
-    QString target; // with links followed
-    QString error;
-    files::FailUnless(files::FindTarget(place, &target, &error), error);
-    QTemporaryFile unfinished(files::UnfinishedName(target));
+    QTemporaryFile unfinished(files::UnfinishedName(files::FindTarget(place)));
     if (!unfinished.open())
         throw files::Failure{files::FailedRun, files::CannotWrite(place, unfinished.errorString())};
     QStringList words = FilmProgram::Reading(format.size, format.transparent ? "bgra" : "bgr0");
@@ -86,9 +83,7 @@ void WriteVideo(const QString& path, const FilmKind& kind, const FilmFormat& for
     play(FilmStage::Pictures, [&](int, const QImage& picture) { encoder.Take(picture); });
     encoder.Finish();
     CheckFilm(place, unfinished.fileName(), kind.Name(), format, goOn);
-    files::FailUnless(files::FindTarget(place, &target, &error) &&
-                          files::PutInPlace(unfinished.fileName(), target, 0666, &error),
-                      error);
+    files::PutInPlace(unfinished.fileName(), files::FindTarget(place), 0666);
     unfinished.setAutoRemove(false);
 }
 

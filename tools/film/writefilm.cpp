@@ -34,9 +34,7 @@ QStringList Frames(const QDir& folder)
 void WriteStill(const QString& path, bool isTransparent, const PlayPictures& play)
 {
     const QString place = QFileInfo(path).absoluteFilePath();
-    QString target;
-    QString error;
-    files::FailUnless(files::FindTarget(place, &target, &error), error); // before playing
+    files::FindTarget(place); // before playing
     play(FilmStage::Pictures,
          [&](int, const QImage& picture) { WritePng(place, PngOf(picture, isTransparent)); });
 }
@@ -50,8 +48,7 @@ qint64 WriteFolder(const QString& path, int lastFrame, bool isTransparent, const
 {
     const int digits = std::max(4, int(QString::number(lastFrame).size()));
     files::WholeFolder folder(path);
-    QString error;
-    files::FailUnless(folder.Open(Frames, &error), error);
+    folder.Open(Frames);
     using Png = std::shared_future<QByteArray>;
     std::deque<std::pair<int, Png>> waiting;
     const auto writeNext = [&] {
@@ -60,9 +57,10 @@ qint64 WriteFolder(const QString& path, int lastFrame, bool isTransparent, const
         const QByteArray png = made.get();
         const QString name =
             QStringLiteral("frame-%1.png").arg(frame, digits, 10, QLatin1Char('0'));
-        error = QStringLiteral("%1/%2 cannot be written: the picture is too large")
-                    .arg(folder.Path(), name);
-        files::FailUnless(!png.isEmpty() && folder.Add(name, png, &error), error);
+        files::FailUnless(!png.isEmpty(),
+                          QStringLiteral("%1/%2 cannot be written: the picture is too large")
+                              .arg(folder.Path(), name));
+        folder.Add(name, png);
     };
     QImage last; // and its PNG: held pages are compressed once
     Png lastPng;
@@ -78,7 +76,7 @@ qint64 WriteFolder(const QString& path, int lastFrame, bool isTransparent, const
     });
     while (!waiting.empty())
         writeNext();
-    files::FailUnless(folder.Finish(&error), error);
+    folder.Finish();
     return folder.Bytes();
 }
 

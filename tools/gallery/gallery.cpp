@@ -139,13 +139,13 @@ struct GalleryWriter
     QTemporaryDir scenes{files::TemporaryName()};
     PictureSheets posters{};
     QJsonObject digests{}; // of the files in the folder
-    QString error{};
     int done = 0;
     const int all = speedCount * (scene::Effects().size() + scene::Scrolls().size());
 
     void Write()
     {
-        files::FailUnless(files::IsMade(scenes, &error) && folder.Open(OwnFiles, &error), error);
+        files::CheckMade(scenes);
+        folder.Open(OwnFiles);
         QVector<GalleryEntry> entries;
         for (const scene::Motion& motion : scene::Effects())
             entries.append(WriteMotion(scene::Mode::Entrance, motion));
@@ -167,9 +167,8 @@ struct GalleryWriter
         for (const char* name : {"gallery.css", "film.js", "view.js", "gallery.js"})
             Add(QLatin1String(name), Own(name));
         const QJsonObject manifest{{"generator", generator}, {"files", digests}};
-        files::FailUnless(folder.Add(manifestName, QJsonDocument(manifest).toJson(), &error) &&
-                              folder.Finish(&error),
-                          error);
+        folder.Add(manifestName, QJsonDocument(manifest).toJson());
+        folder.Finish();
     }
 
     /** A file of the page. */
@@ -195,6 +194,7 @@ struct GalleryWriter
         for (int speed : speedsInOrder) {
             node.attributes[nodeMotion.SpeedKey()] = speed;
             author::AuthoredNode authored;
+            QString error;
             files::FailUnless(author::AuthorNode(options.text, node, nodeMotion, &authored, &error),
                               error);
             const auto goOn = [this] { watch(done, all); };
@@ -217,8 +217,7 @@ struct GalleryWriter
         scene::SceneNode node = authored.node;
         for (auto file = authored.data.begin(); file != authored.data.end(); ++file) {
             node.files[file.key()] = scenes.filePath(file.key());
-            files::FailUnless(files::WriteWhole(node.files[file.key()], file.value(), &error),
-                              error);
+            files::WriteWhole(node.files[file.key()], file.value());
         }
         scene.pages.append(scene::ScenePage{{scene::SceneArea{{node}}}});
         return scene;
@@ -237,7 +236,7 @@ struct GalleryWriter
 
     void Add(const QString& name, const QByteArray& content)
     {
-        files::FailUnless(folder.Add(name, content, &error), error);
+        folder.Add(name, content);
         digests.insert(name, Digest(content));
     }
 };

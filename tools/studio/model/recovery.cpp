@@ -28,13 +28,13 @@ bool WriteCopy(const Sign& sign, const QString& path, const QString& folder)
     const scene::Scene scene = SceneToSave(sign, scenePath, &files);
     const QJsonObject about{{"path", path}};
     files.insert(aboutName, QJsonDocument(about).toJson());
-    QString error;
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        if (!files::WriteWhole(dir.filePath(file.key()), file.value(), &error))
-            return false;
-    }
-    if (!files::WriteWhole(scenePath, scene::SceneToJson(scene), &error))
+    try {
+        for (auto file = files.begin(); file != files.end(); ++file)
+            files::WriteWhole(dir.filePath(file.key()), file.value());
+        files::WriteWhole(scenePath, scene::SceneToJson(scene));
+    } catch (const files::Failure&) {
         return false;
+    }
     for (const QString& name : dir.entryList({"*.path", "*.descent"})) {
         if (!files.contains(name))
             QFile::remove(dir.filePath(name));

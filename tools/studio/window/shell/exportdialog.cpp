@@ -212,9 +212,11 @@ void ExportDialog::Begin()
     }
     QString error;
     const scene::Scene scene = folder.Put(sign, -1, &error);
-    if (!error.isEmpty() || !files::WriteWhole(scene.path, scene::SceneToJson(scene), &error)) {
-        End(error, false);
-        return;
+    try {
+        files::FailUnless(error.isEmpty(), error);
+        files::WriteWhole(scene.path, scene::SceneToJson(scene));
+    } catch (const files::Failure& failure) {
+        return End(failure.message, false);
     }
     progress->setRange(0, 0);
     progress->show();
