@@ -8,6 +8,8 @@
 
 namespace AnimText::animtext {
 
+using cli::Option;
+
 cli::Command AuthorCommand();
 cli::Command CompareCommand();
 cli::Command DurationCommand();

@@ -124,13 +124,12 @@ scene::NodeMotion FirstMotion(const scene::Scene& scene)
                            : scene::MotionOf(*nodes.first());
 }
 
-QVector<cli::Option> FolderOptions()
+QVector<Option> FolderOptions()
 {
     return {
-        cli::Option::Flag("record",
-                          "Save what the scenes of FOLDER show now as FOLDER/expected.txt."),
-        cli::Option::File("expected", "FILE", "File to use in place of FOLDER/expected.txt."),
-        cli::Option::Number("ticks", 0, 1000000000, "Last tick that --record saves.").Or("100")};
+        Option::Flag("record", "Save what the scenes of FOLDER show now as FOLDER/expected.txt."),
+        Option::File("expected", "FILE", "File to use in place of FOLDER/expected.txt."),
+        Option::Number("ticks", 0, 1000000000, "Last tick that --record saves.").Or("100")};
 }
 
 /** Plays the scenes of @p folder and compares, or records, what they show. */
@@ -187,7 +186,7 @@ void Compare(const cli::CommandLine& line)
                       "expected a folder, or what to compare " + first + " with");
         return CompareFolder(line, first);
     }
-    for (const cli::Option& option : FolderOptions())
+    for (const Option& option : FolderOptions())
         cli::RefuseIf(
             line.IsSet(option.name),
             QStringLiteral("--%1 is for a folder of scenes, the only word then").arg(option.name));
@@ -224,14 +223,13 @@ cli::Command CompareCommand()
         "background's SHA-1.",
         shared::WithShowOptions(
             FolderOptions() +
-            QVector<cli::Option>{
-                cli::Option::Time(
-                    "tolerance", 0, 1e6,
-                    "Allowed difference of times, counted from a session's first call.")
+            QVector<Option>{
+                Option::Time("tolerance", 0, 1e6,
+                             "Allowed difference of times, counted from a session's first call.")
                     .Or("66ms"),
-                cli::Option::Flag("no-times", "Ignore times."),
-                cli::Option::File("output", "DIR",
-                                  "Folder for pictures. Default: beside the first recording.")
+                Option::Flag("no-times", "Ignore times."),
+                Option::File("output", "DIR",
+                             "Folder for pictures. Default: beside the first recording.")
                     .Letter('o')}),
         Compare,
         {"animtext compare device.log sign.json --no-times -o differences",

@@ -206,12 +206,10 @@ cli::Command DurationCommand()
         "With --simulate, also prints the actual time. If the text needs longer than planned, the "
         "sign cuts off its end.",
         shared::WithShowOptions(
-            {cli::Option::Flag("simulate",
-                               "Play the scene on virtual time to find the actual time."),
-             cli::Option::Flag("table",
-                               "Print both times of the first text for every entrance effect "
-                               "at speeds 0, 4, 5 and 9."),
-             cli::Option::Flag("json", "Print a JSON line for each text.")}),
+            {Option::Flag("simulate", "Play the scene on virtual time to find the actual time."),
+             Option::Flag("table", "Print both times of the first text for every entrance effect "
+                                   "at speeds 0, 4, 5 and 9."),
+             Option::Flag("json", "Print a JSON line for each text.")}),
         PrintDuration,
         {"animtext duration sign.json --simulate", "animtext duration sign.json --table"}};
 }

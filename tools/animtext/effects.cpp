@@ -77,7 +77,7 @@ cli::Command EffectsCommand()
          {"bounce", "fly", "grow", "scroll", "spin", "ticker", "typewriter", "zoom"}},
         "Lists the entrance effects and scrolls with their numbers and names, or only those that "
         "match every WORD, such as bounce or ticker.",
-        {cli::Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
+        {Option::Flag("json", "Print JSON, with the family and the synonyms of each motion.")},
         ListEffects,
         {"animtext effects", "animtext effects bounce --json"}};
 }

@@ -17,7 +17,7 @@ namespace {
 const QStringList textOptions{"text",      "font",  "size",   "bold", "italic",
                               "underline", "color", "hollow", "hold", "area"};
 
-bool IsTextOption(const cli::Option& option)
+bool IsTextOption(const Option& option)
 {
     return textOptions.contains(option.name);
 }
@@ -26,7 +26,7 @@ bool IsTextOption(const cli::Option& option)
 QString WordsOf(const cli::Command& command, const cli::CommandLine& line)
 {
     QStringList words;
-    for (const cli::Option& option : command.options) {
+    for (const Option& option : command.options) {
         if (!IsTextOption(option) || !(line.IsSet(option.name) || option.standard))
             continue;
         words.append("--" + QLatin1String(option.name));
@@ -71,11 +71,10 @@ void MakeGallery(const cli::CommandLine& line)
 
 cli::Command GalleryCommand()
 {
-    QVector<cli::Option> own{
-        cli::Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
+    QVector<Option> own{Option::File("output", "DIR", "Folder to write.").Letter('o').Required()};
     const QMap<QString, const char*> standards{
         {"text", "Welcome aboard!"}, {"area", "240x48"}, {"hold", "1s"}};
-    for (cli::Option option : shared::LayoutOptions()) {
+    for (Option option : shared::LayoutOptions()) {
         if (IsTextOption(option))
             own.append(option.Or(standards.value(option.name, option.standard)));
     }

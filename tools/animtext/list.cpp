@@ -80,7 +80,7 @@ cli::Command ListCommand()
             "list the texts in a scene",
             {"SCENE.json", 1, 1},
             "Lists the texts in a scene with their numbers, pages, areas, motions and times.",
-            {cli::Option::Flag("json", "Print a JSON list.")},
+            {Option::Flag("json", "Print a JSON list.")},
             List,
             {"animtext list sign.json", "animtext list sign.json --json"}};
 }

@@ -111,35 +111,34 @@ void PlayLive(const cli::CommandLine& line)
 
 cli::Command PlayCommand()
 {
-    return {
-        "play",
-        "play a scene live in a window or on LEDs",
-        {"SCENE.json", 0, 1},
-        "Plays a scene in real time, in a window. Space pauses, F switches to full screen and "
-        "Esc quits. At the end the last picture stays; press Space to play again. --to plays "
-        "on LED controllers in the network instead of in a window. Set QT_QPA_PLATFORM to "
-        "linuxfb to play on a board's own screen without a desktop, or to vnc for VNC viewers.",
-        shared::WithShowOptions(
-            {cli::Option::Flag("loop", "Repeat until stopped."),
-             cli::Option::Flag(
-                 "schedule", "Play like the host: pages, and texts in an area, one after another, "
-                             "each for its planned time. Default: all texts at once."),
-             cli::Option::Flag("fullscreen", "Fill the screen."),
-             cli::Option::Number("zoom", 1, 64,
-                                 "Screen pixels per display pixel. Default: as many as fit."),
-             cli::Option::Fraction(
-                 "leds", 1, 4, "PITCH",
-                 "Draw round LEDs, PITCH times their diameter apart. Without PITCH: 1.25.")
-                 .Alone("1.25"),
-             cli::Option::Flag("watch", "Restart when the scene or its data files change."),
-             cli::Option::Time("seconds", 0.1, 86400 * 366.0,
-                               "Stop after this time, such as 10s or 90min. Default: no limit."),
-             cli::Option::Flag("timing",
-                               "Print at the end how well the play kept up with the clock.")}) +
-            shared::LightOptions(),
-        PlayLive,
-        {"animtext play sign.json --loop --leds",
-         "animtext play sign.json --to ddp://192.168.1.50 --gamma"}};
+    return {"play",
+            "play a scene live in a window or on LEDs",
+            {"SCENE.json", 0, 1},
+            "Plays a scene in real time, in a window. Space pauses, F switches to full screen and "
+            "Esc quits. At the end the last picture stays; press Space to play again. --to plays "
+            "on LED controllers in the network instead of in a window. Set QT_QPA_PLATFORM to "
+            "linuxfb to play on a board's own screen without a desktop, or to vnc for VNC viewers.",
+            shared::WithShowOptions(
+                {Option::Flag("loop", "Repeat until stopped."),
+                 Option::Flag("schedule",
+                              "Play like the host: pages, and texts in an area, one after another, "
+                              "each for its planned time. Default: all texts at once."),
+                 Option::Flag("fullscreen", "Fill the screen."),
+                 Option::Number("zoom", 1, 64,
+                                "Screen pixels per display pixel. Default: as many as fit."),
+                 Option::Fraction(
+                     "leds", 1, 4, "PITCH",
+                     "Draw round LEDs, PITCH times their diameter apart. Without PITCH: 1.25.")
+                     .Alone("1.25"),
+                 Option::Flag("watch", "Restart when the scene or its data files change."),
+                 Option::Time("seconds", 0.1, 86400 * 366.0,
+                              "Stop after this time, such as 10s or 90min. Default: no limit."),
+                 Option::Flag("timing",
+                              "Print at the end how well the play kept up with the clock.")}) +
+                shared::LightOptions(),
+            PlayLive,
+            {"animtext play sign.json --loop --leds",
+             "animtext play sign.json --to ddp://192.168.1.50 --gamma"}};
 }
 
 } // namespace AnimText::animtext

@@ -143,7 +143,7 @@ void RenderMany(const cli::CommandLine& line)
     const QString ending = kind == QLatin1String("frames") ? "/" : QLatin1Char('.') + kind;
     CheckKind(line, KindOf(ending));
     QStringList options;
-    for (const cli::Option& option : RenderCommand().options) {
+    for (const Option& option : RenderCommand().options) {
         static const QStringList ours{"output", "as", "jobs", "resume", "progress"};
         if (!line.IsSet(option.name) || ours.contains(option.name))
             continue;
@@ -165,45 +165,39 @@ void Render(const cli::CommandLine& line)
         RenderOne(line, line.Value("output"));
 }
 
-QVector<cli::Option> Options()
+QVector<Option> Options()
 {
     return {
-        cli::Option::File("output", "OUT",
-                          "File to write. Its name ends with the format: .gif, .apng, .webp, .mp4, "
-                          ".webm or .png; or with / for a folder of PNGs.")
+        Option::File("output", "OUT",
+                     "File to write. Its name ends with the format: .gif, .apng, .webp, .mp4, "
+                     ".webm or .png; or with / for a folder of PNGs.")
             .Letter('o')
             .Required(),
-        cli::Option::Time("seconds", 0.001, 86400,
-                          "Play for this time, such as 10s, 1500ms or 2min. Default: to the end."),
-        cli::Option::Flag("schedule",
-                          "Play like the host: pages, and texts in an area, one after "
-                          "another, each for its planned time. Default: all texts at once."),
-        cli::Option::Range("frames", "Write only these pictures, counted from 0, or one of them."),
-        cli::Option::Time("at", 0, 86400,
-                          "Write the picture at this time: 2.5s, or 40t for tick 40."),
-        cli::Option::Number("scale", 1, 16, "Film pixels per display pixel.").Or("1"),
-        cli::Option::Fraction("leds", 1, 4, "PITCH",
-                              "Draw round LEDs on black, PITCH times their diameter apart. Without "
-                              "PITCH: 1.25. The default of --scale is then 4.")
+        Option::Time("seconds", 0.001, 86400,
+                     "Play for this time, such as 10s, 1500ms or 2min. Default: to the end."),
+        Option::Flag("schedule", "Play like the host: pages, and texts in an area, one after "
+                                 "another, each for its planned time. Default: all texts at once."),
+        Option::Range("frames", "Write only these pictures, counted from 0, or one of them."),
+        Option::Time("at", 0, 86400, "Write the picture at this time: 2.5s, or 40t for tick 40."),
+        Option::Number("scale", 1, 16, "Film pixels per display pixel.").Or("1"),
+        Option::Fraction("leds", 1, 4, "PITCH",
+                         "Draw round LEDs on black, PITCH times their diameter apart. Without "
+                         "PITCH: 1.25. The default of --scale is then 4.")
             .Alone("1.25"),
-        cli::Option::Color("background", "Background color under the display. Default: black."),
-        cli::Option::Flag("transparent", "Transparent background. Not for MP4."),
-        cli::Option::Flag("lossless",
-                          "Keep every pixel of an MP4 or WebM. Not all players support this."),
-        cli::Option::Choice(
-            "as", "KIND", {"gif", "apng", "webp", "mp4", "webm", "png", "frames"},
-            "Render each scene into the folder OUT as gif, apng, webp, mp4, webm, png "
-            "or frames (a folder of PNGs).")
+        Option::Color("background", "Background color under the display. Default: black."),
+        Option::Flag("transparent", "Transparent background. Not for MP4."),
+        Option::Flag("lossless",
+                     "Keep every pixel of an MP4 or WebM. Not all players support this."),
+        Option::Choice("as", "KIND", {"gif", "apng", "webp", "mp4", "webm", "png", "frames"},
+                       "Render each scene into the folder OUT as gif, apng, webp, mp4, webm, png "
+                       "or frames (a folder of PNGs).")
             .Or("gif"),
-        cli::Option::Number(
-            "jobs", 1, 1000,
-            "How many scenes to render at once. Default: the number of processors."),
-        cli::Option::Flag("resume",
-                          "Skip films that are newer than their scene, its data files, the "
-                          "plugin and this program."),
-        cli::Option::Flag(
-            "progress",
-            "Print progress as lines such as \"12 426 rendering\", for other programs.")};
+        Option::Number("jobs", 1, 1000,
+                       "How many scenes to render at once. Default: the number of processors."),
+        Option::Flag("resume", "Skip films that are newer than their scene, its data files, the "
+                               "plugin and this program."),
+        Option::Flag("progress",
+                     "Print progress as lines such as \"12 426 rendering\", for other programs.")};
 }
 
 } // namespace

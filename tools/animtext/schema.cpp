@@ -12,7 +12,7 @@ cli::Command SchemaCommand()
             {},
             "Prints the JSON Schema (draft 7) of scene files. Editors use it to complete, check "
             "and explain keys.",
-            {cli::Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
+            {Option::Flag("tables", "Print the keys of a text as Markdown tables instead.")},
             [](const cli::CommandLine& line) {
                 cli::Print(line.IsSet("tables") ? scene::SceneTables() : scene::SceneSchema());
             },

@@ -81,19 +81,18 @@ void DrawSheet(const cli::CommandLine& line)
 
 cli::Command SheetCommand()
 {
-    return {
-        "sheet",
-        "draw a contact sheet of scenes",
-        {"SCENE.json...", 1, 1000},
-        "Draws a contact sheet: a row of frames for each scene, evenly spaced in time.",
-        shared::WithShowOptions(
-            {cli::Option::File("output", "SHEET.png", "PNG file to write; - is standard output.")
-                 .Letter('o')
-                 .Required(),
-             cli::Option::Number("columns", 1, 50, "Frames per row.").Or("6")}),
-        DrawSheet,
-        {"animtext sheet sign.json -o sheet.png",
-         "animtext sheet *.json --columns 10 -o sheet.png"}};
+    return {"sheet",
+            "draw a contact sheet of scenes",
+            {"SCENE.json...", 1, 1000},
+            "Draws a contact sheet: a row of frames for each scene, evenly spaced in time.",
+            shared::WithShowOptions(
+                {Option::File("output", "SHEET.png", "PNG file to write; - is standard output.")
+                     .Letter('o')
+                     .Required(),
+                 Option::Number("columns", 1, 50, "Frames per row.").Or("6")}),
+            DrawSheet,
+            {"animtext sheet sign.json -o sheet.png",
+             "animtext sheet *.json --columns 10 -o sheet.png"}};
 }
 
 } // namespace AnimText::animtext

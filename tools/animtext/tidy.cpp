@@ -29,7 +29,7 @@ cli::Command TidyCommand()
         "Lists the data files in FOLDER that animtext or the studio wrote and that no other file "
         "names. It searches FOLDER, its subfolders (one level) and its parent folder; scenes "
         "elsewhere are not searched. If a file cannot be read, it lists and deletes nothing.",
-        {cli::Option::Flag("remove", "Delete the files.")},
+        {Option::Flag("remove", "Delete the files.")},
         Tidy,
         {"animtext tidy .", "animtext tidy --remove ."}};
 }

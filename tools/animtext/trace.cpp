@@ -56,8 +56,8 @@ cli::Command TraceCommand()
         "the SHA-1 of its rows, and the renderer's state (0 finished, 1 playing, 2 nothing to "
         "play). A dazzle background adds its SHA-1.",
         shared::WithShowOptions(
-            {cli::Option::Number("ticks", 0, 1000000000, "Last tick.").Letter('n').Or("100"),
-             cli::Option::Flag("calls", "Print the device calls of each tick before its lines.")}),
+            {Option::Number("ticks", 0, 1000000000, "Last tick.").Letter('n').Or("100"),
+             Option::Flag("calls", "Print the device calls of each tick before its lines.")}),
         TraceScene,
         {"animtext trace sign.json --ticks 20", "animtext trace sign.json --calls >sign.trace"}};
 }

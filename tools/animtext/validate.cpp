@@ -28,16 +28,15 @@ void Validate(const cli::CommandLine& line)
 
 cli::Command ValidateCommand()
 {
-    return {
-        "validate",
-        "check scenes for mistakes",
-        {"SCENE.json...", 1, 100000},
-        "Checks scenes for mistakes; - is standard input. The exit status is 2 if there are "
-        "errors, and with --strict 1 if there are only warnings.",
-        {cli::Option::Flag("json", "Print a JSON object, or a list of objects for several scenes."),
-         cli::Option::Flag("strict", "Fail on warnings, too.")},
-        Validate,
-        {"animtext validate sign.json", "animtext validate --strict --json *.json"}};
+    return {"validate",
+            "check scenes for mistakes",
+            {"SCENE.json...", 1, 100000},
+            "Checks scenes for mistakes; - is standard input. The exit status is 2 if there are "
+            "errors, and with --strict 1 if there are only warnings.",
+            {Option::Flag("json", "Print a JSON object, or a list of objects for several scenes."),
+             Option::Flag("strict", "Fail on warnings, too.")},
+            Validate,
+            {"animtext validate sign.json", "animtext validate --strict --json *.json"}};
 }
 
 } // namespace AnimText::animtext

@@ -10,6 +10,8 @@
 
 namespace AnimText::animtext::shared {
 
+using cli::Option;
+
 namespace {
 
 constexpr int standardSize = 48; // pixels, of text that fits no area
@@ -129,68 +131,64 @@ author::Destination ReadDestination(const cli::CommandLine& line)
 
 } // namespace
 
-QVector<cli::Option> LayoutOptions()
+QVector<Option> LayoutOptions()
 {
     const QStringList dazzles{"plain", "linear", "radial", "conical"};
     return {
-        cli::Option::File("output", "SCENE.json", "Scene file to write.").Letter('o').Required(),
-        cli::Option::Text("text", "TEXT", "Text to show, on one line."),
-        cli::Option::File("text-file", "FILE",
-                          "Read the text from a UTF-8 file of up to 1 MiB; - is standard input."),
-        cli::Option::Font("font", "Font family or font file.").Or(scene::usualFamily),
-        cli::Option::Number("size", layout::smallestReadableSize, layout::largestFontSize,
-                            "Font size in pixels. Default: fits the area, or 48."),
-        cli::Option::Flag("bold", "Bold text."),
-        cli::Option::Flag("italic", "Italic text."),
-        cli::Option::Flag("underline", "Underlined text."),
-        cli::Option::Color("color", "Text color: a name or #rrggbb.").Or("#ffa000"),
-        cli::Option::Flag("markup", "Read tags in the text: <b>, <i>, <u> and <font face= size= "
-                                    "color=>, or HTML from an editor."),
-        cli::Option::Flag("hollow", "Draw only the outlines of letters."),
-        cli::Option::Effect("effect", "Entrance effect, by its name or number in animtext effects.")
+        Option::File("output", "SCENE.json", "Scene file to write.").Letter('o').Required(),
+        Option::Text("text", "TEXT", "Text to show, on one line."),
+        Option::File("text-file", "FILE",
+                     "Read the text from a UTF-8 file of up to 1 MiB; - is standard input."),
+        Option::Font("font", "Font family or font file.").Or(scene::usualFamily),
+        Option::Number("size", layout::smallestReadableSize, layout::largestFontSize,
+                       "Font size in pixels. Default: fits the area, or 48."),
+        Option::Flag("bold", "Bold text."),
+        Option::Flag("italic", "Italic text."),
+        Option::Flag("underline", "Underlined text."),
+        Option::Color("color", "Text color: a name or #rrggbb.").Or("#ffa000"),
+        Option::Flag("markup", "Read tags in the text: <b>, <i>, <u> and <font face= size= "
+                               "color=>, or HTML from an editor."),
+        Option::Flag("hollow", "Draw only the outlines of letters."),
+        Option::Effect("effect", "Entrance effect, by its name or number in animtext effects.")
             .Or("4"),
-        cli::Option::Scroll("scroll", "Scroll left, right, up or down instead of using an effect."),
-        cli::Option::Number("speed", 0, 9, "Speed, from 0 (slowest) to 9 (fastest).").Or("5"),
-        cli::Option::Hold("hold", "How long to hold each page, such as 2s or 1500ms.").Or("2s"),
-        cli::Option::Number("plays", 1, most, "How many times to play the text.").Or("1"),
-        cli::Option::Size(
-            "area", largestSide,
-            "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
-        cli::Option::Point("pos", "Position of the area on the display, in pixels.").Or("0,0"),
-        cli::Option::Choice("fit", "WHAT", {"height", "both"},
-                            "Fit the text to the area: height, or both for height and width."),
-        cli::Option::Choice(
+        Option::Scroll("scroll", "Scroll left, right, up or down instead of using an effect."),
+        Option::Number("speed", 0, 9, "Speed, from 0 (slowest) to 9 (fastest).").Or("5"),
+        Option::Hold("hold", "How long to hold each page, such as 2s or 1500ms.").Or("2s"),
+        Option::Number("plays", 1, most, "How many times to play the text.").Or("1"),
+        Option::Size("area", largestSide,
+                     "Size of the area in pixels. Default: fits the text; 512 wide for pages."),
+        Option::Point("pos", "Position of the area on the display, in pixels.").Or("0,0"),
+        Option::Choice("fit", "WHAT", {"height", "both"},
+                       "Fit the text to the area: height, or both for height and width."),
+        Option::Choice(
             "align", "WHERE", {"left", "center", "right"},
             "Horizontal alignment: left, center or right. Default: the side where reading starts."),
-        cli::Option::Choice("valign", "WHERE", {"top", "middle", "bottom"},
-                            "Vertical alignment: top, middle or bottom.")
+        Option::Choice("valign", "WHERE", {"top", "middle", "bottom"},
+                       "Vertical alignment: top, middle or bottom.")
             .Or("middle"),
-        cli::Option::Number("padding", 0, largestSide, "Free space on each side, in pixels.")
-            .Or("0"),
-        cli::Option::Flag("tear-words", "Allow page breaks inside words."),
-        cli::Option::Size(
-            "display", largestSide,
-            "Size of the display in pixels. Default: the scene's, or just large enough "
-            "for the area."),
-        cli::Option::Flag(
-            "no-alpha", "Use 24-bit layers with a color key, for devices without alpha blending."),
-        cli::Option::Choice(
+        Option::Number("padding", 0, largestSide, "Free space on each side, in pixels.").Or("0"),
+        Option::Flag("tear-words", "Allow page breaks inside words."),
+        Option::Size("display", largestSide,
+                     "Size of the display in pixels. Default: the scene's, or just large enough "
+                     "for the area."),
+        Option::Flag("no-alpha",
+                     "Use 24-bit layers with a color key, for devices without alpha blending."),
+        Option::Choice(
             "dazzle", "KIND", dazzles,
             "Background of moving colors: plain, linear, radial or conical. Without KIND: plain.")
             .Alone("plain"),
-        cli::Option::File("picture", "FILE", "Picture for the dazzle background."),
-        cli::Option::Number("neon", 0, most,
-                            "Neon border style. Styles above 28 show --neon-picture."),
-        cli::Option::File("neon-picture", "FILE", "Animated picture for neon styles above 28."),
-        cli::Option::Flag("append", "Add the text to the scene instead of replacing the scene."),
-        cli::Option::Number("page", 1, most,
-                            "Add the text to this page; one more than the last adds a page."),
-        cli::Option::Number(
+        Option::File("picture", "FILE", "Picture for the dazzle background."),
+        Option::Number("neon", 0, most, "Neon border style. Styles above 28 show --neon-picture."),
+        Option::File("neon-picture", "FILE", "Animated picture for neon styles above 28."),
+        Option::Flag("append", "Add the text to the scene instead of replacing the scene."),
+        Option::Number("page", 1, most,
+                       "Add the text to this page; one more than the last adds a page."),
+        Option::Number(
             "in-area", 1, most,
             "Add the text to this area of the page and use the area's position and size."),
-        cli::Option::Text("replace", "PLACE",
-                          "Replace this text, by its number in animtext list or its path."),
-        cli::Option::Flag("overwrite", "Replace a scene that has several texts.")};
+        Option::Text("replace", "PLACE",
+                     "Replace this text, by its number in animtext list or its path."),
+        Option::Flag("overwrite", "Replace a scene that has several texts.")};
 }
 
 author::WrittenText ReadWritten(const cli::CommandLine& line)

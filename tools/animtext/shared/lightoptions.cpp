@@ -10,6 +10,8 @@
 
 namespace AnimText::animtext::shared {
 
+using cli::Option;
+
 namespace {
 
 /** Options that set defaults for all controllers; an address overrides them. */
@@ -45,55 +47,52 @@ QVector<lights::Controller> ReadControllers(const cli::CommandLine& line)
 
 } // namespace
 
-QVector<cli::Option> LightOptions()
+QVector<Option> LightOptions()
 {
     return {
-        cli::Option::Text(
+        Option::Text(
             "to", "ADDRESS",
             "Play on an LED controller: ddp://HOST, artnet://HOST, sacn://HOST for E1.31, or "
             "sacn:// for E1.31 multicast. May be repeated. ddp://HOST/64,0,64x32 shows only that "
             "part of the display (X,Y,WIDTHxHEIGHT). Settings for one controller follow after "
             "commas: ddp://HOST/16x16,serpentine,color-order=GRB."),
-        cli::Option::Text(
+        Option::Text(
             "layout", "WORDS",
             "LED wiring, as words separated by commas: rows or columns; straight or serpentine; "
             "the corner of the first LED (top-left, top-right, bottom-left or bottom-right); "
             "rotate-90, rotate-180 or rotate-270. Default: rows,straight,top-left.")
             .Offering(lights::LayoutWords()),
-        cli::Option::Text("color-order", "ORDER",
-                          "Order of color channels, such as GRB. Default: RGB."),
-        cli::Option::Fraction("gamma", 0.1, 10, "GAMMA",
-                              "Gamma correction. Default: 1 (off). Without GAMMA: 2.2.")
+        Option::Text("color-order", "ORDER", "Order of color channels, such as GRB. Default: RGB."),
+        Option::Fraction("gamma", 0.1, 10, "GAMMA",
+                         "Gamma correction. Default: 1 (off). Without GAMMA: 2.2.")
             .Alone("2.2"),
-        cli::Option::Number("brightness", 0, 100, "LED brightness in percent. Default: 100."),
-        cli::Option::Number(
-            "universe", 0, 63999,
-            "First universe, for E1.31 and Art-Net; each holds 170 pixels. Default: 1."),
-        cli::Option::Number("priority", 0, 200, "Source priority, for E1.31. Default: 100."),
-        cli::Option::Number("sync-universe", 0, 63999,
-                            "Universe for synchronization packets, for E1.31. Default: 0 (none)."),
-        cli::Option::Text("source-name", "NAME",
-                          "Source name that receivers show, for E1.31. Default: Animated Text."),
-        cli::Option::Number(
+        Option::Number("brightness", 0, 100, "LED brightness in percent. Default: 100."),
+        Option::Number("universe", 0, 63999,
+                       "First universe, for E1.31 and Art-Net; each holds 170 pixels. Default: 1."),
+        Option::Number("priority", 0, 200, "Source priority, for E1.31. Default: 100."),
+        Option::Number("sync-universe", 0, 63999,
+                       "Universe for synchronization packets, for E1.31. Default: 0 (none)."),
+        Option::Text("source-name", "NAME",
+                     "Source name that receivers show, for E1.31. Default: Animated Text."),
+        Option::Number(
             "ttl", 1, 255,
             "How many networks multicast packets may reach; 1 is only the local one. Default: 1."),
-        cli::Option::Text("interface", "NAME",
-                          "Network interface for multicast, such as eth0. Default: the system's."),
-        cli::Option::Flag("broadcast", "Allow broadcast addresses."),
-        cli::Option::Flag("keep",
-                          "Leave the last picture on the LEDs. Default: turn them off at the end."),
-        cli::Option::Text(
-            "test-pattern", "NAME",
-            "Show a test pattern instead of a scene: corners, order, colors or levels. "
-            "Without NAME: all in turn.")
+        Option::Text("interface", "NAME",
+                     "Network interface for multicast, such as eth0. Default: the system's."),
+        Option::Flag("broadcast", "Allow broadcast addresses."),
+        Option::Flag("keep",
+                     "Leave the last picture on the LEDs. Default: turn them off at the end."),
+        Option::Text("test-pattern", "NAME",
+                     "Show a test pattern instead of a scene: corners, order, colors or levels. "
+                     "Without NAME: all in turn.")
             .Alone("all")
             .Offering(lights::TestPatterns()),
-        cli::Option::Flag("window", "Open a window too, with --to.")};
+        Option::Flag("window", "Open a window too, with --to.")};
 }
 
 void CheckLightOptions(const cli::CommandLine& line)
 {
-    for (const cli::Option& option : LightOptions())
+    for (const Option& option : LightOptions())
         cli::RefuseIf(line.IsSet(option.name) && !line.IsSet("to"),
                       QStringLiteral("--%1 needs --to").arg(option.name));
     for (const char* option : {"fullscreen", "zoom", "leds"})
