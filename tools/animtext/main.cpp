@@ -2,7 +2,6 @@
 #include "cli/commandline.h"
 #include "cli/help.h"
 #include "cli/interruption.h"
-#include "cli/manual.h"
 #include "cli/messages.h"
 #include "player/virtualdispatcher.h"
 #include "scene/suggest.h"
@@ -19,8 +18,6 @@
 namespace {
 
 using namespace AnimText;
-
-const QStringList shells{"bash", "zsh", "fish"};
 
 const QVector<cli::Command>& Commands();
 
@@ -52,12 +49,7 @@ void Help(const cli::CommandLine& line)
 
 void Complete(const cli::CommandLine& line)
 {
-    const QString shell = line.Arguments().first();
-    cli::RefuseIf(!shells.contains(shell),
-                  QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell));
-    cli::Print(shell == "bash"  ? cli::CompletionForBash(Commands())
-               : shell == "zsh" ? cli::CompletionForZsh(Commands())
-                                : cli::CompletionForFish(Commands()));
+    cli::Print(cli::Completion(line.Arguments().first(), Commands()));
 }
 
 const QVector<cli::Command>& Commands()
@@ -82,7 +74,7 @@ const QVector<cli::Command>& Commands()
             animtext::FontsCommand(),
             {"completion",
              "print a completion script for a shell",
-             {"bash|zsh|fish", 1, 1, shells},
+             {"bash|zsh|fish", 1, 1, {"bash", "zsh", "fish"}},
              "Prints a completion script for bash, zsh or fish. A comment at its top says how to "
              "load it.",
              {},

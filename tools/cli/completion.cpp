@@ -1,5 +1,7 @@
 #include "cli/help.h"
 
+#include "cli/output.h"
+
 namespace AnimText::cli {
 
 namespace {
@@ -12,14 +14,7 @@ QStringList OptionWords(const Option& option)
     return names;
 }
 
-} // namespace
-
-QString Quoted(QString word)
-{
-    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), "'\\''") + QLatin1Char('\'');
-}
-
-QByteArray CompletionForBash(const QVector<Command>& commands)
+QString ForBash(const QVector<Command>& commands)
 {
     QStringList names;
     QString values;
@@ -61,11 +56,10 @@ complete -o filenames -F _animtext animtext
 )")
         .replace("@commands@", names.join(' '))
         .replace("@values@", values)
-        .replace("@words@", words)
-        .toUtf8();
+        .replace("@words@", words);
 }
 
-QByteArray CompletionForZsh(const QVector<Command>& commands)
+QString ForZsh(const QVector<Command>& commands)
 {
     // Colons and brackets end a description.
     const auto plain = [](QString text) {
@@ -116,11 +110,10 @@ _animtext() {
 compdef _animtext animtext
 )")
         .replace("@summaries@", summaries)
-        .replace("@cases@", cases)
-        .toUtf8();
+        .replace("@cases@", cases);
 }
 
-QByteArray CompletionForFish(const QVector<Command>& commands)
+QString ForFish(const QVector<Command>& commands)
 {
     // In fish, only \' and \\ are special inside quotes.
     const auto quoted = [](QString text) {
@@ -146,7 +139,25 @@ QByteArray CompletionForFish(const QVector<Command>& commands)
         if (!command.arguments.words.isEmpty())
             text += here + "-f -a " + quoted(command.arguments.words.join(' ')) + '\n';
     }
-    return text.toUtf8();
+    return text;
+}
+
+} // namespace
+
+QString Quoted(QString word)
+{
+    return QLatin1Char('\'') + word.replace(QLatin1Char('\''), "'\\''") + QLatin1Char('\'');
+}
+
+QByteArray Completion(const QString& shell, const QVector<Command>& commands)
+{
+    if (shell == "bash")
+        return ForBash(commands).toUtf8();
+    if (shell == "zsh")
+        return ForZsh(commands).toUtf8();
+    if (shell == "fish")
+        return ForFish(commands).toUtf8();
+    throw Misuse{QStringLiteral("unknown shell \"%1\"; expected bash, zsh or fish").arg(shell)};
 }
 
 } // namespace AnimText::cli

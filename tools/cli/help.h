@@ -1,6 +1,6 @@
 /**
  * @file
- * Help and shell completions, made from the tables of commands.
+ * Help, man pages and shell completions, made from the tables of commands.
  */
 #pragma once
 
@@ -19,9 +19,13 @@ QByteArray HelpText(const Command& command);
 /** @p word in single quotes, as shells read it. */
 QString Quoted(QString word);
 
-/** The completion scripts. */
-QByteArray CompletionForBash(const QVector<Command>& commands);
-QByteArray CompletionForZsh(const QVector<Command>& commands);
-QByteArray CompletionForFish(const QVector<Command>& commands);
+/** The completion script for bash, zsh or fish; throws Misuse for other shells. */
+QByteArray Completion(const QString& shell, const QVector<Command>& commands);
+
+/**
+ * Writes animtext(1) and animtext-COMMAND(1), in man's format, to @p folder and creates it if
+ * necessary. Throws Failure when that fails.
+ */
+void WriteManual(const QVector<Command>& commands, const QString& folder);
 
 } // namespace AnimText::cli

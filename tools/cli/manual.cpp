@@ -1,4 +1,4 @@
-#include "cli/manual.h"
+#include "cli/help.h"
 
 #include "cli/output.h"
 #include "files/wholefile.h"
@@ -80,8 +80,6 @@ QByteArray References(const QVector<QByteArray>& pages)
     return text + '\n';
 }
 
-} // namespace
-
 QByteArray ManualOverview(const QVector<Command>& commands)
 {
     QByteArray text =
@@ -129,16 +127,15 @@ QByteArray ManualPage(const Command& command)
     return text + Examples(command.examples) + References({"animtext"});
 }
 
+} // namespace
+
 void WriteManual(const QVector<Command>& commands, const QString& folder)
 {
-    const auto write = [&folder](const QByteArray& name, const QByteArray& page) {
-        const QString path = QDir(folder).filePath(QString::fromLatin1(name) + QLatin1String(".1"));
-        files::WriteWhole(path, page);
-    };
+    const QDir dir(folder);
     files::MakeFolder(folder);
-    write("animtext", ManualOverview(commands));
+    files::WriteWhole(dir.filePath("animtext.1"), ManualOverview(commands));
     for (const Command& command : commands)
-        write(PageName(command), ManualPage(command));
+        files::WriteWhole(dir.filePath(PageName(command) + ".1"), ManualPage(command));
 }
 
 } // namespace AnimText::cli
