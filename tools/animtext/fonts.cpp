@@ -6,22 +6,6 @@
 
 namespace AnimText::animtext {
 
-namespace {
-
-void Fonts(const cli::CommandLine& line)
-{
-    const QString filter = line.Arguments().value(0);
-    const QStringList families = scene::FontFamilies(filter);
-    if (families.isEmpty())
-        throw files::Failure{
-            files::FailedRun,
-            QStringLiteral("no installed font family contains \"%1\"%2")
-                .arg(filter, scene::DidYouMeanOneOf(filter, scene::FontFamilies()))};
-    cli::Print(families.join(QLatin1Char('\n')).toUtf8() + '\n');
-}
-
-} // namespace
-
 cli::Command FontsCommand()
 {
     return {"fonts",
@@ -29,7 +13,16 @@ cli::Command FontsCommand()
             {"[FILTER]", 0, 1},
             "Lists the installed font families, or those whose names contain FILTER.",
             {},
-            Fonts,
+            [](const cli::CommandLine& line) {
+                const QString filter = line.Arguments().value(0);
+                const QStringList families = scene::FontFamilies(filter);
+                if (families.isEmpty())
+                    throw files::Failure{
+                        files::FailedRun,
+                        QStringLiteral("no installed font family contains \"%1\"%2")
+                            .arg(filter, scene::DidYouMeanOneOf(filter, scene::FontFamilies()))};
+                cli::Print(families.join(QLatin1Char('\n')).toUtf8() + '\n');
+            },
             {"animtext fonts", "animtext fonts dejavu"}};
 }
 

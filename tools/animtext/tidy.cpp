@@ -7,19 +7,6 @@
 
 namespace AnimText::animtext {
 
-namespace {
-
-void Tidy(const cli::CommandLine& line)
-{
-    const QString folder = line.Arguments().first();
-    const bool removes = line.IsSet("remove");
-    cli::WatchForInterruption();
-    for (const QString& name : author::TidyFolder(folder, removes))
-        cli::Print((removes ? "removed " : "") + QDir(folder).filePath(name).toLocal8Bit() + '\n');
-}
-
-} // namespace
-
 cli::Command TidyCommand()
 {
     return {
@@ -30,7 +17,13 @@ cli::Command TidyCommand()
         "names. It searches FOLDER, its subfolders (one level) and its parent folder; scenes "
         "elsewhere are not searched. If a file cannot be read, it lists and deletes nothing.",
         {Option::Flag("remove", "Delete the files.")},
-        Tidy,
+        [](const cli::CommandLine& line) {
+            const QString folder = line.Arguments().first();
+            const QByteArray done = line.IsSet("remove") ? "removed " : "";
+            cli::WatchForInterruption();
+            for (const QString& name : author::TidyFolder(folder, line.IsSet("remove")))
+                cli::Print(done + QDir(folder).filePath(name).toLocal8Bit() + '\n');
+        },
         {"animtext tidy .", "animtext tidy --remove ."}};
 }
 
