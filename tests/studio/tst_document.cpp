@@ -296,7 +296,8 @@ static int BeVictim(const QString& path, const QString& copies)
     });
     QObject::connect(&document, &studio::model::Document::SaveEnded, [&](bool saved) {
         say(saved ? "saved" : "failed");
-        change();
+        if (!document.IsModified()) // otherwise the number would run ahead of the copy
+            change();
     });
     return QCoreApplication::exec();
 }
