@@ -182,14 +182,14 @@ void Compare(const cli::CommandLine& line)
     const qint64 tolerance = line.IsSet("no-times") ? -1 : qint64(line.Get<double>("tolerance"));
     const QString first = line.Arguments().at(0);
     if (line.Arguments().size() == 1) {
-        cli::RefuseIf(!QFileInfo(first).isDir(),
-                      "expected a folder, or what to compare " + first + " with");
+        if (!QFileInfo(first).isDir())
+            throw cli::Misuse{"expected a folder, or what to compare " + first + " with"};
         return CompareFolder(line, first);
     }
     for (const Option& option : FolderOptions())
-        cli::RefuseIf(
-            line.IsSet(option.name),
-            QStringLiteral("--%1 is for a folder of scenes, the only word then").arg(option.name));
+        if (line.IsSet(option.name))
+            throw cli::Misuse{QStringLiteral("--%1 is for a folder of scenes, the only word then")
+                                  .arg(option.name)};
     const QString second = line.Arguments().at(1);
     if (!IsRecording(second))
         return CompareWithScene(line, first, second, tolerance);

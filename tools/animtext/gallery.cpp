@@ -47,7 +47,8 @@ void MakeGallery(const cli::CommandLine& line)
     typed.words = line.Value("text");
     QString error;
     QStringList notes;
-    cli::RefuseIf(!author::ReadText(typed, &options.text, &notes, &error), error);
+    if (!author::ReadText(typed, &options.text, &notes, &error))
+        throw cli::Misuse{error};
     for (const QString& note : notes)
         cli::Warn(note);
     options.seed = shared::SeedOf(line);

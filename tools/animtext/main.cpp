@@ -97,7 +97,8 @@ const QVector<cli::Command>& Commands()
 
 void Run(QString name, const QStringList& words)
 {
-    cli::RefuseIf(name.isEmpty(), "expected a command");
+    if (name.isEmpty())
+        throw cli::Misuse{"expected a command"};
     if (name == QLatin1String("--version"))
         return cli::Print("animtext " ANIMTEXT_VERSION "\n");
     if (name == QLatin1String("--help") || name == QLatin1String("-h"))

@@ -39,21 +39,22 @@ void CheckKind(const cli::CommandLine& line, const film::FilmKind& kind)
     const bool leds = line.IsSet("leds");
     const auto frames = line.Get<QPair<int, int>>("frames");
     const bool isOne = line.IsSet("at") || (line.IsSet("frames") && frames.first == frames.second);
-    cli::RefuseIf(transparent && line.IsSet("background"),
-                  "--transparent and --background cannot be combined");
-    cli::RefuseIf(transparent && leds,
-                  "--transparent and --leds cannot be combined; LEDs are drawn on black");
-    cli::RefuseIf(leds && line.IsSet("scale") && line.Get<int>("scale") < film::smallestLamp,
-                  "--leds needs a --scale of at least 4");
-    cli::RefuseIf(transparent && !kind.Has(film::FilmKind::Transparent),
-                  films + " cannot be transparent");
-    cli::RefuseIf(lossless && !kind.Has(film::FilmKind::Lossless),
-                  films + " lose colors; use .apng, .webp or .mp4");
-    cli::RefuseIf(lossless && transparent && !kind.Has(film::FilmKind::LosslessAlpha),
-                  "transparent " + films + " lose colors; use .apng or .webp");
-    cli::RefuseIf(line.IsSet("at") && line.IsSet("frames"), "--at and --frames cannot be combined");
-    cli::RefuseIf(kind.Has(film::FilmKind::Still) && !isOne,
-                  "a PNG is one picture; choose it with --at or --frames");
+    if (transparent && line.IsSet("background"))
+        throw cli::Misuse{"--transparent and --background cannot be combined"};
+    if (transparent && leds)
+        throw cli::Misuse{"--transparent and --leds cannot be combined; LEDs are drawn on black"};
+    if (leds && line.IsSet("scale") && line.Get<int>("scale") < film::smallestLamp)
+        throw cli::Misuse{"--leds needs a --scale of at least 4"};
+    if (transparent && !kind.Has(film::FilmKind::Transparent))
+        throw cli::Misuse{films + " cannot be transparent"};
+    if (lossless && !kind.Has(film::FilmKind::Lossless))
+        throw cli::Misuse{films + " lose colors; use .apng, .webp or .mp4"};
+    if (lossless && transparent && !kind.Has(film::FilmKind::LosslessAlpha))
+        throw cli::Misuse{"transparent " + films + " lose colors; use .apng or .webp"};
+    if (line.IsSet("at") && line.IsSet("frames"))
+        throw cli::Misuse{"--at and --frames cannot be combined"};
+    if (kind.Has(film::FilmKind::Still) && !isOne)
+        throw cli::Misuse{"a PNG is one picture; choose it with --at or --frames"};
 }
 
 film::FilmSettings SettingsFor(const cli::CommandLine& line, const film::FilmKind& kind)
@@ -87,11 +88,12 @@ QPair<int, int> RangeFor(const cli::CommandLine& line, int frames)
         const int tick = int(line.Get<double>("at") / player::tickLength + 1e-6);
         range = {tick, tick};
     }
-    cli::RefuseIf(range.second >= frames,
-                  QStringLiteral("the film has no picture %3; it has 0 to %1 and ends after %2 s")
-                      .arg(frames - 1)
-                      .arg(double(frames) * player::tickLength / 1000)
-                      .arg(range.second));
+    if (range.second >= frames)
+        throw cli::Misuse{
+            QStringLiteral("the film has no picture %3; it has 0 to %1 and ends after %2 s")
+                .arg(frames - 1)
+                .arg(double(frames) * player::tickLength / 1000)
+                .arg(range.second)};
     return range;
 }
 

@@ -57,8 +57,8 @@ film::SheetRow RowOf(const cli::CommandLine& line, const scene::Scene& scene)
 void DrawSheet(const cli::CommandLine& line)
 {
     const QString output = line.Value("output");
-    cli::RefuseIf(output != "-" && !output.endsWith(".png", Qt::CaseInsensitive),
-                  output + ": expected a name that ends with .png");
+    if (output != "-" && !output.endsWith(".png", Qt::CaseInsensitive))
+        throw cli::Misuse{output + ": expected a name that ends with .png"};
     QVector<scene::Scene> scenes;
     for (const QString& path : line.Arguments())
         scenes.append(shared::OpenPlayableScene(line, path));

@@ -16,13 +16,6 @@ struct Misuse
     QString message;
 };
 
-/** Throws Misuse if something @p isWrong. */
-inline void RefuseIf(bool isWrong, const QString& message)
-{
-    if (isWrong)
-        throw Misuse{message};
-}
-
 /** Prints "animtext: @p message" on standard error. */
 void Warn(const QString& message);
 

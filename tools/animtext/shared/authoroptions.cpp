@@ -22,9 +22,9 @@ constexpr int lastDrawnNeon = 28;        // neon styles above show a picture
 
 QString ReadWords(const cli::CommandLine& line)
 {
-    cli::RefuseIf(line.IsSet("text") == line.IsSet("text-file"),
-                  line.IsSet("text") ? "--text and --text-file cannot be combined"
-                                     : "expected --text TEXT or --text-file FILE");
+    if (line.IsSet("text") == line.IsSet("text-file"))
+        throw cli::Misuse{line.IsSet("text") ? "--text and --text-file cannot be combined"
+                                             : "expected --text TEXT or --text-file FILE"};
     if (line.IsSet("text"))
         return line.Value("text");
 
@@ -34,17 +34,18 @@ QString ReadWords(const cli::CommandLine& line)
     // Standard input may be a socket, which has no name to open.
     if (name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))
         bytes = files::ReadAtMost(&file, longestTextFile + 1);
-    cli::RefuseIf(file.error() != QFileDevice::NoError,
-                  QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString()));
-    cli::RefuseIf(bytes.size() > longestTextFile,
-                  QStringLiteral("%1: expected a text of at most %2 bytes, found more")
-                      .arg(name)
-                      .arg(longestTextFile));
+    if (file.error() != QFileDevice::NoError)
+        throw cli::Misuse{QStringLiteral("%1: cannot be read: %2").arg(name, file.errorString())};
+    if (bytes.size() > longestTextFile)
+        throw cli::Misuse{QStringLiteral("%1: expected a text of at most %2 bytes, found more")
+                              .arg(name)
+                              .arg(longestTextFile)};
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
     const QString text = QString::fromUtf8(bytes);
     // Decoding replaces invalid bytes.
-    cli::RefuseIf(text.toUtf8() != bytes, name + ": the text is not valid UTF-8");
+    if (text.toUtf8() != bytes)
+        throw cli::Misuse{name + ": the text is not valid UTF-8"};
     return text;
 }
 
@@ -52,7 +53,8 @@ scene::NodeMotion ReadMotion(const cli::CommandLine& line)
 {
     if (!line.IsSet("scroll"))
         return {scene::Mode::Entrance, line.Get<int>("effect")};
-    cli::RefuseIf(line.IsSet("effect"), "--effect and --scroll cannot be combined");
+    if (line.IsSet("effect"))
+        throw cli::Misuse{"--effect and --scroll cannot be combined"};
     return {scene::Mode::Scroll, line.Get<int>("scroll")};
 }
 
@@ -61,15 +63,15 @@ layout::Setting ReadSetting(const cli::CommandLine& line, const scene::NodeMotio
     layout::Setting setting;
     if (line.IsSet("fit")) {
         setting.fit = line.Get<int>("fit") == 0 ? layout::Fit::Height : layout::Fit::Both;
-        cli::RefuseIf(line.IsSet("size") || !line.IsSet("area"),
-                      "--fit needs --area and cannot be combined with --size");
-        cli::RefuseIf(motion.IsScroll() && setting.fit == layout::Fit::Both,
-                      "--fit both cannot be combined with --scroll; use --fit height");
+        if (line.IsSet("size") || !line.IsSet("area"))
+            throw cli::Misuse{"--fit needs --area and cannot be combined with --size"};
+        if (motion.IsScroll() && setting.fit == layout::Fit::Both)
+            throw cli::Misuse{"--fit both cannot be combined with --scroll; use --fit height"};
     }
     if (line.IsSet("align")) {
         setting.align = layout::Align(int(layout::Align::Left) + line.Get<int>("align"));
-        cli::RefuseIf(motion.IsSideways(),
-                      "--align cannot be combined with --scroll left or right");
+        if (motion.IsSideways())
+            throw cli::Misuse{"--align cannot be combined with --scroll left or right"};
     }
     setting.valign = layout::VAlign(line.Get<int>("valign"));
     setting.padding = line.Get<int>("padding");
@@ -81,8 +83,8 @@ layout::Setting ReadSetting(const cli::CommandLine& line, const scene::NodeMotio
 QString FileIn(const cli::CommandLine& line, const char* option)
 {
     const QString name = line.Value(option);
-    cli::RefuseIf(!QFileInfo(name).isFile(),
-                  QStringLiteral("--%1: %2 is not a file").arg(option, name));
+    if (!QFileInfo(name).isFile())
+        throw cli::Misuse{QStringLiteral("--%1: %2 is not a file").arg(option, name)};
     return name;
 }
 
@@ -95,16 +97,17 @@ void ReadBackground(const cli::CommandLine& line, scene::SceneNode* node)
         node->attributes["ColorGradient"] = gradient - 1;
     }
     if (line.IsSet("picture")) {
-        cli::RefuseIf(!line.IsSet("dazzle"), "--picture needs --dazzle");
+        if (!line.IsSet("dazzle"))
+            throw cli::Misuse{"--picture needs --dazzle"};
         node->attributes["CheckPictureFills"] = 1;
         node->files["FillImage"] = FileIn(line, "picture");
     }
     if (line.IsSet("neon"))
         node->attributes["CheckNeonBg"] = 1;
     node->neonEffect = line.Get<int>("neon");
-    cli::RefuseIf(
-        (node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"),
-        QStringLiteral("--neon above %1 and --neon-picture need each other").arg(lastDrawnNeon));
+    if ((node->neonEffect > lastDrawnNeon) != line.IsSet("neon-picture"))
+        throw cli::Misuse{QStringLiteral("--neon above %1 and --neon-picture need each other")
+                              .arg(lastDrawnNeon)};
     if (line.IsSet("neon-picture"))
         node->files["NeonGifPath"] = FileIn(line, "neon-picture");
 }
@@ -120,12 +123,13 @@ author::Destination ReadDestination(const cli::CommandLine& line)
     destination.page = qMax(1, line.Get<int>("page"));
     destination.area = line.Get<int>("in-area");
     destination.instead = line.Value("replace");
-    cli::RefuseIf(!destination.instead.isEmpty() && isCounted,
-                  "--replace cannot be combined with --page or --in-area");
-    cli::RefuseIf(line.IsSet("replace") && destination.instead.isEmpty(),
-                  "--replace is empty; expected PLACE");
-    cli::RefuseIf(destination.overwrites && destination.isAdded,
-                  "--overwrite cannot be combined with --append, --page, --in-area or --replace");
+    if (!destination.instead.isEmpty() && isCounted)
+        throw cli::Misuse{"--replace cannot be combined with --page or --in-area"};
+    if (line.IsSet("replace") && destination.instead.isEmpty())
+        throw cli::Misuse{"--replace is empty; expected PLACE"};
+    if (destination.overwrites && destination.isAdded)
+        throw cli::Misuse{
+            "--overwrite cannot be combined with --append, --page, --in-area or --replace"};
     return destination;
 }
 

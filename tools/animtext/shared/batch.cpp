@@ -55,9 +55,10 @@ QList<Job> PlanJobs(const cli::CommandLine& line, const QString& ending)
     QMap<QString, QString> sceneOf;
     for (const QString& scene : line.Arguments()) {
         const QString name = QFileInfo(scene).completeBaseName() + ending;
-        cli::RefuseIf(sceneOf.contains(name),
-                      QStringLiteral("%1 and %2 would both become %3; render them into two folders")
-                          .arg(sceneOf.value(name), scene, name));
+        if (sceneOf.contains(name))
+            throw cli::Misuse{
+                QStringLiteral("%1 and %2 would both become %3; render them into two folders")
+                    .arg(sceneOf.value(name), scene, name)};
         sceneOf.insert(name, scene);
         const Job job{scene, folder.filePath(name)};
         if (!line.IsSet("resume") || !IsDone(job, plugin))

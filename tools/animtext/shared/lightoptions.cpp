@@ -39,7 +39,8 @@ QVector<lights::Controller> ReadControllers(const cli::CommandLine& line)
     QVector<lights::Controller> controllers;
     for (const QString& address : line.Values("to")) {
         lights::Controller controller = standard;
-        cli::RefuseIf(!lights::ReadAddress(&controller, address, &error), error);
+        if (!lights::ReadAddress(&controller, address, &error))
+            throw cli::Misuse{error};
         controllers.append(controller);
     }
     return controllers;
@@ -93,21 +94,24 @@ QVector<Option> LightOptions()
 void CheckLightOptions(const cli::CommandLine& line)
 {
     for (const Option& option : LightOptions())
-        cli::RefuseIf(line.IsSet(option.name) && !line.IsSet("to"),
-                      QStringLiteral("--%1 needs --to").arg(option.name));
+        if (line.IsSet(option.name) && !line.IsSet("to"))
+            throw cli::Misuse{QStringLiteral("--%1 needs --to").arg(option.name)};
     for (const char* option : {"fullscreen", "zoom", "leds"})
-        cli::RefuseIf(line.IsSet(option) && line.IsSet("to") && !line.IsSet("window"),
-                      QStringLiteral("--%1 with --to needs --window").arg(option));
+        if (line.IsSet(option) && line.IsSet("to") && !line.IsSet("window"))
+            throw cli::Misuse{QStringLiteral("--%1 with --to needs --window").arg(option)};
     const QString scene = line.Arguments().value(0);
-    if (!line.IsSet("test-pattern"))
-        return cli::RefuseIf(scene.isEmpty(), "expected SCENE.json");
-    cli::RefuseIf(
-        !scene.isEmpty(),
-        QStringLiteral("--test-pattern shows no scene; unexpected argument \"%1\"").arg(scene));
+    if (!line.IsSet("test-pattern")) {
+        if (scene.isEmpty())
+            throw cli::Misuse{"expected SCENE.json"};
+        return;
+    }
+    if (!scene.isEmpty())
+        throw cli::Misuse{
+            QStringLiteral("--test-pattern shows no scene; unexpected argument \"%1\"").arg(scene)};
     const QString pattern = line.Value("test-pattern");
-    cli::RefuseIf(pattern != "all" && !lights::TestPatterns().contains(pattern),
-                  QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
-                      .arg(lights::TestPatterns().join(", "), pattern));
+    if (pattern != "all" && !lights::TestPatterns().contains(pattern))
+        throw cli::Misuse{QStringLiteral("--test-pattern is \"%2\"; expected %1 or all")
+                              .arg(lights::TestPatterns().join(", "), pattern)};
 }
 
 void AddLights(const cli::CommandLine& line, QSize display, lights::Lights* lights)
@@ -126,10 +130,10 @@ void PlayTestPattern(const cli::CommandLine& line)
 {
     QSize display;
     for (const lights::Controller& controller : ReadControllers(line)) {
-        cli::RefuseIf(
-            controller.rect.isEmpty(),
-            QStringLiteral("%1: expected the size of the matrix, such as %2/16x16")
-                .arg(controller.address, controller.address.section(QLatin1Char('/'), 0, 2)));
+        if (controller.rect.isEmpty())
+            throw cli::Misuse{
+                QStringLiteral("%1: expected the size of the matrix, such as %2/16x16")
+                    .arg(controller.address, controller.address.section(QLatin1Char('/'), 0, 2))};
         const QPoint corner = controller.rect.bottomRight() + QPoint(1, 1);
         display = display.expandedTo(QSize(corner.x(), corner.y()));
     }

@@ -9,9 +9,11 @@ namespace AnimText::animtext::shared {
 
 void EndSaving(author::Storing storing, const author::Stored& stored, const QString& error)
 {
-    cli::RefuseIf(storing == author::Storing::Misread, error);
-    files::FailUnless(storing == author::Storing::Saved, error,
-                      storing == author::Storing::Refused ? files::BadInput : files::FailedRun);
+    if (storing == author::Storing::Misread)
+        throw cli::Misuse{error};
+    if (storing != author::Storing::Saved)
+        throw files::Failure{
+            storing == author::Storing::Refused ? files::BadInput : files::FailedRun, error};
     if (!stored.doubt.isEmpty())
         cli::Warn("kept old data files: " + stored.doubt);
 }
