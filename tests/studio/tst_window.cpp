@@ -305,7 +305,16 @@ void TestWindow::removesOutdatedNotices()
         QCOMPARE(window->Notices()->Text(), QString());
     }
 
+    // What could not be opened is told until it is dismissed, also while a new sign begins to play.
+    window->Notices()->Set(studio::window::basics::NoticeBar::Recovery, "A copy");
+    QVERIFY(!window->Open(folder.Path("none.json")));
+    window->New();
     QVERIFY(Settles());
+    QVERIFY2(window->Notices()->Text().contains("none.json"),
+             qPrintable(window->Notices()->Text()));
+    window->Notices()->Offers().first()->click();
+    QCOMPARE(window->Notices()->Text(), QString("A copy"));
+
     const int length = window->GetPlayback()->Length();
     Type("longer and longer");
     QVERIFY(Settles());

@@ -22,7 +22,8 @@ class NoticeBar : public QFrame
     Q_OBJECT
 
 public:
-    enum Kind { Leaving, Recovery, Disk, Save, Trouble };
+    /** Failed: what the user has asked for; Trouble: of the playback, while it lasts. */
+    enum Kind { Leaving, Disk, Save, Failed, Recovery, Trouble };
 
     using Offer = QPair<QString, std::function<void()>>; ///< a button's label and action
 

@@ -135,7 +135,7 @@ void MainWindow::Connect()
             if (document.LoadTheirs(&error))
                 notices->Set(basics::NoticeBar::Save, QString());
             else
-                notices->Set(basics::NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+                notices->Set(basics::NoticeBar::Failed, error, {{tr("Dismiss"), {}}});
         };
         const auto keep = [this] {
             document.KeepMine();
@@ -241,7 +241,7 @@ void MainWindow::CompareWith(const QString& library)
     connect(compared.get(), &worker::Rehearsal::Shown, this, &MainWindow::ShowCalls);
     connect(compared.get(), &worker::Rehearsal::Trouble, this, [this, library](const QString& why) {
         if (!why.isEmpty())
-            notices->Set(basics::NoticeBar::Trouble, QStringLiteral("%1: %2").arg(library, why),
+            notices->Set(basics::NoticeBar::Failed, QStringLiteral("%1: %2").arg(library, why),
                          {{tr("Dismiss"), {}}});
     });
     compared->SetSign(document.Current(), part);
@@ -265,10 +265,10 @@ bool MainWindow::Open(const QString& path)
 {
     QString error;
     if (!document.Open(path, &error)) {
-        notices->Set(basics::NoticeBar::Trouble, error, {{tr("Dismiss"), {}}});
+        notices->Set(basics::NoticeBar::Failed, error, {{tr("Dismiss"), {}}});
         return false;
     }
-    notices->Set(basics::NoticeBar::Trouble, QString());
+    notices->Set(basics::NoticeBar::Failed, QString());
     AddRecent(document.Path());
     view->setFocus(); // Space plays
     return true;
