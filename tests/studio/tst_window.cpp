@@ -74,6 +74,7 @@ private slots:
     void removesOutdatedNotices();
     void keepsWriteProtectedFiles();
     void zoomsPansAndMeasures();
+    void enlargesLeds();
     void editsTextsAndPages();
     void changesDisplaySize();
     void fitsSmallScreens();
@@ -371,9 +372,14 @@ void TestWindow::zoomsPansAndMeasures()
     QVERIFY(view->Scale() >= film::smallestLamp); // LEDs are visible
     leds->setChecked(false);
     QCOMPARE(view->Scale(), fitted);
+}
 
-    // LEDs enlarge a large sign; a smaller one is fitted again.
-    for (const QSize& display : {QSize(2048, 64), QSize(1920, 32), QSize(64, 32)}) {
+/** LEDs enlarge a large sign; a smaller one is fitted again. */
+void TestWindow::enlargesLeds()
+{
+    const studio::window::display::DisplayView* view = window->Display();
+    auto* leds = window->findChild<QAction*>("leds");
+    for (const QSize& display : {QSize(2048, 64), QSize(1152, 32), QSize(64, 32)}) {
         window->New(display);
         leds->setChecked(true);
         QTRY_COMPARE_WITH_TIMEOUT(view->Picture().size(), display, patience);

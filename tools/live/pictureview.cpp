@@ -152,8 +152,10 @@ QSize PictureView::sizeHint() const
 
 QSize PictureView::minimumSizeHint() const
 {
-    if (fillsRoom && pitch > 0 && zoom == 0 && !picture.isNull())
-        return picture.size() * film::smallestLamp / devicePixelRatioF();
+    if (fillsRoom && pitch > 0 && zoom == 0 && !picture.isNull()) {
+        const QSizeF least = QSizeF(picture.size() * film::smallestLamp) / devicePixelRatioF();
+        return {int(std::ceil(least.width())), int(std::ceil(least.height()))};
+    }
     return zoom > 0 ? sizeHint() : QSize(64, 16);
 }
 
