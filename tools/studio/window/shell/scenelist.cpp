@@ -143,7 +143,7 @@ void SceneList::dropEvent(QDropEvent* event)
 {
     const QTreeWidgetItem* moved = currentItem();
     QTreeWidgetItem* under = itemAt(event->pos());
-    event->setDropAction(Qt::CopyAction); // a move would remove the row
+    event->setDropAction(Qt::IgnoreAction); // Qt removes rows that were moved
     event->accept();
     setState(QAbstractItemView::NoState);
     const bool isPage = IdOf(moved) == 0;
