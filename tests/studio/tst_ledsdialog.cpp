@@ -163,6 +163,9 @@ private slots:
         dialog.StartButton()->click();
         QTRY_VERIFY_WITH_TIMEOUT(dialog.State().contains("was not found"), 300000);
         QCOMPARE(dialog.StartButton()->text(), QString("Start"));
+        dialog.SetAddress("ddp://[fe80::1]"); // says nothing about the network to take
+        dialog.StartButton()->click();
+        QVERIFY2(dialog.State().contains("fe80::1"), qPrintable(dialog.State()));
     }
 
 private:

@@ -105,10 +105,9 @@ LedsDialog::LedsDialog(QSize display, const QString& scenePath, QWidget* parent)
         Refresh();
     });
     connect(start, &QPushButton::clicked, this, [this] {
-        if (IsRunning())
-            Stop();
-        else
-            LookUp();
+        if (!IsRunning())
+            return LookUp();
+        Stop();
         Refresh();
     });
     connect(&steps, &QTimer::timeout, this, [this] {
@@ -291,6 +290,7 @@ void LedsDialog::LookUp()
         foundHost = lights::PreferredAddress(found).toString();
         Begin();
     });
+    Refresh();
 }
 
 void LedsDialog::Begin()
