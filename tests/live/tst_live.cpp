@@ -233,6 +233,9 @@ private slots:
         QTest::newRow("mv scene.json old && cp old scene.json") << true;
         QTest::newRow("echo >> node.path") << true;
         QTest::newRow("echo > new && mv new node.path") << true;
+        QTest::newRow("test -e old && echo >> scene.json || "
+                      "{ ln scene.json old && cp old new && mv new scene.json; }")
+            << true;
         QTest::newRow("touch other.json") << false;
         QTest::newRow("cat scene.json node.path") << false;
     }

@@ -63,21 +63,27 @@ void SceneWatcher::Accept()
         *file = Mark(file.key());
 }
 
-/** Called after every change, because files that were replaced are no longer watched. */
+/**
+ * Called after every change: Qt no longer watches files that were replaced or, while links keep
+ * them, goes on watching the old ones.
+ */
 void SceneWatcher::WatchAll()
 {
+    const QStringList old = watcher.files() + watcher.directories();
+    if (!old.isEmpty())
+        watcher.removePaths(old);
     QStringList paths;
     for (auto file = files.begin(); file != files.end(); ++file)
         paths << file.key() << QFileInfo(file.key()).absolutePath();
     if (!paths.isEmpty())
-        watcher.addPaths(paths); // skips those that are watched or do not exist
+        watcher.addPaths(paths); // skips those that do not exist
 }
 
 void SceneWatcher::Compare()
 {
     const QMap<QString, QString> before = files;
+    WatchAll(); // first, so that no change falls between the look and the watch
     Accept();
-    WatchAll();
     if (files != before)
         emit Changed();
 }
