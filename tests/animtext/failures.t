@@ -43,6 +43,10 @@ An encoder that fails:
   $ render
   ! animtext: interrupted
   [143]
+  $ encoder '/bin/cat >/dev/null; kill -INT $PPID; exit 1' # as Ctrl+C, which reaches both
+  $ render
+  ! animtext: interrupted
+  [130]
   $ encoder 'case "$*" in *palettegen*) exec /usr/bin/ffmpeg "$@";; esac; kill -9 $PPID'
   $ render 2>/dev/null; ls -A | grep -c '^[.]'
   1

@@ -112,6 +112,7 @@ void FilmProgram::Fail(const QString& problem) const
 /** With the most telling part of what the program @p said, on one line. */
 void FilmProgram::Fail(const QByteArray& said) const
 {
+    goOn(); // Ctrl+C in a terminal also ends the program
     const QString name = QFileInfo(process.program()).fileName();
     // Later messages are consequences of a full disk.
     for (int cause : {ENOSPC, EFBIG, EDQUOT, EIO}) {
