@@ -47,6 +47,11 @@ An encoder that fails:
   $ render
   ! animtext: interrupted
   [130]
+  $ encoder 'exec /bin/sleep 60'
+  $ PATH="$PWD/programs:$PATH" animtext render one.json two.json -o out --progress >/dev/full
+  ! animtext: cannot write to standard output: No space left on device
+  [1]
+  $ ls -A out
   $ encoder 'case "$*" in *palettegen*) exec /usr/bin/ffmpeg "$@";; esac; kill -9 $PPID'
   $ render 2>/dev/null; ls -A | grep -c '^[.]'
   1

@@ -67,10 +67,23 @@ QList<Job> PlanJobs(const cli::CommandLine& line, const QString& ending)
     return jobs;
 }
 
-/** Starts without the terminal, so that one Ctrl+C reaches it once: from here. */
-std::unique_ptr<QProcess> Start(const Job& job, const QStringList& options)
+/** Interrupts a renderer that still runs, and waits until what it has not finished is gone. */
+struct Interrupt
 {
-    auto renderer = std::make_unique<QProcess>();
+    void operator()(QProcess* renderer) const
+    {
+        renderer->terminate();
+        renderer->waitForFinished(-1);
+        delete renderer;
+    }
+};
+
+using Renderer = std::unique_ptr<QProcess, Interrupt>;
+
+/** Starts without the terminal, so that one Ctrl+C reaches it once: from here. */
+Renderer Start(const Job& job, const QStringList& options)
+{
+    Renderer renderer(new QProcess);
     renderer->setObjectName(job.scene);
     renderer->start("setsid",
                     QStringList{QCoreApplication::applicationFilePath(), "render", "-o", job.film} +
@@ -98,17 +111,11 @@ int RunJobs(QList<Job> jobs, int most, const QStringList& options, cli::Progress
     cli::Progress progress(form);
     const int all = jobs.size();
     int failed = 0;
-    std::vector<std::unique_ptr<QProcess>> running;
+    std::vector<Renderer> running;
     while (!running.empty() || !jobs.isEmpty()) {
         while (!jobs.isEmpty() && int(running.size()) < most)
             running.push_back(Start(jobs.takeFirst(), options));
-        if (cli::Interrupted()) {
-            for (const auto& renderer : running)
-                renderer->terminate();
-            for (const auto& renderer : running)
-                renderer->waitForFinished(-1);
-            cli::StopIfInterrupted();
-        }
+        cli::StopIfInterrupted();
         for (size_t i = running.size(); i-- > 0;) {
             if (!running[i]->waitForFinished(glance) && running[i]->state() != QProcess::NotRunning)
                 continue;
