@@ -58,15 +58,20 @@ void Player::CountSwaps()
         const qint64 count = Torv::SwapCount(stage.Session(node), stage.TextLayer(node));
         parts[node].swapped = count != parts.at(node).swaps;
         parts[node].swaps = count;
+        parts[node].isKnown = parts.at(node).isKnown && !parts.at(node).swapped;
     }
 }
 
-NodeTick Player::Look(int node) const
+NodeTick Player::Look(int node)
 {
-    const QImage picture = TextPicture(node);
-    return {tick,           Swapped(node),
-            picture.size(), Sha1Of(picture),
-            State(node),    Sha1Of(DazzlePicture(node))};
+    Part& part = parts[node];
+    if (!part.isKnown) { // a digest of a large picture takes longer than painting a tick
+        const QImage picture = TextPicture(node);
+        part.isKnown = true;
+        part.size = picture.size();
+        part.sha1 = Sha1Of(picture);
+    }
+    return {tick, part.swapped, part.size, part.sha1, State(node), Sha1Of(DazzlePicture(node))};
 }
 
 } // namespace AnimText::player

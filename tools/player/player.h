@@ -61,7 +61,7 @@ public:
     /** Whether this tick handed a new picture of the text to the display. */
     bool Swapped(int node) const { return parts.at(node).swapped; }
     /** This tick of a node. */
-    NodeTick Look(int node) const;
+    NodeTick Look(int node);
     /** A copy of the picture that the node's text layer shows; null without one. */
     QImage TextPicture(int node) const
     {
@@ -82,6 +82,9 @@ private:
     {
         qint64 swaps = 0;
         bool swapped = false;
+        bool isKnown = false; // whether these are the picture's
+        QSize size{};
+        QByteArray sha1{};
     };
 
     static qint64 Clock(void* player);
