@@ -89,12 +89,12 @@ QVector<NodePlay> PlayToEnd(player::Player* player, int longest, uint seed, cons
 namespace {
 
 /**
- * Plays @p scene without outlines, first with its holds changed, then as it is, and has @p compare
- * look at both plays of each node that finishes.
+ * Plays @p scene without outlines, first with its holds changed, at most for @p longestChanged
+ * ticks, then as it is, and has @p compare look at both plays of each node that finishes.
  */
 QVector<NodePlay>
 PlayTwice(player::Player* player, const scene::Scene& scene, int longest, uint seed,
-          const Watch& watch, int (*holdOf)(int hold),
+          const Watch& watch, int (*holdOf)(int hold), int longestChanged,
           const std::function<void(int node, const NodePlay& changed, NodePlay* play)>& compare)
 {
     const BlankScene blank(scene);
@@ -102,7 +102,7 @@ PlayTwice(player::Player* player, const scene::Scene& scene, int longest, uint s
     for (scene::SceneNode* node : changed.Nodes())
         node->hold = holdOf(node->hold);
     player->Load(changed);
-    const QVector<NodePlay> others = PlayToEnd(player, 3 * longest, seed, watch);
+    const QVector<NodePlay> others = PlayToEnd(player, longestChanged, seed, watch);
     player->Load(blank.Get());
     QVector<NodePlay> plays = PlayToEnd(player, longest, seed, watch);
     for (int node = 0; node < plays.size(); ++node) {
@@ -118,7 +118,7 @@ QVector<NodePlay> Simulate(player::Player* player, const scene::Scene& scene, ui
                            const Watch& watch)
 {
     const auto noHold = [](int) { return 0; };
-    return PlayTwice(player, scene, ticksOfADay, seed, watch, noHold,
+    return PlayTwice(player, scene, ticksOfADay, seed, watch, noHold, ticksOfADay,
                      [&](int node, const NodePlay& moving, NodePlay* play) {
                          // With no plays, the first check finds it finished, whatever was drawn.
                          if (player->Scenery().Node(node)->GetAttributeToInt("PlayTimes") <= 0)
@@ -151,7 +151,7 @@ QVector<NodePlay> MeasurePages(player::Player* player, const scene::Scene& scene
                                const Watch& watch)
 {
     const auto unmistakable = [](int hold) { return std::min(std::max(0, hold), 1000) + longHold; };
-    return PlayTwice(player, scene, longest, player::standardSeed, watch, unmistakable,
+    return PlayTwice(player, scene, longest, player::standardSeed, watch, unmistakable, 3 * longest,
                      [](int, const NodePlay& held, NodePlay* play) {
                          play->pages = PageTimes(play->pictures, held.pictures, play->finishedTick);
                      });
