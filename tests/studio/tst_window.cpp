@@ -138,6 +138,9 @@ void TestWindow::writesChoosesScrubsUndoesSaves()
     Type("a");
     window->GetInspector()->Text()->findChildren<QToolButton*>().at(1)->click(); // bold
     window->GetDocument()->Undo()->undo();
+    auto* size = window->GetInspector()->Text()->findChild<studio::window::basics::NumberField*>();
+    emit size->NumberChanged(Text().source.text.runs.first().font.pixelSize(), 1);
+    QVERIFY(window->GetDocument()->Undo()->canRedo()); // what changes nothing is no step
     Type("b");
     QCOMPARE(window->GetDocument()->Undo()->count(), 2); // typing goes on in a new step
     QVERIFY(window->Open(path));

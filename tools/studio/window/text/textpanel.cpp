@@ -250,7 +250,8 @@ void TextPanel::Restyle(const std::function<void(layout::StyleRun*)>& change, co
         styled.runs = shown.runs;
         change(&styled.runs.first());
     }
-    Tell(styled, merge);
+    if (!(styled == shown)) // the present color may be chosen again
+        Tell(styled, merge);
 }
 
 void TextPanel::TakeTyping()
