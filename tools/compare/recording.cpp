@@ -50,7 +50,7 @@ int Recording::TakeCall(const QJsonObject& line, int number)
     hasCalls = true;
     RecordedCall call;
     call.line = number;
-    call.ms = qint64(line.value("ms").toDouble(-1));
+    call.ms = qint64(qBound(-1.0, line.value("ms").toDouble(-1), 1e15));
     call.name = line.value("call").toString();
     call.details = line;
     for (const char* key :
