@@ -129,7 +129,7 @@ private slots:
         const scene::Scene scene = files.Of({files.Node({"abc", 5, 9, 0, 1000000})});
         player->Play(scene, {});
         window->Open("scene", scene.display, false);
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(window.get(), patience));
         QCOMPARE(window->size(), scene.display * 8);
         QVERIFY(shown->wait(patience));
         QTest::keyClick(window.get(), Qt::Key_Space);

@@ -105,7 +105,7 @@ void TestWindow::init()
     window->New();
     window->resize(1600, 900); // independent of the screen
     window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    QVERIFY(QTest::qWaitForWindowExposed(window.get(), patience));
 }
 
 void TestWindow::writesChoosesScrubsUndoesSaves()
