@@ -236,7 +236,7 @@ int RemovePictureSession(PicDisplay display, PicSession session)
 int FreePictureSession(PicSession session)
 {
     Call call(Torv::OpFreePictureSession, 0, session);
-    // The caller cannot free it again, so on demand it fails and the session is freed all the same.
+    // Frees the session even when a test makes the call fail: the caller cannot free it twice.
     Session* const found = call.IsFaulted() ? Store().Find(session) : FindSession(call);
     if (found)
         Store().Free(found);

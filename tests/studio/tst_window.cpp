@@ -309,7 +309,7 @@ void TestWindow::removesOutdatedNotices()
         QCOMPARE(window->Notices()->Text(), QString());
     }
 
-    // What could not be opened is told until it is dismissed, also while a new sign begins to play.
+    // The message about a failed Open() stays until it is dismissed, even when a new sign plays.
     window->Notices()->Set(studio::window::basics::NoticeBar::Recovery, "A copy");
     QVERIFY(!window->Open(folder.Path("none.json")));
     window->New();

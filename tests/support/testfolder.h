@@ -70,7 +70,7 @@ private:
         return QDir(folder.path()).entryList(filters | QDir::Hidden, QDir::Name);
     }
 
-    // Nobody else changes what stands beside the folder, which the tools look at too.
+    // The tools also read the folder around it, which must not change meanwhile.
     QTemporaryDir outer;
     QDir folder{outer.filePath("folder")};
 };
